@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "EngineApi/ComTypes.h"
+#include "EngineApi/NLETypes.h"
+
+struct INLEAudioFrame;
+struct INLECodec;
+struct INLEFrameExtractor;
+struct INLEMediaEncoder;
+struct INLEProperties;
+struct INLESceneSegment;
+struct INLEThumbnailExtractor;
+struct INLETimeline;
+struct INLEVideoFrame;
+struct INLEWaveExtractor;
+
+/// Fonts that captions are rendered with.
+struct INLEFontLibrary : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x33826B65, 0x7C7B, 0x4127, {0x99, 0x1E, 0xDE, 0xAB, 0x31, 0xC3, 0xFE, 0x91}};
+
+    virtual HRESULT SetCacheFile(const wchar_t* path) = 0;
+    virtual HRESULT SetFontFolder(const wchar_t* folder) = 0;
+    virtual HRESULT AddFontFolder(const wchar_t* folder) = 0;
+    virtual HRESULT LoadSystemFonts() = 0;
+    virtual HRESULT GetFontCount(int* count) = 0;
+    virtual HRESULT GetFontName(int index, wchar_t* buffer, int capacity) = 0;
+};
+
+/// Makes timeline nodes. Every result is a new reference; a failure leaves null.
+struct INLETimelineFactory : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x4F2E9321, 0x7DAD, 0x473B, {0x8E, 0xF2, 0xB7, 0x2C, 0x58, 0xA5, 0x39, 0xFA}};
+
+    virtual HRESULT GetDefaultProfile(tagNLEProjectProfile* profile) = 0;
+    virtual HRESULT CreateProject(const tagNLEProjectProfile* profile, INLETimeline** project) = 0;
+    /// A clip of a media file. A missing file gives an offline clip; a file that cannot be read
+    /// fails.
+    virtual HRESULT CreateMedia(const wchar_t* path, INLETimeline** clip) = 0;
+    /// The project that a template folder holds.
+    virtual HRESULT CreateFromTemplate(const wchar_t* folder, INLETimeline** project) = 0;
+    virtual HRESULT CreateAudioFilter(const wchar_t* name, INLETimeline** filter) = 0;
+    /// \a argb is 0xAARRGGBB, \a frameRate frames a second.
+    virtual HRESULT CreateColor(std::uint32_t argb, NLESize size, float frameRate,
+                                INLETimeline** clip) = 0;
+    /// A line or more of \a text in the font family \a family.
+    virtual HRESULT CreateTipText(const wchar_t* text, const wchar_t* family,
+                                  INLETimeline** clip) = 0;
+    /// An empty composite; \a type becomes its timeline type.
+    virtual HRESULT CreateVirtual(int type, INLETimeline** timeline) = 0;
+};
+
+/// Marks that a file carries.
+struct INLEMarkBook : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x0C031E5D, 0x1431, 0x406B, {0xB8, 0x5A, 0xC5, 0x99, 0xAC, 0x27, 0x0A, 0x8B}};
+
+    virtual HRESULT GetMarkCount(int* count) = 0;
+    virtual HRESULT GetMark(int index, int* frame, wchar_t* name, int capacity) = 0;
+};
+
+/// Saves timelines and opens them again.
+struct INLEDocumentSerialize : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x7522CF7E, 0xAF8D, 0x48D0, {0x8B, 0x19, 0xB9, 0xD5, 0x7D, 0x04, 0x93, 0xCB}};
+
+    /// Writes the timeline under a temporary name and renames it: the file is the old or the new
+    /// one.
+    virtual HRESULT Save(INLETimeline* timeline, const wchar_t* path) = 0;
+    /// Media that is missing becomes an offline clip.
+    virtual HRESULT Load(const wchar_t* path, INLETimeline** timeline) = 0;
+};
+
+/// Settings of the engine itself.
+struct INLESystemConfig : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x37BE6BDC, 0x4362, 0x4748, {0xA6, 0xC2, 0xAC, 0x42, 0x0D, 0xF3, 0x6B, 0x30}};
+
+    virtual HRESULT GetProperties(INLEProperties** properties) = 0;
+};
+
+/// Settings of an editing context, shared by every render of the project.
+struct INLEBasin : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0xAA0AB461, 0x467C, 0x440D, {0xB5, 0x8C, 0xF6, 0x96, 0x4A, 0x13, 0xE4, 0x9C}};
+
+    virtual HRESULT FillProperties(INLEProperties* properties) = 0;
+    virtual HRESULT TakeProperties(INLEProperties* properties) = 0;
+};
+
+/// Starts the engine's GPU rendering again.
+struct INLEOpenCLGpuFactory : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x57040CFD, 0x9FEA, 0x4D1B, {0xA9, 0x77, 0xDB, 0x3D, 0x19, 0x47, 0xA3, 0xE7}};
+
+    virtual HRESULT ReInit() = 0;
+};
+
+/// Root factory: makes every engine object that is not a timeline node.
+struct INLEFactory : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0xCEF9AFA7, 0x2A98, 0xDE80, {0x18, 0x0C, 0x36, 0xE4, 0x0D, 0xD5, 0xE7, 0x45}};
+    /// Class identifier under which the engine's module makes it.
+    static constexpr _GUID ClassId = {
+        0xF5FBAF87, 0xF7E5, 0xFF43, {0x1B, 0xD4, 0x79, 0x79, 0x06, 0xCF, 0x22, 0x4E}};
+
+    /// \a flags is 0. May be called again without effect.
+    virtual HRESULT Init(int flags) = 0;
+    virtual HRESULT GetTimelineFactory(INLETimelineFactory** factory) = 0;
+    virtual HRESULT GetFontLibrary(INLEFontLibrary** library) = 0;
+    virtual HRESULT GetSystemConfig(INLESystemConfig** config) = 0;
+    /// \a memory is an NLEFrameMemory; the arguments after it size the frame pool of engines that
+    /// have one. \a pixelFormat 0 is 32 bits a pixel.
+    virtual HRESULT CreateVideoFrame(int width, int height, int pixelFormat, int memory,
+                                     int poolFlags, int poolMinimum, int poolMaximum,
+                                     int poolReserve, INLEVideoFrame** frame) = 0;
+    /// \a sampleCount samples a channel.
+    virtual HRESULT CreateAudioFrame(int sampleCount, INLEAudioFrame** frame) = 0;
+    virtual HRESULT CreateCodecFromFile(const wchar_t* path, INLECodec** codec) = 0;
+    virtual HRESULT CreateMarkBook(const wchar_t* path, INLEMarkBook** book) = 0;
+    virtual HRESULT CreateDocumentSerialize(INLEDocumentSerialize** serialize) = 0;
+    virtual HRESULT CreateFrameExtractor(INLEFrameExtractor** extractor) = 0;
+    virtual HRESULT CreateThumbnailExtractor(INLEThumbnailExtractor** extractor) = 0;
+    virtual HRESULT CreateWaveExtractor(INLEWaveExtractor** extractor) = 0;
+    virtual HRESULT CreateSceneSegment(INLESceneSegment** segment) = 0;
+    virtual HRESULT CreateMediaEncoder(INLEMediaEncoder** encoder) = 0;
+    virtual HRESULT CreateProperties(INLEProperties** properties) = 0;
+    /// Closes what the engine keeps open. Objects that are still held stay valid.
+    virtual HRESULT Shutdown(int flags) = 0;
+};
+
+/// Signature of the one function that an engine module exports, under the name "DllGetClassObject".
+using DllGetClassObjectFunction = HRESULT (*)(REFCLSID classId, REFIID iid, void** out);

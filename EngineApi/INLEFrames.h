@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "EngineApi/ComTypes.h"
+#include "EngineApi/NLETypes.h"
+
+struct INLEMediaInfo;
+struct INLEPicture;
+struct INLETimeline;
+
+/// A video frame to render into: 32 bits a pixel as in INLEPicture, rows without gaps.
+struct INLEVideoFrame : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0xFDEAC645, 0x9726, 0x4100, {0xB2, 0xA8, 0x43, 0x4A, 0x88, 0x8A, 0x7E, 0x53}};
+
+    /// Allocates the pixels, all transparent; E_OUTOFMEMORY when there is no room for them.
+    virtual HRESULT Prepare() = 0;
+    virtual HRESULT GetSize(NLESize* size) = 0;
+    /// The part of the frame that holds the picture; the rest is margin.
+    virtual HRESULT GetValidRect(NLERect* rect) = 0;
+    virtual HRESULT SetValidRect(const NLERect* rect) = 0;
+    /// The pixels, owned by the frame; E_FAIL before Prepare.
+    virtual HRESULT GetData(std::uint8_t** pixels) = 0;
+    /// An NLEFrameMemory.
+    virtual HRESULT GetMemory(int* memory) = 0;
+};
+
+/// A block of sound: interleaved 32-bit floats, -1 to 1, 48,000 samples a second, two channels.
+struct INLEAudioFrame : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x6D068BE7, 0x7C73, 0x44BA, {0x88, 0xC9, 0xAF, 0x08, 0x5A, 0x31, 0xDC, 0x78}};
+
+    /// Samples a channel.
+    virtual HRESULT GetSampleCount(int* count) = 0;
+    virtual HRESULT GetSampleRate(int* rate) = 0;
+    virtual HRESULT GetChannels(int* channels) = 0;
+    /// The samples, owned by the frame.
+    virtual HRESULT GetData(float** samples) = 0;
+};
+
+/// Renders frames of a node.
+struct INLEFrameExtractor : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0xE3247382, 0xB6CC, 0x4DEE, {0xBE, 0x4F, 0xA9, 0xAB, 0xFB, 0x14, 0x61, 0x15}};
+
+    /// Takes a snapshot of the node; later edits do not show. \a flags is 1.
+    virtual HRESULT Open(INLETimeline* timeline, int flags) = 0;
+    /// Renders frame \a frame into a prepared video frame and sets its valid rectangle. For a
+    /// source the number counts from the file's first frame, else from the node's frame 0. E_FAIL
+    /// outside of the node's total range and when the media cannot be decoded.
+    virtual HRESULT Extract(int frame, INLEVideoFrame* picture) = 0;
+    /// Fills an audio frame with the sound that starts at frame \a frame.
+    virtual HRESULT ExtractAudio(int frame, INLEAudioFrame* sound) = 0;
+    /// Releases decoders and snapshot; Open may be called again.
+    virtual HRESULT Finish() = 0;
+};
+
+/// Reads small pictures of a media file.
+struct INLEThumbnailExtractor : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0xB1963BD2, 0x8D78, 0x4A4E, {0xAE, 0x0D, 0x6E, 0x1D, 0x52, 0x4F, 0xF4, 0x4C}};
+
+    virtual HRESULT SetSource(INLEMediaInfo* info, std::uint32_t videoStream) = 0;
+    /// The picture of frame \a frame, counted from the file's first frame. The size is what the
+    /// caller will show; the picture may have another one. E_FAIL without a source, past the end
+    /// and when the media cannot be decoded.
+    virtual HRESULT Extract(int frame, NLESize wanted, INLEPicture** picture) = 0;
+    /// Closes the file. Without it the open file is kept for the next extractor.
+    virtual HRESULT Finish() = 0;
+};
+
+/// Reads the envelope of a sound.
+struct INLEWaveExtractor : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x9427F03A, 0xB673, 0x43A5, {0x93, 0xD8, 0x1B, 0x5F, 0xE7, 0x97, 0x08, 0x43}};
+
+    virtual HRESULT SetSource(INLEMediaInfo* info, std::uint32_t audioStream) = 0;
+    /// Lowest and highest sample (-1 to 1, over all channels) of \a count equal steps of the span
+    /// from \a start, \a length seconds long. Both arrays hold \a count values.
+    virtual HRESULT Extract(double start, double length, int count, float* minima,
+                            float* maxima) = 0;
+    virtual HRESULT Finish() = 0;
+};
+
+/// Finds the cuts in a clip.
+struct INLESceneSegment : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0xC06279D2, 0x63EF, 0x4A9C, {0xAD, 0x57, 0x97, 0x8B, 0xEA, 0xA5, 0x38, 0x7C}};
+
+    virtual HRESULT Open(INLETimeline* timeline) = 0;
+    /// First frame of the next scene; S_FALSE when there is none.
+    virtual HRESULT Next(int* frame) = 0;
+};
+
+/// Reports progress in percent; a result other than 0 stops the work.
+using NLEProgressCallback = int (*)(int percent, void* userData);
+
+/// Writes a timeline to a media file.
+struct INLEMediaEncoder : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x057B880A, 0x6C75, 0x49BF, {0xB2, 0x3E, 0xF4, 0x10, 0x34, 0x5B, 0x6E, 0xF3}};
+
+    /// Takes a snapshot of the timeline. The container follows from the file's suffix. \a settings
+    /// may be null.
+    virtual HRESULT Open(INLETimeline* timeline, const wchar_t* path,
+                         const NLEEncodeSettings* settings) = 0;
+    /// Encodes on the calling thread. The file is written under a temporary name and renamed when
+    /// it is whole; S_FALSE when the callback stopped it. \a callback may be null.
+    virtual HRESULT Encode(NLEProgressCallback callback, void* userData) = 0;
+};

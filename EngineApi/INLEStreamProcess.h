@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "EngineApi/ComTypes.h"
+#include "EngineApi/NLETypes.h"
+
+/// Volume over time of one stream: points on the clip's key-frame axis.
+struct INLEKeyFrameParam : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x4F9C35D4, 0xA032, 0x43E3, {0xB5, 0x4F, 0xF9, 0xF2, 0x36, 0x39, 0xB5, 0x3D}};
+
+    virtual HRESULT GetCount(int* count) = 0;
+    virtual HRESULT GetPoint(int index, double* time, double* value) = 0;
+    virtual HRESULT SetPoint(double time, double value) = 0;
+    virtual HRESULT Clear() = 0;
+};
+
+/// Sound settings of a clip or a track.
+struct INLEAudioStreamProcess : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x1A649613, 0xDD2B, 0x4248, {0x8D, 0x5C, 0xE8, 0x31, 0x16, 0x12, 0x14, 0xAA}};
+
+    virtual HRESULT SetPitch(int pitch) = 0;
+    virtual HRESULT GetPitch(int* pitch) = 0;
+    virtual HRESULT SetDenoiseLevel(int level) = 0;
+    virtual HRESULT GetDenoiseLevel(int* level) = 0;
+    virtual HRESULT SetDenoiseEnable(bool enable) = 0;
+    virtual HRESULT GetDenoiseEnable(bool* enable) = 0;
+    virtual HRESULT SetMixToMonoEnable(bool enable) = 0;
+    virtual HRESULT GetMixToMonoEnable(bool* enable) = 0;
+    virtual HRESULT SetVolumeEnable(bool enable) = 0;
+    virtual HRESULT GetVolumeEnable(bool* enable) = 0;
+    virtual HRESULT SetMute(bool mute) = 0;
+    virtual HRESULT GetMute(bool* mute) = 0;
+    virtual HRESULT GetVolumeKeyFrameParam(INLEKeyFrameParam** param) = 0;
+    virtual HRESULT SetVolume(double volume) = 0;
+    virtual HRESULT GetVolume(double* volume) = 0;
+    virtual HRESULT SetBalance(double balance) = 0;
+    virtual HRESULT GetBalance(double* balance) = 0;
+    virtual HRESULT SetFadeInEnable(bool enable) = 0;
+    virtual HRESULT GetFadeInEnable(bool* enable) = 0;
+    virtual HRESULT SetFadeInRange(int frames) = 0;
+    virtual HRESULT GetFadeInRange(int* frames) = 0;
+    virtual HRESULT SetFadeOutEnable(bool enable) = 0;
+    virtual HRESULT GetFadeOutEnable(bool* enable) = 0;
+    virtual HRESULT SetFadeOutRange(int frames) = 0;
+    virtual HRESULT GetFadeOutRange(int* frames) = 0;
+    virtual HRESULT SetEqualizerEnable(bool enable) = 0;
+    virtual HRESULT GetEqualizerEnable(bool* enable) = 0;
+    virtual HRESULT SetEqualizerName(const wchar_t* name) = 0;
+    virtual HRESULT GetEqualizerName(wchar_t* buffer, int capacity) = 0;
+    virtual HRESULT SetEqualizerParam(const double* params) = 0;
+    virtual HRESULT GetEqualizerParam(double* params) = 0;
+};
+
+/// Picture source settings of a clip.
+struct INLEVideoStreamProcess : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x7E764BF3, 0x001F, 0x4713, {0x9D, 0x3C, 0xE9, 0x22, 0x2C, 0x6B, 0x60, 0x41}};
+
+    virtual HRESULT GetAlphaChannel(NLEAlphaChannelRecord* record) = 0;
+    virtual HRESULT SetAlphaChannel(const NLEAlphaChannelRecord* record) = 0;
+    /// Ten places of the interface that nothing calls.
+    virtual HRESULT Reserved1() = 0;
+    virtual HRESULT Reserved2() = 0;
+    virtual HRESULT Reserved3() = 0;
+    virtual HRESULT Reserved4() = 0;
+    virtual HRESULT Reserved5() = 0;
+    virtual HRESULT Reserved6() = 0;
+    virtual HRESULT Reserved7() = 0;
+    virtual HRESULT Reserved8() = 0;
+    virtual HRESULT Reserved9() = 0;
+    virtual HRESULT Reserved10() = 0;
+    virtual HRESULT SetProxyFile(const wchar_t* path) = 0;
+    virtual HRESULT GetProxyPath(wchar_t* buffer, int capacity) = 0;
+    virtual HRESULT SetProxyEnabled(bool enabled) = 0;
+    virtual HRESULT GetProxyEnabled(bool* enabled) = 0;
+    virtual HRESULT SetPremultipliedAlphaType(int type) = 0;
+    virtual HRESULT GetPremultipliedAlphaType(int* type) = 0;
+};

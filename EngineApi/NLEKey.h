@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+/// Keys of the engine's property bags.
+namespace NLEKey {
+
+namespace Render {
+/// Rational, frames a second; live view of the node's render frame rate.
+inline constexpr const wchar_t* kRender_Framerate = L"kRender_Framerate";
+/// Integer, read-only: length of the node's total range in frames.
+inline constexpr const wchar_t* kRender_TotalFrameCount = L"kRender_TotalFrameCount";
+/// Integer 0xAARRGGBB: what shows where no clip does.
+inline constexpr const wchar_t* kRender_BackgroundColor = L"kRender_BackgroundColor";
+/// Integer, an NLERenderMode.
+inline constexpr const wchar_t* kRender_Mode = L"kRender_Mode";
+} // namespace Render
+
+namespace Speed {
+/// Rational: playing speed, 1 normal, 2 twice as fast.
+inline constexpr const wchar_t* kScale = L"kSpeed_Scale";
+/// Integer 1 when the speed applies.
+inline constexpr const wchar_t* kEnabled = L"kSpeed_Enabled";
+} // namespace Speed
+
+namespace Freeze {
+/// Integer 1 when the clip holds one frame.
+inline constexpr const wchar_t* kFreeze_Enabled = L"kFreeze_Enabled";
+} // namespace Freeze
+
+} // namespace NLEKey

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <cstdint>
+
+/// Plain records and enumerations that cross the engine's interfaces. Their layouts are fixed.
+
+/// Frames from in to out, both inclusive; empty when out < in.
+struct NLERange
+{
+    std::int32_t in;
+    std::int32_t out;
+};
+
+/// Number of frames in \a range; 0 for an empty one. Wider than 32 bits, so that no range
+/// overflows.
+constexpr std::int64_t NLERangeLength(const NLERange& range)
+{
+    return range.out < range.in ? 0 : std::int64_t(range.out) - range.in + 1;
+}
+
+/// A fraction. Frame rates are carried as millionths, scales as hundred-millionths.
+struct NLERational
+{
+    std::int64_t num;
+    std::int64_t den;
+};
+
+struct NLERectF
+{
+    double x;
+    double y;
+    double width;
+    double height;
+};
+
+/// A rectangle of whole pixels.
+struct NLERect
+{
+    std::int32_t x;
+    std::int32_t y;
+    std::int32_t width;
+    std::int32_t height;
+};
+
+/// A size in whole pixels.
+struct NLESize
+{
+    std::int32_t width;
+    std::int32_t height;
+};
+
+struct NLEPointF
+{
+    double x;
+    double y;
+};
+
+struct NLESizeF
+{
+    double width;
+    double height;
+};
+
+/// Picture and sound format of a project.
+struct tagNLEProjectProfile
+{
+    NLESize frameSize;         ///< picture size in pixels
+    NLERational frameRate;     ///< frames a second
+    std::int32_t sampleRate;   ///< audio samples a second and channel
+    std::int32_t channels;     ///< audio channels
+    std::int32_t sampleFormat; ///< sample format, numbered as the engine reports it
+};
+
+/// How a picture whose shape differs from its parent's is placed into it.
+enum tagNLEMarginMode : std::int32_t
+{
+    NLEMargin_Fit = 0,     ///< whole picture, bars at two sides
+    NLEMargin_Fill = 1,    ///< whole frame, picture cut at two sides
+    NLEMargin_Stretch = 2, ///< whole frame, shape not kept
+    NLEMargin_None = 3     ///< pixel for pixel, centred
+};
+
+/// What a node contributes when it is rendered.
+enum NLERenderMode : std::int32_t
+{
+    NLERender_All = 0,
+    NLERender_VideoOnly = 1,
+    NLERender_AudioOnly = 2
+};
+
+/// What a wrapped node is, as its creator knows it. Neither the engine nor the library tests it.
+enum ExactType : std::int32_t
+{
+    ExactType_Unknown = 0,
+    ExactType_Project = 1,
+    ExactType_Composite = 2,
+    ExactType_Video = 3,
+    ExactType_Audio = 4,
+    ExactType_Image = 5,
+    ExactType_Color = 6,
+    ExactType_Text = 7,
+    ExactType_Effect = 8,
+    ExactType_Transition = 9,
+    ExactType_AudioFilter = 10,
+    ExactType_SplitScreen = 11
+};
+
+/// Type codes of media streams.
+enum NLEStreamType : std::int32_t
+{
+    NLEStream_Unknown = 0,
+    NLEStream_Other = 1, ///< subtitles, data, attached pictures
+    NLEStream_Video = 2,
+    NLEStream_Audio = 3
+};
+
+/// Kind codes of media files.
+enum NLEMediaKind : std::int32_t
+{
+    NLEMedia_Offline = 0, ///< the file is not there
+    NLEMedia_Video = 1,
+    NLEMedia_Audio = 2,
+    NLEMedia_Image = 3
+};
+
+/// Stream index that names no stream.
+constexpr std::uint32_t NLENoStream = 0xFFFFFFFFu;
+
+/// One stream of a media file. Fields of the other kind of stream are 0.
+struct NLEStreamInfo
+{
+    std::int32_t type;         ///< NLEStreamType
+    std::int32_t width;        ///< as displayed, after rotation, in pixels
+    std::int32_t height;       ///< as displayed, after rotation, in pixels
+    std::int32_t rotation;     ///< clockwise degrees that the file asks for: 0, 90, 180 or 270
+    NLERational frameRate;     ///< pictures a second
+    NLERational pixelAspect;   ///< width of a pixel over its height
+    std::int32_t sampleRate;   ///< samples a second and channel
+    std::int32_t channels;     ///< audio channels
+    std::int32_t sampleFormat; ///< sample format, numbered as the decoder reports it
+    std::uint32_t fourCC;      ///< codec tag, first character in the lowest byte
+    std::int64_t bitRate;      ///< bits a second, 0 when unknown
+    std::int64_t duration;     ///< microseconds, 0 when unknown
+    char codecName[32];        ///< short name of the codec, for example "h264"
+};
+
+/// Memory that a video frame lives in.
+enum NLEFrameMemory : std::int32_t
+{
+    NLEMemory_System = 1,
+    NLEMemory_OpenCL = 2
+};
+
+/// What a media encoder writes. 0 in a field means the timeline's own value or the codec's default.
+struct NLEEncodeSettings
+{
+    NLESize frameSize;
+    NLERational frameRate;
+    NLERange range;            ///< frames of the timeline; an empty range means all of it
+    std::int32_t quality;      ///< constant rate factor, 1 (best) to 51
+    std::int32_t sampleRate;   ///< audio samples a second
+    std::int32_t channels;     ///< audio channels
+    std::int32_t audioBitRate; ///< bits a second
+};
+
+/// One key frame of a clip's picture.
+struct NLEKeyFrameRecord
+{
+    double time;      ///< place on the clip's key-frame axis
+    double angle;     ///< rotation in degrees
+    double positionX; ///< centre offset, normalised
+    double positionY;
+    double scaleWidth;
+    double scaleHeight;
+    double opacity;             ///< 0 transparent to 1 opaque
+    std::int32_t interpolation; ///< 1: linear to the next key frame
+};
+
+/// Mixer strip of a track.
+struct tagMixerParam
+{
+    double volume;     ///< linear gain, 1 unchanged
+    double balance;    ///< -1 left to 1 right
+    std::int32_t mute; ///< non-zero: silent
+    std::int32_t solo; ///< non-zero: only soloed tracks sound
+};
+
+/// Alpha-channel and matte settings of a clip: 1104 bytes, little-endian, UTF-16 text on every
+/// system.
+struct NLEAlphaChannelRecord
+{
+    std::int32_t param1;
+    std::int32_t param2;
+    std::int32_t param3;
+    std::int32_t padding1;
+    double param4;
+    std::int32_t param5;
+    std::int32_t param6;
+    std::int32_t param7;
+    std::int32_t padding2;
+    char16_t text1[260];
+    char16_t text2[260];
+    std::int32_t param8;
+    std::int32_t padding3;
+    std::uint8_t tail[16];
+};
+static_assert(sizeof(NLEAlphaChannelRecord) == 1104, "fixed binary layout");
