@@ -4,6 +4,7 @@
 #include "EngineApi/ComTypes.h"
 
 #include <cstddef>
+#include <type_traits>
 #include <utility>
 
 /// Reference-counting pointer over an engine interface. May be null.
@@ -24,7 +25,7 @@ public:
     /// Takes the other's reference over; the other is null afterwards.
     NLEComPtr(NLEComPtr&& other) noexcept : m_object(std::exchange(other.m_object, nullptr)) {}
     /// Adds a reference, as an object of a derived interface is one of the base too.
-    template <typename U>
+    template <typename U, typename = std::enable_if_t<std::is_convertible_v<U*, T*>>>
     NLEComPtr(const NLEComPtr<U>& other) : m_object(other.get())
     {
         retain();
