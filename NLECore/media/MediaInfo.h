@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace nle {
+
+/// Exact fraction; a rate in pictures per second or an aspect ratio.
+struct Rational
+{
+    int64_t num = 0;
+    int64_t den = 1;
+
+    /// The value as a floating-point number; 0 when the denominator is 0.
+    double ToDouble() const { return den != 0 ? double(num) / double(den) : 0.0; }
+    friend bool operator==(const Rational& a, const Rational& b)
+    {
+        return a.num * b.den == b.num * a.den;
+    }
+    friend bool operator!=(const Rational& a, const Rational& b) { return !(a == b); }
+};
+
+/// Kind of one stream. Attached cover pictures are Other.
+enum class StreamType : int32_t
+{
+    Unknown = 0,
+    Other = 1,
+    Video = 2,
+    Audio = 3
+};
+
+/// What a file is used as. A still picture is Image; a file with a cover picture and sound is
+/// Audio.
+enum class MediaKind : int32_t
+{
+    Offline = 0,
+    Video = 1,
+    Audio = 2,
+    Image = 3
+};
+
+/// One stream of a file. Fields that do not apply to its type keep their presets.
+struct MediaStream
+{
+    StreamType type = StreamType::Unknown;
+    /// Pixels as displayed, that is after the rotation; the sample aspect is not applied.
+    int width = 0;
+    int height = 0;
+    /// Clockwise turn from the coded to the displayed picture: 0, 90, 180 or 270 degrees.
+    int rotation = 0;
+    /// The coded picture is mirrored left to right before it is turned.
+    bool mirrored = false;
+    bool hasAlpha = false;
+    Rational frameRate;
+    /// Width to height of one displayed pixel; 1/1 when the file does not say.
+    Rational sampleAspect{1, 1};
+    int sampleRate = 0;
+    int channels = 0;
+    /// Number of the sample format in libavutil's AVSampleFormat; -1 without sound.
+    int sampleFormat = -1;
+    /// Bits per second; 0 when unknown.
+    int64_t bitRate = 0;
+    uint32_t fourcc = 0;
+    std::string codecName;
+    std::string profileName;
+    int64_t durationUs = 0;
+    /// Time stamp of the first picture or sample in ticks of the container's stream clock.
+    int64_t startTicks = 0;
+    /// Number of pictures that a decoder holds back to bring them into order of display.
+    int reorderDelay = 0;
+    /// Pictures stand on the grid of frameRate, so no two of them share one frame number.
+    bool constantRate = false;
+};
+
+/// Plain description of a media file. Never changes once made, so threads may share it.
+struct MediaInfo
+{
+    QString path;
+    MediaKind kind = MediaKind::Offline;
+    std::vector<MediaStream> streams;
+    /// Indexes of the preferred streams in streams; -1 when there is none.
+    int videoStream = -1;
+    int audioStream = -1;
+    /// Number of frames at frameRate; 1 for a still picture.
+    uint32_t frameCount = 0;
+    /// Rate of the video stream; 25/1 for sound and still pictures.
+    Rational frameRate{25, 1};
+    int64_t durationUs = 0;
+    /// Time in the container, in microseconds, that counts as the beginning: the start of the
+    /// video stream, or of the audio stream when there is no picture. Sound and pictures are both
+    /// counted from here, so they stay together.
+    int64_t originUs = 0;
+    /// Short names of the container format, separated by commas, as libavformat has them.
+    QString containerName;
+    /// Size in bytes and time of the last change (milliseconds since 1970, UTC) of the file when
+    /// it was described; together they tell whether it was replaced since.
+    int64_t fileSize = 0;
+    int64_t modifiedMs = 0;
+
+    /// The stream at \a index, or null when the index is outside the list.
+    const MediaStream* Stream(int index) const
+    {
+        return index >= 0 && index < int(streams.size()) ? &streams[size_t(index)] : nullptr;
+    }
+};
+
+/// Opens the file at \a path, describes and closes it. Only regular local files are opened, and no
+/// format that would lead to other files or to the network. Gives null on failure; then \a error,
+/// when not null, receives one English sentence that tells the reason. Never takes much longer
+/// than ten seconds. May be called from any thread.
+std::shared_ptr<const MediaInfo> ProbeMedia(const QString& path, QString* error);
+
+} // namespace nle
