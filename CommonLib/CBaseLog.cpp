@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/CBaseLog_p.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdio>
+#include <cstring>
+#include <ctime>
+#include <new>
+#include <string_view>
+
+namespace {
+
+constexpr int kAlreadyOpen = 23;
+constexpr int kNoPath = 1;
+constexpr int kCannotOpen = 27;
+
+constexpr std::size_t kMessageSize = 10240;
+constexpr std::size_t kLongestMessage = 1900;
+constexpr std::size_t kCutMessage = 1850;
+constexpr std::string_view kCutMark = "... Log Info Length Over Size.";
+constexpr std::size_t kLineSize = 2048;
+constexpr std::size_t kSourcePathLength = 255;
+constexpr std::size_t kStampSize = 24;
+constexpr std::uint32_t kRotationSize = 50 * 1024 * 1024;
+
+constexpr std::string_view kLevelNames[] = {"ALL", "DEBUG", "INFO", "WARN", "ERROR", "OFF"};
+
+BaseLog* globalLog = nullptr;
+
+/// A text built in a fixed buffer, cut where the buffer ends and always terminated.
+template <std::size_t Size>
+class FixedText
+{
+public:
+    void Append(std::string_view text)
+    {
+        const std::size_t length = std::min(text.size(), Size - 1 - m_length);
+        std::memcpy(m_text + m_length, text.data(), length);
+        m_length += length;
+        m_text[m_length] = 0;
+    }
+    void Append(int number)
+    {
+        char digits[12];
+        const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, number);
+        Append(std::string_view(digits, static_cast<std::size_t>(end.ptr - digits)));
+    }
+    const char* Text() const { return m_text; }
+    std::size_t Length() const { return m_length; }
+
+private:
+    char m_text[Size];
+    std::size_t m_length = 0;
+};
+
+std::size_t BoundedLength(const char* text, std::size_t limit)
+{
+    const void* end = std::memchr(text, 0, limit);
+    return end ? static_cast<std::size_t>(static_cast<const char*>(end) - text) : limit;
+}
+
+// Only a backslash separates: slashes are part of the name on purpose.
+std::string_view BaseName(const char* file)
+{
+    if (!file)
+        return {};
+    const std::string_view path(file, BoundedLength(file, kSourcePathLength));
+    return path.substr(path.rfind('\\') + 1);
+}
+
+// The text changes once a second, and making it is a large part of what a line costs.
+std::string_view TimeStamp()
+{
+    thread_local std::time_t second = -1;
+    thread_local char text[kStampSize] = {};
+    const std::time_t now = std::time(nullptr);
+    if (now != second) {
+        const std::tm t = LogFile::LocalTime(now);
+        std::strftime(text, sizeof text, "[%Y-%m-%d %H:%M:%S]", &t);
+        second = now;
+    }
+    return text;
+}
+
+FixedText<256> RotatedPath(std::string_view path)
+{
+    const std::tm t = LogFile::LocalTime(std::time(nullptr));
+    // Intended: the suffix is cut to 23 characters, so the names end in ".tx".
+    char suffix[64] = {};
+    std::strftime(suffix, sizeof suffix, "_%Y_%m_%d_%H_%M_%S.txt", &t);
+    FixedText<kStampSize> cutSuffix;
+    cutSuffix.Append(suffix);
+    FixedText<256> result;
+    // Intended: the cut is at the first dot of the whole path, even in the name of a folder.
+    result.Append(path.substr(0, path.find('.')));
+    result.Append(cutSuffix.Text());
+    return result;
+}
+
+// Intended: only the low 32 bits of the size count.
+bool IsTooLarge(std::int64_t size)
+{
+    return size >= 0 && static_cast<std::uint32_t>(size) >= kRotationSize;
+}
+
+} // namespace
+
+BaseLog::BaseLog() = default;
+BaseLog::BaseLog(const BaseLog&) = default;
+BaseLog& BaseLog::operator=(const BaseLog&) = default;
+
+CBaseLog::CBaseLog() : m_message(std::make_unique<char[]>(kMessageSize)) {}
+
+CBaseLog::~CBaseLog()
+{
+    const std::lock_guard<std::recursive_mutex> lock(m_mutex);
+    const LogFile::Handle file = m_file.load();
+    if (file != LogFile::None)
+        LogFile::Close(file);
+    m_message.reset();
+}
+
+int CBaseLog::Init(const char* path, bool echo, int level)
+{
+    if (!path)
+        return kNoPath;
+    if (m_file.load() != LogFile::None)
+        return kAlreadyOpen;
+    const std::size_t length = BoundedLength(path, sizeof m_path - 1);
+    std::memset(m_path, 0, sizeof m_path);
+    std::memcpy(m_path, path, length);
+    const LogFile::Handle file = LogFile::Open(m_path);
+    if (file == LogFile::None || file == LogFile::Invalid)
+        return kCannotOpen;
+    m_echo = echo;
+    m_level = std::clamp<int>(level, LogLevelAll, LogLevelOff);
+    // Last, so that whoever sees the file open sees the other fields too.
+    m_file.store(file);
+    return 0;
+}
+
+void CBaseLog::LogDebug(const char* file, const char* function, int line, const char* format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    Log(LogLevelDebug, file, function, line, format, arguments);
+    va_end(arguments);
+}
+
+void CBaseLog::LogInfo(const char* file, const char* function, int line, const char* format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    Log(LogLevelInfo, file, function, line, format, arguments);
+    va_end(arguments);
+}
+
+void CBaseLog::LogWarn(const char* file, const char* function, int line, const char* format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    Log(LogLevelWarn, file, function, line, format, arguments);
+    va_end(arguments);
+}
+
+void CBaseLog::LogError(const char* file, const char* function, int line, const char* format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    Log(LogLevelError, file, function, line, format, arguments);
+    va_end(arguments);
+}
+
+void CBaseLog::Release()
+{
+    delete this;
+}
+
+void CBaseLog::Log(int level, const char* file, const char* function, int line, const char* format,
+                   va_list arguments)
+{
+    // The threshold is fixed while a file is open, so neither test needs the mutex.
+    if (m_file.load(std::memory_order_acquire) == LogFile::None || level < m_level)
+        return;
+    const std::lock_guard<std::recursive_mutex> lock(m_mutex);
+    const int formatted =
+        format ? std::vsnprintf(m_message.get(), kMessageSize, format, arguments) : 0;
+    WriteLine(level, file, function, line);
+    // Zeroing what was used costs less than zeroing the whole buffer for each message. After a
+    // conversion error nobody knows how much that is.
+    const bool isWhole = formatted >= 0 && static_cast<std::size_t>(formatted) < kMessageSize;
+    std::memset(m_message.get(), 0, isWhole ? static_cast<std::size_t>(formatted) : kMessageSize);
+}
+
+void CBaseLog::WriteLine(int level, const char* file, const char* function, int line)
+{
+    // One call gives the size for the rotation and the position for the line.
+    if (IsTooLarge(LogFile::SeekToEnd(m_file.load(std::memory_order_relaxed)))) {
+        Rotate();
+        LogFile::SeekToEnd(m_file.load(std::memory_order_relaxed));
+    }
+    ++m_lineCount;
+
+    const std::string_view message = m_message.get();
+    FixedText<kLineSize> text;
+    text.Append(TimeStamp());
+    text.Append("-");
+    text.Append(kLevelNames[level]);
+    text.Append("- [");
+    text.Append(function ? function : "(null)");
+    text.Append("]:  ");
+    if (message.size() > kLongestMessage) {
+        text.Append(message.substr(0, kCutMessage));
+        text.Append(kCutMark);
+    } else {
+        text.Append(message);
+    }
+    text.Append(" - [");
+    text.Append(BaseName(file));
+    text.Append("(");
+    text.Append(line);
+    text.Append(")]\r\n");
+
+    if (m_echo)
+        LogFile::Echo(text.Text(), text.Length());
+    LogFile::Write(m_file.load(std::memory_order_relaxed), text.Text(), text.Length());
+}
+
+void CBaseLog::Rotate()
+{
+    // The field keeps the old handle until the new one is there: "no file" in between would make
+    // other threads drop their lines before they reach the mutex.
+    LogFile::Close(m_file.load(std::memory_order_relaxed));
+    LogFile::Rename(m_path, RotatedPath(m_path).Text());
+    m_lineCount = 0;
+    // A failure is kept as it is: the log stays open and its writes fail.
+    m_file.store(LogFile::Open(m_path), std::memory_order_release);
+}
+
+BaseLog* CreateLogInstance()
+{
+    try {
+        return new CBaseLog;
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+BaseLog* GetGlobalLogInstance()
+{
+    if (!globalLog)
+        globalLog = CreateLogInstance();
+    return globalLog;
+}
+
+void ReleseGlobalLogInstance()
+{
+    if (!globalLog)
+        return;
+    globalLog->Release();
+    globalLog = nullptr;
+}

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+/// Everything a host may use of the library.
+
+#include "CommonLib/BaseLog.h"
+#include "CommonLib/CommonLibExport.h"
+#include "CommonLib/FileOperation.h"
+#include "CommonLib/PathOperation.h"
+#include "CommonLib/RegexOperation.h"
+#include "CommonLib/StringOperation.h"

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/FolderDialog_p.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QStandardPaths>
+#include <QWidget>
+
+QString ChooseFolder(const QString& title, quint64 owner)
+{
+    if (!qobject_cast<QApplication*>(QCoreApplication::instance()))
+        return QString();
+    // Null for a window of another toolkit or process: the dialog then stands alone.
+    QWidget* parent = QWidget::find(static_cast<WId>(owner));
+    return QFileDialog::getExistingDirectory(
+        parent, title, QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
+}

@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QString>
+
+/// The system's folder-choice dialog, owned by the window of the native handle \a owner (0 for
+/// none). Empty when the user cancels. Not part of the library's interface.
+QString ChooseFolder(const QString& title, quint64 owner);

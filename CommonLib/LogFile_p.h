@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <ctime>
+
+/// What the log needs of the system. Not part of the library's interface.
+///
+/// No function reports an error beyond its result, and each accepts an Invalid handle.
+namespace LogFile {
+
+/// An open file of the system, opaque.
+using Handle = std::intptr_t;
+/// No file was ever opened.
+constexpr Handle None = 0;
+/// Opening failed. Counts as open for the log; everything done with it fails.
+constexpr Handle Invalid = -1;
+
+/// Opens \a path for reading and writing, creating it when missing, and keeps other writers of this
+/// kind away while it is open. Invalid when that fails, at once and without touching the file.
+Handle Open(const char* path);
+
+void Close(Handle handle);
+
+/// Moves to the end of the file. Gives its size in bytes, or -1 when that cannot be read.
+std::int64_t SeekToEnd(Handle handle);
+
+/// Writes at the current position in one unbuffered call.
+void Write(Handle handle, const char* text, std::size_t length);
+
+/// Renames a file, never replacing another one.
+void Rename(const char* from, const char* to);
+
+/// Shows a line in the debugger, where the system has such a channel, and on standard output.
+/// \a line ends in a zero at \a length.
+void Echo(const char* line, std::size_t length);
+
+/// Local calendar time of \a time.
+std::tm LocalTime(std::time_t time);
+
+} // namespace LogFile

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/LogFile_p.h"
+
+#include <windows.h>
+
+namespace {
+
+HANDLE Native(LogFile::Handle handle)
+{
+    return reinterpret_cast<HANDLE>(handle);
+}
+
+} // namespace
+
+namespace LogFile {
+
+Handle Open(const char* path)
+{
+    const HANDLE file = ::CreateFileA(path, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                      OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    return reinterpret_cast<Handle>(file);
+}
+
+void Close(Handle handle)
+{
+    // -1 is also the pseudo handle of the process itself; keep it out of CloseHandle.
+    if (handle != Invalid)
+        ::CloseHandle(Native(handle));
+}
+
+std::int64_t SeekToEnd(Handle handle)
+{
+    LARGE_INTEGER distance = {};
+    LARGE_INTEGER end = {};
+    if (handle == Invalid || !::SetFilePointerEx(Native(handle), distance, &end, FILE_END))
+        return -1;
+    return end.QuadPart;
+}
+
+void Write(Handle handle, const char* text, std::size_t length)
+{
+    DWORD written = 0;
+    if (handle != Invalid)
+        ::WriteFile(Native(handle), text, static_cast<DWORD>(length), &written, nullptr);
+}
+
+void Rename(const char* from, const char* to)
+{
+    ::MoveFileA(from, to);
+}
+
+void Echo(const char* line, std::size_t length)
+{
+    ::OutputDebugStringA(line);
+    const HANDLE output = ::GetStdHandle(STD_OUTPUT_HANDLE);
+    if (output == nullptr || output == INVALID_HANDLE_VALUE)
+        return;
+    DWORD written = 0;
+    // WriteConsole refuses an output that is redirected to a file or a pipe.
+    if (!::WriteConsoleA(output, line, static_cast<DWORD>(length), &written, nullptr))
+        ::WriteFile(output, line, static_cast<DWORD>(length), &written, nullptr);
+}
+
+std::tm LocalTime(std::time_t time)
+{
+    std::tm local = {};
+    ::localtime_s(&local, &time);
+    return local;
+}
+
+} // namespace LogFile
