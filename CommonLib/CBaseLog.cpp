@@ -21,6 +21,7 @@ constexpr std::size_t kCutMessage = 1850;
 constexpr std::string_view kCutMark = "... Log Info Length Over Size.";
 constexpr std::size_t kLineSize = 2048;
 constexpr std::size_t kSourcePathLength = 255;
+constexpr std::size_t kPathSize = 256;
 constexpr std::size_t kStampSize = 24;
 constexpr std::uint32_t kRotationSize = 50 * 1024 * 1024;
 
@@ -28,17 +29,21 @@ constexpr std::string_view kLevelNames[] = {"ALL", "DEBUG", "INFO", "WARN", "ERR
 
 BaseLog* globalLog = nullptr;
 
-/// A text built in a fixed buffer, cut where the buffer ends and always terminated.
-template <std::size_t Size>
-class FixedText
+/// A text built in somebody's fixed buffer, cut where the buffer ends and always terminated.
+class BoundedText
 {
 public:
-    void Append(std::string_view text)
+    BoundedText(char* buffer, std::size_t size) : m_buffer(buffer), m_limit(size - 1)
     {
-        const std::size_t length = std::min(text.size(), Size - 1 - m_length);
-        std::memcpy(m_text + m_length, text.data(), length);
+        m_buffer[0] = 0;
+    }
+    // Inlined, the copy may become a string instruction that costs more than the call.
+    Q_NEVER_INLINE void Append(std::string_view text)
+    {
+        const std::size_t length = std::min(text.size(), m_limit - m_length);
+        std::memcpy(m_buffer + m_length, text.data(), length);
         m_length += length;
-        m_text[m_length] = 0;
+        m_buffer[m_length] = 0;
     }
     void Append(int number)
     {
@@ -46,11 +51,11 @@ public:
         const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, number);
         Append(std::string_view(digits, static_cast<std::size_t>(end.ptr - digits)));
     }
-    const char* Text() const { return m_text; }
     std::size_t Length() const { return m_length; }
 
 private:
-    char m_text[Size];
+    char* m_buffer;
+    std::size_t m_limit;
     std::size_t m_length = 0;
 };
 
@@ -65,8 +70,11 @@ std::string_view BaseName(const char* file)
 {
     if (!file)
         return {};
-    const std::string_view path(file, BoundedLength(file, kSourcePathLength));
-    return path.substr(path.rfind('\\') + 1);
+    std::string_view name(file, BoundedLength(file, kSourcePathLength));
+    // Forwards, because most paths hold no backslash at all and searching that way is fast.
+    for (std::size_t at = name.find('\\'); at != name.npos; at = name.find('\\'))
+        name.remove_prefix(at + 1);
+    return name;
 }
 
 // The text changes once a second, and making it is a large part of what a line costs.
@@ -83,19 +91,17 @@ std::string_view TimeStamp()
     return text;
 }
 
-FixedText<256> RotatedPath(std::string_view path)
+// `result` has room for kPathSize bytes.
+void MakeRotatedPath(std::string_view path, char* result)
 {
     const std::tm t = LogFile::LocalTime(std::time(nullptr));
-    // Intended: the suffix is cut to 23 characters, so the names end in ".tx".
     char suffix[64] = {};
     std::strftime(suffix, sizeof suffix, "_%Y_%m_%d_%H_%M_%S.txt", &t);
-    FixedText<kStampSize> cutSuffix;
-    cutSuffix.Append(suffix);
-    FixedText<256> result;
+    BoundedText text(result, kPathSize);
     // Intended: the cut is at the first dot of the whole path, even in the name of a folder.
-    result.Append(path.substr(0, path.find('.')));
-    result.Append(cutSuffix.Text());
-    return result;
+    text.Append(path.substr(0, path.find('.')));
+    // Intended: the suffix is cut to 23 characters, so the names end in ".tx".
+    text.Append(std::string_view(suffix).substr(0, kStampSize - 1));
 }
 
 // Intended: only the low 32 bits of the size count.
@@ -196,14 +202,16 @@ void CBaseLog::Log(int level, const char* file, const char* function, int line, 
 void CBaseLog::WriteLine(int level, const char* file, const char* function, int line)
 {
     // One call gives the size for the rotation and the position for the line.
-    if (IsTooLarge(LogFile::SeekToEnd(m_file.load(std::memory_order_relaxed)))) {
+    std::int64_t end = LogFile::SeekToEnd(m_file.load(std::memory_order_relaxed));
+    if (IsTooLarge(end)) {
         Rotate();
-        LogFile::SeekToEnd(m_file.load(std::memory_order_relaxed));
+        end = LogFile::SeekToEnd(m_file.load(std::memory_order_relaxed));
     }
     ++m_lineCount;
 
     const std::string_view message = m_message.get();
-    FixedText<kLineSize> text;
+    char buffer[kLineSize];
+    BoundedText text(buffer, sizeof buffer);
     text.Append(TimeStamp());
     text.Append("-");
     text.Append(kLevelNames[level]);
@@ -223,8 +231,8 @@ void CBaseLog::WriteLine(int level, const char* file, const char* function, int 
     text.Append(")]\r\n");
 
     if (m_echo)
-        LogFile::Echo(text.Text(), text.Length());
-    LogFile::Write(m_file.load(std::memory_order_relaxed), text.Text(), text.Length());
+        LogFile::Echo(buffer, text.Length());
+    LogFile::Write(m_file.load(std::memory_order_relaxed), end, buffer, text.Length());
 }
 
 void CBaseLog::Rotate()
@@ -232,7 +240,9 @@ void CBaseLog::Rotate()
     // The field keeps the old handle until the new one is there: "no file" in between would make
     // other threads drop their lines before they reach the mutex.
     LogFile::Close(m_file.load(std::memory_order_relaxed));
-    LogFile::Rename(m_path, RotatedPath(m_path).Text());
+    char rotatedPath[kPathSize];
+    MakeRotatedPath(m_path, rotatedPath);
+    LogFile::Rename(m_path, rotatedPath);
     m_lineCount = 0;
     // A failure is kept as it is: the log stays open and its writes fail.
     m_file.store(LogFile::Open(m_path), std::memory_order_release);

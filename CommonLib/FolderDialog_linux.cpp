@@ -2,6 +2,7 @@
 #include "CommonLib/FolderDialog_p.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QStandardPaths>
 #include <QWidget>
@@ -12,6 +13,8 @@ QString ChooseFolder(const QString& title, quint64 owner)
         return QString();
     // Null for a window of another toolkit or process: the dialog then stands alone.
     QWidget* parent = QWidget::find(static_cast<WId>(owner));
-    return QFileDialog::getExistingDirectory(
-        parent, title, QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
+    const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
+    // From a folder that does not exist the dialog would offer that folder, and refuse it.
+    return QFileDialog::getExistingDirectory(parent, title,
+                                             QDir(desktop).exists() ? desktop : QDir::homePath());
 }

@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace {
@@ -90,9 +91,15 @@ std::int64_t SeekToEnd(Handle handle)
     return ::lseek(Descriptor(handle), 0, SEEK_END);
 }
 
-void Write(Handle handle, const char* text, std::size_t length)
+void Write(Handle handle, std::int64_t end, const char* text, std::size_t length)
 {
-    [[maybe_unused]] const ssize_t written = ::write(Descriptor(handle), text, length);
+    // Besides the lock on the file position that pwrite() spares, the plain system call spares the
+    // C library's provisions for a thread that is cancelled while it writes: together a tenth of
+    // what a line costs. A 32-bit system passes the position in two halves, so not there.
+    if constexpr (sizeof(long) == sizeof(std::int64_t))
+        ::syscall(SYS_pwrite64, Descriptor(handle), text, length, end);
+    else [[maybe_unused]]
+        const ssize_t written = ::pwrite(Descriptor(handle), text, length, end);
 }
 
 void Rename(const char* from, const char* to)

@@ -26,8 +26,8 @@ void Close(Handle handle);
 /// Moves to the end of the file. Gives its size in bytes, or -1 when that cannot be read.
 std::int64_t SeekToEnd(Handle handle);
 
-/// Writes at the current position in one unbuffered call.
-void Write(Handle handle, const char* text, std::size_t length);
+/// Writes in one unbuffered call at \a end, where SeekToEnd() has just moved to.
+void Write(Handle handle, std::int64_t end, const char* text, std::size_t length);
 
 /// Renames a file, never replacing another one.
 void Rename(const char* from, const char* to);

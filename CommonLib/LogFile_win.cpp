@@ -37,7 +37,7 @@ std::int64_t SeekToEnd(Handle handle)
     return end.QuadPart;
 }
 
-void Write(Handle handle, const char* text, std::size_t length)
+void Write(Handle handle, std::int64_t, const char* text, std::size_t length)
 {
     DWORD written = 0;
     if (handle != Invalid)

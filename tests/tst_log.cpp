@@ -1,0 +1,368 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/BaseLog.h"
+
+#include <QDir>
+#include <QFile>
+#include <QHash>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cstdio>
+#include <memory>
+#include <thread>
+#include <vector>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+constexpr qint64 kRotationSize = 50 * 1024 * 1024;
+
+struct Releaser
+{
+    void operator()(BaseLog* log) const { log->Release(); }
+};
+using Log = std::unique_ptr<BaseLog, Releaser>;
+
+Log OpenLog(const QString& path, int level = LogLevelAll)
+{
+    Log log(CreateLogInstance());
+    return log->Init(QFile::encodeName(path).constData(), false, level) == 0 ? std::move(log)
+                                                                             : Log();
+}
+
+// A file's content without the zeros of a sparse start.
+QByteArray Content(const QString& path)
+{
+    QFile file(path);
+    file.open(QIODevice::ReadOnly);
+    const QByteArray all = file.readAll();
+    int start = 0;
+    while (start < all.size() && all[start] == 0)
+        ++start;
+    return all.mid(start);
+}
+
+bool MakeSparse(const QString& path, qint64 size)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadWrite) && file.resize(size);
+}
+
+void Say(const Log& log, const char* message)
+{
+    log->LogInfo("F.cpp", "C::F", 1, "%s", message);
+}
+
+} // namespace
+
+class TestLog : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_path;
+
+    QStringList Names() const { return QDir(m_folder->path()).entryList(QDir::Files); }
+    QByteArray AllContent() const
+    {
+        QByteArray all;
+        for (const QString& name : Names())
+            all += Content(m_folder->filePath(name));
+        return all;
+    }
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/tst_log-XXXXXX");
+        m_path = m_folder->filePath("app.log");
+    }
+
+    void opensOnceAndAlone()
+    {
+        Log log(CreateLogInstance());
+        Say(log, "too early");
+        QCOMPARE(log->Init(nullptr, false, 0), 1);
+        QCOMPARE(log->Init(QFile::encodeName(m_folder->path()).constData(), false, 0), 27);
+        QCOMPARE(Names(), QStringList());
+        MakeSparse(m_path, 1);
+        QCOMPARE(log->Init(QFile::encodeName(m_path).constData(), false, 0), 0);
+        QCOMPARE(log->Init(QFile::encodeName(m_folder->filePath("b.log")).constData(), false, 5),
+                 23);
+        QVERIFY(!OpenLog(m_path));
+        Say(log, "first");
+        QVERIFY(Content(m_path).endsWith("first - [F.cpp(1)]\r\n"));
+        QCOMPARE(Names(), QStringList("app.log"));
+        log.reset();
+        QVERIFY(OpenLog(m_path));
+    }
+
+    void writesLine_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QByteArray>("function");
+        QTest::addColumn<QByteArray>("message");
+        QTest::addColumn<QByteArray>("printedFile");
+        QTest::addColumn<QByteArray>("printedMessage");
+        const QByteArray f = "C.src";
+        const auto m = [](int n) { return QByteArray(n, 'm'); };
+        const QByteArray cut = m(1850) + "... Log Info Length Over Size.";
+        QTest::newRow("plain") << f << QByteArray("C::F") << QByteArray("begin %") << f
+                               << QByteArray("begin %");
+        QTest::newRow("empty") << f << QByteArray() << QByteArray() << f << QByteArray();
+        QTest::newRow("1900 bytes stay") << f << QByteArray("C::F") << m(1900) << f << m(1900);
+        QTest::newRow("1901 bytes are cut") << f << QByteArray("C::F") << m(1901) << f << cut;
+        QTest::newRow("12000 bytes are cut") << f << QByteArray("C::F") << m(12000) << f << cut;
+        QTest::newRow("line over its limit") << f << m(300) << m(1900) << f << m(1900);
+        QTest::newRow("limit within the line end") << f << m(104) << m(1900) << f << m(1900);
+        QTest::newRow("backslashes") << QByteArray("C:\\src\\lib\\Foo.src") << QByteArray("C::F")
+                                     << QByteArray("x") << QByteArray("Foo.src") << QByteArray("x");
+        QTest::newRow("slashes") << QByteArray("/src/Foo.src") << QByteArray("C::F")
+                                 << QByteArray("x") << QByteArray("/src/Foo.src")
+                                 << QByteArray("x");
+        QTest::newRow("long source path")
+            << "a\\" + m(300) << QByteArray("C::F") << QByteArray("x") << m(253) << QByteArray("x");
+    }
+    void writesLine()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(QByteArray, function);
+        QFETCH(QByteArray, message);
+        QFETCH(QByteArray, printedFile);
+        QFETCH(QByteArray, printedMessage);
+        const Log log = OpenLog(m_path);
+        log->LogWarn("F.cpp", "C::F", 1, "%s", QByteArray(20000, 'x').constData());
+        const int before = Content(m_path).size();
+        const QDateTime start = QDateTime::currentDateTime().addSecs(-1);
+        log->LogWarn(file.constData(), function.constData(), -212, "%s", message.constData());
+        const QByteArray line = Content(m_path).mid(before);
+        const QByteArray stamp = line.left(21);
+        const auto time = QDateTime::fromString(stamp, "[yyyy-MM-dd HH:mm:ss]");
+        QVERIFY2(time >= start && time <= QDateTime::currentDateTime(), stamp.constData());
+        char expected[2048];
+        const int length = std::snprintf(
+            expected, sizeof expected, "%s-%s- [%s]:  %s - [%s(%d)]\r\n", stamp.constData(), "WARN",
+            function.constData(), printedMessage.constData(), printedFile.constData(), -212);
+        QVERIFY(length > 0);
+        QCOMPARE(line, QByteArray(expected));
+    }
+
+    void keepsThreshold_data()
+    {
+        QTest::addColumn<int>("threshold");
+        QTest::addColumn<QString>("written");
+        QTest::newRow("all") << 0 << "DEBUG INFO WARN ERROR";
+        QTest::newRow("below the range") << -3 << "DEBUG INFO WARN ERROR";
+        QTest::newRow("debug") << 1 << "DEBUG INFO WARN ERROR";
+        QTest::newRow("warn") << 3 << "WARN ERROR";
+        QTest::newRow("off") << 5 << "";
+        QTest::newRow("above the range") << 9 << "";
+    }
+    void keepsThreshold()
+    {
+        QFETCH(int, threshold);
+        QFETCH(QString, written);
+        const Log log = OpenLog(m_path, threshold);
+        log->LogDebug("F", "F", 1, "x");
+        log->LogInfo("F", "F", 1, "x");
+        log->LogWarn("F", "F", 1, "x");
+        log->LogError("F", "F", 1, "x");
+        QStringList levels;
+        for (const QByteArray& line : Content(m_path).split('\n').mid(0, 4))
+            levels += QString(line).section('-', 3, 3);
+        QCOMPARE(levels.join(' ').trimmed(), written);
+    }
+
+    void rotates_data()
+    {
+        QTest::addColumn<qint64>("size");
+        QTest::addColumn<bool>("rotated");
+        QTest::newRow("below the limit") << kRotationSize - 1 << false;
+        QTest::newRow("at the limit") << kRotationSize << true;
+        QTest::newRow("only the low 32 bits count") << (qint64(1) << 32) + 10 << false;
+    }
+    void rotates()
+    {
+        QFETCH(qint64, size);
+        QFETCH(bool, rotated);
+        QDir(m_folder->path()).mkdir("logs.old");
+        const QString path = m_folder->filePath("logs.old/app.log");
+        QVERIFY(MakeSparse(path, size));
+        const Log log = OpenLog(path);
+        Say(log, "x");
+        QCOMPARE(Names().size(), rotated ? 1 : 0);
+        if (!rotated) {
+            QVERIFY(QFileInfo(path).size() > size);
+            return;
+        }
+        const QRegularExpression name("^logs(_\\d{4}(_\\d\\d){5})\\.tx$");
+        QVERIFY2(name.match(Names()[0]).hasMatch(), qPrintable(Names()[0]));
+        QCOMPARE(QFileInfo(m_folder->filePath(Names()[0])).size(), size);
+        QCOMPARE(Content(path).count('\n'), 1);
+    }
+
+    void losesNothingWhenRotatingTwiceInASecond()
+    {
+        const Log log = OpenLog(m_path);
+        QByteArray expected;
+        for (int i = 0; i < 5; ++i) {
+            Say(log, (QByteArray::number(i) + "!").constData());
+            QVERIFY(MakeSparse(m_path, QFileInfo(m_path).size() + kRotationSize));
+        }
+        Say(log, "5!");
+        for (int i = 0; i < 6; ++i)
+            QCOMPARE(AllContent().count("  " + QByteArray::number(i) + "! - "), 1);
+        QVERIFY(Names().size() > 1);
+    }
+
+    void keepsEveryLineUnderFire()
+    {
+        constexpr int kThreads = 8;
+        constexpr int kLines = 100000;
+        MakeSparse(m_path, kRotationSize - 1000000);
+        const Log log = OpenLog(m_path);
+        std::vector<std::thread> threads;
+        for (int t = 0; t < kThreads; ++t) {
+            threads.emplace_back([&log, t] {
+                for (int i = 0; i < kLines; ++i)
+                    log->LogInfo("F.cpp", "C::F", t, "%d %0100d", i, i);
+            });
+        }
+        for (std::thread& thread : threads)
+            thread.join();
+        QVERIFY(Names().size() > 1);
+
+        // Rotated names sort by time, and the current "app.log" would sort in front of them.
+        QStringList names = Names();
+        names.move(names.indexOf("app.log"), names.size() - 1);
+        int next[kThreads] = {};
+        for (const QString& name : names) {
+            const QByteArray all = Content(m_folder->filePath(name));
+            for (int start = 0, end = 0; (end = all.indexOf('\n', start)) >= 0; start = end + 1) {
+                const QByteArray line = all.mid(start + 21, end - start - 20);
+                int i = -1;
+                int again = -1;
+                int t = -1;
+                const int fields = std::sscanf(
+                    line.constData(), "-INFO- [C::F]:  %d %d - [F.cpp(%d)]\r\n", &i, &again, &t);
+                if (fields != 3 || i != again || t < 0 || t >= kThreads || next[t] != i)
+                    QFAIL(qPrintable(name + ": " + line));
+                ++next[t];
+            }
+            QVERIFY(all.endsWith('\n'));
+        }
+        for (int count : next)
+            QCOMPARE(count, kLines);
+    }
+
+    void survivesDeletedFile()
+    {
+        const Log log = OpenLog(m_path);
+        if (!QFile::remove(m_path))
+            QSKIP("this system does not delete an open file");
+        Say(log, "into the void");
+        QVERIFY(!QFile::exists(m_path));
+    }
+
+    void keepsOneGlobalLog()
+    {
+        BaseLog* log = GetGlobalLogInstance();
+        QCOMPARE(GetGlobalLogInstance(), log);
+        QCOMPARE(log->Init(QFile::encodeName(m_path).constData(), false, 0), 0);
+        ReleseGlobalLogInstance();
+        ReleseGlobalLogInstance();
+        QCOMPARE(GetGlobalLogInstance()->Init(QFile::encodeName(m_path).constData(), false, 0), 0);
+        ReleseGlobalLogInstance();
+    }
+
+#ifdef Q_OS_UNIX
+    void refusesFifoAtOnce()
+    {
+        QCOMPARE(::mkfifo(QFile::encodeName(m_path).constData(), 0600), 0);
+        QVERIFY(!OpenLog(m_path));
+    }
+
+    void staysOffTheStandardStreams()
+    {
+        const int saved = ::dup(STDIN_FILENO);
+        ::close(STDIN_FILENO);
+        const Log log = OpenLog(m_path);
+        const bool isFree = ::fcntl(STDIN_FILENO, F_GETFD) == -1;
+        ::dup2(saved, STDIN_FILENO);
+        ::close(saved);
+        Say(log, "x");
+        QVERIFY(isFree);
+        QCOMPARE(Content(m_path).count('\n'), 1);
+    }
+
+    void echoesToStandardOutput()
+    {
+        std::fflush(stdout);
+        const int saved = ::dup(STDOUT_FILENO);
+        const QString echoPath = m_folder->filePath("echo");
+        const int echo = ::open(QFile::encodeName(echoPath).constData(), O_WRONLY | O_CREAT, 0600);
+        ::dup2(echo, STDOUT_FILENO);
+        const Log log(CreateLogInstance());
+        log->Init(QFile::encodeName(m_path).constData(), true, 0);
+        Say(log, "shown");
+        ::dup2(saved, STDOUT_FILENO);
+        ::close(saved);
+        ::close(echo);
+        QVERIFY(Content(m_path).contains("shown"));
+        QCOMPARE(Content(echoPath), Content(m_path));
+    }
+
+    void survivesFullDisk()
+    {
+        // A limit on the size of files fails writes as a full disk does and needs no privileges.
+        rlimit saved;
+        ::getrlimit(RLIMIT_FSIZE, &saved);
+        const auto savedHandler = std::signal(SIGXFSZ, SIG_IGN);
+        const Log log = OpenLog(m_path);
+        const rlimit low = {1000, saved.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &low);
+        for (int i = 0; i < 100; ++i)
+            Say(log, "lost sooner or later");
+        const qint64 full = QFileInfo(m_path).size();
+        ::setrlimit(RLIMIT_FSIZE, &saved);
+        std::signal(SIGXFSZ, savedHandler);
+        Say(log, "there is room again");
+        QCOMPARE(full, 1000);
+        QVERIFY(Content(m_path).endsWith("there is room again - [F.cpp(1)]\r\n"));
+    }
+
+    void goesOnInAReadOnlyFolder()
+    {
+        // Root may write anywhere, so give the folder to somebody who may not.
+        const bool isRoot = ::geteuid() == 0;
+        const uid_t nobody = 65534;
+        const QByteArray folder = QFile::encodeName(m_folder->path());
+        if (isRoot)
+            QVERIFY(::chown(folder.constData(), nobody, nobody) == 0 && ::seteuid(nobody) == 0);
+        {
+            const Log log = OpenLog(m_path);
+            ::chmod(folder.constData(), 0500);
+            MakeSparse(m_path, kRotationSize);
+            Say(log, "one");
+            Say(log, "two");
+        }
+        ::chmod(folder.constData(), 0700);
+        if (isRoot)
+            QCOMPARE(::seteuid(0), 0);
+        QCOMPARE(Names(), QStringList("app.log"));
+        QCOMPARE(Content(m_path).count('\n'), 2);
+    }
+#endif
+};
+
+QTEST_GUILESS_MAIN(TestLog)
+#include "tst_log.moc"
