@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/NLEWraper/CVCreateInstance.h"
+
+#include "CommonLib/NLEWraper/EngineModule_p.h"
+#include "EngineApi/INLEFactory.h"
+#include "EngineApi/NLEComPtr.h"
+
+#include <QLibrary>
+
+namespace {
+CVCreateInstance* s_instance = nullptr;
+}
+
+CVCreateInstance::CVCreateInstance() = default;
+
+CVCreateInstance::~CVCreateInstance()
+{
+    if (m_module)
+        m_module->unload();
+}
+
+CVCreateInstance* CVCreateInstance::Instance()
+{
+    if (!s_instance)
+        s_instance = new CVCreateInstance;
+    return s_instance;
+}
+
+void CVCreateInstance::Release()
+{
+    s_instance = nullptr;
+    delete this;
+}
+
+bool CVCreateInstance::Load()
+{
+    if (m_module)
+        return true;
+    auto module = std::make_unique<QLibrary>(EngineModulePath());
+    if (!module->load())
+        return false;
+    m_module = std::move(module);
+    return true;
+}
+
+bool CVCreateInstance::cvCreateInstance(const _GUID& classId, IUnknown* outer,
+                                        unsigned long /*context*/, const _GUID& iid, void** out)
+{
+    if (!out)
+        return false;
+    *out = nullptr;
+    if (!Load())
+        return false;
+    const auto getClassObject =
+        reinterpret_cast<DllGetClassObjectFunction>(m_module->resolve("DllGetClassObject"));
+    if (!getClassObject)
+        return false;
+
+    NLEComPtr<IClassFactory> classFactory;
+    if (FAILED(getClassObject(classId, InterfaceId<IClassFactory>(), classFactory.putVoid()))) {
+        classFactory.detach(); // a failed call hands no reference over
+        return false;
+    }
+    if (!classFactory)
+        return false;
+    if (FAILED(classFactory->CreateInstance(outer, iid, out)))
+        *out = nullptr;
+    return *out != nullptr;
+}

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+// Not part of the library's interface.
+
+#include <QObject>
+
+class IMediaPlayerControl;
+class PlayerMaterProvider;
+
+/// What NLEWraper holds; a child of the wrapper.
+class NLEWraperPrivate : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit NLEWraperPrivate(QObject* parent);
+
+    PlayerMaterProvider* m_provider; ///< child of this object
+    IMediaPlayerControl* m_playerControl = nullptr;
+};
