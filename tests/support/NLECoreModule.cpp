@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/ScriptedEngine.h"
+
+#include <QtGlobal>
+
+extern "C" Q_DECL_EXPORT HRESULT DllGetClassObject(REFCLSID classId, REFIID iid, void** out)
+{
+    return Scripted::GetClassObject(classId, iid, out);
+}

@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "EngineApi/INLEMedia.h"
+#include "EngineApi/INLEProperties.h"
+#include "EngineApi/INLETimeline.h"
+#include "tests/support/ScriptedEngine.h"
+
+#include <QVector>
+
+/// Timeline nodes and their property bags.
+namespace Scripted {
+
+/// A property bag that keeps what it is given; a getter fails for a key that has nothing.
+class Properties : public Object<INLEProperties>
+{
+public:
+    using Object::Object;
+
+    QHash<QString, int> ints;
+    QHash<QString, double> doubles;
+    QHash<QString, NLERational> rationals;
+    QHash<QString, QString> strings;
+
+    HRESULT GetInt(const wchar_t* key, int* value) override
+    {
+        return Get("GetInt", ints, key, value);
+    }
+    HRESULT SetInt(const wchar_t* key, int value) override
+    {
+        return Set("SetInt", ints, key, value);
+    }
+    HRESULT GetDouble(const wchar_t* key, double* value) override
+    {
+        return Get("GetDouble", doubles, key, value);
+    }
+    HRESULT SetDouble(const wchar_t* key, double value) override
+    {
+        return Set("SetDouble", doubles, key, value);
+    }
+    HRESULT GetRational(const wchar_t* key, NLERational* value) override
+    {
+        return Get("GetRational", rationals, key, value);
+    }
+    HRESULT SetRational(const wchar_t* key, NLERational value) override
+    {
+        return Set("SetRational", rationals, key, value);
+    }
+    HRESULT GetString(const wchar_t* key, wchar_t* buffer, int capacity) override
+    {
+        const auto found = strings.constFind(Text(key));
+        return found == strings.cend() ? E_FAIL : Write("GetString", *found, buffer, capacity);
+    }
+    HRESULT SetString(const wchar_t* key, const wchar_t* value) override
+    {
+        return Set("SetString", strings, key, Text(value));
+    }
+
+private:
+    template <typename T>
+    HRESULT Get(const char* operation, const QHash<QString, T>& values, const wchar_t* key, T* out)
+    {
+        const auto found = values.constFind(Text(key));
+        return found == values.cend() ? E_FAIL : Value(operation, *found, out, key);
+    }
+    template <typename T>
+    HRESULT Set(const char* operation, QHash<QString, T>& values, const wchar_t* key,
+                const T& value)
+    {
+        const HRESULT status = Call(operation, key, value);
+        if (SUCCEEDED(status))
+            values.insert(Text(key), value);
+        return status;
+    }
+};
+
+/// Hands out the script's bag.
+class PropertyHost : public Object<INLEPropertyHost>
+{
+public:
+    using Object::Object;
+
+    HRESULT GetProperties(INLEProperties** out) override { return Give("GetProperties", out); }
+};
+
+/// A node. It answers INLETimeline, and whatever other interfaces the test offers.
+class Node : public Object<INLETimeline>
+{
+public:
+    using Object::Object;
+
+    std::uint32_t id = 1;
+    NLERange range = {0, 0};
+    NLERange totalRange = {0, 0};
+    NLERational rate = {25000000, 1000000};
+    int level = 0;
+    int position = 0;
+    tagNLEMarginMode marginMode = NLEMargin_Fit;
+    bool enabled = true;
+
+    /// Answers a query for \a Interface with \a facet, an object of its own.
+    template <typename Interface>
+    void Offer(NLEComPtr<Interface> facet)
+    {
+        m_facets.append({InterfaceId<Interface>(), facet});
+    }
+
+    HRESULT QueryInterface(REFIID iid, void** out) override
+    {
+        for (const Facet& facet : m_facets) {
+            if (facet.iid == iid)
+                return facet.object->QueryInterface(iid, out);
+        }
+        return Object::QueryInterface(iid, out);
+    }
+    HRESULT GetInterface(REFIID iid, void** out, int reserved1, int reserved2) override
+    {
+        *out = nullptr;
+        const HRESULT status = Call("GetInterface", iid, reserved1, reserved2);
+        return FAILED(status) ? status : QueryInterface(iid, out);
+    }
+    HRESULT GetId(std::uint32_t* out) override { return Value("GetId", id, out); }
+    HRESULT GetParent(INLETimeline** out) override { return Give("GetParent", out); }
+    HRESULT GetProperties(INLEProperties** out) override { return Give("GetProperties", out); }
+    HRESULT SetRange(const NLERange* value) override { return Set("SetRange", range, *value); }
+    HRESULT GetRange(NLERange* out) override { return Value("GetRange", range, out); }
+    HRESULT GetTotalRange(NLERange* out) override
+    {
+        return Value("GetTotalRange", totalRange, out);
+    }
+    HRESULT SetRenderFrameRate(NLERational value) override
+    {
+        return Set("SetRenderFrameRate", rate, value);
+    }
+    HRESULT GetRenderFrameRate(NLERational* out) override
+    {
+        return Value("GetRenderFrameRate", rate, out);
+    }
+    HRESULT SetLevel(int value) override { return Set("SetLevel", level, value); }
+    HRESULT GetLevel(int* out) override { return Value("GetLevel", level, out); }
+    HRESULT SetPosition(int value) override { return Set("SetPosition", position, value); }
+    HRESULT GetPosition(int* out) override { return Value("GetPosition", position, out); }
+    HRESULT SetMarginMode(tagNLEMarginMode value) override
+    {
+        return Set("SetMarginMode", marginMode, value);
+    }
+    HRESULT GetMarginMode(tagNLEMarginMode* out) override
+    {
+        return Value("GetMarginMode", marginMode, out);
+    }
+    HRESULT SetEnabled(bool value) override { return Set("SetEnabled", enabled, value); }
+    HRESULT GetEnabled(bool* out) override { return Value("GetEnabled", enabled, out); }
+    HRESULT Clone(bool deep, INLETimeline** out) override { return Give("Clone", out, deep); }
+
+private:
+    struct Facet
+    {
+        IID iid;
+        NLEComPtr<IUnknown> object;
+    };
+
+    template <typename T>
+    HRESULT Set(const char* operation, T& field, const T& value)
+    {
+        const HRESULT status = Call(operation, value);
+        if (SUCCEEDED(status))
+            field = value;
+        return status;
+    }
+
+    QVector<Facet> m_facets;
+};
+
+/// What a node that plays a media file answers.
+class Source : public Object<INLETimelineSource>
+{
+public:
+    using Object::Object;
+
+    QString filePath;
+    std::uint32_t videoStream = NLENoStream;
+    std::uint32_t audioStream = NLENoStream;
+
+    HRESULT GetFilePath(wchar_t* buffer, int capacity) override
+    {
+        return Write("GetFilePath", filePath, buffer, capacity);
+    }
+    HRESULT SetFilePath(const wchar_t* path) override
+    {
+        const HRESULT status = Call("SetFilePath", path);
+        if (SUCCEEDED(status))
+            filePath = Text(path);
+        return status;
+    }
+    HRESULT GetMediaInfo(INLEMediaInfo** out) override { return Give("GetMediaInfo", out); }
+    HRESULT GetVideoStreamIndex(std::uint32_t* out) override
+    {
+        return Value("GetVideoStreamIndex", videoStream, out);
+    }
+    HRESULT GetAudioStreamIndex(std::uint32_t* out) override
+    {
+        return Value("GetAudioStreamIndex", audioStream, out);
+    }
+};
+
+} // namespace Scripted
