@@ -1,0 +1,295 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/NLEWraper/NLETimeline.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/ScriptedMedia.h"
+#include "tests/support/ScriptedNodes.h"
+#include "tests/support/ScriptedSession.h"
+
+#include <QtTest>
+
+using namespace Scripted;
+
+namespace {
+
+constexpr QRgb Red = 0xFFFF0000;
+
+QImage Filled(const QSize& size, QRgb colour)
+{
+    QImage image(size, QImage::Format_ARGB32);
+    image.fill(colour);
+    return image;
+}
+
+} // namespace
+
+class tst_NLETimeline : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void referencesBalance();
+    void replacingTheNode();
+    void cloneKeepsTheType();
+    void nothingWrapped();
+    void sourceFacts();
+    void sourceFactsThatFail_data();
+    void sourceFactsThatFail();
+    void thumbnail_data();
+    void thumbnail();
+    void thumbnailOwnsItsPixels();
+    void streamThumbnail_data();
+    void streamThumbnail();
+
+private:
+    Script& script = Script::Get();
+    NLEComPtr<Node> node;
+    NLEComPtr<Source> source;
+    NLEComPtr<MediaInfo> info;
+    NLEComPtr<Picture> picture;
+    NLEComPtr<VideoFrame> frame;
+};
+
+/// A clip with a sound and a picture stream, its clone without media, and their red pictures.
+void tst_NLETimeline::init()
+{
+    NLEStreamInfo sound{};
+    sound.type = NLEStream_Audio;
+    NLEStreamInfo video{};
+    video.type = NLEStream_Video;
+    video.width = 64;
+    video.height = 48;
+    info = MakeCom<MediaInfo>("info");
+    info->streams = {sound, video};
+    info->frameCount = 100;
+    info->rate = {30, 1};
+    source = MakeCom<Source>("source");
+    source->filePath = "/ü.mov";
+    source->videoStream = 1;
+    node = MakeCom<Node>("node");
+    node->Offer<INLETimelineSource>(source);
+    picture = MakeCom<Picture>("picture");
+    picture->image = Filled({8, 6}, Red);
+    frame = MakeCom<VideoFrame>("frame");
+    frame->image = Filled({8, 6}, Red);
+    frame->validRect = {0, 1, 8, 4};
+
+    script.SetResult("source.GetMediaInfo", info);
+    script.SetResult("node.GetProperties", MakeCom<Properties>("bag"));
+    script.SetResult("node.Clone", MakeCom<Node>("clone"));
+    script.SetResult("factory.CreateThumbnailExtractor", MakeCom<ThumbnailExtractor>("thumbs"));
+    script.SetResult("thumbs.Extract", picture);
+    script.SetResult("factory.CreateVideoFrame", frame);
+    script.SetResult("factory.CreateFrameExtractor", MakeCom<FrameExtractor>("frames"));
+}
+
+void tst_NLETimeline::cleanup()
+{
+    QCOMPARE(EndSession(), QStringList({"frame", "info", "node", "picture", "source"}));
+    node.reset();
+    source.reset();
+    info.reset();
+    picture.reset();
+    frame.reset();
+    QCOMPARE(script.LiveObjects(), QStringList());
+}
+
+void tst_NLETimeline::referencesBalance()
+{
+    auto timeline = std::make_unique<NLETimeline>(node, ExactType_Video, nullptr);
+    INLETimeline* base = nullptr;
+    timeline->GetTimelineBase(&base);
+    QCOMPARE(base, node.get());
+    QCOMPARE(References(node.get()), 2u);
+    QCOMPARE(timeline->GetSrc().get(), node.get());
+    ULONG atSignal = 0;
+    connect(timeline.get(), &NLETimeline::sigBeforeDelete,
+            [&] { atSignal = References(node.get()); });
+    timeline.reset();
+    QCOMPARE(atSignal, 2u);
+    QCOMPARE(References(node.get()), 1u);
+}
+
+void tst_NLETimeline::replacingTheNode()
+{
+    NLETimeline timeline(node, ExactType_Video, nullptr);
+    timeline.SetTimelineBase(node);
+    QCOMPARE(References(node.get()), 2u);
+    QCOMPARE(Text(timeline.GetPropW().get()), "bag");
+
+    auto other = MakeCom<Node>("other");
+    timeline.SetTimelineBase(other);
+    QCOMPARE(timeline.GetSrc().get(), other.get());
+    QCOMPARE(References(node.get()), 1u);
+    QVERIFY2(!timeline.GetPropW(), "the other node has no bag");
+    QCOMPARE(
+        script.TakeCalls().filter("GetProperties"),
+        QStringList({"node.GetProperties()", "node.GetProperties()", "other.GetProperties()"}));
+}
+
+void tst_NLETimeline::cloneKeepsTheType()
+{
+    QObject parent;
+    const auto* timeline = new NLETimeline(node, ExactType_Text, &parent);
+    const std::unique_ptr<NLETimeline> clone(timeline->Clone());
+    QVERIFY(script.TakeCalls().contains("node.Clone(true)"));
+    QCOMPARE(Text(clone->GetSrc().get()), "clone");
+    QCOMPARE(clone->GetExactType(), ExactType_Text);
+    QVERIFY(!clone->parent());
+    script.SetStatus("node.Clone", E_FAIL);
+    QVERIFY(!timeline->Clone());
+}
+
+void tst_NLETimeline::nothingWrapped()
+{
+    LogCapture log;
+    NLETimeline timeline(nullptr, ExactType_Unknown, nullptr);
+    QVERIFY(!timeline.GetSrc() && !timeline.GetPropW() && !timeline.GetTimelineMediaInfo());
+    QVERIFY(!timeline.HaveVideo() && !timeline.HaveAudio() && !timeline.IsImage());
+    QVERIFY(!timeline.Clone());
+    QCOMPARE(timeline.GetFilePath(), QString());
+    QCOMPARE(timeline.GetSourceSize(), QSizeF(0, 0));
+    QCOMPARE(timeline.GetSourceFramerate(), 25.f);
+    unsigned int count = 7;
+    float rate = 8;
+    timeline.GetMediaFrameCount(count, rate);
+    QCOMPARE(count, 7u);
+    QCOMPARE(rate, 8.f);
+    for (bool clone : {false, true}) {
+        QVERIFY(timeline.GetThumbnailFromStream(0, 8, 6, clone, true).isNull());
+        QVERIFY(timeline.GetThumbnailFromMediaInfo(0, 8, 6, clone, true).isNull());
+    }
+    QCOMPARE(log.Take().filter("Extract Thumbnail failed:  - ").size(), 2);
+}
+
+void tst_NLETimeline::sourceFacts()
+{
+    for (const char* operation :
+         {"source.GetVideoStreamIndex", "source.GetMediaInfo", "info.GetStream"})
+        script.SetStatus(operation, S_FALSE); // any positive status is a success
+    NLETimeline timeline(node, ExactType_Video, nullptr);
+    QCOMPARE(timeline.GetFilePath(), "/ü.mov");
+    QCOMPARE(timeline.GetSourceSize(), QSizeF(64, 48));
+    unsigned int count = 0;
+    float rate = 0;
+    timeline.GetMediaFrameCount(count, rate);
+    QCOMPARE(count, 100u);
+    QCOMPARE(rate, 30.f);
+    QVERIFY(timeline.HaveVideo() && timeline.HaveAudio() && !timeline.IsImage());
+    info->kind = NLEMedia_Image;
+    info->streams.removeFirst();
+    QVERIFY(timeline.HaveVideo() && !timeline.HaveAudio() && timeline.IsImage());
+    source->filePath = QString(600, 'x');
+    QCOMPARE(timeline.GetFilePath(), QString(511, 'x'));
+}
+
+void tst_NLETimeline::sourceFactsThatFail_data()
+{
+    QTest::addColumn<QString>("failing");
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<float>("rate");
+    QTest::newRow("no media") << "source.GetMediaInfo" << QSizeF(0, 0) << 25.f;
+    QTest::newRow("no stream index") << "source.GetVideoStreamIndex" << QSizeF(0, 0) << 30.f;
+    QTest::newRow("no stream") << "info.GetStream" << QSizeF(0, 0) << 30.f;
+    QTest::newRow("no frame count") << "info.GetFrameCountAndRate" << QSizeF(64, 48) << 25.f;
+}
+
+void tst_NLETimeline::sourceFactsThatFail()
+{
+    QFETCH(QString, failing);
+    script.SetStatus(failing, E_FAIL);
+    NLETimeline timeline(node, ExactType_Video, nullptr);
+    QTEST(timeline.GetSourceSize(), "size");
+    QTEST(timeline.GetSourceFramerate(), "rate");
+}
+
+void tst_NLETimeline::thumbnail_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QString>("failing");
+    QTest::addColumn<bool>("clone");
+    QTest::addColumn<QString>("calls");
+    const QString scaled = "SetSource(info, 1) Extract(9, 20x3) Finish()";
+    const QString asked = "SetSource(info, 1) Extract(9, 4x4) Finish()";
+    QTest::newRow("scaled") << QSize(20, 3) << "" << false << scaled;
+    QTest::newRow("from the clone, which has no stream: asked all the same")
+        << QSize(4, 4) << "" << true << "Extract(9, 4x4) Finish()";
+    QTest::newRow("no clone") << QSize(4, 4) << "node.Clone" << true << "";
+    QTest::newRow("no extractor") << QSize(4, 4) << "factory.CreateThumbnailExtractor" << false
+                                  << "";
+    QTest::newRow("no picture") << QSize(4, 4) << "thumbs.Extract" << false << asked;
+    QTest::newRow("no pixels") << QSize(4, 4) << "picture.GetData" << false << asked;
+    QTest::newRow("negative size")
+        << QSize(4, -4) << "size" << false << QString(asked).replace("4x4", "4x-4");
+}
+
+void tst_NLETimeline::thumbnail()
+{
+    QFETCH(QSize, size);
+    QFETCH(QString, failing);
+    QFETCH(bool, clone);
+    const bool works = failing.isEmpty();
+    script.SetStatus(failing, E_FAIL);
+    LogCapture log;
+    NLETimeline timeline(node, ExactType_Video, nullptr);
+    const QImage image =
+        timeline.GetThumbnailFromMediaInfo(9, size.width(), size.height(), clone, true);
+    QCOMPARE(image, works ? Filled(size, Red) : QImage());
+    QCOMPARE(image.format(), works ? QImage::Format_ARGB32 : QImage::Format_Invalid);
+    QTEST(script.TakeCalls().filter("thumbs.").join(' ').remove("thumbs."), "calls");
+    const QString line = "-WARN- [LogFailInfo]:  Extract Thumbnail failed: /ü.mov - "
+                         "[CommonLib/NLEWraper/NLETimeline(512)]";
+    QCOMPARE(log.Take(), works ? QStringList() : QStringList(line));
+}
+
+void tst_NLETimeline::thumbnailOwnsItsPixels()
+{
+    NLETimeline timeline(node, ExactType_Video, nullptr);
+    const QImage thumbnail = timeline.GetThumbnailFromMediaInfo(0, 8, 6, false, false);
+    const QImage rendered = timeline.GetThumbnailFromStream(0, 8, 6, false, false);
+    for (QImage* pixels : {&picture->image, &frame->image})
+        memset(const_cast<uchar*>(pixels->constBits()), 0, size_t(pixels->sizeInBytes()));
+    QCOMPARE(thumbnail, Filled({8, 6}, Red));
+    QCOMPARE(rendered, Filled({8, 4}, Red));
+    QVERIFY(script.TakeCalls().filter("Finish").isEmpty());
+}
+
+void tst_NLETimeline::streamThumbnail_data()
+{
+    QTest::addColumn<QString>("failing");
+    QTest::addColumn<QRect>("valid");
+    QTest::addColumn<QSize>("size");
+    const QRect valid(1, 2, 5, 3);
+    QTest::newRow("works") << "" << valid << valid.size();
+    QTest::newRow("rectangle cut to the frame") << "" << QRect(4, 4, 9, 9) << QSize(4, 2);
+    QTest::newRow("empty rectangle") << "" << QRect() << QSize();
+    for (const char* failing :
+         {"factory.CreateVideoFrame", "factory.CreateFrameExtractor", "frame.Prepare",
+          "frames.Open", "frames.Extract", "frame.GetValidRect", "frame.GetData"})
+        QTest::newRow(failing) << failing << valid << QSize();
+}
+
+void tst_NLETimeline::streamThumbnail()
+{
+    QFETCH(QString, failing);
+    QFETCH(QRect, valid);
+    QFETCH(QSize, size);
+    script.SetStatus(failing, E_FAIL);
+    frame->validRect = {valid.x(), valid.y(), valid.width(), valid.height()};
+    frame->image.setPixel(5, 4, 0xFF00FF00);
+    LogCapture log;
+    NLETimeline timeline(node, ExactType_Video, nullptr);
+    const QImage image = timeline.GetThumbnailFromStream(9, 8, 6, true, true);
+    QCOMPARE(image,
+             size.isEmpty() ? Filled({8, 6}, 0) : frame->image.copy(QRect(valid.topLeft(), size)));
+    if (!size.isEmpty())
+        QCOMPARE(
+            script.TakeCalls().filter("frames."),
+            QStringList({"frames.Open(clone, 1)", "frames.Extract(9, frame)", "frames.Finish()"}));
+    QVERIFY(timeline.GetThumbnailFromStream(9, 0, -6, false, false).isNull());
+    QCOMPARE(log.Take(), QStringList());
+}
+
+QTEST_GUILESS_MAIN(tst_NLETimeline)
+#include "tst_nletimeline.moc"
