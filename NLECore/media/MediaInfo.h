@@ -61,6 +61,8 @@ struct MediaStream
     Rational sampleAspect{1, 1};
     int sampleRate = 0;
     int channels = 0;
+    /// Each coded frame holds a multiple of so many samples; 0 when unknown.
+    int frameSamples = 0;
     /// Number of the sample format in libavutil's AVSampleFormat; -1 without sound.
     int sampleFormat = -1;
     /// Bits per second; 0 when unknown.

@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/media/DecoderPool.h"
+
+#include <algorithm>
+#include <list>
+#include <map>
+#include <mutex>
+
+namespace nle {
+
+/// State of the pool; lives as long as the pool or any lease of it.
+struct DecoderPool::Shared
+{
+    struct Idle
+    {
+        std::unique_ptr<FrameDecoder> decoder;
+        DecodePurpose purpose;
+    };
+    /// The one used last stands first.
+    using IdleList = std::list<Idle>;
+
+    mutable std::mutex mutex;
+    IdleList idle;
+    /// Number of the last Drop() of each path, and of the last Clear(). A lease that began before
+    /// does not give its decoder back.
+    std::map<QString, uint64_t> dropped;
+    uint64_t cleared = 0;
+    uint64_t generation = 0;
+    int lentCount = 0;
+    int maxOpen = 8;
+    bool isClosed = false;
+
+    IdleList TakeSurplus(int room);
+    IdleList TakeMatching(const MediaInfo& info, int stream, DecodePurpose purpose, int wanted);
+    bool WasDropped(const QString& path, uint64_t since) const;
+};
+
+// The functions of Shared need the lock. They hand out what is to be closed, as closing a file
+// takes time and is done after the lock was given up.
+
+DecoderPool::Shared::IdleList DecoderPool::Shared::TakeSurplus(int room)
+{
+    IdleList surplus;
+    while (!idle.empty() && int(idle.size()) + lentCount + room > maxOpen)
+        surplus.splice(surplus.begin(), idle, std::prev(idle.end()));
+    return surplus;
+}
+
+// The one closest before the wanted frame, else the one that stands the least after it.
+DecoderPool::Shared::IdleList DecoderPool::Shared::TakeMatching(const MediaInfo& info, int stream,
+                                                                DecodePurpose purpose, int wanted)
+{
+    const auto cost = [wanted](const Idle& entry) {
+        const int64_t distance = int64_t(wanted) - entry.decoder->Position();
+        return distance >= 0 ? distance : (int64_t(1) << 32) - distance;
+    };
+    auto best = idle.end();
+    for (auto entry = idle.begin(); entry != idle.end(); ++entry) {
+        const MediaInfo& other = *entry->decoder->Info();
+        const bool isSame = entry->purpose == purpose && other.path == info.path &&
+                            entry->decoder->StreamIndex() == stream &&
+                            other.fileSize == info.fileSize && other.modifiedMs == info.modifiedMs;
+        if (isSame && (best == idle.end() || cost(*entry) < cost(*best)))
+            best = entry;
+    }
+    IdleList taken;
+    if (best != idle.end())
+        taken.splice(taken.begin(), idle, best);
+    return taken;
+}
+
+bool DecoderPool::Shared::WasDropped(const QString& path, uint64_t since) const
+{
+    const auto entry = dropped.find(path);
+    return isClosed || cleared > since || (entry != dropped.end() && entry->second > since);
+}
+
+DecoderPool::Lease::~Lease()
+{
+    Release();
+}
+
+DecoderPool::Lease::Lease(Lease&& other) noexcept = default;
+
+DecoderPool::Lease& DecoderPool::Lease::operator=(Lease&& other) noexcept
+{
+    if (this != &other) {
+        Release();
+        m_pool = std::move(other.m_pool);
+        m_decoder = std::move(other.m_decoder);
+        m_purpose = other.m_purpose;
+        m_generation = other.m_generation;
+    }
+    return *this;
+}
+
+void DecoderPool::Lease::Release()
+{
+    if (!m_decoder)
+        return;
+    Shared::IdleList surplus;
+    {
+        const std::lock_guard<std::mutex> lock(m_pool->mutex);
+        --m_pool->lentCount;
+        if (!m_pool->WasDropped(m_decoder->Info()->path, m_generation))
+            m_pool->idle.push_front({std::move(m_decoder), m_purpose});
+        surplus = m_pool->TakeSurplus(0);
+    }
+    m_decoder.reset();
+    m_pool.reset();
+}
+
+DecoderPool::DecoderPool(int maxOpen) : m_shared(std::make_shared<Shared>())
+{
+    m_shared->maxOpen = std::max(1, maxOpen);
+}
+
+DecoderPool::~DecoderPool()
+{
+    Clear();
+    const std::lock_guard<std::mutex> lock(m_shared->mutex);
+    m_shared->isClosed = true;
+}
+
+DecoderPool::Lease DecoderPool::Acquire(const std::shared_ptr<const MediaInfo>& info, int stream,
+                                        DecodePurpose purpose, int wantedFrame, QString* error)
+{
+    Lease lease;
+    if (!info) {
+        if (error != nullptr)
+            *error = QStringLiteral("no media");
+        return lease;
+    }
+    lease.m_purpose = purpose;
+    Shared::IdleList surplus;
+    bool isReusable = true;
+    while (isReusable && !lease.m_decoder) {
+        Shared::IdleList taken;
+        {
+            const std::lock_guard<std::mutex> lock(m_shared->mutex);
+            taken = m_shared->TakeMatching(*info, stream, purpose, wantedFrame);
+            isReusable = !taken.empty();
+            lease.m_generation = m_shared->generation;
+            if (!isReusable)
+                surplus = m_shared->TakeSurplus(1);
+            ++m_shared->lentCount;
+        }
+        surplus.clear();
+        if (!isReusable)
+            lease.m_decoder = FrameDecoder::Open(info, stream, error);
+        else if (taken.front().decoder->IsFileUnchanged())
+            lease.m_decoder = std::move(taken.front().decoder);
+        if (!lease.m_decoder) {
+            const std::lock_guard<std::mutex> lock(m_shared->mutex);
+            --m_shared->lentCount;
+        }
+    }
+    if (lease.m_decoder)
+        lease.m_pool = m_shared;
+    return lease;
+}
+
+void DecoderPool::Drop(const QString& path)
+{
+    Shared::IdleList closing;
+    const std::lock_guard<std::mutex> lock(m_shared->mutex);
+    // Without a lease nothing can come back later, so nothing need be remembered.
+    if (m_shared->lentCount == 0)
+        m_shared->dropped.clear();
+    else
+        m_shared->dropped[path] = ++m_shared->generation;
+    for (auto entry = m_shared->idle.begin(); entry != m_shared->idle.end();) {
+        const auto next = std::next(entry);
+        if (entry->decoder->Info()->path == path)
+            closing.splice(closing.end(), m_shared->idle, entry);
+        entry = next;
+    }
+}
+
+void DecoderPool::Clear()
+{
+    Shared::IdleList closing;
+    const std::lock_guard<std::mutex> lock(m_shared->mutex);
+    m_shared->cleared = ++m_shared->generation;
+    closing.swap(m_shared->idle);
+}
+
+int DecoderPool::IdleCount() const
+{
+    const std::lock_guard<std::mutex> lock(m_shared->mutex);
+    return int(m_shared->idle.size());
+}
+
+int DecoderPool::OpenCount() const
+{
+    const std::lock_guard<std::mutex> lock(m_shared->mutex);
+    return int(m_shared->idle.size()) + m_shared->lentCount;
+}
+
+} // namespace nle

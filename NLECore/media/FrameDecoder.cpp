@@ -1,0 +1,492 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/media/FrameDecoder.h"
+#include "NLECore/media/MediaFile_p.h"
+#include "NLECore/media/PictureScaler_p.h"
+
+#include <algorithm>
+#include <deque>
+#include <limits>
+#include <optional>
+
+extern "C" {
+#include <libavutil/mathematics.h>
+}
+
+namespace nle {
+namespace {
+
+// Decoding on over so few frames is cheaper than emptying the decoder and starting anew.
+constexpr int64_t AlwaysForward = 8;
+
+// Up to this distance packets are read ahead in search of a key frame; beyond it a seek is cheaper.
+constexpr int64_t MaxReadAhead = 300;
+
+// Without any key frame within so many packets, decoding starts with what was read.
+constexpr size_t MaxQueuedPackets = 1024;
+
+constexpr int MaxSeekAttempts = 16;
+
+// So many packets and errors without a picture mean that there is none to come.
+constexpr int MaxRoundsPerPicture = 20000;
+
+constexpr int64_t MinHoldFrames = 2;
+
+// Codecs that tell from the packet alone that no other picture needs it.
+bool MarksUnreferenced(AVCodecID codec)
+{
+    return codec == AV_CODEC_ID_H264 || codec == AV_CODEC_ID_HEVC ||
+           codec == AV_CODEC_ID_MPEG2VIDEO;
+}
+
+struct DecodedPicture
+{
+    FramePtr frame{av_frame_alloc()};
+    bool isValid = false;
+    int64_t index = -1;
+    int64_t ticks = 0;
+};
+
+} // namespace
+
+struct FrameDecoder::Private
+{
+    std::shared_ptr<const MediaInfo> info;
+    int streamIndex = -1;
+    std::unique_ptr<MediaFile> file;
+    AVStream* stream = nullptr;
+    CodecPtr codec;
+    PictureScaler scaler;
+    MediaStream description;
+    int64_t startTicks = 0;
+    bool canSkip = false;
+    bool isStill = false;
+    int threads = 0;
+
+    /// The picture on show and the one after it, as far as they are decoded.
+    DecodedPicture current;
+    DecodedPicture next;
+    /// Packets read ahead, not yet decoded.
+    std::deque<PacketPtr> queue;
+    bool isInputAtEnd = false;
+    bool isDrained = false;
+    /// Decoding began with the first packet of the file.
+    bool isFromStart = true;
+    /// Latest time among the packets read since the last seek.
+    int64_t latestTicks = std::numeric_limits<int64_t>::min();
+    /// Time of the picture decoded last, before the first one that of the packet.
+    int64_t clockTicks = 0;
+    /// Highest frame number among packets that the decoder was allowed to skip.
+    int64_t skippedTo = -1;
+    /// Frame of the first picture, where that is known to be after 0.
+    int64_t firstFrame = 0;
+    /// Last frame that shows a picture, once the end of the data was seen.
+    int64_t endFrame = std::numeric_limits<int64_t>::max();
+
+    bool Start(QString* error);
+    void FindFirstPicture();
+    bool Locate(int64_t frame);
+    bool SeekToStart();
+    bool SeekAndDecode(int64_t frame, int64_t keepFrom);
+    bool Shows(int64_t frame) const;
+    bool CanContinueTo(int64_t frame);
+    bool Advance(int64_t frame, int64_t keepFrom);
+    bool DecodeNext(int64_t keepFrom);
+    bool Feed(int64_t keepFrom);
+    PacketPtr ReadPacket();
+    std::optional<int64_t> ReadToKeyFrame(int64_t frame, int64_t keyLimit);
+    void Reset();
+    void NoteEnd();
+
+    AVRational FrameDuration() const
+    {
+        return {int(description.frameRate.den), int(description.frameRate.num)};
+    }
+    int64_t IndexOf(int64_t ticks) const
+    {
+        return av_rescale_q(ticks - startTicks, stream->time_base, FrameDuration());
+    }
+    /// Time of the last tick that still rounds to \a frame.
+    int64_t LastTickOf(int64_t frame) const
+    {
+        const AVRational half{FrameDuration().num, FrameDuration().den * 2};
+        return startTicks + av_rescale_q_rnd(2 * frame + 1, half, stream->time_base, AV_ROUND_UP) -
+               1;
+    }
+    int64_t TicksPerFrame() const
+    {
+        return std::max<int64_t>(1, av_rescale_q(1, FrameDuration(), stream->time_base));
+    }
+    static int64_t TicksOf(const AVPacket& packet)
+    {
+        return packet.pts != AV_NOPTS_VALUE ? packet.pts : packet.dts;
+    }
+    static int64_t DecodingTicksOf(const AVPacket& packet)
+    {
+        return packet.dts != AV_NOPTS_VALUE ? packet.dts : packet.pts;
+    }
+    int64_t TicksOf(const AVFrame& frame) const;
+    bool IsLastOfItsFrame(const DecodedPicture& picture) const;
+};
+
+// ---- reading
+
+PacketPtr FrameDecoder::Private::ReadPacket()
+{
+    PacketPtr packet(av_packet_alloc());
+    while (packet && av_read_frame(file->Context(), packet.get()) >= 0) {
+        const bool isOurs = packet->stream_index == streamIndex;
+        // A packet that was cut off would decode into a damaged picture. Transport streams mark
+        // packets after any small fault, which decoders conceal well.
+        const bool isCut = (packet->flags & AV_PKT_FLAG_CORRUPT) != 0 && !file->IsFormat("mpegts");
+        if (isOurs && !isCut) {
+            if (const int64_t ticks = TicksOf(*packet); ticks != AV_NOPTS_VALUE)
+                latestTicks = std::max(latestTicks, ticks);
+            return packet;
+        }
+        av_packet_unref(packet.get());
+    }
+    return nullptr;
+}
+
+// Fills the queue up to the wanted frame and drops what lies before the last key frame not after
+// keyLimit. Gives the time of that key frame; without one the queue is whole.
+std::optional<int64_t> FrameDecoder::Private::ReadToKeyFrame(int64_t frame, int64_t keyLimit)
+{
+    const int64_t lastTick = LastTickOf(frame);
+    std::optional<int64_t> keyTicks;
+    while (queue.size() < MaxQueuedPackets) {
+        PacketPtr packet = ReadPacket();
+        if (!packet) {
+            isInputAtEnd = true;
+            break;
+        }
+        const int64_t decodingTicks = DecodingTicksOf(*packet);
+        const bool isKey = (packet->flags & AV_PKT_FLAG_KEY) != 0;
+        const int64_t packetTicks = TicksOf(*packet);
+        if (isKey && packetTicks != AV_NOPTS_VALUE && packetTicks <= keyLimit) {
+            queue.clear();
+            keyTicks = packetTicks;
+        }
+        queue.push_back(std::move(packet));
+        if (decodingTicks != AV_NOPTS_VALUE && decodingTicks > lastTick)
+            break;
+    }
+    return keyTicks;
+}
+
+void FrameDecoder::Private::Reset()
+{
+    avcodec_flush_buffers(codec.get());
+    current.isValid = false;
+    next.isValid = false;
+    queue.clear();
+    isInputAtEnd = false;
+    isDrained = false;
+    isFromStart = false;
+    latestTicks = std::numeric_limits<int64_t>::min();
+    skippedTo = -1;
+}
+
+// ---- decoding
+
+int64_t FrameDecoder::Private::TicksOf(const AVFrame& frame) const
+{
+    if (frame.pts != AV_NOPTS_VALUE)
+        return frame.pts;
+    if (frame.best_effort_timestamp != AV_NOPTS_VALUE)
+        return frame.best_effort_timestamp;
+    // The last pictures of a file without times of display carry no time at all; they follow
+    // the one before, or the packet that they waited for.
+    return clockTicks + TicksPerFrame();
+}
+
+bool FrameDecoder::Private::Feed(int64_t keepFrom)
+{
+    PacketPtr packet;
+    if (!queue.empty()) {
+        packet = std::move(queue.front());
+        queue.pop_front();
+    } else if (!isInputAtEnd) {
+        packet = ReadPacket();
+    }
+    if (!packet) {
+        isInputAtEnd = true;
+        return avcodec_send_packet(codec.get(), nullptr) >= 0;
+    }
+    const int64_t ticks = TicksOf(*packet);
+    const int64_t index = ticks != AV_NOPTS_VALUE ? IndexOf(ticks) : keepFrom;
+    const bool isSkippable = canSkip && index < keepFrom;
+    codec->skip_frame = isSkippable ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
+    if (isSkippable)
+        skippedTo = std::max(skippedTo, index);
+    if (!current.isValid && !next.isValid && ticks != AV_NOPTS_VALUE)
+        clockTicks = ticks;
+    // A damaged packet loses its picture; the one before it stays in its place.
+    avcodec_send_packet(codec.get(), packet.get());
+    return true;
+}
+
+bool FrameDecoder::Private::DecodeNext(int64_t keepFrom)
+{
+    int rounds = 0;
+    while (!isDrained) {
+        av_frame_unref(next.frame.get());
+        const int result = avcodec_receive_frame(codec.get(), next.frame.get());
+        if (result == 0) {
+            next.ticks = TicksOf(*next.frame);
+            next.index = IndexOf(next.ticks);
+            next.isValid = true;
+            clockTicks = next.ticks;
+            return true;
+        }
+        const bool isOver = result == AVERROR(EAGAIN) ? !Feed(keepFrom) : result == AVERROR_EOF;
+        isDrained = isOver || ++rounds > MaxRoundsPerPicture;
+    }
+    return false;
+}
+
+// At a constant rate the picture after this one belongs to a later frame, so it need not be decoded
+// to know.
+bool FrameDecoder::Private::IsLastOfItsFrame(const DecodedPicture& picture) const
+{
+    const int64_t duration = PictureDuration(*picture.frame);
+    return description.constantRate && duration > 0 &&
+           IndexOf(picture.ticks + duration) > picture.index;
+}
+
+bool FrameDecoder::Private::Shows(int64_t frame) const
+{
+    if (!current.isValid || current.index > frame)
+        return false;
+    if (next.isValid)
+        return next.index > frame;
+    return isDrained || (current.index == frame && IsLastOfItsFrame(current));
+}
+
+// Decodes on until the picture of the frame is the current one. False when decoding began too late
+// for it or gave nothing.
+bool FrameDecoder::Private::Advance(int64_t frame, int64_t keepFrom)
+{
+    while (!Shows(frame)) {
+        if (!next.isValid && !DecodeNext(keepFrom))
+            return current.isValid;
+        const bool isTooLate = !current.isValid && next.index > frame;
+        if (isTooLate && !isFromStart)
+            return false;
+        if (current.isValid && next.index > frame)
+            return true;
+        std::swap(current, next);
+        next.isValid = false;
+        if (isTooLate) {
+            firstFrame = current.index;
+            return true;
+        }
+    }
+    return true;
+}
+
+// ---- positioning
+
+bool FrameDecoder::Private::SeekToStart()
+{
+    AVFormatContext* const context = file->Context();
+    // Some demuxers search by time of decoding, which lies before the first time of display;
+    // others refuse a time before their first packet.
+    const int64_t margin = av_rescale_q(10, {1, 1}, stream->time_base);
+    return av_seek_frame(context, streamIndex, startTicks - margin, AVSEEK_FLAG_BACKWARD) >= 0 ||
+           av_seek_frame(context, streamIndex, startTicks, AVSEEK_FLAG_BACKWARD) >= 0 ||
+           av_seek_frame(context, -1, 0, AVSEEK_FLAG_BYTE) >= 0;
+}
+
+// Demuxers may land after the wanted picture: they go by time of decoding, or guess where a time
+// lies in the file, or land on a key frame whose first pictures cannot be decoded. So the landing
+// is checked, and each further attempt starts earlier.
+bool FrameDecoder::Private::SeekAndDecode(int64_t frame, int64_t keepFrom)
+{
+    const int64_t halfSecond = std::max<int64_t>(1, av_rescale_q(1, {1, 2}, stream->time_base));
+    int64_t ticks = LastTickOf(frame);
+    int64_t keyLimit = ticks;
+    int64_t back = 0;
+    for (int attempt = 1; attempt < MaxSeekAttempts && ticks > startTicks; ++attempt) {
+        Reset();
+        std::optional<int64_t> keyTicks;
+        if (av_seek_frame(file->Context(), streamIndex, ticks, AVSEEK_FLAG_BACKWARD) >= 0)
+            keyTicks = ReadToKeyFrame(frame, keyLimit);
+        if (keyTicks && Advance(frame, keepFrom))
+            return true;
+        if (keyTicks) {
+            keyLimit = *keyTicks - 1;
+            ticks = std::min(ticks, *keyTicks);
+        }
+        ticks -= 1 + back;
+        back = back == 0 ? halfSecond : 2 * back;
+    }
+    Reset();
+    isFromStart = SeekToStart();
+    clockTicks = startTicks - TicksPerFrame();
+    return isFromStart && Advance(frame, keepFrom);
+}
+
+// Whether decoding on is cheaper than a seek. May drop packets up to a later key frame.
+bool FrameDecoder::Private::CanContinueTo(int64_t frame)
+{
+    const bool isUntouched = isFromStart && !next.isValid;
+    if (!current.isValid && !isUntouched)
+        return false;
+    const int64_t distance = frame - (current.isValid ? current.index : 0);
+    if (distance <= AlwaysForward)
+        return distance >= 0;
+
+    const int64_t lastTick = LastTickOf(frame);
+    const AVIndexEntry* const key =
+        avformat_index_get_entry_from_timestamp(stream, lastTick, AVSEEK_FLAG_BACKWARD);
+    if (key != nullptr && key->timestamp > latestTicks)
+        return false;
+    const int count = avformat_index_get_entries_count(stream);
+    const AVIndexEntry* const last = avformat_index_get_entry(stream, count - 1);
+    const bool isIndexWhole = (file->IsFormat("mp4") || file->IsFormat("avi")) && key != nullptr &&
+                              last != nullptr && last->timestamp >= lastTick;
+    if (isIndexWhole)
+        return true;
+    if (distance > MaxReadAhead)
+        return false;
+    if (ReadToKeyFrame(frame, lastTick)) {
+        avcodec_flush_buffers(codec.get());
+        current.isValid = false;
+        next.isValid = false;
+        isFromStart = false;
+    }
+    return true;
+}
+
+bool FrameDecoder::Private::Locate(int64_t frame)
+{
+    if (isStill)
+        return current.isValid || Advance(0, 0);
+    frame = std::max(frame, firstFrame);
+    if (frame > endFrame)
+        return false;
+    if (Shows(frame))
+        return true;
+    bool isFound = CanContinueTo(frame) && Advance(frame, frame);
+    if (!isFound)
+        isFound = SeekAndDecode(frame, frame);
+    // In a gap, or at the end, the picture to show is one that was skipped on the way.
+    if (isFound && skippedTo > current.index)
+        isFound = SeekAndDecode(frame, skippedTo);
+    if (isFound && skippedTo > current.index)
+        isFound = SeekAndDecode(frame, std::numeric_limits<int64_t>::min());
+    NoteEnd();
+    return isFound && frame <= endFrame;
+}
+
+void FrameDecoder::Private::NoteEnd()
+{
+    if (!isDrained || next.isValid || !current.isValid)
+        return;
+    const int64_t hold =
+        av_rescale_q(PictureDuration(*current.frame), stream->time_base, FrameDuration());
+    endFrame = current.index + std::max(MinHoldFrames, hold);
+}
+
+// ---- opening
+
+bool FrameDecoder::Private::Start(QString* error)
+{
+    file = MediaFile::OpenStream(*info, streamIndex, error);
+    if (!file)
+        return false;
+    stream = file->Context()->streams[streamIndex];
+    const MediaStream* const known = info->Stream(streamIndex);
+    if (known == nullptr || known->type != StreamType::Video ||
+        stream->codecpar->codec_type != AVMEDIA_TYPE_VIDEO) {
+        SetError(error, info->path, QStringLiteral(": stream %1 has no picture").arg(streamIndex));
+        return false;
+    }
+    QString reason;
+    codec = OpenCodec(stream, threads, &reason);
+    if (!codec) {
+        SetError(error, info->path, QStringLiteral(": ") + reason);
+        return false;
+    }
+    description = *known;
+    startTicks = known->startTicks;
+    if (!file->Matches(*info) && stream->start_time != AV_NOPTS_VALUE)
+        startTicks = stream->start_time;
+    isStill = info->kind == MediaKind::Image;
+    canSkip = MarksUnreferenced(stream->codecpar->codec_id);
+    if (!isStill)
+        FindFirstPicture();
+    return true;
+}
+
+// Where the container has no times of display, the decoder's delay shifts all times by the same
+// amount; the first picture tells how much.
+void FrameDecoder::Private::FindFirstPicture()
+{
+    PacketPtr packet = ReadPacket();
+    if (!packet)
+        return;
+    const bool hasDisplayTime = packet->pts != AV_NOPTS_VALUE;
+    queue.push_back(std::move(packet));
+    if (hasDisplayTime)
+        return;
+    canSkip = false;
+    if (!DecodeNext(0))
+        return;
+    startTicks = next.ticks;
+    next.index = 0;
+    std::swap(current, next);
+    next.isValid = false;
+}
+
+// ---- the public face
+
+FrameDecoder::FrameDecoder(std::unique_ptr<Private> state) : d(std::move(state)) {}
+
+FrameDecoder::~FrameDecoder() = default;
+
+std::unique_ptr<FrameDecoder> FrameDecoder::Open(std::shared_ptr<const MediaInfo> info, int stream,
+                                                 QString* error, int threads)
+{
+    if (!info) {
+        SetError(error, QString(), QStringLiteral("no media"));
+        return nullptr;
+    }
+    auto state = std::make_unique<Private>();
+    state->info = std::move(info);
+    state->streamIndex = stream;
+    state->threads = threads;
+    if (!state->Start(error))
+        return nullptr;
+    return std::unique_ptr<FrameDecoder>(new FrameDecoder(std::move(state)));
+}
+
+QImage FrameDecoder::Picture(int frame, const QSize& size)
+{
+    if (frame < 0 || size.isEmpty() || !d->Locate(frame))
+        return {};
+    return d->scaler.Convert(*d->current.frame, d->description, size);
+}
+
+int FrameDecoder::Position() const
+{
+    return d->current.isValid ? int(std::clamp<int64_t>(d->current.index, 0, INT32_MAX)) : -1;
+}
+
+const std::shared_ptr<const MediaInfo>& FrameDecoder::Info() const
+{
+    return d->info;
+}
+
+int FrameDecoder::StreamIndex() const
+{
+    return d->streamIndex;
+}
+
+bool FrameDecoder::IsFileUnchanged() const
+{
+    return StampOf(d->info->path) == d->file->Stamp();
+}
+
+} // namespace nle

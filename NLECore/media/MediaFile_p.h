@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// Not part of the public interface.
+#pragma once
+
+#include "NLECore/media/MediaInfo.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <chrono>
+#include <memory>
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavformat/avformat.h>
+#include <libavutil/frame.h>
+}
+
+namespace nle {
+
+/// Releases the library's objects.
+struct AvDeleter
+{
+    void operator()(AVCodecContext* p) const { avcodec_free_context(&p); }
+    void operator()(AVFrame* p) const { av_frame_free(&p); }
+    void operator()(AVPacket* p) const { av_packet_free(&p); }
+};
+using CodecPtr = std::unique_ptr<AVCodecContext, AvDeleter>;
+using FramePtr = std::unique_ptr<AVFrame, AvDeleter>;
+using PacketPtr = std::unique_ptr<AVPacket, AvDeleter>;
+
+/// Size in bytes and time of the last change, which together tell one content from another.
+struct FileStamp
+{
+    int64_t size = -1;
+    int64_t modifiedMs = 0;
+    friend bool operator==(const FileStamp& a, const FileStamp& b)
+    {
+        return a.size == b.size && a.modifiedMs == b.modifiedMs;
+    }
+};
+
+/// Size and time of the file at \a path; the size is -1 when there is no regular file.
+FileStamp StampOf(const QString& path);
+/// The path in the bytes that the libraries expect on this system.
+QByteArray EncodeMediaPath(const QString& path);
+/// The library's own words for one of its error numbers.
+QString AvErrorText(int error);
+/// \a path and what is wrong with it, as one sentence, into \a error unless that is null.
+void SetError(QString* error, const QString& path, const QString& what);
+
+/// An open container. Only regular local files, none that leads to other files or to the network.
+class MediaFile
+{
+public:
+    enum class Streams
+    {
+        AsDeclared,
+        Examined
+    };
+
+    /// Opens the file at \a path. Examined reads into the data until each stream is known; it is
+    /// needed for formats that do not declare their streams, and slow. Null on failure.
+    static std::unique_ptr<MediaFile> Open(const QString& path, Streams streams, QString* error);
+    /// Opens the file of \a info for reading \a stream alone; examined only where it must be.
+    static std::unique_ptr<MediaFile> OpenStream(const MediaInfo& info, int stream, QString* error);
+    ~MediaFile();
+    MediaFile(const MediaFile&) = delete;
+    MediaFile& operator=(const MediaFile&) = delete;
+
+    AVFormatContext* Context() const { return m_context; }
+    const FileStamp& Stamp() const { return m_stamp; }
+    /// The content is the one that \a info describes.
+    bool Matches(const MediaInfo& info) const
+    {
+        return m_stamp == FileStamp{info.fileSize, info.modifiedMs};
+    }
+    /// From now on reading fails after some seconds; opening has a limit of its own.
+    void LimitTime();
+    /// True when \a name is one of the short names of the container format.
+    bool IsFormat(const char* name) const;
+
+private:
+    MediaFile() = default;
+    static int IsLate(void* self);
+
+    AVFormatContext* m_context = nullptr;
+    FileStamp m_stamp;
+    std::chrono::steady_clock::time_point m_deadline;
+};
+
+/// Time that a decoded picture is on show, in ticks of its stream; 0 when unknown.
+inline int64_t PictureDuration(const AVFrame& frame)
+{
+#if LIBAVUTIL_VERSION_MAJOR >= 58
+    return frame.duration;
+#else
+    return frame.pkt_duration;
+#endif
+}
+
+/// Opens a decoder for \a stream with \a threads threads (0: chosen here). Null on failure.
+CodecPtr OpenCodec(const AVStream* stream, int threads, QString* error);
+/// The decoder for a stream; null when this build of the libraries has none.
+const AVCodec* FindDecoder(const AVStream* stream);
+
+} // namespace nle

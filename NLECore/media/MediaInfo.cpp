@@ -1,0 +1,370 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/media/MediaInfo.h"
+#include "NLECore/media/MediaFile_p.h"
+
+#include <QImageReader>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+extern "C" {
+#include <libavutil/dict.h>
+#include <libavutil/display.h>
+#include <libavutil/mathematics.h>
+#include <libavutil/pixdesc.h>
+}
+
+namespace nle {
+namespace {
+
+constexpr AVRational Microseconds{1, 1000000};
+constexpr Rational StillRate{25, 1};
+
+// Rates that containers with coarse clocks only come close to.
+constexpr AVRational StandardRates[] = {{24000, 1001}, {24, 1},        {25, 1}, {30000, 1001},
+                                        {30, 1},       {48, 1},        {50, 1}, {60000, 1001},
+                                        {60, 1},       {120000, 1001}, {120, 1}};
+constexpr double StandardRateTolerance = 0.0002;
+
+// Above this, r_frame_rate is the clock of the container rather than a grid of pictures.
+constexpr double MaxGridRate = 125.0;
+
+struct Orientation
+{
+    int rotation = 0;
+    bool mirrored = false;
+};
+
+bool IsValid(AVRational value)
+{
+    return value.num > 0 && value.den > 0;
+}
+
+AVRational SnapToStandardRate(AVRational rate)
+{
+    for (const AVRational& standard : StandardRates) {
+        if (std::abs(av_q2d(rate) / av_q2d(standard) - 1.0) < StandardRateTolerance)
+            return standard;
+    }
+    return rate;
+}
+
+// The grid that the time stamps stand on where there is one, else the mean rate.
+AVRational ChooseRate(const AVStream* stream, bool* isConstant)
+{
+    AVRational grid = stream->r_frame_rate;
+    const AVRational mean = stream->avg_frame_rate;
+    // Interlaced streams may count fields.
+    const bool isInterlaced = stream->codecpar->field_order > AV_FIELD_PROGRESSIVE;
+    if (isInterlaced && IsValid(mean) && std::abs(av_q2d(grid) / av_q2d(mean) - 2.0) < 0.1)
+        grid = {grid.num, 2 * grid.den};
+    const bool hasGrid = IsValid(grid) && av_q2d(grid) <= MaxGridRate &&
+                         (!IsValid(mean) || av_q2d(grid) < 2.5 * av_q2d(mean));
+    *isConstant = hasGrid;
+    if (hasGrid)
+        return SnapToStandardRate(grid);
+    if (IsValid(mean))
+        return SnapToStandardRate(mean);
+    return {25, 1};
+}
+
+// Quarter turns and mirrors of the matrix that maps coded to displayed positions.
+Orientation ReadDisplayMatrix(const AVStream* stream)
+{
+    size_t size = 0;
+    const uint8_t* const data = av_stream_get_side_data(stream, AV_PKT_DATA_DISPLAYMATRIX, &size);
+    if (data == nullptr || size < 9 * sizeof(int32_t))
+        return {};
+    const auto* const matrix = reinterpret_cast<const int32_t*>(data);
+    const int64_t a = matrix[0];
+    const int64_t b = matrix[1];
+    const int64_t c = matrix[3];
+    const int64_t d = matrix[4];
+    if (std::abs(a) + std::abs(d) >= std::abs(b) + std::abs(c)) {
+        const bool isMirrored = (a < 0) != (d < 0);
+        return {d < 0 ? 180 : 0, isMirrored};
+    }
+    const bool isMirrored = (b < 0) == (c < 0);
+    const bool isClockwise = c < 0;
+    return {isClockwise ? 90 : 270, isMirrored};
+}
+
+// Cameras write the orientation of a still picture into its EXIF block.
+Orientation ReadExifOrientation(const QString& path)
+{
+    const QImageIOHandler::Transformations turn = QImageReader(path, "jpeg").transformation();
+    const bool isFlipped = turn.testFlag(QImageIOHandler::TransformationFlip);
+    Orientation result;
+    result.mirrored = turn.testFlag(QImageIOHandler::TransformationMirror) != isFlipped;
+    result.rotation =
+        (isFlipped ? 180 : 0) + (turn.testFlag(QImageIOHandler::TransformationRotate90) ? 90 : 0);
+    result.rotation %= 360;
+    return result;
+}
+
+bool IsStillFormat(const AVFormatContext* context)
+{
+    const QLatin1String name(context->iformat->name);
+    return name.endsWith(QLatin1String("_pipe")) || name == QLatin1String("image2");
+}
+
+// A moving-picture format for web pages that often holds a single picture.
+bool HoldsOnePicture(MediaFile& file)
+{
+    if (!file.IsFormat("gif") && !file.IsFormat("apng"))
+        return false;
+    AVFormatContext* const context = file.Context();
+    const PacketPtr packet(av_packet_alloc());
+    int pictures = 0;
+    while (pictures < 2 && av_read_frame(context, packet.get()) >= 0) {
+        av_packet_unref(packet.get());
+        ++pictures;
+    }
+    return pictures < 2;
+}
+
+StreamType TypeOf(const AVStream* stream)
+{
+    const AVCodecParameters* const codec = stream->codecpar;
+    const bool hasDecoder = FindDecoder(stream) != nullptr;
+    switch (codec->codec_type) {
+    case AVMEDIA_TYPE_UNKNOWN:
+        return StreamType::Unknown;
+    case AVMEDIA_TYPE_VIDEO:
+        if ((stream->disposition & AV_DISPOSITION_ATTACHED_PIC) != 0 || !hasDecoder)
+            return StreamType::Other;
+        return codec->width > 0 && codec->height > 0 ? StreamType::Video : StreamType::Other;
+    case AVMEDIA_TYPE_AUDIO:
+        return hasDecoder && codec->sample_rate > 0 && codec->ch_layout.nb_channels > 0
+                   ? StreamType::Audio
+                   : StreamType::Other;
+    default:
+        return StreamType::Other;
+    }
+}
+
+// Matroska notes the end of each track as text: hours:minutes:seconds.nanoseconds.
+int64_t ReadDurationTag(const AVStream* stream)
+{
+    const AVDictionaryEntry* const tag = av_dict_get(stream->metadata, "DURATION", nullptr, 0);
+    const QStringList parts =
+        tag != nullptr ? QString::fromUtf8(tag->value).split(QLatin1Char(':')) : QStringList();
+    if (parts.size() != 3)
+        return 0;
+    const int64_t minutes = parts[0].toLongLong() * 60 + parts[1].toLongLong();
+    return minutes * 60000000 + std::llround(parts[2].toDouble() * 1e6);
+}
+
+int64_t StartTicks(const AVStream* stream)
+{
+    return stream->start_time != AV_NOPTS_VALUE ? stream->start_time : 0;
+}
+
+int64_t StartUs(const AVStream* stream)
+{
+    return av_rescale_q(StartTicks(stream), stream->time_base, Microseconds);
+}
+
+int64_t DurationUs(const AVFormatContext* context, const AVStream* stream)
+{
+    if (stream->duration > 0)
+        return av_rescale_q(stream->duration, stream->time_base, Microseconds);
+    const int64_t start = StartUs(stream);
+    if (const int64_t end = ReadDurationTag(stream); end > start)
+        return end - start;
+    if (context->duration <= 0)
+        return 0;
+    const int64_t first = context->start_time != AV_NOPTS_VALUE ? context->start_time : start;
+    return std::max<int64_t>(0, context->duration - (start - first));
+}
+
+bool HasAlpha(const AVStream* stream)
+{
+    const AVDictionaryEntry* const mode = av_dict_get(stream->metadata, "alpha_mode", nullptr, 0);
+    if (mode != nullptr && mode->value[0] == '1')
+        return true;
+    const AVPixFmtDescriptor* const format =
+        av_pix_fmt_desc_get(AVPixelFormat(stream->codecpar->format));
+    return format != nullptr && (format->flags & AV_PIX_FMT_FLAG_ALPHA) != 0;
+}
+
+void DescribePicture(const MediaFile& file, const AVStream* stream, const QString& path,
+                     MediaStream* result)
+{
+    const AVCodecParameters* const codec = stream->codecpar;
+    const bool isStill = IsStillFormat(file.Context());
+    const Orientation orientation = isStill && codec->codec_id == AV_CODEC_ID_MJPEG
+                                        ? ReadExifOrientation(path)
+                                        : ReadDisplayMatrix(stream);
+    result->rotation = orientation.rotation;
+    result->mirrored = orientation.mirrored;
+    result->width = codec->width;
+    result->height = codec->height;
+    AVRational aspect =
+        av_guess_sample_aspect_ratio(file.Context(), const_cast<AVStream*>(stream), nullptr);
+    if (!IsValid(aspect))
+        aspect = {1, 1};
+    if (orientation.rotation % 180 != 0) {
+        std::swap(result->width, result->height);
+        std::swap(aspect.num, aspect.den);
+    }
+    result->sampleAspect = {aspect.num, aspect.den};
+    result->hasAlpha = HasAlpha(stream);
+    result->reorderDelay = codec->video_delay;
+    const AVRational rate = ChooseRate(stream, &result->constantRate);
+    result->frameRate = {rate.num, rate.den};
+}
+
+MediaStream Describe(const MediaFile& file, const AVStream* stream, const QString& path)
+{
+    const AVCodecParameters* const codec = stream->codecpar;
+    MediaStream result;
+    result.type = TypeOf(stream);
+    result.bitRate = codec->bit_rate;
+    result.fourcc = codec->codec_tag;
+    result.codecName = avcodec_get_name(codec->codec_id);
+    if (const char* profile = avcodec_profile_name(codec->codec_id, codec->profile))
+        result.profileName = profile;
+    result.durationUs = DurationUs(file.Context(), stream);
+    result.startTicks = StartTicks(stream);
+    if (result.type == StreamType::Video)
+        DescribePicture(file, stream, path, &result);
+    if (result.type == StreamType::Audio) {
+        result.sampleRate = codec->sample_rate;
+        result.channels = codec->ch_layout.nb_channels;
+        // The shortest frame of Opus lasts 2.5 ms; it does not say more.
+        const bool isOpus = codec->codec_id == AV_CODEC_ID_OPUS;
+        result.frameSamples = isOpus ? codec->sample_rate / 400 : codec->frame_size;
+        result.sampleFormat = codec->format;
+    }
+    return result;
+}
+
+// Recordings that were never finished say nothing about their length; reading them through does.
+void MeasureStream(MediaFile& file, int index, MediaStream* stream)
+{
+    AVFormatContext* const context = file.Context();
+    const AVStream* const source = context->streams[index];
+    const PacketPtr packet(av_packet_alloc());
+    int64_t end = stream->startTicks;
+    file.LimitTime();
+    while (av_read_frame(context, packet.get()) >= 0) {
+        if (packet->stream_index == index && packet->pts != AV_NOPTS_VALUE)
+            end = std::max(end, packet->pts + packet->duration);
+        av_packet_unref(packet.get());
+    }
+    stream->durationUs = av_rescale_q(end - stream->startTicks, source->time_base, Microseconds);
+}
+
+// The stream that a player would choose: marked as default, then the largest, then the first.
+int PreferredStream(const AVFormatContext* context, const MediaInfo& info, StreamType type)
+{
+    int best = -1;
+    int64_t bestRank = -1;
+    for (int i = 0; i < int(info.streams.size()); ++i) {
+        const MediaStream& stream = info.streams[size_t(i)];
+        if (stream.type != type)
+            continue;
+        const bool isDefault = (context->streams[i]->disposition & AV_DISPOSITION_DEFAULT) != 0;
+        const int64_t size =
+            type == StreamType::Video ? int64_t(stream.width) * stream.height : stream.channels;
+        const int64_t rank = size + (isDefault ? int64_t(1) << 40 : 0);
+        if (rank > bestRank) {
+            best = i;
+            bestRank = rank;
+        }
+    }
+    return best;
+}
+
+uint32_t CountFrames(int64_t durationUs, const Rational& rate)
+{
+    const int64_t count = av_rescale_q(durationUs, Microseconds, {int(rate.den), int(rate.num)});
+    return uint32_t(std::clamp<int64_t>(count, 0, INT32_MAX));
+}
+
+// The container's own count is exact, but counts pictures: at a variable rate, or with parts cut
+// away by an edit list, it is not the number of frames.
+uint32_t CountFrames(const AVStream* stream, const MediaStream& description)
+{
+    const uint32_t expected = CountFrames(description.durationUs, description.frameRate);
+    const int64_t known = stream->nb_frames;
+    const bool isUsable = known > 0 && std::abs(known - int64_t(expected)) <= 1;
+    return std::max(1U, isUsable || expected == 0 ? uint32_t(known) : expected);
+}
+
+void MakeStill(MediaInfo* info)
+{
+    MediaStream& stream = info->streams[size_t(info->videoStream)];
+    stream.frameRate = StillRate;
+    stream.durationUs = 1000000 * StillRate.den / StillRate.num;
+    info->kind = MediaKind::Image;
+    info->frameCount = 1;
+    info->frameRate = StillRate;
+    info->durationUs = stream.durationUs;
+}
+
+void MakeVideo(const AVFormatContext* context, MediaInfo* info)
+{
+    const MediaStream& stream = info->streams[size_t(info->videoStream)];
+    const AVStream* const source = context->streams[info->videoStream];
+    info->kind = MediaKind::Video;
+    info->frameRate = stream.frameRate;
+    info->frameCount = CountFrames(source, stream);
+    info->originUs = StartUs(source);
+    info->durationUs = av_rescale_q(
+        info->frameCount, {int(stream.frameRate.den), int(stream.frameRate.num)}, Microseconds);
+}
+
+void MakeAudio(const AVFormatContext* context, MediaInfo* info)
+{
+    const MediaStream& stream = info->streams[size_t(info->audioStream)];
+    info->kind = MediaKind::Audio;
+    info->frameRate = StillRate;
+    info->durationUs = stream.durationUs;
+    // Before time 0 some containers keep what an encoder needs to settle; it is not played.
+    info->originUs = std::max<int64_t>(0, StartUs(context->streams[info->audioStream]));
+    info->frameCount = std::max(1U, CountFrames(info->durationUs, StillRate));
+}
+
+} // namespace
+
+std::shared_ptr<const MediaInfo> ProbeMedia(const QString& path, QString* error)
+{
+    const std::unique_ptr<MediaFile> file =
+        MediaFile::Open(path, MediaFile::Streams::Examined, error);
+    if (!file)
+        return nullptr;
+    const AVFormatContext* const context = file->Context();
+    auto info = std::make_shared<MediaInfo>();
+    info->path = path;
+    info->containerName = QString::fromUtf8(context->iformat->name);
+    info->fileSize = file->Stamp().size;
+    info->modifiedMs = file->Stamp().modifiedMs;
+    for (unsigned i = 0; i < context->nb_streams; ++i)
+        info->streams.push_back(Describe(*file, context->streams[i], path));
+    info->videoStream = PreferredStream(context, *info, StreamType::Video);
+    info->audioStream = PreferredStream(context, *info, StreamType::Audio);
+    if (info->videoStream < 0 && info->audioStream < 0) {
+        SetError(error, path, QStringLiteral(": no picture or sound in it"));
+        return nullptr;
+    }
+    if (info->streams.size() == 1 && info->streams[0].bitRate == 0)
+        info->streams[0].bitRate = context->bit_rate;
+
+    const bool isMoving = !IsStillFormat(context);
+    const int main = info->videoStream >= 0 ? info->videoStream : info->audioStream;
+    if (isMoving && info->streams[size_t(main)].durationUs <= 0)
+        MeasureStream(*file, main, &info->streams[size_t(main)]);
+
+    if (info->videoStream < 0)
+        MakeAudio(context, info.get());
+    else if (!isMoving || HoldsOnePicture(*file))
+        MakeStill(info.get());
+    else
+        MakeVideo(context, info.get());
+    return info;
+}
+
+} // namespace nle

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// Not part of the public interface.
+#pragma once
+
+#include "NLECore/media/MediaFile_p.h"
+
+#include <QImage>
+#include <QSize>
+
+#include <vector>
+
+struct SwsContext;
+
+namespace nle {
+
+/// Turns decoded pictures into upright images. Keeps its tables for the next picture of the same
+/// kind. One object serves one thread at a time.
+class PictureScaler
+{
+public:
+    PictureScaler() = default;
+    ~PictureScaler();
+    PictureScaler(const PictureScaler&) = delete;
+    PictureScaler& operator=(const PictureScaler&) = delete;
+
+    /// \a frame mirrored and turned as \a stream says and scaled to \a size, as Format_ARGB32;
+    /// null when there is no conversion or no memory for it.
+    QImage Convert(const AVFrame& frame, const MediaStream& stream, const QSize& size);
+
+private:
+    bool Prepare(const AVFrame& frame, const QSize& size);
+    void SetColours(const AVFrame& frame, bool isFullRange);
+    QImage Scale(const AVFrame& frame, const QSize& size);
+
+    SwsContext* m_context = nullptr;
+    std::vector<uint8_t> m_scratch;
+};
+
+} // namespace nle

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/media/WaveForm.h"
+#include "NLECore/media/AudioDecoder.h"
+
+#include <algorithm>
+
+namespace nle {
+namespace {
+
+constexpr int64_t BlockSamples = 32768;
+
+// First sample of a bucket; sampleCount * bucket may exceed 64 bits only beyond any real length.
+int64_t BucketStart(int64_t bucket, int64_t sampleCount, int64_t buckets)
+{
+    return sampleCount / buckets * bucket + sampleCount % buckets * bucket / buckets;
+}
+
+} // namespace
+
+std::vector<WavePeak> ReadWaveForm(AudioDecoder& decoder, int64_t firstSample, int64_t sampleCount,
+                                   int sampleRate, int channels, int buckets,
+                                   const std::atomic<bool>* cancel)
+{
+    if (sampleCount <= 0 || sampleRate <= 0 || channels <= 0 || buckets <= 0)
+        return {};
+    std::vector<WavePeak> peaks(size_t(buckets) * size_t(channels));
+    std::vector<float> block(size_t(BlockSamples) * size_t(channels));
+    int64_t blockStart = 0;
+    int64_t blockEnd = 0;
+    for (int bucket = 0; bucket < buckets; ++bucket) {
+        const int64_t start = BucketStart(bucket, sampleCount, buckets);
+        const int64_t end = std::max(start + 1, BucketStart(bucket + 1, sampleCount, buckets));
+        WavePeak* const peak = &peaks[size_t(bucket) * size_t(channels)];
+        for (int64_t sample = start; sample < end; ++sample) {
+            if (sample >= blockEnd) {
+                if (cancel != nullptr && cancel->load())
+                    return {};
+                blockStart = sample;
+                blockEnd = std::min(sampleCount, blockStart + BlockSamples);
+                if (decoder.Read(firstSample + blockStart, int(blockEnd - blockStart), sampleRate,
+                                 channels, block.data()) < 0)
+                    return {};
+            }
+            const float* const values = &block[size_t(sample - blockStart) * size_t(channels)];
+            for (int channel = 0; channel < channels; ++channel) {
+                const float value = values[channel];
+                WavePeak& range = peak[channel];
+                const bool isFirst = sample == start;
+                range.min = isFirst ? value : std::min(range.min, value);
+                range.max = isFirst ? value : std::max(range.max, value);
+            }
+        }
+    }
+    return peaks;
+}
+
+} // namespace nle

@@ -1,0 +1,8 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
+
+# Clips made while a test or benchmark runs; needs the ffmpeg program then.
+include_guard(GLOBAL)
+add_library(TestSupportMedia STATIC
+  ${CMAKE_CURRENT_LIST_DIR}/TestMedia.cpp ${CMAKE_CURRENT_LIST_DIR}/TestMedia.h)
+target_include_directories(TestSupportMedia PUBLIC ${CMAKE_CURRENT_LIST_DIR})
+target_link_libraries(TestSupportMedia PUBLIC Qt5::Core Qt5::Gui PRIVATE ProjectSettings)

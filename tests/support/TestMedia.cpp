@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "TestMedia.h"
+
+#include <QFile>
+#include <QPainter>
+#include <QProcess>
+#include <QTransform>
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace {
+
+// The code: 16 blocks in two rows, the number in 12 bits and a check in 4, the highest bit first.
+constexpr int CodeColumns = 8;
+constexpr int CodeRows = 2;
+constexpr int NumberBits = 12;
+constexpr int TimeoutMs = 120000;
+
+int CheckOf(int number)
+{
+    return (number * 7 + (number >> 4) * 5 + (number >> 8) * 3 + 9) & 15;
+}
+
+QRect BlockRect(int block, const QSize& size)
+{
+    const int column = block % CodeColumns;
+    const int row = block / CodeColumns;
+    const int top = size.height() * row / 3;
+    const int bottom = size.height() * (row + 1) / 3;
+    const int left = size.width() * column / CodeColumns;
+    const int right = size.width() * (column + 1) / CodeColumns;
+    return {left, top, right - left, bottom - top};
+}
+
+// Seven segments: top, upper right, lower right, bottom, lower left, upper left, middle.
+void PaintDigit(QPainter& painter, int digit, const QRect& box)
+{
+    static constexpr int Segments[10] = {0x3f, 0x06, 0x5b, 0x4f, 0x66,
+                                         0x6d, 0x7d, 0x07, 0x7f, 0x6f};
+    const int t = std::max(1, box.height() / 8);
+    const int half = box.height() / 2;
+    const QRect parts[7] = {{box.x(), box.y(), box.width(), t},
+                            {box.right() - t, box.y(), t, half},
+                            {box.right() - t, box.y() + half, t, half},
+                            {box.x(), box.bottom() - t, box.width(), t},
+                            {box.x(), box.y() + half, t, half},
+                            {box.x(), box.y(), t, half},
+                            {box.x(), box.y() + half - t / 2, box.width(), t}};
+    for (int i = 0; i < 7; ++i) {
+        if ((Segments[digit] >> i & 1) != 0)
+            painter.fillRect(parts[i], Qt::white);
+    }
+}
+
+QString Number(double value)
+{
+    return QString::number(value, 'f', 6);
+}
+
+// Turns the first track of an MP4 or MOV file by writing the matrix of its track header.
+bool WriteRotation(const QString& path, int rotation)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite))
+        return false;
+    const int header = file.readAll().indexOf("tkhd");
+    // A quarter turn clockwise maps right to down and down to left.
+    const int turn = rotation / 90 & 3;
+    const qint32 cosine = turn == 0 ? 1 : turn == 2 ? -1 : 0;
+    const qint32 sine = turn == 1 ? 1 : turn == 3 ? -1 : 0;
+    const qint32 one = 0x10000;
+    const qint32 matrix[9] = {cosine * one, sine * one, 0, -sine * one, cosine * one, 0, 0, 0,
+                              0x40000000};
+    QByteArray bytes(sizeof matrix, Qt::Uninitialized);
+    qToBigEndian<qint32>(matrix, 9, bytes.data());
+    const int matrixOffset = 4 + 40;
+    return header > 0 && file.seek(header + matrixOffset) && file.write(bytes) == bytes.size();
+}
+
+QStringList VideoInput(const TestClip& clip, const QSize& coded)
+{
+    return {QStringLiteral("-f"),
+            QStringLiteral("rawvideo"),
+            QStringLiteral("-pixel_format"),
+            QStringLiteral("bgra"),
+            QStringLiteral("-video_size"),
+            QStringLiteral("%1x%2").arg(coded.width()).arg(coded.height()),
+            QStringLiteral("-framerate"),
+            QStringLiteral("%1/%2").arg(clip.rateNum).arg(clip.rateDen),
+            QStringLiteral("-i"),
+            QStringLiteral("-")};
+}
+
+QStringList AudioInput(const TestClip& clip)
+{
+    const double seconds = double(clip.frames) * clip.rateDen / clip.rateNum;
+    const QString wave =
+        QStringLiteral("%1*sin(2*PI*%2*t)*gte(t,%3)")
+            .arg(Number(clip.toneLevel), Number(clip.toneHz), Number(clip.toneStart));
+    const QStringList channels = [&] {
+        QStringList list;
+        for (int i = 0; i < clip.channels; ++i)
+            list.append(wave);
+        return list;
+    }();
+    const QString source = QStringLiteral("aevalsrc=exprs='%1':s=%2:d=%3")
+                               .arg(channels.join(QLatin1Char('|')))
+                               .arg(clip.sampleRate)
+                               .arg(Number(seconds));
+    return {QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"), source};
+}
+
+QStringList VideoOutput(const TestClip& clip)
+{
+    QStringList list{QStringLiteral("-map"), QStringLiteral("0:v"), QStringLiteral("-c:v"),
+                     clip.codec};
+    const bool isX264 = clip.codec == QLatin1String("libx264");
+    if (isX264) {
+        list << QStringLiteral("-preset") << QStringLiteral("veryfast") << QStringLiteral("-crf")
+             << QStringLiteral("23") << QStringLiteral("-sc_threshold") << QStringLiteral("0")
+             << QStringLiteral("-threads") << QStringLiteral("2") << QStringLiteral("-x264-params")
+             << QStringLiteral("open-gop=%1").arg(clip.openGop ? 1 : 0);
+    }
+    if (isX264 || clip.codec == QLatin1String("mpeg4") || clip.codec == QLatin1String("mpeg2video"))
+        list << QStringLiteral("-bf") << QString::number(clip.bframes) << QStringLiteral("-pix_fmt")
+             << QStringLiteral("yuv420p");
+    if (clip.gop > 0)
+        list << QStringLiteral("-g") << QString::number(clip.gop);
+    if (clip.isLeftOut) {
+        QStringList kept;
+        for (int first = 0; first < clip.frames; ++first) {
+            if (clip.isLeftOut(first))
+                continue;
+            int last = first;
+            while (last + 1 < clip.frames && !clip.isLeftOut(last + 1))
+                ++last;
+            kept.append(QStringLiteral("between(n,%1,%2)").arg(first).arg(last));
+            first = last;
+        }
+        list << QStringLiteral("-vf")
+             << QStringLiteral("select='%1'").arg(kept.join(QLatin1Char('+')))
+             << QStringLiteral("-fps_mode") << QStringLiteral("passthrough");
+    }
+    return list;
+}
+
+} // namespace
+
+QString RunFfmpeg(const QStringList& arguments, const QByteArray& input)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(QStringLiteral("ffmpeg"),
+                  QStringList{QStringLiteral("-hide_banner"), QStringLiteral("-loglevel"),
+                              QStringLiteral("error"), QStringLiteral("-y")} +
+                      arguments);
+    if (!process.waitForStarted())
+        return QStringLiteral("the ffmpeg program does not start");
+    process.write(input);
+    process.closeWriteChannel();
+    if (!process.waitForFinished(TimeoutMs))
+        return QStringLiteral("the ffmpeg program does not end");
+    if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
+        return {};
+    return QStringLiteral("ffmpeg failed: ") + QString::fromLocal8Bit(process.readAll());
+}
+
+QString MakeTestClip(const QString& path, const TestClip& clip)
+{
+    QStringList arguments;
+    QByteArray pictures;
+    if (!clip.codec.isEmpty()) {
+        const QSize coded = clip.rotation % 180 != 0 ? clip.size.transposed() : clip.size;
+        for (int i = 0; i < clip.frames; ++i) {
+            const QImage picture = PaintFrameNumber(i, clip.size)
+                                       .transformed(QTransform().rotate(-clip.rotation))
+                                       .convertToFormat(QImage::Format_ARGB32);
+            pictures.append(reinterpret_cast<const char*>(picture.constBits()),
+                            int(picture.sizeInBytes()));
+        }
+        arguments += VideoInput(clip, coded);
+    }
+    if (!clip.audioCodec.isEmpty())
+        arguments += AudioInput(clip);
+    if (!clip.codec.isEmpty())
+        arguments += VideoOutput(clip);
+    if (!clip.audioCodec.isEmpty()) {
+        arguments << QStringLiteral("-map")
+                  << (clip.codec.isEmpty() ? QStringLiteral("0:a") : QStringLiteral("1:a"))
+                  << QStringLiteral("-c:a") << clip.audioCodec;
+    }
+    arguments += clip.extra;
+    arguments.append(path);
+    const QString failure = RunFfmpeg(arguments, pictures);
+    if (!failure.isEmpty())
+        return failure;
+    if (clip.rotation != 0 && !WriteRotation(path, clip.rotation))
+        return QStringLiteral("no track header to turn in ") + path;
+    return {};
+}
+
+QImage PaintFrameNumber(int number, const QSize& size)
+{
+    QImage picture(size, QImage::Format_ARGB32);
+    picture.fill(QColor(40, 60, 140));
+    QPainter painter(&picture);
+    const int code = number << (CodeColumns * CodeRows - NumberBits) | CheckOf(number);
+    for (int i = 0; i < CodeColumns * CodeRows; ++i) {
+        const bool isSet = (code >> (CodeColumns * CodeRows - 1 - i) & 1) != 0;
+        painter.fillRect(BlockRect(i, size), isSet ? Qt::white : Qt::black);
+    }
+    const int digitHeight = size.height() / 4;
+    const int digitWidth = digitHeight / 2;
+    int x = size.width() / 2 - digitWidth * 3;
+    for (int power : {1000, 100, 10, 1}) {
+        PaintDigit(painter, number / power % 10,
+                   {x, size.height() - digitHeight - digitHeight / 6, digitWidth, digitHeight});
+        x += digitWidth * 3 / 2;
+    }
+    return picture;
+}
+
+int ReadFrameNumber(const QImage& picture)
+{
+    if (picture.isNull())
+        return -1;
+    int code = 0;
+    for (int i = 0; i < CodeColumns * CodeRows; ++i) {
+        const QRect block = BlockRect(i, picture.size());
+        // The middle of a block, clear of its blurred borders.
+        const QRect middle = block.adjusted(block.width() / 3, block.height() / 3,
+                                            -(block.width() / 3), -(block.height() / 3));
+        int sum = 0;
+        for (int y = middle.top(); y <= middle.bottom(); ++y) {
+            for (int x = middle.left(); x <= middle.right(); ++x)
+                sum += qGray(picture.pixel(x, y));
+        }
+        const int grey = sum / std::max(1, middle.width() * middle.height());
+        if (grey > 90 && grey < 165)
+            return -1;
+        code = code << 1 | (grey >= 165 ? 1 : 0);
+    }
+    const int number = code >> (CodeColumns * CodeRows - NumberBits);
+    return CheckOf(number) == (code & 15) ? number : -1;
+}
