@@ -1,0 +1,234 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/model/CompositeNode.h"
+
+#include "EngineApi/NLEKey.h"
+#include "NLECore/model/FrameMath.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace nle {
+
+namespace {
+
+constexpr NLESize kDefaultSize = {1920, 1080};
+
+/// Walks a list of clips that it holds itself.
+class Enumerator final : public ComObject<INLETimelineEnumerator>
+{
+public:
+    explicit Enumerator(std::vector<NLEComPtr<TimelineNode>> clips) : m_clips(std::move(clips)) {}
+
+    HRESULT IsEmpty(bool* empty) override
+    {
+        if (!empty)
+            return E_POINTER;
+        *empty = m_clips.empty();
+        return S_OK;
+    }
+    HRESULT Next() override
+    {
+        if (m_index < m_clips.size())
+            ++m_index;
+        return m_index < m_clips.size() ? S_OK : S_FALSE;
+    }
+    HRESULT GetCurrent(INLETimeline** clip) override
+    {
+        if (!clip)
+            return E_POINTER;
+        *clip = nullptr;
+        if (m_index >= m_clips.size())
+            return E_FAIL;
+        return NLEComPtr<INLETimeline>(m_clips[m_index]).copyTo(clip);
+    }
+
+private:
+    std::vector<NLEComPtr<TimelineNode>> m_clips;
+    size_t m_index = 0;
+};
+
+HRESULT GiveEnumerator(std::vector<NLEComPtr<TimelineNode>> clips,
+                       INLETimelineEnumerator** enumerator)
+{
+    if (!enumerator)
+        return E_POINTER;
+    *enumerator = MakeCom<Enumerator>(std::move(clips)).detach();
+    return S_OK;
+}
+
+void AppendRecursively(const CompositeNode& from, std::vector<NLEComPtr<TimelineNode>>& to)
+{
+    for (const NLEComPtr<TimelineNode>& clip : from.Clips()) {
+        to.push_back(clip);
+        if (const auto* composite = dynamic_cast<const CompositeNode*>(clip.get()))
+            AppendRecursively(*composite, to);
+    }
+}
+
+} // namespace
+
+CompositeNode::CompositeNode(const NLERational& frameRate) : ComExtension(frameRate) {}
+
+CompositeNode::~CompositeNode()
+{
+    for (const NLEComPtr<TimelineNode>& clip : m_clips)
+        clip->SetParent(nullptr);
+}
+
+HRESULT CompositeNode::GetClipCount(int* count)
+{
+    if (!count)
+        return E_POINTER;
+    *count = int(m_clips.size());
+    return S_OK;
+}
+
+HRESULT CompositeNode::GetEnumerator(int /*flags*/, INLETimelineEnumerator** enumerator)
+{
+    return GiveEnumerator(m_clips, enumerator);
+}
+
+HRESULT CompositeNode::GetEnumerator(int recursive, int /*flags*/,
+                                     INLETimelineEnumerator** enumerator)
+{
+    std::vector<NLEComPtr<TimelineNode>> clips;
+    if (recursive)
+        AppendRecursively(*this, clips);
+    else
+        clips = m_clips;
+    return GiveEnumerator(std::move(clips), enumerator);
+}
+
+HRESULT CompositeNode::AddClip(INLETimeline* clip)
+{
+    TimelineNode* node = TimelineNode::From(clip);
+    if (!node || node->Parent() || IsSelfOrAncestor(node))
+        return E_INVALIDARG;
+    node->ChangeRate(FrameRate());
+    Adopt(node);
+    return S_OK;
+}
+
+HRESULT CompositeNode::RemoveClip(INLETimeline* clip)
+{
+    TimelineNode* node = TimelineNode::From(clip);
+    if (!node || node->Parent() != this)
+        return E_INVALIDARG;
+    const auto found = std::find(m_clips.begin(), m_clips.end(), NLEComPtr<TimelineNode>(node));
+    node->SetParent(nullptr);
+    m_clips.erase(found);
+    return S_OK;
+}
+
+void CompositeNode::Adopt(const NLEComPtr<TimelineNode>& clip)
+{
+    clip->SetParent(this);
+    m_clips.push_back(clip);
+}
+
+bool CompositeNode::IsSelfOrAncestor(const TimelineNode* node) const
+{
+    for (const CompositeNode* holder = this; holder; holder = holder->Parent()) {
+        if (holder == node)
+            return true;
+    }
+    return false;
+}
+
+int CompositeNode::TotalLength() const
+{
+    std::int64_t end = 0;
+    for (const NLEComPtr<TimelineNode>& clip : m_clips)
+        end = std::max(end, clip->Position() + NLERangeLength(clip->Range()));
+    return int(std::min<std::int64_t>(end, std::numeric_limits<int>::max()));
+}
+
+NLESize CompositeNode::PictureSize() const
+{
+    return Parent() ? Parent()->PictureSize() : kDefaultSize;
+}
+
+void CompositeNode::ChangeRate(const NLERational& rate)
+{
+    const NLERational old = FrameRate();
+    TimelineNode::ChangeRate(rate);
+    for (const NLEComPtr<TimelineNode>& clip : m_clips) {
+        clip->SetPosition(RescaleFrame(clip->Position(), old, rate));
+        clip->ChangeRate(rate);
+    }
+}
+
+NLEComPtr<TimelineNode> CompositeNode::CopyContent(bool deep) const
+{
+    NLEComPtr<CompositeNode> copy = MakeCom<CompositeNode>(FrameRate());
+    if (deep)
+        CopyClipsTo(*copy);
+    return copy;
+}
+
+void CompositeNode::CopyClipsTo(CompositeNode& copy) const
+{
+    for (const NLEComPtr<TimelineNode>& clip : m_clips) {
+        NLEComPtr<INLETimeline> clone;
+        clip->Clone(true, clone.put());
+        copy.Adopt(TimelineNode::From(clone.get()));
+    }
+}
+
+void CompositeNode::Describe(Layer& layer) const
+{
+    layer.kind = LayerKind::Composite;
+    layer.argb = std::uint32_t(
+        Bag().IntOr(NLEKey::Render::kRender_BackgroundColor, int(DefaultBackground())));
+    for (const NLEComPtr<TimelineNode>& clip : m_clips) {
+        if (clip->IsEnabled())
+            layer.children.push_back(clip->MakeSnapshot());
+    }
+    std::stable_sort(layer.children.begin(), layer.children.end(),
+                     [](const Snapshot& a, const Snapshot& b) { return a->level < b->level; });
+}
+
+ProjectNode::ProjectNode(const tagNLEProjectProfile& profile)
+    : ComExtension(profile.frameRate), m_profile(profile)
+{
+}
+
+bool ProjectNode::IsValid(const tagNLEProjectProfile& profile)
+{
+    return profile.frameSize.width > 0 && profile.frameSize.height > 0 && IsRate(profile.frameRate);
+}
+
+HRESULT ProjectNode::GetProfile(tagNLEProjectProfile* profile)
+{
+    if (!profile)
+        return E_POINTER;
+    *profile = m_profile;
+    return S_OK;
+}
+
+HRESULT ProjectNode::SetProfile(const tagNLEProjectProfile* profile)
+{
+    if (!profile)
+        return E_POINTER;
+    if (!IsValid(*profile))
+        return E_INVALIDARG;
+    m_profile = *profile;
+    ChangeRate(profile->frameRate);
+    return S_OK;
+}
+
+void ProjectNode::ChangeRate(const NLERational& rate)
+{
+    CompositeNode::ChangeRate(rate);
+    m_profile.frameRate = rate;
+}
+
+NLEComPtr<TimelineNode> ProjectNode::CopyContent(bool deep) const
+{
+    NLEComPtr<ProjectNode> copy = MakeCom<ProjectNode>(m_profile);
+    if (deep)
+        CopyClipsTo(*copy);
+    return copy;
+}
+
+} // namespace nle

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "NLECore/model/TimelineNode.h"
+
+#include <QLatin1String>
+
+#include <algorithm>
+
+/// What writer and reader of documents agree on.
+///
+/// A document is MLT XML: a producer for each clip, a playlist for each lane of clips that do not
+/// overlap, a tractor for each composite. What MLT has no place for is kept in properties whose
+/// names begin with "nle:"; other programs ignore them.
+namespace nle::document {
+
+inline constexpr QLatin1String kKind("nle:kind");
+inline constexpr QLatin1String kOrder("nle:order");
+inline constexpr QLatin1String kPosition("nle:position");
+inline constexpr QLatin1String kLevel("nle:level");
+inline constexpr QLatin1String kRange("nle:range");
+inline constexpr QLatin1String kRate("nle:rate");
+inline constexpr QLatin1String kMargin("nle:margin");
+inline constexpr QLatin1String kEnabled("nle:enabled");
+inline constexpr QLatin1String kSize("nle:size");
+inline constexpr QLatin1String kAudio("nle:audio");
+inline constexpr QLatin1String kDecoder("nle:decoder");
+inline constexpr QLatin1String kBagPrefix("nle:bag:");
+
+inline constexpr QLatin1String kProject("project");
+inline constexpr QLatin1String kComposite("composite");
+inline constexpr QLatin1String kMedia("media");
+inline constexpr QLatin1String kColor("color");
+inline constexpr QLatin1String kText("text");
+/// The empty track below all others.
+inline constexpr QLatin1String kBackground("background");
+/// A playlist of clips that do not show: disabled ones and ones of no length.
+inline constexpr QLatin1String kUnplaced("unplaced");
+
+/// Where a clip stands on a playlist: MLT has no place before frame 0.
+struct Placement
+{
+    std::int64_t position;
+    NLERange range;
+
+    friend bool operator==(const Placement& a, const Placement& b)
+    {
+        return a.position == b.position && a.range.in == b.range.in && a.range.out == b.range.out;
+    }
+};
+
+/// The part of a clip that lies at or after frame 0 of its parent.
+inline Placement VisiblePart(int position, const NLERange& range)
+{
+    const std::int64_t cut = std::max<std::int64_t>(0, -std::int64_t(position));
+    return {position + cut, {int(std::min<std::int64_t>(range.in + cut, INT32_MAX)), range.out}};
+}
+
+} // namespace nle::document

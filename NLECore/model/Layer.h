@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "EngineApi/NLETypes.h"
+#include "NLECore/media/MediaInfo.h"
+
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+namespace nle {
+
+/// What a node shows.
+enum class LayerKind
+{
+    Media,
+    Color,
+    Text,
+    Composite
+};
+
+/// Immutable picture of one node and what it holds: all that a render needs, without the model.
+///
+/// A snapshot is built on the thread that edits and read on the thread that renders.
+struct Layer
+{
+    LayerKind kind = LayerKind::Composite;
+    NLERange range = {0, -1};        ///< frames of the layer that play
+    int position = 0;                ///< first frame on the parent
+    int level = 0;                   ///< higher covers lower
+    NLERational frameRate = {25, 1}; ///< of range and of the children's positions
+    tagNLEMarginMode margin = NLEMargin_Fit;
+    NLERenderMode mode = NLERender_All;
+    NLESize size = {0, 0}; ///< picture size in pixels
+
+    std::shared_ptr<const MediaInfo> media; ///< Media only
+    std::uint32_t argb = 0;                 ///< Color: the colour; Composite: what shows behind
+    QString text;                           ///< Text only
+    QString family;                         ///< Text only
+    std::vector<std::shared_ptr<const Layer>>
+        children; ///< Composite: enabled ones, lowest level first
+
+    /// Whether the layer plays at \a frame of its parent.
+    bool PlaysAt(std::int64_t frame) const
+    {
+        return frame >= position && frame < position + NLERangeLength(range);
+    }
+};
+
+using Snapshot = std::shared_ptr<const Layer>;
+
+} // namespace nle

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/model/MediaObjects.h"
+
+#include "NLECore/model/EngineLog.h"
+#include "NLECore/model/PropertyBag.h"
+
+#include <algorithm>
+
+namespace nle {
+
+namespace {
+
+NLERational ToEngine(const Rational& rational)
+{
+    return {rational.num, rational.den};
+}
+
+NLEStreamInfo ToEngine(const MediaStream& stream)
+{
+    NLEStreamInfo info = {};
+    info.type = std::int32_t(stream.type);
+    info.width = stream.width;
+    info.height = stream.height;
+    info.rotation = stream.rotation;
+    info.frameRate = ToEngine(stream.frameRate);
+    info.pixelAspect = ToEngine(stream.sampleAspect);
+    info.sampleRate = stream.sampleRate;
+    info.channels = stream.channels;
+    info.sampleFormat = stream.sampleFormat;
+    info.fourCC = stream.fourcc;
+    info.bitRate = stream.bitRate;
+    info.duration = stream.durationUs;
+    stream.codecName.copy(info.codecName, sizeof(info.codecName) - 1);
+    return info;
+}
+
+std::wstring Widen(const std::string& ascii)
+{
+    return std::wstring(ascii.begin(), ascii.end());
+}
+
+} // namespace
+
+std::shared_ptr<const MediaInfo> DescribeFile(const QString& path)
+{
+    QString error;
+    std::shared_ptr<const MediaInfo> media = ProbeMedia(path, &error);
+    if (!media)
+        qCWarning(lcEngine, "%s", qUtf8Printable(error));
+    return media;
+}
+
+std::shared_ptr<const MediaInfo> OfflineMedia(const QString& path)
+{
+    auto media = std::make_shared<MediaInfo>();
+    media->path = path;
+    return media;
+}
+
+std::shared_ptr<const MediaInfo> MediaInfoObject::From(IUnknown* object)
+{
+    void* found = nullptr;
+    if (!object || FAILED(object->QueryInterface(ObjectId, &found)))
+        return nullptr;
+    NLEComPtr<MediaInfoObject> info;
+    info.attach(static_cast<MediaInfoObject*>(found));
+    return info->m_media;
+}
+
+HRESULT MediaInfoObject::QueryInterface(REFIID iid, void** out)
+{
+    if (out && iid == ObjectId) {
+        *out = this;
+        AddRef();
+        return S_OK;
+    }
+    return ComObject::QueryInterface(iid, out);
+}
+
+HRESULT MediaInfoObject::GetKind(int* kind)
+{
+    if (!kind)
+        return E_POINTER;
+    *kind = int(m_media->kind);
+    return S_OK;
+}
+
+HRESULT MediaInfoObject::GetStreamCount(std::uint32_t* count)
+{
+    if (!count)
+        return E_POINTER;
+    *count = std::uint32_t(m_media->streams.size());
+    return S_OK;
+}
+
+HRESULT MediaInfoObject::GetStream(std::uint32_t index, NLEStreamInfo* stream)
+{
+    if (!stream)
+        return E_POINTER;
+    if (index >= m_media->streams.size())
+        return E_INVALIDARG;
+    *stream = ToEngine(m_media->streams[index]);
+    return S_OK;
+}
+
+HRESULT MediaInfoObject::GetFrameCountAndRate(std::uint32_t* count, NLERational* rate)
+{
+    if (!count || !rate)
+        return E_POINTER;
+    *count = m_media->frameCount;
+    *rate = ToEngine(m_media->frameRate);
+    return S_OK;
+}
+
+HRESULT MediaInfoObject::GetFilePath(wchar_t* buffer, int capacity)
+{
+    return CopyText(m_media->path.toStdWString(), buffer, capacity);
+}
+
+HRESULT CodecObject::GetMediaInfo(INLEMediaInfo** info)
+{
+    if (!info)
+        return E_POINTER;
+    *info = MakeCom<MediaInfoObject>(m_media).detach();
+    return S_OK;
+}
+
+HRESULT CodecObject::GetContainerName(wchar_t* buffer, int capacity)
+{
+    return CopyText(m_media->containerName.section(QLatin1Char(','), 0, 0).toStdWString(), buffer,
+                    capacity);
+}
+
+HRESULT CodecObject::GetCodecName(std::uint32_t stream, wchar_t* buffer, int capacity)
+{
+    if (stream >= m_media->streams.size())
+        return E_INVALIDARG;
+    return CopyText(Widen(m_media->streams[stream].codecName), buffer, capacity);
+}
+
+HRESULT CodecObject::GetProfileName(std::uint32_t stream, wchar_t* buffer, int capacity)
+{
+    if (stream >= m_media->streams.size())
+        return E_INVALIDARG;
+    return CopyText(Widen(m_media->streams[stream].profileName), buffer, capacity);
+}
+
+} // namespace nle

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "EngineApi/ComObject.h"
+#include "EngineApi/INLEMedia.h"
+#include "NLECore/media/MediaInfo.h"
+
+#include <memory>
+
+namespace nle {
+
+/// Opens and describes a file for the engine; the reason of a failure goes to the engine's log.
+std::shared_ptr<const MediaInfo> DescribeFile(const QString& path);
+/// Description of media that is not there.
+std::shared_ptr<const MediaInfo> OfflineMedia(const QString& path);
+
+/// A media description as an engine object.
+class MediaInfoObject final : public ComObject<INLEMediaInfo>
+{
+public:
+    /// Identifier under which an object of this engine tells its class.
+    static constexpr _GUID ObjectId = {
+        0x9C5B40A7, 0x52B5, 0x4A0C, {0x8D, 0x55, 0x31, 0x70, 0x9E, 0x4B, 0x77, 0x02}};
+    /// The description behind an engine interface; null for another engine's object.
+    static std::shared_ptr<const MediaInfo> From(IUnknown* object);
+
+    explicit MediaInfoObject(std::shared_ptr<const MediaInfo> media) : m_media(std::move(media)) {}
+
+    HRESULT QueryInterface(REFIID iid, void** out) override;
+    HRESULT GetKind(int* kind) override;
+    HRESULT GetStreamCount(std::uint32_t* count) override;
+    HRESULT GetStream(std::uint32_t index, NLEStreamInfo* stream) override;
+    HRESULT GetFrameCountAndRate(std::uint32_t* count, NLERational* rate) override;
+    HRESULT GetFilePath(wchar_t* buffer, int capacity) override;
+
+private:
+    const std::shared_ptr<const MediaInfo> m_media;
+};
+
+/// The codecs of a file.
+class CodecObject final : public ComObject<INLECodec>
+{
+public:
+    explicit CodecObject(std::shared_ptr<const MediaInfo> media) : m_media(std::move(media)) {}
+
+    HRESULT GetMediaInfo(INLEMediaInfo** info) override;
+    HRESULT GetContainerName(wchar_t* buffer, int capacity) override;
+    HRESULT GetCodecName(std::uint32_t stream, wchar_t* buffer, int capacity) override;
+    HRESULT GetProfileName(std::uint32_t stream, wchar_t* buffer, int capacity) override;
+
+private:
+    const std::shared_ptr<const MediaInfo> m_media;
+};
+
+} // namespace nle

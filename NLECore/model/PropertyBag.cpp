@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/model/PropertyBag.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace nle {
+
+HRESULT CopyText(const std::wstring& text, wchar_t* buffer, int capacity)
+{
+    if (!buffer)
+        return E_POINTER;
+    if (capacity < 1)
+        return E_INVALIDARG;
+    const size_t length = std::min(text.size(), size_t(capacity) - 1);
+    std::copy_n(text.data(), length, buffer);
+    buffer[length] = L'\0';
+    return S_OK;
+}
+
+HRESULT PropertyBag::GetInt(const wchar_t* key, int* value)
+{
+    if (!value)
+        return E_POINTER;
+    const auto found = Find(key);
+    if (!found)
+        return E_FAIL;
+    if (const int* number = std::get_if<int>(&*found)) {
+        *value = *number;
+        return S_OK;
+    }
+    const double* number = std::get_if<double>(&*found);
+    if (!number || !(std::abs(*number) < 2147483648.0))
+        return E_FAIL;
+    *value = int(*number);
+    return S_OK;
+}
+
+HRESULT PropertyBag::GetDouble(const wchar_t* key, double* value)
+{
+    if (!value)
+        return E_POINTER;
+    const auto found = Find(key);
+    if (!found)
+        return E_FAIL;
+    if (const double* number = std::get_if<double>(&*found))
+        *value = *number;
+    else if (const int* whole = std::get_if<int>(&*found))
+        *value = *whole;
+    else
+        return E_FAIL;
+    return S_OK;
+}
+
+HRESULT PropertyBag::GetRational(const wchar_t* key, NLERational* value)
+{
+    if (!value)
+        return E_POINTER;
+    const auto found = Find(key);
+    const NLERational* rational = found ? std::get_if<NLERational>(&*found) : nullptr;
+    if (!rational)
+        return E_FAIL;
+    *value = *rational;
+    return S_OK;
+}
+
+HRESULT PropertyBag::GetString(const wchar_t* key, wchar_t* buffer, int capacity)
+{
+    const auto found = Find(key);
+    const std::wstring* text = found ? std::get_if<std::wstring>(&*found) : nullptr;
+    return text ? CopyText(*text, buffer, capacity) : E_FAIL;
+}
+
+HRESULT PropertyBag::SetString(const wchar_t* key, const wchar_t* value)
+{
+    return value ? Store(key, std::wstring(value)) : E_POINTER;
+}
+
+int PropertyBag::IntOr(const wchar_t* key, int preset) const
+{
+    const auto found = Find(key);
+    const int* number = found ? std::get_if<int>(&*found) : nullptr;
+    return number ? *number : preset;
+}
+
+std::optional<PropertyBag::Value> PropertyBag::Read(const std::wstring& key) const
+{
+    const auto found = m_values.find(key);
+    if (found == m_values.end())
+        return std::nullopt;
+    return found->second;
+}
+
+HRESULT PropertyBag::Write(const std::wstring& key, Value value)
+{
+    m_values[key] = std::move(value);
+    return S_OK;
+}
+
+HRESULT PropertyBag::Store(const wchar_t* key, Value value)
+{
+    return key ? Write(key, std::move(value)) : E_POINTER;
+}
+
+std::optional<PropertyBag::Value> PropertyBag::Find(const wchar_t* key) const
+{
+    return key ? Read(key) : std::nullopt;
+}
+
+} // namespace nle

@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/model/SourceNodes.h"
+
+#include "NLECore/media/DecoderPool.h"
+#include "NLECore/model/FrameMath.h"
+#include "NLECore/model/MediaObjects.h"
+#include "NLECore/render/Decoders.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <limits>
+
+namespace nle {
+
+namespace {
+
+NLERational RateOf(const MediaInfo& media)
+{
+    const NLERational rate = {media.frameRate.num, media.frameRate.den};
+    return IsRate(rate) ? rate : NLERational{25, 1};
+}
+
+/// A still picture, or media that is not there: it can be drawn out.
+bool IsStill(const MediaInfo& media)
+{
+    return media.kind == MediaKind::Image || media.kind == MediaKind::Offline;
+}
+
+NLERange StillRange(const NLERational& rate)
+{
+    return {0, std::max(1, ClampToInt(kStillSeconds * ToDouble(rate))) - 1};
+}
+
+int LongestStill(const NLERational& rate)
+{
+    return std::max(1, ClampToInt(kLongestStillSeconds * ToDouble(rate)));
+}
+
+HRESULT GiveStream(int stream, std::uint32_t* index)
+{
+    if (!index)
+        return E_POINTER;
+    *index = stream < 0 ? NLENoStream : std::uint32_t(stream);
+    return S_OK;
+}
+
+} // namespace
+
+MediaClip::MediaClip(std::shared_ptr<const MediaInfo> media)
+    : ComExtension(RateOf(*media)), m_media(std::move(media))
+{
+    if (IsStill(*m_media)) {
+        const NLERange range = StillRange(FrameRate());
+        SetRange(&range);
+    }
+}
+
+HRESULT MediaClip::GetFilePath(wchar_t* buffer, int capacity)
+{
+    return CopyText(m_media->path.toStdWString(), buffer, capacity);
+}
+
+HRESULT MediaClip::SetFilePath(const wchar_t* path)
+{
+    return Relink(path, 0);
+}
+
+HRESULT MediaClip::GetMediaInfo(INLEMediaInfo** info)
+{
+    if (!info)
+        return E_POINTER;
+    *info = MakeCom<MediaInfoObject>(m_media).detach();
+    return S_OK;
+}
+
+HRESULT MediaClip::GetVideoStreamIndex(std::uint32_t* index)
+{
+    return GiveStream(m_media->videoStream, index);
+}
+
+HRESULT MediaClip::GetAudioStreamIndex(std::uint32_t* index)
+{
+    return GiveStream(m_media->audioStream, index);
+}
+
+HRESULT MediaClip::GetGPUFirst(int* preference)
+{
+    if (!preference)
+        return E_POINTER;
+    *preference = m_gpuFirst;
+    return S_OK;
+}
+
+HRESULT MediaClip::SetGPUFirst(int preference)
+{
+    m_gpuFirst = preference;
+    return S_OK;
+}
+
+HRESULT MediaClip::Relink(const wchar_t* path, int /*flags*/)
+{
+    if (!path)
+        return E_POINTER;
+    std::shared_ptr<const MediaInfo> media = DescribeFile(QString::fromWCharArray(path));
+    if (!media)
+        return E_FAIL;
+    Take(std::move(media));
+    return S_OK;
+}
+
+HRESULT MediaClip::Reload()
+{
+    if (!QFileInfo::exists(m_media->path)) {
+        Take(OfflineMedia(m_media->path));
+        return S_OK;
+    }
+    return Relink(m_media->path.toStdWString().c_str(), 0);
+}
+
+void MediaClip::Take(std::shared_ptr<const MediaInfo> media)
+{
+    Decoders().Drop(m_media->path);
+    m_media = std::move(media);
+}
+
+int MediaClip::TotalLength() const
+{
+    if (IsStill(*m_media))
+        return LongestStill(FrameRate());
+    return RescaleFrame(m_media->frameCount, RateOf(*m_media), FrameRate());
+}
+
+NLESize MediaClip::PictureSize() const
+{
+    const MediaStream* stream = m_media->Stream(m_media->videoStream);
+    return stream ? NLESize{stream->width, stream->height} : NLESize{0, 0};
+}
+
+NLEComPtr<TimelineNode> MediaClip::CopyContent(bool /*deep*/) const
+{
+    NLEComPtr<MediaClip> copy = MakeCom<MediaClip>(m_media);
+    copy->m_gpuFirst = m_gpuFirst;
+    return copy;
+}
+
+void MediaClip::Describe(Layer& layer) const
+{
+    layer.kind = LayerKind::Media;
+    layer.media = m_media;
+}
+
+GeneratedClip::GeneratedClip(const NLERational& frameRate, NLESize size)
+    : TimelineNode(frameRate), m_size(size)
+{
+    const NLERange range = StillRange(frameRate);
+    SetRange(&range);
+}
+
+int GeneratedClip::TotalLength() const
+{
+    return LongestStill(FrameRate());
+}
+
+ColorClip::ColorClip(std::uint32_t argb, NLESize size, const NLERational& frameRate)
+    : GeneratedClip(frameRate, size), m_argb(argb)
+{
+}
+
+NLEComPtr<TimelineNode> ColorClip::CopyContent(bool /*deep*/) const
+{
+    return MakeCom<ColorClip>(m_argb, PictureSize(), FrameRate());
+}
+
+void ColorClip::Describe(Layer& layer) const
+{
+    layer.kind = LayerKind::Color;
+    layer.argb = m_argb;
+}
+
+TextClip::TextClip(const QString& text, const QString& family, NLESize size,
+                   const NLERational& frameRate)
+    : GeneratedClip(frameRate, size), m_text(text), m_family(family)
+{
+}
+
+NLEComPtr<TimelineNode> TextClip::CopyContent(bool /*deep*/) const
+{
+    return MakeCom<TextClip>(m_text, m_family, PictureSize(), FrameRate());
+}
+
+void TextClip::Describe(Layer& layer) const
+{
+    layer.kind = LayerKind::Text;
+    layer.text = m_text;
+    layer.family = m_family;
+}
+
+} // namespace nle

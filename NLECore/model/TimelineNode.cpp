@@ -1,0 +1,244 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/model/TimelineNode.h"
+
+#include "EngineApi/NLEKey.h"
+#include "NLECore/model/CompositeNode.h"
+#include "NLECore/model/FrameMath.h"
+
+#include <atomic>
+
+namespace nle {
+
+namespace {
+
+std::uint32_t NextId()
+{
+    static std::atomic<std::uint32_t> last{0};
+    return ++last;
+}
+
+template <typename T>
+HRESULT Give(T* out, const T& value)
+{
+    if (!out)
+        return E_POINTER;
+    *out = value;
+    return S_OK;
+}
+
+} // namespace
+
+std::optional<PropertyBag::Value> NodeBag::Read(const std::wstring& key) const
+{
+    if (m_node && key == NLEKey::Render::kRender_Framerate)
+        return m_node->FrameRate();
+    if (m_node && key == NLEKey::Render::kRender_TotalFrameCount)
+        return m_node->TotalLength();
+    return PropertyBag::Read(key);
+}
+
+HRESULT NodeBag::Write(const std::wstring& key, Value value)
+{
+    if (m_node && key == NLEKey::Render::kRender_TotalFrameCount)
+        return E_ACCESSDENIED;
+    if (m_node && key == NLEKey::Render::kRender_Framerate) {
+        const NLERational* rate = std::get_if<NLERational>(&value);
+        return rate ? m_node->SetRenderFrameRate(*rate) : E_INVALIDARG;
+    }
+    return PropertyBag::Write(key, std::move(value));
+}
+
+TimelineNode* TimelineNode::From(IUnknown* object)
+{
+    void* node = nullptr;
+    if (!object || FAILED(object->QueryInterface(NodeId, &node)))
+        return nullptr;
+    auto* result = static_cast<TimelineNode*>(node);
+    result->Release();
+    return result;
+}
+
+TimelineNode::TimelineNode(const NLERational& frameRate)
+    : m_id(NextId()), m_frameRate(frameRate), m_bag(MakeCom<NodeBag>(this))
+{
+}
+
+TimelineNode::~TimelineNode()
+{
+    m_bag->Detach();
+}
+
+HRESULT TimelineNode::QueryInterface(REFIID iid, void** out)
+{
+    if (out && iid == NodeId) {
+        *out = this;
+        AddRef();
+        return S_OK;
+    }
+    return ComObject::QueryInterface(iid, out);
+}
+
+HRESULT TimelineNode::GetInterface(REFIID iid, void** out, int /*reserved1*/, int /*reserved2*/)
+{
+    return QueryInterface(iid, out);
+}
+
+HRESULT TimelineNode::GetId(std::uint32_t* id)
+{
+    return Give(id, m_id);
+}
+
+HRESULT TimelineNode::GetParent(INLETimeline** parent)
+{
+    if (!parent)
+        return E_POINTER;
+    *parent = m_parent;
+    if (m_parent)
+        m_parent->AddRef();
+    return S_OK;
+}
+
+HRESULT TimelineNode::GetProperties(INLEProperties** properties)
+{
+    return NLEComPtr<INLEProperties>(m_bag).copyTo(properties);
+}
+
+HRESULT TimelineNode::SetRange(const NLERange* range)
+{
+    if (!range)
+        return E_POINTER;
+    m_range = *range;
+    m_hasRange = true;
+    return S_OK;
+}
+
+HRESULT TimelineNode::GetRange(NLERange* range)
+{
+    return Give(range, Range());
+}
+
+HRESULT TimelineNode::GetTotalRange(NLERange* range)
+{
+    return Give(range, NLERange{0, TotalLength() - 1});
+}
+
+HRESULT TimelineNode::SetRenderFrameRate(NLERational rate)
+{
+    if (!IsRate(rate))
+        return E_INVALIDARG;
+    ChangeRate(rate);
+    return S_OK;
+}
+
+HRESULT TimelineNode::GetRenderFrameRate(NLERational* rate)
+{
+    return Give(rate, m_frameRate);
+}
+
+HRESULT TimelineNode::SetLevel(int level)
+{
+    m_level = level;
+    return S_OK;
+}
+
+HRESULT TimelineNode::GetLevel(int* level)
+{
+    return Give(level, m_level);
+}
+
+HRESULT TimelineNode::SetPosition(int position)
+{
+    m_position = position;
+    return S_OK;
+}
+
+HRESULT TimelineNode::GetPosition(int* position)
+{
+    return Give(position, m_position);
+}
+
+HRESULT TimelineNode::SetMarginMode(tagNLEMarginMode mode)
+{
+    if (mode < NLEMargin_Fit || mode > NLEMargin_None)
+        return E_INVALIDARG;
+    m_margin = mode;
+    return S_OK;
+}
+
+HRESULT TimelineNode::GetMarginMode(tagNLEMarginMode* mode)
+{
+    return Give(mode, m_margin);
+}
+
+HRESULT TimelineNode::SetEnabled(bool enabled)
+{
+    m_enabled = enabled;
+    return S_OK;
+}
+
+HRESULT TimelineNode::GetEnabled(bool* enabled)
+{
+    return Give(enabled, m_enabled);
+}
+
+HRESULT TimelineNode::Clone(bool deep, INLETimeline** clone)
+{
+    if (!clone)
+        return E_POINTER;
+    NLEComPtr<TimelineNode> copy = CopyContent(deep);
+    copy->m_frameRate = m_frameRate;
+    copy->m_range = m_range;
+    copy->m_hasRange = m_hasRange;
+    copy->m_position = m_position;
+    copy->m_level = m_level;
+    copy->m_margin = m_margin;
+    copy->m_enabled = m_enabled;
+    copy->m_bag->SetAll(m_bag->All());
+    *clone = copy.detach();
+    return S_OK;
+}
+
+HRESULT TimelineNode::GetRenderRegion(NLERectF* region)
+{
+    const NLESize size = PictureSize();
+    return Give(region, NLERectF{0, 0, double(size.width), double(size.height)});
+}
+
+HRESULT TimelineNode::GetCurrent(bool* current)
+{
+    return Give(current, m_current);
+}
+
+HRESULT TimelineNode::SetCurrent(bool current)
+{
+    m_current = current;
+    return S_OK;
+}
+
+NLERange TimelineNode::Range() const
+{
+    return m_hasRange ? m_range : NLERange{0, TotalLength() - 1};
+}
+
+void TimelineNode::ChangeRate(const NLERational& rate)
+{
+    if (m_hasRange)
+        m_range = RescaleRange(m_range, m_frameRate, rate);
+    m_frameRate = rate;
+}
+
+Snapshot TimelineNode::MakeSnapshot() const
+{
+    auto layer = std::make_shared<Layer>();
+    layer->range = Range();
+    layer->position = m_position;
+    layer->level = m_level;
+    layer->frameRate = m_frameRate;
+    layer->margin = m_margin;
+    layer->mode = NLERenderMode(m_bag->IntOr(NLEKey::Render::kRender_Mode, NLERender_All));
+    layer->size = PictureSize();
+    Describe(*layer);
+    return layer;
+}
+
+} // namespace nle

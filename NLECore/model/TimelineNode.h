@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "EngineApi/ComObject.h"
+#include "EngineApi/INLEProperties.h"
+#include "EngineApi/INLETimeline.h"
+#include "NLECore/model/Layer.h"
+#include "NLECore/model/PropertyBag.h"
+
+namespace nle {
+
+class CompositeNode;
+class TimelineNode;
+
+/// Key under which a node's timeline type is kept, as text.
+inline constexpr const wchar_t* kTimelineTypeKey = L"key_timeline_type";
+
+/// A node's property bag: frame rate and length are live views of the node.
+class NodeBag final : public PropertyBag
+{
+public:
+    explicit NodeBag(TimelineNode* node) : m_node(node) {}
+    /// The node is gone; the bag stays with its plain values.
+    void Detach() { m_node = nullptr; }
+
+protected:
+    std::optional<Value> Read(const std::wstring& key) const override;
+    HRESULT Write(const std::wstring& key, Value value) override;
+
+private:
+    TimelineNode* m_node;
+};
+
+/// What every node of the model has in common: placement, range, rate, properties, parent.
+///
+/// The model belongs to the thread that edits; an edit changes plain data and nothing else.
+class TimelineNode : public ComObject<INLETimeline, INLEPropertyHost, INLERenderRegion>
+{
+public:
+    /// Identifier under which a node of this engine tells its class.
+    static constexpr _GUID NodeId = {
+        0x1D6E1A52, 0x0C1B, 0x4F5E, {0x9B, 0x0E, 0x6A, 0x0F, 0x55, 0x2C, 0x90, 0x13}};
+    /// The node behind an engine interface, not a new reference; null for another engine's object.
+    static TimelineNode* From(IUnknown* object);
+
+    HRESULT QueryInterface(REFIID iid, void** out) override;
+
+    HRESULT GetInterface(REFIID iid, void** out, int reserved1, int reserved2) override;
+    HRESULT GetId(std::uint32_t* id) override;
+    HRESULT GetParent(INLETimeline** parent) override;
+    HRESULT GetProperties(INLEProperties** properties) override;
+    HRESULT SetRange(const NLERange* range) override;
+    HRESULT GetRange(NLERange* range) override;
+    HRESULT GetTotalRange(NLERange* range) override;
+    HRESULT SetRenderFrameRate(NLERational rate) override;
+    HRESULT GetRenderFrameRate(NLERational* rate) override;
+    HRESULT SetLevel(int level) override;
+    HRESULT GetLevel(int* level) override;
+    HRESULT SetPosition(int position) override;
+    HRESULT GetPosition(int* position) override;
+    HRESULT SetMarginMode(tagNLEMarginMode mode) override;
+    HRESULT GetMarginMode(tagNLEMarginMode* mode) override;
+    HRESULT SetEnabled(bool enabled) override;
+    HRESULT GetEnabled(bool* enabled) override;
+    HRESULT Clone(bool deep, INLETimeline** clone) override;
+
+    HRESULT GetRenderRegion(NLERectF* region) override;
+    HRESULT GetCurrent(bool* current) override;
+    HRESULT SetCurrent(bool current) override;
+
+    /// Frames that the node has, at its render frame rate.
+    virtual int TotalLength() const = 0;
+    /// Picture size in pixels; empty when the node shows none of its own.
+    virtual NLESize PictureSize() const = 0;
+    /// Everything that a render needs of the node.
+    Snapshot MakeSnapshot() const;
+
+    /// The trim range; all frames as long as none was set.
+    NLERange Range() const;
+    bool HasOwnRange() const { return m_hasRange; }
+    const NLERational& FrameRate() const { return m_frameRate; }
+    int Position() const { return m_position; }
+    int Level() const { return m_level; }
+    bool IsEnabled() const { return m_enabled; }
+    tagNLEMarginMode MarginMode() const { return m_margin; }
+    PropertyBag& Bag() const { return *m_bag; }
+
+    CompositeNode* Parent() const { return m_parent; }
+    void SetParent(CompositeNode* parent) { m_parent = parent; }
+    /// Counts ranges at \a rate from now on, keeping the instants of in and out point.
+    virtual void ChangeRate(const NLERational& rate);
+
+protected:
+    explicit TimelineNode(const NLERational& frameRate);
+    ~TimelineNode() override;
+
+    /// A new node with the same content; placement and properties are copied by Clone.
+    virtual NLEComPtr<TimelineNode> CopyContent(bool deep) const = 0;
+    /// Adds what the node shows to \a layer, whose common fields are filled.
+    virtual void Describe(Layer& layer) const = 0;
+
+private:
+    const std::uint32_t m_id;
+    NLERange m_range = {0, -1};
+    bool m_hasRange = false;
+    NLERational m_frameRate;
+    int m_position = 0;
+    int m_level = 0;
+    tagNLEMarginMode m_margin = NLEMargin_Fit;
+    bool m_enabled = true;
+    bool m_current = false;
+    CompositeNode* m_parent = nullptr;
+    NLEComPtr<NodeBag> m_bag;
+};
+
+} // namespace nle

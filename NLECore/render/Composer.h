@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "NLECore/media/DecoderPool.h"
+#include "NLECore/model/Layer.h"
+
+#include <QImage>
+#include <QRect>
+
+#include <map>
+
+namespace nle {
+
+/// Where a picture of \a size lies on a parent of \a parentSize that is drawn \a canvas large.
+QRect PlacePicture(NLESize size, tagNLEMarginMode margin, NLESize parentSize, const QSize& canvas);
+
+/// Draws frames of a snapshot. One object serves one thread; it keeps the decoders of the layers
+/// that are playing.
+class Composer
+{
+public:
+    explicit Composer(Snapshot root);
+
+    /// The picture of the root's frame \a frame, counted from its frame 0 and not from its in
+    /// point, fitted into \a frameSize. \a place receives where in the frame it lies. Null when the
+    /// root has no picture or its media cannot be decoded.
+    QImage Render(std::int64_t frame, const QSize& frameSize, QRect* place);
+
+private:
+    QImage Content(const Layer& layer, std::int64_t frame, const QSize& size);
+    QImage MediaPicture(const Layer& layer, std::int64_t frame, const QSize& size);
+    QImage Composite(const Layer& layer, std::int64_t frame, const QSize& size);
+    void DropIdleDecoders();
+
+    struct OpenDecoder
+    {
+        DecoderPool::Lease lease;
+        bool used = false;
+    };
+
+    const Snapshot m_root;
+    std::map<const Layer*, OpenDecoder> m_decoders;
+};
+
+} // namespace nle

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "EngineApi/ComObject.h"
+#include "EngineApi/INLEFrames.h"
+#include "NLECore/model/Layer.h"
+#include "NLECore/render/MediaWriter.h"
+
+namespace nle {
+
+/// Renders a snapshot frame by frame into a media file.
+class MediaEncoder final : public ComObject<INLEMediaEncoder>
+{
+public:
+    HRESULT Open(INLETimeline* timeline, const wchar_t* path,
+                 const NLEEncodeSettings* settings) override;
+    HRESULT Encode(NLEProgressCallback callback, void* userData) override;
+
+private:
+    Snapshot m_root;
+    QString m_path;
+    NLERange m_range = {0, -1};
+    WriterSettings m_settings;
+};
+
+} // namespace nle

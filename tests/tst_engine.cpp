@@ -1,0 +1,670 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// The open engine, judged by what it shows: pixels, samples and files.
+#include "CommonLib/NLEWraper/CVCreateInstance.h"
+#include "CommonLib/NLEWraper/NLEWraper.h"
+#include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "EngineApi/INLEFactory.h"
+#include "EngineApi/INLEFrames.h"
+#include "EngineApi/INLEMedia.h"
+#include "EngineApi/INLEProperties.h"
+#include "EngineApi/INLETimeline.h"
+#include "EngineApi/NLEKey.h"
+#include "tests/support/TestMedia.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cmath>
+
+using Node = NLEComPtr<INLETimeline>;
+
+namespace {
+
+constexpr tagNLEProjectProfile kSmall = {{320, 180}, {25000000, 1000000}, 48000, 2, 3};
+constexpr int kMediaFrames = 60;
+
+void SetRange(const Node& node, int in, int out)
+{
+    const NLERange range = {in, out};
+    node->SetRange(&range);
+}
+
+NLERange RangeOf(const Node& node)
+{
+    NLERange range = {-1, -1};
+    node->GetRange(&range);
+    return range;
+}
+
+NLERange TotalOf(const Node& node)
+{
+    NLERange range = {-1, -1};
+    node->GetTotalRange(&range);
+    return range;
+}
+
+HRESULT Add(const Node& composite, const Node& clip, int position = 0, int level = 0)
+{
+    clip->SetPosition(position);
+    clip->SetLevel(level);
+    return composite.query<INLETimelineComposite>()->AddClip(clip.get());
+}
+
+int ClipCount(const Node& composite)
+{
+    int count = -1;
+    composite.query<INLETimelineComposite>()->GetClipCount(&count);
+    return count;
+}
+
+Node ClipAt(const Node& composite, int index)
+{
+    NLEComPtr<INLETimelineEnumerator> clips;
+    composite.query<INLETimelineComposite>()->GetEnumerator(1, clips.put());
+    for (int i = 0; i < index; ++i)
+        clips->Next();
+    Node clip;
+    clips->GetCurrent(clip.put());
+    return clip;
+}
+
+double Loudness(const float* samples, int count)
+{
+    double sum = 0;
+    for (int i = 0; i < count; ++i)
+        sum += double(samples[i]) * samples[i];
+    return count > 0 ? std::sqrt(sum / count) : 0.0;
+}
+
+QByteArray Contents(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class tst_Engine : public QObject
+{
+    Q_OBJECT
+
+private:
+    Node Media() const { return m_provider->CreateMediaTimeline(m_media, false); }
+    Node Project() const { return m_provider->CreateProjectTimeline(kSmall); }
+    Node Colour(const QColor& color, const QSize& size = QSize(320, 180)) const
+    {
+        return m_provider->CreateColorTimeline(color, size, 25.0f);
+    }
+    QImage Frame(const Node& node, int frame, const QSize& size = QSize(320, 180)) const;
+    double LoudnessAt(const Node& node, int frame, int samples = 1920) const;
+    bool Save(const Node& node, const QString& path) const
+    {
+        return m_provider->CreateDocumentSerialize()->Save(node.get(),
+                                                           path.toStdWString().c_str()) == S_OK;
+    }
+    Node Load(const QString& path) const
+    {
+        Node node;
+        m_provider->CreateDocumentSerialize()->Load(path.toStdWString().c_str(), node.put());
+        return node;
+    }
+    QString Path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
+
+    QTemporaryDir m_folder;
+    QString m_media;
+    PlayerMaterProvider* m_provider = nullptr;
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void catalogue();
+    void treeRefusals();
+    void rateChangesKeepInstants();
+    void clonesAreIndependent();
+    void propertiesAndLiveKeys();
+    void layersAndLevels();
+    void margins_data();
+    void margins();
+    void trimmedClipShowsItsFrames();
+    void nestedComposite();
+    void textIsDrawn();
+    void soundFollowsPlacement();
+    void waveEnvelope();
+    void encodes();
+    void encoderStopsAndFails();
+    void documentRoundTrip();
+    void documentInTheFrameworksOwnPlayer();
+    void foreignDocument();
+    void brokenDocuments_data();
+    void brokenDocuments();
+    void templates();
+    void relink();
+};
+
+QImage tst_Engine::Frame(const Node& node, int frame, const QSize& size) const
+{
+    const auto picture = m_provider->CreateVideoFrame(size.width(), size.height());
+    const auto extractor = m_provider->CreateFrameExtractor();
+    picture->Prepare();
+    if (extractor->Open(node.get(), 1) != S_OK || extractor->Extract(frame, picture.get()) != S_OK)
+        return {};
+    std::uint8_t* pixels = nullptr;
+    picture->GetData(&pixels);
+    return QImage(pixels, size.width(), size.height(), QImage::Format_ARGB32).copy();
+}
+
+double tst_Engine::LoudnessAt(const Node& node, int frame, int samples) const
+{
+    const auto sound = m_provider->CreateAudioFrame(samples);
+    const auto extractor = m_provider->CreateFrameExtractor();
+    float* data = nullptr;
+    sound->GetData(&data);
+    if (extractor->Open(node.get(), 1) != S_OK ||
+        extractor->ExtractAudio(frame, sound.get()) != S_OK)
+        return -1;
+    return Loudness(data, samples * 2);
+}
+
+void tst_Engine::initTestCase()
+{
+    m_media = Path("clip.mp4");
+    TestClip clip;
+    clip.frames = kMediaFrames;
+    clip.bframes = 2;
+    clip.audioCodec = QStringLiteral("aac");
+    QCOMPARE(MakeTestClip(m_media, clip), QString());
+    m_provider = NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
+    QVERIFY(m_provider->CreateNLEProperties());
+}
+
+void tst_Engine::cleanupTestCase()
+{
+    NLEWraper::Release();
+    CVCreateInstance::Instance()->Release();
+}
+
+void tst_Engine::catalogue()
+{
+    // What this engine offers, and that the rest is an honest null.
+    QVERIFY(m_provider->CreateProjectTimeline());
+    QVERIFY(m_provider->CreateVirtualTimeline(11));
+    QVERIFY(m_provider->CreateTipTextTimeline(QStringLiteral("a"), QStringLiteral("b")));
+    QVERIFY(m_provider->CreateCodecFromFile(m_media));
+    QVERIFY(m_provider->CreateWaveExtractor());
+    QVERIFY(!m_provider->CreateVideoFrameOpencl(16, 16));
+    QVERIFY(!m_provider->CreateVideoFrame(0, 16));
+    QVERIFY(!m_provider->CreateVideoFrame(1 << 20, 16));
+    QVERIFY(!m_provider->CreateAudioFrame(-1));
+    QVERIFY(!m_provider->CreateColorTimeline(Qt::red, QSize(0, 9), 25.0f));
+    QVERIFY(!m_provider->CreateColorTimeline(Qt::red, QSize(9, 9), qQNaN()));
+    QVERIFY(!m_provider->CreateSceneSegment());
+    QVERIFY(!m_provider->CreateAudioFilterTimeline(QStringLiteral("x")));
+    QVERIFY(!m_provider->CreateMarkBook(m_media));
+
+    wchar_t name[32] = L"";
+    const auto codec = m_provider->CreateCodecFromFile(m_media);
+    QCOMPARE(codec->GetCodecName(0, name, 32), S_OK);
+    QCOMPARE(QString::fromWCharArray(name), QStringLiteral("h264"));
+    QCOMPARE(codec->GetCodecName(9, name, 32), E_INVALIDARG);
+}
+
+void tst_Engine::treeRefusals()
+{
+    const Node project = Project();
+    const Node inner = m_provider->CreateVirtualTimeline(0);
+    const auto composite = project.query<INLETimelineComposite>();
+    const auto innerComposite = inner.query<INLETimelineComposite>();
+    QCOMPARE(composite->AddClip(nullptr), E_INVALIDARG);
+    QCOMPARE(composite->AddClip(project.get()), E_INVALIDARG);
+    QCOMPARE(composite->AddClip(inner.get()), S_OK);
+    QCOMPARE(composite->AddClip(inner.get()), E_INVALIDARG);
+    QCOMPARE(innerComposite->AddClip(project.get()), E_INVALIDARG);
+    QCOMPARE(innerComposite->RemoveClip(project.get()), E_INVALIDARG);
+
+    Node parent;
+    inner->GetParent(parent.put());
+    QVERIFY(parent == project);
+    QCOMPARE(composite->RemoveClip(inner.get()), S_OK);
+    QCOMPARE(composite->RemoveClip(inner.get()), E_INVALIDARG);
+    inner->GetParent(parent.put());
+    QVERIFY(!parent);
+
+    // A clip outlives the composite that held it.
+    Node holder = m_provider->CreateVirtualTimeline(0);
+    QCOMPARE(Add(holder, inner), S_OK);
+    holder.reset();
+    inner->GetParent(parent.put());
+    QVERIFY(!parent);
+}
+
+void tst_Engine::rateChangesKeepInstants()
+{
+    tagNLEProjectProfile profile = kSmall;
+    profile.frameRate = {50, 1};
+    const Node project = m_provider->CreateProjectTimeline(profile);
+    const Node clip = Media();
+    QCOMPARE(TotalOf(clip).out, kMediaFrames - 1);
+    SetRange(clip, 10, 19);
+    Add(project, clip, 100);
+    QCOMPARE(RangeOf(clip).in, 20);
+    QCOMPARE(RangeOf(clip).out, 39);
+    QCOMPARE(TotalOf(clip).out, 2 * kMediaFrames - 1);
+    QCOMPARE(TotalOf(project).out, 119);
+    QCOMPARE(ReadFrameNumber(Frame(project, 107)), 13);
+
+    profile.frameRate = {25, 1};
+    QCOMPARE(project.query<INLEProjectSetting>()->SetProfile(&profile), S_OK);
+    int position = 0;
+    clip->GetPosition(&position);
+    QCOMPARE(position, 50);
+    QCOMPARE(RangeOf(clip).in, 10);
+    QCOMPARE(RangeOf(clip).out, 19);
+    QCOMPARE(clip->SetRenderFrameRate({0, 1}), E_INVALIDARG);
+}
+
+void tst_Engine::clonesAreIndependent()
+{
+    const Node project = Project();
+    Add(project, Colour(Qt::red), 5, 3);
+    Node deep;
+    Node shallow;
+    QCOMPARE(project->Clone(true, deep.put()), S_OK);
+    QCOMPARE(project->Clone(false, shallow.put()), S_OK);
+    QCOMPARE(ClipCount(deep), 1);
+    QCOMPARE(ClipCount(shallow), 0);
+    const Node copy = ClipAt(deep, 0);
+    QVERIFY(copy != ClipAt(project, 0));
+    copy->SetPosition(40);
+    QCOMPARE(TotalOf(project).out, 5 + 124);
+    QCOMPARE(TotalOf(deep).out, 40 + 124);
+    int level = 0;
+    copy->GetLevel(&level);
+    QCOMPARE(level, 3);
+}
+
+void tst_Engine::propertiesAndLiveKeys()
+{
+    const Node clip = Media();
+    NLEComPtr<INLEProperties> bag;
+    clip->GetProperties(bag.put());
+    int length = 0;
+    QCOMPARE(bag->GetInt(NLEKey::Render::kRender_TotalFrameCount, &length), S_OK);
+    QCOMPARE(length, kMediaFrames);
+    QVERIFY(FAILED(bag->SetInt(NLEKey::Render::kRender_TotalFrameCount, 1)));
+    QCOMPARE(bag->SetRational(NLEKey::Render::kRender_Framerate, {50, 1}), S_OK);
+    QCOMPARE(TotalOf(clip).out, 2 * kMediaFrames - 1);
+
+    wchar_t text[4] = L"abc";
+    QVERIFY(FAILED(bag->GetString(L"none", text, 4)));
+    QCOMPARE(text[0], L'a');
+    bag->SetString(L"key", L"longer");
+    QCOMPARE(bag->GetString(L"key", text, 4), S_OK);
+    QCOMPARE(QString::fromWCharArray(text), QStringLiteral("lon"));
+    QVERIFY(FAILED(bag->GetInt(L"key", &length)));
+    bag->SetDouble(L"huge", 1e300);
+    QVERIFY(FAILED(bag->GetInt(L"huge", &length)));
+
+    // The bag outlives its node.
+    Node other = Media();
+    other->GetProperties(bag.put());
+    other.reset();
+    QVERIFY(FAILED(bag->GetInt(NLEKey::Render::kRender_TotalFrameCount, &length)));
+}
+
+void tst_Engine::layersAndLevels()
+{
+    const Node project = Project();
+    const Node low = Colour(Qt::red);
+    const Node high = Colour(Qt::blue);
+    SetRange(low, 0, 9);
+    SetRange(high, 0, 4);
+    Add(project, high, 5, 2);
+    Add(project, low, 2, 1);
+    const auto colourAt = [&](int frame) { return Frame(project, frame).pixelColor(160, 90); };
+    QCOMPARE(colourAt(0), QColor(Qt::black));
+    QCOMPARE(colourAt(2), QColor(Qt::red));
+    QCOMPARE(colourAt(5), QColor(Qt::blue));
+    QCOMPARE(colourAt(10), QColor(Qt::red));
+    QVERIFY(Frame(project, 12).isNull());
+    QVERIFY(Frame(project, -1).isNull());
+
+    high->SetEnabled(false);
+    QCOMPARE(colourAt(5), QColor(Qt::red));
+    high->SetEnabled(true);
+    high->SetLevel(0);
+    QCOMPARE(colourAt(5), QColor(Qt::red));
+
+    NLEComPtr<INLEProperties> bag;
+    project->GetProperties(bag.put());
+    bag->SetInt(NLEKey::Render::kRender_BackgroundColor, int(0xFF00FF00u));
+    QCOMPARE(colourAt(0), QColor(Qt::green));
+}
+
+void tst_Engine::margins_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QRect>("shown");
+    QTest::newRow("fit: bars left and right")
+        << int(NLEMargin_Fit) << QSize(100, 100) << QRect(70, 0, 180, 180);
+    QTest::newRow("fit: bars above and below")
+        << int(NLEMargin_Fit) << QSize(320, 90) << QRect(0, 45, 320, 90);
+    QTest::newRow("fill") << int(NLEMargin_Fill) << QSize(10, 10) << QRect(0, 0, 320, 180);
+    QTest::newRow("stretch") << int(NLEMargin_Stretch) << QSize(7, 99) << QRect(0, 0, 320, 180);
+    QTest::newRow("pixel for pixel")
+        << int(NLEMargin_None) << QSize(100, 40) << QRect(110, 70, 100, 40);
+    QTest::newRow("a very long picture")
+        << int(NLEMargin_Fill) << QSize(1, 100000) << QRect(0, 0, 320, 180);
+}
+
+void tst_Engine::margins()
+{
+    QFETCH(int, mode);
+    QFETCH(QSize, size);
+    QFETCH(QRect, shown);
+    const Node project = Project();
+    const Node clip = Colour(Qt::red, size);
+    clip->SetMarginMode(tagNLEMarginMode(mode));
+    Add(project, clip);
+    const QImage frame = Frame(project, 0);
+    const QRect inside = shown.adjusted(1, 1, -1, -1);
+    QCOMPARE(frame.pixelColor(inside.topLeft()), QColor(Qt::red));
+    QCOMPARE(frame.pixelColor(inside.bottomRight()), QColor(Qt::red));
+    const QRect outside = shown.adjusted(-2, -2, 2, 2);
+    for (const QPoint& corner : {outside.topLeft(), outside.bottomRight()}) {
+        if (frame.rect().contains(corner))
+            QCOMPARE(frame.pixelColor(corner), QColor(Qt::black));
+    }
+}
+
+void tst_Engine::trimmedClipShowsItsFrames()
+{
+    const Node project = Project();
+    const Node clip = Media();
+    SetRange(clip, 7, 36);
+    Add(project, clip, 10);
+    QCOMPARE(ReadFrameNumber(Frame(project, 10)), 7);
+    QCOMPARE(ReadFrameNumber(Frame(project, 39)), 36);
+    QCOMPARE(ReadFrameNumber(Frame(project, 25)), 22);
+    // A clip alone counts from the file's first frame.
+    QCOMPARE(ReadFrameNumber(Frame(clip, 0)), 0);
+    QCOMPARE(ReadFrameNumber(Frame(clip, kMediaFrames - 1)), kMediaFrames - 1);
+    QVERIFY(Frame(clip, kMediaFrames).isNull());
+}
+
+void tst_Engine::nestedComposite()
+{
+    const Node project = Project();
+    const Node inner = m_provider->CreateVirtualTimeline(0);
+    Add(inner, Media(), 5);
+    SetRange(inner, 10, 29);
+    Add(project, Colour(Qt::red), 0, 0);
+    Add(project, inner, 50, 1);
+    QCOMPARE(Frame(project, 49).pixelColor(5, 5), QColor(Qt::red));
+    QCOMPARE(ReadFrameNumber(Frame(project, 50)), 5);
+    QCOMPARE(Frame(project, 70).pixelColor(5, 5), QColor(Qt::red));
+    const auto extended = project.query<INLETimelineCompositeEx>();
+    NLEComPtr<INLETimelineEnumerator> all;
+    extended->GetEnumerator(1, 1, all.put());
+    int count = 1;
+    while (all->Next() == S_OK)
+        ++count;
+    QCOMPARE(count, 3);
+}
+
+void tst_Engine::textIsDrawn()
+{
+    const Node text = m_provider->CreateTipTextTimeline(QStringLiteral("HHHHH"), QString());
+    const QImage frame = Frame(text, 0);
+    QCOMPARE(frame.pixelColor(2, 2).alpha(), 0);
+    int white = 0;
+    for (int y = 0; y < frame.height(); ++y) {
+        for (int x = 0; x < frame.width(); ++x)
+            white += frame.pixelColor(x, y).alpha() > 128;
+    }
+    QVERIFY2(white > 100 && white < 1500, qPrintable(QString::number(white)));
+}
+
+void tst_Engine::soundFollowsPlacement()
+{
+    // A sine of level 0.5 has a loudness of 0.354.
+    const Node project = Project();
+    const Node clip = Media();
+    SetRange(clip, 0, 24);
+    Add(project, clip, 25);
+    Add(project, Colour(Qt::red), 0, 5);
+    QVERIFY(LoudnessAt(project, 10) == 0.0);
+    QVERIFY(std::abs(LoudnessAt(project, 35) - 0.354) < 0.02);
+    QVERIFY(LoudnessAt(project, 50) == 0.0);
+    const Node twin = Media();
+    Add(project, twin, 25);
+    QVERIFY(std::abs(LoudnessAt(project, 35) - 0.707) < 0.04);
+    NLEComPtr<INLEProperties> bag;
+    twin->GetProperties(bag.put());
+    bag->SetInt(NLEKey::Render::kRender_Mode, NLERender_VideoOnly);
+    QVERIFY(std::abs(LoudnessAt(project, 35) - 0.354) < 0.02);
+    twin->SetEnabled(false);
+    QVERIFY(std::abs(LoudnessAt(project, 35) - 0.354) < 0.02);
+}
+
+void tst_Engine::waveEnvelope()
+{
+    const Node clip = Media();
+    NLEComPtr<INLEMediaInfo> info;
+    std::uint32_t stream = 0;
+    clip.query<INLETimelineSource>()->GetMediaInfo(info.put());
+    clip.query<INLETimelineSource>()->GetAudioStreamIndex(&stream);
+    const auto wave = m_provider->CreateWaveExtractor();
+    float minima[8] = {};
+    float maxima[8] = {};
+    QVERIFY(FAILED(wave->Extract(0, 1, 8, minima, maxima)));
+    QCOMPARE(wave->SetSource(info.get(), stream), S_OK);
+    QCOMPARE(wave->Extract(0.5, 1.0, 8, minima, maxima), S_OK);
+    for (int i = 0; i < 8; ++i) {
+        QVERIFY(std::abs(maxima[i] - 0.5f) < 0.05f);
+        QVERIFY(std::abs(minima[i] + 0.5f) < 0.05f);
+    }
+    QCOMPARE(wave->Extract(qQNaN(), 1.0, 8, minima, maxima), E_INVALIDARG);
+    QCOMPARE(wave->Extract(0, qInf(), 8, minima, maxima), E_INVALIDARG);
+    QCOMPARE(wave->Extract(0, 1, 0, minima, maxima), E_INVALIDARG);
+}
+
+void tst_Engine::encodes()
+{
+    const Node project = Project();
+    const Node clip = Media();
+    SetRange(clip, 20, 39);
+    Add(project, clip, 5);
+    const auto encoder = m_provider->CreateMediaEncoder();
+    const QString path = Path("encoded film.mp4");
+    QCOMPARE(encoder->Open(project.get(), path.toStdWString().c_str(), nullptr), S_OK);
+    int last = -1;
+    QCOMPARE(encoder->Encode(
+                 [](int percent, void* data) {
+                     *static_cast<int*>(data) = percent;
+                     return 0;
+                 },
+                 &last),
+             S_OK);
+    QCOMPARE(last, 100);
+    const Node film = m_provider->CreateMediaTimeline(path, false);
+    QVERIFY(film);
+    QCOMPARE(TotalOf(film).out, 24);
+    QCOMPARE(ReadFrameNumber(Frame(film, 5)), 20);
+    QCOMPARE(ReadFrameNumber(Frame(film, 24)), 39);
+    QVERIFY(LoudnessAt(film, 1) < 0.01);
+    QVERIFY(std::abs(LoudnessAt(film, 15) - 0.354) < 0.03);
+}
+
+void tst_Engine::encoderStopsAndFails()
+{
+    const Node clip = Media();
+    const auto encoder = m_provider->CreateMediaEncoder();
+    const QString path = Path("stopped.mkv");
+    QCOMPARE(encoder->Encode(nullptr, nullptr), E_FAIL);
+    QCOMPARE(encoder->Open(clip.get(), path.toStdWString().c_str(), nullptr), S_OK);
+    const auto stopAtHalf = [](int percent, void*) { return percent >= 50 ? 1 : 0; };
+    QCOMPARE(encoder->Encode(stopAtHalf, nullptr), S_FALSE);
+    QVERIFY(QDir(m_folder.path()).entryList({QStringLiteral("stopped*")}).isEmpty());
+    for (const char* bad : {"no/such/folder/x.mp4", "film.unknownsuffix"}) {
+        const std::wstring name = Path(bad).toStdWString();
+        QCOMPARE(encoder->Open(clip.get(), name.c_str(), nullptr), S_OK);
+        QVERIFY(FAILED(encoder->Encode(nullptr, nullptr)));
+    }
+    QCOMPARE(encoder->Open(Project().get(), L"/tmp/empty.mp4", nullptr), E_INVALIDARG);
+}
+
+void tst_Engine::documentRoundTrip()
+{
+    const Node project = Project();
+    const Node clip = Media();
+    SetRange(clip, 7, 36);
+    clip->SetMarginMode(NLEMargin_Fill);
+    NLEComPtr<INLEProperties> bag;
+    clip->GetProperties(bag.put());
+    bag->SetString(L"Key_TimelineGuid", L"a <&> \u00fc");
+    bag->SetDouble(L"d", 1.0 / 3);
+    bag->SetRational(NLEKey::Speed::kScale, {50000000, 100000000});
+    Add(project, clip, 10, 1);
+    Add(project, Colour(QColor(1, 2, 3, 128)), -5, 2);
+    const Node hidden = Colour(Qt::green);
+    hidden->SetEnabled(false);
+    Add(project, hidden, 3, 7);
+    const Node inner = m_provider->CreateVirtualTimeline(11);
+    const Node text = m_provider->CreateTipTextTimeline(QStringLiteral("two\nlines"),
+                                                        QStringLiteral("DejaVu Sans"));
+    SetRange(text, 4, 3);
+    Add(inner, text, 8);
+    Add(project, inner, 60, 1);
+    Add(project, m_provider->CreateMediaTimeline(Path("gone.mp4"), true), 200, 1);
+
+    const QString first = Path("first.mlt");
+    const QString second = Path("second.mlt");
+    QVERIFY(Save(project, first));
+    const Node loaded = Load(first);
+    QVERIFY(loaded);
+    QVERIFY(Save(loaded, second));
+    QCOMPARE(QString::fromUtf8(Contents(second)), QString::fromUtf8(Contents(first)));
+
+    QCOMPARE(ClipCount(loaded), 5);
+    QCOMPARE(RangeOf(ClipAt(loaded, 0)).in, 7);
+    wchar_t guid[16] = L"";
+    ClipAt(loaded, 0)->GetProperties(bag.put());
+    bag->GetString(L"Key_TimelineGuid", guid, 16);
+    QCOMPARE(QString::fromWCharArray(guid), QStringLiteral("a <&> \u00fc"));
+    double third = 0;
+    bag->GetDouble(L"d", &third);
+    QCOMPARE(third, 1.0 / 3);
+    for (int frame : {0, 15, 39, 80})
+        QCOMPARE(Frame(loaded, frame), Frame(project, frame));
+}
+
+void tst_Engine::documentInTheFrameworksOwnPlayer()
+{
+    if (QStandardPaths::findExecutable(QStringLiteral("melt")).isEmpty())
+        QSKIP("the framework's player, melt, is not installed");
+    const Node project = Project();
+    const Node clip = Media();
+    SetRange(clip, 20, 39);
+    Add(project, clip, 10);
+    const QString document = Path("player.mlt");
+    QVERIFY(Save(project, document));
+    QProcess melt;
+    melt.start(QStringLiteral("melt"),
+               {document, QStringLiteral("in=15"), QStringLiteral("out=15"),
+                QStringLiteral("-consumer"), QStringLiteral("avformat:") + Path("frame.png"),
+                QStringLiteral("vcodec=png"), QStringLiteral("f=image2"),
+                QStringLiteral("update=1"), QStringLiteral("an=1")});
+    QVERIFY(melt.waitForFinished(60000));
+    QCOMPARE(ReadFrameNumber(QImage(Path("frame.png"))), 25);
+}
+
+void tst_Engine::foreignDocument()
+{
+    // As other editors write: clock values, shared producers, a background track, unknown elements.
+    QFile file(Path("foreign.mlt"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(R"(<?xml version="1.0"?><mlt LC_NUMERIC="C" producer="main">
+        <profile width="320" height="180" frame_rate_num="25" frame_rate_den="1"/>
+        <producer id="black"><property name="mlt_service">color</property></producer>
+        <chain id="c"><property name="resource">clip.mp4</property>
+            <property name="mlt_service">avformat-novalidate</property><link/></chain>
+        <playlist id="v1"><entry producer="c" in="00:00:00.400" out="00:00:00.760"/>
+            <blank length="00:00:00.400"/><entry producer="c" in="30" out="39"/></playlist>
+        <tractor id="main"><multitrack><track producer="black"/><track producer="v1"/></multitrack>
+            <filter><property name="x">y</property></filter></tractor></mlt>)");
+    file.close();
+    const Node project = Load(file.fileName());
+    QVERIFY(project);
+    QCOMPARE(ClipCount(project), 2);
+    QCOMPARE(TotalOf(project).out, 29);
+    QCOMPARE(ReadFrameNumber(Frame(project, 0)), 10);
+    QCOMPARE(ReadFrameNumber(Frame(project, 9)), 19);
+    QCOMPARE(ReadFrameNumber(Frame(project, 20)), 30);
+}
+
+void tst_Engine::brokenDocuments_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("not XML") << QByteArray("hello");
+    QTest::newRow("cut short") << QByteArray("<mlt><producer id='a'>");
+    QTest::newRow("another kind of document") << QByteArray("<html/>");
+    QTest::newRow("no timeline") << QByteArray("<mlt/>");
+    QTest::newRow("a missing root") << QByteArray("<mlt producer='x'/>");
+}
+
+void tst_Engine::brokenDocuments()
+{
+    QFETCH(QByteArray, text);
+    QFile file(Path("broken.mlt"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(text);
+    file.close();
+    QVERIFY(!Load(file.fileName()));
+
+    // A playlist that contains itself ends as an empty one.
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<mlt><playlist id='p'><entry producer='p' in='0' out='9'/></playlist></mlt>");
+    file.close();
+    QCOMPARE(ClipCount(Load(file.fileName())), 0);
+}
+
+void tst_Engine::templates()
+{
+    const QString folder = Path("template");
+    QVERIFY(QDir().mkpath(folder));
+    QVERIFY(QFile::copy(m_media, folder + QStringLiteral("/clip.mp4")));
+    const Node project = Project();
+    Add(project, m_provider->CreateMediaTimeline(folder + QStringLiteral("/clip.mp4"), false));
+    QVERIFY(Save(project, folder + QStringLiteral("/Template.mlt")));
+    // Media inside of the template moves with it.
+    QVERIFY(QDir().rename(folder, Path("moved")));
+    const Node loaded = m_provider->CreateTimelineFromTemplate(Path("moved"));
+    QVERIFY(loaded);
+    QCOMPARE(ReadFrameNumber(Frame(loaded, 12)), 12);
+    QVERIFY(!m_provider->CreateTimelineFromTemplate(m_folder.path()));
+}
+
+void tst_Engine::relink()
+{
+    const Node clip = Media();
+    const auto relink = clip.query<INLEMediaRelink>();
+    const QString moved = Path("moved clip.mp4");
+    QVERIFY(QFile::copy(m_media, moved));
+    QVERIFY(FAILED(relink->Relink(Path("none.mp4").toStdWString().c_str(), 0)));
+    QCOMPARE(ReadFrameNumber(Frame(clip, 3)), 3);
+    QCOMPARE(relink->Relink(moved.toStdWString().c_str(), 0), S_OK);
+    QCOMPARE(relink->Reload(), S_OK);
+    wchar_t path[512] = L"";
+    clip.query<INLETimelineSource>()->GetFilePath(path, 512);
+    QCOMPARE(QString::fromWCharArray(path), moved);
+    QVERIFY(QFile::remove(moved));
+    QCOMPARE(relink->Reload(), S_OK);
+    QVERIFY(Frame(clip, 3).isNull());
+}
+
+QTEST_MAIN(tst_Engine)
+#include "tst_engine.moc"
