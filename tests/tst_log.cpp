@@ -145,7 +145,8 @@ private slots:
         const Log log = OpenLog(m_path);
         Say(log, QByteArray(20000, 'x').constData()); // leaves nothing behind in the buffer
         const int before = Content(m_path).size();
-        const QDateTime start = QDateTime::currentDateTime().addSecs(-1);
+        // Whole seconds, of a clock that may lag by a tick.
+        const QDateTime start = QDateTime::currentDateTime().addSecs(-2);
         log->LogWarn(file.constData(), function.constData(), -212, "%s", message.constData());
         const QByteArray line = Content(m_path).mid(before);
         const QByteArray stamp = line.left(21);
