@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// Thumbnails of 160 x 90 from 1080p H.264 through the decoder pool, beside a plain use of FFmpeg.
+#include "NLECore/media/DecoderPool.h"
+#include "NLECore/media/MediaInfo.h"
+#include "PlainDecoder.h"
+#include "TestMedia.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <random>
+#include <vector>
+
+namespace {
+
+constexpr int FrameCount = 250;
+constexpr int Rounds = 5;
+constexpr int RandomFrames = 20;
+const QSize Thumbnail(160, 90);
+
+double Median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+double MillisecondsOf(const std::function<void()>& work)
+{
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return double(timer.nsecsElapsed()) / 1e6;
+}
+
+bool MakeClip(const QString& path, int gop)
+{
+    const QString source =
+        QStringLiteral("testsrc2=size=1920x1080:rate=25,noise=alls=6:allf=t,format=yuv420p");
+    const QString failure =
+        RunFfmpeg({"-f", "lavfi", "-i", source, "-frames:v", QString::number(FrameCount), "-c:v",
+                   "libx264", "-preset", "veryfast", "-bf", "3", "-g", QString::number(gop),
+                   "-keyint_min", QString::number(gop), "-sc_threshold", "0", path});
+    if (!failure.isEmpty())
+        std::fprintf(stderr, "%s\n", qPrintable(failure));
+    return failure.isEmpty();
+}
+
+// Both sides take turns, so that a change of the machine's speed meets both.
+void Compare(const char* title, int frames, const std::function<void(int)>& own,
+             const std::function<void(int)>& peer)
+{
+    std::vector<double> ownTimes;
+    std::vector<double> peerTimes;
+    for (int round = 0; round < Rounds; ++round) {
+        const bool isOwnFirst = round % 2 == 0;
+        if (isOwnFirst)
+            ownTimes.push_back(MillisecondsOf([&] { own(round); }));
+        peerTimes.push_back(MillisecondsOf([&] { peer(round); }));
+        if (!isOwnFirst)
+            ownTimes.push_back(MillisecondsOf([&] { own(round); }));
+    }
+    std::printf("%-28s own %7.2f ms  plain %7.2f ms per frame  ratio %.2f\n", title,
+                Median(ownTimes) / frames, Median(peerTimes) / frames,
+                Median(ownTimes) / Median(peerTimes));
+}
+
+bool Run(const QString& path, int gop, int threads)
+{
+    if (!MakeClip(path, gop))
+        return false;
+    QString error;
+    const auto info = nle::ProbeMedia(path, &error);
+    const auto plain = PlainDecoder::Open(path, threads);
+    if (!info || !plain) {
+        std::fprintf(stderr, "%s\n", qPrintable(error));
+        return false;
+    }
+    nle::DecoderPool pool;
+    const auto picture = [&](int frame) {
+        return pool.Acquire(info, info->videoStream, nle::DecodePurpose::Thumbnail, frame)
+            ->Picture(frame, Thumbnail);
+    };
+    const auto randomFrames = [](int round) {
+        std::mt19937 generator(unsigned(round) + 1);
+        std::vector<int> frames;
+        for (int i = 0; i < RandomFrames; ++i)
+            frames.push_back(int(generator() % FrameCount));
+        return frames;
+    };
+
+    int equal = 0;
+    for (int frame : randomFrames(100))
+        equal += picture(frame) == plain->At(frame, Thumbnail) ? 1 : 0;
+    std::printf("group of %d: %d of %d random pictures equal those of the peer\n", gop, equal,
+                RandomFrames);
+    Compare(
+        "  every frame in sequence", FrameCount,
+        [&](int) {
+            for (int frame = 0; frame < FrameCount; ++frame)
+                picture(frame);
+        },
+        [&](int) {
+            plain->Rewind();
+            while (!plain->Next(Thumbnail).isNull()) {
+            }
+        });
+    Compare(
+        "  random frames", RandomFrames,
+        [&](int round) {
+            for (int frame : randomFrames(round))
+                picture(frame);
+        },
+        [&](int round) {
+            for (int frame : randomFrames(round))
+                plain->At(frame, Thumbnail);
+        });
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QTemporaryDir folder;
+    // As many as the decoders of the pool take.
+    const int threads = std::clamp(QThread::idealThreadCount(), 1, 4);
+    std::printf("%d decoding threads on both sides\n", threads);
+    for (int gop : {25, 250}) {
+        if (!Run(folder.filePath(QStringLiteral("gop%1.mp4").arg(gop)), gop, threads))
+            return 1;
+    }
+    return 0;
+}
