@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/MediaJob.h"
+
+#include "CommonLib/BaseLog.h"
+#include "CommonLib/NLEWraper/NLETimeline.h"
+#include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "EngineApi/INLEFrames.h"
+#include "EngineApi/INLEMedia.h"
+#include "Host/Console.h"
+#include "Host/ContactSheet.h"
+#include "Host/MediaReport.h"
+#include "Host/OutputFolder.h"
+#include "Host/Timecode.h"
+#include "Host/WaveSheet.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
+
+namespace {
+
+constexpr unsigned int sheetPictures = 12;
+
+/// Why the file cannot even be handed to the engine; empty when it can. Opening anything but a
+/// regular file might wait for ever.
+QString obstacle(const QFileInfo& file)
+{
+    if (!file.exists())
+        return QStringLiteral("does not exist");
+    if (file.isDir())
+        return QStringLiteral("is a folder, not a media file");
+    if (!file.isFile())
+        return QStringLiteral("is not a regular file");
+    if (file.size() == 0)
+        return QStringLiteral("is empty");
+    if (!file.isReadable())
+        return QStringLiteral("may not be read by this user");
+    return {};
+}
+
+/// Frame numbers spread evenly from the first to the last, each one once.
+QVector<int> spreadFrames(unsigned int frames)
+{
+    const unsigned int count = qMin(frames, sheetPictures);
+    QVector<int> result;
+    for (unsigned int index = 0; index < count; ++index)
+        result << (count > 1 ? int(quint64(index) * (frames - 1) / (count - 1)) : 0);
+    return result;
+}
+
+} // namespace
+
+MediaJob::MediaJob(PlayerMaterProvider& provider, Console& console, OutputFolder& output)
+    : m_provider(provider), m_console(console), m_output(output)
+{
+}
+
+bool MediaJob::run(const QString& path)
+{
+    m_path = path;
+    m_console.print();
+    m_console.print(path);
+    const QString reason = obstacle(QFileInfo(path));
+    if (!reason.isEmpty()) {
+        explain(reason);
+        return true;
+    }
+    const NLEComPtr<INLETimeline> node =
+        m_provider.CreateMediaTimeline(QFileInfo(path).absoluteFilePath(), true);
+    if (!node) {
+        explain(QStringLiteral("cannot be read as media"));
+        return true;
+    }
+
+    NLETimeline timeline(node, ExactType_Unknown, nullptr);
+    const MediaReport report(timeline);
+    for (const QString& line : report.lines())
+        m_console.print(QStringLiteral("  ") + line);
+    if (report.pictureShape() > 0)
+        return makeContactSheet(timeline, report);
+    if (report.audio)
+        return makeWaveSheet(timeline, report);
+    explain(QStringLiteral("holds neither picture nor sound"));
+    return true;
+}
+
+bool MediaJob::makeContactSheet(NLETimeline& timeline, const MediaReport& report)
+{
+    const QVector<int> frames = spreadFrames(report.frames);
+    if (frames.isEmpty()) {
+        explain(QStringLiteral("has no frames"));
+        return true;
+    }
+    ContactSheet sheet(report.pictureShape(), frames.size());
+    const QSize size = sheet.pictureSize();
+    int failures = 0;
+    for (int index = 0; index < frames.size(); ++index) {
+        const int frame = frames[index];
+        const QString timecode = TimecodeText(frame, double(report.rate));
+        const bool last = index + 1 == frames.size();
+        const QImage picture =
+            timeline.GetThumbnailFromMediaInfo(frame, size.width(), size.height(), false, last);
+        failures += picture.isNull() ? 1 : 0;
+        if (report.image)
+            sheet.add(picture, {}, {});
+        else
+            sheet.add(picture, timecode, QStringLiteral("frame %1").arg(frame));
+        m_console.progress(
+            QStringLiteral("  picture %1 of %2: frame %3, %4%5")
+                .arg(index + 1)
+                .arg(frames.size())
+                .arg(frame)
+                .arg(timecode, picture.isNull() ? QStringLiteral(", not decoded") : QString()));
+    }
+    if (failures == frames.size()) {
+        explain(QStringLiteral("none of its pictures can be decoded"));
+        return true;
+    }
+    if (failures > 0)
+        explain(QStringLiteral("%1 of %2 pictures cannot be decoded; the file may be damaged")
+                    .arg(failures)
+                    .arg(frames.size()));
+    return save(sheet.paint(QFileInfo(m_path).fileName(), report.summary()));
+}
+
+bool MediaJob::makeWaveSheet(NLETimeline& timeline, const MediaReport& report)
+{
+    const NLEComPtr<INLEWaveExtractor> extractor = m_provider.CreateWaveExtractor();
+    const NLEComPtr<INLEMediaInfo> info = timeline.GetTimelineMediaInfo();
+    const double seconds = report.seconds();
+    bool measured =
+        extractor && seconds > 0 &&
+        SUCCEEDED(extractor->SetSource(info.get(), report.firstStream(NLEStream_Audio)));
+
+    // In parts, so that a long recording shows how far it is.
+    constexpr int parts = 8;
+    const int steps = WaveSheet::stepCount();
+    QVector<float> minima(steps);
+    QVector<float> maxima(steps);
+    for (int part = 0; measured && part < parts; ++part) {
+        const int first = steps * part / parts;
+        const int count = steps * (part + 1) / parts - first;
+        measured =
+            SUCCEEDED(extractor->Extract(seconds * first / steps, seconds * count / steps, count,
+                                         minima.data() + first, maxima.data() + first));
+        m_console.progress(QStringLiteral("  wave form: part %1 of %2").arg(part + 1).arg(parts));
+    }
+    if (extractor)
+        extractor->Finish();
+    if (!measured) {
+        explain(QStringLiteral("its sound cannot be decoded"));
+        return true;
+    }
+    return save(
+        WaveSheet::paint(QFileInfo(m_path).fileName(), report.summary(), minima, maxima, seconds));
+}
+
+bool MediaJob::save(const QImage& page)
+{
+    const QString path = m_output.pictureFor(m_path);
+    if (!page.save(path)) {
+        explain(QStringLiteral("the result cannot be written to %1").arg(path));
+        return false;
+    }
+    m_console.print(QStringLiteral("  written: ") + QDir::toNativeSeparators(path));
+    return true;
+}
+
+void MediaJob::explain(const QString& reason)
+{
+    m_console.print(QStringLiteral("  %1: %2").arg(QFileInfo(m_path).fileName(), reason));
+    GetGlobalLogInstance()->LogWarn("Host/MediaJob", "MediaJob::explain", __LINE__, "%s: %s",
+                                    m_path.toUtf8().constData(), reason.toUtf8().constData());
+}

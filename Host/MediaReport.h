@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "EngineApi/NLETypes.h"
+
+#include <QSizeF>
+#include <QStringList>
+#include <QVector>
+
+class NLETimeline;
+
+/// What a media file is, as asked from the timeline object that wraps it.
+struct MediaReport
+{
+    explicit MediaReport(NLETimeline& timeline);
+
+    /// First stream of a type; NLENoStream when there is none.
+    std::uint32_t firstStream(NLEStreamType type) const;
+    /// Width over height as displayed, pixel shape included; 0 without a picture.
+    double pictureShape() const;
+    /// Length in seconds; 0 when the rate is unknown.
+    double seconds() const;
+    /// "Video, 1280 × 720, 25 fps, 250 frames, 00:00:10:00"
+    QString summary() const;
+    /// The summary and a line for each stream.
+    QStringList lines() const;
+
+    bool image;
+    bool video;
+    bool audio;
+    QSizeF size; ///< as displayed, in pixels
+    float rate;
+    unsigned int frames;
+    QVector<NLEStreamInfo> streams;
+};

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/WaveSheet.h"
+
+#include "Host/SheetStyle.h"
+#include "Host/Timecode.h"
+
+#include <QPainter>
+#include <QtMath>
+
+using namespace SheetStyle;
+
+namespace {
+
+constexpr int waveHeight = 360;
+constexpr int axisHeight = 44;
+
+/// The smallest round step that leaves room for a label at each mark.
+double markStep(double seconds)
+{
+    constexpr int mostMarks = 11;
+    for (double step : {0.1, 0.2, 0.5, 1.0, 2.0, 5.0, 10.0, 15.0, 30.0, 60.0, 120.0, 300.0, 600.0,
+                        900.0, 1800.0}) {
+        if (seconds / step <= mostMarks)
+            return step;
+    }
+    return qCeil(seconds / mostMarks / 3600) * 3600.0;
+}
+
+/// "0:04", with tenths where the step needs them.
+QString markText(double seconds, double step)
+{
+    const int minutes = int(seconds / 60 + 1e-6);
+    const int decimals = step < 1 ? 1 : 0;
+    return QStringLiteral("%1:%2").arg(minutes).arg(seconds - minutes * 60.0, decimals ? 4 : 2, 'f',
+                                                    decimals, QLatin1Char('0'));
+}
+
+void paintAxis(QPainter& painter, const QRect& wave, double seconds)
+{
+    const double step = markStep(seconds);
+    for (int mark = 0; mark * step < seconds + 1e-6; ++mark) {
+        const int x = wave.left() + qRound(mark * step / seconds * (wave.width() - 1));
+        painter.fillRect(x, wave.top(), 1, wave.height() + 8, Line);
+        const QRect label(x - 60, wave.bottom() + 10, 120, axisHeight - 10);
+        PaintText(painter, label, FigureFont(17), FaintText, markText(mark * step, step),
+                  Qt::AlignHCenter);
+    }
+}
+
+} // namespace
+
+int WaveSheet::stepCount()
+{
+    return ContentWidth;
+}
+
+QImage WaveSheet::paint(const QString& title, const QString& subtitle, const QVector<float>& minima,
+                        const QVector<float>& maxima, double seconds)
+{
+    const QRect wave(Margin, Margin + HeaderHeight, ContentWidth, waveHeight);
+    QImage page(Width, wave.bottom() + 1 + axisHeight + Margin / 2, QImage::Format_RGB32);
+    page.fill(Background);
+
+    QPainter painter(&page);
+    PaintHeader(painter, title, subtitle);
+    painter.fillRect(wave, Panel);
+    if (seconds > 0)
+        paintAxis(painter, wave, seconds);
+    const double middle = wave.top() + wave.height() / 2.0;
+    const double scale = (wave.height() / 2.0 - 8);
+    for (int column = 0; column < qMin(minima.size(), maxima.size()); ++column) {
+        const double top = middle - scale * double(qBound(-1.0f, maxima[column], 1.0f));
+        const double bottom = middle - scale * double(qBound(-1.0f, minima[column], 1.0f));
+        painter.fillRect(QRectF(wave.left() + column, top, 1, qMax(1.0, bottom - top)), Accent);
+    }
+    return page;
+}

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/BaseLog.h"
+#include "CommonLib/NLEWraper/CVCreateInstance.h"
+#include "CommonLib/NLEWraper/NLEWraper.h"
+#include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "EngineApi/INLEProperties.h"
+#include "Host/Console.h"
+#include "Host/MediaJob.h"
+#include "Host/OutputFolder.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+enum ExitCode
+{
+    Success = 0,
+    Failure = 1, ///< the engine is missing or a result cannot be written
+    WrongUsage = 2
+};
+
+const char logName[] = "CommonLibDemo.log";
+
+struct Options
+{
+    QString output;
+    QString log;
+    bool echo;
+    QStringList media;
+};
+
+/// Opens the process's log; the host works without one too.
+void startLog(const Options& options, Console& console)
+{
+    BaseLog* log = GetGlobalLogInstance();
+    const int status = log->Init(QFile::encodeName(options.log).constData(), options.echo, 0);
+    if (status != 0)
+        console.print(QStringLiteral("The log %1 cannot be opened (%2); going on without it.")
+                          .arg(options.log)
+                          .arg(status));
+    log->LogInfo("Host/main", "main", __LINE__, "begin");
+}
+
+/// Puts a copy of the log beside the results when it was kept elsewhere.
+void copyLog(const Options& options)
+{
+    const QString copy = QDir(options.output).filePath(QString::fromLatin1(logName));
+    if (QFileInfo(copy).absoluteFilePath() == QFileInfo(options.log).absoluteFilePath())
+        return;
+    QFile::remove(copy);
+    QFile::copy(options.log, copy);
+}
+
+int reportFiles(const Options& options, OutputFolder& output, Console& console)
+{
+    PlayerMaterProvider* provider = NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
+    if (!provider->CreateNLEProperties()) {
+        console.print(QStringLiteral("The engine is missing or does not start: %1")
+                          .arg(QDir::toNativeSeparators(QCoreApplication::applicationDirPath() +
+                                                        QStringLiteral("/NLECore.dll"))));
+        return Failure;
+    }
+    bool written = true;
+    MediaJob job(*provider, console, output);
+    for (const QString& path : options.media)
+        written = job.run(path) && written;
+    return written ? Success : Failure;
+}
+
+int run(const Options& options, Console& console)
+{
+    OutputFolder output(options.output, options.media);
+    if (!output.create()) {
+        console.print(QStringLiteral("The folder %1 cannot be made.").arg(options.output));
+        return WrongUsage;
+    }
+    startLog(options, console);
+    const int code = reportFiles(options, output, console);
+    // Everything that logs while it is destroyed goes before the log does.
+    NLEWraper::Release();
+    CVCreateInstance::Instance()->Release();
+    GetGlobalLogInstance()->LogInfo("Host/main", "main", __LINE__, "end");
+    ReleseGlobalLogInstance();
+    copyLog(options);
+    return code;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // The host opens no window, so it needs no display.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("CommonLibDemo"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Tells what media files are and writes a contact sheet of each."));
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption output(QStringLiteral("output"), QStringLiteral("Folder for results."),
+                                    QStringLiteral("FOLDER"), QStringLiteral("demo-output"));
+    const QCommandLineOption log(QStringLiteral("log"),
+                                 QStringLiteral("Log file, by default %1 among the results.")
+                                     .arg(QString::fromLatin1(logName)),
+                                 QStringLiteral("FILE"));
+    const QCommandLineOption echo(QStringLiteral("echo"), QStringLiteral("Print the log as well."));
+    parser.addOptions({output, log, echo});
+    parser.addPositionalArgument(QStringLiteral("MEDIA"), QStringLiteral("Media files."),
+                                 QStringLiteral("MEDIA…"));
+
+    Console console;
+    const bool understood = parser.parse(QCoreApplication::arguments());
+    if (understood && parser.isSet(help)) {
+        console.print(parser.helpText());
+        return Success;
+    }
+    if (!understood || parser.positionalArguments().isEmpty()) {
+        console.print(understood ? QStringLiteral("No media file named.") : parser.errorText());
+        console.print(parser.helpText());
+        return WrongUsage;
+    }
+
+    Options options{parser.value(output), parser.value(log), parser.isSet(echo),
+                    parser.positionalArguments()};
+    if (options.log.isEmpty())
+        options.log = QDir(options.output).filePath(QString::fromLatin1(logName));
+    return run(options, console);
+}
