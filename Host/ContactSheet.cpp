@@ -77,6 +77,6 @@ void ContactSheet::paintCell(QPainter& painter, const Cell& cell, const QPoint& 
     painter.drawRect(QRectF(frame).adjusted(-0.5, -0.5, 0.5, 0.5));
 
     const QRect line(frame.left(), frame.bottom() + 1, frame.width(), captionHeight);
-    PaintText(painter, line, FigureFont(19), Text, cell.caption, Qt::AlignLeft);
-    PaintText(painter, line, FigureFont(17), FaintText, cell.note, Qt::AlignRight);
+    PaintText(painter, line, TextFont(19), Text, cell.caption, Qt::AlignLeft);
+    PaintText(painter, line, TextFont(17), FaintText, cell.note, Qt::AlignRight);
 }

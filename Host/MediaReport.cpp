@@ -12,6 +12,13 @@ QString sizeText(double width, double height)
     return QStringLiteral("%1 × %2").arg(width).arg(height);
 }
 
+/// "1 frame", "2 frames"
+QString counted(qint64 number, const QString& noun)
+{
+    const QString text = QStringLiteral("%1 %2").arg(number).arg(noun);
+    return number == 1 ? text : text + QLatin1Char('s');
+}
+
 QString codecText(const NLEStreamInfo& stream)
 {
     const QString name = QString::fromLatin1(
@@ -35,7 +42,7 @@ QString streamText(const NLEStreamInfo& stream)
     case NLEStream_Audio:
         parts << QStringLiteral("audio") << codecText(stream)
               << QStringLiteral("%1 Hz").arg(stream.sampleRate)
-              << QStringLiteral("%1 channel(s)").arg(stream.channels);
+              << counted(stream.channels, QStringLiteral("channel"));
         break;
     default:
         parts << QStringLiteral("other") << codecText(stream);
@@ -109,7 +116,7 @@ QString MediaReport::summary() const
     else
         parts << (audio ? QStringLiteral("Sound") : QStringLiteral("No picture and no sound"));
     parts << RateText(double(rate)) + QStringLiteral(" fps")
-          << QStringLiteral("%1 frame(s)").arg(frames) << TimecodeText(frames, double(rate));
+          << counted(frames, QStringLiteral("frame")) << TimecodeText(frames, double(rate));
     return parts.join(QStringLiteral(", "));
 }
 

@@ -15,13 +15,6 @@ QFont TextFont(int pixels, bool strong)
     return font;
 }
 
-QFont FigureFont(int pixels)
-{
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPixelSize(pixels);
-    return font;
-}
-
 void PaintHeader(QPainter& painter, const QString& title, const QString& subtitle)
 {
     const QRect titleArea(Margin, Margin - 12, ContentWidth, 52);

@@ -26,8 +26,6 @@ const QColor Accent(0x4f, 0xa3, 0xff);
 
 /// A sans-serif font of \a pixels height.
 QFont TextFont(int pixels, bool strong = false);
-/// A font whose figures are all of one width.
-QFont FigureFont(int pixels);
 /// Paints title and subtitle into the sheet's upper part; text that is too long is cut in the
 /// middle.
 void PaintHeader(QPainter& painter, const QString& title, const QString& subtitle);

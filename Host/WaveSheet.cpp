@@ -42,7 +42,7 @@ void paintAxis(QPainter& painter, const QRect& wave, double seconds)
         const int x = wave.left() + qRound(mark * step / seconds * (wave.width() - 1));
         painter.fillRect(x, wave.top(), 1, wave.height() + 8, Line);
         const QRect label(x - 60, wave.bottom() + 10, 120, axisHeight - 10);
-        PaintText(painter, label, FigureFont(17), FaintText, markText(mark * step, step),
+        PaintText(painter, label, TextFont(17), FaintText, markText(mark * step, step),
                   Qt::AlignHCenter);
     }
 }
