@@ -1,0 +1,21 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
+# Installs the library from BUILD into WORK, then configures, builds and runs the project in SOURCE
+# against what was installed. FLAGS are the compiler flags that the library was built with.
+
+function(step)
+  execute_process(COMMAND ${ARGV} RESULT_VARIABLE result)
+  if(result)
+    message(FATAL_ERROR "failed (${result}): ${ARGV}")
+  endif()
+endfunction()
+
+file(REMOVE_RECURSE ${WORK})
+step(${CMAKE_COMMAND} --install ${BUILD} --component CommonLib --prefix ${WORK}/prefix)
+file(GLOB_RECURSE private_headers ${WORK}/prefix/*_p.h)
+if(private_headers)
+  message(FATAL_ERROR "private headers were installed: ${private_headers}")
+endif()
+step(${CMAKE_COMMAND} -S ${SOURCE} -B ${WORK}/build -G Ninja -DCMAKE_CXX_FLAGS=${FLAGS}
+  -DCMAKE_PREFIX_PATH=${WORK}/prefix)
+step(${CMAKE_COMMAND} --build ${WORK}/build)
+step(${WORK}/build/consumer ${WORK}/consumer.log)
