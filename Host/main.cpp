@@ -36,12 +36,13 @@ struct Options
 /// Opens the process's log; the host works without one too.
 void startLog(const Options& options, Console& console)
 {
+    // A longer path would be cut, and the log be another file than the one asked for.
+    constexpr int longestPath = 255;
+    const QByteArray path = QFile::encodeName(options.log);
     BaseLog* log = GetGlobalLogInstance();
-    const int status = log->Init(QFile::encodeName(options.log).constData(), options.echo, 0);
-    if (status != 0)
-        console.print(QStringLiteral("The log %1 cannot be opened (%2); going on without it.")
-                          .arg(options.log)
-                          .arg(status));
+    if (path.size() > longestPath || log->Init(path.constData(), options.echo, LogLevelAll) != 0)
+        console.print(
+            QStringLiteral("The log %1 cannot be opened; going on without it.").arg(options.log));
     log->LogInfo("Host/main", "main", __LINE__, "begin");
 }
 
