@@ -103,7 +103,8 @@ int main(int argc, char* argv[])
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Tells what media files are and writes a contact sheet of each."));
-    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Print this help."));
     const QCommandLineOption output(QStringLiteral("output"), QStringLiteral("Folder for results."),
                                     QStringLiteral("FOLDER"), QStringLiteral("demo-output"));
     const QCommandLineOption log(QStringLiteral("log"),
@@ -111,7 +112,7 @@ int main(int argc, char* argv[])
                                      .arg(QString::fromLatin1(logName)),
                                  QStringLiteral("FILE"));
     const QCommandLineOption echo(QStringLiteral("echo"), QStringLiteral("Print the log as well."));
-    parser.addOptions({output, log, echo});
+    parser.addOptions({help, output, log, echo});
     parser.addPositionalArgument(QStringLiteral("MEDIA"), QStringLiteral("Media files."),
                                  QStringLiteral("MEDIA…"));
 
