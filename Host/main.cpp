@@ -7,12 +7,15 @@
 #include "Host/Console.h"
 #include "Host/MediaJob.h"
 #include "Host/OutputFolder.h"
+#include "Host/ToolkitMessages.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+
+#include <optional>
 
 namespace {
 
@@ -33,17 +36,20 @@ struct Options
     QStringList media;
 };
 
-/// Opens the process's log; the host works without one too.
-void startLog(const Options& options, Console& console)
+/// Opens the process's log; false when the host must work without it.
+bool startLog(const Options& options, Console& console)
 {
     // A longer path would be cut, and the log be another file than the one asked for.
     constexpr int longestPath = 255;
     const QByteArray path = QFile::encodeName(options.log);
     BaseLog* log = GetGlobalLogInstance();
-    if (path.size() > longestPath || log->Init(path.constData(), options.echo, LogLevelAll) != 0)
+    if (path.size() > longestPath || log->Init(path.constData(), options.echo, LogLevelAll) != 0) {
         console.print(
             QStringLiteral("The log %1 cannot be opened; going on without it.").arg(options.log));
+        return false;
+    }
     log->LogInfo("Host/main", "main", __LINE__, "begin");
+    return true;
 }
 
 /// Puts a copy of the log beside the results when it was kept elsewhere.
@@ -79,11 +85,14 @@ int run(const Options& options, Console& console)
         console.print(QStringLiteral("The folder %1 cannot be made.").arg(options.output));
         return WrongUsage;
     }
-    startLog(options, console);
+    std::optional<ToolkitMessages> messages;
+    if (startLog(options, console))
+        messages.emplace();
     const int code = reportFiles(options, output, console);
     // Everything that logs while it is destroyed goes before the log does.
     NLEWraper::Release();
     CVCreateInstance::Instance()->Release();
+    messages.reset();
     GetGlobalLogInstance()->LogInfo("Host/main", "main", __LINE__, "end");
     ReleseGlobalLogInstance();
     copyLog(options);
