@@ -41,9 +41,28 @@ void paintAxis(QPainter& painter, const QRect& wave, double seconds)
     for (int mark = 0; mark * step < seconds + 1e-6; ++mark) {
         const int x = wave.left() + qRound(mark * step / seconds * (wave.width() - 1));
         painter.fillRect(x, wave.top(), 1, wave.height() + 8, Line);
-        const QRect label(x - 60, wave.bottom() + 10, 120, axisHeight - 10);
+        // The outermost labels stay within the page's margins.
+        const int centre = qBound(wave.left() + 20, x, wave.right() - 20);
+        const QRect label(centre - 60, wave.bottom() + 10, 120, axisHeight - 10);
         PaintText(painter, label, TextFont(17), FaintText, markText(mark * step, step),
                   Qt::AlignHCenter);
+    }
+}
+
+/// A column of pixels for each step. Each reaches to the one before it, so that the line has no
+/// gaps where a step is shorter than a wave.
+void paintWave(QPainter& painter, const QRect& area, const QVector<float>& minima,
+               const QVector<float>& maxima)
+{
+    const double middle = area.top() + area.height() / 2.0;
+    const double scale = area.height() / 2.0 - 8;
+    for (int column = 0; column < qMin(minima.size(), maxima.size()); ++column) {
+        const int before = qMax(0, column - 1);
+        const float high = qMax(maxima[column], minima[before]);
+        const float low = qMin(minima[column], maxima[before]);
+        const double top = middle - scale * double(qBound(-1.0f, high, 1.0f));
+        const double bottom = middle - scale * double(qBound(-1.0f, low, 1.0f));
+        painter.fillRect(QRectF(area.left() + column, top, 1, qMax(1.0, bottom - top)), Accent);
     }
 }
 
@@ -66,12 +85,6 @@ QImage WaveSheet::paint(const QString& title, const QString& subtitle, const QVe
     painter.fillRect(wave, Panel);
     if (seconds > 0)
         paintAxis(painter, wave, seconds);
-    const double middle = wave.top() + wave.height() / 2.0;
-    const double scale = (wave.height() / 2.0 - 8);
-    for (int column = 0; column < qMin(minima.size(), maxima.size()); ++column) {
-        const double top = middle - scale * double(qBound(-1.0f, maxima[column], 1.0f));
-        const double bottom = middle - scale * double(qBound(-1.0f, minima[column], 1.0f));
-        painter.fillRect(QRectF(wave.left() + column, top, 1, qMax(1.0, bottom - top)), Accent);
-    }
+    paintWave(painter, wave, minima, maxima);
     return page;
 }
