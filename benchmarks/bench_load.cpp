@@ -15,10 +15,14 @@ constexpr int kRounds = 41;
 /// Milliseconds from the start of a program to its end; below 0 when it failed.
 double RunOnce(const QString& program)
 {
+    QProcess process;
+    process.setStandardErrorFile(QProcess::nullDevice());
     QElapsedTimer timer;
     timer.start();
-    const int code = QProcess::execute(program, {});
-    return code == 0 ? double(timer.nsecsElapsed()) / 1e6 : -1.0;
+    process.start(program, {});
+    const bool ended = process.waitForFinished();
+    const double time = double(timer.nsecsElapsed()) / 1e6;
+    return ended && process.exitCode() == 0 ? time : -1.0;
 }
 
 double Median(std::vector<double> values)

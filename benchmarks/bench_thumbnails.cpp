@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-// Thumbnails of 160 x 90 from 1080p H.264 through the decoder pool, beside a plain use of FFmpeg.
-#include "NLECore/media/DecoderPool.h"
-#include "NLECore/media/MediaInfo.h"
+// Thumbnails of 160 x 90 from 1080p H.264 through the library, beside a plain use of FFmpeg.
+#include "CommonLib/NLEWraper/CVCreateInstance.h"
+#include "CommonLib/NLEWraper/NLETimeline.h"
+#include "CommonLib/NLEWraper/NLEWraper.h"
+#include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "PlainDecoder.h"
 #include "TestMedia.h"
 
@@ -73,17 +75,17 @@ bool Run(const QString& path, int gop, int threads)
 {
     if (!MakeClip(path, gop))
         return false;
-    QString error;
-    const auto info = nle::ProbeMedia(path, &error);
     const auto plain = PlainDecoder::Open(path, threads);
-    if (!info || !plain) {
-        std::fprintf(stderr, "%s\n", qPrintable(error));
+    const auto clip =
+        NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider()->CreateMediaTimeline(path, false);
+    if (!clip || !plain) {
+        std::fprintf(stderr, "%s cannot be read\n", qPrintable(path));
         return false;
     }
-    nle::DecoderPool pool;
+    const NLETimeline timeline(clip, ExactType_Video, nullptr);
     const auto picture = [&](int frame) {
-        return pool.Acquire(info, info->videoStream, nle::DecodePurpose::Thumbnail, frame)
-            ->Picture(frame, Thumbnail);
+        return timeline.GetThumbnailFromMediaInfo(frame, Thumbnail.width(), Thumbnail.height(),
+                                                  true, false);
     };
     const auto randomFrames = [](int round) {
         std::mt19937 generator(unsigned(round) + 1);
@@ -135,5 +137,7 @@ int main(int argc, char** argv)
         if (!Run(folder.filePath(QStringLiteral("gop%1.mp4").arg(gop)), gop, threads))
             return 1;
     }
+    NLEWraper::Release();
+    CVCreateInstance::Instance()->Release();
     return 0;
 }

@@ -381,7 +381,7 @@ int AudioDecoder::Private::Read(int64_t first, int count, int newRate, int newCh
         return 0;
     const int64_t lead = std::clamp<int64_t>(start - first, 0, count);
     int64_t position = first + lead;
-    float* target = output + lead * channels;
+    float* target = output + lead * int64_t(channels);
     const int64_t end = first + count;
 
     const bool isNear = isPositioned && position >= readyPosition &&
