@@ -53,7 +53,7 @@ QByteArray halfSilentSound()
     constexpr int rate = 8000;
     QByteArray data(rate * 2, 0);
     for (int sample = 0; sample < rate / 2; ++sample)
-        qToLittleEndian<qint16>(sample % 2 ? 32000 : -32000, data.data() + sample * 2);
+        qToLittleEndian<qint16>(sample % 2 ? 32000 : -32000, data.data() + qint64(sample) * 2);
     const auto number = [](auto value) {
         QByteArray bytes(int(sizeof value), 0);
         qToLittleEndian(value, bytes.data());

@@ -22,7 +22,7 @@
 
 namespace {
 
-constexpr qint64 kRotationSize = 50 * 1024 * 1024;
+constexpr qint64 kRotationSize = qint64(50) * 1024 * 1024;
 
 struct Releaser
 {

@@ -91,7 +91,7 @@ private:
     {
         const QString failure = MakeTestClip(Path(name), clip);
         QString error = failure;
-        const auto info = failure.isEmpty() ? ProbeMedia(Path(name), &error) : nullptr;
+        auto info = failure.isEmpty() ? ProbeMedia(Path(name), &error) : nullptr;
         if (!info)
             qWarning("%s", qPrintable(error));
         return info;
@@ -484,14 +484,15 @@ void tst_Media::sound()
     QVERIFY2(decoder, qPrintable(error));
     std::vector<float> whole(size_t(rate) * 4 * 2);
     for (int i = 0; i < 40; ++i)
-        QVERIFY(decoder->Read(i * 4800, 4800, rate, 2, &whole[size_t(i) * 9600]) >= 4776);
+        QVERIFY(decoder->Read(int64_t(i) * 4800, 4800, rate, 2, &whole[size_t(i) * 9600]) >= 4776);
     int onset = 0;
     while (onset < rate * 4 && std::abs(whole[size_t(onset) * 2]) < 0.06F)
         ++onset;
     // The encoders of some formats do not note the delay that they add.
     const int delay = name.endsWith(".ts") ? 1024 : name.endsWith("a.mkv") ? 1115 : 0;
     QVERIFY2(std::abs(onset - rate - delay) <= tolerance, qPrintable(QString::number(onset)));
-    const std::vector<float> tone(whole.begin() + rate * 4, whole.begin() + rate * 6);
+    const std::vector<float> tone(whole.begin() + int64_t(rate) * 4,
+                                  whole.begin() + int64_t(rate) * 6);
     QVERIFY2(std::abs(PeakOf(tone) - 0.5) < 0.03, qPrintable(QString::number(PeakOf(tone))));
     QVERIFY(std::equal(tone.begin(), tone.begin() + 2, tone.begin() + 96,
                        [](float a, float b) { return std::abs(a - b) < 0.03F; }));
@@ -510,7 +511,7 @@ void tst_Media::sound()
 
     // Silence outside, also where only a part lies in the stream.
     QCOMPARE(decoder->Read(-5000, 1000, rate, 2, part.data()), 0);
-    QCOMPARE(decoder->Read(rate * 5, 1000, rate, 2, part.data()), 0);
+    QCOMPARE(decoder->Read(int64_t(rate) * 5, 1000, rate, 2, part.data()), 0);
     QCOMPARE(PeakOf(part), 0.0);
     QCOMPARE(decoder->Read(int64_t(rate) * 1000000, 1000, rate, 2, part.data()), 0);
     QCOMPARE(decoder->Read(-500, 1000, rate, 2, part.data()), 1000);

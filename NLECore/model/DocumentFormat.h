@@ -14,28 +14,28 @@
 /// names begin with "nle:"; other programs ignore them.
 namespace nle::document {
 
-inline constexpr QLatin1String kKind("nle:kind");
-inline constexpr QLatin1String kOrder("nle:order");
-inline constexpr QLatin1String kPosition("nle:position");
-inline constexpr QLatin1String kLevel("nle:level");
-inline constexpr QLatin1String kRange("nle:range");
-inline constexpr QLatin1String kRate("nle:rate");
-inline constexpr QLatin1String kMargin("nle:margin");
-inline constexpr QLatin1String kEnabled("nle:enabled");
-inline constexpr QLatin1String kSize("nle:size");
-inline constexpr QLatin1String kAudio("nle:audio");
-inline constexpr QLatin1String kDecoder("nle:decoder");
-inline constexpr QLatin1String kBagPrefix("nle:bag:");
+inline const QLatin1String kKind("nle:kind");
+inline const QLatin1String kOrder("nle:order");
+inline const QLatin1String kPosition("nle:position");
+inline const QLatin1String kLevel("nle:level");
+inline const QLatin1String kRange("nle:range");
+inline const QLatin1String kRate("nle:rate");
+inline const QLatin1String kMargin("nle:margin");
+inline const QLatin1String kEnabled("nle:enabled");
+inline const QLatin1String kSize("nle:size");
+inline const QLatin1String kAudio("nle:audio");
+inline const QLatin1String kDecoder("nle:decoder");
+inline const QLatin1String kBagPrefix("nle:bag:");
 
-inline constexpr QLatin1String kProject("project");
-inline constexpr QLatin1String kComposite("composite");
-inline constexpr QLatin1String kMedia("media");
-inline constexpr QLatin1String kColor("color");
-inline constexpr QLatin1String kText("text");
+inline const QLatin1String kProject("project");
+inline const QLatin1String kComposite("composite");
+inline const QLatin1String kMedia("media");
+inline const QLatin1String kColor("color");
+inline const QLatin1String kText("text");
 /// The empty track below all others.
-inline constexpr QLatin1String kBackground("background");
+inline const QLatin1String kBackground("background");
 /// A playlist of clips that do not show: disabled ones and ones of no length.
-inline constexpr QLatin1String kUnplaced("unplaced");
+inline const QLatin1String kUnplaced("unplaced");
 
 /// Where a clip stands on a playlist: MLT has no place before frame 0.
 struct Placement

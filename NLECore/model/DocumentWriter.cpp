@@ -92,7 +92,7 @@ QString DocumentWriter::WriteNode(const TimelineNode& node, int order)
 {
     if (const auto* composite = dynamic_cast<const CompositeNode*>(&node))
         return WriteComposite(*composite, order);
-    const QString id = NewId("producer");
+    QString id = NewId("producer");
     WriteProducer(id, node, order);
     return id;
 }
@@ -193,7 +193,7 @@ QString DocumentWriter::WriteComposite(const CompositeNode& node, int order)
         tracks.push_back(WriteLane(lane));
     const QString hidden = unplaced.clips.empty() ? QString() : WriteUnplaced(unplaced);
 
-    const QString id = NewId("tractor");
+    QString id = NewId("tractor");
     m_xml.writeStartElement(QStringLiteral("tractor"));
     m_xml.writeAttribute(QStringLiteral("id"), id);
     m_xml.writeAttribute(QStringLiteral("in"), QStringLiteral("0"));
@@ -235,7 +235,7 @@ void DocumentWriter::WriteBackground(const QString& id, const CompositeNode& nod
 
 QString DocumentWriter::WriteLane(const Lane& lane)
 {
-    const QString id = NewId("playlist");
+    QString id = NewId("playlist");
     m_xml.writeStartElement(QStringLiteral("playlist"));
     m_xml.writeAttribute(QStringLiteral("id"), id);
     std::int64_t end = 0;
@@ -255,7 +255,7 @@ QString DocumentWriter::WriteLane(const Lane& lane)
 
 QString DocumentWriter::WriteUnplaced(const Lane& lane)
 {
-    const QString id = NewId("playlist");
+    QString id = NewId("playlist");
     m_xml.writeStartElement(QStringLiteral("playlist"));
     m_xml.writeAttribute(QStringLiteral("id"), id);
     Property(kKind, kUnplaced);

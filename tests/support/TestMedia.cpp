@@ -192,7 +192,7 @@ QString MakeTestClip(const QString& path, const TestClip& clip)
     }
     arguments += clip.extra;
     arguments.append(path);
-    const QString failure = RunFfmpeg(arguments, pictures);
+    QString failure = RunFfmpeg(arguments, pictures);
     if (!failure.isEmpty())
         return failure;
     if (clip.rotation != 0 && !WriteRotation(path, clip.rotation))
