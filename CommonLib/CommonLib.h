@@ -11,5 +11,6 @@
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "CommonLib/PathOperation.h"
+#include "CommonLib/QAESEncryption.h"
 #include "CommonLib/RegexOperation.h"
 #include "CommonLib/StringOperation.h"
