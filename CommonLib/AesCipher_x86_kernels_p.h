@@ -4,6 +4,7 @@
 #include "CommonLib/AesCipher_x86_p.h"
 
 #include <immintrin.h>
+#include <type_traits>
 #include <utility>
 
 /// The cipher on the AES instructions of x86, over the width of the vector. Not part of the
@@ -60,11 +61,34 @@ constexpr bool UsesPreviousBlock(Parallel mode)
     return mode == Parallel::CbcDecrypt || mode == Parallel::CfbDecrypt;
 }
 
+/// Writes one vector behind the other.
+template <class Vector>
+class PlainWriter
+{
+public:
+    explicit PlainWriter(std::uint8_t* out) : m_out(out) {}
+    void Put(typename Vector::Type value)
+    {
+        Vector::Store(m_out, value);
+        m_out += Vector::Blocks * BlockSize;
+    }
+    /// Asks for the line that is to be written ahead bytes further on.
+    void Prefetch(std::size_t ahead) const
+    {
+        _mm_prefetch(reinterpret_cast<const char*>(m_out + ahead), _MM_HINT_T0);
+    }
+    /// Where the next byte goes; nothing is put any more.
+    std::uint8_t* Finish() const { return m_out; }
+
+private:
+    std::uint8_t* m_out;
+};
+
 /// As many vectors at once as there are Index, to hide the latency of the instructions. previous
 /// is where the cipher text block before in stands.
-template <class Vector, Parallel Mode, int Rounds, std::size_t... Index>
+template <class Vector, Parallel Mode, int Rounds, class Writer, std::size_t... Index>
 inline void Group(const typename Vector::Type (&keys)[Rounds + 1], const std::uint8_t* previous,
-                  const std::uint8_t* in, std::uint8_t* out, std::index_sequence<Index...>)
+                  const std::uint8_t* in, Writer& writer, std::index_sequence<Index...>)
 {
     constexpr std::size_t step = Vector::Blocks * BlockSize;
     const std::uint8_t* source = Mode == Parallel::CfbDecrypt ? previous : in;
@@ -82,31 +106,51 @@ inline void Group(const typename Vector::Type (&keys)[Rounds + 1], const std::ui
     if constexpr (UsesPreviousBlock(Mode))
         ((last[Index] = Vector::Xor(last[Index], Vector::Load(mask + Index * step))), ...);
     if constexpr (UsesInverseCipher(Mode))
-        (Vector::Store(out + Index * step, Vector::DecryptLast(state[Index], last[Index])), ...);
+        (writer.Put(Vector::DecryptLast(state[Index], last[Index])), ...);
     else
-        (Vector::Store(out + Index * step, Vector::EncryptLast(state[Index], last[Index])), ...);
+        (writer.Put(Vector::EncryptLast(state[Index], last[Index])), ...);
+}
+
+template <class Vector, int Rounds>
+inline void LoadKeys(typename Vector::Type (&keys)[Rounds + 1], const std::uint8_t* schedule)
+{
+    for (int round = 0; round <= Rounds; ++round)
+        keys[round] = Vector::Repeat(schedule + round * BlockSize);
 }
 
 /// Works through as many groups of Count vectors as there are, and moves on behind them.
-template <class Vector, std::size_t Count, Parallel Mode, int Rounds>
+template <class Vector, std::size_t Count, Parallel Mode, int Rounds,
+          class Writer = PlainWriter<Vector>>
 inline void Groups(const std::uint8_t* schedule, const std::uint8_t*& in, std::uint8_t*& out,
                    std::size_t& blocks)
 {
     constexpr std::size_t step = Count * Vector::Blocks;
+    // The processor itself fetches ahead, but not across the end of a page.
+    constexpr std::size_t ahead = 4096;
+    constexpr std::size_t line = 64;
     if (blocks < step)
         return;
     typename Vector::Type keys[Rounds + 1];
-    for (int round = 0; round <= Rounds; ++round)
-        keys[round] = Vector::Repeat(schedule + round * BlockSize);
+    LoadKeys<Vector, Rounds>(keys, schedule);
+    Writer writer(out);
     for (; blocks >= step; blocks -= step) {
-        Group<Vector, Mode, Rounds>(keys, in - BlockSize, in, out,
+        if constexpr (Vector::Blocks > 1 && Count == 8) {
+            for (std::size_t at = ahead; at < ahead + step * BlockSize; at += line) {
+                _mm_prefetch(reinterpret_cast<const char*>(in + at), _MM_HINT_T0);
+                writer.Prefetch(at);
+            }
+        }
+        Group<Vector, Mode, Rounds>(keys, in - BlockSize, in, writer,
                                     std::make_index_sequence<Count>());
         in += step * BlockSize;
-        out += step * BlockSize;
     }
+    out = writer.Finish();
 }
 
-template <class Vector, Parallel Mode, int Rounds>
+/// A text past this size leaves the caches before anyone comes to read the result.
+constexpr std::size_t kLargeText = 8 << 20;
+
+template <class Vector, class LargeWriter, Parallel Mode, int Rounds>
 void RunParallel(const Schedule& schedule, std::uint8_t* chain, const std::uint8_t* in,
                  std::uint8_t* out, std::size_t blocks)
 {
@@ -116,13 +160,17 @@ void RunParallel(const Schedule& schedule, std::uint8_t* chain, const std::uint8
     if constexpr (UsesPreviousBlock(Mode)) {
         // Only the first block's predecessor stands elsewhere than before it.
         __m128i first[Rounds + 1];
-        for (int round = 0; round <= Rounds; ++round)
-            first[round] = Vector128::Repeat(keys + round * BlockSize);
-        Group<Vector128, Mode, Rounds>(first, chain, in, out, std::make_index_sequence<1>());
+        LoadKeys<Vector128, Rounds>(first, keys);
+        PlainWriter<Vector128> writer(out);
+        Group<Vector128, Mode, Rounds>(first, chain, in, writer, std::make_index_sequence<1>());
         Vector128::Store(chain, Vector128::Load(in + (blocks - 1) * BlockSize));
         in += BlockSize;
-        out += BlockSize;
+        out = writer.Finish();
         --blocks;
+    }
+    if constexpr (!std::is_same_v<LargeWriter, PlainWriter<Vector>>) {
+        if (blocks >= kLargeText / BlockSize && LargeWriter::Suits(out))
+            Groups<Vector, 8, Mode, Rounds, LargeWriter>(keys, in, out, blocks);
     }
     Groups<Vector, 8, Mode, Rounds>(keys, in, out, blocks);
     if constexpr (Vector::Blocks > 1)
@@ -150,8 +198,7 @@ void RunSerial(const Schedule& schedule, std::uint8_t* chain, const std::uint8_t
     if (blocks == 0)
         return;
     __m128i keys[Rounds + 1];
-    for (int round = 0; round <= Rounds; ++round)
-        keys[round] = Vector128::Repeat(schedule.encryption + round * BlockSize);
+    LoadKeys<Vector128, Rounds>(keys, schedule.encryption);
     const __m128i first = keys[0];
     const __m128i joint = _mm_xor_si128(keys[Rounds], first);
 
@@ -182,16 +229,16 @@ void RunSerial(const Schedule& schedule, std::uint8_t* chain, const std::uint8_t
 
 // ---- One function for all key sizes
 
-template <class Vector, Parallel Mode>
+template <class Vector, class LargeWriter, Parallel Mode>
 void Run(const Schedule& schedule, std::uint8_t* chain, const std::uint8_t* in, std::uint8_t* out,
          std::size_t blocks)
 {
     if (schedule.rounds == 10)
-        RunParallel<Vector, Mode, 10>(schedule, chain, in, out, blocks);
+        RunParallel<Vector, LargeWriter, Mode, 10>(schedule, chain, in, out, blocks);
     else if (schedule.rounds == 12)
-        RunParallel<Vector, Mode, 12>(schedule, chain, in, out, blocks);
+        RunParallel<Vector, LargeWriter, Mode, 12>(schedule, chain, in, out, blocks);
     else
-        RunParallel<Vector, Mode, 14>(schedule, chain, in, out, blocks);
+        RunParallel<Vector, LargeWriter, Mode, 14>(schedule, chain, in, out, blocks);
 }
 
 template <Serial Mode>
@@ -308,18 +355,19 @@ void AddDecryptionKeys(Schedule& schedule)
     Vector128::Store(target + BlockSize, Vector128::Load(schedule.encryption));
 }
 
-template <class Vector>
+/// LargeWriter takes the place of PlainWriter for large texts where its Suits() allows.
+template <class Vector, class LargeWriter = PlainWriter<Vector>>
 constexpr Implementation MakeImplementation(const char* name)
 {
     return {name,
             ExpandKey,
             AddDecryptionKeys,
-            Run<Vector, Parallel::EcbEncrypt>,
-            Run<Vector, Parallel::EcbDecrypt>,
+            Run<Vector, LargeWriter, Parallel::EcbEncrypt>,
+            Run<Vector, LargeWriter, Parallel::EcbDecrypt>,
             Run<Serial::CbcEncrypt>,
-            Run<Vector, Parallel::CbcDecrypt>,
+            Run<Vector, LargeWriter, Parallel::CbcDecrypt>,
             Run<Serial::CfbEncrypt>,
-            Run<Vector, Parallel::CfbDecrypt>,
+            Run<Vector, LargeWriter, Parallel::CfbDecrypt>,
             Run<Serial::Ofb>};
 }
 

@@ -5,7 +5,10 @@
 #include <QRandomGenerator>
 #include <QtTest>
 
+#include <algorithm>
+#include <cstring>
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -59,8 +62,21 @@ int KeyLength(Aes level)
     return 16 + 8 * level;
 }
 
+std::uint8_t* Bytes(char* bytes)
+{
+    return reinterpret_cast<std::uint8_t*>(bytes);
+}
+
+const std::uint8_t* Bytes(const char* bytes)
+{
+    return reinterpret_cast<const std::uint8_t*>(bytes);
+}
+
+using TransformMember = AesCipher::Transform AesCipher::Implementation::*;
+
 } // namespace
 
+Q_DECLARE_METATYPE(TransformMember)
 Q_DECLARE_METATYPE(QAESEncryption::Aes)
 Q_DECLARE_METATYPE(QAESEncryption::Mode)
 Q_DECLARE_METATYPE(QAESEncryption::Padding)
@@ -77,6 +93,8 @@ private slots:
     void publishedVectors();
     void implementationsAgree_data();
     void implementationsAgree();
+    void largeTexts_data();
+    void largeTexts();
     void keySchedule_data();
     void keySchedule();
     void refusedKeysAndVectors();
@@ -217,9 +235,55 @@ void TestAes::implementationsAgree()
             QVERIFY2(aes.decode(text, key, iv) == decoded, cipher->name);
             const QByteArray plain = aes.decode(ExactArray(encoded), key, iv);
             QVERIFY2(aes.removePadding(plain) == text.Get(), cipher->name);
-            // Behind the whole text a rest changes nothing, and of a rest any part can be had.
+            // A text cut short decrypts to the same as far as it goes.
             const QByteArray part = aes.decode(ExactArray(encoded.left(size)), key, iv);
             QVERIFY2(part == plain.left(decoded.size()), cipher->name);
+        }
+    }
+}
+
+void TestAes::largeTexts_data()
+{
+    using AesCipher::Implementation;
+    QTest::addColumn<TransformMember>("transform");
+    QTest::newRow("ECB, encrypting") << &Implementation::EcbEncrypt;
+    QTest::newRow("ECB, decrypting") << &Implementation::EcbDecrypt;
+    QTest::newRow("CBC, decrypting") << &Implementation::CbcDecrypt;
+    QTest::newRow("CFB, decrypting") << &Implementation::CfbDecrypt;
+}
+
+// Where results may be written in another way, which depends on how they lie in memory.
+void TestAes::largeTexts()
+{
+    QFETCH(TransformMember, transform);
+    constexpr std::size_t blocks = (8 << 20) / 16 + 37;
+    constexpr int size = int(blocks) * 16;
+    const ExactArray text(
+        QByteArray(size / 64 + 1, 'a').append(kCountingKey).repeated(64).left(size));
+    const auto run = [&](const AesCipher::Implementation& cipher, char* out) {
+        AesCipher::Schedule schedule;
+        cipher.ExpandKey(Bytes(kCountingKey.constData()), 4, schedule);
+        cipher.AddDecryptionKeys(schedule);
+        QByteArray chain = kIv;
+        (cipher.*transform)(schedule, Bytes(chain.data()), Bytes(text.Get().constData()),
+                            Bytes(out), blocks);
+        return chain;
+    };
+    QByteArray expected(size, Qt::Uninitialized);
+    const QByteArray expectedChain = run(AesCipher::Portable, expected.data());
+
+    for (int i = 0; AesCipher::Available(i) != &AesCipher::Portable; ++i) {
+        const AesCipher::Implementation& cipher = *AesCipher::Available(i);
+        for (int offset : {0, 8, 40, 61, 64}) {
+            std::vector<char> buffer(std::size_t(size) + 256, '#');
+            char* const aligned = buffer.data() + 64 - quintptr(buffer.data()) % 64;
+            char* const out = aligned + offset;
+            QVERIFY2(run(cipher, out) == expectedChain, cipher.name);
+            QVERIFY2(std::memcmp(out, expected.constData(), std::size_t(size)) == 0, cipher.name);
+            // Nothing around it was touched.
+            const auto untouched = std::count(buffer.data(), out, '#') +
+                                   std::count(out + size, buffer.data() + buffer.size(), '#');
+            QCOMPARE(untouched, std::ptrdiff_t(buffer.size()) - size);
         }
     }
 }
