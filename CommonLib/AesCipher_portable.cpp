@@ -87,14 +87,16 @@ constexpr std::uint8_t Row(std::uint32_t column, int row)
     return static_cast<std::uint8_t>(column >> (8 * row));
 }
 
-inline std::uint32_t LoadColumn(const std::uint8_t* bytes)
+inline std::uint32_t LoadColumn(const std::uint8_t* columns, int index)
 {
+    const std::uint8_t* bytes = columns + std::ptrdiff_t(4) * index;
     return bytes[0] | (std::uint32_t(bytes[1]) << 8) | (std::uint32_t(bytes[2]) << 16) |
            (std::uint32_t(bytes[3]) << 24);
 }
 
-inline void StoreColumn(std::uint8_t* bytes, std::uint32_t column)
+inline void StoreColumn(std::uint8_t* columns, int index, std::uint32_t column)
 {
+    std::uint8_t* bytes = columns + std::ptrdiff_t(4) * index;
     for (int row = 0; row < 4; ++row)
         bytes[row] = Row(column, row);
 }
@@ -124,17 +126,17 @@ void Cipher(const Words& table, const Bytes& box, const std::uint8_t* keys, int 
 {
     std::uint32_t state[4];
     for (int c = 0; c < 4; ++c)
-        state[c] = LoadColumn(in + 4 * c) ^ LoadColumn(keys + 4 * c);
+        state[c] = LoadColumn(in, c) ^ LoadColumn(keys, c);
     for (int round = 1; round < rounds; ++round) {
         keys += BlockSize;
         std::uint32_t next[4];
         for (int c = 0; c < 4; ++c)
-            next[c] = MixedColumn<Step>(table, state, c) ^ LoadColumn(keys + 4 * c);
+            next[c] = MixedColumn<Step>(table, state, c) ^ LoadColumn(keys, c);
         std::memcpy(state, next, sizeof state);
     }
     keys += BlockSize;
     for (int c = 0; c < 4; ++c)
-        StoreColumn(out + 4 * c, LastColumn<Step>(box, state, c) ^ LoadColumn(keys + 4 * c));
+        StoreColumn(out, c, LastColumn<Step>(box, state, c) ^ LoadColumn(keys, c));
 }
 
 void Encrypt(const Schedule& schedule, const std::uint8_t* in, std::uint8_t* out)
@@ -168,31 +170,30 @@ void ExpandKey(const std::uint8_t* key, int keyWords, Schedule& schedule)
     std::memcpy(bytes, key, 4 * static_cast<std::size_t>(keyWords));
     std::uint8_t roundConstant = 1;
     for (int i = keyWords; i < 4 * (schedule.rounds + 1); ++i) {
-        std::uint32_t word = LoadColumn(bytes + 4 * (i - 1));
+        std::uint32_t word = LoadColumn(bytes, i - 1);
         if (i % keyWords == 0) {
             word = Substitute(Rotate(word, 24)) ^ roundConstant;
             roundConstant = Double(roundConstant);
         } else if (keyWords == 8 && i % keyWords == 4) {
             word = Substitute(word);
         }
-        StoreColumn(bytes + 4 * i, word ^ LoadColumn(bytes + 4 * (i - keyWords)));
+        StoreColumn(bytes, i, word ^ LoadColumn(bytes, i - keyWords));
     }
 }
 
 void AddDecryptionKeys(Schedule& schedule)
 {
-    const int last = schedule.rounds * BlockSize;
-    for (int at = 0; at < last + BlockSize; at += 4) {
+    const int last = 4 * schedule.rounds;
+    for (int i = 0; i < last + 4; ++i) {
         // The rounds in reverse order, the columns of a round in theirs.
-        const std::uint8_t* source = schedule.encryption + (last - at / BlockSize * BlockSize);
-        std::uint32_t column = LoadColumn(source + at % BlockSize);
-        if (at >= BlockSize && at < last) {
+        std::uint32_t column = LoadColumn(schedule.encryption, last - i / 4 * 4 + i % 4);
+        if (i >= 4 && i < last) {
             const std::uint32_t mixed = Substitute(column);
             column = 0;
             for (int row = 0; row < 4; ++row)
                 column ^= Rotate(kInverseColumns[Row(mixed, row)], 8 * row);
         }
-        StoreColumn(schedule.decryption + at, column);
+        StoreColumn(schedule.decryption, i, column);
     }
 }
 

@@ -115,7 +115,7 @@ template <class Vector, int Rounds>
 inline void LoadKeys(typename Vector::Type (&keys)[Rounds + 1], const std::uint8_t* schedule)
 {
     for (int round = 0; round <= Rounds; ++round)
-        keys[round] = Vector::Repeat(schedule + round * BlockSize);
+        keys[round] = Vector::Repeat(schedule + std::ptrdiff_t(round) * BlockSize);
 }
 
 /// Works through as many groups of Count vectors as there are, and moves on behind them.
@@ -344,7 +344,7 @@ void ExpandKey(const std::uint8_t* key, int keyWords, Schedule& schedule)
 
 void AddDecryptionKeys(Schedule& schedule)
 {
-    const std::uint8_t* source = schedule.encryption + schedule.rounds * BlockSize;
+    const std::uint8_t* source = schedule.encryption + std::ptrdiff_t(schedule.rounds) * BlockSize;
     std::uint8_t* target = schedule.decryption;
     Vector128::Store(target, Vector128::Load(source));
     for (int round = 1; round < schedule.rounds; ++round) {

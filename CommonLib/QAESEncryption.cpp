@@ -180,8 +180,9 @@ QByteArray QAESEncryption::removePadding(const QByteArray& rawText)
     if (size == 0)
         return rawText;
     if (m_padding == PKCS7) {
-        const int count = static_cast<signed char>(rawText.at(size - 1));
-        return rawText.left(std::max(0, size - std::max(0, count)));
+        // As a signed byte, so what is above 127 is negative and removes nothing.
+        const int value = static_cast<unsigned char>(rawText.at(size - 1));
+        return value > 127 ? rawText : rawText.left(std::max(0, size - value));
     }
     while (size > 0 && rawText.at(size - 1) == 0)
         --size;

@@ -42,8 +42,10 @@ private:
 QByteArray RandomArray(QRandomGenerator& random, int size)
 {
     QByteArray bytes(size, Qt::Uninitialized);
-    for (char& byte : bytes)
-        byte = static_cast<char>(random.bounded(256));
+    for (int i = 0; i < size; i += 4) {
+        const quint32 four = random.generate();
+        std::memcpy(bytes.data() + i, &four, std::size_t(std::min(4, size - i)));
+    }
     return bytes;
 }
 
@@ -89,6 +91,7 @@ class TestAes : public QObject
 private slots:
     void cleanup() { AesCipher::Use(nullptr); }
 
+    void processorIsUsed();
     void publishedVectors_data();
     void publishedVectors();
     void implementationsAgree_data();
@@ -104,6 +107,15 @@ private slots:
     void paddingRemoved();
     void hexadecimalText();
 };
+
+void TestAes::processorIsUsed()
+{
+#if defined(__x86_64__) && defined(__GNUC__)
+    QCOMPARE(AesCipher::Available(0) != &AesCipher::Portable, bool(__builtin_cpu_supports("aes")));
+#else
+    QSKIP("No second opinion about this processor");
+#endif
+}
 
 void TestAes::publishedVectors_data()
 {
@@ -256,10 +268,11 @@ void TestAes::largeTexts_data()
 void TestAes::largeTexts()
 {
     QFETCH(TransformMember, transform);
-    constexpr std::size_t blocks = (8 << 20) / 16 + 37;
+    // Little or nothing is left behind whole groups, to cover up what was written there.
+    constexpr std::size_t blocks = (8 << 20) / 16 + 33;
     constexpr int size = int(blocks) * 16;
-    const ExactArray text(
-        QByteArray(size / 64 + 1, 'a').append(kCountingKey).repeated(64).left(size));
+    QRandomGenerator random(38);
+    const ExactArray text(RandomArray(random, size));
     const auto run = [&](const AesCipher::Implementation& cipher, char* out) {
         AesCipher::Schedule schedule;
         cipher.ExpandKey(Bytes(kCountingKey.constData()), 4, schedule);
@@ -274,7 +287,7 @@ void TestAes::largeTexts()
 
     for (int i = 0; AesCipher::Available(i) != &AesCipher::Portable; ++i) {
         const AesCipher::Implementation& cipher = *AesCipher::Available(i);
-        for (int offset : {0, 8, 40, 61, 64}) {
+        for (int offset : {0, 8, 40, 61}) {
             std::vector<char> buffer(std::size_t(size) + 256, '#');
             char* const aligned = buffer.data() + 64 - quintptr(buffer.data()) % 64;
             char* const out = aligned + offset;
