@@ -15,7 +15,7 @@ if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|amd64)$")
     set_source_files_properties(AesCipher_x86_vaes256.cpp
       PROPERTIES COMPILE_OPTIONS "-maes;-mvaes;-mavx2")
     set_source_files_properties(AesCipher_x86_vaes512.cpp
-      PROPERTIES COMPILE_OPTIONS "-maes;-mvaes;-mavx2;-mavx512f")
+      PROPERTIES COMPILE_OPTIONS "-maes;-mvaes;-mavx2;-mavx512f;-mavx512vl")
   endif()
 else()
   list(APPEND sources AesCipher_other.cpp)

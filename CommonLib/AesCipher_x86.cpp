@@ -68,7 +68,7 @@ constexpr std::uint32_t kOsxsave = Bit(27);
 constexpr std::uint32_t kAvx = Bit(28);
 // Leaf 7, registers b and c.
 constexpr std::uint32_t kAvx2 = Bit(5);
-constexpr std::uint32_t kAvx512F = Bit(16);
+constexpr std::uint32_t kAvx512 = Bit(16) | Bit(31); // F and VL
 constexpr std::uint32_t kVaes = Bit(9);
 // Saved state.
 constexpr std::uint32_t kYmm = Bit(1) | Bit(2);
@@ -87,7 +87,7 @@ List FindNative()
 
     List list{};
     std::size_t count = 0;
-    if (vaes && Has(extended.b, kAvx512F) && Has(saved, kZmm))
+    if (vaes && Has(extended.b, kAvx512) && Has(saved, kZmm))
         list[count++] = &Vaes512;
     if (vaes)
         list[count++] = &Vaes256;

@@ -10,7 +10,7 @@ namespace AesCipher {
 extern const Implementation AesNi;
 /// Needs VAES and AVX2 as well; two blocks in a vector.
 extern const Implementation Vaes256;
-/// Needs VAES and AVX-512 F; four blocks in a vector.
+/// Needs VAES and AVX-512 F and VL as well; four blocks in a vector.
 extern const Implementation Vaes512;
 
 } // namespace AesCipher
