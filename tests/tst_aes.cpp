@@ -113,7 +113,7 @@ void TestAes::processorIsUsed()
 #if defined(__x86_64__) && defined(__GNUC__)
     QCOMPARE(AesCipher::Available(0) != &AesCipher::Portable, bool(__builtin_cpu_supports("aes")));
 #else
-    QSKIP("No second opinion about this processor");
+    QVERIFY(AesCipher::Available(0));
 #endif
 }
 
@@ -267,8 +267,6 @@ void TestAes::largeTexts_data()
 // Where results may be written in another way, which depends on how they lie in memory.
 void TestAes::largeTexts()
 {
-    if (AesCipher::Available(0) == &AesCipher::Portable)
-        QSKIP("This processor has no instructions for it");
     QFETCH(TransformMember, transform);
     // Little or nothing is left behind whole groups, to cover up what was written there.
     constexpr std::size_t blocks = (8 << 20) / 16 + 33;
