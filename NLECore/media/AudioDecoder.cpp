@@ -384,8 +384,9 @@ int AudioDecoder::Private::Read(int64_t first, int count, int newRate, int newCh
     float* target = output + lead * int64_t(channels);
     const int64_t end = first + count;
 
-    const bool isNear = isPositioned && position >= readyPosition &&
-                        position <= readyPosition + ReadyCount() + rate * MaxForwardSeconds;
+    const bool isNear =
+        isPositioned && position >= readyPosition &&
+        position <= readyPosition + ReadyCount() + int64_t(rate) * MaxForwardSeconds;
     if (!isNear && !Position(position))
         return 0;
     while (position < end) {

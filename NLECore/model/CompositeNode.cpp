@@ -180,6 +180,7 @@ void CompositeNode::Describe(Layer& layer) const
     layer.kind = LayerKind::Composite;
     layer.argb = std::uint32_t(
         Bag().IntOr(NLEKey::Render::kRender_BackgroundColor, int(DefaultBackground())));
+    layer.mixer = Mixer().settings;
     for (const NLEComPtr<TimelineNode>& clip : m_clips) {
         if (clip->IsEnabled())
             layer.children.push_back(clip->MakeSnapshot());

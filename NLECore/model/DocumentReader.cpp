@@ -3,6 +3,7 @@
 
 #include "NLECore/model/FrameMath.h"
 #include "NLECore/model/MediaObjects.h"
+#include "NLECore/model/SettingsText.h"
 #include "NLECore/model/SourceNodes.h"
 #include "NLECore/model/TimelineFactory.h"
 
@@ -306,6 +307,7 @@ void DocumentReader::ApplyCommon(const Properties& properties, TimelineNode& nod
     node.SetLevel(properties.value(kLevel).toInt());
     node.SetMarginMode(tagNLEMarginMode(properties.value(kMargin).toInt()));
     node.SetEnabled(properties.value(kEnabled, QStringLiteral("1")).toInt() != 0);
+    SettingsFromText(properties, m_folder, node);
     PropertyBag::Values bag;
     for (auto property = properties.begin(); property != properties.end(); ++property) {
         if (property.key().startsWith(kBagPrefix))

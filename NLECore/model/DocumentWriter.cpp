@@ -4,6 +4,7 @@
 #include "EngineApi/NLEKey.h"
 #include "NLECore/model/DocumentFormat.h"
 #include "NLECore/model/FrameMath.h"
+#include "NLECore/model/SettingsText.h"
 #include "NLECore/model/TimelineFactory.h"
 
 #include <numeric>
@@ -108,15 +109,15 @@ void DocumentWriter::WriteProducer(const QString& id, const TimelineNode& node, 
         WriteMedia(*media);
         WriteCommon(node, kMedia, order);
     } else if (const auto* color = dynamic_cast<const ColorClip*>(&node)) {
-        Property(QLatin1String("mlt_service"), QStringLiteral("color"));
-        Property(QLatin1String("resource"), ColorName(color->Argb()));
+        Property(QStringLiteral("mlt_service"), QStringLiteral("color"));
+        Property(QStringLiteral("resource"), ColorName(color->Argb()));
         WriteCommon(node, kColor, order);
     } else if (const auto* text = dynamic_cast<const TextClip*>(&node)) {
-        Property(QLatin1String("mlt_service"), QStringLiteral("qtext"));
-        Property(QLatin1String("text"), text->Text());
-        Property(QLatin1String("family"), text->Family());
-        Property(QLatin1String("fgcolour"), QStringLiteral("#ffffffff"));
-        Property(QLatin1String("bgcolour"), QStringLiteral("#00000000"));
+        Property(QStringLiteral("mlt_service"), QStringLiteral("qtext"));
+        Property(QStringLiteral("text"), text->Text());
+        Property(QStringLiteral("family"), text->Family());
+        Property(QStringLiteral("fgcolour"), QStringLiteral("#ffffffff"));
+        Property(QStringLiteral("bgcolour"), QStringLiteral("#00000000"));
         WriteCommon(node, kText, order);
     }
     m_xml.writeEndElement();
@@ -125,15 +126,10 @@ void DocumentWriter::WriteProducer(const QString& id, const TimelineNode& node, 
 void DocumentWriter::WriteMedia(const MediaClip& clip)
 {
     const bool still = clip.Media().kind == MediaKind::Image;
-    const QString path = clip.Media().path;
-    const QString relative = m_folder.relativeFilePath(QFileInfo(path).absoluteFilePath());
-    const bool inside = !relative.startsWith(QLatin1String(".."));
-    Property(QLatin1String("mlt_service"),
+    Property(QStringLiteral("mlt_service"),
              still ? QStringLiteral("qimage") : QStringLiteral("avformat"));
-    Property(QLatin1String("resource"), inside ? relative : QFileInfo(path).absoluteFilePath());
-    int preference = 0;
-    const_cast<MediaClip&>(clip).GetGPUFirst(&preference);
-    Property(kDecoder, QString::number(preference));
+    Property(QStringLiteral("resource"), DocumentPath(clip.Media().path, m_folder));
+    Property(kDecoder, QString::number(clip.GpuFirst()));
 }
 
 void DocumentWriter::WriteCommon(const TimelineNode& node, QLatin1String kind, int order)
@@ -149,12 +145,10 @@ void DocumentWriter::WriteCommon(const TimelineNode& node, QLatin1String kind, i
     Property(kEnabled, QString::number(node.IsEnabled()));
     Property(kSize,
              QStringLiteral("%1 %2").arg(node.PictureSize().width).arg(node.PictureSize().height));
-    for (const auto& [key, value] : node.Bag().All()) {
-        m_xml.writeStartElement(QStringLiteral("property"));
-        m_xml.writeAttribute(QStringLiteral("name"), kBagPrefix + QString::fromStdWString(key));
-        m_xml.writeCharacters(std::visit(ValueText(), value));
-        m_xml.writeEndElement();
-    }
+    for (const auto& [name, text] : SettingsToText(node, m_folder))
+        Property(name, text);
+    for (const auto& [key, value] : node.Bag().All())
+        Property(kBagPrefix + QString::fromStdWString(key), std::visit(ValueText(), value));
 }
 
 QString DocumentWriter::WriteComposite(const CompositeNode& node, int order)
@@ -227,8 +221,8 @@ void DocumentWriter::WriteBackground(const QString& id, const CompositeNode& nod
     m_xml.writeAttribute(QStringLiteral("in"), QStringLiteral("0"));
     m_xml.writeAttribute(QStringLiteral("out"),
                          QString::number(std::max(1, node.TotalLength()) - 1));
-    Property(QLatin1String("mlt_service"), QStringLiteral("color"));
-    Property(QLatin1String("resource"), ColorName(std::uint32_t(background)));
+    Property(QStringLiteral("mlt_service"), QStringLiteral("color"));
+    Property(QStringLiteral("resource"), ColorName(std::uint32_t(background)));
     Property(kKind, kBackground);
     m_xml.writeEndElement();
 }
@@ -278,14 +272,14 @@ void DocumentWriter::WriteTrack(const QString& producer, bool hidden)
 void DocumentWriter::WriteTransition(const char* service, int track)
 {
     m_xml.writeStartElement(QStringLiteral("transition"));
-    Property(QLatin1String("mlt_service"), QLatin1String(service));
-    Property(QLatin1String("a_track"), QStringLiteral("0"));
-    Property(QLatin1String("b_track"), QString::number(track));
-    Property(QLatin1String("always_active"), QStringLiteral("1"));
+    Property(QStringLiteral("mlt_service"), QLatin1String(service));
+    Property(QStringLiteral("a_track"), QStringLiteral("0"));
+    Property(QStringLiteral("b_track"), QString::number(track));
+    Property(QStringLiteral("always_active"), QStringLiteral("1"));
     if (qstrcmp(service, "mix") == 0)
-        Property(QLatin1String("sum"), QStringLiteral("1"));
+        Property(QStringLiteral("sum"), QStringLiteral("1"));
     else
-        Property(QLatin1String("geometry"), QStringLiteral("0/0:100%x100%:100"));
+        Property(QStringLiteral("geometry"), QStringLiteral("0/0:100%x100%:100"));
     m_xml.writeEndElement();
 }
 
@@ -297,7 +291,7 @@ void DocumentWriter::EntryOf(const QString& producer, const NLERange& range)
     m_xml.writeAttribute(QStringLiteral("out"), QString::number(range.out));
 }
 
-void DocumentWriter::Property(QLatin1String name, const QString& value)
+void DocumentWriter::Property(const QString& name, const QString& value)
 {
     m_xml.writeStartElement(QStringLiteral("property"));
     m_xml.writeAttribute(QStringLiteral("name"), name);

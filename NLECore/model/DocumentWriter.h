@@ -38,7 +38,7 @@ private:
     void WriteProfile(const TimelineNode& root);
     void WriteCommon(const TimelineNode& node, QLatin1String kind, int order);
     void WriteMedia(const MediaClip& clip);
-    void Property(QLatin1String name, const QString& value);
+    void Property(const QString& name, const QString& value);
     void EntryOf(const QString& producer, const NLERange& range);
     QString NewId(const char* prefix);
 

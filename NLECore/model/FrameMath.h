@@ -30,8 +30,11 @@ inline NLERational RateFromDouble(double rate)
     return {std::int64_t(rate * 1000000 + 0.5), 1000000};
 }
 
+/// The nearest 32-bit number; 0 for what is not a number.
 inline int ClampToInt(double value)
 {
+    if (std::isnan(value))
+        return 0;
     constexpr double lowest = std::numeric_limits<std::int32_t>::min();
     constexpr double highest = std::numeric_limits<std::int32_t>::max();
     return int(std::clamp(value, lowest, highest));
@@ -44,10 +47,10 @@ inline int RescaleFrame(std::int64_t frame, const NLERational& from, const NLERa
 }
 
 /// The frame at rate \a to that is showing when \a frame at rate \a from starts.
-inline int ShownFrame(std::int64_t frame, const NLERational& from, const NLERational& to)
+inline int ShownFrame(double frame, const NLERational& from, const NLERational& to)
 {
     // The margin keeps a frame that starts at the same instant from falling to the one before.
-    return ClampToInt(std::floor(double(frame) * ToDouble(to) / ToDouble(from) + 1e-4));
+    return ClampToInt(std::floor(frame * ToDouble(to) / ToDouble(from) + 1e-4));
 }
 
 /// The same span of time at another rate; a span that is not empty keeps at least one frame.

@@ -3,10 +3,12 @@
 
 #include "EngineApi/NLETypes.h"
 #include "NLECore/media/MediaInfo.h"
+#include "NLECore/model/ClipSettings.h"
 
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace nle {
@@ -34,12 +36,21 @@ struct Layer
     NLERenderMode mode = NLERender_All;
     NLESize size = {0, 0}; ///< picture size in pixels
 
+    double speed = 1;               ///< source time that passes in a unit of layer time
+    std::optional<int> frozenFrame; ///< the one frame that shows
+    BlendSettings blend;
+    TransformSettings transform;
+    AudioSettings audio;
+
     std::shared_ptr<const MediaInfo> media; ///< Media only
+    std::shared_ptr<const MediaInfo> proxy; ///< Media only: read for the picture instead, or null
     std::uint32_t argb = 0;                 ///< Color: the colour; Composite: what shows behind
     QString text;                           ///< Text only
     QString family;                         ///< Text only
     std::vector<std::shared_ptr<const Layer>>
         children; ///< Composite: enabled ones, lowest level first
+
+    MixerSettings mixer; ///< Composite only: strips of the children's tracks, by level
 
     /// Whether the layer plays at \a frame of its parent.
     bool PlaysAt(std::int64_t frame) const

@@ -126,9 +126,10 @@ void MediaClip::Take(std::shared_ptr<const MediaInfo> media)
 
 int MediaClip::TotalLength() const
 {
-    if (IsStill(*m_media))
+    if (IsStill(*m_media) || IsFrozen())
         return LongestStill(FrameRate());
-    return RescaleFrame(m_media->frameCount, RateOf(*m_media), FrameRate());
+    return ClampToInt(
+        std::round(RescaleFrame(m_media->frameCount, RateOf(*m_media), FrameRate()) / Speed()));
 }
 
 NLESize MediaClip::PictureSize() const
@@ -148,6 +149,8 @@ void MediaClip::Describe(Layer& layer) const
 {
     layer.kind = LayerKind::Media;
     layer.media = m_media;
+    if (Video().settings.proxyEnabled)
+        layer.proxy = Video().settings.proxy;
 }
 
 GeneratedClip::GeneratedClip(const NLERational& frameRate, NLESize size)

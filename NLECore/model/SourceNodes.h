@@ -33,6 +33,7 @@ public:
     NLESize PictureSize() const override;
 
     const MediaInfo& Media() const { return *m_media; }
+    int GpuFirst() const { return m_gpuFirst; }
 
 protected:
     NLEComPtr<TimelineNode> CopyContent(bool deep) const override;

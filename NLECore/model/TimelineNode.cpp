@@ -5,6 +5,7 @@
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/model/FrameMath.h"
 
+#include <algorithm>
 #include <atomic>
 
 namespace nle {
@@ -45,6 +46,10 @@ HRESULT NodeBag::Write(const std::wstring& key, Value value)
         const NLERational* rate = std::get_if<NLERational>(&value);
         return rate ? m_node->SetRenderFrameRate(*rate) : E_INVALIDARG;
     }
+    if (m_node && (key == NLEKey::Speed::kScale || key == NLEKey::Speed::kEnabled)) {
+        m_node->ChangeSpeed([&] { PropertyBag::Write(key, std::move(value)); });
+        return S_OK;
+    }
     return PropertyBag::Write(key, std::move(value));
 }
 
@@ -59,7 +64,14 @@ TimelineNode* TimelineNode::From(IUnknown* object)
 }
 
 TimelineNode::TimelineNode(const NLERational& frameRate)
-    : m_id(NextId()), m_frameRate(frameRate), m_bag(MakeCom<NodeBag>(this))
+    : m_id(NextId())
+    , m_frameRate(frameRate)
+    , m_bag(MakeCom<NodeBag>(this))
+    , m_blend(static_cast<INLETimeline&>(*this))
+    , m_transform(static_cast<INLETimeline&>(*this))
+    , m_audio(static_cast<INLETimeline&>(*this))
+    , m_video(*this)
+    , m_mixer(static_cast<INLETimeline&>(*this))
 {
 }
 
@@ -70,12 +82,18 @@ TimelineNode::~TimelineNode()
 
 HRESULT TimelineNode::QueryInterface(REFIID iid, void** out)
 {
-    if (out && iid == NodeId) {
+    if (!out)
+        return E_POINTER;
+    if (iid == NodeId)
         *out = this;
-        AddRef();
-        return S_OK;
-    }
-    return ComObject::QueryInterface(iid, out);
+    else if (!(ComDetail::Offer<INLEBlendSetting>(&m_blend, iid, out) ||
+               ComDetail::Offer<INLETransform>(&m_transform, iid, out) ||
+               ComDetail::Offer<INLEAudioStreamProcess>(&m_audio, iid, out) ||
+               ComDetail::Offer<INLEVideoStreamProcess>(&m_video, iid, out) ||
+               ComDetail::Offer<INLEMixerSetting>(&m_mixer, iid, out)))
+        return ComObject::QueryInterface(iid, out);
+    AddRef();
+    return S_OK;
 }
 
 HRESULT TimelineNode::GetInterface(REFIID iid, void** out, int /*reserved1*/, int /*reserved2*/)
@@ -194,6 +212,11 @@ HRESULT TimelineNode::Clone(bool deep, INLETimeline** clone)
     copy->m_margin = m_margin;
     copy->m_enabled = m_enabled;
     copy->m_bag->SetAll(m_bag->All());
+    copy->m_blend.settings = m_blend.settings;
+    copy->m_transform.settings = m_transform.settings;
+    copy->m_audio.settings = m_audio.settings;
+    copy->m_video.settings = m_video.settings;
+    copy->m_mixer.settings = m_mixer.settings;
     *clone = copy.detach();
     return S_OK;
 }
@@ -227,6 +250,35 @@ void TimelineNode::ChangeRate(const NLERational& rate)
     m_frameRate = rate;
 }
 
+double TimelineNode::Speed() const
+{
+    constexpr double slowest = 0.01;
+    constexpr double fastest = 100;
+    NLERational scale = {1, 1};
+    if (m_bag->IntOr(NLEKey::Speed::kEnabled, 0) != 1 ||
+        FAILED(m_bag->GetRational(NLEKey::Speed::kScale, &scale)) || !IsRate(scale))
+        return 1;
+    return std::clamp(ToDouble(scale), slowest, fastest);
+}
+
+bool TimelineNode::IsFrozen() const
+{
+    return m_bag->IntOr(NLEKey::Freeze::kFreeze_Enabled, 0) == 1;
+}
+
+template <typename Change>
+void TimelineNode::ChangeSpeed(Change change)
+{
+    const double before = Speed();
+    change();
+    const double after = Speed();
+    if (!m_hasRange || before == after)
+        return;
+    // A rate that counts the same time in more frames is what a lower speed is to the trim range.
+    m_range =
+        RescaleRange(m_range, RateFromDouble(before), RateFromDouble(before * before / after));
+}
+
 Snapshot TimelineNode::MakeSnapshot() const
 {
     auto layer = std::make_shared<Layer>();
@@ -237,6 +289,12 @@ Snapshot TimelineNode::MakeSnapshot() const
     layer->margin = m_margin;
     layer->mode = NLERenderMode(m_bag->IntOr(NLEKey::Render::kRender_Mode, NLERender_All));
     layer->size = PictureSize();
+    layer->speed = Speed();
+    if (IsFrozen())
+        layer->frozenFrame = m_bag->IntOr(kFreezeFrameKey, layer->range.in);
+    layer->blend = m_blend.settings;
+    layer->transform = m_transform.settings;
+    layer->audio = m_audio.settings;
     Describe(*layer);
     return layer;
 }

@@ -5,6 +5,7 @@
 #include "EngineApi/INLEProperties.h"
 #include "EngineApi/INLETimeline.h"
 #include "NLECore/model/Layer.h"
+#include "NLECore/model/NodeFacets.h"
 #include "NLECore/model/PropertyBag.h"
 
 namespace nle {
@@ -14,6 +15,8 @@ class TimelineNode;
 
 /// Key under which a node's timeline type is kept, as text.
 inline constexpr const wchar_t* kTimelineTypeKey = L"key_timeline_type";
+/// Integer: the frame that a frozen clip shows; its in point when there is none.
+inline constexpr const wchar_t* kFreezeFrameKey = L"kFreeze_Frame";
 
 /// A node's property bag: frame rate and length are live views of the node.
 class NodeBag final : public PropertyBag
@@ -84,6 +87,23 @@ public:
     bool IsEnabled() const { return m_enabled; }
     tagNLEMarginMode MarginMode() const { return m_margin; }
     PropertyBag& Bag() const { return *m_bag; }
+    /// Playing speed, above 0; 1 when none is set or enabled.
+    double Speed() const;
+    bool IsFrozen() const;
+    /// Changes what the speed depends on and keeps the material that the trim range shows.
+    template <typename Change>
+    void ChangeSpeed(Change change);
+
+    BlendFacet& Blend() { return m_blend; }
+    TransformFacet& Transform() { return m_transform; }
+    AudioFacet& Audio() { return m_audio; }
+    VideoFacet& Video() { return m_video; }
+    MixerFacet& Mixer() { return m_mixer; }
+    const BlendFacet& Blend() const { return m_blend; }
+    const TransformFacet& Transform() const { return m_transform; }
+    const AudioFacet& Audio() const { return m_audio; }
+    const VideoFacet& Video() const { return m_video; }
+    const MixerFacet& Mixer() const { return m_mixer; }
 
     CompositeNode* Parent() const { return m_parent; }
     void SetParent(CompositeNode* parent) { m_parent = parent; }
@@ -111,6 +131,11 @@ private:
     bool m_current = false;
     CompositeNode* m_parent = nullptr;
     NLEComPtr<NodeBag> m_bag;
+    BlendFacet m_blend;
+    TransformFacet m_transform;
+    AudioFacet m_audio;
+    VideoFacet m_video;
+    MixerFacet m_mixer;
 };
 
 } // namespace nle

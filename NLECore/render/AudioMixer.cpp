@@ -5,8 +5,31 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace nle {
+
+namespace {
+
+/// Gain of a curve at a time in seconds: linear between points, held outside of them, 1 without
+/// any.
+double CurveAt(const std::vector<VolumePoint>& points, double time)
+{
+    if (points.empty())
+        return 1;
+    const auto after =
+        std::upper_bound(points.begin(), points.end(), time,
+                         [](double wanted, const VolumePoint& p) { return wanted < p.time; });
+    if (after == points.begin())
+        return after->gain;
+    const auto before = after - 1;
+    if (after == points.end())
+        return before->gain;
+    const double share = (time - before->time) / (after->time - before->time);
+    return before->gain + (after->gain - before->gain) * share;
+}
+
+} // namespace
 
 AudioMixer::AudioMixer(Snapshot root, int sampleRate, int channels)
     : m_root(std::move(root)), m_sampleRate(sampleRate), m_channels(channels)
@@ -15,8 +38,7 @@ AudioMixer::AudioMixer(Snapshot root, int sampleRate, int channels)
 
 void AudioMixer::Mix(std::int64_t first, int count, float* samples)
 {
-    std::fill_n(samples, size_t(count) * size_t(m_channels), 0.0f);
-    Add(*m_root, first, count, samples);
+    Render(*m_root, first, count, samples);
 }
 
 std::int64_t AudioMixer::SampleOfFrame(std::int64_t frame) const
@@ -29,37 +51,107 @@ std::int64_t AudioMixer::SampleOfFrame(std::int64_t frame, const NLERational& ra
     return std::llround(double(frame) * m_sampleRate / ToDouble(rate));
 }
 
-void AudioMixer::Add(const Layer& layer, std::int64_t first, int count, float* samples)
+void AudioMixer::Render(const Layer& layer, std::int64_t first, int count, float* samples)
 {
-    if (layer.kind == LayerKind::Media)
-        AddMedia(layer, first, count, samples);
-    for (const Snapshot& child : layer.children) {
-        if (child->mode == NLERender_VideoOnly)
-            continue;
-        const NLERational& rate = layer.frameRate;
-        const std::int64_t start = SampleOfFrame(child->position, rate);
-        const std::int64_t end =
-            SampleOfFrame(child->position + NLERangeLength(child->range), rate);
-        const std::int64_t from = std::max(first, start);
-        const std::int64_t to = std::min(first + count, end);
-        if (from < to)
-            Add(*child, from - start + SampleOfFrame(child->range.in, child->frameRate),
-                int(to - from), samples + (from - first) * m_channels);
+    const auto content = [&](std::int64_t start, int length, float* out) {
+        RenderContent(layer, start, length, out);
+    };
+    if (AudioEffects::AreNeeded(layer.audio)) {
+        Voice& voice = m_voices[&layer];
+        if (!voice.effects)
+            voice.effects = std::make_unique<AudioEffects>(layer.audio, m_sampleRate, m_channels);
+        voice.effects->Read(first, count, content, samples);
+    } else {
+        content(first, count, samples);
     }
+    ApplyGains(layer, first, count, samples);
 }
 
-void AudioMixer::AddMedia(const Layer& layer, std::int64_t first, int count, float* samples)
+void AudioMixer::RenderContent(const Layer& layer, std::int64_t first, int count, float* samples)
 {
-    if (layer.media->audioStream < 0)
+    std::fill_n(samples, size_t(count) * size_t(m_channels), 0.0f);
+    // A frozen picture is silent.
+    if (layer.frozenFrame)
         return;
-    const auto [entry, isNew] = m_decoders.try_emplace(&layer);
-    if (isNew)
-        entry->second = AudioDecoder::Open(layer.media, layer.media->audioStream, nullptr);
-    if (!entry->second)
+    if (layer.kind == LayerKind::Media && layer.media->audioStream >= 0)
+        ReadMedia(layer, m_voices[&layer], first, count, samples);
+    for (const Snapshot& child : layer.children)
+        AddChild(layer, *child, first, count, samples);
+}
+
+void AudioMixer::AddChild(const Layer& parent, const Layer& child, std::int64_t first, int count,
+                          float* samples)
+{
+    const auto found = parent.mixer.find(child.level);
+    const tagMixerParam strip = found == parent.mixer.end() ? kNeutralStrip : found->second;
+    const bool anySolo = std::any_of(parent.mixer.begin(), parent.mixer.end(),
+                                     [](const auto& other) { return other.second.solo != 0; });
+    if (child.mode == NLERender_VideoOnly || strip.mute || (anySolo && !strip.solo))
         return;
-    m_block.resize(size_t(count) * size_t(m_channels));
-    if (entry->second->Read(first, count, m_sampleRate, m_channels, m_block.data()) > 0)
-        std::transform(m_block.begin(), m_block.end(), samples, samples, std::plus<>());
+    const std::int64_t start = SampleOfFrame(child.position, parent.frameRate);
+    const std::int64_t end =
+        SampleOfFrame(child.position + NLERangeLength(child.range), parent.frameRate);
+    const std::int64_t from = std::max(first, start);
+    const std::int64_t to = std::min(first + count, end);
+    if (from >= to)
+        return;
+    const int length = int(to - from);
+    std::vector<float> block(size_t(length) * size_t(m_channels));
+    const std::int64_t inPoint = SampleOfFrame(child.range.in, child.frameRate);
+    Render(child, from - start + inPoint, length, block.data());
+    ApplyBalance(strip.balance, length, block.data());
+    float* out = samples + (from - first) * m_channels;
+    for (size_t i = 0; i < block.size(); ++i)
+        out[i] += float(block[i] * strip.volume);
+}
+
+void AudioMixer::ReadMedia(const Layer& layer, Voice& voice, std::int64_t first, int count,
+                           float* samples)
+{
+    if (!voice.decoder)
+        voice.decoder = AudioDecoder::Open(layer.media, layer.media->audioStream, nullptr);
+    // Material that plays faster is read as if the output had fewer samples a second.
+    const int rate = std::max(1, int(std::lround(m_sampleRate / layer.speed)));
+    if (voice.decoder)
+        voice.decoder->Read(first, count, rate, m_channels, samples);
+}
+
+void AudioMixer::ApplyGains(const Layer& layer, std::int64_t first, int count, float* samples) const
+{
+    const AudioSettings& audio = layer.audio;
+    const auto channels = size_t(m_channels);
+    const std::int64_t inPoint = SampleOfFrame(layer.range.in, layer.frameRate);
+    const double framesPerSample = ToDouble(layer.frameRate) / m_sampleRate;
+    const auto length = double(NLERangeLength(layer.range));
+    for (int i = 0; i < count; ++i) {
+        float* const sample = samples + size_t(i) * channels;
+        const double frame = double(first + i - inPoint) * framesPerSample;
+        double gain = audio.mute ? 0 : 1;
+        if (audio.volumeEnabled)
+            gain *= audio.volume * CurveAt(audio.volumePoints, frame / ToDouble(layer.frameRate));
+        if (audio.fadeIn && audio.fadeInFrames > 0)
+            gain *= std::clamp(frame / audio.fadeInFrames, 0.0, 1.0);
+        if (audio.fadeOut && audio.fadeOutFrames > 0)
+            gain *= std::clamp((length - frame) / audio.fadeOutFrames, 0.0, 1.0);
+        if (audio.mono)
+            std::fill_n(sample, channels,
+                        std::accumulate(sample, sample + channels, 0.0f) / float(channels));
+        for (size_t channel = 0; channel < channels; ++channel)
+            sample[channel] = float(sample[channel] * gain);
+    }
+    ApplyBalance(audio.balance, count, samples);
+}
+
+void AudioMixer::ApplyBalance(double balance, int count, float* samples) const
+{
+    if (m_channels < 2 || balance == 0)
+        return;
+    const auto left = float(std::min(1.0, 1 - balance));
+    const auto right = float(std::min(1.0, 1 + balance));
+    for (int i = 0; i < count; ++i) {
+        samples[size_t(i) * size_t(m_channels)] *= left;
+        samples[size_t(i) * size_t(m_channels) + 1] *= right;
+    }
 }
 
 } // namespace nle

@@ -3,6 +3,7 @@
 
 #include "NLECore/media/AudioDecoder.h"
 #include "NLECore/model/Layer.h"
+#include "NLECore/render/AudioEffects.h"
 
 #include <map>
 #include <memory>
@@ -24,15 +25,27 @@ public:
     std::int64_t SampleOfFrame(std::int64_t frame) const;
 
 private:
-    void Add(const Layer& layer, std::int64_t first, int count, float* samples);
-    void AddMedia(const Layer& layer, std::int64_t first, int count, float* samples);
+    /// What is kept of one layer between reads.
+    struct Voice
+    {
+        std::unique_ptr<AudioDecoder> decoder;
+        std::unique_ptr<AudioEffects> effects;
+    };
+
+    /// The layer's own samples with its settings, from its frame 0 on.
+    void Render(const Layer& layer, std::int64_t first, int count, float* samples);
+    void RenderContent(const Layer& layer, std::int64_t first, int count, float* samples);
+    void AddChild(const Layer& parent, const Layer& child, std::int64_t first, int count,
+                  float* samples);
+    void ReadMedia(const Layer& layer, Voice& voice, std::int64_t first, int count, float* samples);
+    void ApplyGains(const Layer& layer, std::int64_t first, int count, float* samples) const;
+    void ApplyBalance(double balance, int count, float* samples) const;
     std::int64_t SampleOfFrame(std::int64_t frame, const NLERational& rate) const;
 
     const Snapshot m_root;
     const int m_sampleRate;
     const int m_channels;
-    std::map<const Layer*, std::unique_ptr<AudioDecoder>> m_decoders;
-    std::vector<float> m_block;
+    std::map<const Layer*, Voice> m_voices;
 };
 
 } // namespace nle

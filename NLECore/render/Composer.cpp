@@ -49,6 +49,84 @@ QImage TextPicture(const Layer& layer, const QSize& size)
     return image;
 }
 
+/// Where a layer's picture lies: an upright rectangle and what is done to it.
+struct Placing
+{
+    QRectF rect;     ///< in pixels of the canvas; a side below 0 mirrors
+    double rotation; ///< degrees about the rectangle's middle
+};
+
+Placing PlaceLayer(const Layer& layer, NLESize parentSize, const QSize& canvas)
+{
+    const QRect plain = PlacePicture(layer.size, layer.margin, parentSize, canvas);
+    const TransformSettings& transform = layer.transform;
+    if (plain.isEmpty() || transform.IsIdentity())
+        return {plain, 0};
+    const QSizeF size(plain.width() * transform.scale.width,
+                      plain.height() * transform.scale.height);
+    const QPointF center(transform.center.x * canvas.width(), transform.center.y * canvas.height());
+    return {QRectF(center - QPointF(size.width() / 2, size.height() / 2), size),
+            transform.rotation};
+}
+
+QPainter::CompositionMode PainterMode(BlendMode mode)
+{
+    switch (mode) {
+    case BlendMode::Normal:
+        return QPainter::CompositionMode_SourceOver;
+    case BlendMode::Multiply:
+        return QPainter::CompositionMode_Multiply;
+    case BlendMode::Screen:
+        return QPainter::CompositionMode_Screen;
+    case BlendMode::Overlay:
+        return QPainter::CompositionMode_Overlay;
+    case BlendMode::Darken:
+        return QPainter::CompositionMode_Darken;
+    case BlendMode::Lighten:
+        return QPainter::CompositionMode_Lighten;
+    case BlendMode::Add:
+        return QPainter::CompositionMode_Plus;
+    case BlendMode::Difference:
+        return QPainter::CompositionMode_Difference;
+    case BlendMode::ColorDodge:
+        return QPainter::CompositionMode_ColorDodge;
+    case BlendMode::ColorBurn:
+        return QPainter::CompositionMode_ColorBurn;
+    case BlendMode::HardLight:
+        return QPainter::CompositionMode_HardLight;
+    case BlendMode::SoftLight:
+        return QPainter::CompositionMode_SoftLight;
+    case BlendMode::Exclusion:
+        return QPainter::CompositionMode_Exclusion;
+    }
+    return QPainter::CompositionMode_SourceOver;
+}
+
+/// Size to ask a decoder for, for a picture that will be drawn as large as \a rect.
+QSize DecodeSize(const QRectF& rect)
+{
+    const auto side = [](double length) {
+        return int(std::clamp(std::ceil(std::abs(length)), 1.0, double(kLongestSide)));
+    };
+    return QSize(side(rect.width()), side(rect.height()));
+}
+
+void Draw(QPainter& painter, const QImage& picture, const Placing& placing)
+{
+    const QRectF& rect = placing.rect;
+    const QRect whole = rect.toRect();
+    if (placing.rotation == 0 && rect == QRectF(whole) && picture.size() == whole.size()) {
+        painter.drawImage(whole.topLeft(), picture);
+        return;
+    }
+    painter.save();
+    painter.translate(rect.center());
+    painter.rotate(placing.rotation);
+    painter.scale(rect.width() / picture.width(), rect.height() / picture.height());
+    painter.drawImage(QPointF(-picture.width() / 2.0, -picture.height() / 2.0), picture);
+    painter.restore();
+}
+
 /// Without alpha the painter can copy instead of blending.
 QImage AsOpaque(QImage image)
 {
@@ -115,17 +193,20 @@ QImage Composer::Content(const Layer& layer, std::int64_t frame, const QSize& si
 
 QImage Composer::MediaPicture(const Layer& layer, std::int64_t frame, const QSize& size)
 {
-    const MediaInfo& media = *layer.media;
-    const MediaStream* stream = media.Stream(media.videoStream);
+    const std::shared_ptr<const MediaInfo>& media = layer.proxy ? layer.proxy : layer.media;
+    const MediaStream* stream = media->Stream(media->videoStream);
     if (!stream)
         return {};
-    const NLERational mediaRate = {media.frameRate.num, media.frameRate.den};
-    const int wanted = ShownFrame(frame, layer.frameRate, mediaRate);
+    const NLERational mediaRate = {media->frameRate.num, media->frameRate.den};
+    // A frozen clip names a frame of its material, which plays at normal speed.
+    const int wanted = layer.frozenFrame
+                           ? ShownFrame(*layer.frozenFrame, layer.frameRate, mediaRate)
+                           : ShownFrame(double(frame) * layer.speed, layer.frameRate, mediaRate);
     OpenDecoder& decoder = m_decoders[&layer];
     decoder.used = true;
     if (!decoder.lease)
         decoder.lease =
-            Decoders().Acquire(layer.media, media.videoStream, DecodePurpose::Render, wanted);
+            Decoders().Acquire(media, media->videoStream, DecodePurpose::Render, wanted);
     if (!decoder.lease)
         return {};
     const QImage image = decoder.lease->Picture(wanted, size);
@@ -140,15 +221,17 @@ QImage Composer::Composite(const Layer& layer, std::int64_t frame, const QSize& 
     for (const Snapshot& child : layer.children) {
         if (!child->PlaysAt(frame) || child->mode == NLERender_AudioOnly)
             continue;
-        const QRect place = PlacePicture(child->size, child->margin, layer.size, size);
-        if (place.isEmpty())
+        const Placing placing = PlaceLayer(*child, layer.size, size);
+        if (placing.rect.width() == 0 || placing.rect.height() == 0)
             continue;
-        const QImage picture = Content(*child, frame - child->position + child->range.in,
-                                       place.size().boundedTo({kLongestSide, kLongestSide}));
-        if (picture.size() == place.size())
-            painter.drawImage(place.topLeft(), picture);
-        else if (!picture.isNull())
-            painter.drawImage(place, picture);
+        const QImage picture =
+            Content(*child, frame - child->position + child->range.in, DecodeSize(placing.rect));
+        if (picture.isNull())
+            continue;
+        const BlendSettings blend = child->blend.enabled ? child->blend : BlendSettings();
+        painter.setCompositionMode(PainterMode(blend.mode));
+        painter.setOpacity(double(blend.alpha) / kOpaqueAlpha);
+        Draw(painter, picture, placing);
     }
     return canvas;
 }

@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/render/AudioEffects.h"
+
+#include "NLECore/model/EngineLog.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+extern "C" {
+#include <libavfilter/avfilter.h>
+#include <libavfilter/buffersink.h>
+#include <libavfilter/buffersrc.h>
+#include <libavutil/channel_layout.h>
+#include <libavutil/frame.h>
+}
+
+namespace nle {
+
+namespace {
+
+/// Samples that go into the filters at a time.
+constexpr int kBlock = 1024;
+/// What the filters hear before the first sample that counts, in parts of a second.
+constexpr int kLeadInDivisor = 4;
+/// Blocks after which filters that give nothing are given up.
+constexpr int kMostSilentBlocks = 200;
+
+struct GraphFreer
+{
+    void operator()(AVFilterGraph* graph) const { avfilter_graph_free(&graph); }
+};
+struct FrameFreer
+{
+    void operator()(AVFrame* frame) const { av_frame_free(&frame); }
+};
+using FramePtr = std::unique_ptr<AVFrame, FrameFreer>;
+
+QString Number(double value)
+{
+    return QString::number(value, 'f', 6);
+}
+
+/// The filters in the notation of libavfilter.
+QByteArray Describe(const AudioSettings& settings)
+{
+    QStringList filters;
+    if (settings.pitch != 0)
+        filters << QStringLiteral("rubberband=pitch=") + Number(std::exp2(settings.pitch / 12.0));
+    if (settings.denoise && settings.denoiseLevel > 0)
+        filters << QStringLiteral("afftdn=nf=-30:nr=") + Number(settings.denoiseLevel);
+    for (size_t band = 0; settings.equalizer && band < kEqualizerBands.size(); ++band) {
+        if (settings.equalizerGains[band] != 0)
+            filters << QStringLiteral("equalizer=width_type=o:width=1:frequency=%1:gain=%2")
+                           .arg(Number(kEqualizerBands[band]),
+                                Number(settings.equalizerGains[band]));
+    }
+    return filters.join(QLatin1Char(',')).toLatin1();
+}
+
+} // namespace
+
+struct AudioEffects::Private
+{
+    QByteArray description;
+    int sampleRate = 0;
+    int channels = 0;
+    std::unique_ptr<AVFilterGraph, GraphFreer> graph;
+    AVFilterContext* input = nullptr;
+    AVFilterContext* output = nullptr;
+    FramePtr frame{av_frame_alloc()};
+    std::int64_t nextInput = 0;
+    std::int64_t nextOutput = -1;
+    std::vector<float> ready; ///< filtered, not yet read
+
+    bool Build();
+    bool Start(std::int64_t first);
+    bool Feed(const Source& source);
+    void Drain();
+};
+
+bool AudioEffects::Private::Build()
+{
+    graph.reset(avfilter_graph_alloc());
+    AVChannelLayout layout;
+    av_channel_layout_default(&layout, channels);
+    char layoutName[64] = {};
+    av_channel_layout_describe(&layout, layoutName, sizeof(layoutName));
+    const QByteArray layoutText(layoutName);
+    const QByteArray format = QStringLiteral("sample_rate=%1:sample_fmt=flt:channel_layout=%2")
+                                  .arg(sampleRate)
+                                  .arg(QLatin1String(layoutText))
+                                  .toLatin1();
+    const QByteArray whole =
+        "abuffer@in=time_base=1/" + QByteArray::number(sampleRate) + ":" + format + "," +
+        description + ",aformat=sample_fmts=flt:sample_rates=" + QByteArray::number(sampleRate) +
+        ":channel_layouts=" + layoutText + ",abuffersink@out";
+    AVFilterInOut* inputs = nullptr;
+    AVFilterInOut* outputs = nullptr;
+    const bool parsed =
+        graph && avfilter_graph_parse2(graph.get(), whole.constData(), &inputs, &outputs) >= 0 &&
+        avfilter_graph_config(graph.get(), nullptr) >= 0;
+    avfilter_inout_free(&inputs);
+    avfilter_inout_free(&outputs);
+    if (!parsed) {
+        qCWarning(lcEngine, "no such sound filters: %s", description.constData());
+        graph.reset();
+        return false;
+    }
+    input = avfilter_graph_get_filter(graph.get(), "abuffer@in");
+    output = avfilter_graph_get_filter(graph.get(), "abuffersink@out");
+    return input && output;
+}
+
+bool AudioEffects::Private::Start(std::int64_t first)
+{
+    ready.clear();
+    nextInput = std::max<std::int64_t>(0, first - sampleRate / kLeadInDivisor);
+    nextOutput = nextInput;
+    return Build();
+}
+
+bool AudioEffects::Private::Feed(const Source& source)
+{
+    av_frame_unref(frame.get());
+    frame->format = AV_SAMPLE_FMT_FLT;
+    frame->sample_rate = sampleRate;
+    frame->nb_samples = kBlock;
+    frame->pts = nextInput;
+    av_channel_layout_default(&frame->ch_layout, channels);
+    if (av_frame_get_buffer(frame.get(), 0) < 0)
+        return false;
+    source(nextInput, kBlock, reinterpret_cast<float*>(frame->data[0]));
+    nextInput += kBlock;
+    return av_buffersrc_add_frame(input, frame.get()) >= 0;
+}
+
+void AudioEffects::Private::Drain()
+{
+    while (av_buffersink_get_frame(output, frame.get()) >= 0) {
+        const auto* samples = reinterpret_cast<const float*>(frame->data[0]);
+        ready.insert(ready.end(), samples, samples + size_t(frame->nb_samples) * size_t(channels));
+        av_frame_unref(frame.get());
+    }
+}
+
+AudioEffects::AudioEffects(const AudioSettings& settings, int sampleRate, int channels)
+    : d(std::make_unique<Private>())
+{
+    d->description = Describe(settings);
+    d->sampleRate = sampleRate;
+    d->channels = channels;
+}
+
+AudioEffects::~AudioEffects() = default;
+
+bool AudioEffects::AreNeeded(const AudioSettings& settings)
+{
+    return !Describe(settings).isEmpty();
+}
+
+void AudioEffects::Read(std::int64_t first, int count, const Source& source, float* samples)
+{
+    const auto channels = size_t(d->channels);
+    if (first != d->nextOutput && !d->Start(first)) {
+        d->nextOutput = -1;
+        source(first, count, samples);
+        return;
+    }
+    const auto wanted = size_t(first - d->nextOutput + count) * channels;
+    for (int silent = 0; d->ready.size() < wanted && silent < kMostSilentBlocks; ++silent) {
+        const size_t before = d->ready.size();
+        if (!d->Feed(source))
+            break;
+        d->Drain();
+        if (d->ready.size() > before)
+            silent = 0;
+    }
+    d->ready.resize(std::max(d->ready.size(), wanted));
+    const auto end = d->ready.begin() + std::ptrdiff_t(wanted);
+    std::copy(end - std::ptrdiff_t(size_t(count) * channels), end, samples);
+    d->ready.erase(d->ready.begin(), end);
+    d->nextOutput = first + count;
+}
+
+} // namespace nle
