@@ -6,6 +6,16 @@
 #include <atomic>
 #include <type_traits>
 
+/// Stores \a value where an out-parameter points; E_POINTER for null.
+template <typename T>
+HRESULT GiveValue(T* out, const T& value)
+{
+    if (!out)
+        return E_POINTER;
+    *out = value;
+    return S_OK;
+}
+
 namespace ComDetail {
 
 /// Stores \a object's base \a Interface in \a out when \a iid names it.

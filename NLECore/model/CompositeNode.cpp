@@ -19,13 +19,7 @@ class Enumerator final : public ComObject<INLETimelineEnumerator>
 public:
     explicit Enumerator(std::vector<NLEComPtr<TimelineNode>> clips) : m_clips(std::move(clips)) {}
 
-    HRESULT IsEmpty(bool* empty) override
-    {
-        if (!empty)
-            return E_POINTER;
-        *empty = m_clips.empty();
-        return S_OK;
-    }
+    HRESULT IsEmpty(bool* empty) override { return GiveValue(empty, m_clips.empty()); }
     HRESULT Next() override
     {
         if (m_index < m_clips.size())
@@ -77,10 +71,7 @@ CompositeNode::~CompositeNode()
 
 HRESULT CompositeNode::GetClipCount(int* count)
 {
-    if (!count)
-        return E_POINTER;
-    *count = int(m_clips.size());
-    return S_OK;
+    return GiveValue(count, int(m_clips.size()));
 }
 
 HRESULT CompositeNode::GetEnumerator(int /*flags*/, INLETimelineEnumerator** enumerator)
@@ -201,10 +192,7 @@ bool ProjectNode::IsValid(const tagNLEProjectProfile& profile)
 
 HRESULT ProjectNode::GetProfile(tagNLEProjectProfile* profile)
 {
-    if (!profile)
-        return E_POINTER;
-    *profile = m_profile;
-    return S_OK;
+    return GiveValue(profile, m_profile);
 }
 
 HRESULT ProjectNode::SetProfile(const tagNLEProjectProfile* profile)

@@ -79,18 +79,12 @@ HRESULT MediaInfoObject::QueryInterface(REFIID iid, void** out)
 
 HRESULT MediaInfoObject::GetKind(int* kind)
 {
-    if (!kind)
-        return E_POINTER;
-    *kind = int(m_media->kind);
-    return S_OK;
+    return GiveValue(kind, int(m_media->kind));
 }
 
 HRESULT MediaInfoObject::GetStreamCount(std::uint32_t* count)
 {
-    if (!count)
-        return E_POINTER;
-    *count = std::uint32_t(m_media->streams.size());
-    return S_OK;
+    return GiveValue(count, std::uint32_t(m_media->streams.size()));
 }
 
 HRESULT MediaInfoObject::GetStream(std::uint32_t index, NLEStreamInfo* stream)

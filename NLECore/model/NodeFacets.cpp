@@ -18,15 +18,6 @@ constexpr double kMostVolume = 16;
 constexpr double kMostEqualizerGain = 40;
 
 template <typename T>
-HRESULT Give(T* out, const T& value)
-{
-    if (!out)
-        return E_POINTER;
-    *out = value;
-    return S_OK;
-}
-
-template <typename T>
 HRESULT Take(T& field, const T& value)
 {
     field = value;
@@ -52,12 +43,12 @@ HRESULT BlendFacet::SetEnable(bool enable)
 
 HRESULT BlendFacet::GetEnable(bool* enable)
 {
-    return Give(enable, settings.enabled);
+    return GiveValue(enable, settings.enabled);
 }
 
 HRESULT BlendFacet::GetMode(int* mode)
 {
-    return Give(mode, int(settings.mode));
+    return GiveValue(mode, int(settings.mode));
 }
 
 HRESULT BlendFacet::SetMode(int mode)
@@ -69,7 +60,7 @@ HRESULT BlendFacet::SetMode(int mode)
 
 HRESULT BlendFacet::GetAlpha(int* alpha)
 {
-    return Give(alpha, settings.alpha);
+    return GiveValue(alpha, settings.alpha);
 }
 
 HRESULT BlendFacet::SetAlpha(int alpha)
@@ -84,7 +75,7 @@ HRESULT TransformFacet::SetEnable(bool enable)
 
 HRESULT TransformFacet::GetEnable(bool* enable)
 {
-    return Give(enable, settings.enabled);
+    return GiveValue(enable, settings.enabled);
 }
 
 HRESULT TransformFacet::SetCenter(const NLEPointF* center)
@@ -98,7 +89,7 @@ HRESULT TransformFacet::SetCenter(const NLEPointF* center)
 
 HRESULT TransformFacet::GetCenter(NLEPointF* center)
 {
-    return Give(center, settings.center);
+    return GiveValue(center, settings.center);
 }
 
 HRESULT TransformFacet::SetScale(const NLESizeF* scale)
@@ -112,7 +103,7 @@ HRESULT TransformFacet::SetScale(const NLESizeF* scale)
 
 HRESULT TransformFacet::GetScale(NLESizeF* scale)
 {
-    return Give(scale, settings.scale);
+    return GiveValue(scale, settings.scale);
 }
 
 HRESULT TransformFacet::SetRotation(double degrees)
@@ -122,7 +113,7 @@ HRESULT TransformFacet::SetRotation(double degrees)
 
 HRESULT TransformFacet::GetRotation(double* degrees)
 {
-    return Give(degrees, settings.rotation);
+    return GiveValue(degrees, settings.rotation);
 }
 
 HRESULT TransformFacet::SetLock(bool lock)
@@ -136,7 +127,7 @@ public:
     /// Keeps the node, and so the settings, alive.
     explicit VolumeCurve(AudioFacet& audio) : m_audio(&audio) {}
 
-    HRESULT GetCount(int* count) override { return Give(count, int(Points().size())); }
+    HRESULT GetCount(int* count) override { return GiveValue(count, int(Points().size())); }
 
     HRESULT GetPoint(int index, double* time, double* value) override
     {
@@ -182,7 +173,7 @@ HRESULT AudioFacet::SetPitch(int pitch)
 
 HRESULT AudioFacet::GetPitch(int* pitch)
 {
-    return Give(pitch, settings.pitch);
+    return GiveValue(pitch, settings.pitch);
 }
 
 HRESULT AudioFacet::SetDenoiseLevel(int level)
@@ -192,7 +183,7 @@ HRESULT AudioFacet::SetDenoiseLevel(int level)
 
 HRESULT AudioFacet::GetDenoiseLevel(int* level)
 {
-    return Give(level, settings.denoiseLevel);
+    return GiveValue(level, settings.denoiseLevel);
 }
 
 HRESULT AudioFacet::SetDenoiseEnable(bool enable)
@@ -202,7 +193,7 @@ HRESULT AudioFacet::SetDenoiseEnable(bool enable)
 
 HRESULT AudioFacet::GetDenoiseEnable(bool* enable)
 {
-    return Give(enable, settings.denoise);
+    return GiveValue(enable, settings.denoise);
 }
 
 HRESULT AudioFacet::SetMixToMonoEnable(bool enable)
@@ -212,7 +203,7 @@ HRESULT AudioFacet::SetMixToMonoEnable(bool enable)
 
 HRESULT AudioFacet::GetMixToMonoEnable(bool* enable)
 {
-    return Give(enable, settings.mono);
+    return GiveValue(enable, settings.mono);
 }
 
 HRESULT AudioFacet::SetVolumeEnable(bool enable)
@@ -222,7 +213,7 @@ HRESULT AudioFacet::SetVolumeEnable(bool enable)
 
 HRESULT AudioFacet::GetVolumeEnable(bool* enable)
 {
-    return Give(enable, settings.volumeEnabled);
+    return GiveValue(enable, settings.volumeEnabled);
 }
 
 HRESULT AudioFacet::SetMute(bool mute)
@@ -232,7 +223,7 @@ HRESULT AudioFacet::SetMute(bool mute)
 
 HRESULT AudioFacet::GetMute(bool* mute)
 {
-    return Give(mute, settings.mute);
+    return GiveValue(mute, settings.mute);
 }
 
 HRESULT AudioFacet::GetVolumeKeyFrameParam(INLEKeyFrameParam** param)
@@ -250,7 +241,7 @@ HRESULT AudioFacet::SetVolume(double volume)
 
 HRESULT AudioFacet::GetVolume(double* volume)
 {
-    return Give(volume, settings.volume);
+    return GiveValue(volume, settings.volume);
 }
 
 HRESULT AudioFacet::SetBalance(double balance)
@@ -260,7 +251,7 @@ HRESULT AudioFacet::SetBalance(double balance)
 
 HRESULT AudioFacet::GetBalance(double* balance)
 {
-    return Give(balance, settings.balance);
+    return GiveValue(balance, settings.balance);
 }
 
 HRESULT AudioFacet::SetFadeInEnable(bool enable)
@@ -270,7 +261,7 @@ HRESULT AudioFacet::SetFadeInEnable(bool enable)
 
 HRESULT AudioFacet::GetFadeInEnable(bool* enable)
 {
-    return Give(enable, settings.fadeIn);
+    return GiveValue(enable, settings.fadeIn);
 }
 
 HRESULT AudioFacet::SetFadeInRange(int frames)
@@ -280,7 +271,7 @@ HRESULT AudioFacet::SetFadeInRange(int frames)
 
 HRESULT AudioFacet::GetFadeInRange(int* frames)
 {
-    return Give(frames, settings.fadeInFrames);
+    return GiveValue(frames, settings.fadeInFrames);
 }
 
 HRESULT AudioFacet::SetFadeOutEnable(bool enable)
@@ -290,7 +281,7 @@ HRESULT AudioFacet::SetFadeOutEnable(bool enable)
 
 HRESULT AudioFacet::GetFadeOutEnable(bool* enable)
 {
-    return Give(enable, settings.fadeOut);
+    return GiveValue(enable, settings.fadeOut);
 }
 
 HRESULT AudioFacet::SetFadeOutRange(int frames)
@@ -300,7 +291,7 @@ HRESULT AudioFacet::SetFadeOutRange(int frames)
 
 HRESULT AudioFacet::GetFadeOutRange(int* frames)
 {
-    return Give(frames, settings.fadeOutFrames);
+    return GiveValue(frames, settings.fadeOutFrames);
 }
 
 HRESULT AudioFacet::SetEqualizerEnable(bool enable)
@@ -310,7 +301,7 @@ HRESULT AudioFacet::SetEqualizerEnable(bool enable)
 
 HRESULT AudioFacet::GetEqualizerEnable(bool* enable)
 {
-    return Give(enable, settings.equalizer);
+    return GiveValue(enable, settings.equalizer);
 }
 
 HRESULT AudioFacet::SetEqualizerName(const wchar_t* name)
@@ -392,7 +383,7 @@ HRESULT VideoFacet::SetProxyEnabled(bool enabled)
 
 HRESULT VideoFacet::GetProxyEnabled(bool* enabled)
 {
-    return Give(enabled, settings.proxyEnabled);
+    return GiveValue(enabled, settings.proxyEnabled);
 }
 
 HRESULT VideoFacet::SetPremultipliedAlphaType(int type)
@@ -402,13 +393,13 @@ HRESULT VideoFacet::SetPremultipliedAlphaType(int type)
 
 HRESULT VideoFacet::GetPremultipliedAlphaType(int* type)
 {
-    return Give(type, settings.premultipliedType);
+    return GiveValue(type, settings.premultipliedType);
 }
 
 HRESULT MixerFacet::GetParam(int index, tagMixerParam* param)
 {
     const auto strip = settings.find(index);
-    return Give(param, strip == settings.end() ? kNeutralStrip : strip->second);
+    return GiveValue(param, strip == settings.end() ? kNeutralStrip : strip->second);
 }
 
 HRESULT MixerFacet::SetParam(int index, const tagMixerParam* param)

@@ -39,10 +39,7 @@ int LongestStill(const NLERational& rate)
 
 HRESULT GiveStream(int stream, std::uint32_t* index)
 {
-    if (!index)
-        return E_POINTER;
-    *index = stream < 0 ? NLENoStream : std::uint32_t(stream);
-    return S_OK;
+    return GiveValue(index, stream < 0 ? NLENoStream : std::uint32_t(stream));
 }
 
 } // namespace
@@ -86,10 +83,7 @@ HRESULT MediaClip::GetAudioStreamIndex(std::uint32_t* index)
 
 HRESULT MediaClip::GetGPUFirst(int* preference)
 {
-    if (!preference)
-        return E_POINTER;
-    *preference = m_gpuFirst;
-    return S_OK;
+    return GiveValue(preference, m_gpuFirst);
 }
 
 HRESULT MediaClip::SetGPUFirst(int preference)

@@ -32,10 +32,7 @@ const tagNLEProjectProfile kDefaultProfile = {
 
 HRESULT TimelineFactory::GetDefaultProfile(tagNLEProjectProfile* profile)
 {
-    if (!profile)
-        return E_POINTER;
-    *profile = kDefaultProfile;
-    return S_OK;
+    return GiveValue(profile, kDefaultProfile);
 }
 
 HRESULT TimelineFactory::CreateProject(const tagNLEProjectProfile* profile, INLETimeline** project)

@@ -18,15 +18,6 @@ std::uint32_t NextId()
     return ++last;
 }
 
-template <typename T>
-HRESULT Give(T* out, const T& value)
-{
-    if (!out)
-        return E_POINTER;
-    *out = value;
-    return S_OK;
-}
-
 } // namespace
 
 std::optional<PropertyBag::Value> NodeBag::Read(const std::wstring& key) const
@@ -103,7 +94,7 @@ HRESULT TimelineNode::GetInterface(REFIID iid, void** out, int /*reserved1*/, in
 
 HRESULT TimelineNode::GetId(std::uint32_t* id)
 {
-    return Give(id, m_id);
+    return GiveValue(id, m_id);
 }
 
 HRESULT TimelineNode::GetParent(INLETimeline** parent)
@@ -132,12 +123,12 @@ HRESULT TimelineNode::SetRange(const NLERange* range)
 
 HRESULT TimelineNode::GetRange(NLERange* range)
 {
-    return Give(range, Range());
+    return GiveValue(range, Range());
 }
 
 HRESULT TimelineNode::GetTotalRange(NLERange* range)
 {
-    return Give(range, NLERange{0, TotalLength() - 1});
+    return GiveValue(range, NLERange{0, TotalLength() - 1});
 }
 
 HRESULT TimelineNode::SetRenderFrameRate(NLERational rate)
@@ -150,7 +141,7 @@ HRESULT TimelineNode::SetRenderFrameRate(NLERational rate)
 
 HRESULT TimelineNode::GetRenderFrameRate(NLERational* rate)
 {
-    return Give(rate, m_frameRate);
+    return GiveValue(rate, m_frameRate);
 }
 
 HRESULT TimelineNode::SetLevel(int level)
@@ -161,7 +152,7 @@ HRESULT TimelineNode::SetLevel(int level)
 
 HRESULT TimelineNode::GetLevel(int* level)
 {
-    return Give(level, m_level);
+    return GiveValue(level, m_level);
 }
 
 HRESULT TimelineNode::SetPosition(int position)
@@ -172,7 +163,7 @@ HRESULT TimelineNode::SetPosition(int position)
 
 HRESULT TimelineNode::GetPosition(int* position)
 {
-    return Give(position, m_position);
+    return GiveValue(position, m_position);
 }
 
 HRESULT TimelineNode::SetMarginMode(tagNLEMarginMode mode)
@@ -185,7 +176,7 @@ HRESULT TimelineNode::SetMarginMode(tagNLEMarginMode mode)
 
 HRESULT TimelineNode::GetMarginMode(tagNLEMarginMode* mode)
 {
-    return Give(mode, m_margin);
+    return GiveValue(mode, m_margin);
 }
 
 HRESULT TimelineNode::SetEnabled(bool enabled)
@@ -196,7 +187,7 @@ HRESULT TimelineNode::SetEnabled(bool enabled)
 
 HRESULT TimelineNode::GetEnabled(bool* enabled)
 {
-    return Give(enabled, m_enabled);
+    return GiveValue(enabled, m_enabled);
 }
 
 HRESULT TimelineNode::Clone(bool deep, INLETimeline** clone)
@@ -224,12 +215,12 @@ HRESULT TimelineNode::Clone(bool deep, INLETimeline** clone)
 HRESULT TimelineNode::GetRenderRegion(NLERectF* region)
 {
     const NLESize size = PictureSize();
-    return Give(region, NLERectF{0, 0, double(size.width), double(size.height)});
+    return GiveValue(region, NLERectF{0, 0, double(size.width), double(size.height)});
 }
 
 HRESULT TimelineNode::GetCurrent(bool* current)
 {
-    return Give(current, m_current);
+    return GiveValue(current, m_current);
 }
 
 HRESULT TimelineNode::SetCurrent(bool current)

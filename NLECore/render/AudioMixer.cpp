@@ -3,6 +3,8 @@
 
 #include "NLECore/model/FrameMath.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -27,6 +29,28 @@ double CurveAt(const std::vector<VolumePoint>& points, double time)
         return before->gain;
     const double share = (time - before->time) / (after->time - before->time);
     return before->gain + (after->gain - before->gain) * share;
+}
+
+QString Number(double value)
+{
+    return QString::number(value, 'f', 6);
+}
+
+/// Pitch, denoise and equaliser as a chain of filters; empty when none is wanted.
+QByteArray DescribeEffects(const AudioSettings& settings)
+{
+    QStringList filters;
+    if (settings.pitch != 0)
+        filters << QStringLiteral("rubberband=pitch=") + Number(std::exp2(settings.pitch / 12.0));
+    if (settings.denoise && settings.denoiseLevel > 0)
+        filters << QStringLiteral("afftdn=nf=-30:nr=") + Number(settings.denoiseLevel);
+    for (size_t band = 0; settings.equalizer && band < kEqualizerBands.size(); ++band) {
+        if (settings.equalizerGains[band] != 0)
+            filters << QStringLiteral("equalizer=width_type=o:width=1:frequency=%1:gain=%2")
+                           .arg(Number(kEqualizerBands[band]),
+                                Number(settings.equalizerGains[band]));
+    }
+    return filters.join(QLatin1Char(',')).toLatin1();
 }
 
 } // namespace
@@ -56,10 +80,11 @@ void AudioMixer::Render(const Layer& layer, std::int64_t first, int count, float
     const auto content = [&](std::int64_t start, int length, float* out) {
         RenderContent(layer, start, length, out);
     };
-    if (AudioEffects::AreNeeded(layer.audio)) {
+    const QByteArray effects = DescribeEffects(layer.audio);
+    if (!effects.isEmpty()) {
         Voice& voice = m_voices[&layer];
         if (!voice.effects)
-            voice.effects = std::make_unique<AudioEffects>(layer.audio, m_sampleRate, m_channels);
+            voice.effects = std::make_unique<AudioFilter>(effects, m_sampleRate, m_channels);
         voice.effects->Read(first, count, content, samples);
     } else {
         content(first, count, samples);

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "NLECore/media/AudioDecoder.h"
+#include "NLECore/media/AudioFilter.h"
 #include "NLECore/model/Layer.h"
-#include "NLECore/render/AudioEffects.h"
 
 #include <map>
 #include <memory>
@@ -29,7 +29,7 @@ private:
     struct Voice
     {
         std::unique_ptr<AudioDecoder> decoder;
-        std::unique_ptr<AudioEffects> effects;
+        std::unique_ptr<AudioFilter> effects;
     };
 
     /// The layer's own samples with its settings, from its frame 0 on.

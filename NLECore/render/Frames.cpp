@@ -3,34 +3,21 @@
 
 namespace nle {
 
-namespace {
-
-template <typename T>
-HRESULT Give(T* out, const T& value)
-{
-    if (!out)
-        return E_POINTER;
-    *out = value;
-    return S_OK;
-}
-
-} // namespace
-
 Picture::Picture(const QImage& image) : m_image(image.convertToFormat(kPictureFormat)) {}
 
 HRESULT Picture::GetWidth(int* width)
 {
-    return Give(width, m_image.width());
+    return GiveValue(width, m_image.width());
 }
 
 HRESULT Picture::GetHeight(int* height)
 {
-    return Give(height, m_image.height());
+    return GiveValue(height, m_image.height());
 }
 
 HRESULT Picture::GetData(const std::uint8_t** pixels)
 {
-    return Give(pixels, m_image.constBits());
+    return GiveValue(pixels, m_image.constBits());
 }
 
 VideoFrame::VideoFrame(NLESize size) : m_size(size), m_valid{0, 0, size.width, size.height} {}
@@ -46,12 +33,12 @@ HRESULT VideoFrame::Prepare()
 
 HRESULT VideoFrame::GetSize(NLESize* size)
 {
-    return Give(size, m_size);
+    return GiveValue(size, m_size);
 }
 
 HRESULT VideoFrame::GetValidRect(NLERect* rect)
 {
-    return Give(rect, m_valid);
+    return GiveValue(rect, m_valid);
 }
 
 HRESULT VideoFrame::SetValidRect(const NLERect* rect)
@@ -75,27 +62,27 @@ HRESULT VideoFrame::GetData(std::uint8_t** pixels)
 
 HRESULT VideoFrame::GetMemory(int* memory)
 {
-    return Give(memory, int(NLEMemory_System));
+    return GiveValue(memory, int(NLEMemory_System));
 }
 
 HRESULT AudioFrame::GetSampleCount(int* count)
 {
-    return Give(count, int(m_samples.size()) / kChannels);
+    return GiveValue(count, int(m_samples.size()) / kChannels);
 }
 
 HRESULT AudioFrame::GetSampleRate(int* rate)
 {
-    return Give(rate, int(kSampleRate));
+    return GiveValue(rate, int(kSampleRate));
 }
 
 HRESULT AudioFrame::GetChannels(int* channels)
 {
-    return Give(channels, int(kChannels));
+    return GiveValue(channels, int(kChannels));
 }
 
 HRESULT AudioFrame::GetData(float** samples)
 {
-    return Give(samples, m_samples.data());
+    return GiveValue(samples, m_samples.data());
 }
 
 } // namespace nle

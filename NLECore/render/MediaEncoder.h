@@ -3,8 +3,8 @@
 
 #include "EngineApi/ComObject.h"
 #include "EngineApi/INLEFrames.h"
+#include "NLECore/media/MediaWriter.h"
 #include "NLECore/model/Layer.h"
-#include "NLECore/render/MediaWriter.h"
 
 namespace nle {
 

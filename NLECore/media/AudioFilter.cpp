@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "NLECore/render/AudioEffects.h"
+#include "NLECore/media/AudioFilter.h"
 
-#include "NLECore/model/EngineLog.h"
-
-#include <QStringList>
+#include "NLECore/media/MediaFile_p.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,7 +12,6 @@ extern "C" {
 #include <libavfilter/buffersink.h>
 #include <libavfilter/buffersrc.h>
 #include <libavutil/channel_layout.h>
-#include <libavutil/frame.h>
 }
 
 namespace nle {
@@ -32,37 +29,9 @@ struct GraphFreer
 {
     void operator()(AVFilterGraph* graph) const { avfilter_graph_free(&graph); }
 };
-struct FrameFreer
-{
-    void operator()(AVFrame* frame) const { av_frame_free(&frame); }
-};
-using FramePtr = std::unique_ptr<AVFrame, FrameFreer>;
-
-QString Number(double value)
-{
-    return QString::number(value, 'f', 6);
-}
-
-/// The filters in the notation of libavfilter.
-QByteArray Describe(const AudioSettings& settings)
-{
-    QStringList filters;
-    if (settings.pitch != 0)
-        filters << QStringLiteral("rubberband=pitch=") + Number(std::exp2(settings.pitch / 12.0));
-    if (settings.denoise && settings.denoiseLevel > 0)
-        filters << QStringLiteral("afftdn=nf=-30:nr=") + Number(settings.denoiseLevel);
-    for (size_t band = 0; settings.equalizer && band < kEqualizerBands.size(); ++band) {
-        if (settings.equalizerGains[band] != 0)
-            filters << QStringLiteral("equalizer=width_type=o:width=1:frequency=%1:gain=%2")
-                           .arg(Number(kEqualizerBands[band]),
-                                Number(settings.equalizerGains[band]));
-    }
-    return filters.join(QLatin1Char(',')).toLatin1();
-}
-
 } // namespace
 
-struct AudioEffects::Private
+struct AudioFilter::Private
 {
     QByteArray description;
     int sampleRate = 0;
@@ -81,7 +50,7 @@ struct AudioEffects::Private
     void Drain();
 };
 
-bool AudioEffects::Private::Build()
+bool AudioFilter::Private::Build()
 {
     graph.reset(avfilter_graph_alloc());
     AVChannelLayout layout;
@@ -105,7 +74,6 @@ bool AudioEffects::Private::Build()
     avfilter_inout_free(&inputs);
     avfilter_inout_free(&outputs);
     if (!parsed) {
-        qCWarning(lcEngine, "no such sound filters: %s", description.constData());
         graph.reset();
         return false;
     }
@@ -114,7 +82,7 @@ bool AudioEffects::Private::Build()
     return input && output;
 }
 
-bool AudioEffects::Private::Start(std::int64_t first)
+bool AudioFilter::Private::Start(std::int64_t first)
 {
     ready.clear();
     nextInput = std::max<std::int64_t>(0, first - sampleRate / kLeadInDivisor);
@@ -122,7 +90,7 @@ bool AudioEffects::Private::Start(std::int64_t first)
     return Build();
 }
 
-bool AudioEffects::Private::Feed(const Source& source)
+bool AudioFilter::Private::Feed(const Source& source)
 {
     av_frame_unref(frame.get());
     frame->format = AV_SAMPLE_FMT_FLT;
@@ -137,7 +105,7 @@ bool AudioEffects::Private::Feed(const Source& source)
     return av_buffersrc_add_frame(input, frame.get()) >= 0;
 }
 
-void AudioEffects::Private::Drain()
+void AudioFilter::Private::Drain()
 {
     while (av_buffersink_get_frame(output, frame.get()) >= 0) {
         const auto* samples = reinterpret_cast<const float*>(frame->data[0]);
@@ -146,22 +114,17 @@ void AudioEffects::Private::Drain()
     }
 }
 
-AudioEffects::AudioEffects(const AudioSettings& settings, int sampleRate, int channels)
+AudioFilter::AudioFilter(const QByteArray& description, int sampleRate, int channels)
     : d(std::make_unique<Private>())
 {
-    d->description = Describe(settings);
+    d->description = description;
     d->sampleRate = sampleRate;
     d->channels = channels;
 }
 
-AudioEffects::~AudioEffects() = default;
+AudioFilter::~AudioFilter() = default;
 
-bool AudioEffects::AreNeeded(const AudioSettings& settings)
-{
-    return !Describe(settings).isEmpty();
-}
-
-void AudioEffects::Read(std::int64_t first, int count, const Source& source, float* samples)
+void AudioFilter::Read(std::int64_t first, int count, const Source& source, float* samples)
 {
     const auto channels = size_t(d->channels);
     if (first != d->nextOutput && !d->Start(first)) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "NLECore/model/ClipSettings.h"
+#include <QByteArray>
 
 #include <cstdint>
 #include <functional>
@@ -9,22 +9,23 @@
 
 namespace nle {
 
-/// Pitch, denoise and equaliser of one layer, by filters of libavfilter.
+/// A chain of libavfilter's sound filters over samples that are asked for by position.
 ///
 /// The filters remember what went before; reads that follow each other continue, another start
 /// begins them anew with a quarter of a second of lead-in.
-class AudioEffects
+class AudioFilter
 {
 public:
     /// Writes \a count samples a channel from sample \a first on, interleaved.
     using Source = std::function<void(std::int64_t first, int count, float* samples)>;
 
-    AudioEffects(const AudioSettings& settings, int sampleRate, int channels);
-    ~AudioEffects();
+    /// \a description is the chain in libavfilter's notation, for example "equalizer=f=500:g=3".
+    AudioFilter(const QByteArray& description, int sampleRate, int channels);
+    ~AudioFilter();
+    AudioFilter(const AudioFilter&) = delete;
+    AudioFilter& operator=(const AudioFilter&) = delete;
 
-    /// Whether \a settings ask for any of these effects.
-    static bool AreNeeded(const AudioSettings& settings);
-    /// As Source, with the effects; what the filters cannot do passes unchanged.
+    /// As Source, filtered; a chain that libavfilter refuses lets everything pass unchanged.
     void Read(std::int64_t first, int count, const Source& source, float* samples);
 
 private:

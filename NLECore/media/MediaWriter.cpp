@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "NLECore/render/MediaWriter.h"
+#include "NLECore/media/MediaWriter.h"
+
+#include "NLECore/media/MediaFile_p.h"
 
 #include <QFile>
 
 #include <cstdio>
 
 extern "C" {
-#include <libavcodec/avcodec.h>
-#include <libavformat/avformat.h>
 #include <libavutil/audio_fifo.h>
 #include <libavutil/opt.h>
 #include <libswresample/swresample.h>
@@ -21,15 +21,6 @@ namespace {
 /// Samples in a packet of codecs that take any number.
 constexpr int kFreeFrameSamples = 1024;
 
-template <typename T, void (*Free)(T**)>
-struct Freer
-{
-    void operator()(T* object) const { Free(&object); }
-};
-using CodecPtr = std::unique_ptr<AVCodecContext, Freer<AVCodecContext, avcodec_free_context>>;
-using FramePtr = std::unique_ptr<AVFrame, Freer<AVFrame, av_frame_free>>;
-using PacketPtr = std::unique_ptr<AVPacket, Freer<AVPacket, av_packet_free>>;
-using ResamplerPtr = std::unique_ptr<SwrContext, Freer<SwrContext, swr_free>>;
 struct FormatFreer
 {
     void operator()(AVFormatContext* format) const
@@ -37,6 +28,10 @@ struct FormatFreer
         avio_closep(&format->pb);
         avformat_free_context(format);
     }
+};
+struct ResamplerFreer
+{
+    void operator()(SwrContext* resampler) const { swr_free(&resampler); }
 };
 struct FifoFreer
 {
@@ -56,13 +51,6 @@ struct Track
     int64_t next = 0; ///< time stamp of what comes next, in the codec's time base
 };
 
-QString ErrorText(int code)
-{
-    char text[AV_ERROR_MAX_STRING_SIZE] = {};
-    av_strerror(code, text, sizeof(text));
-    return QString::fromUtf8(text);
-}
-
 } // namespace
 
 struct MediaWriter::Private
@@ -75,7 +63,7 @@ struct MediaWriter::Private
     Track video;
     Track audio;
     std::unique_ptr<SwsContext, ScalerFreer> scaler;
-    ResamplerPtr resampler;
+    std::unique_ptr<SwrContext, ResamplerFreer> resampler;
     std::unique_ptr<AVAudioFifo, FifoFreer> fifo;
     bool finished = false;
 
@@ -83,7 +71,7 @@ struct MediaWriter::Private
     {
         if (code >= 0)
             return true;
-        error = ErrorText(code);
+        error = AvErrorText(code);
         return false;
     }
 
@@ -98,7 +86,7 @@ struct MediaWriter::Private
         AVFormatContext* context = nullptr;
         // The name with its suffix chooses the container; the bytes go to the temporary name.
         avformat_alloc_output_context2(&context, nullptr, nullptr,
-                                       QFile::encodeName(path).constData());
+                                       EncodeMediaPath(path).constData());
         if (!context)
             return Fail("no container goes by this suffix");
         format.reset(context);
@@ -193,7 +181,7 @@ struct MediaWriter::Private
 
     bool Start()
     {
-        if (!Check(avio_open(&format->pb, ("file:" + QFile::encodeName(temporaryPath)).constData(),
+        if (!Check(avio_open(&format->pb, ("file:" + EncodeMediaPath(temporaryPath)).constData(),
                              AVIO_FLAG_WRITE)))
             return false;
         return Check(avformat_write_header(format.get(), nullptr));
