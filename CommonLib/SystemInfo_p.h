@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QRgb>
+
+#include <optional>
+
+/// Questions to the operating system. Not part of the library's interface.
+
+/// Whether this is Windows 8 or later; true on every other system.
+bool IsWindows8OrLater();
+
+/// The desktop's accent colour with its alpha; nothing when the system names none.
+std::optional<QRgb> DesktopAccentColor();

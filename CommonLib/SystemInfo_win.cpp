@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/SystemInfo_p.h"
+
+#include <windows.h>
+
+#include <dwmapi.h>
+
+bool IsWindows8OrLater()
+{
+    // Unlike the documented calls, this one does not depend on what the host's manifest claims.
+    using VersionFunction = void(WINAPI*)(DWORD * major, DWORD * minor, DWORD * build);
+    const HMODULE library = ::LoadLibraryW(L"ntdll.dll");
+    if (!library)
+        return false;
+    const auto version = reinterpret_cast<VersionFunction>(
+        reinterpret_cast<void*>(::GetProcAddress(library, "RtlGetNtVersionNumbers")));
+    DWORD major = 0;
+    DWORD minor = 0;
+    DWORD build = 0;
+    if (version)
+        version(&major, &minor, &build);
+    ::FreeLibrary(library);
+    return major > 6 || (major == 6 && minor >= 2);
+}
+
+std::optional<QRgb> DesktopAccentColor()
+{
+    DWORD color = 0;
+    BOOL isOpaqueBlend = FALSE;
+    if (FAILED(::DwmGetColorizationColor(&color, &isOpaqueBlend)))
+        return std::nullopt;
+    return static_cast<QRgb>(color); // both are ARGB
+}
