@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/GlobalUtils.h"
+
+#include <QtTest>
+
+#include <limits>
+
+namespace {
+
+constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
+constexpr int kMax = std::numeric_limits<int>::max();
+constexpr int kMin = std::numeric_limits<int>::min();
+
+} // namespace
+
+class TestTimecode : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void frameToText_data()
+    {
+        QTest::addColumn<int>("frame");
+        QTest::addColumn<float>("fps");
+        QTest::addColumn<QString>("full");
+        QTest::addColumn<QString>("withoutFrames");
+        const QString zero = "00:00:00:00";
+        const QString zeroSeconds = "00:00:00";
+        QTest::newRow("hour at 25") << 90000 << 25.0F << "01:00:00:00"
+                                    << "01:00:00";
+        // Without frames a minute is cut to 1798 frames, so that this one reads as the next.
+        QTest::newRow("before a minute at 29.97") << 1798 << 29.97F << "00:00:59:29"
+                                                  << "00:00:00";
+        QTest::newRow("a minute at 29.97") << 1799 << 29.97F << "00:01:00:00"
+                                           << "00:01:00";
+        QTest::newRow("three digits of hours") << 9000000 << 25.0F << "100:00:00:00"
+                                               << "100:00:00";
+        QTest::newRow("three digits of frames") << 119 << 119.88F << "00:00:00:119"
+                                                << "00:00:00";
+        QTest::newRow("largest frame") << kMax << 25.0F << "23860:55:45:22"
+                                       << "23860:55:45";
+        QTest::newRow("negative frame") << -25 << 25.0F << "20496382304:07:17:05"
+                                        << "00:00:-1";
+        QTest::newRow("rate 0") << 0 << 0.0F << zero << zeroSeconds;
+        QTest::newRow("negative rate") << 100 << -25.0F << zero << zeroSeconds;
+        QTest::newRow("not a number") << 100 << kNaN << zero << zeroSeconds;
+        QTest::newRow("infinite") << 100 << kInfinity << zero << zeroSeconds;
+        QTest::newRow("no ten-thousandth") << 100 << 0.00005F << zero << zeroSeconds;
+        QTest::newRow("no frame per hour") << 100 << 0.0002F << "138:53:20:00" << zeroSeconds;
+        QTest::newRow("no frame per minute") << 100 << 0.01F << "02:46:40:00" << zeroSeconds;
+        QTest::newRow("hour beyond 32 bits") << 100 << 1e7F << "00:00:00:100" << zeroSeconds;
+        QTest::newRow("hour of 2^64") << 100 << 1.8446744e12F * 1024 << zero << zeroSeconds;
+        QTest::newRow("beyond 64 bits") << kMin << 3e38F << zero << zeroSeconds;
+    }
+    void frameToText()
+    {
+        QFETCH(int, frame);
+        QFETCH(float, fps);
+        QTEST(gFrame2String(frame, fps), "full");
+        QTEST(gFrame2StringSecond(frame, fps), "withoutFrames");
+    }
+
+    void textToFrame_data()
+    {
+        QTest::addColumn<float>("fps");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("frame");
+        const auto row = [](float fps, const QString& text, int frame) {
+            QTest::addRow("\"%s\" at %g", qPrintable(text.simplified()), double(fps))
+                << fps << text << frame;
+        };
+        row(25, "01:00:00:00", 90000);
+        row(25, "00:00:01:10", 35);
+        row(25, "1:2:3:04", 93079);
+        row(25, "999:59:59:999", 90000976); // single precision: in steps of 8 up here
+        row(25, " \t00:00:01:10\n", 35);
+        row(29.97F, "00:00:01:00", 30); // rounded up
+        row(0, "00:00:01:10", 10);
+        for (const char* refused :
+             {"", "00:00:01:5", "00:60:00:00", "00:00:60:00", "1000:00:00:00", "00:00:00:0000",
+              "00:00:00", "00:00:00:00:00", ":00:00:00", "00::00:00", "00:00:00;00", "00:00:00,00",
+              "-1:00:00:00", "+1:00:00:00", "00:00: 1:00", "00:00:0a:00", "\u0661:00:00:00",
+              "00:00:00:00x"})
+            row(25, refused, -1);
+        row(kNaN, "00:00:01:00", -1);
+        row(kInfinity, "00:00:01:00", -1);
+        row(1e6F, "999:00:00:00", -1);
+        row(-1e6F, "999:00:00:00", -1);
+    }
+    void textToFrame()
+    {
+        QFETCH(float, fps);
+        QFETCH(QString, text);
+        QTEST(gString2Frame(fps, text), "frame");
+    }
+
+    // docs/timecode.md has the figures of all frames; here are enough of them to see a change.
+    void roundTrip_data()
+    {
+        QTest::addColumn<float>("fps");
+        QTest::addColumn<int>("firstChanged"); // none when -1
+        QTest::newRow("24") << 24.0F << -1;
+        QTest::newRow("25") << 25.0F << -1;
+        QTest::newRow("30") << 30.0F << -1;
+        QTest::newRow("50") << 50.0F << -1;
+        QTest::newRow("60") << 60.0F << -1;
+        QTest::newRow("23.976") << 23.976F << 133859;
+        QTest::newRow("29.97") << 29.97F << 132858;
+        QTest::newRow("59.94") << 59.94F << 262718;
+        QTest::newRow("119.88") << 119.88F << 525435;
+    }
+    void roundTrip()
+    {
+        QFETCH(float, fps);
+        QFETCH(int, firstChanged);
+        const int end = static_cast<int>(86400 * fps);
+        const int step = end / 60000;
+        for (int frame = 0; frame < end; frame += frame < firstChanged ? 7 : step) {
+            const int change = gString2Frame(fps, gFrame2String(frame, fps)) - frame;
+            const bool mayChange = firstChanged >= 0 && frame >= firstChanged;
+            QVERIFY2(change == 0 || (mayChange && change == -1),
+                     qPrintable(QString::number(frame)));
+        }
+        if (firstChanged >= 0)
+            QCOMPARE(gString2Frame(fps, gFrame2String(firstChanged, fps)), firstChanged - 1);
+    }
+
+    void otherRate_data()
+    {
+        QTest::addColumn<int>("frame");
+        QTest::addColumn<double>("from");
+        QTest::addColumn<double>("to");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("from 0") << 100 << 0.0 << 30.0 << -1;
+        QTest::newRow("25 to 30") << 100 << 25.0 << 30.0 << 120;
+        QTest::newRow("toward zero") << -7 << 2.0 << 1.0 << -3;
+        QTest::newRow("not a number") << 100 << double(kNaN) << 30.0 << -1;
+        QTest::newRow("infinite") << 100 << 25.0 << double(kInfinity) << -1;
+        QTest::newRow("smallest that fits") << kMin << 1.0 << 1.0 << kMin;
+        QTest::newRow("beyond 32 bits") << kMax << 1.0 << 2.0 << -1;
+    }
+    void otherRate()
+    {
+        QFETCH(int, frame);
+        QFETCH(double, from);
+        QFETCH(double, to);
+        QTEST(gFrameBaseFps(frame, from, to), "expected");
+    }
+
+    void codecNames()
+    {
+        QCOMPARE(gMakeFourCCString(0x34363248), QString("H264"));
+        QCOMPARE(gMakeFourCCString(int(0xE9000041)), QString::fromLatin1("A\0\0\xE9", 4));
+        QVERIFY(gIsH264Coder(0x31637661));  // avc1
+        QVERIFY(gIsH264Coder(0x34363268));  // h264
+        QVERIFY(!gIsH264Coder(0x31766568)); // hev1
+    }
+};
+
+QTEST_GUILESS_MAIN(TestTimecode)
+
+#include "tst_timecode.moc"

@@ -1,0 +1,275 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/GlobalUtils.h"
+
+#include <QCryptographicHash>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QPalette>
+#include <QSignalSpy>
+#include <QStorageInfo>
+#include <QTemporaryDir>
+#include <QUrl>
+#include <QWidget>
+#include <QtTest>
+
+#include <limits>
+
+#ifdef Q_OS_LINUX
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+void Write(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+QString Md5(const QByteArray& content)
+{
+    return QCryptographicHash::hash(content, QCryptographicHash::Md5).toHex();
+}
+
+} // namespace
+
+class TestUtilities : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString Path(const QString& name) const { return m_folder->filePath(name); }
+
+signals:
+    void Opened(const QUrl& url);
+
+public slots:
+    void Open(const QUrl& url) { emit Opened(url); }
+
+private slots:
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+
+    void fingerprint_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<quint64>("blockSize");
+        QTest::addColumn<QList<int>>("blocks"); // starts of the blocks hashed; empty for the whole
+        QTest::newRow("empty") << 0 << quint64(10) << QList<int>();
+        QTest::newRow("block size 0") << 50 << quint64(0) << QList<int>{0};
+        QTest::newRow("below three blocks") << 25 << quint64(10) << QList<int>();
+        QTest::newRow("three blocks") << 30 << quint64(10) << QList<int>();
+        QTest::newRow("one byte more") << 31 << quint64(10) << QList<int>{0, 10, 20};
+        QTest::newRow("even rest") << 50 << quint64(10) << QList<int>{0, 20, 40};
+        QTest::newRow("odd rest") << 51 << quint64(10) << QList<int>{0, 20, 40};
+        QTest::newRow("several pieces")
+            << 900001 << quint64(200000) << QList<int>{0, 350000, 700000};
+        QTest::newRow("three blocks beyond 64 bits")
+            << 40 << std::numeric_limits<quint64>::max() / 2 << QList<int>();
+    }
+    void fingerprint()
+    {
+        QFETCH(int, size);
+        QFETCH(quint64, blockSize);
+        QFETCH(QList<int>, blocks);
+        QByteArray content(size, 0);
+        for (int i = 0; i < size; ++i)
+            content[i] = static_cast<char>(i * 31 + i / 256);
+        Write(Path("media"), content);
+        QByteArray hashed = blocks.isEmpty() ? content : QByteArray();
+        for (const int start : blocks)
+            hashed += content.mid(start, static_cast<int>(blockSize));
+        QCOMPARE(GetFileMd5(blockSize, Path("media")), Md5(hashed));
+
+        QFile file(Path("media"));
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        const QDateTime time = QDateTime::fromMSecsSinceEpoch(1600000000123);
+        QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
+        hashed += QByteArray::number(size) + "1600000000123";
+        QCOMPARE(GetFileMd5_V2(blockSize, Path("media")), Md5(hashed));
+    }
+
+    void fingerprintOfNoFile()
+    {
+        QStringList paths = {Path("missing"), m_folder->path(), QString()};
+#ifdef Q_OS_LINUX
+        QCOMPARE(::mkfifo(qPrintable(Path("pipe")), 0600), 0);
+        paths << Path("pipe") << "/dev/zero";
+#endif
+        for (const QString& path : qAsConst(paths)) {
+            QTest::ignoreMessage(QtDebugMsg, "file open error.");
+            QCOMPARE(GetFileMd5(10, path), QString());
+        }
+#ifdef Q_OS_LINUX
+        // States a size that reading does not give, as a file does that shrinks meanwhile.
+        QCOMPARE(GetFileMd5(4096, "/sys/kernel/uevent_seqnum"), QString());
+#endif
+    }
+
+    void command_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("output");
+#ifdef Q_OS_LINUX
+        QTest::newRow("words") << "printf '[%s]' a  \"b  c\" 'd\\e' f\\ g '' h'i'\"j\""
+                               << "[a][b  c][d\\e][f g][][hij]";
+        QTest::newRow("escapes") << "printf %s \"\\a\\\\\\$\\\"\"\\'\\"
+                                 << "\\a\\$\"'\\";
+        QTest::newRow("nothing expanded") << "printf %s $HOME*~;|"
+                                          << "$HOME*~;|";
+        QTest::newRow("both outputs") << "sh -c 'printf a; printf b >&2'"
+                                      << "ab";
+        QTest::newRow("no input") << "sh -c 'cat; echo end'"
+                                  << "end\n";
+        QTest::newRow("up to a zero byte") << "printf 'a\\0b'"
+                                           << "a";
+        QTest::newRow("stale bytes after a short piece")
+            << "sh -c 'printf 123456; sleep 0.3; printf ab'"
+            << "123456ab3456";
+        QTest::newRow("pieces of 2046")
+            << "sh -c 'head -c 2046 /dev/zero | tr \\\\0 x; sleep 0.3; printf ab'"
+            << QString(2046, 'x') + "ab" + QString(2044, 'x');
+        // 3 is the listing itself
+        QTest::newRow("only the pipe is inherited") << "ls /proc/self/fd"
+                                                    << "0\n1\n2\n3\n";
+        QTest::newRow("missing program") << "no-such-program-here"
+                                         << "";
+        QTest::newRow("open quote") << "printf 'a"
+                                    << "";
+        QTest::newRow("empty") << " "
+                               << "";
+#else
+        QTest::newRow("output") << "cmd /c echo a"
+                                << "a\r\n";
+        QTest::newRow("missing program") << "no-such-program-here"
+                                         << "";
+#endif
+    }
+    void command()
+    {
+        QFETCH(QString, line);
+#ifdef Q_OS_LINUX
+        const int open = ::fcntl(1, F_DUPFD, 20); // would be inherited
+        QTEST(excuteCmd(nullptr, line), "output");
+        ::close(open);
+        QCOMPARE(::waitpid(-1, nullptr, WNOHANG), -1); // no child, living or dead
+#else
+        QTEST(excuteCmd(nullptr, line), "output");
+#endif
+    }
+
+    void removeDir()
+    {
+        Write(Path("outside/kept"), "x");
+        Write(Path("tree/sub/file"), "x");
+        QVERIFY(QFile::link(Path("outside"), Path("tree/link")));
+        RemoveDir(nullptr, Path("tree"));
+        QVERIFY(!QFile::exists(Path("tree")));
+        QVERIFY(QFile::link(Path("outside"), Path("link")));
+        RemoveDir(nullptr, Path("link") + '/');
+        QVERIFY(!QFileInfo(Path("link")).isSymLink());
+        QVERIFY(QFile::exists(Path("outside/kept")));
+
+        RemoveDir(nullptr, Path("outside/kept"));
+        QCOMPARE(QDir(Path("outside")).entryList(QDir::NoDotAndDotDot | QDir::AllEntries).size(),
+                 0);
+        RemoveDir(nullptr, Path("new/parent/of"));
+        QCOMPARE(QDir(Path("new")).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
+                 QStringList("parent"));
+    }
+
+#ifdef Q_OS_LINUX
+    void removeDirLeavesHiddenEntries()
+    {
+        Write(Path("tree/sub/.hidden"), "x");
+        Write(Path("tree/file"), "x");
+        RemoveDir(nullptr, Path("tree"));
+        QVERIFY(QFile::exists(Path("tree/sub/.hidden")));
+        QVERIFY(!QFile::exists(Path("tree/file")));
+    }
+#endif
+
+    void diskFreeSpace()
+    {
+        const auto expected = double(QStorageInfo(m_folder->path()).bytesFree()) / 1048576;
+        for (const QString& path : {m_folder->path(), Path("not/yet/there")}) {
+            // Others write to the disk meanwhile.
+            const auto free = static_cast<double>(gGetDiskFreeSpace(nullptr, path));
+            QVERIFY2(qAbs(free - expected) < 0.05 * expected + 64, qPrintable(path));
+        }
+        QCOMPARE(gGetDiskFreeSpace(nullptr, QString()), quint64(2147483647));
+    }
+
+    void webAddress()
+    {
+        QSignalSpy spy(this, &TestUtilities::Opened);
+        QDesktopServices::setUrlHandler("https", this, "Open");
+        QDesktopServices::setUrlHandler("http", this, "Open");
+        gOpenUrl(nullptr, "https://a.test/x y");
+        QCOMPARE(spy.size(), 1);
+        QCOMPARE(spy.takeFirst()[0].toUrl(), QUrl("https://a.test/x%20y"));
+
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("No such method"));
+        QDesktopServices::setUrlHandler("https", this, "NoSuchSlot");
+        gOpenUrl(nullptr, "https://a.test/?to=https://b.test");
+        QCOMPARE(spy.size(), 1);
+        QCOMPARE(spy.takeFirst()[0].toUrl(), QUrl("http://a.test/?to=http://b.test"));
+        QDesktopServices::unsetUrlHandler("https");
+        QDesktopServices::unsetUrlHandler("http");
+    }
+
+    void configuration()
+    {
+        qputenv("ProgramData", m_folder->path().toLocal8Bit());
+        const QString folder = Path("Corvane Video Editor/Resources/MotionKit");
+        QCOMPARE(GetConfigfileDir(), folder);
+        QVERIFY(QFileInfo(folder).isDir());
+        QCOMPARE(GetSettingFilePath(), folder + "/Settings.xml");
+        Write(GetSettingFilePath(), QByteArray(1000, 'x'));
+        CreateSettingsFile(GetSettingFilePath());
+        QCOMPARE(gGetStyleSheet(nullptr, GetSettingFilePath()),
+                 QString("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Settings/>\n"));
+        CreateSettingsFile(Path("missing/folder/Settings.xml"));
+        QVERIFY(!QFile::exists(Path("missing")));
+        QCOMPARE(gGetStyleSheet(nullptr, Path("missing")), QString());
+        qunsetenv("ProgramData");
+        qputenv("XDG_DATA_HOME", Path("data").toLocal8Bit());
+        QVERIFY(GetConfigfileDir().endsWith("/Corvane Video Editor/Resources/MotionKit"));
+        QVERIFY(GetConfigfileDir() != folder);
+    }
+
+    void appearanceAndRegistry()
+    {
+        QCOMPARE(gGetSystemBorder(), gIsAboveWin7Sys() ? 1 : 0);
+        QCOMPARE(gGetBorderColor(true), QColor(0, 0, 0));
+#ifdef Q_OS_LINUX
+        QVERIFY(gIsAboveWin7Sys());
+        QPalette palette;
+        palette.setColor(QPalette::Highlight, QColor(1, 2, 3, 4));
+        QGuiApplication::setPalette(palette);
+        gInitBorderColor();
+        QCOMPARE(gGetBorderColor(true), QColor(1, 2, 3, 255));
+#endif
+        QCOMPARE(gGetBorderColor(false), QColor(42, 52, 63, 255));
+
+        QWidget widgets[3];
+        QVERIFY(!gGetMainWindow() && !gGetMatterView() && !gGetPlayerView() && !gIsArgLang());
+        gSetMainWindow(nullptr, &widgets[0]);
+        gSetMatterView(nullptr, &widgets[1]);
+        gSetPlayerView(nullptr, &widgets[2]);
+        gSetArgLang(true);
+        QVERIFY(gGetMainWindow() == &widgets[0] && gGetMatterView() == &widgets[1]);
+        QVERIFY(gGetPlayerView() == &widgets[2] && gIsArgLang());
+    }
+};
+
+QTEST_MAIN(TestUtilities)
+
+#include "tst_utilities.moc"
