@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// GetFileMd5 of a sparse 10 GiB file beside a sparse 100 MiB one, with the same block size, and the
+// memory that both take. Rounds are interleaved and compared by their medians.
+#include "CommonLib/GlobalUtils.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+namespace {
+
+constexpr int kRounds = 15;
+constexpr quint64 kBlockSize = 4 << 20;
+
+double Milliseconds(const QString& path)
+{
+    QElapsedTimer timer;
+    timer.start();
+    if (GetFileMd5(kBlockSize, path).size() != 32)
+        std::fprintf(stderr, "no fingerprint\n");
+    return timer.nsecsElapsed() / 1e6;
+}
+
+double Median(std::vector<double> values)
+{
+    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
+    return values[values.size() / 2];
+}
+
+// Largest memory that the process has used, in KiB; 0 where the system does not tell.
+qint64 PeakMemory()
+{
+    QFile status("/proc/self/status");
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    const QByteArray text = status.readAll();
+    const int start = text.indexOf("VmHWM:");
+    return start < 0 ? 0 : text.mid(start + 6, text.indexOf("kB", start) - start - 6).toLongLong();
+}
+
+} // namespace
+
+int main()
+{
+    const QTemporaryDir folder;
+    QFile large(folder.filePath("large"));
+    QFile small(folder.filePath("small"));
+    if (!large.open(QIODevice::WriteOnly) || !large.resize(qint64(10) << 30) ||
+        !small.open(QIODevice::WriteOnly) || !small.resize(qint64(100) << 20)) {
+        std::fprintf(stderr, "cannot make the test files\n");
+        return 1;
+    }
+    const qint64 before = PeakMemory();
+    std::vector<double> ofLarge;
+    std::vector<double> ofSmall;
+    for (int round = 0; round < kRounds; ++round) {
+        ofLarge.push_back(Milliseconds(large.fileName()));
+        ofSmall.push_back(Milliseconds(small.fileName()));
+    }
+    const qint64 after = PeakMemory();
+    std::printf("blocks of 4 MiB, medians of %d rounds\n", kRounds);
+    std::printf("10 GiB %.2f ms, 100 MiB %.2f ms\n", Median(ofLarge), Median(ofSmall));
+    std::printf("time, ratio of the large file to the small one: %.2f\n",
+                Median(ofLarge) / Median(ofSmall));
+    std::printf("growth of the peak memory: %lld KiB\n", static_cast<long long>(after - before));
+    return 0;
+}
