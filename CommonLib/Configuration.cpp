@@ -13,7 +13,7 @@ QString GetConfigfileDir()
     QString root = qEnvironmentVariable("ProgramData");
     if (root.isEmpty())
         root = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    const QString folder = root + "/Corvane Video Editor/Resources/MotionKit";
+    QString folder = root + "/Corvane Video Editor/Resources/MotionKit";
     if (!FileOperation::IsFileExist(folder))
         QDir().mkpath(folder);
     return folder;

@@ -12,7 +12,8 @@ std::optional<Integer> Truncated(Float value)
     using Limits = std::numeric_limits<Integer>;
     // One past the largest value is a power of two and so exact in every floating-point type, while
     // the largest value itself may not be. Written so that a value that is no number fails.
-    const Float end = static_cast<Float>(Limits::max() / 2 + 1) * 2;
+    constexpr Integer half = Limits::max() / 2 + 1;
+    const Float end = static_cast<Float>(half) * 2;
     const Float lowest = static_cast<Float>(Limits::min());
     if (!(value - lowest > Float(-1) && value < end))
         return std::nullopt;

@@ -15,7 +15,8 @@ constexpr int kLargestRead = 2046; // what follows stays zero and ends the text 
 
 QString excuteCmd(void* /*ignored*/, QString commandLine)
 {
-    CommandCapture command(std::move(commandLine));
+    const QString line = std::move(commandLine);
+    CommandCapture command(line);
     if (!command.IsStarted())
         return QString();
     // Not cleared between reads: a short piece brings along the older bytes behind it. Intended.

@@ -80,7 +80,8 @@ quint64 gGetDiskFreeSpace(void* /*ignored*/, const QString& path)
 
 QString gGetStyleSheet(void* /*ignored*/, QString path)
 {
-    return FileOperation::ReadFile(std::move(path), true);
+    const QString file = std::move(path);
+    return FileOperation::ReadFile(file, true);
 }
 
 void gOpenUrl(void* /*ignored*/, QString url)

@@ -14,7 +14,7 @@ namespace {
 constexpr int kIndent = 4;
 constexpr int kDeepestLevel = 1000;
 constexpr int kLongestEntity = 1024;
-constexpr qint64 kLargestFileWithEntities = 128 * 1024;
+constexpr qint64 kLargestFileWithEntities = qint64(128) * 1024;
 
 // Whether the content may be built into a document: that works recursively and expands entities
 // with few limits, so depth and growth are judged by a reader that does neither.

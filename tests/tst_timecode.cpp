@@ -25,33 +25,27 @@ private slots:
         QTest::addColumn<float>("fps");
         QTest::addColumn<QString>("full");
         QTest::addColumn<QString>("withoutFrames");
-        const QString zero = "00:00:00:00";
-        const QString zeroSeconds = "00:00:00";
-        QTest::newRow("hour at 25") << 90000 << 25.0F << "01:00:00:00"
-                                    << "01:00:00";
+        const auto row = [](const char* name, int frame, float fps, const char* full,
+                            const char* withoutFrames) {
+            QTest::newRow(name) << frame << fps << QString(full) << QString(withoutFrames);
+        };
+        row("hour at 25", 90000, 25, "01:00:00:00", "01:00:00");
         // Without frames a minute is cut to 1798 frames, so that this one reads as the next.
-        QTest::newRow("before a minute at 29.97") << 1798 << 29.97F << "00:00:59:29"
-                                                  << "00:00:00";
-        QTest::newRow("a minute at 29.97") << 1799 << 29.97F << "00:01:00:00"
-                                           << "00:01:00";
-        QTest::newRow("three digits of hours") << 9000000 << 25.0F << "100:00:00:00"
-                                               << "100:00:00";
-        QTest::newRow("three digits of frames") << 119 << 119.88F << "00:00:00:119"
-                                                << "00:00:00";
-        QTest::newRow("largest frame") << kMax << 25.0F << "23860:55:45:22"
-                                       << "23860:55:45";
-        QTest::newRow("negative frame") << -25 << 25.0F << "20496382304:07:17:05"
-                                        << "00:00:-1";
-        QTest::newRow("rate 0") << 0 << 0.0F << zero << zeroSeconds;
-        QTest::newRow("negative rate") << 100 << -25.0F << zero << zeroSeconds;
-        QTest::newRow("not a number") << 100 << kNaN << zero << zeroSeconds;
-        QTest::newRow("infinite") << 100 << kInfinity << zero << zeroSeconds;
-        QTest::newRow("no ten-thousandth") << 100 << 0.00005F << zero << zeroSeconds;
-        QTest::newRow("no frame per hour") << 100 << 0.0002F << "138:53:20:00" << zeroSeconds;
-        QTest::newRow("no frame per minute") << 100 << 0.01F << "02:46:40:00" << zeroSeconds;
-        QTest::newRow("hour beyond 32 bits") << 100 << 1e7F << "00:00:00:100" << zeroSeconds;
-        QTest::newRow("hour of 2^64") << 100 << 1.8446744e12F * 1024 << zero << zeroSeconds;
-        QTest::newRow("beyond 64 bits") << kMin << 3e38F << zero << zeroSeconds;
+        row("before a minute at 29.97", 1798, 29.97F, "00:00:59:29", "00:00:00");
+        row("a minute at 29.97", 1799, 29.97F, "00:01:00:00", "00:01:00");
+        row("three digits of frames", 119, 119.88F, "00:00:00:119", "00:00:00");
+        row("largest frame", kMax, 25, "23860:55:45:22", "23860:55:45");
+        row("negative frame", -25, 25, "20496382304:07:17:05", "00:00:-1");
+        row("rate 0", 0, 0, "00:00:00:00", "00:00:00");
+        row("negative rate", 100, -25, "00:00:00:00", "00:00:00");
+        row("not a number", 100, kNaN, "00:00:00:00", "00:00:00");
+        row("infinite", 100, kInfinity, "00:00:00:00", "00:00:00");
+        row("no ten-thousandth", 100, 0.00005F, "00:00:00:00", "00:00:00");
+        row("no frame per hour", 100, 0.0002F, "138:53:20:00", "00:00:00");
+        row("no frame per minute", 100, 0.01F, "02:46:40:00", "00:00:00");
+        row("hour beyond 32 bits", 100, 1e7F, "00:00:00:100", "00:00:00");
+        row("hour of 2^64", 100, 1.8446744e12F * 1024, "00:00:00:00", "00:00:00");
+        row("beyond 64 bits", kMin, 3e38F, "00:00:00:00", "00:00:00");
     }
     void frameToText()
     {
@@ -100,11 +94,8 @@ private slots:
     {
         QTest::addColumn<float>("fps");
         QTest::addColumn<int>("firstChanged"); // none when -1
-        QTest::newRow("24") << 24.0F << -1;
-        QTest::newRow("25") << 25.0F << -1;
-        QTest::newRow("30") << 30.0F << -1;
-        QTest::newRow("50") << 50.0F << -1;
-        QTest::newRow("60") << 60.0F << -1;
+        for (const float fps : {24.0F, 25.0F, 30.0F, 50.0F, 60.0F})
+            QTest::addRow("%g", double(fps)) << fps << -1;
         QTest::newRow("23.976") << 23.976F << 133859;
         QTest::newRow("29.97") << 29.97F << 132858;
         QTest::newRow("59.94") << 59.94F << 262718;
@@ -126,26 +117,15 @@ private slots:
             QCOMPARE(gString2Frame(fps, gFrame2String(firstChanged, fps)), firstChanged - 1);
     }
 
-    void otherRate_data()
-    {
-        QTest::addColumn<int>("frame");
-        QTest::addColumn<double>("from");
-        QTest::addColumn<double>("to");
-        QTest::addColumn<int>("expected");
-        QTest::newRow("from 0") << 100 << 0.0 << 30.0 << -1;
-        QTest::newRow("25 to 30") << 100 << 25.0 << 30.0 << 120;
-        QTest::newRow("toward zero") << -7 << 2.0 << 1.0 << -3;
-        QTest::newRow("not a number") << 100 << double(kNaN) << 30.0 << -1;
-        QTest::newRow("infinite") << 100 << 25.0 << double(kInfinity) << -1;
-        QTest::newRow("smallest that fits") << kMin << 1.0 << 1.0 << kMin;
-        QTest::newRow("beyond 32 bits") << kMax << 1.0 << 2.0 << -1;
-    }
     void otherRate()
     {
-        QFETCH(int, frame);
-        QFETCH(double, from);
-        QFETCH(double, to);
-        QTEST(gFrameBaseFps(frame, from, to), "expected");
+        QCOMPARE(gFrameBaseFps(100, 0, 30), -1);
+        QCOMPARE(gFrameBaseFps(100, 25, 30), 120);
+        QCOMPARE(gFrameBaseFps(-7, 2, 1), -3);
+        QCOMPARE(gFrameBaseFps(100, double(kNaN), 30), -1);
+        QCOMPARE(gFrameBaseFps(100, 25, double(kInfinity)), -1);
+        QCOMPARE(gFrameBaseFps(kMin, 1, 1), kMin);
+        QCOMPARE(gFrameBaseFps(kMax, 1, 2), -1);
     }
 
     void codecNames()

@@ -104,15 +104,12 @@ private slots:
         QVERIFY(QuaZipOperate::CompressDir("in.zip", "."));
         QVERIFY(QuaZipOperate::CompressDir("in.zip", ".")); // replaces, and never packs, itself
         const QStringList paths = QuaZipOperate::ExtractDir("in.zip", "../out");
-        QFile::remove(Path("in/in.zip"));
-        QCOMPARE(Tree(Path("out")), Tree(Path("in")));
+        QStringList packed = Tree(Path("in"));
+        packed.removeOne("in.zip");
+        QCOMPARE(Tree(Path("out")), packed);
         QCOMPARE(Read(Path("out/a")), large);
-
-        QVERIFY(QuaZipOperate::CompressDir(Path("again.zip"), Path("out")));
-        QCOMPARE(QuaZipOperate::ExtractDir(Path("again.zip"), Path("out")),
-                 JlCompress::extractDir(Path("again.zip"), QTextCodec::codecForName("UTF-8"),
-                                        Path("out")));
-        QCOMPARE(paths.size(), Tree(Path("out")).size());
+        QCOMPARE(paths,
+                 JlCompress::extractDir("in.zip", QTextCodec::codecForName("UTF-8"), "../out"));
     }
 
     void packFails()
@@ -133,58 +130,50 @@ private slots:
     {
         QTest::addColumn<Entries>("entries"); // besides a good one, "good/file"
         QTest::addColumn<QStringList>("unpacked");
-        const QStringList none;
-        QTest::newRow("climbs out") << Entries{{"../evil", "x"}, {"a/../../evil", "x"}} << none;
-        QTest::newRow("climbs back in") << Entries{{"../out/evil", "x"}} << none;
-        QTest::newRow("stays in") << Entries{{"a/../b", "x"}, {"./c", "x"}}
-                                  << QStringList{"b", "c"};
-        QTest::newRow("absolute") << Entries{{"/tmp/evil-entry", "x"}, {"//evil", "x"}} << none;
-        QTest::newRow("the target itself") << Entries{{".", "x"}, {"a/..", "x"}} << none;
+        const auto row = [](const char* name, const Entries& entries, const QStringList& unpacked) {
+            QTest::newRow(name) << entries << unpacked;
+        };
+        row("climbs out", {{"../evil", "x"}, {"a/../../evil", "x"}, {"../out/evil", "x"}}, {});
+        row("stays in", {{"a/../b", "x"}, {"./c", "x"}}, {"b", "c"});
+        row("absolute", {{"/tmp/evil-entry", "x"}, {"//evil", "x"}}, {});
+        row("the target itself", {{".", "x"}, {"a/..", "x"}}, {});
 #ifdef Q_OS_LINUX
-        QTest::newRow("drives and backslashes are plain") << Entries{{"C:\\evil", "x"},
-                                                                     { "..\\evil",
-                                                                       "x" }}
-                                                          << QStringList{"..\\evil", "C:\\evil"};
-        QTest::newRow("not UTF-8") << Entries{{ "\xfc.txt", "x" }} << QStringList{"\ufffd.txt"};
-        QTest::newRow("link that stays in") << Entries{{
-            "sub/link",
-            "../good/file",
-            true
-        }} << QStringList{"sub/", "sub/link->good/file"};
-        QTest::newRow("link that leads out") << Entries{{"a", "../outside", true},
-                                                        {"b", "/etc", true},
-                                                        { "a/evil",
-                                                          "x" }}
-                                             << QStringList{"a/", "a/evil"};
-        QTest::newRow("link that climbs from a link") << Entries{{"good/up", "..", true},
-                                                                 { "b",
-                                                                   "good/up/../outside",
-                                                                   true }}
-                                                      << QStringList{"good/up->"};
-        QTest::newRow("through a link of the archive") << Entries{{"a", "linked", true},
-                                                                  { "a/passwd",
-                                                                    "x" }}
-                                                       << QStringList{"a->linked"};
-        QTest::newRow("link with a huge target") << Entries{{
-            "a",
-            QByteArray(5000, 'x'),
-            true
-        }} << none;
-        QTest::newRow("through a link that lies there") << Entries{{"linked/evil", "x"},
-                                                                   {"linked/sub/", ""},
-                                                                   { "linked",
-                                                                     "x" }}
-                                                        << none;
-        QTest::newRow("onto a link that lies there") << Entries{{ "linkedFile", "x" }} << none;
-        QTest::newRow("a skipped entry clears no way") << Entries{{"n/a", "../../x", true},
-                                                                  {"n", "linked", true},
-                                                                  { "n/kept",
-                                                                    "x" }}
-                                                       << QStringList{"n->linked"};
+        row("drive and backslash are plain",
+            {{"C:\\e", "x"},
+             { "..\\e",
+               "x" }},
+            {"..\\e", "C:\\e"});
+        row("not UTF-8", {{ "\xfc.txt", "x" }}, {"\ufffd.txt"});
+        row("link that stays in", {{ "s/l", "../good/file", true }}, {"s/", "s/l->good/file"});
+        row("link that leads out", {{"a", "../outside", true}, { "b", "/etc", true }}, {});
+        row("link that climbs from a link",
+            {{"good/up", "..", true},
+             { "b",
+               "good/up/../outside",
+               true }},
+            {"good/up->"});
+        row("through a link of the archive",
+            {{"a", "linked", true},
+             { "a/e",
+               "x" }},
+            {"a->linked"});
+        row("link with a huge target", {{ "a", QByteArray(5000, 'x'), true }}, {});
+        row("through or onto a link that lies there",
+            {{"linked/e", "x"},
+             {"linked/s/", ""},
+             {"linked", "x"},
+             { "linkedFile",
+               "x" }},
+            {});
+        row("an entry left out clears no way",
+            {{"n/a", "../../x", true},
+             {"n", "linked", true},
+             { "n/kept",
+               "x" }},
+            {"n->linked"});
 #else
-        QTest::newRow("drives and backslashes")
-            << Entries{{"C:\\evil", "x"}, {"C:evil", "x"}, {"..\\evil", "x"}, {"nul.txt", "x"}}
-            << none;
+        row("drive, backslash, device",
+            {{"C:\\e", "x"}, {"C:e", "x"}, {"..\\e", "x"}, {"nul.txt", "x"}}, {});
 #endif
     }
     void names()
@@ -241,13 +230,6 @@ private slots:
         QCOMPARE(QFile::exists(Path("out")), claimedSize > 0 && claimedSize < (1U << 30));
     }
 
-    void missing()
-    {
-        QCOMPARE(QuaZipOperate::ExtractDir(Path("missing.zip"), Path("out")), QStringList());
-        QCOMPARE(QuaZipOperate::ExtractDir(m_folder->path(), Path("out")), QStringList());
-        QVERIFY(!QFile::exists(Path("out")));
-    }
-
     // A file where the archive has a folder: what came before goes again.
     void undone()
     {
@@ -255,6 +237,7 @@ private slots:
         MakeArchive(Path("a.zip"), {{"first", "x"}, {"sub/file", "x"}});
         QCOMPARE(QuaZipOperate::ExtractDir(Path("a.zip"), Path("out")), QStringList());
         QCOMPARE(Tree(Path("out")), QStringList("sub"));
+        QCOMPARE(QuaZipOperate::ExtractDir(Path("missing.zip"), Path("out")), QStringList());
     }
 };
 
