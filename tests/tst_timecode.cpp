@@ -44,7 +44,7 @@ private slots:
         row("no frame per hour", 100, 0.0002F, "138:53:20:00", "00:00:00");
         row("no frame per minute", 100, 0.01F, "02:46:40:00", "00:00:00");
         row("hour beyond 32 bits", 100, 1e7F, "00:00:00:100", "00:00:00");
-        row("hour of 2^64", 100, 1.8446744e12F * 1024, "00:00:00:00", "00:00:00");
+        row("hour of 2^64", 100, 1.1529215e14F, "00:00:00:00", "00:00:00");
         row("beyond 64 bits", kMin, 3e38F, "00:00:00:00", "00:00:00");
     }
     void frameToText()
