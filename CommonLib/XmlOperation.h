@@ -19,7 +19,8 @@ public:
     /// happens when the file cannot be opened.
     static void CreateXmlFile(const QString& path, const QString& rootName);
 
-    /// Reads a whole file into \a document, without namespace processing.
+    /// Reads a whole file into \a document, without namespace processing. A document of many small
+    /// elements takes about fifty times the memory of its file.
     ///
     /// \param mode how to open the file; must allow reading for the call to succeed
     /// \return false, and a null \a document, when the file is not well-formed, is nested deeper
