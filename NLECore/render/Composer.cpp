@@ -17,6 +17,8 @@ namespace {
 
 /// Longest side of a picture that is asked of a decoder; a larger one is drawn enlarged.
 constexpr int kLongestSide = 8192;
+/// A place or a side beyond it shows the same as one at it, and whole numbers do not overflow.
+constexpr double kFarthestPixel = 1e6;
 /// Height of a line of text, as a share of the picture's height.
 constexpr double kTextHeight = 1.0 / 12;
 
@@ -62,11 +64,15 @@ Placing PlaceLayer(const Layer& layer, NLESize parentSize, const QSize& canvas)
     const TransformSettings& transform = layer.transform;
     if (plain.isEmpty() || transform.IsIdentity())
         return {plain, 0};
-    const QSizeF size(plain.width() * transform.scale.width,
-                      plain.height() * transform.scale.height);
-    const QPointF center(transform.center.x * canvas.width(), transform.center.y * canvas.height());
+    const auto pixels = [](double value) {
+        return std::clamp(value, -kFarthestPixel, kFarthestPixel);
+    };
+    const QSizeF size(pixels(plain.width() * transform.scale.width),
+                      pixels(plain.height() * transform.scale.height));
+    const QPointF center(pixels(transform.center.x * canvas.width()),
+                         pixels(transform.center.y * canvas.height()));
     return {QRectF(center - QPointF(size.width() / 2, size.height() / 2), size),
-            transform.rotation};
+            std::fmod(transform.rotation, 360.0)};
 }
 
 QPainter::CompositionMode PainterMode(BlendMode mode)
