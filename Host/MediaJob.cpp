@@ -2,6 +2,7 @@
 #include "Host/MediaJob.h"
 
 #include "CommonLib/BaseLog.h"
+#include "CommonLib/GlobalUtils.h"
 #include "CommonLib/NLEWraper/NLETimeline.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/INLEFrames.h"
@@ -10,7 +11,6 @@
 #include "Host/ContactSheet.h"
 #include "Host/MediaReport.h"
 #include "Host/OutputFolder.h"
-#include "Host/Timecode.h"
 #include "Host/WaveSheet.h"
 
 #include <QDir>
@@ -96,7 +96,7 @@ bool MediaJob::makeContactSheet(NLETimeline& timeline, const MediaReport& report
     int failures = 0;
     for (int index = 0; index < frames.size(); ++index) {
         const int frame = frames[index];
-        const QString timecode = TimecodeText(frame, double(report.rate));
+        const QString timecode = gFrame2String(frame, report.rate);
         const bool last = index + 1 == frames.size();
         const QImage picture =
             timeline.GetThumbnailFromMediaInfo(frame, size.width(), size.height(), false, last);

@@ -1,15 +1,22 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/MediaReport.h"
 
+#include "CommonLib/GlobalUtils.h"
 #include "CommonLib/NLEWraper/NLETimeline.h"
 #include "EngineApi/INLEMedia.h"
-#include "Host/Timecode.h"
 
 namespace {
 
 QString sizeText(double width, double height)
 {
     return QStringLiteral("%1 × %2").arg(width).arg(height);
+}
+
+/// A rate with up to three decimals and no trailing zeros: "25", "29.97".
+QString rateText(double framesPerSecond)
+{
+    constexpr int decimals = 1000;
+    return QString::number(qRound64(framesPerSecond * decimals) / double(decimals));
 }
 
 /// "1 frame", "2 frames"
@@ -36,7 +43,7 @@ QString streamText(const NLEStreamInfo& stream)
         if (stream.rotation != 0)
             parts << QStringLiteral("rotated by %1°").arg(stream.rotation);
         if (stream.frameRate.num > 0 && stream.frameRate.den > 0)
-            parts << RateText(double(stream.frameRate.num) / double(stream.frameRate.den)) +
+            parts << rateText(double(stream.frameRate.num) / double(stream.frameRate.den)) +
                          QStringLiteral(" fps");
         break;
     case NLEStream_Audio:
@@ -115,8 +122,8 @@ QString MediaReport::summary() const
         parts << QStringLiteral("Video") << sizeText(size.width(), size.height());
     else
         parts << (audio ? QStringLiteral("Sound") : QStringLiteral("No picture and no sound"));
-    parts << RateText(double(rate)) + QStringLiteral(" fps")
-          << counted(frames, QStringLiteral("frame")) << TimecodeText(frames, double(rate));
+    parts << rateText(double(rate)) + QStringLiteral(" fps")
+          << counted(frames, QStringLiteral("frame")) << gFrame2String(int(frames), rate);
     return parts.join(QStringLiteral(", "));
 }
 

@@ -2,7 +2,6 @@
 #include "Host/WaveSheet.h"
 
 #include "Host/SheetStyle.h"
-#include "Host/Timecode.h"
 
 #include <QPainter>
 #include <QtMath>
