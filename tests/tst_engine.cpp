@@ -1,28 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // The open engine, judged by what it shows: pixels, samples and files.
-#include "CommonLib/NLEWraper/CVCreateInstance.h"
-#include "CommonLib/NLEWraper/NLEWraper.h"
-#include "CommonLib/NLEWraper/PlayerMaterProvider.h"
-#include "EngineApi/INLEFactory.h"
-#include "EngineApi/INLEFrames.h"
-#include "EngineApi/INLEMedia.h"
-#include "EngineApi/INLEProperties.h"
-#include "EngineApi/INLETimeline.h"
 #include "EngineApi/NLEKey.h"
-#include "tests/support/TestMedia.h"
+#include "tests/support/EngineFixture.h"
 
 #include <QProcess>
 #include <QStandardPaths>
-#include <QTemporaryDir>
-#include <QtTest>
-
-#include <cmath>
-
-using Node = NLEComPtr<INLETimeline>;
 
 namespace {
 
-constexpr tagNLEProjectProfile kSmall = {{320, 180}, {25000000, 1000000}, 48000, 2, 3};
 constexpr int kMediaFrames = 60;
 
 void SetRange(const Node& node, int in, int out)
@@ -45,37 +30,11 @@ NLERange TotalOf(const Node& node)
     return range;
 }
 
-HRESULT Add(const Node& composite, const Node& clip, int position = 0, int level = 0)
-{
-    clip->SetPosition(position);
-    clip->SetLevel(level);
-    return composite.query<INLETimelineComposite>()->AddClip(clip.get());
-}
-
 int ClipCount(const Node& composite)
 {
     int count = -1;
     composite.query<INLETimelineComposite>()->GetClipCount(&count);
     return count;
-}
-
-Node ClipAt(const Node& composite, int index)
-{
-    NLEComPtr<INLETimelineEnumerator> clips;
-    composite.query<INLETimelineComposite>()->GetEnumerator(1, clips.put());
-    for (int i = 0; i < index; ++i)
-        clips->Next();
-    Node clip;
-    clips->GetCurrent(clip.put());
-    return clip;
-}
-
-double Loudness(const float* samples, int count)
-{
-    double sum = 0;
-    for (int i = 0; i < count; ++i)
-        sum += double(samples[i]) * samples[i];
-    return count > 0 ? std::sqrt(sum / count) : 0.0;
 }
 
 QByteArray Contents(const QString& path)
@@ -86,39 +45,17 @@ QByteArray Contents(const QString& path)
 
 } // namespace
 
-class tst_Engine : public QObject
+class tst_Engine : public QObject, private EngineFixture
 {
     Q_OBJECT
 
-private:
-    Node Media() const { return m_provider->CreateMediaTimeline(m_media, false); }
-    Node Project() const { return m_provider->CreateProjectTimeline(kSmall); }
-    Node Colour(const QColor& color, const QSize& size = QSize(320, 180)) const
-    {
-        return m_provider->CreateColorTimeline(color, size, 25.0f);
-    }
-    QImage Frame(const Node& node, int frame, const QSize& size = QSize(320, 180)) const;
-    double LoudnessAt(const Node& node, int frame, int samples = 1920) const;
-    bool Save(const Node& node, const QString& path) const
-    {
-        return m_provider->CreateDocumentSerialize()->Save(node.get(),
-                                                           path.toStdWString().c_str()) == S_OK;
-    }
-    Node Load(const QString& path) const
-    {
-        Node node;
-        m_provider->CreateDocumentSerialize()->Load(path.toStdWString().c_str(), node.put());
-        return node;
-    }
-    QString Path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
+    Node Media() const { return EngineFixture::Media(m_media); }
+    double LoudnessAt(const Node& node, int frame) const { return Loudness(Sound(node, frame)[0]); }
 
-    QTemporaryDir m_folder;
-    QString m_media;
-    PlayerMaterProvider* m_provider = nullptr;
+    QString m_media = Path("clip.mp4");
 
 private slots:
     void initTestCase();
-    void cleanupTestCase();
     void catalogue();
     void treeRefusals();
     void rateChangesKeepInstants();
@@ -143,68 +80,36 @@ private slots:
     void relink();
 };
 
-QImage tst_Engine::Frame(const Node& node, int frame, const QSize& size) const
-{
-    const auto picture = m_provider->CreateVideoFrame(size.width(), size.height());
-    const auto extractor = m_provider->CreateFrameExtractor();
-    picture->Prepare();
-    if (extractor->Open(node.get(), 1) != S_OK || extractor->Extract(frame, picture.get()) != S_OK)
-        return {};
-    std::uint8_t* pixels = nullptr;
-    picture->GetData(&pixels);
-    return QImage(pixels, size.width(), size.height(), QImage::Format_ARGB32).copy();
-}
-
-double tst_Engine::LoudnessAt(const Node& node, int frame, int samples) const
-{
-    const auto sound = m_provider->CreateAudioFrame(samples);
-    const auto extractor = m_provider->CreateFrameExtractor();
-    float* data = nullptr;
-    sound->GetData(&data);
-    if (extractor->Open(node.get(), 1) != S_OK ||
-        extractor->ExtractAudio(frame, sound.get()) != S_OK)
-        return -1;
-    return Loudness(data, samples * 2);
-}
-
 void tst_Engine::initTestCase()
 {
-    m_media = Path("clip.mp4");
     TestClip clip;
     clip.frames = kMediaFrames;
     clip.bframes = 2;
     clip.audioCodec = QStringLiteral("aac");
     QCOMPARE(MakeTestClip(m_media, clip), QString());
-    m_provider = NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
-    QVERIFY(m_provider->CreateNLEProperties());
-}
-
-void tst_Engine::cleanupTestCase()
-{
-    NLEWraper::Release();
-    CVCreateInstance::Instance()->Release();
+    QVERIFY(provider->CreateNLEProperties());
 }
 
 void tst_Engine::catalogue()
 {
     // What this engine offers, and that the rest is an honest null.
-    QVERIFY(m_provider->CreateProjectTimeline());
-    QVERIFY(m_provider->CreateVirtualTimeline(11));
-    QVERIFY(m_provider->CreateTipTextTimeline(QStringLiteral("a"), QStringLiteral("b")));
-    QVERIFY(m_provider->CreateCodecFromFile(m_media));
-    QVERIFY(m_provider->CreateWaveExtractor());
-    QVERIFY(!m_provider->CreateVideoFrameOpencl(16, 16));
-    QVERIFY(!m_provider->CreateVideoFrame(0, 16));
-    QVERIFY(!m_provider->CreateVideoFrame(1 << 20, 16));
-    QVERIFY(!m_provider->CreateAudioFrame(-1));
-    QVERIFY(!m_provider->CreateColorTimeline(Qt::red, QSize(0, 9), 25.0f));
-    QVERIFY(!m_provider->CreateColorTimeline(Qt::red, QSize(9, 9), qQNaN()));
-    QVERIFY(!m_provider->CreateSceneSegment());
-    QVERIFY(!m_provider->CreateAudioFilterTimeline(QStringLiteral("x")));
-    QVERIFY(!m_provider->CreateMarkBook(m_media));
+    QVERIFY(provider->CreateProjectTimeline());
+    QVERIFY(provider->CreateVirtualTimeline(11));
+    QVERIFY(provider->CreateTipTextTimeline(QStringLiteral("a"), QStringLiteral("b")));
+    QVERIFY(provider->CreateCodecFromFile(m_media));
+    QVERIFY(provider->CreateWaveExtractor());
+    QVERIFY(!provider->CreateVideoFrameOpencl(16, 16));
+    QVERIFY(!provider->CreateVideoFrame(0, 16));
+    QVERIFY(!provider->CreateVideoFrame(1 << 20, 16));
+    QVERIFY(!provider->CreateAudioFrame(-1));
+    QVERIFY(!provider->CreateColorTimeline(Qt::red, QSize(0, 9), 25.0f));
+    QVERIFY(!provider->CreateColorTimeline(Qt::red, QSize(9, 9), qQNaN()));
+    QVERIFY(!provider->CreateSceneSegment());
+    QVERIFY(!provider->CreateAudioFilterTimeline(QStringLiteral("x")));
+    QVERIFY(!provider->CreateMarkBook(m_media));
 
     wchar_t name[32] = L"";
-    const auto codec = m_provider->CreateCodecFromFile(m_media);
+    const auto codec = provider->CreateCodecFromFile(m_media);
     QCOMPARE(codec->GetCodecName(0, name, 32), S_OK);
     QCOMPARE(QString::fromWCharArray(name), QStringLiteral("h264"));
     QCOMPARE(codec->GetCodecName(9, name, 32), E_INVALIDARG);
@@ -213,7 +118,7 @@ void tst_Engine::catalogue()
 void tst_Engine::treeRefusals()
 {
     const Node project = Project();
-    const Node inner = m_provider->CreateVirtualTimeline(0);
+    const Node inner = provider->CreateVirtualTimeline(0);
     const auto composite = project.query<INLETimelineComposite>();
     const auto innerComposite = inner.query<INLETimelineComposite>();
     QCOMPARE(composite->AddClip(nullptr), E_INVALIDARG);
@@ -232,7 +137,7 @@ void tst_Engine::treeRefusals()
     QVERIFY(!parent);
 
     // A clip outlives the composite that held it.
-    Node holder = m_provider->CreateVirtualTimeline(0);
+    Node holder = provider->CreateVirtualTimeline(0);
     QCOMPARE(Add(holder, inner), S_OK);
     holder.reset();
     inner->GetParent(parent.put());
@@ -243,7 +148,7 @@ void tst_Engine::rateChangesKeepInstants()
 {
     tagNLEProjectProfile profile = kSmall;
     profile.frameRate = {50, 1};
-    const Node project = m_provider->CreateProjectTimeline(profile);
+    const Node project = provider->CreateProjectTimeline(profile);
     const Node clip = Media();
     QCOMPARE(TotalOf(clip).out, kMediaFrames - 1);
     SetRange(clip, 10, 19);
@@ -397,7 +302,7 @@ void tst_Engine::trimmedClipShowsItsFrames()
 void tst_Engine::nestedComposite()
 {
     const Node project = Project();
-    const Node inner = m_provider->CreateVirtualTimeline(0);
+    const Node inner = provider->CreateVirtualTimeline(0);
     Add(inner, Media(), 5);
     SetRange(inner, 10, 29);
     Add(project, Colour(Qt::red), 0, 0);
@@ -416,7 +321,7 @@ void tst_Engine::nestedComposite()
 
 void tst_Engine::textIsDrawn()
 {
-    const Node text = m_provider->CreateTipTextTimeline(QStringLiteral("HHHHH"), QString());
+    const Node text = provider->CreateTipTextTimeline(QStringLiteral("HHHHH"), QString());
     const QImage frame = Frame(text, 0);
     QCOMPARE(frame.pixelColor(2, 2).alpha(), 0);
     int white = 0;
@@ -456,7 +361,7 @@ void tst_Engine::waveEnvelope()
     std::uint32_t stream = 0;
     clip.query<INLETimelineSource>()->GetMediaInfo(info.put());
     clip.query<INLETimelineSource>()->GetAudioStreamIndex(&stream);
-    const auto wave = m_provider->CreateWaveExtractor();
+    const auto wave = provider->CreateWaveExtractor();
     float minima[8] = {};
     float maxima[8] = {};
     QVERIFY(FAILED(wave->Extract(0, 1, 8, minima, maxima)));
@@ -477,7 +382,7 @@ void tst_Engine::encodes()
     const Node clip = Media();
     SetRange(clip, 20, 39);
     Add(project, clip, 5);
-    const auto encoder = m_provider->CreateMediaEncoder();
+    const auto encoder = provider->CreateMediaEncoder();
     const QString path = Path("encoded film.mp4");
     QCOMPARE(encoder->Open(project.get(), path.toStdWString().c_str(), nullptr), S_OK);
     int last = -1;
@@ -489,7 +394,7 @@ void tst_Engine::encodes()
                  &last),
              S_OK);
     QCOMPARE(last, 100);
-    const Node film = m_provider->CreateMediaTimeline(path, false);
+    const Node film = provider->CreateMediaTimeline(path, false);
     QVERIFY(film);
     QCOMPARE(TotalOf(film).out, 24);
     QCOMPARE(ReadFrameNumber(Frame(film, 5)), 20);
@@ -501,13 +406,13 @@ void tst_Engine::encodes()
 void tst_Engine::encoderStopsAndFails()
 {
     const Node clip = Media();
-    const auto encoder = m_provider->CreateMediaEncoder();
+    const auto encoder = provider->CreateMediaEncoder();
     const QString path = Path("stopped.mkv");
     QCOMPARE(encoder->Encode(nullptr, nullptr), E_FAIL);
     QCOMPARE(encoder->Open(clip.get(), path.toStdWString().c_str(), nullptr), S_OK);
     const auto stopAtHalf = [](int percent, void*) { return percent >= 50 ? 1 : 0; };
     QCOMPARE(encoder->Encode(stopAtHalf, nullptr), S_FALSE);
-    QVERIFY(QDir(m_folder.path()).entryList({QStringLiteral("stopped*")}).isEmpty());
+    QVERIFY(QDir(folder.path()).entryList({QStringLiteral("stopped*")}).isEmpty());
     for (const char* bad : {"no/such/folder/x.mp4", "film.unknownsuffix"}) {
         const std::wstring name = Path(bad).toStdWString();
         QCOMPARE(encoder->Open(clip.get(), name.c_str(), nullptr), S_OK);
@@ -532,13 +437,13 @@ void tst_Engine::documentRoundTrip()
     const Node hidden = Colour(Qt::green);
     hidden->SetEnabled(false);
     Add(project, hidden, 3, 7);
-    const Node inner = m_provider->CreateVirtualTimeline(11);
-    const Node text = m_provider->CreateTipTextTimeline(QStringLiteral("two\nlines"),
-                                                        QStringLiteral("DejaVu Sans"));
+    const Node inner = provider->CreateVirtualTimeline(11);
+    const Node text = provider->CreateTipTextTimeline(QStringLiteral("two\nlines"),
+                                                      QStringLiteral("DejaVu Sans"));
     SetRange(text, 4, 3);
     Add(inner, text, 8);
     Add(project, inner, 60, 1);
-    Add(project, m_provider->CreateMediaTimeline(Path("gone.mp4"), true), 200, 1);
+    Add(project, provider->CreateMediaTimeline(Path("gone.mp4"), true), 200, 1);
 
     const QString first = Path("first.mlt");
     const QString second = Path("second.mlt");
@@ -647,18 +552,18 @@ void tst_Engine::brokenDocuments()
 
 void tst_Engine::templates()
 {
-    const QString folder = Path("template");
-    QVERIFY(QDir().mkpath(folder));
-    QVERIFY(QFile::copy(m_media, folder + QStringLiteral("/clip.mp4")));
+    const QString made = Path("template");
+    QVERIFY(QDir().mkpath(made));
+    QVERIFY(QFile::copy(m_media, made + QStringLiteral("/clip.mp4")));
     const Node project = Project();
-    Add(project, m_provider->CreateMediaTimeline(folder + QStringLiteral("/clip.mp4"), false));
-    QVERIFY(Save(project, folder + QStringLiteral("/Template.mlt")));
+    Add(project, provider->CreateMediaTimeline(made + QStringLiteral("/clip.mp4"), false));
+    QVERIFY(Save(project, made + QStringLiteral("/Template.mlt")));
     // Media inside of the template moves with it.
-    QVERIFY(QDir().rename(folder, Path("moved")));
-    const Node loaded = m_provider->CreateTimelineFromTemplate(Path("moved"));
+    QVERIFY(QDir().rename(made, Path("moved")));
+    const Node loaded = provider->CreateTimelineFromTemplate(Path("moved"));
     QVERIFY(loaded);
     QCOMPARE(ReadFrameNumber(Frame(loaded, 12)), 12);
-    QVERIFY(!m_provider->CreateTimelineFromTemplate(m_folder.path()));
+    QVERIFY(!provider->CreateTimelineFromTemplate(folder.path()));
 }
 
 void tst_Engine::relink()

@@ -1,22 +1,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // What the settings of clips do to pixels and samples of the open engine.
-#include "CommonLib/NLEWraper/CVCreateInstance.h"
-#include "CommonLib/NLEWraper/NLEWraper.h"
-#include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/INLEMixerSetting.h"
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/INLETransform.h"
 #include "EngineApi/NLEKey.h"
-#include "tests/support/TestMedia.h"
+#include "tests/support/EngineFixture.h"
 
-#include <QTemporaryDir>
-#include <QtTest>
-
-#include <cmath>
 #include <complex>
 #include <functional>
 
-using Node = NLEComPtr<INLETimeline>;
 using Rule = std::function<double(double below, double above)>;
 using Change = std::function<void(INLEAudioStreamProcess&)>;
 Q_DECLARE_METATYPE(Rule)
@@ -24,25 +16,14 @@ Q_DECLARE_METATYPE(Change)
 
 namespace {
 
-constexpr tagNLEProjectProfile kProfile = {{320, 180}, {25, 1}, 48000, 2, 3};
-constexpr int kRate = 48000;
+constexpr int kRate = EngineFixture::kSampleRate;
 constexpr double kTone = 440;
 /// Loudness of a full-scale sine of the test tone's level, 0.5.
 const double kToneLoudness = 0.5 / std::sqrt(2.0);
 
-using Stereo = std::array<std::vector<double>, 2>;
-
 double Decibels(double value, double reference)
 {
     return 20 * std::log10(std::max(value, 1e-9) / reference);
-}
-
-double Loudness(const std::vector<double>& samples)
-{
-    double sum = 0;
-    for (const double sample : samples)
-        sum += sample * sample;
-    return std::sqrt(sum / double(samples.size()));
 }
 
 /// Strength of one frequency in a sound, by correlation: the peak of a sine of that frequency.
@@ -64,40 +45,23 @@ NLEComPtr<Facility> Facet(const Node& node)
 
 } // namespace
 
-class tst_EngineSettings : public QObject
+class tst_EngineSettings : public QObject, private EngineFixture
 {
     Q_OBJECT
 
-private:
-    Node Colour(const QColor& color) const
-    {
-        return m_provider->CreateColorTimeline(color, QSize(320, 180), 25.0f);
-    }
-    Node Media() const { return m_provider->CreateMediaTimeline(m_media, false); }
+    Node Media() const { return EngineFixture::Media(m_media); }
     Node ProjectWith(const Node& clip, int position = 0, int level = 0) const
     {
-        Node project = m_provider->CreateProjectTimeline(kProfile);
+        Node project = Project();
         Add(project, clip, position, level);
         return project;
     }
-    static void Add(const Node& project, const Node& clip, int position, int level)
-    {
-        clip->SetPosition(position);
-        clip->SetLevel(level);
-        QCOMPARE(project.query<INLETimelineComposite>()->AddClip(clip.get()), S_OK);
-    }
-    QImage Frame(const Node& node, int frame) const;
-    Stereo Sound(const Node& node, int frame, int samples = kRate / 5) const;
-    Node Reopened(const Node& node) const;
 
-    QTemporaryDir m_folder;
-    QString m_media;
-    QString m_proxy;
-    PlayerMaterProvider* m_provider = nullptr;
+    QString m_media = Path("clip.mkv");
+    QString m_proxy = Path("proxy.mp4");
 
 private slots:
     void initTestCase();
-    void cleanupTestCase();
     void transformFillsExactly_data();
     void transformFillsExactly();
     void blendModes_data();
@@ -116,63 +80,17 @@ private slots:
     void settingsSurvive();
 };
 
-QImage tst_EngineSettings::Frame(const Node& node, int frame) const
-{
-    const auto picture = m_provider->CreateVideoFrame(320, 180);
-    const auto extractor = m_provider->CreateFrameExtractor();
-    std::uint8_t* pixels = nullptr;
-    if (picture->Prepare() != S_OK || extractor->Open(node.get(), 1) != S_OK ||
-        extractor->Extract(frame, picture.get()) != S_OK || picture->GetData(&pixels) != S_OK)
-        return {};
-    return QImage(pixels, 320, 180, QImage::Format_ARGB32).copy();
-}
-
-Stereo tst_EngineSettings::Sound(const Node& node, int frame, int samples) const
-{
-    const auto sound = m_provider->CreateAudioFrame(samples);
-    const auto extractor = m_provider->CreateFrameExtractor();
-    float* data = nullptr;
-    Stereo result;
-    if (extractor->Open(node.get(), 1) != S_OK ||
-        extractor->ExtractAudio(frame, sound.get()) != S_OK || sound->GetData(&data) != S_OK)
-        return result;
-    for (int i = 0; i < samples; ++i) {
-        result[0].push_back(data[2 * i]);
-        result[1].push_back(data[2 * i + 1]);
-    }
-    return result;
-}
-
-Node tst_EngineSettings::Reopened(const Node& node) const
-{
-    const std::wstring path = m_folder.filePath(QStringLiteral("saved.mlt")).toStdWString();
-    const auto document = m_provider->CreateDocumentSerialize();
-    Node loaded;
-    if (document->Save(node.get(), path.c_str()) == S_OK)
-        document->Load(path.c_str(), loaded.put());
-    return loaded;
-}
-
 void tst_EngineSettings::initTestCase()
 {
-    m_media = m_folder.filePath(QStringLiteral("clip.mkv"));
     TestClip clip;
     clip.frames = 100;
     clip.audioCodec = QStringLiteral("pcm_s16le");
     clip.toneHz = kTone;
     QCOMPARE(MakeTestClip(m_media, clip), QString());
-    m_proxy = m_folder.filePath(QStringLiteral("proxy.mp4"));
     QCOMPARE(RunFfmpeg({"-f", "lavfi", "-i", "color=c=red:size=160x90:rate=25", "-frames:v", "100",
                         "-pix_fmt", "yuv420p", m_proxy}),
              QString());
-    m_provider = NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
-    QVERIFY(m_provider->CreateNLEProperties());
-}
-
-void tst_EngineSettings::cleanupTestCase()
-{
-    NLEWraper::Release();
-    CVCreateInstance::Instance()->Release();
+    QVERIFY(provider->CreateNLEProperties());
 }
 
 void tst_EngineSettings::transformFillsExactly_data()
@@ -290,7 +208,7 @@ void tst_EngineSettings::speedAndFreeze()
     clip->GetTotalRange(&range);
     QCOMPARE(range.out, 49);
     // Twice as fast is an octave higher.
-    QVERIFY(Strength(Sound(project, 12)[0], 2 * kTone) > 0.45);
+    QVERIFY(Strength(Sound(project, 12, kRate / 5)[0], 2 * kTone) > 0.45);
     bag->SetInt(NLEKey::Speed::kEnabled, 0);
     clip->GetRange(&range);
     QCOMPARE(range.in, 20);
@@ -348,7 +266,7 @@ void tst_EngineSettings::soundLevels()
     QFETCH(double, right);
     const Node clip = Media();
     change(*Facet<INLEAudioStreamProcess>(clip));
-    const Stereo sound = Sound(ProjectWith(clip), 10);
+    const Stereo sound = Sound(ProjectWith(clip), 10, kRate / 5);
     const auto matches = [](double found, double wanted) {
         return wanted < -100 ? found < -100 : std::abs(found - wanted) < 0.5;
     };
@@ -371,7 +289,7 @@ void tst_EngineSettings::fades()
     audio->SetFadeOutEnable(true);
     // A frame at a time; a linear fade has its middle value in the frame's middle.
     const auto gainAt = [&](int frame) {
-        return Loudness(Sound(project, frame, kRate / 25)[0]) / kToneLoudness;
+        return Loudness(Sound(project, frame)[0]) / kToneLoudness;
     };
     for (int frame : {5, 7, 14})
         QVERIFY(std::abs(gainAt(frame) - (frame - 5 + 0.5) / 10) < 0.03);
@@ -393,7 +311,7 @@ void tst_EngineSettings::volumeCurve()
     QCOMPARE(count, 2);
     const Node project = ProjectWith(clip);
     const auto gainAt = [&](int frame) {
-        return Loudness(Sound(project, frame, kRate / 25)[0]) / kToneLoudness;
+        return Loudness(Sound(project, frame)[0]) / kToneLoudness;
     };
     QVERIFY(std::abs(gainAt(10) - 1) < 0.03);
     QVERIFY(std::abs(gainAt(37) - 0.5) < 0.03);
@@ -429,25 +347,25 @@ void tst_EngineSettings::equalizer()
     double gains[10] = {};
     gains[4] = -12; // 500 Hz, nearest to the tone
     QCOMPARE(audio->SetEqualizerParam(gains), S_OK);
-    QVERIFY(std::abs(Decibels(Loudness(Sound(project, 25)[0]), kToneLoudness)) < 0.1);
+    QVERIFY(std::abs(Decibels(Loudness(Sound(project, 25, kRate / 5)[0]), kToneLoudness)) < 0.1);
     audio->SetEqualizerEnable(true);
-    const double lowered = Decibels(Loudness(Sound(project, 25)[0]), kToneLoudness);
+    const double lowered = Decibels(Loudness(Sound(project, 25, kRate / 5)[0]), kToneLoudness);
     QVERIFY2(lowered < -9 && lowered > -12.5, qPrintable(QString::number(lowered)));
     std::fill(std::begin(gains), std::end(gains), 0);
     gains[9] = -20; // 16 kHz: the tone is far away
     audio->SetEqualizerParam(gains);
-    QVERIFY(std::abs(Decibels(Loudness(Sound(project, 25)[0]), kToneLoudness)) < 0.5);
+    QVERIFY(std::abs(Decibels(Loudness(Sound(project, 25, kRate / 5)[0]), kToneLoudness)) < 0.5);
 }
 
 void tst_EngineSettings::denoise()
 {
-    const QString noisy = m_folder.filePath(QStringLiteral("noise.wav"));
+    const QString noisy = Path("noise.wav");
     QCOMPARE(RunFfmpeg({"-f", "lavfi", "-i",
                         "sine=frequency=440:duration=4,volume=4,aformat=channel_layouts=mono[a];"
                         "anoisesrc=amplitude=0.02:duration=4:seed=7[b];[a][b]amix=normalize=0",
                         noisy}),
              QString());
-    const Node clip = m_provider->CreateMediaTimeline(noisy, false);
+    const Node clip = EngineFixture::Media(noisy);
     const Node project = ProjectWith(clip);
     const auto noiseOf = [](const std::vector<double>& sound) {
         const double tone = Strength(sound, kTone) / std::sqrt(2.0);
@@ -552,17 +470,15 @@ void tst_EngineSettings::settingsSurvive()
 
     Node clone;
     QCOMPARE(project->Clone(true, clone.put()), S_OK);
-    for (const Node& copy : {clone, Reopened(project)}) {
+    QVERIFY(Save(project, Path("saved.mlt")));
+    for (const Node& copy : {clone, Load(Path("saved.mlt"))}) {
         QVERIFY(copy);
         QCOMPARE(Frame(copy, 30), Frame(project, 30));
         QCOMPARE(Sound(copy, 10)[0], Sound(project, 10)[0]);
         tagMixerParam found = {};
         Facet<INLEMixerSetting>(copy)->GetParam(2, &found);
         QCOMPARE(found.balance, strip.balance);
-        NLEComPtr<INLETimelineEnumerator> clips;
-        Node other;
-        copy.query<INLETimelineComposite>()->GetEnumerator(1, clips.put());
-        clips->GetCurrent(other.put());
+        const Node other = ClipAt(copy, 0);
         NLEAlphaChannelRecord kept = {};
         Facet<INLEVideoStreamProcess>(other)->GetAlphaChannel(&kept);
         QCOMPARE(std::memcmp(&kept, &record, sizeof(record)), 0);

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "CommonLib/NLEWraper/CVCreateInstance.h"
+#include "CommonLib/NLEWraper/NLEWraper.h"
+#include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "tests/support/TestMedia.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <array>
+#include <cmath>
+#include <vector>
+
+using Node = NLEComPtr<INLETimeline>;
+/// Samples of two channels.
+using Stereo = std::array<std::vector<double>, 2>;
+
+/// The open engine as a test meets it: small pictures, short sounds, documents in a folder that
+/// goes.
+class EngineFixture
+{
+public:
+    static constexpr int kSampleRate = 48000;
+    static constexpr tagNLEProjectProfile kSmall = {{320, 180}, {25000000, 1000000}, 48000, 2, 3};
+
+    EngineFixture() : provider(NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider()) {}
+    ~EngineFixture()
+    {
+        NLEWraper::Release();
+        CVCreateInstance::Instance()->Release();
+    }
+
+    QString Path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
+    Node Project() const { return provider->CreateProjectTimeline(kSmall); }
+    Node Media(const QString& path) const { return provider->CreateMediaTimeline(path, false); }
+    Node Colour(const QColor& color, const QSize& size = QSize(320, 180)) const
+    {
+        return provider->CreateColorTimeline(color, size, 25.0f);
+    }
+
+    static HRESULT Add(const Node& composite, const Node& clip, int position = 0, int level = 0)
+    {
+        clip->SetPosition(position);
+        clip->SetLevel(level);
+        return composite.query<INLETimelineComposite>()->AddClip(clip.get());
+    }
+    static Node ClipAt(const Node& composite, int index)
+    {
+        NLEComPtr<INLETimelineEnumerator> clips;
+        composite.query<INLETimelineComposite>()->GetEnumerator(1, clips.put());
+        for (int i = 0; i < index; ++i)
+            clips->Next();
+        Node clip;
+        clips->GetCurrent(clip.put());
+        return clip;
+    }
+
+    /// Null when the engine renders none.
+    QImage Frame(const Node& node, int frame) const
+    {
+        const auto picture = provider->CreateVideoFrame(320, 180);
+        const auto extractor = provider->CreateFrameExtractor();
+        std::uint8_t* pixels = nullptr;
+        if (picture->Prepare() != S_OK || extractor->Open(node.get(), 1) != S_OK ||
+            extractor->Extract(frame, picture.get()) != S_OK || picture->GetData(&pixels) != S_OK)
+            return {};
+        return QImage(pixels, 320, 180, QImage::Format_ARGB32).copy();
+    }
+    /// What sounds from a frame on; empty when the engine gives nothing.
+    Stereo Sound(const Node& node, int frame, int samples = kSampleRate / 25) const
+    {
+        const auto sound = provider->CreateAudioFrame(samples);
+        const auto extractor = provider->CreateFrameExtractor();
+        float* data = nullptr;
+        Stereo result;
+        if (extractor->Open(node.get(), 1) != S_OK ||
+            extractor->ExtractAudio(frame, sound.get()) != S_OK || sound->GetData(&data) != S_OK)
+            return result;
+        for (int i = 0; i < samples; ++i) {
+            result[0].push_back(data[2 * i]);
+            result[1].push_back(data[2 * i + 1]);
+        }
+        return result;
+    }
+    /// Root mean square.
+    static double Loudness(const std::vector<double>& samples)
+    {
+        double sum = 0;
+        for (const double sample : samples)
+            sum += sample * sample;
+        return samples.empty() ? -1 : std::sqrt(sum / double(samples.size()));
+    }
+
+    bool Save(const Node& node, const QString& path) const
+    {
+        const auto document = provider->CreateDocumentSerialize();
+        return document->Save(node.get(), path.toStdWString().c_str()) == S_OK;
+    }
+    Node Load(const QString& path) const
+    {
+        Node node;
+        provider->CreateDocumentSerialize()->Load(path.toStdWString().c_str(), node.put());
+        return node;
+    }
+
+    QTemporaryDir folder;
+    PlayerMaterProvider* const provider;
+};
