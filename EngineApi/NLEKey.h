@@ -25,6 +25,8 @@ inline constexpr const wchar_t* kEnabled = L"kSpeed_Enabled";
 namespace Freeze {
 /// Integer 1 when the clip holds one frame.
 inline constexpr const wchar_t* kFreeze_Enabled = L"kFreeze_Enabled";
+/// Integer: the frame that a frozen clip shows; its in point when there is none.
+inline constexpr const wchar_t* kFreeze_Frame = L"kFreeze_Frame";
 } // namespace Freeze
 
 } // namespace NLEKey

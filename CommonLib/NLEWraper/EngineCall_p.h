@@ -3,10 +3,14 @@
 
 // Not part of the library's interface.
 
+#include "CommonLib/WideText_p.h"
+#include "EngineApi/INLETimeline.h"
 #include "EngineApi/NLEComPtr.h"
 #include "EngineApi/NLETypes.h"
 
 #include <cmath>
+#include <cstdint>
+#include <limits>
 
 /// Calls an \a operation that delivers a new reference through its last parameter. Null when
 /// \a engine is null and when the operation fails.
@@ -21,11 +25,67 @@ NLEComPtr<Result> EngineObject(Interface* engine, Operation operation,
     return result;
 }
 
-/// Frames a second as the engine carries them: millionths.
+/// A facility of \a node; null when \a node is null and when it lacks the facility.
+template <typename Facility>
+NLEComPtr<Facility> LookUp(INLETimeline* node)
+{
+    NLEComPtr<Facility> result;
+    if (node && FAILED(node->GetInterface(InterfaceId<Facility>(), result.putVoid(), 0, 0)))
+        result.detach();
+    return result;
+}
+
+/// Calls an \a operation that writes a value through its last parameter. \a preset when
+/// \a engine is null and when the operation leaves it untouched, as one that fails does.
+template <typename Value, typename Interface, typename Operation, typename... Arguments>
+Value EngineValue(Value preset, Interface* engine, Operation operation,
+                  const Arguments&... arguments)
+{
+    if (engine)
+        (engine->*operation)(arguments..., &preset);
+    return preset;
+}
+
+/// Calls a setter and ignores its result; does nothing when \a engine is null.
+template <typename Interface, typename Operation, typename... Arguments>
+void EngineSet(Interface* engine, Operation operation, const Arguments&... arguments)
+{
+    if (engine)
+        (engine->*operation)(arguments...);
+}
+
+/// Calls an \a operation that writes text of at most \a Capacity characters into a buffer.
+/// \a preset (a single character, or 0 for none) when \a engine is null and when it writes nothing.
+template <int Capacity, typename Interface, typename Operation, typename... Arguments>
+QString EngineText(wchar_t preset, Interface* engine, Operation operation,
+                   const Arguments&... arguments)
+{
+    wchar_t buffer[Capacity + 1] = {preset}; // one more: ends a text that fills the capacity
+    if (engine)
+        (engine->*operation)(arguments..., buffer, Capacity);
+    return FromWide(buffer);
+}
+
+/// The nearest number of the type \a Integer, towards zero; 0 for what is not finite.
+template <typename Integer>
+Integer ToInteger(double value)
+{
+    using Limits = std::numeric_limits<Integer>;
+    if (!std::isfinite(value))
+        return 0;
+    // A 64-bit limit rounds up to a double that lies outside, hence the equality.
+    if (value <= static_cast<double>(Limits::min()))
+        return Limits::min();
+    if (value >= static_cast<double>(Limits::max()))
+        return Limits::max();
+    return static_cast<Integer>(value);
+}
+
+/// Frames a second as the engine carries them: millionths. 0 for a rate that is not finite.
 inline NLERational RateToRational(double rate)
 {
     constexpr std::int64_t Millionths = 1000000;
-    return {static_cast<std::int64_t>(std::trunc(rate * Millionths + 0.5)), Millionths};
+    return {ToInteger<std::int64_t>(rate * Millionths + 0.5), Millionths};
 }
 
 /// The fraction's value; 0 when the denominator is 0.

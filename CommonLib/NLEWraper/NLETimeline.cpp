@@ -1,132 +1,71 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/NLEWraper/NLETimeline.h"
 
-#include "CommonLib/BaseLog.h"
 #include "CommonLib/NLEWraper/EngineCall_p.h"
-#include "CommonLib/NLEWraper/NLEWraper.h"
-#include "CommonLib/NLEWraper/PlayerMaterProvider.h"
-#include "CommonLib/WideText_p.h"
+#include "CommonLib/NLEWraper/FAudioStreamProcessHelper.h"
+#include "CommonLib/NLEWraper/FTimelineBlendingHelper.h"
+#include "CommonLib/NLEWraper/FTimelineTransformHelper.h"
+#include "CommonLib/NLEWraper/FVideoStreamProcessHelper.h"
+#include "EngineApi/NLEKey.h"
+
+#include <algorithm>
+#include <limits>
 
 namespace {
 
-PlayerMaterProvider* Provider()
+/// \a frames cut at the greatest int.
+int ToFrames(std::int64_t frames)
 {
-    return NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
+    return static_cast<int>(std::min<std::int64_t>(frames, std::numeric_limits<int>::max()));
 }
 
-NLEComPtr<INLEMediaInfo> MediaInfo(const NLEComPtr<INLETimelineSource>& source)
+/// Length of \a node's range; an unknown range is empty.
+std::int64_t PlayLength(INLETimeline* node)
 {
-    return EngineObject<INLEMediaInfo>(source.get(), &INLETimelineSource::GetMediaInfo);
+    return NLERangeLength(EngineValue(NLERange{0, -1}, node, &INLETimeline::GetRange));
 }
 
-/// Index of the first stream of a \a type; NLENoStream when there is none.
-std::uint32_t FindStream(const NLEComPtr<INLEMediaInfo>& info, NLEStreamType type)
+bool IsCurrent(const NLEComPtr<INLETimeline>& node)
 {
-    std::uint32_t count = 0;
-    if (info)
-        info->GetStreamCount(&count);
-    for (std::uint32_t index = 0; index < count; ++index) {
-        NLEStreamInfo stream{};
-        if (SUCCEEDED(info->GetStream(index, &stream)) && stream.type == type)
-            return index;
-    }
-    return NLENoStream;
+    return EngineValue(false, node.query<INLERenderRegion>().get(), &INLERenderRegion::GetCurrent);
 }
 
-struct FrameCount
+/// Hands the clips to \a visit one after the other until it returns true.
+template <typename Visit>
+void VisitClips(const NLEComPtr<INLETimelineEnumerator>& clips, Visit visit)
 {
-    std::uint32_t count = 0;
-    NLERational rate = {25, 1};
-};
-
-FrameCount ReadFrameCount(INLEMediaInfo* info)
-{
-    FrameCount result;
-    if (info)
-        info->GetFrameCountAndRate(&result.count, &result.rate);
-    return result;
+    if (EngineValue(true, clips.get(), &INLETimelineEnumerator::IsEmpty))
+        return;
+    do {
+        auto clip = EngineObject<INLETimeline>(clips.get(), &INLETimelineEnumerator::GetCurrent);
+        if (clip && visit(std::move(clip)))
+            return;
+    } while (clips->Next() == S_OK);
 }
 
-/// The picture scaled to \a size; the image owns its pixels.
-QImage ScaledCopy(INLEPicture* picture, const QSize& size)
+NLEComPtr<INLETimelineEnumerator> Clips(const NLEComPtr<INLETimelineComposite>& composite)
 {
-    int width = 0;
-    int height = 0;
-    const std::uint8_t* pixels = nullptr;
-    if (!picture || FAILED(picture->GetWidth(&width)) || FAILED(picture->GetHeight(&height)) ||
-        FAILED(picture->GetData(&pixels)) || !pixels)
-        return QImage();
-    const QImage wrapped(pixels, width, height, QImage::Format_ARGB32);
-    if (wrapped.isNull())
-        return QImage();
-    // QImage::scaled gives an image of the same size back as it is, with the engine's pixels.
-    if (wrapped.size() == size)
-        return wrapped.copy();
-    // Smooth scaling may leave premultiplied pixels.
-    return wrapped.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-        .convertToFormat(QImage::Format_ARGB32);
+    constexpr int Flags = 1;
+    return EngineObject<INLETimelineEnumerator>(composite.get(),
+                                                &INLETimelineComposite::GetEnumerator, Flags);
 }
 
-/// The valid part of a rendered \a frame of \a size; the image owns its pixels. Null on failure.
-QImage ValidCopy(INLEVideoFrame* frame, const QSize& size)
+NLEComPtr<INLETimeline> FindCurrent(const NLEComPtr<INLETimelineEnumerator>& clips)
 {
-    NLERect rect{};
-    std::uint8_t* pixels = nullptr;
-    if (FAILED(frame->GetValidRect(&rect)) || FAILED(frame->GetData(&pixels)) || !pixels)
-        return QImage();
-    const QImage wrapped(static_cast<const uchar*>(pixels), size.width(), size.height(),
-                         QImage::Format_ARGB32);
-    const QRect valid = QRect(rect.x, rect.y, rect.width, rect.height) & wrapped.rect();
-    // QImage::copy takes an empty rectangle for the whole image.
-    return valid.isEmpty() ? QImage() : wrapped.copy(valid);
+    NLEComPtr<INLETimeline> current;
+    VisitClips(clips, [&](NLEComPtr<INLETimeline> clip) {
+        if (IsCurrent(clip))
+            current.swap(clip);
+        return bool(current);
+    });
+    return current;
 }
 
-/// Renders frame \a frame of \a node. Null on failure.
-QImage RenderFrame(INLETimeline* node, int frame, const QSize& size, bool finish)
+template <typename Helper>
+void Drop(Helper*& helper)
 {
-    constexpr int OpenFlags = 1;
-    const auto picture = Provider()->CreateVideoFrame(size.width(), size.height());
-    if (!picture || FAILED(picture->Prepare()))
-        return QImage();
-    const auto extractor = Provider()->CreateFrameExtractor();
-    if (!extractor)
-        return QImage();
-    QImage image;
-    if (SUCCEEDED(extractor->Open(node, OpenFlags)) &&
-        SUCCEEDED(extractor->Extract(frame, picture.get())))
-        image = ValidCopy(picture.get(), size);
-    if (finish)
-        extractor->Finish();
-    return image;
-}
-
-/// Reads the picture of frame \a frame of \a node's media. Null on failure.
-QImage ExtractPicture(const NLEComPtr<INLETimeline>& node, int frame, const QSize& size,
-                      bool finish)
-{
-    // The reverse of this order is the order of release.
-    const auto extractor = Provider()->CreateThumbnailExtractor();
-    if (!extractor)
-        return QImage();
-    const auto source = node.query<INLETimelineSource>();
-    const auto info = MediaInfo(source);
-    const std::uint32_t stream = FindStream(info, NLEStream_Video);
-    if (stream != NLENoStream)
-        extractor->SetSource(info.get(), stream);
-    const auto picture =
-        EngineObject<INLEPicture>(extractor.get(), &INLEThumbnailExtractor::Extract, frame,
-                                  NLESize{size.width(), size.height()});
-    QImage image = ScaledCopy(picture.get(), size);
-    if (finish)
-        extractor->Finish();
-    return image;
-}
-
-void LogFailInfo(const QString& filePath)
-{
-    constexpr int Line = 512; // fixed in the log
-    GetGlobalLogInstance()->LogWarn("CommonLib/NLEWraper/NLETimeline", "LogFailInfo", Line,
-                                    "Extract Thumbnail failed: %s", filePath.toUtf8().constData());
+    delete helper;
+    helper = nullptr;
 }
 
 } // namespace
@@ -154,6 +93,12 @@ void NLETimeline::SetTimelineBase(NLEComPtr<INLETimeline> timeline)
     if (timeline != m_timeline)
         m_timeline = std::move(timeline);
     m_properties.reset();
+    // No helper outlives the node it is bound to. Transform before blending, against the order of
+    // the fields, is intended.
+    Drop(m_transformHelper);
+    Drop(m_blendingHelper);
+    Drop(m_audioStreamHelper);
+    Drop(m_videoStreamHelper);
     m_properties = EngineObject<INLEProperties>(m_timeline.get(), &INLETimeline::GetProperties);
 }
 
@@ -178,106 +123,306 @@ ExactType NLETimeline::GetExactType() const
     return m_exactType;
 }
 
+NLEComPtr<INLETimelineComposite> NLETimeline::GetTimelineComposite() const
+{
+    return m_timeline.query<INLETimelineComposite>();
+}
+
+NLEComPtr<INLETimelineCompositeEx> NLETimeline::GetTimelineCompositeEx() const
+{
+    return m_timeline.query<INLETimelineCompositeEx>();
+}
+
 NLEComPtr<INLETimelineSource> NLETimeline::GetTimelineSource() const
 {
     return m_timeline.query<INLETimelineSource>();
 }
 
-bool NLETimeline::HaveStream(NLEStreamType type) const
+NLEComPtr<INLETimelineEffect> NLETimeline::GetTimelineEffectIF() const
 {
-    return FindStream(GetTimelineMediaInfo(), type) != NLENoStream;
+    return m_timeline.query<INLETimelineEffect>();
 }
 
-bool NLETimeline::HaveVideo() const
+NLEComPtr<INLETimelineTransition> NLETimeline::GetTimelineTransitionIF() const
 {
-    return HaveStream(NLEStream_Video);
+    return m_timeline.query<INLETimelineTransition>();
 }
 
-bool NLETimeline::HaveAudio() const
+NLEComPtr<INLEAnimation> NLETimeline::GetTimelineAnimation() const
 {
-    return HaveStream(NLEStream_Audio);
+    return m_timeline.query<INLEAnimation>();
 }
 
-bool NLETimeline::IsImage() const
+NLEComPtr<INLETimelineSourceDecoder> NLETimeline::GetSourceDecoder() const
 {
-    int kind = NLEMedia_Offline;
-    if (const auto info = GetTimelineMediaInfo())
-        info->GetKind(&kind);
-    return kind == NLEMedia_Image;
+    return m_timeline.query<INLETimelineSourceDecoder>();
 }
 
-QString NLETimeline::GetFilePath() const
+NLEComPtr<INLEProjectSetting> NLETimeline::GetProjectSetting() const
 {
-    constexpr int Capacity = 512;
-    wchar_t path[Capacity] = {};
-    if (const auto source = GetTimelineSource())
-        source->GetFilePath(path, Capacity);
-    path[Capacity - 1] = L'\0';
-    return FromWide(path);
+    return m_timeline.query<INLEProjectSetting>();
 }
 
-QSizeF NLETimeline::GetSourceSize() const
+bool NLETimeline::IsSource() const
 {
-    const auto source = GetTimelineSource();
-    const auto info = MediaInfo(source);
-    std::uint32_t index = NLENoStream;
-    if (source)
-        source->GetVideoStreamIndex(&index);
-    NLEStreamInfo stream{};
-    if (info && index != NLENoStream)
-        info->GetStream(index, &stream);
-    return QSizeF(stream.width, stream.height);
+    return bool(GetTimelineSource());
 }
 
-float NLETimeline::GetSourceFramerate() const
+bool NLETimeline::IsEffect() const
 {
-    return RationalToFloat(ReadFrameCount(GetTimelineMediaInfo().get()).rate);
+    return bool(GetTimelineEffectIF());
 }
 
-void NLETimeline::GetMediaFrameCount(unsigned int& count, float& rate) const
+bool NLETimeline::IsTransition() const
 {
-    const auto info = GetTimelineMediaInfo();
-    if (!info)
+    return bool(GetTimelineTransitionIF());
+}
+
+void NLETimeline::PositionChanged() {}
+
+void NLETimeline::TrimRangeChanged() {}
+
+QList<NLEComPtr<INLETimeline>> NLETimeline::GetChilds() const
+{
+    QList<NLEComPtr<INLETimeline>> childs;
+    VisitClips(Clips(GetTimelineComposite()), [&](NLEComPtr<INLETimeline> clip) {
+        childs.append(clip);
+        return false;
+    });
+    return childs;
+}
+
+int NLETimeline::GetClipCount() const
+{
+    return EngineValue(0, GetTimelineComposite().get(), &INLETimelineComposite::GetClipCount);
+}
+
+NLEComPtr<INLETimeline> NLETimeline::GetParentTimeline() const
+{
+    return EngineObject<INLETimeline>(m_timeline.get(), &INLETimeline::GetParent);
+}
+
+NLEComPtr<INLETimeline> NLETimeline::GetCurrentTimeline() const
+{
+    if (GetClipCount() == 0)
+        return IsCurrent(m_timeline) ? m_timeline : nullptr;
+    return FindCurrent(Clips(GetTimelineComposite()));
+}
+
+NLEComPtr<INLETimeline> NLETimeline::GetCurrentTimelineEx() const
+{
+    // The node itself is no answer here, as intended.
+    constexpr int Flag = 1;
+    return FindCurrent(EngineObject<INLETimelineEnumerator>(
+        GetTimelineCompositeEx().get(), &INLETimelineCompositeEx::GetEnumerator, Flag, Flag));
+}
+
+bool NLETimeline::IsClipExist(NLETimeline* clip) const
+{
+    return clip != nullptr;
+}
+
+void NLETimeline::AddClipSuper(NLETimeline* clip, int position, int level)
+{
+    if (!IsClipExist(clip))
         return;
-    const FrameCount frames = ReadFrameCount(info.get());
-    count = frames.count;
-    rate = RationalToFloat(frames.rate);
+    clip->SetLevel(level);
+    clip->SetPosition(position);
+    AddClipSuper(clip->m_timeline);
 }
 
-NLEComPtr<INLEMediaInfo> NLETimeline::GetTimelineMediaInfo() const
+void NLETimeline::AddClipSuper(NLEComPtr<INLETimeline> clip)
 {
-    return MediaInfo(GetTimelineSource());
+    if (clip)
+        EngineSet(GetTimelineComposite().get(), &INLETimelineComposite::AddClip, clip.get());
 }
 
-NLEComPtr<INLETimeline> NLETimeline::NodeToRead(bool cloneFirst) const
+void NLETimeline::RemoveClip(NLETimeline* clip)
 {
-    if (!cloneFirst)
-        return m_timeline;
-    constexpr bool Deep = true;
-    return EngineObject<INLETimeline>(m_timeline.get(), &INLETimeline::Clone, Deep);
+    if (IsClipExist(clip))
+        RemoveClip(clip->m_timeline);
 }
 
-QImage NLETimeline::GetThumbnailFromMediaInfo(int frame, int width, int height, bool cloneFirst,
-                                              bool finish) const
+void NLETimeline::RemoveClip(NLEComPtr<INLETimeline> clip)
 {
-    const auto node = NodeToRead(cloneFirst);
-    QImage image = node ? ExtractPicture(node, frame, QSize(width, height), finish) : QImage();
-    if (image.isNull())
-        LogFailInfo(GetFilePath());
-    return image;
+    if (clip)
+        EngineSet(GetTimelineComposite().get(), &INLETimelineComposite::RemoveClip, clip.get());
 }
 
-QImage NLETimeline::GetThumbnailFromStream(int frame, int width, int height, bool cloneFirst,
-                                           bool finish) const
+void NLETimeline::SetClipPos(NLETimeline* clip, int position)
 {
-    const auto node = NodeToRead(cloneFirst);
-    if (!node)
-        return QImage();
-    const QSize size(width, height);
-    QImage image = RenderFrame(node.get(), frame, size, finish);
-    if (image.isNull()) {
-        image = QImage(size, QImage::Format_ARGB32);
-        image.fill(Qt::transparent);
-    }
-    return image;
+    if (IsClipExist(clip))
+        clip->SetPosition(position);
+}
+
+void NLETimeline::SetClipRange(NLETimeline* clip, int in, int out)
+{
+    if (IsClipExist(clip))
+        clip->SetRange(in, out);
+}
+
+void NLETimeline::SetClipLevel(NLETimeline* clip, int level)
+{
+    if (IsClipExist(clip))
+        clip->SetLevel(level);
+}
+
+void NLETimeline::SetPosition(int position)
+{
+    if (!m_timeline || GetPosition() == position)
+        return;
+    m_timeline->SetPosition(position);
+    PositionChanged();
+}
+
+int NLETimeline::GetPosition() const
+{
+    return EngineValue(0, m_timeline.get(), &INLETimeline::GetPosition);
+}
+
+void NLETimeline::SetLevel(int level)
+{
+    EngineSet(m_timeline.get(), &INLETimeline::SetLevel, level);
+}
+
+int NLETimeline::GetLevel() const
+{
+    return EngineValue(0, m_timeline.get(), &INLETimeline::GetLevel);
+}
+
+void NLETimeline::SetMarginMode(tagNLEMarginMode mode)
+{
+    EngineSet(m_timeline.get(), &INLETimeline::SetMarginMode, mode);
+}
+
+tagNLEMarginMode NLETimeline::GetMarginMode() const
+{
+    return EngineValue(NLEMargin_Fit, m_timeline.get(), &INLETimeline::GetMarginMode);
+}
+
+NLERange NLETimeline::Range() const
+{
+    return EngineValue(NLERange{0, 0}, m_timeline.get(), &INLETimeline::GetRange);
+}
+
+void NLETimeline::InnerSetRange(const NLERange& range)
+{
+    const NLERange old = Range();
+    if (!m_timeline || (old.in == range.in && old.out == range.out))
+        return;
+    m_timeline->SetRange(&range);
+    TrimRangeChanged();
+}
+
+void NLETimeline::SetRange(int in, int out)
+{
+    InnerSetRange({in, out});
+}
+
+void NLETimeline::SetRange(const QPair<int, int>& range)
+{
+    InnerSetRange({range.first, range.second});
+}
+
+QPair<int, int> NLETimeline::GetRange() const
+{
+    const NLERange range = Range();
+    return {range.in, range.out};
+}
+
+void NLETimeline::SetTrimin(int in)
+{
+    InnerSetRange({in, Range().out});
+}
+
+void NLETimeline::SetTrimout(int out)
+{
+    InnerSetRange({Range().in, out});
+}
+
+int NLETimeline::GetTrimin() const
+{
+    return Range().in;
+}
+
+int NLETimeline::GetTrimout() const
+{
+    return Range().out;
+}
+
+int NLETimeline::GetPlayLen() const
+{
+    return ToFrames(PlayLength(m_timeline.get()));
+}
+
+int NLETimeline::GetTotalLength() const
+{
+    return ToFrames(NLERangeLength(
+        EngineValue(NLERange{0, -1}, m_timeline.get(), &INLETimeline::GetTotalRange)));
+}
+
+int NLETimeline::GetDuration() const
+{
+    const float rate = GetRenderFrameRate();
+    return rate == 0 ? 0 : ToInteger<int>(static_cast<float>(GetPlayLen()) / rate);
+}
+
+bool NLETimeline::IsFrameIn(int frame) const
+{
+    int position = 0;
+    if (!m_timeline || FAILED(m_timeline->GetPosition(&position)))
+        return false;
+    return position <= frame && frame < position + PlayLength(m_timeline.get());
+}
+
+void NLETimeline::SetFreezeFrame(int frame, int count)
+{
+    if (count < 1)
+        return;
+    EngineSet(m_properties.get(), &INLEProperties::SetInt, NLEKey::Freeze::kFreeze_Frame, frame);
+    SetFreezeEnable(true);
+    InnerSetRange({frame, ToFrames(std::int64_t(frame) + count - 1)});
+}
+
+void NLETimeline::SetClipEnable(bool enable)
+{
+    EngineSet(m_timeline.get(), &INLETimeline::SetEnabled, enable);
+}
+
+bool NLETimeline::GetClipEnable() const
+{
+    return EngineValue(false, m_timeline.get(), &INLETimeline::GetEnabled);
+}
+
+void NLETimeline::SetHiden(bool hidden)
+{
+    SetClipEnable(!hidden);
+}
+
+template <typename Helper>
+Helper* NLETimeline::MakeOnce(Helper*& helper)
+{
+    if (!helper)
+        helper = new Helper(m_timeline, this);
+    return helper;
+}
+
+FTimelineBlendingHelper* NLETimeline::GetBlendingHelper()
+{
+    return MakeOnce(m_blendingHelper);
+}
+
+FTimelineTransformHelper* NLETimeline::GetTransformHelper()
+{
+    return MakeOnce(m_transformHelper);
+}
+
+FAudioStreamProcessHelper* NLETimeline::GetAudioStreamProcessHelper()
+{
+    return MakeOnce(m_audioStreamHelper);
+}
+
+FVideoStreamProcessHelper* NLETimeline::GetVideoStreamProcessHelper()
+{
+    return MakeOnce(m_videoStreamHelper);
 }
