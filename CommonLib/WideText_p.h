@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <cstdint>
+#include <cwchar>
 #include <string>
 
 /// The only conversions between QString and wide text in the system's own width (UTF-16 on Windows,
@@ -16,5 +18,19 @@ inline std::wstring ToWide(const QString& text)
 /// \a text ends in a zero; null gives an empty text.
 inline QString FromWide(const wchar_t* text)
 {
-    return text ? QString::fromWCharArray(text) : QString();
+    if (!text)
+        return QString();
+    // Qt takes a text codec for UTF-32, which costs several times the copy that nearly all text
+    // needs.
+    constexpr std::uint32_t FirstSurrogate = 0xD800;
+    const int length = static_cast<int>(std::wcslen(text));
+    QString result(length, Qt::Uninitialized);
+    QChar* const out = result.data();
+    for (int i = 0; i < length; ++i) {
+        const auto code = static_cast<std::uint32_t>(text[i]);
+        if (code >= FirstSurrogate)
+            return QString::fromWCharArray(text, length);
+        out[i] = QChar(static_cast<ushort>(code));
+    }
+    return result;
 }

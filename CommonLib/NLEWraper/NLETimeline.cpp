@@ -364,7 +364,7 @@ int NLETimeline::GetTotalLength() const
 int NLETimeline::GetDuration() const
 {
     const float rate = GetRenderFrameRate();
-    return rate == 0 ? 0 : ToInteger<int>(static_cast<float>(GetPlayLen()) / rate);
+    return rate == 0 ? 0 : ToInteger<int>(static_cast<float>(PlayLength(m_timeline.get())) / rate);
 }
 
 bool NLETimeline::IsFrameIn(int frame) const
