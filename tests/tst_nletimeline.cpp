@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/NLEWraper/NLETimeline.h"
 #include "tests/support/LogCapture.h"
+#include "tests/support/ScriptedComposite.h"
 #include "tests/support/ScriptedMedia.h"
-#include "tests/support/ScriptedNodes.h"
 #include "tests/support/ScriptedSession.h"
 
 #include <QtTest>
@@ -34,6 +34,9 @@ private Q_SLOTS:
     void cloneKeepsTheType();
     void nothingWrapped();
     void sourceFacts();
+    void profile_data();
+    void profile();
+    void relink();
     void sourceFactsThatFail_data();
     void sourceFactsThatFail();
     void thumbnail_data();
@@ -56,6 +59,9 @@ void tst_NLETimeline::init()
 {
     NLEStreamInfo sound{};
     sound.type = NLEStream_Audio;
+    sound.sampleRate = 48000;
+    sound.channels = 2;
+    sound.sampleFormat = 8;
     NLEStreamInfo video{};
     video.type = NLEStream_Video;
     video.width = 64;
@@ -67,6 +73,7 @@ void tst_NLETimeline::init()
     source = MakeCom<Source>("source");
     source->filePath = "/ü.mov";
     source->videoStream = 1;
+    source->audioStream = 0;
     node = MakeCom<Node>("node");
     node->Offer<INLETimelineSource>(source);
     picture = MakeCom<Picture>("picture");
@@ -86,7 +93,8 @@ void tst_NLETimeline::init()
 
 void tst_NLETimeline::cleanup()
 {
-    QCOMPARE(EndSession(), QStringList({"frame", "info", "node", "picture", "source"}));
+    EndSession();
+    QCOMPARE(References(node.get()), 1u);
     node.reset();
     source.reset();
     info.reset();
@@ -145,17 +153,14 @@ void tst_NLETimeline::nothingWrapped()
 {
     LogCapture log;
     NLETimeline timeline(nullptr, ExactType_Unknown, nullptr);
-    QVERIFY(!timeline.GetSrc() && !timeline.GetPropW() && !timeline.GetTimelineMediaInfo());
+    QVERIFY(!timeline.GetSrc() && !timeline.GetPropW() && !timeline.Clone());
     QVERIFY(!timeline.HaveVideo() && !timeline.HaveAudio() && !timeline.IsImage());
-    QVERIFY(!timeline.Clone());
-    QCOMPARE(timeline.GetFilePath(), QString());
+    QVERIFY(!timeline.Relink("/"));
     QCOMPARE(timeline.GetSourceSize(), QSizeF(0, 0));
-    QCOMPARE(timeline.GetSourceFramerate(), 25.f);
     unsigned int count = 7;
     float rate = 8;
     timeline.GetMediaFrameCount(count, rate);
-    QCOMPARE(count, 7u);
-    QCOMPARE(rate, 8.f);
+    QVERIFY(count == 7 && rate == 8);
     for (bool clone : {false, true}) {
         QVERIFY(timeline.GetThumbnailFromStream(0, 8, 6, clone, true).isNull());
         QVERIFY(timeline.GetThumbnailFromMediaInfo(0, 8, 6, clone, true).isNull());
@@ -182,6 +187,50 @@ void tst_NLETimeline::sourceFacts()
     QVERIFY(timeline.HaveVideo() && !timeline.HaveAudio() && timeline.IsImage());
     source->filePath = QString(600, 'x');
     QCOMPARE(timeline.GetFilePath(), QString(511, 'x'));
+}
+
+void tst_NLETimeline::profile_data()
+{
+    QTest::addColumn<QString>("failing");
+    QTest::addColumn<QString>("profile");
+    QTest::newRow("all") << ""
+                         << "64x48 30/1 48000 2 8";
+    QTest::newRow("no media") << "source.GetMediaInfo"
+                              << "1x2 3/4 5 6 7";
+    QTest::newRow("no picture") << "source.GetVideoStreamIndex"
+                                << "1x2 30/1 48000 2 8";
+    QTest::newRow("no sound") << "source.GetAudioStreamIndex"
+                              << "64x48 30/1 5 6 7";
+    QTest::newRow("no rate") << "info.GetFrameCountAndRate"
+                             << "64x48 0/1 48000 2 8";
+}
+
+void tst_NLETimeline::profile()
+{
+    QFETCH(QString, failing);
+    script.SetStatus(failing, E_FAIL);
+    tagNLEProjectProfile p{{1, 2}, {3, 4}, 5, 6, 7};
+    NLETimeline timeline(node, ExactType_Video, nullptr);
+    timeline.GetSourceAVProfile(&p);
+    timeline.GetSourceAVProfile(nullptr);
+    QTEST(QString("%1 %2 %3 %4 %5")
+              .arg(Text(p.frameSize), Text(p.frameRate))
+              .arg(p.sampleRate)
+              .arg(p.channels)
+              .arg(p.sampleFormat),
+          "profile");
+}
+
+void tst_NLETimeline::relink()
+{
+    node->Offer<INLEMediaRelink>(MakeCom<MediaRelink>("media"));
+    NLETimeline timeline(node, ExactType_Video, nullptr);
+    script.SetStatus("media.Relink", S_FALSE); // a success
+    QVERIFY(timeline.Relink("/ü"));
+    script.SetStatus("media.Relink", E_FAIL);
+    QVERIFY(!timeline.Relink("/"));
+    QCOMPARE(script.TakeCalls().filter("media."),
+             QStringList({"media.Relink(/ü, 0)", "media.Reload()", "media.Relink(/, 0)"}));
 }
 
 void tst_NLETimeline::sourceFactsThatFail_data()

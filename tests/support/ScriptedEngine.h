@@ -78,8 +78,10 @@ QString Text(const T& value)
     } else if constexpr (std::is_pointer_v<T>) {
         const auto* named = dynamic_cast<const Named*>(value);
         return named ? named->name() : QStringLiteral("null");
-    } else {
+    } else if constexpr (std::is_constructible_v<QVariant, T>) {
         return QVariant(value).toString();
+    } else {
+        return QString();
     }
 }
 /// The first group of an identifier.
@@ -99,6 +101,30 @@ inline QString Text(const NLERange& range)
 {
     return QStringLiteral("%1..%2").arg(range.in).arg(range.out);
 }
+
+/// Declares a \a field of a scripted object with its setter and getter.
+#define SCRIPTED_SETTING(Type, field, Name)                                                        \
+    Type field = {};                                                                               \
+    HRESULT Set##Name(Type value) override                                                         \
+    {                                                                                              \
+        return Set("Set" #Name, field, value);                                                     \
+    }                                                                                              \
+    HRESULT Get##Name(Type* out) override                                                          \
+    {                                                                                              \
+        return Value("Get" #Name, field, out);                                                     \
+    }
+
+/// As SCRIPTED_SETTING, for a record that is set through a pointer.
+#define SCRIPTED_RECORD(Type, field, Name)                                                         \
+    Type field = {};                                                                               \
+    HRESULT Set##Name(const Type* value) override                                                  \
+    {                                                                                              \
+        return Set("Set" #Name, field, *value);                                                    \
+    }                                                                                              \
+    HRESULT Get##Name(Type* out) override                                                          \
+    {                                                                                              \
+        return Value("Get" #Name, field, out);                                                     \
+    }
 
 /// A scripted object that implements \a Interfaces.
 template <typename... Interfaces>
@@ -122,6 +148,15 @@ protected:
         const HRESULT status = Call(operation, arguments...);
         if (SUCCEEDED(status))
             *out = value;
+        return status;
+    }
+    /// As Call(); on success sets \a field.
+    template <typename T>
+    HRESULT Set(const char* operation, T& field, const T& value)
+    {
+        const HRESULT status = Call(operation, value);
+        if (SUCCEEDED(status))
+            field = value;
         return status;
     }
     /// As Call(); on success delivers the script's object.

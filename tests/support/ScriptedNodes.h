@@ -90,13 +90,7 @@ public:
     using Object::Object;
 
     std::uint32_t id = 1;
-    NLERange range = {0, 0};
     NLERange totalRange = {0, 0};
-    NLERational rate = {25000000, 1000000};
-    int level = 0;
-    int position = 0;
-    tagNLEMarginMode marginMode = NLEMargin_Fit;
-    bool enabled = true;
 
     /// Answers a query for \a Interface with \a facet, an object of its own.
     template <typename Interface>
@@ -122,34 +116,16 @@ public:
     HRESULT GetId(std::uint32_t* out) override { return Value("GetId", id, out); }
     HRESULT GetParent(INLETimeline** out) override { return Give("GetParent", out); }
     HRESULT GetProperties(INLEProperties** out) override { return Give("GetProperties", out); }
-    HRESULT SetRange(const NLERange* value) override { return Set("SetRange", range, *value); }
-    HRESULT GetRange(NLERange* out) override { return Value("GetRange", range, out); }
+    SCRIPTED_RECORD(NLERange, range, Range)
     HRESULT GetTotalRange(NLERange* out) override
     {
         return Value("GetTotalRange", totalRange, out);
     }
-    HRESULT SetRenderFrameRate(NLERational value) override
-    {
-        return Set("SetRenderFrameRate", rate, value);
-    }
-    HRESULT GetRenderFrameRate(NLERational* out) override
-    {
-        return Value("GetRenderFrameRate", rate, out);
-    }
-    HRESULT SetLevel(int value) override { return Set("SetLevel", level, value); }
-    HRESULT GetLevel(int* out) override { return Value("GetLevel", level, out); }
-    HRESULT SetPosition(int value) override { return Set("SetPosition", position, value); }
-    HRESULT GetPosition(int* out) override { return Value("GetPosition", position, out); }
-    HRESULT SetMarginMode(tagNLEMarginMode value) override
-    {
-        return Set("SetMarginMode", marginMode, value);
-    }
-    HRESULT GetMarginMode(tagNLEMarginMode* out) override
-    {
-        return Value("GetMarginMode", marginMode, out);
-    }
-    HRESULT SetEnabled(bool value) override { return Set("SetEnabled", enabled, value); }
-    HRESULT GetEnabled(bool* out) override { return Value("GetEnabled", enabled, out); }
+    SCRIPTED_SETTING(NLERational, rate, RenderFrameRate)
+    SCRIPTED_SETTING(int, level, Level)
+    SCRIPTED_SETTING(int, position, Position)
+    SCRIPTED_SETTING(tagNLEMarginMode, marginMode, MarginMode)
+    SCRIPTED_SETTING(bool, enabled, Enabled)
     HRESULT Clone(bool deep, INLETimeline** out) override { return Give("Clone", out, deep); }
 
 private:
@@ -158,15 +134,6 @@ private:
         IID iid;
         NLEComPtr<IUnknown> object;
     };
-
-    template <typename T>
-    HRESULT Set(const char* operation, T& field, const T& value)
-    {
-        const HRESULT status = Call(operation, value);
-        if (SUCCEEDED(status))
-            field = value;
-        return status;
-    }
 
     QVector<Facet> m_facets;
 };

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "EngineApi/INLEMixerSetting.h"
+#include "EngineApi/INLEStreamProcess.h"
+#include "EngineApi/INLETransform.h"
+#include "tests/support/ScriptedEngine.h"
+
+/// Sound, picture, blend, transform and mixer settings.
+namespace Scripted {
+
+class AudioStreamProcess : public Object<INLEAudioStreamProcess>
+{
+public:
+    using Object::Object;
+
+    SCRIPTED_SETTING(int, pitch, Pitch)
+    SCRIPTED_SETTING(int, denoiseLevel, DenoiseLevel)
+    SCRIPTED_SETTING(bool, denoiseEnable, DenoiseEnable)
+    SCRIPTED_SETTING(bool, mono, MixToMonoEnable)
+    SCRIPTED_SETTING(bool, volumeEnable, VolumeEnable)
+    SCRIPTED_SETTING(bool, mute, Mute)
+    SCRIPTED_SETTING(double, volume, Volume)
+    SCRIPTED_SETTING(double, balance, Balance)
+    SCRIPTED_SETTING(bool, fadeInEnable, FadeInEnable)
+    SCRIPTED_SETTING(int, fadeInRange, FadeInRange)
+    SCRIPTED_SETTING(bool, fadeOutEnable, FadeOutEnable)
+    SCRIPTED_SETTING(int, fadeOutRange, FadeOutRange)
+    SCRIPTED_SETTING(bool, equalizerEnable, EqualizerEnable)
+    QString equalizerName;
+    double band = 0; ///< the only one
+
+    HRESULT GetVolumeKeyFrameParam(INLEKeyFrameParam** out) override
+    {
+        *out = nullptr;
+        return Call("GetVolumeKeyFrameParam");
+    }
+    HRESULT SetEqualizerName(const wchar_t* name) override
+    {
+        return Set("SetEqualizerName", equalizerName, Text(name));
+    }
+    HRESULT GetEqualizerName(wchar_t* buffer, int capacity) override
+    {
+        return Write("GetEqualizerName", equalizerName, buffer, capacity);
+    }
+    HRESULT SetEqualizerParam(const double* params) override
+    {
+        return Value("SetEqualizerParam", *params, &band);
+    }
+    HRESULT GetEqualizerParam(double* params) override
+    {
+        return Value("GetEqualizerParam", band, params);
+    }
+};
+
+class VideoStreamProcess : public Object<INLEVideoStreamProcess>
+{
+public:
+    using Object::Object;
+
+    QString proxyPath;
+
+    SCRIPTED_RECORD(NLEAlphaChannelRecord, record, AlphaChannel)
+    HRESULT Reserved1() override { return E_NOTIMPL; }
+    HRESULT Reserved2() override { return E_NOTIMPL; }
+    HRESULT Reserved3() override { return E_NOTIMPL; }
+    HRESULT Reserved4() override { return E_NOTIMPL; }
+    HRESULT Reserved5() override { return E_NOTIMPL; }
+    HRESULT Reserved6() override { return E_NOTIMPL; }
+    HRESULT Reserved7() override { return E_NOTIMPL; }
+    HRESULT Reserved8() override { return E_NOTIMPL; }
+    HRESULT Reserved9() override { return E_NOTIMPL; }
+    HRESULT Reserved10() override { return E_NOTIMPL; }
+    HRESULT SetProxyFile(const wchar_t* path) override { return Call("SetProxyFile", path); }
+    HRESULT GetProxyPath(wchar_t* buffer, int capacity) override
+    {
+        return Write("GetProxyPath", proxyPath, buffer, capacity);
+    }
+    SCRIPTED_SETTING(bool, proxyEnabled, ProxyEnabled)
+    SCRIPTED_SETTING(int, alphaType, PremultipliedAlphaType)
+};
+
+class BlendSetting : public Object<INLEBlendSetting>
+{
+public:
+    using Object::Object;
+
+    SCRIPTED_SETTING(bool, enable, Enable)
+    SCRIPTED_SETTING(int, mode, Mode)
+    SCRIPTED_SETTING(int, alpha, Alpha)
+};
+
+class Transform : public Object<INLETransform>
+{
+public:
+    using Object::Object;
+
+    SCRIPTED_SETTING(bool, enable, Enable)
+    SCRIPTED_RECORD(NLEPointF, center, Center)
+    SCRIPTED_RECORD(NLESizeF, scale, Scale)
+    SCRIPTED_SETTING(double, rotation, Rotation)
+    HRESULT Reserved1() override { return E_NOTIMPL; }
+    HRESULT Reserved2() override { return E_NOTIMPL; }
+    HRESULT SetLock(bool lock) override { return Call("SetLock", lock); }
+};
+
+class MixerSetting : public Object<INLEMixerSetting>
+{
+public:
+    using Object::Object;
+
+    tagMixerParam param = {};
+
+    HRESULT GetParam(int index, tagMixerParam* out) override
+    {
+        return Value("GetParam", param, out, index);
+    }
+    HRESULT SetParam(int index, const tagMixerParam* value) override
+    {
+        return Value("SetParam", *value, &param, index);
+    }
+};
+
+} // namespace Scripted
