@@ -34,8 +34,6 @@ private Q_SLOTS:
     void cloneKeepsTheType();
     void nothingWrapped();
     void sourceFacts();
-    void profile_data();
-    void profile();
     void relink();
     void sourceFactsThatFail_data();
     void sourceFactsThatFail();
@@ -189,36 +187,35 @@ void tst_NLETimeline::sourceFacts()
     QCOMPARE(timeline.GetFilePath(), QString(511, 'x'));
 }
 
-void tst_NLETimeline::profile_data()
+void tst_NLETimeline::sourceFactsThatFail_data()
 {
     QTest::addColumn<QString>("failing");
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<float>("rate");
     QTest::addColumn<QString>("profile");
-    QTest::newRow("all") << ""
-                         << "64x48 30/1 48000 2 8";
-    QTest::newRow("no media") << "source.GetMediaInfo"
-                              << "1x2 3/4 5 6 7";
-    QTest::newRow("no picture") << "source.GetVideoStreamIndex"
-                                << "1x2 30/1 48000 2 8";
-    QTest::newRow("no sound") << "source.GetAudioStreamIndex"
-                              << "64x48 30/1 5 6 7";
-    QTest::newRow("no rate") << "info.GetFrameCountAndRate"
-                             << "64x48 0/1 48000 2 8";
+    const auto row = [](const char* failing, QSizeF size, float rate, const char* profile) {
+        QTest::newRow(failing) << failing << size << rate << profile;
+    };
+    row("", {64, 48}, 30, "64x48 30/1 48000 2 8");
+    row("source.GetMediaInfo", {0, 0}, 25, "1x2 3/4 5 6 7");
+    row("source.GetVideoStreamIndex", {0, 0}, 30, "1x2 30/1 48000 2 8");
+    row("source.GetAudioStreamIndex", {64, 48}, 30, "64x48 30/1 5 6 7");
+    row("info.GetStream", {0, 0}, 30, "1x2 30/1 5 6 7");
+    row("info.GetFrameCountAndRate", {64, 48}, 25, "64x48 0/1 48000 2 8");
 }
 
-void tst_NLETimeline::profile()
+void tst_NLETimeline::sourceFactsThatFail()
 {
     QFETCH(QString, failing);
     script.SetStatus(failing, E_FAIL);
-    tagNLEProjectProfile p{{1, 2}, {3, 4}, 5, 6, 7};
     NLETimeline timeline(node, ExactType_Video, nullptr);
+    QTEST(timeline.GetSourceSize(), "size");
+    QTEST(timeline.GetSourceFramerate(), "rate");
+    tagNLEProjectProfile p{{1, 2}, {3, 4}, 5, 6, 7};
     timeline.GetSourceAVProfile(&p);
     timeline.GetSourceAVProfile(nullptr);
-    QTEST(QString("%1 %2 %3 %4 %5")
-              .arg(Text(p.frameSize), Text(p.frameRate))
-              .arg(p.sampleRate)
-              .arg(p.channels)
-              .arg(p.sampleFormat),
-          "profile");
+    const QStringList sound{Text(p.sampleRate), Text(p.channels), Text(p.sampleFormat)};
+    QTEST(Text(p.frameSize) + ' ' + Text(p.frameRate) + ' ' + sound.join(' '), "profile");
 }
 
 void tst_NLETimeline::relink()
@@ -231,26 +228,6 @@ void tst_NLETimeline::relink()
     QVERIFY(!timeline.Relink("/"));
     QCOMPARE(script.TakeCalls().filter("media."),
              QStringList({"media.Relink(/ü, 0)", "media.Reload()", "media.Relink(/, 0)"}));
-}
-
-void tst_NLETimeline::sourceFactsThatFail_data()
-{
-    QTest::addColumn<QString>("failing");
-    QTest::addColumn<QSizeF>("size");
-    QTest::addColumn<float>("rate");
-    QTest::newRow("no media") << "source.GetMediaInfo" << QSizeF(0, 0) << 25.f;
-    QTest::newRow("no stream index") << "source.GetVideoStreamIndex" << QSizeF(0, 0) << 30.f;
-    QTest::newRow("no stream") << "info.GetStream" << QSizeF(0, 0) << 30.f;
-    QTest::newRow("no frame count") << "info.GetFrameCountAndRate" << QSizeF(64, 48) << 25.f;
-}
-
-void tst_NLETimeline::sourceFactsThatFail()
-{
-    QFETCH(QString, failing);
-    script.SetStatus(failing, E_FAIL);
-    NLETimeline timeline(node, ExactType_Video, nullptr);
-    QTEST(timeline.GetSourceSize(), "size");
-    QTEST(timeline.GetSourceFramerate(), "rate");
 }
 
 void tst_NLETimeline::thumbnail_data()
