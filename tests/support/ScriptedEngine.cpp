@@ -81,6 +81,13 @@ NLEComPtr<IUnknown> Script::Result(const QString& operation) const
 
 namespace {
 
+// An operation that delivers the script's object.
+#define SCRIPTED_OBJECT(Type, Name)                                                                \
+    HRESULT Name(Type** out) override                                                              \
+    {                                                                                              \
+        return Give(#Name, out);                                                                   \
+    }
+
 class TimelineFactory : public Object<INLETimelineFactory>
 {
 public:
@@ -135,11 +142,8 @@ public:
             *out = MakeCom<TimelineFactory>("timelineFactory").detach();
         return status;
     }
-    HRESULT GetFontLibrary(INLEFontLibrary** out) override { return Give("GetFontLibrary", out); }
-    HRESULT GetSystemConfig(INLESystemConfig** out) override
-    {
-        return Give("GetSystemConfig", out);
-    }
+    SCRIPTED_OBJECT(INLEFontLibrary, GetFontLibrary)
+    SCRIPTED_OBJECT(INLESystemConfig, GetSystemConfig)
     HRESULT CreateVideoFrame(int width, int height, int pixelFormat, int memory, int poolFlags,
                              int poolMinimum, int poolMaximum, int poolReserve,
                              INLEVideoFrame** out) override
@@ -159,34 +163,13 @@ public:
     {
         return Give("CreateMarkBook", out, path);
     }
-    HRESULT CreateDocumentSerialize(INLEDocumentSerialize** out) override
-    {
-        return Give("CreateDocumentSerialize", out);
-    }
-    HRESULT CreateFrameExtractor(INLEFrameExtractor** out) override
-    {
-        return Give("CreateFrameExtractor", out);
-    }
-    HRESULT CreateThumbnailExtractor(INLEThumbnailExtractor** out) override
-    {
-        return Give("CreateThumbnailExtractor", out);
-    }
-    HRESULT CreateWaveExtractor(INLEWaveExtractor** out) override
-    {
-        return Give("CreateWaveExtractor", out);
-    }
-    HRESULT CreateSceneSegment(INLESceneSegment** out) override
-    {
-        return Give("CreateSceneSegment", out);
-    }
-    HRESULT CreateMediaEncoder(INLEMediaEncoder** out) override
-    {
-        return Give("CreateMediaEncoder", out);
-    }
-    HRESULT CreateProperties(INLEProperties** out) override
-    {
-        return Give("CreateProperties", out);
-    }
+    SCRIPTED_OBJECT(INLEDocumentSerialize, CreateDocumentSerialize)
+    SCRIPTED_OBJECT(INLEFrameExtractor, CreateFrameExtractor)
+    SCRIPTED_OBJECT(INLEThumbnailExtractor, CreateThumbnailExtractor)
+    SCRIPTED_OBJECT(INLEWaveExtractor, CreateWaveExtractor)
+    SCRIPTED_OBJECT(INLESceneSegment, CreateSceneSegment)
+    SCRIPTED_OBJECT(INLEMediaEncoder, CreateMediaEncoder)
+    SCRIPTED_OBJECT(INLEProperties, CreateProperties)
     HRESULT Shutdown(int flags) override { return Call("Shutdown", flags); }
 };
 

@@ -68,19 +68,13 @@ public:
     using Object::Object;
 
     QImage image; ///< ARGB32
-    NLERect validRect = {0, 0, 0, 0};
 
     HRESULT Prepare() override { return Call("Prepare"); }
     HRESULT GetSize(NLESize* out) override
     {
         return Value("GetSize", NLESize{image.width(), image.height()}, out);
     }
-    HRESULT GetValidRect(NLERect* out) override { return Value("GetValidRect", validRect, out); }
-    HRESULT SetValidRect(const NLERect* rect) override
-    {
-        validRect = *rect;
-        return Call("SetValidRect");
-    }
+    SCRIPTED_RECORD(NLERect, validRect, ValidRect)
     HRESULT GetData(std::uint8_t** out) override
     {
         *out = image.bits();

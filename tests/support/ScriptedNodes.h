@@ -17,35 +17,21 @@ class Properties : public Object<INLEProperties>
 public:
     using Object::Object;
 
-    QHash<QString, int> ints;
-    QHash<QString, double> doubles;
-    QHash<QString, NLERational> rationals;
+#define SCRIPTED_VALUES(Type, values, Name)                                                        \
+    QHash<QString, Type> values;                                                                   \
+    HRESULT Get##Name(const wchar_t* key, Type* value) override                                    \
+    {                                                                                              \
+        return Get("Get" #Name, values, key, value);                                               \
+    }                                                                                              \
+    HRESULT Set##Name(const wchar_t* key, Type value) override                                     \
+    {                                                                                              \
+        return Set("Set" #Name, values, key, value);                                               \
+    }
+    SCRIPTED_VALUES(int, ints, Int)
+    SCRIPTED_VALUES(double, doubles, Double)
+    SCRIPTED_VALUES(NLERational, rationals, Rational)
     QHash<QString, QString> strings;
 
-    HRESULT GetInt(const wchar_t* key, int* value) override
-    {
-        return Get("GetInt", ints, key, value);
-    }
-    HRESULT SetInt(const wchar_t* key, int value) override
-    {
-        return Set("SetInt", ints, key, value);
-    }
-    HRESULT GetDouble(const wchar_t* key, double* value) override
-    {
-        return Get("GetDouble", doubles, key, value);
-    }
-    HRESULT SetDouble(const wchar_t* key, double value) override
-    {
-        return Set("SetDouble", doubles, key, value);
-    }
-    HRESULT GetRational(const wchar_t* key, NLERational* value) override
-    {
-        return Get("GetRational", rationals, key, value);
-    }
-    HRESULT SetRational(const wchar_t* key, NLERational value) override
-    {
-        return Set("SetRational", rationals, key, value);
-    }
     HRESULT GetString(const wchar_t* key, wchar_t* buffer, int capacity) override
     {
         const auto found = strings.constFind(Text(key));
