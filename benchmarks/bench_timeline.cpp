@@ -215,10 +215,11 @@ void Edits(const Project& hundred, const Project& large)
     for (const auto& [name, edit] : edits) {
         constexpr int Calls = 5000;
         const auto repeat = [&value, edit = edit](const Project& project) {
-            return [&value, &project, edit] {
-                // A stride that visits clips all over the project.
+            // A hundred clips from all over either project, so that the working set is the same.
+            const size_t stride = project.clips.size() / 100;
+            return [&value, &project, edit, stride] {
                 for (int i = 0; i < Calls; ++i)
-                    edit(*project.clips[size_t(i) * 7919 % project.clips.size()], ++value);
+                    edit(*project.clips[size_t(i) % 100 * stride], ++value);
             };
         };
         const Pair times = Interleaved(repeat(hundred), repeat(large), 31);
