@@ -242,6 +242,9 @@ void tst_Engine::layersAndLevels()
     QCOMPARE(colourAt(5), QColor(Qt::red));
 
     NLEComPtr<INLEProperties> bag;
+    low->GetProperties(bag.put());
+    bag->SetInt(NLEKey::Render::kRender_Mode, NLERender_AudioOnly);
+    QCOMPARE(colourAt(10), QColor(Qt::black));
     project->GetProperties(bag.put());
     bag->SetInt(NLEKey::Render::kRender_BackgroundColor, int(0xFF00FF00u));
     QCOMPARE(colourAt(0), QColor(Qt::green));

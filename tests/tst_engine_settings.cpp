@@ -72,6 +72,8 @@ private slots:
     void soundLevels();
     void fades();
     void volumeCurve();
+    void monoIsTheMean();
+    void effectsContinue();
     void pitch();
     void equalizer();
     void denoise();
@@ -217,7 +219,7 @@ void tst_EngineSettings::speedAndFreeze()
     bag->SetInt(NLEKey::Freeze::kFreeze_Enabled, 1);
     QCOMPARE(ReadFrameNumber(Frame(project, 40)), 20);
     QCOMPARE(Loudness(Sound(project, 20)[0]), 0.0);
-    bag->SetInt(L"kFreeze_Frame", 33);
+    bag->SetInt(NLEKey::Freeze::kFreeze_Frame, 33);
     QCOMPARE(ReadFrameNumber(Frame(project, 11)), 33);
     const NLERange longer = {20, 519};
     clip->SetRange(&longer);
@@ -255,7 +257,7 @@ void tst_EngineSettings::soundLevels_data()
     QTest::newRow("half to the left")
         << Change([](auto& a) { a.SetBalance(-0.5); }) << 0.0 << -6.02;
     QTest::newRow("all to the right") << Change([](auto& a) { a.SetBalance(1); }) << -150.0 << 0.0;
-    QTest::newRow("mono keeps equal channels")
+    QTest::newRow("mono of equal channels")
         << Change([](auto& a) { a.SetMixToMonoEnable(true); }) << 0.0 << 0.0;
 }
 
@@ -316,6 +318,38 @@ void tst_EngineSettings::volumeCurve()
     QVERIFY(std::abs(gainAt(10) - 1) < 0.03);
     QVERIFY(std::abs(gainAt(37) - 0.5) < 0.03);
     QVERIFY(gainAt(60) < 0.001);
+}
+
+void tst_EngineSettings::monoIsTheMean()
+{
+    const QString left = Path("left.wav");
+    QCOMPARE(RunFfmpeg({"-f", "lavfi", "-i", "sine=duration=1", "-af", "pan=stereo|c0=c0", left}),
+             QString());
+    const Node clip = EngineFixture::Media(left);
+    const double before = Loudness(Sound(clip, 5)[0]);
+    Facet<INLEAudioStreamProcess>(clip)->SetMixToMonoEnable(true);
+    const Stereo after = Sound(clip, 5);
+    QVERIFY(before > 0.01);
+    QVERIFY(std::abs(Decibels(Loudness(after[0]), before) + 6.02) < 0.1);
+    QCOMPARE(after[0], after[1]);
+}
+
+void tst_EngineSettings::effectsContinue()
+{
+    const Node clip = Media();
+    Facet<INLEAudioStreamProcess>(clip)->SetPitch(5);
+    const auto extractor = provider->CreateFrameExtractor();
+    const auto sound = provider->CreateAudioFrame(kRate / 25);
+    float* data = nullptr;
+    sound->GetData(&data);
+    QCOMPARE(extractor->Open(clip.get(), 1), S_OK);
+    std::vector<double> pieces;
+    for (int frame = 30; frame < 35; ++frame) {
+        QCOMPARE(extractor->ExtractAudio(frame, sound.get()), S_OK);
+        for (int i = 0; i < kRate / 25; ++i)
+            pieces.push_back(data[2 * i]);
+    }
+    QCOMPARE(pieces, Sound(clip, 30, kRate / 5)[0]);
 }
 
 void tst_EngineSettings::pitch()

@@ -282,7 +282,7 @@ Snapshot TimelineNode::MakeSnapshot() const
     layer->size = PictureSize();
     layer->speed = Speed();
     if (IsFrozen())
-        layer->frozenFrame = m_bag->IntOr(kFreezeFrameKey, layer->range.in);
+        layer->frozenFrame = m_bag->IntOr(NLEKey::Freeze::kFreeze_Frame, layer->range.in);
     layer->blend = m_blend.settings;
     layer->transform = m_transform.settings;
     layer->audio = m_audio.settings;

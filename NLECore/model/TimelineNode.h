@@ -15,8 +15,6 @@ class TimelineNode;
 
 /// Key under which a node's timeline type is kept, as text.
 inline constexpr const wchar_t* kTimelineTypeKey = L"key_timeline_type";
-/// Integer: the frame that a frozen clip shows; its in point when there is none.
-inline constexpr const wchar_t* kFreezeFrameKey = L"kFreeze_Frame";
 
 /// A node's property bag: frame rate and length are live views of the node.
 class NodeBag final : public PropertyBag
