@@ -59,6 +59,7 @@ private slots:
     void catalogue();
     void treeRefusals();
     void rateChangesKeepInstants();
+    void hugeNumbers();
     void clonesAreIndependent();
     void propertiesAndLiveKeys();
     void layersAndLevels();
@@ -167,6 +168,31 @@ void tst_Engine::rateChangesKeepInstants()
     QCOMPARE(RangeOf(clip).in, 10);
     QCOMPARE(RangeOf(clip).out, 19);
     QCOMPARE(clip->SetRenderFrameRate({0, 1}), E_INVALIDARG);
+}
+
+void tst_Engine::hugeNumbers()
+{
+    const int edges[] = {INT_MIN, -1, 0, 1, INT_MAX};
+    for (const int position : edges) {
+        for (const int in : edges) {
+            for (const int out : edges) {
+                const Node project = Project();
+                const Node clip = Colour(Qt::red);
+                SetRange(clip, in, out);
+                Add(project, clip, position);
+                const std::int64_t end =
+                    out < in ? position : std::int64_t(position) + out - in + 1;
+                const bool shows = position <= 0 && end > 0 && out >= in;
+                QCOMPARE(!Frame(project, 0).isNull(), end > 0);
+                if (end > 0)
+                    QCOMPARE(Frame(project, 0).pixelColor(9, 9) == QColor(Qt::red), shows);
+                Sound(project, 0);
+                clip->SetRenderFrameRate({1000, 1});
+                clip->SetRenderFrameRate({1, 1000});
+                QVERIFY(Save(project, Path("huge.mlt")) && Load(Path("huge.mlt")));
+            }
+        }
+    }
 }
 
 void tst_Engine::clonesAreIndependent()

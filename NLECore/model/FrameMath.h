@@ -60,8 +60,9 @@ inline NLERange RescaleRange(const NLERange& range, const NLERational& from, con
     if (length == 0)
         return range;
     const int in = RescaleFrame(range.in, from, to);
-    const int end = RescaleFrame(std::int64_t(range.in) + length, from, to);
-    return {in, std::max(in, end - 1)};
+    const double end =
+        std::round((double(range.in) + double(length)) * ToDouble(to) / ToDouble(from));
+    return {in, std::max(in, ClampToInt(end - 1))};
 }
 
 } // namespace nle
