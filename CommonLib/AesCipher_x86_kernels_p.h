@@ -140,7 +140,7 @@ inline void Groups(const std::uint8_t* schedule, const std::uint8_t*& in, std::u
                 writer.Prefetch(at);
             }
         }
-        Group<Vector, Mode, Rounds>(keys, in - BlockSize, in, writer,
+        Group<Vector, Mode, Rounds>(keys, UsesPreviousBlock(Mode) ? in - BlockSize : in, in, writer,
                                     std::make_index_sequence<Count>());
         in += step * BlockSize;
     }

@@ -3,7 +3,8 @@
 
 #include <QtGlobal>
 
-/// Marks what hosts link against; everything else stays inside the library.
+/// Marks what hosts link against and, in private headers, what the tests need; everything else
+/// stays inside the library.
 #if defined(COMMONLIB_LIBRARY)
 #define COMMONLIB_EXPORT Q_DECL_EXPORT
 #else

@@ -18,6 +18,9 @@ bool IsSameFile(const QString& left, const QString& right)
 {
     const QFileInfo leftInfo(left);
     const QFileInfo rightInfo(right);
+    // A link to the other is a file of its own, unless both are named by the same link.
+    if (rightInfo.isSymLink() && leftInfo.absoluteFilePath() != rightInfo.absoluteFilePath())
+        return false;
     return leftInfo.exists() && rightInfo.exists() && leftInfo == rightInfo;
 }
 

@@ -21,7 +21,8 @@ public:
     /// Creates an empty file. A file that exists is left untouched.
     static void CreateNewFile(const QString& path);
 
-    /// Removes a file. True when there is nothing at \a path in the end.
+    /// Removes a file. True when there is nothing at \a path in the end; a broken link counts as
+    /// nothing and stays.
     static bool DeleteFileW(const QString& path);
     /// The same as DeleteFileW().
     static bool RemoveFile(const QString& path);

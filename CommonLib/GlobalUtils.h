@@ -72,18 +72,19 @@ COMMONLIB_EXPORT QString GetFileMd5_V2(quint64 blockSize, const QString& path);
 ///
 /// Blocks until the program and all that inherited its output have ended; the program itself is not
 /// waited for. On Linux the line is split into words by the shell's quoting rules (no expansion of
-/// any kind), the program is found through PATH, and it inherits no descriptor but the pipe.
+/// any kind), the program is found through PATH, its standard input is empty, and it inherits no
+/// other descriptor than the pipe.
 ///
 /// Output is taken in pieces of at most 2,046 bytes, each up to its first zero byte, from a buffer
 /// that is not cleared: a piece shorter than one before it is followed by the older bytes behind
-/// it. Output written in one go is returned as it is.
+/// it. Only output of at most 2,046 bytes that is written in one go is sure to come back as it is.
 ///
 /// \return an empty text when the program cannot be started, a quote is left open, or it is silent
 COMMONLIB_EXPORT QString excuteCmd(void* ignored, QString commandLine);
 
-/// Deletes a file, or a folder with all it holds except hidden entries; a folder that holds any is
-/// left in place. A symbolic link is deleted as a link and never followed. Then makes sure that the
-/// parent folder exists. An empty path does nothing.
+/// Deletes a file, or a folder with all it holds except hidden entries, broken links and special
+/// files; a folder that holds any of these is left in place. A symbolic link is deleted as a link
+/// and never followed. Then makes sure that the parent folder exists. An empty path does nothing.
 COMMONLIB_EXPORT void RemoveDir(void* ignored, const QString& path);
 
 /// Free space in MiB of the volume that holds \a path, or would hold it when it does not exist yet.

@@ -247,12 +247,17 @@ bool QuaZipOperate::CompressDir(const QString& archivePath, const QString& folde
 {
     if (!QFileInfo(folder).isDir())
         return false;
-    // Absolute, because the library leaves out the archive itself by comparing absolute paths.
-    const QString absolutePath = QDir::cleanPath(QFileInfo(archivePath).absoluteFilePath());
-    QDir().mkpath(QFileInfo(absolutePath).absolutePath());
-    if (Pack(absolutePath, folder))
+    const QFileInfo archive(QDir::cleanPath(QFileInfo(archivePath).absoluteFilePath()));
+    QDir().mkpath(archive.absolutePath());
+    FileOperation::RemoveFile(archive.filePath());
+    // The archive may lie inside of the folder, or be reached from it by a link: hidden entries are
+    // not packed, so while it grows it stays out of its own sight. Absolute, because the library
+    // leaves out the file that it writes by comparing absolute paths.
+    const QString growing =
+        archive.absolutePath() + QStringLiteral("/.%1.part").arg(archive.fileName());
+    if (Pack(growing, folder) && QFile::rename(growing, archive.filePath()))
         return true;
-    FileOperation::RemoveFile(absolutePath);
+    FileOperation::RemoveFile(growing);
     return false;
 }
 

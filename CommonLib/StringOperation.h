@@ -26,8 +26,8 @@ public:
     static QString GetElidedString(const QFont& font, int width, const QString& text,
                                    Qt::TextElideMode mode);
     /// \a left and \a right with the fewest spaces between them that make the whole at least
-    /// \a width wide. No spaces when the two are that wide already, when \a right is empty or when
-    /// spaces have no width in this font.
+    /// \a width wide. No spaces when the two are that wide already, when \a right is empty, when
+    /// spaces have no width in this font, or when it would take more than 1,048,576 of them.
     static QString GetMenuStringW(const QFont& font, const QString& left, const QString& right,
                                   int width);
 

@@ -33,7 +33,8 @@ void RemoveTree(const QString& path)
         QFile::remove(path);
         return;
     }
-    // Without hidden entries: a folder that holds any stays, which is intended.
+    // Without hidden entries, broken links and special files: a folder that holds any stays, which
+    // is intended.
     const auto filters = QDir::Dirs | QDir::Files | QDir::Drives | QDir::NoDotAndDotDot;
     const QFileInfoList entries = QDir(path).entryInfoList(filters);
     for (const QFileInfo& entry : entries)
@@ -59,11 +60,14 @@ void RemoveDir(void* /*ignored*/, const QString& path)
 {
     if (path.isEmpty())
         return;
-    // A slash at the end would make the system look behind a link instead of at it.
-    const QString cleanPath = QDir::cleanPath(path);
-    if (FileOperation::IsFileExist(cleanPath))
-        RemoveTree(cleanPath);
-    const QString parent = QFileInfo(cleanPath).absolutePath();
+    // A slash at the end would make the system look behind a link instead of at it. Nothing else is
+    // tidied up: ".." behind a link leads where the system says.
+    QString target = QDir::fromNativeSeparators(path);
+    while (target.size() > 1 && target.endsWith('/') && !QDir(target).isRoot())
+        target.chop(1);
+    if (FileOperation::IsFileExist(target))
+        RemoveTree(target);
+    const QString parent = QFileInfo(target).absolutePath();
     if (!FileOperation::IsFileExist(parent))
         QDir().mkpath(parent);
 }

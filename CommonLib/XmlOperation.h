@@ -23,10 +23,11 @@ public:
     /// elements takes about fifty times the memory of its file.
     ///
     /// \param mode how to open the file; must allow reading for the call to succeed
-    /// \return false, and a null \a document, when the file is not well-formed, is nested deeper
-    ///         than 1,000 levels, or declares entities that expand to more than 1,024 characters or
-    ///         that stand in a file of more than 128 KiB. False, and \a document as it was, when
-    ///         the file cannot be opened or is no regular file
+    /// \return false, and a null \a document, when the file is not well-formed XML 1.0, has a
+    ///         name with two colons, is nested deeper than 1,000 levels, or declares entities that
+    ///         expand to more than 1,024 characters or that stand in a file of more than 128 KiB.
+    ///         False, and \a document as it was, when the file cannot be opened or is no regular
+    ///         file
     static bool OpenXmlFile(QDomDocument& document, const QString& path, QIODevice::OpenMode mode);
 
     /// Writes the document, replacing the file. Nothing happens when it cannot be opened.

@@ -11,6 +11,9 @@
 
 #include <QDir>
 
+#include <algorithm>
+#include <limits>
+
 namespace {
 constexpr char SourcePath[] = "CommonLib/NLEWraper/PlayerMaterProviderPrivate";
 constexpr char ConstructorName[] = "PlayerMaterProviderPrivate::PlayerMaterProviderPrivate";
@@ -134,7 +137,8 @@ int PlayerMaterProviderPrivate::GetTimelineFrameRate(const NLEComPtr<INLETimelin
     NLERational rate{0, 1};
     if (const auto properties = NLEGetProperties(timeline.get()))
         properties->GetRational(NLEKey::Render::kRender_Framerate, &rate);
-    return rate.den == 0 ? 0 : static_cast<int>(rate.num / rate.den);
+    constexpr std::int64_t Highest = std::numeric_limits<int>::max();
+    return rate.den <= 0 ? 0 : static_cast<int>(std::clamp(rate.num / rate.den, -Highest, Highest));
 }
 
 void PlayerMaterProviderPrivate::SetTimelineFrameRate(const NLEComPtr<INLETimeline>& timeline,
