@@ -5,7 +5,6 @@
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QtEndian>
 #include <QtTest>
 
 namespace {
@@ -16,10 +15,15 @@ struct Run
     QString text;
 };
 
-Run runHost(const QString& program, const QStringList& arguments)
+QString hostProgram()
+{
+    return QCoreApplication::applicationDirPath() + "/CommonLibDemo";
+}
+
+Run runHost(const QStringList& arguments, const QString& program = hostProgram())
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("LD_LIBRARY_PATH"), QCoreApplication::applicationDirPath());
+    environment.insert("LD_LIBRARY_PATH", QCoreApplication::applicationDirPath());
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
@@ -27,12 +31,6 @@ Run runHost(const QString& program, const QStringList& arguments)
     const bool ended =
         process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit;
     return {ended ? process.exitCode() : -1, QString::fromUtf8(process.readAll())};
-}
-
-Run runHost(const QStringList& arguments)
-{
-    return runHost(QCoreApplication::applicationDirPath() + QStringLiteral("/CommonLibDemo"),
-                   arguments);
 }
 
 bool writeFile(const QString& path, const QByteArray& bytes)
@@ -50,19 +48,11 @@ QByteArray readFile(const QString& path)
 /// A second of sound as a WAV file: a full square wave, then half a second of silence.
 QByteArray halfSilentSound()
 {
-    constexpr int rate = 8000;
-    QByteArray data(rate * 2, 0);
-    for (int sample = 0; sample < rate / 2; ++sample)
-        qToLittleEndian<qint16>(sample % 2 ? 32000 : -32000, data.data() + qint64(sample) * 2);
-    const auto number = [](auto value) {
-        QByteArray bytes(int(sizeof value), 0);
-        qToLittleEndian(value, bytes.data());
-        return bytes;
-    };
-    return "RIFF" + number(quint32(36 + data.size())) + "WAVEfmt " + number(quint32(16)) +
-           number(quint16(1)) + number(quint16(1)) + number(quint32(rate)) +
-           number(quint32(rate * 2)) + number(quint16(2)) + number(quint16(16)) + "data" +
-           number(quint32(data.size())) + data;
+    // Of 16000 bytes: one channel, 8000 Hz, 16 bits.
+    const char* format = "10000000 0100 0100 401f0000 803e0000 0200 1000";
+    return "RIFF" + QByteArray::fromHex("a43e0000") + "WAVEfmt " + QByteArray::fromHex(format) +
+           "data" + QByteArray::fromHex("803e0000") +
+           QByteArray::fromHex("007d0083").repeated(2000) + QByteArray(8000, 0);
 }
 
 } // namespace
@@ -72,133 +62,108 @@ class tst_Host : public QObject
 {
     Q_OBJECT
 
-private slots:
-    void init();
-    void wrongUsage_data();
-    void wrongUsage();
-    void unusableFilesAreExplained();
-    void picturesNeverCoverEachOther();
-    void soundShowsItsWave();
-    void missingEngineIsTold();
-
 private:
-    QString path(const QString& name) const { return m_folder->path() + QLatin1Char('/') + name; }
-
     QScopedPointer<QTemporaryDir> m_folder;
     QString m_output;
-};
 
-void tst_Host::init()
-{
-    m_folder.reset(
-        new QTemporaryDir(QDir::tempPath() + QStringLiteral("/zwei Wörter проба-XXXXXX")));
-    QVERIFY(m_folder->isValid());
-    m_output = path(QStringLiteral("out"));
-}
+    QString path(const QString& name) const { return m_folder->filePath(name); }
 
-void tst_Host::wrongUsage_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("no file") << QStringList{};
-    QTest::newRow("unknown option")
-        << QStringList{QStringLiteral("--nonsense"), QStringLiteral("a")};
-    QTest::newRow("output folder that cannot be made") << QStringList{
-        QStringLiteral("--output"), QStringLiteral("/dev/null/out"), QStringLiteral("a")};
-}
-
-void tst_Host::wrongUsage()
-{
-    QFETCH(QStringList, arguments);
-    const Run run = runHost(arguments);
-    QCOMPARE(run.code, 2);
-    QVERIFY(!run.text.isEmpty());
-}
-
-void tst_Host::unusableFilesAreExplained()
-{
-    QVERIFY(QDir().mkpath(path(QStringLiteral("folder.mp4"))));
-    QVERIFY(writeFile(path(QStringLiteral("zero.mp4")), {}));
-    QVERIFY(writeFile(path(QStringLiteral("text.mp4")), "This is not a movie.\n"));
-    QStringList arguments{QStringLiteral("--output"), m_output};
-    for (const char* name : {"missing.mp4", "folder.mp4", "zero.mp4", "text.mp4"})
-        arguments << path(QString::fromLatin1(name));
-    arguments << QStringLiteral("/dev/zero");
-
-    const Run run = runHost(arguments);
-    QCOMPARE(run.code, 0);
-    for (const char* line :
-         {"missing.mp4: does not exist", "folder.mp4: is a folder, not a media file",
-          "zero.mp4: is empty", "text.mp4: cannot be read as media", "zero: is not a regular file"})
-        QVERIFY2(run.text.contains(QLatin1String(line)), line);
-    QVERIFY(QDir(m_output).entryList({QStringLiteral("*.png")}).isEmpty());
-    const QByteArray log = readFile(m_output + QStringLiteral("/CommonLibDemo.log"));
-    QVERIFY(log.contains("zero.mp4: is empty"));
-    QVERIFY(log.contains("]:  end - ["));
-}
-
-void tst_Host::picturesNeverCoverEachOther()
-{
-    // The first file lies where its own result would, and the others share its name.
-    QImage picture(320, 200, QImage::Format_RGB32);
-    QVERIFY(QDir().mkpath(m_output));
-    const QStringList media{m_output + QStringLiteral("/a.png"), path(QStringLiteral("a.png")),
-                            path(QStringLiteral("a.bmp"))};
-    const QVector<QColor> colors{Qt::red, Qt::green, Qt::blue};
-    for (int index = 0; index < media.size(); ++index) {
-        picture.fill(colors[index]);
-        QVERIFY(picture.save(media[index]));
+private slots:
+    void init()
+    {
+        m_folder.reset(new QTemporaryDir(QDir::tempPath() + "/zwei Wörter проба-XXXXXX"));
+        QVERIFY(m_folder->isValid());
+        m_output = path("out");
     }
-    const QByteArray original = readFile(media[0]);
-    const QString log = path(QStringLiteral("elsewhere.log"));
 
-    const Run run = runHost(
-        QStringList{QStringLiteral("--log"), log, QStringLiteral("--output"), m_output} + media);
-    QCOMPARE(run.code, 0);
-    QVERIFY2(run.text.contains(QStringLiteral("Still picture, 320 × 200")), qPrintable(run.text));
-    QCOMPARE(readFile(media[0]), original);
-    for (int index = 0; index < media.size(); ++index) {
-        const QImage page(m_output + QStringLiteral("/a-%1.png").arg(index + 2));
+    void wrongUsage()
+    {
+        const QList<QStringList> wrong{{}, {"--nonsense", "a"}, {"--output", "/dev/null/out", "a"}};
+        for (const QStringList& arguments : wrong) {
+            const Run run = runHost(arguments);
+            QVERIFY2(run.code == 2 && !run.text.isEmpty(), qPrintable(arguments.join(' ')));
+        }
+    }
+
+    void unusableFilesAreExplained()
+    {
+        QVERIFY(QDir().mkpath(path("folder.mp4")));
+        QVERIFY(writeFile(path("empty.mp4"), {}) && writeFile(path("text.mp4"), "No movie.\n"));
+        const Run run = runHost({"--output", m_output, path("missing.mp4"), path("folder.mp4"),
+                                 path("empty.mp4"), path("text.mp4"), "/dev/zero"});
+        QCOMPARE(run.code, 0);
+        for (const char* line :
+             {"missing.mp4: does not exist", "empty.mp4: is empty",
+              "folder.mp4: is a folder, not a media file", "text.mp4: cannot be read as media",
+              "zero: is not a regular file"})
+            QVERIFY2(run.text.contains(line), line);
+        QVERIFY(QDir(m_output).entryList({"*.png"}).isEmpty());
+        const QByteArray log = readFile(m_output + "/CommonLibDemo.log");
+        QVERIFY(log.contains("empty.mp4: is empty"));
+        QVERIFY(log.contains("]:  end - ["));
+    }
+
+    void picturesNeverCoverEachOther()
+    {
+        // The first file lies where its own result would, and the others share its name.
+        QImage picture(320, 200, QImage::Format_RGB32);
+        QVERIFY(QDir().mkpath(m_output));
+        const QStringList media{m_output + "/a.png", path("a.png"), path("a.bmp")};
+        const QVector<QColor> colors{Qt::red, Qt::green, Qt::blue};
+        for (int index = 0; index < media.size(); ++index) {
+            picture.fill(colors[index]);
+            QVERIFY(picture.save(media[index]));
+        }
+        const QByteArray original = readFile(media[0]);
+        const QString log = path("elsewhere.log");
+
+        const Run run = runHost(QStringList{"--log", log, "--output", m_output} + media);
+        QCOMPARE(run.code, 0);
+        QVERIFY2(run.text.contains("Still picture, 320 × 200"), qPrintable(run.text));
+        QCOMPARE(readFile(media[0]), original);
+        for (int index = 0; index < media.size(); ++index) {
+            const QImage page(m_output + QString("/a-%1.png").arg(index + 2));
+            QVERIFY(!page.isNull());
+            const QColor shown = page.pixelColor(page.rect().center());
+            QVERIFY(qAbs(shown.red() - colors[index].red()) < 8 &&
+                    qAbs(shown.green() - colors[index].green()) < 8 &&
+                    qAbs(shown.blue() - colors[index].blue()) < 8);
+        }
+        QVERIFY(!readFile(log).isEmpty());
+        QCOMPARE(readFile(m_output + "/CommonLibDemo.log"), readFile(log));
+    }
+
+    void soundShowsItsWave()
+    {
+        QVERIFY(writeFile(path("half.wav"), halfSilentSound()));
+        const Run run = runHost({"--output", m_output, path("half.wav")});
+        QCOMPARE(run.code, 0);
+        QVERIFY2(run.text.contains("audio, pcm_s16le, 8000 Hz, 1 channel"), qPrintable(run.text));
+
+        const QImage page(m_output + "/half.png");
         QVERIFY(!page.isNull());
-        const QColor shown = page.pixelColor(page.rect().center());
-        QVERIFY(qAbs(shown.red() - colors[index].red()) < 8 &&
-                qAbs(shown.green() - colors[index].green()) < 8 &&
-                qAbs(shown.blue() - colors[index].blue()) < 8);
+        const auto blueRows = [&page](int x) {
+            int rows = 0;
+            for (int y = 0; y < page.height(); ++y) {
+                const QColor color = page.pixelColor(x, y);
+                rows += color.blue() > 200 && color.red() < 120 ? 1 : 0;
+            }
+            return rows;
+        };
+        QVERIFY(blueRows(page.width() * 3 / 10) > page.height() / 3);
+        QVERIFY(blueRows(page.width() * 7 / 10) < 4);
     }
-    QVERIFY(!readFile(log).isEmpty());
-    QCOMPARE(readFile(m_output + QStringLiteral("/CommonLibDemo.log")), readFile(log));
-}
 
-void tst_Host::soundShowsItsWave()
-{
-    QVERIFY(writeFile(path(QStringLiteral("half.wav")), halfSilentSound()));
-    const Run run =
-        runHost({QStringLiteral("--output"), m_output, path(QStringLiteral("half.wav"))});
-    QCOMPARE(run.code, 0);
-    QVERIFY2(run.text.contains(QStringLiteral("audio, pcm_s16le, 8000 Hz, 1 channel")),
-             qPrintable(run.text));
-
-    const QImage page(m_output + QStringLiteral("/half.png"));
-    QVERIFY(!page.isNull());
-    const auto blueRows = [&page](int x) {
-        int rows = 0;
-        for (int y = 0; y < page.height(); ++y)
-            rows += page.pixelColor(x, y).blue() > 200 && page.pixelColor(x, y).red() < 120 ? 1 : 0;
-        return rows;
-    };
-    QVERIFY(blueRows(page.width() * 3 / 10) > page.height() / 3);
-    QVERIFY(blueRows(page.width() * 7 / 10) < 4);
-}
-
-void tst_Host::missingEngineIsTold()
-{
-    const QString alone = path(QStringLiteral("CommonLibDemo"));
-    QVERIFY(QFile::copy(QCoreApplication::applicationDirPath() + QStringLiteral("/CommonLibDemo"),
-                        alone));
-    const Run run = runHost(alone, {QStringLiteral("--output"), m_output, alone});
-    QCOMPARE(run.code, 1);
-    QVERIFY(run.text.contains(QStringLiteral("The engine is missing or does not start: ") +
-                              path(QStringLiteral("NLECore.dll"))));
-}
+    void missingEngineIsTold()
+    {
+        const QString alone = path("CommonLibDemo");
+        QVERIFY(QFile::copy(hostProgram(), alone));
+        const Run run = runHost({"--output", m_output, alone}, alone);
+        QCOMPARE(run.code, 1);
+        const QString expected = "The engine is missing or does not start: " + path("NLECore.dll");
+        QVERIFY2(run.text.contains(expected), qPrintable(run.text));
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_Host)
 #include "tst_host.moc"

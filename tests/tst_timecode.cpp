@@ -26,26 +26,23 @@ private slots:
         QTest::addColumn<QString>("full");
         QTest::addColumn<QString>("withoutFrames");
         const auto row = [](const char* name, int frame, float fps, const char* full,
-                            const char* withoutFrames) {
+                            const char* withoutFrames = "00:00:00") {
             QTest::newRow(name) << frame << fps << QString(full) << QString(withoutFrames);
         };
         row("hour at 25", 90000, 25, "01:00:00:00", "01:00:00");
         // Without frames a minute is cut to 1798 frames, so that this one reads as the next.
-        row("before a minute at 29.97", 1798, 29.97F, "00:00:59:29", "00:00:00");
+        row("before a minute at 29.97", 1798, 29.97F, "00:00:59:29");
         row("a minute at 29.97", 1799, 29.97F, "00:01:00:00", "00:01:00");
-        row("three digits of frames", 119, 119.88F, "00:00:00:119", "00:00:00");
+        row("three digits of frames", 119, 119.88F, "00:00:00:119");
         row("largest frame", kMax, 25, "23860:55:45:22", "23860:55:45");
         row("negative frame", -25, 25, "20496382304:07:17:05", "00:00:-1");
-        row("rate 0", 0, 0, "00:00:00:00", "00:00:00");
-        row("negative rate", 100, -25, "00:00:00:00", "00:00:00");
-        row("not a number", 100, kNaN, "00:00:00:00", "00:00:00");
-        row("infinite", 100, kInfinity, "00:00:00:00", "00:00:00");
-        row("no ten-thousandth", 100, 0.00005F, "00:00:00:00", "00:00:00");
-        row("no frame per hour", 100, 0.0002F, "138:53:20:00", "00:00:00");
-        row("no frame per minute", 100, 0.01F, "02:46:40:00", "00:00:00");
-        row("hour beyond 32 bits", 100, 1e7F, "00:00:00:100", "00:00:00");
-        row("hour of 2^64", 100, 1.1529215e14F, "00:00:00:00", "00:00:00");
-        row("beyond 64 bits", kMin, 3e38F, "00:00:00:00", "00:00:00");
+        for (const float fps : {0.0F, -25.0F, kNaN, kInfinity, 0.00005F})
+            row("unusable rate", 100, fps, "00:00:00:00");
+        row("no frame per hour", 100, 0.0002F, "138:53:20:00");
+        row("no frame per minute", 100, 0.01F, "02:46:40:00");
+        row("hour beyond 32 bits", 100, 1e7F, "00:00:00:100");
+        row("hour of 2^64", 100, 1.1529215e14F, "00:00:00:00");
+        row("beyond 64 bits", kMin, 3e38F, "00:00:00:00");
     }
     void frameToText()
     {
@@ -77,10 +74,8 @@ private slots:
               "-1:00:00:00", "+1:00:00:00", "00:00: 1:00", "00:00:0a:00", "\u0661:00:00:00",
               "00:00:00:00x"})
             row(25, refused, -1);
-        row(kNaN, "00:00:01:00", -1);
-        row(kInfinity, "00:00:01:00", -1);
-        row(1e6F, "999:00:00:00", -1);
-        row(-1e6F, "999:00:00:00", -1);
+        for (const float fps : {kNaN, kInfinity, 1e6F, -1e6F})
+            row(fps, "999:00:00:00", -1);
     }
     void textToFrame()
     {
@@ -94,12 +89,15 @@ private slots:
     {
         QTest::addColumn<float>("fps");
         QTest::addColumn<int>("firstChanged"); // none when -1
+        const auto row = [](float fps, int firstChanged) {
+            QTest::addRow("%g", double(fps)) << fps << firstChanged;
+        };
         for (const float fps : {24.0F, 25.0F, 30.0F, 50.0F, 60.0F})
-            QTest::addRow("%g", double(fps)) << fps << -1;
-        QTest::newRow("23.976") << 23.976F << 133859;
-        QTest::newRow("29.97") << 29.97F << 132858;
-        QTest::newRow("59.94") << 59.94F << 262718;
-        QTest::newRow("119.88") << 119.88F << 525435;
+            row(fps, -1);
+        row(23.976F, 133859);
+        row(29.97F, 132858);
+        row(59.94F, 262718);
+        row(119.88F, 525435);
     }
     void roundTrip()
     {
