@@ -19,100 +19,77 @@ class TestTimecode : public QObject
     Q_OBJECT
 
 private slots:
-    void frameToText_data()
-    {
-        QTest::addColumn<int>("frame");
-        QTest::addColumn<float>("fps");
-        QTest::addColumn<QString>("full");
-        QTest::addColumn<QString>("withoutFrames");
-        const auto row = [](const char* name, int frame, float fps, const char* full,
-                            const char* withoutFrames = "00:00:00") {
-            QTest::newRow(name) << frame << fps << QString(full) << QString(withoutFrames);
-        };
-        row("hour at 25", 90000, 25, "01:00:00:00", "01:00:00");
-        // Without frames a minute is cut to 1798 frames, so that this one reads as the next.
-        row("before a minute at 29.97", 1798, 29.97F, "00:00:59:29");
-        row("a minute at 29.97", 1799, 29.97F, "00:01:00:00", "00:01:00");
-        row("three digits of frames", 119, 119.88F, "00:00:00:119");
-        row("largest frame", kMax, 25, "23860:55:45:22", "23860:55:45");
-        row("negative frame", -25, 25, "20496382304:07:17:05", "00:00:-1");
-        for (const float fps : {0.0F, -25.0F, kNaN, kInfinity, 0.00005F})
-            row("unusable rate", 100, fps, "00:00:00:00");
-        row("no frame per hour", 100, 0.0002F, "138:53:20:00");
-        row("no frame per minute", 100, 0.01F, "02:46:40:00");
-        row("hour beyond 32 bits", 100, 1e7F, "00:00:00:100");
-        row("hour of 2^64", 100, 1.1529215e14F, "00:00:00:00");
-        row("beyond 64 bits", kMin, 3e38F, "00:00:00:00");
-    }
     void frameToText()
     {
-        QFETCH(int, frame);
-        QFETCH(float, fps);
-        QTEST(gFrame2String(frame, fps), "full");
-        QTEST(gFrame2StringSecond(frame, fps), "withoutFrames");
+        const auto check = [](int frame, float fps, const char* full,
+                              const char* withoutFrames = "00:00:00") {
+            QCOMPARE(gFrame2String(frame, fps), QString(full));
+            QCOMPARE(gFrame2StringSecond(frame, fps), QString(withoutFrames));
+        };
+        check(90000, 25, "01:00:00:00", "01:00:00");
+        // Without frames a minute is cut to 1798 frames, so that the first one reads as the next.
+        check(1798, 29.97F, "00:00:59:29");
+        check(1799, 29.97F, "00:01:00:00", "00:01:00");
+        check(119, 119.88F, "00:00:00:119");
+        check(kMax, 25, "23860:55:45:22", "23860:55:45");
+        check(-25, 25, "20496382304:07:17:05", "00:00:-1");
+        for (const float fps : {0.0F, -25.0F, kNaN, kInfinity, 0.00005F})
+            check(100, fps, "00:00:00:00");
+        check(100, 0.0002F, "138:53:20:00");      // no frame per hour
+        check(100, 0.01F, "02:46:40:00");         // no frame per minute
+        check(100, 1e7F, "00:00:00:100");         // an hour beyond 32 bits
+        check(100, 1.1529215e14F, "00:00:00:00"); // an hour of 2^64
+        check(kMin, 3e38F, "00:00:00:00");
     }
 
-    void textToFrame_data()
+    void textToFrame()
     {
-        QTest::addColumn<float>("fps");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("frame");
-        const auto row = [](float fps, const QString& text, int frame) {
-            QTest::addRow("\"%s\" at %g", qPrintable(text.simplified()), double(fps))
-                << fps << text << frame;
+        const auto check = [](float fps, const QString& text, int frame) {
+            const int actual = gString2Frame(fps, text);
+            const QString line = QString("\"%1\" at %2 gives %3").arg(text).arg(fps).arg(actual);
+            QVERIFY2(actual == frame, qPrintable(line));
         };
-        row(25, "01:00:00:00", 90000);
-        row(25, "00:00:01:10", 35);
-        row(25, "1:2:3:04", 93079);
-        row(25, "999:59:59:999", 90000976); // single precision: in steps of 8 up here
-        row(25, " \t00:00:01:10\n", 35);
-        row(29.97F, "00:00:01:00", 30); // rounded up
-        row(0, "00:00:01:10", 10);
+        check(25, "01:00:00:00", 90000);
+        check(25, "00:00:01:10", 35);
+        check(25, "1:2:3:04", 93079);
+        check(25, "999:59:59:999", 90000976); // single precision: in steps of 8 up here
+        check(25, " \t00:00:01:10\n", 35);
+        check(29.97F, "00:00:01:00", 30); // rounded up
+        check(0, "00:00:01:10", 10);
         for (const char* refused :
              {"", "00:00:01:5", "00:60:00:00", "00:00:60:00", "1000:00:00:00", "00:00:00:0000",
               "00:00:00", "00:00:00:00:00", ":00:00:00", "00::00:00", "00:00:00;00", "00:00:00,00",
               "-1:00:00:00", "+1:00:00:00", "00:00: 1:00", "00:00:0a:00", "\u0661:00:00:00",
               "00:00:00:00x"})
-            row(25, refused, -1);
+            check(25, refused, -1);
         for (const float fps : {kNaN, kInfinity, 1e6F, -1e6F})
-            row(fps, "999:00:00:00", -1);
-    }
-    void textToFrame()
-    {
-        QFETCH(float, fps);
-        QFETCH(QString, text);
-        QTEST(gString2Frame(fps, text), "frame");
+            check(fps, "999:00:00:00", -1);
     }
 
     // docs/timecode.md has the figures of all frames; here are enough of them to see a change.
-    void roundTrip_data()
-    {
-        QTest::addColumn<float>("fps");
-        QTest::addColumn<int>("firstChanged"); // none when -1
-        const auto row = [](float fps, int firstChanged) {
-            QTest::addRow("%g", double(fps)) << fps << firstChanged;
-        };
-        for (const float fps : {24.0F, 25.0F, 30.0F, 50.0F, 60.0F})
-            row(fps, -1);
-        row(23.976F, 133859);
-        row(29.97F, 132858);
-        row(59.94F, 262718);
-        row(119.88F, 525435);
-    }
     void roundTrip()
     {
-        QFETCH(float, fps);
-        QFETCH(int, firstChanged);
-        const int end = static_cast<int>(86400 * fps);
-        const int step = end / 60000;
-        for (int frame = 0; frame < end; frame += frame < firstChanged ? 7 : step) {
-            const int change = gString2Frame(fps, gFrame2String(frame, fps)) - frame;
-            const bool mayChange = firstChanged >= 0 && frame >= firstChanged;
-            QVERIFY2(change == 0 || (mayChange && change == -1),
-                     qPrintable(QString::number(frame)));
-        }
-        if (firstChanged >= 0)
-            QCOMPARE(gString2Frame(fps, gFrame2String(firstChanged, fps)), firstChanged - 1);
+        const auto check = [](float fps, int firstChanged) {
+            const auto changeOf = [fps](int frame) {
+                return gString2Frame(fps, gFrame2String(frame, fps)) - frame;
+            };
+            const int end = static_cast<int>(86400 * fps);
+            const int step = end / 60000;
+            for (int frame = 0; frame < end; frame += frame < firstChanged ? 7 : step) {
+                const int change = changeOf(frame);
+                const bool mayChange = firstChanged >= 0 && frame >= firstChanged;
+                const QByteArray place = QByteArray::number(frame);
+                QVERIFY2(change == 0 || (mayChange && change == -1), place.constData());
+            }
+            if (firstChanged >= 0)
+                QCOMPARE(changeOf(firstChanged), -1);
+        };
+        for (const float fps : {24.0F, 25.0F, 30.0F, 50.0F, 60.0F})
+            check(fps, -1);
+        check(23.976F, 133859);
+        check(29.97F, 132858);
+        check(59.94F, 262718);
+        check(119.88F, 525435);
     }
 
     void otherRate()
