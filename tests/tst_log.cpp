@@ -99,52 +99,38 @@ private slots:
         QVERIFY(OpenLog(m_path));
     }
 
-    void writesLine_data()
+    void writesLine()
     {
-        QTest::addColumn<QByteArray>("message");
-        QTest::addColumn<QByteArray>("printedMessage");
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<QByteArray>("printedFile");
-        QTest::addColumn<QByteArray>("function");
-        const auto row = [](const char* name, const QByteArray& message,
-                            const QByteArray& printedMessage, const QByteArray& file = "C.src",
-                            const QByteArray& printedFile = "C.src",
-                            const QByteArray& function = "C::F") {
-            QTest::newRow(name) << message << printedMessage << file << printedFile << function;
+        const Log log = OpenLog(m_path);
+        const auto check = [&](const QByteArray& message, const QByteArray& printedMessage,
+                               const QByteArray& file = "C.src",
+                               const QByteArray& printedFile = "C.src",
+                               const QByteArray& function = "C::F") {
+            Say(log, QByteArray(20000, 'x').constData()); // leaves nothing behind in the buffer
+            const int before = Content(m_path).size();
+            // Whole seconds, of a clock that may lag by a tick.
+            const QDateTime start = QDateTime::currentDateTime().addSecs(-2);
+            log->LogWarn(file.constData(), function.constData(), -212, "%s", message.constData());
+            const QByteArray line = Content(m_path).mid(before);
+            const QByteArray stamp = line.left(21);
+            const auto time = QDateTime::fromString(stamp, "[yyyy-MM-dd HH:mm:ss]");
+            QVERIFY2(time >= start && time <= QDateTime::currentDateTime(), stamp.constData());
+            const QByteArray whole = stamp + "-WARN- [" + function + "]:  " + printedMessage +
+                                     " - [" + printedFile + "(-212)]\r\n";
+            QCOMPARE(line, whole.left(2047));
         };
         const auto m = [](int n) { return QByteArray(n, 'm'); };
         const QByteArray cut = m(1850) + "... Log Info Length Over Size.";
-        row("plain", "begin %", "begin %");
-        row("empty", "", "", "", "", "");
-        row("1900 bytes stay", m(1900), m(1900));
-        row("1901 bytes are cut", m(1901), cut);
-        row("12000 bytes are cut", m(12000), cut);
-        row("line over its limit", m(1900), m(1900), m(300), m(255), m(300));
-        row("limit within the line end", m(1900), m(1900), m(101), m(101), "F");
-        row("backslashes", "x", "x", "C:\\src\\lib\\Foo.src", "Foo.src");
-        row("slashes", "x", "x", "/src/Foo.src", "/src/Foo.src");
-        row("long source path", "x", "x", "a\\" + m(300), m(253));
-    }
-    void writesLine()
-    {
-        QFETCH(QByteArray, message);
-        QFETCH(QByteArray, printedMessage);
-        QFETCH(QByteArray, file);
-        QFETCH(QByteArray, printedFile);
-        QFETCH(QByteArray, function);
-        const Log log = OpenLog(m_path);
-        Say(log, QByteArray(20000, 'x').constData()); // leaves nothing behind in the buffer
-        const int before = Content(m_path).size();
-        // Whole seconds, of a clock that may lag by a tick.
-        const QDateTime start = QDateTime::currentDateTime().addSecs(-2);
-        log->LogWarn(file.constData(), function.constData(), -212, "%s", message.constData());
-        const QByteArray line = Content(m_path).mid(before);
-        const QByteArray stamp = line.left(21);
-        const auto time = QDateTime::fromString(stamp, "[yyyy-MM-dd HH:mm:ss]");
-        QVERIFY2(time >= start && time <= QDateTime::currentDateTime(), stamp.constData());
-        const QByteArray whole = stamp + "-WARN- [" + function + "]:  " + printedMessage + " - [" +
-                                 printedFile + "(-212)]\r\n";
-        QCOMPARE(line, whole.left(2047));
+        check("begin %", "begin %");
+        check("", "", "", "", "");
+        check(m(1900), m(1900));
+        check(m(1901), cut);
+        check(m(12000), cut);
+        check(m(1900), m(1900), m(300), m(255), m(300)); // a line over its limit
+        check(m(1900), m(1900), m(101), m(101), "F");    // the limit lies within the line end
+        check("x", "x", "C:\\src\\lib\\Foo.src", "Foo.src");
+        check("x", "x", "/src/Foo.src", "/src/Foo.src");
+        check("x", "x", "a\\" + m(300), m(253));
     }
 
     void keepsThreshold()
