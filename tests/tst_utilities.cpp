@@ -150,6 +150,11 @@ private slots:
         RemoveDir(nullptr, Path("tree"));
         QVERIFY(!QFile::exists(Path("tree")));
         QVERIFY(QFile::link(Path("outside"), Path("link")));
+        QVERIFY(QDir().mkpath(Path("deep/inner")) && QFile::link(Path("deep/inner"), Path("up")));
+        Write(Path("deep/x"), "reached by way of the link");
+        Write(Path("x"), "named by the text alone");
+        RemoveDir(nullptr, Path("up/../x"));
+        QVERIFY(!QFile::exists(Path("deep/x")) && QFile::exists(Path("x")));
         RemoveDir(nullptr, Path("link") + '/');
         QVERIFY(!QFileInfo(Path("link")).isSymLink());
         QVERIFY(QFile::exists(Path("outside/kept")));

@@ -108,6 +108,22 @@ private slots:
 #endif
     }
 
+    // An archive that met itself while it grows would never end.
+    void archiveReachedByLink()
+    {
+#ifdef Q_OS_LINUX
+        QVERIFY(Write(Path("in/file"), QByteArray(100000, 'x')));
+        QVERIFY(QDir().mkdir(Path("archives")));
+        QVERIFY(QFile::link("in", Path("link")) && QFile::link("../archives", Path("in/out")));
+        for (const char* archive : {"link/a.zip", "archives/a.zip"}) {
+            QVERIFY(QuaZipOperate::CompressDir(Path(archive), Path("in")));
+            QCOMPARE(JlCompress::getFileList(Path(archive)).contains("file"), true);
+            QCOMPARE(JlCompress::getFileList(Path(archive)).contains("out/a.zip"), false);
+            QVERIFY(QFile::remove(Path(archive)));
+        }
+#endif
+    }
+
     void names_data()
     {
         QTest::addColumn<QStringList>("entries"); // besides a good one, "good/file"
