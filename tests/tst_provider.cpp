@@ -31,11 +31,13 @@ private Q_SLOTS:
     void start_data();
     void start();
     void createInstanceFailures();
-    void releaseUnloadsTheModule();
     void requests_data();
     void requests();
     void missingFilesAreNotAskedFor();
     void timelineProperties();
+
+private:
+    Script& script = Script::Get();
 };
 
 void tst_Provider::firstParentOwnsTheWrapper()
@@ -68,15 +70,20 @@ void tst_Provider::start()
     QFETCH(QString, failing);
     QFETCH(int, callCount);
     QFETCH(QString, line);
+    const QLibrary module(QCoreApplication::applicationDirPath() + "/NLECore.dll");
+    QVERIFY(!module.isLoaded());
     LogCapture log;
-    Script::Get().SetStatus(failing, E_FAIL);
+    script.statuses[failing] = E_FAIL;
     Provider();
+    QVERIFY(module.isLoaded());
     const QStringList calls = {"module.DllGetClassObject()", "classFactory.CreateInstance(null)",
                                "factory.Init(0)", "factory.GetTimelineFactory()"};
-    QCOMPARE(Script::Get().TakeCalls(), calls.mid(0, callCount));
+    QCOMPARE(script.TakeCalls(), calls.mid(0, callCount));
     const QStringList lines = log.Take();
     QCOMPARE(lines.isEmpty(), line.isEmpty());
     QVERIFY2(line.isEmpty() || lines.last().contains(line), qPrintable(lines.join('\n')));
+    EndSession();
+    QVERIFY(!module.isLoaded());
 }
 
 void tst_Provider::createInstanceFailures()
@@ -88,28 +95,16 @@ void tst_Provider::createInstanceFailures()
     };
     QVERIFY(!create(INLETimeline::Iid, INLEFactory::Iid));
     QVERIFY(!create(INLEFactory::ClassId, INLETimeline::Iid));
-    Script::Get().SetStatus("classFactory.CreateInstance", E_FAIL);
+    script.statuses["classFactory.CreateInstance"] = E_FAIL;
     QVERIFY(!create(INLEFactory::ClassId, INLEFactory::Iid));
-}
-
-void tst_Provider::releaseUnloadsTheModule()
-{
-    const QLibrary module(QCoreApplication::applicationDirPath() + "/NLECore.dll");
-    QVERIFY(!module.isLoaded());
-    Provider();
-    QVERIFY(module.isLoaded());
-    EndSession();
-    QVERIFY(!module.isLoaded());
 }
 
 void tst_Provider::requests_data()
 {
     using P = PlayerMaterProvider*;
     QTest::addColumn<Operation>("operation");
-    QTest::addColumn<QString>("call");
     const auto row = [](const char* call, auto operation) {
-        QTest::newRow(call) << Operation([=](P p) { return bool(operation(p)); })
-                            << QString::fromUtf8(call);
+        QTest::newRow(call) << Operation([=](P p) { return bool(operation(p)); });
     };
     row("timelineFactory.CreateProject(1920x1080, 25000000/1000000)",
         [](P p) { return p->CreateProjectTimeline(); });
@@ -131,27 +126,26 @@ void tst_Provider::requests_data()
 void tst_Provider::requests()
 {
     QFETCH(Operation, operation);
-    QFETCH(QString, call);
+    const QString call = QTest::currentDataTag();
     QVERIFY2(!operation(Provider()), "without a result");
-    QCOMPARE(QDir::fromNativeSeparators(Script::Get().TakeCalls().last()), call);
-
+    QCOMPARE(QDir::fromNativeSeparators(script.TakeCalls().last()), call);
     auto result = MakeCom<Node>("result");
     result->Offer<INLEVideoFrame>(MakeCom<VideoFrame>("frame"));
-    Script::Get().SetResult(call.section('(', 0, 0), result);
-    Script::Get().SetStatus(call.section('(', 0, 0), S_FALSE);
+    script.results[call.section('(', 0, 0)] = result;
+    script.statuses[call.section('(', 0, 0)] = S_FALSE;
     QVERIFY2(operation(Provider()), "a positive status is a success");
 }
 
 void tst_Provider::missingFilesAreNotAskedFor()
 {
     Provider();
-    Script::Get().TakeCalls();
+    script.TakeCalls();
     QVERIFY(!Provider()->CreateMediaTimeline("/none", false));
     QVERIFY(!Provider()->CreateCodecFromFile("/none"));
     QVERIFY(!Provider()->CreateMarkBook("/none"));
     QVERIFY(!Provider()->CreateTimelineFromTemplate(QCoreApplication::applicationFilePath()));
     QVERIFY(!Provider()->CreateTimelineFromTemplate(""));
-    QCOMPARE(Script::Get().TakeCalls(), QStringList());
+    QCOMPARE(script.TakeCalls(), QStringList());
 }
 
 void tst_Provider::timelineProperties()
@@ -161,7 +155,7 @@ void tst_Provider::timelineProperties()
     auto node = MakeCom<Node>("node");
     QCOMPARE(Provider()->GetTimelineFrameRate(node), 0);
     node->Offer<INLEPropertyHost>(MakeCom<PropertyHost>("host"));
-    Script::Get().SetResult("host.GetProperties", bag);
+    script.results["host.GetProperties"] = bag;
 
     Provider()->SetTimelineFrameRate(node, 30);
     QCOMPARE(Text(bag->rationals[rateKey]), "30000000/1000000");

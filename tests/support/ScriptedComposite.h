@@ -8,9 +8,8 @@ namespace Scripted {
 
 using Clips = QVector<NLEComPtr<INLETimeline>>;
 
-class Enumerator : public Object<INLETimelineEnumerator>
+struct Enumerator : Object<INLETimelineEnumerator>
 {
-public:
     explicit Enumerator(const Clips& clips) : Object("enumerator"), m_clips(clips) {}
 
     HRESULT IsEmpty(bool* out) override { return Value("IsEmpty", m_clips.isEmpty(), out); }
@@ -22,9 +21,8 @@ private:
     int m_index = 0;
 };
 
-class Composite : public Object<INLETimelineComposite, INLETimelineCompositeEx>
+struct Composite : Object<INLETimelineComposite, INLETimelineCompositeEx>
 {
-public:
     using Object::Object;
 
     Clips clips;
@@ -45,53 +43,42 @@ public:
     HRESULT RemoveClip(INLETimeline* clip) override { return Call("RemoveClip", clip); }
 };
 
-class RenderRegion : public Object<INLERenderRegion>
+struct RenderRegion : Object<INLERenderRegion>
 {
-public:
     using Object::Object;
 
-    NLERectF region = {};
-
-    HRESULT GetRenderRegion(NLERectF* out) override
-    {
-        return Value("GetRenderRegion", region, out);
-    }
+    SCRIPTED_VALUE(NLERectF, region, RenderRegion)
     SCRIPTED_SETTING(bool, current, Current)
 };
 
-class ProjectSetting : public Object<INLEProjectSetting>
+struct ProjectSetting : Object<INLEProjectSetting>
 {
-public:
     using Object::Object;
 
     SCRIPTED_RECORD(tagNLEProjectProfile, profile, Profile)
 };
 
-class SourceDecoder : public Object<INLETimelineSourceDecoder>
+struct SourceDecoder : Object<INLETimelineSourceDecoder>
 {
-public:
     using Object::Object;
 
     SCRIPTED_SETTING(int, gpuFirst, GPUFirst)
 };
 
-class MediaRelink : public Object<INLEMediaRelink>
+struct MediaRelink : Object<INLEMediaRelink>
 {
-public:
     using Object::Object;
 
     HRESULT Relink(const wchar_t* path, int flags) override { return Call("Relink", path, flags); }
     HRESULT Reload() override { return Call("Reload"); }
 };
 
-class Kinds : public Object<INLETimelineEffect, INLETimelineTransition, INLEAnimation>
+struct Kinds : Object<INLETimelineEffect, INLETimelineTransition>
 {
-public:
     using Object::Object;
 
     HRESULT GetEffectName(wchar_t*, int) override { return E_NOTIMPL; }
     HRESULT GetTransitionName(wchar_t*, int) override { return E_NOTIMPL; }
-    HRESULT GetAnimationName(wchar_t*, int) override { return E_NOTIMPL; }
 };
 
 } // namespace Scripted

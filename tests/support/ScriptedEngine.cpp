@@ -11,16 +11,12 @@ namespace Scripted {
 
 Named::Named(const QString& name) : m_name(name)
 {
-    Script& script = Script::Get();
-    QMutexLocker lock(&script.m_mutex);
-    script.m_live.append(name);
+    Script::Get().liveObjects.append(name);
 }
 
 Named::~Named()
 {
-    Script& script = Script::Get();
-    QMutexLocker lock(&script.m_mutex);
-    script.m_live.removeOne(m_name);
+    Script::Get().liveObjects.removeOne(m_name);
 }
 
 Script& Script::Get()
@@ -31,66 +27,21 @@ Script& Script::Get()
 
 void Script::Reset()
 {
-    decltype(m_results) results; // released outside of the lock
-    QMutexLocker lock(&m_mutex);
     m_calls.clear();
-    m_statuses.clear();
-    results.swap(m_results);
-    lock.unlock();
-}
-
-void Script::SetStatus(const QString& operation, HRESULT status)
-{
-    QMutexLocker lock(&m_mutex);
-    m_statuses.insert(operation, status);
-}
-
-void Script::SetResult(const QString& operation, NLEComPtr<IUnknown> object)
-{
-    QMutexLocker lock(&m_mutex);
-    m_results[operation].swap(object);
-    lock.unlock(); // before the old result is released
-}
-
-QStringList Script::TakeCalls()
-{
-    QMutexLocker lock(&m_mutex);
-    return std::exchange(m_calls, QStringList());
-}
-
-QStringList Script::LiveObjects() const
-{
-    QMutexLocker lock(&m_mutex);
-    QStringList live = m_live;
-    live.sort();
-    return live;
+    statuses.clear();
+    results.clear();
 }
 
 HRESULT Script::Record(const QString& operation, const QString& arguments)
 {
-    QMutexLocker lock(&m_mutex);
     m_calls.append(operation + '(' + arguments + ')');
-    return m_statuses.value(operation, S_OK);
-}
-
-NLEComPtr<IUnknown> Script::Result(const QString& operation) const
-{
-    QMutexLocker lock(&m_mutex);
-    return m_results.value(operation);
+    return statuses.value(operation, S_OK);
 }
 
 namespace {
 
-// An operation that delivers the script's object.
-#define SCRIPTED_OBJECT(Type, Name)                                                                \
-    HRESULT Name(Type** out) override                                                              \
-    {                                                                                              \
-        return Give(#Name, out);                                                                   \
-    }
-
-class TimelineFactory : public Object<INLETimelineFactory>
+struct TimelineFactory : Object<INLETimelineFactory>
 {
-public:
     using Object::Object;
 
     HRESULT GetDefaultProfile(tagNLEProjectProfile* profile) override
@@ -102,18 +53,9 @@ public:
     {
         return Give("CreateProject", out, profile->frameSize, profile->frameRate);
     }
-    HRESULT CreateMedia(const wchar_t* path, INLETimeline** out) override
-    {
-        return Give("CreateMedia", out, path);
-    }
-    HRESULT CreateFromTemplate(const wchar_t* folder, INLETimeline** out) override
-    {
-        return Give("CreateFromTemplate", out, folder);
-    }
-    HRESULT CreateAudioFilter(const wchar_t* filter, INLETimeline** out) override
-    {
-        return Give("CreateAudioFilter", out, filter);
-    }
+    SCRIPTED_OBJECT_FROM(const wchar_t*, INLETimeline, CreateMedia)
+    SCRIPTED_OBJECT_FROM(const wchar_t*, INLETimeline, CreateFromTemplate)
+    SCRIPTED_OBJECT_FROM(const wchar_t*, INLETimeline, CreateAudioFilter)
     HRESULT CreateColor(std::uint32_t argb, NLESize size, float rate, INLETimeline** out) override
     {
         return Give("CreateColor", out, QString::number(argb, 16), size, rate);
@@ -122,15 +64,11 @@ public:
     {
         return Give("CreateTipText", out, text, family);
     }
-    HRESULT CreateVirtual(int type, INLETimeline** out) override
-    {
-        return Give("CreateVirtual", out, type);
-    }
+    SCRIPTED_OBJECT_FROM(int, INLETimeline, CreateVirtual)
 };
 
-class Factory : public Object<INLEFactory>
+struct Factory : Object<INLEFactory>
 {
-public:
     using Object::Object;
 
     HRESULT Init(int flags) override { return Call("Init", flags); }
@@ -151,18 +89,9 @@ public:
         return Give("CreateVideoFrame", out, width, height, pixelFormat, memory, poolFlags,
                     poolMinimum, poolMaximum, poolReserve);
     }
-    HRESULT CreateAudioFrame(int sampleCount, INLEAudioFrame** out) override
-    {
-        return Give("CreateAudioFrame", out, sampleCount);
-    }
-    HRESULT CreateCodecFromFile(const wchar_t* path, INLECodec** out) override
-    {
-        return Give("CreateCodecFromFile", out, path);
-    }
-    HRESULT CreateMarkBook(const wchar_t* path, INLEMarkBook** out) override
-    {
-        return Give("CreateMarkBook", out, path);
-    }
+    SCRIPTED_OBJECT_FROM(int, INLEAudioFrame, CreateAudioFrame)
+    SCRIPTED_OBJECT_FROM(const wchar_t*, INLECodec, CreateCodecFromFile)
+    SCRIPTED_OBJECT_FROM(const wchar_t*, INLEMarkBook, CreateMarkBook)
     SCRIPTED_OBJECT(INLEDocumentSerialize, CreateDocumentSerialize)
     SCRIPTED_OBJECT(INLEFrameExtractor, CreateFrameExtractor)
     SCRIPTED_OBJECT(INLEThumbnailExtractor, CreateThumbnailExtractor)
@@ -173,9 +102,8 @@ public:
     HRESULT Shutdown(int flags) override { return Call("Shutdown", flags); }
 };
 
-class ClassFactory : public Object<IClassFactory>
+struct ClassFactory : Object<IClassFactory>
 {
-public:
     using Object::Object;
 
     HRESULT CreateInstance(IUnknown* outer, REFIID iid, void** out) override

@@ -6,7 +6,6 @@
 #include "EngineApi/NLETypes.h"
 
 #include <QHash>
-#include <QMutex>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -30,34 +29,27 @@ private:
     const QString m_name;
 };
 
-/// What the engine does and what happened to it; one for the process. May be used from any thread.
+/// What the engine does and what happened to it; one for the process.
 class Script
 {
 public:
     static Script& Get();
 
+    /// Status of "name.Operation"; 0 unless set.
+    QHash<QString, HRESULT> statuses;
+    /// Object that "name.Operation" delivers; without one it gives E_FAIL.
+    QHash<QString, NLEComPtr<IUnknown>> results;
+    /// Names of the objects that are not destroyed yet.
+    QStringList liveObjects;
+
     /// Forgets calls, statuses and results.
     void Reset();
-    /// Status of "name.Operation" from now on; 0 unless set.
-    void SetStatus(const QString& operation, HRESULT status);
-    /// Object that "name.Operation" delivers from now on; without one it gives E_FAIL.
-    void SetResult(const QString& operation, NLEComPtr<IUnknown> object);
     /// The calls since the last time, in order.
-    QStringList TakeCalls();
-    /// Names of the objects that are not destroyed yet, sorted.
-    QStringList LiveObjects() const;
-
+    QStringList TakeCalls() { return std::exchange(m_calls, {}); }
     HRESULT Record(const QString& operation, const QString& arguments);
-    NLEComPtr<IUnknown> Result(const QString& operation) const;
 
 private:
-    friend class Named;
-
-    mutable QMutex m_mutex;
     QStringList m_calls;
-    QStringList m_live;
-    QHash<QString, HRESULT> m_statuses;
-    QHash<QString, NLEComPtr<IUnknown>> m_results;
 };
 
 /// What the engine's module exports.
@@ -102,28 +94,50 @@ inline QString Text(const NLERange& range)
     return QStringLiteral("%1..%2").arg(range.in).arg(range.out);
 }
 
-/// Declares a \a field of a scripted object with its setter and getter.
-#define SCRIPTED_SETTING(Type, field, Name)                                                        \
+/// Declares a \a field of a scripted object with its getter.
+#define SCRIPTED_VALUE(Type, field, Name)                                                          \
     Type field = {};                                                                               \
-    HRESULT Set##Name(Type value) override                                                         \
-    {                                                                                              \
-        return Set("Set" #Name, field, value);                                                     \
-    }                                                                                              \
     HRESULT Get##Name(Type* out) override                                                          \
     {                                                                                              \
         return Value("Get" #Name, field, out);                                                     \
     }
 
+/// As SCRIPTED_VALUE, with a setter.
+#define SCRIPTED_SETTING(Type, field, Name)                                                        \
+    SCRIPTED_VALUE(Type, field, Name)                                                              \
+    HRESULT Set##Name(Type value) override                                                         \
+    {                                                                                              \
+        return Set("Set" #Name, field, value);                                                     \
+    }
+
 /// As SCRIPTED_SETTING, for a record that is set through a pointer.
 #define SCRIPTED_RECORD(Type, field, Name)                                                         \
-    Type field = {};                                                                               \
+    SCRIPTED_VALUE(Type, field, Name)                                                              \
     HRESULT Set##Name(const Type* value) override                                                  \
     {                                                                                              \
         return Set("Set" #Name, field, *value);                                                    \
-    }                                                                                              \
-    HRESULT Get##Name(Type* out) override                                                          \
+    }
+
+/// As SCRIPTED_VALUE, for a text that is copied into a buffer.
+#define SCRIPTED_TEXT(field, Name)                                                                 \
+    QString field;                                                                                 \
+    HRESULT Get##Name(wchar_t* buffer, int capacity) override                                      \
     {                                                                                              \
-        return Value("Get" #Name, field, out);                                                     \
+        return Write("Get" #Name, field, buffer, capacity);                                        \
+    }
+
+/// Declares an operation that delivers the script's object.
+#define SCRIPTED_OBJECT(Type, Name)                                                                \
+    HRESULT Name(Type** out) override                                                              \
+    {                                                                                              \
+        return Give(#Name, out);                                                                   \
+    }
+
+/// As SCRIPTED_OBJECT, of one \a Argument.
+#define SCRIPTED_OBJECT_FROM(Argument, Type, Name)                                                 \
+    HRESULT Name(Argument argument, Type** out) override                                           \
+    {                                                                                              \
+        return Give(#Name, out, argument);                                                         \
     }
 
 /// A scripted object that implements \a Interfaces.
@@ -154,10 +168,7 @@ protected:
     template <typename T>
     HRESULT Set(const char* operation, T& field, const T& value)
     {
-        const HRESULT status = Call(operation, value);
-        if (SUCCEEDED(status))
-            field = value;
-        return status;
+        return Value(operation, value, &field, value);
     }
     /// As Call(); on success delivers the script's object.
     template <typename T, typename... Arguments>
@@ -167,7 +178,7 @@ protected:
         const HRESULT status = Call(operation, arguments...);
         if (FAILED(status))
             return status;
-        auto object = Script::Get().Result(name() + '.' + operation).template query<T>();
+        auto object = Script::Get().results.value(name() + '.' + operation).template query<T>();
         *out = object.detach();
         return *out ? status : E_FAIL;
     }

@@ -11,16 +11,14 @@
 /// Media descriptions, pictures, frames and extractors.
 namespace Scripted {
 
-class MediaInfo : public Object<INLEMediaInfo>
+struct MediaInfo : Object<INLEMediaInfo>
 {
-public:
     using Object::Object;
 
     int kind = NLEMedia_Video;
     QVector<NLEStreamInfo> streams;
     std::uint32_t frameCount = 0;
     NLERational rate = {25, 1};
-    QString filePath;
 
     HRESULT GetKind(int* out) override { return Value("GetKind", kind, out); }
     HRESULT GetStreamCount(std::uint32_t* out) override
@@ -40,15 +38,11 @@ public:
             *count = frameCount;
         return status;
     }
-    HRESULT GetFilePath(wchar_t* buffer, int capacity) override
-    {
-        return Write("GetFilePath", filePath, buffer, capacity);
-    }
+    SCRIPTED_TEXT(filePath, FilePath)
 };
 
-class Picture : public Object<INLEPicture>
+struct Picture : Object<INLEPicture>
 {
-public:
     using Object::Object;
 
     QImage image; ///< ARGB32
@@ -62,9 +56,8 @@ public:
     }
 };
 
-class VideoFrame : public Object<INLEVideoFrame>
+struct VideoFrame : Object<INLEVideoFrame>
 {
-public:
     using Object::Object;
 
     QImage image; ///< ARGB32
@@ -83,9 +76,8 @@ public:
     HRESULT GetMemory(int* out) override { return Value("GetMemory", int(NLEMemory_System), out); }
 };
 
-class FrameExtractor : public Object<INLEFrameExtractor>
+struct FrameExtractor : Object<INLEFrameExtractor>
 {
-public:
     using Object::Object;
 
     HRESULT Open(INLETimeline* timeline, int flags) override
@@ -103,9 +95,8 @@ public:
     HRESULT Finish() override { return Call("Finish"); }
 };
 
-class ThumbnailExtractor : public Object<INLEThumbnailExtractor>
+struct ThumbnailExtractor : Object<INLEThumbnailExtractor>
 {
-public:
     using Object::Object;
 
     HRESULT SetSource(INLEMediaInfo* info, std::uint32_t videoStream) override

@@ -12,9 +12,8 @@
 namespace Scripted {
 
 /// A property bag that keeps what it is given; a getter fails for a key that has nothing.
-class Properties : public Object<INLEProperties>
+struct Properties : Object<INLEProperties>
 {
-public:
     using Object::Object;
 
 #define SCRIPTED_VALUES(Type, values, Name)                                                        \
@@ -61,22 +60,17 @@ private:
 };
 
 /// Hands out the script's bag.
-class PropertyHost : public Object<INLEPropertyHost>
+struct PropertyHost : Object<INLEPropertyHost>
 {
-public:
     using Object::Object;
 
-    HRESULT GetProperties(INLEProperties** out) override { return Give("GetProperties", out); }
+    SCRIPTED_OBJECT(INLEProperties, GetProperties)
 };
 
 /// A node. It answers INLETimeline, and whatever other interfaces the test offers.
-class Node : public Object<INLETimeline>
+struct Node : Object<INLETimeline>
 {
-public:
     using Object::Object;
-
-    std::uint32_t id = 1;
-    NLERange totalRange = {0, 0};
 
     /// Answers a query for \a Interface with \a facet, an object of its own.
     template <typename Interface>
@@ -99,14 +93,11 @@ public:
         const HRESULT status = Call("GetInterface", iid, reserved1, reserved2);
         return FAILED(status) ? status : QueryInterface(iid, out);
     }
-    HRESULT GetId(std::uint32_t* out) override { return Value("GetId", id, out); }
+    SCRIPTED_VALUE(std::uint32_t, id, Id)
     HRESULT GetParent(INLETimeline** out) override { return Give("GetParent", out); }
     HRESULT GetProperties(INLEProperties** out) override { return Give("GetProperties", out); }
     SCRIPTED_RECORD(NLERange, range, Range)
-    HRESULT GetTotalRange(NLERange* out) override
-    {
-        return Value("GetTotalRange", totalRange, out);
-    }
+    SCRIPTED_VALUE(NLERange, totalRange, TotalRange)
     SCRIPTED_SETTING(NLERational, rate, RenderFrameRate)
     SCRIPTED_SETTING(int, level, Level)
     SCRIPTED_SETTING(int, position, Position)
@@ -125,35 +116,18 @@ private:
 };
 
 /// What a node that plays a media file answers.
-class Source : public Object<INLETimelineSource>
+struct Source : Object<INLETimelineSource>
 {
-public:
     using Object::Object;
 
-    QString filePath;
-    std::uint32_t videoStream = NLENoStream;
-    std::uint32_t audioStream = NLENoStream;
-
-    HRESULT GetFilePath(wchar_t* buffer, int capacity) override
-    {
-        return Write("GetFilePath", filePath, buffer, capacity);
-    }
+    SCRIPTED_TEXT(filePath, FilePath)
     HRESULT SetFilePath(const wchar_t* path) override
     {
-        const HRESULT status = Call("SetFilePath", path);
-        if (SUCCEEDED(status))
-            filePath = Text(path);
-        return status;
+        return Set("SetFilePath", filePath, Text(path));
     }
     HRESULT GetMediaInfo(INLEMediaInfo** out) override { return Give("GetMediaInfo", out); }
-    HRESULT GetVideoStreamIndex(std::uint32_t* out) override
-    {
-        return Value("GetVideoStreamIndex", videoStream, out);
-    }
-    HRESULT GetAudioStreamIndex(std::uint32_t* out) override
-    {
-        return Value("GetAudioStreamIndex", audioStream, out);
-    }
+    SCRIPTED_VALUE(std::uint32_t, videoStream, VideoStreamIndex)
+    SCRIPTED_VALUE(std::uint32_t, audioStream, AudioStreamIndex)
 };
 
 } // namespace Scripted

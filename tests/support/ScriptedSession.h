@@ -16,7 +16,7 @@ inline QStringList EndSession()
     CVCreateInstance::Instance()->Release();
     ReleseGlobalLogInstance();
     Script::Get().Reset();
-    return Script::Get().LiveObjects();
+    return Script::Get().liveObjects;
 }
 
 } // namespace Scripted

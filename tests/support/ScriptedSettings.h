@@ -9,9 +9,8 @@
 /// Sound, picture, blend, transform and mixer settings.
 namespace Scripted {
 
-class AudioStreamProcess : public Object<INLEAudioStreamProcess>
+struct AudioStreamProcess : Object<INLEAudioStreamProcess>
 {
-public:
     using Object::Object;
 
     SCRIPTED_SETTING(int, pitch, Pitch)
@@ -27,7 +26,6 @@ public:
     SCRIPTED_SETTING(bool, fadeOutEnable, FadeOutEnable)
     SCRIPTED_SETTING(int, fadeOutRange, FadeOutRange)
     SCRIPTED_SETTING(bool, equalizerEnable, EqualizerEnable)
-    QString equalizerName;
     double band = 0; ///< the only one
 
     HRESULT GetVolumeKeyFrameParam(INLEKeyFrameParam** out) override
@@ -39,10 +37,7 @@ public:
     {
         return Set("SetEqualizerName", equalizerName, Text(name));
     }
-    HRESULT GetEqualizerName(wchar_t* buffer, int capacity) override
-    {
-        return Write("GetEqualizerName", equalizerName, buffer, capacity);
-    }
+    SCRIPTED_TEXT(equalizerName, EqualizerName)
     HRESULT SetEqualizerParam(const double* params) override
     {
         return Value("SetEqualizerParam", *params, &band);
@@ -53,12 +48,9 @@ public:
     }
 };
 
-class VideoStreamProcess : public Object<INLEVideoStreamProcess>
+struct VideoStreamProcess : Object<INLEVideoStreamProcess>
 {
-public:
     using Object::Object;
-
-    QString proxyPath;
 
     SCRIPTED_RECORD(NLEAlphaChannelRecord, record, AlphaChannel)
     HRESULT Reserved1() override { return E_NOTIMPL; }
@@ -72,17 +64,13 @@ public:
     HRESULT Reserved9() override { return E_NOTIMPL; }
     HRESULT Reserved10() override { return E_NOTIMPL; }
     HRESULT SetProxyFile(const wchar_t* path) override { return Call("SetProxyFile", path); }
-    HRESULT GetProxyPath(wchar_t* buffer, int capacity) override
-    {
-        return Write("GetProxyPath", proxyPath, buffer, capacity);
-    }
+    SCRIPTED_TEXT(proxyPath, ProxyPath)
     SCRIPTED_SETTING(bool, proxyEnabled, ProxyEnabled)
     SCRIPTED_SETTING(int, alphaType, PremultipliedAlphaType)
 };
 
-class BlendSetting : public Object<INLEBlendSetting>
+struct BlendSetting : Object<INLEBlendSetting>
 {
-public:
     using Object::Object;
 
     SCRIPTED_SETTING(bool, enable, Enable)
@@ -90,9 +78,8 @@ public:
     SCRIPTED_SETTING(int, alpha, Alpha)
 };
 
-class Transform : public Object<INLETransform>
+struct Transform : Object<INLETransform>
 {
-public:
     using Object::Object;
 
     SCRIPTED_SETTING(bool, enable, Enable)
@@ -104,9 +91,8 @@ public:
     HRESULT SetLock(bool lock) override { return Call("SetLock", lock); }
 };
 
-class MixerSetting : public Object<INLEMixerSetting>
+struct MixerSetting : Object<INLEMixerSetting>
 {
-public:
     using Object::Object;
 
     tagMixerParam param = {};
