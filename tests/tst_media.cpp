@@ -31,12 +31,19 @@ int ShownFrame(const TestClip& clip, int frame)
     return frame;
 }
 
-double PeakOf(const std::vector<float>& samples)
+float PeakOf(const std::vector<float>& samples)
 {
-    double peak = 0.0;
-    for (float sample : samples)
-        peak = std::max(peak, double(std::abs(sample)));
-    return peak;
+    const auto [low, high] = std::minmax_element(samples.begin(), samples.end());
+    return std::max(-*low, *high);
+}
+
+// The greatest difference of \a count samples.
+float Difference(const float* a, const float* b, size_t count)
+{
+    float difference = 0.0F;
+    for (size_t i = 0; i < count; ++i)
+        difference = std::max(difference, std::abs(a[i] - b[i]));
+    return difference;
 }
 
 bool Write(const QString& path, const QByteArray& content)
@@ -56,6 +63,15 @@ TestClip SmallClip(int frames)
     TestClip clip;
     clip.size = Thumbnail;
     clip.frames = frames;
+    return clip;
+}
+
+TestClip SoundClip(const QString& codec, double toneStart)
+{
+    TestClip clip;
+    clip.codec.clear();
+    clip.audioCodec = codec;
+    clip.toneStart = toneStart;
     return clip;
 }
 
@@ -87,14 +103,17 @@ private slots:
 
 private:
     QString Path(const QString& name) const { return m_dir.filePath(name); }
-    std::shared_ptr<const MediaInfo> Make(const QString& name, const TestClip& clip)
+    /// What is in the file; without an object, and with a warning, when that fails.
+    std::shared_ptr<const MediaInfo> Probe(const QString& name, QString error = {})
     {
-        const QString failure = MakeTestClip(Path(name), clip);
-        QString error = failure;
-        auto info = failure.isEmpty() ? ProbeMedia(Path(name), &error) : nullptr;
+        auto info = error.isEmpty() ? ProbeMedia(Path(name), &error) : nullptr;
         if (!info)
             qWarning("%s", qPrintable(error));
         return info;
+    }
+    std::shared_ptr<const MediaInfo> Make(const QString& name, const TestClip& clip)
+    {
+        return Probe(name, MakeTestClip(Path(name), clip));
     }
 
     QTemporaryDir m_dir;
@@ -112,7 +131,7 @@ void tst_Media::exactFrames_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<TestClip>("clip");
-    const auto row = [](const char* title, const char* name, TestClip clip) {
+    const auto row = [](const char* title, const char* name, const TestClip& clip) {
         QTest::newRow(title) << QString::fromUtf8(name) << clip;
     };
     TestClip clip = SmallClip(300);
@@ -170,16 +189,13 @@ void tst_Media::exactFrames()
     QCOMPARE(info->kind, MediaKind::Video);
     QCOMPARE(info->frameRate.num, int64_t(clip.rateNum));
     QCOMPARE(info->frameRate.den, int64_t(clip.rateDen));
-    QVERIFY2(std::abs(int(info->frameCount) - clip.frames) <= 1,
-             qPrintable(QString::number(info->frameCount)));
-    if (name.endsWith(".mp4"))
-        QCOMPARE(int(info->frameCount), clip.frames);
+    const int tolerance = name.endsWith(".mp4") ? 0 : 1;
+    QVERIFY(std::abs(int(info->frameCount) - clip.frames) <= tolerance);
     const MediaStream& stream = info->streams[size_t(info->videoStream)];
     QCOMPARE(QSize(stream.width, stream.height), clip.size);
 
-    QString error;
-    const auto random = FrameDecoder::Open(info, info->videoStream, &error);
-    QVERIFY2(random, qPrintable(error));
+    const auto random = FrameDecoder::Open(info, info->videoStream, nullptr);
+    QVERIFY(random);
     std::mt19937 generator(7);
     QVector<int> frames{clip.frames - 1, 0, 1, clip.frames - 2, clip.frames / 2};
     for (int i = 0; i < 60; ++i)
@@ -193,14 +209,13 @@ void tst_Media::exactFrames()
     }
 
     // In sequence, and bit for bit the same as after jumps.
-    const auto sequential = FrameDecoder::Open(info, info->videoStream, &error);
+    const auto sequential = FrameDecoder::Open(info, info->videoStream, nullptr);
     for (int frame = 0; frame < clip.frames; ++frame) {
         const QImage picture = sequential->Picture(frame, Thumbnail);
         QCOMPARE(ReadFrameNumber(picture), ShownFrame(clip, frame));
         if (frame % 29 == 11)
             QCOMPARE(random->Picture(frame, Thumbnail), picture);
     }
-    QVERIFY(!sequential->Picture(clip.frames - 1, Thumbnail).isNull());
     QVERIFY(sequential->Picture(clip.frames + 40, Thumbnail).isNull());
     QVERIFY(random->Picture(clip.frames + 4000, Thumbnail).isNull());
     QCOMPARE(ReadFrameNumber(random->Picture(clip.frames - 1, Thumbnail)),
@@ -212,39 +227,33 @@ void tst_Media::refused_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("reason");
-    const QByteArray subtitles = "1\n00:00:01,000 --> 00:00:02,000\nHello\n\n";
     std::mt19937 generator(11);
     QByteArray noise(100000, Qt::Uninitialized);
     for (char& byte : noise)
         byte = char(generator());
-    TestClip clip = SmallClip(25);
     const QString whole = Path("whole.mp4");
-    QCOMPARE(MakeTestClip(whole, clip), QString());
-    const QByteArray local = "file '" + QFile::encodeName(whole) + "'\n";
-    const QString notMedia = ": not a media file: Invalid data found when processing input";
-
-    QTest::newRow("no file") << "missing.mp4" << QByteArray() << ": no such file";
-    QTest::newRow("folder") << "folder" << QByteArray() << " is a folder";
-    QTest::newRow("pipe") << "pipe" << QByteArray() << " is not a regular file";
-    QTest::newRow("empty") << "empty.mp4" << QByteArray("") << " is empty";
-    QTest::newRow("noise") << "noise.mp4" << noise << notMedia;
-    QTest::newRow("text") << "text.mp4" << QByteArray("just a few words\n").repeated(50)
-                          << notMedia;
-    QTest::newRow("subtitles") << "subtitles.mp4" << subtitles << ": no picture or sound in it";
-    QTest::newRow("play list") << "list.mp4"
-                               << QByteArray("#EXTM3U\n#EXT-X-TARGETDURATION:1\n#EXTINF:1,\n") +
-                                      QFile::encodeName(whole) + "\n#EXT-X-ENDLIST\n"
-                               << notMedia;
-    QTest::newRow("play list by suffix")
-        << "list.m3u8"
-        << "#EXTM3U\n#EXTINF:1,\n" + QFile::encodeName(whole) + "\n"
-        << notMedia;
-    QTest::newRow("list of files") << "concat.mp4"
-                                   << "ffconcat version 1.0\n" + local << notMedia;
-    QTest::newRow("text painted as picture")
-        << "art.txt" << QByteArray("\x1b[31mred\x1b[0m\n").repeated(200) << notMedia;
-    QTest::newRow("cut before its header")
-        << "cut.mp4" << ReadAll(whole).left(int(QFileInfo(whole).size() * 2 / 3)) << notMedia;
+    QCOMPARE(MakeTestClip(whole, SmallClip(25)), QString());
+    const QByteArray inside = QFile::encodeName(whole) + '\n';
+    const char* const notMedia = ": not a media file: Invalid data found when processing input";
+    const auto row = [](const char* title, QString name, QByteArray content, QString reason) {
+        QTest::newRow(title) << name << content << reason;
+    };
+    row("no file", "missing.mp4", {}, ": no such file");
+    row("folder", "folder", {}, " is a folder");
+    row("pipe", "pipe", {}, " is not a regular file");
+    row("empty", "empty.mp4", "", " is empty");
+    row("noise", "noise.mp4", noise, notMedia);
+    row("text", "text.mp4", QByteArray("just a few words\n").repeated(50), notMedia);
+    row("subtitles", "subtitles.mp4", "1\n00:00:01,000 --> 00:00:02,000\nHello\n\n",
+        ": no picture or sound in it");
+    const QByteArray playList = "#EXTM3U\n#EXT-X-TARGETDURATION:1\n#EXTINF:1,\n" + inside;
+    row("play list", "list.mp4", playList + "#EXT-X-ENDLIST\n", notMedia);
+    row("play list by suffix", "list.m3u8", playList, notMedia);
+    row("list of files", "concat.mp4", "ffconcat version 1.0\nfile " + inside, notMedia);
+    row("text painted as picture", "art.txt", QByteArray("\x1b[31mred\x1b[0m\n").repeated(200),
+        notMedia);
+    row("cut before its header", "cut.mp4",
+        ReadAll(whole).left(int(QFileInfo(whole).size() * 2 / 3)), notMedia);
 }
 
 void tst_Media::refused()
@@ -260,18 +269,16 @@ void tst_Media::refused()
     else if (!content.isNull())
         QVERIFY(Write(path, content));
     QString error;
-    QElapsedTimer timer;
-    timer.start();
     QVERIFY(!ProbeMedia(path, &error));
     QCOMPARE(error, path + reason);
     QVERIFY(!ProbeMedia(path, nullptr));
 
     // A file that turned bad after it was described opens no decoder either.
-    MediaInfo stale;
-    stale.path = path;
-    stale.streams.resize(1);
-    stale.streams[0].type = StreamType::Video;
-    QVERIFY(!FrameDecoder::Open(std::make_shared<MediaInfo>(stale), 0, &error));
+    const auto stale = std::make_shared<MediaInfo>();
+    stale->path = path;
+    stale->streams.resize(1);
+    stale->streams[0].type = StreamType::Video;
+    QVERIFY(!FrameDecoder::Open(stale, 0, &error));
 }
 
 void tst_Media::cutFile()
@@ -283,12 +290,11 @@ void tst_Media::cutFile()
     const QString path = Path("faststart.mp4");
     QCOMPARE(MakeTestClip(path, clip), QString());
     QVERIFY(QFile::resize(path, QFileInfo(path).size() * 2 / 3));
-    QString error;
-    const auto info = ProbeMedia(path, &error);
-    QVERIFY2(info, qPrintable(error));
+    const auto info = Probe("faststart.mp4");
+    QVERIFY(info);
     QCOMPARE(int(info->frameCount), clip.frames);
 
-    const auto decoder = FrameDecoder::Open(info, info->videoStream, &error);
+    const auto decoder = FrameDecoder::Open(info, info->videoStream, nullptr);
     QVERIFY(decoder->Picture(299, Thumbnail).isNull());
     int lastShown = -1;
     for (int frame = 0; frame < clip.frames; ++frame) {
@@ -300,44 +306,39 @@ void tst_Media::cutFile()
         QVERIFY(lastShown >= 0 && frame - lastShown <= 2);
     }
     QVERIFY(lastShown > 120 && lastShown < 280);
-    const auto other = FrameDecoder::Open(info, info->videoStream, &error);
+    const auto other = FrameDecoder::Open(info, info->videoStream, nullptr);
     QCOMPARE(ReadFrameNumber(other->Picture(lastShown, Thumbnail)), lastShown);
 }
 
 void tst_Media::stillPicture_data()
 {
+    QTest::addColumn<QString>("suffix"); // names the format
     QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("isPng");
-    QTest::newRow("PNG with alpha") << "alpha.png" << true;
-    QTest::newRow("PNG of another name") << "alpha.mp4" << true;
-    QTest::newRow("JPEG") << "photo %d.jpg" << false;
-    QTest::newRow("GIF of one picture") << "one.gif" << false;
+    const auto row = [](const char* title, QString suffix, QString name) {
+        QTest::newRow(title) << suffix << name;
+    };
+    row("PNG with alpha", "png", "alpha.png");
+    row("PNG of another name", "png", "alpha.mp4");
+    row("JPEG", "jpg", "photo %d.jpg");
+    row("GIF of one picture", "gif", "one.gif");
 }
 
 void tst_Media::stillPicture()
 {
+    QFETCH(QString, suffix);
     QFETCH(QString, name);
-    QFETCH(bool, isPng);
-    const QString path = Path(name);
     QImage source = PaintFrameNumber(77, {320, 180});
-    if (isPng) {
-        source.setPixelColor(0, 179, QColor(200, 100, 50, 64));
-        QVERIFY(source.save(path, "PNG"));
-    } else {
-        QVERIFY(source.save(Path("source.png")));
-        QCOMPARE(RunFfmpeg({"-i", Path("source.png"), "-update", "1",
-                            path.contains('%') ? Path("plain.jpg") : path}),
-                 QString());
-        if (path.contains('%'))
-            QVERIFY(QFile::rename(Path("plain.jpg"), path));
-    }
-    QString error;
-    const auto info = ProbeMedia(path, &error);
-    QVERIFY2(info, qPrintable(error));
+    source.setPixelColor(0, 179, QColor(200, 100, 50, 64));
+    const QString made = Path("made." + suffix);
+    QVERIFY(source.save(Path("source.png")));
+    QCOMPARE(RunFfmpeg({"-i", Path("source.png"), "-update", "1", made}), QString());
+    QVERIFY(QFile::rename(made, Path(name)));
+    const auto info = Probe(name);
+    QVERIFY(info);
     QCOMPARE(info->kind, MediaKind::Image);
     QCOMPARE(info->frameCount, 1U);
     QCOMPARE(info->frameRate, (Rational{25, 1}));
-    const auto decoder = FrameDecoder::Open(info, 0, &error);
+    const auto decoder = FrameDecoder::Open(info, 0, nullptr);
     for (int frame : {0, 1000000, 3})
         QCOMPARE(ReadFrameNumber(decoder->Picture(frame, Thumbnail)), 77);
     // Sizes that need more than the scaler gives in one go, or lines of odd length.
@@ -345,7 +346,7 @@ void tst_Media::stillPicture()
         QCOMPARE(decoder->Picture(0, size).size(), size);
     QVERIFY(decoder->Picture(0, QSize()).isNull());
     QVERIFY(decoder->Picture(-1, Thumbnail).isNull());
-    if (isPng) {
+    if (suffix == "png") {
         QVERIFY(info->streams[0].hasAlpha);
         QCOMPARE(decoder->Picture(0, source.size()).pixel(0, 179), qRgba(200, 100, 50, 64));
     }
@@ -381,13 +382,12 @@ void tst_Media::orientation()
         QVERIFY(coded.save(Path("coded.png")));
         QCOMPARE(RunFfmpeg({"-i", Path("coded.png"), "-update", "1", Path("coded.jpg")}),
                  QString());
-        QByteArray exif("\xff\xe1\x00\x22"
-                        "Exif\0\0"
-                        "MM\0*\0\0\0\x08"
-                        "\0\x01"
-                        "\x01\x12\0\x03\0\0\0\x01\0\0\0\0"
-                        "\0\0\0\0",
-                        36);
+        // A segment that holds nothing but the orientation, its 30th byte.
+        QByteArray exif = QByteArray::fromHex("ffe10022457869660000"
+                                              "4d4d002a00000008"
+                                              "0001"
+                                              "011200030000000100000000"
+                                              "00000000");
         exif[29] = name.at(4).toLatin1() - '0';
         QByteArray photograph = ReadAll(Path("coded.jpg"));
         QVERIFY(Write(path, photograph.insert(2, exif)));
@@ -398,28 +398,25 @@ void tst_Media::orientation()
         clip.rotation = rotation;
         QCOMPARE(MakeTestClip(path, clip), QString());
     }
-    QString error;
-    const auto info = ProbeMedia(path, &error);
-    QVERIFY2(info, qPrintable(error));
+    const auto info = Probe(name);
+    QVERIFY(info);
     const MediaStream& stream = info->streams[0];
     QCOMPARE(stream.rotation, rotation);
     QCOMPARE(stream.mirrored, mirrored);
     QCOMPARE(QSize(stream.width, stream.height), size);
-    const auto decoder = FrameDecoder::Open(info, 0, &error);
+    const auto decoder = FrameDecoder::Open(info, 0, nullptr);
     QCOMPARE(ReadFrameNumber(decoder->Picture(9, size)), 9);
 }
 
 void tst_Media::coverPictureIsNoVideo()
 {
-    TestClip clip;
-    clip.codec.clear();
-    clip.audioCodec = "libmp3lame";
+    const TestClip clip = SoundClip("libmp3lame", 0.0);
     QCOMPARE(MakeTestClip(Path("plain.mp3"), clip), QString());
     QVERIFY(PaintFrameNumber(1, Thumbnail).save(Path("cover.png")));
     QCOMPARE(RunFfmpeg({"-i", Path("plain.mp3"), "-i", Path("cover.png"), "-map", "0", "-map", "1",
                         "-c", "copy", "-disposition:v", "attached_pic", Path("cover.mp3")}),
              QString());
-    const auto info = ProbeMedia(Path("cover.mp3"), nullptr);
+    const auto info = Probe("cover.mp3");
     QVERIFY(info);
     QCOMPARE(info->kind, MediaKind::Audio);
     QCOMPARE(info->videoStream, -1);
@@ -439,22 +436,18 @@ void tst_Media::sound_data()
     QTest::addColumn<int>("sampleRate");
     QTest::addColumn<int>("channels");
     QTest::addColumn<int>("tolerance"); // of the beginning of the tone, in samples at 48 kHz
-    QTest::newRow("PCM") << "pcm.wav"
-                         << "pcm_s16le" << 48000 << 2 << 2;
-    QTest::newRow("PCM of 8 bits, mono, resampled") << "8.wav"
-                                                    << "pcm_u8" << 44100 << 1 << 12;
-    QTest::newRow("AAC in MP4") << "a.m4a"
-                                << "aac" << 48000 << 2 << 48;
-    QTest::newRow("AAC in MKV, mono, resampled") << "a.mkv"
-                                                 << "aac" << 44100 << 1 << 96;
-    QTest::newRow("AAC in a transport stream") << "a.ts"
-                                               << "aac" << 48000 << 2 << 48;
-    QTest::newRow("MP3") << "a.mp3"
-                         << "libmp3lame" << 44100 << 2 << 96;
-    QTest::newRow("Opus in MKV") << "opus.mkv"
-                                 << "libopus" << 48000 << 2 << 48;
-    QTest::newRow("FLAC") << "a.flac"
-                          << "flac" << 96000 << 2 << 12;
+    const auto row = [](const char* title, QString name, QString codec, int rate, int channels,
+                        int tolerance) {
+        QTest::newRow(title) << name << codec << rate << channels << tolerance;
+    };
+    row("PCM", "pcm.wav", "pcm_s16le", 48000, 2, 2);
+    row("PCM of 8 bits, mono, resampled", "8.wav", "pcm_u8", 44100, 1, 12);
+    row("AAC in MP4", "a.m4a", "aac", 48000, 2, 48);
+    row("AAC in MKV, mono, resampled", "a.mkv", "aac", 44100, 1, 96);
+    row("AAC in a transport stream", "a.ts", "aac", 48000, 2, 48);
+    row("MP3", "a.mp3", "libmp3lame", 44100, 2, 96);
+    row("Opus in MKV", "opus.mkv", "libopus", 48000, 2, 48);
+    row("FLAC", "a.flac", "flac", 96000, 2, 12);
 }
 
 void tst_Media::sound()
@@ -464,13 +457,10 @@ void tst_Media::sound()
     QFETCH(int, sampleRate);
     QFETCH(int, channels);
     QFETCH(int, tolerance);
-    TestClip clip;
-    clip.codec.clear();
-    clip.audioCodec = codec;
+    TestClip clip = SoundClip(codec, 1.0);
     clip.sampleRate = sampleRate;
     clip.channels = channels;
     clip.frames = 100;
-    clip.toneStart = 1.0;
     clip.toneHz = 1000.0;
     const auto info = Make(name, clip);
     QVERIFY(info);
@@ -479,9 +469,8 @@ void tst_Media::sound()
     QCOMPARE(info->streams[0].channels, channels);
 
     const int rate = 48000;
-    QString error;
-    const auto decoder = AudioDecoder::Open(info, info->audioStream, &error);
-    QVERIFY2(decoder, qPrintable(error));
+    const auto decoder = AudioDecoder::Open(info, info->audioStream, nullptr);
+    QVERIFY(decoder);
     std::vector<float> whole(size_t(rate) * 4 * 2);
     for (int i = 0; i < 40; ++i)
         QVERIFY(decoder->Read(int64_t(i) * 4800, 4800, rate, 2, &whole[size_t(i) * 9600]) >= 4776);
@@ -493,9 +482,8 @@ void tst_Media::sound()
     QVERIFY2(std::abs(onset - rate - delay) <= tolerance, qPrintable(QString::number(onset)));
     const std::vector<float> tone(whole.begin() + int64_t(rate) * 4,
                                   whole.begin() + int64_t(rate) * 6);
-    QVERIFY2(std::abs(PeakOf(tone) - 0.5) < 0.03, qPrintable(QString::number(PeakOf(tone))));
-    QVERIFY(std::equal(tone.begin(), tone.begin() + 2, tone.begin() + 96,
-                       [](float a, float b) { return std::abs(a - b) < 0.03F; }));
+    QVERIFY2(std::abs(PeakOf(tone) - 0.5F) < 0.03F, qPrintable(QString::number(PeakOf(tone))));
+    QVERIFY(Difference(tone.data(), &tone[96], 2) < 0.03F);
 
     // The same samples wherever reading begins.
     std::mt19937 generator(5);
@@ -503,20 +491,16 @@ void tst_Media::sound()
     for (int i = 0; i < 12; ++i) {
         const int first = int(generator() % unsigned(rate * 4 - 1000));
         QCOMPARE(decoder->Read(first, 1000, rate, 2, part.data()), 1000);
-        float difference = 0.0F;
-        for (size_t k = 0; k < part.size(); ++k)
-            difference = std::max(difference, std::abs(part[k] - whole[size_t(first) * 2 + k]));
-        QVERIFY2(difference < 0.001F, qPrintable(QString("%1: %2").arg(first).arg(difference)));
+        QVERIFY(Difference(part.data(), &whole[size_t(first) * 2], part.size()) < 0.001F);
     }
 
     // Silence outside, also where only a part lies in the stream.
     QCOMPARE(decoder->Read(-5000, 1000, rate, 2, part.data()), 0);
     QCOMPARE(decoder->Read(int64_t(rate) * 5, 1000, rate, 2, part.data()), 0);
-    QCOMPARE(PeakOf(part), 0.0);
+    QCOMPARE(PeakOf(part), 0.0F);
     QCOMPARE(decoder->Read(int64_t(rate) * 1000000, 1000, rate, 2, part.data()), 0);
     QCOMPARE(decoder->Read(-500, 1000, rate, 2, part.data()), 1000);
-    QVERIFY(std::equal(part.begin() + 1000, part.end(), whole.begin(),
-                       [](float a, float b) { return std::abs(a - b) < 0.001F; }));
+    QVERIFY(Difference(&part[1000], whole.data(), 1000) < 0.001F);
     QCOMPARE(decoder->Read(0, 0, rate, 2, part.data()), -1);
 }
 
@@ -532,7 +516,7 @@ void tst_Media::soundStaysWithPicture()
     QCOMPARE(RunFfmpeg({"-i", info->path, "-itsoffset", "0.5", "-i", info->path, "-map", "0:a",
                         "-map", "1:v", "-c", "copy", Path("late.mkv")}),
              QString());
-    const auto late = ProbeMedia(Path("late.mkv"), nullptr);
+    const auto late = Probe("late.mkv");
     QVERIFY(late);
     const auto decoder = AudioDecoder::Open(late, late->audioStream, nullptr);
     std::vector<float> samples(48000);
@@ -546,10 +530,7 @@ void tst_Media::soundStaysWithPicture()
 
 void tst_Media::wavePeaks()
 {
-    TestClip clip;
-    clip.codec.clear();
-    clip.audioCodec = "pcm_s16le";
-    clip.toneStart = 1.0;
+    TestClip clip = SoundClip("pcm_s16le", 1.0);
     clip.toneLevel = 0.25;
     const auto info = Make("wave.wav", clip);
     QVERIFY(info);
@@ -585,11 +566,11 @@ void tst_Media::poolLendsAndBounds()
     {
         auto first = acquire(0, DecodePurpose::Thumbnail, 0);
         auto second = acquire(0, DecodePurpose::Thumbnail, 0);
-        QVERIFY(first && second && &*first != &*second);
-        first->Picture(10, Thumbnail);
-        second->Picture(40, Thumbnail);
         atTen = &*first;
         atForty = &*second;
+        QVERIFY(atTen != atForty);
+        first->Picture(10, Thumbnail);
+        second->Picture(40, Thumbnail);
         QCOMPARE(pool.OpenCount(), 2);
         QCOMPARE(pool.IdleCount(), 0);
     }
@@ -603,10 +584,8 @@ void tst_Media::poolLendsAndBounds()
     }
     QCOMPARE(pool.OpenCount(), 3);
     // The bound closes the one unused for the longest time, here the one at 40.
-    {
-        const auto lease = acquire(1, DecodePurpose::Thumbnail, 0);
-        QCOMPARE(pool.OpenCount(), 3);
-    }
+    acquire(1, DecodePurpose::Thumbnail, 0);
+    QCOMPARE(pool.OpenCount(), 3);
     QCOMPARE(&*acquire(0, DecodePurpose::Thumbnail, 41), atTen);
     // What is lent stays open beyond the bound, and goes when it comes back.
     {

@@ -53,11 +53,6 @@ void PaintDigit(QPainter& painter, int digit, const QRect& box)
     }
 }
 
-QString Number(double value)
-{
-    return QString::number(value, 'f', 6);
-}
-
 // Turns the first track of an MP4 or MOV file by writing the matrix of its track header.
 bool WriteRotation(const QString& path, int rotation)
 {
@@ -78,71 +73,54 @@ bool WriteRotation(const QString& path, int rotation)
     return header > 0 && file.seek(header + matrixOffset) && file.write(bytes) == bytes.size();
 }
 
+QStringList Words(const QString& line)
+{
+    return line.split(' ', Qt::SkipEmptyParts);
+}
+
 QStringList VideoInput(const TestClip& clip, const QSize& coded)
 {
-    return {QStringLiteral("-f"),
-            QStringLiteral("rawvideo"),
-            QStringLiteral("-pixel_format"),
-            QStringLiteral("bgra"),
-            QStringLiteral("-video_size"),
-            QStringLiteral("%1x%2").arg(coded.width()).arg(coded.height()),
-            QStringLiteral("-framerate"),
-            QStringLiteral("%1/%2").arg(clip.rateNum).arg(clip.rateDen),
-            QStringLiteral("-i"),
-            QStringLiteral("-")};
+    return Words(QString("-f rawvideo -pixel_format bgra -video_size %1x%2 -framerate %3/%4 -i -")
+                     .arg(coded.width())
+                     .arg(coded.height())
+                     .arg(clip.rateNum)
+                     .arg(clip.rateDen));
 }
 
 QStringList AudioInput(const TestClip& clip)
 {
     const double seconds = double(clip.frames) * clip.rateDen / clip.rateNum;
-    const QString wave =
-        QStringLiteral("%1*sin(2*PI*%2*t)*gte(t,%3)")
-            .arg(Number(clip.toneLevel), Number(clip.toneHz), Number(clip.toneStart));
-    const QStringList channels = [&] {
-        QStringList list;
-        for (int i = 0; i < clip.channels; ++i)
-            list.append(wave);
-        return list;
-    }();
-    const QString source = QStringLiteral("aevalsrc=exprs='%1':s=%2:d=%3")
-                               .arg(channels.join(QLatin1Char('|')))
-                               .arg(clip.sampleRate)
-                               .arg(Number(seconds));
-    return {QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"), source};
+    const QString wave = QString::asprintf("%.6f*sin(2*PI*%.6f*t)*gte(t,%.6f)|", clip.toneLevel,
+                                           clip.toneHz, clip.toneStart);
+    return {"-f", "lavfi", "-i",
+            QString("aevalsrc=exprs='%1':s=%2:d=%3")
+                .arg(wave.repeated(clip.channels).chopped(1))
+                .arg(clip.sampleRate)
+                .arg(seconds, 0, 'f', 6)};
 }
 
 QStringList VideoOutput(const TestClip& clip)
 {
-    QStringList list{QStringLiteral("-map"), QStringLiteral("0:v"), QStringLiteral("-c:v"),
-                     clip.codec};
-    const bool isX264 = clip.codec == QLatin1String("libx264");
-    if (isX264) {
-        list << QStringLiteral("-preset") << QStringLiteral("veryfast") << QStringLiteral("-crf")
-             << QStringLiteral("23") << QStringLiteral("-sc_threshold") << QStringLiteral("0")
-             << QStringLiteral("-threads") << QStringLiteral("2") << QStringLiteral("-x264-params")
-             << QStringLiteral("open-gop=%1").arg(clip.openGop ? 1 : 0);
-    }
-    if (isX264 || clip.codec == QLatin1String("mpeg4") || clip.codec == QLatin1String("mpeg2video"))
-        list << QStringLiteral("-bf") << QString::number(clip.bframes) << QStringLiteral("-pix_fmt")
-             << QStringLiteral("yuv420p");
+    QString line = "-map 0:v -c:v " + clip.codec;
+    const bool isX264 = clip.codec == "libx264";
+    if (isX264)
+        line += " -preset veryfast -crf 23 -sc_threshold 0 -threads 2 -x264-params open-gop=" +
+                QString::number(clip.openGop);
+    if (isX264 || clip.codec == "mpeg4" || clip.codec == "mpeg2video")
+        line += QString(" -pix_fmt yuv420p -bf %1").arg(clip.bframes);
     if (clip.gop > 0)
-        list << QStringLiteral("-g") << QString::number(clip.gop);
+        line += QString(" -g %1").arg(clip.gop);
     if (clip.isLeftOut) {
         QStringList kept;
-        for (int first = 0; first < clip.frames; ++first) {
-            if (clip.isLeftOut(first))
-                continue;
-            int last = first;
-            while (last + 1 < clip.frames && !clip.isLeftOut(last + 1))
+        for (int first = 0, last = 0; first < clip.frames; first = ++last) {
+            while (last < clip.frames && !clip.isLeftOut(last))
                 ++last;
-            kept.append(QStringLiteral("between(n,%1,%2)").arg(first).arg(last));
-            first = last;
+            if (last > first)
+                kept.append(QString("between(n,%1,%2)").arg(first).arg(last - 1));
         }
-        list << QStringLiteral("-vf")
-             << QStringLiteral("select='%1'").arg(kept.join(QLatin1Char('+')))
-             << QStringLiteral("-fps_mode") << QStringLiteral("passthrough");
+        line += " -fps_mode passthrough -vf select='" + kept.join('+') + '\'';
     }
-    return list;
+    return Words(line);
 }
 
 } // namespace
@@ -151,19 +129,16 @@ QString RunFfmpeg(const QStringList& arguments, const QByteArray& input)
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QStringLiteral("ffmpeg"),
-                  QStringList{QStringLiteral("-hide_banner"), QStringLiteral("-loglevel"),
-                              QStringLiteral("error"), QStringLiteral("-y")} +
-                      arguments);
+    process.start("ffmpeg", Words("-hide_banner -loglevel error -y") + arguments);
     if (!process.waitForStarted())
-        return QStringLiteral("the ffmpeg program does not start");
+        return "the ffmpeg program does not start";
     process.write(input);
     process.closeWriteChannel();
     if (!process.waitForFinished(TimeoutMs))
-        return QStringLiteral("the ffmpeg program does not end");
+        return "the ffmpeg program does not end";
     if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
         return {};
-    return QStringLiteral("ffmpeg failed: ") + QString::fromLocal8Bit(process.readAll());
+    return "ffmpeg failed: " + QString::fromLocal8Bit(process.readAll());
 }
 
 QString MakeTestClip(const QString& path, const TestClip& clip)
@@ -185,18 +160,15 @@ QString MakeTestClip(const QString& path, const TestClip& clip)
         arguments += AudioInput(clip);
     if (!clip.codec.isEmpty())
         arguments += VideoOutput(clip);
-    if (!clip.audioCodec.isEmpty()) {
-        arguments << QStringLiteral("-map")
-                  << (clip.codec.isEmpty() ? QStringLiteral("0:a") : QStringLiteral("1:a"))
-                  << QStringLiteral("-c:a") << clip.audioCodec;
-    }
+    if (!clip.audioCodec.isEmpty())
+        arguments << "-map" << (clip.codec.isEmpty() ? "0:a" : "1:a") << "-c:a" << clip.audioCodec;
     arguments += clip.extra;
     arguments.append(path);
     QString failure = RunFfmpeg(arguments, pictures);
     if (!failure.isEmpty())
         return failure;
     if (clip.rotation != 0 && !WriteRotation(path, clip.rotation))
-        return QStringLiteral("no track header to turn in ") + path;
+        return "no track header to turn in " + path;
     return {};
 }
 
