@@ -61,475 +61,460 @@ class tst_EngineSettings : public QObject, private EngineFixture
     QString m_proxy = Path("proxy.mp4");
 
 private slots:
-    void initTestCase();
-    void transformFillsExactly_data();
-    void transformFillsExactly();
-    void blendModes_data();
-    void blendModes();
-    void speedAndFreeze();
-    void proxyIsShown();
-    void soundLevels_data();
-    void soundLevels();
-    void fades();
-    void volumeCurve();
-    void monoIsTheMean();
-    void effectsContinue();
-    void pitch();
-    void equalizer();
-    void denoise();
-    void mixer();
-    void refusals();
-    void settingsSurvive();
-};
+    void initTestCase()
+    {
+        TestClip clip;
+        clip.frames = 100;
+        clip.audioCodec = QStringLiteral("pcm_s16le");
+        clip.toneHz = kTone;
+        QCOMPARE(MakeTestClip(m_media, clip), QString());
+        QCOMPARE(RunFfmpeg({"-f", "lavfi", "-i", "color=c=red:size=160x90:rate=25", "-frames:v",
+                            "100", "-pix_fmt", "yuv420p", m_proxy}),
+                 QString());
+        QVERIFY(provider->CreateNLEProperties());
+    }
 
-void tst_EngineSettings::initTestCase()
-{
-    TestClip clip;
-    clip.frames = 100;
-    clip.audioCodec = QStringLiteral("pcm_s16le");
-    clip.toneHz = kTone;
-    QCOMPARE(MakeTestClip(m_media, clip), QString());
-    QCOMPARE(RunFfmpeg({"-f", "lavfi", "-i", "color=c=red:size=160x90:rate=25", "-frames:v", "100",
-                        "-pix_fmt", "yuv420p", m_proxy}),
-             QString());
-    QVERIFY(provider->CreateNLEProperties());
-}
+    void transformFillsExactly_data()
+    {
+        QTest::addColumn<QPointF>("center");
+        QTest::addColumn<QSizeF>("scale");
+        QTest::addColumn<double>("rotation");
+        QTest::addColumn<QRect>("shown");
+        QTest::newRow("half size, top left quarter")
+            << QPointF(0.25, 0.25) << QSizeF(0.5, 0.5) << 0.0 << QRect(0, 0, 160, 90);
+        QTest::newRow("half size, bottom right quarter")
+            << QPointF(0.75, 0.75) << QSizeF(0.5, 0.5) << 0.0 << QRect(160, 90, 160, 90);
+        QTest::newRow("moved half out")
+            << QPointF(0, 0.5) << QSizeF(1, 1) << 0.0 << QRect(0, 0, 160, 180);
+        QTest::newRow("a quarter turn")
+            << QPointF(0.5, 0.5) << QSizeF(0.5, 0.5) << 90.0 << QRect(115, 10, 90, 160);
+        QTest::newRow("mirrored covers the same")
+            << QPointF(0.5, 0.5) << QSizeF(-1, 1) << 0.0 << QRect(0, 0, 320, 180);
+        QTest::newRow("no width, nothing") << QPointF(0.5, 0.5) << QSizeF(0, 1) << 0.0 << QRect();
+    }
 
-void tst_EngineSettings::transformFillsExactly_data()
-{
-    QTest::addColumn<QPointF>("center");
-    QTest::addColumn<QSizeF>("scale");
-    QTest::addColumn<double>("rotation");
-    QTest::addColumn<QRect>("shown");
-    QTest::newRow("half size, top left quarter")
-        << QPointF(0.25, 0.25) << QSizeF(0.5, 0.5) << 0.0 << QRect(0, 0, 160, 90);
-    QTest::newRow("half size, bottom right quarter")
-        << QPointF(0.75, 0.75) << QSizeF(0.5, 0.5) << 0.0 << QRect(160, 90, 160, 90);
-    QTest::newRow("moved half out")
-        << QPointF(0, 0.5) << QSizeF(1, 1) << 0.0 << QRect(0, 0, 160, 180);
-    QTest::newRow("a quarter turn")
-        << QPointF(0.5, 0.5) << QSizeF(0.5, 0.5) << 90.0 << QRect(115, 10, 90, 160);
-    QTest::newRow("mirrored covers the same")
-        << QPointF(0.5, 0.5) << QSizeF(-1, 1) << 0.0 << QRect(0, 0, 320, 180);
-    QTest::newRow("no width, nothing") << QPointF(0.5, 0.5) << QSizeF(0, 1) << 0.0 << QRect();
-}
-
-void tst_EngineSettings::transformFillsExactly()
-{
-    QFETCH(QPointF, center);
-    QFETCH(QSizeF, scale);
-    QFETCH(double, rotation);
-    QFETCH(QRect, shown);
-    const Node clip = Colour(Qt::red);
-    const Node project = ProjectWith(clip);
-    const auto transform = clip.query<INLETransform>();
-    const NLEPointF place = {center.x(), center.y()};
-    const NLESizeF size = {scale.width(), scale.height()};
-    QCOMPARE(transform->SetCenter(&place), S_OK);
-    QCOMPARE(transform->SetScale(&size), S_OK);
-    QCOMPARE(transform->SetRotation(rotation), S_OK);
-    const QImage frame = Frame(project, 0);
-    for (int y = 0; y < 180; ++y) {
-        for (int x = 0; x < 320; ++x) {
-            // To within one pixel: the edge itself may be either.
-            const bool inside = !shown.isEmpty() && shown.adjusted(1, 1, -1, -1).contains(x, y);
-            const bool outside = shown.isEmpty() || !shown.adjusted(-1, -1, 1, 1).contains(x, y);
-            const QRgb pixel = frame.pixel(x, y);
-            if ((inside && pixel != qRgb(255, 0, 0)) || (outside && pixel != qRgb(0, 0, 0)))
-                QFAIL(qPrintable(QStringLiteral("%1 at %2, %3").arg(pixel, 0, 16).arg(x).arg(y)));
+    void transformFillsExactly()
+    {
+        QFETCH(QPointF, center);
+        QFETCH(QSizeF, scale);
+        QFETCH(double, rotation);
+        QFETCH(QRect, shown);
+        const Node clip = Colour(Qt::red);
+        const Node project = ProjectWith(clip);
+        const auto transform = clip.query<INLETransform>();
+        const NLEPointF place = {center.x(), center.y()};
+        const NLESizeF size = {scale.width(), scale.height()};
+        QCOMPARE(transform->SetCenter(&place), S_OK);
+        QCOMPARE(transform->SetScale(&size), S_OK);
+        QCOMPARE(transform->SetRotation(rotation), S_OK);
+        const QImage frame = Frame(project, 0);
+        for (int y = 0; y < 180; ++y) {
+            for (int x = 0; x < 320; ++x) {
+                // To within one pixel: the edge itself may be either.
+                const bool inside = !shown.isEmpty() && shown.adjusted(1, 1, -1, -1).contains(x, y);
+                const bool outside =
+                    shown.isEmpty() || !shown.adjusted(-1, -1, 1, 1).contains(x, y);
+                const QRgb pixel = frame.pixel(x, y);
+                if ((inside && pixel != qRgb(255, 0, 0)) || (outside && pixel != qRgb(0, 0, 0)))
+                    QFAIL(
+                        qPrintable(QStringLiteral("%1 at %2, %3").arg(pixel, 0, 16).arg(x).arg(y)));
+            }
         }
+        transform->SetEnable(false);
+        QCOMPARE(Frame(project, 0).pixelColor(160, 90), QColor(Qt::red));
     }
-    transform->SetEnable(false);
-    QCOMPARE(Frame(project, 0).pixelColor(160, 90), QColor(Qt::red));
-}
 
-void tst_EngineSettings::blendModes_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("alpha");
-    QTest::addColumn<Rule>("rule");
-    const auto row = [](const char* name, int mode, Rule rule) {
-        QTest::addRow("%s", name) << mode << 255 << rule;
-        QTest::addRow("%s, half", name) << mode << 128 << rule;
-    };
-    row("normal", 0, [](double, double a) { return a; });
-    row("multiply", 1, [](double b, double a) { return a * b; });
-    row("screen", 2, [](double b, double a) { return a + b - a * b; });
-    row("overlay", 3,
-        [](double b, double a) { return b <= 0.5 ? 2 * a * b : 1 - 2 * (1 - a) * (1 - b); });
-    row("darken", 4, [](double b, double a) { return std::min(a, b); });
-    row("lighten", 5, [](double b, double a) { return std::max(a, b); });
-    row("add", 6, [](double b, double a) { return std::min(1.0, a + b); });
-    row("difference", 7, [](double b, double a) { return std::abs(a - b); });
-}
-
-void tst_EngineSettings::blendModes()
-{
-    QFETCH(int, mode);
-    QFETCH(int, alpha);
-    QFETCH(Rule, rule);
-    const QColor below(200, 90, 30);
-    const QColor above(60, 160, 250);
-    const Node project = ProjectWith(Colour(below));
-    const Node clip = Colour(above);
-    Add(project, clip, 0, 1);
-    const auto blend = Facet<INLEBlendSetting>(clip);
-    QCOMPARE(blend->SetMode(mode), S_OK);
-    QCOMPARE(blend->SetAlpha(alpha), S_OK);
-    const QColor shown = Frame(project, 0).pixelColor(100, 100);
-    const auto expect = [&](int b, int a) {
-        const double mixed = rule(b / 255.0, a / 255.0);
-        const double value = b / 255.0 + (mixed - b / 255.0) * alpha / 255.0;
-        return int(std::lround(value * 255));
-    };
-    QVERIFY(std::abs(shown.red() - expect(below.red(), above.red())) <= 2);
-    QVERIFY(std::abs(shown.green() - expect(below.green(), above.green())) <= 2);
-    QVERIFY(std::abs(shown.blue() - expect(below.blue(), above.blue())) <= 2);
-    blend->SetEnable(false);
-    QCOMPARE(Frame(project, 0).pixelColor(100, 100), above);
-}
-
-void tst_EngineSettings::speedAndFreeze()
-{
-    const Node clip = Media();
-    const NLERange trimmed = {20, 59};
-    clip->SetRange(&trimmed);
-    const Node project = ProjectWith(clip, 10);
-    NLEComPtr<INLEProperties> bag;
-    clip->GetProperties(bag.put());
-    bag->SetRational(NLEKey::Speed::kScale, {200000000, 100000000});
-    QCOMPARE(ReadFrameNumber(Frame(project, 15)), 25);
-    bag->SetInt(NLEKey::Speed::kEnabled, 1);
-    NLERange range = {};
-    clip->GetRange(&range);
-    QCOMPARE(range.in, 10);
-    QCOMPARE(range.out, 29);
-    QCOMPARE(ReadFrameNumber(Frame(project, 10)), 20);
-    QCOMPARE(ReadFrameNumber(Frame(project, 15)), 30);
-    QVERIFY(Frame(project, 30).isNull());
-    clip->GetTotalRange(&range);
-    QCOMPARE(range.out, 49);
-    // Twice as fast is an octave higher.
-    QVERIFY(Strength(Sound(project, 12, kRate / 5)[0], 2 * kTone) > 0.45);
-    bag->SetInt(NLEKey::Speed::kEnabled, 0);
-    clip->GetRange(&range);
-    QCOMPARE(range.in, 20);
-    QCOMPARE(range.out, 59);
-
-    bag->SetInt(NLEKey::Freeze::kFreeze_Enabled, 1);
-    QCOMPARE(ReadFrameNumber(Frame(project, 40)), 20);
-    QCOMPARE(Loudness(Sound(project, 20)[0]), 0.0);
-    bag->SetInt(NLEKey::Freeze::kFreeze_Frame, 33);
-    QCOMPARE(ReadFrameNumber(Frame(project, 11)), 33);
-    const NLERange longer = {20, 519};
-    clip->SetRange(&longer);
-    QCOMPARE(ReadFrameNumber(Frame(project, 509)), 33);
-}
-
-void tst_EngineSettings::proxyIsShown()
-{
-    const Node clip = Media();
-    const Node project = ProjectWith(clip);
-    const auto video = Facet<INLEVideoStreamProcess>(clip);
-    QVERIFY(FAILED(video->SetProxyFile(L"/none.mp4")));
-    QCOMPARE(video->SetProxyFile(m_proxy.toStdWString().c_str()), S_OK);
-    QCOMPARE(ReadFrameNumber(Frame(project, 5)), 5);
-    video->SetProxyEnabled(true);
-    const QColor shown = Frame(project, 5).pixelColor(160, 90);
-    QVERIFY(shown.red() > 240 && shown.green() < 10);
-    video->SetProxyFile(L"");
-    QCOMPARE(ReadFrameNumber(Frame(project, 5)), 5);
-}
-
-void tst_EngineSettings::soundLevels_data()
-{
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<double>("left");
-    QTest::addColumn<double>("right");
-    QTest::newRow("untouched") << Change([](auto&) {}) << 0.0 << 0.0;
-    QTest::newRow("half volume") << Change([](auto& a) { a.SetVolume(0.5); }) << -6.02 << -6.02;
-    QTest::newRow("double volume") << Change([](auto& a) { a.SetVolume(2); }) << 6.02 << 6.02;
-    QTest::newRow("volume switched off") << Change([](auto& a) {
-        a.SetVolume(0.1);
-        a.SetVolumeEnable(false);
-    }) << 0.0 << 0.0;
-    QTest::newRow("muted") << Change([](auto& a) { a.SetMute(true); }) << -150.0 << -150.0;
-    QTest::newRow("half to the left")
-        << Change([](auto& a) { a.SetBalance(-0.5); }) << 0.0 << -6.02;
-    QTest::newRow("all to the right") << Change([](auto& a) { a.SetBalance(1); }) << -150.0 << 0.0;
-    QTest::newRow("mono of equal channels")
-        << Change([](auto& a) { a.SetMixToMonoEnable(true); }) << 0.0 << 0.0;
-}
-
-void tst_EngineSettings::soundLevels()
-{
-    QFETCH(Change, change);
-    QFETCH(double, left);
-    QFETCH(double, right);
-    const Node clip = Media();
-    change(*Facet<INLEAudioStreamProcess>(clip));
-    const Stereo sound = Sound(ProjectWith(clip), 10, kRate / 5);
-    const auto matches = [](double found, double wanted) {
-        return wanted < -100 ? found < -100 : std::abs(found - wanted) < 0.5;
-    };
-    const double foundLeft = Decibels(Loudness(sound[0]), kToneLoudness);
-    const double foundRight = Decibels(Loudness(sound[1]), kToneLoudness);
-    QVERIFY2(matches(foundLeft, left) && matches(foundRight, right),
-             qPrintable(QStringLiteral("%1 dB, %2 dB").arg(foundLeft).arg(foundRight)));
-}
-
-void tst_EngineSettings::fades()
-{
-    const Node clip = Media();
-    const NLERange range = {20, 69};
-    clip->SetRange(&range);
-    const Node project = ProjectWith(clip, 5);
-    const auto audio = Facet<INLEAudioStreamProcess>(clip);
-    audio->SetFadeInRange(10);
-    audio->SetFadeOutRange(20);
-    audio->SetFadeInEnable(true);
-    audio->SetFadeOutEnable(true);
-    // A frame at a time; a linear fade has its middle value in the frame's middle.
-    const auto gainAt = [&](int frame) {
-        return Loudness(Sound(project, frame)[0]) / kToneLoudness;
-    };
-    for (int frame : {5, 7, 14})
-        QVERIFY(std::abs(gainAt(frame) - (frame - 5 + 0.5) / 10) < 0.03);
-    QVERIFY(std::abs(gainAt(25) - 1) < 0.03);
-    for (int frame : {36, 45, 54})
-        QVERIFY(std::abs(gainAt(frame) - (55 - frame - 0.5) / 20) < 0.03);
-}
-
-void tst_EngineSettings::volumeCurve()
-{
-    const Node clip = Media();
-    NLEComPtr<INLEKeyFrameParam> curve;
-    Facet<INLEAudioStreamProcess>(clip)->GetVolumeKeyFrameParam(curve.put());
-    curve->SetPoint(2, 0);
-    curve->SetPoint(1, 1);
-    QVERIFY(FAILED(curve->SetPoint(qQNaN(), 1)));
-    int count = 0;
-    curve->GetCount(&count);
-    QCOMPARE(count, 2);
-    const Node project = ProjectWith(clip);
-    const auto gainAt = [&](int frame) {
-        return Loudness(Sound(project, frame)[0]) / kToneLoudness;
-    };
-    QVERIFY(std::abs(gainAt(10) - 1) < 0.03);
-    QVERIFY(std::abs(gainAt(37) - 0.5) < 0.03);
-    QVERIFY(gainAt(60) < 0.001);
-}
-
-void tst_EngineSettings::monoIsTheMean()
-{
-    const QString left = Path("left.wav");
-    QCOMPARE(RunFfmpeg({"-f", "lavfi", "-i", "sine=duration=1", "-af", "pan=stereo|c0=c0", left}),
-             QString());
-    const Node clip = EngineFixture::Media(left);
-    const double before = Loudness(Sound(clip, 5)[0]);
-    Facet<INLEAudioStreamProcess>(clip)->SetMixToMonoEnable(true);
-    const Stereo after = Sound(clip, 5);
-    QVERIFY(before > 0.01);
-    QVERIFY(std::abs(Decibels(Loudness(after[0]), before) + 6.02) < 0.1);
-    QCOMPARE(after[0], after[1]);
-}
-
-void tst_EngineSettings::effectsContinue()
-{
-    const Node clip = Media();
-    Facet<INLEAudioStreamProcess>(clip)->SetPitch(5);
-    const auto extractor = provider->CreateFrameExtractor();
-    const auto sound = provider->CreateAudioFrame(kRate / 25);
-    float* data = nullptr;
-    sound->GetData(&data);
-    QCOMPARE(extractor->Open(clip.get(), 1), S_OK);
-    std::vector<double> pieces;
-    for (int frame = 30; frame < 35; ++frame) {
-        QCOMPARE(extractor->ExtractAudio(frame, sound.get()), S_OK);
-        for (int i = 0; i < kRate / 25; ++i)
-            pieces.push_back(data[2 * i]);
-    }
-    QCOMPARE(pieces, Sound(clip, 30, kRate / 5)[0]);
-}
-
-void tst_EngineSettings::pitch()
-{
-    const Node clip = Media();
-    const Node project = ProjectWith(clip);
-    const auto audio = Facet<INLEAudioStreamProcess>(clip);
-    QCOMPARE(audio->SetPitch(12), S_OK);
-    const std::vector<double> sound = Sound(project, 25, kRate)[0];
-    double best = 0;
-    double frequency = 0;
-    for (double f = 400; f < 1000; f += 1) {
-        const double strength = Strength(sound, f);
-        if (strength > best) {
-            best = strength;
-            frequency = f;
-        }
-    }
-    QVERIFY2(std::abs(frequency - 2 * kTone) < 0.01 * 2 * kTone,
-             qPrintable(QString::number(frequency)));
-    QVERIFY(std::abs(Decibels(Loudness(sound), kToneLoudness)) < 1);
-}
-
-void tst_EngineSettings::equalizer()
-{
-    const QString path = Path("band.wav");
-    QCOMPARE(RunFfmpeg({"-f", "lavfi", "-i", "sine=frequency=500:duration=2", path}), QString());
-    const Node clip = EngineFixture::Media(path);
-    const auto audio = Facet<INLEAudioStreamProcess>(clip);
-    const auto loudness = [&] { return Loudness(Sound(clip, 25, kRate / 5)[0]); };
-    const double before = loudness();
-    double gains[10] = {0, 0, 0, 0, -12, 0, 0, 0, 0, 0};
-    QCOMPARE(audio->SetEqualizerParam(gains), S_OK);
-    QCOMPARE(loudness(), before);
-    audio->SetEqualizerEnable(true);
-    QVERIFY(std::abs(Decibels(loudness(), before) + 12) < 0.5);
-    // 16 kHz: the tone is far away.
-    std::swap(gains[4], gains[9]);
-    audio->SetEqualizerParam(gains);
-    QVERIFY(std::abs(Decibels(loudness(), before)) < 0.5);
-}
-
-void tst_EngineSettings::denoise()
-{
-    const QString noisy = Path("noise.wav");
-    const QString sine = QStringLiteral("sine=frequency=440:duration=4,volume=4[a]");
-    const QString noise = QStringLiteral("anoisesrc=amplitude=0.02:duration=4:seed=7[b]");
-    const QString mix = sine + ";" + noise + ";[a][b]amix=normalize=0";
-    QCOMPARE(RunFfmpeg({"-f", "lavfi", "-i", mix, noisy}), QString());
-    const Node clip = EngineFixture::Media(noisy);
-    const Node project = ProjectWith(clip);
-    const auto noiseOf = [](const std::vector<double>& sound) {
-        const double tone = Strength(sound, kTone) / std::sqrt(2.0);
-        return std::sqrt(std::max(0.0, std::pow(Loudness(sound), 2) - tone * tone));
-    };
-    const std::vector<double> before = Sound(project, 50, kRate)[0];
-    const auto audio = Facet<INLEAudioStreamProcess>(clip);
-    audio->SetDenoiseLevel(30);
-    audio->SetDenoiseEnable(true);
-    const std::vector<double> after = Sound(project, 50, kRate)[0];
-    QVERIFY2(noiseOf(after) < noiseOf(before) / 2,
-             qPrintable(QStringLiteral("%1 of %2").arg(noiseOf(after)).arg(noiseOf(before))));
-    QVERIFY(std::abs(Decibels(Strength(after, kTone), Strength(before, kTone))) < 0.5);
-}
-
-void tst_EngineSettings::mixer()
-{
-    const Node project = ProjectWith(Media(), 0, 1);
-    Add(project, Media(), 0, 2);
-    const auto mixer = Facet<INLEMixerSetting>(project);
-    tagMixerParam strip = {};
-    QCOMPARE(mixer->GetParam(1, &strip), S_OK);
-    QCOMPARE(strip.volume, 1.0);
-    const auto loudness = [&] { return Loudness(Sound(project, 10)[0]) / kToneLoudness; };
-    QVERIFY(std::abs(loudness() - 2) < 0.05);
-    strip.volume = 0.5;
-    QCOMPARE(mixer->SetParam(1, &strip), S_OK);
-    QVERIFY(std::abs(loudness() - 1.5) < 0.05);
-    strip.solo = 1;
-    mixer->SetParam(1, &strip);
-    QVERIFY(std::abs(loudness() - 0.5) < 0.05);
-    strip.mute = 1;
-    mixer->SetParam(1, &strip);
-    QVERIFY(loudness() < 0.001);
-}
-
-void tst_EngineSettings::refusals()
-{
-    const Node clip = Colour(Qt::red);
-    const auto blend = Facet<INLEBlendSetting>(clip);
-    QCOMPARE(blend->SetMode(-1), E_INVALIDARG);
-    QCOMPARE(blend->SetMode(1000), E_INVALIDARG);
-    QCOMPARE(blend->SetAlpha(256), E_INVALIDARG);
-    const auto transform = clip.query<INLETransform>();
-    const NLEPointF nowhere = {qQNaN(), 0};
-    const NLESizeF endless = {qInf(), 1};
-    QCOMPARE(transform->SetCenter(&nowhere), E_INVALIDARG);
-    QCOMPARE(transform->SetScale(&endless), E_INVALIDARG);
-    QCOMPARE(transform->SetRotation(qInf()), E_INVALIDARG);
-    const NLESizeF huge = {1e300, 1e300};
-    QCOMPARE(transform->SetScale(&huge), S_OK);
-    QVERIFY(!Frame(ProjectWith(clip), 0).isNull());
-    const auto audio = Facet<INLEAudioStreamProcess>(clip);
-    QCOMPARE(audio->SetVolume(qQNaN()), E_INVALIDARG);
-    QCOMPARE(audio->SetVolume(-1), E_INVALIDARG);
-    QCOMPARE(audio->SetFadeInRange(-1), E_INVALIDARG);
-    const tagMixerParam bad = {qQNaN(), 0, 0, 0};
-    QCOMPARE(Facet<INLEMixerSetting>(clip)->SetParam(0, &bad), E_INVALIDARG);
-
-    // A facility is the node itself: it answers for it and keeps it alive.
-    Node node = Colour(Qt::red);
-    const auto facet = Facet<INLEBlendSetting>(node);
-    QVERIFY(facet.query<INLETimeline>() == node);
-    node.reset();
-    QCOMPARE(facet->SetAlpha(3), S_OK);
-}
-
-void tst_EngineSettings::settingsSurvive()
-{
-    const Node clip = Media();
-    const Node project = ProjectWith(clip, 3, 2);
-    const NLEPointF center = {0.25, 0.75};
-    const NLESizeF scale = {0.5, 0.4};
-    clip.query<INLETransform>()->SetCenter(&center);
-    clip.query<INLETransform>()->SetScale(&scale);
-    clip.query<INLETransform>()->SetRotation(30);
-    Facet<INLEBlendSetting>(clip)->SetMode(2);
-    Facet<INLEBlendSetting>(clip)->SetAlpha(200);
-    const auto audio = Facet<INLEAudioStreamProcess>(clip);
-    const double gains[10] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
-    audio->SetVolume(0.7);
-    audio->SetBalance(0.3);
-    audio->SetFadeInEnable(true);
-    audio->SetFadeInRange(12);
-    audio->SetPitch(-3);
-    audio->SetEqualizerParam(gains);
-    audio->SetEqualizerName(L"Rock \u2013 loud");
-    NLEComPtr<INLEKeyFrameParam> curve;
-    audio->GetVolumeKeyFrameParam(curve.put());
-    curve->SetPoint(0.1, 0.9);
-    const auto video = Facet<INLEVideoStreamProcess>(clip);
-    NLEAlphaChannelRecord record = {};
-    record.param4 = 0.125;
-    record.text2[259] = u'x';
-    record.tail[15] = 77;
-    video->SetAlphaChannel(&record);
-    video->SetProxyFile(m_proxy.toStdWString().c_str());
-    video->SetProxyEnabled(true);
-    video->SetPremultipliedAlphaType(2);
-    const tagMixerParam strip = {0.5, -0.25, 0, 1};
-    Facet<INLEMixerSetting>(project)->SetParam(2, &strip);
-
-    Node clone;
-    QCOMPARE(project->Clone(true, clone.put()), S_OK);
-    QVERIFY(Save(project, Path("saved.mlt")));
-    for (const Node& copy : {clone, Load(Path("saved.mlt"))}) {
-        QVERIFY(copy);
-        QCOMPARE(Frame(copy, 30), Frame(project, 30));
-        QCOMPARE(Sound(copy, 10)[0], Sound(project, 10)[0]);
-        tagMixerParam found = {};
-        Facet<INLEMixerSetting>(copy)->GetParam(2, &found);
-        QCOMPARE(found.balance, strip.balance);
-        const Node other = ClipAt(copy, 0);
-        NLEAlphaChannelRecord kept = {};
-        Facet<INLEVideoStreamProcess>(other)->GetAlphaChannel(&kept);
-        const auto bytes = [](const NLEAlphaChannelRecord& r) {
-            return QByteArray(reinterpret_cast<const char*>(&r), sizeof(r));
+    void blendModes_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<int>("alpha");
+        QTest::addColumn<Rule>("rule");
+        const auto row = [](const char* name, int mode, Rule rule) {
+            QTest::addRow("%s", name) << mode << 255 << rule;
+            QTest::addRow("%s, half", name) << mode << 128 << rule;
         };
-        QCOMPARE(bytes(kept), bytes(record));
-        int type = 0;
-        Facet<INLEVideoStreamProcess>(other)->GetPremultipliedAlphaType(&type);
-        QCOMPARE(type, 2);
-        double keptGains[10] = {};
-        wchar_t name[32] = L"";
-        Facet<INLEAudioStreamProcess>(other)->GetEqualizerParam(keptGains);
-        Facet<INLEAudioStreamProcess>(other)->GetEqualizerName(name, 32);
-        QCOMPARE(keptGains[9], 10.0);
-        QCOMPARE(QString::fromWCharArray(name), QStringLiteral("Rock \u2013 loud"));
+        row("normal", 0, [](double, double a) { return a; });
+        row("multiply", 1, [](double b, double a) { return a * b; });
+        row("screen", 2, [](double b, double a) { return a + b - a * b; });
+        row("overlay", 3,
+            [](double b, double a) { return b <= 0.5 ? 2 * a * b : 1 - 2 * (1 - a) * (1 - b); });
+        row("darken", 4, [](double b, double a) { return std::min(a, b); });
+        row("lighten", 5, [](double b, double a) { return std::max(a, b); });
+        row("add", 6, [](double b, double a) { return std::min(1.0, a + b); });
+        row("difference", 7, [](double b, double a) { return std::abs(a - b); });
     }
-}
+
+    void blendModes()
+    {
+        QFETCH(int, mode);
+        QFETCH(int, alpha);
+        QFETCH(Rule, rule);
+        const QColor below(200, 90, 30);
+        const QColor above(60, 160, 250);
+        const Node project = ProjectWith(Colour(below));
+        const Node clip = Colour(above);
+        Add(project, clip, 0, 1);
+        const auto blend = Facet<INLEBlendSetting>(clip);
+        QCOMPARE(blend->SetMode(mode), S_OK);
+        QCOMPARE(blend->SetAlpha(alpha), S_OK);
+        const QColor shown = Frame(project, 0).pixelColor(100, 100);
+        const auto expect = [&](int b, int a) {
+            const double mixed = rule(b / 255.0, a / 255.0);
+            const double value = b / 255.0 + (mixed - b / 255.0) * alpha / 255.0;
+            return int(std::lround(value * 255));
+        };
+        QVERIFY(std::abs(shown.red() - expect(below.red(), above.red())) <= 2);
+        QVERIFY(std::abs(shown.green() - expect(below.green(), above.green())) <= 2);
+        QVERIFY(std::abs(shown.blue() - expect(below.blue(), above.blue())) <= 2);
+        blend->SetEnable(false);
+        QCOMPARE(Frame(project, 0).pixelColor(100, 100), above);
+    }
+
+    void speedAndFreeze()
+    {
+        const Node clip = Media();
+        const NLERange trimmed = {20, 59};
+        clip->SetRange(&trimmed);
+        const Node project = ProjectWith(clip, 10);
+        NLEComPtr<INLEProperties> bag;
+        clip->GetProperties(bag.put());
+        bag->SetRational(NLEKey::Speed::kScale, {200000000, 100000000});
+        QCOMPARE(ReadFrameNumber(Frame(project, 15)), 25);
+        bag->SetInt(NLEKey::Speed::kEnabled, 1);
+        NLERange range = {};
+        clip->GetRange(&range);
+        QCOMPARE(range.in, 10);
+        QCOMPARE(range.out, 29);
+        QCOMPARE(ReadFrameNumber(Frame(project, 10)), 20);
+        QCOMPARE(ReadFrameNumber(Frame(project, 15)), 30);
+        QVERIFY(Frame(project, 30).isNull());
+        clip->GetTotalRange(&range);
+        QCOMPARE(range.out, 49);
+        // Twice as fast is an octave higher.
+        QVERIFY(Strength(Sound(project, 12, kRate / 5)[0], 2 * kTone) > 0.45);
+        bag->SetInt(NLEKey::Speed::kEnabled, 0);
+        clip->GetRange(&range);
+        QCOMPARE(range.in, 20);
+        QCOMPARE(range.out, 59);
+
+        bag->SetInt(NLEKey::Freeze::kFreeze_Enabled, 1);
+        QCOMPARE(ReadFrameNumber(Frame(project, 40)), 20);
+        QCOMPARE(Loudness(Sound(project, 20)[0]), 0.0);
+        bag->SetInt(NLEKey::Freeze::kFreeze_Frame, 33);
+        QCOMPARE(ReadFrameNumber(Frame(project, 11)), 33);
+        const NLERange longer = {20, 519};
+        clip->SetRange(&longer);
+        QCOMPARE(ReadFrameNumber(Frame(project, 509)), 33);
+    }
+
+    void proxyIsShown()
+    {
+        const Node clip = Media();
+        const Node project = ProjectWith(clip);
+        const auto video = Facet<INLEVideoStreamProcess>(clip);
+        QVERIFY(FAILED(video->SetProxyFile(L"/none.mp4")));
+        QCOMPARE(video->SetProxyFile(m_proxy.toStdWString().c_str()), S_OK);
+        QCOMPARE(ReadFrameNumber(Frame(project, 5)), 5);
+        video->SetProxyEnabled(true);
+        const QColor shown = Frame(project, 5).pixelColor(160, 90);
+        QVERIFY(shown.red() > 240 && shown.green() < 10);
+        video->SetProxyFile(L"");
+        QCOMPARE(ReadFrameNumber(Frame(project, 5)), 5);
+    }
+
+    void soundLevels_data()
+    {
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<double>("left");
+        QTest::addColumn<double>("right");
+        QTest::newRow("untouched") << Change([](auto&) {}) << 0.0 << 0.0;
+        QTest::newRow("half volume") << Change([](auto& a) { a.SetVolume(0.5); }) << -6.02 << -6.02;
+        QTest::newRow("double volume") << Change([](auto& a) { a.SetVolume(2); }) << 6.02 << 6.02;
+        QTest::newRow("volume switched off") << Change([](auto& a) {
+            a.SetVolume(0.1);
+            a.SetVolumeEnable(false);
+        }) << 0.0 << 0.0;
+        QTest::newRow("muted") << Change([](auto& a) { a.SetMute(true); }) << -150.0 << -150.0;
+        QTest::newRow("half to the left")
+            << Change([](auto& a) { a.SetBalance(-0.5); }) << 0.0 << -6.02;
+        QTest::newRow("all to the right")
+            << Change([](auto& a) { a.SetBalance(1); }) << -150.0 << 0.0;
+        QTest::newRow("mono of equal channels")
+            << Change([](auto& a) { a.SetMixToMonoEnable(true); }) << 0.0 << 0.0;
+    }
+
+    void soundLevels()
+    {
+        QFETCH(Change, change);
+        QFETCH(double, left);
+        QFETCH(double, right);
+        const Node clip = Media();
+        change(*Facet<INLEAudioStreamProcess>(clip));
+        const Stereo sound = Sound(ProjectWith(clip), 10, kRate / 5);
+        const auto matches = [](double found, double wanted) {
+            return wanted < -100 ? found < -100 : std::abs(found - wanted) < 0.5;
+        };
+        const double foundLeft = Decibels(Loudness(sound[0]), kToneLoudness);
+        const double foundRight = Decibels(Loudness(sound[1]), kToneLoudness);
+        QVERIFY2(matches(foundLeft, left) && matches(foundRight, right),
+                 qPrintable(QStringLiteral("%1 dB, %2 dB").arg(foundLeft).arg(foundRight)));
+    }
+
+    void fades()
+    {
+        const Node clip = Media();
+        const NLERange range = {20, 69};
+        clip->SetRange(&range);
+        const Node project = ProjectWith(clip, 5);
+        const auto audio = Facet<INLEAudioStreamProcess>(clip);
+        audio->SetFadeInRange(10);
+        audio->SetFadeOutRange(20);
+        audio->SetFadeInEnable(true);
+        audio->SetFadeOutEnable(true);
+        // A frame at a time; a linear fade has its middle value in the frame's middle.
+        const auto gainAt = [&](int frame) {
+            return Loudness(Sound(project, frame)[0]) / kToneLoudness;
+        };
+        for (int frame : {5, 7, 14})
+            QVERIFY(std::abs(gainAt(frame) - (frame - 5 + 0.5) / 10) < 0.03);
+        QVERIFY(std::abs(gainAt(25) - 1) < 0.03);
+        for (int frame : {36, 45, 54})
+            QVERIFY(std::abs(gainAt(frame) - (55 - frame - 0.5) / 20) < 0.03);
+    }
+
+    void volumeCurve()
+    {
+        const Node clip = Media();
+        NLEComPtr<INLEKeyFrameParam> curve;
+        Facet<INLEAudioStreamProcess>(clip)->GetVolumeKeyFrameParam(curve.put());
+        curve->SetPoint(2, 0);
+        curve->SetPoint(1, 1);
+        QVERIFY(FAILED(curve->SetPoint(qQNaN(), 1)));
+        int count = 0;
+        curve->GetCount(&count);
+        QCOMPARE(count, 2);
+        const Node project = ProjectWith(clip);
+        const auto gainAt = [&](int frame) {
+            return Loudness(Sound(project, frame)[0]) / kToneLoudness;
+        };
+        QVERIFY(std::abs(gainAt(10) - 1) < 0.03);
+        QVERIFY(std::abs(gainAt(37) - 0.5) < 0.03);
+        QVERIFY(gainAt(60) < 0.001);
+    }
+
+    void monoIsTheMean()
+    {
+        const QString left = Path("left.wav");
+        QCOMPARE(
+            RunFfmpeg({"-f", "lavfi", "-i", "sine=duration=1", "-af", "pan=stereo|c0=c0", left}),
+            QString());
+        const Node clip = EngineFixture::Media(left);
+        const double before = Loudness(Sound(clip, 5)[0]);
+        Facet<INLEAudioStreamProcess>(clip)->SetMixToMonoEnable(true);
+        const Stereo after = Sound(clip, 5);
+        QVERIFY(before > 0.01);
+        QVERIFY(std::abs(Decibels(Loudness(after[0]), before) + 6.02) < 0.1);
+        QCOMPARE(after[0], after[1]);
+    }
+
+    void effectsContinue()
+    {
+        const Node clip = Media();
+        Facet<INLEAudioStreamProcess>(clip)->SetPitch(5);
+        const auto extractor = provider->CreateFrameExtractor();
+        const auto sound = provider->CreateAudioFrame(kRate / 25);
+        float* data = nullptr;
+        sound->GetData(&data);
+        QCOMPARE(extractor->Open(clip.get(), 1), S_OK);
+        std::vector<double> pieces;
+        for (int frame = 30; frame < 35; ++frame) {
+            QCOMPARE(extractor->ExtractAudio(frame, sound.get()), S_OK);
+            for (int i = 0; i < kRate / 25; ++i)
+                pieces.push_back(data[2 * i]);
+        }
+        QCOMPARE(pieces, Sound(clip, 30, kRate / 5)[0]);
+    }
+
+    void pitch()
+    {
+        const Node clip = Media();
+        const Node project = ProjectWith(clip);
+        const auto audio = Facet<INLEAudioStreamProcess>(clip);
+        QCOMPARE(audio->SetPitch(12), S_OK);
+        const std::vector<double> sound = Sound(project, 25, kRate)[0];
+        double best = 0;
+        double frequency = 0;
+        for (double f = 400; f < 1000; f += 1) {
+            const double strength = Strength(sound, f);
+            if (strength > best) {
+                best = strength;
+                frequency = f;
+            }
+        }
+        QVERIFY2(std::abs(frequency - 2 * kTone) < 0.01 * 2 * kTone,
+                 qPrintable(QString::number(frequency)));
+        QVERIFY(std::abs(Decibels(Loudness(sound), kToneLoudness)) < 1);
+    }
+
+    void equalizer()
+    {
+        const QString path = Path("band.wav");
+        QCOMPARE(RunFfmpeg({"-f", "lavfi", "-i", "sine=frequency=500:duration=2", path}),
+                 QString());
+        const Node clip = EngineFixture::Media(path);
+        const auto audio = Facet<INLEAudioStreamProcess>(clip);
+        const auto loudness = [&] { return Loudness(Sound(clip, 25, kRate / 5)[0]); };
+        const double before = loudness();
+        double gains[10] = {0, 0, 0, 0, -12, 0, 0, 0, 0, 0};
+        QCOMPARE(audio->SetEqualizerParam(gains), S_OK);
+        QCOMPARE(loudness(), before);
+        audio->SetEqualizerEnable(true);
+        QVERIFY(std::abs(Decibels(loudness(), before) + 12) < 0.5);
+        // 16 kHz: the tone is far away.
+        std::swap(gains[4], gains[9]);
+        audio->SetEqualizerParam(gains);
+        QVERIFY(std::abs(Decibels(loudness(), before)) < 0.5);
+    }
+
+    void denoise()
+    {
+        const QString noisy = Path("noise.wav");
+        const QString sine = QStringLiteral("sine=frequency=440:duration=4,volume=4[a]");
+        const QString noise = QStringLiteral("anoisesrc=amplitude=0.02:duration=4:seed=7[b]");
+        const QString mix = sine + ";" + noise + ";[a][b]amix=normalize=0";
+        QCOMPARE(RunFfmpeg({"-f", "lavfi", "-i", mix, noisy}), QString());
+        const Node clip = EngineFixture::Media(noisy);
+        const Node project = ProjectWith(clip);
+        const auto noiseOf = [](const std::vector<double>& sound) {
+            const double tone = Strength(sound, kTone) / std::sqrt(2.0);
+            return std::sqrt(std::max(0.0, std::pow(Loudness(sound), 2) - tone * tone));
+        };
+        const std::vector<double> before = Sound(project, 50, kRate)[0];
+        const auto audio = Facet<INLEAudioStreamProcess>(clip);
+        audio->SetDenoiseLevel(30);
+        audio->SetDenoiseEnable(true);
+        const std::vector<double> after = Sound(project, 50, kRate)[0];
+        QVERIFY2(noiseOf(after) < noiseOf(before) / 2,
+                 qPrintable(QStringLiteral("%1 of %2").arg(noiseOf(after)).arg(noiseOf(before))));
+        QVERIFY(std::abs(Decibels(Strength(after, kTone), Strength(before, kTone))) < 0.5);
+    }
+
+    void mixer()
+    {
+        const Node project = ProjectWith(Media(), 0, 1);
+        Add(project, Media(), 0, 2);
+        const auto mixer = Facet<INLEMixerSetting>(project);
+        tagMixerParam strip = {};
+        QCOMPARE(mixer->GetParam(1, &strip), S_OK);
+        QCOMPARE(strip.volume, 1.0);
+        const auto loudness = [&] { return Loudness(Sound(project, 10)[0]) / kToneLoudness; };
+        QVERIFY(std::abs(loudness() - 2) < 0.05);
+        strip.volume = 0.5;
+        QCOMPARE(mixer->SetParam(1, &strip), S_OK);
+        QVERIFY(std::abs(loudness() - 1.5) < 0.05);
+        strip.solo = 1;
+        mixer->SetParam(1, &strip);
+        QVERIFY(std::abs(loudness() - 0.5) < 0.05);
+        strip.mute = 1;
+        mixer->SetParam(1, &strip);
+        QVERIFY(loudness() < 0.001);
+    }
+
+    void refusals()
+    {
+        const Node clip = Colour(Qt::red);
+        const auto blend = Facet<INLEBlendSetting>(clip);
+        QCOMPARE(blend->SetMode(-1), E_INVALIDARG);
+        QCOMPARE(blend->SetMode(1000), E_INVALIDARG);
+        QCOMPARE(blend->SetAlpha(256), E_INVALIDARG);
+        const auto transform = clip.query<INLETransform>();
+        const NLEPointF nowhere = {qQNaN(), 0};
+        const NLESizeF endless = {qInf(), 1};
+        QCOMPARE(transform->SetCenter(&nowhere), E_INVALIDARG);
+        QCOMPARE(transform->SetScale(&endless), E_INVALIDARG);
+        QCOMPARE(transform->SetRotation(qInf()), E_INVALIDARG);
+        const NLESizeF huge = {1e300, 1e300};
+        QCOMPARE(transform->SetScale(&huge), S_OK);
+        QVERIFY(!Frame(ProjectWith(clip), 0).isNull());
+        const auto audio = Facet<INLEAudioStreamProcess>(clip);
+        QCOMPARE(audio->SetVolume(qQNaN()), E_INVALIDARG);
+        QCOMPARE(audio->SetVolume(-1), E_INVALIDARG);
+        QCOMPARE(audio->SetFadeInRange(-1), E_INVALIDARG);
+        const tagMixerParam bad = {qQNaN(), 0, 0, 0};
+        QCOMPARE(Facet<INLEMixerSetting>(clip)->SetParam(0, &bad), E_INVALIDARG);
+
+        // A facility is the node itself: it answers for it and keeps it alive.
+        Node node = Colour(Qt::red);
+        const auto facet = Facet<INLEBlendSetting>(node);
+        QVERIFY(facet.query<INLETimeline>() == node);
+        node.reset();
+        QCOMPARE(facet->SetAlpha(3), S_OK);
+    }
+
+    void settingsSurvive()
+    {
+        const Node clip = Media();
+        const Node project = ProjectWith(clip, 3, 2);
+        const NLEPointF center = {0.25, 0.75};
+        const NLESizeF scale = {0.5, 0.4};
+        clip.query<INLETransform>()->SetCenter(&center);
+        clip.query<INLETransform>()->SetScale(&scale);
+        clip.query<INLETransform>()->SetRotation(30);
+        Facet<INLEBlendSetting>(clip)->SetMode(2);
+        Facet<INLEBlendSetting>(clip)->SetAlpha(200);
+        const auto audio = Facet<INLEAudioStreamProcess>(clip);
+        const double gains[10] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
+        audio->SetVolume(0.7);
+        audio->SetBalance(0.3);
+        audio->SetFadeInEnable(true);
+        audio->SetFadeInRange(12);
+        audio->SetPitch(-3);
+        audio->SetEqualizerParam(gains);
+        audio->SetEqualizerName(L"Rock \u2013 loud");
+        NLEComPtr<INLEKeyFrameParam> curve;
+        audio->GetVolumeKeyFrameParam(curve.put());
+        curve->SetPoint(0.1, 0.9);
+        const auto video = Facet<INLEVideoStreamProcess>(clip);
+        NLEAlphaChannelRecord record = {};
+        record.param4 = 0.125;
+        record.text2[259] = u'x';
+        record.tail[15] = 77;
+        video->SetAlphaChannel(&record);
+        video->SetProxyFile(m_proxy.toStdWString().c_str());
+        video->SetProxyEnabled(true);
+        video->SetPremultipliedAlphaType(2);
+        const tagMixerParam strip = {0.5, -0.25, 0, 1};
+        Facet<INLEMixerSetting>(project)->SetParam(2, &strip);
+
+        Node clone;
+        QCOMPARE(project->Clone(true, clone.put()), S_OK);
+        QVERIFY(Save(project, Path("saved.mlt")));
+        for (const Node& copy : {clone, Load(Path("saved.mlt"))}) {
+            QVERIFY(copy);
+            QCOMPARE(Frame(copy, 30), Frame(project, 30));
+            QCOMPARE(Sound(copy, 10)[0], Sound(project, 10)[0]);
+            tagMixerParam found = {};
+            Facet<INLEMixerSetting>(copy)->GetParam(2, &found);
+            QCOMPARE(found.balance, strip.balance);
+            const Node other = ClipAt(copy, 0);
+            NLEAlphaChannelRecord kept = {};
+            Facet<INLEVideoStreamProcess>(other)->GetAlphaChannel(&kept);
+            const auto bytes = [](const NLEAlphaChannelRecord& r) {
+                return QByteArray(reinterpret_cast<const char*>(&r), sizeof(r));
+            };
+            QCOMPARE(bytes(kept), bytes(record));
+            int type = 0;
+            Facet<INLEVideoStreamProcess>(other)->GetPremultipliedAlphaType(&type);
+            QCOMPARE(type, 2);
+            double keptGains[10] = {};
+            wchar_t name[32] = L"";
+            Facet<INLEAudioStreamProcess>(other)->GetEqualizerParam(keptGains);
+            Facet<INLEAudioStreamProcess>(other)->GetEqualizerName(name, 32);
+            QCOMPARE(keptGains[9], 10.0);
+            QCOMPARE(QString::fromWCharArray(name), QStringLiteral("Rock \u2013 loud"));
+        }
+    }
+};
 
 QTEST_MAIN(tst_EngineSettings)
 #include "tst_engine_settings.moc"
