@@ -42,6 +42,9 @@ inline bool operator!=(const _GUID& a, const _GUID& b)
 using HRESULT = std::int32_t;
 using ULONG = std::uint32_t;
 using BOOL = int;
+/// Handles of a native window (an X11 window's number where there is one) and of a monitor.
+using HWND = void*;
+using HMONITOR = void*;
 
 constexpr bool SUCCEEDED(HRESULT result)
 {

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/RulerDragAdjustManager_p.h"
+
+namespace {
+
+// A whole scale takes a few hundred pixels.
+constexpr float kZoomPerPixel = 2;
+
+} // namespace
+
+void RulerDragAdjustManager::BeginPlayHead(const QPoint& at)
+{
+    m_drag = Drag::PlayHead;
+    m_moved = false;
+    m_start = at;
+}
+
+void RulerDragAdjustManager::BeginZoomAndScroll(float zoom)
+{
+    m_drag = Drag::ZoomAndScroll;
+    m_moved = false;
+    m_grabbed = false;
+    m_zoom = zoom;
+}
+
+void RulerDragAdjustManager::Grab(const QPoint& at, double frame)
+{
+    m_grabbed = true;
+    m_start = at;
+    m_frame = frame;
+}
+
+bool RulerDragAdjustManager::Move(const QPoint& to)
+{
+    m_moved = m_moved || to != m_start;
+    return m_moved;
+}
+
+float RulerDragAdjustManager::ZoomAt(const QPoint& at) const
+{
+    return m_zoom - kZoomPerPixel * static_cast<float>(at.y() - m_start.y());
+}

@@ -1,0 +1,432 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/TimelineViewRuler_p.h"
+
+#include "CommonLib/RulerPainter_p.h"
+
+#include <QKeyEvent>
+#include <QPaintEvent>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr int kBottomMargin = 2;
+constexpr float kZoomPerNotch = 10;
+constexpr double kUnitsPerNotch = 120; // of a wheel
+constexpr double kWidthsPerNotch = 0.1;
+constexpr int kScrollInterval = 40;     // ms
+constexpr int kFarthestOvershoot = 200; // pixels beyond which scrolling gets no faster
+constexpr double kScrollPerOvershoot = 0.5;
+// Conversions of whole frames come back a little below them.
+constexpr double kFrameNoise = 1e-6;
+constexpr int kMostFrames = std::numeric_limits<int>::max();
+
+int RoundedFps(float fps)
+{
+    return fps >= 1 && fps < 1e6F ? static_cast<int>(std::lround(fps)) : 1;
+}
+
+} // namespace
+
+TimelineViewRuler::TimelineViewRuler(QWidget* parent) : QWidget(parent)
+{
+    setObjectName(QStringLiteral("TimelineView_TimelineViewRuler"));
+    setAttribute(Qt::WA_StyledBackground);
+    setFocusPolicy(Qt::StrongFocus);
+    setFixedHeight(kHeight);
+    m_convertor.Rebuild(RulerConvertor::DefaultTable());
+    m_convertor.SetMaxZoom(RulerConvertor::kDefaultMaxZoom);
+}
+
+// State and painting ------------------------------------------------------------------------------
+
+bool TimelineViewRuler::SetCurrentFrame(int frame)
+{
+    if (behaviour.limitRange)
+        frame = Bounded(frame);
+    RulerSegment& segment = m_convertor.Current();
+    if (frame == segment.currentFrame)
+        return false;
+    const QRect before = RulerPainter::PointerRect(segment, font());
+    segment.currentFrame = frame;
+    update(QRegion(before) + RulerPainter::PointerRect(segment, font()));
+    return true;
+}
+
+void TimelineViewRuler::SetOffsetFrames(int frames)
+{
+    if (frames == Segment().offsetFrames)
+        return;
+    m_convertor.Current().offsetFrames = frames;
+    update();
+}
+
+void TimelineViewRuler::SetOffsetPosition(int pixels)
+{
+    if (pixels == Segment().offsetPosition)
+        return;
+    m_convertor.Current().offsetPosition = pixels;
+    update();
+}
+
+void TimelineViewRuler::paintEvent(QPaintEvent* event)
+{
+    RulerSegment& segment = m_convertor.Current();
+    segment.viewRect = rect().adjusted(0, 0, 0, -kBottomMargin);
+    if (m_convertor.IsEmpty())
+        return;
+    QPainter painter(this);
+    RulerPainter ruler(painter, segment);
+    // One by one: where the play head was and where it is may lie far apart.
+    for (const QRect& part : event->region()) {
+        painter.setClipRect(part);
+        ruler.Paint(part);
+    }
+}
+
+void TimelineViewRuler::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    const QRect view = rect().adjusted(0, 0, 0, -kBottomMargin);
+    m_convertor.ForEach([&](RulerSegment& segment) { segment.viewRect = view; });
+}
+
+void TimelineViewRuler::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange)
+        ChangeSegments([this](RulerSegment& segment) { segment.enabled = isEnabled(); });
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange)
+        ChangeConvertor([](RulerConvertor& convertor) { convertor.UpdateLabelInterval(); });
+}
+
+void TimelineViewRuler::hideEvent(QHideEvent* event)
+{
+    // The release would never come.
+    EndDrag();
+    QWidget::hideEvent(event);
+}
+
+// Frames ------------------------------------------------------------------------------------------
+
+int TimelineViewRuler::FirstFrame() const
+{
+    return behaviour.limitRange ? std::max(behaviour.rangeIn, 0) : 0;
+}
+
+int TimelineViewRuler::LastFrame() const
+{
+    const int last = behaviour.totalFrames > 0 ? behaviour.totalFrames - 1 : kMostFrames;
+    if (!behaviour.limitRange)
+        return last;
+    return std::max(std::min(behaviour.rangeOut, last), FirstFrame());
+}
+
+int TimelineViewRuler::Bounded(qint64 frame) const
+{
+    return static_cast<int>(std::max<qint64>(FirstFrame(), std::min<qint64>(LastFrame(), frame)));
+}
+
+int TimelineViewRuler::AvailableFrames() const
+{
+    if (!behaviour.limitRange)
+        return behaviour.totalFrames;
+    return static_cast<int>(
+        std::min<qint64>(kMostFrames, static_cast<qint64>(LastFrame()) - FirstFrame() + 1));
+}
+
+int TimelineViewRuler::FrameAt(int x) const
+{
+    const double exact = Segment().PositionToFrames(x);
+    const double frame =
+        behaviour.roundFrames ? std::round(exact) : std::floor(exact + kFrameNoise);
+    return Bounded(static_cast<qint64>(std::max(-1.0, std::min<double>(kMostFrames, frame))));
+}
+
+void TimelineViewRuler::MoveByUser(int frame)
+{
+    if (SetCurrentFrame(frame))
+        emit FramesChanged(Segment().currentFrame);
+}
+
+void TimelineViewRuler::StepTo(qint64 frame)
+{
+    const int target = Bounded(frame);
+    if (!behaviour.moveFrame || target == Segment().currentFrame)
+        return;
+    emit StartFramesChanged();
+    MoveByUser(target);
+    ShowPlayHead();
+    emit EndFramesChanged();
+}
+
+void TimelineViewRuler::ShowPlayHead()
+{
+    const RulerSegment& segment = Segment();
+    const double x = segment.FramesToPosition(segment.currentFrame);
+    if (x < 0 || x >= width())
+        SetLeftEdge(segment.currentFrame - segment.PixelsToFrames(width() / 2.0));
+}
+
+// Zooming and scrolling ---------------------------------------------------------------------------
+
+void TimelineViewRuler::SetLeftEdge(double frame)
+{
+    RulerSegment& segment = m_convertor.Current();
+    const double last = behaviour.totalFrames > 0 ? behaviour.totalFrames - 1 : kMostFrames;
+    frame = std::max(0.0, std::min(last, frame));
+    const double whole = std::floor(frame + kFrameNoise);
+    const auto offset = static_cast<int>(whole);
+    const auto pixels = static_cast<int>(std::lround(segment.FramesToPixels(frame - whole)));
+    if (offset == segment.offsetFrames && pixels == segment.offsetPosition)
+        return;
+    segment.offsetFrames = offset;
+    segment.offsetPosition = pixels;
+    update();
+    emit OffsetFramesChanged(offset);
+}
+
+void TimelineViewRuler::ZoomAbout(float zoom, double frame, double x)
+{
+    const float bounded = m_convertor.BoundedZoom(zoom);
+    if (bounded != m_convertor.Zoom()) {
+        m_convertor.SetZoom(bounded);
+        update();
+        emit ZoomChanged(bounded);
+    }
+    SetLeftEdge(frame - Segment().PixelsToFrames(x));
+}
+
+void TimelineViewRuler::ZoomOnceAbout(float zoom, double frame, double x)
+{
+    if (m_convertor.BoundedZoom(zoom) == m_convertor.Zoom())
+        return;
+    emit StartZoomChanged();
+    ZoomAbout(zoom, frame, x);
+    emit EndZoomChanged();
+}
+
+void TimelineViewRuler::FitAll()
+{
+    if (behaviour.totalFrames <= 0)
+        return;
+    emit StartZoomChanged();
+    ZoomAbout(m_convertor.FindZoom(behaviour.totalFrames, width()), 0, 0);
+    emit EndZoomChanged();
+}
+
+void TimelineViewRuler::wheelEvent(QWheelEvent* event)
+{
+    const QPoint turn = event->angleDelta();
+    // Alt and Shift turn a vertical wheel into a horizontal one on some systems.
+    const double notches = (turn.y() != 0 ? turn.y() : turn.x()) / kUnitsPerNotch;
+    event->accept();
+    if (notches == 0 || m_drag.Active() != Drag::None)
+        return;
+    const RulerSegment& segment = Segment();
+    if (event->modifiers() & Qt::ControlModifier) {
+        const double x = event->position().x();
+        const float from = m_convertor.BoundedZoom(m_convertor.Zoom());
+        ZoomOnceAbout(from - static_cast<float>(notches) * kZoomPerNotch,
+                      segment.PositionToFrames(x), x);
+    } else {
+        SetLeftEdge(segment.LeftEdge() -
+                    segment.PixelsToFrames(notches * width() * kWidthsPerNotch));
+    }
+}
+
+// Mouse -------------------------------------------------------------------------------------------
+
+void TimelineViewRuler::mousePressEvent(QMouseEvent* event)
+{
+    m_mouse = event->pos();
+    if (m_drag.Active() != Drag::None)
+        return;
+    const bool zooms = event->button() == Qt::MiddleButton ||
+                       (event->button() == Qt::LeftButton && event->modifiers() & Qt::AltModifier);
+    if (event->button() == Qt::RightButton) {
+        emit sigRightClicked(event->globalPos());
+    } else if (zooms) {
+        StartZoomAndScroll();
+        if (m_drag.NeedsGrab())
+            m_drag.Grab(m_mouse, Segment().PositionToFrames(m_mouse.x()));
+    } else if (event->button() == Qt::LeftButton) {
+        m_sincePress.start();
+        PressPlayHead(m_mouse);
+    }
+}
+
+void TimelineViewRuler::PressPlayHead(const QPoint& at)
+{
+    if (!behaviour.moveFrame)
+        return;
+    m_drag.BeginPlayHead(at);
+    m_inSingleClick = behaviour.singleClickEmits;
+    if (m_inSingleClick)
+        emit sigSingleClickStartFramesChanged();
+    emit StartFramesChanged();
+    SetCurrentFrame(FrameAt(at.x()));
+    if (behaviour.pressEmitsFrames)
+        emit FramesChanged(Segment().currentFrame);
+}
+
+void TimelineViewRuler::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    // The system's own interval may be longer.
+    const bool isDouble = event->button() == Qt::LeftButton && m_sincePress.isValid() &&
+                          m_sincePress.elapsed() <= kDoubleClickInterval;
+    if (!isDouble) {
+        mousePressEvent(event);
+        return;
+    }
+    m_sincePress.invalidate();
+    FitAll();
+}
+
+void TimelineViewRuler::mouseMoveEvent(QMouseEvent* event)
+{
+    m_mouse = event->pos();
+    if (m_drag.NeedsGrab())
+        m_drag.Grab(m_mouse, Segment().PositionToFrames(m_mouse.x()));
+    if (m_drag.Active() == Drag::None || !behaviour.dragable || !m_drag.Move(m_mouse))
+        return;
+    if (m_drag.Active() == Drag::PlayHead)
+        DragPlayHead(m_mouse);
+    else
+        DragZoomAndScroll(m_mouse);
+}
+
+void TimelineViewRuler::DragPlayHead(const QPoint& at)
+{
+    EndSingleClick();
+    const bool isInside = at.x() >= 0 && at.x() < width();
+    if (isInside) {
+        m_scrollTimer.stop();
+        MoveByUser(FrameAt(at.x()));
+    } else if (!m_scrollTimer.isActive()) {
+        m_scrollTimer.start(kScrollInterval, this);
+        ScrollAtEdge();
+    }
+}
+
+void TimelineViewRuler::ScrollAtEdge()
+{
+    const RulerSegment& segment = Segment();
+    const int edge = m_mouse.x() < 0 ? 0 : width() - 1;
+    const int overshoot = m_mouse.x() - edge;
+    const int limit = overshoot < 0 ? FirstFrame() : LastFrame();
+    const double beyond = segment.FramesToPosition(limit) - edge;
+    // No further than to where the limit comes into sight.
+    if (beyond * overshoot > 0) {
+        const double wanted =
+            kScrollPerOvershoot * std::min(std::abs(overshoot), kFarthestOvershoot);
+        const double pixels = std::min(std::ceil(wanted), std::ceil(std::abs(beyond)));
+        SetLeftEdge(segment.LeftEdge() + segment.PixelsToFrames(std::copysign(pixels, overshoot)));
+    }
+    MoveByUser(FrameAt(edge));
+}
+
+void TimelineViewRuler::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() == m_scrollTimer.timerId())
+        ScrollAtEdge();
+    else
+        QWidget::timerEvent(event);
+}
+
+void TimelineViewRuler::StartZoomAndScroll()
+{
+    EndDrag();
+    if (!behaviour.dragable)
+        return;
+    m_drag.BeginZoomAndScroll(m_convertor.BoundedZoom(m_convertor.Zoom()));
+    // Without a button down the mouse is followed all the same.
+    setMouseTracking(true);
+    emit StartZoomChanged();
+}
+
+void TimelineViewRuler::DragZoomAndScroll(const QPoint& at)
+{
+    ZoomAbout(m_drag.ZoomAt(at), m_drag.GrabbedFrame(), at.x());
+}
+
+void TimelineViewRuler::EndSingleClick()
+{
+    if (!m_inSingleClick)
+        return;
+    m_inSingleClick = false;
+    emit sigSingleClickEndFrameChanged();
+}
+
+void TimelineViewRuler::EndDrag()
+{
+    const Drag ended = m_drag.Active();
+    m_drag.End();
+    m_scrollTimer.stop();
+    setMouseTracking(false);
+    if (ended == Drag::ZoomAndScroll)
+        emit EndZoomChanged();
+    if (ended != Drag::PlayHead)
+        return;
+    if (behaviour.releaseEmitsFrames)
+        emit FramesChanged(Segment().currentFrame);
+    emit EndFramesChanged();
+    EndSingleClick();
+}
+
+void TimelineViewRuler::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool ends = m_drag.Active() == Drag::PlayHead ? event->button() == Qt::LeftButton
+                                                        : event->button() != Qt::RightButton;
+    if (ends)
+        EndDrag();
+}
+
+// Keys --------------------------------------------------------------------------------------------
+
+void TimelineViewRuler::keyPressEvent(QKeyEvent* event)
+{
+    const RulerSegment& segment = Segment();
+    const qint64 frame = segment.currentFrame;
+    const int step = event->modifiers() & Qt::ShiftModifier ? RoundedFps(segment.fps) : 1;
+    const qint64 page =
+        static_cast<qint64>(segment.framesPerSmallTick) * segment.smallTicksPerBigTick;
+    const auto zoomBy = [&](float change) {
+        const float from = m_convertor.BoundedZoom(m_convertor.Zoom());
+        ZoomOnceAbout(from + change, static_cast<double>(frame),
+                      segment.FramesToPosition(static_cast<double>(frame)));
+    };
+    switch (event->key()) {
+    case Qt::Key_Left:
+        StepTo(frame - step);
+        break;
+    case Qt::Key_Right:
+        StepTo(frame + step);
+        break;
+    case Qt::Key_PageUp:
+        StepTo(frame - page);
+        break;
+    case Qt::Key_PageDown:
+        StepTo(frame + page);
+        break;
+    case Qt::Key_Home:
+        StepTo(FirstFrame());
+        break;
+    case Qt::Key_End:
+        // Without a known end there is nowhere to go.
+        if (LastFrame() != kMostFrames)
+            StepTo(LastFrame());
+        break;
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        zoomBy(-kZoomPerNotch);
+        break;
+    case Qt::Key_Minus:
+        zoomBy(kZoomPerNotch);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}

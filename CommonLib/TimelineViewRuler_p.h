@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "CommonLib/RulerConvertor_p.h"
+#include "CommonLib/RulerDragAdjustManager_p.h"
+
+#include <QBasicTimer>
+#include <QElapsedTimer>
+#include <QWidget>
+
+// Not part of the library's interface.
+
+/// The widget that draws a TimelineRuler and takes its mouse, wheel and keys. Signals tell of what
+/// the user does, never of calls.
+class TimelineViewRuler : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TimelineViewRuler(QWidget* parent);
+
+    static constexpr int kHeight = 28;
+    static constexpr int kDoubleClickInterval = 400; // ms
+
+    /// What the mouse and the keys do; most of it is on at construction.
+    struct Behaviour
+    {
+        bool dragable = true;
+        bool moveFrame = true;
+        bool pressEmitsFrames = true;
+        bool releaseEmitsFrames = true;
+        bool singleClickEmits = false;
+        bool roundFrames = false;
+        bool limitRange = false;
+        int totalFrames = 0; ///< 0 when not known
+        int rangeIn = 0;
+        int rangeOut = 0;
+    };
+    Behaviour behaviour;
+
+    const RulerConvertor& Convertor() const { return m_convertor; }
+    const RulerSegment& Segment() const { return m_convertor.Current(); }
+    /// Changes the convertor and repaints all.
+    template <typename Change>
+    void ChangeConvertor(Change change)
+    {
+        change(m_convertor);
+        update();
+    }
+    /// Changes every segment and repaints all.
+    template <typename Change>
+    void ChangeSegments(Change change)
+    {
+        m_convertor.ForEach(change);
+        update();
+    }
+    /// Moves the play head, within the range when that is limited. Repaints no more than where it
+    /// was and is. Returns whether it moved.
+    bool SetCurrentFrame(int frame);
+    int AvailableFrames() const;
+    void SetOffsetFrames(int frames);
+    void SetOffsetPosition(int pixels);
+
+    void StartZoomAndScroll();
+    void EndDrag();
+
+signals:
+    void sigSingleClickStartFramesChanged();
+    void sigSingleClickEndFrameChanged();
+    void StartFramesChanged();
+    void EndFramesChanged();
+    void FramesChanged(int frames);
+    void StartZoomChanged();
+    void EndZoomChanged();
+    void ZoomChanged(float zoom);
+    void OffsetFramesChanged(int frames);
+    void sigRightClicked(QPoint pt);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    using Drag = RulerDragAdjustManager::Drag;
+
+    void PressPlayHead(const QPoint& at);
+    void DragPlayHead(const QPoint& at);
+    void DragZoomAndScroll(const QPoint& at);
+    void EndSingleClick();
+    /// Moves the play head for the user and tells of it when it moved.
+    void MoveByUser(int frame);
+    void StepTo(qint64 frame);
+    void ShowPlayHead();
+    void ScrollAtEdge();
+
+    int FrameAt(int x) const;
+    int FirstFrame() const;
+    int LastFrame() const;
+    int Bounded(qint64 frame) const;
+
+    /// Zooms so that \a frame lies at \a x, and tells of what changed.
+    void ZoomAbout(float zoom, double frame, double x);
+    void ZoomOnceAbout(float zoom, double frame, double x);
+    void FitAll();
+    /// Scrolls so that \a frame (with its fraction) lies at the left edge.
+    void SetLeftEdge(double frame);
+
+    RulerConvertor m_convertor;
+    RulerDragAdjustManager m_drag;
+    QElapsedTimer m_sincePress;
+    QBasicTimer m_scrollTimer;
+    QPoint m_mouse;
+    bool m_inSingleClick = false;
+};

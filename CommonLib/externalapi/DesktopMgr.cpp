@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/externalapi/DesktopMgr.h"
+
+#include <QApplication>
+#include <QDesktopWidget>
+#include <QPointer>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace {
+
+QWidget* WidgetOf(QScreen* screen)
+{
+    const int number = QGuiApplication::screens().indexOf(screen);
+    if (number < 0 || !qobject_cast<QApplication*>(QCoreApplication::instance()))
+        return nullptr;
+    // The toolkit offers no other widget for a screen.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    return QApplication::desktop()->screen(number);
+    QT_WARNING_POP
+}
+
+int DistanceTo(const QRect& area, const QPoint& point)
+{
+    const QPoint nearest(qBound(area.left(), point.x(), area.right()),
+                         qBound(area.top(), point.y(), area.bottom()));
+    return (point - nearest).manhattanLength();
+}
+
+} // namespace
+
+DesktopMgr* DesktopMgr::GetInstance()
+{
+    static QPointer<DesktopMgr> instance;
+    if (!instance)
+        instance = new DesktopMgr(QCoreApplication::instance());
+    return instance;
+}
+
+QWidget* DesktopMgr::MainScreen() const
+{
+    return WidgetOf(QGuiApplication::primaryScreen());
+}
+
+QWidget* DesktopMgr::ScreenWithPoint(QPoint point) const
+{
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    const auto nearest = std::min_element(
+        screens.begin(), screens.end(), [&point](const QScreen* a, const QScreen* b) {
+            return DistanceTo(a->geometry(), point) < DistanceTo(b->geometry(), point);
+        });
+    return nearest == screens.end() ? nullptr : WidgetOf(*nearest);
+}

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/externalapi/Screens_p.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+#include <QWindow>
+
+QVector<ScreenResolution::ScreenInfo> ListScreens()
+{
+    QVector<ScreenResolution::ScreenInfo> infos;
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (QScreen* screen : screens) {
+        ScreenResolution::ScreenInfo info;
+        const QRect logical = screen->geometry();
+        // A compositor may list an output that it has not placed yet.
+        if (logical.isEmpty())
+            continue;
+        info.handle = screen;
+        info.primary = screen == QGuiApplication::primaryScreen();
+        info.physical =
+            QRect(QPoint(), (QSizeF(logical.size()) * screen->devicePixelRatio()).toSize());
+        info.logical = logical;
+        info.scale =
+            static_cast<float>(info.physical.width()) / static_cast<float>(logical.width());
+        info.id = infos.size();
+        infos.append(info);
+    }
+    return infos;
+}
+
+HMONITOR NearestMonitor(const QWidget& widget)
+{
+    const QWindow* window = widget.window()->windowHandle();
+    return window ? window->screen() : nullptr;
+}

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <QVector>
+#include <QWidget>
+
+class TimelineRuler;
+
+/// A track of clips that scrolls and zooms with a ruler above it.
+class ClipStrip : public QWidget
+{
+public:
+    struct Clip
+    {
+        int in;  ///< first frame on the timeline
+        int out; ///< last frame
+        QString name;
+        QColor color;
+    };
+
+    /// \a ruler stays the caller's, outlives the strip and lies flush with its left edge.
+    ClipStrip(const TimelineRuler& ruler, QVector<Clip> clips, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void PaintClip(QPainter& painter, const Clip& clip) const;
+
+    const TimelineRuler& m_ruler;
+    QVector<Clip> m_clips;
+};

@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// What painting the ruler costs beside the drawing calls that it makes, recorded once and played
+// back bare on the same picture; and the slowest conversions. Figures are medians.
+#include "CommonLib/TimelineRuler.h"
+#include "CommonLib/externalapi/PixelRatio.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QPaintEngine>
+#include <QPainter>
+
+#include <algorithm>
+#include <chrono>
+#include <climits>
+#include <cstdio>
+#include <functional>
+#include <iterator>
+#include <vector>
+
+namespace {
+
+constexpr int kWidth = 3840;
+constexpr int kRounds = 201;
+
+using Clock = std::chrono::steady_clock;
+using Call = std::function<void(QPainter&)>;
+
+// Records lines, polygons, rectangles and texts as the calls that draw them.
+class Recorder : public QPaintEngine
+{
+public:
+    explicit Recorder(std::vector<Call>& calls) : QPaintEngine(AllFeatures), m_calls(calls) {}
+    bool begin(QPaintDevice*) override { return true; }
+    bool end() override { return true; }
+    Type type() const override { return User; }
+    void updateState(const QPaintEngineState& changed) override
+    {
+        const auto flags = changed.state();
+        if (flags & DirtyPen)
+            m_calls.push_back([pen = changed.pen()](QPainter& p) { p.setPen(pen); });
+        if (flags & DirtyBrush)
+            m_calls.push_back([brush = changed.brush()](QPainter& p) { p.setBrush(brush); });
+        if (flags & DirtyHints)
+            m_calls.push_back([hints = changed.renderHints()](QPainter& p) {
+                p.setRenderHint(QPainter::Antialiasing, hints & QPainter::Antialiasing);
+            });
+    }
+    void drawLines(const QLineF* lines, int count) override
+    {
+        QVector<QLineF> all;
+        std::copy(lines, lines + count, std::back_inserter(all));
+        // In one call, which costs a fraction of a call a line.
+        m_calls.push_back([all](QPainter& p) { p.drawLines(all); });
+        m_lines += count;
+    }
+    void drawLines(const QLine* lines, int count) override
+    {
+        QPaintEngine::drawLines(lines, count);
+    }
+    void drawRects(const QRectF* rects, int count) override
+    {
+        for (int i = 0; i < count; ++i)
+            m_calls.push_back([rect = rects[i]](QPainter& p) { p.drawRect(rect); });
+    }
+    void drawRects(const QRect* rects, int count) override
+    {
+        QPaintEngine::drawRects(rects, count);
+    }
+    void drawPolygon(const QPointF* points, int count, PolygonDrawMode) override
+    {
+        QPolygonF polygon;
+        for (int i = 0; i < count; ++i)
+            polygon << points[i];
+        m_calls.push_back([polygon](QPainter& p) { p.drawPolygon(polygon); });
+    }
+    void drawPolygon(const QPoint* points, int count, PolygonDrawMode mode) override
+    {
+        QPaintEngine::drawPolygon(points, count, mode);
+    }
+    void drawTextItem(const QPointF& at, const QTextItem& item) override
+    {
+        m_calls.push_back([at, text = item.text()](QPainter& p) { p.drawText(at, text); });
+        ++m_texts;
+    }
+    void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
+    int Lines() const { return m_lines; }
+    int Texts() const { return m_texts; }
+
+private:
+    std::vector<Call>& m_calls;
+    int m_lines = 0;
+    int m_texts = 0;
+};
+
+class RecordingDevice : public QPaintDevice
+{
+public:
+    RecordingDevice(Recorder& recorder, const QSize& size) : m_recorder(recorder), m_size(size) {}
+    QPaintEngine* paintEngine() const override { return &m_recorder; }
+
+protected:
+    int metric(PaintDeviceMetric metric) const override
+    {
+        switch (metric) {
+        case PdmWidth:
+            return m_size.width();
+        case PdmHeight:
+            return m_size.height();
+        case PdmDepth:
+            return 32;
+        case PdmDevicePixelRatio:
+            return 1;
+        case PdmDevicePixelRatioScaled:
+            return static_cast<int>(devicePixelRatioFScale());
+        default:
+            return 96;
+        }
+    }
+
+private:
+    Recorder& m_recorder;
+    QSize m_size;
+};
+
+double Milliseconds(const std::function<void()>& work)
+{
+    const Clock::time_point start = Clock::now();
+    work();
+    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+}
+
+double Median(std::vector<double> times)
+{
+    std::nth_element(times.begin(), times.begin() + times.size() / 2, times.end());
+    return times[times.size() / 2];
+}
+
+struct Scene
+{
+    const char* name;
+    float zoom;
+    int offset;
+};
+
+void Paint(const Scene& scene)
+{
+    TimelineRuler ruler(nullptr);
+    ruler.setStyleSheet(gGetCommonLibStyles());
+    ruler.resize(kWidth, ruler.Height());
+    ruler.SetZoom(scene.zoom);
+    ruler.SetOffsetFrames(scene.offset);
+    ruler.SetCurrentFrames(scene.offset + static_cast<int>(ruler.Duration2FramesF(kWidth / 2)));
+    ruler.ensurePolished();
+    QWidget* view = ruler.SetEventFilter(nullptr);
+    ruler.grab(); // lays out
+
+    std::vector<Call> calls;
+    Recorder recorder(calls);
+    RecordingDevice device(recorder, view->size());
+    view->render(&device, {}, {}, QWidget::DrawWindowBackground);
+
+    QImage image(view->size(), QImage::Format_ARGB32_Premultiplied);
+    std::vector<double> ours, bare, scrolled;
+    for (int i = 0; i < kRounds; ++i) {
+        bare.push_back(Milliseconds([&] {
+            QPainter painter(&image);
+            painter.fillRect(image.rect(), QColor(0x20, 0x22, 0x25));
+            painter.setFont(view->font());
+            // As on every widget; the rasteriser is many times slower without.
+            painter.setClipRect(image.rect());
+            for (const Call& call : calls)
+                call(painter);
+        }));
+        ours.push_back(Milliseconds([&] { view->render(&image); }));
+        scrolled.push_back(Milliseconds([&] {
+            ruler.SetOffsetFrames(scene.offset + i + 1);
+            view->render(&image);
+        }));
+        ruler.SetOffsetFrames(scene.offset);
+    }
+    std::printf("%-34s %4d lines %3d texts  ruler %.3f ms  bare calls %.3f ms  ratio %.2f  "
+                "scrolled by a frame %.3f ms\n",
+                scene.name, recorder.Lines(), recorder.Texts(), Median(ours), Median(bare),
+                Median(ours) / Median(bare), Median(scrolled));
+}
+
+// The slowest of many calls, over lengths of 1 frame to the largest and widths of 0 to 16,384.
+void FitRanges()
+{
+    double slowestFind = 0;
+    double slowestFit = 0;
+    for (double length = 1; length <= INT_MAX; length *= 1.13) {
+        for (int width = 0; width <= 16384; width += width < 64 ? 1 : 317) {
+            const int frames = static_cast<int>(length);
+            TimelineRuler ruler(nullptr);
+            slowestFind =
+                std::max(slowestFind, Milliseconds([&] { ruler.FindZoom(frames, width); }));
+            slowestFit =
+                std::max(slowestFit,
+                         Milliseconds([&] { ruler.ZoomFromWidthAndTotaleFramesF(width, frames); }));
+        }
+    }
+    std::printf("slowest FindZoom %.3f ms, slowest ZoomFromWidthAndTotaleFramesF %.3f ms\n",
+                slowestFind, slowestFit);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    for (const Scene& scene :
+         {Scene{"widest ticks, frame 0", 0, 0}, Scene{"closest ticks, frame 0", 120, 0},
+          Scene{"closest ticks, frame 10,000,000", 120, 10000000}, Scene{"hours, frame 0", 780, 0},
+          Scene{"hours, frame 10,000,000", 780, 10000000},
+          Scene{"beyond the scale: 1 pixel a tick", 809, 0},
+          Scene{"beyond the scale: no room at all", 900, 0}})
+        Paint(scene);
+    FitRanges();
+    return 0;
+}

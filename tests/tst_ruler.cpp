@@ -1,0 +1,640 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/GlobalUtils.h"
+#include "CommonLib/TimelineRuler.h"
+
+#include <QFontMetrics>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QWheelEvent>
+#include <QtTest>
+
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <random>
+
+namespace {
+
+constexpr int kWidth = 400;
+constexpr int kHeight = 28;
+constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
+const QColor kTick = Qt::red;
+const QColor kText = Qt::blue;
+
+// Set by the option --update-pictures: writes the reference pictures instead of comparing.
+bool updatePictures = false;
+
+// The default scale: zoom range, frames per large tick, its pixels at the range's start.
+struct Segment
+{
+    float from, to;
+    int bigFrames, pixels;
+};
+const Segment kSegments[] = {{0, 120, 5, 150},     {121, 240, 25, 149},   {241, 360, 125, 149},
+                             {361, 510, 750, 179}, {511, 630, 3750, 149}, {631, 780, 22500, 179}};
+
+struct Ruler : TimelineRuler
+{
+    QWidget* view = SetEventFilter(nullptr);
+    QStringList log;
+    Ruler() : TimelineRuler(nullptr)
+    {
+        resize(kWidth, kHeight);
+        SetScaleColor(kTick);
+        SetFrameTextColor(kText);
+        setStyleSheet("QWidget { background: white }");
+        show();
+        const auto note = [this](const char* name) { return [this, name] { log << name; }; };
+        connect(this, &TimelineRuler::sigSingleClickStartFramesChanged, note("clickStart"));
+        connect(this, &TimelineRuler::sigSingleClickEndFrameChanged, note("clickEnd"));
+        connect(this, &TimelineRuler::StartFramesChanged, note("start"));
+        connect(this, &TimelineRuler::EndFramesChanged, note("end"));
+        connect(this, &TimelineRuler::StartZoomChanged, note("startZoom"));
+        connect(this, &TimelineRuler::EndZoomChanged, note("endZoom"));
+        connect(this, &TimelineRuler::ZoomChanged, note("zoom"));
+        connect(this, &TimelineRuler::FramesChanged, [this](int f) { log << QString::number(f); });
+        connect(this, &TimelineRuler::OffsetFramesChanged,
+                [this](int f) { log << "offset" + QString::number(f); });
+        connect(this, &TimelineRuler::sigRightClicked, [this](QPoint pt) {
+            log << QString("right%1,%2")
+                       .arg(pt.x() - mapToGlobal({}).x())
+                       .arg(pt.y() - mapToGlobal({}).y());
+        });
+    }
+    QString TakeLog() { return std::exchange(log, {}).join(' '); }
+    QImage Picture(double scale = 1)
+    {
+        QImage image(size() * scale, QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        image.fill(Qt::white);
+        view->render(&image);
+        return image;
+    }
+    void Mouse(QEvent::Type type, int x, int y, Qt::MouseButton button = Qt::LeftButton)
+    {
+        const Qt::MouseButton cause = type == QEvent::MouseMove ? Qt::NoButton : button;
+        const Qt::MouseButtons down = type == QEvent::MouseButtonRelease ? Qt::NoButton : button;
+        QMouseEvent event(type, QPointF(x, y), view->mapToGlobal(QPoint(x, y)), cause, down, {});
+        QCoreApplication::sendEvent(view, &event);
+    }
+    void Press(int x, int y = 5) { Mouse(QEvent::MouseButtonPress, x, y); }
+    void Move(int x, int y = 5) { Mouse(QEvent::MouseMove, x, y); }
+    void Release(int x, int y = 5) { Mouse(QEvent::MouseButtonRelease, x, y); }
+    void Wheel(int x, int turn, Qt::KeyboardModifiers modifiers)
+    {
+        QWheelEvent event(QPointF(x, 5), view->mapToGlobal(QPoint(x, 5)), {}, {0, turn},
+                          Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(view, &event);
+    }
+};
+
+// Columns of a row that are of a colour.
+QVector<int> Columns(const QImage& image, int row, const QColor& color)
+{
+    QVector<int> columns;
+    for (int x = 0; x < image.width(); ++x) {
+        if (image.pixelColor(x, row) == color)
+            columns << x;
+    }
+    return columns;
+}
+
+// Share of the pixels that differ clearly, which glyphs of another rasteriser hardly do.
+double Difference(const QImage& a, const QImage& b)
+{
+    int differing = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y), q = b.pixel(x, y);
+            const int most = std::max({std::abs(qRed(p) - qRed(q)), std::abs(qGreen(p) - qGreen(q)),
+                                       std::abs(qBlue(p) - qBlue(q))});
+            differing += most > 96;
+        }
+    }
+    return differing / double(a.width() * a.height());
+}
+
+// The adjustment step by step.
+int SlowZoomFromWidth(int width, int frames)
+{
+    for (int i = 0; i < 6; ++i) {
+        const Segment& segment = kSegments[i];
+        const double sum = segment.pixels + segment.from, perFrame = double(width) / frames;
+        const int zoom = int(sum - segment.bigFrames * perFrame);
+        if (zoom < segment.from || zoom > segment.to)
+            continue;
+        for (int step = segment.bigFrames / 5; step < 10000000; ++step) {
+            const double v = sum - step * (5 * perFrame);
+            if (v < 0 || (v - std::floor(v) > 0.7 && i > 0 && kSegments[i - 1].to >= v))
+                return zoom;
+            if (v - std::floor(v) > 0.7)
+                return int(v + 1);
+        }
+        return zoom;
+    }
+    return 0;
+}
+
+} // namespace
+
+using Setter = std::function<void(Ruler&)>;
+Q_DECLARE_METATYPE(Setter)
+
+class TestRuler : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void scale()
+    {
+        Ruler ruler;
+        QCOMPARE(ruler.Zoom(), 780.0F);
+        QCOMPARE(ruler.MaxZoom(), 780.0F);
+        ruler.SetOffsetFrames(10);
+        ruler.SetOffsetPosition(3);
+        for (const Segment& segment : kSegments) {
+            for (const float zoom : {segment.from, (segment.from + segment.to) / 2, segment.to}) {
+                ruler.SetZoom(zoom);
+                const float spacing = segment.pixels - (zoom - segment.from);
+                QCOMPARE(ruler.Zoom(), zoom);
+                QCOMPARE(ruler.Frames2DurationF(segment.bigFrames), spacing);
+                QCOMPARE(ruler.Duration2FramesF(100), 100 * segment.bigFrames / spacing);
+                QCOMPARE(ruler.Frames2PositionF(10 + 2 * segment.bigFrames), 2 * spacing - 3);
+                QCOMPARE(ruler.Position2FramesF(-3), 10.0F);
+            }
+        }
+        ruler.SetZoom(800);
+        QCOMPARE(ruler.Frames2DurationF(22500), 10.0F);
+        ruler.SetZoom(120.4F);
+        QVERIFY(std::abs(ruler.Frames2DurationF(5) - 29.6F) < 1e-3F);
+        ruler.SetZoom(120.5F);
+        QCOMPARE(ruler.Frames2DurationF(25), 149.0F);
+    }
+
+    void zoomThatFits()
+    {
+        Ruler ruler;
+        QCOMPARE(ruler.FindZoom(5, 151), 0.0F);
+        QCOMPARE(ruler.FindZoom(5, 150), 0.0F);
+        QCOMPARE(ruler.FindZoom(22500, 0), 780.0F);
+        ruler.SetZoom(300);
+        QCOMPARE(ruler.FindZoom(100, -1), 300.0F);
+        std::mt19937 random(1);
+        std::uniform_real_distribution<double> exponent(0, 31);
+        for (int i = 0; i < 3000; ++i) {
+            const int frames = int(std::exp2(exponent(random)) - 1) + 1,
+                      width = int(random() % 16385);
+            const float zoom = ruler.FindZoom(frames, width);
+            QVERIFY(zoom >= 0 && zoom <= 780);
+            // Zooms between two segments round to either.
+            const bool isInside =
+                std::any_of(std::begin(kSegments), std::end(kSegments),
+                            [zoom](const Segment& s) { return s.from <= zoom && zoom <= s.to; });
+            if (zoom > 0 && zoom < 780 && isInside) {
+                ruler.SetZoom(zoom);
+                const double filled = double(ruler.Frames2DurationF(frames));
+                QVERIFY2(std::abs(filled - width) <= 0.01 + 1e-4 * width,
+                         qPrintable(QString("%1 of %2 at %3").arg(filled).arg(width).arg(frames)));
+            }
+            QCOMPARE(TimelineRuler().ZoomFromWidthAndTotaleFramesF(width, frames),
+                     SlowZoomFromWidth(width, frames));
+        }
+        // Whole multiples of 30 pixels lie on the border of two segments.
+        for (int frames = 1; frames < 2000; ++frames)
+            QCOMPARE(ruler.FindZoom(frames, 6 * frames), 120.0F);
+        for (const int bad : {0, -1, INT_MIN, INT_MAX})
+            ruler.ZoomFromWidthAndTotaleFramesF(bad, bad);
+        ruler.RebuildRulerConvertor({});
+        QCOMPARE(ruler.ZoomFromWidthAndTotaleFramesF(100, 100), 0);
+        QVERIFY(Columns(ruler.Picture(), 20, kTick).isEmpty());
+    }
+
+    void rebuild()
+    {
+        Ruler ruler;
+        ruler.SetPointerBGColor(Qt::green);
+        ruler.SetFPS(60);
+        ruler.SetCurrentFrames(7);
+        ruler.RebuildRulerConvertor({{50.0F, 100, 2}, {20.0F, 90, 0}});
+        QCOMPARE(ruler.Zoom(), 71.0F);
+        QCOMPARE(ruler.MaxZoom(), 0.0F);
+        QCOMPARE(ruler.Frames2DurationF(5), 70.0F);
+        QCOMPARE(ruler.GetPointerBGColor(), QColor(Qt::green));
+        QCOMPARE(ruler.FPS(), 60.0F);
+        QCOMPARE(ruler.CurrentFrames(), 7);
+        ruler.SetZoom(50);
+        QCOMPARE(ruler.Frames2DurationF(10), 50.0F);
+        QCOMPARE(ruler.GetPointerBGColor(), QColor(Qt::green));
+        QCOMPARE(ruler.CurrentFrames(), 7);
+    }
+
+    void oddZooms_data()
+    {
+        QTest::addColumn<float>("zoom");
+        for (const float zoom :
+             {808.9F, 809.5F, 810.0F, 811.0F, 1e30F, -1e30F, kNaN, kInfinity, -kInfinity})
+            QTest::addRow("%g", double(zoom)) << zoom;
+    }
+    void oddZooms()
+    {
+        QFETCH(float, zoom);
+        Ruler ruler;
+        ruler.SetZoom(zoom);
+        for (const float fps : {0.0F, 25.0F, kNaN, kInfinity}) {
+            ruler.SetFPS(fps);
+            for (const int offset : {0, INT_MAX, INT_MIN}) {
+                ruler.SetOffsetFrames(offset);
+                ruler.SetOffsetPosition(offset / 2);
+                for (const int value : {0, 1, INT_MAX, INT_MIN}) {
+                    QVERIFY(std::isfinite(ruler.Frames2PositionF(value)) &&
+                            std::isfinite(ruler.Position2FramesF(value)));
+                    QVERIFY(std::isfinite(ruler.Frames2DurationF(value)) &&
+                            std::isfinite(ruler.Duration2FramesF(value)));
+                    ruler.SetCurrentFrames(value);
+                }
+                ruler.Picture();
+                ruler.GetZoomAndScrollRulerOffsetPosition();
+            }
+        }
+        ruler.SetOffsetFrames(0);
+        ruler.SetOffsetPosition(0);
+        QVERIFY(!Columns(ruler.Picture(), 20, kTick).isEmpty());
+        ruler.Wheel(100, 120, Qt::ControlModifier);
+        QVERIFY(ruler.Zoom() >= 0 && ruler.Zoom() <= 780);
+        ruler.resize(16000, kHeight);
+        ruler.Picture();
+        ruler.resize(0, kHeight);
+        ruler.view->resize(0, kHeight);
+        QImage image(1, kHeight, QImage::Format_RGB32);
+        ruler.view->render(&image);
+    }
+
+    void paintedPositions_data()
+    {
+        QTest::addColumn<float>("zoom");
+        QTest::addColumn<int>("offset");
+        for (const Segment& segment : kSegments) {
+            for (const float zoom : {segment.from, segment.from + 40.25F, segment.to})
+                for (const int offset : {0, 7 * segment.bigFrames, 10000003})
+                    QTest::addRow("%g at %d", double(zoom), offset) << zoom << offset;
+        }
+    }
+    void paintedPositions()
+    {
+        QFETCH(float, zoom);
+        QFETCH(int, offset);
+        Ruler ruler;
+        ruler.SetCurrentFrames(-1000000);
+        ruler.SetOffsetFrames(offset);
+        ruler.SetZoom(zoom);
+        const auto* segment = std::find_if(std::begin(kSegments), std::end(kSegments),
+                                           [zoom](const Segment& s) { return zoom <= s.to; });
+        const double spacing = double(ruler.Frames2DurationF(segment->bigFrames));
+        const int textWidth = QFontMetrics(qApp->font()).horizontalAdvance(gFrame2String(0, 25));
+        int every = 1;
+        while (1.5 * textWidth > every * int(spacing))
+            every *= 2;
+        const QImage image = ruler.Picture();
+        // Ticks stand on whole pixels, counted from a shift which has a fraction itself.
+        for (const int row : {kHeight - 10, kHeight - 6}) { // of large ticks only, of both
+            const int perTick = row == kHeight - 10 ? segment->bigFrames : segment->bigFrames / 5;
+            const QVector<int> columns = Columns(image, row, kTick);
+            const int first = (offset + perTick - 1) / perTick;
+            int expected = 0;
+            for (int tick = first;; ++tick, ++expected) {
+                const double x = (double(tick) * perTick - offset) * spacing / segment->bigFrames;
+                if (x > kWidth - 1.5)
+                    break;
+                const bool found = std::any_of(columns.begin(), columns.end(),
+                                               [x](int c) { return c <= x + 0.01 && c > x - 2; });
+                QVERIFY2(found || x < 2, qPrintable(QString("no tick at %1").arg(x)));
+            }
+            QVERIFY2(std::abs(columns.size() - expected) <= 1,
+                     qPrintable(QString("%1 for %2").arg(columns.size()).arg(expected)));
+        }
+        // Labels begin two pixels beside every n-th large tick, and nowhere else.
+        const int big = (offset + segment->bigFrames - 1) / segment->bigFrames;
+        for (int tick = big;
+             (double(tick) * segment->bigFrames - offset) * spacing / segment->bigFrames <
+             kWidth - textWidth;
+             ++tick) {
+            const int x =
+                int((double(tick) * segment->bigFrames - offset) * spacing / segment->bigFrames);
+            int inked = 0;
+            for (int column = x + 3; column < x + std::min(textWidth, int(spacing)) - 3; ++column)
+                for (int row = kHeight - 22; row < kHeight - 10; ++row)
+                    inked += image.pixelColor(column, row).red() < 128 &&
+                             image.pixelColor(column, row).blue() > 200;
+            if (tick % every == 0)
+                QVERIFY2(inked > 3, qPrintable(QString::number(tick)));
+            else if (every > 1 && tick % every == every - 1)
+                QVERIFY2(inked == 0 || spacing * (every - 1) < textWidth,
+                         qPrintable(QString::number(tick)));
+        }
+    }
+
+    void pictures_data()
+    {
+        QTest::addColumn<double>("scale");
+        QTest::addColumn<float>("fps");
+        for (const double scale : {1.0, 1.5, 2.0}) {
+            for (const double fps : {25.0, 29.97, 59.94})
+                QTest::addRow("%g times, %g per second", scale, fps) << scale << float(fps);
+        }
+    }
+    // All segments at both ends of their ranges, one below the other.
+    void pictures()
+    {
+        QFETCH(double, scale);
+        QFETCH(float, fps);
+        const QString path = QString(RULER_PICTURES "/%1x_%2fps.png").arg(scale).arg(double(fps));
+        const QSize strip(int(kWidth * scale), int(kHeight * scale));
+        QImage all(strip.width(), strip.height() * 12, QImage::Format_RGB32);
+        Ruler ruler;
+        ruler.SetFPS(fps);
+        ruler.SetPointerBGColor(Qt::darkGreen);
+        QPainter painter(&all);
+        for (int i = 0; i < 12; ++i) {
+            const Segment& segment = kSegments[i / 2];
+            ruler.SetZoom(i % 2 ? segment.to : segment.from);
+            ruler.SetOffsetFrames(i * segment.bigFrames + i);
+            ruler.SetCurrentFrames(ruler.OffsetFrames() + int(ruler.Duration2FramesF(170)));
+            ruler.SetCursorEnable(i % 4 == 0);
+            QImage picture = ruler.Picture(scale);
+            picture.setDevicePixelRatio(1);
+            painter.drawImage(0, i * strip.height(), picture);
+        }
+        painter.end();
+        if (updatePictures)
+            QVERIFY(all.convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither).save(path));
+        const QImage expected = QImage(path).convertToFormat(QImage::Format_RGB32);
+        QCOMPARE(expected.size(), all.size());
+        for (int i = 0; i < 12; ++i) {
+            const QRect part(QPoint(0, i * strip.height()), strip);
+            const double difference = Difference(all.copy(part), expected.copy(part));
+            QVERIFY2(difference < 0.004,
+                     qPrintable(QString("strip %1: %2").arg(i).arg(difference)));
+        }
+    }
+
+    void repaintsOnlyThePlayHead()
+    {
+        struct Watch : QWidget
+        {
+            QRegion painted;
+            bool eventFilter(QObject*, QEvent* event) override
+            {
+                if (event->type() == QEvent::Paint)
+                    painted += static_cast<QPaintEvent*>(event)->region();
+                return false;
+            }
+        } watch;
+        Ruler ruler;
+        ruler.SetZoom(0);
+        QVERIFY(QTest::qWaitForWindowExposed(&ruler));
+        ruler.SetEventFilter(&watch);
+        ruler.SetCurrentFrames(2); // at 60
+        QCoreApplication::processEvents();
+        watch.painted = {};
+        const QImage before = ruler.grab().toImage();
+        watch.painted = {};
+        ruler.SetCurrentFrames(10); // at 300
+        QCoreApplication::processEvents();
+        for (const int x : {52, 60, 68, 292, 300, 308})
+            QVERIFY2(watch.painted.contains(QPoint(x, 12)), qPrintable(QString::number(x)));
+        for (const int x : {40, 80, 180, 280, 320})
+            QVERIFY2(!watch.painted.contains(QPoint(x, 12)), qPrintable(QString::number(x)));
+        watch.painted = {};
+        ruler.SetCurrentFrames(10);
+        QCoreApplication::processEvents();
+        QVERIFY(watch.painted.isEmpty());
+        // Partial painting gives what painting all does.
+        QImage parts = before.convertToFormat(QImage::Format_RGB32);
+        ruler.view->render(&parts, QPoint(50, 0), QRect(50, 0, 21, kHeight));
+        ruler.view->render(&parts, QPoint(280, 0), QRect(280, 0, 50, kHeight));
+        const QRegion twoPartsOfALabel = QRegion(155, 0, 15, kHeight) + QRect(180, 0, 15, kHeight);
+        ruler.view->render(&parts, QPoint(155, 0), twoPartsOfALabel);
+        QCOMPARE(parts, ruler.Picture());
+    }
+
+    void flags_data()
+    {
+        QTest::addColumn<Setter>("set");
+        QTest::addColumn<QString>("drag"); // what press, move and release tell
+        QTest::addColumn<QString>("click");
+        QTest::addColumn<QString>("zoomDrag");
+        QTest::addColumn<QString>("key");
+        const QString all = "start 10 20 20 end", click = "start 30 30 end";
+        const QString zoom = "startZoom zoom offset2 endZoom", key = "start 31 end";
+        const auto row = [](const char* name, const Setter& set, const QString& drag,
+                            const QString& clicked, const QString& zoomed, const QString& stepped) {
+            QTest::newRow(name) << set << drag << clicked << zoomed << stepped;
+        };
+        row(
+            "as made", [](Ruler&) {}, all, click, zoom, key);
+        row(
+            "no drags", [](Ruler& r) { r.SetDragable(false); }, "start 10 10 end", click, "", key);
+        row(
+            "no moves", [](Ruler& r) { r.SetMoveFrameEnabled(false); }, "", "", zoom, "");
+        row(
+            "silent press", [](Ruler& r) { r.SetMousePressEmitFramesChangedEnabled(false); },
+            "start 20 20 end", "start 30 end", zoom, key);
+        row(
+            "silent release", [](Ruler& r) { r.SetMouseReleaseEmitFramesChangedEnabled(false); },
+            "start 10 20 end", "start 30 end", zoom, key);
+        row(
+            "single clicks", [](Ruler& r) { r.SetSingalClickStartEndFrameChangeEnabled(true); },
+            "clickStart start 10 clickEnd 20 20 end", "clickStart start 30 30 end clickEnd", zoom,
+            key);
+        row(
+            "disabled", [](Ruler& r) { r.setEnabled(false); }, "", "", "", "");
+    }
+    void flags()
+    {
+        QFETCH(Setter, set);
+        QFETCH(QString, drag);
+        QFETCH(QString, click);
+        QFETCH(QString, zoomDrag);
+        QFETCH(QString, key);
+        Ruler ruler;
+        ruler.SetZoom(120); // 6 pixels a frame
+        set(ruler);
+        ruler.Press(60);
+        ruler.Move(121);
+        ruler.Release(121);
+        QCOMPARE(ruler.TakeLog(), drag);
+        ruler.Press(180);
+        ruler.Release(180);
+        QCOMPARE(ruler.TakeLog(), click);
+        QTest::keyClick(ruler.view, Qt::Key_Right);
+        QCOMPARE(ruler.TakeLog(), key);
+        ruler.Mouse(QEvent::MouseButtonPress, 60, 5, Qt::MiddleButton);
+        ruler.Mouse(QEvent::MouseMove, 60, 10, Qt::MiddleButton);
+        ruler.Mouse(QEvent::MouseButtonRelease, 60, 10, Qt::MiddleButton);
+        QCOMPARE(ruler.TakeLog(), zoomDrag);
+    }
+
+    void frameUnderMouseStays_data()
+    {
+        QTest::addColumn<float>("zoom");
+        for (const float zoom : {60.0F, 118.0F, 300.0F, 512.0F, 700.0F})
+            QTest::addRow("%g", double(zoom)) << zoom;
+    }
+    void frameUnderMouseStays()
+    {
+        QFETCH(float, zoom);
+        Ruler ruler;
+        ruler.SetZoom(zoom);
+        ruler.SetOffsetFrames(20000000);
+        ruler.SetCurrentFrames(20000000);
+        // Position2FramesF() has too few digits so far out.
+        const auto under = [&ruler](int x) {
+            const float shown = float(x) - ruler.Frames2PositionF(ruler.OffsetFrames());
+            return ruler.OffsetFrames() + double(shown * ruler.Duration2FramesF(1));
+        };
+        const double wheeled = under(250);
+        for (const int turn : {120, 120, 40, -120, -240, -360}) {
+            ruler.Wheel(250, turn, Qt::ControlModifier);
+            QVERIFY(std::abs(under(250) - wheeled) <= double(ruler.Duration2FramesF(1)));
+        }
+        QVERIFY(ruler.Zoom() > zoom);
+        const double grabbed = under(100);
+        ruler.StartZoomAndScrollRuler();
+        ruler.Move(100, 5);
+        for (const QPoint at : {QPoint(130, 25), QPoint(300, -30), QPoint(20, 5)}) {
+            ruler.Move(at.x(), at.y());
+            QVERIFY(std::abs(under(at.x()) - grabbed) <= double(ruler.Duration2FramesF(1)));
+        }
+        ruler.doMouseButtonRelease();
+        ruler.TakeLog();
+        ruler.Move(200, 20);
+        ruler.doMouseButtonRelease();
+        QCOMPARE(ruler.TakeLog(), QString());
+        const float last = ruler.Zoom();
+        ruler.Wheel(250, -120, {});
+        QCOMPARE(ruler.Zoom(), last);
+        QCOMPARE(ruler.TakeLog(), "offset" + QString::number(ruler.OffsetFrames()));
+        QVERIFY(std::abs(under(0) - (grabbed - double(ruler.Duration2FramesF(20 - 40)))) <=
+                2 * double(ruler.Duration2FramesF(1)));
+    }
+
+    void dragBeyondTheEdgeScrolls()
+    {
+        Ruler ruler;
+        ruler.SetZoom(120);
+        ruler.SetTotalFrames(200);
+        ruler.Press(300);
+        ruler.Move(kWidth + 100);
+        QTRY_COMPARE(ruler.CurrentFrames(), 199);
+        QTest::qWait(120); // no further
+        const float x = ruler.Frames2PositionF(199);
+        QVERIFY2(x > kWidth - 10 && x < kWidth, qPrintable(QString::number(double(x))));
+        ruler.Move(-100);
+        QTRY_COMPARE(ruler.CurrentFrames(), 0);
+        QCOMPARE(ruler.OffsetFrames(), 0);
+        ruler.SetTotalFrames(100000);
+        ruler.Move(kWidth + 100);
+        QTRY_VERIFY(ruler.OffsetFrames() > 10);
+        ruler.Release(kWidth + 100);
+        const int still = ruler.OffsetFrames();
+        ruler.TakeLog();
+        QTest::qWait(100);
+        ruler.Move(200);
+        QCOMPARE(ruler.TakeLog(), QString());
+        QCOMPARE(ruler.OffsetFrames(), still);
+        // What shows as a whole does not scroll.
+        ruler.SetOffsetFrames(0);
+        ruler.SetOffsetPosition(0);
+        ruler.SetTotalFrames(30);
+        ruler.Press(0);
+        ruler.Move(kWidth + 100);
+        QTest::qWait(100);
+        QCOMPARE(ruler.CurrentFrames(), 29);
+        QCOMPARE(ruler.OffsetFrames(), 0);
+    }
+
+    void limitsRoundingAndKeys()
+    {
+        Ruler ruler;
+        ruler.SetZoom(120);
+        ruler.SetTotalFrames(60);
+        ruler.SetFrameRange(20, 40);
+        QCOMPARE(ruler.AvailableTotaleFrames(), 60);
+        const auto click = [&](int x) {
+            ruler.Press(x);
+            ruler.Release(x);
+            return ruler.CurrentFrames();
+        };
+        QCOMPARE(click(64), 10);
+        QCOMPARE(click(65), 10);
+        QCOMPARE(click(399), 59);
+        ruler.SetFramesRound(true);
+        QCOMPARE(click(64), 11);
+        QCOMPARE(click(62), 10);
+        ruler.SetIsLimitFrameRange(true);
+        QCOMPARE(ruler.CurrentFrames(), 20);
+        QCOMPARE(ruler.AvailableTotaleFrames(), 21);
+        QCOMPARE(click(10), 20);
+        QCOMPARE(click(390), 40);
+        ruler.SetCurrentFrames(5);
+        QCOMPARE(ruler.CurrentFrames(), 20);
+        ruler.SetFrameRange(30, 10);
+        QCOMPARE(ruler.CurrentFrames(), 30);
+        ruler.SetIsLimitFrameRange(false);
+        ruler.TakeLog();
+        for (const auto& [key, modifiers, frame] : {std::tuple(Qt::Key_Right, Qt::NoModifier, 31),
+                                                    {Qt::Key_Left, Qt::ShiftModifier, 6},
+                                                    {Qt::Key_Left, Qt::ShiftModifier, 0},
+                                                    {Qt::Key_PageDown, Qt::NoModifier, 5},
+                                                    {Qt::Key_End, Qt::NoModifier, 59},
+                                                    {Qt::Key_Home, Qt::NoModifier, 0}}) {
+            QTest::keyClick(ruler.view, key, modifiers);
+            QCOMPARE(ruler.CurrentFrames(), frame);
+        }
+        ruler.TakeLog();
+        QTest::keyClick(ruler.view, Qt::Key_Left);
+        QCOMPARE(ruler.TakeLog(), QString());
+        ruler.SetTotalFrames(100000);
+        ruler.SetCurrentFrames(0);
+        QTest::keyClick(ruler.view, Qt::Key_End);
+        QVERIFY(ruler.Frames2PositionF(99999) > 0 && ruler.Frames2PositionF(99999) < kWidth);
+    }
+
+    void otherButtons()
+    {
+        Ruler ruler;
+        ruler.SetTotalFrames(1000);
+        QTest::mouseClick(ruler.view, Qt::RightButton, {}, QPoint(33, 7));
+        QCOMPARE(ruler.TakeLog(), QString("right33,7"));
+        ruler.Press(50);
+        ruler.Release(50);
+        ruler.TakeLog();
+        ruler.Mouse(QEvent::MouseButtonDblClick, 50, 5);
+        QCOMPARE(ruler.Zoom(), ruler.FindZoom(1000, kWidth));
+        QCOMPARE(ruler.TakeLog(), QString("startZoom zoom endZoom"));
+        ruler.Press(50);
+        ruler.Release(50);
+        ruler.TakeLog();
+        QTest::qWait(450);
+        ruler.Mouse(QEvent::MouseButtonDblClick, 50, 5);
+        QVERIFY(ruler.TakeLog().startsWith("start "));
+    }
+};
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    // The same glyphs on every machine.
+    QFont font("DejaVu Sans");
+    font.setPixelSize(11);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    QApplication::setFont(font);
+    QStringList arguments = QCoreApplication::arguments();
+    updatePictures = arguments.removeAll("--update-pictures") > 0;
+    TestRuler test;
+    return QTest::qExec(&test, arguments);
+}
+
+#include "tst_ruler.moc"

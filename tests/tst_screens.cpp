@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/GlobalUtils.h"
+#include "CommonLib/StringOperation.h"
+#include "CommonLib/TimelineRuler.h"
+#include "CommonLib/externalapi/DesktopMgr.h"
+#include "CommonLib/externalapi/FramelessShadow.h"
+#include "CommonLib/externalapi/PixelRatio.h"
+#include "CommonLib/externalapi/PixelRatio_p.h"
+#include "CommonLib/externalapi/ScreenResolution.h"
+#include "CommonLib/externalapi/TimelinePosition.h"
+
+#include <QScreen>
+#include <QtTest>
+
+#include <limits>
+
+class TestScreens : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void areaClasses()
+    {
+        const auto classOf = ScreenResolution::GetScreenRangeTypeFrom;
+        // Both ends of every class, as areas one pixel high.
+        const QVector<QPair<int, int>> ends = {
+            {1, 2},        {250000, 2},   {250001, 1},   {479999, 1},   {480000, 2},
+            {767999, 2},   {768000, 3},   {786431, 3},   {786432, 4},   {983039, 4},
+            {983040, 5},   {995327, 5},   {995328, 6},   {1295999, 6},  {1296000, 7},
+            {1310719, 7},  {1310720, 8},  {1439999, 8},  {1440000, 9},  {1763999, 9},
+            {1764000, 10}, {2073599, 10}, {2073600, 11}, {2764799, 11}, {2764800, 13},
+            {4095999, 13}, {4096000, 14}, {5242879, 14}, {5242880, 15}, {6998399, 15},
+            {6998400, 16}, {6998401, 0},  {7387200, 0},  {7387201, 17}, {INT_MAX, 17}};
+        for (const auto& [area, type] : ends)
+            QCOMPARE(classOf(area, 1), type);
+        QCOMPARE(classOf(INT_MAX, INT_MAX), 17);
+        QCOMPARE(classOf(2560, 1440), 13);
+        QCOMPARE(classOf(0, 1080), 0);
+        QCOMPARE(classOf(-1920, -1080), 0);
+    }
+
+    void pixelRatios_data()
+    {
+        QTest::addColumn<double>("scale");
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("height");
+        QTest::addColumn<double>("expected");
+        const auto row = [](const char* name, double scale, int width, int height,
+                            double expected) {
+            QTest::newRow(name) << scale << width << height << expected;
+        };
+        row("Full HD at 150 %", 1.5, 1920, 1080, 1.5);
+        row("laptop 1366 x 768", 1.0, 1366, 768, 1.0);
+        row("low 1280 x 600", 1.0, 1280, 600, 1.0);
+        row("Full HD", 1.0, 1920, 1080, 1.0);
+        row("Full HD laptop at 125 %", 1.25, 1920, 1080, 1.25);
+        row("just above 125 %", 1.26, 3840, 2160, 1.0);
+        row("just above 100 %", 1.01, 1920, 1080, 1.25);
+        row("just below rounding up", 1.374, 3840, 2160, 1.0);
+        row("just rounding up", 1.375, 3840, 2160, 2.0);
+        row("laptop 1600 x 900 at 125 %", 1.25, 1600, 900, 1.25);
+        row("laptop 1366 x 768 at 125 %", 1.25, 1366, 768, 1.0);
+        row("laptop 1440 x 900", 1.0, 1440, 900, 1.0);
+        row("display 1280 x 1024", 1.0, 1280, 1024, 1.0);
+        row("display 1680 x 1050", 1.0, 1680, 1050, 1.0);
+        row("display 1920 x 1200 at 125 %", 1.25, 1920, 1200, 1.25);
+        row("QHD", 1.0, 2560, 1440, 1.0);
+        row("QHD at 150 %", 1.5, 2560, 1440, 2.0);
+        row("laptop 2560 x 1600 at 200 %", 2.0, 2560, 1600, 2.0);
+        row("laptop 2880 x 1800 at 200 %", 2.0, 2880, 1800, 2.0);
+        row("laptop 3024 x 1964 at 200 %", 2.0, 3024, 1964, 2.0);
+        row("laptop 2256 x 1504 at 150 %", 1.5, 2256, 1504, 1.75);
+        row("laptop 3000 x 2000 at 200 %", 2.0, 3000, 2000, 2.0);
+        row("laptop 3200 x 1800 at 250 %", 2.5, 3200, 1800, 2.5);
+        row("4K laptop at 300 %", 3.0, 3840, 2160, 3.0);
+        row("4K display at 150 %", 1.5, 3840, 2160, 2.0);
+        row("5K display at 200 %", 2.0, 5120, 2880, 2.0);
+        row("8K display at 400 %", 4.0, 7680, 4320, 4.0);
+        row("ultra-wide 3440 x 1440 at 125 %", 1.25, 3440, 1440, 1.25);
+        row("portrait 1080 x 1920 at 200 %", 2.0, 1080, 1920, 1.0);
+        row("no monitor", 0.0, 0, 0, 1.0);
+        row("not a number", std::numeric_limits<double>::quiet_NaN(), 0, INT_MIN, 1.0);
+        row("infinite", std::numeric_limits<double>::infinity(), 1920, 1080, 1.5);
+    }
+    void pixelRatios()
+    {
+        QFETCH(double, scale);
+        QFETCH(int, width);
+        QFETCH(int, height);
+        int steps = 0;
+        const double fixed = FixedPixelRatio(scale);
+        const double ratio = FittingPixelRatio(fixed, width, height, [&](double) { ++steps; });
+        QTEST(ratio, "expected");
+        // From the first ratio to the last in quarters; the one of the low monitor ends below 1.
+        QVERIFY(ratio == 1.0 || steps == int((fixed - ratio) * 4));
+    }
+
+    void otherMonitors()
+    {
+        QCOMPARE(PixelRatioOn(1.5, 1.5, 1.5), 1.5);
+        QCOMPARE(PixelRatioOn(1.5, 1.5, 1.0), 1.0);
+        QCOMPARE(PixelRatioOn(1.0, 1.0, 2.0), 2.0);
+        QCOMPARE(PixelRatioOn(1.0, 2.0, 1.0), 1.0);
+        QCOMPARE(PixelRatioOn(1.5, 0.0, 1.0), 1.5);
+    }
+
+    void screensOfTheToolkit()
+    {
+        QVector<ScreenResolution::ScreenInfo> infos(7);
+        QVERIFY(ScreenResolution::GetScreenInfos(infos));
+        const QList<QScreen*> screens = QGuiApplication::screens();
+        QCOMPARE(infos.size(), screens.size());
+        QCOMPARE(ScreenResolution::GetScreenCount(), screens.size());
+        for (int i = 0; i < infos.size(); ++i) {
+            const QRect logical = screens[i]->geometry();
+            QCOMPARE(infos[i].logical, logical);
+            QCOMPARE(QSizeF(infos[i].physical.size()),
+                     QSizeF(logical.size()) * screens[i]->devicePixelRatio());
+            QCOMPARE(double(infos[i].scale), screens[i]->devicePixelRatio());
+            QCOMPARE(infos[i].primary, screens[i] == QGuiApplication::primaryScreen());
+            QCOMPARE(ScreenResolution::GetScreenRangeType(infos[i].id),
+                     ScreenResolution::GetScreenRangeTypeFrom(logical.width(), logical.height()));
+        }
+        QCOMPARE(ScreenResolution::GetScreenRangeType(99), 0);
+        const int type = ScreenResolution::GetScreenRangeType(0);
+        QVERIFY(ScreenResolution::AdapterMinimumSize(nullptr, type + 1));
+        QVERIFY(!ScreenResolution::AdapterMinimumSize(nullptr, type));
+        QCOMPARE(ScreenResolution::CheckEnableHightDPIScale(), screens.size() != 1 || type > 12);
+        QVERIFY(ScreenResolution::EnableHightDPIResource());
+
+        DesktopMgr* desktop = DesktopMgr::GetInstance();
+        QCOMPARE(DesktopMgr::GetInstance(), desktop);
+        QVERIFY(desktop->MainScreen());
+        const QPoint center = QGuiApplication::primaryScreen()->geometry().center();
+        QCOMPARE(desktop->ScreenWithPoint(center), desktop->MainScreen());
+        QVERIFY(desktop->ScreenWithPoint({-100000, -100000}));
+    }
+
+    // CTest runs this program once more where the ratio is 2.
+    void whatFollowsTheRatio()
+    {
+        const double scale = QGuiApplication::primaryScreen()->devicePixelRatio();
+        const QSize size = QGuiApplication::primaryScreen()->geometry().size() * scale;
+        const double expected =
+            FittingPixelRatio(FixedPixelRatio(scale), size.width(), size.height(), [](double) {});
+        QCOMPARE(gGetDevicePixelRatio(nullptr), float(expected));
+        QCOMPARE(gGetDevicePixelRatioFor(nullptr), float(expected));
+        QWidget widget;
+        QCOMPARE(gGetDevicePixelRatioFor(&widget), float(scale));
+        widget.show();
+        QCOMPARE(gGetDevicePixelRatio(&widget), float(expected));
+        const QString doubled = expected > 1 ? "_2x" : "";
+        QCOMPARE(gGetResourcePathWithPixelRatio("/a.b/icon.dark.png"),
+                 "/a.b/icon.dark" + doubled + ".png");
+        QVERIFY(gGetCommonLibStyles().contains("#CommonLib_TimelineRuler"));
+
+        TimelineRuler ruler;
+        ruler.setStyleSheet(gGetCommonLibStyles());
+        ruler.ensurePolished();
+        QCOMPARE(ruler.GetPointerBGColor(), QColor("#4da3ff"));
+    }
+
+    void textLengths()
+    {
+        const QFont font;
+        const int width = StringOperation::GetTextTrueLenght(font, "Render");
+        QCOMPARE(gGetRetranslateUiTextLenght(font, "Render", width - 1, 7), width + 7);
+        QCOMPARE(gGetRetranslateUiTextLenght(font, "Render", width, 7), width);
+    }
+
+    void timelinePosition()
+    {
+        auto* timeline = reinterpret_cast<INLETimeline*>(this); // never looked into
+        QCOMPARE(gGetTimelineCenterGlobalPos(nullptr), QPoint());
+        QCOMPARE(gGetTimelineCenterGlobalPos(timeline),
+                 QGuiApplication::primaryScreen()->geometry().center());
+        QWidget window;
+        window.setGeometry(100, 50, 400, 200);
+        gSetMainWindow(nullptr, &window);
+        QCOMPARE(gGetTimelineCenterGlobalPos(timeline), window.mapToGlobal({199, 99}));
+        QWidget view(&window);
+        view.setGeometry(0, 100, 400, 100);
+        TimelineRuler ruler(&view);
+        window.show();
+        QCOMPARE(gGetTimelineCenterGlobalPos(timeline), window.mapToGlobal({199, 149}));
+        gSetMainWindow(nullptr, nullptr);
+    }
+
+    void shadowIsHarmless()
+    {
+        gOpenFramelessWidgetShadow(nullptr, 0);
+        gOpenFramelessWidgetShadow(reinterpret_cast<HWND>(quintptr(12345)), 0);
+    }
+};
+
+QTEST_MAIN(TestScreens)
+#include "tst_screens.moc"
