@@ -25,154 +25,149 @@ class tst_Provider : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void cleanup() { QCOMPARE(EndSession(), QStringList()); }
-    void firstParentOwnsTheWrapper();
-    void start_data();
-    void start();
-    void createInstanceFailures();
-    void requests_data();
-    void requests();
-    void missingFilesAreNotAskedFor();
-    void timelineProperties();
-
 private:
     Script& script = Script::Get();
+
+private Q_SLOTS:
+    void cleanup() { QCOMPARE(EndSession(), QStringList()); }
+
+    void firstParentOwnsTheWrapper()
+    {
+        QObject second;
+        auto first = std::make_unique<QObject>();
+        QPointer<NLEWraper> wrapper = NLEWraper::GetInstance(first.get());
+        QCOMPARE(NLEWraper::GetInstance(&second), wrapper.data());
+        QCOMPARE(wrapper->parent(), first.get());
+        first.reset();
+        QVERIFY(!wrapper);
+        QCOMPARE(NLEWraper::GetInstance(&second)->parent(), &second);
+    }
+
+    void start_data()
+    {
+        QTest::addColumn<QString>("failing");
+        QTest::addColumn<int>("callCount");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("all works") << "" << 4 << "";
+        QTest::newRow("no class object")
+            << "module.DllGetClassObject" << 1 << "Check NLECore Exist:1";
+        QTest::newRow("no timeline factory")
+            << "factory.GetTimelineFactory" << 4
+            << "-INFO- [PlayerMaterProviderPrivate::PlayerMaterProviderPrivate]:  "
+               "m_pNLETimelineFactory is NULL. - "
+               "[CommonLib/NLEWraper/PlayerMaterProviderPrivate(39)]";
+    }
+
+    void start()
+    {
+        QFETCH(QString, failing);
+        QFETCH(int, callCount);
+        QFETCH(QString, line);
+        const QLibrary module(QCoreApplication::applicationDirPath() + "/NLECore.dll");
+        QVERIFY(!module.isLoaded());
+        LogCapture log;
+        script.statuses[failing] = E_FAIL;
+        Provider();
+        QVERIFY(module.isLoaded());
+        const QStringList calls = {"module.DllGetClassObject()",
+                                   "classFactory.CreateInstance(null)", "factory.Init(0)",
+                                   "factory.GetTimelineFactory()"};
+        QCOMPARE(script.TakeCalls(), calls.mid(0, callCount));
+        const QStringList lines = log.Take();
+        QCOMPARE(lines.isEmpty(), line.isEmpty());
+        QVERIFY2(line.isEmpty() || lines.last().contains(line), qPrintable(lines.join('\n')));
+        EndSession();
+        QVERIFY(!module.isLoaded());
+    }
+
+    void createInstanceFailures()
+    {
+        const auto create = [](const _GUID& classId, const _GUID& iid) {
+            void* out = QCoreApplication::instance(); // anything but null
+            return CVCreateInstance::Instance()->cvCreateInstance(classId, nullptr, 0, iid, &out) ||
+                   out;
+        };
+        QVERIFY(!create(INLETimeline::Iid, INLEFactory::Iid));
+        QVERIFY(!create(INLEFactory::ClassId, INLETimeline::Iid));
+        script.statuses["classFactory.CreateInstance"] = E_FAIL;
+        QVERIFY(!create(INLEFactory::ClassId, INLEFactory::Iid));
+    }
+
+    void requests_data()
+    {
+        using P = PlayerMaterProvider*;
+        QTest::addColumn<Operation>("operation");
+        const auto row = [](const char* call, auto operation) {
+            QTest::newRow(call) << Operation([=](P p) { return bool(operation(p)); });
+        };
+        row("timelineFactory.CreateProject(1920x1080, 25000000/1000000)",
+            [](P p) { return p->CreateProjectTimeline(); });
+        row("timelineFactory.CreateMedia(/none/ü.mov)",
+            [](P p) { return p->CreateMediaTimeline("/none/ü.mov", true); });
+        row("timelineFactory.CreateFromTemplate(..)",
+            [](P p) { return p->CreateTimelineFromTemplate(".."); });
+        row("timelineFactory.CreateColor(ff010203, 4x5, 12.5)",
+            [](P p) { return p->CreateColorTimeline(QColor(1, 2, 3), QSize(4, 5), 12.5f); });
+        row("timelineFactory.CreateTipText(a text, a font)",
+            [](P p) { return p->CreateTipTextTimeline("a text", "a font"); });
+        row("timelineFactory.CreateVirtual(-7)", [](P p) { return p->CreateVirtualTimeline(-7); });
+        row("factory.CreateVideoFrame(4, 5, 0, 1, 0, 0, 400000, 0)",
+            [](P p) { return p->CreateVideoFrame(4, 5); });
+        row("factory.CreateVideoFrame(4, 5, 0, 2, 0, 0, 400000, 0)",
+            [](P p) { return p->CreateVideoFrameOpencl(4, 5); });
+    }
+
+    void requests()
+    {
+        QFETCH(Operation, operation);
+        const QString call = QTest::currentDataTag();
+        QVERIFY2(!operation(Provider()), "without a result");
+        QCOMPARE(QDir::fromNativeSeparators(script.TakeCalls().last()), call);
+        auto result = MakeCom<Node>("result");
+        result->Offer<INLEVideoFrame>(MakeCom<VideoFrame>("frame"));
+        script.results[call.section('(', 0, 0)] = result;
+        script.statuses[call.section('(', 0, 0)] = S_FALSE;
+        QVERIFY2(operation(Provider()), "a positive status is a success");
+    }
+
+    void missingFilesAreNotAskedFor()
+    {
+        Provider();
+        script.TakeCalls();
+        QVERIFY(!Provider()->CreateMediaTimeline("/none", false));
+        QVERIFY(!Provider()->CreateCodecFromFile("/none"));
+        QVERIFY(!Provider()->CreateMarkBook("/none"));
+        QVERIFY(!Provider()->CreateTimelineFromTemplate(QCoreApplication::applicationFilePath()));
+        QVERIFY(!Provider()->CreateTimelineFromTemplate(""));
+        QCOMPARE(script.TakeCalls(), QStringList());
+    }
+
+    void timelineProperties()
+    {
+        const QString rateKey = Text(NLEKey::Render::kRender_Framerate);
+        auto bag = MakeCom<Properties>("bag");
+        auto node = MakeCom<Node>("node");
+        QCOMPARE(Provider()->GetTimelineFrameRate(node), 0);
+        node->Offer<INLEPropertyHost>(MakeCom<PropertyHost>("host"));
+        script.results["host.GetProperties"] = bag;
+
+        Provider()->SetTimelineFrameRate(node, 30);
+        QCOMPARE(Text(bag->rationals[rateKey]), "30000000/1000000");
+        bag->rationals[rateKey] = {30000, 1001};
+        QCOMPARE(Provider()->GetTimelineFrameRate(node), 29);
+        bag->rationals[rateKey] = {25, 0};
+        QCOMPARE(Provider()->GetTimelineFrameRate(node), 0);
+        bag->ints[Text(NLEKey::Render::kRender_TotalFrameCount)] = 77;
+        QCOMPARE(Provider()->GetTimelineLength(node), 77);
+
+        NLEComPtr<INLETimeline> out; // combining gives the timeline itself
+        QVERIFY(Provider()->GetMediaCombineTimeline(node, out.put()) && out == node);
+        out.reset();
+        Provider()->SetTimelineFrameRate(nullptr, 30);
+        QCOMPARE(Provider()->GetTimelineFrameRate(nullptr), 0);
+        QCOMPARE(References(node.get()), 1u);
+    }
 };
-
-void tst_Provider::firstParentOwnsTheWrapper()
-{
-    QObject second;
-    auto first = std::make_unique<QObject>();
-    QPointer<NLEWraper> wrapper = NLEWraper::GetInstance(first.get());
-    QCOMPARE(NLEWraper::GetInstance(&second), wrapper.data());
-    QCOMPARE(wrapper->parent(), first.get());
-    first.reset();
-    QVERIFY(!wrapper);
-    QCOMPARE(NLEWraper::GetInstance(&second)->parent(), &second);
-}
-
-void tst_Provider::start_data()
-{
-    QTest::addColumn<QString>("failing");
-    QTest::addColumn<int>("callCount");
-    QTest::addColumn<QString>("line");
-    QTest::newRow("all works") << "" << 4 << "";
-    QTest::newRow("no class object") << "module.DllGetClassObject" << 1 << "Check NLECore Exist:1";
-    QTest::newRow("no timeline factory")
-        << "factory.GetTimelineFactory" << 4
-        << "-INFO- [PlayerMaterProviderPrivate::PlayerMaterProviderPrivate]:  "
-           "m_pNLETimelineFactory is NULL. - [CommonLib/NLEWraper/PlayerMaterProviderPrivate(39)]";
-}
-
-void tst_Provider::start()
-{
-    QFETCH(QString, failing);
-    QFETCH(int, callCount);
-    QFETCH(QString, line);
-    const QLibrary module(QCoreApplication::applicationDirPath() + "/NLECore.dll");
-    QVERIFY(!module.isLoaded());
-    LogCapture log;
-    script.statuses[failing] = E_FAIL;
-    Provider();
-    QVERIFY(module.isLoaded());
-    const QStringList calls = {"module.DllGetClassObject()", "classFactory.CreateInstance(null)",
-                               "factory.Init(0)", "factory.GetTimelineFactory()"};
-    QCOMPARE(script.TakeCalls(), calls.mid(0, callCount));
-    const QStringList lines = log.Take();
-    QCOMPARE(lines.isEmpty(), line.isEmpty());
-    QVERIFY2(line.isEmpty() || lines.last().contains(line), qPrintable(lines.join('\n')));
-    EndSession();
-    QVERIFY(!module.isLoaded());
-}
-
-void tst_Provider::createInstanceFailures()
-{
-    const auto create = [](const _GUID& classId, const _GUID& iid) {
-        void* out = QCoreApplication::instance(); // anything but null
-        return CVCreateInstance::Instance()->cvCreateInstance(classId, nullptr, 0, iid, &out) ||
-               out;
-    };
-    QVERIFY(!create(INLETimeline::Iid, INLEFactory::Iid));
-    QVERIFY(!create(INLEFactory::ClassId, INLETimeline::Iid));
-    script.statuses["classFactory.CreateInstance"] = E_FAIL;
-    QVERIFY(!create(INLEFactory::ClassId, INLEFactory::Iid));
-}
-
-void tst_Provider::requests_data()
-{
-    using P = PlayerMaterProvider*;
-    QTest::addColumn<Operation>("operation");
-    const auto row = [](const char* call, auto operation) {
-        QTest::newRow(call) << Operation([=](P p) { return bool(operation(p)); });
-    };
-    row("timelineFactory.CreateProject(1920x1080, 25000000/1000000)",
-        [](P p) { return p->CreateProjectTimeline(); });
-    row("timelineFactory.CreateMedia(/none/ü.mov)",
-        [](P p) { return p->CreateMediaTimeline("/none/ü.mov", true); });
-    row("timelineFactory.CreateFromTemplate(..)",
-        [](P p) { return p->CreateTimelineFromTemplate(".."); });
-    row("timelineFactory.CreateColor(ff010203, 4x5, 12.5)",
-        [](P p) { return p->CreateColorTimeline(QColor(1, 2, 3), QSize(4, 5), 12.5f); });
-    row("timelineFactory.CreateTipText(a text, a font)",
-        [](P p) { return p->CreateTipTextTimeline("a text", "a font"); });
-    row("timelineFactory.CreateVirtual(-7)", [](P p) { return p->CreateVirtualTimeline(-7); });
-    row("factory.CreateVideoFrame(4, 5, 0, 1, 0, 0, 400000, 0)",
-        [](P p) { return p->CreateVideoFrame(4, 5); });
-    row("factory.CreateVideoFrame(4, 5, 0, 2, 0, 0, 400000, 0)",
-        [](P p) { return p->CreateVideoFrameOpencl(4, 5); });
-}
-
-void tst_Provider::requests()
-{
-    QFETCH(Operation, operation);
-    const QString call = QTest::currentDataTag();
-    QVERIFY2(!operation(Provider()), "without a result");
-    QCOMPARE(QDir::fromNativeSeparators(script.TakeCalls().last()), call);
-    auto result = MakeCom<Node>("result");
-    result->Offer<INLEVideoFrame>(MakeCom<VideoFrame>("frame"));
-    script.results[call.section('(', 0, 0)] = result;
-    script.statuses[call.section('(', 0, 0)] = S_FALSE;
-    QVERIFY2(operation(Provider()), "a positive status is a success");
-}
-
-void tst_Provider::missingFilesAreNotAskedFor()
-{
-    Provider();
-    script.TakeCalls();
-    QVERIFY(!Provider()->CreateMediaTimeline("/none", false));
-    QVERIFY(!Provider()->CreateCodecFromFile("/none"));
-    QVERIFY(!Provider()->CreateMarkBook("/none"));
-    QVERIFY(!Provider()->CreateTimelineFromTemplate(QCoreApplication::applicationFilePath()));
-    QVERIFY(!Provider()->CreateTimelineFromTemplate(""));
-    QCOMPARE(script.TakeCalls(), QStringList());
-}
-
-void tst_Provider::timelineProperties()
-{
-    const QString rateKey = Text(NLEKey::Render::kRender_Framerate);
-    auto bag = MakeCom<Properties>("bag");
-    auto node = MakeCom<Node>("node");
-    QCOMPARE(Provider()->GetTimelineFrameRate(node), 0);
-    node->Offer<INLEPropertyHost>(MakeCom<PropertyHost>("host"));
-    script.results["host.GetProperties"] = bag;
-
-    Provider()->SetTimelineFrameRate(node, 30);
-    QCOMPARE(Text(bag->rationals[rateKey]), "30000000/1000000");
-    bag->rationals[rateKey] = {30000, 1001};
-    QCOMPARE(Provider()->GetTimelineFrameRate(node), 29);
-    bag->rationals[rateKey] = {25, 0};
-    QCOMPARE(Provider()->GetTimelineFrameRate(node), 0);
-    bag->ints[Text(NLEKey::Render::kRender_TotalFrameCount)] = 77;
-    QCOMPARE(Provider()->GetTimelineLength(node), 77);
-
-    NLEComPtr<INLETimeline> out; // combining gives the timeline itself
-    QVERIFY(Provider()->GetMediaCombineTimeline(node, out.put()) && out == node);
-    out.reset();
-    Provider()->SetTimelineFrameRate(nullptr, 30);
-    QCOMPARE(Provider()->GetTimelineFrameRate(nullptr), 0);
-    QCOMPARE(References(node.get()), 1u);
-}
 
 QTEST_GUILESS_MAIN(tst_Provider)
 #include "tst_provider.moc"

@@ -12,47 +12,44 @@ class tst_ProviderMissing : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
-    void startIsLoggedAndEveryResultIsNull();
-    void unusableModule();
+    void cleanup()
+    {
+        NLEWraper::Release();
+        CVCreateInstance::Instance()->Release();
+    }
+
+    void startIsLoggedAndEveryResultIsNull()
+    {
+        LogCapture log;
+        PlayerMaterProvider* provider = NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
+        provider->OpenCLGpuInit();
+        QVERIFY(!provider->CreateProjectTimeline());
+        QVERIFY(!provider->CreateMediaTimeline("/none", true));
+        QVERIFY(!provider->CreateVideoFrame(2, 2));
+        QVERIFY(!provider->CreateThumbnailExtractor());
+        QCOMPARE(provider->GetDefualtProfile().frameRate.den, std::int64_t(1));
+        const QStringList expected = {
+            "-INFO- [PlayerMaterProviderPrivate::PlayerMaterProviderPrivate]:  INLEFactory Create "
+            "failed. - [CommonLib/NLEWraper/PlayerMaterProviderPrivate(28)]",
+            "-INFO- [PlayerMaterProviderPrivate::PlayerMaterProviderPrivate]:  Check NLECore "
+            "Exist:0 - "
+            "[CommonLib/NLEWraper/PlayerMaterProviderPrivate(31)]",
+            "-INFO- [PlayerMaterProviderPrivate::OpenCLGpuInit]:  m_pNLEOpenCLGpuFactory Create "
+            "failed. - [CommonLib/NLEWraper/PlayerMaterProviderPrivate(67)]"};
+        QCOMPARE(log.Take(), expected);
+    }
+
+    void unusableModule()
+    {
+        QFile module(QCoreApplication::applicationDirPath() + "/NLECore.dll");
+        QVERIFY(module.open(QIODevice::WriteOnly));
+        module.close();
+        LogCapture log;
+        NLEWraper::GetInstance(nullptr);
+        QVERIFY(module.remove());
+        QVERIFY(log.Take().last().contains("Check NLECore Exist:1"));
+    }
 };
-
-void tst_ProviderMissing::cleanup()
-{
-    NLEWraper::Release();
-    CVCreateInstance::Instance()->Release();
-}
-
-void tst_ProviderMissing::startIsLoggedAndEveryResultIsNull()
-{
-    LogCapture log;
-    PlayerMaterProvider* provider = NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
-    provider->OpenCLGpuInit();
-    QVERIFY(!provider->CreateProjectTimeline());
-    QVERIFY(!provider->CreateMediaTimeline("/none", true));
-    QVERIFY(!provider->CreateVideoFrame(2, 2));
-    QVERIFY(!provider->CreateThumbnailExtractor());
-    QCOMPARE(provider->GetDefualtProfile().frameRate.den, std::int64_t(1));
-    const QStringList expected = {
-        "-INFO- [PlayerMaterProviderPrivate::PlayerMaterProviderPrivate]:  INLEFactory Create "
-        "failed. - [CommonLib/NLEWraper/PlayerMaterProviderPrivate(28)]",
-        "-INFO- [PlayerMaterProviderPrivate::PlayerMaterProviderPrivate]:  Check NLECore Exist:0 - "
-        "[CommonLib/NLEWraper/PlayerMaterProviderPrivate(31)]",
-        "-INFO- [PlayerMaterProviderPrivate::OpenCLGpuInit]:  m_pNLEOpenCLGpuFactory Create "
-        "failed. - [CommonLib/NLEWraper/PlayerMaterProviderPrivate(67)]"};
-    QCOMPARE(log.Take(), expected);
-}
-
-void tst_ProviderMissing::unusableModule()
-{
-    QFile module(QCoreApplication::applicationDirPath() + "/NLECore.dll");
-    QVERIFY(module.open(QIODevice::WriteOnly));
-    module.close();
-    LogCapture log;
-    NLEWraper::GetInstance(nullptr);
-    QVERIFY(module.remove());
-    QVERIFY(log.Take().last().contains("Check NLECore Exist:1"));
-}
 
 QTEST_GUILESS_MAIN(tst_ProviderMissing)
 #include "tst_provider_missing.moc"

@@ -71,47 +71,6 @@ struct Engine
 
 } // namespace
 
-class tst_TimelineModel : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void init() { e = std::make_unique<Engine>(); }
-    void cleanup();
-    void settings_data();
-    void settings();
-    void gettersThatFail();
-    void onlyChangesAreSet();
-    void lengths_data();
-    void lengths();
-    void freezeFrame();
-    void tree();
-    void currentNode();
-    void project();
-    void helpersLiveAsLongAsTheNode();
-    void onlyZeroIsSuccess();
-    void audioObjects();
-    void alphaChannel();
-    void premultipliedTypeAndProxyFile();
-    void pixels_data();
-    void pixels();
-    void renderRegion();
-    void lock();
-    void mixerFollowsItsTimeline();
-
-private:
-    Script& script = Script::Get();
-    std::unique_ptr<Engine> e;
-};
-
-void tst_TimelineModel::cleanup()
-{
-    EndSession();
-    QCOMPARE(References(e->node.get()), 1u);
-    e.reset();
-    QCOMPARE(script.liveObjects, QStringList());
-}
-
 template <typename T>
 static QVariant ToVariant(const T& value)
 {
@@ -140,505 +99,535 @@ static auto RowsFor(const QString& object, Target target)
     };
 }
 
-void tst_TimelineModel::settings_data()
+class tst_TimelineModel : public QObject
 {
-    using T = NLETimeline;
-    QTest::addColumn<Operation>("operation");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QVariant>("neutral");
-    const auto self = [](T& t) { return &t; };
-    const auto node = RowsFor("node.", self);
-    node("SetLevel(-3)", &T::SetLevel, &T::GetLevel, -3);
-    node("SetPosition(-5)", &T::SetPosition, &T::GetPosition, -5);
-    node("SetMarginMode(2)", &T::SetMarginMode, &T::GetMarginMode, NLEMargin_Stretch);
-    node("SetEnabled(true)", &T::SetHiden, &T::GetClipEnable, false, true);
-    const auto rate = [=](const char* value, float argument, float result) {
-        node(qPrintable(QString("SetRenderFrameRate(%1/1000000)").arg(value)),
-             &T::SetRenderFrameRate, &T::GetRenderFrameRate, argument, result, 25.f);
-    };
-    rate("29969999", 29.97f, 29.97f);
-    rate("0", float(qQNaN()), 0);
-    rate("9223372036854775807", 3e38f, 9223372036854.775807f);
+    Q_OBJECT
 
-    const auto bag = RowsFor("bag.", self);
-    const QString guid = "ü\U0001F3AC";
-    bag("SetString(Key_TimelineGuid, ü\U0001F3AC)", &T::SetTimelineGuid, &T::GetTimelineGuid, guid,
-        guid, "0");
-    bag("SetString(Key_AncestralGuid, )", &T::SetAncestralGuid, &T::GetAncestralGuid, "", "", "0");
-    bag("SetInt(kFreeze_Enabled, 1)", &T::SetFreezeEnable, &T::IsFreezeEnable, true);
-    bag("SetInt(kSpeed_Enabled, 1)", &T::SetRenderScaleEnable, &T::IsRenderScaleEnable, true);
-    const auto scale = [=](const char* value, float argument, float result) {
-        bag(qPrintable(QString("SetRational(kSpeed_Scale, %1/100000000)").arg(value)),
-            &T::SetRenderScale, &T::GetRenderScale, argument, result);
-    };
-    scale("-150000000", -1.5f, -1.5f);
-    scale("-9223372036854775808", -3e38f, -92233720368.5f);
-    bag("SetInt(kRender_Mode, 2)", &T::SetRenderMode, &T::GetLevel, NLERender_AudioOnly, 0);
-    const QColor color(1, 2, 3, 128);
-    bag("SetInt(kRender_BackgroundColor, -2147417597)", &T::SetRenderBackgroundColor,
-        &T::GetRenderBackgroundColor, color, color, QColor(0, 0, 0, 0));
-    RowsFor("source.", self)("SetFilePath(/é)", &T::SetFilePath, &T::GetFilePath, "/é");
-    RowsFor("decoder.", self)("SetGPUFirst(2)", &T::SetGPUFirst, &T::GetGPUFirst, 2);
+private:
+    Script& script = Script::Get();
+    std::unique_ptr<Engine> e;
 
-    const auto audio = RowsFor("audio.", std::mem_fn(&T::GetAudioStreamProcessHelper));
-    audio("SetPitch(-7)", &Audio::SetPitch, &Audio::GetPitch, -7);
-    audio("SetDenoiseEnable(true)", &Audio::SetDenoiseEnable, &Audio::GetDenoiseEnable, true);
-    audio("SetMixToMonoEnable(true)", &Audio::SetMix2MomoEnable, &Audio::GetMix2MomoEnable, true);
-    audio("SetVolumeEnable(true)", &Audio::SetVolumeEnable, &Audio::GetVolumeEnable, true);
-    audio("SetMute(true)", &Audio::SetMute, &Audio::GetMute, true);
-    audio("SetBalance(-0.5)", &Audio::SetBalance, &Audio::GetBalance, -0.5);
-    audio("SetFadeInEnable(true)", &Audio::SetFadeInEnable, &Audio::GetFadeInEnable, true);
-    audio("SetFadeInRange(5)", &Audio::SetFadeInRange, &Audio::GetFadeInRange, 5);
-    audio("SetFadeOutEnable(true)", &Audio::SetFadeOutEnable, &Audio::GetFadeOutEnable, true);
-    audio("SetFadeOutRange(6)", &Audio::SetFadeOutRange, &Audio::GetFadeOutRange, 6);
-    audio("SetEqualizerEnable(true)", &Audio::SetEqualizerEnable, &Audio::GetEqualizerEnable, true);
-    audio("SetEqualizerName(ö)", &Audio::SetEqualizerName, &Audio::GetEqualizerName, "ö");
-    const auto video = RowsFor("video.", std::mem_fn(&T::GetVideoStreamProcessHelper));
-    video("SetProxyEnabled(true)", &Video::SetProxyEnabled, &Video::GetProxyEnabled, true);
-    const auto blend = RowsFor("blend.", std::mem_fn(&T::GetBlendingHelper));
-    blend("SetEnable(true)", &Blending::SetBlendingEnable, &Blending::GetBlendingEnable, true);
-    blend("SetMode(3)", &Blending::SetBlendingMode, &Blending::GetBlendingMode, 3);
-    blend("SetAlpha(128)", &Blending::SetBlendingAlpha, &Blending::GetBlendingAlpha, 128);
-    const auto place = RowsFor("transform.", std::mem_fn(&T::GetTransformHelper));
-    place("SetEnable(true)", &Placing::SetTransformEnable, &Placing::GetTransformEnable, true);
-    place("SetRotation(-90.5)", &Placing::SetRotate, &Placing::GetRotate, -90.5);
-}
+private Q_SLOTS:
+    void init() { e = std::make_unique<Engine>(); }
 
-void tst_TimelineModel::settings()
-{
-    QFETCH(Operation, operation);
-    const QString call = QTest::currentDataTag();
-    NLETimeline nothing(nullptr, ExactType_Unknown, nullptr);
-    QTEST(operation(nothing), "neutral");
-    NLETimeline other(e->lacking, ExactType_Unknown, nullptr);
-    if (!call.startsWith("node."))
-        QTEST(operation(other), "neutral");
-    script.TakeCalls();
-    NLETimeline timeline(e->node, ExactType_Video, nullptr);
-    QTEST(operation(timeline), "value");
-    const QStringList calls = script.TakeCalls();
-    QCOMPARE(calls.filter(".Set"), QStringList(call));
-    // The interface is kept; only the video helper asks anew, for the first time when it is made.
-    // The transform comes by a plain query.
-    const QHash<QString, QString> lookUps = {
-        {"audio", "1A649613"}, {"blend", "328290B5"}, {"video", "7E764BF3 7E764BF3 7E764BF3"}};
-    QString made = calls.filter("GetInterface").join(' ').remove("node.GetInterface(");
-    QCOMPARE(made.remove(", 0, 0)"), lookUps.value(call.section('.', 0, 0)));
-}
-
-void tst_TimelineModel::gettersThatFail()
-{
-    e->node->range = e->node->totalRange = {3, 9};
-    e->node->id = 4000000000u;
-    NLETimeline timeline(e->node, ExactType_Video, nullptr);
-    QCOMPARE(timeline.GetGuidString(), "4000000000");
-    for (const char* operation : {"node.GetRange", "node.GetTotalRange", "node.GetPosition",
-                                  "node.GetRenderFrameRate", "node.GetId"})
-        script.statuses[operation] = E_FAIL;
-    QCOMPARE(timeline.GetRange(), qMakePair(0, 0));
-    QCOMPARE(timeline.GetPlayLen() + timeline.GetTotalLength() + timeline.GetDuration(), 0);
-    QVERIFY(!timeline.IsFrameIn(0));
-    QCOMPARE(timeline.GetRenderFrameRate(), 25.f);
-    QCOMPARE(timeline.GetGuidString(), "0");
-}
-
-void tst_TimelineModel::onlyChangesAreSet()
-{
-    Probe clip(e->node.get());
-    e->node->range = {2, 8};
-    e->node->position = 5;
-    script.TakeCalls();
-    clip.SetPosition(5);
-    clip.SetRange(2, 8);
-    clip.SetClipRange(&clip, 2, 8);
-    QCOMPARE(clip.moves + clip.trims, 0);
-    QCOMPARE(script.TakeCalls().filter("Set"), QStringList());
-    clip.SetTrimin(3);
-    clip.SetTrimout(Min);
-    QCOMPARE(script.TakeCalls().join(' ').remove("node."),
-             QString("GetRange() GetRange() SetRange(3..8) GetRange() GetRange() SetRange(3..%1)")
-                 .arg(Min));
-    clip.SetRange(qMakePair(3, 4));
-    QCOMPARE(clip.trims, 3);
-    clip.SetClipPos(&clip, 6);
-    clip.SetClipLevel(&clip, 2);
-    QCOMPARE(clip.moves, 1);
-    QVERIFY(e->node->position == 6 && e->node->level == 2);
-}
-
-void tst_TimelineModel::lengths_data()
-{
-    QTest::addColumn<NLERange>("range");
-    QTest::addColumn<int>("position");
-    QTest::addColumn<QList<int>>("results"); // length, seconds at 1/2 a second, and at 0
-    QTest::addColumn<QList<bool>>("inside"); // at the greatest and smallest int, 9 to 13
-    using L = QList<int>;
-    using B = QList<bool>;
-    QTest::newRow("three") << NLERange{2, 4} << 10 << L{3, 6, 0} << B{0, 0, 0, 1, 1, 1, 0};
-    QTest::newRow("empty") << NLERange{4, 3} << 10 << L{0, 0, 0} << B{0, 0, 0, 0, 0, 0, 0};
-    QTest::newRow("reversed") << NLERange{Max, Min} << 9 << L{0, 0, 0} << B{0, 0, 0, 0, 0, 0, 0};
-    QTest::newRow("all") << NLERange{Min, Max} << Min << L{Max, Max, 0} << B{1, 1, 1, 1, 1, 1, 1};
-    QTest::newRow("far out") << NLERange{0, 9} << Max << L{10, 20, 0} << B{1, 0, 0, 0, 0, 0, 0};
-}
-
-void tst_TimelineModel::lengths()
-{
-    QFETCH(NLERange, range);
-    QFETCH(int, position);
-    e->node->range = e->node->totalRange = range;
-    e->node->position = position;
-    e->node->rate = {1, 2};
-    NLETimeline timeline(e->node, ExactType_Video, nullptr);
-    QCOMPARE(timeline.GetTotalLength(), timeline.GetPlayLen());
-    const int seconds = timeline.GetDuration();
-    e->node->rate = {1, 0};
-    QTEST((QList<int>{timeline.GetPlayLen(), seconds, timeline.GetDuration()}), "results");
-    QList<bool> inside;
-    for (int frame : {Max, Min, 9, 10, 11, 12, 13})
-        inside.append(timeline.IsFrameIn(frame));
-    QTEST(inside, "inside");
-}
-
-void tst_TimelineModel::freezeFrame()
-{
-    NLETimeline timeline(e->node, ExactType_Video, nullptr);
-    const auto calls = [&](int frame, int count) {
-        timeline.SetFreezeFrame(frame, count);
-        return script.TakeCalls().filter("Set").join(' ');
-    };
-    const QString freeze = "bag.SetInt(kFreeze_Frame, %1) bag.SetInt(kFreeze_Enabled, 1)";
-    QCOMPARE(calls(-3, 1), freeze.arg(-3) + " node.SetRange(-3..-3)");
-    QCOMPARE(calls(5, 10), freeze.arg(5) + " node.SetRange(5..14)");
-    QCOMPARE(calls(5, 10), freeze.arg(5)); // the range stands already
-    QCOMPARE(calls(Max - 1, Max), freeze.arg(Max - 1) + " node.SetRange(2147483646..2147483647)");
-    QCOMPARE(calls(5, 0) + calls(Min, Min), QString());
-}
-
-void tst_TimelineModel::tree()
-{
-    Probe clip(e->lacking.get());
-    NLETimeline project(e->node, ExactType_Project, nullptr);
-    QCOMPARE(Text(clip.GetParentTimeline().get()), "parent");
-    script.statuses["lacking.GetParent"] = E_FAIL;
-    QVERIFY(!clip.GetParentTimeline());
-    QVERIFY(project.GetChilds().isEmpty());
-    e->composite->clips = {e->lacking, e->node, e->lacking};
-    QCOMPARE(project.GetClipCount(), 3);
-    QCOMPARE(project.GetChilds(),
-             QList<NLEComPtr<INLETimeline>>({e->lacking, e->node, e->lacking}));
-    e->composite->clips.clear();
-    QVERIFY(clip.GetClipCount() == 0 && clip.GetChilds().isEmpty());
-
-    script.TakeCalls();
-    project.AddClipSuper(&clip, 9, 4);
-    project.AddClipSuper(&clip, 9, 5);
-    QCOMPARE(clip.moves, 1);
-    project.RemoveClip(&clip);
-    project.AddClipSuper(e->lacking);
-    project.RemoveClip(e->lacking);
-    QCOMPARE(script.TakeCalls().join(' '),
-             "lacking.SetLevel(4) lacking.GetPosition() lacking.SetPosition(9) "
-             "composite.AddClip(lacking) "
-             "lacking.SetLevel(5) lacking.GetPosition() composite.AddClip(lacking) "
-             "composite.RemoveClip(lacking) composite.AddClip(lacking) "
-             "composite.RemoveClip(lacking)");
-    project.AddClipSuper(nullptr, 1, 2);
-    project.AddClipSuper(NLEComPtr<INLETimeline>());
-    project.RemoveClip(static_cast<NLETimeline*>(nullptr));
-    project.RemoveClip(NLEComPtr<INLETimeline>());
-    project.SetClipPos(nullptr, 1);
-    project.SetClipRange(nullptr, 1, 2);
-    project.SetClipLevel(nullptr, 1);
-    QCOMPARE(script.TakeCalls(), QStringList());
-    clip.AddClipSuper(&project, 3, 4);
-    clip.RemoveClip(&project);
-    QVERIFY2(e->node->position == 3 && e->node->level == 4, "placed, though not added");
-
-    QVERIFY(!clip.IsSource() && !clip.IsEffect() && !clip.IsTransition() && project.IsSource());
-    e->lacking->Offer<INLETimelineEffect>(MakeCom<Kinds>("kinds"));
-    QVERIFY(clip.IsEffect() && !clip.IsTransition());
-    e->lacking->Offer<INLETimelineTransition>(MakeCom<Kinds>("kinds"));
-    QVERIFY(clip.IsTransition());
-}
-
-void tst_TimelineModel::currentNode()
-{
-    NLETimeline project(e->node, ExactType_Project, nullptr);
-    QVERIFY2(!project.GetCurrentTimeline(), "without the flag");
-    QVector<NLEComPtr<RenderRegion>> flags;
-    const auto offerFlag = [&flags](const NLEComPtr<Node>& to) {
-        flags.append(MakeCom<RenderRegion>("flag"));
-        to->Offer<INLERenderRegion>(flags.last());
-        return NLEComPtr<INLETimeline>(to);
-    };
-    offerFlag(e->node);
-    QVERIFY(!project.GetCurrentTimeline());
-    flags[0]->current = true;
-    QCOMPARE(project.GetCurrentTimeline().get(), e->node.get());
-    QVERIFY2(!project.GetCurrentTimelineEx(), "never the node itself");
-
-    for (const char* name : {"a", "b", "c"})
-        e->composite->clips.append(offerFlag(MakeCom<Node>(name)));
-    e->composite->allClips = e->composite->clips;
-    e->composite->clips.removeLast();
-    QVERIFY2(!project.GetCurrentTimeline(), "not the node itself once there are clips");
-    flags[3]->current = true;
-    QVERIFY(!project.GetCurrentTimeline());
-    script.TakeCalls();
-    QCOMPARE(Text(project.GetCurrentTimelineEx().get()), "c");
-    QVERIFY(script.TakeCalls().contains("composite.GetEnumerator(1, 1)"));
-    flags[1]->current = flags[2]->current = true;
-    QCOMPARE(Text(project.GetCurrentTimeline().get()), "a");
-    QVERIFY(script.TakeCalls().contains("composite.GetEnumerator(1)"));
-}
-
-void tst_TimelineModel::project()
-{
-    e->setting->profile = {{64, 48}, {30, 1}, 44100, 1, 8};
-    NLETimeline project(e->node, ExactType_Project, nullptr);
-    project.SetProjectFps(12.5f);
-    project.SetProjectResolution(-1, 5);
-    const tagNLEProjectProfile profile = project.GetProjectProfile();
-    QCOMPARE(Text(profile.frameRate), "12500000/1000000");
-    QCOMPARE(Text(profile.frameSize), "-1x5");
-    QVERIFY2(profile.sampleRate == 44100 && profile.channels == 1 && profile.sampleFormat == 8,
-             "the rest is written back as it was");
-    QCOMPARE(project.GetProjectFps(), 12.5f);
-    script.statuses["setting.GetProfile"] = E_FAIL;
-    script.TakeCalls();
-    project.SetProjectFps(50);
-    project.SetProjectResolution(1, 1);
-    QCOMPARE(script.TakeCalls().filter("SetProfile"), QStringList());
-    QCOMPARE(Text(project.GetProjectProfile().frameSize), "1920x1080");
-    QCOMPARE(project.GetProjectResolution(), QSize(0, 0));
-    QCOMPARE(project.GetProjectFps(), 0.f);
-    QCOMPARE(Probe(e->lacking.get()).GetProjectResolution(), QSize()); // an invalid one
-}
-
-void tst_TimelineModel::helpersLiveAsLongAsTheNode()
-{
-    NLETimeline timeline(e->node, ExactType_Video, nullptr);
-    QStringList deleted;
-    const auto all = [&timeline] {
-        return QList<QObject*>{timeline.GetTransformHelper(), timeline.GetBlendingHelper(),
-                               timeline.GetAudioStreamProcessHelper(),
-                               timeline.GetVideoStreamProcessHelper()};
-    };
-    const QList<QObject*> first = all();
-    QCOMPARE(all(), first);
-    QStringList names;
-    for (QObject* helper : first) {
-        QCOMPARE(helper->parent(), &timeline);
-        const QString name = helper->metaObject()->className();
-        names.append(name);
-        connect(helper, &QObject::destroyed, [&deleted, name] { deleted.append(name); });
+    void cleanup()
+    {
+        EndSession();
+        QCOMPARE(References(e->node.get()), 1u);
+        e.reset();
+        QCOMPARE(script.liveObjects, QStringList());
     }
-    QCOMPARE(References(e->node.get()), 6u);
-    timeline.SetTimelineBase(e->node);
-    QCOMPARE(deleted, names); // in this order, which is not that of the fields
-    QCOMPARE(References(e->node.get()), 2u);
-    all();
-    QCOMPARE(timeline.children().size(), 4);
-}
 
-void tst_TimelineModel::onlyZeroIsSuccess()
-{
-    const auto results = [](const NLEComPtr<Node>& of) {
-        NLETimeline timeline(of, ExactType_Video, nullptr);
-        FMixerSettingDelegate strips(&timeline, nullptr);
-        const auto* helper = timeline.GetAudioStreamProcessHelper();
-        double volume = 0;
-        int level = 0;
+    void settings_data()
+    {
+        using T = NLETimeline;
+        QTest::addColumn<Operation>("operation");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QVariant>("neutral");
+        const auto self = [](T& t) { return &t; };
+        const auto node = RowsFor("node.", self);
+        node("SetLevel(-3)", &T::SetLevel, &T::GetLevel, -3);
+        node("SetPosition(-5)", &T::SetPosition, &T::GetPosition, -5);
+        node("SetMarginMode(2)", &T::SetMarginMode, &T::GetMarginMode, NLEMargin_Stretch);
+        node("SetEnabled(true)", &T::SetHiden, &T::GetClipEnable, false, true);
+        const auto rate = [=](const char* value, float argument, float result) {
+            node(qPrintable(QString("SetRenderFrameRate(%1/1000000)").arg(value)),
+                 &T::SetRenderFrameRate, &T::GetRenderFrameRate, argument, result, 25.f);
+        };
+        rate("29969999", 29.97f, 29.97f);
+        rate("0", float(qQNaN()), 0);
+        rate("9223372036854775807", 3e38f, 9223372036854.775807f);
+
+        const auto bag = RowsFor("bag.", self);
+        const QString guid = "ü\U0001F3AC";
+        bag("SetString(Key_TimelineGuid, ü\U0001F3AC)", &T::SetTimelineGuid, &T::GetTimelineGuid,
+            guid, guid, "0");
+        bag("SetString(Key_AncestralGuid, )", &T::SetAncestralGuid, &T::GetAncestralGuid, "", "",
+            "0");
+        bag("SetInt(kFreeze_Enabled, 1)", &T::SetFreezeEnable, &T::IsFreezeEnable, true);
+        bag("SetInt(kSpeed_Enabled, 1)", &T::SetRenderScaleEnable, &T::IsRenderScaleEnable, true);
+        const auto scale = [=](const char* value, float argument, float result) {
+            bag(qPrintable(QString("SetRational(kSpeed_Scale, %1/100000000)").arg(value)),
+                &T::SetRenderScale, &T::GetRenderScale, argument, result);
+        };
+        scale("-150000000", -1.5f, -1.5f);
+        scale("-9223372036854775808", -3e38f, -92233720368.5f);
+        bag("SetInt(kRender_Mode, 2)", &T::SetRenderMode, &T::GetLevel, NLERender_AudioOnly, 0);
+        const QColor color(1, 2, 3, 128);
+        bag("SetInt(kRender_BackgroundColor, -2147417597)", &T::SetRenderBackgroundColor,
+            &T::GetRenderBackgroundColor, color, color, QColor(0, 0, 0, 0));
+        RowsFor("source.", self)("SetFilePath(/é)", &T::SetFilePath, &T::GetFilePath, "/é");
+        RowsFor("decoder.", self)("SetGPUFirst(2)", &T::SetGPUFirst, &T::GetGPUFirst, 2);
+
+        const auto audio = RowsFor("audio.", std::mem_fn(&T::GetAudioStreamProcessHelper));
+        audio("SetPitch(-7)", &Audio::SetPitch, &Audio::GetPitch, -7);
+        audio("SetDenoiseEnable(true)", &Audio::SetDenoiseEnable, &Audio::GetDenoiseEnable, true);
+        audio("SetMixToMonoEnable(true)", &Audio::SetMix2MomoEnable, &Audio::GetMix2MomoEnable,
+              true);
+        audio("SetVolumeEnable(true)", &Audio::SetVolumeEnable, &Audio::GetVolumeEnable, true);
+        audio("SetMute(true)", &Audio::SetMute, &Audio::GetMute, true);
+        audio("SetBalance(-0.5)", &Audio::SetBalance, &Audio::GetBalance, -0.5);
+        audio("SetFadeInEnable(true)", &Audio::SetFadeInEnable, &Audio::GetFadeInEnable, true);
+        audio("SetFadeInRange(5)", &Audio::SetFadeInRange, &Audio::GetFadeInRange, 5);
+        audio("SetFadeOutEnable(true)", &Audio::SetFadeOutEnable, &Audio::GetFadeOutEnable, true);
+        audio("SetFadeOutRange(6)", &Audio::SetFadeOutRange, &Audio::GetFadeOutRange, 6);
+        audio("SetEqualizerEnable(true)", &Audio::SetEqualizerEnable, &Audio::GetEqualizerEnable,
+              true);
+        audio("SetEqualizerName(ö)", &Audio::SetEqualizerName, &Audio::GetEqualizerName, "ö");
+        const auto video = RowsFor("video.", std::mem_fn(&T::GetVideoStreamProcessHelper));
+        video("SetProxyEnabled(true)", &Video::SetProxyEnabled, &Video::GetProxyEnabled, true);
+        const auto blend = RowsFor("blend.", std::mem_fn(&T::GetBlendingHelper));
+        blend("SetEnable(true)", &Blending::SetBlendingEnable, &Blending::GetBlendingEnable, true);
+        blend("SetMode(3)", &Blending::SetBlendingMode, &Blending::GetBlendingMode, 3);
+        blend("SetAlpha(128)", &Blending::SetBlendingAlpha, &Blending::GetBlendingAlpha, 128);
+        const auto place = RowsFor("transform.", std::mem_fn(&T::GetTransformHelper));
+        place("SetEnable(true)", &Placing::SetTransformEnable, &Placing::GetTransformEnable, true);
+        place("SetRotation(-90.5)", &Placing::SetRotate, &Placing::GetRotate, -90.5);
+    }
+
+    void settings()
+    {
+        QFETCH(Operation, operation);
+        const QString call = QTest::currentDataTag();
+        NLETimeline nothing(nullptr, ExactType_Unknown, nullptr);
+        QTEST(operation(nothing), "neutral");
+        NLETimeline other(e->lacking, ExactType_Unknown, nullptr);
+        if (!call.startsWith("node."))
+            QTEST(operation(other), "neutral");
+        script.TakeCalls();
+        NLETimeline timeline(e->node, ExactType_Video, nullptr);
+        QTEST(operation(timeline), "value");
+        const QStringList calls = script.TakeCalls();
+        QCOMPARE(calls.filter(".Set"), QStringList(call));
+        // The interface is kept; only the video helper asks anew, for the first time when it is
+        // made. The transform comes by a plain query.
+        const QHash<QString, QString> lookUps = {
+            {"audio", "1A649613"}, {"blend", "328290B5"}, {"video", "7E764BF3 7E764BF3 7E764BF3"}};
+        QString made = calls.filter("GetInterface").join(' ').remove("node.GetInterface(");
+        QCOMPARE(made.remove(", 0, 0)"), lookUps.value(call.section('.', 0, 0)));
+    }
+
+    void gettersThatFail()
+    {
+        e->node->range = e->node->totalRange = {3, 9};
+        e->node->id = 4000000000u;
+        NLETimeline timeline(e->node, ExactType_Video, nullptr);
+        QCOMPARE(timeline.GetGuidString(), "4000000000");
+        for (const char* operation : {"node.GetRange", "node.GetTotalRange", "node.GetPosition",
+                                      "node.GetRenderFrameRate", "node.GetId"})
+            script.statuses[operation] = E_FAIL;
+        QCOMPARE(timeline.GetRange(), qMakePair(0, 0));
+        QCOMPARE(timeline.GetPlayLen() + timeline.GetTotalLength() + timeline.GetDuration(), 0);
+        QVERIFY(!timeline.IsFrameIn(0));
+        QCOMPARE(timeline.GetRenderFrameRate(), 25.f);
+        QCOMPARE(timeline.GetGuidString(), "0");
+    }
+
+    void onlyChangesAreSet()
+    {
+        Probe clip(e->node.get());
+        e->node->range = {2, 8};
+        e->node->position = 5;
+        script.TakeCalls();
+        clip.SetPosition(5);
+        clip.SetRange(2, 8);
+        clip.SetClipRange(&clip, 2, 8);
+        QCOMPARE(clip.moves + clip.trims, 0);
+        QCOMPARE(script.TakeCalls().filter("Set"), QStringList());
+        clip.SetTrimin(3);
+        clip.SetTrimout(Min);
+        QCOMPARE(
+            script.TakeCalls().join(' ').remove("node."),
+            QString("GetRange() GetRange() SetRange(3..8) GetRange() GetRange() SetRange(3..%1)")
+                .arg(Min));
+        clip.SetRange(qMakePair(3, 4));
+        QCOMPARE(clip.trims, 3);
+        clip.SetClipPos(&clip, 6);
+        clip.SetClipLevel(&clip, 2);
+        QCOMPARE(clip.moves, 1);
+        QVERIFY(e->node->position == 6 && e->node->level == 2);
+    }
+
+    void lengths_data()
+    {
+        QTest::addColumn<NLERange>("range");
+        QTest::addColumn<int>("position");
+        QTest::addColumn<QList<int>>("results"); // length, seconds at 1/2 a second, and at 0
+        QTest::addColumn<QList<bool>>("inside"); // at the greatest and smallest int, 9 to 13
+        using L = QList<int>;
+        using B = QList<bool>;
+        QTest::newRow("three") << NLERange{2, 4} << 10 << L{3, 6, 0} << B{0, 0, 0, 1, 1, 1, 0};
+        QTest::newRow("empty") << NLERange{4, 3} << 10 << L{0, 0, 0} << B{0, 0, 0, 0, 0, 0, 0};
+        QTest::newRow("reversed") << NLERange{Max, Min} << 9 << L{0, 0, 0}
+                                  << B{0, 0, 0, 0, 0, 0, 0};
+        QTest::newRow("all") << NLERange{Min, Max} << Min << L{Max, Max, 0}
+                             << B{1, 1, 1, 1, 1, 1, 1};
+        QTest::newRow("far out") << NLERange{0, 9} << Max << L{10, 20, 0} << B{1, 0, 0, 0, 0, 0, 0};
+    }
+
+    void lengths()
+    {
+        QFETCH(NLERange, range);
+        QFETCH(int, position);
+        e->node->range = e->node->totalRange = range;
+        e->node->position = position;
+        e->node->rate = {1, 2};
+        NLETimeline timeline(e->node, ExactType_Video, nullptr);
+        QCOMPARE(timeline.GetTotalLength(), timeline.GetPlayLen());
+        const int seconds = timeline.GetDuration();
+        e->node->rate = {1, 0};
+        QTEST((QList<int>{timeline.GetPlayLen(), seconds, timeline.GetDuration()}), "results");
+        QList<bool> inside;
+        for (int frame : {Max, Min, 9, 10, 11, 12, 13})
+            inside.append(timeline.IsFrameIn(frame));
+        QTEST(inside, "inside");
+    }
+
+    void freezeFrame()
+    {
+        NLETimeline timeline(e->node, ExactType_Video, nullptr);
+        const auto calls = [&](int frame, int count) {
+            timeline.SetFreezeFrame(frame, count);
+            return script.TakeCalls().filter("Set").join(' ');
+        };
+        const QString freeze = "bag.SetInt(kFreeze_Frame, %1) bag.SetInt(kFreeze_Enabled, 1)";
+        QCOMPARE(calls(-3, 1), freeze.arg(-3) + " node.SetRange(-3..-3)");
+        QCOMPARE(calls(5, 10), freeze.arg(5) + " node.SetRange(5..14)");
+        QCOMPARE(calls(5, 10), freeze.arg(5)); // the range stands already
+        QCOMPARE(calls(Max - 1, Max),
+                 freeze.arg(Max - 1) + " node.SetRange(2147483646..2147483647)");
+        QCOMPARE(calls(5, 0) + calls(Min, Min), QString());
+    }
+
+    void tree()
+    {
+        Probe clip(e->lacking.get());
+        NLETimeline project(e->node, ExactType_Project, nullptr);
+        QCOMPARE(Text(clip.GetParentTimeline().get()), "parent");
+        script.statuses["lacking.GetParent"] = E_FAIL;
+        QVERIFY(!clip.GetParentTimeline());
+        QVERIFY(project.GetChilds().isEmpty());
+        e->composite->clips = {e->lacking, e->node, e->lacking};
+        QCOMPARE(project.GetClipCount(), 3);
+        QCOMPARE(project.GetChilds(),
+                 QList<NLEComPtr<INLETimeline>>({e->lacking, e->node, e->lacking}));
+        e->composite->clips.clear();
+        QVERIFY(clip.GetClipCount() == 0 && clip.GetChilds().isEmpty());
+
+        script.TakeCalls();
+        project.AddClipSuper(&clip, 9, 4);
+        project.AddClipSuper(&clip, 9, 5);
+        QCOMPARE(clip.moves, 1);
+        project.RemoveClip(&clip);
+        project.AddClipSuper(e->lacking);
+        project.RemoveClip(e->lacking);
+        QCOMPARE(script.TakeCalls().join(' '),
+                 "lacking.SetLevel(4) lacking.GetPosition() lacking.SetPosition(9) "
+                 "composite.AddClip(lacking) "
+                 "lacking.SetLevel(5) lacking.GetPosition() composite.AddClip(lacking) "
+                 "composite.RemoveClip(lacking) composite.AddClip(lacking) "
+                 "composite.RemoveClip(lacking)");
+        project.AddClipSuper(nullptr, 1, 2);
+        project.AddClipSuper(NLEComPtr<INLETimeline>());
+        project.RemoveClip(static_cast<NLETimeline*>(nullptr));
+        project.RemoveClip(NLEComPtr<INLETimeline>());
+        project.SetClipPos(nullptr, 1);
+        project.SetClipRange(nullptr, 1, 2);
+        project.SetClipLevel(nullptr, 1);
+        QCOMPARE(script.TakeCalls(), QStringList());
+        clip.AddClipSuper(&project, 3, 4);
+        clip.RemoveClip(&project);
+        QVERIFY2(e->node->position == 3 && e->node->level == 4, "placed, though not added");
+
+        QVERIFY(!clip.IsSource() && !clip.IsEffect() && !clip.IsTransition() && project.IsSource());
+        e->lacking->Offer<INLETimelineEffect>(MakeCom<Kinds>("kinds"));
+        QVERIFY(clip.IsEffect() && !clip.IsTransition());
+        e->lacking->Offer<INLETimelineTransition>(MakeCom<Kinds>("kinds"));
+        QVERIFY(clip.IsTransition());
+    }
+
+    void currentNode()
+    {
+        NLETimeline project(e->node, ExactType_Project, nullptr);
+        QVERIFY2(!project.GetCurrentTimeline(), "without the flag");
+        QVector<NLEComPtr<RenderRegion>> flags;
+        const auto offerFlag = [&flags](const NLEComPtr<Node>& to) {
+            flags.append(MakeCom<RenderRegion>("flag"));
+            to->Offer<INLERenderRegion>(flags.last());
+            return NLEComPtr<INLETimeline>(to);
+        };
+        offerFlag(e->node);
+        QVERIFY(!project.GetCurrentTimeline());
+        flags[0]->current = true;
+        QCOMPARE(project.GetCurrentTimeline().get(), e->node.get());
+        QVERIFY2(!project.GetCurrentTimelineEx(), "never the node itself");
+
+        for (const char* name : {"a", "b", "c"})
+            e->composite->clips.append(offerFlag(MakeCom<Node>(name)));
+        e->composite->allClips = e->composite->clips;
+        e->composite->clips.removeLast();
+        QVERIFY2(!project.GetCurrentTimeline(), "not the node itself once there are clips");
+        flags[3]->current = true;
+        QVERIFY(!project.GetCurrentTimeline());
+        script.TakeCalls();
+        QCOMPARE(Text(project.GetCurrentTimelineEx().get()), "c");
+        QVERIFY(script.TakeCalls().contains("composite.GetEnumerator(1, 1)"));
+        flags[1]->current = flags[2]->current = true;
+        QCOMPARE(Text(project.GetCurrentTimeline().get()), "a");
+        QVERIFY(script.TakeCalls().contains("composite.GetEnumerator(1)"));
+    }
+
+    void project()
+    {
+        e->setting->profile = {{64, 48}, {30, 1}, 44100, 1, 8};
+        NLETimeline project(e->node, ExactType_Project, nullptr);
+        project.SetProjectFps(12.5f);
+        project.SetProjectResolution(-1, 5);
+        const tagNLEProjectProfile profile = project.GetProjectProfile();
+        QCOMPARE(Text(profile.frameRate), "12500000/1000000");
+        QCOMPARE(Text(profile.frameSize), "-1x5");
+        QVERIFY2(profile.sampleRate == 44100 && profile.channels == 1 && profile.sampleFormat == 8,
+                 "the rest is written back as it was");
+        QCOMPARE(project.GetProjectFps(), 12.5f);
+        script.statuses["setting.GetProfile"] = E_FAIL;
+        script.TakeCalls();
+        project.SetProjectFps(50);
+        project.SetProjectResolution(1, 1);
+        QCOMPARE(script.TakeCalls().filter("SetProfile"), QStringList());
+        QCOMPARE(Text(project.GetProjectProfile().frameSize), "1920x1080");
+        QCOMPARE(project.GetProjectResolution(), QSize(0, 0));
+        QCOMPARE(project.GetProjectFps(), 0.f);
+        QCOMPARE(Probe(e->lacking.get()).GetProjectResolution(), QSize()); // an invalid one
+    }
+
+    void helpersLiveAsLongAsTheNode()
+    {
+        NLETimeline timeline(e->node, ExactType_Video, nullptr);
+        QStringList deleted;
+        const auto all = [&timeline] {
+            return QList<QObject*>{timeline.GetTransformHelper(), timeline.GetBlendingHelper(),
+                                   timeline.GetAudioStreamProcessHelper(),
+                                   timeline.GetVideoStreamProcessHelper()};
+        };
+        const QList<QObject*> first = all();
+        QCOMPARE(all(), first);
+        QStringList names;
+        for (QObject* helper : first) {
+            QCOMPARE(helper->parent(), &timeline);
+            const QString name = helper->metaObject()->className();
+            names.append(name);
+            connect(helper, &QObject::destroyed, [&deleted, name] { deleted.append(name); });
+        }
+        QCOMPARE(References(e->node.get()), 6u);
+        timeline.SetTimelineBase(e->node);
+        QCOMPARE(deleted, names); // in this order, which is not that of the fields
+        QCOMPARE(References(e->node.get()), 2u);
+        all();
+        QCOMPARE(timeline.children().size(), 4);
+    }
+
+    void onlyZeroIsSuccess()
+    {
+        const auto results = [](const NLEComPtr<Node>& of) {
+            NLETimeline timeline(of, ExactType_Video, nullptr);
+            FMixerSettingDelegate strips(&timeline, nullptr);
+            const auto* helper = timeline.GetAudioStreamProcessHelper();
+            double volume = 0;
+            int level = 0;
+            tagMixerParam param{};
+            return QList<bool>{helper->GetVolume(volume), helper->GetDenoiseLevel(level),
+                               strips.GetMixerParam(3, &param), strips.SetMixerParam(4, param)};
+        };
+        const QList<bool> none{false, false, false, false};
+        QCOMPARE(results(e->lacking), none);
+        QCOMPARE(results(e->node), QList<bool>({true, true, true, true}));
+        QCOMPARE(script.TakeCalls().filter("mixer."),
+                 QStringList({"mixer.GetParam(3)", "mixer.SetParam(4)"}));
+        for (const HRESULT status : {S_FALSE, E_FAIL}) {
+            for (const char* operation :
+                 {"audio.GetVolume", "audio.GetDenoiseLevel", "mixer.GetParam", "mixer.SetParam"})
+                script.statuses[operation] = status;
+            QCOMPARE(results(e->node), none);
+        }
+    }
+
+    void audioObjects()
+    {
+        const Audio without(e->lacking, nullptr);
+        auto* const untouched = reinterpret_cast<INLEKeyFrameParam*>(this);
+        INLEKeyFrameParam* param = untouched;
+        double band = 7;
+        without.GetVolumeKeyFrameParam(&param);
+        without.GetEqualizerParam(&band);
+        QCOMPARE(param, untouched);
+        QCOMPARE(band, 7.0);
+
+        Audio helper(e->node, nullptr);
+        helper.GetVolumeKeyFrameParam(&param);
+        QVERIFY(!param);
+        helper.SetEqualizerParam(&band);
+        band = 0;
+        helper.GetEqualizerParam(&band);
+        QCOMPARE(band, 7.0);
+        helper.SetVolume(0.25);
+        helper.SetDenoiseLevel(3);
+        QVERIFY(e->audio->volume == 0.25 && e->audio->denoiseLevel == 3);
+        e->audio->equalizerName = QString(300, 'x');
+        QCOMPARE(helper.GetEqualizerName(), QString(127, 'x')); // cut to its buffer
+    }
+
+    void alphaChannel()
+    {
+        const auto values = [](const Video::AlphaChannelParm& p) {
+            const QList<int> numbers{p.nParam1, p.nParam2, p.nParam3,
+                                     p.nParam5, p.nParam6, p.nParam7};
+            return qMakePair(numbers, p.dParam4);
+        };
+        QCOMPARE(values(Video(e->lacking, nullptr).GetAlphaChannel()),
+                 qMakePair(QList<int>({0, 1, 0, 0, 0, 0}), 0.0));
+        Video helper(e->node, nullptr);
+        memset(&e->video->record, 0x5A, sizeof e->video->record);
+        const NLEAlphaChannelRecord before = e->video->record;
+        const Video::AlphaChannelParm parm{1, -2, 3, 4.5, -5, 6, 7};
+        helper.SetAlphaChannel(parm);
+        QCOMPARE(values(helper.GetAlphaChannel()), values(parm));
+        const auto* fields = reinterpret_cast<const qint32*>(&e->video->record);
+        QCOMPARE(fields[1], -2);
+        QCOMPARE(fields[6], -5);
+        constexpr int Kept = 36; // bytes from here on are the engine's
+        QVERIFY(!memcmp(reinterpret_cast<const char*>(&e->video->record) + Kept,
+                        reinterpret_cast<const char*>(&before) + Kept, sizeof before - Kept));
+    }
+
+    void premultipliedTypeAndProxyFile()
+    {
+        Video without(e->lacking, nullptr);
+        without.SetPremultiAlphaType(2);
+        QCOMPARE(without.GetPremultiAlphaType(), 0);
+        e->video->alphaType = 5;
+        Video helper(e->node, nullptr);
+        e->video->alphaType = 6;
+        QVERIFY2(helper.GetPremultiAlphaType() == 5, "as it was when the helper was made");
+        helper.SetPremultiAlphaType(2);
+        QCOMPARE(helper.GetPremultiAlphaType(), 2);
+        QCOMPARE(e->video->alphaType, 2);
+
+        const QString file = QCoreApplication::applicationFilePath();
+        for (const QString& path : {file, QString("/none"), QString()})
+            helper.SetProxyFile(path);
+        QCOMPARE(script.TakeCalls().filter("SetProxyFile").join(' ').remove("video.SetProxyFile"),
+                 '(' + file + ") ()"); // not what does not exist
+        e->video->proxyPath = QString(300, 'x');
+        QCOMPARE(helper.GetProxyPeth(), QString(259, 'x')); // cut to its buffer
+    }
+
+    void pixels_data()
+    {
+        QTest::addColumn<QSizeF>("size");
+        QTest::addColumn<QPointF>("pixels");
+        QTest::addColumn<QPointF>("normalised");
+        const QSizeF full(1920, 1080);
+        QTest::newRow("middle") << full << QPointF(0, 0) << QPointF(0.5, 0.5);
+        QTest::newRow("top right") << full << QPointF(960, 540) << QPointF(1, 0);
+        QTest::newRow("no width") << QSizeF(0, 100) << QPointF(9, 25) << QPointF(0, 0.25);
+        QTest::newRow("no height") << QSizeF(100, 0) << QPointF(25, 9) << QPointF(0.75, 0);
+    }
+
+    void pixels()
+    {
+        QFETCH(QSizeF, size);
+        QFETCH(QPointF, pixels);
+        QFETCH(QPointF, normalised);
+        const QPointF back(size.width() > 0 ? pixels.x() : 0, size.height() > 0 ? pixels.y() : 0);
+        e->region->region = {3, 4, size.width(), size.height()};
+        Placing helper(e->node, nullptr);
+        e->transform->center = {7, 8};
+        helper.SetXpos(float(pixels.x()));
+        QCOMPARE(helper.GetCenterPos(), QPointF(normalised.x(), 8));
+        helper.SetYpos(float(pixels.y()));
+        QCOMPARE(helper.GetCenterPos(), normalised);
+        e->transform->center = {7, 8};
+        helper.SetXYpos(pixels);
+        QCOMPARE(helper.GetCenterPos(), normalised);
+        QCOMPARE(helper.GetXYpos(), back);
+        QCOMPARE(QPointF(helper.GetXpos(), helper.GetYpos()), back);
+
+        script.statuses["node.GetParent"] = E_FAIL;
+        NLERectF rect{};
+        QVERIFY(!helper.GetRenderROD(rect));
+        helper.SetXYpos({1, 1});
+        helper.SetXpos(1);
+        helper.SetYpos(1);
+        QCOMPARE(helper.GetCenterPos(), normalised);
+        const Placing lacking(e->lacking, nullptr);
+        for (auto* without : std::initializer_list<const Placing*>{&helper, &lacking})
+            QVERIFY(without->GetXYpos() == QPointF() &&
+                    without->GetXpos() + without->GetYpos() == 0);
+    }
+
+    void renderRegion()
+    {
+        Placing without(e->lacking, nullptr);
+        without.SetRenderRegion(QRectF(1, 2, 3, 4));
+        QCOMPARE(without.GetRenderRegion(), QRectF(0, 0, 1, 1));
+        QCOMPARE(without.GetResizeScale(), QSizeF(0, 0));
+        Placing helper(e->node, nullptr);
+        helper.SetRenderRegion(QRectF(0.25, 0.125, 0.5, 0.75));
+        QCOMPARE(helper.GetCenterPos(), QPointF(0.5, 0.5));
+        QCOMPARE(helper.GetResizeScale(), QSizeF(0.5, 0.75));
+        QCOMPARE(helper.GetRenderRegion(), QRectF(0.5, 0.25, 0.5, 0.75)); // not what was set
+        helper.SetResizeScale(QSizeF(2, 3));
+        QCOMPARE(helper.GetRenderRegion(), QRectF(-1, -2, 2, 3));
+    }
+
+    void lock()
+    {
+        auto parentBag = MakeCom<Properties>("bag");
+        script.results["parent.GetProperties"] = parentBag;
+        LogCapture log;
+        Placing helper(e->node, nullptr);
+        helper.SetTransformLock(true);
+        QVERIFY2(!helper.GetTransformLock(), "the engine's lock is never read back");
+        e->bag->strings["key_timeline_type"] = "11";
+        helper.SetTransformLock(false);
+        e->bag->strings["key_timeline_type"] = "11x";
+        parentBag->strings["key_timeline_type"] = "11";
+        helper.SetTransformLock(true);
+        QCOMPARE(script.TakeCalls().filter("Lock").join(' ').remove("transform.SetLock"),
+                 "(true) (false) (true)");
+        const QString line =
+            "-INFO- [FTimelineTransformHelper::SetTransformLock]:  %1 m_ptimeline = "
+            "%2, lock = %3 - [CommonLib/NLEWraper/FTimelineTransformHelper(";
+        const QString address = QString::number(quint32(quintptr(e->node.get())), 16);
+        const QRegularExpression lineNumber("\\d+\\)\\]$");
+        QCOMPARE(log.Take().replaceInStrings(lineNumber, ""),
+                 QStringList({line.arg("SplitScreen", address, "0"),
+                              line.arg("SubSplitScreen", address, "1")}));
+    }
+
+    void mixerFollowsItsTimeline()
+    {
+        e->mixer->param.volume = 1;
+        auto other = MakeCom<Node>("other");
+        auto otherMixer = MakeCom<MixerSetting>("otherMixer");
+        otherMixer->param.volume = 2;
+        other->Offer<INLEMixerSetting>(otherMixer);
+        NLETimeline first(e->node, ExactType_Project, nullptr);
+        NLETimeline second(other, ExactType_Project, nullptr);
+        NLETimeline bare(nullptr, ExactType_Project, nullptr);
+        FMixerSettingDelegate strips(&first, nullptr);
         tagMixerParam param{};
-        return QList<bool>{helper->GetVolume(volume), helper->GetDenoiseLevel(level),
-                           strips.GetMixerParam(3, &param), strips.SetMixerParam(4, param)};
-    };
-    const QList<bool> none{false, false, false, false};
-    QCOMPARE(results(e->lacking), none);
-    QCOMPARE(results(e->node), QList<bool>({true, true, true, true}));
-    QCOMPARE(script.TakeCalls().filter("mixer."),
-             QStringList({"mixer.GetParam(3)", "mixer.SetParam(4)"}));
-    for (const HRESULT status : {S_FALSE, E_FAIL}) {
-        for (const char* operation :
-             {"audio.GetVolume", "audio.GetDenoiseLevel", "mixer.GetParam", "mixer.SetParam"})
-            script.statuses[operation] = status;
-        QCOMPARE(results(e->node), none);
+        QVERIFY(strips.GetMixerParam(0, &param) && strips.GetMixerParam(0, &param));
+        QCOMPARE(param.volume, 1.0);
+        strips.SetTimeline(&second);
+        QCOMPARE(script.TakeCalls().filter("GetInterface").join(' '),
+                 "node.GetInterface(E6CC159E, 0, 0) other.GetInterface(E6CC159E, 0, 0)");
+        QVERIFY(strips.GetMixerParam(0, &param));
+        QCOMPARE(param.volume, 2.0);
+        strips.SetTimeline(&bare);
+        QVERIFY(!strips.GetMixerParam(0, &param) && !strips.SetMixerParam(0, param));
     }
-}
-
-void tst_TimelineModel::audioObjects()
-{
-    const Audio without(e->lacking, nullptr);
-    auto* const untouched = reinterpret_cast<INLEKeyFrameParam*>(this);
-    INLEKeyFrameParam* param = untouched;
-    double band = 7;
-    without.GetVolumeKeyFrameParam(&param);
-    without.GetEqualizerParam(&band);
-    QCOMPARE(param, untouched);
-    QCOMPARE(band, 7.0);
-
-    Audio helper(e->node, nullptr);
-    helper.GetVolumeKeyFrameParam(&param);
-    QVERIFY(!param);
-    helper.SetEqualizerParam(&band);
-    band = 0;
-    helper.GetEqualizerParam(&band);
-    QCOMPARE(band, 7.0);
-    helper.SetVolume(0.25);
-    helper.SetDenoiseLevel(3);
-    QVERIFY(e->audio->volume == 0.25 && e->audio->denoiseLevel == 3);
-    e->audio->equalizerName = QString(300, 'x');
-    QCOMPARE(helper.GetEqualizerName(), QString(127, 'x')); // cut to its buffer
-}
-
-void tst_TimelineModel::alphaChannel()
-{
-    const auto values = [](const Video::AlphaChannelParm& p) {
-        const QList<int> numbers{p.nParam1, p.nParam2, p.nParam3, p.nParam5, p.nParam6, p.nParam7};
-        return qMakePair(numbers, p.dParam4);
-    };
-    QCOMPARE(values(Video(e->lacking, nullptr).GetAlphaChannel()),
-             qMakePair(QList<int>({0, 1, 0, 0, 0, 0}), 0.0));
-    Video helper(e->node, nullptr);
-    memset(&e->video->record, 0x5A, sizeof e->video->record);
-    const NLEAlphaChannelRecord before = e->video->record;
-    const Video::AlphaChannelParm parm{1, -2, 3, 4.5, -5, 6, 7};
-    helper.SetAlphaChannel(parm);
-    QCOMPARE(values(helper.GetAlphaChannel()), values(parm));
-    const auto* fields = reinterpret_cast<const qint32*>(&e->video->record);
-    QCOMPARE(fields[1], -2);
-    QCOMPARE(fields[6], -5);
-    constexpr int Kept = 36; // bytes from here on are the engine's
-    QVERIFY(!memcmp(reinterpret_cast<const char*>(&e->video->record) + Kept,
-                    reinterpret_cast<const char*>(&before) + Kept, sizeof before - Kept));
-}
-
-void tst_TimelineModel::premultipliedTypeAndProxyFile()
-{
-    Video without(e->lacking, nullptr);
-    without.SetPremultiAlphaType(2);
-    QCOMPARE(without.GetPremultiAlphaType(), 0);
-    e->video->alphaType = 5;
-    Video helper(e->node, nullptr);
-    e->video->alphaType = 6;
-    QVERIFY2(helper.GetPremultiAlphaType() == 5, "as it was when the helper was made");
-    helper.SetPremultiAlphaType(2);
-    QCOMPARE(helper.GetPremultiAlphaType(), 2);
-    QCOMPARE(e->video->alphaType, 2);
-
-    const QString file = QCoreApplication::applicationFilePath();
-    for (const QString& path : {file, QString("/none"), QString()})
-        helper.SetProxyFile(path);
-    QCOMPARE(script.TakeCalls().filter("SetProxyFile").join(' ').remove("video.SetProxyFile"),
-             '(' + file + ") ()"); // not what does not exist
-    e->video->proxyPath = QString(300, 'x');
-    QCOMPARE(helper.GetProxyPeth(), QString(259, 'x')); // cut to its buffer
-}
-
-void tst_TimelineModel::pixels_data()
-{
-    QTest::addColumn<QSizeF>("size");
-    QTest::addColumn<QPointF>("pixels");
-    QTest::addColumn<QPointF>("normalised");
-    const QSizeF full(1920, 1080);
-    QTest::newRow("middle") << full << QPointF(0, 0) << QPointF(0.5, 0.5);
-    QTest::newRow("top right") << full << QPointF(960, 540) << QPointF(1, 0);
-    QTest::newRow("no width") << QSizeF(0, 100) << QPointF(9, 25) << QPointF(0, 0.25);
-    QTest::newRow("no height") << QSizeF(100, 0) << QPointF(25, 9) << QPointF(0.75, 0);
-}
-
-void tst_TimelineModel::pixels()
-{
-    QFETCH(QSizeF, size);
-    QFETCH(QPointF, pixels);
-    QFETCH(QPointF, normalised);
-    const QPointF back(size.width() > 0 ? pixels.x() : 0, size.height() > 0 ? pixels.y() : 0);
-    e->region->region = {3, 4, size.width(), size.height()};
-    Placing helper(e->node, nullptr);
-    e->transform->center = {7, 8};
-    helper.SetXpos(float(pixels.x()));
-    QCOMPARE(helper.GetCenterPos(), QPointF(normalised.x(), 8));
-    helper.SetYpos(float(pixels.y()));
-    QCOMPARE(helper.GetCenterPos(), normalised);
-    e->transform->center = {7, 8};
-    helper.SetXYpos(pixels);
-    QCOMPARE(helper.GetCenterPos(), normalised);
-    QCOMPARE(helper.GetXYpos(), back);
-    QCOMPARE(QPointF(helper.GetXpos(), helper.GetYpos()), back);
-
-    script.statuses["node.GetParent"] = E_FAIL;
-    NLERectF rect{};
-    QVERIFY(!helper.GetRenderROD(rect));
-    helper.SetXYpos({1, 1});
-    helper.SetXpos(1);
-    helper.SetYpos(1);
-    QCOMPARE(helper.GetCenterPos(), normalised);
-    const Placing lacking(e->lacking, nullptr);
-    for (auto* without : std::initializer_list<const Placing*>{&helper, &lacking})
-        QVERIFY(without->GetXYpos() == QPointF() && without->GetXpos() + without->GetYpos() == 0);
-}
-
-void tst_TimelineModel::renderRegion()
-{
-    Placing without(e->lacking, nullptr);
-    without.SetRenderRegion(QRectF(1, 2, 3, 4));
-    QCOMPARE(without.GetRenderRegion(), QRectF(0, 0, 1, 1));
-    QCOMPARE(without.GetResizeScale(), QSizeF(0, 0));
-    Placing helper(e->node, nullptr);
-    helper.SetRenderRegion(QRectF(0.25, 0.125, 0.5, 0.75));
-    QCOMPARE(helper.GetCenterPos(), QPointF(0.5, 0.5));
-    QCOMPARE(helper.GetResizeScale(), QSizeF(0.5, 0.75));
-    QCOMPARE(helper.GetRenderRegion(), QRectF(0.5, 0.25, 0.5, 0.75)); // not what was set
-    helper.SetResizeScale(QSizeF(2, 3));
-    QCOMPARE(helper.GetRenderRegion(), QRectF(-1, -2, 2, 3));
-}
-
-void tst_TimelineModel::lock()
-{
-    auto parentBag = MakeCom<Properties>("bag");
-    script.results["parent.GetProperties"] = parentBag;
-    LogCapture log;
-    Placing helper(e->node, nullptr);
-    helper.SetTransformLock(true);
-    QVERIFY2(!helper.GetTransformLock(), "the engine's lock is never read back");
-    e->bag->strings["key_timeline_type"] = "11";
-    helper.SetTransformLock(false);
-    e->bag->strings["key_timeline_type"] = "11x";
-    parentBag->strings["key_timeline_type"] = "11";
-    helper.SetTransformLock(true);
-    QCOMPARE(script.TakeCalls().filter("Lock").join(' ').remove("transform.SetLock"),
-             "(true) (false) (true)");
-    const QString line = "-INFO- [FTimelineTransformHelper::SetTransformLock]:  %1 m_ptimeline = "
-                         "%2, lock = %3 - [CommonLib/NLEWraper/FTimelineTransformHelper(";
-    const QString address = QString::number(quint32(quintptr(e->node.get())), 16);
-    const QRegularExpression lineNumber("\\d+\\)\\]$");
-    QCOMPARE(log.Take().replaceInStrings(lineNumber, ""),
-             QStringList({line.arg("SplitScreen", address, "0"),
-                          line.arg("SubSplitScreen", address, "1")}));
-}
-
-void tst_TimelineModel::mixerFollowsItsTimeline()
-{
-    e->mixer->param.volume = 1;
-    auto other = MakeCom<Node>("other");
-    auto otherMixer = MakeCom<MixerSetting>("otherMixer");
-    otherMixer->param.volume = 2;
-    other->Offer<INLEMixerSetting>(otherMixer);
-    NLETimeline first(e->node, ExactType_Project, nullptr);
-    NLETimeline second(other, ExactType_Project, nullptr);
-    NLETimeline bare(nullptr, ExactType_Project, nullptr);
-    FMixerSettingDelegate strips(&first, nullptr);
-    tagMixerParam param{};
-    QVERIFY(strips.GetMixerParam(0, &param) && strips.GetMixerParam(0, &param));
-    QCOMPARE(param.volume, 1.0);
-    strips.SetTimeline(&second);
-    QCOMPARE(script.TakeCalls().filter("GetInterface").join(' '),
-             "node.GetInterface(E6CC159E, 0, 0) other.GetInterface(E6CC159E, 0, 0)");
-    QVERIFY(strips.GetMixerParam(0, &param));
-    QCOMPARE(param.volume, 2.0);
-    strips.SetTimeline(&bare);
-    QVERIFY(!strips.GetMixerParam(0, &param) && !strips.SetMixerParam(0, param));
-}
+};
 
 QTEST_GUILESS_MAIN(tst_TimelineModel)
 #include "tst_timelinemodel.moc"

@@ -57,6 +57,12 @@ public:
         return clip;
     }
 
+    static QByteArray Contents(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
     /// Null when the engine renders none.
     QImage Frame(const Node& node, int frame) const
     {
