@@ -80,17 +80,16 @@ private slots:
         QTest::addColumn<QSizeF>("scale");
         QTest::addColumn<double>("rotation");
         QTest::addColumn<QRect>("shown");
-        QTest::newRow("half size, top left quarter")
-            << QPointF(0.25, 0.25) << QSizeF(0.5, 0.5) << 0.0 << QRect(0, 0, 160, 90);
-        QTest::newRow("half size, bottom right quarter")
-            << QPointF(0.75, 0.75) << QSizeF(0.5, 0.5) << 0.0 << QRect(160, 90, 160, 90);
-        QTest::newRow("moved half out")
-            << QPointF(0, 0.5) << QSizeF(1, 1) << 0.0 << QRect(0, 0, 160, 180);
-        QTest::newRow("a quarter turn")
-            << QPointF(0.5, 0.5) << QSizeF(0.5, 0.5) << 90.0 << QRect(115, 10, 90, 160);
-        QTest::newRow("mirrored covers the same")
-            << QPointF(0.5, 0.5) << QSizeF(-1, 1) << 0.0 << QRect(0, 0, 320, 180);
-        QTest::newRow("no width, nothing") << QPointF(0.5, 0.5) << QSizeF(0, 1) << 0.0 << QRect();
+        const auto row = [](const char* name, QPointF center, QSizeF scale, double turn,
+                            QRect shown) {
+            QTest::newRow(name) << center << scale << turn << shown;
+        };
+        row("top left quarter", {0.25, 0.25}, {0.5, 0.5}, 0, {0, 0, 160, 90});
+        row("bottom right quarter", {0.75, 0.75}, {0.5, 0.5}, 0, {160, 90, 160, 90});
+        row("moved half out", {0, 0.5}, {1, 1}, 0, {0, 0, 160, 180});
+        row("a quarter turn", {0.5, 0.5}, {0.5, 0.5}, 90, {115, 10, 90, 160});
+        row("mirrored covers the same", {0.5, 0.5}, {-1, 1}, 0, {0, 0, 320, 180});
+        row("no width, nothing", {0.5, 0.5}, {0, 1}, 0, {});
     }
 
     void transformFillsExactly()
@@ -226,20 +225,20 @@ private slots:
         QTest::addColumn<Change>("change");
         QTest::addColumn<double>("left");
         QTest::addColumn<double>("right");
-        QTest::newRow("untouched") << Change([](auto&) {}) << 0.0 << 0.0;
-        QTest::newRow("half volume") << Change([](auto& a) { a.SetVolume(0.5); }) << -6.02 << -6.02;
-        QTest::newRow("double volume") << Change([](auto& a) { a.SetVolume(2); }) << 6.02 << 6.02;
-        QTest::newRow("volume switched off") << Change([](auto& a) {
+        const auto row = [](const char* name, double left, double right, const Change& change) {
+            QTest::newRow(name) << change << left << right;
+        };
+        row("untouched", 0, 0, [](auto&) {});
+        row("half volume", -6.02, -6.02, [](auto& a) { a.SetVolume(0.5); });
+        row("double volume", 6.02, 6.02, [](auto& a) { a.SetVolume(2); });
+        row("muted", -150, -150, [](auto& a) { a.SetMute(true); });
+        row("half to the left", 0, -6.02, [](auto& a) { a.SetBalance(-0.5); });
+        row("all to the right", -150, 0, [](auto& a) { a.SetBalance(1); });
+        row("mono of equal channels", 0, 0, [](auto& a) { a.SetMixToMonoEnable(true); });
+        row("volume switched off", 0, 0, [](auto& a) {
             a.SetVolume(0.1);
             a.SetVolumeEnable(false);
-        }) << 0.0 << 0.0;
-        QTest::newRow("muted") << Change([](auto& a) { a.SetMute(true); }) << -150.0 << -150.0;
-        QTest::newRow("half to the left")
-            << Change([](auto& a) { a.SetBalance(-0.5); }) << 0.0 << -6.02;
-        QTest::newRow("all to the right")
-            << Change([](auto& a) { a.SetBalance(1); }) << -150.0 << 0.0;
-        QTest::newRow("mono of equal channels")
-            << Change([](auto& a) { a.SetMixToMonoEnable(true); }) << 0.0 << 0.0;
+        });
     }
 
     void soundLevels()

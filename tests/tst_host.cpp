@@ -45,16 +45,6 @@ QByteArray readFile(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// A second of sound as a WAV file: a full square wave, then half a second of silence.
-QByteArray halfSilentSound()
-{
-    // Of 16000 bytes: one channel, 8000 Hz, 16 bits.
-    const char* format = "10000000 0100 0100 401f0000 803e0000 0200 1000";
-    return "RIFF" + QByteArray::fromHex("a43e0000") + "WAVEfmt " + QByteArray::fromHex(format) +
-           "data" + QByteArray::fromHex("803e0000") +
-           QByteArray::fromHex("007d0083").repeated(2000) + QByteArray(8000, 0);
-}
-
 } // namespace
 
 /// The demonstration host as its user meets it: arguments in, text and files out.
@@ -125,33 +115,10 @@ private slots:
             const QImage page(m_output + QString("/a-%1.png").arg(index + 2));
             QVERIFY(!page.isNull());
             const QColor shown = page.pixelColor(page.rect().center());
-            QVERIFY(qAbs(shown.red() - colors[index].red()) < 8 &&
-                    qAbs(shown.green() - colors[index].green()) < 8 &&
-                    qAbs(shown.blue() - colors[index].blue()) < 8);
+            QVERIFY(qAbs(shown.hue() - colors[index].hue()) < 8);
         }
         QVERIFY(!readFile(log).isEmpty());
         QCOMPARE(readFile(m_output + "/CommonLibDemo.log"), readFile(log));
-    }
-
-    void soundShowsItsWave()
-    {
-        QVERIFY(writeFile(path("half.wav"), halfSilentSound()));
-        const Run run = runHost({"--output", m_output, path("half.wav")});
-        QCOMPARE(run.code, 0);
-        QVERIFY2(run.text.contains("audio, pcm_s16le, 8000 Hz, 1 channel"), qPrintable(run.text));
-
-        const QImage page(m_output + "/half.png");
-        QVERIFY(!page.isNull());
-        const auto blueRows = [&page](int x) {
-            int rows = 0;
-            for (int y = 0; y < page.height(); ++y) {
-                const QColor color = page.pixelColor(x, y);
-                rows += color.blue() > 200 && color.red() < 120 ? 1 : 0;
-            }
-            return rows;
-        };
-        QVERIFY(blueRows(page.width() * 3 / 10) > page.height() / 3);
-        QVERIFY(blueRows(page.width() * 7 / 10) < 4);
     }
 
     void missingEngineIsTold()

@@ -243,18 +243,6 @@ private slots:
         QVERIFY(!QFile::exists(m_path));
     }
 
-    void keepsOneGlobalLog()
-    {
-        const QByteArray path = QFile::encodeName(m_path);
-        for (int i = 0; i < 2; ++i) {
-            BaseLog* log = GetGlobalLogInstance();
-            QCOMPARE(GetGlobalLogInstance(), log);
-            QCOMPARE(log->Init(path.constData(), false, 0), 0);
-            ReleseGlobalLogInstance();
-            ReleseGlobalLogInstance();
-        }
-    }
-
 #ifdef Q_OS_UNIX
     void refusesFifoAtOnce()
     {

@@ -524,12 +524,6 @@ private slots:
             QVERIFY(std::abs(peaks[i].max - level) < 0.01F &&
                     std::abs(peaks[i].min + level) < 0.01F);
         }
-        // More stretches than samples: each shows the sample it lies in.
-        const std::vector<WavePeak> dense = ReadWaveForm(*decoder, 60010, 5, 48000, 1, 20);
-        QCOMPARE(dense.size(), size_t(20));
-        QCOMPARE(dense[0].min, dense[0].max);
-        QCOMPARE(dense[3].max, dense[0].max);
-        QVERIFY(dense[4].max != dense[0].max);
         const std::atomic<bool> cancel{true};
         QVERIFY(ReadWaveForm(*decoder, 0, 96000, 48000, 2, 10, &cancel).empty());
         QVERIFY(ReadWaveForm(*decoder, 0, 0, 48000, 2, 10).empty());
