@@ -31,7 +31,8 @@ struct INLETimeline : IUnknown
     /// All frames that the node has.
     virtual HRESULT GetTotalRange(NLERange* range) = 0;
     /// Frames a second that ranges are counted in. A source keeps the instants of its in and out
-    /// point when the rate changes. A rate that is not above 0 gives E_INVALIDARG.
+    /// point when the rate changes. A rate that is not above 0, and another one than that of the
+    /// composite that holds the node, give E_INVALIDARG.
     virtual HRESULT SetRenderFrameRate(NLERational rate) = 0;
     virtual HRESULT GetRenderFrameRate(NLERational* rate) = 0;
     /// Stacking layer: higher levels cover lower ones.

@@ -26,6 +26,7 @@ namespace Freeze {
 /// Integer 1 when the clip holds one frame.
 inline constexpr const wchar_t* kFreeze_Enabled = L"kFreeze_Enabled";
 /// Integer: the frame that a frozen clip shows; its in point when there is none.
+/// It counts at normal speed.
 inline constexpr const wchar_t* kFreeze_Frame = L"kFreeze_Frame";
 } // namespace Freeze
 

@@ -157,7 +157,7 @@ struct NLEEncodeSettings
 {
     NLESize frameSize;
     NLERational frameRate;
-    NLERange range;            ///< frames of the timeline; an empty range means all of it
+    NLERange range;            ///< frames of the timeline; an empty one and {0, 0} mean all of it
     std::int32_t quality;      ///< constant rate factor, 1 (best) to 51
     std::int32_t sampleRate;   ///< audio samples a second
     std::int32_t channels;     ///< audio channels

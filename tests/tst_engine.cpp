@@ -104,6 +104,15 @@ private slots:
         inner->GetParent(parent.put());
         QVERIFY(!parent);
 
+        Node deepest = provider->CreateVirtualTimeline(0);
+        HRESULT added = S_OK;
+        for (int depth = 0; depth < 100 && added == S_OK; ++depth) {
+            const Node around = provider->CreateVirtualTimeline(0);
+            added = Add(around, deepest);
+            deepest = added == S_OK ? around : deepest;
+        }
+        QCOMPARE(added, E_INVALIDARG);
+
         // A clip outlives the composite that held it.
         Node holder = provider->CreateVirtualTimeline(0);
         QCOMPARE(Add(holder, inner), S_OK);
@@ -135,6 +144,7 @@ private slots:
         QCOMPARE(RangeOf(clip).in, 10);
         QCOMPARE(RangeOf(clip).out, 19);
         QCOMPARE(clip->SetRenderFrameRate({0, 1}), E_INVALIDARG);
+        QCOMPARE(clip->SetRenderFrameRate({50, 1}), E_INVALIDARG);
     }
 
     void hugeNumbers()
@@ -154,8 +164,8 @@ private slots:
                     if (end > 0)
                         QCOMPARE(Frame(project, 0).pixelColor(9, 9) == QColor(Qt::red), shows);
                     Sound(project, 0);
-                    clip->SetRenderFrameRate({1000, 1});
-                    clip->SetRenderFrameRate({1, 1000});
+                    project->SetRenderFrameRate({1000, 1});
+                    project->SetRenderFrameRate({1, 1000});
                     QVERIFY(Save(project, Path("huge.mlt")) && Load(Path("huge.mlt")));
                 }
             }
@@ -421,7 +431,7 @@ private slots:
         clip->SetMarginMode(NLEMargin_Fill);
         NLEComPtr<INLEProperties> bag;
         clip->GetProperties(bag.put());
-        bag->SetString(L"Key_TimelineGuid", L"a <&> \u00fc");
+        bag->SetString(L"Key_TimelineGuid", L"a <&> \u00fc 100% \r\x01");
         bag->SetDouble(L"d", 1.0 / 3);
         bag->SetRational(NLEKey::Speed::kScale, {50000000, 100000000});
         Add(project, clip, 10, 1);
@@ -446,10 +456,10 @@ private slots:
 
         QCOMPARE(ClipCount(loaded), 5);
         QCOMPARE(RangeOf(ClipAt(loaded, 0)).in, 7);
-        wchar_t guid[16] = L"";
+        wchar_t guid[32] = L"";
         ClipAt(loaded, 0)->GetProperties(bag.put());
-        bag->GetString(L"Key_TimelineGuid", guid, 16);
-        QCOMPARE(QString::fromWCharArray(guid), "a <&> \u00fc");
+        bag->GetString(L"Key_TimelineGuid", guid, 32);
+        QCOMPARE(QString::fromWCharArray(guid), "a <&> \u00fc 100% \r\x01");
         double third = 0;
         bag->GetDouble(L"d", &third);
         QCOMPARE(third, 1.0 / 3);
@@ -528,6 +538,20 @@ private slots:
         file.write(text);
         file.close();
         QVERIFY(!Load(file.fileName()));
+
+        // Each names the next one twice: refused before memory runs out.
+        QByteArray bomb = "<mlt producer='t0'>";
+        for (int i = 0; i < 60; ++i)
+            bomb +=
+                QString(
+                    "<tractor id='t%1'><track producer='t%2'/><track producer='t%2'/></tractor>")
+                    .arg(i)
+                    .arg(i + 1)
+                    .toUtf8();
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(bomb + "</mlt>");
+        file.close();
+        Load(file.fileName());
 
         // A playlist that contains itself ends as an empty one.
         QVERIFY(file.open(QIODevice::WriteOnly));

@@ -195,6 +195,13 @@ private slots:
         QCOMPARE(range.in, 20);
         QCOMPARE(range.out, 59);
 
+        const Node untrimmed = Media();
+        NLEComPtr<INLEProperties> other;
+        untrimmed->GetProperties(other.put());
+        other->SetInt(NLEKey::Freeze::kFreeze_Enabled, 1);
+        untrimmed->GetRange(&range);
+        QCOMPARE(range.out, 99);
+
         bag->SetInt(NLEKey::Freeze::kFreeze_Enabled, 1);
         QCOMPARE(ReadFrameNumber(Frame(project, 40)), 20);
         QCOMPARE(Loudness(Sound(project, 20)[0]), 0.0);

@@ -164,7 +164,7 @@ bool FAudioStreamProcessHelper::GetEqualizerEnable() const
                        &INLEAudioStreamProcess::GetEqualizerEnable);
 }
 
-void FAudioStreamProcessHelper::SetEqualizerName(const QString& name)
+void FAudioStreamProcessHelper::SetEqualizerName(QString name)
 {
     EngineSet(GetAudioStreamProcess().get(), &INLEAudioStreamProcess::SetEqualizerName,
               ToWide(name).c_str());

@@ -59,7 +59,7 @@ public:
 
     void SetEqualizerEnable(bool enable);
     bool GetEqualizerEnable() const;
-    void SetEqualizerName(const QString& name);
+    void SetEqualizerName(QString name);
     /// At most 128 characters.
     QString GetEqualizerName() const;
     /// \a params holds one value for each of the engine's bands.

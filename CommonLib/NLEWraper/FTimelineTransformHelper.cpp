@@ -72,7 +72,7 @@ QPointF FTimelineTransformHelper::GetCenterPos() const
     return QPointF(center.x, center.y);
 }
 
-void FTimelineTransformHelper::SetCenterPos(const QPointF& center)
+void FTimelineTransformHelper::SetCenterPos(QPointF center)
 {
     const NLEPointF value{center.x(), center.y()};
     EngineSet(Transform().get(), &INLETransform::SetCenter, &value);
@@ -84,7 +84,7 @@ QSizeF FTimelineTransformHelper::GetResizeScale() const
     return QSizeF(scale.width, scale.height);
 }
 
-void FTimelineTransformHelper::SetResizeScale(const QSizeF& scale)
+void FTimelineTransformHelper::SetResizeScale(QSizeF scale)
 {
     const NLESizeF value{scale.width(), scale.height()};
     EngineSet(Transform().get(), &INLETransform::SetScale, &value);
@@ -109,7 +109,7 @@ bool FTimelineTransformHelper::GetRenderROD(NLERectF& rect) const
     return true;
 }
 
-QPointF FTimelineTransformHelper::NormalizationPos2Pix(const QPointF& normalised) const
+QPointF FTimelineTransformHelper::NormalizationPos2Pix(QPointF normalised) const
 {
     NLERectF region{};
     if (!GetRenderROD(region))
@@ -139,7 +139,7 @@ float FTimelineTransformHelper::GetYpos() const
     return static_cast<float>((0.5 - GetCenterPos().y()) * static_cast<float>(region.height));
 }
 
-void FTimelineTransformHelper::SetXYpos(const QPointF& pixels)
+void FTimelineTransformHelper::SetXYpos(QPointF pixels)
 {
     NLERectF region{};
     if (GetRenderROD(region))

@@ -32,22 +32,22 @@ public:
     void SetTransformEnable(bool enable);
     /// Normalised centre.
     QPointF GetCenterPos() const;
-    void SetCenterPos(const QPointF& center);
+    void SetCenterPos(QPointF center);
     QSizeF GetResizeScale() const;
-    void SetResizeScale(const QSizeF& scale);
+    void SetResizeScale(QSizeF scale);
     double GetRotate() const;
     void SetRotate(double rotation);
 
     /// Fills \a rect with the parent's render region in pixels; false when it has none.
     bool GetRenderROD(NLERectF& rect) const;
     /// Pixel coordinates of a normalised position.
-    QPointF NormalizationPos2Pix(const QPointF& normalised) const;
+    QPointF NormalizationPos2Pix(QPointF normalised) const;
     /// Centre in pixels.
     QPointF GetXYpos() const;
     float GetXpos() const;
     float GetYpos() const;
     /// Moves the centre, given in pixels. A region without width (or height) gives 0.
-    void SetXYpos(const QPointF& pixels);
+    void SetXYpos(QPointF pixels);
     /// As SetXYpos(); keeps the other coordinate.
     void SetXpos(float x);
     void SetYpos(float y);

@@ -13,6 +13,18 @@ namespace {
 
 constexpr NLESize kDefaultSize = {1920, 1080};
 
+/// Composites that \a node holds one inside of the other, itself included.
+int DepthBelow(const TimelineNode& node)
+{
+    const auto* composite = dynamic_cast<const CompositeNode*>(&node);
+    int deepest = 0;
+    if (composite) {
+        for (const NLEComPtr<TimelineNode>& clip : composite->Clips())
+            deepest = std::max(deepest, DepthBelow(*clip));
+    }
+    return composite ? deepest + 1 : 0;
+}
+
 /// Walks a list of clips that it holds itself.
 class Enumerator final : public ComObject<INLETimelineEnumerator>
 {
@@ -61,7 +73,10 @@ void AppendRecursively(const CompositeNode& from, std::vector<NLEComPtr<Timeline
 
 } // namespace
 
-CompositeNode::CompositeNode(const NLERational& frameRate) : ComExtension(frameRate) {}
+CompositeNode::CompositeNode(const NLERational& frameRate)
+    : ComExtension(frameRate), m_size(kDefaultSize)
+{
+}
 
 CompositeNode::~CompositeNode()
 {
@@ -93,7 +108,8 @@ HRESULT CompositeNode::GetEnumerator(int recursive, int /*flags*/,
 HRESULT CompositeNode::AddClip(INLETimeline* clip)
 {
     TimelineNode* node = TimelineNode::From(clip);
-    if (!node || node->Parent() || IsSelfOrAncestor(node))
+    if (!node || node->Parent() || IsSelfOrAncestor(node) ||
+        DepthFromTop() + DepthBelow(*node) > kDeepestNesting)
         return E_INVALIDARG;
     node->ChangeRate(FrameRate());
     Adopt(node);
@@ -126,6 +142,14 @@ bool CompositeNode::IsSelfOrAncestor(const TimelineNode* node) const
     return false;
 }
 
+int CompositeNode::DepthFromTop() const
+{
+    int depth = 1;
+    for (const CompositeNode* holder = Parent(); holder; holder = holder->Parent())
+        ++depth;
+    return depth;
+}
+
 int CompositeNode::TotalLength() const
 {
     std::int64_t end = 0;
@@ -136,7 +160,7 @@ int CompositeNode::TotalLength() const
 
 NLESize CompositeNode::PictureSize() const
 {
-    return Parent() ? Parent()->PictureSize() : kDefaultSize;
+    return Parent() ? Parent()->PictureSize() : m_size;
 }
 
 void CompositeNode::ChangeRate(const NLERational& rate)
@@ -152,6 +176,7 @@ void CompositeNode::ChangeRate(const NLERational& rate)
 NLEComPtr<TimelineNode> CompositeNode::CopyContent(bool deep) const
 {
     NLEComPtr<CompositeNode> copy = MakeCom<CompositeNode>(FrameRate());
+    copy->SetOwnSize(PictureSize());
     if (deep)
         CopyClipsTo(*copy);
     return copy;

@@ -7,6 +7,9 @@
 
 namespace nle {
 
+/// Composites that may lie one inside of the other; everything that walks the tree recurses.
+constexpr int kDeepestNesting = 64;
+
 /// A node that holds clips. Without a size of its own it takes its parent's.
 class CompositeNode
     : public ComExtension<TimelineNode, INLETimelineComposite, INLETimelineCompositeEx>
@@ -22,6 +25,9 @@ public:
 
     int TotalLength() const override;
     NLESize PictureSize() const override;
+    /// The size that counts as long as there is no parent.
+    void SetOwnSize(NLESize size) { m_size = size; }
+    bool PlaysMaterial() const override { return false; }
     void ChangeRate(const NLERational& rate) override;
 
     const std::vector<NLEComPtr<TimelineNode>>& Clips() const { return m_clips; }
@@ -39,6 +45,10 @@ protected:
 
 private:
     bool IsSelfOrAncestor(const TimelineNode* node) const;
+    /// Composites above this one and itself.
+    int DepthFromTop() const;
+
+    NLESize m_size;
 
     std::vector<NLEComPtr<TimelineNode>> m_clips;
 };

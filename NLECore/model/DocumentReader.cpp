@@ -23,6 +23,9 @@ NLERational ParseFraction(const QString& text)
     return {parts[0].toLongLong(), parts[1].toLongLong()};
 }
 
+/// Nodes that one document may make.
+constexpr int kMostNodes = 200000;
+
 /// Two whole numbers with a blank between them; \a ok tells whether it was so.
 std::pair<int, int> ParsePair(const QString& text, bool* ok)
 {
@@ -139,7 +142,8 @@ void DocumentReader::ReadService(const QString& element)
         if (m_xml.name() == QLatin1String("multitrack")) {
             ++depth;
         } else if (m_xml.name() == QLatin1String("property")) {
-            service.properties.insert(text("name"), m_xml.readElementText());
+            service.properties.insert(DecodeText(text("name")),
+                                      DecodeText(m_xml.readElementText()));
         } else if (m_xml.name() == QLatin1String("blank")) {
             service.items.push_back(
                 {{}, std::max<std::int64_t>(0, Frames(text("length"), 0)), {}, {}});
@@ -160,6 +164,9 @@ NLEComPtr<TimelineNode> DocumentReader::Make(const QString& id)
 {
     const auto found = m_services.constFind(id);
     if (found == m_services.constEnd() || m_open.contains(id))
+        return nullptr;
+    // A short text can name more clips than there is memory, each service the next one twice.
+    if (m_open.size() >= kDeepestNesting || ++m_made > kMostNodes)
         return nullptr;
     // A service that contains itself would never end.
     m_open.insert(id);
@@ -210,18 +217,27 @@ NLEComPtr<TimelineNode> DocumentReader::MakeComposite(const Service& service)
     const bool isProject = service.properties.value(kKind, kProject) == kProject;
     const NLERational saved = ParseFraction(service.properties.value(kRate));
     const NLERational rate = IsRate(saved) ? saved : m_profile.frameRate;
+    bool hasSize = false;
+    const auto size = ParsePair(service.properties.value(kSize), &hasSize);
     NLEComPtr<CompositeNode> node;
-    if (isRoot && isProject) {
-        m_profile.frameRate = rate;
+    if (isProject && (isRoot || service.properties.contains(kKind))) {
+        tagNLEProjectProfile profile = m_profile;
+        profile.frameRate = rate;
+        if (hasSize)
+            profile.frameSize = {size.first, size.second};
         const QStringList audio = service.properties.value(kAudio).split(QLatin1Char(' '));
         if (audio.size() == 3) {
-            m_profile.sampleRate = audio[0].toInt();
-            m_profile.channels = audio[1].toInt();
-            m_profile.sampleFormat = audio[2].toInt();
+            profile.sampleRate = audio[0].toInt();
+            profile.channels = audio[1].toInt();
+            profile.sampleFormat = audio[2].toInt();
         }
-        node = MakeCom<ProjectNode>(m_profile);
+        node = MakeCom<ProjectNode>(ProjectNode::IsValid(profile) ? profile : m_profile);
+        if (isRoot)
+            m_profile.frameRate = rate;
     } else {
         node = MakeCom<CompositeNode>(rate);
+        if (hasSize)
+            node->SetOwnSize({size.first, size.second});
     }
     std::vector<Placed> clips;
     if (service.element == QLatin1String("playlist")) {
@@ -281,6 +297,8 @@ void DocumentReader::PlaceEntry(const Item& item, std::int64_t position, int lev
     // Where the entry still says what was saved with the clip, the clip's own values hold: they
     // know more than an entry can say. Else another editor has moved or trimmed it.
     const bool own = producer.properties.contains(kKind);
+    if (own && unplaced && !producer.properties.contains(kRange))
+        node->SetRange(&found.range);
     if (!own || (!unplaced && !(found == VisiblePart(node->Position(), node->Range())))) {
         node->SetRange(&found.range);
         node->SetPosition(ClampToInt(double(position)));
@@ -334,14 +352,14 @@ std::int64_t DocumentReader::Frames(const QString& text, std::int64_t preset) co
     if (!text.contains(QLatin1Char(':'))) {
         bool ok = false;
         const std::int64_t frames = text.toLongLong(&ok);
-        return ok ? frames : preset;
+        return ok ? std::clamp<std::int64_t>(frames, INT32_MIN, INT32_MAX) : preset;
     }
     // A clock value, hours:minutes:seconds.fraction.
     double seconds = 0;
     for (const QString& part : text.split(QLatin1Char(':')))
         seconds =
             seconds * 60 + QString(part).replace(QLatin1Char(','), QLatin1Char('.')).toDouble();
-    return std::llround(seconds * ToDouble(m_profile.frameRate));
+    return ClampToInt(std::round(seconds * ToDouble(m_profile.frameRate)));
 }
 
 } // namespace nle

@@ -80,6 +80,7 @@ private:
     QString m_root;
     QString m_lastService;
     QSet<QString> m_open;
+    int m_made = 0;
 };
 
 } // namespace nle

@@ -294,8 +294,8 @@ void DocumentWriter::EntryOf(const QString& producer, const NLERange& range)
 void DocumentWriter::Property(const QString& name, const QString& value)
 {
     m_xml.writeStartElement(QStringLiteral("property"));
-    m_xml.writeAttribute(QStringLiteral("name"), name);
-    m_xml.writeCharacters(value);
+    m_xml.writeAttribute(QStringLiteral("name"), EncodeText(name));
+    m_xml.writeCharacters(EncodeText(value));
     m_xml.writeEndElement();
 }
 

@@ -53,16 +53,22 @@ inline int ShownFrame(double frame, const NLERational& from, const NLERational& 
     return ClampToInt(std::floor(frame * ToDouble(to) / ToDouble(from) + 1e-4));
 }
 
-/// The same span of time at another rate; a span that is not empty keeps at least one frame.
-inline NLERange RescaleRange(const NLERange& range, const NLERational& from, const NLERational& to)
+/// \a range with both ends at \a factor times their place; what is not empty keeps at least one
+/// frame.
+inline NLERange ScaleRange(const NLERange& range, double factor)
 {
     const std::int64_t length = NLERangeLength(range);
     if (length == 0)
         return range;
-    const int in = RescaleFrame(range.in, from, to);
-    const double end =
-        std::round((double(range.in) + double(length)) * ToDouble(to) / ToDouble(from));
+    const int in = ClampToInt(std::round(range.in * factor));
+    const double end = std::round((double(range.in) + double(length)) * factor);
     return {in, std::max(in, ClampToInt(end - 1))};
+}
+
+/// The same span of time at another rate.
+inline NLERange RescaleRange(const NLERange& range, const NLERational& from, const NLERational& to)
+{
+    return ScaleRange(range, ToDouble(to) / ToDouble(from));
 }
 
 } // namespace nle

@@ -114,20 +114,55 @@ void ReadSource(const QHash<QString, QString>& properties, const QDir& folder, V
         video.SetAlphaChannel(&alpha);
     }
     const QString proxy = properties.value(kProxy);
-    // A proxy that is gone is only a proxy: the clip plays its own media.
-    if (!proxy.isEmpty())
-        video.SetProxyFile(QDir::cleanPath(folder.absoluteFilePath(proxy)).toStdWString().c_str());
+    // A proxy that is gone is only a proxy: the clip plays its own media until it comes back.
+    const QString path = QDir::cleanPath(folder.absoluteFilePath(proxy));
+    if (!proxy.isEmpty() && FAILED(video.SetProxyFile(path.toStdWString().c_str())))
+        video.settings.proxy = OfflineMedia(path);
     video.SetProxyEnabled(properties.value(kProxyEnabled).toInt() != 0);
     video.SetPremultipliedAlphaType(properties.value(kPremultiplied).toInt());
 }
 
 } // namespace
 
+QString EncodeText(const QString& text)
+{
+    QString result;
+    for (const QChar character : text) {
+        const ushort code = character.unicode();
+        // Line feed and tab survive; a carriage return would come back as a line feed.
+        const bool isPlain = code >= 0x20 || code == '\n' || code == '\t';
+        if (isPlain && code != '%' && code < 0xFFFE)
+            result += character;
+        else if (code >= 0xFFFE)
+            result += QChar(QChar::ReplacementCharacter);
+        else
+            result += QStringLiteral("%%1").arg(code, 2, 16, QLatin1Char('0'));
+    }
+    return result;
+}
+
+QString DecodeText(const QString& text)
+{
+    QString result;
+    for (int i = 0; i < text.size(); ++i) {
+        bool ok = false;
+        const ushort code =
+            text.at(i) == QLatin1Char('%') ? text.mid(i + 1, 2).toUShort(&ok, 16) : 0;
+        const bool isOurs = ok && (code < 0x20 || code == '%');
+        result += isOurs ? QChar(code) : text.at(i);
+        i += isOurs ? 2 : 0;
+    }
+    return result;
+}
+
 QString DocumentPath(const QString& path, const QDir& folder)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     const QString relative = folder.relativeFilePath(absolute);
-    return relative.startsWith(QLatin1String("..")) ? absolute : relative;
+    if (relative == QLatin1String("..") || relative.startsWith(QLatin1String("../")))
+        return absolute;
+    // A name that begins with a colon would be taken for one of the toolkit's resources.
+    return relative.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + relative : relative;
 }
 
 std::vector<std::pair<QString, QString>> SettingsToText(const TimelineNode& node,

@@ -20,6 +20,12 @@ std::vector<std::pair<QString, QString>> SettingsToText(const TimelineNode& node
 void SettingsFromText(const QHash<QString, QString>& properties, const QDir& folder,
                       TimelineNode& node);
 
+/// \a text with the characters that XML cannot carry, and the mark itself, as "%" and two
+/// hexadecimal digits.
+QString EncodeText(const QString& text);
+/// What EncodeText was given; other uses of "%" stay as they are.
+QString DecodeText(const QString& text);
+
 /// \a path relative to \a folder when it lies below it, else absolute.
 QString DocumentPath(const QString& path, const QDir& folder);
 

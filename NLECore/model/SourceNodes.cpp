@@ -114,6 +114,8 @@ HRESULT MediaClip::Reload()
 
 void MediaClip::Take(std::shared_ptr<const MediaInfo> media)
 {
+    // The range stays, whatever the new media's length.
+    PinRange();
     Decoders().Drop(m_media->path);
     m_media = std::move(media);
 }
@@ -122,8 +124,9 @@ int MediaClip::TotalLength() const
 {
     if (IsStill(*m_media) || IsFrozen())
         return LongestStill(FrameRate());
-    return ClampToInt(
+    const int length = ClampToInt(
         std::round(RescaleFrame(m_media->frameCount, RateOf(*m_media), FrameRate()) / Speed()));
+    return m_media->frameCount > 0 ? std::max(1, length) : 0;
 }
 
 NLESize MediaClip::PictureSize() const
@@ -143,7 +146,8 @@ void MediaClip::Describe(Layer& layer) const
 {
     layer.kind = LayerKind::Media;
     layer.media = m_media;
-    if (Video().settings.proxyEnabled)
+    const std::shared_ptr<const MediaInfo>& proxy = Video().settings.proxy;
+    if (Video().settings.proxyEnabled && proxy && proxy->videoStream >= 0)
         layer.proxy = Video().settings.proxy;
 }
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <utility>
 
 namespace nle {
 
@@ -37,6 +38,9 @@ HRESULT NodeBag::Write(const std::wstring& key, Value value)
         const NLERational* rate = std::get_if<NLERational>(&value);
         return rate ? m_node->SetRenderFrameRate(*rate) : E_INVALIDARG;
     }
+    // A frozen clip has no length of its own: it goes on playing for as long as it did.
+    if (m_node && key == NLEKey::Freeze::kFreeze_Enabled)
+        m_node->PinRange();
     if (m_node && (key == NLEKey::Speed::kScale || key == NLEKey::Speed::kEnabled)) {
         m_node->ChangeSpeed([&] { PropertyBag::Write(key, std::move(value)); });
         return S_OK;
@@ -133,7 +137,8 @@ HRESULT TimelineNode::GetTotalRange(NLERange* range)
 
 HRESULT TimelineNode::SetRenderFrameRate(NLERational rate)
 {
-    if (!IsRate(rate))
+    // A clip counts as its composite does.
+    if (!IsRate(rate) || (m_parent && ToDouble(rate) != ToDouble(m_parent->FrameRate())))
         return E_INVALIDARG;
     ChangeRate(rate);
     return S_OK;
@@ -234,11 +239,25 @@ NLERange TimelineNode::Range() const
     return m_hasRange ? m_range : NLERange{0, TotalLength() - 1};
 }
 
+void TimelineNode::PinRange()
+{
+    m_range = Range();
+    m_hasRange = true;
+}
+
 void TimelineNode::ChangeRate(const NLERational& rate)
 {
+    const NLERational old = std::exchange(m_frameRate, rate);
+    if (ToDouble(old) == ToDouble(rate))
+        return;
     if (m_hasRange)
-        m_range = RescaleRange(m_range, m_frameRate, rate);
-    m_frameRate = rate;
+        m_range = RescaleRange(m_range, old, rate);
+    AudioSettings& sound = m_audio.settings;
+    sound.fadeInFrames = RescaleFrame(sound.fadeInFrames, old, rate);
+    sound.fadeOutFrames = RescaleFrame(sound.fadeOutFrames, old, rate);
+    int frozen = 0;
+    if (m_bag->GetInt(NLEKey::Freeze::kFreeze_Frame, &frozen) == S_OK)
+        m_bag->SetInt(NLEKey::Freeze::kFreeze_Frame, RescaleFrame(frozen, old, rate));
 }
 
 double TimelineNode::Speed() const
@@ -246,7 +265,7 @@ double TimelineNode::Speed() const
     constexpr double slowest = 0.01;
     constexpr double fastest = 100;
     NLERational scale = {1, 1};
-    if (m_bag->IntOr(NLEKey::Speed::kEnabled, 0) != 1 ||
+    if (!PlaysMaterial() || m_bag->IntOr(NLEKey::Speed::kEnabled, 0) != 1 ||
         FAILED(m_bag->GetRational(NLEKey::Speed::kScale, &scale)) || !IsRate(scale))
         return 1;
     return std::clamp(ToDouble(scale), slowest, fastest);
@@ -254,7 +273,7 @@ double TimelineNode::Speed() const
 
 bool TimelineNode::IsFrozen() const
 {
-    return m_bag->IntOr(NLEKey::Freeze::kFreeze_Enabled, 0) == 1;
+    return PlaysMaterial() && m_bag->IntOr(NLEKey::Freeze::kFreeze_Enabled, 0) == 1;
 }
 
 template <typename Change>
@@ -265,7 +284,6 @@ void TimelineNode::ChangeSpeed(Change change)
     const double after = Speed();
     if (!m_hasRange || before == after)
         return;
-    // A rate that counts the same time in more frames is what a lower speed is to the trim range.
     m_range =
         RescaleRange(m_range, RateFromDouble(before), RateFromDouble(before * before / after));
 }
@@ -282,7 +300,8 @@ Snapshot TimelineNode::MakeSnapshot() const
     layer->size = PictureSize();
     layer->speed = Speed();
     if (IsFrozen())
-        layer->frozenFrame = m_bag->IntOr(NLEKey::Freeze::kFreeze_Frame, layer->range.in);
+        layer->frozenFrame =
+            m_bag->IntOr(NLEKey::Freeze::kFreeze_Frame, ClampToInt(layer->range.in * layer->speed));
     layer->blend = m_blend.settings;
     layer->transform = m_transform.settings;
     layer->audio = m_audio.settings;

@@ -79,6 +79,8 @@ public:
     /// The trim range; all frames as long as none was set.
     NLERange Range() const;
     bool HasOwnRange() const { return m_hasRange; }
+    /// Makes the range that plays now the node's own, whatever becomes of its length.
+    void PinRange();
     const NLERational& FrameRate() const { return m_frameRate; }
     int Position() const { return m_position; }
     int Level() const { return m_level; }
@@ -88,6 +90,8 @@ public:
     /// Playing speed, above 0; 1 when none is set or enabled.
     double Speed() const;
     bool IsFrozen() const;
+    /// Whether speed and freeze apply: to what plays material, not to what holds clips.
+    virtual bool PlaysMaterial() const { return true; }
     /// Changes what the speed depends on and keeps the material that the trim range shows.
     template <typename Change>
     void ChangeSpeed(Change change);

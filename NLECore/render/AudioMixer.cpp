@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 namespace nle {
 
@@ -63,6 +64,7 @@ AudioMixer::AudioMixer(Snapshot root, int sampleRate, int channels)
 void AudioMixer::Mix(std::int64_t first, int count, float* samples)
 {
     Render(*m_root, first, count, samples);
+    DropIdleVoices();
 }
 
 std::int64_t AudioMixer::SampleOfFrame(std::int64_t frame) const
@@ -72,7 +74,10 @@ std::int64_t AudioMixer::SampleOfFrame(std::int64_t frame) const
 
 std::int64_t AudioMixer::SampleOfFrame(std::int64_t frame, const NLERational& rate) const
 {
-    return std::llround(double(frame) * m_sampleRate / ToDouble(rate));
+    // Far from overflow in what is computed of it.
+    constexpr double farthest = 1e15;
+    return std::llround(
+        std::clamp(double(frame) * m_sampleRate / ToDouble(rate), -farthest, farthest));
 }
 
 void AudioMixer::Render(const Layer& layer, std::int64_t first, int count, float* samples)
@@ -83,6 +88,7 @@ void AudioMixer::Render(const Layer& layer, std::int64_t first, int count, float
     const QByteArray effects = DescribeEffects(layer.audio);
     if (!effects.isEmpty()) {
         Voice& voice = m_voices[&layer];
+        voice.used = true;
         if (!voice.effects)
             voice.effects = std::make_unique<AudioFilter>(effects, m_sampleRate, m_channels);
         voice.effects->Read(first, count, content, samples);
@@ -130,10 +136,21 @@ void AudioMixer::AddChild(const Layer& parent, const Layer& child, std::int64_t 
         out[i] += float(block[i] * strip.volume);
 }
 
+void AudioMixer::DropIdleVoices()
+{
+    for (auto voice = m_voices.begin(); voice != m_voices.end();) {
+        if (std::exchange(voice->second.used, false))
+            ++voice;
+        else
+            voice = m_voices.erase(voice);
+    }
+}
+
 void AudioMixer::ReadMedia(const Layer& layer, Voice& voice, std::int64_t first, int count,
                            float* samples)
 {
-    if (!voice.decoder)
+    voice.used = true;
+    if (!std::exchange(voice.isOpened, true))
         voice.decoder = AudioDecoder::Open(layer.media, layer.media->audioStream, nullptr);
     // Material that plays faster is read as if the output had fewer samples a second.
     const int rate = std::max(1, int(std::lround(m_sampleRate / layer.speed)));

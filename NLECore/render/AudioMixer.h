@@ -12,7 +12,7 @@
 namespace nle {
 
 /// Mixes the sound of a snapshot. One object serves one thread; it keeps the decoders of the layers
-/// that it has met.
+/// that are sounding.
 class AudioMixer
 {
 public:
@@ -30,6 +30,8 @@ private:
     {
         std::unique_ptr<AudioDecoder> decoder;
         std::unique_ptr<AudioFilter> effects;
+        bool isOpened = false; ///< also after a failure, which is not tried again
+        bool used = false;
     };
 
     /// The layer's own samples with its settings, from its frame 0 on.
@@ -37,6 +39,7 @@ private:
     void RenderContent(const Layer& layer, std::int64_t first, int count, float* samples);
     void AddChild(const Layer& parent, const Layer& child, std::int64_t first, int count,
                   float* samples);
+    void DropIdleVoices();
     void ReadMedia(const Layer& layer, Voice& voice, std::int64_t first, int count, float* samples);
     void ApplyGains(const Layer& layer, std::int64_t first, int count, float* samples) const;
     void ApplyBalance(double balance, int count, float* samples) const;

@@ -164,7 +164,10 @@ QRect PlacePicture(NLESize size, tagNLEMarginMode margin, NLESize parentSize, co
                         double(size.height) * canvas.height() / parentSize.height);
         break;
     }
-    const QSize whole(std::max(1, qRound(placed.width())), std::max(1, qRound(placed.height())));
+    const auto side = [](double length) {
+        return std::max(1, qRound(std::min(length, kFarthestPixel)));
+    };
+    const QSize whole(side(placed.width()), side(placed.height()));
     return QRect(
         QPoint((canvas.width() - whole.width()) / 2, (canvas.height() - whole.height()) / 2),
         whole);

@@ -14,6 +14,9 @@ namespace nle {
 
 namespace {
 
+/// Frames a second below which nothing is written: a frame's sound must fit into memory.
+constexpr double kLowestRate = 0.1;
+
 int OrDefault(int value, int preset)
 {
     return value > 0 ? value : preset;
@@ -59,16 +62,22 @@ HRESULT MediaEncoder::Open(INLETimeline* timeline, const wchar_t* path,
     // A clip is encoded as it is trimmed, a composite as long as it has clips.
     const NLERange whole =
         m_root->kind == LayerKind::Composite ? NLERange{0, node->TotalLength() - 1} : m_root->range;
-    m_range = NLERangeLength(wanted.range) > 1 ? wanted.range : whole;
+    const bool wantsAll = wanted.range.in == 0 && wanted.range.out == 0;
+    m_range = NLERangeLength(wanted.range) > 0 && !wantsAll ? wanted.range : whole;
     const bool hasSize = wanted.frameSize.width > 1 && wanted.frameSize.height > 1;
     m_settings.size = EvenSize(hasSize ? wanted.frameSize : m_root->size);
-    m_settings.frameRate = {node->FrameRate().num, node->FrameRate().den};
+    m_frameRate = IsRate(wanted.frameRate) ? wanted.frameRate : node->FrameRate();
+    m_settings.frameRate = {m_frameRate.num, m_frameRate.den};
     m_settings.quality = OrDefault(wanted.quality, 20);
-    m_settings.sampleRate = OrDefault(wanted.sampleRate, kDefaultProfile.sampleRate);
-    m_settings.channels = OrDefault(wanted.channels, kDefaultProfile.channels);
+    const auto* project = dynamic_cast<const ProjectNode*>(node);
+    const tagNLEProjectProfile& profile = project ? project->Profile() : kDefaultProfile;
+    m_settings.sampleRate = OrDefault(wanted.sampleRate, profile.sampleRate);
+    m_settings.channels = OrDefault(wanted.channels, profile.channels);
     m_settings.audioBitRate = OrDefault(wanted.audioBitRate, 192000);
     m_settings.hasSound = HasSound(*m_root);
-    return NLERangeLength(m_range) > 0 ? S_OK : E_INVALIDARG;
+    const bool isCountable =
+        ToDouble(m_frameRate) >= kLowestRate && ToDouble(node->FrameRate()) > 0;
+    return NLERangeLength(m_range) > 0 && isCountable ? S_OK : E_INVALIDARG;
 }
 
 HRESULT MediaEncoder::Encode(NLEProgressCallback callback, void* userData)
@@ -80,20 +89,27 @@ HRESULT MediaEncoder::Encode(NLEProgressCallback callback, void* userData)
     Composer composer(m_root);
     AudioMixer mixer(m_root, m_settings.sampleRate, m_settings.channels);
     std::vector<float> sound;
-    const std::int64_t length = NLERangeLength(m_range);
+    const NLERational& ownRate = m_root->frameRate;
+    const auto length =
+        std::llround(double(NLERangeLength(m_range)) * ToDouble(m_frameRate) / ToDouble(ownRate));
+    const std::int64_t firstSample = mixer.SampleOfFrame(m_range.in);
+    const auto sampleOf = [&](std::int64_t frame) {
+        return firstSample +
+               std::llround(double(frame) * m_settings.sampleRate / ToDouble(m_frameRate));
+    };
     bool written = writer != nullptr;
     for (std::int64_t done = 0; written && done < length; ++done) {
         if (callback && callback(int(done * 100 / length), userData) != 0)
             return S_FALSE;
-        const std::int64_t frame = m_range.in + done;
         if (writer->HasPicture()) {
             QRect place;
+            const std::int64_t frame = m_range.in + ShownFrame(double(done), m_frameRate, ownRate);
             const QImage picture = composer.Render(frame, m_settings.size, &place);
             written = writer->WritePicture(OnFrame(picture, place, m_settings.size));
         }
         if (written && m_settings.hasSound) {
-            const std::int64_t first = mixer.SampleOfFrame(frame);
-            const int count = int(mixer.SampleOfFrame(frame + 1) - first);
+            const std::int64_t first = sampleOf(done);
+            const int count = int(sampleOf(done + 1) - first);
             sound.resize(size_t(count) * size_t(m_settings.channels));
             mixer.Mix(first, count, sound.data());
             written = writer->WriteSound(sound.data(), count);

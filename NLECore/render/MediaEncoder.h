@@ -20,6 +20,7 @@ private:
     Snapshot m_root;
     QString m_path;
     NLERange m_range = {0, -1};
+    NLERational m_frameRate = {25, 1};
     WriterSettings m_settings;
 };
 
