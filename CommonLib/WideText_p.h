@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cwchar>
 #include <string>
+#include <type_traits>
 
 /// The only conversions between QString and wide text in the system's own width (UTF-16 on Windows,
 /// UTF-32 elsewhere). Not part of the library's interface.
@@ -27,7 +28,7 @@ inline QString FromWide(const wchar_t* text)
     QString result(length, Qt::Uninitialized);
     QChar* const out = result.data();
     for (int i = 0; i < length; ++i) {
-        const auto code = static_cast<std::uint32_t>(text[i]);
+        const auto code = static_cast<std::make_unsigned_t<wchar_t>>(text[i]);
         if (code >= FirstSurrogate)
             return QString::fromWCharArray(text, length);
         out[i] = QChar(static_cast<ushort>(code));

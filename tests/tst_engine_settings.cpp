@@ -335,7 +335,7 @@ private slots:
         for (int frame = 30; frame < 35; ++frame) {
             QCOMPARE(extractor->ExtractAudio(frame, sound.get()), S_OK);
             for (int i = 0; i < kRate / 25; ++i)
-                pieces.push_back(data[2 * i]);
+                pieces.push_back(data[size_t(i) * 2]);
         }
         QCOMPARE(pieces, Sound(clip, 30, kRate / 5)[0]);
     }

@@ -157,7 +157,7 @@ QString DecodeText(const QString& text)
 
 QString DocumentPath(const QString& path, const QDir& folder)
 {
-    const QString absolute = QFileInfo(path).absoluteFilePath();
+    QString absolute = QFileInfo(path).absoluteFilePath();
     const QString relative = folder.relativeFilePath(absolute);
     if (relative == QLatin1String("..") || relative.startsWith(QLatin1String("../")))
         return absolute;
