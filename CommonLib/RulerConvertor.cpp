@@ -44,8 +44,14 @@ constexpr double kClosestSpacing = 30;
 struct StepFit
 {
     double zoomSum;
-    double pixelsPerStep;
-    double Zoom(qint64 step) const { return zoomSum - static_cast<double>(step) * pixelsPerStep; }
+    double width;
+    double frames;
+    // Multiplied before it is divided, so that a whole number comes out as one.
+    double Zoom(qint64 step) const
+    {
+        return zoomSum - static_cast<double>(step) * kAdjustedTicks * width / frames;
+    }
+    double PixelsPerStep() const { return kAdjustedTicks * width / frames; }
     bool IsDecided(qint64 step) const
     {
         const double zoom = Zoom(step);
@@ -58,7 +64,7 @@ qint64 FirstDecidedStep(const StepFit& fit, qint64 step)
 {
     // Small steps walk down to the next whole number before anything is decided: go there at once.
     const double zoom = fit.Zoom(step);
-    const double perStep = fit.pixelsPerStep;
+    const double perStep = fit.PixelsPerStep();
     if (perStep < 1 - kWasteThreshold && perStep >= 0 && !fit.IsDecided(step)) {
         const double steps = (zoom - std::floor(zoom)) / perStep;
         if (!(steps < kMostFramesPerTick))
@@ -204,16 +210,15 @@ int RulerConvertor::ZoomFromWidthAndTotaleFrames(int width, int frames)
 {
     if (frames == 0)
         return 0;
-    const double perFrame = static_cast<double>(width) / frames;
     for (std::size_t i = 0; i < m_segments.size(); ++i) {
         RulerSegment& segment = m_segments[i];
         const double zoomSum = segment.bigTickPixels + static_cast<double>(segment.zoomMin);
-        const double exact =
-            zoomSum - segment.smallTicksPerBigTick * perFrame * segment.framesPerSmallTick;
+        const double exact = zoomSum - static_cast<double>(segment.smallTicksPerBigTick) * width *
+                                           segment.framesPerSmallTick / frames;
         const int zoom = Truncated<int>(exact).value_or(-1);
         if (!(segment.zoomMin <= zoom && zoom <= segment.zoomMax))
             continue;
-        const StepFit fit{zoomSum, kAdjustedTicks * perFrame};
+        const StepFit fit{zoomSum, static_cast<double>(width), static_cast<double>(frames)};
         const qint64 step = FirstDecidedStep(fit, segment.framesPerSmallTick);
         if (step >= kMostFramesPerTick || fit.Zoom(step) < 0)
             return zoom;

@@ -153,6 +153,8 @@ void TimelineRuler::SetOffsetPosition(int pixels)
 void TimelineRuler::SetTotalFrames(int frames)
 {
     m_view->behaviour.totalFrames = frames;
+    // Where the range is limited, the play head stays within it.
+    m_view->SetCurrentFrame(CurrentFrames());
 }
 
 int TimelineRuler::TotaleFrames() const

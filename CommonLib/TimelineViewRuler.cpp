@@ -38,6 +38,8 @@ TimelineViewRuler::TimelineViewRuler(QWidget* parent) : QWidget(parent)
     setFixedHeight(kHeight);
     m_convertor.Rebuild(RulerConvertor::DefaultTable());
     m_convertor.SetMaxZoom(RulerConvertor::kDefaultMaxZoom);
+    // A parent that is disabled has told so before this class could hear it.
+    m_convertor.ForEach([this](RulerSegment& segment) { segment.enabled = isEnabled(); });
 }
 
 // State and painting ------------------------------------------------------------------------------
@@ -365,9 +367,10 @@ void TimelineViewRuler::EndDrag()
     const Drag ended = m_drag.Active();
     m_drag.End();
     m_scrollTimer.stop();
-    setMouseTracking(false);
-    if (ended == Drag::ZoomAndScroll)
+    if (ended == Drag::ZoomAndScroll) {
+        setMouseTracking(false);
         emit EndZoomChanged();
+    }
     if (ended != Drag::PlayHead)
         return;
     if (behaviour.releaseEmitsFrames)

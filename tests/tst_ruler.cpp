@@ -121,12 +121,12 @@ int SlowZoomFromWidth(int width, int frames)
 {
     for (int i = 0; i < 6; ++i) {
         const Segment& segment = kSegments[i];
-        const double sum = segment.pixels + segment.from, perFrame = double(width) / frames;
-        const int zoom = int(sum - segment.bigFrames * perFrame);
+        const double sum = segment.pixels + segment.from;
+        const int zoom = int(sum - double(segment.bigFrames) * width / frames);
         if (zoom < segment.from || zoom > segment.to)
             continue;
         for (int step = segment.bigFrames / 5; step < 10000000; ++step) {
-            const double v = sum - step * (5 * perFrame);
+            const double v = sum - double(step) * 5 * width / frames;
             if (v < 0 || (v - std::floor(v) > 0.7 && i > 0 && kSegments[i - 1].to >= v))
                 return zoom;
             if (v - std::floor(v) > 0.7)
@@ -201,6 +201,11 @@ private slots:
             QCOMPARE(TimelineRuler().ZoomFromWidthAndTotaleFramesF(width, frames),
                      SlowZoomFromWidth(width, frames));
         }
+        // A whole quotient is one, and wastes nothing: the step stays.
+        ruler.SetZoom(0);
+        const float before = ruler.Frames2DurationF(5);
+        QCOMPARE(ruler.ZoomFromWidthAndTotaleFramesF(400, 48), 108);
+        QCOMPARE(ruler.Frames2DurationF(5), before);
         // Whole multiples of 30 pixels lie on the border of two segments.
         for (int frames = 1; frames < 2000; ++frames)
             QCOMPARE(ruler.FindZoom(frames, 6 * frames), 120.0F);

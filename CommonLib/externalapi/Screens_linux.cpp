@@ -21,8 +21,9 @@ QVector<ScreenResolution::ScreenInfo> ListScreens()
         info.physical =
             QRect(QPoint(), (QSizeF(logical.size()) * screen->devicePixelRatio()).toSize());
         info.logical = logical;
-        info.scale =
-            static_cast<float>(info.physical.width()) / static_cast<float>(logical.width());
+        // Not the quotient of the two sizes: both are rounded, and 1.25 would come out as a bit
+        // more.
+        info.scale = static_cast<float>(screen->devicePixelRatio());
         info.id = infos.size();
         infos.append(info);
     }
