@@ -19,7 +19,7 @@ double RunOnce(const QString& program)
     process.setStandardErrorFile(QProcess::nullDevice());
     QElapsedTimer timer;
     timer.start();
-    process.start(program, {});
+    process.start(program, QStringList());
     const bool ended = process.waitForFinished();
     const double time = double(timer.nsecsElapsed()) / 1e6;
     return ended && process.exitCode() == 0 ? time : -1.0;
