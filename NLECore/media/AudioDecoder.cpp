@@ -12,7 +12,6 @@ extern "C" {
 #include <libavutil/mathematics.h>
 #include <libavutil/opt.h>
 #include <libavutil/samplefmt.h>
-#include <libswresample/swresample.h>
 }
 
 namespace nle {
@@ -36,12 +35,6 @@ constexpr int MaxForwardSeconds = 2;
 
 // The resampler's filter reaches so many samples around each one, at the lower of the two rates.
 constexpr int FilterReach = 64;
-
-struct ResamplerDeleter
-{
-    void operator()(SwrContext* p) const { swr_free(&p); }
-};
-using ResamplerPtr = std::unique_ptr<SwrContext, ResamplerDeleter>;
 
 int64_t FloorDivide(int64_t a, int64_t b)
 {

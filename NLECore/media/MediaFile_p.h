@@ -14,6 +14,7 @@ extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
 #include <libavutil/frame.h>
+#include <libswresample/swresample.h>
 }
 
 namespace nle {
@@ -24,10 +25,12 @@ struct AvDeleter
     void operator()(AVCodecContext* p) const { avcodec_free_context(&p); }
     void operator()(AVFrame* p) const { av_frame_free(&p); }
     void operator()(AVPacket* p) const { av_packet_free(&p); }
+    void operator()(SwrContext* p) const { swr_free(&p); }
 };
 using CodecPtr = std::unique_ptr<AVCodecContext, AvDeleter>;
 using FramePtr = std::unique_ptr<AVFrame, AvDeleter>;
 using PacketPtr = std::unique_ptr<AVPacket, AvDeleter>;
+using ResamplerPtr = std::unique_ptr<SwrContext, AvDeleter>;
 
 /// Size in bytes and time of the last change, which together tell one content from another.
 struct FileStamp

@@ -10,7 +10,6 @@
 extern "C" {
 #include <libavutil/audio_fifo.h>
 #include <libavutil/opt.h>
-#include <libswresample/swresample.h>
 #include <libswscale/swscale.h>
 }
 
@@ -28,10 +27,6 @@ struct FormatFreer
         avio_closep(&format->pb);
         avformat_free_context(format);
     }
-};
-struct ResamplerFreer
-{
-    void operator()(SwrContext* resampler) const { swr_free(&resampler); }
 };
 struct FifoFreer
 {
@@ -63,7 +58,7 @@ struct MediaWriter::Private
     Track video;
     Track audio;
     std::unique_ptr<SwsContext, ScalerFreer> scaler;
-    std::unique_ptr<SwrContext, ResamplerFreer> resampler;
+    ResamplerPtr resampler;
     std::unique_ptr<AVAudioFifo, FifoFreer> fifo;
     bool finished = false;
 

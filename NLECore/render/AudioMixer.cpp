@@ -85,16 +85,18 @@ void AudioMixer::Render(const Layer& layer, std::int64_t first, int count, float
     const auto content = [&](std::int64_t start, int length, float* out) {
         RenderContent(layer, start, length, out);
     };
-    const QByteArray effects = DescribeEffects(layer.audio);
-    if (!effects.isEmpty()) {
-        Voice& voice = m_voices[&layer];
-        voice.used = true;
-        if (!voice.effects)
+    const auto [entry, isNew] = m_voices.try_emplace(&layer);
+    Voice& voice = entry->second;
+    voice.used = true;
+    if (isNew) {
+        const QByteArray effects = DescribeEffects(layer.audio);
+        if (!effects.isEmpty())
             voice.effects = std::make_unique<AudioFilter>(effects, m_sampleRate, m_channels);
-        voice.effects->Read(first, count, content, samples);
-    } else {
-        content(first, count, samples);
     }
+    if (voice.effects)
+        voice.effects->Read(first, count, content, samples);
+    else
+        content(first, count, samples);
     ApplyGains(layer, first, count, samples);
 }
 
@@ -149,7 +151,6 @@ void AudioMixer::DropIdleVoices()
 void AudioMixer::ReadMedia(const Layer& layer, Voice& voice, std::int64_t first, int count,
                            float* samples)
 {
-    voice.used = true;
     if (!std::exchange(voice.isOpened, true))
         voice.decoder = AudioDecoder::Open(layer.media, layer.media->audioStream, nullptr);
     // Material that plays faster is read as if the output had fewer samples a second.
