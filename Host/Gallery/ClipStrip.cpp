@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "Gallery/ClipStrip.h"
+#include "Host/Gallery/ClipStrip.h"
 
 #include "CommonLib/TimelineRuler.h"
 

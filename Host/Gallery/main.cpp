@@ -2,7 +2,7 @@
 // The library's widgets in a window, to try them and to take the pictures of the documents.
 #include "CommonLib/TimelineRuler.h"
 #include "CommonLib/externalapi/PixelRatio.h"
-#include "Gallery/RulerPage.h"
+#include "Host/Gallery/RulerPage.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "Gallery/RulerPage.h"
+#include "Host/Gallery/RulerPage.h"
 
 #include "CommonLib/TimelineRuler.h"
-#include "Gallery/ClipStrip.h"
+#include "Host/Gallery/ClipStrip.h"
 
 #include <QVBoxLayout>
 
