@@ -10,6 +10,7 @@
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/FAudioStreamProcessHelper.h"
 #include "CommonLib/NLEWraper/FMixerSettingDelegate.h"
+#include "CommonLib/NLEWraper/FPreViewRenderHelper.h"
 #include "CommonLib/NLEWraper/FTimelineBlendingHelper.h"
 #include "CommonLib/NLEWraper/FTimelineTransformHelper.h"
 #include "CommonLib/NLEWraper/FVideoStreamProcessHelper.h"

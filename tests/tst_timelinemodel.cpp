@@ -407,7 +407,8 @@ private Q_SLOTS:
         const auto all = [&timeline] {
             return QList<QObject*>{timeline.GetTransformHelper(), timeline.GetBlendingHelper(),
                                    timeline.GetAudioStreamProcessHelper(),
-                                   timeline.GetVideoStreamProcessHelper()};
+                                   timeline.GetVideoStreamProcessHelper(),
+                                   timeline.GetPreViewRenderHelper()};
         };
         const QList<QObject*> first = all();
         QCOMPARE(all(), first);
@@ -418,12 +419,12 @@ private Q_SLOTS:
             names.append(name);
             connect(helper, &QObject::destroyed, [&deleted, name] { deleted.append(name); });
         }
-        QCOMPARE(References(e->node.get()), 6u);
+        QCOMPARE(References(e->node.get()), 7u);
         timeline.SetTimelineBase(e->node);
         QCOMPARE(deleted, names); // in this order, which is not that of the fields
         QCOMPARE(References(e->node.get()), 2u);
         all();
-        QCOMPARE(timeline.children().size(), 4);
+        QCOMPARE(timeline.children().size(), 5);
     }
 
     void onlyZeroIsSuccess()

@@ -3,6 +3,7 @@
 
 #include "CommonLib/NLEWraper/EngineCall_p.h"
 #include "CommonLib/NLEWraper/FAudioStreamProcessHelper.h"
+#include "CommonLib/NLEWraper/FPreViewRenderHelper.h"
 #include "CommonLib/NLEWraper/FTimelineBlendingHelper.h"
 #include "CommonLib/NLEWraper/FTimelineTransformHelper.h"
 #include "CommonLib/NLEWraper/FVideoStreamProcessHelper.h"
@@ -99,6 +100,7 @@ void NLETimeline::SetTimelineBase(NLEComPtr<INLETimeline> timeline)
     Drop(m_blendingHelper);
     Drop(m_audioStreamHelper);
     Drop(m_videoStreamHelper);
+    Drop(m_previewHelper);
     m_properties = EngineObject<INLEProperties>(m_timeline.get(), &INLETimeline::GetProperties);
 }
 
@@ -425,4 +427,9 @@ FAudioStreamProcessHelper* NLETimeline::GetAudioStreamProcessHelper()
 FVideoStreamProcessHelper* NLETimeline::GetVideoStreamProcessHelper()
 {
     return MakeOnce(m_videoStreamHelper);
+}
+
+FPreViewRenderHelper* NLETimeline::GetPreViewRenderHelper()
+{
+    return MakeOnce(m_previewHelper);
 }

@@ -17,6 +17,7 @@
 #include <QString>
 
 class FAudioStreamProcessHelper;
+class FPreViewRenderHelper;
 class FTimelineBlendingHelper;
 class FTimelineTransformHelper;
 class FVideoStreamProcessHelper;
@@ -221,6 +222,7 @@ public:
     FTimelineTransformHelper* GetTransformHelper();
     FAudioStreamProcessHelper* GetAudioStreamProcessHelper();
     FVideoStreamProcessHelper* GetVideoStreamProcessHelper();
+    FPreViewRenderHelper* GetPreViewRenderHelper();
 
 Q_SIGNALS:
     /// The object is about to end; everything is still there.
@@ -257,6 +259,7 @@ private:
     FTimelineTransformHelper* m_transformHelper = nullptr;
     FAudioStreamProcessHelper* m_audioStreamHelper = nullptr;
     FVideoStreamProcessHelper* m_videoStreamHelper = nullptr;
+    FPreViewRenderHelper* m_previewHelper = nullptr;
     ExactType m_exactType;
     QString m_filePath; ///< as it was when the node was wrapped
 };

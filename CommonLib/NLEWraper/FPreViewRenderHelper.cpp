@@ -1,0 +1,497 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/NLEWraper/FPreViewRenderHelper.h"
+
+#include "CommonLib/BaseLog.h"
+#include "CommonLib/GlobalUtils.h"
+#include "CommonLib/NLEWraper/EngineCall_p.h"
+#include "CommonLib/NLEWraper/NLETimeline.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QThread>
+#include <QTimer>
+#include <QtConcurrent>
+
+#include <algorithm>
+
+namespace {
+
+constexpr char SourcePath[] = "CommonLib/NLEWraper/FPreViewRenderHelper";
+constexpr int UpdateDelay = 50;       // ms
+constexpr int AutoRenderSeconds = 60; // until a host sets its own
+constexpr int StopTimeOut = 30000;    // ms
+constexpr int EventSlice = 100;       // ms
+constexpr int MaxQuota = 100 * 1024;  // MiB
+constexpr int DiskReserve = 2 * 1024; // MiB
+constexpr float ProjectScale = 0.5f;
+
+#define LOG_INFO(function, ...)                                                                    \
+    GetGlobalLogInstance()->LogInfo(SourcePath, "FPreViewRenderHelper::" function, __LINE__,       \
+                                    __VA_ARGS__)
+
+/// As the log has it.
+const char* Answer(bool success)
+{
+    return success ? "ture" : "false";
+}
+
+/// The bytes of \a text's UTF-16 units, as a narrow text. A Latin first character is followed by a
+/// zero byte, so such a text has one character.
+const char* WideAsNarrow(const QString& text)
+{
+    return reinterpret_cast<const char*>(text.utf16());
+}
+
+bool FolderExists(const QString& folder)
+{
+    return QFileInfo(folder).isDir();
+}
+
+} // namespace
+
+QMutex FPreViewRenderHelper::s_asynUpdateUserDatasMutex;
+QList<void*> FPreViewRenderHelper::m_asynUpdateUserDatas;
+QList<void*> FPreViewRenderHelper::m_renderUserDatas;
+
+FPreViewRenderHelper::FPreViewRenderHelper(NLEComPtr<INLETimeline> timeline, QObject* parent)
+    : QObject(parent), m_timeline(std::move(timeline)), m_autoRenderSeconds(AutoRenderSeconds)
+{
+    if (const auto* owner = qobject_cast<NLETimeline*>(parent))
+        SetCacheSize(owner->GetProjectResolution(), ProjectScale);
+    m_autoRenderTimer = new QTimer(this);
+    connect(m_autoRenderTimer, &QTimer::timeout, this,
+            &FPreViewRenderHelper::SlotAutoRenderTimeOut);
+}
+
+FPreViewRenderHelper::~FPreViewRenderHelper()
+{
+    {
+        const QMutexLocker lock(&s_asynUpdateUserDatasMutex);
+        m_asynUpdateUserDatas.removeOne(this);
+    }
+    m_autoRenderEnable = false;
+    m_autoRenderSeconds = AutoRenderSeconds;
+    m_autoRenderTimer->stop();
+    if (IsCaching())
+        StopRenderSync();
+    else
+        LOG_INFO("~FPreViewRenderHelper", "FPreViewRenderHelper need not to stop");
+    if (m_autoDeleteCaching) {
+        if (FolderExists(m_cacheDir))
+            DelRenderCache(true);
+        LOG_INFO("~FPreViewRenderHelper", "dir:%s returnStr:%s esist:%d",
+                 qUtf8Printable(m_cacheDir), "", FolderExists(m_cacheDir) ? 1 : 0);
+    }
+    const QMutexLocker lock(&s_asynUpdateUserDatasMutex);
+    m_renderUserDatas.removeOne(this);
+}
+
+INLEBackgroundCache* FPreViewRenderHelper::EnsureCache()
+{
+    if (!m_backgroundCache)
+        m_backgroundCache = LookUp<INLEBackgroundCache>(m_timeline.get());
+    return m_backgroundCache.get();
+}
+
+template <typename Interface>
+Interface* FPreViewRenderHelper::EnsurePart(NLEComPtr<Interface>& part)
+{
+    if (!part && EnsureCache())
+        part = m_backgroundCache.query<Interface>();
+    return part.get();
+}
+
+bool FPreViewRenderHelper::IsState(RenderCacheState state) const
+{
+    const QMutexLocker lock(&m_stateMutex);
+    return m_state == state;
+}
+
+bool FPreViewRenderHelper::IsCaching() const
+{
+    return IsState(RenderCache_Caching);
+}
+
+bool FPreViewRenderHelper::IsLowDisk() const
+{
+    return IsState(RenderCache_LowDisk);
+}
+
+bool FPreViewRenderHelper::IsFolderFull() const
+{
+    return IsState(RenderCache_FolderFull);
+}
+
+bool FPreViewRenderHelper::IsFolderUnWriteable() const
+{
+    return IsState(RenderCache_FolderUnwriteable);
+}
+
+bool FPreViewRenderHelper::IsFinished() const
+{
+    return IsState(RenderCache_Finished);
+}
+
+bool FPreViewRenderHelper::IsNeedRender() const
+{
+    return !m_needRenderRanges.isEmpty();
+}
+
+bool FPreViewRenderHelper::IsFramNeedRender(int frame) const
+{
+    // The end counts, although it lies behind the range; hosts rely on it.
+    return std::any_of(
+        m_needRenderRanges.cbegin(), m_needRenderRanges.cend(),
+        [frame](const auto& range) { return range.first <= frame && frame <= range.second; });
+}
+
+QString FPreViewRenderHelper::GetCacheDirectory() const
+{
+    return m_cacheDir;
+}
+
+QString FPreViewRenderHelper::GetUserSetRenderPath(const QString& folder)
+{
+    return folder + QDir::separator() + QStringLiteral(".RenderCache");
+}
+
+bool FPreViewRenderHelper::CheckAnsyUpdateUserData(void* userData)
+{
+    const QMutexLocker lock(&s_asynUpdateUserDatasMutex);
+    return m_asynUpdateUserDatas.contains(userData);
+}
+
+void FPreViewRenderHelper::GetRenderProgress(QList<QPair<int, int>>& cached,
+                                             QList<QPair<int, int>>& needRender)
+{
+    INLEBackgroundCacheStat* stat = EnsurePart(m_cacheStat);
+    const long count = stat ? stat->GetCount() : 0;
+    long valid = 0;
+    int cachedTo = 0;
+    for (int index = 0; index < count; ++index) {
+        NLERange range{};
+        stat->GetStat(index, &range, &valid, &cachedTo);
+        if (valid < 1)
+            continue;
+        if (range.in != cachedTo)
+            cached.append({range.in, cachedTo});
+        if (cachedTo != range.out + 1)
+            needRender.append({cachedTo, range.out + 1});
+    }
+    m_needRenderRanges = needRender;
+    if (IsNeedRender() && IsFinished())
+        SetCachingState(RenderCache_Idle);
+}
+
+bool FPreViewRenderHelper::SetCacheDirectory(const QString& folder)
+{
+    bool success = false;
+    if (INLEBackgroundCache* cache = EnsureCache()) {
+        if (IsCaching())
+            StopRender();
+        const int freeSpace = static_cast<int>(gGetDiskFreeSpace(nullptr, folder));
+        const int quota = std::min(freeSpace / 2, MaxQuota);
+        // Only the folder's first character is logged, as intended.
+        LOG_INFO("SetCacheDirectory", "folderSize:%s forder:%s",
+                 qUtf8Printable(QString::number(quota)), WideAsNarrow(folder));
+        success = SUCCEEDED(cache->SetCacheFolder(ToWide(folder).c_str(), quota, DiskReserve));
+        SetCachingState(RenderCache_Idle);
+        delayedAsyncUpdate();
+        if (success)
+            m_cacheDir = folder;
+    }
+    LOG_INFO("SetCacheDirectory", "SetCacheDirectory:%s,dir:%s", Answer(success),
+             qUtf8Printable(m_cacheDir));
+    return success;
+}
+
+void FPreViewRenderHelper::SetCacheSize(QSize size, float ratio)
+{
+    // Compared with 0 this is true for exactly 0 only.
+    if (!qFuzzyCompare(ratio, 0.0f))
+        size = QSize(ToInteger<int>(static_cast<float>(size.width()) * ratio),
+                     ToInteger<int>(static_cast<float>(size.height()) * ratio));
+    const double width = size.width();
+    const double height = size.height();
+    const int maxWidth = m_maxCacheSize.width();
+    const int maxHeight = m_maxCacheSize.height();
+    if (width * height > maxWidth * maxHeight) {
+        if (width <= height)
+            size = QSize(ToInteger<int>(width * maxHeight / height), maxHeight);
+        else
+            size = QSize(maxWidth, ToInteger<int>(height * maxWidth / width));
+    }
+    m_cacheWidth = size.width();
+    m_cacheHeight = size.height();
+    doDelayedUpdate(UpdateDelay);
+    LOG_INFO("SetCacheSize", "cacth width:%d,cacth height:%d", m_cacheWidth, m_cacheHeight);
+}
+
+void FPreViewRenderHelper::SetTimelineQuality(double quality)
+{
+    StopRender();
+    if (INLEBackgroundCacheQualitySet* setting = EnsurePart(m_qualitySet))
+        setting->SetQuality(RateToRational(quality));
+    delayedAsyncUpdate();
+}
+
+bool FPreViewRenderHelper::EnsureCacheFolder() const
+{
+    return FolderExists(m_cacheDir) || (!m_cacheDir.isEmpty() && QDir().mkpath(m_cacheDir));
+}
+
+void FPreViewRenderHelper::StartRender()
+{
+    if (IsCaching() || IsFinished() || !EnsureCache())
+        return;
+    if (m_timeline && NLETimeline(m_timeline, ExactType_Unknown, nullptr).GetClipCount() < 1)
+        return;
+    if (!EnsureCacheFolder()) {
+        GetGlobalLogInstance()->LogError(
+            SourcePath, "FPreViewRenderHelper::StartRender", __LINE__,
+            "Preview Render CacheDir is not exist, CacheDir mkpath failed!");
+        SetCachingState(RenderCache_FolderUnwriteable);
+        return;
+    }
+
+    Register(m_renderUserDatas, this);
+    const NLESize resolution{m_cacheWidth, m_cacheHeight};
+    const HRESULT status = m_backgroundCache->Start(&resolution, &OnRender, this);
+    if (SUCCEEDED(status)) {
+        SetCachingState(RenderCache_Caching);
+    } else if (status == E_ACCESSDENIED || status == E_INVALIDARG) {
+        SetCachingState(RenderCache_FolderUnwriteable);
+    } else if (status == E_FAIL) {
+        // The engine has nothing to render.
+        SetCachingState(RenderCache_Finished);
+        doDelayedUpdate(UpdateDelay);
+    }
+}
+
+void FPreViewRenderHelper::StopRender()
+{
+    if (!IsCaching()) {
+        m_autoRenderTimer->setInterval(AutoRenderInterval());
+        return;
+    }
+    if (EnsureCache() && SUCCEEDED(m_backgroundCache->Stop())) {
+        LOG_INFO("StopRender", "StopRender succeed");
+        SetCachingState(RenderCache_Idle);
+    } else {
+        LOG_INFO("StopRender", "StopRender failed");
+    }
+    RestartAutoRender(!m_forceStopAutoStartRender);
+}
+
+void FPreViewRenderHelper::StopRenderSync()
+{
+    if (!IsCaching())
+        return;
+    StopRender();
+    LOG_INFO("StopRenderSync", "FPreViewRenderHelper StopRender exec start");
+    bool stopped = false;
+    // The engine's answer counts, not the state, which is idle by now.
+    connect(
+        this, &FPreViewRenderHelper::sigRenderStateChangeInternal, this,
+        [&stopped](long state) { stopped = stopped || state == RenderCache_StoppedByUser; },
+        static_cast<Qt::ConnectionType>(Qt::AutoConnection | Qt::UniqueConnection));
+    QElapsedTimer waited;
+    waited.start();
+    while (!stopped && waited.elapsed() < StopTimeOut) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, EventSlice);
+        // Without events the call returns at once; the rest keeps the processor free.
+        if (!stopped)
+            QThread::msleep(1);
+    }
+    LOG_INFO("StopRenderSync", stopped ? "StopRender StopByUser" : "StopRender timeOut");
+    disconnect(this, &FPreViewRenderHelper::sigRenderStateChangeInternal, this, nullptr);
+    LOG_INFO("StopRenderSync", "FPreViewRenderHelper StopRender exec end");
+}
+
+void FPreViewRenderHelper::DelRenderCache(bool flag)
+{
+    bool success = false;
+    if (INLEBackgroundCache* cache = EnsureCache()) {
+        if (IsCaching())
+            StopRender();
+        success = SUCCEEDED(cache->DeleteCache(flag));
+        SetCachingState(RenderCache_Idle);
+        Q_EMIT sigRenderCatchDeleted();
+    }
+    LOG_INFO("DelRenderCache", "DelRenderCache:%s", Answer(success));
+}
+
+int FPreViewRenderHelper::AutoRenderInterval() const
+{
+    constexpr double Millisecond = 1000;
+    return ToInteger<int>(std::max(m_autoRenderSeconds, 0) * Millisecond);
+}
+
+/// Stops the countdown, and starts it anew when auto-render is on and \a wanted.
+void FPreViewRenderHelper::RestartAutoRender(bool wanted)
+{
+    m_autoRenderTimer->stop();
+    if (m_autoRenderEnable && wanted)
+        m_autoRenderTimer->start(AutoRenderInterval());
+}
+
+void FPreViewRenderHelper::SetAutoRenderEnable(bool enable, int seconds)
+{
+    m_autoRenderEnable = enable;
+    m_autoRenderSeconds = seconds;
+    RestartAutoRender(!IsFinished());
+}
+
+void FPreViewRenderHelper::SetForceStopAutoStartRender(bool force)
+{
+    m_forceStopAutoStartRender = force;
+    if (!force)
+        return;
+    StopRender();
+    m_autoRenderEnable = false;
+    m_autoRenderSeconds = AutoRenderSeconds;
+    m_autoRenderTimer->stop();
+}
+
+void FPreViewRenderHelper::SetAutoDeleteCaching(bool autoDelete)
+{
+    m_autoDeleteCaching = autoDelete;
+}
+
+void FPreViewRenderHelper::SetRenderPriority(bool priority)
+{
+    m_renderPriority = priority;
+}
+
+void FPreViewRenderHelper::ClearUpdateCallBack(bool clear)
+{
+    const QMutexLocker lock(&m_updateMutex);
+    m_clearUpdateCallBack = clear;
+}
+
+void FPreViewRenderHelper::Update()
+{
+    doDelayedUpdate(UpdateDelay);
+}
+
+void FPreViewRenderHelper::UpdateSysc()
+{
+    if (!IsCaching() && EnsureCache())
+        m_backgroundCache->Update();
+    TrigerAutoRender();
+    m_delayedUpdatePending = false;
+}
+
+void FPreViewRenderHelper::doDelayedUpdate(int ms)
+{
+    if (m_delayedUpdatePending)
+        return;
+    m_delayedUpdatePending = true;
+    QTimer::singleShot(ms, this, &FPreViewRenderHelper::delayedAsyncUpdate);
+}
+
+void FPreViewRenderHelper::delayedAsyncUpdate()
+{
+    if (IsCaching()) {
+        TrigerAutoRender();
+    } else if (INLEBackgroundCacheAsyncUpdate* update = EnsurePart(m_asyncUpdate)) {
+        const QMutexLocker lock(&m_updateMutex);
+        if (m_clearUpdateCallBack) {
+            update->SetUpdateCallback(nullptr, nullptr);
+            LOG_INFO("delayedAsyncUpdate", "ClearUpdate......");
+        } else {
+            Register(m_asynUpdateUserDatas, this);
+            update->SetUpdateCallback(&OnUpdate, this);
+        }
+    }
+    m_delayedUpdatePending = false;
+}
+
+void FPreViewRenderHelper::delayedUpdate()
+{
+    m_delayedUpdatePending = false;
+    if (IsCaching()) {
+        TrigerAutoRender();
+        return;
+    }
+    EnsureCache();
+    Register(m_asynUpdateUserDatas, this);
+    // The task holds what it needs: the helper may be gone when it ends.
+    QtConcurrent::run([cache = m_backgroundCache, helper = static_cast<void*>(this)] {
+        if (cache)
+            cache->Update();
+        OnUpdate(nullptr, 0, 0, 0, 0, helper);
+        LOG_INFO("delayedUpdate", "delayedUpdate Finished");
+    });
+}
+
+void FPreViewRenderHelper::TrigerAutoRender()
+{
+    SetProgressInfo();
+    RestartAutoRender(!IsFinished());
+}
+
+void FPreViewRenderHelper::SlotAutoRenderTimeOut()
+{
+    if (m_autoRenderEnable && !m_forceStopAutoStartRender)
+        StartRender();
+}
+
+void FPreViewRenderHelper::SetCachingState(long state)
+{
+    QMutexLocker lock(&m_stateMutex);
+    if (m_state == state)
+        return;
+    m_state = state;
+    lock.unlock();
+    Q_EMIT sigRenderStateChange(state);
+    Q_EMIT sigRenderStateChangeInternal(state);
+}
+
+void FPreViewRenderHelper::SetProgressInfo(long progress, long cachedframes, long totalframes)
+{
+    m_progress = progress;
+    m_cachedFrames = cachedframes;
+    m_totalFrames = totalframes;
+    SetProgressInfo();
+}
+
+void FPreViewRenderHelper::SetProgressInfo()
+{
+    if (!m_forceStopAutoStartRender)
+        Q_EMIT sigRenderProgressInfo(m_progress, m_cachedFrames, m_totalFrames);
+}
+
+void FPreViewRenderHelper::Register(QList<void*>& helpers, void* helper)
+{
+    const QMutexLocker lock(&s_asynUpdateUserDatasMutex);
+    if (!helpers.contains(helper))
+        helpers.append(helper);
+}
+
+// Called on the engine's threads. The lock keeps the helper alive until the call is queued.
+int FPreViewRenderHelper::OnRender(int progress, long state, long cachedFrames, long totalFrames,
+                                   void* userData)
+{
+    constexpr int Complete = 100;
+    const QMutexLocker lock(&s_asynUpdateUserDatasMutex);
+    if (!m_renderUserDatas.contains(userData))
+        return 0;
+    auto* helper = static_cast<FPreViewRenderHelper*>(userData);
+    QMetaObject::invokeMethod(
+        helper, "SetCachingState", Qt::QueuedConnection,
+        Q_ARG(long, progress < Complete ? state : static_cast<long>(RenderCache_Finished)));
+    return QMetaObject::invokeMethod(helper, "SetProgressInfo", Qt::QueuedConnection,
+                                     Q_ARG(long, progress), Q_ARG(long, cachedFrames),
+                                     Q_ARG(long, totalFrames));
+}
+
+int FPreViewRenderHelper::OnUpdate(void*, long, long, long, long, void* userData)
+{
+    const QMutexLocker lock(&s_asynUpdateUserDatasMutex);
+    return m_asynUpdateUserDatas.contains(userData) &&
+           QMetaObject::invokeMethod(static_cast<FPreViewRenderHelper*>(userData),
+                                     "TrigerAutoRender", Qt::QueuedConnection);
+}

@@ -1,0 +1,476 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/CommonLib.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/ScriptedComposite.h"
+#include "tests/support/ScriptedSession.h"
+
+#include <QtTest>
+
+#include <atomic>
+#include <functional>
+#include <thread>
+
+using namespace Scripted;
+using Helper = FPreViewRenderHelper;
+using Ranges = QList<QPair<int, int>>;
+
+namespace {
+
+/// A preview cache whose callbacks the test calls.
+struct Cache : Object<INLEBackgroundCache, INLEBackgroundCacheStat, INLEBackgroundCacheAsyncUpdate,
+                      INLEBackgroundCacheQualitySet>
+{
+    using Object::Object;
+
+    struct Segment
+    {
+        NLERange range;
+        long valid;
+        int cachedTo;
+    };
+    QVector<Segment> segments;
+    NLERenderCallback render = nullptr;
+    NLEUpdateCallback update = nullptr;
+    void* userData = nullptr;
+    std::function<void()> onStop = [] {};
+
+    HRESULT SetCacheFolder(const wchar_t* folder, std::int64_t quota, int reserve) override
+    {
+        return Call("SetCacheFolder", folder, int(quota), reserve);
+    }
+    HRESULT Start(const NLESize* resolution, NLERenderCallback callback, void* data) override
+    {
+        render = callback;
+        userData = data;
+        return Call("Start", *resolution);
+    }
+    HRESULT Stop() override
+    {
+        onStop();
+        return Call("Stop");
+    }
+    HRESULT DeleteCache(bool all) override { return Call("DeleteCache", all); }
+    HRESULT Update() override { return Call("Update"); }
+    long GetCount() override { return segments.size(); }
+    HRESULT GetStat(int index, NLERange* range, long* valid, int* cachedTo) override
+    {
+        const HRESULT status = Call("GetStat", index, *range);
+        if (SUCCEEDED(status))
+            std::tie(*range, *valid, *cachedTo) =
+                std::tie(segments[index].range, segments[index].valid, segments[index].cachedTo);
+        return status;
+    }
+    HRESULT SetUpdateCallback(NLEUpdateCallback callback, void* data) override
+    {
+        update = callback;
+        userData = data;
+        return Call("SetUpdateCallback", bool(callback));
+    }
+    HRESULT SetQuality(NLERational quality) override { return Call("SetQuality", quality); }
+
+    /// What the render thread does.
+    void Report(int progress, long state, long cached = 1, long total = 8)
+    {
+        std::thread([=] { render(progress, state, cached, total, userData); }).join();
+    }
+};
+
+/// Calls each update callback back from a thread of its own, after a while or at once.
+struct BusyCache : Cache
+{
+    BusyCache() : Cache("busy") {}
+    ~BusyCache() override
+    {
+        for (std::thread& thread : m_threads)
+            thread.join();
+    }
+
+    HRESULT SetUpdateCallback(NLEUpdateCallback callback, void* data) override
+    {
+        m_threads.emplace_back([this, callback, data] {
+            for (int call = 0; call < 20; ++call)
+                answered += callback(nullptr, 0, 0, 0, 0, data);
+        });
+        return S_OK;
+    }
+
+    std::atomic<int> answered{0};
+
+private:
+    std::vector<std::thread> m_threads;
+};
+
+} // namespace
+
+class tst_Preview : public QObject
+{
+    Q_OBJECT
+
+private:
+    Script& script = Script::Get();
+    NLEComPtr<Node> node;
+    NLEComPtr<Composite> composite;
+    NLEComPtr<Cache> cache;
+    std::unique_ptr<NLETimeline> timeline;
+    std::unique_ptr<QTemporaryDir> folder;
+    std::unique_ptr<LogCapture> log;
+
+    Helper* Make()
+    {
+        timeline = std::make_unique<NLETimeline>(node, ExactType_Project, nullptr);
+        return timeline->GetPreViewRenderHelper();
+    }
+    /// A helper that renders into the folder.
+    Helper* MakeCaching()
+    {
+        Helper* helper = Make();
+        helper->SetCacheDirectory(folder->path());
+        helper->StartRender();
+        return helper;
+    }
+    static QTimer* Countdown(Helper* helper) { return helper->findChild<QTimer*>(); }
+    QStringList Calls(const char* operation)
+    {
+        return script.TakeCalls().filter(QString("cache.%1(").arg(operation));
+    }
+    /// The messages since the last time.
+    QStringList Log()
+    {
+        QStringList lines = log->Take();
+        log.reset(); // which ends the log of the process
+        log = std::make_unique<LogCapture>();
+        static const QRegularExpression message(QStringLiteral("^.*\\]:  (.*) - \\[.*$"));
+        return lines.replaceInStrings(message, QStringLiteral("\\1"));
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        folder = std::make_unique<QTemporaryDir>();
+        log = std::make_unique<LogCapture>();
+        node = MakeCom<Node>("node");
+        composite = MakeCom<Composite>("composite");
+        composite->clips = {node};
+        cache = MakeCom<Cache>("cache");
+        cache->onStop = [this] { cache->Report(9, RenderCache_StoppedByUser); };
+        auto setting = MakeCom<ProjectSetting>("setting");
+        setting->profile.frameSize = {1081, 1921};
+        node->Offer<INLETimelineComposite>(composite);
+        node->Offer<INLEProjectSetting>(setting);
+        node->Offer<INLEBackgroundCache>(cache);
+    }
+
+    void cleanup()
+    {
+        timeline.reset();
+        log.reset();
+        composite->clips.clear();
+        composite.reset();
+        node.reset();
+        cache.reset();
+        QCOMPARE(EndSession(), QStringList());
+    }
+
+    void sizes_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<float>("ratio");
+        QTest::addColumn<QString>("cached");
+        const auto row = [](QSize size, float ratio, const char* cached) {
+            QTest::addRow("%dx%d by %g", size.width(), size.height(), double(ratio))
+                << size << ratio << cached;
+        };
+        row({1920, 1080}, 0.5f, "960x540");
+        row({1920, 1080}, 1, "960x540");
+        row({1080, 1920}, 1, "303x540");
+        row({1000, 1000}, 1, "540x540");
+        row({961, 540}, 0, "960x539");
+        row({517, 333}, 0, "517x333");
+        row({517, 333}, 0.5f, "258x166");
+        row({20, 25920}, 1, "20x25920");
+        row({100000, 100000}, 1, "540x540");
+        row({640, 480}, float(qQNaN()), "0x0");
+    }
+
+    void sizes()
+    {
+        QFETCH(QSize, size);
+        QFETCH(float, ratio);
+        QFETCH(QString, cached);
+        Helper* helper = MakeCaching();
+        QCOMPARE(Calls("Start"), QStringList("cache.Start(540x960)")); // half of the project's
+        helper->StopRenderSync();
+        Log();
+        helper->SetCacheSize(size, ratio);
+        QCOMPARE(Log(), QStringList(QString("cacth width:%1,cacth height:%2")
+                                        .arg(cached.section('x', 0, 0), cached.section('x', 1))));
+        helper->StartRender();
+        QCOMPARE(Calls("Start"), QStringList("cache.Start(" + cached + ')'));
+    }
+
+    void starts_data()
+    {
+        QTest::addColumn<HRESULT>("status");
+        QTest::addColumn<QList<long>>("states");
+        QTest::newRow("rendering") << HRESULT(S_FALSE) << QList<long>{RenderCache_Caching};
+        QTest::newRow("no access") << E_ACCESSDENIED << QList<long>{RenderCache_FolderUnwriteable};
+        QTest::newRow("refused") << E_INVALIDARG << QList<long>{RenderCache_FolderUnwriteable};
+        QTest::newRow("nothing to do") << E_FAIL << QList<long>{RenderCache_Finished};
+        QTest::newRow("anything else") << E_OUTOFMEMORY << QList<long>();
+    }
+
+    void starts()
+    {
+        QFETCH(HRESULT, status);
+        QFETCH(QList<long>, states);
+        Helper* helper = Make();
+        helper->SetCacheDirectory(folder->filePath("a/b"));
+        QTest::qWait(100);
+        QCOMPARE(Calls("SetUpdateCallback").size(), 2); // the other for the size
+        QList<long> seen;
+        QObject context;
+        connect(helper, &Helper::sigRenderStateChange, &context,
+                [&](long state) { seen += state; });
+        connect(helper, &Helper::sigRenderStateChangeInternal, &context, [&](long state) {
+            QCOMPARE(state, seen.last()); // after the other
+        });
+
+        composite->clips.clear();
+        helper->StartRender();
+        QVERIFY(Calls("Start").isEmpty());
+        composite->clips = {node};
+        script.statuses["cache.Start"] = status;
+        helper->StartRender();
+        QVERIFY(QDir(folder->filePath("a/b")).exists());
+        QCOMPARE(seen, states);
+        helper->StartRender(); // once more, unless it runs or all is done
+        const bool again = !helper->IsCaching() && !helper->IsFinished();
+        QCOMPARE(Calls("Start").size(), again ? 2 : 1);
+        QCOMPARE(seen, states);
+        QTest::qWait(100);
+        QCOMPARE(Calls("SetUpdateCallback").size(), status == E_FAIL ? 1 : 0);
+    }
+
+    void folders()
+    {
+        Helper* helper = Make();
+        Log();
+        // Only the first character of the folder, or its bytes up to a zero one, are logged.
+        const QString path = folder->filePath(QString::fromUtf8("Ü日"));
+        const quint64 quota = std::min<quint64>(gGetDiskFreeSpace(nullptr, path) / 2, 102400);
+        QVERIFY(helper->SetCacheDirectory(path));
+        QCOMPARE(Log(), QStringList({QString("folderSize:%1 forder:/").arg(quota),
+                                     "SetCacheDirectory:ture,dir:" + path}));
+        QCOMPARE(Calls("SetCacheFolder"),
+                 QStringList(QString("cache.SetCacheFolder(%1, %2, 2048)").arg(path).arg(quota)));
+
+        // A plain file stands where the folder should.
+        QFile(folder->filePath("file")).open(QIODevice::WriteOnly);
+        helper->SetCacheDirectory(folder->filePath("file/in"));
+        Log();
+        helper->StartRender();
+        QVERIFY(helper->IsFolderUnWriteable());
+        QCOMPARE(Log(),
+                 QStringList("Preview Render CacheDir is not exist, CacheDir mkpath failed!"));
+        script.statuses["cache.SetCacheFolder"] = E_FAIL;
+        QVERIFY(!helper->SetCacheDirectory("x"));
+        QCOMPARE(helper->GetCacheDirectory(), folder->filePath("file/in"));
+        QCOMPARE(Log().value(1), "SetCacheDirectory:false,dir:" + folder->filePath("file/in"));
+        QVERIFY(!helper->IsFolderUnWriteable());
+        QCOMPARE(Helper::GetUserSetRenderPath("x"),
+                 QString("x") + QDir::separator() + ".RenderCache");
+
+        Helper without(nullptr, nullptr);
+        QVERIFY(!without.SetCacheDirectory("x"));
+        QCOMPARE(Log(), QStringList("SetCacheDirectory:false,dir:"));
+    }
+
+    void reports()
+    {
+        Helper* helper = MakeCaching();
+        QList<QList<long>> seen;
+        QObject context;
+        connect(helper, &Helper::sigRenderStateChange, &context,
+                [&](long state) { seen.append({state}); });
+        connect(helper, &Helper::sigRenderProgressInfo, &context,
+                [&](long progress, long cached, long total) {
+                    seen.append({progress, cached, total});
+                });
+        cache->Report(50, RenderCache_Caching, 4);
+        cache->Report(99, RenderCache_LowDisk, 7);
+        cache->Report(100, RenderCache_Caching, 8);
+        cache->render(100, 0, 0, 0, nullptr);
+        QVERIFY(seen.isEmpty()); // only queued
+        QCoreApplication::processEvents();
+        QCOMPARE(seen, (QList<QList<long>>{{50, 4, 8}, {1}, {99, 7, 8}, {5}, {100, 8, 8}}));
+        QVERIFY(helper->IsFinished());
+
+        cache->segments = {
+            {{0, 9}, 1, 10}, {{10, 19}, 2, 14}, {{20, 29}, 0, 20}, {{30, 39}, 1, 30}};
+        Ranges cached;
+        Ranges needed;
+        helper->SetAutoRenderEnable(true, 7);
+        QVERIFY(!Countdown(helper)->isActive());
+        helper->GetRenderProgress(cached, needed);
+        QCOMPARE(cached, (Ranges{{0, 10}, {10, 14}}));
+        QCOMPARE(needed, (Ranges{{14, 20}, {30, 40}}));
+        QCOMPARE(Calls("GetStat").last(), "cache.GetStat(3, 0..0)"); // cleared each time
+        for (const int frame : {14, 20, 30, 40})
+            QVERIFY(helper->IsFramNeedRender(frame)); // the end too
+        for (const int frame : {13, 21, 29, 41})
+            QVERIFY(!helper->IsFramNeedRender(frame));
+        QCOMPARE(seen.last(), QList<long>{RenderCache_Idle});
+        // A segment that cannot be read keeps the answers of the one before, with an empty range.
+        cache->segments = {{{0, 9}, 1, 10}};
+        Ranges none;
+        helper->GetRenderProgress(cached, none);
+        QVERIFY(!helper->IsNeedRender() && !helper->IsFramNeedRender(14));
+
+        helper->StartRender();
+        timeline.reset(); // while it renders
+        cache->Report(50, RenderCache_Caching);
+        QCoreApplication::processEvents();
+    }
+
+    void stops()
+    {
+        Helper* helper = MakeCaching();
+        Log();
+        helper->SetAutoRenderEnable(true, 5);
+        Countdown(helper)->stop();
+        QElapsedTimer timer;
+        timer.start();
+        helper->StopRenderSync();
+        QVERIFY(timer.elapsed() < 10000);
+        QCOMPARE(Log(), QStringList(
+                            {"StopRender succeed", "FPreViewRenderHelper StopRender exec start",
+                             "StopRender StopByUser", "FPreViewRenderHelper StopRender exec end"}));
+        QVERIFY(Countdown(helper)->isActive());
+        helper->StopRenderSync();
+        QCOMPARE(Calls("Stop").size(), 1);
+        QCOMPARE(Log(), QStringList());
+
+        // An engine that fails to stop is given up after 30 s.
+        helper->StartRender();
+        script.statuses["cache.Stop"] = E_FAIL;
+        cache->onStop = [] {};
+        timer.start();
+        helper->StopRenderSync();
+        QVERIFY(timer.elapsed() >= 30000);
+        QVERIFY(helper->IsCaching());
+        QCOMPARE(Log(),
+                 QStringList({"StopRender failed", "FPreViewRenderHelper StopRender exec start",
+                              "StopRender timeOut", "FPreViewRenderHelper StopRender exec end"}));
+        helper->SetCachingState(RenderCache_Idle);
+    }
+
+    void updates()
+    {
+        Helper* helper = Make();
+        QSignalSpy progress(helper, &Helper::sigRenderProgressInfo);
+        for (int call = 0; call < 3; ++call)
+            helper->Update(); // the size has asked already
+        QTRY_VERIFY(cache->update);
+        QTest::qWait(100);
+        QCOMPARE(Calls("SetUpdateCallback").size(), 1);
+        QVERIFY(Helper::CheckAnsyUpdateUserData(helper));
+        int answer = 0;
+        std::thread([&] { answer = cache->update(nullptr, 1, 2, 3, 4, helper); }).join();
+        QVERIFY(answer);
+        QCOMPARE(progress.size(), 0);
+        QTRY_COMPARE(progress.size(), 1);
+
+        helper->UpdateSysc();
+        QMetaObject::invokeMethod(helper, "delayedUpdate");
+        QThreadPool::globalInstance()->waitForDone();
+        QTRY_COMPARE(progress.size(), 3);
+        QCOMPARE(Calls("Update").size(), 2);
+        QVERIFY(Log().contains("delayedUpdate Finished"));
+        helper->SetTimelineQuality(0.75);
+        QCOMPARE(script.TakeCalls(), QStringList({"cache.SetQuality(750000/1000000)",
+                                                  "cache.SetUpdateCallback(true)"}));
+        helper->ClearUpdateCallBack(true);
+        helper->doDelayedUpdate(0);
+        QTRY_VERIFY(!cache->update);
+        QCOMPARE(Calls("SetUpdateCallback"), QStringList("cache.SetUpdateCallback(false)"));
+        QCOMPARE(Log(), QStringList("ClearUpdate......"));
+
+        helper->SetCachingState(RenderCache_Caching);
+        helper->UpdateSysc();
+        helper->doDelayedUpdate(0);
+        QTRY_COMPARE(progress.size(), 5); // nothing but the countdown's restart
+        helper->SetCachingState(RenderCache_Idle);
+        QCOMPARE(script.TakeCalls(), QStringList());
+        timeline.reset();
+        QVERIFY(!Helper::CheckAnsyUpdateUserData(helper));
+    }
+
+    void startsByItself()
+    {
+        Helper* helper = Make();
+        helper->SetCacheDirectory(folder->path());
+        QTimer* countdown = Countdown(helper);
+        QSignalSpy progress(helper, &Helper::sigRenderProgressInfo);
+        helper->SetAutoRenderEnable(true, 3000000);
+        QCOMPARE(countdown->interval(), std::numeric_limits<int>::max());
+        helper->SetAutoRenderEnable(true, 0);
+        QTRY_VERIFY(helper->IsCaching());
+        helper->SetForceStopAutoStartRender(true);
+        helper->UpdateSysc();
+        cache->Report(50, RenderCache_Caching);
+        QCoreApplication::processEvents();
+        QVERIFY(!countdown->isActive());
+        QCOMPARE(progress.size(), 0);
+        helper->SetCachingState(RenderCache_Idle);
+        script.TakeCalls();
+        helper->SetAutoRenderEnable(true, 0);
+        QTest::qWait(50);
+        QCOMPARE(Calls("Start"), QStringList()); // it runs out, in vain
+    }
+
+    void deletes_data()
+    {
+        QTest::addColumn<HRESULT>("status");
+        QTest::addColumn<QString>("answer");
+        QTest::newRow("deleted") << HRESULT(S_OK) << "ture";
+        QTest::newRow("refused") << E_FAIL << "false";
+    }
+
+    void deletes()
+    {
+        QFETCH(HRESULT, status);
+        QFETCH(QString, answer);
+        script.statuses["cache.DeleteCache"] = status;
+        Helper* helper = MakeCaching();
+        QSignalSpy deleted(helper, &Helper::sigRenderCatchDeleted);
+        helper->DelRenderCache(false);
+        QCOMPARE(deleted.size(), 1);
+        QCOMPARE(Calls("DeleteCache"), QStringList("cache.DeleteCache(false)"));
+        QCOMPARE(Log().last(), "DelRenderCache:" + answer);
+        helper->SetAutoDeleteCaching(true);
+        const QString path = folder->path();
+        timeline.reset();
+        QCOMPARE(Calls("DeleteCache"), QStringList("cache.DeleteCache(true)"));
+        QCOMPARE(Log(),
+                 QStringList({"FPreViewRenderHelper need not to stop", "DelRenderCache:" + answer,
+                              "dir:" + path + " returnStr: esist:1"}));
+    }
+
+    void endsWhileUpdatesAreInFlight()
+    {
+        auto busy = MakeCom<BusyCache>();
+        auto other = MakeCom<Node>("other");
+        other->Offer<INLEBackgroundCache>(busy);
+        for (int count = 0; count < 1000; ++count) {
+            auto helper = std::make_unique<Helper>(other, nullptr);
+            helper->SetTimelineQuality(1);
+            if (count % 2)
+                QCoreApplication::processEvents();
+        }
+        QVERIFY(busy->answered > 0); // some came in time
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_Preview)
+
+#include "tst_preview.moc"
