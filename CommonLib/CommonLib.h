@@ -24,6 +24,7 @@
 #include "CommonLib/RulerPointerShape.h"
 #include "CommonLib/StringOperation.h"
 #include "CommonLib/TimelineRuler.h"
+#include "CommonLib/WpdApiLib/WpdApiLib.h"
 #include "CommonLib/XmlOperation.h"
 #include "CommonLib/externalapi/DesktopMgr.h"
 #include "CommonLib/externalapi/FramelessShadow.h"

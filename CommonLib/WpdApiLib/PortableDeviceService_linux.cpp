@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/WpdApiLib/PortableDeviceService_p.h"
+
+#include "CommonLib/WideText_p.h"
+#include "EngineApi/ComObject.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QLibrary>
+
+namespace {
+
+using GetClassObjectFunction = HRESULT (*)(REFCLSID classId, REFIID iid, void** out);
+
+/// The module's entry; null when there is no module. It stays loaded: devices have threads.
+GetClassObjectFunction GetClassObject()
+{
+    static GetClassObjectFunction s_function = nullptr;
+    if (!s_function) {
+        QLibrary module(QCoreApplication::applicationDirPath() +
+                        QStringLiteral("/PortableDevices.dll"));
+        s_function = reinterpret_cast<GetClassObjectFunction>(module.resolve("DllGetClassObject"));
+    }
+    return s_function;
+}
+
+/// Writes a local file; unbuffered, so that a full disk shows in the write that meets it.
+class FileStream final : public ComObject<IStream>
+{
+public:
+    bool Open(const QString& path)
+    {
+        m_file.setFileName(path);
+        return m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered);
+    }
+
+    HRESULT Read(void* /*data*/, ULONG /*count*/, ULONG* /*read*/) override { return E_NOTIMPL; }
+    HRESULT Write(const void* data, ULONG count, ULONG* written) override
+    {
+        const qint64 done = m_file.write(static_cast<const char*>(data), count);
+        if (written)
+            *written = done < 0 ? 0 : static_cast<ULONG>(done);
+        if (done >= 0)
+            return S_OK;
+        return m_file.error() == QFileDevice::ResourceError ? STG_E_MEDIUMFULL : STG_E_WRITEFAULT;
+    }
+    HRESULT Seek(LARGE_INTEGER /*move*/, DWORD /*origin*/, ULARGE_INTEGER* /*position*/) override
+    {
+        return E_NOTIMPL;
+    }
+    HRESULT SetSize(ULARGE_INTEGER /*size*/) override { return E_NOTIMPL; }
+    HRESULT CopyTo(IStream* /*target*/, ULARGE_INTEGER /*count*/, ULARGE_INTEGER* /*read*/,
+                   ULARGE_INTEGER* /*written*/) override
+    {
+        return E_NOTIMPL;
+    }
+    HRESULT Commit(DWORD /*flags*/) override { return S_OK; }
+    HRESULT Revert() override { return E_NOTIMPL; }
+    HRESULT LockRegion(ULARGE_INTEGER /*offset*/, ULARGE_INTEGER /*count*/, DWORD /*type*/) override
+    {
+        return E_NOTIMPL;
+    }
+    HRESULT UnlockRegion(ULARGE_INTEGER /*offset*/, ULARGE_INTEGER /*count*/,
+                         DWORD /*type*/) override
+    {
+        return E_NOTIMPL;
+    }
+    HRESULT Stat(STATSTG* /*out*/, DWORD /*flags*/) override { return E_NOTIMPL; }
+    HRESULT Clone(IStream** /*out*/) override { return E_NOTIMPL; }
+
+private:
+    QFile m_file;
+};
+
+} // namespace
+
+HRESULT CreatePortableDeviceComponent(REFCLSID classId, REFIID iid, void** out)
+{
+    *out = nullptr;
+    const GetClassObjectFunction getClassObject = GetClassObject();
+    if (!getClassObject)
+        return CLASS_E_CLASSNOTAVAILABLE;
+    NLEComPtr<IClassFactory> factory;
+    const HRESULT result = getClassObject(classId, InterfaceId<IClassFactory>(), factory.putVoid());
+    if (FAILED(result)) {
+        factory.detach(); // a failed call hands no reference over
+        return result;
+    }
+    return factory->CreateInstance(nullptr, iid, out);
+}
+
+HRESULT CreateStreamOnFile(const wchar_t* path, IStream** out)
+{
+    *out = nullptr;
+    const auto stream = MakeCom<FileStream>();
+    if (!stream->Open(FromWide(path)))
+        return STG_E_ACCESSDENIED;
+    return NLEComPtr<IStream>(stream).copyTo(out);
+}

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/WpdApiLib/PortableDeviceService_p.h"
+
+#include <shlwapi.h>
+
+HRESULT CreatePortableDeviceComponent(REFCLSID classId, REFIID iid, void** out)
+{
+    return CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, iid, out);
+}
+
+HRESULT CreateStreamOnFile(const wchar_t* path, IStream** out)
+{
+    return SHCreateStreamOnFileW(path, STGM_CREATE | STGM_WRITE, out);
+}
