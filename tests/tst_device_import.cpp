@@ -1,0 +1,541 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/WpdApiLib/WpdApiLib.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/ScriptedDevices.h"
+
+#include <QDir>
+#include <QTemporaryFile>
+#include <QtTest>
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+#include <thread>
+#include <unistd.h>
+
+using Scripted::DeviceScript;
+using Scripted::Script;
+
+namespace {
+
+std::size_t s_allocationToFail = 0;
+std::vector<std::size_t> s_allocations; // of the size of a transfer buffer or more
+
+} // namespace
+
+// The library's arrays come from here: lets one fail and counts the large ones.
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
+{
+    if (size == s_allocationToFail)
+        return nullptr;
+    if (size >= 4096)
+        s_allocations.push_back(size);
+    return ::operator new[](size);
+}
+
+class tst_device_import : public QObject
+{
+    Q_OBJECT
+
+private:
+    struct Seen
+    {
+        QString id, parent, name;
+        quint64 size;
+        int folder;
+        double date;
+    };
+    QVector<Seen> m_seen;
+    std::wstring m_lastName; ///< as it came
+    QVector<qint64> m_chunks;
+    QSet<QString> m_descendInto;
+    int m_stopAfter = -1; ///< calls of the callback that do not stop; negative for all
+    std::atomic<int> m_removals{0};
+    QTemporaryDir m_folder;
+
+    static std::int64_t Callback(HWND window, std::uint32_t message, std::uint64_t code,
+                                 std::int64_t value, void* user)
+    {
+        auto& self = *static_cast<tst_device_import*>(user);
+        if (window || message != 0)
+            qFatal("the callback has a window or a message");
+        if (code == WpdDeviceRemoved) {
+            ++self.m_removals;
+            return value;
+        }
+        if (code == WpdObjectRead)
+            self.See(*reinterpret_cast<WpdObjectRecord*>(value));
+        else
+            self.m_chunks.append(value);
+        return self.m_stopAfter-- == 0 ? 1 : 0;
+    }
+    void See(WpdObjectRecord& record)
+    {
+        QCOMPARE(record.descend, 0);
+        const auto text = [](const wchar_t* wide) { return QString::fromWCharArray(wide); };
+        m_seen.append({text(record.objectId), text(record.parentId), text(record.originalFileName),
+                       record.size, record.isFolder, record.dateModified});
+        m_lastName = record.originalFileName;
+        record.descend = m_descendInto.contains(m_seen.last().id) ? 1 : 0;
+    }
+    QStringList SeenIds() const
+    {
+        QStringList ids;
+        for (const Seen& seen : m_seen)
+            ids += seen.id;
+        return ids;
+    }
+    /// What \a action prints to the standard output.
+    template <typename Action>
+    static QString Printed(Action action)
+    {
+        QTemporaryFile file;
+        if (!file.open())
+            return "no file";
+        std::fflush(stdout);
+        const int saved = ::dup(1);
+        ::dup2(file.handle(), 1);
+        action();
+        std::fflush(stdout);
+        ::dup2(saved, 1);
+        ::close(saved);
+        file.seek(0);
+        return QString::fromLocal8Bit(file.readAll());
+    }
+    QString Target() const { return m_folder.filePath("copy.bin"); }
+    int Transfer(const wchar_t* id, int alternate = 0)
+    {
+        return WpdApiLib::TransferContentFromDevice(
+            id, QDir::toNativeSeparators(Target()).toStdWString().c_str(), alternate);
+    }
+    static QString Expected()
+    {
+        QFETCH(QString, printed);
+        return printed;
+    }
+    static void Open() { QCOMPARE(WpdApiLib::ChooseDevice(L"device 1", nullptr), 1); }
+    static void BuildTree()
+    {
+        DeviceScript& script = DeviceScript::Get();
+        script.Add(L"DEVICE", L"card");
+        script.Add(L"card", L"DCIM").folder = true;
+        script.Add(L"DCIM", L"100").folder = true;
+        script.Add(L"DCIM", L"101").folder = true;
+        auto& clip = script.Add(L"100", L"clip.mov");
+        clip.size = 5'000'000'000;
+        clip.date = 45000.25;
+        script.Add(L"101", L"deep").folder = true;
+        script.Add(L"deep", L"deeper");
+    }
+
+private slots:
+    void init()
+    {
+        Script::Get().Reset();
+        DeviceScript::Get().Reset();
+        m_seen.clear();
+        m_chunks.clear();
+        m_descendInto.clear();
+        m_stopAfter = -1;
+        m_removals = 0;
+        s_allocationToFail = 0;
+        s_allocations.clear();
+        WpdApiLib::SetCallbackProc(&Callback, this);
+    }
+    void cleanup()
+    {
+        WpdApiLib::UnregisterForEventNotifications();
+        DeviceScript::Get().listener.reset();
+        QCOMPARE(Script::Get().liveObjects, QStringList());
+    }
+
+    void listsDevices()
+    {
+        wchar_t* ids[3] = {};
+        wchar_t* names[3] = {};
+        QCOMPARE(WpdApiLib::EnumerateAllDevices(ids, names), 0ul);
+        QVERIFY(!ids[0] && !names[0]);
+        DeviceScript::Get().devices = {{L"a", L"Tel\u00e9fono \U0001F4F7", L"x"},
+                                       {L"b", L"", L"Camera"},
+                                       {L"c", L"none", L"none"}};
+        QCOMPARE(WpdApiLib::EnumerateAllDevices(nullptr, nullptr), 3ul);
+        QCOMPARE(WpdApiLib::EnumerateAllDevices(ids, names), 3ul);
+        const std::wstring expected[] = {L"a", L"Tel\u00e9fono \U0001F4F7", L"b", L"Camera", L"c",
+                                         L""};
+        for (int i = 0; i < 3; ++i) {
+            QVERIFY(ids[i] == expected[2 * i] && names[i] == expected[2 * i + 1]);
+            SysFreeString(ids[i]);
+            SysFreeString(names[i]);
+        }
+    }
+
+    void logsWhyNothingIsListed_data()
+    {
+        QTest::addColumn<QString>("failing");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("manager") << "manager.Create"
+                                 << "Failed to CoCreateInstance CLSID_PortableDeviceManager";
+        QTest::newRow("number") << "manager.CountDevices"
+                                << "! Failed to get number of devices on the system";
+        QTest::newRow("memory") << ""
+                                << "Failed to allocate memory for PWSTR array";
+        QTest::newRow("list") << "manager.GetDevices"
+                              << "Failed to get the device list from the system";
+    }
+    void logsWhyNothingIsListed()
+    {
+        QFETCH(QString, failing);
+        QFETCH(QString, message);
+        DeviceScript::Get().devices = {{L"a", L"", L""}, {L"b", L"", L""}};
+        Script::Get().statuses[failing] = E_FAIL;
+        s_allocationToFail = failing.isEmpty() ? 2 * sizeof(wchar_t*) : 0;
+        LogCapture log;
+        wchar_t* ids[2] = {};
+        QCOMPARE(WpdApiLib::EnumerateAllDevices(ids, nullptr), 0ul);
+        const QString line = log.Take().value(0);
+        QVERIFY2(line.startsWith("-INFO- [WpdApiLib::EnumerateAllDevices]:  " + message +
+                                 " - [CommonLib/WpdApiLib/WpdApiLib("),
+                 qPrintable(line));
+    }
+
+    void tellsWhoAsks()
+    {
+        DeviceScript::Get().readOnly = true;
+        QCOMPARE(WpdApiLib::ChooseDevice(L"phone", nullptr), 1);
+        QCOMPARE(WpdApiLib::ChooseDevice(nullptr, nullptr), 0);
+        QStringList calls = Script::Get().TakeCalls().filter("device.");
+        const QString client = "device.Open(phone, 2=WPD Sample Application 3=1 4=0 5=2 8=20000";
+        QCOMPARE(calls, QStringList({"device.Create()", client + ")", client + " 9=80000000)",
+                                     "device.Advise(0, null)", "device.Unadvise(cookie)"}));
+    }
+
+    void failsAtEveryStep_data()
+    {
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<QString>("failing");
+        QTest::addColumn<uint>("status");
+        QTest::addColumn<int>("result");
+        QTest::addColumn<QString>("printed");
+        const auto row = [](const char* action, const char* failing, uint status, int result,
+                            const char* printed) {
+            QTest::addRow("%s: %s %x", action, failing, status)
+                << action << failing << status << result << printed;
+        };
+        row("open", "device.Open", 0x8007001F, 0, "Failed to Open the device, hr = 0x8007001f");
+        row("open", "device.Open", 0x80070005, 0, "Failed to Open the device, hr = 0x80070005");
+        row("open", "device.Create", 0x80040154, 0,
+            "Failed to CoCreateInstance CLSID_PortableDeviceFTM, hr = 0x80040154");
+        row("open", "device.Advise", 0x80004001, 1,
+            "Failed to register for device events, hr = 0x80004001");
+        row("open", "device.Unadvise", 0x80004005, 1,
+            "Failed to unregister for device events using registration cookie 'cookie', "
+            "hr = 0x80004005");
+        row("walk", "device.Content", 0x80004005, 0,
+            "Failed to get IPortableDeviceContent from IPortableDevice, hr = 0x80004005");
+        row("walk", "content.Properties", 0x80004005, 0,
+            "Failed to get IPortableDeviceProperties from IPortableDevice, hr = 0x80004005");
+        row("walk", "properties.GetValues", 0x8007001F, 0,
+            "Failed to get all properties for object 'DEVICE', hr= 0x8007001f");
+        row("walk", "content.EnumObjects", 0x80004005, 0,
+            "Failed to get IEnumPortableDeviceObjectIDs from IPortableDeviceContent, "
+            "hr = 0x80004005");
+        row("walk", "enumerator.Next", 0x80004005, 0, "");
+        const std::pair<int, const char*> keys[] = {{3, "PARENT_ID"},
+                                                    {12, "ORIGINAL_FILE_NAME"},
+                                                    {11, "SIZE"},
+                                                    {7, "CONTENT_TYPE"},
+                                                    {19, "DATE_MODIFIED"}};
+        for (const auto& [id, name] : keys)
+            row("walk", qPrintable(QStringLiteral("keys.Add%1").arg(id)), 0x80070057, 1,
+                qPrintable(QStringLiteral("Failed to add WPD_OBJECT_%1 to "
+                                          "IPortableDeviceKeyCollection, hr= 0x80070057")
+                               .arg(name)));
+        row("copy", "device.Content", 0x80004005, 0,
+            "Failed to get IPortableDeviceContent from IPortableDevice, hr = 0x80004005");
+        row("copy", "content.Transfer", 0x80004005, 0,
+            "Failed to get IPortableDeviceResources from IPortableDeviceContent, hr = 0x80004005");
+        row("copy", "resources.GetStream", 0x80070490, 0,
+            "Failed to get IStream (representing object data on the device) from "
+            "IPortableDeviceResources, hr = 0x80070490");
+        row("copy", "stream.Read", 0x8007001F, 0,
+            "Failed to read 4096 bytes from the source stream, hr = 0x8007001f\n"
+            "! Failed to transfer object from device, hr = 0x8007001f");
+        row("copy", "memory", 0, 1,
+            "Failed to allocate 4096 bytes for the temporary transfer buffer.");
+        row("delete", "variants.Create", 0x80040154, 0,
+            "Failed to CoCreateInstance CLSID_PortableDevicePropVariantCollection, "
+            "hr = 0x80040154");
+        row("delete", "variants.Create", 1, 0,
+            "Failed to delete an object from the device because we were returned a NULL "
+            "IPortableDevicePropVariantCollection interface pointer, hr = 0x80004003");
+        row("delete", "no identifier", 0, 0,
+            "Failed to delete an object from the device because we could no allocate memory for "
+            "the object identifier string, hr = 0x8007000e");
+        row("delete", "variants.Add", 0x8007000E, 0,
+            "Failed to delete an object from the device because we could no add the object "
+            "identifier string to the IPortableDevicePropVariantCollection, hr = 0x8007000e");
+        row("delete", "content.Delete", 0x80070005, 0,
+            "Failed to delete an object from the device, hr = 0x80070005");
+        row("delete", "content.Delete", 1, 0,
+            "Failed to delete an object from the device, hr = 0x1");
+        row("delete", "", 0, 0, "");
+    }
+    void failsAtEveryStep()
+    {
+        QFETCH(QString, action);
+        QFETCH(QString, failing);
+        QFETCH(uint, status);
+        DeviceScript::Get().Add(L"DEVICE", L"clip").size = 100;
+        Script::Get().statuses[failing] = static_cast<HRESULT>(status);
+        int result = 0;
+        const QString printed = Printed([&] {
+            result = WpdApiLib::ChooseDevice(L"phone", nullptr);
+            s_allocationToFail = failing == "memory" ? 4096 : 0;
+            if (action == "walk")
+                result = WpdApiLib::EnumerateAllContent();
+            else if (action == "copy")
+                result = Transfer(L"clip");
+            else if (action == "delete")
+                WpdApiLib::DeleteContentFromDevice(failing == "no identifier" ? nullptr : L"clip");
+            WpdApiLib::UnregisterForEventNotifications();
+        });
+        const QString expected = Expected();
+        QCOMPARE(printed, expected.isEmpty() ? QString() : "! " + expected + '\n');
+        if (action == "open" || action == "walk" || action == "copy")
+            QTEST(result, "result");
+        if (action == "walk") {
+            QCOMPARE(WpdApiLib::bFailed, 1 - result);
+            QCOMPARE(WpdApiLib::bCanceled, 0);
+        }
+        QCOMPARE(Script::Get().TakeCalls().contains("content.Delete(0, clip)"),
+                 action == "delete" && (failing.isEmpty() || failing == "content.Delete"));
+    }
+
+    void walksTwoLevelsAndWhereAsked()
+    {
+        BuildTree();
+        Open();
+        QCOMPARE(WpdApiLib::EnumerateAllContent(), 1);
+        QCOMPARE(SeenIds(), QStringList({"DEVICE", "card", "DCIM"}));
+        m_seen.clear();
+        m_descendInto = {"DCIM", "100", "101"};
+        QCOMPARE(WpdApiLib::EnumerateAllContent(), 1);
+        QCOMPARE(SeenIds(),
+                 QStringList({"DEVICE", "card", "DCIM", "100", "clip.mov", "101", "deep"}));
+        const Seen& clip = m_seen[4];
+        QCOMPARE(clip.parent, QString("100"));
+        QCOMPARE(clip.name, QString("clip.mov"));
+        QCOMPARE(clip.size, quint64(5'000'000'000));
+        QCOMPARE(clip.date, 45000.25);
+        QCOMPARE(clip.folder, 0);
+        QCOMPARE(m_seen[3].folder, 1);
+    }
+
+    void stopsWhereTheHostStops()
+    {
+        BuildTree();
+        Open();
+        for (int calls = 0; calls < 3; ++calls) {
+            m_seen.clear();
+            m_stopAfter = calls;
+            QCOMPARE(WpdApiLib::EnumerateAllContent(), 0);
+            QCOMPARE(m_seen.size(), calls + 1);
+            QCOMPARE(WpdApiLib::bCanceled, 1);
+        }
+        m_stopAfter = -1;
+        QCOMPARE(WpdApiLib::EnumerateAllContent(), 1);
+        QCOMPARE(WpdApiLib::bCanceled, 0);
+    }
+
+    void endsWhenTheDeviceVanishes()
+    {
+        BuildTree();
+        DeviceScript::Get().Add(L"card", L"small").size = 10000;
+        Open();
+        for (const bool walking : {true, false}) {
+            int result = 0;
+            int steps = 0;
+            for (; result == 0 && steps < 100; ++steps) {
+                DeviceScript::Get().stepsUntilVanished = steps;
+                Printed([&] {
+                    result = walking ? WpdApiLib::EnumerateAllContent() : Transfer(L"small");
+                });
+            }
+            // Content, properties and three calls an object; content, resources, stream, reads.
+            QCOMPARE(steps, walking ? 2 + 3 * 4 + 1 : 3 + 4 + 1);
+        }
+        DeviceScript::Get().stepsUntilVanished = -1;
+    }
+
+    void walksManyObjects()
+    {
+        constexpr int Count = 20000;
+        DeviceScript::Get().Add(L"DEVICE", L"card");
+        for (int i = 0; i < Count; ++i)
+            DeviceScript::Get().Add(L"card", L"IMG_" + std::to_wstring(i));
+        Open();
+        QCOMPARE(WpdApiLib::EnumerateAllContent(), 1);
+        QCOMPARE(m_seen.size(), Count + 2);
+        QCOMPARE(m_seen.last().id, QStringLiteral("IMG_%1").arg(Count - 1));
+        m_seen.clear();
+        m_stopAfter = Count / 2;
+        Script::Get().TakeCalls();
+        QCOMPARE(WpdApiLib::EnumerateAllContent(), 0);
+        QCOMPARE(Script::Get().TakeCalls().filter("enumerator.Next").size(),
+                 1 + Count / 2 / 10 + Count / 2 - 2); // root, card in batches, the files
+    }
+
+    void passesOddNamesOn()
+    {
+        const std::wstring odd = L"IMG\xDCFF.jpg"; // a byte that is not UTF-8
+        DeviceScript::Get().Add(L"DEVICE", odd).size = 3;
+        Open();
+        QCOMPARE(WpdApiLib::EnumerateAllContent(), 1);
+        QVERIFY(m_lastName == odd);
+        Script::Get().statuses["stream.Read"] = E_FAIL;
+        Script::Get().statuses["properties.GetValues"] = E_FAIL;
+        const QString printed = Printed([&] {
+            QCOMPARE(WpdApiLib::TransferContentFromDevice(odd.c_str(), L"/no/such/folder", 0), 0);
+            QCOMPARE(Transfer(odd.c_str()), 0);
+        });
+        QVERIFY(printed.startsWith("! Failed to create a temporary file named (/no/such/folder) to "
+                                   "transfer object (IMG"));
+        QCOMPARE(printed.count('\n'), 3);
+    }
+
+    void copies_data()
+    {
+        QTest::addColumn<quint64>("size");
+        QTest::addColumn<uint>("bufferSize");
+        QTest::addColumn<uint>("readLimit");
+        QTest::addColumn<int>("stopAfter");
+        QTest::addColumn<QVector<qint64>>("chunks");
+        const auto row = [](const char* name, quint64 size, uint buffer, uint limit, int stopAfter,
+                            const QVector<qint64>& chunks) {
+            QTest::newRow(name) << size << buffer << limit << stopAfter << chunks;
+        };
+        row("empty", 0, 4096, 0, -1, {});
+        row("whole buffers and a rest", 10000, 4096, 0, -1, {4096, 8192, 10000});
+        row("short reads", 10000, 8192, 4000, -1, {4000, 8000, 10000});
+        row("device without a size of its own", 300000, 0, 0, -1, {262144, 300000});
+        row("stopped at once", 10000, 4096, 0, 0, {4096});
+        row("stopped at the last chunk", 10000, 4096, 0, 2, {4096, 8192, 10000});
+    }
+    void copies()
+    {
+        QFETCH(quint64, size);
+        QFETCH(QVector<qint64>, chunks);
+        QFETCH(int, stopAfter);
+        QFETCH(uint, bufferSize);
+        QFETCH(uint, readLimit);
+        DeviceScript::Get().Add(L"DEVICE", L"clip").size = size;
+        DeviceScript::Get().bufferSize = bufferSize;
+        DeviceScript::Get().readLimit = readLimit;
+        m_stopAfter = stopAfter;
+        Open();
+        s_allocations.clear();
+        QFile file(Target());
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(400000)); // is to be overwritten
+        file.close();
+        int result = 0;
+        const QString printed = Printed([&] { result = Transfer(L"clip", stopAfter); });
+        QCOMPARE(result, stopAfter < 0 ? 1 : 0);
+        QCOMPARE(printed, stopAfter < 0 ? QString()
+                                        : "! Failed to transfer object from device, "
+                                          "hr = 0x80004005\n");
+        QCOMPARE(m_chunks, chunks);
+        QCOMPARE(s_allocations.size(), std::size_t(1));
+        const QString resource = stopAfter == 0 ? "E81E79BE" : "C7C407BA";
+        QVERIFY(Script::Get().TakeCalls().contains("resources.GetStream(clip, " + resource +
+                                                   ", 0, 0)"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QByteArray expected(chunks.isEmpty() ? 0 : int(chunks.last()), 0);
+        for (int i = 0; i < expected.size(); ++i)
+            expected[i] = DeviceScript::DataAt(i);
+        QVERIFY(file.readAll() == expected);
+    }
+
+    void tellsOfAFullDisk()
+    {
+        if (!QFile::exists("/dev/full"))
+            QSKIP("no file here that takes nothing");
+        DeviceScript::Get().Add(L"DEVICE", L"clip").size = 100;
+        Open();
+        QCOMPARE(Printed([] {
+                     QCOMPARE(WpdApiLib::TransferContentFromDevice(L"clip", L"/dev/full", 0), 0);
+                 }),
+                 QString("! Failed to write 100 bytes of object data to the destination stream, "
+                         "hr = 0x80030070\n"
+                         "! Failed to transfer object from device, hr = 0x80030070\n"));
+    }
+
+    void cancels()
+    {
+        LogCapture log;
+        QCOMPARE(WpdApiLib::Cancel(), 0);
+        Open();
+        QCOMPARE(WpdApiLib::Cancel(), 1);
+        Script::Get().statuses["device.Cancel"] = E_NOTIMPL;
+        QCOMPARE(WpdApiLib::Cancel(), 0);
+        const QString lines = log.Take().join('|');
+        QVERIFY2(lines.startsWith("-WARN- [WpdApiLib::Cancel]:  ! Failed to Cancel, "
+                                  "hr = 0x80004001\n - [CommonLib/WpdApiLib/WpdApiLib("),
+                 qPrintable(lines));
+    }
+
+    void needsAnOpenDevice()
+    {
+        const QString missing =
+            "! Failed to get IPortableDeviceContent from IPortableDevice, hr = 0x80004003\n";
+        QCOMPARE(Printed([this] {
+                     QCOMPARE(WpdApiLib::EnumerateAllContent(), 0);
+                     QCOMPARE(Transfer(L"clip"), 0);
+                     WpdApiLib::DeleteContentFromDevice(L"clip");
+                 }),
+                 missing.repeated(3));
+    }
+
+    void tellsOnceOfTheRemoval()
+    {
+        const auto removed = DeviceScript::EventParameters(Wpd::WPD_EVENT_DEVICE_REMOVED);
+        const auto other = DeviceScript::EventParameters(Wpd::WPD_CONTENT_TYPE_FOLDER);
+        const auto fromThreads = [&](const NLEComPtr<IPortableDeviceValues>& event) {
+            const auto fire = [&] { DeviceScript::Get().listener->OnEvent(event.get()); };
+            std::thread first(fire);
+            std::thread second(fire);
+            first.join();
+            second.join();
+        };
+        Open();
+        WpdApiLib::SetCallbackProc(nullptr, nullptr); // the event object keeps its copies
+        fromThreads(other);
+        QCOMPARE(m_removals.load(), 0);
+        fromThreads(removed);
+        QCOMPARE(m_removals.load(), 1);
+
+        // An event in the middle of closing: none is told of afterwards.
+        for (int round = 0; round < 200; ++round) {
+            WpdApiLib::SetCallbackProc(&Callback, this);
+            Open();
+            std::thread late([&] { DeviceScript::Get().listener->OnEvent(removed.get()); });
+            WpdApiLib::UnregisterForEventNotifications();
+            const int told = m_removals;
+            late.join();
+            QCOMPARE(m_removals.load(), told);
+        }
+
+        // The callback may close the device itself.
+        WpdApiLib::SetCallbackProc(
+            [](HWND, std::uint32_t, std::uint64_t, std::int64_t, void*) -> std::int64_t {
+                WpdApiLib::UnregisterForEventNotifications();
+                return 0;
+            },
+            nullptr);
+        Open();
+        DeviceScript::Get().listener->OnEvent(removed.get());
+        QCOMPARE(WpdApiLib::Cancel(), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_device_import)
+#include "tst_device_import.moc"
