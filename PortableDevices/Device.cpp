@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "PortableDevices/Device.h"
+
+#include "PortableDevices/DeviceContent.h"
+#include "PortableDevices/DeviceList.h"
+#include "PortableDevices/PropertyValues.h"
+#include "PortableDevices/VolumeWatcher.h"
+
+#include <algorithm>
+
+namespace devices {
+namespace {
+
+NLEComPtr<IPortableDeviceValues> RemovalEvent(const std::wstring& deviceId)
+{
+    const auto event = MakeCom<PropertyValues>();
+    event->store(Wpd::WPD_EVENT_PARAMETER_PNP_DEVICE_ID, Variant::text(deviceId.c_str()));
+    event->store(Wpd::WPD_EVENT_PARAMETER_EVENT_ID,
+                 Variant::identifier(Wpd::WPD_EVENT_DEVICE_REMOVED));
+    return event;
+}
+
+} // namespace
+
+Device::~Device()
+{
+    Close();
+}
+
+std::shared_ptr<OpenDevice> Device::opened()
+{
+    const std::lock_guard lock(m_mutex);
+    return m_device;
+}
+
+HRESULT Device::Open(LPCWSTR id, IPortableDeviceValues* clientInformation)
+{
+    if (!id || !clientInformation)
+        return E_POINTER;
+    if (opened())
+        return kAlreadyOpen;
+    const std::vector<DeviceEntry> entries = ListDevices();
+    const auto entry = std::find_if(entries.begin(), entries.end(),
+                                    [id](const DeviceEntry& known) { return known.id == id; });
+    if (entry == entries.end())
+        return kNotFound;
+    const auto device = std::make_shared<OpenDevice>(entry->id, MakeSession(*entry));
+    // Watched from now on: a device that goes while it opens must not stay.
+    VolumeWatcher::instance().watch(device);
+    const HRESULT result =
+        device->worker().run([](DeviceSession& session, GCancellable* cancellable) {
+            return session.open(cancellable);
+        });
+    if (FAILED(result))
+        return result;
+    const std::lock_guard lock(m_mutex);
+    if (m_device)
+        return kAlreadyOpen;
+    m_device = device;
+    return S_OK;
+}
+
+HRESULT Device::Content(IPortableDeviceContent** out)
+{
+    const std::shared_ptr<OpenDevice> device = opened();
+    if (!device)
+        return kNotOpen;
+    return NLEComPtr<IPortableDeviceContent>(MakeCom<DeviceContent>(device)).copyTo(out);
+}
+
+HRESULT Device::Cancel()
+{
+    const std::shared_ptr<OpenDevice> device = opened();
+    if (!device)
+        return kNotOpen;
+    device->worker().cancel();
+    return S_OK;
+}
+
+HRESULT Device::Close()
+{
+    std::shared_ptr<OpenDevice> device;
+    {
+        const std::lock_guard lock(m_mutex);
+        m_device.swap(device);
+    }
+    if (device)
+        device->worker().close();
+    return S_OK;
+}
+
+HRESULT Device::Advise(const DWORD /*flags*/, IPortableDeviceEventCallback* callback,
+                       IPortableDeviceValues* /*parameters*/, LPWSTR* cookie)
+{
+    if (!callback || !cookie)
+        return E_POINTER;
+    *cookie = nullptr;
+    const std::shared_ptr<OpenDevice> device = opened();
+    if (!device)
+        return kNotOpen;
+    const unsigned number = device->worker().addListener(
+        [sink = NLEComPtr<IPortableDeviceEventCallback>(callback), id = device->id()] {
+            sink->OnEvent(RemovalEvent(id).get());
+        });
+    if (number == 0)
+        return kDeviceGone;
+    *cookie = TaskText(std::to_wstring(number).c_str());
+    return S_OK;
+}
+
+HRESULT Device::Unadvise(LPCWSTR cookie)
+{
+    if (!cookie)
+        return E_POINTER;
+    const std::shared_ptr<OpenDevice> device = opened();
+    if (!device)
+        return kNotOpen;
+    const auto number = static_cast<unsigned>(std::wcstoul(cookie, nullptr, 10));
+    // Once the event has come, its registration is used up; ending it is no failure.
+    device->worker().removeListener(number);
+    return S_OK;
+}
+
+HRESULT Device::GetPnPDeviceID(LPWSTR* id)
+{
+    if (!id)
+        return E_POINTER;
+    const std::shared_ptr<OpenDevice> device = opened();
+    *id = device ? TaskText(device->id().c_str()) : nullptr;
+    return device ? S_OK : kNotOpen;
+}
+
+HRESULT Device::SendCommand(const DWORD /*flags*/, IPortableDeviceValues* /*parameters*/,
+                            IPortableDeviceValues** results)
+{
+    if (results)
+        *results = nullptr;
+    return E_NOTIMPL;
+}
+
+HRESULT Device::Capabilities(IPortableDeviceCapabilities** out)
+{
+    GiveValue<IPortableDeviceCapabilities*>(out, nullptr);
+    return E_NOTIMPL;
+}
+
+} // namespace devices

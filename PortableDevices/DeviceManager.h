@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "EngineApi/ComObject.h"
+#include "PortableDevices/DeviceList.h"
+#include "PortableDevices/api/PortableDeviceApi.h"
+
+#include <mutex>
+
+namespace devices {
+
+/// What CLSID_PortableDeviceManager makes. The list of devices is taken when it is first asked for
+/// and by RefreshDeviceList(), so that numbers and names fit together in between.
+class DeviceManager final : public ComObject<IPortableDeviceManager>
+{
+public:
+    HRESULT GetDevices(LPWSTR* ids, DWORD* count) override;
+    HRESULT RefreshDeviceList() override;
+    HRESULT GetDeviceFriendlyName(LPCWSTR id, WCHAR* name, DWORD* length) override;
+    HRESULT GetDeviceDescription(LPCWSTR id, WCHAR* description, DWORD* length) override;
+    HRESULT GetDeviceManufacturer(LPCWSTR id, WCHAR* manufacturer, DWORD* length) override;
+    HRESULT GetDeviceProperty(LPCWSTR id, LPCWSTR property, BYTE* data, DWORD* bytes,
+                              DWORD* type) override;
+    HRESULT GetPrivateDevices(LPWSTR* ids, DWORD* count) override;
+
+private:
+    HRESULT giveText(LPCWSTR id, std::wstring DeviceEntry::*text, WCHAR* buffer, DWORD* length);
+
+    std::mutex m_mutex; // guards what follows
+    bool m_isListed = false;
+    std::vector<DeviceEntry> m_entries;
+};
+
+} // namespace devices

@@ -1,0 +1,281 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "PortableDevices/DeviceWorker.h"
+
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <deque>
+#include <map>
+#include <mutex>
+#include <new>
+#include <thread>
+
+namespace devices {
+namespace {
+
+// How often an idle device is looked after.
+constexpr std::chrono::milliseconds kPresenceInterval{500};
+
+struct Job
+{
+    DeviceWorker::Task task;
+    std::function<void()> cleanup; // instead of a task
+    std::promise<HRESULT> result;
+    GPtr<GCancellable> cancellable;
+};
+
+} // namespace
+
+// Shared with the thread, which may outlive the worker for the length of a listener's call.
+struct DeviceWorker::State
+{
+    explicit State(std::unique_ptr<DeviceSession> opened) : session(std::move(opened)) {}
+
+    void loop();
+    void perform(Job& job);
+    HRESULT resultOf(const Job& job);
+    void announceRemoval();
+    void waitForCall(std::unique_lock<std::mutex>& lock, unsigned listener);
+
+    std::unique_ptr<DeviceSession> session; // the thread's own
+    bool isOpened = false;                  // the thread's own: an operation has succeeded
+
+    std::mutex mutex; // guards what follows
+    std::condition_variable wake;
+    std::deque<Job> jobs;
+    GPtr<GCancellable> running;
+    std::map<unsigned, Listener> listeners;
+    unsigned lastListener = 0;
+    unsigned calledListener = 0; // 0 when no call is under way
+    std::condition_variable callEnded;
+    bool isStopping = false;
+    bool isAnnounced = false;
+
+    std::atomic<bool> isRemoved{false};
+    std::atomic<unsigned> cancelCount{0};
+    std::thread thread;
+    std::thread::id threadId;
+};
+
+void DeviceWorker::State::loop()
+{
+    // Mounting waits on a context of this thread's own.
+    const GPtr<GMainContext> context(g_main_context_new());
+    g_main_context_push_thread_default(context.get());
+    std::unique_lock lock(mutex);
+    while (!isStopping || !jobs.empty()) {
+        wake.wait_for(lock, kPresenceInterval, [this] {
+            return isStopping || !jobs.empty() || (isRemoved && !isAnnounced);
+        });
+        if (!jobs.empty()) {
+            Job job = std::move(jobs.front());
+            jobs.pop_front();
+            running = Share(job.cancellable.get());
+            lock.unlock();
+            perform(job);
+            lock.lock();
+            running.reset();
+        } else if (isOpened && !isRemoved) {
+            lock.unlock();
+            isRemoved = session && !session->isPresent(false);
+            lock.lock();
+        }
+        if (isRemoved && !isAnnounced && !isStopping) {
+            isAnnounced = true;
+            lock.unlock();
+            announceRemoval();
+            lock.lock();
+        }
+    }
+    lock.unlock();
+    session.reset();
+    g_main_context_pop_thread_default(context.get());
+}
+
+void DeviceWorker::State::perform(Job& job)
+{
+    if (job.cleanup) {
+        job.cleanup();
+        return;
+    }
+    job.result.set_value(resultOf(job));
+}
+
+HRESULT DeviceWorker::State::resultOf(const Job& job)
+{
+    if (!session)
+        return kNotOpen;
+    if (!isRemoved && isOpened && !session->isPresent(false))
+        isRemoved = true;
+    if (isRemoved)
+        return kDeviceGone;
+    if (g_cancellable_is_cancelled(job.cancellable.get()))
+        return kCancelled;
+    HRESULT result = E_OUTOFMEMORY;
+    try {
+        result = job.task(*session, job.cancellable.get());
+    } catch (const std::bad_alloc&) {
+    }
+    if (SUCCEEDED(result)) {
+        isOpened = true;
+        return result;
+    }
+    if (isOpened && !isRemoved && result != kCancelled && !session->isPresent(true))
+        isRemoved = true;
+    return isRemoved ? kDeviceGone : result;
+}
+
+void DeviceWorker::State::announceRemoval()
+{
+    std::unique_lock lock(mutex);
+    while (!listeners.empty() && !isStopping) {
+        const auto first = listeners.begin();
+        calledListener = first->first;
+        const Listener listener = std::move(first->second);
+        first->second = nullptr;
+        lock.unlock();
+        if (listener)
+            listener();
+        lock.lock();
+        listeners.erase(calledListener);
+        calledListener = 0;
+        callEnded.notify_all();
+    }
+}
+
+void DeviceWorker::State::waitForCall(std::unique_lock<std::mutex>& lock, unsigned listener)
+{
+    if (listener != 0 && std::this_thread::get_id() != threadId)
+        callEnded.wait(lock, [this, listener] { return calledListener != listener; });
+}
+
+DeviceWorker::DeviceWorker(std::unique_ptr<DeviceSession> session)
+    : m_state(std::make_shared<State>(std::move(session)))
+{
+    const std::lock_guard lock(m_state->mutex);
+    m_state->thread = std::thread([state = m_state] { state->loop(); });
+    m_state->threadId = m_state->thread.get_id();
+}
+
+DeviceWorker::~DeviceWorker()
+{
+    cancel();
+    {
+        const std::lock_guard lock(m_state->mutex);
+        m_state->isStopping = true;
+        m_state->listeners.clear();
+    }
+    m_state->wake.notify_all();
+    // The last reference to a device may be given back by a listener.
+    if (std::this_thread::get_id() == m_state->threadId)
+        m_state->thread.detach();
+    else
+        m_state->thread.join();
+}
+
+DeviceWorker::Pending DeviceWorker::start(Task task)
+{
+    Job job;
+    job.task = std::move(task);
+    job.cancellable.reset(g_cancellable_new());
+    Pending pending{job.result.get_future(), Share(job.cancellable.get())};
+    {
+        const std::lock_guard lock(m_state->mutex);
+        m_state->jobs.push_back(std::move(job));
+    }
+    m_state->wake.notify_one();
+    return pending;
+}
+
+HRESULT DeviceWorker::run(Task task)
+{
+    // A listener's own call cannot wait for its thread, which is free for it.
+    if (std::this_thread::get_id() == m_state->threadId) {
+        Job job;
+        job.task = std::move(task);
+        job.cancellable.reset(g_cancellable_new());
+        return m_state->resultOf(job);
+    }
+    return start(std::move(task)).result.get();
+}
+
+void DeviceWorker::startCleanup(std::function<void()> cleanup)
+{
+    Job job;
+    job.cleanup = std::move(cleanup);
+    {
+        const std::lock_guard lock(m_state->mutex);
+        m_state->jobs.push_back(std::move(job));
+    }
+    m_state->wake.notify_one();
+}
+
+void DeviceWorker::cancel()
+{
+    std::vector<GPtr<GCancellable>> targets;
+    {
+        const std::lock_guard lock(m_state->mutex);
+        ++m_state->cancelCount;
+        if (m_state->running)
+            targets.push_back(Share(m_state->running.get()));
+        for (const Job& job : m_state->jobs) {
+            if (job.cancellable)
+                targets.push_back(Share(job.cancellable.get()));
+        }
+    }
+    for (const GPtr<GCancellable>& target : targets)
+        g_cancellable_cancel(target.get());
+}
+
+unsigned DeviceWorker::cancelCount() const
+{
+    return m_state->cancelCount;
+}
+
+HRESULT DeviceWorker::resultSince(unsigned count) const
+{
+    if (m_state->isRemoved)
+        return kDeviceGone;
+    return m_state->cancelCount == count ? S_OK : kCancelled;
+}
+
+void DeviceWorker::close()
+{
+    cancel();
+    {
+        std::unique_lock lock(m_state->mutex);
+        m_state->listeners.clear();
+        m_state->waitForCall(lock, m_state->calledListener);
+    }
+    startCleanup([state = m_state.get()] { state->session.reset(); });
+}
+
+void DeviceWorker::noteRemoval()
+{
+    m_state->isRemoved = true;
+    cancel();
+    // Under the lock, so that the thread is either waiting or yet to look.
+    {
+        const std::lock_guard lock(m_state->mutex);
+    }
+    m_state->wake.notify_all();
+}
+
+unsigned DeviceWorker::addListener(Listener listener)
+{
+    const std::lock_guard lock(m_state->mutex);
+    if (m_state->isRemoved)
+        return 0;
+    m_state->listeners.emplace(++m_state->lastListener, std::move(listener));
+    return m_state->lastListener;
+}
+
+bool DeviceWorker::removeListener(unsigned number)
+{
+    std::unique_lock lock(m_state->mutex);
+    const bool isKnown = m_state->listeners.erase(number) > 0;
+    m_state->waitForCall(lock, number);
+    return isKnown;
+}
+
+} // namespace devices

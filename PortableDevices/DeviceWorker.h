@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "PortableDevices/DeviceSession.h"
+#include "PortableDevices/GlibPointers.h"
+
+#include <functional>
+#include <future>
+#include <memory>
+
+namespace devices {
+
+/// The one thread of an open device. It runs every operation of the session in turn, notices the
+/// removal of the device, and tells the listeners about it.
+///
+/// All operations may be called from any thread, the listeners' calls included.
+class DeviceWorker
+{
+public:
+    using Task = std::function<HRESULT(DeviceSession& session, GCancellable* cancellable)>;
+    using Listener = std::function<void()>;
+
+    /// An operation that runs or waits for its turn.
+    struct Pending
+    {
+        std::future<HRESULT> result;
+        GPtr<GCancellable> cancellable; // ends this operation alone
+    };
+
+    explicit DeviceWorker(std::unique_ptr<DeviceSession> session);
+    DeviceWorker(const DeviceWorker&) = delete;
+    DeviceWorker& operator=(const DeviceWorker&) = delete;
+    /// Ends what runs, then the thread. No listener is called afterwards.
+    ~DeviceWorker();
+
+    /// Runs \a task and waits for its result: kCancelled after cancel(), kDeviceGone when the
+    /// device is or gets removed.
+    HRESULT run(Task task);
+    /// Runs \a task without waiting.
+    Pending start(Task task);
+    /// Runs \a cleanup even when the device is gone or closed; for what lives on its thread.
+    void startCleanup(std::function<void()> cleanup);
+
+    /// Ends the operations that run or wait.
+    void cancel();
+    /// Counts the ends of everything under way, through cancel() or the removal.
+    unsigned cancelCount() const;
+    /// S_OK when nothing was ended since cancelCount() gave \a count, else kDeviceGone or
+    /// kCancelled.
+    HRESULT resultSince(unsigned count) const;
+    /// Ends the session; every later operation gives kNotOpen.
+    void close();
+    /// Tells that the device was removed, when somebody else noticed.
+    void noteRemoval();
+
+    /// Calls \a listener once when the device is removed, from the device's thread. Gives its
+    /// number; 0 when the device is gone already.
+    unsigned addListener(Listener listener);
+    /// Returns false when there is no such listener. A call that is under way is waited for, except
+    /// by the listener itself; no call comes afterwards.
+    bool removeListener(unsigned number);
+
+private:
+    struct State;
+
+    const std::shared_ptr<State> m_state;
+};
+
+} // namespace devices

@@ -1,0 +1,333 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "PortableDevices/FileSession.h"
+
+#include "PortableDevices/MountWait.h"
+#include "PortableDevices/SpoolFile.h"
+#include "PortableDevices/WideText.h"
+
+#include <sys/stat.h>
+
+namespace devices {
+namespace {
+
+constexpr const char* kIdentity = G_FILE_ATTRIBUTE_ID_FILE "," G_FILE_ATTRIBUTE_STANDARD_TYPE;
+constexpr const char* kDescription = G_FILE_ATTRIBUTE_ID_FILE
+    "," G_FILE_ATTRIBUTE_STANDARD_TYPE "," G_FILE_ATTRIBUTE_STANDARD_NAME
+    "," G_FILE_ATTRIBUTE_STANDARD_DISPLAY_NAME "," G_FILE_ATTRIBUTE_STANDARD_SIZE
+    "," G_FILE_ATTRIBUTE_TIME_MODIFIED "," G_FILE_ATTRIBUTE_TIME_MODIFIED_USEC;
+// Links may lead in circles or off the device; they are left out.
+constexpr GFileQueryInfoFlags kNoLinks = G_FILE_QUERY_INFO_NOFOLLOW_SYMLINKS;
+
+// The root itself may well be one.
+GFileQueryInfoFlags LinkRule(const std::string& path)
+{
+    return path.empty() ? G_FILE_QUERY_INFO_NONE : kNoLinks;
+}
+
+class FileReader final : public DataReader
+{
+public:
+    explicit FileReader(GPtr<GInputStream> stream) : m_stream(std::move(stream)) {}
+
+    HRESULT read(void* buffer, std::uint32_t size, std::uint32_t& got,
+                 GCancellable* cancellable) override
+    {
+        GPtr<GError> error;
+        const gssize count =
+            g_input_stream_read(m_stream.get(), buffer, size, cancellable, ErrorOut(error));
+        got = count > 0 ? static_cast<std::uint32_t>(count) : 0;
+        return count < 0 ? FromGlibError(error.get()) : S_OK;
+    }
+    HRESULT seek(std::uint64_t position, GCancellable* cancellable) override
+    {
+        GPtr<GError> error;
+        GInputStream* stream = m_stream.get();
+        if (!G_IS_SEEKABLE(stream))
+            return kNotSupported;
+        const bool isDone = g_seekable_seek(G_SEEKABLE(stream), static_cast<goffset>(position),
+                                            G_SEEK_SET, cancellable, ErrorOut(error));
+        return isDone ? S_OK : FromGlibError(error.get());
+    }
+
+private:
+    GPtr<GInputStream> m_stream;
+};
+
+bool IsFolder(GFileInfo* info)
+{
+    return g_file_info_get_file_type(info) == G_FILE_TYPE_DIRECTORY;
+}
+
+// Anything else, such as a pipe, could block whoever opens it.
+bool IsListed(GFileInfo* info)
+{
+    return IsFolder(info) || g_file_info_get_file_type(info) == G_FILE_TYPE_REGULAR;
+}
+
+bool HasUpwardStep(const std::string& path)
+{
+    return ('/' + path + '/').find("/../") != std::string::npos;
+}
+
+std::string Escaped(const char* name)
+{
+    return GPtr<char>(g_uri_escape_string(name, ":", FALSE)).get();
+}
+
+} // namespace
+
+FileSession::FileSession(const std::string& uri, std::wstring name, bool hasStorages)
+    : m_root(g_file_new_for_uri(uri.c_str())), m_name(std::move(name)), m_hasStorages(hasStorages)
+{
+}
+
+HRESULT FileSession::open(GCancellable* cancellable)
+{
+    if (g_file_is_native(m_root.get())) {
+        if (!readRootIdentity(m_device, m_inode))
+            return kNotFound;
+    } else if (const HRESULT result = MountAndWait(m_root.get(), cancellable); FAILED(result)) {
+        return result;
+    }
+    GPtr<GError> error;
+    const GPtr<GFileInfo> info(g_file_query_info(m_root.get(), kIdentity, G_FILE_QUERY_INFO_NONE,
+                                                 cancellable, ErrorOut(error)));
+    if (!info)
+        return FromGlibError(error.get());
+    return IsFolder(info.get()) ? S_OK : kNotFound;
+}
+
+bool FileSession::readRootIdentity(dev_t& device, ino_t& inode) const
+{
+    struct stat status = {};
+    if (stat(g_file_peek_path(m_root.get()), &status) != 0)
+        return false;
+    device = status.st_dev;
+    inode = status.st_ino;
+    return true;
+}
+
+bool FileSession::isPresent(bool hasFailed)
+{
+    if (g_file_is_native(m_root.get())) {
+        // A folder that came back under the old name, or the bare mount point, is another one.
+        dev_t device = 0;
+        ino_t inode = 0;
+        return readRootIdentity(device, inode) && device == m_device && inode == m_inode;
+    }
+    if (!hasFailed)
+        return true;
+    GPtr<GError> error;
+    const GPtr<GFileInfo> info(g_file_query_info(m_root.get(), G_FILE_ATTRIBUTE_STANDARD_TYPE,
+                                                 kNoLinks, nullptr, ErrorOut(error)));
+    return info != nullptr;
+}
+
+GPtr<GFile> FileSession::fileAt(const std::string& path) const
+{
+    if (path.empty())
+        return Share(m_root.get());
+    const GPtr<char> plain(g_uri_unescape_string(path.c_str(), nullptr));
+    if (!plain || HasUpwardStep(plain.get()))
+        return nullptr;
+    return GPtr<GFile>(g_file_resolve_relative_path(m_root.get(), plain.get()));
+}
+
+std::wstring FileSession::idOf(GFileInfo* info, const std::string& path) const
+{
+    const char* id = g_file_info_get_attribute_string(info, G_FILE_ATTRIBUTE_ID_FILE);
+    return WideText((Escaped(id ? id : "") + '/' + path).c_str());
+}
+
+HRESULT FileSession::find(const std::wstring& id, Place& place, const char* attributes,
+                          GCancellable* cancellable) const
+{
+    const std::string text = Utf8Text(id.c_str());
+    const std::size_t slash = text.find('/');
+    if (slash == std::string::npos && id != kDeviceObject)
+        return kNotFound;
+    place.path = slash == std::string::npos ? "" : text.substr(slash + 1);
+    place.file = fileAt(place.path);
+    if (!place.file)
+        return kNotFound;
+    GPtr<GError> error;
+    place.info.reset(g_file_query_info(place.file.get(), attributes, LinkRule(place.path),
+                                       cancellable, ErrorOut(error)));
+    if (!place.info)
+        return FromGlibError(error.get());
+    const bool isSame = id == kDeviceObject || idOf(place.info.get(), place.path) == id;
+    return isSame && IsListed(place.info.get()) ? S_OK : kNotFound;
+}
+
+HRESULT FileSession::parentOf(const std::string& path, std::wstring& id,
+                              GCancellable* cancellable) const
+{
+    const std::size_t slash = path.rfind('/');
+    if (path.empty() || (m_hasStorages && slash == std::string::npos)) {
+        id = kDeviceObject;
+        return S_OK;
+    }
+    const std::string parent = slash == std::string::npos ? "" : path.substr(0, slash);
+    const GPtr<GFile> file = fileAt(parent);
+    GPtr<GError> error;
+    const GPtr<GFileInfo> info(
+        g_file_query_info(file.get(), kIdentity, LinkRule(parent), cancellable, ErrorOut(error)));
+    if (!info)
+        return FromGlibError(error.get());
+    id = idOf(info.get(), parent);
+    return S_OK;
+}
+
+ObjectInfo FileSession::infoOf(GFileInfo* info, const std::string& path) const
+{
+    ObjectInfo object;
+    object.id = idOf(info, path);
+    object.isComplete = true;
+    const bool isTop = path.find('/') == std::string::npos;
+    const bool isStorage = m_hasStorages ? isTop : path.empty();
+    object.kind = isStorage        ? ObjectKind::Storage
+                  : IsFolder(info) ? ObjectKind::Folder
+                                   : ObjectKind::File;
+    // A local file's display name tells about a name that is not valid; the name is enough.
+    const bool isLocal = g_file_is_native(m_root.get());
+    object.name = path.empty() ? m_name
+                               : WideText(isLocal ? g_file_info_get_name(info)
+                                                  : g_file_info_get_display_name(info));
+    if (object.kind == ObjectKind::File)
+        object.size = static_cast<std::uint64_t>(g_file_info_get_size(info));
+    const guint64 seconds = g_file_info_get_attribute_uint64(info, G_FILE_ATTRIBUTE_TIME_MODIFIED);
+    if (seconds > 0)
+        object.modified = AutomationDate(
+            static_cast<std::int64_t>(seconds),
+            g_file_info_get_attribute_uint32(info, G_FILE_ATTRIBUTE_TIME_MODIFIED_USEC));
+    return object;
+}
+
+HRESULT FileSession::describe(const std::wstring& id, ObjectInfo& info, GCancellable* cancellable)
+{
+    if (id == kDeviceObject) {
+        info = {};
+        info.id = id;
+        info.name = m_name;
+        info.kind = ObjectKind::Device;
+        info.isComplete = true;
+        return S_OK;
+    }
+    Place place;
+    if (const HRESULT result = find(id, place, kDescription, cancellable); FAILED(result))
+        return result;
+    info = infoOf(place.info.get(), place.path);
+    return parentOf(place.path, info.parentId, cancellable);
+}
+
+HRESULT FileSession::list(const std::wstring& parent, std::vector<ObjectInfo>& children,
+                          GCancellable* cancellable)
+{
+    Place place;
+    if (const HRESULT result = find(parent, place, kDescription, cancellable); FAILED(result))
+        return result;
+    if (parent == kDeviceObject && !m_hasStorages) {
+        children.push_back(infoOf(place.info.get(), ""));
+        children.back().parentId = kDeviceObject;
+        return S_OK;
+    }
+    if (!IsFolder(place.info.get()))
+        return S_OK;
+    GPtr<GError> error;
+    const GPtr<GFileEnumerator> files(g_file_enumerate_children(
+        place.file.get(), kDescription, kNoLinks, cancellable, ErrorOut(error)));
+    if (!files)
+        return FromGlibError(error.get());
+    const std::string prefix = place.path.empty() ? "" : place.path + '/';
+    while (const GPtr<GFileInfo> info{
+        g_file_enumerator_next_file(files.get(), cancellable, ErrorOut(error))}) {
+        if (!IsListed(info.get()))
+            continue;
+        children.push_back(infoOf(info.get(), prefix + Escaped(g_file_info_get_name(info.get()))));
+        children.back().parentId = parent;
+    }
+    return error ? FromGlibError(error.get()) : S_OK;
+}
+
+HRESULT FileSession::openData(const std::wstring& id, Resource resource,
+                              std::unique_ptr<DataReader>& reader, GCancellable* cancellable)
+{
+    Place place;
+    const std::string attributes = std::string(kIdentity) + "," G_FILE_ATTRIBUTE_PREVIEW_ICON;
+    if (const HRESULT result = find(id, place, attributes.c_str(), cancellable); FAILED(result))
+        return result;
+    if (IsFolder(place.info.get()))
+        return kNoElement;
+    GPtr<GError> error;
+    GPtr<GInputStream> stream;
+    if (resource == Resource::Thumbnail) {
+        GObject* icon =
+            g_file_info_get_attribute_object(place.info.get(), G_FILE_ATTRIBUTE_PREVIEW_ICON);
+        if (!G_IS_LOADABLE_ICON(icon))
+            return kNoElement;
+        stream.reset(g_loadable_icon_load(G_LOADABLE_ICON(icon), 256, nullptr, cancellable,
+                                          ErrorOut(error)));
+    } else {
+        stream.reset(G_INPUT_STREAM(g_file_read(place.file.get(), cancellable, ErrorOut(error))));
+        const bool isWhole = !stream && !g_file_is_native(place.file.get()) &&
+                             FromGlibError(error.get()) == kNotSupported;
+        if (isWhole)
+            return openWhole(place.file.get(), reader, cancellable);
+    }
+    if (!stream)
+        return FromGlibError(error.get());
+    reader = std::make_unique<FileReader>(std::move(stream));
+    return S_OK;
+}
+
+HRESULT FileSession::openWhole(GFile* file, std::unique_ptr<DataReader>& reader,
+                               GCancellable* cancellable) const
+{
+    std::unique_ptr<SpoolFile> spool = SpoolFile::create();
+    if (!spool)
+        return kDiskFull;
+    const GPtr<GFile> target(g_file_new_for_path(spool->path().c_str()));
+    GPtr<GError> error;
+    if (!g_file_copy(file, target.get(), G_FILE_COPY_OVERWRITE, cancellable, nullptr, nullptr,
+                     ErrorOut(error)))
+        return FromGlibError(error.get());
+    const HRESULT result = spool->startReading();
+    reader = std::move(spool);
+    return result;
+}
+
+HRESULT FileSession::checkIsEmpty(GFile* folder, GCancellable* cancellable) const
+{
+    GPtr<GError> error;
+    const GPtr<GFileEnumerator> files(g_file_enumerate_children(
+        folder, G_FILE_ATTRIBUTE_STANDARD_NAME, kNoLinks, cancellable, ErrorOut(error)));
+    if (!files)
+        return FromGlibError(error.get());
+    const GPtr<GFileInfo> first(
+        g_file_enumerator_next_file(files.get(), cancellable, ErrorOut(error)));
+    if (error)
+        return FromGlibError(error.get());
+    return first ? kNotEmpty : S_OK;
+}
+
+HRESULT FileSession::remove(const std::wstring& id, GCancellable* cancellable)
+{
+    Place place;
+    if (const HRESULT result = find(id, place, kIdentity, cancellable); FAILED(result))
+        return result;
+    const bool isTop = place.path.find('/') == std::string::npos;
+    if (place.path.empty() || (m_hasStorages && isTop))
+        return E_ACCESSDENIED;
+    // A phone takes everything below a folder with it.
+    if (IsFolder(place.info.get())) {
+        if (const HRESULT result = checkIsEmpty(place.file.get(), cancellable); FAILED(result))
+            return result;
+    }
+    GPtr<GError> error;
+    if (!g_file_delete(place.file.get(), cancellable, ErrorOut(error)))
+        return FromGlibError(error.get());
+    // A protected object stays although the device said that it went.
+    return SUCCEEDED(find(id, place, kIdentity, cancellable)) ? E_ACCESSDENIED : S_OK;
+}
+
+} // namespace devices

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "PortableDevices/DeviceSession.h"
+#include "PortableDevices/GlibPointers.h"
+
+#include <sys/types.h>
+
+namespace devices {
+
+/// A device whose content is reached as files: a folder, a mounted disk, a phone behind GVfs.
+///
+/// An object's identifier is the file's own ("id::file"), a slash, and its escaped path below the
+/// root. The path only leads to the file: whether it still is the same one is checked by the first
+/// part, since siblings on a phone may share a name and with it the path.
+class FileSession final : public DeviceSession
+{
+public:
+    /// \a uri is the root; \a hasStorages tells that the folders there are the device's storages.
+    /// Otherwise the root itself is the only storage.
+    FileSession(const std::string& uri, std::wstring name, bool hasStorages);
+
+    HRESULT open(GCancellable* cancellable) override;
+    bool isPresent(bool hasFailed) override;
+    HRESULT list(const std::wstring& parent, std::vector<ObjectInfo>& children,
+                 GCancellable* cancellable) override;
+    HRESULT describe(const std::wstring& id, ObjectInfo& info, GCancellable* cancellable) override;
+    HRESULT openData(const std::wstring& id, Resource resource, std::unique_ptr<DataReader>& reader,
+                     GCancellable* cancellable) override;
+    HRESULT remove(const std::wstring& id, GCancellable* cancellable) override;
+
+private:
+    // Where an identifier leads.
+    struct Place
+    {
+        std::string path; // escaped, below the root; empty for the root
+        GPtr<GFile> file;
+        GPtr<GFileInfo> info;
+    };
+
+    HRESULT find(const std::wstring& id, Place& place, const char* attributes,
+                 GCancellable* cancellable) const;
+    GPtr<GFile> fileAt(const std::string& path) const;
+    std::wstring idOf(GFileInfo* info, const std::string& path) const;
+    HRESULT parentOf(const std::string& path, std::wstring& id, GCancellable* cancellable) const;
+    ObjectInfo infoOf(GFileInfo* info, const std::string& path) const;
+    HRESULT openWhole(GFile* file, std::unique_ptr<DataReader>& reader,
+                      GCancellable* cancellable) const;
+    HRESULT checkIsEmpty(GFile* folder, GCancellable* cancellable) const;
+    bool readRootIdentity(dev_t& device, ino_t& inode) const;
+
+    GPtr<GFile> m_root;
+    std::wstring m_name;
+    bool m_hasStorages;
+    dev_t m_device = 0; // of a local root
+    ino_t m_inode = 0;
+};
+
+} // namespace devices

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "PortableDevices/ObjectResources.h"
+
+#include "PortableDevices/PropertyValues.h"
+#include "PortableDevices/ResourceStream.h"
+
+namespace devices {
+
+HRESULT ObjectResources::GetSupportedResources(LPCWSTR object, IPortableDeviceKeyCollection** keys)
+{
+    if (!object || !keys)
+        return E_POINTER;
+    *keys = nullptr;
+    ObjectInfo info;
+    if (const HRESULT result = m_device->describe(object, info); FAILED(result))
+        return result;
+    const auto known = MakeCom<KeyCollection>();
+    if (info.kind == ObjectKind::File) {
+        known->Add(Wpd::WPD_RESOURCE_DEFAULT);
+        // Whether there is one shows only when it is asked for.
+        known->Add(Wpd::WPD_RESOURCE_THUMBNAIL);
+    }
+    return NLEComPtr<IPortableDeviceKeyCollection>(known).copyTo(keys);
+}
+
+HRESULT ObjectResources::GetResourceAttributes(LPCWSTR /*object*/, REFPROPERTYKEY /*key*/,
+                                               IPortableDeviceValues** attributes)
+{
+    GiveValue<IPortableDeviceValues*>(attributes, nullptr);
+    return E_NOTIMPL;
+}
+
+HRESULT ObjectResources::GetStream(LPCWSTR object, REFPROPERTYKEY key, const DWORD mode,
+                                   DWORD* optimalBufferSize, IStream** out)
+{
+    if (!object || !out)
+        return E_POINTER;
+    *out = nullptr;
+    if (mode != STGM_READ)
+        return E_ACCESSDENIED;
+    const bool isData = key == Wpd::WPD_RESOURCE_DEFAULT;
+    if (!isData && key != Wpd::WPD_RESOURCE_THUMBNAIL)
+        return kNoElement;
+    if (optimalBufferSize)
+        *optimalBufferSize = kTransferSize;
+    return ResourceStream::open(m_device, object, isData ? Resource::Data : Resource::Thumbnail,
+                                out);
+}
+
+HRESULT ObjectResources::Delete(LPCWSTR /*object*/, IPortableDeviceKeyCollection* /*keys*/)
+{
+    return E_ACCESSDENIED;
+}
+
+HRESULT ObjectResources::Cancel()
+{
+    m_device->worker().cancel();
+    return S_OK;
+}
+
+HRESULT ObjectResources::CreateResource(IPortableDeviceValues* /*attributes*/, IStream** /*out*/,
+                                        DWORD* /*optimalBufferSize*/, LPWSTR* /*cookie*/)
+{
+    return E_NOTIMPL;
+}
+
+} // namespace devices

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "PortableDevices/OpenDevice.h"
+
+namespace devices {
+namespace {
+
+HRESULT RemoveTree(DeviceSession& session, const std::wstring& id, GCancellable* cancellable)
+{
+    std::vector<ObjectInfo> children;
+    if (const HRESULT result = session.list(id, children, cancellable); FAILED(result))
+        return result;
+    for (const ObjectInfo& child : children) {
+        if (const HRESULT result = RemoveTree(session, child.id, cancellable); FAILED(result))
+            return result;
+    }
+    return session.remove(id, cancellable);
+}
+
+} // namespace
+
+OpenDevice::OpenDevice(std::wstring id, std::unique_ptr<DeviceSession> session)
+    : m_id(std::move(id)), m_worker(std::move(session))
+{
+}
+
+HRESULT OpenDevice::list(const std::wstring& parent, std::vector<std::wstring>& children)
+{
+    std::vector<ObjectInfo> infos;
+    const HRESULT result = m_worker.run([&](DeviceSession& session, GCancellable* cancellable) {
+        return session.list(parent, infos, cancellable);
+    });
+    if (FAILED(result))
+        return result;
+    children.reserve(infos.size());
+    const std::lock_guard lock(m_mutex);
+    for (ObjectInfo& info : infos) {
+        children.push_back(info.id);
+        if (info.isComplete)
+            m_known.insert_or_assign(info.id, std::move(info));
+    }
+    return S_OK;
+}
+
+bool OpenDevice::takeKnown(const std::wstring& id, ObjectInfo& info)
+{
+    const std::lock_guard lock(m_mutex);
+    const auto known = m_known.find(id);
+    if (known == m_known.end())
+        return false;
+    info = std::move(known->second);
+    m_known.erase(known);
+    return true;
+}
+
+HRESULT OpenDevice::describe(const std::wstring& id, ObjectInfo& info)
+{
+    if (takeKnown(id, info))
+        return S_OK;
+    return m_worker.run([&](DeviceSession& session, GCancellable* cancellable) {
+        return session.describe(id, info, cancellable);
+    });
+}
+
+HRESULT OpenDevice::remove(const std::wstring& id, bool isRecursive)
+{
+    ObjectInfo forgotten;
+    takeKnown(id, forgotten);
+    return m_worker.run([&](DeviceSession& session, GCancellable* cancellable) {
+        return isRecursive ? RemoveTree(session, id, cancellable) : session.remove(id, cancellable);
+    });
+}
+
+} // namespace devices

@@ -1,0 +1,511 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "PortableDevices/PropertyValues.h"
+
+#include "PortableDevices/Results.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace devices {
+namespace {
+
+constexpr HRESULT kWrongType = FromSystemError(1629);
+
+void* TaskCopy(const void* data, std::size_t bytes)
+{
+    void* const copy = CoTaskMemAlloc(bytes);
+    if (copy && bytes > 0)
+        std::memcpy(copy, data, bytes);
+    return copy;
+}
+
+template <typename T>
+Variant Scalar(VARTYPE type, T PROPVARIANT::*member, T value)
+{
+    Variant variant;
+    variant.put()->vt = type;
+    variant.put()->*member = value;
+    return variant;
+}
+
+Variant Bytes(const void* data, DWORD bytes)
+{
+    Variant variant;
+    variant.put()->vt = VT_VECTOR | VT_UI1;
+    variant.put()->caub = {bytes, static_cast<BYTE*>(TaskCopy(data, bytes))};
+    return variant;
+}
+
+} // namespace
+
+LPWSTR TaskText(const wchar_t* text)
+{
+    return static_cast<LPWSTR>(TaskCopy(text, (std::wcslen(text) + 1) * sizeof(wchar_t)));
+}
+
+Variant Variant::text(const wchar_t* text)
+{
+    return Scalar(VT_LPWSTR, &PROPVARIANT::pwszVal, TaskText(text));
+}
+
+Variant Variant::identifier(REFGUID id)
+{
+    return Scalar(VT_CLSID, &PROPVARIANT::puuid, static_cast<GUID*>(TaskCopy(&id, sizeof(id))));
+}
+
+Variant Variant::date(DATE date)
+{
+    return Scalar(VT_DATE, &PROPVARIANT::date, date);
+}
+
+Variant Variant::size(ULONGLONG size)
+{
+    return Scalar(VT_UI8, &PROPVARIANT::uhVal, ULARGE_INTEGER{size});
+}
+
+Variant Variant::error(HRESULT error)
+{
+    return Scalar(VT_ERROR, &PROPVARIANT::scode, SCODE{error});
+}
+
+const PropertyValues::Entry* PropertyValues::find(REFPROPERTYKEY key) const
+{
+    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
+                                    [&key](const Entry& entry) { return entry.first == key; });
+    return found == m_entries.end() ? nullptr : &*found;
+}
+
+void PropertyValues::store(REFPROPERTYKEY key, Variant value)
+{
+    const std::lock_guard lock(m_mutex);
+    if (const Entry* known = find(key))
+        std::swap(m_entries[static_cast<std::size_t>(known - m_entries.data())].second, value);
+    else
+        m_entries.emplace_back(key, std::move(value));
+}
+
+HRESULT PropertyValues::copyOf(REFPROPERTYKEY key, VARTYPE type, Variant& copy) const
+{
+    const std::lock_guard lock(m_mutex);
+    const Entry* entry = find(key);
+    if (!entry)
+        return kNoElement;
+    if (entry->second.get().vt != type)
+        return kWrongType;
+    return PropVariantCopy(copy.put(), &entry->second.get());
+}
+
+template <typename T>
+HRESULT PropertyValues::setScalar(REFPROPERTYKEY key, VARTYPE type, T PROPVARIANT::*member, T value)
+{
+    store(key, Scalar(type, member, value));
+    return S_OK;
+}
+
+template <typename T, typename Out>
+HRESULT PropertyValues::getScalar(REFPROPERTYKEY key, VARTYPE type, T PROPVARIANT::*member,
+                                  Out* out) const
+{
+    if (!out)
+        return E_POINTER;
+    *out = {};
+    Variant copy;
+    const HRESULT result = copyOf(key, type, copy);
+    if (SUCCEEDED(result))
+        std::memcpy(out, &(copy.get().*member), sizeof(Out));
+    return result;
+}
+
+HRESULT PropertyValues::setObject(REFPROPERTYKEY key, IUnknown* value)
+{
+    if (value)
+        value->AddRef();
+    return setScalar(key, VT_UNKNOWN, &PROPVARIANT::punkVal, value);
+}
+
+template <typename Interface>
+HRESULT PropertyValues::getObject(REFPROPERTYKEY key, Interface** out) const
+{
+    if (!out)
+        return E_POINTER;
+    *out = nullptr;
+    Variant copy;
+    if (const HRESULT result = copyOf(key, VT_UNKNOWN, copy); FAILED(result))
+        return result;
+    IUnknown* object = copy.get().punkVal;
+    return object ? object->QueryInterface(InterfaceId<Interface>(), reinterpret_cast<void**>(out))
+                  : S_OK;
+}
+
+HRESULT PropertyValues::GetCount(DWORD* count)
+{
+    const std::lock_guard lock(m_mutex);
+    return GiveValue(count, static_cast<DWORD>(m_entries.size()));
+}
+
+HRESULT PropertyValues::GetAt(const DWORD index, PROPERTYKEY* key, PROPVARIANT* value)
+{
+    const std::lock_guard lock(m_mutex);
+    if (index >= m_entries.size())
+        return E_INVALIDARG;
+    if (key)
+        *key = m_entries[index].first;
+    return value ? PropVariantCopy(value, &m_entries[index].second.get()) : S_OK;
+}
+
+HRESULT PropertyValues::SetValue(REFPROPERTYKEY key, const PROPVARIANT* value)
+{
+    if (!value)
+        return E_POINTER;
+    store(key, Variant(*value));
+    return S_OK;
+}
+
+HRESULT PropertyValues::GetValue(REFPROPERTYKEY key, PROPVARIANT* value)
+{
+    if (!value)
+        return E_POINTER;
+    PropVariantInit(value);
+    const std::lock_guard lock(m_mutex);
+    const Entry* entry = find(key);
+    return entry ? PropVariantCopy(value, &entry->second.get()) : kNoElement;
+}
+
+HRESULT PropertyValues::SetStringValue(REFPROPERTYKEY key, LPCWSTR value)
+{
+    if (!value)
+        return E_POINTER;
+    store(key, Variant::text(value));
+    return S_OK;
+}
+
+HRESULT PropertyValues::GetStringValue(REFPROPERTYKEY key, LPWSTR* value)
+{
+    if (!value)
+        return E_POINTER;
+    *value = nullptr;
+    Variant copy;
+    const HRESULT result = copyOf(key, VT_LPWSTR, copy);
+    if (SUCCEEDED(result))
+        std::swap(*value, copy.put()->pwszVal);
+    return result;
+}
+
+HRESULT PropertyValues::SetUnsignedIntegerValue(REFPROPERTYKEY key, const ULONG value)
+{
+    return setScalar(key, VT_UI4, &PROPVARIANT::ulVal, ULONG{value});
+}
+
+HRESULT PropertyValues::GetUnsignedIntegerValue(REFPROPERTYKEY key, ULONG* value)
+{
+    return getScalar(key, VT_UI4, &PROPVARIANT::ulVal, value);
+}
+
+HRESULT PropertyValues::SetSignedIntegerValue(REFPROPERTYKEY key, const LONG value)
+{
+    return setScalar(key, VT_I4, &PROPVARIANT::lVal, LONG{value});
+}
+
+HRESULT PropertyValues::GetSignedIntegerValue(REFPROPERTYKEY key, LONG* value)
+{
+    return getScalar(key, VT_I4, &PROPVARIANT::lVal, value);
+}
+
+HRESULT PropertyValues::SetUnsignedLargeIntegerValue(REFPROPERTYKEY key, const ULONGLONG value)
+{
+    return setScalar(key, VT_UI8, &PROPVARIANT::uhVal, ULARGE_INTEGER{value});
+}
+
+HRESULT PropertyValues::GetUnsignedLargeIntegerValue(REFPROPERTYKEY key, ULONGLONG* value)
+{
+    return getScalar(key, VT_UI8, &PROPVARIANT::uhVal, value);
+}
+
+HRESULT PropertyValues::SetSignedLargeIntegerValue(REFPROPERTYKEY key, const LONGLONG value)
+{
+    return setScalar(key, VT_I8, &PROPVARIANT::hVal, LARGE_INTEGER{value});
+}
+
+HRESULT PropertyValues::GetSignedLargeIntegerValue(REFPROPERTYKEY key, LONGLONG* value)
+{
+    return getScalar(key, VT_I8, &PROPVARIANT::hVal, value);
+}
+
+HRESULT PropertyValues::SetFloatValue(REFPROPERTYKEY key, const FLOAT value)
+{
+    return setScalar(key, VT_R4, &PROPVARIANT::fltVal, FLOAT{value});
+}
+
+HRESULT PropertyValues::GetFloatValue(REFPROPERTYKEY key, FLOAT* value)
+{
+    return getScalar(key, VT_R4, &PROPVARIANT::fltVal, value);
+}
+
+HRESULT PropertyValues::SetErrorValue(REFPROPERTYKEY key, const HRESULT value)
+{
+    return setScalar(key, VT_ERROR, &PROPVARIANT::scode, SCODE{value});
+}
+
+HRESULT PropertyValues::GetErrorValue(REFPROPERTYKEY key, HRESULT* value)
+{
+    return getScalar(key, VT_ERROR, &PROPVARIANT::scode, value);
+}
+
+HRESULT PropertyValues::SetKeyValue(REFPROPERTYKEY key, REFPROPERTYKEY value)
+{
+    store(key, Bytes(&value, sizeof(value)));
+    return S_OK;
+}
+
+HRESULT PropertyValues::GetKeyValue(REFPROPERTYKEY key, PROPERTYKEY* value)
+{
+    if (!value)
+        return E_POINTER;
+    *value = {};
+    Variant copy;
+    if (const HRESULT result = copyOf(key, VT_VECTOR | VT_UI1, copy); FAILED(result))
+        return result;
+    if (copy.get().caub.cElems != sizeof(*value))
+        return kWrongType;
+    std::memcpy(value, copy.get().caub.pElems, sizeof(*value));
+    return S_OK;
+}
+
+HRESULT PropertyValues::SetBoolValue(REFPROPERTYKEY key, const BOOL value)
+{
+    return setScalar(key, VT_BOOL, &PROPVARIANT::boolVal, value ? VARIANT_TRUE : VARIANT_FALSE);
+}
+
+HRESULT PropertyValues::GetBoolValue(REFPROPERTYKEY key, BOOL* value)
+{
+    VARIANT_BOOL stored = VARIANT_FALSE;
+    const HRESULT result = getScalar(key, VT_BOOL, &PROPVARIANT::boolVal, &stored);
+    return SUCCEEDED(result) ? GiveValue(value, BOOL{stored != VARIANT_FALSE}) : result;
+}
+
+HRESULT PropertyValues::SetIUnknownValue(REFPROPERTYKEY key, IUnknown* value)
+{
+    return setObject(key, value);
+}
+
+HRESULT PropertyValues::GetIUnknownValue(REFPROPERTYKEY key, IUnknown** value)
+{
+    return getObject(key, value);
+}
+
+HRESULT PropertyValues::SetGuidValue(REFPROPERTYKEY key, REFGUID value)
+{
+    store(key, Variant::identifier(value));
+    return S_OK;
+}
+
+HRESULT PropertyValues::GetGuidValue(REFPROPERTYKEY key, GUID* value)
+{
+    if (!value)
+        return E_POINTER;
+    *value = {};
+    Variant copy;
+    const HRESULT result = copyOf(key, VT_CLSID, copy);
+    if (SUCCEEDED(result))
+        *value = *copy.get().puuid;
+    return result;
+}
+
+HRESULT PropertyValues::SetBufferValue(REFPROPERTYKEY key, BYTE* value, DWORD bytes)
+{
+    if (!value && bytes > 0)
+        return E_POINTER;
+    store(key, Bytes(value, bytes));
+    return S_OK;
+}
+
+HRESULT PropertyValues::GetBufferValue(REFPROPERTYKEY key, BYTE** value, DWORD* bytes)
+{
+    if (!value || !bytes)
+        return E_POINTER;
+    *value = nullptr;
+    *bytes = 0;
+    Variant copy;
+    const HRESULT result = copyOf(key, VT_VECTOR | VT_UI1, copy);
+    if (SUCCEEDED(result)) {
+        *bytes = copy.get().caub.cElems;
+        std::swap(*value, copy.put()->caub.pElems);
+    }
+    return result;
+}
+
+HRESULT PropertyValues::SetIPortableDeviceValuesValue(REFPROPERTYKEY key,
+                                                      IPortableDeviceValues* value)
+{
+    return setObject(key, value);
+}
+
+HRESULT PropertyValues::GetIPortableDeviceValuesValue(REFPROPERTYKEY key,
+                                                      IPortableDeviceValues** value)
+{
+    return getObject(key, value);
+}
+
+HRESULT PropertyValues::SetIPortableDevicePropVariantCollectionValue(
+    REFPROPERTYKEY key, IPortableDevicePropVariantCollection* value)
+{
+    return setObject(key, value);
+}
+
+HRESULT PropertyValues::GetIPortableDevicePropVariantCollectionValue(
+    REFPROPERTYKEY key, IPortableDevicePropVariantCollection** value)
+{
+    return getObject(key, value);
+}
+
+HRESULT PropertyValues::SetIPortableDeviceKeyCollectionValue(REFPROPERTYKEY key,
+                                                             IPortableDeviceKeyCollection* value)
+{
+    return setObject(key, value);
+}
+
+HRESULT PropertyValues::GetIPortableDeviceKeyCollectionValue(REFPROPERTYKEY key,
+                                                             IPortableDeviceKeyCollection** value)
+{
+    return getObject(key, value);
+}
+
+HRESULT
+PropertyValues::SetIPortableDeviceValuesCollectionValue(REFPROPERTYKEY /*key*/,
+                                                        IPortableDeviceValuesCollection* /*value*/)
+{
+    return E_NOTIMPL; // the service makes no such collections
+}
+
+HRESULT
+PropertyValues::GetIPortableDeviceValuesCollectionValue(REFPROPERTYKEY /*key*/,
+                                                        IPortableDeviceValuesCollection** value)
+{
+    GiveValue<IPortableDeviceValuesCollection*>(value, nullptr);
+    return E_NOTIMPL;
+}
+
+HRESULT PropertyValues::RemoveValue(REFPROPERTYKEY key)
+{
+    const std::lock_guard lock(m_mutex);
+    const Entry* entry = find(key);
+    if (!entry)
+        return kNoElement;
+    m_entries.erase(m_entries.begin() + (entry - m_entries.data()));
+    return S_OK;
+}
+
+HRESULT PropertyValues::CopyValuesFromPropertyStore(IPropertyStore* /*store*/)
+{
+    return E_NOTIMPL;
+}
+
+HRESULT PropertyValues::CopyValuesToPropertyStore(IPropertyStore* /*store*/)
+{
+    return E_NOTIMPL;
+}
+
+HRESULT PropertyValues::Clear()
+{
+    std::vector<Entry> old; // ends outside the lock: objects in it may come back here
+    const std::lock_guard lock(m_mutex);
+    m_entries.swap(old);
+    return S_OK;
+}
+
+HRESULT KeyCollection::GetCount(DWORD* count)
+{
+    const std::lock_guard lock(m_mutex);
+    return GiveValue(count, static_cast<DWORD>(m_keys.size()));
+}
+
+HRESULT KeyCollection::GetAt(const DWORD index, PROPERTYKEY* key)
+{
+    const std::lock_guard lock(m_mutex);
+    return index < m_keys.size() ? GiveValue(key, m_keys[index]) : E_INVALIDARG;
+}
+
+HRESULT KeyCollection::Add(REFPROPERTYKEY key)
+{
+    const std::lock_guard lock(m_mutex);
+    m_keys.push_back(key);
+    return S_OK;
+}
+
+HRESULT KeyCollection::Clear()
+{
+    const std::lock_guard lock(m_mutex);
+    m_keys.clear();
+    return S_OK;
+}
+
+HRESULT KeyCollection::RemoveAt(const DWORD index)
+{
+    const std::lock_guard lock(m_mutex);
+    if (index >= m_keys.size())
+        return E_INVALIDARG;
+    m_keys.erase(m_keys.begin() + index);
+    return S_OK;
+}
+
+HRESULT VariantCollection::GetCount(DWORD* count)
+{
+    const std::lock_guard lock(m_mutex);
+    return GiveValue(count, static_cast<DWORD>(m_values.size()));
+}
+
+HRESULT VariantCollection::GetAt(const DWORD index, PROPVARIANT* value)
+{
+    if (!value)
+        return E_POINTER;
+    PropVariantInit(value);
+    const std::lock_guard lock(m_mutex);
+    return index < m_values.size() ? PropVariantCopy(value, &m_values[index].get()) : E_INVALIDARG;
+}
+
+HRESULT VariantCollection::Add(const PROPVARIANT* value)
+{
+    if (!value)
+        return E_POINTER;
+    const std::lock_guard lock(m_mutex);
+    if (m_type != VT_EMPTY && value->vt != m_type)
+        return E_INVALIDARG;
+    m_type = value->vt;
+    m_values.emplace_back(*value);
+    return S_OK;
+}
+
+HRESULT VariantCollection::GetType(VARTYPE* type)
+{
+    const std::lock_guard lock(m_mutex);
+    return GiveValue(type, m_type);
+}
+
+HRESULT VariantCollection::ChangeType(const VARTYPE type)
+{
+    const std::lock_guard lock(m_mutex);
+    if (!m_values.empty())
+        return E_NOTIMPL;
+    m_type = type;
+    return S_OK;
+}
+
+HRESULT VariantCollection::Clear()
+{
+    std::vector<Variant> old; // ends outside the lock, as above
+    const std::lock_guard lock(m_mutex);
+    m_values.swap(old);
+    m_type = VT_EMPTY;
+    return S_OK;
+}
+
+HRESULT VariantCollection::RemoveAt(const DWORD index)
+{
+    const std::lock_guard lock(m_mutex);
+    if (index >= m_values.size())
+        return E_INVALIDARG;
+    m_values.erase(m_values.begin() + index);
+    return S_OK;
+}
+
+} // namespace devices

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "PortableDevices/ResourceStream.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace devices {
+
+HRESULT ResourceStream::open(std::shared_ptr<OpenDevice> device, const std::wstring& id,
+                             Resource resource, IStream** out)
+{
+    OpenDevice& opened = *device;
+    const NLEComPtr<ResourceStream> stream = MakeCom<ResourceStream>(std::move(device));
+    const std::shared_ptr<Source> source = stream->m_source;
+    const HRESULT result =
+        opened.worker().run([&](DeviceSession& session, GCancellable* cancellable) {
+            return session.openData(id, resource, source->reader, cancellable);
+        });
+    if (FAILED(result))
+        return result;
+    source->buffer.resize(kTransferSize);
+    stream->startStep();
+    return NLEComPtr<IStream>(stream).copyTo(out);
+}
+
+ResourceStream::ResourceStream(std::shared_ptr<OpenDevice> device)
+    : m_device(std::move(device)), m_cancelCount(m_device->worker().cancelCount())
+{
+}
+
+ResourceStream::~ResourceStream()
+{
+    if (m_step.cancellable)
+        g_cancellable_cancel(m_step.cancellable.get());
+    m_device->worker().startCleanup([source = m_source] { source->reader.reset(); });
+}
+
+HRESULT ResourceStream::QueryInterface(REFIID iid, void** out)
+{
+    const bool isBase = iid == InterfaceId<ISequentialStream>();
+    return ComObject::QueryInterface(isBase ? InterfaceId<IStream>() : iid, out);
+}
+
+void ResourceStream::startStep()
+{
+    m_taken = 0;
+    m_step = m_device->worker().start(
+        [source = m_source](DeviceSession& /*session*/, GCancellable* cancellable) {
+            source->filled = 0;
+            return source->reader->read(source->buffer.data(), kTransferSize, source->filled,
+                                        cancellable);
+        });
+}
+
+HRESULT ResourceStream::finishStep()
+{
+    const HRESULT result = m_step.result.get();
+    m_step = {};
+    return result;
+}
+
+void ResourceStream::dropStep()
+{
+    if (!m_step.result.valid())
+        return;
+    g_cancellable_cancel(m_step.cancellable.get());
+    finishStep();
+}
+
+HRESULT ResourceStream::Read(void* data, ULONG count, ULONG* read)
+{
+    if (read)
+        *read = 0;
+    if (!data)
+        return E_POINTER;
+    const std::lock_guard lock(m_mutex);
+    if (FAILED(m_failure))
+        return m_failure;
+    if (m_step.result.valid())
+        m_failure = finishStep();
+    if (SUCCEEDED(m_failure))
+        m_failure = m_device->worker().resultSince(m_cancelCount);
+    if (FAILED(m_failure))
+        return m_failure;
+    const ULONG taken = std::min(count, m_source->filled - m_taken);
+    std::memcpy(data, m_source->buffer.data() + m_taken, taken);
+    m_taken += taken;
+    m_position += taken;
+    if (read)
+        *read = taken;
+    // An empty step was the end; there is nothing more to ask for.
+    if (m_taken == m_source->filled && m_source->filled > 0)
+        startStep();
+    return taken > 0 || count == 0 ? S_OK : S_FALSE;
+}
+
+HRESULT ResourceStream::Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER* position)
+{
+    const std::lock_guard lock(m_mutex);
+    if (FAILED(m_failure))
+        return m_failure;
+    if (origin > 1)
+        return STG_E_INVALIDFUNCTION;
+    const std::int64_t base = origin == 0 ? 0 : static_cast<std::int64_t>(m_position);
+    const std::int64_t target = base + move.QuadPart;
+    if (target < 0)
+        return STG_E_INVALIDFUNCTION;
+    if (static_cast<std::uint64_t>(target) != m_position) {
+        dropStep();
+        const HRESULT result =
+            m_device->worker().run([&](DeviceSession& /*session*/, GCancellable* cancellable) {
+                return m_source->reader->seek(static_cast<std::uint64_t>(target), cancellable);
+            });
+        if (FAILED(result))
+            return m_failure = result;
+        m_position = static_cast<std::uint64_t>(target);
+        startStep();
+    }
+    if (position)
+        position->QuadPart = m_position;
+    return S_OK;
+}
+
+HRESULT ResourceStream::Write(const void* /*data*/, ULONG /*count*/, ULONG* written)
+{
+    if (written)
+        *written = 0;
+    return STG_E_ACCESSDENIED;
+}
+
+HRESULT ResourceStream::SetSize(ULARGE_INTEGER /*size*/)
+{
+    return STG_E_ACCESSDENIED;
+}
+
+HRESULT ResourceStream::CopyTo(IStream* /*target*/, ULARGE_INTEGER /*count*/,
+                               ULARGE_INTEGER* /*read*/, ULARGE_INTEGER* /*written*/)
+{
+    return E_NOTIMPL;
+}
+
+HRESULT ResourceStream::Commit(DWORD /*flags*/)
+{
+    return S_OK;
+}
+
+HRESULT ResourceStream::Revert()
+{
+    return E_NOTIMPL;
+}
+
+HRESULT ResourceStream::LockRegion(ULARGE_INTEGER /*offset*/, ULARGE_INTEGER /*count*/,
+                                   DWORD /*type*/)
+{
+    return STG_E_INVALIDFUNCTION;
+}
+
+HRESULT ResourceStream::UnlockRegion(ULARGE_INTEGER /*offset*/, ULARGE_INTEGER /*count*/,
+                                     DWORD /*type*/)
+{
+    return STG_E_INVALIDFUNCTION;
+}
+
+HRESULT ResourceStream::Stat(STATSTG* /*out*/, DWORD /*flags*/)
+{
+    return E_NOTIMPL;
+}
+
+HRESULT ResourceStream::Clone(IStream** out)
+{
+    GiveValue<IStream*>(out, nullptr);
+    return E_NOTIMPL;
+}
+
+} // namespace devices

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "EngineApi/ComObject.h"
+#include "PortableDevices/OpenDevice.h"
+#include "PortableDevices/api/PropertyTypes.h"
+
+#include <mutex>
+
+namespace devices {
+
+/// Read-only stream over an object's data. The device reads the next piece while the caller writes
+/// the last one away, so each stream holds one buffer of kTransferSize beside the caller's.
+///
+/// Once a read has failed, every later one fails the same way.
+class ResourceStream final : public ComObject<IStream>
+{
+public:
+    /// Opens \a resource of the object \a id.
+    static HRESULT open(std::shared_ptr<OpenDevice> device, const std::wstring& id,
+                        Resource resource, IStream** out);
+
+    HRESULT QueryInterface(REFIID iid, void** out) override;
+
+    HRESULT Read(void* data, ULONG count, ULONG* read) override;
+    HRESULT Write(const void* data, ULONG count, ULONG* written) override;
+    /// Relative to the start or the current position; there is no known end to count from.
+    HRESULT Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER* position) override;
+    HRESULT SetSize(ULARGE_INTEGER size) override;
+    HRESULT CopyTo(IStream* target, ULARGE_INTEGER count, ULARGE_INTEGER* read,
+                   ULARGE_INTEGER* written) override;
+    HRESULT Commit(DWORD flags) override;
+    HRESULT Revert() override;
+    HRESULT LockRegion(ULARGE_INTEGER offset, ULARGE_INTEGER count, DWORD type) override;
+    HRESULT UnlockRegion(ULARGE_INTEGER offset, ULARGE_INTEGER count, DWORD type) override;
+    HRESULT Stat(STATSTG* out, DWORD flags) override;
+    HRESULT Clone(IStream** out) override;
+
+    explicit ResourceStream(std::shared_ptr<OpenDevice> device);
+
+protected:
+    ~ResourceStream() override;
+
+private:
+    // What the device's thread works on while a step is under way.
+    struct Source
+    {
+        std::unique_ptr<DataReader> reader;
+        std::vector<char> buffer;
+        std::uint32_t filled = 0;
+    };
+
+    void startStep();
+    HRESULT finishStep();
+    void dropStep();
+
+    std::shared_ptr<OpenDevice> m_device;
+    const std::shared_ptr<Source> m_source = std::make_shared<Source>();
+    const unsigned m_cancelCount;
+    std::mutex m_mutex; // guards what follows
+    DeviceWorker::Pending m_step;
+    std::uint32_t m_taken = 0; // of the buffer
+    std::uint64_t m_position = 0;
+    HRESULT m_failure = S_OK;
+};
+
+} // namespace devices

@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// The portable-device service through its published interfaces.
+#include "tests/support/DeviceClient.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QThread>
+#include <QtTest>
+
+#include <atomic>
+#include <mutex>
+#include <thread>
+
+using DeviceClient::Device;
+using DeviceClient::Object;
+
+namespace {
+
+constexpr auto kGone = static_cast<HRESULT>(0x8007048F);      // the device was removed
+constexpr auto kCancelled = static_cast<HRESULT>(0x800704C7); // ended by Cancel
+constexpr auto kNotFound = static_cast<HRESULT>(0x80070002);
+constexpr auto kNotEmpty = static_cast<HRESULT>(0x80070091);
+constexpr auto kNoElement = static_cast<HRESULT>(0x80070490);
+
+// Counts the removals that it hears of.
+class Listener final : public ComObject<IPortableDeviceEventCallback>
+{
+public:
+    HRESULT OnEvent(IPortableDeviceValues* event) override
+    {
+        GUID id = {};
+        LPWSTR text = nullptr;
+        event->GetGuidValue(Wpd::WPD_EVENT_PARAMETER_EVENT_ID, &id);
+        event->GetStringValue(Wpd::WPD_EVENT_PARAMETER_PNP_DEVICE_ID, &text);
+        deviceId = DeviceClient::Take(text);
+        isOwnThread = QThread::currentThread() != QCoreApplication::instance()->thread();
+        if (id == Wpd::WPD_EVENT_DEVICE_REMOVED)
+            ++removals;
+        return S_OK;
+    }
+
+    std::atomic<int> removals{0};
+    std::atomic<bool> isOwnThread{false};
+    QString deviceId; // read only after a removal was counted
+};
+
+QString Advise(const Device& device, Listener* listener)
+{
+    LPWSTR cookie = nullptr;
+    device.device->Advise(0, listener, nullptr, &cookie);
+    return DeviceClient::Take(cookie);
+}
+
+} // namespace
+
+class TestPortableDevices : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    QString Path(const QString& name) const { return m_folder->filePath(name); }
+    QString FolderId(const QString& name) const
+    {
+        return QString::fromLatin1(QUrl::fromLocalFile(Path(name)).toEncoded());
+    }
+    // Bytes that tell where they belong.
+    void Write(const QString& name, qint64 size) const
+    {
+        QFile file(Path(name));
+        QVERIFY(QDir().mkpath(QFileInfo(file).path()) && file.open(QIODevice::WriteOnly));
+        QByteArray block(1 << 20, 0);
+        for (qint64 at = 0; at < size; at += block.size()) {
+            for (int i = 0; i < block.size(); i += 8)
+                *reinterpret_cast<qint64*>(block.data() + i) = at + i;
+            file.write(block.left(static_cast<int>(qMin<qint64>(block.size(), size - at))));
+        }
+    }
+    QByteArray Hash(const QString& name) const
+    {
+        QFile file(Path(name));
+        QCryptographicHash sum(QCryptographicHash::Md5);
+        return file.open(QIODevice::ReadOnly) && sum.addData(&file) ? sum.result() : QByteArray();
+    }
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QDir(m_folder->path()).mkpath("card");
+        qputenv("COMMONLIB_DEVICE_FOLDERS", QFile::encodeName(Path("card") + ":" + Path("none")));
+    }
+
+    void folders()
+    {
+        const auto devices = DeviceClient::Devices();
+        QCOMPARE(devices.value(FolderId("card")), QString("card"));
+        QVERIFY(!devices.contains(FolderId("none")));
+        QCOMPARE(Device(FolderId("none")).result, kNotFound);
+        qunsetenv("COMMONLIB_DEVICE_FOLDERS");
+        QVERIFY(!DeviceClient::Devices().contains(FolderId("card")));
+    }
+
+    void walk()
+    {
+        Write("card/DCIM/100/clip.mp4", 3000000);
+        const QByteArray invalid = QFile::encodeName(Path("card/")) + "b\xff.jpg";
+        FILE* file = fopen(invalid.constData(), "w");
+        QVERIFY(file);
+        fclose(file);
+        QFile large(Path("card/large"));
+        QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(5LL << 30));
+        large.setFileTime(QDateTime({2024, 2, 29}, {12, 0}), QFileDevice::FileModificationTime);
+        large.close();
+        QVERIFY(QFile::link(".", Path("card/circle")));
+        const Device device(FolderId("card"));
+        QCOMPARE(device.result, S_OK);
+        const QMap<QString, Object> tree = device.tree();
+        QCOMPARE(tree.keys(),
+                 QStringList({"card", "card/DCIM/", "card/DCIM/100/", "card/DCIM/100/clip.mp4",
+                              "card/b\ufffd.jpg", "card/large"}));
+        QCOMPARE(tree["card"].parent, QString("DEVICE"));
+        QCOMPARE(tree["card/large"].size, quint64(5) << 30);
+        QCOMPARE(tree["card/large"].modified, 45351.5);
+        // An identifier outlives the walk and the session, and tells the same a second time.
+        const Device again(FolderId("card"));
+        Object clip;
+        QCOMPARE(again.describe(tree["card/DCIM/100/clip.mp4"].id.toStdWString(), clip), S_OK);
+        QCOMPARE(clip.size, quint64(3000000));
+        QCOMPARE(clip.parent, tree["card/DCIM/100/"].id);
+        for (const QString& path : QStringList{"card/b\ufffd.jpg", "card/DCIM/100/clip.mp4"}) {
+            quint64 total = 0;
+            QByteArray hash;
+            QCOMPARE(again.read(tree[path].id, hash, total), S_FALSE);
+            QCOMPARE(total, tree[path].size);
+            QVERIFY(total == 0 || hash == Hash(path));
+            QCOMPARE(again.remove(tree[path].id), S_OK);
+        }
+        QCOMPARE(QDir(Path("card")).entryList(QDir::Files), QStringList("large"));
+    }
+
+    void pastFourGigabytes()
+    {
+        QFile large(Path("card/large"));
+        QVERIFY(large.open(QIODevice::WriteOnly) && large.seek(5LL << 30));
+        large.write("end");
+        large.close();
+        const Device device(FolderId("card"));
+        NLEComPtr<IStream> stream;
+        QCOMPARE(device.open(device.tree()["card/large"].id, stream), S_OK);
+        ULARGE_INTEGER position = {};
+        QCOMPARE(stream->Seek({(5LL << 30) - 1}, 0, &position), S_OK);
+        QCOMPARE(position.QuadPart, (5ULL << 30) - 1);
+        char data[8] = {};
+        ULONG count = 0;
+        QCOMPARE(stream->Read(data, 8, &count), S_OK);
+        QCOMPARE(QByteArray(data, static_cast<int>(count)), QByteArray("\0end", 4));
+        QCOMPARE(stream->Read(data, 8, &count), S_FALSE);
+        QCOMPARE(count, 0U);
+    }
+
+    void manyObjects()
+    {
+        QVERIFY(QDir().mkpath(Path("card/many")));
+        for (int i = 0; i < 20000; ++i)
+            QVERIFY(QFile(Path("card/many/") + QString::number(i)).open(QIODevice::WriteOnly));
+        const Device device(FolderId("card"));
+        int count = 0;
+        QCOMPARE(device.walk(L"DEVICE", [&count](const Object&) { ++count; }), S_OK);
+        QCOMPARE(count, 20003);
+    }
+
+    void changesDuringCopy_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<int>("result");
+        QTest::addColumn<quint64>("total"); // 0: whatever was read before the change
+        const quint64 size = 20 << 20;
+        QTest::newRow("the file grows") << "grow" << int(S_FALSE) << size + 5;
+        QTest::newRow("the file is deleted") << "delete" << int(S_FALSE) << size;
+        QTest::newRow("the folder is renamed") << "rename" << int(kGone) << quint64(0);
+        QTest::newRow("another folder in its place") << "replace" << int(kGone) << quint64(0);
+        QTest::newRow("cancelled") << "cancel" << int(kCancelled) << quint64(0);
+    }
+    void changesDuringCopy()
+    {
+        QFETCH(QString, change);
+        QFETCH(quint64, total);
+        Write("card/clip", 20 << 20);
+        const Device device(FolderId("card"));
+        const auto listener = MakeCom<Listener>();
+        Advise(device, listener.get());
+        const QString id = device.tree()["card/clip"].id;
+        quint64 read = 0;
+        QByteArray hash;
+        const HRESULT result = device.read(id, hash, read, [&](quint64 sofar) {
+            if (sofar != 2 << 20)
+                return true;
+            QFile file(Path("card/clip"));
+            if (change == "grow")
+                return file.open(QIODevice::Append) && file.write("grown") == 5;
+            if (change == "delete")
+                return file.remove();
+            if (change == "cancel")
+                return device.device->Cancel() == S_OK;
+            QDir folder(m_folder->path());
+            return folder.rename("card", "away") && (change == "rename" || folder.mkdir("card"));
+        });
+        QTEST(int(result), "result");
+        // One step more may have been read ahead.
+        QVERIFY(total > 0 ? read == total : read <= 3 << 20);
+        const bool isGone = result == kGone;
+        QTRY_COMPARE(listener->removals.load(), isGone ? 1 : 0);
+        // Cancel ends what was under way, and nothing else.
+        Object object;
+        const HRESULT after = device.describe(id.toStdWString(), object);
+        QCOMPARE(after, isGone ? kGone : change == "delete" ? kNotFound : S_OK);
+    }
+
+    void removedWhileIdle()
+    {
+        Device device(FolderId("card"));
+        const auto kept = MakeCom<Listener>();
+        const auto ended = MakeCom<Listener>();
+        QVERIFY(!Advise(device, kept.get()).isEmpty());
+        const QString cookie = Advise(device, ended.get());
+        QCOMPARE(device.device->Unadvise(cookie.toStdWString().c_str()), S_OK);
+        QVERIFY(QDir(Path("card")).removeRecursively());
+        QTRY_COMPARE(kept->removals.load(), 1);
+        QVERIFY(kept->isOwnThread);
+        QCOMPARE(kept->deviceId, FolderId("card"));
+        QTest::qWait(700); // longer than the service looks again
+        QCOMPARE(kept->removals.load(), 1);
+        QCOMPARE(ended->removals.load(), 0);
+        QVERIFY(Advise(device, ended.get()).isEmpty());
+    }
+
+    void deleteRefused()
+    {
+        Write("card/folder/file", 1);
+        const Device device(FolderId("card"));
+        const auto tree = device.tree();
+        QCOMPARE(device.remove(tree["card/folder/"].id), kNotEmpty);
+        QCOMPARE(device.remove(tree["card"].id), E_ACCESSDENIED);
+        QCOMPARE(device.remove("../../file"), kNotFound);
+        // The path leads to another file now, which nobody asked to delete.
+        QVERIFY(QFile::rename(Path("card/folder/file"), Path("card/old")));
+        Write("card/folder/file", 1);
+        QCOMPARE(device.remove(tree["card/folder/file"].id), kNotFound);
+        quint64 total = 0;
+        QByteArray hash;
+        QCOMPARE(device.read(tree["card/folder/file"].id, hash, total), kNotFound);
+        NLEComPtr<IStream> stream;
+        const QString id = device.tree()["card/folder/file"].id;
+        QCOMPARE(device.open(id, stream, Wpd::WPD_RESOURCE_THUMBNAIL), kNoElement);
+        QCOMPARE(device.device->Close(), S_OK);
+        QCOMPARE(device.remove(id), static_cast<HRESULT>(0x802A0002));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestPortableDevices)
+
+#include "tst_portable_devices.moc"
