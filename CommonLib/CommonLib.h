@@ -4,6 +4,7 @@
 /// Everything a host may use of the library.
 
 #include "CommonLib/BaseLog.h"
+#include "CommonLib/CBSUrlReader.h"
 #include "CommonLib/CommonLibExport.h"
 #include "CommonLib/FileOperation.h"
 #include "CommonLib/GlobalUtils.h"

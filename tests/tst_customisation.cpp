@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/CBSUrlReader.h"
+
+#include <QCoreApplication>
+#include <QLibrary>
+#include <QTextCodec>
+#include <QtTest>
+
+#include <vector>
+
+using ReadFunction = int (*)(const wchar_t*, const wchar_t*, wchar_t*, int, int, int);
+
+class tst_Customisation : public QObject
+{
+    Q_OBJECT
+
+private:
+    const QString m_module = QCoreApplication::applicationDirPath() + "/CVUtilities.dll";
+    const QString m_file = QCoreApplication::applicationDirPath() + "/Customization.xml";
+
+    static QString Values(const QString& inner)
+    {
+        return "<Customization><Group name='ENG'>" + inner + "</Group></Customization>";
+    }
+    bool Install(const QString& module) const
+    {
+        return module.isEmpty() || QFile::copy(module, m_module);
+    }
+    bool Write(const QByteArray& content) const
+    {
+        QFile file(m_file);
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    }
+
+private Q_SLOTS:
+    void init() { cleanup(); }
+    void cleanup()
+    {
+        QVERIFY(!QFile::exists(m_module) || QFile::remove(m_module));
+        QVERIFY(!QFile::exists(m_file) || QFile::remove(m_file) || QDir().rmdir(m_file));
+    }
+
+    void values_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char* name, const QString& text, const QString& expected) {
+            QTest::newRow(name) << text.toUtf8() << expected;
+        };
+        const QString pid("<Value name='PID'>%1</Value>");
+        row("plain", Values(pid.arg("a&amp;b")), "a&b");
+        row("white space at its ends", Values(pid.arg("\n  a  b\t")), "a  b");
+        row("another group and name first",
+            "<Customization><Group name='DEU'><Value name='PID'>d</Value></Group><Group "
+            "name='ENG'><Value name='Home'>h</Value><Value name='PID'>e</Value></Group>"
+            "</Customization>",
+            "e");
+        row("the last one holds", Values(pid.arg(1) + pid.arg(2)), "2");
+        row("unknown elements", Values("<More><Value name='PID'>x</Value></More>" + pid.arg(3)),
+            "3");
+        row("case counts", Values("<Value name='Pid'>1</Value>"), "");
+        row("255 characters", Values(pid.arg(QString(255, 'v'))), QString(255, 'v'));
+        row("256 characters", Values(pid.arg(QString(256, 'v'))), "");
+        row("beyond the basic plane", Values(pid.arg(QString::fromUtf8("\U0001F3AC"))),
+            QString::fromUtf8("\U0001F3AC"));
+        row("truncated behind the value", Values(pid.arg(4)).chopped(5), "");
+        row("text behind the root", Values(pid.arg(5)) + "more", "");
+        row("an element within a value", Values(pid.arg("6<b/>")), "");
+        row("another root", QString(Values(pid.arg(7))).replace("Customization", "Settings"), "");
+        row("nothing", "", "");
+        QString bomb("<!DOCTYPE x [<!ENTITY e0 'eeeeeeeeee'>");
+        for (int i = 0; i < 12; ++i)
+            bomb += QString("<!ENTITY e%1 '&e%2;&e%2;&e%2;&e%2;&e%2;&e%2;&e%2;&e%2;&e%2;&e%2;'>")
+                        .arg(i + 1)
+                        .arg(i);
+        row("entities without end", bomb + "]>" + Values(pid.arg("&e12;")), "");
+        row("nested deeply", Values(QString("<n>").repeated(400000)), "");
+        QTest::newRow("UTF-16") << QTextCodec::codecForName("UTF-16")->fromUnicode(
+                                       Values(pid.arg("8")))
+                                << "8";
+        QTest::newRow("binary") << QByteArray("\x7f"
+                                              "ELF\0\1\xff\xfe<Customization>",
+                                              20)
+                                << "";
+    }
+
+    void values()
+    {
+        QFETCH(QByteArray, content);
+        QVERIFY(Install(REAL_UTILITIES) && Write(content));
+        CBSUrlReader reader(nullptr);
+        QTEST(reader.ReadCustomerUrl("ENG", "PID"), "expected");
+        QCOMPARE(reader.ReadCustomerUrl("PID", "ENG"), QString());
+    }
+
+    void unusableFiles()
+    {
+        QVERIFY(Install(REAL_UTILITIES));
+        // Another reader's file is forgotten by a load that fails.
+        QVERIFY(Write(Values("<Value name='PID'>old</Value>").toUtf8()));
+        CBSUrlReader old(nullptr);
+        QCOMPARE(old.ReadCustomerUrl("ENG", "PID"), QString("old"));
+        // Well-formed all through, so that only its size speaks against it.
+        const QByteArray whole = Values("<Value name='PID'>x</Value>").toUtf8();
+        QVERIFY(Write(whole + QByteArray(100 * 1024 * 1024 - whole.size(), ' ')));
+        QCOMPARE(CBSUrlReader(nullptr).ReadCustomerUrl("ENG", "PID"), QString());
+        QCOMPARE(old.ReadCustomerUrl("ENG", "PID"), QString());
+        QVERIFY(QFile::remove(m_file) && QDir().mkdir(m_file));
+        QCOMPARE(CBSUrlReader(nullptr).ReadCustomerUrl("ENG", "PID"), QString());
+        QVERIFY(QDir().rmdir(m_file));
+        QCOMPARE(CBSUrlReader(nullptr).ReadCustomerUrl("ENG", "PID"), QString());
+    }
+
+    void bufferIsNeverOverrun()
+    {
+        QVERIFY(Install(REAL_UTILITIES));
+        QVERIFY(Write(Values("<Value name='PID'>four</Value><Value name='E'/>").toUtf8()));
+        const CBSUrlReader reader(nullptr);
+        const auto read =
+            reinterpret_cast<ReadFunction>(QLibrary::resolve(m_module, "ReadCustomizeInfoW"));
+        QVERIFY(read);
+        for (int capacity = -1; capacity < 8; ++capacity) {
+            std::vector<wchar_t> buffer(8, L'#');
+            const int found = read(L"PID", L"ENG", buffer.data(), capacity, 0, 0);
+            QCOMPARE(found != 0, capacity >= 5);
+            const QString expected = found ? QString("four") + QChar(0) + "###" : "########";
+            QCOMPARE(QString::fromWCharArray(buffer.data(), 8), expected);
+        }
+        wchar_t one = L'#';
+        QVERIFY(read(L"E", L"ENG", &one, 1, 0, 0) != 0 && one == L'\0');
+        QCOMPARE(read(nullptr, L"ENG", &one, 1, 0, 0), 0);
+        QCOMPARE(read(L"E", nullptr, &one, 1, 0, 0), 0);
+        QCOMPARE(read(L"E", L"ENG", nullptr, 1, 0, 0), 0);
+    }
+
+    void modules_data()
+    {
+        QTest::addColumn<QString>("module");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("expected");
+        const QString scripted = SCRIPTED_UTILITIES;
+        QTest::newRow("group and name, crossed") << scripted << "PID"
+                                                 << "ENG 256";
+        QTest::newRow("path of the file") << scripted << "file" << m_file;
+        QTest::newRow("success without a value") << scripted << "nothing"
+                                                 << "0";
+        QTest::newRow("no end") << scripted << "all characters, no end" << QString(256, 'x');
+        QTest::newRow("failure with a value") << scripted << "failure"
+                                              << "";
+        const QDir plugins(QLibraryInfo::location(QLibraryInfo::PluginsPath) + "/platforms");
+        const QString other = plugins.entryList({"*qminimal*"}, QDir::Files).value(0);
+        QTest::newRow("no such functions")
+            << (other.isEmpty() ? other : plugins.filePath(other)) << "PID"
+            << "";
+        QTest::newRow("no module") << ""
+                                   << "PID"
+                                   << "";
+        QTest::newRow("not a module") << m_file << "PID"
+                                      << "";
+    }
+
+    void modules()
+    {
+        QFETCH(QString, module);
+        QFETCH(QString, name);
+        QVERIFY(Write("<Customization/>") && Install(module));
+        {
+            CBSUrlReader reader(nullptr);
+            QTEST(reader.ReadCustomerUrl("ENG", name), "expected");
+        }
+        QVERIFY(!QLibrary(m_module).isLoaded());
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_Customisation)
+#include "tst_customisation.moc"
