@@ -8,6 +8,8 @@
 #include "CommonLib/CommonLibExport.h"
 #include "CommonLib/FileOperation.h"
 #include "CommonLib/GlobalUtils.h"
+#include "CommonLib/LangConstInfo.h"
+#include "CommonLib/MultiLangMgr.h"
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/FAudioStreamProcessHelper.h"
 #include "CommonLib/NLEWraper/FMixerSettingDelegate.h"

@@ -1,0 +1,287 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/MultiLangMgr.h"
+
+#include "CommonLib/CBSUrlReader.h"
+#include "CommonLib/LanguageTable_p.h"
+#include "CommonLib/LanguageTranslators_p.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QFont>
+#include <QFontDatabase>
+#include <QSettings>
+#include <QTranslator>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+MultiLangMgr* s_instance = nullptr;
+
+const char s_nameKey[] = "System/DefInstallLang";
+const char s_productKey[] = "System/ProductID";
+
+/// An ini file of ours is far shorter; the toolkit would read all of a longer one into memory.
+constexpr qint64 kLongestConfig = 1024 * 1024;
+
+/// Creates an empty file; one that exists keeps what it holds.
+void CreateWhenMissing(const QString& path)
+{
+    if (QFileInfo::exists(path))
+        return;
+    QFile file(path);
+    file.open(QIODevice::ReadWrite);
+}
+
+bool IsUsableConfig(const QString& path)
+{
+    const QFileInfo info(path);
+    return info.isFile() && info.size() <= kLongestConfig;
+}
+
+} // namespace
+
+MultiLangMgr::MultiLangMgr(QObject* parent)
+    : QObject(parent)
+    , m_curLocale(Language_None)
+    , m_urlReader(new CBSUrlReader(this))
+    , m_configPath(QCoreApplication::applicationDirPath() + "/Multilang.ini")
+    , m_defaultFontFamily(QFont().family())
+    , m_curFontFamily(QStringLiteral("Segoe UI"))
+{
+    Init();
+}
+
+MultiLangMgr::~MultiLangMgr()
+{
+    qDeleteAll(m_translators);
+}
+
+void MultiLangMgr::Init()
+{
+    for (const Language_Locale locale : qAsConst(LanguageCodes()))
+        m_translators.append(new LanguageTranslators(locale));
+}
+
+MultiLangMgr* MultiLangMgr::GetInstance()
+{
+    if (!s_instance)
+        s_instance = new MultiLangMgr;
+    return s_instance;
+}
+
+void MultiLangMgr::Release()
+{
+    delete s_instance;
+    s_instance = nullptr;
+}
+
+bool MultiLangMgr::IsCurLanguage_Locale(Language_Locale locale)
+{
+    return GetInstance()->m_curLocale == locale;
+}
+
+Language_Locale MultiLangMgr::GetLangLocale() const
+{
+    return m_curLocale;
+}
+
+LangConstInfo MultiLangMgr::GetLangConstInfo() const
+{
+    int count = 0;
+    const LangConstInfo* row = FindLanguage(m_curLocale);
+    return row ? *row : *GetGlobalLangConstInfos(count);
+}
+
+QString MultiLangMgr::GetSimpleName1() const
+{
+    const LangConstInfo* row = FindLanguage(m_curLocale);
+    return row ? row->simpleName1 : QString();
+}
+
+QString MultiLangMgr::GetSimpleName2() const
+{
+    // Empty in every row; that is intended.
+    const LangConstInfo* row = FindLanguage(m_curLocale);
+    return row ? row->simpleName2 : QString();
+}
+
+QString MultiLangMgr::GetConfigPath() const
+{
+    return m_configPath;
+}
+
+void MultiLangMgr::SetConfigPath(QString path)
+{
+    m_configPath = std::move(path);
+}
+
+QString MultiLangMgr::GetCurrentFontFamily() const
+{
+    return m_curFontFamily;
+}
+
+QVector<Language_Locale>& MultiLangMgr::LangCodeIter()
+{
+    return LanguageCodes();
+}
+
+void MultiLangMgr::SetLangLocale()
+{
+    CreateWhenMissing(m_configPath);
+    const QString name = StoredName();
+    Language_Locale wanted = Language_English;
+    if (!name.isEmpty()) {
+        int count = 0;
+        const LangConstInfo* rows = GetGlobalLangConstInfos(count);
+        const auto* found = std::find_if(rows, rows + count, [&name](const LangConstInfo& row) {
+            return row.simpleName1 == name || row.simpleName2 == name;
+        });
+        if (found != rows + count)
+            wanted = found->locale;
+    }
+    Select(wanted);
+}
+
+void MultiLangMgr::SetLangLocale(Language_Locale locale)
+{
+    Select(locale);
+}
+
+void MultiLangMgr::SetLangLocale(QString englishName)
+{
+    int count = 0;
+    const LangConstInfo* rows = GetGlobalLangConstInfos(count);
+    const auto* found = std::find_if(rows, rows + count, [&](const LangConstInfo& row) {
+        return row.englishName == englishName;
+    });
+    if (found != rows + count)
+        Select(found->locale);
+}
+
+void MultiLangMgr::Select(Language_Locale locale)
+{
+    if (locale == m_curLocale)
+        return;
+    RemoveCurrentLang();
+    const Language_Locale previous = m_curLocale;
+    m_curLocale = locale;
+    LanguageChangedEvent(previous);
+    LoadCurrentLang();
+}
+
+QString MultiLangMgr::StoredName() const
+{
+    if (!IsUsableConfig(m_configPath))
+        return QString();
+    return QSettings(m_configPath, QSettings::IniFormat).value(s_nameKey).toString();
+}
+
+void MultiLangMgr::StoreCurrentLang()
+{
+    CreateWhenMissing(m_configPath);
+    const QString product = m_urlReader->ReadCustomerUrl(GetSimpleName1(), QStringLiteral("PID"));
+    if (!IsUsableConfig(m_configPath))
+        return;
+    // Both values go out in one step when the settings are destroyed, or neither does.
+    QSettings settings(m_configPath, QSettings::IniFormat);
+    settings.setValue(s_nameKey, GetSimpleName1());
+    settings.setValue(s_productKey, product);
+}
+
+const LanguageTranslators* MultiLangMgr::CurrentTranslators() const
+{
+    const auto found =
+        std::find_if(m_translators.begin(), m_translators.end(),
+                     [this](const LanguageTranslators* set) { return set->locale == m_curLocale; });
+    return found == m_translators.end() ? nullptr : *found;
+}
+
+void MultiLangMgr::LoadCurrentLang()
+{
+    StoreCurrentLang();
+    const LanguageTranslators* set = CurrentTranslators();
+    if (!set)
+        return;
+    for (QTranslator* translator : set->translators)
+        QCoreApplication::installTranslator(translator);
+}
+
+void MultiLangMgr::RemoveCurrentLang()
+{
+    const LanguageTranslators* set = CurrentTranslators();
+    if (!set)
+        return;
+    for (QTranslator* translator : set->translators)
+        QCoreApplication::removeTranslator(translator);
+}
+
+void MultiLangMgr::ResetFont()
+{
+    ResetFont(GetFontFamilyList(m_curLocale));
+}
+
+void MultiLangMgr::ResetFont(const QStringList& families)
+{
+    if (families.isEmpty())
+        return;
+    m_curFontFamily = GetValidFontFamily(families);
+    QFont font;
+    if (m_curFontFamily.isEmpty()) {
+        font.setFamily(m_defaultFontFamily);
+        // The preferred family is reported although the font is the system's; that is intended.
+        m_curFontFamily = families.first();
+    } else {
+        font.setFamily(m_curFontFamily);
+    }
+    font.setStyleStrategy(QFont::PreferAntialias);
+    QApplication::setFont(font);
+    Q_EMIT sigFontFamilyChanged(m_curFontFamily);
+}
+
+QStringList MultiLangMgr::GetFontFamilyList(const Language_Locale& locale) const
+{
+    switch (locale) {
+    case Language_Japanese:
+        return {QStringLiteral("Yu Gothic UI")};
+    case Language_Korean:
+        return {QStringLiteral("Malgun Gothic")};
+    case Language_ChineseTW:
+    case Language_ChineseHK:
+        return {QStringLiteral("Microsoft JhengHei UI")};
+    default:
+        return {QStringLiteral("Tahoma"), QStringLiteral("Segoe UI"), QStringLiteral("Arial")};
+    }
+}
+
+QString MultiLangMgr::GetValidFontFamily(const QStringList& families) const
+{
+    const QFontDatabase fonts;
+    const auto found =
+        std::find_if(families.begin(), families.end(),
+                     [&fonts](const QString& family) { return fonts.hasFamily(family); });
+    return found == families.end() ? QString() : *found;
+}
+
+bool MultiLangMgr::IsSameFontFamily(const Language_Locale& a, const Language_Locale& b) const
+{
+    const auto isChinese = [](Language_Locale locale) {
+        return locale == Language_ChineseTW || locale == Language_ChineseHK;
+    };
+    const auto hasOwn = [](Language_Locale locale) {
+        return locale == Language_None || locale == Language_Japanese || locale == Language_Korean;
+    };
+    if (a == b || (isChinese(a) && isChinese(b)))
+        return true;
+    // Between Chinese and the languages that share the common list the font stays, although their
+    // lists differ; that is intended.
+    return !hasOwn(a) && !hasOwn(b);
+}
+
+void MultiLangMgr::LanguageChangedEvent(const Language_Locale& previous)
+{
+    if (!IsSameFontFamily(m_curLocale, previous))
+        ResetFont();
+}
