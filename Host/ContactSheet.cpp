@@ -3,6 +3,7 @@
 
 #include "Host/SheetStyle.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 #include <QtMath>
 
@@ -65,8 +66,8 @@ void ContactSheet::paintCell(QPainter& painter, const Cell& cell, const QPoint& 
     const QRect frame(corner, m_cellSize);
     painter.fillRect(frame, Panel);
     if (cell.picture.isNull()) {
-        PaintText(painter, frame, TextFont(19), FaintText, QStringLiteral("no picture"),
-                  Qt::AlignHCenter);
+        PaintText(painter, frame, TextFont(19), FaintText,
+                  QCoreApplication::translate("ContactSheet", "no picture"), Qt::AlignHCenter);
     } else {
         QRect area(QPoint(), m_pictureSize);
         area.moveCenter(frame.center());

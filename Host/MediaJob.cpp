@@ -26,15 +26,15 @@ constexpr unsigned int sheetPictures = 12;
 QString obstacle(const QFileInfo& file)
 {
     if (!file.exists())
-        return QStringLiteral("does not exist");
+        return MediaJob::tr("does not exist");
     if (file.isDir())
-        return QStringLiteral("is a folder, not a media file");
+        return MediaJob::tr("is a folder, not a media file");
     if (!file.isFile())
-        return QStringLiteral("is not a regular file");
+        return MediaJob::tr("is not a regular file");
     if (file.size() == 0)
-        return QStringLiteral("is empty");
+        return MediaJob::tr("is empty");
     if (!file.isReadable())
-        return QStringLiteral("may not be read by this user");
+        return MediaJob::tr("may not be read by this user");
     return {};
 }
 
@@ -68,7 +68,7 @@ bool MediaJob::run(const QString& path)
     const NLEComPtr<INLETimeline> node =
         m_provider.CreateMediaTimeline(QFileInfo(path).absoluteFilePath(), true);
     if (!node) {
-        explain(QStringLiteral("cannot be read as media"));
+        explain(tr("cannot be read as media"));
         return true;
     }
 
@@ -80,7 +80,7 @@ bool MediaJob::run(const QString& path)
         return makeContactSheet(timeline, report);
     if (report.audio)
         return makeWaveSheet(timeline, report);
-    explain(QStringLiteral("holds neither picture nor sound"));
+    explain(tr("holds neither picture nor sound"));
     return true;
 }
 
@@ -88,7 +88,7 @@ bool MediaJob::makeContactSheet(NLETimeline& timeline, const MediaReport& report
 {
     const QVector<int> frames = spreadFrames(report.frames);
     if (frames.isEmpty()) {
-        explain(QStringLiteral("has no frames"));
+        explain(tr("has no frames"));
         return true;
     }
     ContactSheet sheet(report.pictureShape(), frames.size());
@@ -104,20 +104,21 @@ bool MediaJob::makeContactSheet(NLETimeline& timeline, const MediaReport& report
         if (report.image)
             sheet.add(picture, {}, {});
         else
-            sheet.add(picture, timecode, QStringLiteral("frame %1").arg(frame));
-        m_console.progress(
-            QStringLiteral("  picture %1 of %2: frame %3, %4%5")
-                .arg(index + 1)
-                .arg(frames.size())
-                .arg(frame)
-                .arg(timecode, picture.isNull() ? QStringLiteral(", not decoded") : QString()));
+            sheet.add(picture, timecode, tr("frame %1").arg(frame));
+        const QString place = tr("picture %1 of %2: frame %3, %4")
+                                  .arg(index + 1)
+                                  .arg(frames.size())
+                                  .arg(frame)
+                                  .arg(timecode);
+        m_console.progress(QStringLiteral("  ") +
+                           (picture.isNull() ? tr("%1, not decoded").arg(place) : place));
     }
     if (failures == frames.size()) {
-        explain(QStringLiteral("none of its pictures can be decoded"));
+        explain(tr("none of its pictures can be decoded"));
         return true;
     }
     if (failures > 0)
-        explain(QStringLiteral("%1 of %2 pictures cannot be decoded; the file may be damaged")
+        explain(tr("%1 of %2 pictures cannot be decoded; the file may be damaged")
                     .arg(failures)
                     .arg(frames.size()));
     return save(sheet.paint(QFileInfo(m_path).fileName(), report.summary()));
@@ -143,12 +144,13 @@ bool MediaJob::makeWaveSheet(NLETimeline& timeline, const MediaReport& report)
         measured =
             SUCCEEDED(extractor->Extract(seconds * first / steps, seconds * count / steps, count,
                                          minima.data() + first, maxima.data() + first));
-        m_console.progress(QStringLiteral("  wave form: part %1 of %2").arg(part + 1).arg(parts));
+        m_console.progress(QStringLiteral("  ") +
+                           tr("wave form: part %1 of %2").arg(part + 1).arg(parts));
     }
     if (extractor)
         extractor->Finish();
     if (!measured) {
-        explain(QStringLiteral("its sound cannot be decoded"));
+        explain(tr("its sound cannot be decoded"));
         return true;
     }
     return save(
@@ -159,10 +161,10 @@ bool MediaJob::save(const QImage& page)
 {
     const QString path = m_output.pictureFor(m_path);
     if (!page.save(path)) {
-        explain(QStringLiteral("the result cannot be written to %1").arg(path));
+        explain(tr("the result cannot be written to %1").arg(path));
         return false;
     }
-    m_console.print(QStringLiteral("  written: ") + QDir::toNativeSeparators(path));
+    m_console.print(QStringLiteral("  ") + tr("written: %1").arg(QDir::toNativeSeparators(path)));
     return true;
 }
 

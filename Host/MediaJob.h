@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 class Console;
@@ -14,6 +15,8 @@ struct MediaReport;
 /// the file holds sound alone.
 class MediaJob
 {
+    Q_DECLARE_TR_FUNCTIONS(MediaJob)
+
 public:
     /// All three must outlive the job.
     MediaJob(PlayerMaterProvider& provider, Console& console, OutputFolder& output);

@@ -19,18 +19,11 @@ QString rateText(double framesPerSecond)
     return QString::number(qRound64(framesPerSecond * decimals) / double(decimals));
 }
 
-/// "1 frame", "2 frames"
-QString counted(qint64 number, const QString& noun)
-{
-    const QString text = QStringLiteral("%1 %2").arg(number).arg(noun);
-    return number == 1 ? text : text + QLatin1Char('s');
-}
-
 QString codecText(const NLEStreamInfo& stream)
 {
     const QString name = QString::fromLatin1(
         stream.codecName, int(qstrnlen(stream.codecName, sizeof stream.codecName)));
-    return name.isEmpty() ? QStringLiteral("unknown codec") : name;
+    return name.isEmpty() ? MediaReport::tr("unknown codec") : name;
 }
 
 QString streamText(const NLEStreamInfo& stream)
@@ -38,21 +31,21 @@ QString streamText(const NLEStreamInfo& stream)
     QStringList parts;
     switch (stream.type) {
     case NLEStream_Video:
-        parts << QStringLiteral("video") << codecText(stream)
+        parts << MediaReport::tr("video") << codecText(stream)
               << sizeText(stream.width, stream.height);
         if (stream.rotation != 0)
-            parts << QStringLiteral("rotated by %1°").arg(stream.rotation);
+            parts << MediaReport::tr("rotated by %1°").arg(stream.rotation);
         if (stream.frameRate.num > 0 && stream.frameRate.den > 0)
-            parts << rateText(double(stream.frameRate.num) / double(stream.frameRate.den)) +
-                         QStringLiteral(" fps");
+            parts << MediaReport::tr("%1 fps").arg(
+                rateText(double(stream.frameRate.num) / double(stream.frameRate.den)));
         break;
     case NLEStream_Audio:
-        parts << QStringLiteral("audio") << codecText(stream)
-              << QStringLiteral("%1 Hz").arg(stream.sampleRate)
-              << counted(stream.channels, QStringLiteral("channel"));
+        parts << MediaReport::tr("audio") << codecText(stream)
+              << MediaReport::tr("%1 Hz").arg(stream.sampleRate)
+              << MediaReport::tr("%n channel(s)", nullptr, int(stream.channels));
         break;
     default:
-        parts << QStringLiteral("other") << codecText(stream);
+        parts << MediaReport::tr("other") << codecText(stream);
     }
     return parts.join(QStringLiteral(", "));
 }
@@ -116,14 +109,14 @@ double MediaReport::seconds() const
 QString MediaReport::summary() const
 {
     if (image)
-        return QStringLiteral("Still picture, ") + sizeText(size.width(), size.height());
+        return tr("Still picture, %1").arg(sizeText(size.width(), size.height()));
     QStringList parts;
     if (video)
-        parts << QStringLiteral("Video") << sizeText(size.width(), size.height());
+        parts << tr("Video") << sizeText(size.width(), size.height());
     else
-        parts << (audio ? QStringLiteral("Sound") : QStringLiteral("No picture and no sound"));
-    parts << rateText(double(rate)) + QStringLiteral(" fps")
-          << counted(frames, QStringLiteral("frame")) << gFrame2String(int(frames), rate);
+        parts << (audio ? tr("Sound") : tr("No picture and no sound"));
+    parts << tr("%1 fps").arg(rateText(double(rate))) << tr("%n frame(s)", nullptr, int(frames))
+          << gFrame2String(int(frames), rate);
     return parts.join(QStringLiteral(", "));
 }
 
@@ -131,6 +124,6 @@ QStringList MediaReport::lines() const
 {
     QStringList result{summary()};
     for (int index = 0; index < streams.size(); ++index)
-        result << QStringLiteral("stream %1: %2").arg(index).arg(streamText(streams[index]));
+        result << tr("stream %1: %2").arg(index).arg(streamText(streams[index]));
     return result;
 }

@@ -3,6 +3,7 @@
 
 #include "EngineApi/NLETypes.h"
 
+#include <QCoreApplication>
 #include <QSizeF>
 #include <QStringList>
 #include <QVector>
@@ -12,6 +13,9 @@ class NLETimeline;
 /// What a media file is, as asked from the timeline object that wraps it.
 struct MediaReport
 {
+    Q_DECLARE_TR_FUNCTIONS(MediaReport)
+
+public:
     explicit MediaReport(NLETimeline& timeline);
 
     /// First stream of a type; NLENoStream when there is none.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/BaseLog.h"
+#include "CommonLib/MultiLangMgr.h"
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
@@ -18,6 +19,12 @@
 #include <optional>
 
 namespace {
+
+/// Translation context of what the program itself says.
+struct Program
+{
+    Q_DECLARE_TR_FUNCTIONS(CommonLibDemo)
+};
 
 enum ExitCode
 {
@@ -45,7 +52,7 @@ bool startLog(const Options& options, Console& console)
     BaseLog* log = GetGlobalLogInstance();
     if (path.size() > longestPath || log->Init(path.constData(), options.echo, LogLevelAll) != 0) {
         console.print(
-            QStringLiteral("The log %1 cannot be opened; going on without it.").arg(options.log));
+            Program::tr("The log %1 cannot be opened; going on without it.").arg(options.log));
         return false;
     }
     log->LogInfo("Host/main", "main", __LINE__, "begin");
@@ -66,7 +73,7 @@ int reportFiles(const Options& options, OutputFolder& output, Console& console)
 {
     PlayerMaterProvider* provider = NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
     if (!provider->CreateNLEProperties()) {
-        console.print(QStringLiteral("The engine is missing or does not start: %1")
+        console.print(Program::tr("The engine is missing or does not start: %1")
                           .arg(QDir::toNativeSeparators(QCoreApplication::applicationDirPath() +
                                                         QStringLiteral("/NLECore.dll"))));
         return Failure;
@@ -82,7 +89,7 @@ int run(const Options& options, Console& console)
 {
     OutputFolder output(options.output, options.media);
     if (!output.create()) {
-        console.print(QStringLiteral("The folder %1 cannot be made.").arg(options.output));
+        console.print(Program::tr("The folder %1 cannot be made.").arg(options.output));
         return WrongUsage;
     }
     std::optional<ToolkitMessages> messages;
@@ -99,6 +106,26 @@ int run(const Options& options, Console& console)
     return code;
 }
 
+/// The language that was chosen last, or the one that the command line names; it must be there
+/// before any option is described.
+class Language
+{
+public:
+    Language()
+    {
+        MultiLangMgr::GetInstance()->SetLangLocale();
+        QCommandLineParser parser;
+        parser.addOption({optionName(), {}, optionName()});
+        parser.parse(QCoreApplication::arguments());
+        MultiLangMgr::GetInstance()->SetLangLocale(parser.value(optionName()));
+    }
+    ~Language() { MultiLangMgr::Release(); }
+    Language(const Language&) = delete;
+    Language& operator=(const Language&) = delete;
+
+    static QString optionName() { return QStringLiteral("language"); }
+};
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -109,21 +136,26 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("CommonLibDemo"));
 
+    const Language language;
+
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Tells what media files are and writes a contact sheet of each."));
+        Program::tr("Tells what media files are and writes a contact sheet of each."));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                  QStringLiteral("Print this help."));
-    const QCommandLineOption output(QStringLiteral("output"), QStringLiteral("Folder for results."),
-                                    QStringLiteral("FOLDER"), QStringLiteral("demo-output"));
-    const QCommandLineOption log(QStringLiteral("log"),
-                                 QStringLiteral("Log file, by default %1 among the results.")
-                                     .arg(QString::fromLatin1(logName)),
-                                 QStringLiteral("FILE"));
-    const QCommandLineOption echo(QStringLiteral("echo"), QStringLiteral("Print the log as well."));
-    parser.addOptions({help, output, log, echo});
-    parser.addPositionalArgument(QStringLiteral("MEDIA"), QStringLiteral("Media files."),
-                                 QStringLiteral("MEDIA…"));
+                                  Program::tr("Print this help."));
+    const QCommandLineOption output(QStringLiteral("output"), Program::tr("Folder for results."),
+                                    Program::tr("FOLDER"), QStringLiteral("demo-output"));
+    const QCommandLineOption log(
+        QStringLiteral("log"),
+        Program::tr("Log file, by default %1 among the results.").arg(QString::fromLatin1(logName)),
+        Program::tr("FILE"));
+    const QCommandLineOption echo(QStringLiteral("echo"), Program::tr("Print the log as well."));
+    const QCommandLineOption languageOption(
+        Language::optionName(), Program::tr("Language of the texts from now on, such as German."),
+        Program::tr("NAME"));
+    parser.addOptions({help, output, log, echo, languageOption});
+    parser.addPositionalArgument(QStringLiteral("MEDIA"), Program::tr("Media files."),
+                                 Program::tr("MEDIA…"));
 
     Console console;
     const bool understood = parser.parse(QCoreApplication::arguments());
@@ -132,7 +164,7 @@ int main(int argc, char* argv[])
         return Success;
     }
     if (!understood || parser.positionalArguments().isEmpty()) {
-        console.print(understood ? QStringLiteral("No media file named.") : parser.errorText());
+        console.print(understood ? Program::tr("No media file named.") : parser.errorText());
         console.print(parser.helpText());
         return WrongUsage;
     }

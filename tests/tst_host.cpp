@@ -27,7 +27,7 @@ Run runHost(const QStringList& arguments, const QString& program = hostProgram()
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(program, arguments);
+    process.start(program, QStringList{"--language", "English"} + arguments);
     const bool ended =
         process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit;
     return {ended ? process.exitCode() : -1, QString::fromUtf8(process.readAll())};

@@ -3,6 +3,8 @@
 
 #include "CommonLib/TimelineRuler.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -36,9 +38,17 @@ void ClipStrip::PaintClip(QPainter& painter, const Clip& clip) const
     painter.setPen(QColor(0xf0, 0xf2, 0xf4));
     const int room = static_cast<int>(box.width()) - 2 * kTextIndent;
     if (room > 0)
-        painter.drawText(box.adjusted(kTextIndent, 0, -kTextIndent, 0),
-                         Qt::AlignVCenter | Qt::AlignLeft,
-                         fontMetrics().elidedText(clip.name, Qt::ElideRight, room));
+        painter.drawText(
+            box.adjusted(kTextIndent, 0, -kTextIndent, 0), Qt::AlignVCenter | Qt::AlignLeft,
+            fontMetrics().elidedText(QCoreApplication::translate("ClipStrip", clip.name),
+                                     Qt::ElideRight, room));
+}
+
+void ClipStrip::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        update();
+    QWidget::changeEvent(event);
 }
 
 void ClipStrip::paintEvent(QPaintEvent* /*event*/)

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QColor>
-#include <QString>
 #include <QVector>
 #include <QWidget>
 
@@ -14,9 +13,9 @@ class ClipStrip : public QWidget
 public:
     struct Clip
     {
-        int in;  ///< first frame on the timeline
-        int out; ///< last frame
-        QString name;
+        int in;           ///< first frame on the timeline
+        int out;          ///< last frame
+        const char* name; ///< in the translation context "ClipStrip"
         QColor color;
     };
 
@@ -24,6 +23,7 @@ public:
     ClipStrip(const TimelineRuler& ruler, QVector<Clip> clips, QWidget* parent);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -13,12 +13,13 @@ constexpr int kStripHeight = 56;
 
 QVector<ClipStrip::Clip> SampleClips()
 {
-    return {{0, 374, "Opening", QColor(0x2f, 0x6b, 0x8f)},
-            {375, 1349, "Harbour at dawn", QColor(0x3d, 0x7a, 0x5c)},
-            {1350, 1849, "Interview, part 1", QColor(0x7a, 0x55, 0x8f)},
-            {1900, 3399, "Market", QColor(0x3d, 0x7a, 0x5c)},
-            {3400, 5999, "Interview, part 2", QColor(0x7a, 0x55, 0x8f)},
-            {6000, 8999, "Night drive", QColor(0x2f, 0x6b, 0x8f)}};
+    return {
+        {0, 374, QT_TRANSLATE_NOOP("ClipStrip", "Opening"), QColor(0x2f, 0x6b, 0x8f)},
+        {375, 1349, QT_TRANSLATE_NOOP("ClipStrip", "Harbour at dawn"), QColor(0x3d, 0x7a, 0x5c)},
+        {1350, 1849, QT_TRANSLATE_NOOP("ClipStrip", "Interview, part 1"), QColor(0x7a, 0x55, 0x8f)},
+        {1900, 3399, QT_TRANSLATE_NOOP("ClipStrip", "Market"), QColor(0x3d, 0x7a, 0x5c)},
+        {3400, 5999, QT_TRANSLATE_NOOP("ClipStrip", "Interview, part 2"), QColor(0x7a, 0x55, 0x8f)},
+        {6000, 8999, QT_TRANSLATE_NOOP("ClipStrip", "Night drive"), QColor(0x2f, 0x6b, 0x8f)}};
 }
 
 } // namespace

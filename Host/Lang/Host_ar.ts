@@ -1,0 +1,323 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar_AE" sourcelanguage="en_US">
+<context>
+    <name>ClipStrip</name>
+    <message>
+        <source>Opening</source>
+        <translation>الافتتاحية</translation>
+    </message>
+    <message>
+        <source>Harbour at dawn</source>
+        <translation>الميناء عند الفجر</translation>
+    </message>
+    <message>
+        <source>Interview, part 1</source>
+        <translation>مقابلة، الجزء 1</translation>
+    </message>
+    <message>
+        <source>Market</source>
+        <translation>السوق</translation>
+    </message>
+    <message>
+        <source>Interview, part 2</source>
+        <translation>مقابلة، الجزء 2</translation>
+    </message>
+    <message>
+        <source>Night drive</source>
+        <translation>رحلة ليلية</translation>
+    </message>
+</context>
+<context>
+    <name>CommonLibDemo</name>
+    <message>
+        <source>The log %1 cannot be opened; going on without it.</source>
+        <translation>تعذّر فتح السجل %1؛ ستتم المتابعة من دونه.</translation>
+    </message>
+    <message>
+        <source>The engine is missing or does not start: %1</source>
+        <translation>المحرّك مفقود أو لا يعمل: %1</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>تعذّر إنشاء المجلد %1.</translation>
+    </message>
+    <message>
+        <source>Tells what media files are and writes a contact sheet of each.</source>
+        <translation>يصف ملفات الوسائط ويكتب لوحة صور مصغّرة لكل منها.</translation>
+    </message>
+    <message>
+        <source>Print this help.</source>
+        <translation>عرض هذه المساعدة.</translation>
+    </message>
+    <message>
+        <source>Folder for results.</source>
+        <translation>مجلد النتائج.</translation>
+    </message>
+    <message>
+        <source>FOLDER</source>
+        <translation>مجلد</translation>
+    </message>
+    <message>
+        <source>Log file, by default %1 among the results.</source>
+        <translation>ملف السجل، وهو افتراضيًا %1 بين النتائج.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ملف</translation>
+    </message>
+    <message>
+        <source>Print the log as well.</source>
+        <translation>عرض السجل أيضًا.</translation>
+    </message>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>لغة النصوص من الآن فصاعدًا، مثل German.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>اسم</translation>
+    </message>
+    <message>
+        <source>Media files.</source>
+        <translation>ملفات الوسائط.</translation>
+    </message>
+    <message>
+        <source>MEDIA…</source>
+        <translation>وسائط…</translation>
+    </message>
+    <message>
+        <source>No media file named.</source>
+        <translation>لم يُذكر أي ملف وسائط.</translation>
+    </message>
+</context>
+<context>
+    <name>ContactSheet</name>
+    <message>
+        <source>no picture</source>
+        <translation>لا توجد صورة</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePage</name>
+    <message>
+        <source>Import media…</source>
+        <translation>استيراد الوسائط…</translation>
+    </message>
+    <message>
+        <source>Split at the play head</source>
+        <translation>تقسيم عند رأس التشغيل</translation>
+    </message>
+    <message>
+        <source>Add a transition</source>
+        <translation>إضافة انتقال</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>تراجع</translation>
+    </message>
+    <message>
+        <source>Save the project</source>
+        <translation>حفظ المشروع</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>تصدير…</translation>
+    </message>
+    <message>
+        <source>Language:</source>
+        <translation>اللغة:</translation>
+    </message>
+    <message>
+        <source>Font of the language:</source>
+        <translation>خط اللغة:</translation>
+    </message>
+    <message>
+        <source>Drawn in:</source>
+        <translation>مرسوم بخط:</translation>
+    </message>
+    <message>
+        <source>Reading direction:</source>
+        <translation>اتجاه القراءة:</translation>
+    </message>
+    <message>
+        <source>Clips:</source>
+        <translation>المقاطع:</translation>
+    </message>
+    <message>
+        <source>Sample</source>
+        <translation>نموذج</translation>
+    </message>
+    <message>
+        <source>right to left</source>
+        <translation>من اليمين إلى اليسار</translation>
+    </message>
+    <message>
+        <source>left to right</source>
+        <translation>من اليسار إلى اليمين</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clip(s) selected</source>
+        <translation>
+            <numerusform>لم يُحدَّد أي مقطع</numerusform>
+            <numerusform>حُدِّد مقطع واحد</numerusform>
+            <numerusform>حُدِّد مقطعان</numerusform>
+            <numerusform>حُدِّدت %n مقاطع</numerusform>
+            <numerusform>حُدِّد %n مقطعًا</numerusform>
+            <numerusform>حُدِّد %n مقطع</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MediaJob</name>
+    <message>
+        <source>does not exist</source>
+        <translation>غير موجود</translation>
+    </message>
+    <message>
+        <source>is a folder, not a media file</source>
+        <translation>مجلد وليس ملف وسائط</translation>
+    </message>
+    <message>
+        <source>is not a regular file</source>
+        <translation>ليس ملفًا عاديًا</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>فارغ</translation>
+    </message>
+    <message>
+        <source>may not be read by this user</source>
+        <translation>لا يُسمح لهذا المستخدم بقراءته</translation>
+    </message>
+    <message>
+        <source>cannot be read as media</source>
+        <translation>تتعذّر قراءته كملف وسائط</translation>
+    </message>
+    <message>
+        <source>holds neither picture nor sound</source>
+        <translation>لا يحتوي على صورة ولا صوت</translation>
+    </message>
+    <message>
+        <source>has no frames</source>
+        <translation>لا يحتوي على إطارات</translation>
+    </message>
+    <message>
+        <source>frame %1</source>
+        <translation>الإطار %1</translation>
+    </message>
+    <message>
+        <source>picture %1 of %2: frame %3, %4</source>
+        <translation>الصورة %1 من %2: الإطار %3، %4</translation>
+    </message>
+    <message>
+        <source>%1, not decoded</source>
+        <translation>%1، لم يُفك ترميزها</translation>
+    </message>
+    <message>
+        <source>none of its pictures can be decoded</source>
+        <translation>تعذّر فك ترميز أي من صوره</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pictures cannot be decoded; the file may be damaged</source>
+        <translation>تعذّر فك ترميز %1 من أصل %2 من الصور؛ قد يكون الملف تالفًا</translation>
+    </message>
+    <message>
+        <source>wave form: part %1 of %2</source>
+        <translation>شكل الموجة: الجزء %1 من %2</translation>
+    </message>
+    <message>
+        <source>its sound cannot be decoded</source>
+        <translation>تعذّر فك ترميز صوته</translation>
+    </message>
+    <message>
+        <source>the result cannot be written to %1</source>
+        <translation>تعذّرت كتابة النتيجة في %1</translation>
+    </message>
+    <message>
+        <source>written: %1</source>
+        <translation>كُتب: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MediaReport</name>
+    <message>
+        <source>unknown codec</source>
+        <translation>برنامج ترميز غير معروف</translation>
+    </message>
+    <message>
+        <source>video</source>
+        <translation>فيديو</translation>
+    </message>
+    <message>
+        <source>rotated by %1°</source>
+        <translation>مدوّر بمقدار %1°</translation>
+    </message>
+    <message>
+        <source>%1 fps</source>
+        <translation>%1 إطار/ث</translation>
+    </message>
+    <message>
+        <source>audio</source>
+        <translation>صوت</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 هرتز</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s)</source>
+        <translation>
+            <numerusform>بلا قنوات</numerusform>
+            <numerusform>قناة واحدة</numerusform>
+            <numerusform>قناتان</numerusform>
+            <numerusform>%n قنوات</numerusform>
+            <numerusform>%n قناة</numerusform>
+            <numerusform>%n قناة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>أخرى</translation>
+    </message>
+    <message>
+        <source>Still picture, %1</source>
+        <translation>صورة ثابتة، %1</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>فيديو</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>صوت</translation>
+    </message>
+    <message>
+        <source>No picture and no sound</source>
+        <translation>لا صورة ولا صوت</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frame(s)</source>
+        <translation>
+            <numerusform>بلا إطارات</numerusform>
+            <numerusform>إطار واحد</numerusform>
+            <numerusform>إطاران</numerusform>
+            <numerusform>%n إطارات</numerusform>
+            <numerusform>%n إطارًا</numerusform>
+            <numerusform>%n إطار</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>stream %1: %2</source>
+        <translation>الدفق %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>QGuiApplication</name>
+    <message>
+        <source>QT_LAYOUT_DIRECTION</source>
+        <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
+        <translation>RTL</translation>
+    </message>
+</context>
+</TS>
