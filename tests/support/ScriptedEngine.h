@@ -93,6 +93,14 @@ inline QString Text(const NLERange& range)
 {
     return QStringLiteral("%1..%2").arg(range.in).arg(range.out);
 }
+inline QString Text(const NLEKeyFrameRecord& r)
+{
+    QString text;
+    for (const double number : {r.time, r.angle, r.positionX, r.positionY, r.scaleWidth,
+                                r.scaleHeight, r.opacity, double(r.interpolation)})
+        text += QString::number(number) + ' ';
+    return text.trimmed();
+}
 
 /// Declares a \a field of a scripted object with its getter.
 #define SCRIPTED_VALUE(Type, field, Name)                                                          \

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "EngineApi/INLEFactory.h"
+#include "EngineApi/INLEKeyFrames.h"
 #include "EngineApi/INLEMixerSetting.h"
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/INLETransform.h"
 #include "tests/support/ScriptedEngine.h"
 
-/// Sound, picture, blend, transform and mixer settings.
+#include <QVector>
+
+/// Sound, picture, blend, transform and mixer settings, key frames and the context object.
 namespace Scripted {
 
 struct AudioStreamProcess : Object<INLEAudioStreamProcess>
@@ -104,6 +108,61 @@ struct MixerSetting : Object<INLEMixerSetting>
     HRESULT SetParam(int index, const tagMixerParam* value) override
     {
         return Value("SetParam", *value, &param, index);
+    }
+};
+
+struct KeyFrameList : Object<INLEKeyFrameList>
+{
+    using Object::Object;
+
+    QVector<NLEKeyFrameRecord> records;
+    int unreadable = -1; ///< index whose read fails
+    int found = 1;       ///< what a search gives
+
+    HRESULT GetCount(int* out) override { return Value("GetCount", records.size(), out); }
+    HRESULT GetKeyFrame(int index, NLEKeyFrameRecord* out) override
+    {
+        return index == unreadable ? E_FAIL : Value("GetKeyFrame", records.at(index), out, index);
+    }
+    HRESULT SetKeyFrame(int index, const NLEKeyFrameRecord* record) override
+    {
+        return Value("SetKeyFrame", *record, &records[index], index, *record);
+    }
+    HRESULT AddKeyFrame(const NLEKeyFrameRecord* record, int* index) override
+    {
+        return Value("AddKeyFrame", found, index, *record);
+    }
+    HRESULT DeleteKeyFrame(int index) override { return Call("DeleteKeyFrame", index); }
+    HRESULT DeleteAll() override { return Call("DeleteAll"); }
+    HRESULT GetParamAt(double time, NLEKeyFrameRecord* out) override
+    {
+        return Value("GetParamAt", records.first(), out, time);
+    }
+    HRESULT FindIndex(int frame, int frameCount, int* index) override
+    {
+        return Value("FindIndex", found, index, frame, frameCount);
+    }
+};
+
+struct KeyFrameStatus : Object<INLEKeyFrameStatus>
+{
+    using Object::Object;
+
+    SCRIPTED_SETTING(bool, enabled, Status)
+};
+
+/// Only records; the bag is what the test makes of it.
+struct Basin : Object<INLEBasin>
+{
+    using Object::Object;
+
+    HRESULT FillProperties(INLEProperties* properties) override
+    {
+        return Call("FillProperties", properties);
+    }
+    HRESULT TakeProperties(INLEProperties* properties) override
+    {
+        return Call("TakeProperties", properties);
     }
 };
 

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/NLEWraper/VideoKeyFrameParam.h"
+
+#include <cmath>
+
+bool VideoKeyFrameParam::operator==(const VideoKeyFrameParam& other) const
+{
+    constexpr double Tolerance = 1e-12;
+    const QPointF distance = position - other.position;
+    return rotateAngle == other.rotateAngle && std::abs(distance.x()) <= Tolerance &&
+           std::abs(distance.y()) <= Tolerance && time == other.time && opacity == other.opacity &&
+           qFuzzyCompare(scale.width(), other.scale.width()) &&
+           qFuzzyCompare(scale.height(), other.scale.height());
+}
