@@ -30,4 +30,14 @@ inline constexpr const wchar_t* kFreeze_Enabled = L"kFreeze_Enabled";
 inline constexpr const wchar_t* kFreeze_Frame = L"kFreeze_Frame";
 } // namespace Freeze
 
+/// Settings of a whole project; its context object holds them.
+namespace Context {
+/// Double, 0.05 to 1: share of the wanted size that frames are drawn at before they are enlarged.
+inline constexpr const wchar_t* kContext_PreviewScale = L"kContext_PreviewScale";
+/// Integer: 0 draws scaled and turned pictures without smoothing.
+inline constexpr const wchar_t* kContext_SmoothScaling = L"kContext_SmoothScaling";
+/// Integer 0xAARRGGBB: background of a project that has no kRender_BackgroundColor.
+inline constexpr const wchar_t* kContext_BackgroundColor = L"kContext_BackgroundColor";
+} // namespace Context
+
 } // namespace NLEKey

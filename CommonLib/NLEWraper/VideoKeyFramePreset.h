@@ -11,7 +11,7 @@
 struct VideoKeyFramePreset
 {
     double time = 0;       ///< place on the key-frame axis of the clip that it is applied to
-    QPointF position;      ///< as in VideoKeyFrameParam
+    QPointF position = {}; ///< as in VideoKeyFrameParam
     QSizeF scale = {1, 1}; ///< horizontal and vertical factor
     float rotateAngle = 0; ///< degrees, clockwise
     float opacity = 1.0f;  ///< 0 transparent to 1 opaque
@@ -20,9 +20,9 @@ struct VideoKeyFramePreset
 /// A named animation for hosts to offer; the library fills none. The order of the fields is fixed.
 struct VideoKeyFramePresetInfo
 {
-    int id = 0;   ///< identifier, as the host numbers them
-    int kind = 0; ///< group that the host shows it in
-    QString name; ///< shown to the user
-    QString icon; ///< path of a picture
-    QList<VideoKeyFramePreset> keyFrames;
+    int id = 0;        ///< identifier, as the host numbers them
+    int kind = 0;      ///< group that the host shows it in
+    QString name = {}; ///< shown to the user
+    QString icon = {}; ///< path of a picture
+    QList<VideoKeyFramePreset> keyFrames = {};
 };

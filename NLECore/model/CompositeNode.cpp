@@ -5,6 +5,7 @@
 #include "NLECore/model/FrameMath.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace nle {
@@ -24,6 +25,35 @@ int DepthBelow(const TimelineNode& node)
     }
     return composite ? deepest + 1 : 0;
 }
+
+/// Whether a setting of the context can be used; unknown ones only have to be numbers.
+bool IsContextValue(const std::wstring& key, const PropertyBag::Value& value)
+{
+    constexpr double smallestScale = 0.05;
+    const double* number = std::get_if<double>(&value);
+    if (number && !std::isfinite(*number))
+        return false;
+    if (key == NLEKey::Context::kContext_PreviewScale)
+        return number && *number >= smallestScale && *number <= 1;
+    return (key != NLEKey::Context::kContext_BackgroundColor &&
+            key != NLEKey::Context::kContext_SmoothScaling) ||
+           std::holds_alternative<int>(value);
+}
+
+/// Writes a value into a bag of any engine.
+struct WriteValue
+{
+    INLEProperties& bag;
+    const wchar_t* key;
+
+    HRESULT operator()(int value) const { return bag.SetInt(key, value); }
+    HRESULT operator()(double value) const { return bag.SetDouble(key, value); }
+    HRESULT operator()(const NLERational& value) const { return bag.SetRational(key, value); }
+    HRESULT operator()(const std::wstring& value) const
+    {
+        return bag.SetString(key, value.c_str());
+    }
+};
 
 /// Walks a list of clips that it holds itself.
 class Enumerator final : public ComObject<INLETimelineEnumerator>
@@ -191,11 +221,16 @@ void CompositeNode::CopyClipsTo(CompositeNode& copy) const
     }
 }
 
+std::uint32_t CompositeNode::Background() const
+{
+    return std::uint32_t(
+        Bag().IntOr(NLEKey::Render::kRender_BackgroundColor, int(DefaultBackground())));
+}
+
 void CompositeNode::Describe(Layer& layer) const
 {
     layer.kind = LayerKind::Composite;
-    layer.argb = std::uint32_t(
-        Bag().IntOr(NLEKey::Render::kRender_BackgroundColor, int(DefaultBackground())));
+    layer.argb = Background();
     layer.mixer = Mixer().settings;
     for (const NLEComPtr<TimelineNode>& clip : m_clips) {
         if (clip->IsEnabled())
@@ -206,7 +241,11 @@ void CompositeNode::Describe(Layer& layer) const
 }
 
 ProjectNode::ProjectNode(const tagNLEProjectProfile& profile)
-    : ComExtension(profile.frameRate), m_profile(profile)
+    : ComExtension(profile.frameRate)
+    , m_profile(profile)
+    , m_context{{NLEKey::Context::kContext_BackgroundColor, int(0xFF000000u)},
+                {NLEKey::Context::kContext_PreviewScale, 1.0},
+                {NLEKey::Context::kContext_SmoothScaling, 1}}
 {
 }
 
@@ -231,6 +270,48 @@ HRESULT ProjectNode::SetProfile(const tagNLEProjectProfile* profile)
     return S_OK;
 }
 
+HRESULT ProjectNode::FillProperties(INLEProperties* properties)
+{
+    if (!properties)
+        return E_POINTER;
+    for (const auto& [key, value] : m_context) {
+        const HRESULT result = std::visit(WriteValue{*properties, key.c_str()}, value);
+        if (FAILED(result))
+            return result;
+    }
+    return S_OK;
+}
+
+HRESULT ProjectNode::TakeProperties(INLEProperties* properties)
+{
+    if (!properties)
+        return E_POINTER;
+    const PropertyBag* bag = PropertyBag::From(properties);
+    return bag ? TakeContext(bag->All()) : E_INVALIDARG;
+}
+
+HRESULT ProjectNode::TakeContext(const PropertyBag::Values& values)
+{
+    for (const auto& [key, value] : values) {
+        if (!IsContextValue(key, value))
+            return E_INVALIDARG;
+    }
+    for (const auto& [key, value] : values)
+        m_context[key] = value;
+    return S_OK;
+}
+
+std::optional<RenderContext> ProjectNode::OwnContext() const
+{
+    return RenderContext{std::get<double>(m_context.at(NLEKey::Context::kContext_PreviewScale)),
+                         std::get<int>(m_context.at(NLEKey::Context::kContext_SmoothScaling)) != 0};
+}
+
+std::uint32_t ProjectNode::DefaultBackground() const
+{
+    return std::uint32_t(std::get<int>(m_context.at(NLEKey::Context::kContext_BackgroundColor)));
+}
+
 void ProjectNode::ChangeRate(const NLERational& rate)
 {
     CompositeNode::ChangeRate(rate);
@@ -240,6 +321,7 @@ void ProjectNode::ChangeRate(const NLERational& rate)
 NLEComPtr<TimelineNode> ProjectNode::CopyContent(bool deep) const
 {
     NLEComPtr<ProjectNode> copy = MakeCom<ProjectNode>(m_profile);
+    copy->m_context = m_context;
     if (deep)
         CopyClipsTo(*copy);
     return copy;

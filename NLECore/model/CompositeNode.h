@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "EngineApi/INLEFactory.h"
 #include "NLECore/model/TimelineNode.h"
 
 #include <vector>
@@ -30,6 +31,8 @@ public:
     bool PlaysMaterial() const override { return false; }
     void ChangeRate(const NLERational& rate) override;
 
+    /// What shows where no clip does, 0xAARRGGBB.
+    std::uint32_t Background() const;
     const std::vector<NLEComPtr<TimelineNode>>& Clips() const { return m_clips; }
     /// Adds a node that has no parent, as it stands.
     void Adopt(const NLEComPtr<TimelineNode>& clip);
@@ -39,7 +42,7 @@ protected:
     NLEComPtr<TimelineNode> CopyContent(bool deep) const override;
     void Describe(Layer& layer) const override;
 
-    /// What shows where no clip does, 0xAARRGGBB.
+    /// The background of a node whose bag has none.
     virtual std::uint32_t DefaultBackground() const { return 0; }
     void CopyClipsTo(CompositeNode& copy) const;
 
@@ -53,8 +56,8 @@ private:
     std::vector<NLEComPtr<TimelineNode>> m_clips;
 };
 
-/// A project: a composite with a picture and sound format.
-class ProjectNode final : public ComExtension<CompositeNode, INLEProjectSetting>
+/// A project: a composite with a picture and sound format, and the context of all that it holds.
+class ProjectNode final : public ComExtension<CompositeNode, INLEProjectSetting, INLEBasin>
 {
 public:
     explicit ProjectNode(const tagNLEProjectProfile& profile);
@@ -62,18 +65,31 @@ public:
     HRESULT GetProfile(tagNLEProjectProfile* profile) override;
     HRESULT SetProfile(const tagNLEProjectProfile* profile) override;
 
+    /// Sets all settings of the context in a bag of any engine.
+    HRESULT FillProperties(INLEProperties* properties) override;
+    /// Takes every value of a bag; settings that it lacks stay. E_INVALIDARG for another engine's
+    /// bag, for a known key with a value of the wrong type or range, and for numbers that are not
+    /// finite; nothing is taken then.
+    HRESULT TakeProperties(INLEProperties* properties) override;
+
     NLESize PictureSize() const override { return m_profile.frameSize; }
     void ChangeRate(const NLERational& rate) override;
+
+    std::optional<RenderContext> OwnContext() const override;
+    const PropertyBag::Values& ContextValues() const { return m_context; }
+    /// As TakeProperties().
+    HRESULT TakeContext(const PropertyBag::Values& values);
 
     const tagNLEProjectProfile& Profile() const { return m_profile; }
     static bool IsValid(const tagNLEProjectProfile& profile);
 
 protected:
     NLEComPtr<TimelineNode> CopyContent(bool deep) const override;
-    std::uint32_t DefaultBackground() const override { return 0xFF000000u; }
+    std::uint32_t DefaultBackground() const override;
 
 private:
     tagNLEProjectProfile m_profile;
+    PropertyBag::Values m_context; ///< every known key is there
 };
 
 } // namespace nle

@@ -26,6 +26,8 @@ inline const QLatin1String kSize("nle:size");
 inline const QLatin1String kAudio("nle:audio");
 inline const QLatin1String kDecoder("nle:decoder");
 inline const QLatin1String kBagPrefix("nle:bag:");
+/// Followed by the key of a project's context.
+inline const QLatin1String kContextPrefix("nle:context:");
 inline const QLatin1String kBlend("nle:blend");
 inline const QLatin1String kTransform("nle:transform");
 inline const QLatin1String kSoundLevels("nle:sound:levels");
@@ -34,6 +36,7 @@ inline const QLatin1String kSoundEffects("nle:sound:effects");
 inline const QLatin1String kSoundEqualizer("nle:sound:equalizer");
 inline const QLatin1String kSoundEqualizerName("nle:sound:equalizer-name");
 inline const QLatin1String kSoundCurve("nle:sound:curve");
+inline const QLatin1String kKeyFrames("nle:key-frames");
 inline const QLatin1String kAlphaChannel("nle:alpha-channel");
 inline const QLatin1String kProxy("nle:proxy");
 inline const QLatin1String kProxyEnabled("nle:proxy-enabled");

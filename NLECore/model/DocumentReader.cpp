@@ -52,6 +52,17 @@ PropertyBag::Value ParseValue(const QString& text)
     }
 }
 
+/// The values whose names begin with \a prefix, by what follows it.
+PropertyBag::Values ReadValues(const QHash<QString, QString>& properties, QLatin1String prefix)
+{
+    PropertyBag::Values values;
+    for (auto property = properties.begin(); property != properties.end(); ++property) {
+        if (property.key().startsWith(prefix))
+            values[property.key().mid(prefix.size()).toStdWString()] = ParseValue(property.value());
+    }
+    return values;
+}
+
 /// A colour as MLT writes it: "#aarrggbb", "#rrggbb", "0xrrggbbaa" or a name.
 std::uint32_t ParseColor(const QString& text)
 {
@@ -326,13 +337,9 @@ void DocumentReader::ApplyCommon(const Properties& properties, TimelineNode& nod
     node.SetMarginMode(tagNLEMarginMode(properties.value(kMargin).toInt()));
     node.SetEnabled(properties.value(kEnabled, QStringLiteral("1")).toInt() != 0);
     SettingsFromText(properties, m_folder, node);
-    PropertyBag::Values bag;
-    for (auto property = properties.begin(); property != properties.end(); ++property) {
-        if (property.key().startsWith(kBagPrefix))
-            bag[property.key().mid(kBagPrefix.size()).toStdWString()] =
-                ParseValue(property.value());
-    }
-    node.Bag().SetAll(bag);
+    node.Bag().SetAll(ReadValues(properties, kBagPrefix));
+    if (auto* project = dynamic_cast<ProjectNode*>(&node))
+        project->TakeContext(ReadValues(properties, kContextPrefix));
 }
 
 bool DocumentReader::IsBackground(const QString& id) const

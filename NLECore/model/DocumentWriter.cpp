@@ -195,11 +195,14 @@ QString DocumentWriter::WriteComposite(const CompositeNode& node, int order)
                          QString::number(std::max(1, node.TotalLength()) - 1));
     const auto* project = dynamic_cast<const ProjectNode*>(&node);
     WriteCommon(node, project ? kProject : kComposite, order);
-    if (project)
+    if (project) {
         Property(kAudio, QStringLiteral("%1 %2 %3")
                              .arg(project->Profile().sampleRate)
                              .arg(project->Profile().channels)
                              .arg(project->Profile().sampleFormat));
+        for (const auto& [key, value] : project->ContextValues())
+            Property(kContextPrefix + QString::fromStdWString(key), std::visit(ValueText(), value));
+    }
     for (const QString& track : tracks)
         WriteTrack(track, false);
     if (!hidden.isEmpty())
@@ -214,8 +217,10 @@ QString DocumentWriter::WriteComposite(const CompositeNode& node, int order)
 
 void DocumentWriter::WriteBackground(const QString& id, const CompositeNode& node)
 {
+    const bool isProject = dynamic_cast<const ProjectNode*>(&node) != nullptr;
     const int background =
-        node.Bag().IntOr(NLEKey::Render::kRender_BackgroundColor, int(0xFF000000u));
+        isProject ? int(node.Background())
+                  : node.Bag().IntOr(NLEKey::Render::kRender_BackgroundColor, int(0xFF000000u));
     m_xml.writeStartElement(QStringLiteral("producer"));
     m_xml.writeAttribute(QStringLiteral("id"), id);
     m_xml.writeAttribute(QStringLiteral("in"), QStringLiteral("0"));

@@ -4,6 +4,7 @@
 #include "EngineApi/NLETypes.h"
 #include "NLECore/media/MediaInfo.h"
 #include "NLECore/model/ClipSettings.h"
+#include "NLECore/model/KeyFrameList.h"
 
 #include <QString>
 
@@ -20,6 +21,13 @@ enum class LayerKind
     Color,
     Text,
     Composite
+};
+
+/// Settings of a project that count for the whole of a render.
+struct RenderContext
+{
+    double previewScale = 1; ///< share of the wanted size that pictures are drawn at, up to 1
+    bool smooth = true;      ///< whether scaled and turned pictures are smoothed
 };
 
 /// Immutable picture of one node and what it holds: all that a render needs, without the model.
@@ -40,6 +48,8 @@ struct Layer
     std::optional<int> frozenFrame; ///< the one frame that shows
     BlendSettings blend;
     TransformSettings transform;
+    std::shared_ptr<const KeyFrameCurve> keyFrames; ///< null: none apply
+    RenderContext context; ///< of the outermost project; that of the rendered layer counts
     AudioSettings audio;
 
     std::shared_ptr<const MediaInfo> media; ///< Media only

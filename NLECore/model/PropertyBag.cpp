@@ -18,6 +18,25 @@ HRESULT CopyText(const std::wstring& text, wchar_t* buffer, int capacity)
     return S_OK;
 }
 
+PropertyBag* PropertyBag::From(IUnknown* object)
+{
+    void* bag = nullptr;
+    if (!object || FAILED(object->QueryInterface(BagId, &bag)))
+        return nullptr;
+    auto* result = static_cast<PropertyBag*>(bag);
+    result->Release();
+    return result;
+}
+
+HRESULT PropertyBag::QueryInterface(REFIID iid, void** out)
+{
+    if (!out || iid != BagId)
+        return ComObject::QueryInterface(iid, out);
+    *out = this;
+    AddRef();
+    return S_OK;
+}
+
 HRESULT PropertyBag::GetInt(const wchar_t* key, int* value)
 {
     if (!value)

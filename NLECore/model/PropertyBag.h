@@ -21,6 +21,14 @@ public:
     using Value = std::variant<int, double, NLERational, std::wstring>;
     using Values = std::map<std::wstring, Value>;
 
+    /// Identifier under which a bag of this engine tells its class.
+    static constexpr _GUID BagId = {
+        0x6C1B7F04, 0x9A3E, 0x4D52, {0x8E, 0x61, 0x2F, 0x90, 0x37, 0xC4, 0xD8, 0x1B}};
+    /// The bag behind an engine interface, not a new reference; null for another engine's object.
+    static PropertyBag* From(IUnknown* object);
+
+    HRESULT QueryInterface(REFIID iid, void** out) override;
+
     HRESULT GetInt(const wchar_t* key, int* value) override;
     HRESULT SetInt(const wchar_t* key, int value) override { return Store(key, value); }
     HRESULT GetDouble(const wchar_t* key, double* value) override;

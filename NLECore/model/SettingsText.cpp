@@ -53,6 +53,35 @@ void ReadCurve(const QString& text, AudioFacet& audio)
     }
 }
 
+QString KeyFrameText(const KeyFrameFacet& keyFrames)
+{
+    const auto curve = keyFrames.Stored();
+    if (curve->frames.empty() && keyFrames.enabled)
+        return {};
+    QStringList texts = {
+        Join({double(keyFrames.enabled), double(curve->axis.in), double(curve->axis.out)})};
+    for (const NLEKeyFrameRecord& f : curve->frames)
+        texts << Join({f.time, f.angle, f.positionX, f.positionY, f.scaleWidth, f.scaleHeight,
+                       f.opacity, double(f.interpolation)});
+    return texts.join(QLatin1Char(';'));
+}
+
+void ReadKeyFrames(const QString& text, KeyFrameFacet& keyFrames)
+{
+    const QStringList parts = text.split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    const std::vector<double> head = Split(parts.value(0), 3);
+    if (head.empty())
+        return;
+    KeyFrameCurve curve = {{ClampToInt(head[1]), ClampToInt(head[2])}, {}};
+    for (int i = 1; i < parts.size(); ++i) {
+        const std::vector<double> f = Split(parts[i], 8);
+        if (!f.empty())
+            curve.frames.push_back({f[0], f[1], f[2], f[3], f[4], f[5], f[6], ClampToInt(f[7])});
+    }
+    keyFrames.enabled = head[0] != 0;
+    keyFrames.Restore(curve);
+}
+
 void ReadPicture(const QHash<QString, QString>& properties, TimelineNode& node)
 {
     const std::vector<double> blend = Split(properties.value(kBlend), 3);
@@ -71,6 +100,7 @@ void ReadPicture(const QHash<QString, QString>& properties, TimelineNode& node)
         node.Transform().SetRotation(transform[5]);
         node.Transform().SetLock(transform[6] != 0);
     }
+    ReadKeyFrames(properties.value(kKeyFrames), node.KeyFrames());
 }
 
 void ReadSound(const QHash<QString, QString>& properties, AudioFacet& audio)
@@ -205,6 +235,7 @@ std::vector<std::pair<QString, QString>> SettingsToText(const TimelineNode& node
     };
     add(kBlend, blendText(blend), blendText(BlendSettings()));
     add(kTransform, transformText(transform), transformText(TransformSettings()));
+    add(kKeyFrames, KeyFrameText(node.KeyFrames()), QString());
     add(kSoundLevels, levels(sound), levels(preset));
     add(kSoundFades, fades(sound), fades(preset));
     add(kSoundEffects, effects(sound), effects(preset));

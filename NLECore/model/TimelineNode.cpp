@@ -67,6 +67,8 @@ TimelineNode::TimelineNode(const NLERational& frameRate)
     , m_audio(static_cast<INLETimeline&>(*this))
     , m_video(*this)
     , m_mixer(static_cast<INLETimeline&>(*this))
+    , m_keyFrames(*this)
+    , m_keyFrameStatus(static_cast<INLETimeline&>(*this), m_keyFrames)
 {
 }
 
@@ -85,7 +87,9 @@ HRESULT TimelineNode::QueryInterface(REFIID iid, void** out)
                ComDetail::Offer<INLETransform>(&m_transform, iid, out) ||
                ComDetail::Offer<INLEAudioStreamProcess>(&m_audio, iid, out) ||
                ComDetail::Offer<INLEVideoStreamProcess>(&m_video, iid, out) ||
-               ComDetail::Offer<INLEMixerSetting>(&m_mixer, iid, out)))
+               ComDetail::Offer<INLEMixerSetting>(&m_mixer, iid, out) ||
+               ComDetail::Offer<INLEKeyFrameList>(&m_keyFrames, iid, out) ||
+               ComDetail::Offer<INLEKeyFrameStatus>(&m_keyFrameStatus, iid, out)))
         return ComObject::QueryInterface(iid, out);
     AddRef();
     return S_OK;
@@ -213,6 +217,8 @@ HRESULT TimelineNode::Clone(bool deep, INLETimeline** clone)
     copy->m_audio.settings = m_audio.settings;
     copy->m_video.settings = m_video.settings;
     copy->m_mixer.settings = m_mixer.settings;
+    copy->m_keyFrames.Restore(*m_keyFrames.Stored());
+    copy->m_keyFrames.enabled = m_keyFrames.enabled;
     *clone = copy.detach();
     return S_OK;
 }
@@ -252,6 +258,7 @@ void TimelineNode::ChangeRate(const NLERational& rate)
         return;
     if (m_hasRange)
         m_range = RescaleRange(m_range, old, rate);
+    m_keyFrames.RescaleAxis(old, rate);
     AudioSettings& sound = m_audio.settings;
     sound.fadeInFrames = RescaleFrame(sound.fadeInFrames, old, rate);
     sound.fadeOutFrames = RescaleFrame(sound.fadeOutFrames, old, rate);
@@ -282,10 +289,21 @@ void TimelineNode::ChangeSpeed(Change change)
     const double before = Speed();
     change();
     const double after = Speed();
-    if (!m_hasRange || before == after)
+    if (before == after)
         return;
-    m_range =
-        RescaleRange(m_range, RateFromDouble(before), RateFromDouble(before * before / after));
+    const NLERational from = RateFromDouble(before);
+    const NLERational to = RateFromDouble(before * before / after);
+    m_keyFrames.RescaleAxis(from, to);
+    if (m_hasRange)
+        m_range = RescaleRange(m_range, from, to);
+}
+
+RenderContext TimelineNode::Context() const
+{
+    RenderContext context;
+    for (const TimelineNode* node = this; node; node = node->m_parent)
+        context = node->OwnContext().value_or(context);
+    return context;
 }
 
 Snapshot TimelineNode::MakeSnapshot() const
@@ -305,6 +323,8 @@ Snapshot TimelineNode::MakeSnapshot() const
     layer->blend = m_blend.settings;
     layer->transform = m_transform.settings;
     layer->audio = m_audio.settings;
+    layer->keyFrames = m_keyFrames.Curve();
+    layer->context = Context();
     Describe(*layer);
     return layer;
 }

@@ -4,6 +4,7 @@
 #include "EngineApi/ComObject.h"
 #include "EngineApi/INLEProperties.h"
 #include "EngineApi/INLETimeline.h"
+#include "NLECore/model/KeyFrameFacets.h"
 #include "NLECore/model/Layer.h"
 #include "NLECore/model/NodeFacets.h"
 #include "NLECore/model/PropertyBag.h"
@@ -101,12 +102,16 @@ public:
     AudioFacet& Audio() { return m_audio; }
     VideoFacet& Video() { return m_video; }
     MixerFacet& Mixer() { return m_mixer; }
+    KeyFrameFacet& KeyFrames() { return m_keyFrames; }
+    const KeyFrameFacet& KeyFrames() const { return m_keyFrames; }
     const BlendFacet& Blend() const { return m_blend; }
     const TransformFacet& Transform() const { return m_transform; }
     const AudioFacet& Audio() const { return m_audio; }
     const VideoFacet& Video() const { return m_video; }
     const MixerFacet& Mixer() const { return m_mixer; }
 
+    /// What every render of the project sees, if the node is one.
+    virtual std::optional<RenderContext> OwnContext() const { return std::nullopt; }
     CompositeNode* Parent() const { return m_parent; }
     void SetParent(CompositeNode* parent) { m_parent = parent; }
     /// Counts ranges at \a rate from now on, keeping the instants of in and out point.
@@ -122,6 +127,9 @@ protected:
     virtual void Describe(Layer& layer) const = 0;
 
 private:
+    /// The outermost project's.
+    RenderContext Context() const;
+
     const std::uint32_t m_id;
     NLERange m_range = {0, -1};
     bool m_hasRange = false;
@@ -138,6 +146,8 @@ private:
     AudioFacet m_audio;
     VideoFacet m_video;
     MixerFacet m_mixer;
+    KeyFrameFacet m_keyFrames;
+    KeyFrameStatusFacet m_keyFrameStatus;
 };
 
 } // namespace nle

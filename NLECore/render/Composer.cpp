@@ -51,6 +51,20 @@ QImage TextPicture(const Layer& layer, const QSize& size)
     return image;
 }
 
+/// The layer's own transform with what a key frame adds to it.
+TransformSettings TransformAt(const Layer& layer, const NLEKeyFrameRecord* key)
+{
+    TransformSettings result = layer.transform.enabled ? layer.transform : TransformSettings();
+    if (!key)
+        return result;
+    result.center.x += key->positionX;
+    result.center.y -= key->positionY; // it grows upward
+    result.scale.width *= key->scaleWidth;
+    result.scale.height *= key->scaleHeight;
+    result.rotation = std::fmod(result.rotation, 360.0) + std::fmod(key->angle, 360.0);
+    return result;
+}
+
 /// Where a layer's picture lies: an upright rectangle and what is done to it.
 struct Placing
 {
@@ -58,10 +72,10 @@ struct Placing
     double rotation; ///< degrees about the rectangle's middle
 };
 
-Placing PlaceLayer(const Layer& layer, NLESize parentSize, const QSize& canvas)
+Placing PlaceLayer(const Layer& layer, const TransformSettings& transform, NLESize parentSize,
+                   const QSize& canvas)
 {
     const QRect plain = PlacePicture(layer.size, layer.margin, parentSize, canvas);
-    const TransformSettings& transform = layer.transform;
     if (plain.isEmpty() || transform.IsIdentity())
         return {plain, 0};
     const auto pixels = [](double value) {
@@ -180,9 +194,14 @@ QImage Composer::Render(std::int64_t frame, const QSize& frameSize, QRect* place
     *place = PlacePicture(m_root->size, NLEMargin_Fit, m_root->size, frameSize);
     if (place->isEmpty())
         return {};
-    QImage image = Content(*m_root, frame, place->size());
+    const RenderContext& context = m_root->context;
+    const QSize drawn = (QSizeF(place->size()) * context.previewScale).toSize();
+    QImage image = Content(*m_root, frame, drawn.expandedTo(QSize(1, 1)));
     DropIdleDecoders();
-    return image;
+    if (image.isNull() || image.size() == place->size())
+        return image;
+    return image.scaled(place->size(), Qt::IgnoreAspectRatio,
+                        context.smooth ? Qt::SmoothTransformation : Qt::FastTransformation);
 }
 
 QImage Composer::Content(const Layer& layer, std::int64_t frame, const QSize& size)
@@ -226,20 +245,27 @@ QImage Composer::Composite(const Layer& layer, std::int64_t frame, const QSize& 
 {
     QImage canvas = ColorPicture(layer.argb, size);
     QPainter painter(&canvas);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, m_root->context.smooth);
     for (const Snapshot& child : layer.children) {
         if (!child->PlaysAt(frame) || child->mode == NLERender_AudioOnly)
             continue;
-        const Placing placing = PlaceLayer(*child, layer.size, size);
+        const std::int64_t childFrame = frame - child->position + child->range.in;
+        std::optional<NLEKeyFrameRecord> key;
+        if (child->keyFrames)
+            key = child->keyFrames->AtFrame(double(childFrame));
+        const Placing placing =
+            PlaceLayer(*child, TransformAt(*child, key ? &*key : nullptr), layer.size, size);
         if (placing.rect.width() == 0 || placing.rect.height() == 0)
             continue;
-        const QImage picture =
-            Content(*child, frame - child->position + child->range.in, DecodeSize(placing.rect));
+        const double opacity = key ? std::clamp(key->opacity, 0.0, 1.0) : 1;
+        if (opacity == 0)
+            continue;
+        const QImage picture = Content(*child, childFrame, DecodeSize(placing.rect));
         if (picture.isNull())
             continue;
         const BlendSettings blend = child->blend.enabled ? child->blend : BlendSettings();
         painter.setCompositionMode(PainterMode(blend.mode));
-        painter.setOpacity(double(blend.alpha) / kOpaqueAlpha);
+        painter.setOpacity(opacity * blend.alpha / kOpaqueAlpha);
         Draw(painter, picture, placing);
     }
     return canvas;

@@ -36,6 +36,14 @@ QSize EvenSize(NLESize size)
     return QSize(size.width & ~1, size.height & ~1);
 }
 
+/// A file is written at its full size, however small the preview is.
+Snapshot AtFullSize(const Snapshot& root)
+{
+    auto copy = std::make_shared<Layer>(*root);
+    copy->context.previewScale = 1;
+    return copy;
+}
+
 /// The rendered picture on a black frame.
 QImage OnFrame(const QImage& picture, const QRect& place, const QSize& size)
 {
@@ -57,7 +65,7 @@ HRESULT MediaEncoder::Open(INLETimeline* timeline, const wchar_t* path,
     if (!node || !path)
         return E_INVALIDARG;
     const NLEEncodeSettings wanted = settings ? *settings : NLEEncodeSettings{};
-    m_root = node->MakeSnapshot();
+    m_root = AtFullSize(node->MakeSnapshot());
     m_path = QString::fromWCharArray(path);
     // A clip is encoded as it is trimmed, a composite as long as it has clips.
     const NLERange whole =

@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/model/KeyFrameFacets.h"
+
+#include "EngineApi/NLECommon.h"
+#include "NLECore/model/FrameMath.h"
+#include "NLECore/model/TimelineNode.h"
+
+#include <cmath>
+
+namespace nle {
+
+namespace {
+
+bool IsFinite(const NLEKeyFrameRecord& r)
+{
+    for (const double number :
+         {r.time, r.angle, r.positionX, r.positionY, r.scaleWidth, r.scaleHeight, r.opacity}) {
+        if (!std::isfinite(number))
+            return false;
+    }
+    return true;
+}
+
+bool IsSame(const NLERange& a, const NLERange& b)
+{
+    return a.in == b.in && a.out == b.out;
+}
+
+/// The place on \a to of what is at \a time on \a from.
+double MapTime(double time, const NLERange& from, const NLERange& to)
+{
+    constexpr double limit = std::numeric_limits<double>::max();
+    double frame = from.in + time * double(NLERangeLength(from));
+    // A key frame on a frame stays exactly there, however often the range changes.
+    const double nearest = std::round(frame);
+    if (std::abs(frame - nearest) < 1e-6)
+        frame = nearest;
+    return std::clamp((frame - to.in) / double(NLERangeLength(to)), -limit, limit);
+}
+
+} // namespace
+
+KeyFrameFacet::KeyFrameFacet(TimelineNode& node)
+    : NodeFacet(static_cast<INLETimeline&>(node)), m_owner(node)
+{
+}
+
+void KeyFrameFacet::FollowRange()
+{
+    const NLERange range = m_owner.Range();
+    if (NLERangeLength(range) == 0 || IsSame(range, m_axis))
+        return;
+    if (NLERangeLength(m_axis) > 0)
+        m_frames.MapTimes([&](double time) { return MapTime(time, m_axis, range); });
+    m_axis = range;
+    Changed();
+}
+
+HRESULT KeyFrameFacet::GetCount(int* count)
+{
+    return GiveValue(count, m_frames.Count());
+}
+
+HRESULT KeyFrameFacet::GetKeyFrame(int index, NLEKeyFrameRecord* record)
+{
+    if (!Has(index))
+        return E_INVALIDARG;
+    FollowRange();
+    return GiveValue(record, m_frames.At(index));
+}
+
+HRESULT KeyFrameFacet::SetKeyFrame(int index, const NLEKeyFrameRecord* record)
+{
+    if (!record)
+        return E_POINTER;
+    if (!Has(index) || !IsFinite(*record))
+        return E_INVALIDARG;
+    FollowRange();
+    if (m_frames.At(index).time != record->time) {
+        const int count = m_frames.Count();
+        const int other =
+            m_frames.First([=](const NLEKeyFrameRecord& r) { return r.time >= record->time; });
+        if (other < count && m_frames.At(other).time == record->time)
+            return E_INVALIDARG;
+        m_frames.Erase(index);
+    }
+    m_frames.Put(*record);
+    Changed();
+    return S_OK;
+}
+
+HRESULT KeyFrameFacet::AddKeyFrame(const NLEKeyFrameRecord* record, int* index)
+{
+    if (!record || !index)
+        return E_POINTER;
+    if (!IsFinite(*record))
+        return E_INVALIDARG;
+    FollowRange();
+    *index = m_frames.Put(*record);
+    Changed();
+    return S_OK;
+}
+
+HRESULT KeyFrameFacet::DeleteKeyFrame(int index)
+{
+    if (!Has(index))
+        return E_INVALIDARG;
+    m_frames.Erase(index);
+    Changed();
+    return S_OK;
+}
+
+HRESULT KeyFrameFacet::DeleteAll()
+{
+    m_frames.Clear();
+    Changed();
+    return S_OK;
+}
+
+HRESULT KeyFrameFacet::GetParamAt(double time, NLEKeyFrameRecord* record)
+{
+    if (!std::isfinite(time))
+        return E_INVALIDARG;
+    if (m_frames.Count() == 0)
+        return E_FAIL;
+    FollowRange();
+    return GiveValue(record, m_frames.ValueAt(time));
+}
+
+HRESULT KeyFrameFacet::FindIndex(int frame, int frameCount, int* index)
+{
+    if (frameCount < 1)
+        return E_INVALIDARG;
+    FollowRange();
+    const auto frameOf = [frameCount](const NLEKeyFrameRecord& record) {
+        return NLECommon::KeyFrame::CaculateKeyFrameIndex(record.time, frameCount);
+    };
+    const int found =
+        m_frames.First([&](const NLEKeyFrameRecord& record) { return frameOf(record) >= frame; });
+    if (!Has(found) || frameOf(m_frames.At(found)) != frame)
+        return E_FAIL;
+    return GiveValue(index, found);
+}
+
+std::shared_ptr<const KeyFrameCurve> KeyFrameFacet::Curve() const
+{
+    return enabled && m_frames.Count() > 0 ? Stored() : nullptr;
+}
+
+std::shared_ptr<const KeyFrameCurve> KeyFrameFacet::Stored() const
+{
+    const NLERange axis = NLERangeLength(m_axis) > 0 ? m_axis : m_owner.Range();
+    if (!m_curve || !IsSame(m_curve->axis, axis))
+        m_curve = std::make_shared<KeyFrameCurve>(KeyFrameCurve{axis, m_frames.All()});
+    return m_curve;
+}
+
+void KeyFrameFacet::Restore(const KeyFrameCurve& curve)
+{
+    m_frames.Clear();
+    for (const NLEKeyFrameRecord& record : curve.frames) {
+        if (IsFinite(record))
+            m_frames.Put(record);
+    }
+    m_axis = curve.axis;
+    Changed();
+}
+
+void KeyFrameFacet::RescaleAxis(const NLERational& from, const NLERational& to)
+{
+    m_axis = RescaleRange(m_axis, from, to);
+    Changed();
+}
+
+HRESULT KeyFrameStatusFacet::GetStatus(bool* enabled)
+{
+    return GiveValue(enabled, m_keyFrames.enabled);
+}
+
+HRESULT KeyFrameStatusFacet::SetStatus(bool enabled)
+{
+    m_keyFrames.enabled = enabled;
+    return S_OK;
+}
+
+} // namespace nle
