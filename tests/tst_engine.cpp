@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // The open engine, judged by what it shows: pixels, samples and files.
+#include "CommonLib/NLEWraper/VideoKeyFrameSetting.h"
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
 
@@ -475,6 +476,9 @@ private slots:
         const Node clip = Media();
         SetRange(clip, 20, 39);
         Add(project, clip, 10);
+        // From the top left quarter to the bottom right one; in the middle at the frame looked at.
+        VideoKeyFrameSetting(clip).AddKeyFrame({0, 0, 1, {-0.25, 0.25}, {0.5, 0.5}});
+        VideoKeyFrameSetting(clip).AddKeyFrame({0.5, 0, 1, {0.25, -0.25}, {0.5, 0.5}});
         const QString document = Path("player.mlt");
         QVERIFY(Save(project, document));
         const QStringList arguments =
@@ -491,7 +495,7 @@ private slots:
             melt.waitForFinished();
         }
         QVERIFY(ended);
-        QCOMPARE(ReadFrameNumber(QImage(Path("frame.png"))), 25);
+        QCOMPARE(ReadFrameNumber(QImage(Path("frame.png")).copy(80, 45, 160, 90)), 25);
     }
 
     void foreignDocument()

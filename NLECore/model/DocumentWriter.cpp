@@ -4,6 +4,7 @@
 #include "EngineApi/NLEKey.h"
 #include "NLECore/model/DocumentFormat.h"
 #include "NLECore/model/FrameMath.h"
+#include "NLECore/model/MotionFilters.h"
 #include "NLECore/model/SettingsText.h"
 #include "NLECore/model/TimelineFactory.h"
 
@@ -120,6 +121,7 @@ void DocumentWriter::WriteProducer(const QString& id, const TimelineNode& node, 
         Property(QStringLiteral("bgcolour"), QStringLiteral("#00000000"));
         WriteCommon(node, kText, order);
     }
+    WriteMotion(node);
     m_xml.writeEndElement();
 }
 
@@ -211,6 +213,7 @@ QString DocumentWriter::WriteComposite(const CompositeNode& node, int order)
         WriteTransition("mix", track);
         WriteTransition("composite", track);
     }
+    WriteMotion(node);
     m_xml.writeEndElement();
     return id;
 }
@@ -286,6 +289,16 @@ void DocumentWriter::WriteTransition(const char* service, int track)
     else
         Property(QStringLiteral("geometry"), QStringLiteral("0/0:100%x100%:100"));
     m_xml.writeEndElement();
+}
+
+void DocumentWriter::WriteMotion(const TimelineNode& node)
+{
+    for (const DocumentFilter& filter : MotionFilters(node)) {
+        m_xml.writeStartElement(QStringLiteral("filter"));
+        for (const auto& [name, value] : filter)
+            Property(name, value);
+        m_xml.writeEndElement();
+    }
 }
 
 void DocumentWriter::EntryOf(const QString& producer, const NLERange& range)

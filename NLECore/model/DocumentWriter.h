@@ -35,6 +35,7 @@ private:
     QString WriteUnplaced(const Lane& lane);
     void WriteTrack(const QString& producer, bool hidden);
     void WriteTransition(const char* service, int track);
+    void WriteMotion(const TimelineNode& node);
     void WriteProfile(const TimelineNode& root);
     void WriteCommon(const TimelineNode& node, QLatin1String kind, int order);
     void WriteMedia(const MediaClip& clip);

@@ -65,30 +65,6 @@ TransformSettings TransformAt(const Layer& layer, const NLEKeyFrameRecord* key)
     return result;
 }
 
-/// Where a layer's picture lies: an upright rectangle and what is done to it.
-struct Placing
-{
-    QRectF rect;     ///< in pixels of the canvas; a side below 0 mirrors
-    double rotation; ///< degrees about the rectangle's middle
-};
-
-Placing PlaceLayer(const Layer& layer, const TransformSettings& transform, NLESize parentSize,
-                   const QSize& canvas)
-{
-    const QRect plain = PlacePicture(layer.size, layer.margin, parentSize, canvas);
-    if (plain.isEmpty() || transform.IsIdentity())
-        return {plain, 0};
-    const auto pixels = [](double value) {
-        return std::clamp(value, -kFarthestPixel, kFarthestPixel);
-    };
-    const QSizeF size(pixels(plain.width() * transform.scale.width),
-                      pixels(plain.height() * transform.scale.height));
-    const QPointF center(pixels(transform.center.x * canvas.width()),
-                         pixels(transform.center.y * canvas.height()));
-    return {QRectF(center - QPointF(size.width() / 2, size.height() / 2), size),
-            std::fmod(transform.rotation, 360.0)};
-}
-
 QPainter::CompositionMode PainterMode(BlendMode mode)
 {
     switch (mode) {
@@ -187,6 +163,24 @@ QRect PlacePicture(NLESize size, tagNLEMarginMode margin, NLESize parentSize, co
         whole);
 }
 
+Placing PlaceLayer(const Layer& layer, const NLEKeyFrameRecord* key, NLESize parentSize,
+                   const QSize& canvas)
+{
+    const QRect plain = PlacePicture(layer.size, layer.margin, parentSize, canvas);
+    const TransformSettings transform = TransformAt(layer, key);
+    if (plain.isEmpty() || transform.IsIdentity())
+        return {plain, 0};
+    const auto pixels = [](double value) {
+        return std::clamp(value, -kFarthestPixel, kFarthestPixel);
+    };
+    const QSizeF size(pixels(plain.width() * transform.scale.width),
+                      pixels(plain.height() * transform.scale.height));
+    const QPointF center(pixels(transform.center.x * canvas.width()),
+                         pixels(transform.center.y * canvas.height()));
+    return {QRectF(center - QPointF(size.width() / 2, size.height() / 2), size),
+            std::fmod(transform.rotation, 360.0)};
+}
+
 Composer::Composer(Snapshot root) : m_root(std::move(root)) {}
 
 QImage Composer::Render(std::int64_t frame, const QSize& frameSize, QRect* place)
@@ -253,8 +247,7 @@ QImage Composer::Composite(const Layer& layer, std::int64_t frame, const QSize& 
         std::optional<NLEKeyFrameRecord> key;
         if (child->keyFrames)
             key = child->keyFrames->AtFrame(double(childFrame));
-        const Placing placing =
-            PlaceLayer(*child, TransformAt(*child, key ? &*key : nullptr), layer.size, size);
+        const Placing placing = PlaceLayer(*child, key ? &*key : nullptr, layer.size, size);
         if (placing.rect.width() == 0 || placing.rect.height() == 0)
             continue;
         const double opacity = key ? std::clamp(key->opacity, 0.0, 1.0) : 1;

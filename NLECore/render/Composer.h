@@ -5,7 +5,7 @@
 #include "NLECore/model/Layer.h"
 
 #include <QImage>
-#include <QRect>
+#include <QRectF>
 
 #include <map>
 
@@ -13,6 +13,18 @@ namespace nle {
 
 /// Where a picture of \a size lies on a parent of \a parentSize that is drawn \a canvas large.
 QRect PlacePicture(NLESize size, tagNLEMarginMode margin, NLESize parentSize, const QSize& canvas);
+
+/// Where a layer's picture lies: an upright rectangle and what is done to it.
+struct Placing
+{
+    QRectF rect;     ///< in pixels of the canvas; a side below 0 mirrors
+    double rotation; ///< degrees about the rectangle's middle, clockwise
+};
+
+/// Where \a layer lies, its transform and a key frame (or null) applied, on a parent of
+/// \a parentSize that is drawn \a canvas large.
+Placing PlaceLayer(const Layer& layer, const NLEKeyFrameRecord* key, NLESize parentSize,
+                   const QSize& canvas);
 
 /// Draws frames of a snapshot. One object serves one thread; it keeps the decoders of the layers
 /// that are playing.
