@@ -10,6 +10,7 @@
 #include "Host/Console.h"
 #include "Host/ContactSheet.h"
 #include "Host/MediaReport.h"
+#include "Host/MediaTimeline.h"
 #include "Host/OutputFolder.h"
 #include "Host/WaveSheet.h"
 
@@ -72,7 +73,7 @@ bool MediaJob::run(const QString& path)
         return true;
     }
 
-    NLETimeline timeline(node, ExactType_Unknown, nullptr);
+    MediaTimeline timeline(node, ExactType_Unknown, nullptr);
     const MediaReport report(timeline);
     for (const QString& line : report.lines())
         m_console.print(QStringLiteral("  ") + line);

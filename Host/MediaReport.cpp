@@ -73,6 +73,7 @@ MediaReport::MediaReport(NLETimeline& timeline)
     , size(timeline.GetSourceSize())
     , rate(0)
     , frames(0)
+    , sampleRates(timeline.GetAudioSourceStreamsSampleRate())
     , streams(readStreams(timeline.GetTimelineMediaInfo().get()))
 {
     timeline.GetMediaFrameCount(frames, rate);
@@ -123,6 +124,11 @@ QString MediaReport::summary() const
 QStringList MediaReport::lines() const
 {
     QStringList result{summary()};
+    QStringList rates;
+    for (const int sampleRate : sampleRates)
+        rates << QStringLiteral("%1 Hz").arg(sampleRate);
+    if (!rates.isEmpty())
+        result << QStringLiteral("sample rates: ") + rates.join(QStringLiteral(", "));
     for (int index = 0; index < streams.size(); ++index)
         result << tr("stream %1: %2").arg(index).arg(streamText(streams[index]));
     return result;

@@ -4,6 +4,7 @@
 #include "EngineApi/NLETypes.h"
 
 #include <QCoreApplication>
+#include <QList>
 #include <QSizeF>
 #include <QStringList>
 #include <QVector>
@@ -26,7 +27,7 @@ public:
     double seconds() const;
     /// "Video, 1280 × 720, 25 fps, 250 frames, 00:00:10:00"
     QString summary() const;
-    /// The summary and a line for each stream.
+    /// The summary, the sample rates of the sound streams and a line for each stream.
     QStringList lines() const;
 
     bool image;
@@ -35,5 +36,6 @@ public:
     QSizeF size; ///< as displayed, in pixels
     float rate;
     unsigned int frames;
+    QList<int> sampleRates; ///< of the sound streams, as far as the timeline object knows them
     QVector<NLEStreamInfo> streams;
 };
