@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/BaseButton.h"
+
+#include "CommonLib/WidgetAccessibility_p.h"
+
+BaseButton::BaseButton(const QString& name, QWidget* parent) : BaseButton(0, name, parent) {}
+
+BaseButton::BaseButton(int id, const QString& name, QWidget* parent) : QPushButton(parent), m_id(id)
+{
+    InstallWidgetAccessibility();
+    // Named before it is styled, so that rules for the name are looked up once.
+    setObjectName(name);
+    setAttribute(Qt::WA_StyledBackground);
+    setStyleSheet(QStringLiteral("QPushButton{border:0px;}"));
+    connect(this, &QPushButton::clicked, this,
+            [this] { emit Clicked(m_id, mapToGlobal(QPoint(0, 0))); });
+    connect(this, &QPushButton::pressed, this,
+            [this] { emit Pressed(m_id, mapToGlobal(QPoint(0, 0))); });
+}
+
+int BaseButton::GetId() const
+{
+    return m_id;
+}
+
+void BaseButton::SetEnabled(bool enabled)
+{
+    setEnabled(enabled);
+}
+
+void BaseButton::enterEvent(QEvent* event)
+{
+    QPushButton::enterEvent(event);
+    emit sigEnter(m_id);
+}
+
+void BaseButton::leaveEvent(QEvent* event)
+{
+    QPushButton::leaveEvent(event);
+    emit sigLeave(m_id);
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "CommonLib/CommonLibExport.h"
+
+#include <QPoint>
+#include <QPushButton>
+#include <QString>
+
+/// Push button with a number, so that one slot serves many buttons.
+///
+/// Style sheets reach it by its object name, the name given. It has no border: a sheet of its own
+/// says so, which wins over the border in a sheet of the application. The parent widget given owns
+/// it and is what parentWidget() gives.
+///
+/// Assistive tools read its accessible name, else its text, its tool tip or its object name.
+class COMMONLIB_EXPORT BaseButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    /// With id 0.
+    BaseButton(const QString& name, QWidget* parent);
+    BaseButton(int id, const QString& name, QWidget* parent);
+
+    int GetId() const;
+    /// As setEnabled().
+    void SetEnabled(bool enabled);
+
+signals:
+    /// A click, and a press. \a p is the button's upper left corner in global coordinates.
+    void Clicked(int id, QPoint p);
+    void Pressed(int id, QPoint p);
+    /// The mouse came or went. \a type is the id.
+    void sigEnter(int type);
+    void sigLeave(int type);
+
+protected:
+    void enterEvent(QEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    int m_id;
+};

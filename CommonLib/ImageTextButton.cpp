@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/ImageTextButton.h"
+
+#include "CommonLib/BaseButton.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPointer>
+
+namespace {
+
+constexpr int kInitialSide = 300;
+
+enum ImageAlign
+{
+    ImageLeft,
+    ImageOnTop,
+    ImageRight,
+    ImageBelow
+};
+
+} // namespace
+
+ImageTextButton::ImageTextButton(int id, const QString& name, QWidget* parent)
+    : QWidget(parent), m_text(new QLabel(this)), m_image(new BaseButton(id, name, this))
+{
+    m_text->setObjectName(QStringLiteral("ImageTextButton_Text"));
+    m_text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    // Else the text would lose its hover style to the image and swallow nothing in exchange.
+    m_text->setAttribute(Qt::WA_TransparentForMouseEvents);
+    connect(m_image, &BaseButton::Clicked, this, &ImageTextButton::Clicked);
+    resize(kInitialSide, kInitialSide);
+    LayOut();
+}
+
+void ImageTextButton::SetText(QString text)
+{
+    m_text->setText(text);
+    m_image->setAccessibleName(text);
+}
+
+void ImageTextButton::SetTextAlign(Qt::Alignment alignment)
+{
+    m_text->setAlignment(alignment);
+}
+
+void ImageTextButton::SetImageAlign(int align)
+{
+    m_imageAlign = align;
+    const bool centred = align == ImageOnTop || align == ImageBelow;
+    m_text->setAlignment((centred ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter);
+    if (isVisible())
+        LayOut();
+}
+
+void ImageTextButton::SetImageWidth(int width)
+{
+    m_image->setIconSize(QSize(width, width));
+}
+
+void ImageTextButton::enterEvent(QEvent* event)
+{
+    QWidget::enterEvent(event);
+    PassToText(event);
+}
+
+void ImageTextButton::leaveEvent(QEvent* event)
+{
+    QWidget::leaveEvent(event);
+    PassToText(event);
+}
+
+void ImageTextButton::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (rect().contains(event->pos())) {
+        const QPointer<ImageTextButton> self(this);
+        emit Clicked(m_image->GetId(), mapToGlobal(QPoint(0, 0)));
+        if (!self)
+            return;
+    }
+    QWidget::mouseReleaseEvent(event);
+}
+
+void ImageTextButton::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    LayOut();
+}
+
+void ImageTextButton::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    LayOut();
+}
+
+void ImageTextButton::LayOut()
+{
+    // QRect's right() and bottom() are the last column and row within, so that image and text share
+    // one; intended.
+    const int w = width();
+    const int h = height();
+    QRect image(0, 0, h, h);
+    QRect text;
+    switch (m_imageAlign) {
+    case ImageOnTop:
+        image = QRect(0, 0, w, w);
+        text = QRect(0, image.bottom(), w, h - image.bottom());
+        break;
+    case ImageRight:
+        text = QRect(0, 0, w - h, h);
+        image.moveLeft(text.right());
+        break;
+    case ImageBelow:
+        text = QRect(0, 0, w, h - w);
+        image = QRect(0, text.bottom(), w, w);
+        break;
+    default:
+        text = QRect(image.right(), 0, w - image.right(), h);
+        break;
+    }
+    m_image->setGeometry(image);
+    m_text->setGeometry(text);
+}
+
+void ImageTextButton::PassToText(QEvent* event)
+{
+    QEvent copy(event->type());
+    QCoreApplication::sendEvent(m_text, &copy);
+    m_text->update();
+}

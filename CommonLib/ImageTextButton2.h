@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "CommonLib/CommonLibExport.h"
+
+#include <QColor>
+#include <QPixmap>
+#include <QString>
+#include <QWidget>
+
+/// Tab that shows an image above a text and becomes selected by a press, or by Space or Return.
+///
+/// Whoever shows several of them sets the others back to Normal on sigSelected(). Until a colour is
+/// set, the text takes the palette's text colour, and its highlight while selected, which a style
+/// sheet reaches as "color" and "selection-background-color".
+class COMMONLIB_EXPORT ImageTextButton2 : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(QPixmap normalImage READ GetNormalImage WRITE SetNormalImage)
+    Q_PROPERTY(QPixmap selectedImage READ GetSelectedImage WRITE SetSelectedImage)
+    Q_PROPERTY(QColor normalTextColor READ GetNormalTextColor WRITE SetNormalTextColor)
+    Q_PROPERTY(QColor selectedTextColor READ GetSelectedTextColor WRITE SetSelectedTextColor)
+
+public:
+    enum BUTTONSTATE
+    {
+        Normal = 0,
+        Selected = 1
+    };
+
+    /// \a name becomes the object name.
+    ImageTextButton2(int id, const QString& name, QWidget* parent);
+
+    int GetId() const;
+    void SetText(const QString& text);
+    QString GetText() const;
+    /// Drawn at its size in device-independent pixels.
+    void SetNormalImage(QPixmap image);
+    QPixmap GetNormalImage() const;
+    void SetSelectedImage(QPixmap image);
+    QPixmap GetSelectedImage() const;
+    void SetNormalTextColor(QColor color);
+    QColor GetNormalTextColor() const;
+    void SetSelectedTextColor(QColor color);
+    QColor GetSelectedTextColor() const;
+    /// Emits nothing. Neither image nor text shows in a state that is none of the two.
+    void SetButtonState(BUTTONSTATE state);
+
+    QSize sizeHint() const override;
+
+signals:
+    /// The user selected the tab, or pressed it again.
+    void sigSelected(int id);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    friend class ImageTextButton2Accessible;
+
+    void Select();
+
+    QPixmap m_normalImage;
+    QPixmap m_selectedImage;
+    QColor m_normalTextColor;
+    QColor m_selectedTextColor;
+    QString m_text;
+    BUTTONSTATE m_state = Normal;
+    int m_id;
+};

@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/PureSlider.h"
+
+#include "CommonLib/SliderSteps_p.h"
+#include "CommonLib/WidgetAccessibility_p.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QWheelEvent>
+
+#include <cmath>
+
+namespace {
+
+constexpr int kDefaultMinimum = 0;
+constexpr int kDefaultMaximum = 100;
+constexpr QSize kUsualSize(160, 12);
+constexpr QRgb kDisabledVeil = qRgba(240, 240, 240, 150);
+constexpr int kStepsPerRange = 100;
+constexpr int kPagesPerRange = 10;
+
+} // namespace
+
+PureSlider::PureSlider(QWidget* parent) : QWidget(parent)
+{
+    InstallWidgetAccessibility();
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void PureSlider::SetRange(int min, int max)
+{
+    m_minimum = min < max ? min : kDefaultMinimum;
+    m_maximum = min < max ? max : kDefaultMaximum;
+    SetValue(m_value);
+}
+
+void PureSlider::GetRange(int* min, int* max) const
+{
+    if (min)
+        *min = m_minimum;
+    if (max)
+        *max = m_maximum;
+}
+
+void PureSlider::SetValue(int value)
+{
+    const int limited = qBound(m_minimum, value, m_maximum);
+    update();
+    if (limited == m_value)
+        return;
+    m_value = limited;
+    NotifyAccessibleValue(this, m_value);
+    emit sigValueChanged(m_value);
+}
+
+int PureSlider::GetValue() const
+{
+    return m_value;
+}
+
+void PureSlider::SetBorderColor(const QColor& color)
+{
+    m_borderColor = color;
+    update();
+}
+
+void PureSlider::SetSubpageColor(const QColor& color)
+{
+    m_subpageColor = color;
+    update();
+}
+
+void PureSlider::SetAddpageColor(const QColor& color)
+{
+    m_addpageColor = color;
+    update();
+}
+
+QSize PureSlider::sizeHint() const
+{
+    return kUsualSize;
+}
+
+void PureSlider::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), m_addpageColor);
+    // In 64 bits: the range may span all of an int.
+    const qint64 range = qint64(m_maximum) - m_minimum;
+    const auto filled = static_cast<int>(width() * (qint64(m_value) - m_minimum) / range);
+    painter.fillRect(0, 0, filled, height(), m_subpageColor);
+    painter.setPen(m_borderColor);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    if (m_keyboardFocus) {
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    if (!isEnabled())
+        painter.fillRect(rect(), QColor::fromRgba(kDisabledVeil));
+}
+
+void PureSlider::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        FollowMouse(event, event->pos().x());
+    else
+        event->ignore();
+}
+
+void PureSlider::mouseMoveEvent(QMouseEvent* event)
+{
+    if (event->buttons() & Qt::LeftButton)
+        FollowMouse(event, qMin(event->pos().x(), width()));
+    else
+        event->ignore();
+}
+
+void PureSlider::FollowMouse(QMouseEvent* event, int x)
+{
+    // In whole numbers, so that a whole quotient is not rounded below itself.
+    const qint64 range = qint64(m_maximum) - m_minimum;
+    const qint64 length = qMax(width(), 1);
+    const qint64 value = (x * range + m_minimum * length) / length;
+    const QPointer<PureSlider> self(this);
+    SetValue(static_cast<int>(qBound<qint64>(m_minimum, value, m_maximum)));
+    // The toolkit would look for the parent of a slider that its handler has deleted.
+    event->setAccepted(!self);
+}
+
+SliderSteps PureSlider::Steps() const
+{
+    const double range = double(m_maximum) - m_minimum;
+    return {double(m_value),
+            double(m_minimum),
+            double(m_maximum),
+            qMax(1.0, std::floor(range / kStepsPerRange)),
+            qMax(1.0, std::floor(range / kPagesPerRange)),
+            Qt::Horizontal};
+}
+
+void PureSlider::wheelEvent(QWheelEvent* event)
+{
+    const double target = Steps().Target(*event) + m_wheelRest;
+    const double limited = qBound<double>(m_minimum, std::trunc(target), m_maximum);
+    m_wheelRest = target - std::trunc(target);
+    event->accept();
+    SetValue(static_cast<int>(limited));
+}
+
+void PureSlider::keyPressEvent(QKeyEvent* event)
+{
+    const std::optional<double> target = Steps().Target(*event);
+    if (!target)
+        return QWidget::keyPressEvent(event);
+    SetValue(static_cast<int>(qBound<double>(m_minimum, *target, m_maximum)));
+}
+
+void PureSlider::focusInEvent(QFocusEvent* event)
+{
+    const Qt::FocusReason reason = event->reason();
+    m_keyboardFocus = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                      reason == Qt::ShortcutFocusReason;
+    QWidget::focusInEvent(event);
+}
+
+void PureSlider::focusOutEvent(QFocusEvent* event)
+{
+    m_keyboardFocus = false;
+    QWidget::focusOutEvent(event);
+}

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "CommonLib/CommonLibExport.h"
+
+#include <QColor>
+#include <QWidget>
+
+struct SliderSteps;
+
+/// Bar for a whole number, filled up to its value. It draws itself in three colours.
+///
+/// Mouse presses and moves go on to the parent widget after the bar has followed them.
+class COMMONLIB_EXPORT PureSlider : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PureSlider(QWidget* parent);
+
+    /// 0 to 100 by default, and when \a min is not below \a max. The value follows into the range,
+    /// which is told as by SetValue().
+    void SetRange(int min, int max);
+    /// A null pointer is left alone.
+    void GetRange(int* min, int* max) const;
+    /// Sets the value, limited to the range, and tells of a change.
+    void SetValue(int value);
+    int GetValue() const;
+
+    /// Gray by default.
+    void SetBorderColor(const QColor& color);
+    /// Colour of the filled part; red by default.
+    void SetSubpageColor(const QColor& color);
+    /// Colour of the rest; white by default.
+    void SetAddpageColor(const QColor& color);
+
+    QSize sizeHint() const override;
+
+signals:
+    void sigValueChanged(int value);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void FollowMouse(QMouseEvent* event, int x);
+    SliderSteps Steps() const;
+
+    int m_value = 0;
+    int m_minimum = 0;
+    int m_maximum = 100;
+    QColor m_borderColor = Qt::gray;
+    QColor m_subpageColor = Qt::red;
+    QColor m_addpageColor = Qt::white;
+    double m_wheelRest = 0; // part of a step that the wheel has turned
+    bool m_keyboardFocus = false;
+};

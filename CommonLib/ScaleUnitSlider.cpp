@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/ScaleUnitSlider.h"
+
+#include "CommonLib/BaseButton.h"
+#include "CommonLib/NumberConversion_p.h"
+#include "CommonLib/ToolBarSlider.h"
+#include "CommonLib/WidgetAccessibility_p.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QStyle>
+
+#include <climits>
+
+namespace {
+
+constexpr int kDefaultSteps = 10;
+constexpr int kSmallestStep = 10;
+constexpr int kLargestStep = 100;
+constexpr int kSpacing = 4;
+constexpr QSize kUsualSize(200, 20);
+constexpr double kArm = 0.5;     // length of a sign as a share of its button
+constexpr double kStroke = 0.08; // and its thickness
+
+enum class Sign
+{
+    Minus,
+    Plus
+};
+
+// A button with a sign that is drawn to whole pixels of the screen, so that it is sharp at any
+// scale.
+class SignButton : public BaseButton
+{
+public:
+    SignButton(Sign sign, const QString& name, QWidget* parent)
+        : BaseButton(static_cast<int>(sign), name, parent), m_sign(sign)
+    {
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        BaseButton::paintEvent(event);
+        const double scale = devicePixelRatioF();
+        const int side = qRound(qMin(width(), height()) * scale);
+        // A stroke as odd or even as the side lies in the middle.
+        int stroke = qMax(1, qRound(side * kStroke));
+        stroke += (side - stroke) % 2;
+        int arm = qRound(side * kArm);
+        arm += (arm - stroke) % 2;
+        QRectF across(0, 0, arm / scale, stroke / scale);
+        across.moveTo((qRound(width() * scale) - arm) / 2 / scale,
+                      (qRound(height() * scale) - stroke) / 2 / scale);
+        QRectF down(0, 0, stroke / scale, arm / scale);
+        down.moveTo((qRound(width() * scale) - stroke) / 2 / scale,
+                    (qRound(height() * scale) - arm) / 2 / scale);
+
+        QPainter painter(this);
+        const QColor color = palette().color(QPalette::ButtonText);
+        painter.fillRect(across, color);
+        if (m_sign == Sign::Plus)
+            painter.fillRect(down, color);
+    }
+
+private:
+    Sign m_sign;
+};
+
+} // namespace
+
+ScaleUnitSlider::ScaleUnitSlider(QWidget* parent)
+    : QWidget(parent)
+    , m_subButton(
+          new SignButton(Sign::Minus, QStringLiteral("CommonLib_ScaleUnitSlider_Sub"), this))
+{
+    // In the order of the tab key.
+    m_slider = new ToolBarSlider(this, Qt::Horizontal);
+    m_addButton = new SignButton(Sign::Plus, QStringLiteral("CommonLib_ScaleUnitSlider_Add"), this);
+    InstallWidgetAccessibility();
+    setObjectName(QStringLiteral("CommonLib_ScaleUnitSlider"));
+    setAttribute(Qt::WA_StyledBackground);
+    setFocusProxy(m_slider);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_slider->SetLeftToRight(layoutDirection() == Qt::LeftToRight);
+    NameButtons();
+
+    connect(m_slider, &ToolBarSlider::valueChanged, this,
+            [this](double value) { emit valueChanged(static_cast<float>(value)); });
+    connect(m_slider, &ToolBarSlider::startValueChanged, this, &ScaleUnitSlider::startValueChanged);
+    connect(m_slider, &ToolBarSlider::endValueChanged, this, &ScaleUnitSlider::endValueChanged);
+    connect(m_subButton, &BaseButton::Clicked, this, &ScaleUnitSlider::Sub);
+    connect(m_addButton, &BaseButton::Clicked, this, &ScaleUnitSlider::Add);
+}
+
+void ScaleUnitSlider::setRange(float min, float max)
+{
+    m_slider->setRange(min, max);
+}
+
+QPointF ScaleUnitSlider::getRange() const
+{
+    return m_slider->getRange();
+}
+
+void ScaleUnitSlider::setValue(float value)
+{
+    m_slider->setValue(value, false);
+}
+
+float ScaleUnitSlider::value() const
+{
+    return m_slider->value();
+}
+
+void ScaleUnitSlider::setDuration(int duration)
+{
+    m_duration = duration;
+    m_slider->setDuration(static_cast<float>(duration));
+}
+
+int ScaleUnitSlider::duration() const
+{
+    return m_duration;
+}
+
+void ScaleUnitSlider::SetAddSubStep(int count)
+{
+    m_addSubStep = count;
+}
+
+int ScaleUnitSlider::GetAddSubStep() const
+{
+    return m_addSubStep;
+}
+
+void ScaleUnitSlider::SetChunkHeight(int height)
+{
+    m_slider->SetChunkHeight(height);
+    updateGeometry();
+}
+
+void ScaleUnitSlider::SetGrooveHeight(int height)
+{
+    m_slider->SetGrooveHeight(height);
+    updateGeometry();
+}
+
+bool ScaleUnitSlider::ButtonPressDown() const
+{
+    return m_slider->ButtonPressDown();
+}
+
+BaseButton* ScaleUnitSlider::GetZoomInButton() const
+{
+    return m_addButton;
+}
+
+BaseButton* ScaleUnitSlider::GetZoomOutButton() const
+{
+    return m_subButton;
+}
+
+void ScaleUnitSlider::Add()
+{
+    ChangeBy(Step());
+}
+
+void ScaleUnitSlider::Sub()
+{
+    ChangeBy(-Step());
+}
+
+int ScaleUnitSlider::Step() const
+{
+    const QPointF range = getRange();
+    const double span = range.y() - range.x();
+    const int length = Truncated<int>(span).value_or(span < 0 ? INT_MIN : INT_MAX);
+    const int count = m_addSubStep < 1 ? kDefaultSteps : m_addSubStep;
+    return qBound(kSmallestStep, length / count, kLargestStep);
+}
+
+void ScaleUnitSlider::ChangeBy(int step)
+{
+    const QPointer<ScaleUnitSlider> self(this);
+    setValue(value() + static_cast<float>(step));
+    emit startValueChanged();
+    if (!self)
+        return;
+    const bool wasDown = ButtonPressDown();
+    m_slider->SetButtonPressDown(true);
+    emit valueChanged(value());
+    if (!self)
+        return;
+    m_slider->SetButtonPressDown(wasDown);
+    emit endValueChanged();
+}
+
+QSize ScaleUnitSlider::sizeHint() const
+{
+    return kUsualSize.expandedTo(minimumSizeHint());
+}
+
+QSize ScaleUnitSlider::minimumSizeHint() const
+{
+    const QSize slider = m_slider->minimumSizeHint();
+    return {slider.width() + 2 * (slider.height() + kSpacing), slider.height()};
+}
+
+void ScaleUnitSlider::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    LayOut();
+}
+
+void ScaleUnitSlider::LayOut()
+{
+    const int side = qMin(height(), width() / 2);
+    const int room = qMax(width() - 2 * (side + kSpacing), 0);
+    const auto place = [this](QWidget* widget, const QRect& where) {
+        widget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), where));
+    };
+    place(m_subButton, QRect(0, (height() - side) / 2, side, side));
+    place(m_slider, QRect(side + kSpacing, 0, room, height()));
+    place(m_addButton, QRect(width() - side, (height() - side) / 2, side, side));
+}
+
+void ScaleUnitSlider::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LayoutDirectionChange) {
+        m_slider->SetLeftToRight(layoutDirection() == Qt::LeftToRight);
+        LayOut();
+    } else if (event->type() == QEvent::LanguageChange) {
+        NameButtons();
+    }
+    QWidget::changeEvent(event);
+}
+
+void ScaleUnitSlider::NameButtons()
+{
+    m_subButton->setAccessibleName(tr("Zoom out"));
+    m_addButton->setAccessibleName(tr("Zoom in"));
+}
+
+void ScaleUnitSlider::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Plus:
+        return Add();
+    case Qt::Key_Minus:
+        return Sub();
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}

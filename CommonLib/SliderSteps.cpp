@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/SliderSteps_p.h"
+
+#include <QKeyEvent>
+#include <QWheelEvent>
+
+namespace {
+
+constexpr double kNotch = 120; // what the toolkit reports for one notch of a wheel
+
+} // namespace
+
+std::optional<double> SliderSteps::Target(const QKeyEvent& event) const
+{
+    constexpr Qt::KeyboardModifiers shortcuts =
+        Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    if (event.modifiers() & shortcuts)
+        return std::nullopt;
+    // The minimum of a vertical slider is at its top.
+    const double up = orientation == Qt::Vertical ? -1 : 1;
+    const double right = mirrored ? -1 : 1;
+    switch (event.key()) {
+    case Qt::Key_Right:
+        return value + right * step;
+    case Qt::Key_Left:
+        return value - right * step;
+    case Qt::Key_Up:
+        return value + up * step;
+    case Qt::Key_Down:
+        return value - up * step;
+    case Qt::Key_PageUp:
+        return value + up * page;
+    case Qt::Key_PageDown:
+        return value - up * page;
+    case Qt::Key_Home:
+        return minimum;
+    case Qt::Key_End:
+        return maximum;
+    default:
+        return std::nullopt;
+    }
+}
+
+double SliderSteps::Target(const QWheelEvent& event) const
+{
+    const QPoint turn = event.angleDelta();
+    double notches = turn.y() / kNotch;
+    if (turn.y() != 0 && orientation == Qt::Vertical)
+        notches = -notches;
+    else if (turn.y() == 0)
+        notches = (mirrored ? turn.x() : -turn.x()) / kNotch;
+    const bool pages = event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier);
+    return value + notches * (pages ? page : step);
+}

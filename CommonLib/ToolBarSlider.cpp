@@ -1,0 +1,516 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/ToolBarSlider.h"
+
+#include "CommonLib/NumberConversion_p.h"
+#include "CommonLib/SliderSteps_p.h"
+#include "CommonLib/WidgetAccessibility_p.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QStyle>
+#include <QWheelEvent>
+
+#include <cmath>
+
+namespace {
+
+constexpr int kUsualLength = 160;
+constexpr double kStepsPerRange = 100;
+constexpr double kPagesPerRange = 10;
+
+QWidget* MakePart(QWidget* parent, const QString& name)
+{
+    auto* part = new QWidget(parent);
+    part->setObjectName(name);
+    part->setAttribute(Qt::WA_StyledBackground);
+    return part;
+}
+
+} // namespace
+
+ToolBarSlider::ToolBarSlider(QWidget* parent, Qt::Orientation orientation)
+    : QWidget(parent)
+    , m_orientation(orientation)
+    , m_background(MakePart(this, QStringLiteral("CommonLib_ToolBarSlider_bg")))
+    , m_groove(MakePart(this, QStringLiteral("CommonLib_ToolBarSlider_groove")))
+    , m_chunk(MakePart(this, QStringLiteral("CommonLib_ToolBarSlider_chunk")))
+    , m_highlight(MakePart(m_groove, QStringLiteral("CommonLib_ToolBarSlider_groove_highlight")))
+{
+    InstallWidgetAccessibility();
+    setObjectName(QStringLiteral("CommonLib_ToolBarSlider"));
+    setAttribute(Qt::WA_StyledBackground);
+    m_chunk->setAccessibleName(m_chunk->objectName());
+    setFocusPolicy(Qt::StrongFocus);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    if (orientation == Qt::Vertical)
+        policy.transpose();
+    setSizePolicy(policy);
+}
+
+// Value -------------------------------------------------------------------------------------------
+
+void ToolBarSlider::setRange(float min, float max)
+{
+    if (!std::isfinite(min) || !std::isfinite(max))
+        return;
+    m_minimum = min;
+    m_maximum = max;
+    m_value = Limited(m_value);
+    PlaceChunk();
+    QueueResizeChunk();
+}
+
+QPointF ToolBarSlider::getRange() const
+{
+    return {m_minimum, m_maximum};
+}
+
+void ToolBarSlider::setValue(float value, bool)
+{
+    if (!m_acceptSetValue || std::isnan(value))
+        return;
+    m_lastEmitted = value;
+    m_value = Limited(value);
+    PlaceChunk();
+    QueueResizeChunk();
+    NotifyAccessibleValue(this, m_value);
+}
+
+float ToolBarSlider::value() const
+{
+    return m_value;
+}
+
+void ToolBarSlider::setDuration(float duration)
+{
+    m_duration = duration;
+}
+
+float ToolBarSlider::duration() const
+{
+    return m_duration;
+}
+
+// Look and switches -------------------------------------------------------------------------------
+
+void ToolBarSlider::SetChunkSize(int width, int height)
+{
+    m_chunkWidth = qMax(width, 0);
+    m_chunkHeight = qMax(height, 0);
+    updateGeometry();
+    LayOut();
+}
+
+void ToolBarSlider::SetChunkHeight(int height)
+{
+    SetChunkSize(m_chunkWidth, height);
+}
+
+void ToolBarSlider::SetGrooveHeight(int height)
+{
+    m_grooveHeight = qMax(height, 0);
+    updateGeometry();
+    LayOut();
+}
+
+void ToolBarSlider::SetGroomHighlight(QString style)
+{
+    m_highlight->setStyleSheet(style);
+}
+
+void ToolBarSlider::SetLeftToRight(bool on)
+{
+    if (m_orientation != Qt::Horizontal)
+        return;
+    m_forward = on;
+    QueueResizeChunk();
+}
+
+void ToolBarSlider::SetBottomToTop(bool on)
+{
+    if (m_orientation != Qt::Vertical)
+        return;
+    m_forward = on;
+    QueueResizeChunk();
+}
+
+void ToolBarSlider::SetAwaysEmitValueChangeStartEnd(bool on)
+{
+    m_alwaysEmitStartEnd = on;
+}
+
+void ToolBarSlider::SetButtonPressDown(bool down)
+{
+    m_buttonPressDown = down;
+}
+
+bool ToolBarSlider::ButtonPressDown() const
+{
+    return m_buttonPressDown;
+}
+
+bool ToolBarSlider::canSeek() const
+{
+    return m_canSeek;
+}
+
+int ToolBarSlider::Height() const
+{
+    return m_orientation == Qt::Horizontal ? qMax(m_chunkHeight, m_grooveHeight) : m_chunkHeight;
+}
+
+QSize ToolBarSlider::sizeHint() const
+{
+    return minimumSizeHint().expandedTo(m_orientation == Qt::Horizontal ? QSize(kUsualLength, 0)
+                                                                        : QSize(0, kUsualLength));
+}
+
+QSize ToolBarSlider::minimumSizeHint() const
+{
+    if (m_orientation == Qt::Horizontal)
+        return {2 * m_chunkWidth, Height()};
+    return {qMax(m_chunkWidth, m_grooveHeight), 2 * m_chunkHeight};
+}
+
+// Arithmetic --------------------------------------------------------------------------------------
+
+bool ToolBarSlider::CanChanged() const
+{
+    return !qFuzzyCompare(m_minimum, m_maximum);
+}
+
+bool ToolBarSlider::NeedEmitValue() const
+{
+    return CanChanged();
+}
+
+int ToolBarSlider::GetWidth() const
+{
+    return m_orientation == Qt::Horizontal ? qMax(width() - m_chunkWidth, 0)
+                                           : qMax(height() - m_chunkHeight, 0);
+}
+
+void ToolBarSlider::CalculatePositionFromValue(double value)
+{
+    const bool horizontal = m_orientation == Qt::Horizontal;
+    // Over the whole length and from the start of the range, while the way back counts from the
+    // minimum over the length that the chunk travels; intended.
+    const double range = double(m_maximum) - m_minimum;
+    const int length = horizontal ? width() : height();
+    const int chunk = horizontal ? m_chunkWidth : m_chunkHeight;
+    const double position = CanChanged() ? length * (value / range) : 0;
+    // Limited beforehand, so that it is an int; a value that is no number counts as 0.
+    const int p = Truncated<int>(qBound(-1.0, position, length + 1.0)).value_or(0);
+    m_chunkPosition = qMax(qMin(p - chunk / 2, GetWidth()), 0);
+    QueueResizeChunk();
+}
+
+void ToolBarSlider::CalculatePostion(int pos)
+{
+    const int chunk = m_orientation == Qt::Horizontal ? m_chunkWidth : m_chunkHeight;
+    const int travel = GetWidth();
+    m_chunkPosition = qMax(qMin(pos - chunk / 2, travel), 0);
+    if (!CanChanged()) {
+        m_value = 0;
+        return;
+    }
+    const double range = double(m_maximum) - m_minimum;
+    const double share = travel > 0 ? double(m_chunkPosition) / travel : 0;
+    m_value = Limited(m_minimum + share * range);
+}
+
+void ToolBarSlider::CalculatePostion(QPoint pos)
+{
+    CalculatePostion(m_orientation == Qt::Horizontal ? pos.x() : pos.y());
+}
+
+float ToolBarSlider::Limited(double value) const
+{
+    const double low = qMin(m_minimum, m_maximum);
+    const double high = qMax(m_minimum, m_maximum);
+    return static_cast<float>(qBound(low, value, high));
+}
+
+bool ToolBarSlider::IsMirrored() const
+{
+    return m_orientation == Qt::Horizontal && !m_forward;
+}
+
+QPoint ToolBarSlider::Unmirrored(QPoint pos) const
+{
+    return IsMirrored() ? QPoint(width() - 1 - pos.x(), pos.y()) : pos;
+}
+
+// Signals -----------------------------------------------------------------------------------------
+
+void ToolBarSlider::EmitValueChange()
+{
+    if (!qFuzzyCompare(m_value, m_lastEmitted)) {
+        const QPointer<ToolBarSlider> self(this);
+        emit valueChanged(m_value);
+        if (!self)
+            return;
+    }
+    m_lastEmitted = m_value;
+}
+
+void ToolBarSlider::EmitStartEndSignals(bool start)
+{
+    if (!m_chunkGrabbed && !m_alwaysEmitStartEnd)
+        return;
+    if (start)
+        emit startValueChanged();
+    else
+        emit endValueChanged();
+}
+
+// Mouse -------------------------------------------------------------------------------------------
+
+void ToolBarSlider::mousePressEvent(QMouseEvent* event)
+{
+    if (!CanChanged())
+        return;
+    m_buttonPressDown = true;
+    m_acceptSetValue = false;
+    m_chunkGrabbed = false;
+    const QPoint pos = Unmirrored(event->pos());
+    if (childAt(event->pos()) == m_chunk) {
+        m_chunkGrabbed = true;
+        // Horizontal also on a vertical slider, whose chunk therefore centres itself on the
+        // pointer; intended.
+        m_grabOffset = pos.x() - m_chunkPosition - m_chunkWidth / 2;
+    }
+    MoveChunkTo(pos);
+    if (!NeedEmitValue())
+        return;
+    const QPointer<ToolBarSlider> self(this);
+    EmitStartEndSignals(true);
+    if (self)
+        EmitValueChange();
+}
+
+void ToolBarSlider::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!m_buttonPressDown || !CanChanged())
+        return;
+    const QPointer<ToolBarSlider> self(this);
+    if (m_dragIdle) {
+        m_dragIdle = false;
+        emit startDrag();
+        if (!self || !CanChanged())
+            return;
+    }
+    MoveChunkTo(Unmirrored(event->pos()));
+    EmitValueChange();
+}
+
+void ToolBarSlider::mouseReleaseEvent(QMouseEvent* event)
+{
+    m_buttonPressDown = false;
+    const bool emits = NeedEmitValue();
+    if (emits) {
+        m_acceptSetValue = true;
+        MoveChunkTo(Unmirrored(event->pos()));
+        const QPointer<ToolBarSlider> self(this);
+        EmitValueChange();
+        if (!self)
+            return;
+    }
+    EndHold(emits);
+}
+
+// A range that has become empty in the meantime ends the hold in silence.
+void ToolBarSlider::EndHold(bool emits)
+{
+    m_acceptSetValue = true;
+    if (emits) {
+        const QPointer<ToolBarSlider> self(this);
+        EmitStartEndSignals(false);
+        if (self && !m_dragIdle)
+            emit endDrag();
+        if (!self)
+            return;
+    }
+    m_dragIdle = true;
+    m_grabOffset = 0;
+    m_chunkGrabbed = false;
+}
+
+void ToolBarSlider::MoveChunkTo(QPoint pos)
+{
+    CalculatePostion(pos - QPoint(m_grabOffset, 0));
+    ResizeChunk();
+    NotifyAccessibleValue(this, m_value);
+}
+
+bool ToolBarSlider::event(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::Polish:
+    case QEvent::EnabledChange:
+        SetCanSeek(isEnabled());
+        break;
+    case QEvent::Hide:
+        CancelHold();
+        break;
+    default:
+        break;
+    }
+    return QWidget::event(event);
+}
+
+void ToolBarSlider::SetCanSeek(bool canSeek)
+{
+    m_canSeek = canSeek;
+    if (!canSeek)
+        CancelHold();
+}
+
+// The release of the mouse will not come. Told later: a handler may delete the slider, which the
+// sender of the event still needs.
+void ToolBarSlider::CancelHold()
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_acceptSetValue)
+                return;
+            m_buttonPressDown = false;
+            EndHold(NeedEmitValue());
+        },
+        Qt::QueuedConnection);
+}
+
+// Wheel and keys ----------------------------------------------------------------------------------
+
+SliderSteps ToolBarSlider::Steps() const
+{
+    const double range = double(m_maximum) - m_minimum;
+    return {m_value,       m_minimum,   m_maximum, range / kStepsPerRange, range / kPagesPerRange,
+            m_orientation, IsMirrored()};
+}
+
+void ToolBarSlider::ChangeByUser(double value)
+{
+    if (!CanChanged() || !m_acceptSetValue || std::isnan(value) || Limited(value) == m_value)
+        return;
+    m_value = Limited(value);
+    PlaceChunk();
+    ResizeChunk();
+    NotifyAccessibleValue(this, m_value);
+    const QPointer<ToolBarSlider> self(this);
+    emit startValueChanged();
+    if (self)
+        EmitValueChange();
+    if (self)
+        emit endValueChanged();
+}
+
+void ToolBarSlider::wheelEvent(QWheelEvent* event)
+{
+    if (!CanChanged())
+        return event->ignore();
+    event->accept();
+    ChangeByUser(Steps().Target(*event));
+}
+
+void ToolBarSlider::keyPressEvent(QKeyEvent* event)
+{
+    const std::optional<double> target = Steps().Target(*event);
+    if (!target)
+        return QWidget::keyPressEvent(event);
+    ChangeByUser(*target);
+}
+
+void ToolBarSlider::focusInEvent(QFocusEvent* event)
+{
+    const Qt::FocusReason reason = event->reason();
+    ShowFocus(reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+              reason == Qt::ShortcutFocusReason);
+    QWidget::focusInEvent(event);
+}
+
+void ToolBarSlider::focusOutEvent(QFocusEvent* event)
+{
+    ShowFocus(false);
+    QWidget::focusOutEvent(event);
+}
+
+void ToolBarSlider::ShowFocus(bool shown)
+{
+    constexpr const char* name = "keyboardFocus";
+    if (m_chunk->property(name).toBool() == shown)
+        return;
+    m_chunk->setProperty(name, shown);
+    m_chunk->style()->unpolish(m_chunk);
+    m_chunk->style()->polish(m_chunk);
+}
+
+// Geometry ----------------------------------------------------------------------------------------
+
+void ToolBarSlider::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    LayOut();
+}
+
+void ToolBarSlider::LayOut()
+{
+    m_background->setGeometry(rect());
+    if (m_orientation == Qt::Horizontal)
+        m_groove->setGeometry(0, (height() - m_grooveHeight) / 2, width(), m_grooveHeight);
+    else
+        m_groove->setGeometry((width() - m_grooveHeight) / 2, 0, m_grooveHeight, height());
+    PlaceChunk();
+    ResizeChunk();
+}
+
+void ToolBarSlider::PlaceChunk()
+{
+    const double range = double(m_maximum) - m_minimum;
+    m_chunkPosition =
+        CanChanged() ? static_cast<int>(GetWidth() * (double(m_value) - m_minimum) / range) : 0;
+}
+
+void ToolBarSlider::QueueResizeChunk()
+{
+    if (m_resizeQueued)
+        return;
+    m_resizeQueued = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_resizeQueued)
+                ResizeChunk();
+        },
+        Qt::QueuedConnection);
+}
+
+void ToolBarSlider::ResizeChunk()
+{
+    m_resizeQueued = false;
+    QRect chunk(0, 0, m_chunkWidth, m_chunkHeight);
+    if (m_orientation == Qt::Vertical)
+        chunk.moveTo((width() - m_chunkWidth) / 2, m_chunkPosition);
+    else
+        chunk.moveTo(IsMirrored() ? width() - m_chunkPosition - m_chunkWidth : m_chunkPosition,
+                     (height() - m_chunkHeight) / 2);
+    m_chunk->setGeometry(chunk);
+    ResizeHighlight();
+}
+
+void ToolBarSlider::ResizeHighlight()
+{
+    QRect highlight(QPoint(0, 0), m_groove->size());
+    const QPoint centre = m_chunk->geometry().center();
+    if (m_orientation == Qt::Vertical && m_forward)
+        highlight.setTop(centre.y());
+    else if (m_orientation == Qt::Vertical)
+        highlight.setBottom(centre.y());
+    else if (m_forward)
+        highlight.setRight(centre.x());
+    else
+        highlight.setLeft(centre.x());
+    m_highlight->setGeometry(highlight);
+}

@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/WidgetAccessibility_p.h"
+
+#include "CommonLib/BaseButton.h"
+#include "CommonLib/ImageTextButton2.h"
+#include "CommonLib/PureSlider.h"
+#include "CommonLib/ScaleUnitSlider.h"
+#include "CommonLib/SliderSteps_p.h"
+#include "CommonLib/ToolBarSlider.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+
+// The text that the widget was given, else \a fallback.
+static QString NameOr(const QWidget& widget, const QString& fallback)
+{
+    return widget.accessibleName().isEmpty() ? fallback : widget.accessibleName();
+}
+
+// A button, or a tab, that can be pressed.
+class PressAccessible : public QAccessibleWidget
+{
+public:
+    PressAccessible(QWidget* widget, QAccessible::Role role) : QAccessibleWidget(widget, role) {}
+
+    QStringList actionNames() const override
+    {
+        return widget()->isEnabled() ? QStringList{pressAction()} + QAccessibleWidget::actionNames()
+                                     : QStringList();
+    }
+    void doAction(const QString& name) override
+    {
+        if (name != pressAction())
+            QAccessibleWidget::doAction(name);
+        else if (widget()->isEnabled())
+            Press();
+    }
+
+protected:
+    virtual void Press() = 0;
+};
+
+class BaseButtonAccessible : public PressAccessible
+{
+public:
+    explicit BaseButtonAccessible(BaseButton* button)
+        : PressAccessible(button, QAccessible::Button), m_button(button)
+    {
+    }
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind != QAccessible::Name)
+            return QAccessibleWidget::text(kind);
+        // The shortest path to a name, as most buttons show no more than an image.
+        for (const QString& name : {m_button->text(), m_button->toolTip()}) {
+            if (!name.isEmpty())
+                return NameOr(*m_button, name);
+        }
+        return NameOr(*m_button, m_button->objectName());
+    }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = m_button->isCheckable();
+        state.checked = m_button->isChecked();
+        state.pressed = m_button->isDown();
+        return state;
+    }
+
+protected:
+    void Press() override { m_button->click(); }
+
+private:
+    BaseButton* m_button;
+};
+
+class ImageTextButton2Accessible : public PressAccessible
+{
+public:
+    explicit ImageTextButton2Accessible(ImageTextButton2* tab)
+        : PressAccessible(tab, QAccessible::PageTab), m_tab(tab)
+    {
+    }
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name ? NameOr(*m_tab, m_tab->GetText())
+                                         : QAccessibleWidget::text(kind);
+    }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.selectable = true;
+        state.selected = m_tab->m_state == ImageTextButton2::Selected;
+        return state;
+    }
+
+protected:
+    void Press() override { m_tab->Select(); }
+
+private:
+    ImageTextButton2* m_tab;
+};
+
+class SliderAccessible : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit SliderAccessible(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Slider) {}
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? currentValue().toString()
+                                          : QAccessibleWidget::text(kind);
+    }
+};
+
+// Also that of a ScaleUnitSlider, which shows the value of the slider within it.
+class ToolBarSliderAccessible : public SliderAccessible
+{
+public:
+    ToolBarSliderAccessible(QWidget* widget, ToolBarSlider* slider)
+        : SliderAccessible(widget), m_slider(slider)
+    {
+    }
+    QVariant currentValue() const override { return m_slider->value(); }
+    void setCurrentValue(const QVariant& value) override
+    {
+        m_slider->ChangeByUser(value.toDouble());
+    }
+    QVariant maximumValue() const override
+    {
+        return qMax(m_slider->getRange().x(), m_slider->getRange().y());
+    }
+    QVariant minimumValue() const override
+    {
+        return qMin(m_slider->getRange().x(), m_slider->getRange().y());
+    }
+    QVariant minimumStepSize() const override { return qAbs(m_slider->Steps().step); }
+
+private:
+    ToolBarSlider* m_slider;
+};
+
+class PureSliderAccessible : public SliderAccessible
+{
+public:
+    explicit PureSliderAccessible(PureSlider* slider) : SliderAccessible(slider), m_slider(slider)
+    {
+    }
+    QVariant currentValue() const override { return m_slider->GetValue(); }
+    void setCurrentValue(const QVariant& value) override { m_slider->SetValue(value.toInt()); }
+    QVariant maximumValue() const override { return Range().second; }
+    QVariant minimumValue() const override { return Range().first; }
+    QVariant minimumStepSize() const override { return 1; }
+
+private:
+    QPair<int, int> Range() const
+    {
+        QPair<int, int> range;
+        m_slider->GetRange(&range.first, &range.second);
+        return range;
+    }
+
+    PureSlider* m_slider;
+};
+
+// The toolkit asks for each class of an object's line in turn.
+static QAccessibleInterface* MakeInterface(const QString& className, QObject* object)
+{
+    if (className == QLatin1String("BaseButton"))
+        return new BaseButtonAccessible(static_cast<BaseButton*>(object));
+    if (className == QLatin1String("ImageTextButton2"))
+        return new ImageTextButton2Accessible(static_cast<ImageTextButton2*>(object));
+    if (className == QLatin1String("PureSlider"))
+        return new PureSliderAccessible(static_cast<PureSlider*>(object));
+    if (className == QLatin1String("ToolBarSlider")) {
+        auto* slider = static_cast<ToolBarSlider*>(object);
+        return new ToolBarSliderAccessible(slider, slider);
+    }
+    if (className == QLatin1String("ScaleUnitSlider")) {
+        auto* slider = static_cast<ScaleUnitSlider*>(object);
+        return new ToolBarSliderAccessible(slider, slider->findChild<ToolBarSlider*>());
+    }
+    return nullptr;
+}
+
+void InstallWidgetAccessibility()
+{
+    QAccessible::installFactory(MakeInterface); // once only, however often it is called
+}
+
+void NotifyAccessibleValue(QWidget* slider, double value)
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleValueChangeEvent event(slider, value);
+    QAccessible::updateAccessibility(&event);
+}
