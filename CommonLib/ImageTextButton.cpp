@@ -120,7 +120,7 @@ void ImageTextButton::LayOut()
         break;
     }
     m_image->setGeometry(image);
-    m_text->setGeometry(text);
+    m_text->setGeometry(QRect(text.topLeft(), text.size().expandedTo({0, 0})));
 }
 
 void ImageTextButton::PassToText(QEvent* event)

@@ -1,0 +1,407 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/BaseStateButton.h"
+#include "CommonLib/BaseWidget.h"
+#include "CommonLib/GlobalUtils.h"
+#include "CommonLib/ImageTextButton.h"
+#include "CommonLib/ImageTextButton2.h"
+#include "CommonLib/MagicLabel.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QStyle>
+#include <QtTest>
+
+#include <functional>
+
+namespace {
+
+using Make = std::function<QWidget*(std::function<void()>)>;
+
+void Send(QWidget* widget, QEvent::Type type)
+{
+    QEvent event(type);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+void Key(QWidget* widget, int key)
+{
+    QKeyEvent event(QEvent::KeyPress, key, {});
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+// The ids and, when it is not the upper left corner of \a widget, the points that a signal told.
+QStringList Told(QSignalSpy& spy, const QWidget& widget)
+{
+    QStringList told;
+    for (const QVariantList& arguments : qAsConst(spy)) {
+        told << arguments.at(0).toString();
+        if (arguments.size() > 1 && arguments.at(1).toPoint() != widget.mapToGlobal({}))
+            told << "elsewhere";
+    }
+    spy.clear();
+    return told;
+}
+
+class Translated : public BaseWidget
+{
+public:
+    QStringList log;
+    Translated() : BaseWidget(nullptr) {}
+    void RetranslateUi() override { log << "layout"; }
+    void TranslateText() override { log << "text"; }
+
+protected:
+    void changeEvent(QEvent*) override { log << "base"; }
+};
+
+struct States : BaseStateButton
+{
+    States() : BaseStateButton(9, "states", nullptr)
+    {
+        resize(40, 30);
+        for (const int id : {11, 12, 13})
+            AddButton(id, QString::number(id));
+        show();
+    }
+    QStringList Shown() const
+    {
+        QStringList shown;
+        for (const BaseButton* button : findChildren<BaseButton*>()) {
+            if (button->isVisible() && button->geometry() == rect())
+                shown << button->objectName();
+        }
+        return shown;
+    }
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Make)
+
+class TestButtons : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void baseButton()
+    {
+        QWidget window;
+        window.move(60, 70);
+        BaseButton button(7, "name", &window);
+        button.move(5, 6);
+        window.show();
+        QCOMPARE(button.objectName(), QString("name"));
+        QCOMPARE(button.styleSheet(), QString("QPushButton{border:0px;}"));
+        QVERIFY(button.testAttribute(Qt::WA_StyledBackground));
+        QSignalSpy clicked(&button, &BaseButton::Clicked), pressed(&button, &BaseButton::Pressed),
+            entered(&button, &BaseButton::sigEnter), left(&button, &BaseButton::sigLeave);
+        QTest::mousePress(&button, Qt::LeftButton);
+        QCOMPARE(Told(pressed, button), QStringList("7"));
+        QCOMPARE(clicked.size(), 0);
+        QTest::mouseRelease(&button, Qt::LeftButton);
+        QCOMPARE(Told(clicked, button), QStringList("7"));
+        entered.clear(); // of a pointer that happens to be there
+        Send(&button, QEvent::Enter);
+        QCOMPARE(Told(entered, button), QStringList("7"));
+        Send(&button, QEvent::Leave);
+        QCOMPARE(Told(left, button).last(), QString("7"));
+        button.SetEnabled(false);
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QCOMPARE(pressed.size() + clicked.size(), 0);
+    }
+
+    void states()
+    {
+        States states;
+        QSignalSpy spy(&states, &BaseStateButton::Clicked);
+        for (const QString id : {"11", "12", "13"}) {
+            QCOMPARE(states.Shown(), QStringList(id));
+            QCOMPARE(QString::number(states.CurrentButtonId()), id);
+            QTest::mouseClick(states.windowHandle(), Qt::LeftButton, {}, {5, 5});
+            QCOMPARE(Told(spy, states), QStringList(id));
+        }
+        QCOMPARE(states.Shown(), QStringList("11"));
+        states.ClickCurrentButton();
+        QCOMPARE(Told(spy, states), QStringList("11"));
+        states.resize(80, 60);
+        QCOMPARE(states.Shown(), QStringList("12"));
+        states.SetCurrentButtonId(13);
+        QCOMPARE(states.Shown(), QStringList("13"));
+        states.SetCurrentButtonId(99);
+        QCOMPARE(states.Shown(), QStringList());
+        QCOMPARE(states.CurrentButtonId(), 13);
+        states.ClickCurrentButton();
+        QCOMPARE(spy.size(), 0);
+        states.Restore();
+        QCOMPARE(states.Shown(), QStringList("11"));
+        QCOMPARE(states.BaseStateButtonId(), 9);
+        QCOMPARE(states.GetButton(12)->objectName(), QString("12"));
+        QVERIFY(!states.GetButton(99));
+
+        const BaseStateButton none(9, {}, nullptr);
+        QCOMPARE(none.CurrentButtonId(), 0);
+        QCOMPARE(none.styleSheet(), QString("BaseStateButton{background-color:rgb(0,0,0, 0)}"));
+    }
+
+    void statesThatComeAndGo()
+    {
+        States states;
+        QSignalSpy spy(&states, &BaseStateButton::Clicked);
+        states.AddButton(nullptr);
+        states.AddButton(states.GetButton(12)); // is one already
+        auto* added = new BaseButton(14, "14", nullptr);
+        states.AddButton(added);
+        states.SetCurrentButtonId(12);
+        delete states.GetButton(11);
+        QCOMPARE(states.Shown(), QStringList("12"));
+        added->setParent(nullptr);
+        emit added->Clicked(14, {});
+        states.ClickCurrentButton();
+        QCOMPARE(Told(spy, states), QStringList("12"));
+        QCOMPARE(states.Shown(), QStringList("13"));
+        states.ClickCurrentButton();
+        QCOMPARE(states.Shown(), QStringList("12"));
+        states.AddButton(added);
+        states.SetCurrentButtonId(14);
+        states.ClickCurrentButton();
+        QCOMPARE(states.Shown(), QStringList("12")); // advanced once, not twice
+        // The keyboard stays where it is.
+        states.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&states));
+        states.setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QString("13"));
+    }
+
+    void emptyStatesAreTransparent()
+    {
+        QWidget window;
+        window.setStyleSheet("#window { background: red }");
+        window.setObjectName("window");
+        window.resize(40, 40);
+        BaseStateButton states(1, "states", &window);
+        states.resize(40, 40);
+        const QImage image = window.grab().toImage();
+        for (const QPoint at : {QPoint(0, 0), QPoint(20, 20), QPoint(39, 39)})
+            QCOMPARE(image.pixelColor(at), QColor(Qt::red));
+    }
+
+    void language()
+    {
+        Translated widget;
+        Send(&widget, QEvent::LanguageChange);
+        QCOMPARE(widget.log.join(' '), QString("text layout base"));
+        QCOMPARE(reinterpret_cast<quintptr>(widget.getHwnd()), quintptr(widget.winId()));
+    }
+
+    void magicLabel()
+    {
+        const MagicLabel before("text", nullptr);
+        gSetArgLang(true);
+        const MagicLabel plain(nullptr), text("text", nullptr);
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+        const MagicLabel mirrored("text", nullptr);
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        gSetArgLang(false);
+        QCOMPARE(before.alignment(), Qt::AlignLeft | Qt::AlignVCenter);
+        QCOMPARE(plain.alignment(), Qt::AlignRight | Qt::AlignVCenter);
+        QCOMPARE(text.alignment(), Qt::AlignRight | Qt::AlignVCenter);
+        QVERIFY(QStyle::visualAlignment(Qt::RightToLeft, mirrored.alignment()) & Qt::AlignRight);
+    }
+
+    void imageAndText_data()
+    {
+        QTest::addColumn<int>("align");
+        QTest::addColumn<QRect>("image");
+        QTest::addColumn<QRect>("text");
+        QTest::newRow("left") << 0 << QRect(0, 0, 40, 40) << QRect(39, 0, 61, 40);
+        QTest::newRow("top") << 1 << QRect(0, 0, 100, 100) << QRect(0, 99, 100, -59);
+        QTest::newRow("right") << 2 << QRect(59, 0, 40, 40) << QRect(0, 0, 60, 40);
+        QTest::newRow("below") << 3 << QRect(0, -61, 100, 100) << QRect(0, 0, 100, -60);
+        QTest::newRow("any other is left") << -7 << QRect(0, 0, 40, 40) << QRect(39, 0, 61, 40);
+        QTest::newRow("top, tall") << 11 << QRect(0, 0, 100, 100) << QRect(0, 99, 100, 81);
+        QTest::newRow("below, tall") << 13 << QRect(0, 79, 100, 100) << QRect(0, 0, 100, 80);
+    }
+    void imageAndText()
+    {
+        QFETCH(int, align);
+        QFETCH(QRect, image);
+        QFETCH(QRect, text);
+        ImageTextButton button(5, "image", nullptr);
+        QCOMPARE(button.size(), QSize(300, 300));
+        button.resize(100, align > 10 ? 180 : 40);
+        button.SetImageAlign(align % 10); // laid out when it shows
+        button.show();
+        const auto* label = button.findChild<QLabel*>("ImageTextButton_Text");
+        QCOMPARE(button.findChild<BaseButton*>("image")->geometry(), image);
+        // A rectangle of less than nothing is empty in a widget.
+        QCOMPARE(label->geometry(), QRect(text.topLeft(), text.size().expandedTo({0, 0})));
+        const bool centred = align % 10 == 1 || align % 10 == 3;
+        QCOMPARE(label->alignment(),
+                 (centred ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter);
+        button.hide();
+        button.SetImageAlign(2);
+        button.show();
+        QCOMPARE(label->pos(), QPoint(0, 0));
+    }
+
+    void imageAndTextByMouse()
+    {
+        ImageTextButton button(5, "image", nullptr);
+        button.resize(100, 40);
+        button.show();
+        button.SetText("Import");
+        auto* label = button.findChild<QLabel*>();
+        QSignalSpy clicked(&button, &ImageTextButton::Clicked);
+        for (const QPoint at : {QPoint(20, 20), QPoint(80, 20)}) { // the image, then the text
+            QTest::mouseClick(button.windowHandle(), Qt::LeftButton, {}, at);
+            QCOMPARE(Told(clicked, button), QStringList("5"));
+        }
+        QTest::mousePress(button.windowHandle(), Qt::LeftButton, {}, {80, 20});
+        QTest::mouseRelease(button.windowHandle(), Qt::LeftButton, {}, {80, 60});
+        QCOMPARE(clicked.size(), 0);
+        Send(&button, QEvent::Enter);
+        QVERIFY(label->underMouse());
+        Send(&button, QEvent::Leave);
+        QVERIFY(!label->underMouse());
+    }
+
+    void tab()
+    {
+        ImageTextButton2 tab(6, "tab", nullptr);
+        tab.setStyleSheet("ImageTextButton2 { background: white }");
+        tab.resize(60, 60);
+        QPixmap pixmap(20, 10);
+        pixmap.fill(Qt::red);
+        tab.SetNormalImage(pixmap);
+        pixmap = QPixmap(20, 20); // 10 by 10 on a screen of twice the density
+        pixmap.setDevicePixelRatio(2);
+        pixmap.fill(Qt::blue);
+        tab.SetSelectedImage(pixmap);
+        tab.SetText("HHHH");
+        tab.SetNormalTextColor(Qt::green);
+        tab.SetSelectedTextColor(Qt::black);
+        const auto bounds = [&tab](const QColor& color) {
+            const QImage image = tab.grab().toImage();
+            QRect found;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x) {
+                    if (image.pixelColor(x, y) == color)
+                        found |= QRect(x, y, 1, 1);
+                }
+            }
+            return found;
+        };
+        QCOMPARE(bounds(Qt::red), QRect(20, 15, 20, 10));
+        const QRect text = bounds(Qt::green);
+        QVERIFY(text.top() >= 34 && text.bottom() < 54 && qAbs(text.center().x() - 30) < 4);
+        QVERIFY(bounds(Qt::blue).isNull() && bounds(Qt::black).isNull());
+
+        QSignalSpy selected(&tab, &ImageTextButton2::sigSelected);
+        tab.SetButtonState(ImageTextButton2::Selected);
+        QCOMPARE(selected.size(), 0);
+        QCOMPARE(bounds(Qt::blue), QRect(25, 15, 10, 10));
+        QVERIFY(!bounds(Qt::black).isNull() && bounds(Qt::red).isNull());
+        tab.SetButtonState(static_cast<ImageTextButton2::BUTTONSTATE>(7));
+        QCOMPARE(bounds(Qt::white), tab.rect());
+        QVERIFY(bounds(Qt::blue).isNull());
+        for (const std::function<void()>& press :
+             {std::function<void()>([&] { QTest::mousePress(&tab, Qt::LeftButton); }),
+              std::function<void()>([&] { Key(&tab, Qt::Key_Space); })}) {
+            tab.SetButtonState(ImageTextButton2::Normal);
+            press();
+            QCOMPARE(Told(selected, tab), QStringList("6"));
+            QVERIFY(!bounds(Qt::blue).isNull());
+        }
+    }
+
+    void accessibleNames()
+    {
+        BaseButton button("objectName", nullptr);
+        ImageTextButton2 tab(1, "tab", nullptr);
+        tab.SetText("Media");
+        const auto name = [](QWidget& widget) {
+            return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
+        };
+        QCOMPARE(name(tab), QString("Media"));
+        QCOMPARE(name(button), QString("objectName"));
+        button.setToolTip("tool tip");
+        QCOMPARE(name(button), QString("tool tip"));
+        button.setText("text");
+        QCOMPARE(name(button), QString("text"));
+        button.setAccessibleName("given");
+        QCOMPARE(name(button), QString("given"));
+
+        QSignalSpy clicked(&button, &BaseButton::Clicked),
+            selected(&tab, &ImageTextButton2::sigSelected);
+        for (QWidget* widget : {static_cast<QWidget*>(&button), static_cast<QWidget*>(&tab)}) {
+            QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(widget);
+            interface->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+            widget->setEnabled(false);
+            interface->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        }
+        QCOMPARE(clicked.size(), 1);
+        QCOMPARE(selected.size(), 1);
+        QVERIFY(QAccessible::queryAccessibleInterface(&tab)->state().selected);
+    }
+
+    void destroyedByItsHandler_data()
+    {
+        QTest::addColumn<Make>("make");
+        using Destroy = std::function<void()>;
+        const auto button = [](auto signal) {
+            return Make([signal](const Destroy& destroy) {
+                auto* made = new BaseButton(1, "button", nullptr);
+                connect(made, signal, made, [destroy] { destroy(); });
+                return made;
+            });
+        };
+        QTest::newRow("pressed") << button(&BaseButton::Pressed);
+        QTest::newRow("clicked") << button(&BaseButton::Clicked);
+        QTest::newRow("entered") << button(&BaseButton::sigEnter);
+        QTest::newRow("left") << button(&BaseButton::sigLeave);
+        QTest::newRow("state") << Make([](const Destroy& destroy) {
+            auto* made = new BaseStateButton(1, "states", nullptr);
+            made->AddButton(2, "state");
+            connect(made, &BaseButton::Clicked, made, [destroy] { destroy(); });
+            return made;
+        });
+        QTest::newRow("image and text") << Make([](const Destroy& destroy) {
+            auto* made = new ImageTextButton(1, "image", nullptr);
+            connect(made, &ImageTextButton::Clicked, made, [destroy] { destroy(); });
+            return made;
+        });
+        QTest::newRow("tab") << Make([](const Destroy& destroy) {
+            auto* made = new ImageTextButton2(1, "tab", nullptr);
+            connect(made, &ImageTextButton2::sigSelected, made, [destroy] { destroy(); });
+            return made;
+        });
+    }
+    void destroyedByItsHandler()
+    {
+        QFETCH(Make, make);
+        QPointer<QWidget> widget;
+        widget = make([&widget] { delete widget.data(); });
+        widget->resize(60, 40);
+        widget->show();
+        const QPointer<QWindow> window = widget->windowHandle();
+        // Enters, presses and releases on the text of one with text, then leaves.
+        if (widget)
+            QTest::mousePress(window, Qt::LeftButton, {}, {55, 20});
+        if (widget)
+            QTest::mouseRelease(window, Qt::LeftButton, {}, {55, 20});
+        if (widget)
+            Send(widget, QEvent::Enter);
+        if (widget)
+            Send(widget, QEvent::Leave);
+        QVERIFY(!widget);
+        QWidget other;
+        other.show();
+        QTest::mouseRelease(other.windowHandle(), Qt::LeftButton);
+    }
+};
+
+QTEST_MAIN(TestButtons)
+#include "tst_buttons.moc"
