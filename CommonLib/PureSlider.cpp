@@ -61,22 +61,27 @@ int PureSlider::GetValue() const
     return m_value;
 }
 
+void PureSlider::SetColor(QColor& which, const QColor& color)
+{
+    // A style sheet has its say first, so that it does not replace the colour when it is applied.
+    ensurePolished();
+    which = color;
+    update();
+}
+
 void PureSlider::SetBorderColor(const QColor& color)
 {
-    m_borderColor = color;
-    update();
+    SetColor(m_borderColor, color);
 }
 
 void PureSlider::SetSubpageColor(const QColor& color)
 {
-    m_subpageColor = color;
-    update();
+    SetColor(m_subpageColor, color);
 }
 
 void PureSlider::SetAddpageColor(const QColor& color)
 {
-    m_addpageColor = color;
-    update();
+    SetColor(m_addpageColor, color);
 }
 
 QSize PureSlider::sizeHint() const

@@ -8,12 +8,16 @@
 
 struct SliderSteps;
 
-/// Bar for a whole number, filled up to its value. It draws itself in three colours.
+/// Bar for a whole number, filled up to its value. It draws itself in three colours, which are
+/// properties for style sheets; a colour that the host sets wins.
 ///
 /// Mouse presses and moves go on to the parent widget after the bar has followed them.
 class COMMONLIB_EXPORT PureSlider : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QColor borderColor MEMBER m_borderColor WRITE SetBorderColor)
+    Q_PROPERTY(QColor subpageColor MEMBER m_subpageColor WRITE SetSubpageColor)
+    Q_PROPERTY(QColor addpageColor MEMBER m_addpageColor WRITE SetAddpageColor)
 
 public:
     explicit PureSlider(QWidget* parent);
@@ -50,6 +54,7 @@ protected:
 
 private:
     void FollowMouse(QMouseEvent* event, int x);
+    void SetColor(QColor& which, const QColor& color);
     SliderSteps Steps() const;
 
     int m_value = 0;

@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Gallery/ButtonPage.h"
+
+#include "CommonLib/BaseStateButton.h"
+#include "CommonLib/GlobalUtils.h"
+#include "CommonLib/ImageTextButton.h"
+#include "CommonLib/ImageTextButton2.h"
+#include "CommonLib/MagicLabel.h"
+#include "Host/Gallery/Symbols.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace {
+
+constexpr int kIcon = 18;
+constexpr int kSquare = 32;
+constexpr int kTabIcon = 26;
+constexpr int kCaptionWidth = 110;
+constexpr int kRowGap = 18;
+const QColor kLine(0xd5, 0xd8, 0xdc);
+const QColor kQuiet(0x92, 0x99, 0xa1);
+const QColor kAccent(0x4d, 0xa3, 0xff);
+
+QHBoxLayout* MakeRow(QWidget* box)
+{
+    auto* layout = new QHBoxLayout(box);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
+    return layout;
+}
+
+} // namespace
+
+ButtonPage::ButtonPage(QWidget* parent) : QWidget(parent), m_told(new QLabel(this))
+{
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setColumnMinimumWidth(0, kCaptionWidth);
+    grid->setColumnStretch(1, 1);
+    grid->setVerticalSpacing(kRowGap);
+    const auto add = [&](const QString& caption, QWidget* row) {
+        grid->addWidget(new QLabel(caption, this), grid->rowCount(), 0);
+        grid->addWidget(row, grid->rowCount() - 1, 1);
+    };
+    add(tr("Buttons"), MakeButtons());
+    add(tr("Several states"), MakeStates());
+    add(tr("Image and text"), MakeImagesAndTexts());
+    add(tr("Tabs"), MakeTabs());
+    add(tr("Labels"), MakeLabels());
+    add(tr("Last signal"), m_told);
+    grid->setRowStretch(grid->rowCount(), 1);
+    Tell(tr("none yet"));
+}
+
+void ButtonPage::Tell(const QString& text)
+{
+    m_told->setText(text);
+}
+
+QWidget* ButtonPage::MakeButtons()
+{
+    auto* box = new QWidget(this);
+    QHBoxLayout* layout = MakeRow(box);
+    const auto add = [&](int id, const QString& text) {
+        auto* button = new BaseButton(id, QStringLiteral("Gallery_Button%1").arg(id), box);
+        button->setText(text);
+        connect(button, &BaseButton::Pressed, this,
+                [this](int k) { Tell(tr("Pressed %1").arg(k)); });
+        connect(button, &BaseButton::Clicked, this, [this](int k, QPoint p) {
+            Tell(tr("Clicked %1 at (%2, %3)").arg(k).arg(p.x()).arg(p.y()));
+        });
+        connect(button, &BaseButton::sigEnter, this,
+                [this](int k) { Tell(tr("Entered %1").arg(k)); });
+        connect(button, &BaseButton::sigLeave, this, [this](int k) { Tell(tr("Left %1").arg(k)); });
+        layout->addWidget(button);
+        return button;
+    };
+    add(1, tr("Normal"));
+    add(2, tr("With icon"))->setIcon(SymbolIcon(Symbol::Import, kLine));
+    BaseButton* icon = add(3, {});
+    icon->setIcon(SymbolIcon(Symbol::Star, kLine));
+    icon->setToolTip(tr("Favourite"));
+    BaseButton* checked = add(4, tr("Checked"));
+    checked->setCheckable(true);
+    checked->setChecked(true);
+    BaseButton* disabled = add(5, tr("Disabled"));
+    disabled->setIcon(SymbolIcon(Symbol::Import, kLine));
+    disabled->SetEnabled(false);
+    layout->addStretch(1);
+    return box;
+}
+
+QWidget* ButtonPage::MakeStates()
+{
+    auto* box = new QWidget(this);
+    QHBoxLayout* layout = MakeRow(box);
+    const auto add = [&](int id, const QVector<Symbol>& symbols) {
+        auto* button = new BaseStateButton(id, QStringLiteral("Gallery_States%1").arg(id), box);
+        button->setFixedSize(kSquare, kSquare);
+        for (int i = 0; i < symbols.size(); ++i) {
+            button->AddButton(id + i, QStringLiteral("Gallery_State%1").arg(id + i));
+            BaseButton* state = button->GetButton(id + i);
+            state->setIcon(SymbolIcon(symbols.at(i), kLine));
+            state->setIconSize(QSize(kIcon, kIcon));
+        }
+        connect(button, &BaseButton::Clicked, this, [this, button](int k) {
+            Tell(tr("Clicked %1, shows %2").arg(k).arg(button->CurrentButtonId()));
+        });
+        layout->addWidget(button);
+        return button;
+    };
+    add(10, {Symbol::Play, Symbol::Pause});
+    add(20, {Symbol::Play, Symbol::Pause, Symbol::Stop})->SetCurrentButtonId(21);
+    add(30, {Symbol::Stop, Symbol::Play})->SetEnabled(false);
+    layout->addStretch(1);
+    return box;
+}
+
+QWidget* ButtonPage::MakeImagesAndTexts()
+{
+    auto* box = new QWidget(this);
+    QHBoxLayout* layout = MakeRow(box);
+    const auto add = [&](int align, const QString& text, const QSize& size) {
+        auto* button =
+            new ImageTextButton(40 + align, QStringLiteral("Gallery_Image%1").arg(align), box);
+        button->SetText(text);
+        button->SetImageAlign(align);
+        button->SetImageWidth(kIcon);
+        button->setFixedSize(size);
+        button->findChild<BaseButton*>()->setIcon(SymbolIcon(Symbol::Film, kLine));
+        connect(button, &ImageTextButton::Clicked, this,
+                [this](int k) { Tell(tr("Clicked %1").arg(k)); });
+        layout->addWidget(button);
+        return button;
+    };
+    add(0, tr("Image left"), QSize(120, 30));
+    add(1, tr("On top"), QSize(64, 84));
+    add(2, tr("Image right"), QSize(120, 30));
+    add(3, tr("Below"), QSize(64, 84));
+    add(0, tr("Disabled"), QSize(120, 30))->setEnabled(false);
+    layout->addStretch(1);
+    return box;
+}
+
+QWidget* ButtonPage::MakeTabs()
+{
+    auto* box = new QWidget(this);
+    QHBoxLayout* layout = MakeRow(box);
+    const struct
+    {
+        Symbol symbol;
+        QString text;
+    } tabs[] = {{Symbol::Film, tr("Media")},
+                {Symbol::Music, tr("Audio")},
+                {Symbol::Title, tr("Titles")},
+                {Symbol::Star, tr("Effects")}};
+    for (const auto& row : tabs) {
+        auto* tab = new ImageTextButton2(50 + layout->count(), QStringLiteral("Gallery_Tab"), box);
+        tab->SetText(row.text);
+        tab->SetNormalImage(SymbolPixmap(row.symbol, kQuiet, kTabIcon, devicePixelRatioF()));
+        tab->SetSelectedImage(SymbolPixmap(row.symbol, kAccent, kTabIcon, devicePixelRatioF()));
+        tab->setFixedSize(72, 72);
+        connect(tab, &ImageTextButton2::sigSelected, this, [this, box](int id) {
+            for (ImageTextButton2* other : box->findChildren<ImageTextButton2*>()) {
+                if (other->GetId() != id)
+                    other->SetButtonState(ImageTextButton2::Normal);
+            }
+            Tell(tr("Selected %1").arg(id));
+        });
+        layout->addWidget(tab);
+    }
+    box->findChild<ImageTextButton2*>()->SetButtonState(ImageTextButton2::Selected);
+    layout->addStretch(1);
+    return box;
+}
+
+QWidget* ButtonPage::MakeLabels()
+{
+    auto* box = new QWidget(this);
+    QHBoxLayout* layout = MakeRow(box);
+    const bool before = gIsArgLang();
+    for (const bool rightToLeft : {false, true}) {
+        gSetArgLang(rightToLeft);
+        auto* label = new MagicLabel(rightToLeft ? tr("for a language from right to left")
+                                                 : tr("for a language from left to right"),
+                                     box);
+        layout->addWidget(label, 1);
+    }
+    gSetArgLang(before);
+    return box;
+}

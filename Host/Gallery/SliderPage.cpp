@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Gallery/SliderPage.h"
+
+#include "CommonLib/GlobalUtils.h"
+#include "CommonLib/PureSlider.h"
+#include "CommonLib/ScaleUnitSlider.h"
+#include "CommonLib/ToolBarSlider.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace {
+
+constexpr int kRowHeight = 22;
+constexpr int kBarHeight = 12;
+constexpr int kCaptionWidth = 150;
+constexpr int kValueWidth = 80;
+constexpr int kSectionGap = 14;
+constexpr int kUprightWidth = 44;
+constexpr float kFps = 25;
+
+QLabel* Heading(const QString& text, QWidget* parent)
+{
+    auto* label = new QLabel(text, parent);
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    return label;
+}
+
+// A row of caption, slider and value; gives the label of the value.
+QLabel* AddRow(QGridLayout& grid, const QString& caption, QWidget* slider)
+{
+    const int row = grid.rowCount();
+    auto* value = new QLabel(slider->parentWidget());
+    value->setMinimumWidth(kValueWidth);
+    value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    grid.addWidget(new QLabel(caption, slider->parentWidget()), row, 0);
+    grid.addWidget(slider, row, 1, Qt::AlignVCenter);
+    grid.addWidget(value, row, 2);
+    grid.setRowMinimumHeight(row, kRowHeight);
+    return value;
+}
+
+void AddHeading(QGridLayout& grid, QWidget* parent, const QString& text)
+{
+    const int row = grid.rowCount();
+    grid.setRowMinimumHeight(row, row > 1 ? kSectionGap : 0);
+    grid.addWidget(Heading(text, parent), row + 1, 0, 1, 2);
+}
+
+} // namespace
+
+SliderPage::SliderPage(QWidget* parent) : QWidget(parent)
+{
+    auto* grid = new QGridLayout;
+    grid->setColumnMinimumWidth(0, kCaptionWidth);
+    grid->setColumnStretch(1, 1);
+    grid->setVerticalSpacing(2);
+    AddSeekBars(*grid);
+    AddZoomBars(*grid);
+    AddBars(*grid);
+    grid->setRowStretch(grid->rowCount(), 1);
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2 * kSectionGap);
+    layout->addLayout(grid, 1);
+    layout->addWidget(MakeUprightBars());
+}
+
+void SliderPage::AddSeekBars(QGridLayout& grid)
+{
+    AddHeading(grid, this, tr("Seek bar"));
+    const auto add = [&](const QString& caption, float value) {
+        auto* slider = new ToolBarSlider(this, Qt::Horizontal);
+        slider->setRange(0, 1500);
+        slider->setValue(value, false);
+        slider->setAccessibleName(caption);
+        QLabel* label = AddRow(grid, caption, slider);
+        const auto show = [label, slider] {
+            label->setText(gFrame2String(static_cast<int>(slider->value()), kFps));
+        };
+        connect(slider, &ToolBarSlider::valueChanged, label, show);
+        show();
+        return slider;
+    };
+    add(tr("Normal"), 500);
+    ToolBarSlider* thick = add(tr("Other chunk and groove"), 900);
+    thick->SetChunkSize(8, 18);
+    thick->SetGrooveHeight(6);
+    thick->SetGroomHighlight("background-color: #e0a43a; border-radius: 1px;");
+    add(tr("From right to left"), 500)->SetLeftToRight(false);
+    add(tr("Empty range"), 0)->setRange(0, 0);
+    add(tr("Disabled"), 700)->setEnabled(false);
+}
+
+void SliderPage::AddZoomBars(QGridLayout& grid)
+{
+    AddHeading(grid, this, tr("Zoom bar"));
+    const auto add = [&](const QString& caption, float value) {
+        auto* slider = new ScaleUnitSlider(this);
+        slider->setRange(10, 400);
+        slider->setValue(value);
+        slider->setAccessibleName(caption);
+        QLabel* label = AddRow(grid, caption, slider);
+        const auto show = [label, slider] {
+            label->setText(tr("%1 %").arg(qRound(slider->value())));
+        };
+        connect(slider, &ScaleUnitSlider::valueChanged, label, show);
+        show();
+        return slider;
+    };
+    add(tr("Normal"), 100);
+    add(tr("Mirrored layout"), 100)->setLayoutDirection(Qt::RightToLeft);
+    add(tr("Disabled"), 200)->setEnabled(false);
+}
+
+void SliderPage::AddBars(QGridLayout& grid)
+{
+    AddHeading(grid, this, tr("Bar"));
+    const auto add = [&](const QString& caption, int value) {
+        auto* slider = new PureSlider(this);
+        slider->setFixedHeight(kBarHeight);
+        slider->SetValue(value);
+        slider->setAccessibleName(caption);
+        QLabel* label = AddRow(grid, caption, slider);
+        const auto show = [label, slider] { label->setText(QString::number(slider->GetValue())); };
+        connect(slider, &PureSlider::sigValueChanged, label, show);
+        show();
+        return slider;
+    };
+    add(tr("Normal"), 40);
+    PureSlider* level = add(tr("Other colours"), 75);
+    level->SetSubpageColor(QColor(0x4f, 0xb0, 0x6d));
+    level->SetBorderColor(QColor(0x2f, 0x6b, 0x45));
+    add(tr("Disabled"), 60)->setEnabled(false);
+}
+
+QWidget* SliderPage::MakeUprightBars()
+{
+    auto* box = new QWidget(this);
+    auto* grid = new QGridLayout(box);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->addWidget(Heading(tr("Upright"), box), 0, 0, 1, 3);
+    const float values[] = {25, 60, 60};
+    for (int i = 0; i < 3; ++i) {
+        auto* slider = new ToolBarSlider(box, Qt::Vertical);
+        // Turned round, the highlight rises to the value; hung from the top, it falls to it.
+        slider->setRange(i == 0 ? 0 : 100, i == 0 ? 100 : 0);
+        slider->SetBottomToTop(i != 0);
+        slider->setValue(values[i], false);
+        slider->setEnabled(i != 2);
+        auto* label = new QLabel(box);
+        label->setAlignment(Qt::AlignCenter);
+        const auto show = [label, slider] { label->setNum(qRound(slider->value())); };
+        connect(slider, &ToolBarSlider::valueChanged, label, show);
+        show();
+        grid->addWidget(slider, 1, i, Qt::AlignHCenter);
+        grid->addWidget(label, 2, i);
+        grid->setColumnMinimumWidth(i, kUprightWidth);
+    }
+    grid->setRowStretch(1, 1);
+    return box;
+}

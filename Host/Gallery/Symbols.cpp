@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Gallery/Symbols.h"
+
+#include <QIconEngine>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <cmath>
+
+namespace {
+
+constexpr double kGrid = 24; // units that all shapes below are drawn in
+constexpr double kDimmed = 0.35;
+
+QPainterPath Polygon(std::initializer_list<QPointF> points)
+{
+    QPainterPath path;
+    path.addPolygon(QVector<QPointF>(points));
+    path.closeSubpath();
+    return path;
+}
+
+QPainterPath Film()
+{
+    QPainterPath path;
+    path.setFillRule(Qt::OddEvenFill);
+    path.addRoundedRect(3, 4, 18, 16, 2, 2);
+    for (const double y : {6.5, 10.75, 15.0}) {
+        for (const double x : {5.0, 17.0})
+            path.addRect(x, y, 2, 2.5);
+    }
+    path.addRect(9, 6.5, 6, 11);
+    return path;
+}
+
+QPainterPath Music()
+{
+    QPainterPath path;
+    path.setFillRule(Qt::WindingFill);
+    path.addEllipse(4, 15, 6, 5);
+    path.addEllipse(14, 13, 6, 5);
+    path.addRect(8.5, 6, 1.5, 11.5);
+    path.addRect(18.5, 4, 1.5, 11.5);
+    path.addPath(Polygon({{8.5, 6}, {20, 4}, {20, 7}, {8.5, 9}}));
+    return path;
+}
+
+QPainterPath Star()
+{
+    constexpr double pi = 3.14159265358979;
+    QVector<QPointF> points;
+    for (int i = 0; i < 10; ++i) {
+        const double radius = i % 2 == 0 ? 9.5 : 4;
+        const double angle = i * pi / 5;
+        points << QPointF(12 + radius * std::sin(angle), 12.5 - radius * std::cos(angle));
+    }
+    QPainterPath path;
+    path.addPolygon(points);
+    return path;
+}
+
+QPainterPath Shape(Symbol symbol)
+{
+    QPainterPath path;
+    switch (symbol) {
+    case Symbol::Play:
+        return Polygon({{7, 4}, {20, 12}, {7, 20}});
+    case Symbol::Pause:
+        path.addRect(6, 4, 4, 16);
+        path.addRect(14, 4, 4, 16);
+        return path;
+    case Symbol::Stop:
+        path.addRoundedRect(5, 5, 14, 14, 1, 1);
+        return path;
+    case Symbol::Film:
+        return Film();
+    case Symbol::Music:
+        return Music();
+    case Symbol::Title:
+        path.addRect(5, 4, 14, 3);
+        path.addRect(10.5, 7, 3, 13);
+        return path;
+    case Symbol::Star:
+        return Star();
+    case Symbol::Import:
+        path.addRect(4, 18, 16, 2);
+        path.addRect(11, 3, 2, 9);
+        path.addPath(Polygon({{6.5, 10}, {17.5, 10}, {12, 16}}));
+        return path;
+    }
+    return path;
+}
+
+void Paint(QPainter& painter, const QRectF& rect, Symbol symbol, const QColor& color)
+{
+    const double side = qMin(rect.width(), rect.height());
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(rect.center() - QPointF(side / 2, side / 2));
+    painter.scale(side / kGrid, side / kGrid);
+    painter.fillPath(Shape(symbol), color);
+    painter.restore();
+}
+
+class SymbolEngine : public QIconEngine
+{
+public:
+    SymbolEngine(Symbol symbol, const QColor& color) : m_symbol(symbol), m_color(color) {}
+
+    QIconEngine* clone() const override { return new SymbolEngine(*this); }
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
+    {
+        QColor color = m_color;
+        if (mode == QIcon::Disabled)
+            color.setAlphaF(kDimmed);
+        Paint(*painter, rect, m_symbol, color);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+        return pixmap;
+    }
+
+private:
+    Symbol m_symbol;
+    QColor m_color;
+};
+
+} // namespace
+
+QIcon SymbolIcon(Symbol symbol, const QColor& color)
+{
+    return QIcon(new SymbolEngine(symbol, color));
+}
+
+QPixmap SymbolPixmap(Symbol symbol, const QColor& color, int side, qreal scale)
+{
+    QPixmap pixmap(QSize(side, side) * scale);
+    pixmap.setDevicePixelRatio(scale);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    Paint(painter, QRectF(0, 0, side, side), symbol, color);
+    return pixmap;
+}

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QColor>
+#include <QIcon>
+#include <QPixmap>
+
+/// The pictures of the gallery's buttons, painted so that they are sharp at any scale.
+enum class Symbol
+{
+    Play,
+    Pause,
+    Stop,
+    Film,
+    Music,
+    Title,
+    Star,
+    Import
+};
+
+/// Drawn anew for every size; dimmed on a disabled widget.
+QIcon SymbolIcon(Symbol symbol, const QColor& color);
+
+/// \a side in device-independent pixels, for a screen of \a scale.
+QPixmap SymbolPixmap(Symbol symbol, const QColor& color, int side, qreal scale);
