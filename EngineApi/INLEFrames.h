@@ -40,13 +40,21 @@ struct INLEAudioFrame : IUnknown
     virtual HRESULT GetData(float** samples) = 0;
 };
 
+/// How a frame extractor opens a node; flags that add up.
+enum NLEOpenFlags : std::int32_t
+{
+    NLEOpen_Render = 1, ///< every frame is rendered in full quality
+    NLEOpen_Cached = 2 ///< for previews: frames that the node's background cache holds come from it
+};
+
 /// Renders frames of a node.
 struct INLEFrameExtractor : IUnknown
 {
     static constexpr _GUID Iid = {
         0xE3247382, 0xB6CC, 0x4DEE, {0xBE, 0x4F, 0xA9, 0xAB, 0xFB, 0x14, 0x61, 0x15}};
 
-    /// Takes a snapshot of the node; later edits do not show. \a flags is 1.
+    /// Takes a snapshot of the node; later edits do not show. \a flags are of NLEOpenFlags.
+    /// Frames from the cache have the cache's size and are scaled to the video frame.
     virtual HRESULT Open(INLETimeline* timeline, int flags) = 0;
     /// Renders frame \a frame into a prepared video frame and sets its valid rectangle. For a
     /// source the number counts from the file's first frame, else from the node's frame 0. E_FAIL

@@ -28,6 +28,7 @@ struct DecoderPool::Shared
     uint64_t generation = 0;
     int lentCount = 0;
     int maxOpen = 8;
+    int threads = 0;
     bool isClosed = false;
 
     IdleList TakeSurplus(int room);
@@ -110,8 +111,9 @@ void DecoderPool::Lease::Release()
     m_pool.reset();
 }
 
-DecoderPool::DecoderPool(int maxOpen) : m_shared(std::make_shared<Shared>())
+DecoderPool::DecoderPool(int maxOpen, int threads) : m_shared(std::make_shared<Shared>())
 {
+    m_shared->threads = threads;
     m_shared->maxOpen = std::max(1, maxOpen);
 }
 
@@ -147,7 +149,7 @@ DecoderPool::Lease DecoderPool::Acquire(const std::shared_ptr<const MediaInfo>& 
         }
         surplus.clear();
         if (!isReusable)
-            lease.m_decoder = FrameDecoder::Open(info, stream, error);
+            lease.m_decoder = FrameDecoder::Open(info, stream, error, m_shared->threads);
         else if (taken.front().decoder->IsFileUnchanged())
             lease.m_decoder = std::move(taken.front().decoder);
         if (!lease.m_decoder) {

@@ -51,8 +51,9 @@ public:
         uint64_t m_generation = 0;
     };
 
-    /// \a maxOpen is the bound of open decoders, at least 1.
-    explicit DecoderPool(int maxOpen = 8);
+    /// \a maxOpen is the bound of open decoders, at least 1; \a threads are those of a decoder, 0
+    /// lets it choose.
+    explicit DecoderPool(int maxOpen = 8, int threads = 0);
     ~DecoderPool();
     DecoderPool(const DecoderPool&) = delete;
     DecoderPool& operator=(const DecoderPool&) = delete;

@@ -3,6 +3,7 @@
 
 #include "EngineApi/NLEKey.h"
 #include "NLECore/model/FrameMath.h"
+#include "NLECore/render/BackgroundCache.h"
 
 #include <algorithm>
 #include <cmath>
@@ -110,8 +111,24 @@ CompositeNode::CompositeNode(const NLERational& frameRate)
 
 CompositeNode::~CompositeNode()
 {
+    if (m_cache)
+        m_cache->Detach();
     for (const NLEComPtr<TimelineNode>& clip : m_clips)
         clip->SetParent(nullptr);
+}
+
+HRESULT CompositeNode::GetInterface(REFIID iid, void** out, int reserved1, int reserved2)
+{
+    if (iid != INLEBackgroundCache::Iid)
+        return ComExtension::GetInterface(iid, out, reserved1, reserved2);
+    if (!m_cache)
+        m_cache = MakeCom<BackgroundCache>(*this);
+    return m_cache->QueryInterface(iid, out);
+}
+
+std::unique_ptr<CachedFrames> CompositeNode::OpenCachedFrames(const Snapshot& snapshot) const
+{
+    return m_cache ? m_cache->OpenFrames(snapshot) : nullptr;
 }
 
 HRESULT CompositeNode::GetClipCount(int* count)

@@ -11,12 +11,18 @@ namespace nle {
 /// Composites that may lie one inside of the other; everything that walks the tree recurses.
 constexpr int kDeepestNesting = 64;
 
+class BackgroundCache;
+class CachedFrames;
+
 /// A node that holds clips. Without a size of its own it takes its parent's.
 class CompositeNode
     : public ComExtension<TimelineNode, INLETimelineComposite, INLETimelineCompositeEx>
 {
 public:
     explicit CompositeNode(const NLERational& frameRate);
+
+    /// Answers the background cache as well, which is made when it is first asked for.
+    HRESULT GetInterface(REFIID iid, void** out, int reserved1, int reserved2) override;
 
     HRESULT GetClipCount(int* count) override;
     HRESULT GetEnumerator(int flags, INLETimelineEnumerator** enumerator) override;
@@ -34,6 +40,9 @@ public:
     /// What shows where no clip does, 0xAARRGGBB.
     std::uint32_t Background() const;
     const std::vector<NLEComPtr<TimelineNode>>& Clips() const { return m_clips; }
+    /// Reads frames of \a snapshot, one of this node, from the background cache; null when there is
+    /// none.
+    std::unique_ptr<CachedFrames> OpenCachedFrames(const Snapshot& snapshot) const;
     /// Adds a node that has no parent, as it stands.
     void Adopt(const NLEComPtr<TimelineNode>& clip);
 
@@ -52,6 +61,7 @@ private:
     int DepthFromTop() const;
 
     NLESize m_size;
+    NLEComPtr<BackgroundCache> m_cache;
 
     std::vector<NLEComPtr<TimelineNode>> m_clips;
 };

@@ -181,7 +181,11 @@ Placing PlaceLayer(const Layer& layer, const NLEKeyFrameRecord* key, NLESize par
             std::fmod(transform.rotation, 360.0)};
 }
 
-Composer::Composer(Snapshot root) : m_root(std::move(root)) {}
+Composer::Composer(Snapshot root) : Composer(std::move(root), Decoders()) {}
+
+Composer::Composer(Snapshot root, DecoderPool& decoders) : m_root(std::move(root)), m_pool(decoders)
+{
+}
 
 QImage Composer::Render(std::int64_t frame, const QSize& frameSize, QRect* place)
 {
@@ -227,8 +231,7 @@ QImage Composer::MediaPicture(const Layer& layer, std::int64_t frame, const QSiz
     OpenDecoder& decoder = m_decoders[&layer];
     decoder.used = true;
     if (!decoder.lease)
-        decoder.lease =
-            Decoders().Acquire(media, media->videoStream, DecodePurpose::Render, wanted);
+        decoder.lease = m_pool.Acquire(media, media->videoStream, DecodePurpose::Render, wanted);
     if (!decoder.lease)
         return {};
     const QImage image = decoder.lease->Picture(wanted, size);

@@ -31,7 +31,9 @@ Placing PlaceLayer(const Layer& layer, const NLEKeyFrameRecord* key, NLESize par
 class Composer
 {
 public:
+    /// \a decoders outlives the object; without it they are the engine's own.
     explicit Composer(Snapshot root);
+    Composer(Snapshot root, DecoderPool& decoders);
 
     /// The picture of the root's frame \a frame, counted from its frame 0 and not from its in
     /// point, fitted into \a frameSize. \a place receives where in the frame it lies. Null when the
@@ -51,6 +53,7 @@ private:
     };
 
     const Snapshot m_root;
+    DecoderPool& m_pool;
     std::map<const Layer*, OpenDecoder> m_decoders;
 };
 

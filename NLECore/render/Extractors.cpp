@@ -2,8 +2,8 @@
 #include "NLECore/render/Extractors.h"
 
 #include "NLECore/media/WaveForm.h"
+#include "NLECore/model/CompositeNode.h"
 #include "NLECore/model/MediaObjects.h"
-#include "NLECore/model/TimelineNode.h"
 #include "NLECore/render/Decoders.h"
 #include "NLECore/render/Frames.h"
 
@@ -32,7 +32,7 @@ void CopyInto(const QImage& image, const QRect& place, NLESize size, std::uint8_
 
 } // namespace
 
-HRESULT FrameExtractor::Open(INLETimeline* timeline, int /*flags*/)
+HRESULT FrameExtractor::Open(INLETimeline* timeline, int flags)
 {
     Finish();
     const TimelineNode* node = TimelineNode::From(timeline);
@@ -41,6 +41,9 @@ HRESULT FrameExtractor::Open(INLETimeline* timeline, int /*flags*/)
     m_root = node->MakeSnapshot();
     m_length = node->TotalLength();
     m_composer.emplace(m_root);
+    const auto* composite = dynamic_cast<const CompositeNode*>(node);
+    if (composite && (flags & NLEOpen_Cached) != 0)
+        m_cached = composite->OpenCachedFrames(m_root);
     return S_OK;
 }
 
@@ -52,8 +55,11 @@ HRESULT FrameExtractor::Extract(int frame, INLEVideoFrame* picture)
     std::uint8_t* pixels = nullptr;
     if (!HasFrame(frame) || FAILED(picture->GetSize(&size)) || FAILED(picture->GetData(&pixels)))
         return E_FAIL;
-    QRect place;
-    const QImage image = m_composer->Render(frame, QSize(size.width, size.height), &place);
+    QRect place =
+        PlacePicture(m_root->size, NLEMargin_Fit, m_root->size, {size.width, size.height});
+    QImage image = m_cached ? m_cached->Picture(frame, place.size()) : QImage();
+    if (image.isNull())
+        image = m_composer->Render(frame, QSize(size.width, size.height), &place);
     if (image.isNull())
         return E_FAIL;
     CopyInto(image.convertToFormat(kPictureFormat), place, size, pixels);
@@ -82,6 +88,7 @@ HRESULT FrameExtractor::ExtractAudio(int frame, INLEAudioFrame* sound)
 HRESULT FrameExtractor::Finish()
 {
     m_composer.reset();
+    m_cached.reset();
     m_mixer.reset();
     m_root.reset();
     m_length = 0;

@@ -4,6 +4,7 @@
 #include "EngineApi/ComObject.h"
 #include "EngineApi/INLEFrames.h"
 #include "NLECore/render/AudioMixer.h"
+#include "NLECore/render/CachedFrames.h"
 #include "NLECore/render/Composer.h"
 
 #include <memory>
@@ -26,6 +27,7 @@ private:
     Snapshot m_root;
     int m_length = 0;
     std::optional<Composer> m_composer;
+    std::unique_ptr<CachedFrames> m_cached;
     std::unique_ptr<AudioMixer> m_mixer;
 };
 

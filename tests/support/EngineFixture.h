@@ -64,15 +64,16 @@ public:
     }
 
     /// Null when the engine renders none.
-    QImage Frame(const Node& node, int frame) const
+    QImage Frame(const Node& node, int frame, int flags = NLEOpen_Render,
+                 const QSize& size = QSize(320, 180)) const
     {
-        const auto picture = provider->CreateVideoFrame(320, 180);
+        const auto picture = provider->CreateVideoFrame(size.width(), size.height());
         const auto extractor = provider->CreateFrameExtractor();
         std::uint8_t* pixels = nullptr;
-        if (picture->Prepare() != S_OK || extractor->Open(node.get(), 1) != S_OK ||
+        if (picture->Prepare() != S_OK || extractor->Open(node.get(), flags) != S_OK ||
             extractor->Extract(frame, picture.get()) != S_OK || picture->GetData(&pixels) != S_OK)
             return {};
-        return QImage(pixels, 320, 180, QImage::Format_ARGB32).copy();
+        return QImage(pixels, size.width(), size.height(), QImage::Format_ARGB32).copy();
     }
     /// What sounds from a frame on; empty when the engine gives nothing.
     Stereo Sound(const Node& node, int frame, int samples = kSampleRate / 25) const

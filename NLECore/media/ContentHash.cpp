@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/media/ContentHash.h"
+
+#include <cstring>
+#include <memory>
+
+extern "C" {
+#include <libavutil/mem.h>
+#include <libavutil/murmur3.h>
+}
+
+namespace nle {
+
+namespace {
+
+struct MurmurFreer
+{
+    void operator()(AVMurMur3* state) const { av_free(state); }
+};
+
+} // namespace
+
+ContentHash& ContentHash::Add(const QString& text)
+{
+    Add(text.size());
+    m_bytes.append(reinterpret_cast<const char*>(text.constData()),
+                   text.size() * int(sizeof(QChar)));
+    return *this;
+}
+
+ContentKey ContentHash::Of(const QByteArray& bytes)
+{
+    static thread_local const std::unique_ptr<AVMurMur3, MurmurFreer> state(av_murmur3_alloc());
+    if (!state)
+        return {};
+    std::uint8_t result[16];
+    av_murmur3_init(state.get());
+    av_murmur3_update(state.get(), reinterpret_cast<const std::uint8_t*>(bytes.constData()),
+                      std::size_t(bytes.size()));
+    av_murmur3_final(state.get(), result);
+    ContentKey key;
+    std::memcpy(&key.high, result, sizeof key.high);
+    std::memcpy(&key.low, result + sizeof key.high, sizeof key.low);
+    return key;
+}
+
+} // namespace nle

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+#include <type_traits>
+
+namespace nle {
+
+/// 128 bits that stand for a content.
+struct ContentKey
+{
+    std::uint64_t high = 0;
+    std::uint64_t low = 0;
+
+    friend bool operator==(const ContentKey& a, const ContentKey& b)
+    {
+        return a.high == b.high && a.low == b.low;
+    }
+    friend bool operator!=(const ContentKey& a, const ContentKey& b) { return !(a == b); }
+};
+
+/// For the standard library's hashed containers.
+struct ContentKeyHash
+{
+    std::size_t operator()(const ContentKey& key) const { return std::size_t(key.low); }
+};
+
+/// Collects values and gives the key of them all. Equal values in equal order give equal keys, on
+/// every run.
+class ContentHash
+{
+public:
+    /// Numbers and enumerations only: records have gaps of unknown content.
+    template <typename T>
+    ContentHash& Add(T value)
+    {
+        static_assert(std::is_arithmetic_v<T> || std::is_enum_v<T>, "one value at a time");
+        m_bytes.append(reinterpret_cast<const char*>(&value), int(sizeof(T)));
+        return *this;
+    }
+    ContentHash& Add(const ContentKey& key) { return Add(key.high).Add(key.low); }
+    ContentHash& Add(const QString& text);
+
+    ContentKey Result() const { return Of(m_bytes); }
+    static ContentKey Of(const QByteArray& bytes);
+
+private:
+    QByteArray m_bytes;
+};
+
+} // namespace nle

@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/render/CacheRenderer.h"
+
+#include "NLECore/model/EngineLog.h"
+#include "NLECore/render/Composer.h"
+#include "NLECore/render/ThreadPriority_p.h"
+
+#include <QThread>
+
+#include <algorithm>
+
+namespace nle {
+
+namespace {
+
+/// More threads than that would hold more open decoders than their memory is worth.
+constexpr int kMostThreads = 4;
+/// Chunks are rendered side by side, so each decoder does with one thread.
+constexpr int kDecoderThreads = 1;
+/// Decoders that a thread holds while one clip ends and the next begins.
+constexpr int kDecodersPerThread = 2;
+
+int ThreadCount()
+{
+    return std::clamp(QThread::idealThreadCount(), 1, kMostThreads);
+}
+
+} // namespace
+
+/// What one thread keeps from chunk to chunk.
+struct CacheRenderer::Worker
+{
+    Composer composer;
+    std::unique_ptr<PictureEncoder> encoder;
+    std::int64_t lastSize = 0;
+};
+
+CacheRenderer::CacheRenderer(std::shared_ptr<const ChunkPlan> plan,
+                             std::shared_ptr<ChunkStore> store, const CacheLimits& limits,
+                             Report report)
+    : m_plan(std::move(plan))
+    , m_store(std::move(store))
+    , m_limits(limits)
+    , m_report(std::move(report))
+    , m_keep(m_plan->Keys())
+    , m_decoders(kDecodersPerThread * ThreadCount(), kDecoderThreads)
+{
+    KeySet seen;
+    const std::vector<Chunk>& chunks = m_plan->Chunks();
+    for (int index = 0; index < int(chunks.size()); ++index) {
+        const ContentKey& key = chunks[std::size_t(index)].key;
+        if (!m_store->Has(key) && seen.insert(key).second)
+            m_pending.insert(index);
+    }
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    ReportProgress(CacheState::Caching);
+    m_working = ThreadCount();
+    for (int number = 0; number < m_working; ++number)
+        m_threads.emplace_back([this, number] { Run(number); });
+}
+
+CacheRenderer::~CacheRenderer()
+{
+    m_isEnding = true;
+    for (std::thread& thread : m_threads)
+        thread.join();
+}
+
+void CacheRenderer::Stop()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_isEnding = true;
+    ReportProgress(CacheState::Stopped);
+}
+
+void CacheRenderer::Run(int number)
+{
+    LowerThreadPriority();
+    Worker worker{Composer(m_plan->Root(), m_decoders), nullptr, 0};
+    // The threads begin apart, so that each finds chunks that follow one another.
+    const std::int64_t count = std::int64_t(m_plan->Chunks().size());
+    int last = int(count * number / ThreadCount()) - 1;
+    for (std::optional<int> next = Take(last); next; next = Take(last)) {
+        last = *next;
+        if (const auto failure = RenderChunk(m_plan->Chunks()[std::size_t(last)], worker))
+            return End(*failure), EndWorker();
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (!m_isEnding)
+            ReportProgress(CacheState::Caching);
+    }
+    EndWorker();
+}
+
+// Chunks in a row need no seek, and no other decoder. Who has come to the end of a row begins in
+// the middle of the longest one that is left, because another thread is working its way into it.
+std::optional<int> CacheRenderer::Take(int last)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_isEnding || m_pending.empty())
+        return {};
+    auto chosen = m_pending.find(last + 1);
+    if (chosen == m_pending.end()) {
+        std::vector<int> row;
+        std::vector<int> longest;
+        for (const int index : m_pending) {
+            if (!row.empty() && index != row.back() + 1)
+                row.clear();
+            row.push_back(index);
+            if (row.size() > longest.size())
+                longest = row;
+        }
+        chosen = m_pending.find(longest[longest.size() / 2]);
+    }
+    const int index = *chosen;
+    m_pending.erase(chosen);
+    return index;
+}
+
+std::optional<CacheState> CacheRenderer::RenderChunk(const Chunk& chunk, Worker& worker)
+{
+    switch (m_store->MakeRoom(m_limits, worker.lastSize, m_keep)) {
+    case ChunkStore::Room::LowDisk:
+        return CacheState::LowDisk;
+    case ChunkStore::Room::QuotaReached:
+        return CacheState::QuotaReached;
+    case ChunkStore::Room::Enough:
+        break;
+    }
+    const PictureCoding coding = m_plan->Coding();
+    ChunkWriter file(m_store->PathOf(chunk.key), chunk.key, coding.format, chunk.Length());
+    if (!file.Open())
+        return CacheState::FolderUnwriteable;
+    // A folder that takes files, but not what belongs into them, lies on a full disk.
+    const auto failure = [this] {
+        return m_store->IsFolderThere() ? CacheState::LowDisk : CacheState::FolderUnwriteable;
+    };
+    for (int frame = chunk.first; frame <= chunk.last; ++frame) {
+        if (m_isEnding)
+            return {};
+        QRect place;
+        const QImage picture = worker.composer.Render(frame, m_plan->Format().size, &place);
+        if (!worker.encoder)
+            worker.encoder = PictureEncoder::Open(place.size(), coding);
+        const QByteArray encoded = worker.encoder ? worker.encoder->Encode(picture) : QByteArray();
+        if (encoded.isEmpty()) {
+            qCWarning(lcEngine, "frame %d cannot be cached", frame);
+            return {};
+        }
+        if (!file.Append(encoded))
+            return failure();
+    }
+    // Media that was written to meanwhile would stand under the key of what it was before.
+    if (m_plan->CurrentKey(chunk) != chunk.key)
+        return {};
+    worker.lastSize = file.Size();
+    if (m_store->MakeRoom(m_limits, file.Size(), m_keep) == ChunkStore::Room::QuotaReached)
+        return CacheState::QuotaReached;
+    if (m_isEnding)
+        return {};
+    if (!file.Commit())
+        return failure();
+    m_store->Add(chunk.key, file.Size());
+    return {};
+}
+
+void CacheRenderer::End(CacheState state)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (!m_isEnding.exchange(true))
+        ReportProgress(state);
+}
+
+void CacheRenderer::EndWorker()
+{
+    m_decoders.Clear();
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (--m_working == 0 && !m_isEnding.exchange(true))
+        ReportProgress(CacheState::Finished);
+}
+
+void CacheRenderer::ReportProgress(CacheState state)
+{
+    Progress progress;
+    progress.state = state;
+    progress.totalFrames = m_plan->FrameCount();
+    progress.cachedFrames = m_store->CountFrames(m_plan->Chunks());
+    const std::int64_t percent =
+        progress.totalFrames > 0 ? progress.cachedFrames * 100 / progress.totalFrames : 100;
+    // A hundred means that the run has ended, and this one is told before its end.
+    progress.percent =
+        state == CacheState::Finished ? int(percent) : int(std::min<std::int64_t>(percent, 99));
+    m_report(progress);
+}
+
+} // namespace nle

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "NLECore/media/DecoderPool.h"
+#include "NLECore/render/ChunkStore.h"
+
+#include <atomic>
+#include <functional>
+#include <optional>
+#include <set>
+#include <thread>
+
+namespace nle {
+
+/// States that a render of the cache reports. The numbers are fixed.
+enum class CacheState : long
+{
+    Caching = 0,
+    LowDisk = 1,
+    QuotaReached = 2,
+    Stopped = 3,
+    FolderUnwriteable = 4,
+    Finished = 5
+};
+
+/// One run that renders what a plan lacks, on threads of low priority.
+class CacheRenderer
+{
+public:
+    struct Progress
+    {
+        int percent = 0;
+        CacheState state = CacheState::Caching;
+        std::int64_t cachedFrames = 0;
+        std::int64_t totalFrames = 0;
+    };
+    /// Called from the threads that render and from Stop, one call at a time, in order. It must not
+    /// wait for anything.
+    using Report = std::function<void(const Progress&)>;
+
+    /// Starts to render.
+    CacheRenderer(std::shared_ptr<const ChunkPlan> plan, std::shared_ptr<ChunkStore> store,
+                  const CacheLimits& limits, Report report);
+    /// Stops, and waits for the frames that are being drawn.
+    ~CacheRenderer();
+    CacheRenderer(const CacheRenderer&) = delete;
+    CacheRenderer& operator=(const CacheRenderer&) = delete;
+
+    /// Asks the threads to stop after their frame and reports that at once; also when they have
+    /// ended by themselves, so that nobody waits for a report that does not come.
+    void Stop();
+    bool IsRunning() const { return !m_isEnding; }
+
+private:
+    struct Worker;
+
+    void Run(int number);
+    /// Empty when the chunk is in the store, or not worth trying again, or the run is ending.
+    std::optional<CacheState> RenderChunk(const Chunk& chunk, Worker& worker);
+    /// Index of the next chunk for the thread that last did \a last.
+    std::optional<int> Take(int last);
+    void End(CacheState state);
+    void EndWorker();
+    void ReportProgress(CacheState state);
+
+    const std::shared_ptr<const ChunkPlan> m_plan;
+    const std::shared_ptr<ChunkStore> m_store;
+    const CacheLimits m_limits;
+    const Report m_report;
+    const KeySet m_keep;
+    DecoderPool m_decoders;
+    std::atomic<bool> m_isEnding{false};
+
+    std::mutex m_mutex;
+    std::set<int> m_pending; ///< indexes of chunks, one of each content
+    int m_working = 0;
+    std::vector<std::thread> m_threads;
+};
+
+} // namespace nle

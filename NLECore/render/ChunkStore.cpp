@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/render/ChunkStore.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QDirIterator>
+#include <QRegularExpression>
+#include <QStorageInfo>
+#include <QTemporaryFile>
+
+#include <algorithm>
+#include <map>
+
+namespace nle {
+
+namespace {
+
+const QLatin1String kSuffix(".nlechunk");
+const QLatin1String kClaimName("nlechunks.lock");
+
+/// Name of a chunk, or of one that is or was being written.
+const QRegularExpression& NamePattern()
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("^([0-9a-f]{16})([0-9a-f]{16})\\.nlechunk(\\.[A-Za-z0-9]{6})?$"));
+    return pattern;
+}
+
+std::int64_t Now()
+{
+    return QDateTime::currentMSecsSinceEpoch();
+}
+
+/// Calls \a visit with each file of ours: key, whether it is whole, and the file.
+template <typename Visit>
+void ForEachFile(const QString& folder, Visit visit)
+{
+    QDirIterator files(folder, QDir::Files | QDir::Hidden);
+    while (files.hasNext()) {
+        files.next();
+        const QRegularExpressionMatch name = NamePattern().match(files.fileName());
+        if (!name.hasMatch())
+            continue;
+        const ContentKey key{name.captured(1).toULongLong(nullptr, 16),
+                             name.captured(2).toULongLong(nullptr, 16)};
+        visit(key, name.captured(3).isEmpty(), files.fileInfo());
+    }
+}
+
+} // namespace
+
+std::shared_ptr<ChunkStore> ChunkStore::Of(const QString& path)
+{
+    static std::mutex mutex;
+    // Never destroyed: timelines may outlive the objects of the module.
+    static auto& stores = *new std::map<QString, std::weak_ptr<ChunkStore>>;
+    const QString folder = QDir::cleanPath(QDir(path).absolutePath());
+    const std::lock_guard<std::mutex> lock(mutex);
+    std::weak_ptr<ChunkStore>& known = stores[folder];
+    std::shared_ptr<ChunkStore> store = known.lock();
+    if (!store)
+        known = store = std::shared_ptr<ChunkStore>(new ChunkStore(folder));
+    return store;
+}
+
+ChunkStore::~ChunkStore() = default;
+
+QString ChunkStore::PathOf(const ContentKey& key) const
+{
+    return QStringLiteral("%1/%2%3%4")
+        .arg(m_folder)
+        .arg(key.high, 16, 16, QLatin1Char('0'))
+        .arg(key.low, 16, 16, QLatin1Char('0'))
+        .arg(kSuffix);
+}
+
+bool ChunkStore::IsFolderThere() const
+{
+    return QFileInfo(m_folder).isDir();
+}
+
+bool ChunkStore::Prepare()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const bool wasThere = IsFolderThere();
+    if (!wasThere && !QDir().mkpath(m_folder))
+        return false;
+    m_isFolderOurs = m_isFolderOurs || !wasThere;
+    if (!QTemporaryFile(PathOf({}) + QLatin1String(".XXXXXX")).open())
+        return false;
+    List();
+    return true;
+}
+
+void ChunkStore::EnsureListed()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (!m_isListed || !IsFolderThere())
+        List();
+}
+
+// What a killed process left half written goes as well, provided that no other process writes here.
+void ChunkStore::List()
+{
+    Claim();
+    std::unordered_map<ContentKey, Entry, ContentKeyHash> found;
+    m_used = 0;
+    ForEachFile(m_folder, [&](const ContentKey& key, bool isWhole, const QFileInfo& file) {
+        if (!isWhole && m_claim && !m_isListed)
+            QFile::remove(file.filePath());
+        if (!isWhole)
+            return;
+        const auto known = m_entries.find(key);
+        const std::int64_t lastUse = known != m_entries.end()
+                                         ? known->second.lastUse
+                                         : file.lastModified().toMSecsSinceEpoch();
+        found[key] = {file.size(), lastUse};
+        m_used += file.size();
+    });
+    m_entries.swap(found);
+    m_isListed = IsFolderThere();
+}
+
+void ChunkStore::Claim()
+{
+    if (m_claim && !m_isListed)
+        m_claim.reset();
+    if (m_claim || !IsFolderThere())
+        return;
+    m_claim = std::make_unique<QLockFile>(m_folder + QLatin1Char('/') + kClaimName);
+    m_claim->setStaleLockTime(0);
+    if (!m_claim->tryLock(0))
+        m_claim.reset();
+}
+
+bool ChunkStore::Has(const ContentKey& key) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_entries.count(key) != 0;
+}
+
+std::int64_t ChunkStore::CountFrames(const std::vector<Chunk>& chunks) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    std::int64_t frames = 0;
+    for (const Chunk& chunk : chunks)
+        frames += m_entries.count(chunk.key) != 0 ? chunk.Length() : 0;
+    return frames;
+}
+
+ChunkStore::Room ChunkStore::MakeRoom(const CacheLimits& limits, std::int64_t wanted,
+                                      const KeySet& keep)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::int64_t surplus = m_used + wanted - limits.quota;
+    if (surplus > 0 && !Evict(surplus, keep))
+        return Room::QuotaReached;
+    const std::int64_t free = QStorageInfo(m_folder).bytesAvailable();
+    const std::int64_t lacking = free < 0 ? 0 : limits.reserve + wanted - free;
+    return lacking <= 0 || Evict(lacking, keep) ? Room::Enough : Room::LowDisk;
+}
+
+// Removes nothing when it would not be enough.
+bool ChunkStore::Evict(std::int64_t bytes, const KeySet& keep)
+{
+    std::vector<std::pair<std::int64_t, ContentKey>> oldest;
+    std::int64_t removable = 0;
+    for (const auto& [key, entry] : m_entries) {
+        if (keep.count(key) == 0) {
+            oldest.emplace_back(entry.lastUse, key);
+            removable += entry.size;
+        }
+    }
+    if (removable < bytes)
+        return false;
+    std::sort(oldest.begin(), oldest.end(),
+              [](const auto& a, const auto& b) { return a.first < b.first; });
+    const std::int64_t wanted = m_used - bytes;
+    for (auto next = oldest.begin(); m_used > wanted && next != oldest.end(); ++next)
+        Drop(next->second);
+    return true;
+}
+
+void ChunkStore::Add(const ContentKey& key, std::int64_t size)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    Entry& entry = m_entries[key];
+    m_used += size - entry.size;
+    entry = {size, Now()};
+}
+
+std::unique_ptr<ChunkReader> ChunkStore::Read(const ContentKey& key)
+{
+    if (!Has(key))
+        return nullptr;
+    std::unique_ptr<ChunkReader> reader = ChunkReader::Open(PathOf(key), key);
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const auto entry = m_entries.find(key);
+    if (entry == m_entries.end())
+        return reader;
+    if (!reader) {
+        Drop(key);
+        return nullptr;
+    }
+    entry->second.lastUse = Now();
+    return reader;
+}
+
+void ChunkStore::Remove(const ContentKey& key)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    Drop(key);
+}
+
+void ChunkStore::Drop(const ContentKey& key)
+{
+    const auto entry = m_entries.find(key);
+    if (entry == m_entries.end())
+        return;
+    QFile::remove(PathOf(key));
+    m_used -= entry->second.size;
+    m_entries.erase(entry);
+}
+
+void ChunkStore::Clear()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    ForEachFile(m_folder, [](const ContentKey&, bool, const QFileInfo& file) {
+        QFile::remove(file.filePath());
+    });
+    m_claim.reset();
+    m_entries.clear();
+    m_used = 0;
+    m_isListed = false;
+    if (m_isFolderOurs)
+        QDir().rmdir(m_folder);
+}
+
+} // namespace nle

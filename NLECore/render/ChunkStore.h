@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "NLECore/render/ChunkFile.h"
+#include "NLECore/render/ChunkPlan.h"
+
+#include <QLockFile>
+
+#include <memory>
+#include <mutex>
+#include <unordered_map>
+
+namespace nle {
+
+/// How much a cache may take, in bytes.
+struct CacheLimits
+{
+    std::int64_t quota = 0;   ///< the most that all chunks of the folder fill
+    std::int64_t reserve = 0; ///< what stays free on the disk
+};
+
+/// The chunks in one folder, which may hold other files as well. All timelines of the process that
+/// use the folder share one object. Any thread.
+class ChunkStore
+{
+public:
+    enum class Room
+    {
+        Enough,
+        LowDisk,
+        QuotaReached
+    };
+
+    /// The object of the folder at \a path, which need not be there yet.
+    static std::shared_ptr<ChunkStore> Of(const QString& path);
+    ~ChunkStore();
+
+    /// Makes the folder where it is missing and takes stock of it. False when nothing can be
+    /// written there.
+    bool Prepare();
+    /// Takes stock of the folder unless that has been done; forgets all when it is gone.
+    void EnsureListed();
+
+    bool Has(const ContentKey& key) const;
+    /// Frames of \a chunks that are here.
+    std::int64_t CountFrames(const std::vector<Chunk>& chunks) const;
+    /// Removes the chunks used least lately, those of \a keep apart, until \a wanted more bytes go
+    /// into \a limits.
+    Room MakeRoom(const CacheLimits& limits, std::int64_t wanted, const KeySet& keep);
+    /// The chunk was written.
+    void Add(const ContentKey& key, std::int64_t size);
+
+    /// Opens a chunk for reading; null when it is not here. A damaged one is removed.
+    std::unique_ptr<ChunkReader> Read(const ContentKey& key);
+    /// Removes a chunk.
+    void Remove(const ContentKey& key);
+    /// Removes all chunks and what else was made here, the folder included when it was made here
+    /// and is empty.
+    void Clear();
+
+    QString PathOf(const ContentKey& key) const;
+    bool IsFolderThere() const;
+
+private:
+    struct Entry
+    {
+        std::int64_t size = 0;
+        std::int64_t lastUse = 0; ///< milliseconds since 1970
+    };
+
+    explicit ChunkStore(const QString& folder) : m_folder(folder) {}
+    // The functions below need the lock.
+    void List();
+    void Claim();
+    bool Evict(std::int64_t bytes, const KeySet& keep);
+    void Drop(const ContentKey& key);
+
+    const QString m_folder;
+    mutable std::mutex m_mutex;
+    std::unordered_map<ContentKey, Entry, ContentKeyHash> m_entries;
+    std::int64_t m_used = 0;
+    bool m_isListed = false;
+    bool m_isFolderOurs = false;
+    std::unique_ptr<QLockFile> m_claim;
+};
+
+} // namespace nle

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// Not part of the public interface.
+#pragma once
+
+namespace nle {
+
+/// Lets threads of normal priority go before the calling one, and before those that it starts.
+void LowerThreadPriority();
+
+} // namespace nle

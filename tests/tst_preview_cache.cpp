@@ -1,0 +1,566 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// The open engine's preview cache, judged by its reports, its pictures and the files in its folder.
+#include "EngineApi/INLEBackgroundCache.h"
+#include "EngineApi/INLEStreamProcess.h"
+#include "EngineApi/INLETransform.h"
+#include "EngineApi/NLEKey.h"
+#include "tests/support/EngineFixture.h"
+
+#include <QProcess>
+
+#include <csignal>
+#include <functional>
+#include <mutex>
+
+#include <sys/resource.h>
+
+namespace {
+
+constexpr NLESize kCacheSize = {160, 90};
+constexpr NLERational kBest = {1, 1};
+/// From the first to the one after the last.
+using Frames = QVector<QPair<int, int>>;
+
+struct Report
+{
+    int percent;
+    long state;
+    long cached;
+    long total;
+};
+
+/// The cache of one timeline.
+class Cache
+{
+public:
+    Cache(const Node& node, const QString& folder, qint64 quota = 1000, int reserve = 0)
+    {
+        void* found = nullptr;
+        if (node->GetInterface(INLEBackgroundCache::Iid, &found, 0, 0) == S_OK)
+            engine.attach(static_cast<INLEBackgroundCache*>(found));
+        Limit(folder, quota, reserve);
+        engine.query<INLEBackgroundCacheQualitySet>()->SetQuality(kBest);
+    }
+    HRESULT Limit(const QString& folder, qint64 quota, int reserve = 0)
+    {
+        return engine->SetCacheFolder(folder.toStdWString().c_str(), quota, reserve);
+    }
+    HRESULT Start(const NLESize& size = kCacheSize)
+    {
+        m_reports.clear();
+        return engine->Start(&size, Note, this);
+    }
+    /// The state with which a run ends; -1 when it does not.
+    long End(int wanted = -1)
+    {
+        const auto hasEnded = [&] {
+            const long state = Reports().empty() ? 0 : Reports().back().state;
+            return wanted < 0 ? state != 0 : state == wanted;
+        };
+        return QTest::qWaitFor(hasEnded, 60000) ? Reports().back().state : -1;
+    }
+    long Render()
+    {
+        const HRESULT started = Start();
+        return started == S_OK ? End() : started;
+    }
+    std::vector<Report> Reports()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_reports;
+    }
+    /// What is cached and what is needed.
+    QPair<Frames, Frames> Stat()
+    {
+        QPair<Frames, Frames> result;
+        const auto add = [](Frames& frames, int from, int to) {
+            if (from != to && !frames.isEmpty() && frames.back().second == from)
+                frames.back().second = to;
+            else if (from != to)
+                frames.append({from, to});
+        };
+        const auto stat = engine.query<INLEBackgroundCacheStat>();
+        const long count = stat->GetCount();
+        for (int index = 0; index < count; ++index) {
+            NLERange range = {0, 0};
+            long valid = 0;
+            int cachedTo = 0;
+            if (stat->GetStat(index, &range, &valid, &cachedTo) != S_OK || valid < 1 ||
+                cachedTo < range.in || cachedTo > range.out + 1)
+                return {};
+            add(result.first, range.in, cachedTo);
+            add(result.second, cachedTo, range.out + 1);
+        }
+        return result;
+    }
+    Frames Needed()
+    {
+        engine->Update();
+        return Stat().second;
+    }
+
+    NLEComPtr<INLEBackgroundCache> engine;
+
+private:
+    static int Note(int percent, long state, long cached, long total, void* self)
+    {
+        auto* cache = static_cast<Cache*>(self);
+        const std::lock_guard<std::mutex> lock(cache->m_mutex);
+        cache->m_reports.push_back({percent, state, cached, total});
+        return 0;
+    }
+
+    std::mutex m_mutex;
+    std::vector<Report> m_reports;
+};
+
+long CountOf(const Frames& frames)
+{
+    long count = 0;
+    for (const auto& [from, to] : frames)
+        count += to - from;
+    return count;
+}
+
+/// Peak signal to noise ratio over all four channels, at most 99 dB.
+double Psnr(const QImage& a, const QImage& b)
+{
+    if (a.isNull() || a.size() != b.size())
+        return -1;
+    double sum = 0;
+    for (qsizetype i = 0; i < a.sizeInBytes(); ++i) {
+        const double error = double(a.constBits()[i]) - b.constBits()[i];
+        sum += error * error;
+    }
+    return sum == 0 ? 99 : 10 * std::log10(255.0 * 255.0 * double(a.sizeInBytes()) / sum);
+}
+
+void SetRange(const Node& node, int in, int out)
+{
+    const NLERange range = {in, out};
+    node->SetRange(&range);
+}
+
+/// Two clips of a file, a picture above the second, a gap, and a composite of two colours.
+struct Timeline
+{
+    Node project, a, b, above, nested, inner;
+};
+using Edit = std::function<void(Timeline&)>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(Edit)
+
+class tst_PreviewCache : public QObject, private EngineFixture
+{
+    Q_OBJECT
+
+    Timeline Make() const
+    {
+        Timeline t{Project(),
+                   Media(m_media),
+                   Media(m_media),
+                   Colour(Qt::red, QSize(64, 64)),
+                   provider->CreateVirtualTimeline(0),
+                   Colour(Qt::green)};
+        SetRange(t.above, 0, 19);
+        SetRange(t.inner, 0, 29);
+        t.b.query<INLEBlendSetting>()->SetAlpha(200);
+        const Node first = Colour(Qt::blue);
+        SetRange(first, 0, 29);
+        Add(t.nested, first);
+        Add(t.nested, t.inner, 30);
+        Add(t.project, t.a);
+        Add(t.project, t.b, 60);
+        Add(t.project, t.above, 70, 1);
+        Add(t.project, t.nested, 140);
+        return t;
+    }
+    /// Clips that all look different, so that each has to be rendered.
+    Node LongProject(int clips = 60) const
+    {
+        const Node project = Project();
+        for (int i = 0; i < clips; ++i) {
+            const Node clip = Media(m_media);
+            clip.query<INLEBlendSetting>()->SetAlpha(255 - i);
+            Add(project, clip, 60 * i);
+        }
+        return project;
+    }
+    QImage Shown(const Node& node, int frame, int flags) const
+    {
+        return Frame(node, frame, flags, QSize(kCacheSize.width, kCacheSize.height));
+    }
+    /// The worst likeness of cached pictures to rendered ones in some of \a frames.
+    double Likeness(const Node& node, const Frames& frames) const
+    {
+        double worst = 99;
+        for (const auto& [from, to] : frames) {
+            for (int frame = from; frame < to; frame += 17)
+                worst = std::min(worst, Psnr(Shown(node, frame, NLEOpen_Cached),
+                                             Shown(node, frame, NLEOpen_Render)));
+        }
+        return worst;
+    }
+    static QStringList Files(const QString& folder, const char* filter)
+    {
+        return QDir(folder).entryList({QString::fromLatin1(filter)}, QDir::Files | QDir::Hidden);
+    }
+
+    const QString m_media = Path("clip.mp4");
+    QString m_folder;
+
+private slots:
+    void initTestCase()
+    {
+        TestClip clip;
+        clip.frames = 60;
+        QCOMPARE(MakeTestClip(m_media, clip), QString());
+    }
+    void init() { m_folder = Path(QTest::currentTestFunction()) + QTest::currentDataTag(); }
+
+    void refusals()
+    {
+        const Timeline t = Make();
+        Cache cache(t.project, m_folder);
+        NLESize empty = {0, 90};
+        QVERIFY(cache.engine.query<INLEBackgroundCacheStat>());
+        QCOMPARE(cache.engine->Stop(), S_FALSE);
+        QCOMPARE(cache.engine->Start(&empty, nullptr, nullptr), E_INVALIDARG);
+        QCOMPARE(cache.Limit(QString(), 1), E_INVALIDARG);
+        QCOMPARE(cache.engine.query<INLEBackgroundCacheQualitySet>()->SetQuality({2, 1}),
+                 E_INVALIDARG);
+        QCOMPARE(cache.Limit(m_media + "/below", 1), S_OK);
+        QCOMPARE(cache.Start(), E_ACCESSDENIED);
+        const Node silent = Project();
+        QCOMPARE(Cache(silent, m_folder).Start(), E_FAIL);
+        NLEComPtr<INLEBackgroundCache> none;
+        void* out = nullptr;
+        QCOMPARE(t.a->GetInterface(INLEBackgroundCache::Iid, &out, 0, 0), E_NOINTERFACE);
+    }
+
+    void rendersWhatShows()
+    {
+        const Timeline t = Make();
+        Cache cache(t.project, m_folder);
+        const Frames shown = {{0, 120}, {140, 200}};
+        QCOMPARE(cache.Needed(), shown);
+        QCOMPARE(cache.Render(), 5L);
+        QCOMPARE(cache.Stat(), qMakePair(shown, Frames()));
+        const std::vector<Report> reports = cache.Reports();
+        QCOMPARE(reports.front().state, 0L);
+        QCOMPARE(reports.front().cached, 0L);
+        QCOMPARE(reports.back().percent, 100);
+        QCOMPARE(reports.back().cached, 180L);
+        for (size_t i = 1; i < reports.size(); ++i) {
+            QVERIFY(reports[i].cached >= reports[i - 1].cached);
+            QCOMPARE(reports[i].total, 180L);
+        }
+        QVERIFY(Likeness(t.project, shown) >= 40);
+        // Nobody is left waiting for a render that ended by itself.
+        QCOMPARE(cache.engine->Stop(), S_OK);
+        QCOMPARE(cache.End(3), 3L);
+        QCOMPARE(cache.Start(), E_FAIL);
+
+        // At the lowest quality a picture from the cache can be told from a rendered one.
+        cache.engine.query<INLEBackgroundCacheQualitySet>()->SetQuality({0, 1});
+        QCOMPARE(cache.Needed(), shown);
+        QCOMPARE(cache.Render(), 5L);
+        QVERIFY(Likeness(t.project, shown) < 40);
+
+        // Without a background the alpha is kept, and nothing is lost.
+        Cache inner(t.nested, m_folder);
+        t.nested->GetInterface(INLEBackgroundCache::Iid, nullptr, 0, 0);
+        QCOMPARE(inner.Render(), 5L);
+        QCOMPARE(Likeness(t.nested, {{0, 60}}), 99.0);
+    }
+
+    void editsTouchWhatTheyShowIn_data()
+    {
+        QTest::addColumn<Edit>("edit");
+        QTest::addColumn<Frames>("needed");
+        const auto row = [](const char* name, const Edit& edit, const Frames& needed) {
+            QTest::newRow(name) << edit << needed;
+        };
+        row("nothing", [](Timeline&) {}, {});
+        row("sound", [](Timeline& t) { t.b.query<INLEAudioStreamProcess>()->SetVolume(2); }, {});
+        row("off", [](Timeline& t) { t.above->SetEnabled(false); }, {{60, 110}});
+        row("turn", [](Timeline& t) { t.b.query<INLETransform>()->SetRotation(30); }, {{60, 120}});
+        row("blend", [](Timeline& t) { t.above.query<INLEBlendSetting>()->SetAlpha(99); },
+            {{60, 110}});
+        row("order", [](Timeline& t) { t.above->SetLevel(-1); }, {{60, 110}});
+        row("move", [](Timeline& t) { t.above->SetPosition(75); }, {{60, 110}});
+        row("move on", [](Timeline& t) { t.above->SetPosition(95); }, {{60, 120}});
+        row("shorter", [](Timeline& t) { SetRange(t.b, 0, 54); }, {{110, 115}});
+        row("other material", [](Timeline& t) { SetRange(t.above, 5, 24); }, {{60, 110}});
+        const auto trimHead = [](Timeline& t) {
+            SetRange(t.a, 10, 59);
+            t.a->SetPosition(10);
+        };
+        row("head", trimHead, {{10, 50}});
+        const auto insert = [this](Timeline& t) {
+            for (const Node& clip : {t.a, t.b, t.above, t.nested}) {
+                int position = 0;
+                clip->GetPosition(&position);
+                clip->SetPosition(position + 7);
+            }
+            const Node first = Colour(Qt::yellow);
+            SetRange(first, 0, 6);
+            Add(t.project, first);
+        };
+        row("inserted before all", insert, {{0, 7}});
+        row("nested", [](Timeline& t) { t.inner.query<INLEBlendSetting>()->SetMode(1); },
+            {{140, 200}});
+        const auto color = [](Timeline& t) {
+            NLEComPtr<INLEProperties> bag;
+            t.project->GetProperties(bag.put());
+            bag->SetInt(NLEKey::Render::kRender_BackgroundColor, int(0xFF123456u));
+        };
+        row("background", color, {{0, 120}, {140, 200}});
+        const auto touch = [this](Timeline&) {
+            QFile file(m_media);
+            file.open(QIODevice::ReadWrite);
+            file.setFileTime(QDateTime::currentDateTime().addDays(-1), QFile::FileModificationTime);
+        };
+        row("media file", touch, {{0, 120}});
+    }
+    void editsTouchWhatTheyShowIn()
+    {
+        QFETCH(const Edit, edit);
+        QFETCH(const Frames, needed);
+        Timeline t = Make();
+        Cache cache(t.project, m_folder);
+        QCOMPARE(cache.Render(), 5L);
+        edit(t);
+        QCOMPARE(cache.Needed(), needed);
+        QCOMPARE(cache.Render(), needed.isEmpty() ? long(E_FAIL) : 5L);
+        QVERIFY(!needed.isEmpty() || cache.Reports().empty());
+        QVERIFY(needed.isEmpty() ||
+                cache.Reports().back().cached - cache.Reports().front().cached == CountOf(needed));
+        QVERIFY(Likeness(t.project, cache.Stat().first) >= 40);
+        // What was before the edit, even as another object, is found again.
+        const Timeline undone = Make();
+        if (qstrcmp(QTest::currentDataTag(), "media file") != 0)
+            QCOMPARE(Cache(undone.project, m_folder).Start(), E_FAIL);
+    }
+
+    void endings_data()
+    {
+        QTest::addColumn<int>("quota");
+        QTest::addColumn<int>("reserve");
+        QTest::addColumn<int>("largestFile");
+        QTest::addColumn<bool>("isFolderRemoved");
+        QTest::addColumn<long>("state");
+        QTest::newRow("low disk") << 1000 << INT_MAX << 0 << false << 1L;
+        QTest::newRow("no quota") << 0 << 0 << 0 << false << 2L;
+        QTest::newRow("quota") << 1 << 0 << 0 << false << 2L;
+        QTest::newRow("stopped") << 1000 << 0 << 0 << false << 3L;
+        QTest::newRow("full within a chunk") << 1000 << 0 << 20000 << false << 1L;
+        QTest::newRow("folder removed") << 1000 << 0 << 0 << true << 4L;
+    }
+    void endings()
+    {
+        QFETCH(const int, quota);
+        QFETCH(const int, reserve);
+        QFETCH(const int, largestFile);
+        QFETCH(const bool, isFolderRemoved);
+        QFETCH(const long, state);
+        const Node project = LongProject();
+        Cache cache(project, m_folder, quota, reserve);
+        rlimit old = {};
+        getrlimit(RLIMIT_FSIZE, &old);
+        const rlimit tight = {rlim_t(largestFile), old.rlim_max};
+        if (largestFile > 0)
+            setrlimit(RLIMIT_FSIZE, &tight);
+        QCOMPARE(cache.Start(), S_OK);
+        if (state == 3)
+            QCOMPARE(cache.engine->Stop(), S_OK);
+        if (isFolderRemoved) {
+            QTRY_VERIFY(!Files(m_folder, "*.nlechunk").isEmpty());
+            QDir(m_folder).removeRecursively();
+        }
+        const long ended = cache.End();
+        setrlimit(RLIMIT_FSIZE, &old);
+        QCOMPARE(ended, state);
+        QVERIFY(cache.Reports().back().percent < 100);
+
+        // What is there is whole and counts; the rest can be rendered later.
+        cache.Limit(m_folder, 1000);
+        const Frames needed = cache.Needed();
+        const QPair<Frames, Frames> stat = cache.Stat();
+        QCOMPARE(CountOf(stat.first) + CountOf(needed), 3600L);
+        qint64 size = 0;
+        for (const QString& name : Files(m_folder, "*chunk*"))
+            size += name.endsWith(".lock") ? 0 : QFileInfo(m_folder + '/' + name).size();
+        QVERIFY(quota > 1 || size <= quota << 20);
+        QVERIFY(Likeness(project, stat.first.mid(0, 2)) >= 40);
+        QCOMPARE(cache.Render(), 5L);
+        QCOMPARE(Files(m_folder, "*chunk*").size(), 60 * 2 + 1);
+        QVERIFY(Likeness(project, {{0, 300}}) >= 40);
+    }
+
+    void leastRecentlyUsedGoFirst()
+    {
+        // Each needs more than half of what both may fill.
+        const Node first = LongProject(8);
+        const Node second = LongProject(16);
+        qint64 size = 0;
+        Cache(second, m_folder).Render();
+        for (const QFileInfo& file : QDir(m_folder).entryInfoList({"*.nlechunk"}))
+            size += file.size();
+        QVERIFY(size > 1 << 20);
+        Cache cache(second, m_folder, (size >> 20) + 1);
+        cache.engine->DeleteCache(true);
+        Cache smaller(first, m_folder);
+        smaller.engine.query<INLEBackgroundCacheQualitySet>()->SetQuality({9, 10});
+        QCOMPARE(smaller.Render(), 5L);
+        QCOMPARE(cache.Render(), 5L);
+        QCOMPARE(cache.Needed(), Frames());
+        QVERIFY(CountOf(smaller.Needed()) > 0);
+    }
+
+    void deletesItsOwnFilesOnly()
+    {
+        QDir().mkpath(m_folder);
+        for (const char* name : {"notes.txt", "short.nlechunk", "x.nlechunk.abcdef"})
+            QVERIFY(QFile::copy(m_media, m_folder + '/' + name));
+        const Timeline t = Make();
+        const Node other = LongProject(1);
+        Cache cache(t.project, m_folder);
+        Cache otherCache(other, m_folder);
+        QCOMPARE(cache.Render(), 5L);
+        otherCache.engine.query<INLEBackgroundCacheQualitySet>()->SetQuality({1, 2});
+        QCOMPARE(otherCache.Render(), 5L);
+        QCOMPARE(cache.engine->DeleteCache(false), S_OK);
+        QCOMPARE(cache.Needed(), (Frames{{0, 120}, {140, 200}}));
+        QCOMPARE(otherCache.Needed(), Frames());
+        QCOMPARE(otherCache.engine->DeleteCache(true), S_OK);
+        QCOMPARE(otherCache.Needed(), (Frames{{0, 60}}));
+        QCOMPARE(Files(m_folder, "*").filter(QRegularExpression("[^k]$")).size(), 2);
+        QCOMPARE(Files(m_folder, "*.nlechunk"), QStringList("short.nlechunk"));
+        // A folder that was made for the cache goes with it.
+        cache.Limit(m_folder + "/made", 1000);
+        QCOMPARE(cache.Render(), 5L);
+        cache.engine->DeleteCache(true);
+        QVERIFY(!QFileInfo::exists(m_folder + "/made"));
+    }
+
+    void damageIsNeverShown_data()
+    {
+        QTest::addColumn<int>("place"); // of the byte, in percent of the file; 100 cuts the file
+        QTest::newRow("head") << 0;
+        QTest::newRow("pictures") << 60;
+        QTest::newRow("cut") << 100;
+    }
+    void damageIsNeverShown()
+    {
+        QFETCH(const int, place);
+        const Node project = LongProject(1);
+        Cache cache(project, m_folder);
+        QCOMPARE(cache.Render(), 5L);
+        for (const QFileInfo& info : QDir(m_folder).entryInfoList({"*.nlechunk"})) {
+            QFile file(info.filePath());
+            QVERIFY(file.open(QIODevice::ReadWrite));
+            const qint64 offset = file.size() * place / 100;
+            if (place == 100) {
+                file.resize(file.size() - 1);
+                continue;
+            }
+            file.seek(offset);
+            const QByteArray byte = file.read(1);
+            file.seek(offset);
+            file.write(QByteArray(1, char(byte[0] ^ 0x55)));
+        }
+        double worst = 99;
+        for (int frame = 0; frame < 60; ++frame)
+            worst = std::min(worst, Psnr(Shown(project, frame, NLEOpen_Cached),
+                                         Shown(project, frame, NLEOpen_Render)));
+        QVERIFY(worst >= 40);
+        QCOMPARE(cache.Needed(), (Frames{{0, 60}}));
+    }
+
+    void killedProcess()
+    {
+        const QString project = Path("killed.mlt");
+        QVERIFY(Save(LongProject(), project));
+        QProcess process;
+        process.start(QCoreApplication::applicationFilePath(), {"--render", project, m_folder});
+        QVERIFY(process.waitForStarted());
+        QTRY_VERIFY_WITH_TIMEOUT(Files(m_folder, "*.nlechunk").size() > 4, 60000);
+        process.kill();
+        QVERIFY(process.waitForFinished());
+        const QStringList whole = Files(m_folder, "*.nlechunk");
+        QVERIFY(QFile::copy(m_folder + '/' + whole[0], m_folder + '/' + whole[0] + ".Ab12cd"));
+
+        const Node loaded = Load(project);
+        Cache cache(loaded, m_folder);
+        const long needed = CountOf(cache.Needed());
+        QVERIFY(needed > 0 && needed < 3600);
+        QCOMPARE(Files(m_folder, "*.nlechunk*"), whole);
+        QVERIFY(Likeness(loaded, cache.Stat().first) >= 40);
+        QCOMPARE(cache.Render(), 5L);
+        QCOMPARE(cache.Reports().front().total - cache.Reports().front().cached, needed);
+        QCOMPARE(Files(m_folder, "*.nlechunk*").size(), 120);
+    }
+
+    void releasedWhileRendering()
+    {
+        Node project = LongProject();
+        {
+            Cache cache(project, m_folder);
+            QCOMPARE(cache.Start(), S_OK);
+            QCOMPARE(cache.Start(), S_FALSE);
+            QTRY_VERIFY(!Files(m_folder, "*.nlechunk").isEmpty());
+            project.reset();
+            QCOMPARE(cache.Start(), E_FAIL);
+            QCOMPARE(cache.engine->Update(), E_FAIL);
+        }
+        QCOMPARE(Files(m_folder, "*.lock"), QStringList());
+    }
+
+    void analysesInTheBackground()
+    {
+        const Timeline t = Make();
+        Cache cache(t.project, m_folder);
+        const auto update = cache.engine.query<INLEBackgroundCacheAsyncUpdate>();
+        std::atomic<int> calls{0};
+        const auto note = [](void*, long, long, long, long count, void* counter) {
+            *static_cast<std::atomic<int>*>(counter) += int(count);
+            return 0;
+        };
+        QCOMPARE(update->SetUpdateCallback(note, &calls), S_OK);
+        QTRY_COMPARE(calls.load(), 180);
+        QCOMPARE(cache.Stat().second, (Frames{{0, 120}, {140, 200}}));
+        QCOMPARE(update->SetUpdateCallback(nullptr, nullptr), S_OK);
+        // Another thread does not read what is being edited: it sees the last analysis.
+        t.b->SetEnabled(false);
+        std::thread([&] { cache.engine->Update(); }).join();
+        QCOMPARE(CountOf(cache.Stat().second), 180L);
+        QCOMPARE(CountOf(cache.Needed()), 140L);
+    }
+
+    /// What the process does that killedProcess kills.
+    static int RenderUntilKilled(const QString& document, const QString& folder)
+    {
+        const tst_PreviewCache engine;
+        const Node project = engine.Load(document);
+        Cache cache(project, folder);
+        cache.Start();
+        return int(cache.End());
+    }
+    friend int main(int argc, char** argv);
+};
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    std::signal(SIGXFSZ, SIG_IGN);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == "--render")
+        return tst_PreviewCache::RenderUntilKilled(arguments.value(2), arguments.value(3));
+    tst_PreviewCache test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_preview_cache.moc"
