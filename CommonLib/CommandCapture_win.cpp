@@ -13,7 +13,8 @@ CommandCapture::CommandCapture(const QString& commandLine)
     if (!::CreatePipe(&readEnd, &writeEnd, &inheritable, 0))
         return;
 
-    STARTUPINFOW startup = {sizeof(startup)};
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof(startup);
     ::GetStartupInfoW(&startup);
     startup.hStdOutput = writeEnd;
     startup.hStdError = writeEnd;

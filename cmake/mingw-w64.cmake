@@ -1,0 +1,19 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
+# Tool chain file: cross-compiles for 64-bit Windows with mingw-w64. COMMONLIB_WINDOWS_QT (variable or
+# environment) is the folder of Qt 5.15 and QuaZip built for it, its moc, rcc and uic for this system.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
+set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
+
+if(NOT COMMONLIB_WINDOWS_QT)
+  set(COMMONLIB_WINDOWS_QT "$ENV{COMMONLIB_WINDOWS_QT}")
+endif()
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES COMMONLIB_WINDOWS_QT)
+
+set(CMAKE_PREFIX_PATH ${COMMONLIB_WINDOWS_QT})
+set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32 ${COMMONLIB_WINDOWS_QT})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
