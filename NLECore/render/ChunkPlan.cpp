@@ -37,6 +37,7 @@ ChunkPlan::ChunkPlan(Snapshot root, const CacheFormat& format)
     hash.Add(m_format.size.width()).Add(m_format.size.height());
     hash.Add(m_root->argb).Add(m_root->size.width).Add(m_root->size.height);
     hash.Add(m_root->frameRate.num).Add(m_root->frameRate.den);
+    hash.Add(m_root->context.previewScale).Add(m_root->context.smooth);
     m_rootKey = hash.Result();
     LayerKeys layers;
     for (const Run& run : FindRuns(m_spans[m_root.get()]))
@@ -157,7 +158,7 @@ void ChunkPlan::AddChildren(ContentHash& hash, const Layer& composite, std::int6
         hash.Add(layers.Of(layer)).Add(begin - first).Add(end - first);
         if (layer.kind == LayerKind::Composite)
             AddChildren(hash, layer, begin + toContent, end + toContent, layers);
-        else
+        if (layer.kind != LayerKind::Composite || layer.keyFrames)
             hash.Add(begin + toContent);
     }
 }
