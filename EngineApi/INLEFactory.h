@@ -85,13 +85,16 @@ struct INLESystemConfig : IUnknown
     virtual HRESULT GetProperties(INLEProperties** properties) = 0;
 };
 
-/// Settings of an editing context, shared by every render of the project.
+/// Settings of an editing context, shared by every render of the project. The open engine's
+/// projects answer it.
 struct INLEBasin : IUnknown
 {
     static constexpr _GUID Iid = {
         0xAA0AB461, 0x467C, 0x440D, {0xB5, 0x8C, 0xF6, 0x96, 0x4A, 0x13, 0xE4, 0x9C}};
 
+    /// Writes all settings into a bag.
     virtual HRESULT FillProperties(INLEProperties* properties) = 0;
+    /// Takes the settings of a bag, all or none; the bag stays the caller's.
     virtual HRESULT TakeProperties(INLEProperties* properties) = 0;
 };
 
