@@ -22,7 +22,7 @@ class COMMONLIB_EXPORT ImageTextButton2 : public QWidget
     Q_PROPERTY(QColor selectedTextColor READ GetSelectedTextColor WRITE SetSelectedTextColor)
 
 public:
-    enum BUTTONSTATE
+    enum BUTTONSTATE : int
     {
         Normal = 0,
         Selected = 1

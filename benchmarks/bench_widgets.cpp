@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// What sliders and buttons cost: from a press of the mouse to the painted picture in a window of
+// 1920 x 1080, beside the toolkit's own slider or button with a rule of the same kind; many values
+// in one turn of the event loop; and the making of buttons. Figures are medians.
+#include "CommonLib/BaseStateButton.h"
+#include "CommonLib/ImageTextButton.h"
+#include "CommonLib/ImageTextButton2.h"
+#include "CommonLib/PureSlider.h"
+#include "CommonLib/ScaleUnitSlider.h"
+#include "CommonLib/ToolBarSlider.h"
+#include "CommonLib/externalapi/PixelRatio.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QSlider>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr QSize kWindow(1920, 1080);
+constexpr QRect kPlace(100, 100, 400, 32);
+constexpr int kRounds = 101;
+constexpr int kButtons = 1000;
+constexpr int kValues = 10000;
+
+using Clock = std::chrono::steady_clock;
+
+double Milliseconds(const std::function<void()>& work)
+{
+    const Clock::time_point start = Clock::now();
+    work();
+    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+}
+
+double Median(std::vector<double> times)
+{
+    std::nth_element(times.begin(), times.begin() + times.size() / 2, times.end());
+    return times[times.size() / 2];
+}
+
+// To the child that is at that place, as the toolkit would.
+void Send(QWidget* parent, QEvent::Type type, QPoint place)
+{
+    QWidget* child = parent->childAt(place);
+    QWidget* widget = child ? child : parent;
+    const QPoint at = widget->mapFrom(parent, place);
+    const Qt::MouseButtons down =
+        type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, at, widget->mapToGlobal(at), Qt::LeftButton, down, {});
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+// Counts the paintings that reach a widget or one of its children.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget* widget)
+    {
+        widget->installEventFilter(this);
+        for (QWidget* child : widget->findChildren<QWidget*>())
+            child->installEventFilter(this);
+    }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        paints += event->type() == QEvent::Paint;
+        return false;
+    }
+    int paints = 0;
+};
+
+// A press at changing places, until all that it makes dirty is painted.
+class RoundTrip
+{
+public:
+    explicit RoundTrip(QWidget* widget) : m_widget(widget), m_counter(widget) {}
+
+    void Measure(int round)
+    {
+        const QPoint at(20 + round * 37 % (kPlace.width() - 60), kPlace.height() / 2);
+        m_times.push_back(Milliseconds([&] {
+            Send(m_widget, QEvent::MouseButtonPress, at);
+            QCoreApplication::processEvents();
+        }));
+        Send(m_widget, QEvent::MouseButtonRelease, at);
+        QCoreApplication::processEvents();
+    }
+    double Result() const { return Median(m_times); }
+    double Slowest() const { return *std::max_element(m_times.begin(), m_times.end()); }
+    int Paints() const { return m_counter.paints; }
+
+private:
+    QWidget* m_widget;
+    PaintCounter m_counter;
+    std::vector<double> m_times;
+};
+
+void PressToPaint(const char* name, const std::function<QWidget*(QWidget*)>& makeOurs,
+                  const std::function<QWidget*(QWidget*)>& makePeer)
+{
+    QWidget window;
+    window.resize(kWindow);
+    QWidget* ours = makeOurs(&window);
+    QWidget* peer = makePeer(&window);
+    ours->setGeometry(kPlace);
+    peer->setGeometry(kPlace.translated(0, 200));
+    window.show();
+    QCoreApplication::processEvents();
+    RoundTrip ourTrip(ours);
+    RoundTrip peerTrip(peer);
+    for (int i = 0; i < kRounds; ++i) {
+        ourTrip.Measure(i);
+        peerTrip.Measure(i);
+    }
+    std::printf("%-18s press to paint %.3f ms (slowest %.3f ms, %d paint events)  peer %.3f ms  "
+                "ratio %.2f\n",
+                name, ourTrip.Result(), ourTrip.Slowest(), ourTrip.Paints(), peerTrip.Result(),
+                ourTrip.Result() / peerTrip.Result());
+}
+
+void ManyValues()
+{
+    QWidget window;
+    window.resize(kWindow);
+    auto* slider = new ToolBarSlider(&window, Qt::Horizontal);
+    auto* peer = new QSlider(Qt::Horizontal, &window);
+    peer->setRange(0, kValues);
+    slider->setRange(0, kValues);
+    slider->setGeometry(kPlace);
+    peer->setGeometry(kPlace.translated(0, 200));
+    window.show();
+    QCoreApplication::processEvents();
+    PaintCounter counter(slider);
+    std::vector<double> ours, theirs;
+    int turns = 0;
+    for (int round = 0; round < kRounds; ++round, ++turns) {
+        ours.push_back(Milliseconds([&] {
+            for (int i = 0; i < kValues; ++i)
+                slider->setValue((i + round * 97) % kValues, false);
+            QCoreApplication::processEvents();
+        }));
+        theirs.push_back(Milliseconds([&] {
+            for (int i = 0; i < kValues; ++i)
+                peer->setValue((i + round * 97) % kValues);
+            QCoreApplication::processEvents();
+        }));
+    }
+    std::printf("%d values in a turn  ToolBarSlider %.3f ms, %.1f paint events a turn  QSlider "
+                "%.3f ms  ratio %.2f\n",
+                kValues, Median(ours), double(counter.paints) / turns, Median(theirs),
+                Median(ours) / Median(theirs));
+}
+
+void ManyButtons()
+{
+    std::vector<double> ours, theirs;
+    for (int round = 0; round < 11; ++round) {
+        auto window = std::make_unique<QWidget>();
+        ours.push_back(Milliseconds([&] {
+            for (int i = 0; i < kButtons; ++i)
+                new BaseButton(i, QStringLiteral("button"), window.get());
+        }));
+        window = std::make_unique<QWidget>();
+        theirs.push_back(Milliseconds([&] {
+            for (int i = 0; i < kButtons; ++i) {
+                auto* button = new QPushButton(window.get());
+                button->setObjectName(QStringLiteral("button"));
+                button->setStyleSheet(QStringLiteral("QPushButton{border:0px;}"));
+            }
+        }));
+    }
+    std::printf("%d buttons made  BaseButton %.2f ms  QPushButton with the same sheet %.2f ms  "
+                "ratio %.2f\n",
+                kButtons, Median(ours), Median(theirs), Median(ours) / Median(theirs));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    app.setStyleSheet(gGetCommonLibStyles() +
+                      "QSlider::groove { background: gray; height: 3px; }"
+                      "QSlider::handle { background: white; width: 14px; margin: -6px 0; }");
+    const auto slider = [](QWidget* parent) { return new QSlider(Qt::Horizontal, parent); };
+    const auto button = [](QWidget* parent) { return new QPushButton("Text", parent); };
+    PressToPaint(
+        "ToolBarSlider", [](QWidget* p) { return new ToolBarSlider(p, Qt::Horizontal); }, slider);
+    PressToPaint(
+        "ScaleUnitSlider", [](QWidget* p) { return new ScaleUnitSlider(p); }, slider);
+    PressToPaint(
+        "PureSlider", [](QWidget* p) { return new PureSlider(p); }, slider);
+    PressToPaint(
+        "BaseButton", [](QWidget* p) { return new BaseButton(1, "b", p); }, button);
+    PressToPaint(
+        "BaseStateButton",
+        [](QWidget* p) {
+            auto* states = new BaseStateButton(1, "states", p);
+            states->AddButton(2, "a");
+            states->AddButton(3, "b");
+            return states;
+        },
+        button);
+    PressToPaint(
+        "ImageTextButton", [](QWidget* p) { return new ImageTextButton(1, "i", p); }, button);
+    PressToPaint(
+        "ImageTextButton2", [](QWidget* p) { return new ImageTextButton2(1, "t", p); }, button);
+    ManyValues();
+    ManyButtons();
+    return 0;
+}
