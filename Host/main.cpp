@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/BaseLog.h"
-#include "CommonLib/MultiLangMgr.h"
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/INLEProperties.h"
 #include "Host/Console.h"
+#include "Host/HostLanguage.h"
 #include "Host/MediaJob.h"
 #include "Host/OutputFolder.h"
 #include "Host/ToolkitMessages.h"
@@ -106,26 +106,6 @@ int run(const Options& options, Console& console)
     return code;
 }
 
-/// The language that was chosen last, or the one that the command line names; it must be there
-/// before any option is described.
-class Language
-{
-public:
-    Language()
-    {
-        MultiLangMgr::GetInstance()->SetLangLocale();
-        QCommandLineParser parser;
-        parser.addOption({optionName(), {}, optionName()});
-        parser.parse(QCoreApplication::arguments());
-        MultiLangMgr::GetInstance()->SetLangLocale(parser.value(optionName()));
-    }
-    ~Language() { MultiLangMgr::Release(); }
-    Language(const Language&) = delete;
-    Language& operator=(const Language&) = delete;
-
-    static QString optionName() { return QStringLiteral("language"); }
-};
-
 } // namespace
 
 int main(int argc, char* argv[])
@@ -136,7 +116,7 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("CommonLibDemo"));
 
-    const Language language;
+    const HostLanguage language;
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
@@ -150,10 +130,7 @@ int main(int argc, char* argv[])
         Program::tr("Log file, by default %1 among the results.").arg(QString::fromLatin1(logName)),
         Program::tr("FILE"));
     const QCommandLineOption echo(QStringLiteral("echo"), Program::tr("Print the log as well."));
-    const QCommandLineOption languageOption(
-        Language::optionName(), Program::tr("Language of the texts from now on, such as German."),
-        Program::tr("NAME"));
-    parser.addOptions({help, output, log, echo, languageOption});
+    parser.addOptions({help, output, log, echo, HostLanguage::Option()});
     parser.addPositionalArgument(QStringLiteral("MEDIA"), Program::tr("Media files."),
                                  Program::tr("MEDIA…"));
 

@@ -30,7 +30,7 @@ const char* const s_sample[] = {QT_TRANSLATE_NOOP("LanguagePage", "Import mediaâ
                                 QT_TRANSLATE_NOOP("LanguagePage", "Undo"),
                                 QT_TRANSLATE_NOOP("LanguagePage", "Save the project"),
                                 QT_TRANSLATE_NOOP("LanguagePage", "Exportâ€¦")};
-constexpr int kSampleColumns = 3;
+constexpr int kSampleColumns = 2;
 
 /// Each language in its own words, and in English for whoever ended up in the wrong one.
 QString LanguageName(const LangConstInfo& info)
@@ -53,6 +53,9 @@ LanguagePage::LanguagePage(QWidget* parent)
 {
     Q_UNUSED(s_direction)
     ListLanguages();
+    // So that names in Latin script stay beside their labels where text runs from right to left.
+    for (QLabel* name : {m_font, m_drawnIn})
+        name->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     m_count->setRange(0, 1000000);
     m_count->setValue(3);
     auto* form = new QFormLayout;

@@ -71,14 +71,6 @@
         <translation>عرض السجل أيضًا.</translation>
     </message>
     <message>
-        <source>Language of the texts from now on, such as German.</source>
-        <translation>لغة النصوص من الآن فصاعدًا، مثل German.</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>اسم</translation>
-    </message>
-    <message>
         <source>Media files.</source>
         <translation>ملفات الوسائط.</translation>
     </message>
@@ -96,6 +88,17 @@
     <message>
         <source>no picture</source>
         <translation>لا توجد صورة</translation>
+    </message>
+</context>
+<context>
+    <name>HostLanguage</name>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>لغة النصوص من الآن فصاعدًا، مثل German.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>اسم</translation>
     </message>
 </context>
 <context>

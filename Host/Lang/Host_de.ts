@@ -71,14 +71,6 @@
         <translation>Auch das Protokoll ausgeben.</translation>
     </message>
     <message>
-        <source>Language of the texts from now on, such as German.</source>
-        <translation>Sprache der Texte von nun an, etwa German.</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>NAME</translation>
-    </message>
-    <message>
         <source>Media files.</source>
         <translation>Mediendateien.</translation>
     </message>
@@ -96,6 +88,17 @@
     <message>
         <source>no picture</source>
         <translation>kein Bild</translation>
+    </message>
+</context>
+<context>
+    <name>HostLanguage</name>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>Sprache der Texte von nun an, etwa German.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAME</translation>
     </message>
 </context>
 <context>

@@ -71,14 +71,6 @@
         <translation>Print the log as well.</translation>
     </message>
     <message>
-        <source>Language of the texts from now on, such as German.</source>
-        <translation>Language of the texts from now on, such as German.</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>NAME</translation>
-    </message>
-    <message>
         <source>Media files.</source>
         <translation>Media files.</translation>
     </message>
@@ -96,6 +88,17 @@
     <message>
         <source>no picture</source>
         <translation>no picture</translation>
+    </message>
+</context>
+<context>
+    <name>HostLanguage</name>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>Language of the texts from now on, such as German.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAME</translation>
     </message>
 </context>
 <context>

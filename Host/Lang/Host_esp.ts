@@ -71,14 +71,6 @@
         <translation>Muestra también el registro.</translation>
     </message>
     <message>
-        <source>Language of the texts from now on, such as German.</source>
-        <translation>Idioma de los textos a partir de ahora, por ejemplo German.</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>NOMBRE</translation>
-    </message>
-    <message>
         <source>Media files.</source>
         <translation>Archivos multimedia.</translation>
     </message>
@@ -96,6 +88,17 @@
     <message>
         <source>no picture</source>
         <translation>sin imagen</translation>
+    </message>
+</context>
+<context>
+    <name>HostLanguage</name>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>Idioma de los textos a partir de ahora, por ejemplo German.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOMBRE</translation>
     </message>
 </context>
 <context>

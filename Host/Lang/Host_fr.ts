@@ -71,14 +71,6 @@
         <translation>Affiche aussi le journal.</translation>
     </message>
     <message>
-        <source>Language of the texts from now on, such as German.</source>
-        <translation>Langue des textes désormais, par exemple German.</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>NOM</translation>
-    </message>
-    <message>
         <source>Media files.</source>
         <translation>Fichiers multimédias.</translation>
     </message>
@@ -96,6 +88,17 @@
     <message>
         <source>no picture</source>
         <translation>pas d’image</translation>
+    </message>
+</context>
+<context>
+    <name>HostLanguage</name>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>Langue des textes désormais, par exemple German.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOM</translation>
     </message>
 </context>
 <context>

@@ -71,14 +71,6 @@
         <translation>Menampilkan log juga.</translation>
     </message>
     <message>
-        <source>Language of the texts from now on, such as German.</source>
-        <translation>Bahasa teks mulai sekarang, misalnya German.</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>NAMA</translation>
-    </message>
-    <message>
         <source>Media files.</source>
         <translation>Berkas media.</translation>
     </message>
@@ -96,6 +88,17 @@
     <message>
         <source>no picture</source>
         <translation>tidak ada gambar</translation>
+    </message>
+</context>
+<context>
+    <name>HostLanguage</name>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>Bahasa teks mulai sekarang, misalnya German.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAMA</translation>
     </message>
 </context>
 <context>

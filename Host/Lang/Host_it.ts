@@ -71,14 +71,6 @@
         <translation>Mostra anche il registro.</translation>
     </message>
     <message>
-        <source>Language of the texts from now on, such as German.</source>
-        <translation>Lingua dei testi d’ora in poi, per esempio German.</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>NOME</translation>
-    </message>
-    <message>
         <source>Media files.</source>
         <translation>File multimediali.</translation>
     </message>
@@ -96,6 +88,17 @@
     <message>
         <source>no picture</source>
         <translation>nessuna immagine</translation>
+    </message>
+</context>
+<context>
+    <name>HostLanguage</name>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>Lingua dei testi d’ora in poi, per esempio German.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOME</translation>
     </message>
 </context>
 <context>

@@ -71,14 +71,6 @@
         <translation>ログも表示します。</translation>
     </message>
     <message>
-        <source>Language of the texts from now on, such as German.</source>
-        <translation>今後のテキストの言語（例: German）。</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>名前</translation>
-    </message>
-    <message>
         <source>Media files.</source>
         <translation>メディアファイル。</translation>
     </message>
@@ -96,6 +88,17 @@
     <message>
         <source>no picture</source>
         <translation>画像なし</translation>
+    </message>
+</context>
+<context>
+    <name>HostLanguage</name>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>今後のテキストの言語（例: German）。</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>名前</translation>
     </message>
 </context>
 <context>

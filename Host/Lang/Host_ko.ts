@@ -71,14 +71,6 @@
         <translation>로그도 표시합니다.</translation>
     </message>
     <message>
-        <source>Language of the texts from now on, such as German.</source>
-        <translation>이제부터 사용할 언어(예: German).</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>이름</translation>
-    </message>
-    <message>
         <source>Media files.</source>
         <translation>미디어 파일.</translation>
     </message>
@@ -96,6 +88,17 @@
     <message>
         <source>no picture</source>
         <translation>그림 없음</translation>
+    </message>
+</context>
+<context>
+    <name>HostLanguage</name>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>이제부터 사용할 언어(예: German).</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>이름</translation>
     </message>
 </context>
 <context>

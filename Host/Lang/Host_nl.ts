@@ -71,14 +71,6 @@
         <translation>Ook het logboek tonen.</translation>
     </message>
     <message>
-        <source>Language of the texts from now on, such as German.</source>
-        <translation>Taal van de teksten vanaf nu, bijvoorbeeld German.</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>NAAM</translation>
-    </message>
-    <message>
         <source>Media files.</source>
         <translation>Mediabestanden.</translation>
     </message>
@@ -96,6 +88,17 @@
     <message>
         <source>no picture</source>
         <translation>geen beeld</translation>
+    </message>
+</context>
+<context>
+    <name>HostLanguage</name>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>Taal van de teksten vanaf nu, bijvoorbeeld German.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAAM</translation>
     </message>
 </context>
 <context>

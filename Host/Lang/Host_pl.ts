@@ -71,14 +71,6 @@
         <translation>Wyświetla także dziennik.</translation>
     </message>
     <message>
-        <source>Language of the texts from now on, such as German.</source>
-        <translation>Język tekstów od tej chwili, na przykład German.</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>NAZWA</translation>
-    </message>
-    <message>
         <source>Media files.</source>
         <translation>Pliki multimedialne.</translation>
     </message>
@@ -96,6 +88,17 @@
     <message>
         <source>no picture</source>
         <translation>brak obrazu</translation>
+    </message>
+</context>
+<context>
+    <name>HostLanguage</name>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>Język tekstów od tej chwili, na przykład German.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAZWA</translation>
     </message>
 </context>
 <context>

@@ -71,14 +71,6 @@
         <translation>Mostra também o registo.</translation>
     </message>
     <message>
-        <source>Language of the texts from now on, such as German.</source>
-        <translation>Idioma dos textos a partir de agora, por exemplo German.</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>NOME</translation>
-    </message>
-    <message>
         <source>Media files.</source>
         <translation>Ficheiros multimédia.</translation>
     </message>
@@ -96,6 +88,17 @@
     <message>
         <source>no picture</source>
         <translation>sem imagem</translation>
+    </message>
+</context>
+<context>
+    <name>HostLanguage</name>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>Idioma dos textos a partir de agora, por exemplo German.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOME</translation>
     </message>
 </context>
 <context>

@@ -71,14 +71,6 @@
         <translation>Afișează și jurnalul.</translation>
     </message>
     <message>
-        <source>Language of the texts from now on, such as German.</source>
-        <translation>Limba textelor de acum înainte, de exemplu German.</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>NUME</translation>
-    </message>
-    <message>
         <source>Media files.</source>
         <translation>Fișiere media.</translation>
     </message>
@@ -96,6 +88,17 @@
     <message>
         <source>no picture</source>
         <translation>fără imagine</translation>
+    </message>
+</context>
+<context>
+    <name>HostLanguage</name>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>Limba textelor de acum înainte, de exemplu German.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NUME</translation>
     </message>
 </context>
 <context>

@@ -71,14 +71,6 @@
         <translation>Выводить также журнал.</translation>
     </message>
     <message>
-        <source>Language of the texts from now on, such as German.</source>
-        <translation>Язык текстов с этого момента, например German.</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>ИМЯ</translation>
-    </message>
-    <message>
         <source>Media files.</source>
         <translation>Медиафайлы.</translation>
     </message>
@@ -96,6 +88,17 @@
     <message>
         <source>no picture</source>
         <translation>нет изображения</translation>
+    </message>
+</context>
+<context>
+    <name>HostLanguage</name>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>Язык текстов с этого момента, например German.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>ИМЯ</translation>
     </message>
 </context>
 <context>

@@ -71,14 +71,6 @@
         <translation>Visa även loggen.</translation>
     </message>
     <message>
-        <source>Language of the texts from now on, such as German.</source>
-        <translation>Språk för texterna från och med nu, till exempel German.</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>NAMN</translation>
-    </message>
-    <message>
         <source>Media files.</source>
         <translation>Mediefiler.</translation>
     </message>
@@ -96,6 +88,17 @@
     <message>
         <source>no picture</source>
         <translation>ingen bild</translation>
+    </message>
+</context>
+<context>
+    <name>HostLanguage</name>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>Språk för texterna från och med nu, till exempel German.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAMN</translation>
     </message>
 </context>
 <context>

@@ -71,14 +71,6 @@
         <translation>同時顯示記錄。</translation>
     </message>
     <message>
-        <source>Language of the texts from now on, such as German.</source>
-        <translation>今後文字使用的語言，例如 German。</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>名稱</translation>
-    </message>
-    <message>
         <source>Media files.</source>
         <translation>媒體檔案。</translation>
     </message>
@@ -96,6 +88,17 @@
     <message>
         <source>no picture</source>
         <translation>沒有畫面</translation>
+    </message>
+</context>
+<context>
+    <name>HostLanguage</name>
+    <message>
+        <source>Language of the texts from now on, such as German.</source>
+        <translation>今後文字使用的語言，例如 German。</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>名稱</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/HostLanguage.h"
+
+#include "CommonLib/MultiLangMgr.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+HostLanguage::HostLanguage()
+{
+    QCommandLineParser parser;
+    parser.addOption(Option());
+    // Other options are the program's; what is not understood here is not wrong.
+    parser.parse(QCoreApplication::arguments());
+    MultiLangMgr* languages = MultiLangMgr::GetInstance();
+    languages->SetLangLocale();
+    languages->SetLangLocale(parser.value(Option()));
+}
+
+HostLanguage::~HostLanguage()
+{
+    MultiLangMgr::Release();
+}
+
+QCommandLineOption HostLanguage::Option()
+{
+    return {QStringLiteral("language"),
+            QCoreApplication::translate("HostLanguage",
+                                        "Language of the texts from now on, such as German."),
+            QCoreApplication::translate("HostLanguage", "NAME")};
+}

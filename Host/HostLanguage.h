@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QCommandLineOption>
+
+/// The language of a program of the host, from its construction, right after the application
+/// object's, to its end: the one that was chosen last, or the one that the command line names.
+///
+/// It stands before any other text, so the command line is looked at on its own for this option.
+class HostLanguage
+{
+public:
+    HostLanguage();
+    ~HostLanguage();
+    HostLanguage(const HostLanguage&) = delete;
+    HostLanguage& operator=(const HostLanguage&) = delete;
+
+    /// For the program's own parser, which then knows the option and describes it.
+    static QCommandLineOption Option();
+};
