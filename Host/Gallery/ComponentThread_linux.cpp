@@ -1,0 +1,6 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Gallery/ComponentThread_p.h"
+
+// Component objects ask nothing of a thread here.
+ComponentThread::ComponentThread() = default;
+ComponentThread::~ComponentThread() = default;

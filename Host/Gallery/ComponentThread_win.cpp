@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Gallery/ComponentThread_p.h"
+
+#include <objbase.h>
+
+ComponentThread::ComponentThread()
+{
+    CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+}
+
+ComponentThread::~ComponentThread()
+{
+    CoUninitialize();
+}

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "Host/Gallery/ImportSession.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class ImportTree;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QProgressBar;
+class QPushButton;
+class QStackedWidget;
+
+/// Imports media from cameras, phones and cards: the devices, the content of one, and the files of
+/// it that are to be copied into a folder.
+class ImportPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ImportPage(QWidget* parent = nullptr);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    enum class State
+    {
+        NoDevice,
+        Opening,
+        Reading,
+        Ready,
+        Importing,
+        Refused, ///< a device that could not be opened
+        Removed
+    };
+
+    void BuildLayout();
+    void Connect();
+    void SetState(State state);
+    void ShowNotice(const QString& title, const QString& text);
+    void UpdateButtons();
+
+    void TakeDevices(const QVector<ImportDevice>& devices);
+    void Choose(int index);
+    void TakeContentEnd(bool isWhole);
+    void StartImport();
+    void TakeProgress(quint64 bytes);
+    void TakeResult(const ImportResult& result);
+    void TakeRemoval();
+    void ChooseFolder();
+
+    ImportSession m_session;
+    QTimer m_listTimer; ///< looks for devices while there is none
+    State m_state = State::NoDevice;
+    QVector<ImportDevice> m_devices;
+    std::wstring m_chosen; ///< identifier of the device that is shown
+    quint64 m_bytesToImport = 0;
+
+    // Children of the page.
+    QComboBox* m_deviceBox;
+    QPushButton* m_refreshButton;
+    QStackedWidget* m_stack;
+    QLabel* m_notice;
+    ImportTree* m_tree;
+    QLineEdit* m_folder;
+    QPushButton* m_folderButton;
+    QLabel* m_status;
+    QProgressBar* m_progress;
+    QPushButton* m_cancelButton;
+    QPushButton* m_importButton;
+};
