@@ -469,6 +469,12 @@ QImage FrameDecoder::Picture(int frame, const QSize& size)
     return d->scaler.Convert(*d->current.frame, d->description, size);
 }
 
+const AVFrame* FrameDecoder::Decoded(int frame)
+{
+    const bool isUpright = d->description.rotation == 0 && !d->description.mirrored;
+    return isUpright && frame >= 0 && d->Locate(frame) ? d->current.frame.get() : nullptr;
+}
+
 int FrameDecoder::Position() const
 {
     return d->current.isValid ? int(std::clamp<int64_t>(d->current.index, 0, INT32_MAX)) : -1;

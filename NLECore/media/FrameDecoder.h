@@ -8,6 +8,8 @@
 
 #include <memory>
 
+struct AVFrame;
+
 namespace nle {
 
 /// Exact pictures of one video stream of one file.
@@ -33,6 +35,10 @@ public:
     /// of the data, and when nothing could be decoded. A still picture is the same for every
     /// frame. A picture that is damaged in the file leaves the one before it in place.
     QImage Picture(int frame, const QSize& size);
+
+    /// The picture of \a frame as it was decoded, valid until the next call; null where Picture
+    /// gives none, and when it does not stand upright as it is.
+    const AVFrame* Decoded(int frame);
 
     /// Frame number of the picture decoded last; -1 when none was yet.
     int Position() const;

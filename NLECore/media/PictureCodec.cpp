@@ -8,6 +8,7 @@
 
 extern "C" {
 #include <libavutil/opt.h>
+#include <libavutil/pixdesc.h>
 #include <libswscale/swscale.h>
 }
 
@@ -36,6 +37,9 @@ FormatTraits TraitsOf(PictureFormat format)
     return {AV_CODEC_ID_QOI, AV_PIX_FMT_RGBA, AV_PIX_FMT_RGBA, QImage::Format_ARGB32};
 }
 
+/// Beside the number of the colours.
+constexpr int kFullRange = 0x80;
+
 struct ScalerFreer
 {
     void operator()(SwsContext* scaler) const { sws_freeContext(scaler); }
@@ -50,6 +54,9 @@ struct PictureEncoder::Private
     FramePtr frame{av_frame_alloc()};
     PacketPtr packet{av_packet_alloc()};
     std::unique_ptr<SwsContext, ScalerFreer> scaler;
+    std::unique_ptr<SwsContext, ScalerFreer> decodedScaler;
+
+    QByteArray EncodeFrame(AVColorSpace colours, bool isFullRange);
 
     bool OpenCodec(const QSize& size, int quantizer)
     {
@@ -79,8 +86,8 @@ struct PictureEncoder::Private
         frame->width = size.width();
         frame->height = size.height();
         scaler.reset(sws_getContext(size.width(), size.height(), AV_PIX_FMT_BGRA, size.width(),
-                                    size.height(), traits.scaled, SWS_BILINEAR | SWS_ACCURATE_RND,
-                                    nullptr, nullptr, nullptr));
+                                    size.height(), traits.scaled, SWS_BILINEAR, nullptr, nullptr,
+                                    nullptr));
         if (!scaler || av_frame_get_buffer(frame.get(), 0) < 0)
             return false;
         const int* matrix = sws_getCoefficients(SWS_CS_ITU601);
@@ -116,13 +123,44 @@ QByteArray PictureEncoder::Encode(const QImage& picture)
     const std::uint8_t* const planes[] = {source.constBits()};
     const int strides[] = {source.bytesPerLine()};
     sws_scale(d->scaler.get(), planes, strides, 0, source.height(), frame->data, frame->linesize);
-    frame->quality = d->codec->global_quality;
-    frame->pts++;
-    av_packet_unref(d->packet.get());
-    if (avcodec_send_frame(d->codec.get(), frame) < 0 ||
-        avcodec_receive_packet(d->codec.get(), d->packet.get()) < 0)
+    return d->EncodeFrame(AVCOL_SPC_BT470BG, true);
+}
+
+QByteArray PictureEncoder::Encode(const AVFrame& decoded)
+{
+    AVFrame* frame = d->frame.get();
+    bool isFullRange = decoded.color_range == AVCOL_RANGE_JPEG;
+    const AVPixelFormat format = ModernFormat(AVPixelFormat(decoded.format), &isFullRange);
+    const AVPixFmtDescriptor* kind = av_pix_fmt_desc_get(format);
+    constexpr std::uint64_t unfit =
+        AV_PIX_FMT_FLAG_RGB | AV_PIX_FMT_FLAG_ALPHA | AV_PIX_FMT_FLAG_HWACCEL | AV_PIX_FMT_FLAG_PAL;
+    const bool isFit = kind && (kind->flags & unfit) == 0 && kind->nb_components == 3;
+    if (!isFit || d->traits.codec != AV_CODEC_ID_MJPEG || av_frame_make_writable(frame) < 0)
         return {};
-    return QByteArray(reinterpret_cast<const char*>(d->packet->data), d->packet->size);
+    const bool isShrinking = frame->width <= decoded.width && frame->height <= decoded.height;
+    d->decodedScaler.reset(
+        sws_getCachedContext(d->decodedScaler.release(), decoded.width, decoded.height, format,
+                             frame->width, frame->height, d->traits.scaled,
+                             isShrinking ? SWS_BILINEAR : SWS_BICUBIC, nullptr, nullptr, nullptr));
+    if (!d->decodedScaler || sws_scale(d->decodedScaler.get(), decoded.data, decoded.linesize, 0,
+                                       decoded.height, frame->data, frame->linesize) <= 0)
+        return {};
+    return d->EncodeFrame(ColoursOf(decoded), isFullRange);
+}
+
+// A byte before the data names the colours.
+QByteArray PictureEncoder::Private::EncodeFrame(AVColorSpace colours, bool isFullRange)
+{
+    frame->quality = codec->global_quality;
+    frame->pts++;
+    av_packet_unref(packet.get());
+    if (avcodec_send_frame(codec.get(), frame.get()) < 0 ||
+        avcodec_receive_packet(codec.get(), packet.get()) < 0)
+        return {};
+    QByteArray data(1 + packet->size, Qt::Uninitialized);
+    data[0] = char(colours | (isFullRange ? kFullRange : 0));
+    std::memcpy(data.data() + 1, packet->data, std::size_t(packet->size));
+    return data;
 }
 
 struct PictureDecoder::Private
@@ -156,16 +194,20 @@ QImage PictureDecoder::Decode(const QByteArray& data, const QSize& size)
 {
     AVPacket* packet = d->packet.get();
     av_packet_unref(packet);
-    if (data.isEmpty() || av_new_packet(packet, data.size()) < 0)
+    if (data.size() < 2 || av_new_packet(packet, data.size() - 1) < 0)
         return {};
-    std::memcpy(packet->data, data.constData(), std::size_t(data.size()));
+    std::memcpy(packet->data, data.constData() + 1, std::size_t(packet->size));
     packet->flags |= AV_PKT_FLAG_KEY;
     if (avcodec_send_packet(d->codec.get(), packet) < 0 ||
         avcodec_receive_frame(d->codec.get(), d->frame.get()) < 0) {
         avcodec_flush_buffers(d->codec.get());
         return {};
     }
-    d->frame->colorspace = AVCOL_SPC_BT470BG;
+    const int tag = std::uint8_t(data[0]);
+    bool isNamedFull = false;
+    d->frame->format = ModernFormat(AVPixelFormat(d->frame->format), &isNamedFull);
+    d->frame->colorspace = AVColorSpace(tag & ~kFullRange);
+    d->frame->color_range = (tag & kFullRange) != 0 ? AVCOL_RANGE_JPEG : AVCOL_RANGE_MPEG;
     QImage image = d->scaler.Convert(*d->frame, MediaStream(), size);
     if (!image.isNull() && d->traits.image == QImage::Format_RGB32)
         image.reinterpretAsFormat(QImage::Format_RGB32);

@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <memory>
 
+struct AVFrame;
+
 namespace nle {
 
 /// How one picture is kept. Each picture stands for itself. The numbers are part of files.
@@ -34,6 +36,9 @@ public:
 
     /// \a picture has the size given at the start. Empty on failure.
     QByteArray Encode(const QImage& picture);
+    /// Scales a decoded picture to the size given at the start, keeps its colours as they are coded
+    /// and encodes it. Empty on failure, and for a picture or a format with alpha or of plain RGB.
+    QByteArray Encode(const AVFrame& decoded);
 
 private:
     struct Private;

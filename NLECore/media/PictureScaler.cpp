@@ -18,7 +18,25 @@ constexpr int MaxShrink = 64;
 // The scaler may write up to this many bytes beyond a line whose length is no multiple of it.
 constexpr int LineAlignment = 64;
 
-// Formats whose name alone says full range are outdated names of these.
+int ColourMatrix(const AVFrame& frame)
+{
+    switch (ColoursOf(frame)) {
+    case AVCOL_SPC_BT709:
+        return SWS_CS_ITU709;
+    case AVCOL_SPC_SMPTE240M:
+        return SWS_CS_SMPTE240M;
+    case AVCOL_SPC_FCC:
+        return SWS_CS_FCC;
+    case AVCOL_SPC_BT2020_NCL:
+    case AVCOL_SPC_BT2020_CL:
+        return SWS_CS_BT2020;
+    default:
+        return SWS_CS_ITU601;
+    }
+}
+
+} // namespace
+
 AVPixelFormat ModernFormat(AVPixelFormat format, bool* isFullRange)
 {
     switch (format) {
@@ -42,28 +60,21 @@ AVPixelFormat ModernFormat(AVPixelFormat format, bool* isFullRange)
     }
 }
 
-// Files that do not name their matrix follow the usual one for their size.
-int ColourMatrix(const AVFrame& frame)
+AVColorSpace ColoursOf(const AVFrame& frame)
 {
     switch (frame.colorspace) {
     case AVCOL_SPC_BT709:
-        return SWS_CS_ITU709;
     case AVCOL_SPC_BT470BG:
     case AVCOL_SPC_SMPTE170M:
-        return SWS_CS_ITU601;
     case AVCOL_SPC_SMPTE240M:
-        return SWS_CS_SMPTE240M;
     case AVCOL_SPC_FCC:
-        return SWS_CS_FCC;
     case AVCOL_SPC_BT2020_NCL:
     case AVCOL_SPC_BT2020_CL:
-        return SWS_CS_BT2020;
+        return frame.colorspace;
     default:
-        return frame.height >= 720 ? SWS_CS_ITU709 : SWS_CS_ITU601;
+        return frame.height >= 720 ? AVCOL_SPC_BT709 : AVCOL_SPC_SMPTE170M;
     }
 }
-
-} // namespace
 
 PictureScaler::~PictureScaler()
 {

@@ -13,6 +13,11 @@ struct SwsContext;
 
 namespace nle {
 
+/// Formats whose name alone says full range, under the name that they share with the others.
+AVPixelFormat ModernFormat(AVPixelFormat format, bool* isFullRange);
+/// The colours of a picture; files that do not name theirs follow the usual ones for their size.
+AVColorSpace ColoursOf(const AVFrame& frame);
+
 /// Turns decoded pictures into upright images. Keeps its tables for the next picture of the same
 /// kind. One object serves one thread at a time.
 class PictureScaler

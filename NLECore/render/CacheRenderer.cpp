@@ -76,7 +76,10 @@ void CacheRenderer::Stop()
 void CacheRenderer::Run(int number)
 {
     LowerThreadPriority();
-    Worker worker{Composer(m_plan->Root(), m_decoders), nullptr, 0};
+    const NLESize& size = m_plan->Root()->size;
+    const QRect place = PlacePicture(size, NLEMargin_Fit, size, m_plan->Format().size);
+    Worker worker{Composer(m_plan->Root(), m_decoders),
+                  PictureEncoder::Open(place.size(), m_plan->Coding()), 0};
     // The threads begin apart, so that each finds chunks that follow one another.
     const std::int64_t count = std::int64_t(m_plan->Chunks().size());
     int last = int(count * number / ThreadCount()) - 1;
@@ -116,6 +119,20 @@ std::optional<int> CacheRenderer::Take(int last)
     return index;
 }
 
+QByteArray CacheRenderer::EncodeFrame(int frame, Worker& worker) const
+{
+    if (!worker.encoder)
+        return {};
+    // A single clip needs no painting: what was decoded is scaled and encoded in its own colours.
+    if (const AVFrame* plain = worker.composer.PlainPicture(frame, m_plan->Format().size)) {
+        const QByteArray encoded = worker.encoder->Encode(*plain);
+        if (!encoded.isEmpty())
+            return encoded;
+    }
+    QRect place;
+    return worker.encoder->Encode(worker.composer.Render(frame, m_plan->Format().size, &place));
+}
+
 std::optional<CacheState> CacheRenderer::RenderChunk(const Chunk& chunk, Worker& worker)
 {
     switch (m_store->MakeRoom(m_limits, worker.lastSize, m_keep)) {
@@ -137,11 +154,7 @@ std::optional<CacheState> CacheRenderer::RenderChunk(const Chunk& chunk, Worker&
     for (int frame = chunk.first; frame <= chunk.last; ++frame) {
         if (m_isEnding)
             return {};
-        QRect place;
-        const QImage picture = worker.composer.Render(frame, m_plan->Format().size, &place);
-        if (!worker.encoder)
-            worker.encoder = PictureEncoder::Open(place.size(), coding);
-        const QByteArray encoded = worker.encoder ? worker.encoder->Encode(picture) : QByteArray();
+        const QByteArray encoded = EncodeFrame(frame, worker);
         if (encoded.isEmpty()) {
             qCWarning(lcEngine, "frame %d cannot be cached", frame);
             return {};

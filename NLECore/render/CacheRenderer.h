@@ -56,6 +56,7 @@ private:
 
     void Run(int number);
     /// Empty when the chunk is in the store, or not worth trying again, or the run is ending.
+    QByteArray EncodeFrame(int frame, Worker& worker) const;
     std::optional<CacheState> RenderChunk(const Chunk& chunk, Worker& worker);
     /// Index of the next chunk for the thread that last did \a last.
     std::optional<int> Take(int last);

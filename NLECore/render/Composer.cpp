@@ -98,6 +98,11 @@ QPainter::CompositionMode PainterMode(BlendMode mode)
     return QPainter::CompositionMode_SourceOver;
 }
 
+bool Shows(const Layer& layer, std::int64_t frame)
+{
+    return layer.PlaysAt(frame) && layer.mode != NLERender_AudioOnly;
+}
+
 /// Size to ask a decoder for, for a picture that will be drawn as large as \a rect.
 QSize DecodeSize(const QRectF& rect)
 {
@@ -217,25 +222,56 @@ QImage Composer::Content(const Layer& layer, std::int64_t frame, const QSize& si
     return {};
 }
 
-QImage Composer::MediaPicture(const Layer& layer, std::int64_t frame, const QSize& size)
+FrameDecoder* Composer::DecoderOf(const Layer& layer, std::int64_t frame, int* wanted)
 {
     const std::shared_ptr<const MediaInfo>& media = layer.proxy ? layer.proxy : layer.media;
-    const MediaStream* stream = media->Stream(media->videoStream);
-    if (!stream)
-        return {};
+    if (!media->Stream(media->videoStream))
+        return nullptr;
     const NLERational mediaRate = {media->frameRate.num, media->frameRate.den};
     // A frozen clip names a frame of its material, which plays at normal speed.
-    const int wanted = layer.frozenFrame
-                           ? ShownFrame(*layer.frozenFrame, layer.frameRate, mediaRate)
-                           : ShownFrame(double(frame) * layer.speed, layer.frameRate, mediaRate);
+    *wanted = layer.frozenFrame
+                  ? ShownFrame(*layer.frozenFrame, layer.frameRate, mediaRate)
+                  : ShownFrame(double(frame) * layer.speed, layer.frameRate, mediaRate);
     OpenDecoder& decoder = m_decoders[&layer];
     decoder.used = true;
     if (!decoder.lease)
-        decoder.lease = m_pool.Acquire(media, media->videoStream, DecodePurpose::Render, wanted);
-    if (!decoder.lease)
-        return {};
-    const QImage image = decoder.lease->Picture(wanted, size);
-    return stream->hasAlpha || image.isNull() ? image : AsOpaque(image);
+        decoder.lease = m_pool.Acquire(media, media->videoStream, DecodePurpose::Render, *wanted);
+    return decoder.lease ? &*decoder.lease : nullptr;
+}
+
+QImage Composer::MediaPicture(const Layer& layer, std::int64_t frame, const QSize& size)
+{
+    int wanted = 0;
+    FrameDecoder* decoder = DecoderOf(layer, frame, &wanted);
+    const QImage image = decoder ? decoder->Picture(wanted, size) : QImage();
+    const bool hasAlpha = decoder && decoder->Info()->Stream(decoder->StreamIndex())->hasAlpha;
+    return hasAlpha || image.isNull() ? image : AsOpaque(image);
+}
+
+const AVFrame* Composer::PlainPicture(std::int64_t frame, const QSize& frameSize)
+{
+    const Layer* sole = nullptr;
+    for (const Snapshot& child : m_root->children) {
+        if (!Shows(*child, frame))
+            continue;
+        if (sole)
+            return nullptr;
+        sole = child.get();
+    }
+    const bool isFullSize = m_root->context.previewScale >= 1 && m_root->context.smooth;
+    if (!sole || sole->kind != LayerKind::Media || sole->keyFrames || !isFullSize ||
+        (sole->blend.enabled && !(sole->blend == BlendSettings())))
+        return nullptr;
+    const QRect place = PlacePicture(m_root->size, NLEMargin_Fit, m_root->size, frameSize);
+    const Placing placing = PlaceLayer(*sole, nullptr, m_root->size, place.size());
+    if (placing.rotation != 0 || placing.rect != QRectF(QPointF(0, 0), place.size()))
+        return nullptr;
+    int wanted = 0;
+    FrameDecoder* decoder = DecoderOf(*sole, frame - sole->position + sole->range.in, &wanted);
+    const AVFrame* picture = decoder ? decoder->Decoded(wanted) : nullptr;
+    if (picture)
+        DropIdleDecoders();
+    return picture;
 }
 
 QImage Composer::Composite(const Layer& layer, std::int64_t frame, const QSize& size)
@@ -244,7 +280,7 @@ QImage Composer::Composite(const Layer& layer, std::int64_t frame, const QSize& 
     QPainter painter(&canvas);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, m_root->context.smooth);
     for (const Snapshot& child : layer.children) {
-        if (!child->PlaysAt(frame) || child->mode == NLERender_AudioOnly)
+        if (!Shows(*child, frame))
             continue;
         const std::int64_t childFrame = frame - child->position + child->range.in;
         std::optional<NLEKeyFrameRecord> key;

@@ -9,6 +9,8 @@
 
 #include <map>
 
+struct AVFrame;
+
 namespace nle {
 
 /// Where a picture of \a size lies on a parent of \a parentSize that is drawn \a canvas large.
@@ -40,9 +42,15 @@ public:
     /// root has no picture or its media cannot be decoded.
     QImage Render(std::int64_t frame, const QSize& frameSize, QRect* place);
 
+    /// The decoded picture that alone makes up what Render would draw, as far as it needs nothing
+    /// but scaling; else null. Valid until the next call.
+    const AVFrame* PlainPicture(std::int64_t frame, const QSize& frameSize);
+
 private:
     QImage Content(const Layer& layer, std::int64_t frame, const QSize& size);
     QImage MediaPicture(const Layer& layer, std::int64_t frame, const QSize& size);
+    /// The layer's open decoder, or null, and the frame of its media that shows.
+    FrameDecoder* DecoderOf(const Layer& layer, std::int64_t frame, int* wanted);
     QImage Composite(const Layer& layer, std::int64_t frame, const QSize& size);
     void DropIdleDecoders();
 

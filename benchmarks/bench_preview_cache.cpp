@@ -1,0 +1,306 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// The preview cache: rendering into it beside the melt and ffmpeg programs with the same codec, at
+// the same priority; reading beside rendering; analysis, stopping and edits; memory.
+#include "CommonLib/NLEWraper/CVCreateInstance.h"
+#include "CommonLib/NLEWraper/NLEWraper.h"
+#include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "EngineApi/INLEBackgroundCache.h"
+#include "EngineApi/INLEStreamProcess.h"
+#include "EngineApi/INLETransform.h"
+#include "TestMedia.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QSemaphore>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <algorithm>
+#include <atomic>
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+namespace {
+
+using Node = NLEComPtr<INLETimeline>;
+
+constexpr int kFrames = 500;
+constexpr int kRounds = 3;
+constexpr NLESize kSize = {960, 540};
+
+PlayerMaterProvider* Provider()
+{
+    return NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
+}
+
+double Median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+double Largest(const std::vector<double>& values)
+{
+    return *std::max_element(values.begin(), values.end());
+}
+
+double MillisecondsOf(const std::function<void()>& work)
+{
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return double(timer.nsecsElapsed()) / 1e6;
+}
+
+/// What the process held in memory at the most since the last call, in MiB.
+double TakePeakMemory()
+{
+    QFile status("/proc/self/status");
+    double peak = 0;
+    if (status.open(QIODevice::ReadOnly)) {
+        for (const QByteArray& line : status.readAll().split('\n')) {
+            if (line.startsWith("VmHWM:"))
+                peak = line.mid(6).simplified().split(' ').front().toDouble() / 1024;
+        }
+    }
+    QFile reset("/proc/self/clear_refs");
+    if (reset.open(QIODevice::WriteOnly))
+        reset.write("5");
+    return peak;
+}
+
+class Cache
+{
+public:
+    Cache(const Node& node, const QString& folder)
+    {
+        void* found = nullptr;
+        node->GetInterface(INLEBackgroundCache::Iid, &found, 0, 0);
+        engine.attach(static_cast<INLEBackgroundCache*>(found));
+        engine->SetCacheFolder(folder.toStdWString().c_str(), 10000, 0);
+    }
+    ~Cache() { engine->DeleteCache(true); }
+
+    bool Start() { return engine->Start(&kSize, Note, this) == S_OK; }
+    void WaitForEnd() { m_ended.acquire(); }
+    void Render()
+    {
+        engine->DeleteCache(true);
+        while (m_ended.tryAcquire()) {
+        }
+        if (Start())
+            WaitForEnd();
+    }
+
+    NLEComPtr<INLEBackgroundCache> engine;
+
+private:
+    static int Note(int, long state, long, long, void* self)
+    {
+        if (state != 0)
+            static_cast<Cache*>(self)->m_ended.release();
+        return 0;
+    }
+    QSemaphore m_ended;
+};
+
+void Add(const Node& project, const Node& clip, int position, int level)
+{
+    clip->SetPosition(position);
+    clip->SetLevel(level);
+    project.query<INLETimelineComposite>()->AddClip(clip.get());
+}
+
+Node Project()
+{
+    return Provider()->CreateProjectTimeline({{1920, 1080}, {25, 1}, 48000, 2, 3});
+}
+
+/// The second layer lies above the first, smaller, turned and half transparent.
+Node MakeTimeline(const QString& media, int layers)
+{
+    const Node project = Project();
+    for (int level = 0; level < layers; ++level) {
+        const Node clip = Provider()->CreateMediaTimeline(media, false);
+        if (level > 0) {
+            const NLESizeF half = {0.5, 0.5};
+            clip.query<INLETransform>()->SetScale(&half);
+            clip.query<INLETransform>()->SetRotation(10);
+            clip.query<INLEBlendSetting>()->SetAlpha(160);
+        }
+        Add(project, clip, 0, level);
+    }
+    return project;
+}
+
+/// Runs a peer with the priority of the threads that render the cache.
+void RunPeer(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start("nice", QStringList{"-n", "5", program} + arguments);
+    if (!process.waitForFinished(600000) || process.exitCode() != 0)
+        std::fprintf(stderr, "%s failed: %s\n", qPrintable(program), process.readAll().constData());
+}
+
+void RunMelt(const QString& document, const QString& output)
+{
+    RunPeer("melt",
+            {"-silent", document, "-consumer", "avformat:" + output, "vcodec=mjpeg", "qscale=3",
+             "pix_fmt=yuvj420p", "s=960x540", "an=1", "real_time=-2", "progress=0"});
+}
+
+void RunPlainFfmpeg(const QString& media, const QString& output)
+{
+    RunPeer("ffmpeg", {"-hide_banner", "-loglevel", "error", "-y", "-i", media, "-vf",
+                       "scale=960:540:flags=bilinear", "-c:v", "mjpeg", "-q:v", "3", "-huffman",
+                       "default", "-an", output});
+}
+
+void CompareRendering(const char* title, const QString& media, int layers, const QDir& folder)
+{
+    const Node project = MakeTimeline(media, layers);
+    const QString document = folder.filePath("timeline.mlt");
+    const QString output = folder.filePath("peer.avi");
+    Provider()->CreateDocumentSerialize()->Save(project.get(), document.toStdWString().c_str());
+    Cache cache(project, folder.filePath("cache"));
+    std::vector<double> own;
+    std::vector<double> melt;
+    std::vector<double> ffmpeg;
+    TakePeakMemory();
+    for (int round = 0; round < kRounds; ++round) {
+        own.push_back(MillisecondsOf([&] { cache.Render(); }));
+        melt.push_back(MillisecondsOf([&] { RunMelt(document, output); }));
+        if (layers == 1)
+            ffmpeg.push_back(MillisecondsOf([&] { RunPlainFfmpeg(media, output); }));
+    }
+    const auto rate = [](const std::vector<double>& times) {
+        return kFrames * 1e3 / Median(times);
+    };
+    std::printf("%s: own %.0f frames a second, melt %.0f, ratio %.2f", title, rate(own), rate(melt),
+                rate(own) / rate(melt));
+    if (layers == 1)
+        std::printf(", ffmpeg %.0f, ratio %.2f", rate(ffmpeg), rate(own) / rate(ffmpeg));
+    std::printf("; own peak memory %.0f MiB\n", TakePeakMemory());
+}
+
+double FrameTime(const Node& project, int flags, const NLESize& size)
+{
+    constexpr int Count = 200;
+    const auto picture = Provider()->CreateVideoFrame(size.width, size.height);
+    const auto extractor = Provider()->CreateFrameExtractor();
+    picture->Prepare();
+    extractor->Open(project.get(), flags);
+    extractor->Extract(0, picture.get());
+    return MillisecondsOf([&] {
+               for (int frame = 1; frame <= Count; ++frame)
+                   extractor->Extract(frame, picture.get());
+           }) /
+           Count;
+}
+
+void CompareReading(const QString& media, const QDir& folder)
+{
+    const Node project = MakeTimeline(media, 2);
+    Cache cache(project, folder.filePath("cache"));
+    cache.Render();
+    for (const NLESize& size : {kSize, NLESize{1920, 1080}}) {
+        std::vector<double> read;
+        std::vector<double> rendered;
+        for (int round = 0; round < kRounds; ++round) {
+            read.push_back(FrameTime(project, NLEOpen_Cached, size));
+            rendered.push_back(FrameTime(project, NLEOpen_Render, size));
+        }
+        std::printf("two layers shown at %d x %d: cached %.2f ms a frame, rendered %.2f ms, ratio "
+                    "%.2f\n",
+                    size.width, size.height, Median(read), Median(rendered),
+                    Median(rendered) / Median(read));
+    }
+}
+
+void MeasureStops(const QString& media, const QDir& folder)
+{
+    const Node project = MakeTimeline(media, 2);
+    Cache cache(project, folder.filePath("cache"));
+    std::vector<double> times;
+    for (int round = 0; round < 10; ++round) {
+        cache.engine->DeleteCache(true);
+        cache.Start();
+        QThread::msleep(150 + unsigned(round) * 13);
+        times.push_back(MillisecondsOf([&] {
+            cache.engine->Stop();
+            cache.WaitForEnd();
+        }));
+    }
+    std::printf("stop: acknowledged after %.2f ms, at the most %.2f ms\n", Median(times),
+                Largest(times));
+}
+
+void MeasureLargeProject(const QString& media, const QDir& folder)
+{
+    constexpr int Clips = 10000;
+    const Node project = Project();
+    const Node source = Provider()->CreateMediaTimeline(media, false);
+    std::vector<Node> clips;
+    for (int i = 0; i < Clips; ++i) {
+        Node clip;
+        source->Clone(true, clip.put());
+        const NLERange range = {i % 400, i % 400 + 29};
+        clip->SetRange(&range);
+        Add(project, clip, i / 2 * 25, i % 2);
+        clips.push_back(clip);
+    }
+    Cache cache(project, folder.filePath("cache"));
+    cache.engine->Update();
+    std::vector<double> updates;
+    for (int round = 0; round < 31; ++round) {
+        clips[size_t(round) * 300].query<INLEBlendSetting>()->SetAlpha(100 + round);
+        updates.push_back(MillisecondsOf([&] { cache.engine->Update(); }));
+    }
+    std::printf("%d clips: analysis after one edit %.2f ms, at the most %.2f ms\n", Clips,
+                Median(updates), Largest(updates));
+
+    cache.Start();
+    std::vector<double> edits;
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < 3000) {
+        INLETimeline* clip = clips[edits.size() * 7 % Clips].get();
+        edits.push_back(MillisecondsOf([&] { clip->SetLevel(int(edits.size()) % 2); }));
+        QThread::usleep(200);
+    }
+    cache.engine->Stop();
+    std::printf("edits while rendering: %.4f ms, at the most %.4f ms of %zu\n", Median(edits),
+                Largest(edits), edits.size());
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QTemporaryDir temporary;
+    const QDir folder(temporary.path());
+    const QString media = folder.filePath("source.mp4");
+    const QString failure = RunFfmpeg(
+        {"-f", "lavfi", "-i", "testsrc2=size=1920x1080:rate=25,noise=alls=6:allf=t,format=yuv420p",
+         "-frames:v", QString::number(kFrames), "-c:v", "libx264", "-preset", "veryfast", "-bf",
+         "3", media});
+    if (!failure.isEmpty() || !Provider()->CreateProjectTimeline()) {
+        std::fprintf(stderr, "%s\n", qPrintable(failure));
+        return 1;
+    }
+    std::printf("%d frames of 1080p H.264 into %d x %d, %d processors\n", kFrames, kSize.width,
+                kSize.height, QThread::idealThreadCount());
+    CompareRendering("plain clip", media, 1, folder);
+    CompareRendering("two layers", media, 2, folder);
+    CompareReading(media, folder);
+    MeasureStops(media, folder);
+    MeasureLargeProject(media, folder);
+    NLEWraper::Release();
+    CVCreateInstance::Instance()->Release();
+    return 0;
+}
