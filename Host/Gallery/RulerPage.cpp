@@ -9,6 +9,8 @@
 namespace {
 
 constexpr int kTotalFrames = 9000; // six minutes at 25 frames per second
+constexpr float kZoom = 330;
+constexpr int kPlayHead = 800;
 constexpr int kStripHeight = 56;
 
 QVector<ClipStrip::Clip> SampleClips()
@@ -32,9 +34,12 @@ RulerPage::RulerPage(QWidget* parent) : QWidget(parent), m_ruler(new TimelineRul
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_ruler);
-    layout->addWidget(strip, 1);
+    layout->addWidget(strip);
+    layout->addStretch(1);
 
     m_ruler->SetTotalFrames(kTotalFrames);
+    m_ruler->SetZoom(kZoom);
+    m_ruler->SetCurrentFrames(kPlayHead);
     m_ruler->SetCursorEnable(true);
     const auto follow = [strip] { strip->update(); };
     connect(m_ruler, &TimelineRuler::StartFramesChanged, strip, follow);
