@@ -16,6 +16,7 @@
 #include "CommonLib/externalapi/TimelinePosition.h"
 #include "CommonLib/FileOperation.h"
 #include "CommonLib/GlobalUtils.h"
+#include "CommonLib/IDragValueChangedHelper.h"
 #include "CommonLib/ImageTextButton.h"
 #include "CommonLib/ImageTextButton2.h"
 #include "CommonLib/LangConstInfo.h"

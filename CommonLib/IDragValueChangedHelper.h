@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "CommonLib/CommonLibExport.h"
+
+#include <QCursor>
+#include <QObject>
+#include <QPointer>
+#include <QRect>
+
+class DragValueChangedHelper;
+class QWidget;
+
+/// Lets the user change a number by dragging on any widget, sideways, as on a spin box without
+/// arrows.
+///
+/// While the button is down the pointer is hidden and parked in the middle of the primary screen,
+/// so no drag ends at a screen's edge. Every few pixels are a step; steps that follow each other
+/// within 200 ms in one direction grow, each by one step more than the last. Shift selects the fast
+/// step, Ctrl the slow one. A press and release without a step is a click: the widget gets it, and
+/// the next ones too (to edit the number as text), until it loses the focus.
+///
+/// The widget shows the number itself: connect sigValueChanged(), and tell of changes made
+/// elsewhere with SetValue(). Bounds and steps are taken as they are; a bound that is not a number
+/// bounds nothing. GUI thread only.
+class COMMONLIB_EXPORT IDragValueChangedHelper : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Watches \a widget, which becomes the parent. One object serves one widget.
+    explicit IDragValueChangedHelper(QWidget* widget);
+    ~IDragValueChangedHelper() override;
+
+    /// False also ends a drag that is going on. On by default.
+    void SetDragEnabled(bool enable);
+    /// Whether the next press begins a drag: false as well between a click and the loss of focus,
+    /// as intended.
+    bool GetDragEnabled() const;
+
+    /// Pixels that must be exceeded before a step is made; 1 each by default.
+    void SetFastDistance(int pixels);
+    int GetFastDistance() const;
+    void SetSlowDistance(int pixels);
+    int GetSlowDistance() const;
+    void SetStepDistance(int pixels);
+    int GetStepDistance() const;
+
+    /// Steps: 10 with Shift, 1 with Ctrl, else 1 by default.
+    void SetFastStep(double step);
+    double GetFastStep() const;
+    void SetSlowStep(double step);
+    double GetSlowStep() const;
+    void SetStep(double step);
+    double GetStep() const;
+
+    /// Taken as it is, even outside the range; emits nothing.
+    void SetValue(double value);
+    double GetValue() const;
+    /// All finite numbers by default. The value is brought into it with the next step.
+    void SetRange(double min, double max);
+    void GetRange(double& min, double& max) const;
+    void SetMinValue(double min);
+    /// Whether a step beyond one end of the range leads to the other; on by default.
+    void SetLoop(bool loop);
+    bool GetLoop() const;
+
+    /// Pointer over the widget; Qt::SizeHorCursor by default.
+    void SetHoverCursor(const QCursor& cursor);
+    QCursor GetHoverCursor() const;
+    /// Part of the widget, in its own coordinates, where a press begins a drag. An invalid one, the
+    /// default, stands for all of it.
+    void SetInteractiveRectangle(const QRect& rectangle);
+    QRect GetInteractiveRectangle() const;
+
+Q_SIGNALS:
+    /// After every step.
+    void sigValueChanged(double value);
+    /// Before the first sigValueChanged() of a drag, with the same value.
+    void sigStartValueChanged(double value);
+    /// A drag that has made steps is over.
+    void sigEndValueChanged(double value);
+
+private:
+    const QPointer<DragValueChangedHelper> m_helper; ///< a child of the widget
+};

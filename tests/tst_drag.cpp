@@ -1,0 +1,339 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/IDragValueChangedHelper.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <cfloat>
+#include <functional>
+#include <random>
+
+using Helper = IDragValueChangedHelper;
+using Values = QVector<double>;
+using Setup = std::function<void(Helper&)>;
+Q_DECLARE_METATYPE(Setup)
+
+namespace {
+
+/// Counts the presses that reach it.
+struct Field : QWidget
+{
+    Field() { setFocusPolicy(Qt::ClickFocus); }
+    void mousePressEvent(QMouseEvent*) override { ++presses; }
+
+    int presses = 0;
+};
+
+} // namespace
+
+class tst_Drag : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<Field> field;
+    QPointer<Helper> helper;
+    Values changed;
+    Values started;
+    Values ended;
+    int total = 0; ///< steps of all drags
+
+    static void Send(QObject* receiver, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
+                     Qt::KeyboardModifiers keys = Qt::NoModifier)
+    {
+        const Qt::MouseButtons down =
+            type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+        QMouseEvent event(type, QPointF(1, 1), at, button, down, keys);
+        QCoreApplication::sendEvent(receiver, &event);
+    }
+    void Press() { Send(field.get(), QEvent::MouseButtonPress, QCursor::pos(), Qt::LeftButton); }
+    void Release()
+    {
+        Send(field.get(), QEvent::MouseButtonRelease, QCursor::pos(), Qt::LeftButton);
+    }
+    /// Moves from where the pointer was parked or moved to last. Two moves are one step.
+    void MoveTo(int x, Qt::KeyboardModifiers keys = Qt::NoModifier)
+    {
+        Send(field.get(), QEvent::MouseMove, QPoint(x, 200), Qt::NoButton, keys);
+    }
+    /// Pointer and window system agree that it is over the field.
+    void Hover(const QPoint& within = QPoint(20, 10))
+    {
+        QCursor::setPos(field->mapToGlobal(within));
+        QTRY_VERIFY(field->underMouse());
+    }
+    static int Cursors()
+    {
+        int count = 0;
+        for (; QGuiApplication::overrideCursor(); ++count)
+            QGuiApplication::restoreOverrideCursor();
+        return count;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        field = std::make_unique<Field>();
+        field->setWindowFlag(Qt::FramelessWindowHint);
+        field->setGeometry(100, 80, 60, 40);
+        QCursor::setPos(5, 5);
+        field->show();
+        QVERIFY(QTest::qWaitForWindowExposed(field.get()));
+        helper = new Helper(field.get());
+        changed.clear();
+        started.clear();
+        ended.clear();
+        connect(helper, &Helper::sigValueChanged, this, [this](double v) {
+            changed += v;
+            ++total;
+        });
+        connect(helper, &Helper::sigStartValueChanged, this, [this](double v) { started += v; });
+        connect(helper, &Helper::sigEndValueChanged, this, [this](double v) { ended += v; });
+    }
+
+    void cleanup()
+    {
+        field.reset();
+        QVERIFY(!helper);
+        QCOMPARE(Cursors(), 0);
+    }
+
+    void steps_data()
+    {
+        QTest::addColumn<Setup>("setup");
+        QTest::addColumn<QVector<int>>("moves"); // pixels from the anchor
+        QTest::addColumn<int>("keys");
+        QTest::addColumn<Values>("values");
+        const auto row = [](const char* name, const Setup& setup, const QVector<int>& moves,
+                            const Values& values, int keys = Qt::NoModifier) {
+            QTest::newRow(name) << setup << moves << keys << values;
+        };
+        const auto with = [](double min, double max, double value, bool loop) {
+            return [=](Helper& h) {
+                h.SetRange(min, max);
+                h.SetValue(value);
+                h.SetLoop(loop);
+            };
+        };
+        const Setup none = [](Helper&) {};
+        // The first move only measures; a step follows when that was more than a pixel.
+        row("growing", none, {2, 3, 5, 6, 8, 9, 11, 12}, {1, 3, 6, 10});
+        row("one pixel is none", none, {1, 2, 4, 3}, {1});
+        row("turning", none, {2, 3, 5, 6, 4, 3, 1, 0}, {1, 3, 0, -1});
+        row("same place", none, {2, 0, 3}, {1});
+        row("fast", none, {2, 3, 5, 6}, {10, 30}, Qt::ShiftModifier | Qt::ControlModifier);
+        row(
+            "slow", [](Helper& h) { h.SetSlowStep(.5); }, {2, 3}, {.5}, Qt::ControlModifier);
+        row("parked again", none, {6, 4, 6}, {1}); // 4 is counted from the anchor
+        row(
+            "fast parks later", [](Helper& h) { h.SetFastDistance(8); }, {8, 9, 11, 12}, {10},
+            Qt::ShiftModifier);
+        row("wraps up", with(0, 100, 99.5, true), {2, 3}, {0});
+        row("wraps down", with(0, 100, 0, true), {-2, -3}, {100});
+        row("clamps", with(0, 100, 99.5, false), {2, 3, 5, 6}, {100, 100});
+        row("clamps down", with(0, 100, 0, false), {-2, -3}, {0});
+        row("lower bound alone", [](Helper& h) { h.SetMinValue(5); }, {2, 3}, {DBL_MAX});
+        row("empty range", with(7, 7, 7, true), {2, 3, 5, 6}, {7, 7});
+        row("bounds that are no numbers", with(qQNaN(), qQNaN(), 1, true), {2, 3}, {2});
+        row("bounds turned round", with(10, 0, 5, false), {2, 3}, {10});
+        row("beyond all numbers", [](Helper& h) { h.SetStep(DBL_MAX); }, {2, 3, 5, 6},
+            {DBL_MAX, -DBL_MAX});
+    }
+
+    void steps()
+    {
+        QFETCH(Setup, setup);
+        QFETCH(QVector<int>, moves);
+        QFETCH(int, keys);
+        QFETCH(Values, values);
+        setup(*helper);
+        Hover();
+        const QPoint start = QCursor::pos();
+        Press();
+        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::BlankCursor);
+        const QPoint anchor = QCursor::pos();
+        QCOMPARE(anchor, QGuiApplication::primaryScreen()->geometry().bottomRight() / 2);
+        for (const int move : moves)
+            MoveTo(anchor.x() + move, Qt::KeyboardModifiers(keys));
+        QCOMPARE(changed, values);
+        QCOMPARE(started, values.mid(0, 1));
+        QCOMPARE(ended, Values());
+        Release();
+        QCOMPARE(ended, Values{values.last()});
+        QCOMPARE(QCursor::pos(), start);
+        QCOMPARE(field->presses, 0);
+        helper->SetValue(-3);
+        QCOMPARE(changed, values);
+    }
+
+    void pausesEndTheGrowth()
+    {
+        Hover();
+        Press();
+        const int x = QCursor::pos().x();
+        MoveTo(x + 2);
+        MoveTo(x + 3);
+        MoveTo(x + 5);
+        QTest::qWait(250);
+        MoveTo(x + 6);
+        QCOMPARE(changed, Values({1, 2}));
+        Release();
+        Press();
+        MoveTo(x + 1); // what was measured before is forgotten
+        MoveTo(x + 2);
+        QCOMPARE(changed.size(), 2);
+        Release();
+    }
+
+    void clicksReachTheWidget()
+    {
+        helper->SetInteractiveRectangle(QRect(10, 0, 20, 40));
+        Hover(QPoint(40, 10));
+        Press();
+        QCOMPARE(field->presses, 1); // beside the area
+        Hover();
+        Press();
+        QCOMPARE(field->presses, 1);
+        Release();
+        QCOMPARE(field->presses, 2);
+        QVERIFY(!helper->GetDragEnabled());
+        Press();
+        QCOMPARE(field->presses, 3);
+        QFocusEvent out(QEvent::FocusOut);
+        QCoreApplication::sendEvent(field.get(), &out);
+        QVERIFY(helper->GetDragEnabled());
+        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::SizeHorCursor);
+        field->setEnabled(false);
+        Press();
+        QCOMPARE(started, Values());
+    }
+
+    void endsWithin_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::addColumn<bool>("destroy");
+        for (const bool destroy : {false, true}) {
+            for (int signal = 0; signal < 3; ++signal)
+                QTest::addRow("signal %d, destroyed %d", signal, destroy) << signal << destroy;
+        }
+    }
+
+    void endsWithin()
+    {
+        QFETCH(int, signal);
+        QFETCH(bool, destroy);
+        const auto end = [=](double) {
+            if (destroy)
+                field.reset();
+            else
+                helper->SetDragEnabled(false);
+        };
+        if (signal == 0)
+            connect(helper, &Helper::sigStartValueChanged, this, end);
+        else if (signal == 1)
+            connect(helper, &Helper::sigValueChanged, this, end);
+        else
+            connect(helper, &Helper::sigEndValueChanged, this, end);
+        Hover();
+        const QPoint start = QCursor::pos();
+        Press();
+        const int x = QCursor::pos().x();
+        for (int move = 2; move < 9 && field; ++move)
+            MoveTo(x + move);
+        if (field)
+            Release();
+        QCOMPARE(QCursor::pos(), start);
+        QCOMPARE(Cursors(), 0);
+    }
+
+    void anySequence()
+    {
+        std::mt19937 random(7);
+        total = 0;
+        const auto below = [&random](int count) { return int(random() % unsigned(count)); };
+        for (int event = 0; event < 10000; ++event) {
+            switch (below(16)) {
+            case 0:
+                Press();
+                break;
+            case 1:
+                Release();
+                break;
+            case 2: {
+                QEvent crossing(below(2) ? QEvent::Enter : QEvent::Leave);
+                QCoreApplication::sendEvent(field.get(), &crossing);
+                break;
+            }
+            case 3:
+                field->setVisible(below(8));
+                break;
+            case 4:
+                field->setEnabled(below(8));
+                break;
+            case 5: {
+                QFocusEvent out(QEvent::FocusOut);
+                QCoreApplication::sendEvent(field.get(), &out);
+                break;
+            }
+            case 6:
+                QCursor::setPos(field->mapToGlobal(QPoint(below(90), below(50))));
+                QCoreApplication::processEvents();
+                break;
+            case 7:
+                if (below(50) == 0) {
+                    field.reset();
+                    QVERIFY(!helper);
+                    QCOMPARE(Cursors(), 0);
+                    init();
+                }
+                break;
+            default:
+                MoveTo(QCursor::pos().x() + below(21) - 10);
+            }
+        }
+        QVERIFY(total > 100);
+    }
+
+    void realPointer()
+    {
+        if (QGuiApplication::platformName() != "xcb")
+            QSKIP("needs an X11 display, which the test drag_x11 has");
+        const auto point = [](const QStringList& arguments) {
+            QCOMPARE(QProcess::execute("xdotool", arguments), 0);
+            QTest::qWait(15);
+        };
+        // On the last of the screens.
+        const QRect screen = QGuiApplication::screens().last()->geometry();
+        field->move(screen.topLeft() + QPoint(50, 50));
+        const QPoint middle = screen.topLeft() + QPoint(80, 70);
+        point({"mousemove", QString::number(middle.x()), QString::number(middle.y())});
+        QTRY_VERIFY(field->underMouse());
+        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::SizeHorCursor);
+        point({"mousedown", "1"});
+        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::BlankCursor);
+        const QPoint anchor = QGuiApplication::primaryScreen()->geometry().bottomRight() / 2;
+        QCOMPARE(QCursor::pos(), anchor);
+        // Further than the screen is wide, in large and in small moves.
+        for (int move = 0; move < 100; ++move)
+            point({"mousemove_relative", "8", "0"});
+        QVERIFY(changed.size() > 30);
+        QVERIFY(std::abs(QCursor::pos().x() - anchor.x()) < 30);
+        for (int move = 0; move < 150; ++move)
+            point({"mousemove_relative", "3", "0"});
+        const int before = changed.size();
+        for (int move = 0; move < 10; ++move)
+            point({"mousemove_relative", "3", "0"});
+        QVERIFY(changed.size() > before);
+        point({"mouseup", "1"});
+        QCOMPARE(ended.size(), 1);
+        QCOMPARE(QCursor::pos(), middle);
+        point({"click", "1"});
+        QCOMPARE(field->presses, 1);
+        point({"mousemove", "1", "1"});
+        QTRY_VERIFY(!field->underMouse());
+    }
+};
+
+QTEST_MAIN(tst_Drag)
+
+#include "tst_drag.moc"
