@@ -2,6 +2,7 @@
 #include "Host/Gallery/Pages.h"
 
 #include "Host/Gallery/ButtonPage.h"
+#include "Host/Gallery/DragPage.h"
 #include "Host/Gallery/ImportPage.h"
 #include "Host/Gallery/LanguagePage.h"
 #include "Host/Gallery/RulerPage.h"
@@ -30,6 +31,10 @@ const QVector<GalleryPage>& GalleryPages()
          QT_TRANSLATE_NOOP("Gallery", "Drag, use the wheel, or the arrow keys."), Make<SliderPage>},
         {"buttons", QT_TRANSLATE_NOOP("Gallery", "Buttons and labels"),
          QT_TRANSLATE_NOOP("Gallery", "The last line tells what they signal."), Make<ButtonPage>},
+        {"drag-values", QT_TRANSLATE_NOOP("Gallery", "Drag values"),
+         QT_TRANSLATE_NOOP("Gallery", "Drag on a number, with Shift faster, with Ctrl slower; a "
+                                      "click edits it."),
+         Make<DragPage>},
         {"import", QT_TRANSLATE_NOOP("Gallery", "Import"),
          QT_TRANSLATE_NOOP("Gallery", "Copies media from cameras, phones and cards."),
          Make<ImportPage>},
