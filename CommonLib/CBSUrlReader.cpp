@@ -6,9 +6,7 @@
 
 #include <QLibrary>
 
-#include <algorithm>
 #include <array>
-#include <string>
 
 namespace {
 
@@ -71,7 +69,5 @@ QString CBSUrlReader::ReadCustomerUrl(const QString& first, const QString& secon
     // The order is crossed: the function takes the name within the group first.
     if (read(ToWide(second).c_str(), ToWide(first).c_str(), buffer.data(), kCapacity, 0, 0) == 0)
         return QString();
-    // A module may have left no room for the zero.
-    const auto end = std::find(buffer.cbegin(), buffer.cend(), L'\0');
-    return FromWide(std::wstring(buffer.cbegin(), end).c_str());
+    return FromWide(buffer);
 }

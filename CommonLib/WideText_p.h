@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cwchar>
 #include <string>
@@ -34,4 +36,12 @@ inline QString FromWide(const wchar_t* text)
         out[i] = QChar(static_cast<ushort>(code));
     }
     return result;
+}
+
+/// The text in a buffer that others have filled, perhaps without a terminating zero.
+template <std::size_t Size>
+QString FromWide(const std::array<wchar_t, Size>& buffer)
+{
+    const auto end = std::find(buffer.begin(), buffer.end(), L'\0');
+    return FromWide(std::wstring(buffer.begin(), end).c_str());
 }

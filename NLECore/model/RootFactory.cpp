@@ -4,6 +4,7 @@
 #include "NLECore/media/MediaLog.h"
 #include "NLECore/model/DocumentSerialize.h"
 #include "NLECore/model/EngineLog.h"
+#include "NLECore/model/FontLibrary.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/PropertyBag.h"
 #include "NLECore/model/TimelineFactory.h"
@@ -54,7 +55,7 @@ HRESULT RootFactory::GetTimelineFactory(INLETimelineFactory** factory)
 
 HRESULT RootFactory::GetFontLibrary(INLEFontLibrary** library)
 {
-    return Refuse(library);
+    return Make<FontLibrary>(library);
 }
 
 HRESULT RootFactory::GetSystemConfig(INLESystemConfig** config)

@@ -2,6 +2,7 @@
 #include "NLECore/model/SourceNodes.h"
 
 #include "NLECore/media/DecoderPool.h"
+#include "NLECore/media/FontFiles.h"
 #include "NLECore/model/FrameMath.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/render/Decoders.h"
@@ -194,7 +195,7 @@ void TextClip::Describe(Layer& layer) const
 {
     layer.kind = LayerKind::Text;
     layer.text = m_text;
-    layer.family = m_family;
+    layer.family = Fonts().Provide(m_family);
 }
 
 } // namespace nle

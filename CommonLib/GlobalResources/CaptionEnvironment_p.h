@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+// Not part of the library's interface.
+
+#include "CommonLib/GlobalResources/ICaptionEnvironment.h"
+#include "EngineApi/INLEFactory.h"
+#include "EngineApi/NLEComPtr.h"
+
+class CaptionEnvironment : public ICaptionEnvironment
+{
+public:
+    CaptionEnvironment();
+    CaptionEnvironment(const CaptionEnvironment&) = delete;
+    CaptionEnvironment& operator=(const CaptionEnvironment&) = delete;
+
+    void Release() override;
+    INLEFactory* GetFactory() override;
+    const QList<CaptionFont*>* GetFonts() override;
+    void AddFonts(const QString& folder) override;
+    void AddSystemFonts() override;
+    ~CaptionEnvironment() override;
+
+private:
+    void InitFontFolder();
+    void InitSystemFont();
+    void ClearFonts();
+
+    NLEComPtr<INLEFactory> m_factory;
+    NLEComPtr<INLEFontLibrary> m_library;
+    QList<CaptionFont*> m_fonts; ///< owned records
+};

@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/GlobalResources/ICaptionEnvironment.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/ScriptedFonts.h"
+#include "tests/support/ScriptedSession.h"
+#include "tests/support/TestFonts.h"
+
+#include <QDir>
+#include <QFontDatabase>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace Scripted;
+
+class tst_CaptionFonts : public QObject
+{
+    Q_OBJECT
+
+private:
+    Script& script = Script::Get();
+    const QString m_fonts = QCoreApplication::applicationDirPath() + "/Fonts/";
+
+    static NLEComPtr<FontLibrary> MakeLibrary(const QStringList& names)
+    {
+        auto library = MakeCom<FontLibrary>("fonts");
+        library->names = names;
+        Script::Get().results["factory.GetFontLibrary"] = library.query<IUnknown>();
+        return library;
+    }
+    static QStringList List(ICaptionEnvironment* environment)
+    {
+        QStringList list;
+        for (const CaptionFont* font : *environment->GetFonts())
+            list << font->name + '=' + font->family;
+        return list;
+    }
+    /// "Function: message" of each line.
+    static QStringList Messages(LogCapture& log)
+    {
+        QStringList lines = log.Take();
+        for (QString& line : lines)
+            line.replace(
+                QRegularExpression("-INFO- \\[CaptionEnvironment::(\\w+)\\]:  (.*) - "
+                                   "\\[CommonLib/GlobalResources/CaptionEnvironment\\(\\d+\\)\\]"),
+                "\\1: \\2");
+        return lines;
+    }
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        ICaptionEnvironment::GetInstance()->Release();
+        QDir(m_fonts).removeRecursively();
+        QCOMPARE(EndSession(), QStringList());
+    }
+
+    void start()
+    {
+        QVERIFY(QDir().mkpath(m_fonts));
+        const QByteArray serif = TestFonts::Serif();
+        const char* const files[] = {"a.TTF", "b.otfx", "c.txt", "broken.ttf"};
+        const char* const families[] = {"Caption A", "Caption B", "Caption C", ""};
+        for (int i = 0; i < 4; ++i)
+            QVERIFY(TestFonts::Write(m_fonts + files[i],
+                                     i == 3 ? "no font" : TestFonts::Renamed(serif, families[i])));
+        LogCapture log;
+        const auto library = MakeLibrary(
+            {"caption b", "Unknown", "Caption A", "Unknown", QString(300, 'x'), "Caption C"});
+        ICaptionEnvironment* environment = ICaptionEnvironment::GetInstance();
+        QCOMPARE(ICaptionEnvironment::GetInstance(), environment);
+        QCOMPARE(Text(environment->GetFactory()), QString("factory"));
+        const QString native = QDir::toNativeSeparators(m_fonts);
+        const QString setUp =
+            "module.DllGetClassObject(); classFactory.CreateInstance(null); factory.Init(0); "
+            "factory.GetFontLibrary(); fonts.SetCacheFile(" +
+            native +
+            "Cache.xml); "
+            "fonts.SetFontFolder(" +
+            native + "); fonts.GetFontCount()";
+        QCOMPARE(script.TakeCalls().join("; "),
+                 setUp + QString("; fonts.GetFontName(256)").repeated(6));
+        // Sorted; the toolkit's spelling where it has the font.
+        const QStringList expected = {"Caption A=Caption A", "Caption C=Caption C",
+                                      "Unknown=Unknown", "caption b=Caption B",
+                                      QString(256, 'x') + '=' + QString(256, 'x')};
+        QCOMPARE(List(environment), expected);
+        QVERIFY(!QFontDatabase().hasFamily("Caption C"));
+
+        ICaptionEnvironment::GetInstance()->Release();
+        QCOMPARE(script.TakeCalls(), QStringList("factory.Shutdown(1)"));
+        QCOMPARE(References(library.get()), 2u); // the script's and this one
+        QCOMPARE(Messages(log), QStringList("InitSystemFont: Fontcount:6"));
+    }
+
+    void addFonts_data()
+    {
+        QTest::addColumn<QString>("ending");
+        QTest::addColumn<QString>("given");
+        QTest::newRow("no separator") << "" << QString(QDir::separator());
+        QTest::newRow("slash") << "/" << QString(QDir::separator());
+    }
+
+    void addFonts()
+    {
+        QFETCH(QString, ending);
+        QFETCH(QString, given);
+        const QTemporaryDir folder;
+        const auto library = MakeLibrary({"B"});
+        LogCapture log;
+        ICaptionEnvironment* environment = ICaptionEnvironment::GetInstance();
+        script.TakeCalls();
+        library->names << "A"
+                       << "C";
+        environment->AddFonts(folder.path() + ending);
+        QCOMPARE(script.TakeCalls().first(),
+                 "fonts.AddFontFolder(" + QDir::toNativeSeparators(folder.path()) + given + ')');
+        QCOMPARE(List(environment), QStringList({"A=A", "B=B", "C=C"}));
+        library->names = QStringList("D");
+        environment->AddFonts(folder.path() + "/missing");
+        environment->AddFonts(QString());
+        QCOMPARE(environment->GetFonts()->size(), 3);
+        environment->AddSystemFonts();
+        const QStringList calls = {"fonts.LoadSystemFonts()", "fonts.GetFontCount()",
+                                   "fonts.GetFontName(256)"};
+        QCOMPARE(script.TakeCalls(), calls);
+        QCOMPARE(List(environment), QStringList("D=D"));
+        const QStringList messages = {"InitSystemFont: Fontcount:1",
+                                      "AddFonts: AddFonts Fontcount:1",
+                                      "InitSystemFont: Fontcount:3",
+                                      "AddFonts: AddFonts Fontcount:3",
+                                      "AddSystemFonts: LoadSystemFonts start",
+                                      "AddSystemFonts: LoadSystemFonts end",
+                                      "InitSystemFont: Fontcount:1"};
+        QCOMPARE(Messages(log), messages);
+    }
+
+    void failures_data()
+    {
+        QTest::addColumn<QString>("failing");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("no factory") << "classFactory.CreateInstance"
+                                    << "CaptionEnvironment: Font Factory failed";
+        QTest::newRow("no library") << "factory.GetFontLibrary"
+                                    << "CaptionEnvironment: m_pFontLibrary failed";
+        QTest::newRow("no count") << "fonts.GetFontCount"
+                                  << "InitSystemFont: Fontcount:0";
+        QTest::newRow("no names") << "fonts.GetFontName"
+                                  << "InitSystemFont: Fontcount:1";
+    }
+
+    void failures()
+    {
+        QFETCH(QString, failing);
+        QFETCH(QString, message);
+        LogCapture log;
+        const auto library = MakeLibrary({"A"});
+        script.statuses[failing] = E_FAIL;
+        ICaptionEnvironment* environment = ICaptionEnvironment::GetInstance();
+        QCOMPARE(environment->GetFactory() == nullptr, failing.startsWith("class"));
+        if (!failing.startsWith("fonts.")) {
+            script.TakeCalls();
+            environment->AddFonts(QDir::tempPath());
+            environment->AddSystemFonts();
+            QCOMPARE(script.TakeCalls(), QStringList());
+        }
+        QCOMPARE(List(environment), QStringList());
+        QCOMPARE(Messages(log), QStringList(message));
+    }
+};
+
+QTEST_MAIN(tst_CaptionFonts)
+#include "tst_caption_fonts.moc"

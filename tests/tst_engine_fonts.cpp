@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// The open engine's font library, and what text clips show of it.
+#include "EngineApi/INLEFactory.h"
+#include "tests/support/EngineFixture.h"
+#include "tests/support/TestFonts.h"
+
+#include <QFontDatabase>
+#include <QtTest>
+
+class tst_EngineFonts : public QObject
+{
+    Q_OBJECT
+
+private:
+    QScopedPointer<EngineFixture> m_engine;
+    NLEComPtr<INLEFontLibrary> m_library;
+
+    /// A second start, as far as the library can tell.
+    void Restart()
+    {
+        m_library.reset();
+        NLEComPtr<INLEFactory> factory;
+        CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
+                                                       INLEFactory::Iid, factory.putVoid());
+        QCOMPARE(factory->GetFontLibrary(m_library.put()), S_OK);
+        QCOMPARE(m_library->SetCacheFile(Path("Cache.xml").toStdWString().c_str()), S_OK);
+    }
+    QString Path(const char* name) const { return m_engine->Path(name); }
+    bool Put(const char* name, const QByteArray& font) const
+    {
+        return TestFonts::Write(Path(name), font);
+    }
+    QStringList Names() const
+    {
+        int count = -1;
+        m_library->GetFontCount(&count);
+        QStringList names;
+        for (int i = 0; i < count; ++i) {
+            wchar_t buffer[64];
+            if (m_library->GetFontName(i, buffer, 64) == S_OK)
+                names << QString::fromWCharArray(buffer);
+        }
+        return names;
+    }
+    HRESULT Scan() const
+    {
+        return m_library->SetFontFolder(m_engine->folder.path().toStdWString().c_str());
+    }
+    QImage Text(const char* family) const
+    {
+        const Node project = m_engine->Project();
+        m_engine->Add(project, m_engine->provider->CreateTipTextTimeline("Hamburg", family));
+        return m_engine->Frame(project, 0);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_engine.reset(new EngineFixture);
+        Restart();
+    }
+    void cleanup()
+    {
+        m_library.reset();
+        m_engine.reset();
+    }
+
+    void namesOfFiles()
+    {
+        const QByteArray serif = TestFonts::Serif();
+        QVERIFY(Put("b.ttf", TestFonts::Renamed(serif, "Files B")));
+        QVERIFY(Put("a.OTF", TestFonts::Renamed(serif, "Files A")));
+        QVERIFY(Put("c.ttc", TestFonts::Collection(TestFonts::Renamed(serif, "Files C1"),
+                                                   TestFonts::Renamed(serif, "Files C2"))));
+        QVERIFY(Put("d.ttf", TestFonts::Renamed(serif, "Files B")));
+        QVERIFY(Put("e.txt", serif) && Put("f.ttf", {}) && Put("g.ttf", "no font at all"));
+        QVERIFY(Put("h.ttf", serif.left(serif.size() / 3)) && QDir().mkdir(Path("i.ttf")));
+        QCOMPARE(Scan(), S_OK);
+        QCOMPARE(Names(), QStringList({"Files A", "Files B", "Files C1", "Files C2"}));
+        // Once more from the cache, and after changes.
+        Restart();
+        QCOMPARE(Scan(), S_OK);
+        QCOMPARE(Names(), QStringList({"Files A", "Files B", "Files C1", "Files C2"}));
+        QVERIFY(Put("g.ttf", TestFonts::Renamed(serif, "Files G")) && QFile::remove(Path("a.OTF")));
+        Restart();
+        QCOMPARE(Scan(), S_OK);
+        QCOMPARE(Names(), QStringList({"Files B", "Files C1", "Files C2", "Files G"}));
+        QVERIFY(!TestFonts::Read(Path("Cache.xml")).contains("Files A"));
+
+        wchar_t buffer[4];
+        QCOMPARE(m_library->GetFontName(0, buffer, 4), S_OK);
+        QCOMPARE(QString::fromWCharArray(buffer), QString("Fil"));
+        QVERIFY(FAILED(m_library->GetFontName(-1, buffer, 4)));
+        QVERIFY(FAILED(m_library->GetFontName(4, buffer, 4)));
+        QCOMPARE(m_library->AddFontFolder(Path("missing").toStdWString().c_str()), E_FAIL);
+        QCOMPARE(m_library->LoadSystemFonts(), S_OK);
+        QVERIFY(Names().contains("DejaVu Sans") && Names().first() == "Files B");
+        QCOMPARE(Names().removeDuplicates(), 0);
+    }
+
+    /// The cache is believed as long as a file looks the same; that also shows that it is used.
+    void cacheFile_data()
+    {
+        QTest::addColumn<QByteArray>("replace");
+        QTest::addColumn<QByteArray>("with");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("as written") << QByteArray("zzz") << QByteArray() << "Cache A";
+        QTest::newRow("another family")
+            << QByteArray(">Cache A<") << QByteArray(">Told<") << "Told";
+        QTest::newRow("another size")
+            << QByteArray("size=\"") << QByteArray("size=\"1") << "Cache A";
+        QTest::newRow("another root")
+            << QByteArray("FontCache") << QByteArray("Other") << "Cache A";
+        QTest::newRow("damaged") << QByteArray("</FontCache>") << QByteArray("</") << "Cache A";
+        QTest::newRow("binary") << QByteArray("<") << QByteArray("\0\xff", 2) << "Cache A";
+    }
+
+    void cacheFile()
+    {
+        QFETCH(QByteArray, replace);
+        QFETCH(QByteArray, with);
+        QVERIFY(Put("a.ttf", TestFonts::Renamed(TestFonts::Serif(), "Cache A")));
+        QCOMPARE(Scan(), S_OK);
+        const QByteArray written = TestFonts::Read(Path("Cache.xml"));
+        QVERIFY(written.contains("Cache A"));
+        QVERIFY(Put("Cache.xml", QByteArray(written).replace(replace, with)));
+        Restart();
+        QCOMPARE(Scan(), S_OK);
+        QTEST(Names().join(','), "expected");
+        if (QTest::currentDataTag() != QByteArray("another family"))
+            QCOMPARE(TestFonts::Read(Path("Cache.xml")), written);
+    }
+
+    void unusableCacheFiles()
+    {
+        QVERIFY(Put("a.ttf", TestFonts::Renamed(TestFonts::Serif(), "Unusable A")));
+        QVERIFY(QDir().mkdir(Path("Cache.xml")));
+        Restart();
+        QCOMPARE(Scan(), S_OK);
+        QCOMPARE(Names(), QStringList("Unusable A"));
+        QVERIFY(QDir().rmdir(Path("Cache.xml")) && QFile::link("/dev/zero", Path("Cache.xml")));
+        Restart();
+        QCOMPARE(Scan(), S_OK);
+        QCOMPARE(Names(), QStringList("Unusable A"));
+    }
+
+    void textClipsUseThem()
+    {
+        const QImage fallback = Text("Shown Serif");
+        QVERIFY(fallback != Text("DejaVu Serif"));
+        const char* const name = "a.ttf";
+        QVERIFY(Put(name, TestFonts::Renamed(TestFonts::Serif(), "Shown Serif")));
+        QCOMPARE(Scan(), S_OK);
+        QCOMPARE(Text("Shown Serif"), Text("DejaVu Serif"));
+
+        // At a second start the cache alone knows it; the toolkit learns of it when a clip asks.
+        QVERIFY(Put("b.ttf", TestFonts::Renamed(TestFonts::Serif(), "Shown Later")));
+        const QFileInfo file(Path("b.ttf"));
+        const QString cache = "<FontCache><Font file='%1' size='%2' modified='%3'>"
+                              "<Family>Shown Later</Family></Font></FontCache>";
+        const qint64 modified = file.lastModified().toMSecsSinceEpoch();
+        QVERIFY(Put("Cache.xml",
+                    cache.arg(file.absoluteFilePath()).arg(file.size()).arg(modified).toUtf8()));
+        Restart();
+        QCOMPARE(Scan(), S_OK);
+        QVERIFY(Names().contains("Shown Later"));
+        QVERIFY(!QFontDatabase().hasFamily("Shown Later"));
+        QCOMPARE(Text("Shown Later"), Text("DejaVu Serif"));
+    }
+};
+
+QTEST_MAIN(tst_EngineFonts)
+#include "tst_engine_fonts.moc"
