@@ -14,7 +14,7 @@ class Customization
 {
 public:
     /// Longest file that is read, in bytes.
-    static constexpr qint64 kLongestFile = 4 * 1024 * 1024;
+    static constexpr qint64 kLongestFile = qint64(4) * 1024 * 1024;
 
     /// Reads a file. Whatever was read before is forgotten, also when this fails: the path names no
     /// regular file, the file cannot be read, is longer than kLongestFile, is not well-formed XML

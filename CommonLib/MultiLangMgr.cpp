@@ -24,7 +24,7 @@ const char s_nameKey[] = "System/DefInstallLang";
 const char s_productKey[] = "System/ProductID";
 
 /// An ini file of ours is far shorter; the toolkit would read all of a longer one into memory.
-constexpr qint64 kLongestConfig = 1024 * 1024;
+constexpr qint64 kLongestConfig = qint64(1024) * 1024;
 
 /// Creates an empty file; one that exists keeps what it holds.
 void CreateWhenMissing(const QString& path)

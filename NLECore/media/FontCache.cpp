@@ -15,7 +15,7 @@ namespace nle {
 namespace {
 
 /// Longer than any that is written for a machine's fonts, in bytes.
-constexpr qint64 kLongestFile = 64 * 1024 * 1024;
+constexpr qint64 kLongestFile = qint64(64) * 1024 * 1024;
 
 const QString kRoot = QStringLiteral("FontCache");
 const QString kFont = QStringLiteral("Font");
