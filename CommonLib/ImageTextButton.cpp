@@ -25,6 +25,7 @@ enum ImageAlign
 ImageTextButton::ImageTextButton(int id, const QString& name, QWidget* parent)
     : QWidget(parent), m_text(new QLabel(this)), m_image(new BaseButton(id, name, this))
 {
+    setAttribute(Qt::WA_StyledBackground);
     m_text->setObjectName(QStringLiteral("ImageTextButton_Text"));
     m_text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     // Else the text would lose its hover style to the image and swallow nothing in exchange.

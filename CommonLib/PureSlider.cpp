@@ -97,12 +97,12 @@ void PureSlider::paintEvent(QPaintEvent*)
     const qint64 range = qint64(m_maximum) - m_minimum;
     const auto filled = static_cast<int>(width() * (qint64(m_value) - m_minimum) / range);
     painter.fillRect(0, 0, filled, height(), m_subpageColor);
-    painter.setPen(m_borderColor);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    if (m_keyboardFocus) {
-        painter.setPen(palette().color(QPalette::Highlight));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
+    // A frame one pixel wide. In strips, as a pen would straddle the edge at other scales than 1.
+    const QColor frame = m_keyboardFocus ? palette().color(QPalette::Highlight) : m_borderColor;
+    painter.fillRect(0, 0, width(), 1, frame);
+    painter.fillRect(0, height() - 1, width(), 1, frame);
+    painter.fillRect(0, 0, 1, height(), frame);
+    painter.fillRect(width() - 1, 0, 1, height(), frame);
     if (!isEnabled())
         painter.fillRect(rect(), QColor::fromRgba(kDisabledVeil));
 }

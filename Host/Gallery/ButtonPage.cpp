@@ -8,6 +8,7 @@
 #include "CommonLib/MagicLabel.h"
 #include "Host/Gallery/Symbols.h"
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 
@@ -15,9 +16,11 @@ namespace {
 
 constexpr int kIcon = 18;
 constexpr int kSquare = 32;
+constexpr QSize kWide(136, 32); // an ImageTextButton beside, and above or below its text
+constexpr QSize kTall(72, 96);
 constexpr int kTabIcon = 26;
 constexpr int kCaptionWidth = 110;
-constexpr int kRowGap = 18;
+constexpr int kRowGap = 22;
 const QColor kLine(0xd5, 0xd8, 0xdc);
 const QColor kQuiet(0x92, 0x99, 0xa1);
 const QColor kAccent(0x4d, 0xa3, 0xff);
@@ -34,6 +37,8 @@ QHBoxLayout* MakeRow(QWidget* box)
 
 ButtonPage::ButtonPage(QWidget* parent) : QWidget(parent), m_told(new QLabel(this))
 {
+    // Else the toolkit asks icons for few pixels on a dense screen.
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setColumnMinimumWidth(0, kCaptionWidth);
@@ -80,6 +85,7 @@ QWidget* ButtonPage::MakeButtons()
     add(2, tr("With icon"))->setIcon(SymbolIcon(Symbol::Import, kLine));
     BaseButton* icon = add(3, {});
     icon->setIcon(SymbolIcon(Symbol::Star, kLine));
+    icon->setFixedWidth(kSquare);
     icon->setToolTip(tr("Favourite"));
     BaseButton* checked = add(4, tr("Checked"));
     checked->setCheckable(true);
@@ -134,11 +140,11 @@ QWidget* ButtonPage::MakeImagesAndTexts()
         layout->addWidget(button);
         return button;
     };
-    add(0, tr("Image left"), QSize(120, 30));
-    add(1, tr("On top"), QSize(64, 84));
-    add(2, tr("Image right"), QSize(120, 30));
-    add(3, tr("Below"), QSize(64, 84));
-    add(0, tr("Disabled"), QSize(120, 30))->setEnabled(false);
+    add(0, tr("Image left"), kWide);
+    add(1, tr("On top"), kTall);
+    add(2, tr("Image right"), kWide);
+    add(3, tr("Below"), kTall);
+    add(0, tr("Disabled"), kWide)->setEnabled(false);
     layout->addStretch(1);
     return box;
 }
