@@ -43,25 +43,24 @@ protected:
     void paintEvent(QPaintEvent* event) override
     {
         BaseButton::paintEvent(event);
+        // In pixels of the screen. A stroke as odd or even as the button lies in its middle.
         const double scale = devicePixelRatioF();
-        const int side = qRound(qMin(width(), height()) * scale);
-        // A stroke as odd or even as the side lies in the middle.
+        const QSize button(qRound(width() * scale), qRound(height() * scale));
+        const int side = qMin(button.width(), button.height());
         int stroke = qMax(1, qRound(side * kStroke));
         stroke += (side - stroke) % 2;
         int arm = qRound(side * kArm);
         arm += (arm - stroke) % 2;
-        QRectF across(0, 0, arm / scale, stroke / scale);
-        across.moveTo((qRound(width() * scale) - arm) / 2 / scale,
-                      (qRound(height() * scale) - stroke) / 2 / scale);
-        QRectF down(0, 0, stroke / scale, arm / scale);
-        down.moveTo((qRound(width() * scale) - stroke) / 2 / scale,
-                    (qRound(height() * scale) - arm) / 2 / scale);
+        const auto bar = [&](int length, int thickness) {
+            const QPoint corner((button.width() - length) / 2, (button.height() - thickness) / 2);
+            return QRectF(QPointF(corner) / scale, QSizeF(length, thickness) / scale);
+        };
 
         QPainter painter(this);
         const QColor color = palette().color(QPalette::ButtonText);
-        painter.fillRect(across, color);
+        painter.fillRect(bar(arm, stroke), color);
         if (m_sign == Sign::Plus)
-            painter.fillRect(down, color);
+            painter.fillRect(bar(stroke, arm), color);
     }
 
 private:
