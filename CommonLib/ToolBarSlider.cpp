@@ -371,6 +371,8 @@ void ToolBarSlider::SetCanSeek(bool canSeek)
 // sender of the event still needs.
 void ToolBarSlider::CancelHold()
 {
+    if (m_acceptSetValue)
+        return;
     QMetaObject::invokeMethod(
         this,
         [this] {

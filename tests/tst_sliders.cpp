@@ -340,21 +340,24 @@ private slots:
     {
         struct Counter : QObject
         {
-            int moves = 0;
+            int moves = 0, calls = 0;
             bool eventFilter(QObject*, QEvent* event) override
             {
                 moves += event->type() == QEvent::Move || event->type() == QEvent::Resize;
+                calls += event->type() == QEvent::MetaCall;
                 return false;
             }
         } counter;
         Bar bar;
         bar.ChunkAt();
         bar.chunk->installEventFilter(&counter);
+        bar.installEventFilter(&counter);
         for (int i = 1; i <= 10000; ++i)
             bar.setValue(i / 200.0F, false);
         QCOMPARE(counter.moves, 0);
         QCOMPARE(bar.ChunkAt(), 100);
         QCOMPARE(counter.moves, 1);
+        QCOMPARE(counter.calls, 1);
     }
 
     void highlight()
