@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kIcon = 18;
 constexpr int kSquare = 32;
-constexpr QSize kWide(136, 32); // an ImageTextButton beside, and above or below its text
+constexpr QSize kWide(148, 32); // an ImageTextButton beside, and above or below its text
 constexpr QSize kTall(72, 96);
 constexpr int kTabIcon = 26;
 constexpr int kCaptionWidth = 110;
