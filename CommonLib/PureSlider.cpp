@@ -61,27 +61,33 @@ int PureSlider::GetValue() const
     return m_value;
 }
 
-void PureSlider::SetColor(QColor& which, const QColor& color)
+void PureSlider::Style(QColor& color, bool isFixed, const QColor& styled)
 {
-    // A style sheet has its say first, so that it does not replace the colour when it is applied.
-    ensurePolished();
-    which = color;
+    if (isFixed)
+        return;
+    color = styled;
     update();
 }
 
 void PureSlider::SetBorderColor(const QColor& color)
 {
-    SetColor(m_borderColor, color);
+    m_borderFixed = true;
+    m_borderColor = color;
+    update();
 }
 
 void PureSlider::SetSubpageColor(const QColor& color)
 {
-    SetColor(m_subpageColor, color);
+    m_subpageFixed = true;
+    m_subpageColor = color;
+    update();
 }
 
 void PureSlider::SetAddpageColor(const QColor& color)
 {
-    SetColor(m_addpageColor, color);
+    m_addpageFixed = true;
+    m_addpageColor = color;
+    update();
 }
 
 QSize PureSlider::sizeHint() const

@@ -15,9 +15,9 @@ struct SliderSteps;
 class COMMONLIB_EXPORT PureSlider : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QColor borderColor MEMBER m_borderColor WRITE SetBorderColor)
-    Q_PROPERTY(QColor subpageColor MEMBER m_subpageColor WRITE SetSubpageColor)
-    Q_PROPERTY(QColor addpageColor MEMBER m_addpageColor WRITE SetAddpageColor)
+    Q_PROPERTY(QColor borderColor MEMBER m_borderColor WRITE StyleBorder)
+    Q_PROPERTY(QColor subpageColor MEMBER m_subpageColor WRITE StyleSubpage)
+    Q_PROPERTY(QColor addpageColor MEMBER m_addpageColor WRITE StyleAddpage)
 
 public:
     explicit PureSlider(QWidget* parent);
@@ -54,7 +54,11 @@ protected:
 
 private:
     void FollowMouse(QMouseEvent* event, int x);
-    void SetColor(QColor& which, const QColor& color);
+    // A colour from a style sheet, for as long as the host sets none.
+    void Style(QColor& color, bool isFixed, const QColor& styled);
+    void StyleBorder(const QColor& color) { Style(m_borderColor, m_borderFixed, color); }
+    void StyleSubpage(const QColor& color) { Style(m_subpageColor, m_subpageFixed, color); }
+    void StyleAddpage(const QColor& color) { Style(m_addpageColor, m_addpageFixed, color); }
     SliderSteps Steps() const;
 
     int m_value = 0;
@@ -63,6 +67,9 @@ private:
     QColor m_borderColor = Qt::gray;
     QColor m_subpageColor = Qt::red;
     QColor m_addpageColor = Qt::white;
+    bool m_borderFixed = false;
+    bool m_subpageFixed = false;
+    bool m_addpageFixed = false;
     double m_wheelRest = 0; // part of a step that the wheel has turned
     bool m_keyboardFocus = false;
 };

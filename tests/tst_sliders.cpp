@@ -542,7 +542,9 @@ private slots:
         QCOMPARE(line(), QString("#a0a0a4 #ff0000 #ff0000 #ffffff #ffffff #a0a0a4"));
         slider.SetBorderColor(Qt::blue);
         slider.SetSubpageColor(Qt::black);
-        slider.SetAddpageColor(Qt::green);
+        // A colour of the host wins over the sheet's.
+        slider.setStyleSheet("PureSlider { qproperty-addpageColor: #00ff00;"
+                             "qproperty-subpageColor: red; qproperty-borderColor: red }");
         QCOMPARE(line(), QString("#0000ff #000000 #000000 #00ff00 #00ff00 #0000ff"));
         slider.setEnabled(false); // (240, 240, 240) at 150 of 255 over each
         QCOMPARE(line(), QString("#8d8df6 #8d8d8d #8d8d8d #8df68d #8df68d #8d8df6"));
