@@ -202,9 +202,9 @@ private slots:
         window.resize(40, 40);
         BaseStateButton states(1, "states", &window);
         states.resize(40, 40);
-        const QImage image = window.grab().toImage();
-        for (const QPoint at : {QPoint(0, 0), QPoint(20, 20), QPoint(39, 39)})
-            QCOMPARE(image.pixelColor(at), QColor(Qt::red));
+        QImage red(40, 40, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        QCOMPARE(window.grab().toImage().convertToFormat(QImage::Format_RGB32), red);
     }
 
     void language()
