@@ -23,11 +23,13 @@
 #include <functional>
 #include <vector>
 
+#include <sys/resource.h>
+
 namespace {
 
 using Node = NLEComPtr<INLETimeline>;
 
-constexpr int kFrames = 500;
+constexpr int kFrames = 300;
 constexpr int kRounds = 3;
 constexpr NLESize kSize = {960, 540};
 
@@ -53,6 +55,38 @@ double MillisecondsOf(const std::function<void()>& work)
     timer.start();
     work();
     return double(timer.nsecsElapsed()) / 1e6;
+}
+
+/// Seconds, and seconds of processors, that a piece of work took.
+struct Cost
+{
+    double wall;
+    double processor;
+};
+
+Cost CostOf(int who, const std::function<void()>& work)
+{
+    const auto processor = [who] {
+        rusage usage = {};
+        getrusage(who, &usage);
+        return double(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
+               double(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
+    };
+    const double before = processor();
+    const double wall = MillisecondsOf(work) / 1e3;
+    return {wall, processor() - before};
+}
+
+/// Medians of several runs.
+Cost Median(const std::vector<Cost>& costs)
+{
+    std::vector<double> wall;
+    std::vector<double> processor;
+    for (const Cost& cost : costs) {
+        wall.push_back(cost.wall);
+        processor.push_back(cost.processor);
+    }
+    return {Median(wall), Median(processor)};
 }
 
 /// What the process held in memory at the most since the last call, in MiB.
@@ -148,9 +182,9 @@ void RunPeer(const QString& program, const QStringList& arguments)
 
 void RunMelt(const QString& document, const QString& output)
 {
-    RunPeer("melt",
-            {"-silent", document, "-consumer", "avformat:" + output, "vcodec=mjpeg", "qscale=3",
-             "pix_fmt=yuvj420p", "s=960x540", "an=1", "real_time=-2", "progress=0"});
+    RunPeer("melt", {"-silent", document, "-consumer", "avformat:" + output, "vcodec=mjpeg",
+                     "qscale=3", "pix_fmt=yuvj420p", "s=960x540", "an=1", "real_time=-2",
+                     "progressive=1", "progress=0"});
 }
 
 void RunPlainFfmpeg(const QString& media, const QString& output)
@@ -167,29 +201,33 @@ void CompareRendering(const char* title, const QString& media, int layers, const
     const QString output = folder.filePath("peer.avi");
     Provider()->CreateDocumentSerialize()->Save(project.get(), document.toStdWString().c_str());
     Cache cache(project, folder.filePath("cache"));
-    std::vector<double> own;
-    std::vector<double> melt;
-    std::vector<double> ffmpeg;
+    std::vector<Cost> own;
+    std::vector<Cost> melt;
+    std::vector<Cost> ffmpeg;
     TakePeakMemory();
     for (int round = 0; round < kRounds; ++round) {
-        own.push_back(MillisecondsOf([&] { cache.Render(); }));
-        melt.push_back(MillisecondsOf([&] { RunMelt(document, output); }));
+        own.push_back(CostOf(RUSAGE_SELF, [&] { cache.Render(); }));
+        melt.push_back(CostOf(RUSAGE_CHILDREN, [&] { RunMelt(document, output); }));
         if (layers == 1)
-            ffmpeg.push_back(MillisecondsOf([&] { RunPlainFfmpeg(media, output); }));
+            ffmpeg.push_back(CostOf(RUSAGE_CHILDREN, [&] { RunPlainFfmpeg(media, output); }));
     }
-    const auto rate = [](const std::vector<double>& times) {
-        return kFrames * 1e3 / Median(times);
+    const Cost mine = Median(own);
+    std::printf(
+        "%s: own %.0f frames a second, %.1f ms of processor a frame, at the most %.0f MiB\n", title,
+        kFrames / mine.wall, mine.processor * 1e3 / kFrames, TakePeakMemory());
+    const auto compare = [&mine](const char* name, const Cost& peer) {
+        std::printf("  %-6s %.0f frames a second, ratio %.2f; %.1f ms of processor, ratio %.2f\n",
+                    name, kFrames / peer.wall, peer.wall / mine.wall,
+                    peer.processor * 1e3 / kFrames, peer.processor / mine.processor);
     };
-    std::printf("%s: own %.0f frames a second, melt %.0f, ratio %.2f", title, rate(own), rate(melt),
-                rate(own) / rate(melt));
+    compare("melt", Median(melt));
     if (layers == 1)
-        std::printf(", ffmpeg %.0f, ratio %.2f", rate(ffmpeg), rate(own) / rate(ffmpeg));
-    std::printf("; own peak memory %.0f MiB\n", TakePeakMemory());
+        compare("ffmpeg", Median(ffmpeg));
 }
 
 double FrameTime(const Node& project, int flags, const NLESize& size)
 {
-    constexpr int Count = 200;
+    constexpr int Count = 60;
     const auto picture = Provider()->CreateVideoFrame(size.width, size.height);
     const auto extractor = Provider()->CreateFrameExtractor();
     picture->Prepare();
@@ -255,13 +293,14 @@ void MeasureLargeProject(const QString& media, const QDir& folder)
     }
     Cache cache(project, folder.filePath("cache"));
     cache.engine->Update();
-    std::vector<double> updates;
+    std::vector<Cost> updates;
     for (int round = 0; round < 31; ++round) {
         clips[size_t(round) * 300].query<INLEBlendSetting>()->SetAlpha(100 + round);
-        updates.push_back(MillisecondsOf([&] { cache.engine->Update(); }));
+        updates.push_back(CostOf(RUSAGE_THREAD, [&] { cache.engine->Update(); }));
     }
-    std::printf("%d clips: analysis after one edit %.2f ms, at the most %.2f ms\n", Clips,
-                Median(updates), Largest(updates));
+    const Cost update = Median(updates);
+    std::printf("%d clips: analysis after one edit %.2f ms, %.2f ms of processor\n", Clips,
+                update.wall * 1e3, update.processor * 1e3);
 
     cache.Start();
     std::vector<double> edits;

@@ -23,20 +23,17 @@ struct MurmurFreer
 ContentHash& ContentHash::Add(const QString& text)
 {
     Add(text.size());
-    m_bytes.append(reinterpret_cast<const char*>(text.constData()),
-                   text.size() * int(sizeof(QChar)));
-    return *this;
+    return AddBytes(text.constData(), std::size_t(text.size()) * sizeof(QChar));
 }
 
-ContentKey ContentHash::Of(const QByteArray& bytes)
+ContentKey ContentHash::Of(const void* bytes, std::size_t size)
 {
     static thread_local const std::unique_ptr<AVMurMur3, MurmurFreer> state(av_murmur3_alloc());
     if (!state)
         return {};
     std::uint8_t result[16];
     av_murmur3_init(state.get());
-    av_murmur3_update(state.get(), reinterpret_cast<const std::uint8_t*>(bytes.constData()),
-                      std::size_t(bytes.size()));
+    av_murmur3_update(state.get(), static_cast<const std::uint8_t*>(bytes), size);
     av_murmur3_final(state.get(), result);
     ContentKey key;
     std::memcpy(&key.high, result, sizeof key.high);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 
 #include <cstdint>
 #include <type_traits>
+#include <vector>
 
 namespace nle {
 
@@ -33,22 +33,32 @@ struct ContentKeyHash
 class ContentHash
 {
 public:
+    ContentHash() { m_bytes.reserve(kUsualSize); }
+
     /// Numbers and enumerations only: records have gaps of unknown content.
     template <typename T>
     ContentHash& Add(T value)
     {
         static_assert(std::is_arithmetic_v<T> || std::is_enum_v<T>, "one value at a time");
-        m_bytes.append(reinterpret_cast<const char*>(&value), int(sizeof(T)));
-        return *this;
+        return AddBytes(&value, sizeof(T));
     }
     ContentHash& Add(const ContentKey& key) { return Add(key.high).Add(key.low); }
     ContentHash& Add(const QString& text);
 
-    ContentKey Result() const { return Of(m_bytes); }
-    static ContentKey Of(const QByteArray& bytes);
+    ContentKey Result() const { return Of(m_bytes.data(), m_bytes.size()); }
+    static ContentKey Of(const void* bytes, std::size_t size);
 
 private:
-    QByteArray m_bytes;
+    static constexpr std::size_t kUsualSize = 256;
+
+    ContentHash& AddBytes(const void* bytes, std::size_t size)
+    {
+        const auto* first = static_cast<const std::uint8_t*>(bytes);
+        m_bytes.insert(m_bytes.end(), first, first + size);
+        return *this;
+    }
+
+    std::vector<std::uint8_t> m_bytes;
 };
 
 } // namespace nle

@@ -15,7 +15,7 @@ constexpr int kMostPictures = 100000;
 
 quint32 Checksum(const QByteArray& bytes)
 {
-    return quint32(ContentHash::Of(bytes).low);
+    return quint32(ContentHash::Of(bytes.constData(), std::size_t(bytes.size())).low);
 }
 
 qint64 ContentsSize(std::size_t count)

@@ -72,18 +72,25 @@ ContentKey LayerKeys::Of(const Layer& layer)
 
 ContentKey LayerKeys::OfMedia(const MediaInfo& media)
 {
-    ContentHash described;
-    described.Add(media.path).Add(media.fileSize).Add(media.modifiedMs).Add(media.videoStream);
-    ContentKey& key = m_files[media.path.toStdString()];
-    if (key == ContentKey()) {
-        const QFileInfo file(media.path);
-        const bool isThere = file.isFile();
-        ContentHash stamp;
-        stamp.Add(isThere ? file.size() : qint64(-1));
-        stamp.Add(isThere ? file.lastModified().toMSecsSinceEpoch() : qint64(0));
-        key = stamp.Result();
-    }
-    return described.Add(key).Result();
+    const auto known = m_media.find(&media);
+    if (known != m_media.end())
+        return known->second;
+    ContentHash hash;
+    hash.Add(media.path).Add(media.fileSize).Add(media.modifiedMs).Add(media.videoStream);
+    return m_media[&media] = hash.Add(OfFile(media.path)).Result();
+}
+
+ContentKey LayerKeys::OfFile(const QString& path)
+{
+    const auto known = m_files.find(path);
+    if (known != m_files.end())
+        return known->second;
+    const QFileInfo file(path);
+    const bool isThere = file.isFile();
+    ContentHash hash;
+    hash.Add(isThere ? file.size() : qint64(-1));
+    hash.Add(isThere ? file.lastModified().toMSecsSinceEpoch() : qint64(0));
+    return m_files[path] = hash.Result();
 }
 
 } // namespace nle

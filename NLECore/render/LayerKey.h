@@ -4,6 +4,7 @@
 #include "NLECore/media/ContentHash.h"
 #include "NLECore/model/Layer.h"
 
+#include <map>
 #include <unordered_map>
 
 namespace nle {
@@ -23,9 +24,11 @@ public:
 
 private:
     ContentKey OfMedia(const MediaInfo& media);
+    ContentKey OfFile(const QString& path);
 
     std::unordered_map<const Layer*, ContentKey> m_layers;
-    std::unordered_map<std::string, ContentKey> m_files;
+    std::unordered_map<const MediaInfo*, ContentKey> m_media;
+    std::map<QString, ContentKey> m_files;
 };
 
 } // namespace nle
