@@ -206,6 +206,19 @@ float RulerConvertor::FindZoom(int frames, int width) const
     return finest >= 0 ? kDefaultMaxZoom : Zoom();
 }
 
+float RulerConvertor::ZoomToShow(int frames, int width) const
+{
+    for (const RulerSegment& segment : m_segments) {
+        const double framesPerBigTick =
+            static_cast<double>(segment.framesPerSmallTick) * segment.smallTicksPerBigTick;
+        const double zoom = segment.zoomMin + static_cast<double>(segment.bigTickPixels) -
+                            framesPerBigTick * width / frames;
+        if (zoom <= segment.zoomMax)
+            return std::max(segment.zoomMin, static_cast<float>(zoom));
+    }
+    return IsEmpty() ? Zoom() : m_segments.back().zoomMax;
+}
+
 int RulerConvertor::ZoomFromWidthAndTotaleFrames(int width, int frames)
 {
     if (frames == 0)

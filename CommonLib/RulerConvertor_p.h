@@ -95,6 +95,8 @@ public:
     void UpdateLabelInterval();
 
     float FindZoom(int frames, int width) const;
+    /// The lowest zoom of the table in use at which \a frames (above 0) show in \a width pixels.
+    float ZoomToShow(int frames, int width) const;
     /// May change the frames per small tick of a segment so that the whole range fits.
     int ZoomFromWidthAndTotaleFrames(int width, int frames);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/RulerDragAdjustManager_p.h"
 
+#include <QApplication>
+
 namespace {
 
 // A whole scale takes a few hundred pixels.
@@ -34,6 +36,11 @@ bool RulerDragAdjustManager::Move(const QPoint& to)
 {
     m_moved = m_moved || to != m_start;
     return m_moved;
+}
+
+bool RulerDragAdjustManager::IsBeyondClick(const QPoint& at) const
+{
+    return (at - m_start).manhattanLength() >= QApplication::startDragDistance();
 }
 
 float RulerDragAdjustManager::ZoomAt(const QPoint& at) const

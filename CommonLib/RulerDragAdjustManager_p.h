@@ -28,6 +28,8 @@ public:
     void Grab(const QPoint& at, double frame);
     /// Takes note of a move; true as soon as the mouse has left the place where it began.
     bool Move(const QPoint& to);
+    /// Whether \a at is too far from where the drag began for a click.
+    bool IsBeyondClick(const QPoint& at) const;
     void End() { m_drag = Drag::None; }
 
     /// The zoom that a zoom-and-scroll drag to \a at leads to, not yet limited.

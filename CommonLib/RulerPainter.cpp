@@ -139,7 +139,8 @@ void RulerPainter::PaintPointer(const QRect& clip)
     m_painter.setRenderHint(QPainter::Antialiasing, false);
     if (m_segment.drawCursorLine) {
         m_painter.setPen(QPen(color, m_segment.cursorLineWidth));
-        m_painter.drawLine(QPointF(x, m_segment.pointerHeight), QPointF(x, m_height));
+        m_painter.drawLine(QPointF(x, m_segment.pointerHeight),
+                           QPointF(x, m_segment.viewRect.bottom()));
     }
     if (m_segment.drawTimeText) {
         m_painter.setPen(m_segment.frameTextColor);

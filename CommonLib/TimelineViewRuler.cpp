@@ -214,9 +214,11 @@ void TimelineViewRuler::FitAll()
 {
     if (behaviour.totalFrames <= 0)
         return;
-    emit StartZoomChanged();
-    ZoomAbout(m_convertor.FindZoom(behaviour.totalFrames, width()), 0, 0);
-    emit EndZoomChanged();
+    const float zoom = m_convertor.ZoomToShow(behaviour.totalFrames, width());
+    if (m_convertor.BoundedZoom(zoom) == m_convertor.Zoom())
+        SetLeftEdge(0);
+    else
+        ZoomOnceAbout(zoom, 0, 0);
 }
 
 void TimelineViewRuler::wheelEvent(QWheelEvent* event)
@@ -276,6 +278,8 @@ void TimelineViewRuler::PressPlayHead(const QPoint& at)
 
 void TimelineViewRuler::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    if (m_drag.Active() != Drag::None)
+        return;
     // The system's own interval may be longer.
     const bool isDouble = event->button() == Qt::LeftButton && m_sincePress.isValid() &&
                           m_sincePress.elapsed() <= kDoubleClickInterval;
@@ -302,7 +306,8 @@ void TimelineViewRuler::mouseMoveEvent(QMouseEvent* event)
 
 void TimelineViewRuler::DragPlayHead(const QPoint& at)
 {
-    EndSingleClick();
+    if (m_drag.IsBeyondClick(at))
+        EndSingleClick();
     const bool isInside = at.x() >= 0 && at.x() < width();
     if (isInside) {
         m_scrollTimer.stop();

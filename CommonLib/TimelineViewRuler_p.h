@@ -8,6 +8,8 @@
 #include <QElapsedTimer>
 #include <QWidget>
 
+#include <limits>
+
 // Not part of the library's interface.
 
 /// The widget that draws a TimelineRuler and takes its mouse, wheel and keys. Signals tell of what
@@ -34,7 +36,7 @@ public:
         bool limitRange = false;
         int totalFrames = 0; ///< 0 when not known
         int rangeIn = 0;
-        int rangeOut = 0;
+        int rangeOut = std::numeric_limits<int>::max();
     };
     Behaviour behaviour;
 

@@ -619,6 +619,16 @@ private slots:
         ruler.Mouse(QEvent::MouseButtonDblClick, 50, 5);
         QCOMPARE(ruler.Zoom(), ruler.FindZoom(1000, kWidth));
         QCOMPARE(ruler.TakeLog(), QString("startZoom zoom endZoom"));
+        // With another table, and once more where nothing changes.
+        ruler.RebuildRulerConvertor({{100, 130, 40}});
+        for (const char* expected : {"startZoom zoom endZoom", ""}) {
+            ruler.Press(50);
+            ruler.Release(50);
+            ruler.TakeLog();
+            ruler.Mouse(QEvent::MouseButtonDblClick, 50, 5);
+            QCOMPARE(ruler.TakeLog(), QString(expected));
+            QVERIFY(qAbs(ruler.Frames2DurationF(1000) - kWidth) < 1);
+        }
         ruler.Press(50);
         ruler.Release(50);
         ruler.TakeLog();
