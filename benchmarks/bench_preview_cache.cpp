@@ -327,7 +327,7 @@ int main(int argc, char** argv)
     const QString failure = RunFfmpeg(
         {"-f", "lavfi", "-i", "testsrc2=size=1920x1080:rate=25,noise=alls=6:allf=t,format=yuv420p",
          "-frames:v", QString::number(kFrames), "-c:v", "libx264", "-preset", "veryfast", "-bf",
-         "3", media});
+         "3", "-g", "50", media});
     if (!failure.isEmpty() || !Provider()->CreateProjectTimeline()) {
         std::fprintf(stderr, "%s\n", qPrintable(failure));
         return 1;

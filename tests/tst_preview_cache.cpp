@@ -378,7 +378,8 @@ private slots:
             QCOMPARE(cache.engine->Stop(), S_OK);
         if (isFolderRemoved) {
             QTRY_VERIFY(!Files(m_folder, "*.nlechunk").isEmpty());
-            QDir(m_folder).removeRecursively();
+            // A chunk that comes in between keeps the folder.
+            QTRY_VERIFY(QDir(m_folder).removeRecursively() || !QFileInfo::exists(m_folder));
         }
         const long ended = cache.End();
         setrlimit(RLIMIT_FSIZE, &old);

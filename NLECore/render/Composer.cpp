@@ -248,23 +248,35 @@ QImage Composer::MediaPicture(const Layer& layer, std::int64_t frame, const QSiz
     return hasAlpha || image.isNull() ? image : AsOpaque(image);
 }
 
+const Layer* Composer::PlainBottom(const Layer& composite, std::int64_t frame,
+                                   const QSize& size) const
+{
+    const auto bottom =
+        std::find_if(composite.children.begin(), composite.children.end(),
+                     [frame](const Snapshot& child) { return Shows(*child, frame); });
+    if (bottom == composite.children.end() || (*bottom)->kind != LayerKind::Media)
+        return nullptr;
+    const Layer& layer = **bottom;
+    const MediaInfo& media = layer.proxy ? *layer.proxy : *layer.media;
+    const MediaStream* stream = media.Stream(media.videoStream);
+    const Placing placing = PlaceLayer(layer, nullptr, composite.size, size);
+    const bool isPlain = stream && !stream->hasAlpha && !layer.keyFrames &&
+                         (!layer.blend.enabled || layer.blend == BlendSettings()) &&
+                         placing.rotation == 0 &&
+                         placing.rect == QRectF(QPointF(0, 0), QSizeF(size));
+    return isPlain ? &layer : nullptr;
+}
+
 const AVFrame* Composer::PlainPicture(std::int64_t frame, const QSize& frameSize)
 {
-    const Layer* sole = nullptr;
-    for (const Snapshot& child : m_root->children) {
-        if (!Shows(*child, frame))
-            continue;
-        if (sole)
-            return nullptr;
-        sole = child.get();
-    }
-    const bool isFullSize = m_root->context.previewScale >= 1 && m_root->context.smooth;
-    if (!sole || sole->kind != LayerKind::Media || sole->keyFrames || !isFullSize ||
-        (sole->blend.enabled && !(sole->blend == BlendSettings())))
+    if (m_root->context.previewScale < 1 || !m_root->context.smooth)
         return nullptr;
     const QRect place = PlacePicture(m_root->size, NLEMargin_Fit, m_root->size, frameSize);
-    const Placing placing = PlaceLayer(*sole, nullptr, m_root->size, place.size());
-    if (placing.rotation != 0 || placing.rect != QRectF(QPointF(0, 0), place.size()))
+    const Layer* sole = PlainBottom(*m_root, frame, place.size());
+    const auto covers = [&](const Snapshot& child) {
+        return child.get() != sole && Shows(*child, frame);
+    };
+    if (!sole || std::any_of(m_root->children.begin(), m_root->children.end(), covers))
         return nullptr;
     int wanted = 0;
     FrameDecoder* decoder = DecoderOf(*sole, frame - sole->position + sole->range.in, &wanted);
@@ -276,11 +288,19 @@ const AVFrame* Composer::PlainPicture(std::int64_t frame, const QSize& frameSize
 
 QImage Composer::Composite(const Layer& layer, std::int64_t frame, const QSize& size)
 {
-    QImage canvas = ColorPicture(layer.argb, size);
+    // A picture that covers all others is the canvas for them.
+    const Layer* bottom = PlainBottom(layer, frame, size);
+    QImage canvas;
+    if (bottom)
+        canvas = MediaPicture(*bottom, frame - bottom->position + bottom->range.in, size);
+    if (canvas.isNull())
+        canvas = ColorPicture(layer.argb, size);
+    else
+        canvas.reinterpretAsFormat(QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&canvas);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, m_root->context.smooth);
     for (const Snapshot& child : layer.children) {
-        if (!Shows(*child, frame))
+        if (child.get() == bottom || !Shows(*child, frame))
             continue;
         const std::int64_t childFrame = frame - child->position + child->range.in;
         std::optional<NLEKeyFrameRecord> key;
