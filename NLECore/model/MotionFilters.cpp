@@ -39,7 +39,7 @@ QString Number(double value)
 std::vector<DocumentFilter> MotionFilters(const TimelineNode& node)
 {
     const bool isPlain = !node.KeyFrames().Curve() && node.Transform().settings.IsIdentity();
-    if (!node.Parent() || isPlain)
+    if (!node.Parent() || isPlain || node.PictureSize().width < 1)
         return {};
     const Snapshot layer = node.MakeSnapshot();
     const NLESize parent = node.Parent()->PictureSize();
@@ -56,14 +56,17 @@ std::vector<DocumentFilter> MotionFilters(const TimelineNode& node)
                                      Number(rect.height())}
                              .join(QLatin1Char(' '));
         turns << start + Number(placing.rotation);
-        opacities << start + Number(key.opacity);
-        isOpaque = isOpaque && key.opacity >= 1;
+        const double opacity = std::clamp(key.opacity, 0.0, 1.0);
+        opacities << start + Number(opacity);
+        isOpaque = isOpaque && opacity == 1;
     }
     const auto join = [](const QStringList& values) { return values.join(QLatin1Char(';')); };
     const QString one = QStringLiteral("1");
     std::vector<DocumentFilter> filters = {
         {{QStringLiteral("mlt_service"), QStringLiteral("affine")},
          {QStringLiteral("background"), QStringLiteral("color:#00000000")},
+         // Else the rectangle counts in pixels of the source and not in those of the profile.
+         {QStringLiteral("use_normalised"), one},
          {QStringLiteral("transition.distort"), one},
          {QStringLiteral("transition.repeat_off"), one},
          {QStringLiteral("transition.mirror_off"), one},
