@@ -1,18 +1,30 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-// What the settings of clips do to pixels and samples of the open engine.
+// What settings, key frames and other media of clips do to pixels and samples of the open engine.
+#include "CommonLib/CommonLib.h"
+#include "EngineApi/INLEKeyFrames.h"
 #include "EngineApi/INLEMixerSetting.h"
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/INLETransform.h"
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
 
+#include <QThread>
+
+#include <atomic>
 #include <complex>
 #include <functional>
+#include <map>
+#include <random>
 
 using Rule = std::function<double(double below, double above)>;
 using Change = std::function<void(INLEAudioStreamProcess&)>;
+using Setting = VideoKeyFrameSetting;
+using Param = VideoKeyFrameParam;
+using Params = QList<Param>;
+namespace Key = NLEKey::Context;
 Q_DECLARE_METATYPE(Rule)
 Q_DECLARE_METATYPE(Change)
+Q_DECLARE_METATYPE(Param)
 
 namespace {
 
@@ -43,6 +55,28 @@ NLEComPtr<Facility> Facet(const Node& node)
     return facility;
 }
 
+/// The context of a project.
+struct Context : NLETimelineContextPropertyService
+{
+    explicit Context(const Node& project) { m_basin = project.query<INLEBasin>(); }
+};
+
+/// Where \a frame is not black around and red within \a shown; empty when it is so.
+QString Misplaced(const QImage& frame, const QRect& shown, int red = 255)
+{
+    for (int y = 0; y < 180; ++y) {
+        for (int x = 0; x < 320; ++x) {
+            // To within one pixel: the edge itself may be either.
+            const bool inside = !shown.isEmpty() && shown.adjusted(1, 1, -1, -1).contains(x, y);
+            const bool outside = shown.isEmpty() || !shown.adjusted(-1, -1, 1, 1).contains(x, y);
+            const QColor pixel = frame.pixelColor(x, y);
+            if ((inside && qAbs(pixel.red() - red) > 1) || (outside && pixel != Qt::black))
+                return QString("%1 at %2, %3").arg(pixel.name()).arg(x).arg(y);
+        }
+    }
+    return {};
+}
+
 } // namespace
 
 class tst_EngineSettings : public QObject, private EngineFixture
@@ -55,6 +89,13 @@ class tst_EngineSettings : public QObject, private EngineFixture
         Node project = Project();
         Add(project, clip, position, level);
         return project;
+    }
+
+    static Node Trimmed(Node clip, int in, int out)
+    {
+        const NLERange range = {in, out};
+        clip->SetRange(&range);
+        return clip;
     }
 
     QString m_media = Path("clip.mkv");
@@ -106,18 +147,7 @@ private slots:
         QCOMPARE(transform->SetCenter(&place), S_OK);
         QCOMPARE(transform->SetScale(&size), S_OK);
         QCOMPARE(transform->SetRotation(rotation), S_OK);
-        const QImage frame = Frame(project, 0);
-        for (int y = 0; y < 180; ++y) {
-            for (int x = 0; x < 320; ++x) {
-                // To within one pixel: the edge itself may be either.
-                const bool inside = !shown.isEmpty() && shown.adjusted(1, 1, -1, -1).contains(x, y);
-                const bool outside =
-                    shown.isEmpty() || !shown.adjusted(-1, -1, 1, 1).contains(x, y);
-                const QRgb pixel = frame.pixel(x, y);
-                if ((inside && pixel != qRgb(255, 0, 0)) || (outside && pixel != qRgb(0, 0, 0)))
-                    QFAIL(qPrintable(QString("%1 at %2, %3").arg(pixel, 0, 16).arg(x).arg(y)));
-            }
-        }
+        QCOMPARE(Misplaced(Frame(project, 0), shown), QString());
         transform->SetEnable(false);
         QCOMPARE(Frame(project, 0).pixelColor(160, 90), QColor(Qt::red));
     }
@@ -456,6 +486,235 @@ private slots:
         QCOMPARE(facet->SetAlpha(3), S_OK);
     }
 
+    void keyFrames_data()
+    {
+        QTest::addColumn<Param>("first");
+        QTest::addColumn<Param>("last");
+        QTest::addColumn<int>("frame");
+        QTest::addColumn<QRect>("shown");
+        QTest::addColumn<int>("red");
+        const Param left = {0.2, 0, 1, {-0.25, 0.25}, {0.5, 0.5}};
+        const Param right = {0.6, 0, 1, {0.25, -0.25}, {0.5, 0.5}};
+        const Param wide = {0.6, 0, 1, {-0.25, 0.25}, {1, 0.1}};
+        const Param turned = {1, 270, 1, {}, {0.5, 0.5}};
+        const Param far = {0, 1e308, 1, {1e308, 1e308}, {1e308, 1e308}};
+        const auto row = [](const char* name, Param a, Param b, int frame, QRect shown, int red) {
+            QTest::newRow(name) << a << b << frame << shown << red;
+        };
+        row("held before the first", left, right, 50, {0, 0, 160, 90}, 255);
+        row("three quarters", left, right, 100, {120, 68, 160, 90}, 255);
+        row("held after the last", left, right, 149, {160, 90, 160, 90}, 255);
+        row("growing", left, wide, 90, {0, 18, 200, 54}, 255);
+        row("turning", {0, -90, 1, {}, {0.5, 0.5}}, turned, 100, {115, 10, 90, 160}, 255);
+        row("fading", {0, 0, 0}, {1, 0, 1}, 110, {0, 0, 320, 180}, 153);
+        row("opaque at the most", {0, 0, 5}, {1, 0, 7}, 75, {0, 0, 320, 180}, 255);
+        row("invisible", {0, 0, -1}, right, 50, {}, 0);
+        row("beyond all bounds", far, {1, -1e308, 1, {-1e308, 0}, {-1e308, 1}}, 60, {}, 0);
+    }
+
+    void keyFrames()
+    {
+        QFETCH(Param, first);
+        QFETCH(Param, last);
+        QFETCH(int, frame);
+        QFETCH(QRect, shown);
+        QFETCH(int, red);
+        const Node clip = Trimmed(Colour(Qt::red), 200, 299);
+        const Node project = ProjectWith(clip, 50);
+        Setting keys(clip);
+        QVERIFY(keys.AddKeyFrame(last) == 0 && keys.AddKeyFrame(first) == 0);
+        QCOMPARE(Misplaced(Frame(project, frame), shown, red), QString());
+        QVERIFY(keys.GetKeyFrameStatus() && keys.SetKeyFrameStatus(false));
+        QCOMPARE(Misplaced(Frame(project, frame), {0, 0, 320, 180}), QString());
+    }
+
+    void keyFramesStayWithTheirFrames()
+    {
+        const Node clip = Trimmed(Colour(Qt::red), 100, 199);
+        const Node project = ProjectWith(clip, 50);
+        Setting keys(clip);
+        for (const int frame : {10, 37, 90})
+            keys.AddKeyFrame({CalculateVideoKeyFramePosition(frame, 100),
+                              frame * 3.0,
+                              frame / 90.0,
+                              {frame / 200.0, 0},
+                              {0.5, 0.5}});
+        const Params set = keys.GetAllKeyFrameParams();
+        const auto pictures = [&] {
+            QList<QImage> result;
+            for (const int frame : {55, 80, 99, 120, 145})
+                result << Frame(project, frame);
+            return result;
+        };
+        const QList<QImage> before = pictures();
+        // Cut in two at a frame.
+        Node second;
+        clip->Clone(true, second.put());
+        Trimmed(clip, 100, 131);
+        Add(project, Trimmed(second, 132, 199), 82);
+        QVERIFY(pictures() == before && before[1] != before[2]);
+        int index = -1;
+        QVERIFY(Setting(second).GetKeyFrameIndex(90 - 32, 68, index) && index == 2);
+        QVERIFY(!Setting(second).GetKeyFrameIndex(0, 68, index));
+        // No range, another rate, another speed, and back.
+        Trimmed(clip, 5, 4);
+        QCOMPARE(keys.GetAllKeyFrameParams().size(), 3);
+        project->SetRenderFrameRate({50, 1});
+        project->SetRenderFrameRate({25, 1});
+        NLETimeline timeline(clip, ExactType_Color, nullptr);
+        timeline.SetRenderScale(2);
+        timeline.SetRenderScaleEnable(true);
+        timeline.SetRenderScaleEnable(false);
+        Trimmed(clip, 100, 199);
+        QCOMPARE(keys.GetAllKeyFrameParams(), set);
+        // Twice as fast is the same animation in half the time.
+        timeline.SetRenderScaleEnable(true);
+        QCOMPARE(keys.GetAllKeyFrameParams(), set);
+        QCOMPARE(Frame(project, 65), before[1]);
+        // A composite counts in the first length that it has, and then grows.
+        const Node group = provider->CreateVirtualTimeline(0);
+        Setting(group).AddKeyFrame({0.5});
+        for (const double time : {0.5, 0.25}) {
+            Add(group, Trimmed(Colour(Qt::blue), 0, 49), time == 0.5 ? 0 : 50);
+            QCOMPARE(Setting(group).GetAllKeyFrameParams(), Params{{time}});
+        }
+    }
+
+    void keyFrameList()
+    {
+        // Against a plain sorted map, refusals included.
+        const auto keys = Trimmed(Colour(Qt::red), 0, 9999).query<INLEKeyFrameList>();
+        std::map<double, double> model;
+        std::mt19937 random(7);
+        const auto number = [&](size_t limit) { return int(random() % limit); };
+        for (int step = 0; step < 6000; ++step) {
+            NLEKeyFrameRecord record = {number(4000) / 4000.0, double(step), 0, 0, 1, 1, 1, 1};
+            const int index = number(model.size() + 2) - 1; // sometimes -1 and the count
+            int found = -1;
+            if (step % 7 < 5) {
+                QCOMPARE(keys->AddKeyFrame(&record, &found), S_OK);
+                model[record.time] = step;
+                const int place = int(std::distance(model.begin(), model.find(record.time)));
+                QCOMPARE(found, place);
+                QCOMPARE(keys->FindIndex(int(std::lround(record.time * 4000)), 4000, &found), S_OK);
+                QCOMPARE(found, place);
+                continue;
+            }
+            const bool moves = step % 7 == 6;
+            bool valid = index >= 0 && index < int(model.size());
+            const auto chosen = std::next(model.begin(), valid ? index : 0);
+            valid = valid && !(moves && record.time != chosen->first && model.count(record.time));
+            QCOMPARE(moves ? keys->SetKeyFrame(index, &record) : keys->DeleteKeyFrame(index),
+                     valid ? S_OK : E_INVALIDARG);
+            if (valid)
+                model.erase(chosen);
+            if (valid && moves)
+                model[record.time] = step;
+        }
+        using Record = NLEKeyFrameRecord;
+        for (double Record::*const field :
+             {&Record::time, &Record::angle, &Record::positionX, &Record::positionY,
+              &Record::scaleWidth, &Record::scaleHeight, &Record::opacity}) {
+            int found = 0;
+            Record broken = {};
+            broken.*field = found++ % 2 ? qQNaN() : -qInf();
+            QCOMPARE(keys->AddKeyFrame(&broken, &found), E_INVALIDARG);
+            QCOMPARE(keys->SetKeyFrame(0, &broken), E_INVALIDARG);
+        }
+        int index = 0;
+        Record record = {};
+        for (const auto& [time, angle] : model) {
+            QCOMPARE(keys->GetKeyFrame(index++, &record), S_OK);
+            QVERIFY(record.time == time && record.angle == angle);
+        }
+        QCOMPARE(keys->GetKeyFrame(index, &record), E_INVALIDARG);
+        QCOMPARE(keys->GetParamAt(qQNaN(), &record), E_INVALIDARG);
+        QCOMPARE(keys->FindIndex(0, 0, &index), E_INVALIDARG);
+    }
+
+    void contextReachesEveryRender()
+    {
+        const Node project = ProjectWith(Trimmed(Media(), 0, 9), 10);
+        Context context(project);
+        QVERIFY(context.SetIntValue(Key::kContext_BackgroundColor, int(0xFF00FF00u)));
+        QCOMPARE(Frame(project, 0).pixelColor(200, 20), QColor(Qt::green));
+        const QImage full = Frame(project, 12);
+        QVERIFY(context.SetDoubleValue(Key::kContext_PreviewScale, 0.1));
+        QVERIFY(context.SetBoolValue(Key::kContext_SmoothScaling, false));
+        const QImage coarse = Frame(project, 12);
+        QVERIFY(coarse != full && coarse == Frame(ClipAt(project, 0), 2));
+        for (int x = 0; x < 320; ++x)
+            QCOMPARE(coarse.pixel(x, 57), coarse.pixel(x / 10 * 10, 50));
+        // Nothing is taken of a bag with one bad value.
+        double value = 0;
+        for (const double bad : {0.0, 1.5, qQNaN()})
+            QVERIFY(!context.SetDoubleValues({{Key::kContext_PreviewScale, bad}, {L"other", 1}}));
+        QVERIFY(!context.SetDoubleValue(Key::kContext_BackgroundColor, 1));
+        QVERIFY(!context.GetDoubleValue(L"other", value));
+        QVERIFY(context.GetDoubleValue(Key::kContext_PreviewScale, value) && value == 0.1);
+    }
+
+    void thumbnailsLeaveTheClipAlone()
+    {
+        const Node clip = Trimmed(Media(), 5, 44);
+        const Node project = ProjectWith(clip);
+        std::atomic<bool> stop{false};
+        std::atomic<int> wrong{0};
+        const auto extractor = provider->CreateFrameExtractor();
+        const auto picture = provider->CreateVideoFrame(320, 180);
+        std::uint8_t* pixels = nullptr;
+        QVERIFY(picture->Prepare() == S_OK && picture->GetData(&pixels) == S_OK &&
+                extractor->Open(project.get(), 1) == S_OK);
+        const std::unique_ptr<QThread> render(QThread::create([&] {
+            for (int frame = 0; !stop; frame = (frame + 1) % 40) {
+                const bool ok = extractor->Extract(frame, picture.get()) == S_OK;
+                const QImage image(pixels, 320, 180, QImage::Format_ARGB32);
+                wrong += !ok || ReadFrameNumber(image) != frame + 5;
+            }
+        }));
+        render->start();
+        NLETimeline timeline(clip, ExactType_Video, nullptr);
+        for (int i = 0; i < 40; ++i) {
+            const QImage media = timeline.GetThumbnailFromMediaInfo(i, 160, 90, true, i % 2);
+            const QImage stream = timeline.GetThumbnailFromStream(i, 160, 90, true, i % 3);
+            wrong += ReadFrameNumber(media) != i || ReadFrameNumber(stream) != i;
+        }
+        stop = true;
+        render->wait();
+        QCOMPARE(wrong.load(), 0);
+        QVERIFY(timeline.GetRange() == qMakePair(5, 44) && timeline.GetParentTimeline() == project);
+    }
+
+    void relinkedThumbnails()
+    {
+        TestClip other;
+        other.size = {160, 120};
+        other.frames = 20;
+        other.rateNum = 50;
+        QCOMPARE(MakeTestClip(Path("short.mp4"), other), QString());
+        QVERIFY(RunFfmpeg({"-f", "lavfi", "-i", "sine=duration=1", Path("sound.wav")}).isEmpty());
+        QVERIFY(QFile::copy(m_media, Path("moved.mkv")));
+        NLETimeline timeline(Trimmed(Media(), 5, 44), ExactType_Video, nullptr);
+        // Frame numbers that the file's and the clip's picture show.
+        const auto shown = [&](int frame) {
+            const QImage media = timeline.GetThumbnailFromMediaInfo(frame, 160, 90, true, true);
+            const QImage stream = timeline.GetThumbnailFromStream(frame, 160, 90, false, true);
+            return qMakePair(ReadFrameNumber(media), ReadFrameNumber(stream));
+        };
+        QVERIFY(timeline.Relink(Path("moved.mkv")) && !timeline.Relink(Path("none.mkv")));
+        QCOMPARE(timeline.GetFilePath(), Path("moved.mkv"));
+        QCOMPARE(shown(40), qMakePair(40, 40));
+        QVERIFY(timeline.Relink(Path("short.mp4")) && timeline.GetRange() == qMakePair(5, 44));
+        QCOMPARE(timeline.GetSourceSize(), QSizeF(160, 120));
+        QCOMPARE(shown(8), qMakePair(8, 16));
+        QCOMPARE(shown(40), qMakePair(-1, -1));
+        QVERIFY(timeline.Relink(Path("sound.wav")));
+        QVERIFY(timeline.GetThumbnailFromMediaInfo(8, 160, 90, true, true).isNull());
+        QCOMPARE(timeline.GetThumbnailFromStream(8, 16, 9, true, true).pixel(8, 4), 0u);
+        QVERIFY(timeline.Relink(m_media));
+        QCOMPARE(shown(8), qMakePair(8, 8));
+    }
+
     void settingsSurvive()
     {
         const Node clip = Media();
@@ -490,6 +749,10 @@ private slots:
         video->SetPremultipliedAlphaType(2);
         const tagMixerParam strip = {0.5, -0.25, 0, 1};
         Facet<INLEMixerSetting>(project)->SetParam(2, &strip);
+        Setting(clip).AddKeyFrame({0.1, 20, 0.7, {0.125, 0}, {1, 2}});
+        Setting(clip).AddKeyFrame({1 / 3.0});
+        Setting(project).SetKeyFrameStatus(false);
+        QVERIFY(Context(project).SetIntValue(L"my own", 5));
 
         Node clone;
         QCOMPARE(project->Clone(true, clone.put()), S_OK);
@@ -498,7 +761,8 @@ private slots:
         const QByteArray saved = Contents(Path("saved.mlt"));
         for (const char* setting :
              {"blend", "transform", "sound:levels", "sound:fades", "sound:effects", "sound:curve",
-              "sound:equalizer", "sound:equalizer-name", "alpha-channel", "proxy", "premultiplied"})
+              "sound:equalizer", "sound:equalizer-name", "alpha-channel", "proxy", "premultiplied",
+              "key-frames", "context:my own"})
             QVERIFY2(saved.contains(QByteArray("\"nle:") + setting + '"'), setting);
         for (const Node& copy : {clone, Load(Path("saved.mlt"))}) {
             QVERIFY(Save(copy, Path("again.mlt")));

@@ -117,6 +117,11 @@ std::vector<NLEKeyFrameRecord> KeyFrameList::All() const
     return all;
 }
 
+double KeyFrameCurve::FrameOf(double time) const
+{
+    return axis.in + time * double(std::max<std::int64_t>(1, NLERangeLength(axis)));
+}
+
 NLEKeyFrameRecord KeyFrameCurve::AtFrame(double frame) const
 {
     const auto length = double(std::max<std::int64_t>(1, NLERangeLength(axis)));

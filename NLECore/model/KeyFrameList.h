@@ -4,6 +4,7 @@
 #include "EngineApi/NLETypes.h"
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 #include <vector>
 
@@ -84,17 +85,20 @@ struct KeyFrameCurve
     /// Values at a frame of the clip, counted as its trim range is.
     NLEKeyFrameRecord AtFrame(double frame) const;
 
-    /// Gives every number that the curve is made of to \a take, in order; equal curves give equal
-    /// numbers.
+    /// The frame of the clip, seldom a whole one, that the place \a time of the axis is.
+    double FrameOf(double time) const;
+
+    /// Gives every number that decides about pictures to \a take, in order: curves that move a clip
+    /// alike give the same ones, whatever their axis.
     template <typename Take>
     void ForEachNumber(Take take) const
     {
-        take(double(axis.in));
-        take(double(axis.out));
+        constexpr double finest = 1e6; // parts of a frame that are told apart
         take(double(frames.size()));
         for (const NLEKeyFrameRecord& f : frames) {
-            for (const double number : {f.time, f.angle, f.positionX, f.positionY, f.scaleWidth,
-                                        f.scaleHeight, f.opacity, double(f.interpolation)})
+            for (const double number :
+                 {std::round(FrameOf(f.time) * finest), f.angle, f.positionX, f.positionY,
+                  f.scaleWidth, f.scaleHeight, f.opacity, double(f.interpolation)})
                 take(number);
         }
     }

@@ -62,6 +62,16 @@ struct Layer
 
     MixerSettings mixer; ///< Composite only: strips of the children's tracks, by level
 
+    /// Gives every number of the key frames to \a take, in order, and first whether there are any;
+    /// for keys made from a layer's content.
+    template <typename Take>
+    void ForEachKeyFrameNumber(Take take) const
+    {
+        take(keyFrames ? 1.0 : 0.0);
+        if (keyFrames)
+            keyFrames->ForEachNumber(take);
+    }
+
     /// Whether the layer plays at \a frame of its parent.
     bool PlaysAt(std::int64_t frame) const
     {

@@ -19,8 +19,7 @@ std::map<int, NLEKeyFrameRecord> ByFrame(const KeyFrameCurve* curve)
     if (!curve)
         return {{0, kPlainKeyFrame}};
     for (const NLEKeyFrameRecord& record : curve->frames) {
-        const double length = double(std::max<std::int64_t>(1, NLERangeLength(curve->axis)));
-        const int frame = ClampToInt(std::round(curve->axis.in + record.time * length));
+        const int frame = ClampToInt(std::round(curve->FrameOf(record.time)));
         if (frame >= 0)
             result[frame] = record;
         else
