@@ -24,7 +24,6 @@ using Params = QList<Param>;
 namespace Key = NLEKey::Context;
 Q_DECLARE_METATYPE(Rule)
 Q_DECLARE_METATYPE(Change)
-Q_DECLARE_METATYPE(Param)
 
 namespace {
 
@@ -486,46 +485,33 @@ private slots:
         QCOMPARE(facet->SetAlpha(3), S_OK);
     }
 
-    void keyFrames_data()
+    void keyFrames()
     {
-        QTest::addColumn<Param>("first");
-        QTest::addColumn<Param>("last");
-        QTest::addColumn<int>("frame");
-        QTest::addColumn<QRect>("shown");
-        QTest::addColumn<int>("red");
+        const auto misplaced = [this](Param first, Param last, int frame, QRect shown,
+                                      int red = 255) {
+            const Node clip = Trimmed(Colour(Qt::red), 200, 299);
+            const Node project = ProjectWith(clip, 50);
+            Setting keys(clip);
+            QString wrong = keys.AddKeyFrame(last) + keys.AddKeyFrame(first) == 0 ? "" : "order ";
+            wrong += Misplaced(Frame(project, frame), shown, red);
+            keys.SetKeyFrameStatus(false);
+            return wrong + Misplaced(Frame(project, frame), {0, 0, 320, 180});
+        };
         const Param left = {0.2, 0, 1, {-0.25, 0.25}, {0.5, 0.5}};
         const Param right = {0.6, 0, 1, {0.25, -0.25}, {0.5, 0.5}};
         const Param wide = {0.6, 0, 1, {-0.25, 0.25}, {1, 0.1}};
-        const Param turned = {1, 270, 1, {}, {0.5, 0.5}};
+        const Param turned = {0, -90, 1, {}, {0.5, 0.5}};
         const Param far = {0, 1e308, 1, {1e308, 1e308}, {1e308, 1e308}};
-        const auto row = [](const char* name, Param a, Param b, int frame, QRect shown, int red) {
-            QTest::newRow(name) << a << b << frame << shown << red;
-        };
-        row("held before the first", left, right, 50, {0, 0, 160, 90}, 255);
-        row("three quarters", left, right, 100, {120, 68, 160, 90}, 255);
-        row("held after the last", left, right, 149, {160, 90, 160, 90}, 255);
-        row("growing", left, wide, 90, {0, 18, 200, 54}, 255);
-        row("turning", {0, -90, 1, {}, {0.5, 0.5}}, turned, 100, {115, 10, 90, 160}, 255);
-        row("fading", {0, 0, 0}, {1, 0, 1}, 110, {0, 0, 320, 180}, 153);
-        row("opaque at the most", {0, 0, 5}, {1, 0, 7}, 75, {0, 0, 320, 180}, 255);
-        row("invisible", {0, 0, -1}, right, 50, {}, 0);
-        row("beyond all bounds", far, {1, -1e308, 1, {-1e308, 0}, {-1e308, 1}}, 60, {}, 0);
-    }
-
-    void keyFrames()
-    {
-        QFETCH(Param, first);
-        QFETCH(Param, last);
-        QFETCH(int, frame);
-        QFETCH(QRect, shown);
-        QFETCH(int, red);
-        const Node clip = Trimmed(Colour(Qt::red), 200, 299);
-        const Node project = ProjectWith(clip, 50);
-        Setting keys(clip);
-        QVERIFY(keys.AddKeyFrame(last) == 0 && keys.AddKeyFrame(first) == 0);
-        QCOMPARE(Misplaced(Frame(project, frame), shown, red), QString());
-        QVERIFY(keys.GetKeyFrameStatus() && keys.SetKeyFrameStatus(false));
-        QCOMPARE(Misplaced(Frame(project, frame), {0, 0, 320, 180}), QString());
+        const QRect all(0, 0, 320, 180);
+        QCOMPARE(misplaced(left, right, 50, {0, 0, 160, 90}), "");
+        QCOMPARE(misplaced(left, right, 100, {120, 68, 160, 90}), "");
+        QCOMPARE(misplaced(left, right, 149, {160, 90, 160, 90}), "");
+        QCOMPARE(misplaced(left, wide, 90, {0, 18, 200, 54}), "");
+        QCOMPARE(misplaced(turned, {1, 270, 1, {}, {0.5, 0.5}}, 100, {115, 10, 90, 160}), "");
+        QCOMPARE(misplaced({0, 0, 0}, {1}, 110, all, 153), "");
+        QCOMPARE(misplaced({0, 0, 5}, {1, 0, 7}, 75, all), "");
+        QCOMPARE(misplaced({0, 0, -1}, right, 50, {}), "");
+        QCOMPARE(misplaced(far, {1, -1e308, 1, {-1e308, 0}, {-1e308, 1}}, 60, {}), "");
     }
 
     void keyFramesStayWithTheirFrames()
@@ -533,12 +519,10 @@ private slots:
         const Node clip = Trimmed(Colour(Qt::red), 100, 199);
         const Node project = ProjectWith(clip, 50);
         Setting keys(clip);
-        for (const int frame : {10, 37, 90})
-            keys.AddKeyFrame({CalculateVideoKeyFramePosition(frame, 100),
-                              frame * 3.0,
-                              frame / 90.0,
-                              {frame / 200.0, 0},
-                              {0.5, 0.5}});
+        for (const int frame : {10, 37, 90}) {
+            const double time = CalculateVideoKeyFramePosition(frame, 100);
+            keys.AddKeyFrame({time, frame * 3.0, time, {time / 2, 0}, {0.5, 0.5}});
+        }
         const Params set = keys.GetAllKeyFrameParams();
         const auto pictures = [&] {
             QList<QImage> result;
@@ -574,55 +558,53 @@ private slots:
         // A composite counts in the first length that it has, and then grows.
         const Node group = provider->CreateVirtualTimeline(0);
         Setting(group).AddKeyFrame({0.5});
-        for (const double time : {0.5, 0.25}) {
-            Add(group, Trimmed(Colour(Qt::blue), 0, 49), time == 0.5 ? 0 : 50);
-            QCOMPARE(Setting(group).GetAllKeyFrameParams(), Params{{time}});
-        }
+        Add(group, Trimmed(Colour(Qt::blue), 0, 49));
+        QCOMPARE(Setting(group).GetAllKeyFrameParams(), Params{{0.5}});
+        Add(group, Trimmed(Colour(Qt::blue), 0, 49), 50);
+        QCOMPARE(Setting(group).GetAllKeyFrameParams(), Params{{0.25}});
     }
 
     void keyFrameList()
     {
         // Against a plain sorted map, refusals included.
+        using Record = NLEKeyFrameRecord;
         const auto keys = Trimmed(Colour(Qt::red), 0, 9999).query<INLEKeyFrameList>();
         std::map<double, double> model;
         std::mt19937 random(7);
-        const auto number = [&](size_t limit) { return int(random() % limit); };
         for (int step = 0; step < 6000; ++step) {
-            NLEKeyFrameRecord record = {number(4000) / 4000.0, double(step), 0, 0, 1, 1, 1, 1};
-            const int index = number(model.size() + 2) - 1; // sometimes -1 and the count
+            const int frame = int(random() % 4000);
+            const Record record = {frame / 4000.0, double(step), 0, 0, 1, 1, 1, 1};
+            int place = int(random() % (model.size() + 2)) - 1; // sometimes -1 and the count
             int found = -1;
             if (step % 7 < 5) {
                 QCOMPARE(keys->AddKeyFrame(&record, &found), S_OK);
                 model[record.time] = step;
-                const int place = int(std::distance(model.begin(), model.find(record.time)));
+                place = int(std::distance(model.begin(), model.find(record.time)));
                 QCOMPARE(found, place);
-                QCOMPARE(keys->FindIndex(int(std::lround(record.time * 4000)), 4000, &found), S_OK);
-                QCOMPARE(found, place);
+                QVERIFY(keys->FindIndex(frame, 4000, &found) == S_OK && found == place);
                 continue;
             }
             const bool moves = step % 7 == 6;
-            bool valid = index >= 0 && index < int(model.size());
-            const auto chosen = std::next(model.begin(), valid ? index : 0);
+            bool valid = place >= 0 && place < int(model.size());
+            const auto chosen = std::next(model.begin(), valid ? place : 0);
             valid = valid && !(moves && record.time != chosen->first && model.count(record.time));
-            QCOMPARE(moves ? keys->SetKeyFrame(index, &record) : keys->DeleteKeyFrame(index),
+            QCOMPARE(moves ? keys->SetKeyFrame(place, &record) : keys->DeleteKeyFrame(place),
                      valid ? S_OK : E_INVALIDARG);
             if (valid)
                 model.erase(chosen);
             if (valid && moves)
                 model[record.time] = step;
         }
-        using Record = NLEKeyFrameRecord;
+        int index = 0;
+        Record record = {};
         for (double Record::*const field :
              {&Record::time, &Record::angle, &Record::positionX, &Record::positionY,
               &Record::scaleWidth, &Record::scaleHeight, &Record::opacity}) {
-            int found = 0;
             Record broken = {};
-            broken.*field = found++ % 2 ? qQNaN() : -qInf();
-            QCOMPARE(keys->AddKeyFrame(&broken, &found), E_INVALIDARG);
+            broken.*field = field == &Record::angle ? qInf() : qQNaN();
+            QCOMPARE(keys->AddKeyFrame(&broken, &index), E_INVALIDARG);
             QCOMPARE(keys->SetKeyFrame(0, &broken), E_INVALIDARG);
         }
-        int index = 0;
-        Record record = {};
         for (const auto& [time, angle] : model) {
             QCOMPARE(keys->GetKeyFrame(index++, &record), S_OK);
             QVERIFY(record.time == time && record.angle == angle);
@@ -656,32 +638,28 @@ private slots:
 
     void thumbnailsLeaveTheClipAlone()
     {
-        const Node clip = Trimmed(Media(), 5, 44);
-        const Node project = ProjectWith(clip);
+        const Node project = ProjectWith(Trimmed(Media(), 5, 44));
+        NLETimeline timeline(ClipAt(project, 0), ExactType_Video, nullptr);
         std::atomic<bool> stop{false};
         std::atomic<int> wrong{0};
         const auto extractor = provider->CreateFrameExtractor();
         const auto picture = provider->CreateVideoFrame(320, 180);
         std::uint8_t* pixels = nullptr;
-        QVERIFY(picture->Prepare() == S_OK && picture->GetData(&pixels) == S_OK &&
-                extractor->Open(project.get(), 1) == S_OK);
+        QVERIFY(picture->Prepare() == S_OK && picture->GetData(&pixels) == S_OK);
+        QCOMPARE(extractor->Open(project.get(), 1), S_OK);
+        const QImage image(pixels, 320, 180, QImage::Format_ARGB32);
         const std::unique_ptr<QThread> render(QThread::create([&] {
-            for (int frame = 0; !stop; frame = (frame + 1) % 40) {
-                const bool ok = extractor->Extract(frame, picture.get()) == S_OK;
-                const QImage image(pixels, 320, 180, QImage::Format_ARGB32);
-                wrong += !ok || ReadFrameNumber(image) != frame + 5;
-            }
+            for (int i = 0; !stop; i = (i + 1) % 40)
+                wrong += extractor->Extract(i, picture.get()) || ReadFrameNumber(image) != i + 5;
         }));
         render->start();
-        NLETimeline timeline(clip, ExactType_Video, nullptr);
         for (int i = 0; i < 40; ++i) {
             const QImage media = timeline.GetThumbnailFromMediaInfo(i, 160, 90, true, i % 2);
             const QImage stream = timeline.GetThumbnailFromStream(i, 160, 90, true, i % 3);
             wrong += ReadFrameNumber(media) != i || ReadFrameNumber(stream) != i;
         }
         stop = true;
-        render->wait();
-        QCOMPARE(wrong.load(), 0);
+        QVERIFY(render->wait() && wrong == 0);
         QVERIFY(timeline.GetRange() == qMakePair(5, 44) && timeline.GetParentTimeline() == project);
     }
 
@@ -695,24 +673,21 @@ private slots:
         QVERIFY(RunFfmpeg({"-f", "lavfi", "-i", "sine=duration=1", Path("sound.wav")}).isEmpty());
         QVERIFY(QFile::copy(m_media, Path("moved.mkv")));
         NLETimeline timeline(Trimmed(Media(), 5, 44), ExactType_Video, nullptr);
-        // Frame numbers that the file's and the clip's picture show.
-        const auto shown = [&](int frame) {
+        // Relinks and gives the frame numbers that the file's and the clip's picture show.
+        const auto shown = [&](const QString& path, int frame) {
+            const bool taken = path.isEmpty() || timeline.Relink(path);
             const QImage media = timeline.GetThumbnailFromMediaInfo(frame, 160, 90, true, true);
             const QImage stream = timeline.GetThumbnailFromStream(frame, 160, 90, false, true);
-            return qMakePair(ReadFrameNumber(media), ReadFrameNumber(stream));
+            return QList<int>{taken, ReadFrameNumber(media), ReadFrameNumber(stream)};
         };
-        QVERIFY(timeline.Relink(Path("moved.mkv")) && !timeline.Relink(Path("none.mkv")));
+        QCOMPARE(shown(Path("moved.mkv"), 40), QList<int>({true, 40, 40}));
+        QCOMPARE(shown(Path("none.mkv"), 40), QList<int>({false, 40, 40}));
         QCOMPARE(timeline.GetFilePath(), Path("moved.mkv"));
-        QCOMPARE(shown(40), qMakePair(40, 40));
-        QVERIFY(timeline.Relink(Path("short.mp4")) && timeline.GetRange() == qMakePair(5, 44));
-        QCOMPARE(timeline.GetSourceSize(), QSizeF(160, 120));
-        QCOMPARE(shown(8), qMakePair(8, 16));
-        QCOMPARE(shown(40), qMakePair(-1, -1));
-        QVERIFY(timeline.Relink(Path("sound.wav")));
-        QVERIFY(timeline.GetThumbnailFromMediaInfo(8, 160, 90, true, true).isNull());
-        QCOMPARE(timeline.GetThumbnailFromStream(8, 16, 9, true, true).pixel(8, 4), 0u);
-        QVERIFY(timeline.Relink(m_media));
-        QCOMPARE(shown(8), qMakePair(8, 8));
+        QCOMPARE(shown(Path("short.mp4"), 8), QList<int>({true, 8, 16}));
+        QCOMPARE(shown({}, 40), QList<int>({true, -1, -1}));
+        QVERIFY(timeline.GetSourceSize() == QSizeF(160, 120) && timeline.GetPlayLen() == 40);
+        QCOMPARE(shown(Path("sound.wav"), 8), QList<int>({true, -1, -1}));
+        QCOMPARE(shown(m_media, 8), QList<int>({true, 8, 8}));
     }
 
     void settingsSurvive()
