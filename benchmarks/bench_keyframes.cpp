@@ -102,7 +102,7 @@ void Rendering(int count)
 {
     nle::KeyFrameCurve curve;
     Peer peer;
-    curve.axis = {0, count - 1};
+    curve.axis = {0, double(count)};
     for (int frame = 0; frame < count; ++frame) {
         curve.frames.push_back(RecordAt(frame, count));
         peer[curve.frames.back().time] = curve.frames.back();

@@ -540,11 +540,14 @@ private slots:
         int index = -1;
         QVERIFY(Setting(second).GetKeyFrameIndex(90 - 32, 68, index) && index == 2);
         QVERIFY(!Setting(second).GetKeyFrameIndex(0, 68, index));
-        // No range, another rate, another speed, and back.
-        Trimmed(clip, 5, 4);
-        QCOMPARE(keys.GetAllKeyFrameParams().size(), 3);
+        // Another rate, other ranges and none, another speed, and back.
         project->SetRenderFrameRate({50, 1});
+        QCOMPARE(Frame(project, 160), before[1]);
         project->SetRenderFrameRate({25, 1});
+        for (const int out : {4, 75, 81, 87}) {
+            Trimmed(clip, 5, out);
+            QCOMPARE(keys.GetAllKeyFrameParams().size(), 3);
+        }
         NLETimeline timeline(clip, ExactType_Color, nullptr);
         timeline.SetRenderScale(2);
         timeline.SetRenderScaleEnable(true);
@@ -631,7 +634,8 @@ private slots:
         double value = 0;
         for (const double bad : {0.0, 1.5, qQNaN()})
             QVERIFY(!context.SetDoubleValues({{Key::kContext_PreviewScale, bad}, {L"other", 1}}));
-        QVERIFY(!context.SetDoubleValue(Key::kContext_BackgroundColor, 1));
+        QVERIFY(!context.SetDoubleValue(Key::kContext_BackgroundColor, 1) &&
+                !context.SetDoubleValue(L"other", qQNaN()));
         QVERIFY(!context.GetDoubleValue(L"other", value));
         QVERIFY(context.GetDoubleValue(Key::kContext_PreviewScale, value) && value == 0.1);
     }

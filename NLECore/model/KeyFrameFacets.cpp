@@ -2,7 +2,6 @@
 #include "NLECore/model/KeyFrameFacets.h"
 
 #include "EngineApi/NLECommon.h"
-#include "NLECore/model/FrameMath.h"
 #include "NLECore/model/TimelineNode.h"
 
 #include <cmath>
@@ -21,21 +20,16 @@ bool IsFinite(const NLEKeyFrameRecord& r)
     return true;
 }
 
-bool IsSame(const NLERange& a, const NLERange& b)
-{
-    return a.in == b.in && a.out == b.out;
-}
-
 /// The place on \a to of what is at \a time on \a from.
-double MapTime(double time, const NLERange& from, const NLERange& to)
+double MapTime(double time, const KeyFrameAxis& from, const KeyFrameAxis& to)
 {
     constexpr double limit = std::numeric_limits<double>::max();
-    double frame = from.in + time * double(NLERangeLength(from));
+    double frame = from.FrameOf(time);
     // A key frame on a frame stays exactly there, however often the range changes.
     const double nearest = std::round(frame);
     if (std::abs(frame - nearest) < 1e-6)
         frame = nearest;
-    return std::clamp((frame - to.in) / double(NLERangeLength(to)), -limit, limit);
+    return std::clamp(to.TimeOf(frame), -limit, limit);
 }
 
 } // namespace
@@ -47,12 +41,12 @@ KeyFrameFacet::KeyFrameFacet(TimelineNode& node)
 
 void KeyFrameFacet::FollowRange()
 {
-    const NLERange range = m_owner.Range();
-    if (NLERangeLength(range) == 0 || IsSame(range, m_axis))
+    const KeyFrameAxis axis = KeyFrameAxis::Of(m_owner.Range());
+    if (axis.length == 0 || axis == m_axis)
         return;
-    if (NLERangeLength(m_axis) > 0)
-        m_frames.MapTimes([&](double time) { return MapTime(time, m_axis, range); });
-    m_axis = range;
+    if (m_axis.length > 0)
+        m_frames.MapTimes([&](double time) { return MapTime(time, m_axis, axis); });
+    m_axis = axis;
     Changed();
 }
 
@@ -149,8 +143,8 @@ std::shared_ptr<const KeyFrameCurve> KeyFrameFacet::Curve() const
 
 std::shared_ptr<const KeyFrameCurve> KeyFrameFacet::Stored() const
 {
-    const NLERange axis = NLERangeLength(m_axis) > 0 ? m_axis : m_owner.Range();
-    if (!m_curve || !IsSame(m_curve->axis, axis))
+    const KeyFrameAxis axis = m_axis.length > 0 ? m_axis : KeyFrameAxis::Of(m_owner.Range());
+    if (!m_curve || !(m_curve->axis == axis))
         m_curve = std::make_shared<KeyFrameCurve>(KeyFrameCurve{axis, m_frames.All()});
     return m_curve;
 }
@@ -166,9 +160,9 @@ void KeyFrameFacet::Restore(const KeyFrameCurve& curve)
     Changed();
 }
 
-void KeyFrameFacet::RescaleAxis(const NLERational& from, const NLERational& to)
+void KeyFrameFacet::RescaleAxis(double factor)
 {
-    m_axis = RescaleRange(m_axis, from, to);
+    m_axis = {m_axis.start * factor, m_axis.length * factor};
     Changed();
 }
 

@@ -10,8 +10,7 @@ namespace nle {
 /// A node's key frames. Their times count from 0 at the in point to 1 at the end of the trim range.
 ///
 /// Trimming changes the times and not the key frames: each stays with the frame that it was set at,
-/// also outside of the range. Another speed or rate changes neither, as the range then shows the
-/// same material.
+/// also outside of the range. With another speed or rate it stays with its instant of the material.
 class KeyFrameFacet final : public NodeFacet<INLEKeyFrameList>
 {
 public:
@@ -39,8 +38,8 @@ public:
     std::shared_ptr<const KeyFrameCurve> Stored() const;
     /// Takes key frames over with their axis.
     void Restore(const KeyFrameCurve& curve);
-    /// The trim range shows the same material in other frames.
-    void RescaleAxis(const NLERational& from, const NLERational& to);
+    /// The same material is counted in \a factor times as many frames from now on.
+    void RescaleAxis(double factor);
 
     bool enabled = true;
 
@@ -51,7 +50,7 @@ private:
 
     const TimelineNode& m_owner;
     KeyFrameList m_frames;
-    NLERange m_axis = {0, -1}; ///< range that the times count in; empty while it is the node's own
+    KeyFrameAxis m_axis; ///< what the times count in; empty until the node has a length
     mutable std::shared_ptr<const KeyFrameCurve> m_curve; ///< null: to be made
 };
 

@@ -117,15 +117,9 @@ std::vector<NLEKeyFrameRecord> KeyFrameList::All() const
     return all;
 }
 
-double KeyFrameCurve::FrameOf(double time) const
-{
-    return axis.in + time * double(std::max<std::int64_t>(1, NLERangeLength(axis)));
-}
-
 NLEKeyFrameRecord KeyFrameCurve::AtFrame(double frame) const
 {
-    const auto length = double(std::max<std::int64_t>(1, NLERangeLength(axis)));
-    const double time = (frame - axis.in) / length;
+    const double time = axis.TimeOf(frame);
     const auto after =
         std::partition_point(frames.begin(), frames.end(), [time](const NLEKeyFrameRecord& record) {
             return record.time < time;

@@ -76,17 +76,37 @@ private:
     int m_count = 0;
 };
 
+/// Frames of a clip, counted as its trim range is, that the times 0 to 1 span. Not whole ones: they
+/// follow changes of speed and rate exactly.
+struct KeyFrameAxis
+{
+    double start = 0;
+    double length = 0; ///< 0: none yet
+
+    static KeyFrameAxis Of(const NLERange& range)
+    {
+        return {double(range.in), double(NLERangeLength(range))};
+    }
+    double FrameOf(double time) const { return start + time * LengthOrOne(); }
+    double TimeOf(double frame) const { return (frame - start) / LengthOrOne(); }
+
+    friend bool operator==(const KeyFrameAxis& a, const KeyFrameAxis& b)
+    {
+        return a.start == b.start && a.length == b.length;
+    }
+
+private:
+    double LengthOrOne() const { return length > 0 ? length : 1; }
+};
+
 /// What the key frames of a clip do to its picture, immutable, for rendering.
 struct KeyFrameCurve
 {
-    NLERange axis = {0, -1};               ///< frames of the clip that the times 0 to 1 span
+    KeyFrameAxis axis;
     std::vector<NLEKeyFrameRecord> frames; ///< sorted by time
 
     /// Values at a frame of the clip, counted as its trim range is.
     NLEKeyFrameRecord AtFrame(double frame) const;
-
-    /// The frame of the clip, seldom a whole one, that the place \a time of the axis is.
-    double FrameOf(double time) const;
 
     /// Gives every number that decides about pictures to \a take, in order: curves that move a clip
     /// alike give the same ones, whatever their axis.
@@ -97,7 +117,7 @@ struct KeyFrameCurve
         take(double(frames.size()));
         for (const NLEKeyFrameRecord& f : frames) {
             for (const double number :
-                 {std::round(FrameOf(f.time) * finest), f.angle, f.positionX, f.positionY,
+                 {std::round(axis.FrameOf(f.time) * finest), f.angle, f.positionX, f.positionY,
                   f.scaleWidth, f.scaleHeight, f.opacity, double(f.interpolation)})
                 take(number);
         }

@@ -19,7 +19,7 @@ std::map<int, NLEKeyFrameRecord> ByFrame(const KeyFrameCurve* curve)
     if (!curve)
         return {{0, kPlainKeyFrame}};
     for (const NLEKeyFrameRecord& record : curve->frames) {
-        const int frame = ClampToInt(std::round(curve->FrameOf(record.time)));
+        const int frame = ClampToInt(std::round(curve->axis.FrameOf(record.time)));
         if (frame >= 0)
             result[frame] = record;
         else

@@ -7,6 +7,7 @@
 
 #include <QFileInfo>
 
+#include <cmath>
 #include <cstring>
 
 namespace nle {
@@ -58,8 +59,7 @@ QString KeyFrameText(const KeyFrameFacet& keyFrames)
     const auto curve = keyFrames.Stored();
     if (curve->frames.empty() && keyFrames.enabled)
         return {};
-    QStringList texts = {
-        Join({double(keyFrames.enabled), double(curve->axis.in), double(curve->axis.out)})};
+    QStringList texts = {Join({double(keyFrames.enabled), curve->axis.start, curve->axis.length})};
     for (const NLEKeyFrameRecord& f : curve->frames)
         texts << Join({f.time, f.angle, f.positionX, f.positionY, f.scaleWidth, f.scaleHeight,
                        f.opacity, double(f.interpolation)});
@@ -72,7 +72,9 @@ void ReadKeyFrames(const QString& text, KeyFrameFacet& keyFrames)
     const std::vector<double> head = Split(parts.value(0), 3);
     if (head.empty())
         return;
-    KeyFrameCurve curve = {{ClampToInt(head[1]), ClampToInt(head[2])}, {}};
+    KeyFrameCurve curve;
+    if (std::isfinite(head[1]) && std::isfinite(head[2]))
+        curve.axis = {head[1], head[2]};
     for (int i = 1; i < parts.size(); ++i) {
         const std::vector<double> f = Split(parts[i], 8);
         if (!f.empty())

@@ -258,7 +258,7 @@ void TimelineNode::ChangeRate(const NLERational& rate)
         return;
     if (m_hasRange)
         m_range = RescaleRange(m_range, old, rate);
-    m_keyFrames.RescaleAxis(old, rate);
+    m_keyFrames.RescaleAxis(ToDouble(rate) / ToDouble(old));
     AudioSettings& sound = m_audio.settings;
     sound.fadeInFrames = RescaleFrame(sound.fadeInFrames, old, rate);
     sound.fadeOutFrames = RescaleFrame(sound.fadeOutFrames, old, rate);
@@ -291,11 +291,10 @@ void TimelineNode::ChangeSpeed(Change change)
     const double after = Speed();
     if (before == after)
         return;
-    const NLERational from = RateFromDouble(before);
-    const NLERational to = RateFromDouble(before * before / after);
-    m_keyFrames.RescaleAxis(from, to);
+    m_keyFrames.RescaleAxis(before / after);
     if (m_hasRange)
-        m_range = RescaleRange(m_range, from, to);
+        m_range =
+            RescaleRange(m_range, RateFromDouble(before), RateFromDouble(before * before / after));
 }
 
 RenderContext TimelineNode::Context() const
