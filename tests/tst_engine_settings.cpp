@@ -578,13 +578,14 @@ private slots:
             const int frame = int(random() % 4000);
             const Record record = {frame / 4000.0, double(step), 0, 0, 1, 1, 1, 1};
             int place = int(random() % (model.size() + 2)) - 1; // sometimes -1 and the count
-            int found = -1;
+            int added = -1;
+            int found = -2;
             if (step % 7 < 5) {
-                QCOMPARE(keys->AddKeyFrame(&record, &found), S_OK);
+                QCOMPARE(keys->AddKeyFrame(&record, &added), S_OK);
+                QCOMPARE(keys->FindIndex(frame, 4000, &found), S_OK);
                 model[record.time] = step;
                 place = int(std::distance(model.begin(), model.find(record.time)));
-                QCOMPARE(found, place);
-                QVERIFY(keys->FindIndex(frame, 4000, &found) == S_OK && found == place);
+                QVERIFY(added == place && found == place);
                 continue;
             }
             const bool moves = step % 7 == 6;

@@ -111,18 +111,18 @@ struct MixerSetting : Object<INLEMixerSetting>
     }
 };
 
+/// Finds what the test says; its records change by writing them only.
 struct KeyFrameList : Object<INLEKeyFrameList>
 {
     using Object::Object;
 
     QVector<NLEKeyFrameRecord> records;
-    int unreadable = -1; ///< index whose read fails
-    int found = 1;       ///< what a search gives
+    int found = 1;
 
     HRESULT GetCount(int* out) override { return Value("GetCount", records.size(), out); }
     HRESULT GetKeyFrame(int index, NLEKeyFrameRecord* out) override
     {
-        return index == unreadable ? E_FAIL : Value("GetKeyFrame", records.at(index), out, index);
+        return Value("GetKeyFrame", records.at(index), out, index);
     }
     HRESULT SetKeyFrame(int index, const NLEKeyFrameRecord* record) override
     {
@@ -138,16 +138,15 @@ struct KeyFrameList : Object<INLEKeyFrameList>
     {
         return Value("GetParamAt", records.first(), out, time);
     }
-    HRESULT FindIndex(int frame, int frameCount, int* index) override
+    HRESULT FindIndex(int frame, int count, int* index) override
     {
-        return Value("FindIndex", found, index, frame, frameCount);
+        return Value("FindIndex", found, index, frame, count);
     }
 };
 
 struct KeyFrameStatus : Object<INLEKeyFrameStatus>
 {
     using Object::Object;
-
     SCRIPTED_SETTING(bool, enabled, Status)
 };
 
@@ -155,15 +154,8 @@ struct KeyFrameStatus : Object<INLEKeyFrameStatus>
 struct Basin : Object<INLEBasin>
 {
     using Object::Object;
-
-    HRESULT FillProperties(INLEProperties* properties) override
-    {
-        return Call("FillProperties", properties);
-    }
-    HRESULT TakeProperties(INLEProperties* properties) override
-    {
-        return Call("TakeProperties", properties);
-    }
+    HRESULT FillProperties(INLEProperties* bag) override { return Call("FillProperties", bag); }
+    HRESULT TakeProperties(INLEProperties* bag) override { return Call("TakeProperties", bag); }
 };
 
 } // namespace Scripted
