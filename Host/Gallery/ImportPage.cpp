@@ -4,6 +4,7 @@
 #include "Host/Gallery/ImportTarget.h"
 #include "Host/Gallery/ImportTree.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
@@ -16,6 +17,7 @@
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QStandardPaths>
+#include <QStorageInfo>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -25,6 +27,22 @@ namespace {
 constexpr int kListEvery = 3000; // ms
 constexpr int kProgressSteps = 1000;
 constexpr int kProgressWidth = 220;
+
+// The marks of the toolkit's own style are drawn too dark to be seen on a dark surface.
+constexpr char kMarks[] = R"(
+    QTreeView::indicator, QCheckBox::indicator {
+        width: 12px; height: 12px;
+        background-color: #1b1d20; border: 1px solid #9299a1; border-radius: 3px;
+    }
+    QTreeView::indicator:checked, QCheckBox::indicator:checked {
+        background-color: #4da3ff; border-color: #4da3ff;
+    }
+    QTreeView::indicator:indeterminate {
+        background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0.35 #1b1d20,
+            stop: 0.36 #4da3ff, stop: 0.64 #4da3ff, stop: 0.65 #1b1d20);
+    }
+    QTreeView::indicator:disabled, QCheckBox::indicator:disabled { border-color: #5f656d; }
+)";
 
 QString SizeText(const QWidget& widget, quint64 bytes)
 {
@@ -42,11 +60,13 @@ ImportPage::ImportPage(QWidget* parent)
     , m_tree(new ImportTree(this))
     , m_folder(new QLineEdit(this))
     , m_folderButton(new QPushButton(tr("Choose…"), this))
+    , m_deleteBox(new QCheckBox(tr("Delete from the device afterwards"), this))
     , m_status(new QLabel(this))
     , m_progress(new QProgressBar(this))
     , m_cancelButton(new QPushButton(tr("Cancel"), this))
     , m_importButton(new QPushButton(tr("Import"), this))
 {
+    setStyleSheet(kMarks);
     m_deviceBox->setAccessibleName(tr("Device"));
     m_notice->setAlignment(Qt::AlignCenter);
     m_notice->setWordWrap(true);
@@ -77,6 +97,7 @@ void ImportPage::BuildLayout()
     folder->addWidget(m_folderButton);
     auto* actions = new QHBoxLayout;
     actions->addWidget(m_status, 1);
+    actions->addWidget(m_deleteBox);
     actions->addWidget(m_progress);
     actions->addWidget(m_cancelButton);
     actions->addWidget(m_importButton);
@@ -167,6 +188,7 @@ void ImportPage::UpdateButtons()
     m_tree->setEnabled(!isImporting);
     m_folder->setEnabled(!isImporting);
     m_folderButton->setEnabled(!isImporting);
+    m_deleteBox->setVisible(hasContent);
     const QVector<ImportTree::File> files =
         hasContent ? m_tree->MarkedFiles() : QVector<ImportTree::File>();
     m_importButton->setEnabled(m_state == State::Ready && !files.isEmpty() &&
@@ -179,6 +201,8 @@ void ImportPage::UpdateButtons()
             tr("Chosen files: %1 (%2)").arg(files.size()).arg(SizeText(*this, bytes)));
     else if (m_state == State::Reading)
         m_status->setText(tr("Reading the content… %1 files").arg(m_tree->FileCount()));
+    else if (m_state == State::Ready)
+        m_status->setText(m_idleText);
 }
 
 void ImportPage::TakeDevices(const QVector<ImportDevice>& devices)
@@ -188,30 +212,37 @@ void ImportPage::TakeDevices(const QVector<ImportDevice>& devices)
     m_deviceBox->clear();
     for (const ImportDevice& device : devices)
         m_deviceBox->addItem(device.name.isEmpty() ? tr("Unnamed device") : device.name);
-    const auto chosen =
+    const auto found =
         std::find_if(devices.begin(), devices.end(),
                      [this](const ImportDevice& device) { return device.id == m_chosen; });
+    const int chosen = found == devices.end() ? -1 : static_cast<int>(found - devices.begin());
+    m_deviceBox->setCurrentIndex(chosen);
     const bool isShown = m_state != State::NoDevice && m_state != State::Removed;
-    if (chosen != devices.end() && isShown) {
-        m_deviceBox->setCurrentIndex(static_cast<int>(chosen - devices.begin()));
-    } else if (isShown && m_state != State::Refused) {
-        TakeRemoval(); // gone, and nobody said so
-    } else if (!devices.isEmpty()) {
-        m_deviceBox->setCurrentIndex(0);
+    if (isShown && chosen < 0)
+        m_state == State::Refused ? SetState(State::NoDevice) : TakeRemoval();
+    else if (!isShown && chosen >= 0)
+        Choose(chosen); // it is back
+    else if (m_state == State::NoDevice && !devices.isEmpty())
         Choose(0);
-        return;
-    } else if (m_state != State::Removed) {
-        SetState(State::NoDevice);
-    }
+    // The word that a device was removed stays until it is back or another is chosen.
     UpdateButtons();
 }
 
 void ImportPage::Choose(int index)
 {
+    m_deviceBox->setCurrentIndex(index);
+    m_chosen = m_devices.value(index).id;
+    m_lastResult.clear();
+    OpenChosen();
+}
+
+void ImportPage::OpenChosen(const QVector<std::wstring>& toDelete)
+{
     m_session.Stop(); // the content of another device may be on its way
+    if (!toDelete.isEmpty())
+        m_session.Delete(toDelete);
     m_tree->Clear();
     m_status->clear();
-    m_chosen = m_devices.value(index).id;
     SetState(State::Opening);
     m_session.Open(m_chosen);
 }
@@ -220,8 +251,9 @@ void ImportPage::TakeContentEnd(bool isWhole)
 {
     if (m_state != State::Reading)
         return;
-    m_status->setText(isWhole ? tr("%1 files on the device").arg(m_tree->FileCount())
-                              : tr("The device stopped answering; this may not be all of it."));
+    const QString text = isWhole ? tr("%1 files on the device").arg(m_tree->FileCount())
+                                 : tr("The device stopped answering; this may not be all of it.");
+    m_idleText = (m_lastResult + ' ' + text).trimmed();
     SetState(State::Ready);
 }
 
@@ -236,10 +268,6 @@ void ImportPage::ChooseFolder()
 void ImportPage::StartImport()
 {
     const QString folder = QDir::fromNativeSeparators(m_folder->text().trimmed());
-    if (!QDir().mkpath(folder) || !QFileInfo(folder).isWritable()) {
-        m_status->setText(tr("Nothing can be written into this folder."));
-        return;
-    }
     QVector<ImportFile> files;
     QSet<QString> taken;
     m_bytesToImport = 0;
@@ -247,9 +275,24 @@ void ImportPage::StartImport()
         files.append({file.id, FreePath(folder, file.name, taken), file.size});
         m_bytesToImport += file.size;
     }
+    if (!CanImportInto(folder))
+        return;
     SetState(State::Importing);
     TakeProgress(0);
     m_session.Import(files);
+}
+
+bool ImportPage::CanImportInto(const QString& folder)
+{
+    if (!QDir().mkpath(folder) || !QFileInfo(folder).isWritable()) {
+        m_status->setText(tr("Nothing can be written into this folder."));
+        return false;
+    }
+    const auto room = static_cast<quint64>(QStorageInfo(folder).bytesAvailable());
+    if (room >= m_bytesToImport)
+        return true;
+    m_status->setText(tr("This folder has room for %1 only.").arg(SizeText(*this, room)));
+    return false;
 }
 
 void ImportPage::TakeProgress(quint64 bytes)
@@ -266,17 +309,24 @@ void ImportPage::TakeProgress(quint64 bytes)
 void ImportPage::TakeResult(const ImportResult& result)
 {
     const QString count = tr("Imported files: %1 of %2.").arg(result.imported).arg(result.wanted);
-    if (m_state == State::Importing)
-        SetState(State::Ready);
     if (m_state == State::Removed)
-        m_status->setText(tr("The device was removed during the import.") + ' ' + count);
+        m_lastResult = tr("The device was removed during the import.") + ' ' + count;
     else if (result.isStopped)
-        m_status->setText(tr("Cancelled.") + ' ' + count);
+        m_lastResult = tr("Cancelled.") + ' ' + count;
     else if (!result.failed.isEmpty())
-        m_status->setText(count + ' ' +
-                          tr("Not imported: %1").arg(QFileInfo(result.failed[0]).fileName()));
+        m_lastResult =
+            count + ' ' + tr("Not imported: %1").arg(QFileInfo(result.failed[0]).fileName());
     else
-        m_status->setText(count);
+        m_lastResult = count;
+    m_idleText = m_lastResult;
+    m_status->setText(m_lastResult);
+    if (m_state == State::Importing) {
+        SetState(State::Ready);
+        if (m_deleteBox->isChecked() && !result.importedIds.isEmpty())
+            OpenChosen(result.importedIds); // shows what is left
+        else
+            m_tree->UnmarkAll(); // what is imported is not wanted again
+    }
 }
 
 void ImportPage::TakeRemoval()

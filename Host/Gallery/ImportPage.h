@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class ImportTree;
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -51,6 +52,8 @@ private:
     void TakeProgress(quint64 bytes);
     void TakeResult(const ImportResult& result);
     void TakeRemoval();
+    void OpenChosen(const QVector<std::wstring>& toDelete = {});
+    bool CanImportInto(const QString& folder);
     void ChooseFolder();
 
     ImportSession m_session;
@@ -59,6 +62,8 @@ private:
     QVector<ImportDevice> m_devices;
     std::wstring m_chosen; ///< identifier of the device that is shown
     quint64 m_bytesToImport = 0;
+    QString m_lastResult; ///< what came of the last import from the device that is shown
+    QString m_idleText;   ///< said of the content while no file is chosen
 
     // Children of the page.
     QComboBox* m_deviceBox;
@@ -68,6 +73,7 @@ private:
     ImportTree* m_tree;
     QLineEdit* m_folder;
     QPushButton* m_folderButton;
+    QCheckBox* m_deleteBox;
     QLabel* m_status;
     QProgressBar* m_progress;
     QPushButton* m_cancelButton;

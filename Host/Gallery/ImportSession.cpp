@@ -104,6 +104,14 @@ void ImportSession::Import(const QVector<ImportFile>& files)
     Queue([this, files] { ImportNow(files); });
 }
 
+void ImportSession::Delete(const QVector<std::wstring>& objectIds)
+{
+    Queue([this, objectIds] {
+        for (int i = 0; i < objectIds.size() && !IsStopped(); ++i)
+            WpdApiLib::DeleteContentFromDevice(objectIds[i].c_str());
+    });
+}
+
 void ImportSession::Close()
 {
     Queue([this] { ChooseNow(nullptr); });
@@ -243,13 +251,14 @@ void ImportSession::ImportNow(const QVector<ImportFile>& files)
         if (IsStopped())
             break;
         if (ImportFileNow(file))
-            ++result.imported;
+            result.importedIds.append(file.id);
         else if (!IsStopped())
             result.failed.append(file.path);
         m_imported += file.size;
         emit Progressed(m_imported);
     }
     m_isImporting = false;
+    result.imported = result.importedIds.size();
     result.isStopped = IsStopped();
     emit Imported(result);
 }

@@ -63,6 +63,7 @@ struct ImportResult
     int wanted = 0;
     int imported = 0;
     bool isStopped = false;
+    QVector<std::wstring> importedIds;
     QStringList failed; ///< paths that were not written
 };
 
@@ -89,6 +90,9 @@ public:
     /// Copies \a files one after the other: Progressed(), Imported(). A file that is stopped or
     /// fails is removed again.
     void Import(const QVector<ImportFile>& files);
+    /// Deletes \a objectIds on the device. It does not tell what has really gone; reading its
+    /// content again does.
+    void Delete(const QVector<std::wstring>& objectIds);
     /// Closes the open device.
     void Close();
     /// Stops everything that was asked for so far.

@@ -15,7 +15,7 @@ namespace {
 
 constexpr QSize kIcon(48, 32);
 constexpr int kNameWidth = 360;
-constexpr int kSizeWidth = 110;
+constexpr int kSizeWidth = 130;
 constexpr int kViewDelay = 80; // ms
 
 enum Column
@@ -166,6 +166,12 @@ QVector<ImportTree::File> ImportTree::MarkedFiles() const
                 {IdOf(item), item.text(NameColumn), item.data(NameColumn, SizeRole).toULongLong()});
     });
     return files;
+}
+
+void ImportTree::UnmarkAll()
+{
+    for (int i = 0; i < topLevelItemCount(); ++i)
+        topLevelItem(i)->setCheckState(NameColumn, Qt::Unchecked);
 }
 
 int ImportTree::FileCount() const

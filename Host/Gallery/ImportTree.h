@@ -32,6 +32,7 @@ public:
     void SetThumbnail(const std::wstring& objectId, const QImage& image);
     /// The marked files, in the order of the device.
     QVector<File> MarkedFiles() const;
+    void UnmarkAll();
     /// Number of files.
     int FileCount() const;
 

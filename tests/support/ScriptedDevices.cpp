@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <variant>
 
 namespace Scripted {
 
@@ -18,13 +19,11 @@ void DeviceScript::Reset()
     objects[Wpd::WPD_DEVICE_OBJECT_ID] = {};
 }
 
-DeviceObject& DeviceScript::Add(const std::wstring& parent, const std::wstring& id)
+void DeviceScript::Add(const std::wstring& parent, const std::wstring& id, bool isFolder,
+                       std::uint64_t size, double date)
 {
     objects[parent].children.push_back(id);
-    DeviceObject& object = objects[id];
-    object.parent = parent;
-    object.name = id;
-    return object;
+    objects[id] = {parent, id, size, isFolder, date, {}};
 }
 
 namespace {
@@ -35,10 +34,10 @@ namespace {
     {                                                                                              \
         return E_NOTIMPL;                                                                          \
     }
-
+#define NOT_SCRIPTED_2(a, b) NOT_SCRIPTED(a) NOT_SCRIPTED(b)
+#define NOT_SCRIPTED_4(a, b, c, d) NOT_SCRIPTED_2(a, b) NOT_SCRIPTED_2(c, d)
 #define NOT_SCRIPTED_PAIR(Name, In, Out)                                                           \
-    NOT_SCRIPTED(Set##Name##Value(REFPROPERTYKEY, In))                                             \
-    NOT_SCRIPTED(Get##Name##Value(REFPROPERTYKEY, Out*))
+    NOT_SCRIPTED_2(Set##Name##Value(REFPROPERTYKEY, In), Get##Name##Value(REFPROPERTYKEY, Out*))
 #define NOT_SCRIPTED_OBJECTS(Interface) NOT_SCRIPTED_PAIR(Interface, Interface*, Interface*)
 
 LPWSTR TaskCopy(const std::wstring& text)
@@ -80,19 +79,13 @@ struct Service : Object<Interface>
 struct Keys : Service<IPortableDeviceKeyCollection>
 {
     using Service::Service;
-    std::vector<PROPERTYKEY> keys;
 
     HRESULT Add(REFPROPERTYKEY key) override
     {
-        const HRESULT status = Call(qPrintable("Add" + QString::number(key.pid)));
-        if (SUCCEEDED(status))
-            keys.push_back(key);
-        return status;
+        return Call(qPrintable("Add" + QString::number(key.pid)));
     }
-    NOT_SCRIPTED(GetCount(DWORD*))
-    NOT_SCRIPTED(GetAt(const DWORD, PROPERTYKEY*))
-    NOT_SCRIPTED(Clear())
-    NOT_SCRIPTED(RemoveAt(const DWORD))
+    NOT_SCRIPTED_4(GetCount(DWORD*), GetAt(const DWORD, PROPERTYKEY*), Clear(),
+                   RemoveAt(const DWORD))
 };
 
 struct Variants : Service<IPortableDevicePropVariantCollection>
@@ -105,74 +98,66 @@ struct Variants : Service<IPortableDevicePropVariantCollection>
         text = value->vt == VT_LPWSTR ? QString::fromWCharArray(value->pwszVal) : "no text";
         return Call("Add", text);
     }
-    NOT_SCRIPTED(GetCount(DWORD*))
-    NOT_SCRIPTED(GetAt(const DWORD, PROPVARIANT*))
-    NOT_SCRIPTED(GetType(VARTYPE*))
-    NOT_SCRIPTED(ChangeType(const VARTYPE))
-    NOT_SCRIPTED(Clear())
-    NOT_SCRIPTED(RemoveAt(const DWORD))
+    NOT_SCRIPTED_4(GetCount(DWORD*), GetAt(const DWORD, PROPVARIANT*), GetType(VARTYPE*),
+                   ChangeType(const VARTYPE))
+    NOT_SCRIPTED_2(Clear(), RemoveAt(const DWORD))
 };
 
 struct Values : Service<IPortableDeviceValues>
 {
     using Service::Service;
-    std::map<DWORD, std::wstring> texts; ///< by number of the key; no two sets share one here
-    std::map<DWORD, ULONGLONG> numbers;
-    std::map<DWORD, GUID> identifiers;
-    std::map<DWORD, double> dates;
+    using Value = std::variant<std::wstring, ULONGLONG, GUID, double>;
+    std::map<DWORD, Value> values; ///< by number of the key; no two sets share one here
 
     QString Text() const
     {
         QStringList parts;
-        for (const auto& [key, text] : texts)
-            parts += QStringLiteral("%1=%2").arg(key).arg(QString::fromStdWString(text));
-        for (const auto& [key, number] : numbers)
-            parts += QStringLiteral("%1=%2").arg(key).arg(number, 0, 16);
+        for (const auto& [key, value] : values)
+            parts += QStringLiteral("%1=%2").arg(key).arg(
+                value.index() == 0 ? QString::fromStdWString(std::get<0>(value))
+                                   : QString::number(std::get<1>(value), 16));
         return parts.join(' ');
+    }
+    template <typename T>
+    HRESULT Find(REFPROPERTYKEY key, T* out) const
+    {
+        const auto found = values.find(key.pid);
+        return found == values.end() ? E_FAIL : GiveValue(out, std::get<T>(found->second));
     }
     HRESULT SetStringValue(REFPROPERTYKEY key, LPCWSTR value) override
     {
-        texts[key.pid] = value;
+        values[key.pid] = std::wstring(value);
         return S_OK;
     }
     HRESULT GetStringValue(REFPROPERTYKEY key, LPWSTR* value) override
     {
-        const auto found = texts.find(key.pid);
-        *value = found == texts.end() ? nullptr : TaskCopy(found->second);
-        return *value ? S_OK : E_FAIL;
+        std::wstring text;
+        const HRESULT result = Find(key, &text);
+        *value = SUCCEEDED(result) ? TaskCopy(text) : nullptr;
+        return result;
     }
     HRESULT SetUnsignedIntegerValue(REFPROPERTYKEY key, const ULONG value) override
     {
-        numbers[key.pid] = value;
+        values[key.pid] = ULONGLONG(value);
         return S_OK;
     }
     HRESULT GetUnsignedLargeIntegerValue(REFPROPERTYKEY key, ULONGLONG* value) override
     {
-        return Find(numbers, key, value);
+        return Find(key, value);
     }
-    HRESULT GetGuidValue(REFPROPERTYKEY key, GUID* value) override
-    {
-        return Find(identifiers, key, value);
-    }
+    HRESULT GetGuidValue(REFPROPERTYKEY key, GUID* value) override { return Find(key, value); }
     HRESULT GetValue(REFPROPERTYKEY key, PROPVARIANT* value) override
     {
         value->vt = VT_DATE;
-        return Find(dates, key, &value->date);
+        return Find(key, &value->date);
     }
-    template <typename T>
-    static HRESULT Find(const std::map<DWORD, T>& from, REFPROPERTYKEY key, T* out)
-    {
-        const auto found = from.find(key.pid);
-        return found == from.end() ? E_FAIL : GiveValue(out, found->second);
-    }
-    NOT_SCRIPTED(GetCount(DWORD*))
-    NOT_SCRIPTED(GetAt(const DWORD, PROPERTYKEY*, PROPVARIANT*))
-    NOT_SCRIPTED(SetValue(REFPROPERTYKEY, const PROPVARIANT*))
-    NOT_SCRIPTED(GetUnsignedIntegerValue(REFPROPERTYKEY, ULONG*))
-    NOT_SCRIPTED(SetUnsignedLargeIntegerValue(REFPROPERTYKEY, const ULONGLONG))
-    NOT_SCRIPTED(SetGuidValue(REFPROPERTYKEY, REFGUID))
-    NOT_SCRIPTED(SetBufferValue(REFPROPERTYKEY, BYTE*, DWORD))
-    NOT_SCRIPTED(GetBufferValue(REFPROPERTYKEY, BYTE**, DWORD*))
+    NOT_SCRIPTED_4(GetCount(DWORD*), GetAt(const DWORD, PROPERTYKEY*, PROPVARIANT*),
+                   SetValue(REFPROPERTYKEY, const PROPVARIANT*),
+                   GetUnsignedIntegerValue(REFPROPERTYKEY, ULONG*))
+    NOT_SCRIPTED_4(SetUnsignedLargeIntegerValue(REFPROPERTYKEY, const ULONGLONG),
+                   SetGuidValue(REFPROPERTYKEY, REFGUID),
+                   SetBufferValue(REFPROPERTYKEY, BYTE*, DWORD),
+                   GetBufferValue(REFPROPERTYKEY, BYTE**, DWORD*))
     NOT_SCRIPTED_PAIR(SignedInteger, const LONG, LONG)
     NOT_SCRIPTED_PAIR(SignedLargeInteger, const LONGLONG, LONGLONG)
     NOT_SCRIPTED_PAIR(Float, const FLOAT, FLOAT)
@@ -184,10 +169,8 @@ struct Values : Service<IPortableDeviceValues>
     NOT_SCRIPTED_OBJECTS(IPortableDevicePropVariantCollection)
     NOT_SCRIPTED_OBJECTS(IPortableDeviceKeyCollection)
     NOT_SCRIPTED_OBJECTS(IPortableDeviceValuesCollection)
-    NOT_SCRIPTED(RemoveValue(REFPROPERTYKEY))
-    NOT_SCRIPTED(CopyValuesFromPropertyStore(IPropertyStore*))
-    NOT_SCRIPTED(CopyValuesToPropertyStore(IPropertyStore*))
-    NOT_SCRIPTED(Clear())
+    NOT_SCRIPTED_4(RemoveValue(REFPROPERTYKEY), CopyValuesFromPropertyStore(IPropertyStore*),
+                   CopyValuesToPropertyStore(IPropertyStore*), Clear())
 };
 
 struct Stream : Service<IStream>
@@ -206,16 +189,12 @@ struct Stream : Service<IStream>
             static_cast<char*>(data)[i] = DeviceScript::DataAt(m_position++);
         return *read < count ? S_FALSE : S_OK;
     }
-    NOT_SCRIPTED(Write(const void*, ULONG, ULONG*))
-    NOT_SCRIPTED(Seek(LARGE_INTEGER, DWORD, ULARGE_INTEGER*))
-    NOT_SCRIPTED(SetSize(ULARGE_INTEGER))
-    NOT_SCRIPTED(CopyTo(IStream*, ULARGE_INTEGER, ULARGE_INTEGER*, ULARGE_INTEGER*))
-    NOT_SCRIPTED(Commit(DWORD))
-    NOT_SCRIPTED(Revert())
-    NOT_SCRIPTED(LockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD))
-    NOT_SCRIPTED(UnlockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD))
-    NOT_SCRIPTED(Stat(STATSTG*, DWORD))
-    NOT_SCRIPTED(Clone(IStream**))
+    NOT_SCRIPTED_4(Write(const void*, ULONG, ULONG*), Seek(LARGE_INTEGER, DWORD, ULARGE_INTEGER*),
+                   SetSize(ULARGE_INTEGER),
+                   CopyTo(IStream*, ULARGE_INTEGER, ULARGE_INTEGER*, ULARGE_INTEGER*))
+    NOT_SCRIPTED_4(Commit(DWORD), Revert(), LockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD),
+                   UnlockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD))
+    NOT_SCRIPTED_2(Stat(STATSTG*, DWORD), Clone(IStream**))
 
 private:
     const std::uint64_t m_size;
@@ -234,10 +213,9 @@ struct Resources : Service<IPortableDeviceResources>
         return StepTo<IStream>("GetStream", out, MakeCom<Stream>(script.objects.at(object).size),
                                object, key.fmtid, key.pid, mode);
     }
-    NOT_SCRIPTED(GetSupportedResources(LPCWSTR, IPortableDeviceKeyCollection**))
-    NOT_SCRIPTED(GetResourceAttributes(LPCWSTR, REFPROPERTYKEY, IPortableDeviceValues**))
-    NOT_SCRIPTED(Delete(LPCWSTR, IPortableDeviceKeyCollection*))
-    NOT_SCRIPTED(Cancel())
+    NOT_SCRIPTED_4(GetSupportedResources(LPCWSTR, IPortableDeviceKeyCollection**),
+                   GetResourceAttributes(LPCWSTR, REFPROPERTYKEY, IPortableDeviceValues**),
+                   Delete(LPCWSTR, IPortableDeviceKeyCollection*), Cancel())
     NOT_SCRIPTED(CreateResource(IPortableDeviceValues*, IStream**, DWORD*, LPWSTR*))
 };
 
@@ -245,28 +223,22 @@ struct Properties : Service<IPortableDeviceProperties>
 {
     using Service::Service;
 
-    HRESULT GetValues(LPCWSTR id, IPortableDeviceKeyCollection* wanted,
+    HRESULT GetValues(LPCWSTR id, IPortableDeviceKeyCollection* /*keys*/,
                       IPortableDeviceValues** out) override
     {
         const DeviceObject& object = DeviceScript::Get().objects.at(id);
         const auto values = MakeCom<Values>("values");
-        values->texts = {{3, object.parent}, {12, object.name}};
-        values->numbers = {{11, object.size}};
-        values->dates = {{19, object.date}};
-        if (object.folder)
-            values->identifiers = {{7, Wpd::WPD_CONTENT_TYPE_FOLDER}};
-        const auto& keys = static_cast<Keys*>(wanted)->keys;
-        for (const DWORD pid : {3u, 7u, 11u, 12u, 19u}) {
-            if (std::none_of(keys.begin(), keys.end(),
-                             [pid](REFPROPERTYKEY key) { return key.pid == pid; }))
-                values->texts.erase(pid), values->numbers.erase(pid);
-        }
+        values->values = {{3, object.parent},
+                          {7, object.isFolder ? Wpd::WPD_CONTENT_TYPE_FOLDER : GUID{}},
+                          {11, ULONGLONG(object.size)},
+                          {12, object.name},
+                          {19, object.date}};
         return StepTo<IPortableDeviceValues>("GetValues", out, values, id);
     }
-    NOT_SCRIPTED(GetSupportedProperties(LPCWSTR, IPortableDeviceKeyCollection**))
-    NOT_SCRIPTED(GetPropertyAttributes(LPCWSTR, REFPROPERTYKEY, IPortableDeviceValues**))
-    NOT_SCRIPTED(SetValues(LPCWSTR, IPortableDeviceValues*, IPortableDeviceValues**))
-    NOT_SCRIPTED(Delete(LPCWSTR, IPortableDeviceKeyCollection*))
+    NOT_SCRIPTED_4(GetSupportedProperties(LPCWSTR, IPortableDeviceKeyCollection**),
+                   GetPropertyAttributes(LPCWSTR, REFPROPERTYKEY, IPortableDeviceValues**),
+                   SetValues(LPCWSTR, IPortableDeviceValues*, IPortableDeviceValues**),
+                   Delete(LPCWSTR, IPortableDeviceKeyCollection*))
     NOT_SCRIPTED(Cancel())
 };
 
@@ -283,10 +255,7 @@ struct Enumerator : Service<IEnumPortableDeviceObjectIDs>
             ids[(*fetched)++] = TaskCopy(m_ids[m_next]);
         return *fetched < wanted ? S_FALSE : S_OK;
     }
-    NOT_SCRIPTED(Skip(ULONG))
-    NOT_SCRIPTED(Reset())
-    NOT_SCRIPTED(Clone(IEnumPortableDeviceObjectIDs**))
-    NOT_SCRIPTED(Cancel())
+    NOT_SCRIPTED_4(Skip(ULONG), Reset(), Clone(IEnumPortableDeviceObjectIDs**), Cancel())
 
 private:
     const std::vector<std::wstring> m_ids;
@@ -318,16 +287,16 @@ struct Content : Service<IPortableDeviceContent>
     {
         return Step("Delete", options, static_cast<Variants*>(ids)->text);
     }
-    NOT_SCRIPTED(CreateObjectWithPropertiesOnly(IPortableDeviceValues*, LPWSTR*))
-    NOT_SCRIPTED(CreateObjectWithPropertiesAndData(IPortableDeviceValues*, IStream**, DWORD*,
-                                                   LPWSTR*))
-    NOT_SCRIPTED(GetObjectIDsFromPersistentUniqueIDs(IPortableDevicePropVariantCollection*,
-                                                     IPortableDevicePropVariantCollection**))
-    NOT_SCRIPTED(Cancel())
-    NOT_SCRIPTED(Move(IPortableDevicePropVariantCollection*, LPCWSTR,
-                      IPortableDevicePropVariantCollection**))
-    NOT_SCRIPTED(Copy(IPortableDevicePropVariantCollection*, LPCWSTR,
-                      IPortableDevicePropVariantCollection**))
+    NOT_SCRIPTED_4(CreateObjectWithPropertiesOnly(IPortableDeviceValues*, LPWSTR*),
+                   CreateObjectWithPropertiesAndData(IPortableDeviceValues*, IStream**, DWORD*,
+                                                     LPWSTR*),
+                   GetObjectIDsFromPersistentUniqueIDs(IPortableDevicePropVariantCollection*,
+                                                       IPortableDevicePropVariantCollection**),
+                   Cancel())
+    NOT_SCRIPTED_2(Move(IPortableDevicePropVariantCollection*, LPCWSTR,
+                        IPortableDevicePropVariantCollection**),
+                   Copy(IPortableDevicePropVariantCollection*, LPCWSTR,
+                        IPortableDevicePropVariantCollection**))
 };
 
 struct Device : Service<IPortableDevice>
@@ -338,7 +307,7 @@ struct Device : Service<IPortableDevice>
     {
         const HRESULT status = Step("Open", id, static_cast<Values*>(client)->Text());
         const bool refused =
-            DeviceScript::Get().readOnly && !static_cast<Values*>(client)->numbers.count(9);
+            DeviceScript::Get().readOnly && !static_cast<Values*>(client)->values.count(9);
         return refused ? E_ACCESSDENIED : status;
     }
     HRESULT Content(IPortableDeviceContent** out) override
@@ -358,10 +327,8 @@ struct Device : Service<IPortableDevice>
         return status;
     }
     HRESULT Unadvise(LPCWSTR cookie) override { return Step("Unadvise", cookie); }
-    NOT_SCRIPTED(SendCommand(const DWORD, IPortableDeviceValues*, IPortableDeviceValues**))
-    NOT_SCRIPTED(Capabilities(IPortableDeviceCapabilities**))
-    NOT_SCRIPTED(Close())
-    NOT_SCRIPTED(GetPnPDeviceID(LPWSTR*))
+    NOT_SCRIPTED_4(SendCommand(const DWORD, IPortableDeviceValues*, IPortableDeviceValues**),
+                   Capabilities(IPortableDeviceCapabilities**), Close(), GetPnPDeviceID(LPWSTR*))
 };
 
 struct Manager : Service<IPortableDeviceManager>
@@ -389,10 +356,9 @@ struct Manager : Service<IPortableDeviceManager>
     }
     static HRESULT Name(LPCWSTR id, std::wstring DeviceEntry::*field, WCHAR* name, DWORD* length)
     {
-        const auto& devices = DeviceScript::Get().devices;
-        const auto found = std::find_if(devices.begin(), devices.end(),
-                                        [id](const DeviceEntry& entry) { return entry.id == id; });
-        const std::wstring& text = *found.*field;
+        std::wstring text;
+        for (const DeviceEntry& device : DeviceScript::Get().devices)
+            text = device.id == id ? device.*field : text;
         if (text == L"none")
             return E_FAIL;
         if (name)
@@ -400,10 +366,9 @@ struct Manager : Service<IPortableDeviceManager>
         *length = static_cast<DWORD>(text.size() + 1);
         return S_OK;
     }
-    NOT_SCRIPTED(RefreshDeviceList())
-    NOT_SCRIPTED(GetDeviceManufacturer(LPCWSTR, WCHAR*, DWORD*))
-    NOT_SCRIPTED(GetDeviceProperty(LPCWSTR, LPCWSTR, BYTE*, DWORD*, DWORD*))
-    NOT_SCRIPTED(GetPrivateDevices(LPWSTR*, DWORD*))
+    NOT_SCRIPTED_4(RefreshDeviceList(), GetDeviceManufacturer(LPCWSTR, WCHAR*, DWORD*),
+                   GetDeviceProperty(LPCWSTR, LPCWSTR, BYTE*, DWORD*, DWORD*),
+                   GetPrivateDevices(LPWSTR*, DWORD*))
 };
 
 template <typename Class>
@@ -425,29 +390,26 @@ struct DeviceClassFactory : Object<IClassFactory>
 NLEComPtr<IPortableDeviceValues> DeviceScript::EventParameters(const _GUID& event)
 {
     const auto values = MakeCom<Values>("values");
-    values->identifiers = {{3, event}};
+    values->values = {{3, event}};
     return values;
 }
 
 HRESULT GetDeviceClassObject(REFCLSID classId, REFIID iid, void** out)
 {
     *out = nullptr;
-    IClassFactory* factory = nullptr;
-    if (classId == Wpd::CLSID_PortableDeviceManager)
-        factory = new DeviceClassFactory<Manager>("manager");
-    else if (classId == Wpd::CLSID_PortableDeviceFTM)
-        factory = new DeviceClassFactory<Device>("device");
-    else if (classId == Wpd::CLSID_PortableDeviceValues)
-        factory = new DeviceClassFactory<Values>("values");
-    else if (classId == Wpd::CLSID_PortableDeviceKeyCollection)
-        factory = new DeviceClassFactory<Keys>("keys");
-    else if (classId == Wpd::CLSID_PortableDevicePropVariantCollection)
-        factory = new DeviceClassFactory<Variants>("variants");
-    if (!factory)
-        return CLASS_E_CLASSNOTAVAILABLE;
-    const HRESULT result = factory->QueryInterface(iid, out);
-    factory->Release();
-    return result;
+    const auto make = [&](const _GUID& id, auto* factory) {
+        const NLEComPtr<IClassFactory> object(factory);
+        factory->Release(); // the pointer above holds it
+        return classId == id && SUCCEEDED(object.get()->QueryInterface(iid, out));
+    };
+    const bool isMade =
+        make(Wpd::CLSID_PortableDeviceManager, new DeviceClassFactory<Manager>("manager")) ||
+        make(Wpd::CLSID_PortableDeviceFTM, new DeviceClassFactory<Device>("device")) ||
+        make(Wpd::CLSID_PortableDeviceValues, new DeviceClassFactory<Values>("values")) ||
+        make(Wpd::CLSID_PortableDeviceKeyCollection, new DeviceClassFactory<Keys>("keys")) ||
+        make(Wpd::CLSID_PortableDevicePropVariantCollection,
+             new DeviceClassFactory<Variants>("variants"));
+    return isMade ? S_OK : CLASS_E_CLASSNOTAVAILABLE;
 }
 
 } // namespace Scripted

@@ -22,7 +22,7 @@ struct DeviceObject
     std::wstring parent;
     std::wstring name;
     std::uint64_t size = 0;
-    bool folder = false;
+    bool isFolder = false;
     double date = 0;
     std::vector<std::wstring> children;
 };
@@ -45,8 +45,9 @@ public:
 
     /// Forgets everything and adds the root object.
     void Reset();
-    /// Adds an object; gives it for what else is to be said.
-    DeviceObject& Add(const std::wstring& parent, const std::wstring& id);
+    /// Adds an object that is called as its identifier.
+    void Add(const std::wstring& parent, const std::wstring& id, bool isFolder = false,
+             std::uint64_t size = 0, double date = 0);
     /// The data of every object: its byte at \a offset.
     static char DataAt(std::uint64_t offset)
     {
