@@ -18,6 +18,12 @@ using Scripted::Script;
 
 namespace {
 
+// On Windows a library keeps the operators that it was linked with.
+#ifdef Q_OS_WIN
+constexpr bool SeesAllocations = false;
+#else
+constexpr bool SeesAllocations = true;
+#endif
 std::size_t s_allocationToFail = 0;
 int s_buffers = 0; // that were allocated, of the size of a transfer buffer or more
 
@@ -112,6 +118,7 @@ private:
     }
 
 private slots:
+    void initTestCase() { Scripted::InstallDeviceService(); }
     void init()
     {
         Script::Get().Reset();
@@ -183,7 +190,8 @@ private slots:
             list + "Failed to CoCreateInstance CLSID_PortableDeviceManager");
         row("list", "manager.CountDevices", 0x80004005, 0,
             list + "! Failed to get number of devices on the system");
-        row("list", "memory", 0, 0, list + "Failed to allocate memory for PWSTR array");
+        if (SeesAllocations)
+            row("list", "memory", 0, 0, list + "Failed to allocate memory for PWSTR array");
         row("list", "manager.GetDevices", 0x80004005, 0,
             list + "Failed to get the device list from the system");
         row("open", "device.Open", 0x8007001F, 0, "Failed to Open the device, hr = 0x%1");
@@ -225,8 +233,9 @@ private slots:
         row("copy", "stream.Read", 0x8007001F, 0,
             "Failed to read 4096 bytes from the source stream, hr = 0x%1\n"
             "! Failed to transfer object from device, hr = 0x%1");
-        row("copy", "memory", 0, 1,
-            "Failed to allocate 4096 bytes for the temporary transfer buffer.");
+        if (SeesAllocations)
+            row("copy", "memory", 0, 1,
+                "Failed to allocate 4096 bytes for the temporary transfer buffer.");
         if (QFile::exists("/dev/full"))
             row("copy", "full disk", 0x80030070, 0,
                 "Failed to write 100 bytes of object data to the destination stream, hr = 0x%1\n"
@@ -379,8 +388,8 @@ private slots:
             QCOMPARE(Transfer(odd.c_str(), 0, "/no/such/folder"), 0);
             QCOMPARE(Transfer(odd.c_str(), 0, Target()), 0);
         });
-        QVERIFY(printed.startsWith("! Failed to create a temporary file named (/no/such/folder) to "
-                                   "transfer object (IMG"));
+        QVERIFY(QDir::fromNativeSeparators(printed).startsWith(
+            "! Failed to create a temporary file named (/no/such/folder) to transfer object (IMG"));
         QCOMPARE(printed.count('\n'), 3);
     }
 
@@ -425,7 +434,7 @@ private slots:
                                         : "! Failed to transfer object from device, "
                                           "hr = 0x80004005\n");
         QCOMPARE(m_chunks, chunks);
-        QCOMPARE(s_buffers, 1);
+        QCOMPARE(s_buffers, SeesAllocations ? 1 : 0);
         const QString resource = stopAfter == 0 ? "E81E79BE" : "C7C407BA";
         QVERIFY(Script::Get().TakeCalls().contains("resources.GetStream(clip, " + resource +
                                                    ", 0, 0)"));

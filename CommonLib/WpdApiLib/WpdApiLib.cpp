@@ -8,8 +8,11 @@
 #include "CommonLib/WpdApiLib/WpdReport_p.h"
 
 #include <algorithm>
+#include <cstring>
 #include <cwchar>
+#include <memory>
 #include <new>
+#include <utility>
 
 std::int32_t WpdApiLib::bFailed = 0;
 std::int32_t WpdApiLib::bCanceled = 0;

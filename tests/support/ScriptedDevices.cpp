@@ -2,6 +2,7 @@
 #include "tests/support/ScriptedDevices.h"
 
 #include <algorithm>
+#include <cstring>
 #include <cwchar>
 #include <variant>
 

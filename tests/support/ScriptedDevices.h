@@ -60,4 +60,7 @@ public:
 /// What the service's module exports.
 HRESULT GetDeviceClassObject(REFCLSID classId, REFIID iid, void** out);
 
+/// Makes the scripted service the system's, where the system has one; once for the process.
+void InstallDeviceService();
+
 } // namespace Scripted

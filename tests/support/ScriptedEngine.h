@@ -62,6 +62,11 @@ inline ULONG References(IUnknown* object)
     return object->Release();
 }
 
+/// Of 32 bits on Windows only, so that QVariant has no constructor for it.
+inline QString Text(unsigned long value)
+{
+    return QString::number(value);
+}
 template <typename T>
 QString Text(const T& value)
 {
