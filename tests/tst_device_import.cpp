@@ -151,10 +151,11 @@ private slots:
                                        {L"c", L"none", L"none"}};
         QCOMPARE(WpdApiLib::EnumerateAllDevices(nullptr, nullptr), 3ul);
         QCOMPARE(WpdApiLib::EnumerateAllDevices(ids, names), 3ul);
-        const std::wstring expected[] = {L"a", L"Tel\u00e9fono \U0001F4F7", L"b", L"Camera", L"c",
-                                         L""};
+        const std::pair<const wchar_t*, const wchar_t*> expected[] = {
+            {L"a", L"Tel\u00e9fono \U0001F4F7"}, {L"b", L"Camera"}, {L"c", L""}};
         for (int i = 0; i < 3; ++i) {
-            QVERIFY(ids[i] == expected[2 * i] && names[i] == expected[2 * i + 1]);
+            QVERIFY(std::wstring(ids[i]) == expected[i].first);
+            QVERIFY(std::wstring(names[i]) == expected[i].second);
             SysFreeString(ids[i]);
             SysFreeString(names[i]);
         }

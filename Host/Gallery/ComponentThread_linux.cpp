@@ -2,5 +2,5 @@
 #include "Host/Gallery/ComponentThread_p.h"
 
 // Component objects ask nothing of a thread here.
-ComponentThread::ComponentThread() = default;
-ComponentThread::~ComponentThread() = default;
+ComponentThread::ComponentThread() {}
+ComponentThread::~ComponentThread() {}

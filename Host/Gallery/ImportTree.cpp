@@ -39,7 +39,7 @@ std::wstring IdOf(const QTreeWidgetItem& item)
 /// A picture that is quickly read, even over a slow connection.
 bool IsSmallPicture(const QTreeWidgetItem& item)
 {
-    constexpr qulonglong Most = 16 * 1024 * 1024;
+    constexpr qulonglong Most = 16ULL * 1024 * 1024;
     static const QList<QByteArray> formats = QImageReader::supportedImageFormats();
     const QFileInfo file(item.text(NameColumn));
     return item.data(NameColumn, SizeRole).toULongLong() <= Most &&

@@ -38,8 +38,7 @@ namespace {
 #define NOT_SCRIPTED_2(a, b) NOT_SCRIPTED(a) NOT_SCRIPTED(b)
 #define NOT_SCRIPTED_4(a, b, c, d) NOT_SCRIPTED_2(a, b) NOT_SCRIPTED_2(c, d)
 #define NOT_SCRIPTED_PAIR(Name, In, Out)                                                           \
-    NOT_SCRIPTED_2(Set##Name##Value(REFPROPERTYKEY, In), Get##Name##Value(REFPROPERTYKEY, Out*))
-#define NOT_SCRIPTED_OBJECTS(Interface) NOT_SCRIPTED_PAIR(Interface, Interface*, Interface*)
+    NOT_SCRIPTED_2(Set##Name##Value(REFPROPERTYKEY, In), Get##Name##Value(REFPROPERTYKEY, Out))
 
 LPWSTR TaskCopy(const std::wstring& text)
 {
@@ -159,17 +158,20 @@ struct Values : Service<IPortableDeviceValues>
                    SetGuidValue(REFPROPERTYKEY, REFGUID),
                    SetBufferValue(REFPROPERTYKEY, BYTE*, DWORD),
                    GetBufferValue(REFPROPERTYKEY, BYTE**, DWORD*))
-    NOT_SCRIPTED_PAIR(SignedInteger, const LONG, LONG)
-    NOT_SCRIPTED_PAIR(SignedLargeInteger, const LONGLONG, LONGLONG)
-    NOT_SCRIPTED_PAIR(Float, const FLOAT, FLOAT)
-    NOT_SCRIPTED_PAIR(Error, const HRESULT, HRESULT)
-    NOT_SCRIPTED_PAIR(Key, REFPROPERTYKEY, PROPERTYKEY)
-    NOT_SCRIPTED_PAIR(Bool, const BOOL, BOOL)
-    NOT_SCRIPTED_PAIR(IUnknown, IUnknown*, IUnknown*)
-    NOT_SCRIPTED_OBJECTS(IPortableDeviceValues)
-    NOT_SCRIPTED_OBJECTS(IPortableDevicePropVariantCollection)
-    NOT_SCRIPTED_OBJECTS(IPortableDeviceKeyCollection)
-    NOT_SCRIPTED_OBJECTS(IPortableDeviceValuesCollection)
+    NOT_SCRIPTED_PAIR(SignedInteger, const LONG, LONG*)
+    NOT_SCRIPTED_PAIR(SignedLargeInteger, const LONGLONG, LONGLONG*)
+    NOT_SCRIPTED_PAIR(Float, const FLOAT, FLOAT*)
+    NOT_SCRIPTED_PAIR(Error, const HRESULT, HRESULT*)
+    NOT_SCRIPTED_PAIR(Key, REFPROPERTYKEY, PROPERTYKEY*)
+    NOT_SCRIPTED_PAIR(Bool, const BOOL, BOOL*)
+    NOT_SCRIPTED_PAIR(IUnknown, IUnknown*, IUnknown**)
+    NOT_SCRIPTED_PAIR(IPortableDeviceValues, IPortableDeviceValues*, IPortableDeviceValues**)
+    NOT_SCRIPTED_PAIR(IPortableDevicePropVariantCollection, IPortableDevicePropVariantCollection*,
+                      IPortableDevicePropVariantCollection**)
+    NOT_SCRIPTED_PAIR(IPortableDeviceKeyCollection, IPortableDeviceKeyCollection*,
+                      IPortableDeviceKeyCollection**)
+    NOT_SCRIPTED_PAIR(IPortableDeviceValuesCollection, IPortableDeviceValuesCollection*,
+                      IPortableDeviceValuesCollection**)
     NOT_SCRIPTED_4(RemoveValue(REFPROPERTYKEY), CopyValuesFromPropertyStore(IPropertyStore*),
                    CopyValuesToPropertyStore(IPropertyStore*), Clear())
 };
