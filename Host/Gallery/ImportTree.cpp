@@ -57,7 +57,11 @@ bool StartsUnfolded(const QTreeWidgetItem& item)
 
 } // namespace
 
-ImportTree::ImportTree(QWidget* parent) : QTreeWidget(parent)
+ImportTree::ImportTree(QWidget* parent)
+    : QTreeWidget(parent)
+    , m_fileIcon(style()->standardIcon(QStyle::SP_FileIcon))
+    , m_folderIcon(style()->standardIcon(QStyle::SP_DirIcon))
+    , m_storageIcon(style()->standardIcon(QStyle::SP_DriveHDIcon))
 {
     setHeaderLabels({tr("Name"), tr("Size"), tr("Modified")});
     setAccessibleName(tr("Content of the device"));
@@ -91,6 +95,8 @@ void ImportTree::Clear()
 
 void ImportTree::AddObjects(const QVector<ImportObject>& objects)
 {
+    // A folder's mark is counted together from all its children each time that it is asked.
+    std::unordered_map<QTreeWidgetItem*, bool> marked;
     for (const ImportObject& object : objects) {
         if (object.parent.empty() || m_items.count(object.id))
             continue; // the device itself is what the page shows above
@@ -100,11 +106,16 @@ void ImportTree::AddObjects(const QVector<ImportObject>& objects)
             addTopLevelItem(item);
         } else {
             // A mark that is there already holds for what comes below it.
-            if (parent->second->checkState(NameColumn) == Qt::Checked)
+            QTreeWidgetItem* const folder = parent->second;
+            auto isMarked = marked.find(folder);
+            if (isMarked == marked.end())
+                isMarked =
+                    marked.emplace(folder, folder->checkState(NameColumn) == Qt::Checked).first;
+            if (isMarked->second)
                 item->setCheckState(NameColumn, Qt::Checked);
-            parent->second->addChild(item);
-            if (!parent->second->data(NameColumn, FolderRole).toBool())
-                parent->second->setIcon(NameColumn, style()->standardIcon(QStyle::SP_DriveHDIcon));
+            folder->addChild(item);
+            if (!folder->data(NameColumn, FolderRole).toBool())
+                folder->setIcon(NameColumn, m_storageIcon);
         }
         item->setExpanded(StartsUnfolded(*item));
         m_items.emplace(object.id, item);
@@ -121,8 +132,7 @@ QTreeWidgetItem* ImportTree::MakeItem(const ImportObject& object) const
     item->setCheckState(NameColumn, Qt::Unchecked);
     item->setText(NameColumn,
                   object.name.isEmpty() ? QString::fromStdWString(object.id) : object.name);
-    item->setIcon(NameColumn, style()->standardIcon(object.isFolder ? QStyle::SP_DirIcon
-                                                                    : QStyle::SP_FileIcon));
+    item->setIcon(NameColumn, object.isFolder ? m_folderIcon : m_fileIcon);
     item->setData(NameColumn, IdRole, QVariant::fromValue(object.id));
     item->setData(NameColumn, SizeRole, object.size);
     item->setData(NameColumn, FolderRole, object.isFolder);

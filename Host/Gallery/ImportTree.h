@@ -55,6 +55,10 @@ private:
 
     std::unordered_map<std::wstring, QTreeWidgetItem*> m_items; ///< owned by the tree
     std::unordered_set<std::wstring> m_asked; ///< whose pictures have been asked for
+    // A style makes them from files each time that it is asked.
+    const QIcon m_fileIcon;
+    const QIcon m_folderIcon;
+    const QIcon m_storageIcon;
     QTimer m_marksTimer;
     QTimer m_viewTimer;
 };
