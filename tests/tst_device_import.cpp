@@ -179,88 +179,66 @@ private slots:
         QTest::addColumn<uint>("status");
         QTest::addColumn<int>("result");
         QTest::addColumn<QString>("output");
-        // In an output %1 is the status.
-        const auto row = [](const QString& action, const QString& failing, uint status, int result,
-                            const QString& output) {
-            QTest::addRow("%s: %s %x", qPrintable(action), qPrintable(failing), status)
-                << action << failing << status << result
-                << (output.contains("%1") ? output.arg(status, 0, 16) : output);
+        // One line a step. In the output %1 is the status; what is printed starts with "! ".
+        static constexpr struct
+        {
+            const char* action;
+            const char* failing;
+            uint status;
+            int result;
+            const char* output;
+        } steps[] = {
+            // clang-format off
+            {"list", "manager.Create", 0x80040154, 0, "-INFO- [WpdApiLib::EnumerateAllDevices]:  Failed to CoCreateInstance CLSID_PortableDeviceManager"},
+            {"list", "manager.CountDevices", 0x80004005, 0, "-INFO- [WpdApiLib::EnumerateAllDevices]:  ! Failed to get number of devices on the system"},
+            {"list", "memory", 0, 0, "-INFO- [WpdApiLib::EnumerateAllDevices]:  Failed to allocate memory for PWSTR array"},
+            {"list", "manager.GetDevices", 0x80004005, 0, "-INFO- [WpdApiLib::EnumerateAllDevices]:  Failed to get the device list from the system"},
+            {"open", "device.Open", 0x8007001F, 0, "! Failed to Open the device, hr = 0x%1\n"},
+            {"open", "device.Open", 0x80070005, 0, "! Failed to Open the device, hr = 0x%1\n"},
+            {"open", "device.Create", 0x80040154, 0, "! Failed to CoCreateInstance CLSID_PortableDeviceFTM, hr = 0x%1\n"},
+            {"open", "device.Advise", 0x80004001, 1, "! Failed to register for device events, hr = 0x%1\n"},
+            {"open", "device.Unadvise", 0x80004005, 1, "! Failed to unregister for device events using registration cookie 'cookie', hr = 0x%1\n"},
+            {"walk", "device.Content", 0x80004005, 0, "! Failed to get IPortableDeviceContent from IPortableDevice, hr = 0x%1\n"},
+            {"walk", "no device", 0, 0, "! Failed to get IPortableDeviceContent from IPortableDevice, hr = 0x80004003\n"},
+            {"walk", "content.Properties", 0x80004005, 0, "! Failed to get IPortableDeviceProperties from IPortableDevice, hr = 0x%1\n"},
+            {"walk", "content.GetValues", 0x8007001F, 0, "! Failed to get all properties for object 'DEVICE', hr= 0x%1\n"},
+            {"walk", "content.EnumObjects", 0x80004005, 0, "! Failed to get IEnumPortableDeviceObjectIDs from IPortableDeviceContent, hr = 0x%1\n"},
+            {"walk", "enumerator.Next", 0x80004005, 0, ""},
+            {"walk", "keys.Add3", 0x80070057, 1, "! Failed to add WPD_OBJECT_PARENT_ID to IPortableDeviceKeyCollection, hr= 0x%1\n"},
+            {"walk", "keys.Add12", 0x80070057, 1, "! Failed to add WPD_OBJECT_ORIGINAL_FILE_NAME to IPortableDeviceKeyCollection, hr= 0x%1\n"},
+            {"walk", "keys.Add11", 0x80070057, 1, "! Failed to add WPD_OBJECT_SIZE to IPortableDeviceKeyCollection, hr= 0x%1\n"},
+            {"walk", "keys.Add7", 0x80070057, 1, "! Failed to add WPD_OBJECT_CONTENT_TYPE to IPortableDeviceKeyCollection, hr= 0x%1\n"},
+            {"walk", "keys.Add19", 0x80070057, 1, "! Failed to add WPD_OBJECT_DATE_MODIFIED to IPortableDeviceKeyCollection, hr= 0x%1\n"},
+            {"copy", "device.Content", 0x80004005, 0, "! Failed to get IPortableDeviceContent from IPortableDevice, hr = 0x%1\n"},
+            {"copy", "no device", 0, 0, "! Failed to get IPortableDeviceContent from IPortableDevice, hr = 0x80004003\n"},
+            {"copy", "content.Transfer", 0x80004005, 0, "! Failed to get IPortableDeviceResources from IPortableDeviceContent, hr = 0x%1\n"},
+            {"copy", "content.GetStream", 0x80070490, 0, "! Failed to get IStream (representing object data on the device) from IPortableDeviceResources, hr = 0x%1\n"},
+            {"copy", "stream.Read", 0x8007001F, 0, "! Failed to read 4096 bytes from the source stream, hr = 0x%1\n! Failed to transfer object from device, hr = 0x%1\n"},
+            {"copy", "memory", 0, 1, "! Failed to allocate 4096 bytes for the temporary transfer buffer.\n"},
+            {"copy", "full disk", 0x80030070, 0, "! Failed to write 100 bytes of object data to the destination stream, hr = 0x%1\n! Failed to transfer object from device, hr = 0x%1\n"},
+            {"delete", "variants.Create", 0x80040154, 0, "! Failed to CoCreateInstance CLSID_PortableDevicePropVariantCollection, hr = 0x%1\n"},
+            {"delete", "variants.Create", 1, 0, "! Failed to delete an object from the device because we were returned a NULL IPortableDevicePropVariantCollection interface pointer, hr = 0x80004003\n"},
+            {"delete", "no identifier", 0, 0, "! Failed to delete an object from the device because we could no allocate memory for the object identifier string, hr = 0x8007000e\n"},
+            {"delete", "variants.Add", 0x8007000E, 0, "! Failed to delete an object from the device because we could no add the object identifier string to the IPortableDevicePropVariantCollection, hr = 0x%1\n"},
+            {"delete", "content.Delete", 0x80070005, 0, "! Failed to delete an object from the device, hr = 0x%1\n"},
+            {"delete", "content.Delete", 1, 0, "! Failed to delete an object from the device, hr = 0x%1\n"},
+            {"delete", "no device", 0, 0, "! Failed to get IPortableDeviceContent from IPortableDevice, hr = 0x80004003\n"},
+            {"delete", "", 0, 0, ""},
+            {"cancel", "device.Cancel", 0x80004001, 0, "-WARN- [WpdApiLib::Cancel]:  ! Failed to Cancel, hr = 0x%1\n"},
+            {"cancel", "no device", 0, 0, ""},
+            {"cancel", "", 0, 1, ""},
+            // clang-format on
         };
-        const QString list = "-INFO- [WpdApiLib::EnumerateAllDevices]:  ";
-        row("list", "manager.Create", 0x80040154, 0,
-            list + "Failed to CoCreateInstance CLSID_PortableDeviceManager");
-        row("list", "manager.CountDevices", 0x80004005, 0,
-            list + "! Failed to get number of devices on the system");
-        if (SeesAllocations)
-            row("list", "memory", 0, 0, list + "Failed to allocate memory for PWSTR array");
-        row("list", "manager.GetDevices", 0x80004005, 0,
-            list + "Failed to get the device list from the system");
-        row("open", "device.Open", 0x8007001F, 0, "Failed to Open the device, hr = 0x%1");
-        row("open", "device.Open", 0x80070005, 0, "Failed to Open the device, hr = 0x%1");
-        row("open", "device.Create", 0x80040154, 0,
-            "Failed to CoCreateInstance CLSID_PortableDeviceFTM, hr = 0x%1");
-        row("open", "device.Advise", 0x80004001, 1,
-            "Failed to register for device events, hr = 0x%1");
-        row("open", "device.Unadvise", 0x80004005, 1,
-            "Failed to unregister for device events using registration cookie 'cookie', "
-            "hr = 0x%1");
-        const QString noContent = "Failed to get IPortableDeviceContent from IPortableDevice, ";
-        row("walk", "device.Content", 0x80004005, 0, noContent + "hr = 0x%1");
-        row("walk", "no device", 0, 0, noContent + "hr = 0x80004003");
-        row("walk", "content.Properties", 0x80004005, 0,
-            "Failed to get IPortableDeviceProperties from IPortableDevice, hr = 0x%1");
-        row("walk", "properties.GetValues", 0x8007001F, 0,
-            "Failed to get all properties for object 'DEVICE', hr= 0x%1");
-        row("walk", "content.EnumObjects", 0x80004005, 0,
-            "Failed to get IEnumPortableDeviceObjectIDs from IPortableDeviceContent, hr = 0x%1");
-        row("walk", "enumerator.Next", 0x80004005, 0, "");
-        const std::pair<int, const char*> keys[] = {{3, "PARENT_ID"},
-                                                    {12, "ORIGINAL_FILE_NAME"},
-                                                    {11, "SIZE"},
-                                                    {7, "CONTENT_TYPE"},
-                                                    {19, "DATE_MODIFIED"}};
-        for (const auto& [id, name] : keys)
-            row("walk", QStringLiteral("keys.Add%1").arg(id), 0x80070057, 1,
-                QStringLiteral("Failed to add WPD_OBJECT_%1 to IPortableDeviceKeyCollection, "
-                               "hr= 0x80070057")
-                    .arg(name));
-        row("copy", "device.Content", 0x80004005, 0, noContent + "hr = 0x%1");
-        row("copy", "no device", 0, 0, noContent + "hr = 0x80004003");
-        row("copy", "content.Transfer", 0x80004005, 0,
-            "Failed to get IPortableDeviceResources from IPortableDeviceContent, hr = 0x%1");
-        row("copy", "resources.GetStream", 0x80070490, 0,
-            "Failed to get IStream (representing object data on the device) from "
-            "IPortableDeviceResources, hr = 0x%1");
-        row("copy", "stream.Read", 0x8007001F, 0,
-            "Failed to read 4096 bytes from the source stream, hr = 0x%1\n"
-            "! Failed to transfer object from device, hr = 0x%1");
-        if (SeesAllocations)
-            row("copy", "memory", 0, 1,
-                "Failed to allocate 4096 bytes for the temporary transfer buffer.");
-        if (QFile::exists("/dev/full"))
-            row("copy", "full disk", 0x80030070, 0,
-                "Failed to write 100 bytes of object data to the destination stream, hr = 0x%1\n"
-                "! Failed to transfer object from device, hr = 0x%1");
-        const QString toDelete = "Failed to delete an object from the device";
-        row("delete", "variants.Create", 0x80040154, 0,
-            "Failed to CoCreateInstance CLSID_PortableDevicePropVariantCollection, hr = 0x%1");
-        row("delete", "variants.Create", 1, 0,
-            toDelete + " because we were returned a NULL IPortableDevicePropVariantCollection "
-                       "interface pointer, hr = 0x80004003");
-        row("delete", "no identifier", 0, 0,
-            toDelete + " because we could no allocate memory for the object identifier string, "
-                       "hr = 0x8007000e");
-        row("delete", "variants.Add", 0x8007000E, 0,
-            toDelete + " because we could no add the object identifier string to the "
-                       "IPortableDevicePropVariantCollection, hr = 0x%1");
-        row("delete", "content.Delete", 0x80070005, 0, toDelete + ", hr = 0x%1");
-        row("delete", "content.Delete", 1, 0, toDelete + ", hr = 0x%1");
-        row("delete", "no device", 0, 0, noContent + "hr = 0x80004003");
-        row("delete", "", 0, 0, "");
-        row("cancel", "device.Cancel", 0x80004001, 0,
-            "-WARN- [WpdApiLib::Cancel]:  ! Failed to Cancel, hr = 0x%1\n");
-        row("cancel", "no device", 0, 0, "");
-        row("cancel", "", 0, 1, "");
+        for (const auto& step : steps) {
+            const QString failing = step.failing;
+            const QString output = step.output;
+            if ((failing == "memory" && !SeesAllocations) ||
+                (failing == "full disk" && !QFile::exists("/dev/full")))
+                continue;
+            QTest::addRow("%s: %s %x", step.action, step.failing, step.status)
+                << QString(step.action) << failing << step.status << step.result
+                << (output.contains("%1") ? output.arg(step.status, 0, 16) : output);
+        }
     }
     void failsAtEveryStep()
     {
@@ -295,7 +273,7 @@ private slots:
         if (output.startsWith('-'))
             QCOMPARE(logged, output);
         else
-            QCOMPARE(printed, output.isEmpty() ? output : "! " + output + '\n');
+            QCOMPARE(printed, output);
         if (action != "delete")
             QTEST(result, "result");
         if (action == "walk")
@@ -319,12 +297,6 @@ private slots:
         QCOMPARE(m_seen, QStringList({"DEVICE", "card", "DCIM", "100", "clip.mov", "101", "deep"}));
         QCOMPARE(m_details.value(3), QString("DCIM 100 0 1 0"));
         QCOMPARE(m_details.value(4), QString("100 clip.mov 5000000000 0 4500.25"));
-    }
-
-    void stopsWhereTheHostStops()
-    {
-        BuildTree();
-        Open();
         for (int calls = 0; calls < 3; ++calls) {
             m_seen.clear();
             m_stopAfter = calls;
@@ -384,7 +356,7 @@ private slots:
         QCOMPARE(WpdApiLib::EnumerateAllContent(), 1);
         QVERIFY(m_lastName == odd);
         Script::Get().statuses["stream.Read"] = E_FAIL;
-        Script::Get().statuses["properties.GetValues"] = E_FAIL;
+        Script::Get().statuses["content.GetValues"] = E_FAIL;
         const QString printed = Printed([&] {
             QCOMPARE(Transfer(odd.c_str(), 0, "/no/such/folder"), 0);
             QCOMPARE(Transfer(odd.c_str(), 0, Target()), 0);
@@ -437,8 +409,8 @@ private slots:
         QCOMPARE(m_chunks, chunks);
         QCOMPARE(s_buffers, SeesAllocations ? 1 : 0);
         const QString resource = stopAfter == 0 ? "E81E79BE" : "C7C407BA";
-        QVERIFY(Script::Get().TakeCalls().contains("resources.GetStream(clip, " + resource +
-                                                   ", 0, 0)"));
+        QVERIFY(
+            Script::Get().TakeCalls().contains("content.GetStream(clip, " + resource + ", 0, 0)"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QByteArray expected(chunks.isEmpty() ? 0 : int(chunks.last()), 0);
         for (int i = 0; i < expected.size(); ++i)

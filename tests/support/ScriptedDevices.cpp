@@ -49,10 +49,10 @@ LPWSTR TaskCopy(const std::wstring& text)
 }
 
 /// An object whose every call counts down to the moment when the device is gone.
-template <typename Interface>
-struct Service : Object<Interface>
+template <typename... Interfaces>
+struct Service : Object<Interfaces...>
 {
-    using Object<Interface>::Object;
+    using Object<Interfaces...>::Object;
 
     template <typename... Arguments>
     HRESULT Step(const char* operation, const Arguments&... arguments)
@@ -204,47 +204,6 @@ private:
     std::uint64_t m_position = 0;
 };
 
-struct Resources : Service<IPortableDeviceResources>
-{
-    using Service::Service;
-
-    HRESULT GetStream(LPCWSTR object, REFPROPERTYKEY key, const DWORD mode, DWORD* bufferSize,
-                      IStream** out) override
-    {
-        const DeviceScript& script = DeviceScript::Get();
-        *bufferSize = script.bufferSize;
-        return StepTo<IStream>("GetStream", out, MakeCom<Stream>(script.objects.at(object).size),
-                               object, key.fmtid, key.pid, mode);
-    }
-    NOT_SCRIPTED_4(GetSupportedResources(LPCWSTR, IPortableDeviceKeyCollection**),
-                   GetResourceAttributes(LPCWSTR, REFPROPERTYKEY, IPortableDeviceValues**),
-                   Delete(LPCWSTR, IPortableDeviceKeyCollection*), Cancel())
-    NOT_SCRIPTED(CreateResource(IPortableDeviceValues*, IStream**, DWORD*, LPWSTR*))
-};
-
-struct Properties : Service<IPortableDeviceProperties>
-{
-    using Service::Service;
-
-    HRESULT GetValues(LPCWSTR id, IPortableDeviceKeyCollection* /*keys*/,
-                      IPortableDeviceValues** out) override
-    {
-        const DeviceObject& object = DeviceScript::Get().objects.at(id);
-        const auto values = MakeCom<Values>("values");
-        values->values = {{3, object.parent},
-                          {7, object.isFolder ? Wpd::WPD_CONTENT_TYPE_FOLDER : GUID{}},
-                          {11, ULONGLONG(object.size)},
-                          {12, object.name},
-                          {19, object.date}};
-        return StepTo<IPortableDeviceValues>("GetValues", out, values, id);
-    }
-    NOT_SCRIPTED_4(GetSupportedProperties(LPCWSTR, IPortableDeviceKeyCollection**),
-                   GetPropertyAttributes(LPCWSTR, REFPROPERTYKEY, IPortableDeviceValues**),
-                   SetValues(LPCWSTR, IPortableDeviceValues*, IPortableDeviceValues**),
-                   Delete(LPCWSTR, IPortableDeviceKeyCollection*))
-    NOT_SCRIPTED(Cancel())
-};
-
 struct Enumerator : Service<IEnumPortableDeviceObjectIDs>
 {
     explicit Enumerator(const std::vector<std::wstring>& ids) : Service("enumerator"), m_ids(ids) {}
@@ -265,7 +224,9 @@ private:
     std::size_t m_next = 0;
 };
 
-struct Content : Service<IPortableDeviceContent>
+/// The content with its properties and resources, in one.
+struct Content
+    : Service<IPortableDeviceContent, IPortableDeviceProperties, IPortableDeviceResources>
 {
     using Service::Service;
 
@@ -278,28 +239,54 @@ struct Content : Service<IPortableDeviceContent>
     }
     HRESULT Properties(IPortableDeviceProperties** out) override
     {
-        return StepTo<IPortableDeviceProperties>("Properties", out,
-                                                 MakeCom<Scripted::Properties>("properties"));
+        return StepTo<IPortableDeviceProperties>("Properties", out, this);
     }
     HRESULT Transfer(IPortableDeviceResources** out) override
     {
-        return StepTo<IPortableDeviceResources>("Transfer", out, MakeCom<Resources>("resources"));
+        return StepTo<IPortableDeviceResources>("Transfer", out, this);
     }
     HRESULT Delete(const DWORD options, IPortableDevicePropVariantCollection* ids,
                    IPortableDevicePropVariantCollection** /*results*/) override
     {
         return Step("Delete", options, static_cast<Variants*>(ids)->text);
     }
+    HRESULT GetValues(LPCWSTR id, IPortableDeviceKeyCollection* /*keys*/,
+                      IPortableDeviceValues** out) override
+    {
+        const DeviceObject& object = DeviceScript::Get().objects.at(id);
+        const auto values = MakeCom<Values>("values");
+        values->values = {{3, object.parent},
+                          {7, object.isFolder ? Wpd::WPD_CONTENT_TYPE_FOLDER : GUID{}},
+                          {11, ULONGLONG(object.size)},
+                          {12, object.name},
+                          {19, object.date}};
+        return StepTo<IPortableDeviceValues>("GetValues", out, values, id);
+    }
+    HRESULT GetStream(LPCWSTR object, REFPROPERTYKEY key, const DWORD mode, DWORD* bufferSize,
+                      IStream** out) override
+    {
+        const DeviceScript& script = DeviceScript::Get();
+        *bufferSize = script.bufferSize;
+        return StepTo<IStream>("GetStream", out, MakeCom<Stream>(script.objects.at(object).size),
+                               object, key.fmtid, key.pid, mode);
+    }
+    // Cancel() and the second Delete() are of more than one of the interfaces.
+    NOT_SCRIPTED_2(Cancel(), Delete(LPCWSTR, IPortableDeviceKeyCollection*))
     NOT_SCRIPTED_4(CreateObjectWithPropertiesOnly(IPortableDeviceValues*, LPWSTR*),
                    CreateObjectWithPropertiesAndData(IPortableDeviceValues*, IStream**, DWORD*,
                                                      LPWSTR*),
                    GetObjectIDsFromPersistentUniqueIDs(IPortableDevicePropVariantCollection*,
                                                        IPortableDevicePropVariantCollection**),
-                   Cancel())
+                   SetValues(LPCWSTR, IPortableDeviceValues*, IPortableDeviceValues**))
     NOT_SCRIPTED_2(Move(IPortableDevicePropVariantCollection*, LPCWSTR,
                         IPortableDevicePropVariantCollection**),
                    Copy(IPortableDevicePropVariantCollection*, LPCWSTR,
                         IPortableDevicePropVariantCollection**))
+    NOT_SCRIPTED_4(GetSupportedProperties(LPCWSTR, IPortableDeviceKeyCollection**),
+                   GetPropertyAttributes(LPCWSTR, REFPROPERTYKEY, IPortableDeviceValues**),
+                   GetSupportedResources(LPCWSTR, IPortableDeviceKeyCollection**),
+                   GetResourceAttributes(LPCWSTR, REFPROPERTYKEY, IPortableDeviceValues**))
+    NOT_SCRIPTED(CreateResource(IPortableDeviceValues*, IStream**, DWORD*, LPWSTR*))
 };
 
 struct Device : Service<IPortableDevice>
