@@ -53,6 +53,8 @@ HRESULT Device::Open(LPCWSTR id, IPortableDeviceValues* clientInformation)
         });
     if (FAILED(result))
         return result;
+    if (entry->cameraPort.empty())
+        VolumeWatcher::followMount(entry->uri);
     const std::lock_guard lock(m_mutex);
     if (m_device)
         return kAlreadyOpen;

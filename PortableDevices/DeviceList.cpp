@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "PortableDevices/DeviceList.h"
 
+#include "PortableDevices/CameraSession.h"
 #include "PortableDevices/FileSession.h"
 #include "PortableDevices/VolumeWatcher.h"
 #include "PortableDevices/WideText.h"
@@ -45,6 +46,8 @@ std::vector<DeviceEntry> ListDevices()
 
 std::unique_ptr<DeviceSession> MakeSession(const DeviceEntry& entry)
 {
+    if (!entry.cameraPort.empty())
+        return std::make_unique<CameraSession>(entry.uri, entry.cameraPort, entry.name);
     return std::make_unique<FileSession>(entry.uri, entry.name, entry.hasStorages);
 }
 

@@ -15,6 +15,8 @@ constexpr const char* kDescription = G_FILE_ATTRIBUTE_ID_FILE
     "," G_FILE_ATTRIBUTE_STANDARD_TYPE "," G_FILE_ATTRIBUTE_STANDARD_NAME
     "," G_FILE_ATTRIBUTE_STANDARD_DISPLAY_NAME "," G_FILE_ATTRIBUTE_STANDARD_SIZE
     "," G_FILE_ATTRIBUTE_TIME_MODIFIED "," G_FILE_ATTRIBUTE_TIME_MODIFIED_USEC;
+constexpr int kOpenAttempts = 60;
+constexpr gulong kOpenPause = 100000; // microseconds
 // Links may lead in circles or off the device; they are left out.
 constexpr GFileQueryInfoFlags kNoLinks = G_FILE_QUERY_INFO_NOFOLLOW_SYMLINKS;
 
@@ -83,12 +85,23 @@ FileSession::FileSession(const std::string& uri, std::wstring name, bool hasStor
 
 HRESULT FileSession::open(GCancellable* cancellable)
 {
-    if (g_file_is_native(m_root.get())) {
-        if (!readRootIdentity(m_device, m_inode))
-            return kNotFound;
-    } else if (const HRESULT result = MountAndWait(m_root.get(), cancellable); FAILED(result)) {
-        return result;
+    if (g_file_is_native(m_root.get()))
+        return readRootIdentity(m_device, m_inode) ? checkRoot(cancellable) : kNotFound;
+    // A device that was plugged in again a moment ago: GVfs still asks the daemon of the old mount,
+    // which takes its time to end.
+    HRESULT result = E_FAIL;
+    for (int attempt = 0; attempt < kOpenAttempts && result == E_FAIL; ++attempt) {
+        if (attempt > 0)
+            g_usleep(kOpenPause);
+        result = MountAndWait(m_root.get(), cancellable);
+        if (SUCCEEDED(result))
+            result = checkRoot(cancellable);
     }
+    return result;
+}
+
+HRESULT FileSession::checkRoot(GCancellable* cancellable) const
+{
     GPtr<GError> error;
     const GPtr<GFileInfo> info(g_file_query_info(m_root.get(), kIdentity, G_FILE_QUERY_INFO_NONE,
                                                  cancellable, ErrorOut(error)));

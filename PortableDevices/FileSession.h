@@ -38,6 +38,7 @@ private:
         GPtr<GFileInfo> info;
     };
 
+    HRESULT checkRoot(GCancellable* cancellable) const;
     HRESULT find(const std::wstring& id, Place& place, const char* attributes,
                  GCancellable* cancellable) const;
     GPtr<GFile> fileAt(const std::string& path) const;

@@ -166,6 +166,26 @@ void VolumeWatcher::watch(const std::shared_ptr<OpenDevice>& device)
     m_watched.push_back(device);
 }
 
+void VolumeWatcher::followMount(const std::string& uri)
+{
+    // GVfs drops what it remembers of a mount when the connection of an asynchronous call ends,
+    // and the one of the main thread stays. The answer itself does not matter.
+    const auto ask = [](gpointer file) -> gboolean {
+        const auto ignore = [](GObject* source, GAsyncResult* result, gpointer) {
+            const GPtr<GFileInfo> info(g_file_query_info_finish(G_FILE(source), result, nullptr));
+        };
+        g_file_query_info_async(G_FILE(file), G_FILE_ATTRIBUTE_STANDARD_TYPE,
+                                G_FILE_QUERY_INFO_NONE, G_PRIORITY_DEFAULT, nullptr, ignore,
+                                nullptr);
+        return G_SOURCE_REMOVE;
+    };
+    GFile* root = g_file_new_for_uri(uri.c_str());
+    if (g_file_is_native(root))
+        g_object_unref(root);
+    else
+        g_main_context_invoke_full(nullptr, G_PRIORITY_DEFAULT, ask, root, g_object_unref);
+}
+
 void VolumeWatcher::noteRemoval(GFile* root)
 {
     const std::wstring id = WideText(GPtr<char>(g_file_get_uri(root)).get());

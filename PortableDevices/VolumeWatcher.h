@@ -24,6 +24,9 @@ public:
 
     /// Tells \a device when it is removed, as long as it lives.
     void watch(const std::shared_ptr<OpenDevice>& device);
+    /// Has GVfs notice, in this process, when the mount of the root \a uri ends. Otherwise it
+    /// would ask the daemon that has gone when the same device is plugged in again.
+    static void followMount(const std::string& uri);
 
 private:
     VolumeWatcher() = default;

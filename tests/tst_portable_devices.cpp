@@ -3,17 +3,12 @@
 #include "tests/support/DeviceClient.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QThread>
 #include <QtTest>
 
-#include <atomic>
-#include <mutex>
-#include <thread>
-
 using DeviceClient::Device;
+using DeviceClient::Listener;
 using DeviceClient::Object;
 
 namespace {
@@ -23,35 +18,6 @@ constexpr auto kCancelled = static_cast<HRESULT>(0x800704C7); // ended by Cancel
 constexpr auto kNotFound = static_cast<HRESULT>(0x80070002);
 constexpr auto kNotEmpty = static_cast<HRESULT>(0x80070091);
 constexpr auto kNoElement = static_cast<HRESULT>(0x80070490);
-
-// Counts the removals that it hears of.
-class Listener final : public ComObject<IPortableDeviceEventCallback>
-{
-public:
-    HRESULT OnEvent(IPortableDeviceValues* event) override
-    {
-        GUID id = {};
-        LPWSTR text = nullptr;
-        event->GetGuidValue(Wpd::WPD_EVENT_PARAMETER_EVENT_ID, &id);
-        event->GetStringValue(Wpd::WPD_EVENT_PARAMETER_PNP_DEVICE_ID, &text);
-        deviceId = DeviceClient::Take(text);
-        isOwnThread = QThread::currentThread() != QCoreApplication::instance()->thread();
-        if (id == Wpd::WPD_EVENT_DEVICE_REMOVED)
-            ++removals;
-        return S_OK;
-    }
-
-    std::atomic<int> removals{0};
-    std::atomic<bool> isOwnThread{false};
-    QString deviceId; // read only after a removal was counted
-};
-
-QString Advise(const Device& device, Listener* listener)
-{
-    LPWSTR cookie = nullptr;
-    device.device->Advise(0, listener, nullptr, &cookie);
-    return DeviceClient::Take(cookie);
-}
 
 } // namespace
 
@@ -192,7 +158,7 @@ private slots:
         Write("card/clip", 20 << 20);
         const Device device(FolderId("card"));
         const auto listener = MakeCom<Listener>();
-        Advise(device, listener.get());
+        listener->advise(device);
         const QString id = device.tree()["card/clip"].id;
         quint64 read = 0;
         QByteArray hash;
@@ -225,8 +191,8 @@ private slots:
         Device device(FolderId("card"));
         const auto kept = MakeCom<Listener>();
         const auto ended = MakeCom<Listener>();
-        QVERIFY(!Advise(device, kept.get()).isEmpty());
-        const QString cookie = Advise(device, ended.get());
+        QVERIFY(!kept->advise(device).isEmpty());
+        const QString cookie = ended->advise(device);
         QCOMPARE(device.device->Unadvise(cookie.toStdWString().c_str()), S_OK);
         QVERIFY(QDir(Path("card")).removeRecursively());
         QTRY_COMPARE(kept->removals.load(), 1);
@@ -235,7 +201,7 @@ private slots:
         QTest::qWait(700); // longer than the service looks again
         QCOMPARE(kept->removals.load(), 1);
         QCOMPARE(ended->removals.load(), 0);
-        QVERIFY(Advise(device, ended.get()).isEmpty());
+        QVERIFY(ended->advise(device).isEmpty());
     }
 
     void deleteRefused()

@@ -10,7 +10,9 @@
 #include <QLibrary>
 #include <QMap>
 #include <QStringList>
+#include <QThread>
 
+#include <atomic>
 #include <functional>
 #include <vector>
 
@@ -191,6 +193,35 @@ struct Device
         ids->Add(&value);
         return content->Delete(Wpd::PORTABLE_DEVICE_DELETE_NO_RECURSION, ids.get(), nullptr);
     }
+};
+
+/// Counts the removals that it hears of.
+class Listener final : public ComObject<IPortableDeviceEventCallback>
+{
+public:
+    /// Gives the cookie.
+    QString advise(const Device& device)
+    {
+        LPWSTR cookie = nullptr;
+        device.device->Advise(0, this, nullptr, &cookie);
+        return Take(cookie);
+    }
+    HRESULT OnEvent(IPortableDeviceValues* event) override
+    {
+        GUID id = {};
+        LPWSTR text = nullptr;
+        event->GetGuidValue(Wpd::WPD_EVENT_PARAMETER_EVENT_ID, &id);
+        event->GetStringValue(Wpd::WPD_EVENT_PARAMETER_PNP_DEVICE_ID, &text);
+        deviceId = Take(text);
+        isOwnThread = QThread::currentThread() != QCoreApplication::instance()->thread();
+        if (id == Wpd::WPD_EVENT_DEVICE_REMOVED)
+            ++removals;
+        return S_OK;
+    }
+
+    std::atomic<int> removals{0};
+    std::atomic<bool> isOwnThread{false};
+    QString deviceId; // read only after a removal was counted
 };
 
 } // namespace DeviceClient

@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// The portable-device service with cameras and phones on emulated USB ports: GVfs, libgphoto2 and
+// libmtp are the ones that talk to real devices.
+#include "tests/support/DeviceClient.h"
+#include "tests/support/PtpDevice.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <clocale>
+#include <gio/gio.h>
+#include <thread>
+#include <umockdev.h>
+#include <unistd.h>
+
+using DeviceClient::Device;
+using DeviceClient::Listener;
+
+Q_DECLARE_METATYPE(PtpDevice::Kind)
+
+namespace {
+
+constexpr auto kGone = static_cast<HRESULT>(0x8007048F);
+constexpr auto kCancelled = static_cast<HRESULT>(0x800704C7);
+
+constexpr PtpDevice::Kind kCamera{"Shooter", false, true};
+
+} // namespace
+
+class TestUsbDevices : public QObject
+{
+    Q_OBJECT
+
+private:
+    UMockdevTestbed* m_testbed = nullptr;
+    GTestDBus* m_bus = nullptr;
+    QTemporaryDir m_services;
+
+    // The emulation names a process's end of the event channel after its descriptor, so those of
+    // different processes must differ: the ones up to \a descriptors are taken beforehand.
+    void AddService(const QByteArray& name, const QByteArray& program, int descriptors) const
+    {
+        QFile file(m_services.filePath(name + ".service"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("[D-BUS Service]\nName=" + name + "\nExec=/bin/bash -c 'for i in {3.." +
+                   QByteArray::number(descriptors) + "}; do eval \"exec $i<&0\"; done; exec " +
+                   "/usr/libexec/" + program + "'\n");
+    }
+    // The identifier of the one device, once GVfs has seen it; empty after a while.
+    static QString WaitForDevice()
+    {
+        QMap<QString, QString> devices;
+        for (int i = 0; i < 100 && devices.isEmpty(); ++i) {
+            QTest::qWait(50);
+            devices = DeviceClient::Devices();
+        }
+        return devices.isEmpty() ? QString() : devices.firstKey();
+    }
+    static QByteArray HashOf(quint64 size)
+    {
+        QCryptographicHash sum(QCryptographicHash::Md5);
+        for (quint64 at = 0; at < size; at += 1 << 20)
+            sum.addData(PtpDevice::Content(at, quint32(qMin<quint64>(1 << 20, size - at))));
+        return sum.result();
+    }
+    static void AddKinds()
+    {
+        QTest::addColumn<PtpDevice::Kind>("kind");
+        for (const PtpDevice::Kind& kind :
+             {kCamera, {"Shooter", false, false}, {"Phone", true, true}, {"Phone", true, false}})
+            QTest::addRow("%s %s partial reads", kind.name,
+                          kind.hasPartialReads ? "with" : "without")
+                << kind;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        // A host that never asked for the user's locale.
+        std::setlocale(LC_ALL, "C");
+        m_testbed = umockdev_testbed_new();
+        m_bus = g_test_dbus_new(G_TEST_DBUS_NONE);
+        AddService("org.gtk.vfs.Daemon", "gvfsd", 3);
+        AddService("org.gtk.vfs.GPhoto2VolumeMonitor", "gvfs-gphoto2-volume-monitor", 40);
+        AddService("org.gtk.vfs.MTPVolumeMonitor", "gvfs-mtp-volume-monitor", 60);
+        g_test_dbus_add_service_dir(m_bus, QFile::encodeName(m_services.path()).constData());
+        g_test_dbus_up(m_bus);
+    }
+    void cleanup() { QTRY_VERIFY(DeviceClient::Devices().isEmpty()); }
+
+    void transfer_data() { AddKinds(); }
+    void transfer()
+    {
+        QFETCH(PtpDevice::Kind, kind);
+        constexpr quint64 kSize = 300 << 20;
+        PtpDevice usb(m_testbed, kind);
+        const quint32 folder = usb.addFolder(usb.addFolder(0, "DCIM"), "100");
+        usb.add(folder, "\u00fcber.MP4", kSize);
+        const quint32 picture = usb.add(folder, "IMG.JPG", 3);
+        const quint32 locked = usb.add(folder, "LOCKED.JPG", 0, true);
+        const Device device(WaitForDevice());
+        QCOMPARE(device.result, S_OK);
+        const auto tree = device.tree();
+        const QString top = tree.firstKey() + "/DCIM/100/";
+        QCOMPARE(tree.size(), 6);
+        QCOMPARE(tree[top + "\u00fcber.MP4"].size, kSize);
+        QCOMPARE(tree[top + "IMG.JPG"].modified, 45351.5);
+
+        QByteArray hash;
+        quint64 total = 0;
+        int steps = 0;
+        const auto count = [&steps](quint64) { return ++steps > 0; };
+        QCOMPARE(device.read(tree[top + "\u00fcber.MP4"].id, hash, total, count), S_FALSE);
+        QCOMPARE(total, kSize);
+        QCOMPARE(hash, HashOf(kSize));
+        QVERIFY(steps >= 300);
+        QCOMPARE(usb.wholeReads > 0, !kind.hasPartialReads);
+        QCOMPARE(usb.partialReads > 0, kind.hasPartialReads);
+
+        NLEComPtr<IStream> stream;
+        QCOMPARE(device.open(tree[top + "IMG.JPG"].id, stream, Wpd::WPD_RESOURCE_THUMBNAIL), S_OK);
+        char data[100] = {};
+        ULONG got = 0;
+        QCOMPARE(stream->Read(data, 100, &got), S_OK);
+        QCOMPARE(QByteArray(data, int(got)), PtpDevice::Thumbnail());
+
+        QVERIFY(FAILED(device.remove(tree[top + "LOCKED.JPG"].id)));
+        QVERIFY(usb.has(locked));
+        QVERIFY(FAILED(device.remove(tree[top].id)));
+        QCOMPARE(device.remove(tree[top + "IMG.JPG"].id), S_OK);
+        QVERIFY(!usb.has(picture));
+    }
+
+    void ended_data()
+    {
+        QTest::addColumn<PtpDevice::Kind>("kind");
+        QTest::addColumn<QString>("how");
+        for (const char* how : {"cancel", "leave", "unplug"}) {
+            QTest::addRow("camera, %s", how) << kCamera << how;
+            QTest::addRow("phone, %s", how) << PtpDevice::Kind{"Phone", true, true} << how;
+        }
+    }
+    // A transfer that ends early, and what the device is good for afterwards.
+    void ended()
+    {
+        QFETCH(PtpDevice::Kind, kind);
+        QFETCH(QString, how);
+        PtpDevice usb(m_testbed, kind);
+        usb.add(0, "A.MP4", 60 << 20);
+        usb.add(0, "B.JPG", 5);
+        const QString id = WaitForDevice();
+        const Device device(id);
+        QCOMPARE(device.result, S_OK);
+        const auto listener = MakeCom<Listener>();
+        listener->advise(device);
+        const auto tree = device.tree();
+        const QString top = tree.firstKey();
+        QByteArray hash;
+        quint64 total = 0;
+        std::thread helper;
+        const HRESULT result =
+            device.read(tree[top + "/A.MP4"].id, hash, total, [&](quint64 sofar) {
+                if (sofar < 4 << 20 || helper.joinable())
+                    return true;
+                if (how == "leave")
+                    return false;
+                helper = std::thread([&] {
+                    if (how == "cancel")
+                        device.device->Cancel();
+                    else
+                        usb.unplug();
+                });
+                return true;
+            });
+        if (helper.joinable())
+            helper.join();
+        QVERIFY(total < 60 << 20);
+        if (how == "unplug") {
+            QVERIFY(FAILED(result) && result != kCancelled);
+            QTRY_COMPARE(listener->removals.load(), 1);
+            QVERIFY(listener->isOwnThread);
+            QCOMPARE(listener->deviceId, id);
+            QCOMPARE(device.read(tree[top + "/B.JPG"].id, hash, total), kGone);
+            return;
+        }
+        QCOMPARE(result, how == "cancel" ? kCancelled : S_FALSE);
+        QCOMPARE(device.read(tree[top + "/B.JPG"].id, hash, total), S_FALSE);
+        QCOMPARE(total, quint64(5));
+        QCOMPARE(listener->removals.load(), 0);
+    }
+
+    void unpluggedWhileIdle_data() { AddKinds(); }
+    void unpluggedWhileIdle()
+    {
+        QFETCH(PtpDevice::Kind, kind);
+        PtpDevice usb(m_testbed, kind);
+        const Device device(WaitForDevice());
+        QCOMPARE(device.result, S_OK);
+        const auto listener = MakeCom<Listener>();
+        listener->advise(device);
+        usb.unplug();
+        QTRY_COMPARE(listener->removals.load(), 1);
+    }
+};
+
+int main(int argc, char** argv)
+{
+    // The emulation has to be there before the C library's own calls are bound.
+    if (!qgetenv("LD_PRELOAD").contains("umockdev")) {
+        qputenv("LD_PRELOAD", "libumockdev-preload.so.0");
+        qputenv("ASAN_OPTIONS", qgetenv("ASAN_OPTIONS") + ":verify_asan_link_order=0");
+        qputenv("GVFS_DISABLE_FUSE", "1");
+        execv("/proc/self/exe", argv);
+    }
+    QCoreApplication application(argc, argv);
+    TestUsbDevices test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_usb_devices.moc"
