@@ -15,7 +15,7 @@ constexpr const char* kDescription = G_FILE_ATTRIBUTE_ID_FILE
     "," G_FILE_ATTRIBUTE_STANDARD_TYPE "," G_FILE_ATTRIBUTE_STANDARD_NAME
     "," G_FILE_ATTRIBUTE_STANDARD_DISPLAY_NAME "," G_FILE_ATTRIBUTE_STANDARD_SIZE
     "," G_FILE_ATTRIBUTE_TIME_MODIFIED "," G_FILE_ATTRIBUTE_TIME_MODIFIED_USEC;
-constexpr int kOpenAttempts = 60;
+constexpr int kOpenAttempts = 30;
 constexpr gulong kOpenPause = 100000; // microseconds
 // Links may lead in circles or off the device; they are left out.
 constexpr GFileQueryInfoFlags kNoLinks = G_FILE_QUERY_INFO_NOFOLLOW_SYMLINKS;
@@ -87,15 +87,15 @@ HRESULT FileSession::open(GCancellable* cancellable)
 {
     if (g_file_is_native(m_root.get()))
         return readRootIdentity(m_device, m_inode) ? checkRoot(cancellable) : kNotFound;
+    HRESULT result = MountAndWait(m_root.get(), cancellable);
+    if (FAILED(result))
+        return result;
     // A device that was plugged in again a moment ago: GVfs still asks the daemon of the old mount,
     // which takes its time to end.
-    HRESULT result = E_FAIL;
-    for (int attempt = 0; attempt < kOpenAttempts && result == E_FAIL; ++attempt) {
-        if (attempt > 0)
-            g_usleep(kOpenPause);
-        result = MountAndWait(m_root.get(), cancellable);
-        if (SUCCEEDED(result))
-            result = checkRoot(cancellable);
+    result = checkRoot(cancellable);
+    for (int attempt = 1; attempt < kOpenAttempts && result == E_FAIL; ++attempt) {
+        g_usleep(kOpenPause);
+        result = checkRoot(cancellable);
     }
     return result;
 }
