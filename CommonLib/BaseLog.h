@@ -5,7 +5,9 @@
 
 /// Lets the compiler check a printf-style format against its arguments; \a text and \a first are
 /// argument numbers that count `this` as 1.
-#if defined(__GNUC__) || defined(__clang__)
+#if defined(__MINGW32__) // where printf alone means the formats of the system's old library
+#define COMMONLIB_PRINTF(text, first) __attribute__((__format__(__gnu_printf__, text, first)))
+#elif defined(__GNUC__) || defined(__clang__)
 #define COMMONLIB_PRINTF(text, first) __attribute__((__format__(__printf__, text, first)))
 #else
 #define COMMONLIB_PRINTF(text, first)

@@ -16,6 +16,9 @@ CommandCapture::CommandCapture(const QString& commandLine)
     STARTUPINFOW startup = {};
     startup.cb = sizeof(startup);
     ::GetStartupInfoW(&startup);
+    // What the runtime library got from the host's own parent: it would hand on that one's streams.
+    startup.cbReserved2 = 0;
+    startup.lpReserved2 = nullptr;
     startup.hStdOutput = writeEnd;
     startup.hStdError = writeEnd;
     startup.wShowWindow = SW_HIDE;

@@ -3,6 +3,7 @@
 
 #include <QGuiApplication>
 #include <QPalette>
+#include <QStorageInfo>
 
 bool IsWindows8OrLater()
 {
@@ -14,4 +15,12 @@ std::optional<QRgb> DesktopAccentColor()
     if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
         return std::nullopt;
     return QGuiApplication::palette().color(QPalette::Highlight).rgba();
+}
+
+std::optional<quint64> FreeBytes(const QString& path)
+{
+    const QStorageInfo volume(path);
+    if (!volume.isValid() || !volume.isReady() || volume.bytesFree() < 0)
+        return std::nullopt;
+    return static_cast<quint64>(volume.bytesFree());
 }

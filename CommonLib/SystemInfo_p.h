@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QRgb>
+#include <QString>
 
 #include <optional>
 
@@ -12,3 +13,7 @@ bool IsWindows8OrLater();
 
 /// The desktop's accent colour with its alpha; nothing when the system names none.
 std::optional<QRgb> DesktopAccentColor();
+
+/// All free bytes of the volume that holds the existing \a path, not only those within the user's
+/// quota; nothing when the system gives no answer.
+std::optional<quint64> FreeBytes(const QString& path);

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/SystemInfo_p.h"
 
+#include "CommonLib/WideText_p.h"
+
+#include <QDir>
+#include <QFileInfo>
+
 #include <windows.h>
 
 #include <dwmapi.h>
@@ -30,4 +35,18 @@ std::optional<QRgb> DesktopAccentColor()
     if (FAILED(::DwmGetColorizationColor(&color, &isOpaqueBlend)))
         return std::nullopt;
     return static_cast<QRgb>(color); // both are ARGB
+}
+
+std::optional<quint64> FreeBytes(const QString& path)
+{
+    ULARGE_INTEGER withinQuota = {};
+    ULARGE_INTEGER total = {};
+    ULARGE_INTEGER free = {};
+    // The system asks for a folder, and for a separator behind the name of a share.
+    const QFileInfo info(path);
+    const QString folder = info.isDir() ? path : info.absolutePath();
+    const std::wstring name = ToWide(QDir::toNativeSeparators(folder) + QDir::separator());
+    if (!::GetDiskFreeSpaceExW(name.c_str(), &withinQuota, &total, &free))
+        return std::nullopt;
+    return free.QuadPart;
 }

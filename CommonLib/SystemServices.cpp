@@ -2,13 +2,14 @@
 #include "CommonLib/GlobalUtils.h"
 
 #include "CommonLib/FileOperation.h"
+#include "CommonLib/SystemInfo_p.h"
 
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
-#include <QStorageInfo>
 #include <QUrl>
 
+#include <optional>
 #include <utility>
 
 namespace {
@@ -76,10 +77,8 @@ quint64 gGetDiskFreeSpace(void* /*ignored*/, const QString& path)
 {
     if (path.isEmpty())
         return kUnknownFreeSpace;
-    const QStorageInfo volume(NearestExisting(path));
-    if (!volume.isValid() || !volume.isReady() || volume.bytesFree() < 0)
-        return kUnknownFreeSpace;
-    return static_cast<quint64>(volume.bytesFree()) >> 20;
+    const std::optional<quint64> free = FreeBytes(NearestExisting(path));
+    return free ? *free >> 20 : kUnknownFreeSpace;
 }
 
 QString gGetStyleSheet(void* /*ignored*/, QString path)
