@@ -2,6 +2,125 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar_AE" sourcelanguage="en_US">
 <context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Buttons</source>
+        <translation>أزرار</translation>
+    </message>
+    <message>
+        <source>Several states</source>
+        <translation>حالات متعددة</translation>
+    </message>
+    <message>
+        <source>Image and text</source>
+        <translation>صورة ونص</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>علامات تبويب</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>تسميات</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>آخر إشارة</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>لا شيء بعد</translation>
+    </message>
+    <message>
+        <source>Pressed %1</source>
+        <translation>ضُغط %1</translation>
+    </message>
+    <message>
+        <source>Clicked %1 at (%2, %3)</source>
+        <translation>نُقر %1 عند (%2, %3)</translation>
+    </message>
+    <message>
+        <source>Entered %1</source>
+        <translation>دخل المؤشر %1</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>غادر المؤشر %1</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>عادي</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>مع أيقونة</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>مفضّلة</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>محدّد</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>معطّل</translation>
+    </message>
+    <message>
+        <source>Clicked %1, shows %2</source>
+        <translation>نُقر %1، ويعرض %2</translation>
+    </message>
+    <message>
+        <source>Clicked %1</source>
+        <translation>نُقر %1</translation>
+    </message>
+    <message>
+        <source>Image left</source>
+        <translation>الصورة يسارًا</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>في الأعلى</translation>
+    </message>
+    <message>
+        <source>Image right</source>
+        <translation>الصورة يمينًا</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>في الأسفل</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>الوسائط</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>الصوت</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>العناوين</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>المؤثرات</translation>
+    </message>
+    <message>
+        <source>Selected %1</source>
+        <translation>حُدِّد %1</translation>
+    </message>
+    <message>
+        <source>for a language from right to left</source>
+        <translation>للغة تُكتب من اليمين إلى اليسار</translation>
+    </message>
+    <message>
+        <source>for a language from left to right</source>
+        <translation>للغة تُكتب من اليسار إلى اليمين</translation>
+    </message>
+</context>
+<context>
     <name>ClipStrip</name>
     <message>
         <source>Opening</source>
@@ -91,6 +210,84 @@
     </message>
 </context>
 <context>
+    <name>Gallery</name>
+    <message>
+        <source>Ruler</source>
+        <translation>المسطرة</translation>
+    </message>
+    <message>
+        <source>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</source>
+        <translation>اسحب رأس التشغيل؛ العجلة تمرّر، ومع Ctrl تكبّر؛ والنقر المزدوج يعرض الكل.</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>أشرطة التمرير</translation>
+    </message>
+    <message>
+        <source>Drag, use the wheel, or the arrow keys.</source>
+        <translation>اسحب أو استخدم العجلة أو مفاتيح الأسهم.</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>أزرار وتسميات</translation>
+    </message>
+    <message>
+        <source>The last line tells what they signal.</source>
+        <translation>يبيّن السطر الأخير ما ترسله من إشارات.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>استيراد</translation>
+    </message>
+    <message>
+        <source>Copies media from cameras, phones and cards.</source>
+        <translation>ينسخ الوسائط من الكاميرات والهواتف والبطاقات.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>اللغات</translation>
+    </message>
+    <message>
+        <source>A choice reaches every window at once.</source>
+        <translation>يصل الاختيار إلى كل النوافذ فورًا.</translation>
+    </message>
+    <message>
+        <source>Shows the library&apos;s widgets.</source>
+        <translation>يعرض عناصر واجهة المكتبة.</translation>
+    </message>
+    <message>
+        <source>Begin with the page &lt;name&gt;.</source>
+        <translation>البدء بالصفحة &lt;name&gt;.</translation>
+    </message>
+    <message>
+        <source>List the names of the pages.</source>
+        <translation>سرد أسماء الصفحات.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the page to &lt;file&gt;.</source>
+        <translation>كتابة صورة للصفحة في &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>تعذّرت كتابة %1</translation>
+    </message>
+    <message>
+        <source>no page %1</source>
+        <translation>لا توجد صفحة %1</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>CommonLib widgets</source>
+        <translation>عناصر واجهة CommonLib</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>الصفحات</translation>
+    </message>
+</context>
+<context>
     <name>HostLanguage</name>
     <message>
         <source>Language of the texts from now on, such as German.</source>
@@ -99,6 +296,132 @@
     <message>
         <source>NAME</source>
         <translation>اسم</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPage</name>
+    <message>
+        <source>Refresh</source>
+        <translation>تحديث</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>اختيار…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>استيراد</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>الجهاز</translation>
+    </message>
+    <message>
+        <source>Folder to import into</source>
+        <translation>مجلد الاستيراد</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>تقدّم الاستيراد</translation>
+    </message>
+    <message>
+        <source>Import into</source>
+        <translation>الاستيراد إلى</translation>
+    </message>
+    <message>
+        <source>No device found</source>
+        <translation>لم يُعثر على جهاز</translation>
+    </message>
+    <message>
+        <source>Connect a camera, a phone or a card reader, switch it on and unlock it.</source>
+        <translation>وصّل كاميرا أو هاتفًا أو قارئ بطاقات، ثم شغّله وافتح قفله.</translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
+        <translation>جارٍ فتح %1…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>تعذّر فتح %1</translation>
+    </message>
+    <message>
+        <source>Unlock the device and allow access to its files, then choose it again.</source>
+        <translation>افتح قفل الجهاز واسمح بالوصول إلى ملفاته، ثم اختره من جديد.</translation>
+    </message>
+    <message>
+        <source>%1 was removed</source>
+        <translation>أُزيل %1</translation>
+    </message>
+    <message>
+        <source>Connect it again to go on.</source>
+        <translation>أعد توصيله للمتابعة.</translation>
+    </message>
+    <message>
+        <source>Chosen files: %1 (%2)</source>
+        <translation>الملفات المختارة: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reading the content… %1 files</source>
+        <translation>جارٍ قراءة المحتوى… الملفات: %1</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>جهاز بلا اسم</translation>
+    </message>
+    <message>
+        <source>%1 files on the device</source>
+        <translation>الملفات على الجهاز: %1</translation>
+    </message>
+    <message>
+        <source>The device stopped answering; this may not be all of it.</source>
+        <translation>توقف الجهاز عن الاستجابة؛ قد لا يكون هذا كل المحتوى.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into this folder.</source>
+        <translation>تتعذّر الكتابة في هذا المجلد.</translation>
+    </message>
+    <message>
+        <source>Importing… %1 of %2</source>
+        <translation>جارٍ الاستيراد… %1 من %2</translation>
+    </message>
+    <message>
+        <source>Imported files: %1 of %2.</source>
+        <translation>الملفات المستوردة: %1 من %2.</translation>
+    </message>
+    <message>
+        <source>The device was removed during the import.</source>
+        <translation>أُزيل الجهاز أثناء الاستيراد.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>أُلغي.</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>لم يُستورد: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportTree</name>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>الحجم</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>تاريخ التعديل</translation>
+    </message>
+    <message>
+        <source>Content of the device</source>
+        <translation>محتوى الجهاز</translation>
     </message>
 </context>
 <context>
@@ -321,6 +644,57 @@
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
         <translation>RTL</translation>
+    </message>
+</context>
+<context>
+    <name>SliderPage</name>
+    <message>
+        <source>Seek bar</source>
+        <translation>شريط التنقل</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>عادي</translation>
+    </message>
+    <message>
+        <source>Other chunk and groove</source>
+        <translation>تعبئة ومجرى آخران</translation>
+    </message>
+    <message>
+        <source>From right to left</source>
+        <translation>من اليمين إلى اليسار</translation>
+    </message>
+    <message>
+        <source>Empty range</source>
+        <translation>نطاق فارغ</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>معطّل</translation>
+    </message>
+    <message>
+        <source>Zoom bar</source>
+        <translation>شريط التكبير</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Mirrored layout</source>
+        <translation>تخطيط معكوس</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>شريط</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>ألوان أخرى</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>عمودي</translation>
     </message>
 </context>
 </TS>

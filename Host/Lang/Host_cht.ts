@@ -2,6 +2,125 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="en_US">
 <context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Buttons</source>
+        <translation>按鈕</translation>
+    </message>
+    <message>
+        <source>Several states</source>
+        <translation>多種狀態</translation>
+    </message>
+    <message>
+        <source>Image and text</source>
+        <translation>圖片與文字</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>分頁</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>標籤</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>最後的訊號</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>尚無</translation>
+    </message>
+    <message>
+        <source>Pressed %1</source>
+        <translation>按下 %1</translation>
+    </message>
+    <message>
+        <source>Clicked %1 at (%2, %3)</source>
+        <translation>在 (%2, %3) 點擊 %1</translation>
+    </message>
+    <message>
+        <source>Entered %1</source>
+        <translation>進入 %1</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>離開 %1</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>附圖示</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>最愛</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>已勾選</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>已停用</translation>
+    </message>
+    <message>
+        <source>Clicked %1, shows %2</source>
+        <translation>點擊 %1，顯示 %2</translation>
+    </message>
+    <message>
+        <source>Clicked %1</source>
+        <translation>點擊 %1</translation>
+    </message>
+    <message>
+        <source>Image left</source>
+        <translation>圖片在左</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>在上方</translation>
+    </message>
+    <message>
+        <source>Image right</source>
+        <translation>圖片在右</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>在下方</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>媒體</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音訊</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>標題</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>特效</translation>
+    </message>
+    <message>
+        <source>Selected %1</source>
+        <translation>已選取 %1</translation>
+    </message>
+    <message>
+        <source>for a language from right to left</source>
+        <translation>適用於由右至左的語言</translation>
+    </message>
+    <message>
+        <source>for a language from left to right</source>
+        <translation>適用於由左至右的語言</translation>
+    </message>
+</context>
+<context>
     <name>ClipStrip</name>
     <message>
         <source>Opening</source>
@@ -91,6 +210,84 @@
     </message>
 </context>
 <context>
+    <name>Gallery</name>
+    <message>
+        <source>Ruler</source>
+        <translation>尺規</translation>
+    </message>
+    <message>
+        <source>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</source>
+        <translation>拖曳播放磁頭；滾輪可捲動，按住 Ctrl 可縮放；按兩下顯示全部。</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>滑桿</translation>
+    </message>
+    <message>
+        <source>Drag, use the wheel, or the arrow keys.</source>
+        <translation>可拖曳、使用滾輪或方向鍵。</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>按鈕與標籤</translation>
+    </message>
+    <message>
+        <source>The last line tells what they signal.</source>
+        <translation>最後一行顯示它們發出的訊號。</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>匯入</translation>
+    </message>
+    <message>
+        <source>Copies media from cameras, phones and cards.</source>
+        <translation>從相機、手機和記憶卡複製媒體。</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>語言</translation>
+    </message>
+    <message>
+        <source>A choice reaches every window at once.</source>
+        <translation>選擇會立即套用到所有視窗。</translation>
+    </message>
+    <message>
+        <source>Shows the library&apos;s widgets.</source>
+        <translation>顯示程式庫的介面元件。</translation>
+    </message>
+    <message>
+        <source>Begin with the page &lt;name&gt;.</source>
+        <translation>從頁面 &lt;name&gt; 開始。</translation>
+    </message>
+    <message>
+        <source>List the names of the pages.</source>
+        <translation>列出頁面名稱。</translation>
+    </message>
+    <message>
+        <source>Write a picture of the page to &lt;file&gt;.</source>
+        <translation>將頁面圖片寫入 &lt;file&gt;。</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>無法寫入 %1</translation>
+    </message>
+    <message>
+        <source>no page %1</source>
+        <translation>沒有頁面 %1</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>CommonLib widgets</source>
+        <translation>CommonLib 介面元件</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>頁面</translation>
+    </message>
+</context>
+<context>
     <name>HostLanguage</name>
     <message>
         <source>Language of the texts from now on, such as German.</source>
@@ -99,6 +296,132 @@
     <message>
         <source>NAME</source>
         <translation>名稱</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPage</name>
+    <message>
+        <source>Refresh</source>
+        <translation>重新整理</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>選擇…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>匯入</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>裝置</translation>
+    </message>
+    <message>
+        <source>Folder to import into</source>
+        <translation>匯入目的地資料夾</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>匯入進度</translation>
+    </message>
+    <message>
+        <source>Import into</source>
+        <translation>匯入至</translation>
+    </message>
+    <message>
+        <source>No device found</source>
+        <translation>找不到裝置</translation>
+    </message>
+    <message>
+        <source>Connect a camera, a phone or a card reader, switch it on and unlock it.</source>
+        <translation>請連接相機、手機或讀卡機，開啟電源並解除鎖定。</translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
+        <translation>正在開啟 %1…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>無法開啟 %1</translation>
+    </message>
+    <message>
+        <source>Unlock the device and allow access to its files, then choose it again.</source>
+        <translation>請解除裝置鎖定並允許存取檔案，然後再次選擇。</translation>
+    </message>
+    <message>
+        <source>%1 was removed</source>
+        <translation>%1 已移除</translation>
+    </message>
+    <message>
+        <source>Connect it again to go on.</source>
+        <translation>請重新連接以繼續。</translation>
+    </message>
+    <message>
+        <source>Chosen files: %1 (%2)</source>
+        <translation>已選檔案：%1（%2）</translation>
+    </message>
+    <message>
+        <source>Reading the content… %1 files</source>
+        <translation>正在讀取內容… 檔案：%1</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>未命名裝置</translation>
+    </message>
+    <message>
+        <source>%1 files on the device</source>
+        <translation>裝置上的檔案：%1</translation>
+    </message>
+    <message>
+        <source>The device stopped answering; this may not be all of it.</source>
+        <translation>裝置停止回應；這可能不是全部內容。</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into this folder.</source>
+        <translation>無法寫入此資料夾。</translation>
+    </message>
+    <message>
+        <source>Importing… %1 of %2</source>
+        <translation>正在匯入… %1／%2</translation>
+    </message>
+    <message>
+        <source>Imported files: %1 of %2.</source>
+        <translation>已匯入檔案：%1／%2。</translation>
+    </message>
+    <message>
+        <source>The device was removed during the import.</source>
+        <translation>匯入期間裝置已移除。</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>已取消。</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>未匯入：%1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportTree</name>
+    <message>
+        <source>Name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>修改時間</translation>
+    </message>
+    <message>
+        <source>Content of the device</source>
+        <translation>裝置內容</translation>
     </message>
 </context>
 <context>
@@ -306,6 +629,57 @@
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>SliderPage</name>
+    <message>
+        <source>Seek bar</source>
+        <translation>搜尋列</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Other chunk and groove</source>
+        <translation>其他填充與滑槽</translation>
+    </message>
+    <message>
+        <source>From right to left</source>
+        <translation>由右至左</translation>
+    </message>
+    <message>
+        <source>Empty range</source>
+        <translation>空範圍</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>已停用</translation>
+    </message>
+    <message>
+        <source>Zoom bar</source>
+        <translation>縮放列</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Mirrored layout</source>
+        <translation>鏡像版面</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>長條</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>其他色彩</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>直立</translation>
     </message>
 </context>
 </TS>

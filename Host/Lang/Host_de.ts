@@ -2,6 +2,125 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Buttons</source>
+        <translation>Schaltflächen</translation>
+    </message>
+    <message>
+        <source>Several states</source>
+        <translation>Mehrere Zustände</translation>
+    </message>
+    <message>
+        <source>Image and text</source>
+        <translation>Bild und Text</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Reiter</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Beschriftungen</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Letztes Signal</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>noch keines</translation>
+    </message>
+    <message>
+        <source>Pressed %1</source>
+        <translation>%1 gedrückt</translation>
+    </message>
+    <message>
+        <source>Clicked %1 at (%2, %3)</source>
+        <translation>%1 geklickt bei (%2, %3)</translation>
+    </message>
+    <message>
+        <source>Entered %1</source>
+        <translation>%1 betreten</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>%1 verlassen</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>Mit Symbol</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favorit</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Eingeschaltet</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Deaktiviert</translation>
+    </message>
+    <message>
+        <source>Clicked %1, shows %2</source>
+        <translation>%1 geklickt, zeigt %2</translation>
+    </message>
+    <message>
+        <source>Clicked %1</source>
+        <translation>%1 geklickt</translation>
+    </message>
+    <message>
+        <source>Image left</source>
+        <translation>Bild links</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Image right</source>
+        <translation>Bild rechts</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Medien</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Effekte</translation>
+    </message>
+    <message>
+        <source>Selected %1</source>
+        <translation>%1 ausgewählt</translation>
+    </message>
+    <message>
+        <source>for a language from right to left</source>
+        <translation>für eine Sprache von rechts nach links</translation>
+    </message>
+    <message>
+        <source>for a language from left to right</source>
+        <translation>für eine Sprache von links nach rechts</translation>
+    </message>
+</context>
+<context>
     <name>ClipStrip</name>
     <message>
         <source>Opening</source>
@@ -91,6 +210,84 @@
     </message>
 </context>
 <context>
+    <name>Gallery</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Lineal</translation>
+    </message>
+    <message>
+        <source>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</source>
+        <translation>Ziehen Sie die Abspielmarke; das Mausrad rollt, mit Strg zoomt es; ein Doppelklick zeigt alles.</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Schieberegler</translation>
+    </message>
+    <message>
+        <source>Drag, use the wheel, or the arrow keys.</source>
+        <translation>Ziehen Sie, oder nehmen Sie das Mausrad oder die Pfeiltasten.</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>Schaltflächen und Beschriftungen</translation>
+    </message>
+    <message>
+        <source>The last line tells what they signal.</source>
+        <translation>Die letzte Zeile sagt, was sie melden.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>Copies media from cameras, phones and cards.</source>
+        <translation>Kopiert Medien von Kameras, Telefonen und Karten.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Sprachen</translation>
+    </message>
+    <message>
+        <source>A choice reaches every window at once.</source>
+        <translation>Eine Wahl erreicht sofort jedes Fenster.</translation>
+    </message>
+    <message>
+        <source>Shows the library&apos;s widgets.</source>
+        <translation>Zeigt die Bedienelemente der Bibliothek.</translation>
+    </message>
+    <message>
+        <source>Begin with the page &lt;name&gt;.</source>
+        <translation>Mit der Seite &lt;name&gt; beginnen.</translation>
+    </message>
+    <message>
+        <source>List the names of the pages.</source>
+        <translation>Die Namen der Seiten auflisten.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the page to &lt;file&gt;.</source>
+        <translation>Ein Bild der Seite in &lt;file&gt; schreiben.</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>%1 lässt sich nicht schreiben</translation>
+    </message>
+    <message>
+        <source>no page %1</source>
+        <translation>keine Seite %1</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>CommonLib widgets</source>
+        <translation>CommonLib-Bedienelemente</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+</context>
+<context>
     <name>HostLanguage</name>
     <message>
         <source>Language of the texts from now on, such as German.</source>
@@ -99,6 +296,132 @@
     <message>
         <source>NAME</source>
         <translation>NAME</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPage</name>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Folder to import into</source>
+        <translation>Ordner, in den importiert wird</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>Fortschritt des Imports</translation>
+    </message>
+    <message>
+        <source>Import into</source>
+        <translation>Importieren nach</translation>
+    </message>
+    <message>
+        <source>No device found</source>
+        <translation>Kein Gerät gefunden</translation>
+    </message>
+    <message>
+        <source>Connect a camera, a phone or a card reader, switch it on and unlock it.</source>
+        <translation>Schließen Sie eine Kamera, ein Telefon oder einen Kartenleser an, schalten Sie das Gerät ein und entsperren Sie es.</translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
+        <translation>%1 wird geöffnet…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>%1 lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>Unlock the device and allow access to its files, then choose it again.</source>
+        <translation>Entsperren Sie das Gerät, erlauben Sie den Zugriff auf seine Dateien und wählen Sie es dann erneut.</translation>
+    </message>
+    <message>
+        <source>%1 was removed</source>
+        <translation>%1 wurde entfernt</translation>
+    </message>
+    <message>
+        <source>Connect it again to go on.</source>
+        <translation>Schließen Sie es wieder an, um fortzufahren.</translation>
+    </message>
+    <message>
+        <source>Chosen files: %1 (%2)</source>
+        <translation>Gewählte Dateien: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reading the content… %1 files</source>
+        <translation>Inhalt wird gelesen… Dateien: %1</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>Unbenanntes Gerät</translation>
+    </message>
+    <message>
+        <source>%1 files on the device</source>
+        <translation>Dateien auf dem Gerät: %1</translation>
+    </message>
+    <message>
+        <source>The device stopped answering; this may not be all of it.</source>
+        <translation>Das Gerät antwortet nicht mehr; vielleicht ist das nicht alles.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into this folder.</source>
+        <translation>In diesen Ordner kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Importing… %1 of %2</source>
+        <translation>Import läuft… %1 von %2</translation>
+    </message>
+    <message>
+        <source>Imported files: %1 of %2.</source>
+        <translation>Importierte Dateien: %1 von %2.</translation>
+    </message>
+    <message>
+        <source>The device was removed during the import.</source>
+        <translation>Das Gerät wurde während des Imports entfernt.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>Nicht importiert: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportTree</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>Content of the device</source>
+        <translation>Inhalt des Geräts</translation>
     </message>
 </context>
 <context>
@@ -309,6 +632,57 @@
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>SliderPage</name>
+    <message>
+        <source>Seek bar</source>
+        <translation>Suchleiste</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Other chunk and groove</source>
+        <translation>Anderer Füllbereich und andere Rille</translation>
+    </message>
+    <message>
+        <source>From right to left</source>
+        <translation>Von rechts nach links</translation>
+    </message>
+    <message>
+        <source>Empty range</source>
+        <translation>Leerer Bereich</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Deaktiviert</translation>
+    </message>
+    <message>
+        <source>Zoom bar</source>
+        <translation>Zoomleiste</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Mirrored layout</source>
+        <translation>Gespiegelte Anordnung</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>Balken</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>Andere Farben</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Senkrecht</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,125 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="en_US">
 <context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Buttons</source>
+        <translation>Buttons</translation>
+    </message>
+    <message>
+        <source>Several states</source>
+        <translation>Several states</translation>
+    </message>
+    <message>
+        <source>Image and text</source>
+        <translation>Image and text</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Tabs</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Labels</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Last signal</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>none yet</translation>
+    </message>
+    <message>
+        <source>Pressed %1</source>
+        <translation>Pressed %1</translation>
+    </message>
+    <message>
+        <source>Clicked %1 at (%2, %3)</source>
+        <translation>Clicked %1 at (%2, %3)</translation>
+    </message>
+    <message>
+        <source>Entered %1</source>
+        <translation>Entered %1</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>Left %1</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>With icon</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favourite</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Checked</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Disabled</translation>
+    </message>
+    <message>
+        <source>Clicked %1, shows %2</source>
+        <translation>Clicked %1, shows %2</translation>
+    </message>
+    <message>
+        <source>Clicked %1</source>
+        <translation>Clicked %1</translation>
+    </message>
+    <message>
+        <source>Image left</source>
+        <translation>Image left</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>On top</translation>
+    </message>
+    <message>
+        <source>Image right</source>
+        <translation>Image right</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Below</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Titles</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Effects</translation>
+    </message>
+    <message>
+        <source>Selected %1</source>
+        <translation>Selected %1</translation>
+    </message>
+    <message>
+        <source>for a language from right to left</source>
+        <translation>for a language from right to left</translation>
+    </message>
+    <message>
+        <source>for a language from left to right</source>
+        <translation>for a language from left to right</translation>
+    </message>
+</context>
+<context>
     <name>ClipStrip</name>
     <message>
         <source>Opening</source>
@@ -91,6 +210,84 @@
     </message>
 </context>
 <context>
+    <name>Gallery</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Ruler</translation>
+    </message>
+    <message>
+        <source>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</source>
+        <translation>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Sliders</translation>
+    </message>
+    <message>
+        <source>Drag, use the wheel, or the arrow keys.</source>
+        <translation>Drag, use the wheel, or the arrow keys.</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>Buttons and labels</translation>
+    </message>
+    <message>
+        <source>The last line tells what they signal.</source>
+        <translation>The last line tells what they signal.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Copies media from cameras, phones and cards.</source>
+        <translation>Copies media from cameras, phones and cards.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Languages</translation>
+    </message>
+    <message>
+        <source>A choice reaches every window at once.</source>
+        <translation>A choice reaches every window at once.</translation>
+    </message>
+    <message>
+        <source>Shows the library&apos;s widgets.</source>
+        <translation>Shows the library&apos;s widgets.</translation>
+    </message>
+    <message>
+        <source>Begin with the page &lt;name&gt;.</source>
+        <translation>Begin with the page &lt;name&gt;.</translation>
+    </message>
+    <message>
+        <source>List the names of the pages.</source>
+        <translation>List the names of the pages.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the page to &lt;file&gt;.</source>
+        <translation>Write a picture of the page to &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>cannot write %1</translation>
+    </message>
+    <message>
+        <source>no page %1</source>
+        <translation>no page %1</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>CommonLib widgets</source>
+        <translation>CommonLib widgets</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+</context>
+<context>
     <name>HostLanguage</name>
     <message>
         <source>Language of the texts from now on, such as German.</source>
@@ -99,6 +296,132 @@
     <message>
         <source>NAME</source>
         <translation>NAME</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPage</name>
+    <message>
+        <source>Refresh</source>
+        <translation>Refresh</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choose…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Device</translation>
+    </message>
+    <message>
+        <source>Folder to import into</source>
+        <translation>Folder to import into</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>Progress of the import</translation>
+    </message>
+    <message>
+        <source>Import into</source>
+        <translation>Import into</translation>
+    </message>
+    <message>
+        <source>No device found</source>
+        <translation>No device found</translation>
+    </message>
+    <message>
+        <source>Connect a camera, a phone or a card reader, switch it on and unlock it.</source>
+        <translation>Connect a camera, a phone or a card reader, switch it on and unlock it.</translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
+        <translation>Opening %1…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>%1 cannot be opened</translation>
+    </message>
+    <message>
+        <source>Unlock the device and allow access to its files, then choose it again.</source>
+        <translation>Unlock the device and allow access to its files, then choose it again.</translation>
+    </message>
+    <message>
+        <source>%1 was removed</source>
+        <translation>%1 was removed</translation>
+    </message>
+    <message>
+        <source>Connect it again to go on.</source>
+        <translation>Connect it again to go on.</translation>
+    </message>
+    <message>
+        <source>Chosen files: %1 (%2)</source>
+        <translation>Chosen files: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reading the content… %1 files</source>
+        <translation>Reading the content… %1 files</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>Unnamed device</translation>
+    </message>
+    <message>
+        <source>%1 files on the device</source>
+        <translation>%1 files on the device</translation>
+    </message>
+    <message>
+        <source>The device stopped answering; this may not be all of it.</source>
+        <translation>The device stopped answering; this may not be all of it.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into this folder.</source>
+        <translation>Nothing can be written into this folder.</translation>
+    </message>
+    <message>
+        <source>Importing… %1 of %2</source>
+        <translation>Importing… %1 of %2</translation>
+    </message>
+    <message>
+        <source>Imported files: %1 of %2.</source>
+        <translation>Imported files: %1 of %2.</translation>
+    </message>
+    <message>
+        <source>The device was removed during the import.</source>
+        <translation>The device was removed during the import.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Cancelled.</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>Not imported: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportTree</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>Modified</translation>
+    </message>
+    <message>
+        <source>Content of the device</source>
+        <translation>Content of the device</translation>
     </message>
 </context>
 <context>
@@ -309,6 +632,57 @@
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>SliderPage</name>
+    <message>
+        <source>Seek bar</source>
+        <translation>Seek bar</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Other chunk and groove</source>
+        <translation>Other chunk and groove</translation>
+    </message>
+    <message>
+        <source>From right to left</source>
+        <translation>From right to left</translation>
+    </message>
+    <message>
+        <source>Empty range</source>
+        <translation>Empty range</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Disabled</translation>
+    </message>
+    <message>
+        <source>Zoom bar</source>
+        <translation>Zoom bar</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Mirrored layout</source>
+        <translation>Mirrored layout</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>Bar</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>Other colours</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Upright</translation>
     </message>
 </context>
 </TS>

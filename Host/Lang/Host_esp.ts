@@ -2,6 +2,125 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="en_US">
 <context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Buttons</source>
+        <translation>Botones</translation>
+    </message>
+    <message>
+        <source>Several states</source>
+        <translation>Varios estados</translation>
+    </message>
+    <message>
+        <source>Image and text</source>
+        <translation>Imagen y texto</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Pestañas</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Última señal</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>todavía ninguna</translation>
+    </message>
+    <message>
+        <source>Pressed %1</source>
+        <translation>Pulsado: %1</translation>
+    </message>
+    <message>
+        <source>Clicked %1 at (%2, %3)</source>
+        <translation>Clic en %1, posición (%2, %3)</translation>
+    </message>
+    <message>
+        <source>Entered %1</source>
+        <translation>Entrada en %1</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>Salida de %1</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>Con icono</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favorito</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Activado</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>Clicked %1, shows %2</source>
+        <translation>Clic en %1, muestra %2</translation>
+    </message>
+    <message>
+        <source>Clicked %1</source>
+        <translation>Clic en %1</translation>
+    </message>
+    <message>
+        <source>Image left</source>
+        <translation>Imagen a la izquierda</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>Arriba</translation>
+    </message>
+    <message>
+        <source>Image right</source>
+        <translation>Imagen a la derecha</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Abajo</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Medios</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Títulos</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Efectos</translation>
+    </message>
+    <message>
+        <source>Selected %1</source>
+        <translation>Seleccionado: %1</translation>
+    </message>
+    <message>
+        <source>for a language from right to left</source>
+        <translation>para un idioma de derecha a izquierda</translation>
+    </message>
+    <message>
+        <source>for a language from left to right</source>
+        <translation>para un idioma de izquierda a derecha</translation>
+    </message>
+</context>
+<context>
     <name>ClipStrip</name>
     <message>
         <source>Opening</source>
@@ -91,6 +210,84 @@
     </message>
 </context>
 <context>
+    <name>Gallery</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Regla</translation>
+    </message>
+    <message>
+        <source>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</source>
+        <translation>Arrastre el cabezal; la rueda desplaza y, con Ctrl, amplía; un doble clic lo ajusta todo.</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Deslizadores</translation>
+    </message>
+    <message>
+        <source>Drag, use the wheel, or the arrow keys.</source>
+        <translation>Arrastre o use la rueda o las teclas de flecha.</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>Botones y etiquetas</translation>
+    </message>
+    <message>
+        <source>The last line tells what they signal.</source>
+        <translation>La última línea indica qué señalan.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Copies media from cameras, phones and cards.</source>
+        <translation>Copia medios de cámaras, teléfonos y tarjetas.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Idiomas</translation>
+    </message>
+    <message>
+        <source>A choice reaches every window at once.</source>
+        <translation>La elección llega al instante a todas las ventanas.</translation>
+    </message>
+    <message>
+        <source>Shows the library&apos;s widgets.</source>
+        <translation>Muestra los controles de la biblioteca.</translation>
+    </message>
+    <message>
+        <source>Begin with the page &lt;name&gt;.</source>
+        <translation>Empieza por la página &lt;name&gt;.</translation>
+    </message>
+    <message>
+        <source>List the names of the pages.</source>
+        <translation>Enumera los nombres de las páginas.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the page to &lt;file&gt;.</source>
+        <translation>Escribe una imagen de la página en &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>no se puede escribir %1</translation>
+    </message>
+    <message>
+        <source>no page %1</source>
+        <translation>no existe la página %1</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>CommonLib widgets</source>
+        <translation>Controles de CommonLib</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+</context>
+<context>
     <name>HostLanguage</name>
     <message>
         <source>Language of the texts from now on, such as German.</source>
@@ -99,6 +296,132 @@
     <message>
         <source>NAME</source>
         <translation>NOMBRE</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPage</name>
+    <message>
+        <source>Refresh</source>
+        <translation>Actualizar</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Elegir…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>Folder to import into</source>
+        <translation>Carpeta de destino</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>Progreso de la importación</translation>
+    </message>
+    <message>
+        <source>Import into</source>
+        <translation>Importar en</translation>
+    </message>
+    <message>
+        <source>No device found</source>
+        <translation>No se ha encontrado ningún dispositivo</translation>
+    </message>
+    <message>
+        <source>Connect a camera, a phone or a card reader, switch it on and unlock it.</source>
+        <translation>Conecte una cámara, un teléfono o un lector de tarjetas, enciéndalo y desbloquéelo.</translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
+        <translation>Abriendo %1…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>No se puede abrir %1</translation>
+    </message>
+    <message>
+        <source>Unlock the device and allow access to its files, then choose it again.</source>
+        <translation>Desbloquee el dispositivo, permita el acceso a sus archivos y vuelva a elegirlo.</translation>
+    </message>
+    <message>
+        <source>%1 was removed</source>
+        <translation>Se ha retirado %1</translation>
+    </message>
+    <message>
+        <source>Connect it again to go on.</source>
+        <translation>Vuelva a conectarlo para continuar.</translation>
+    </message>
+    <message>
+        <source>Chosen files: %1 (%2)</source>
+        <translation>Archivos elegidos: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reading the content… %1 files</source>
+        <translation>Leyendo el contenido… Archivos: %1</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>Dispositivo sin nombre</translation>
+    </message>
+    <message>
+        <source>%1 files on the device</source>
+        <translation>Archivos en el dispositivo: %1</translation>
+    </message>
+    <message>
+        <source>The device stopped answering; this may not be all of it.</source>
+        <translation>El dispositivo ha dejado de responder; puede que no esté todo.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into this folder.</source>
+        <translation>No se puede escribir en esta carpeta.</translation>
+    </message>
+    <message>
+        <source>Importing… %1 of %2</source>
+        <translation>Importando… %1 de %2</translation>
+    </message>
+    <message>
+        <source>Imported files: %1 of %2.</source>
+        <translation>Archivos importados: %1 de %2.</translation>
+    </message>
+    <message>
+        <source>The device was removed during the import.</source>
+        <translation>El dispositivo se retiró durante la importación.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Cancelado.</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>No importado: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportTree</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>Modificado</translation>
+    </message>
+    <message>
+        <source>Content of the device</source>
+        <translation>Contenido del dispositivo</translation>
     </message>
 </context>
 <context>
@@ -309,6 +632,57 @@
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>SliderPage</name>
+    <message>
+        <source>Seek bar</source>
+        <translation>Barra de búsqueda</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Other chunk and groove</source>
+        <translation>Otro relleno y otra ranura</translation>
+    </message>
+    <message>
+        <source>From right to left</source>
+        <translation>De derecha a izquierda</translation>
+    </message>
+    <message>
+        <source>Empty range</source>
+        <translation>Intervalo vacío</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>Zoom bar</source>
+        <translation>Barra de zoom</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Mirrored layout</source>
+        <translation>Disposición reflejada</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>Barra</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>Otros colores</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Vertical</translation>
     </message>
 </context>
 </TS>

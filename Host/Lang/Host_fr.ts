@@ -2,6 +2,125 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="en_US">
 <context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Buttons</source>
+        <translation>Boutons</translation>
+    </message>
+    <message>
+        <source>Several states</source>
+        <translation>Plusieurs états</translation>
+    </message>
+    <message>
+        <source>Image and text</source>
+        <translation>Image et texte</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Onglets</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Dernier signal</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>aucun pour l’instant</translation>
+    </message>
+    <message>
+        <source>Pressed %1</source>
+        <translation>Appuyé : %1</translation>
+    </message>
+    <message>
+        <source>Clicked %1 at (%2, %3)</source>
+        <translation>Clic sur %1 en (%2, %3)</translation>
+    </message>
+    <message>
+        <source>Entered %1</source>
+        <translation>Entrée dans %1</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>Sortie de %1</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>Avec icône</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favori</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Coché</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>Clicked %1, shows %2</source>
+        <translation>Clic sur %1, affiche %2</translation>
+    </message>
+    <message>
+        <source>Clicked %1</source>
+        <translation>Clic sur %1</translation>
+    </message>
+    <message>
+        <source>Image left</source>
+        <translation>Image à gauche</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>Au-dessus</translation>
+    </message>
+    <message>
+        <source>Image right</source>
+        <translation>Image à droite</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Au-dessous</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Médias</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Titres</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Effets</translation>
+    </message>
+    <message>
+        <source>Selected %1</source>
+        <translation>Sélectionné : %1</translation>
+    </message>
+    <message>
+        <source>for a language from right to left</source>
+        <translation>pour une langue de droite à gauche</translation>
+    </message>
+    <message>
+        <source>for a language from left to right</source>
+        <translation>pour une langue de gauche à droite</translation>
+    </message>
+</context>
+<context>
     <name>ClipStrip</name>
     <message>
         <source>Opening</source>
@@ -91,6 +210,84 @@
     </message>
 </context>
 <context>
+    <name>Gallery</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Règle</translation>
+    </message>
+    <message>
+        <source>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</source>
+        <translation>Faites glisser la tête de lecture ; la molette défile, avec Ctrl elle zoome ; un double clic affiche tout.</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Curseurs</translation>
+    </message>
+    <message>
+        <source>Drag, use the wheel, or the arrow keys.</source>
+        <translation>Faites glisser, utilisez la molette ou les touches fléchées.</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>Boutons et étiquettes</translation>
+    </message>
+    <message>
+        <source>The last line tells what they signal.</source>
+        <translation>La dernière ligne indique ce qu’ils signalent.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>Copies media from cameras, phones and cards.</source>
+        <translation>Copie les médias des appareils photo, téléphones et cartes.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Langues</translation>
+    </message>
+    <message>
+        <source>A choice reaches every window at once.</source>
+        <translation>Un choix s’applique aussitôt à toutes les fenêtres.</translation>
+    </message>
+    <message>
+        <source>Shows the library&apos;s widgets.</source>
+        <translation>Montre les composants graphiques de la bibliothèque.</translation>
+    </message>
+    <message>
+        <source>Begin with the page &lt;name&gt;.</source>
+        <translation>Commence par la page &lt;name&gt;.</translation>
+    </message>
+    <message>
+        <source>List the names of the pages.</source>
+        <translation>Liste les noms des pages.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the page to &lt;file&gt;.</source>
+        <translation>Écrit une image de la page dans &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>impossible d’écrire %1</translation>
+    </message>
+    <message>
+        <source>no page %1</source>
+        <translation>aucune page %1</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>CommonLib widgets</source>
+        <translation>Composants de CommonLib</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+</context>
+<context>
     <name>HostLanguage</name>
     <message>
         <source>Language of the texts from now on, such as German.</source>
@@ -99,6 +296,132 @@
     <message>
         <source>NAME</source>
         <translation>NOM</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPage</name>
+    <message>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Appareil</translation>
+    </message>
+    <message>
+        <source>Folder to import into</source>
+        <translation>Dossier de destination</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>Progression de l’importation</translation>
+    </message>
+    <message>
+        <source>Import into</source>
+        <translation>Importer dans</translation>
+    </message>
+    <message>
+        <source>No device found</source>
+        <translation>Aucun appareil trouvé</translation>
+    </message>
+    <message>
+        <source>Connect a camera, a phone or a card reader, switch it on and unlock it.</source>
+        <translation>Connectez un appareil photo, un téléphone ou un lecteur de cartes, allumez-le et déverrouillez-le.</translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
+        <translation>Ouverture de %1…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>Impossible d’ouvrir %1</translation>
+    </message>
+    <message>
+        <source>Unlock the device and allow access to its files, then choose it again.</source>
+        <translation>Déverrouillez l’appareil, autorisez l’accès à ses fichiers, puis choisissez-le à nouveau.</translation>
+    </message>
+    <message>
+        <source>%1 was removed</source>
+        <translation>%1 a été retiré</translation>
+    </message>
+    <message>
+        <source>Connect it again to go on.</source>
+        <translation>Reconnectez-le pour continuer.</translation>
+    </message>
+    <message>
+        <source>Chosen files: %1 (%2)</source>
+        <translation>Fichiers choisis : %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reading the content… %1 files</source>
+        <translation>Lecture du contenu… Fichiers : %1</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>Appareil sans nom</translation>
+    </message>
+    <message>
+        <source>%1 files on the device</source>
+        <translation>Fichiers sur l’appareil : %1</translation>
+    </message>
+    <message>
+        <source>The device stopped answering; this may not be all of it.</source>
+        <translation>L’appareil ne répond plus ; ce n’est peut-être pas tout.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into this folder.</source>
+        <translation>Rien ne peut être écrit dans ce dossier.</translation>
+    </message>
+    <message>
+        <source>Importing… %1 of %2</source>
+        <translation>Importation… %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Imported files: %1 of %2.</source>
+        <translation>Fichiers importés : %1 sur %2.</translation>
+    </message>
+    <message>
+        <source>The device was removed during the import.</source>
+        <translation>L’appareil a été retiré pendant l’importation.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Annulé.</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>Non importé : %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportTree</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>Modifié</translation>
+    </message>
+    <message>
+        <source>Content of the device</source>
+        <translation>Contenu de l’appareil</translation>
     </message>
 </context>
 <context>
@@ -309,6 +632,57 @@
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>SliderPage</name>
+    <message>
+        <source>Seek bar</source>
+        <translation>Barre de lecture</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Other chunk and groove</source>
+        <translation>Autre remplissage et autre rainure</translation>
+    </message>
+    <message>
+        <source>From right to left</source>
+        <translation>De droite à gauche</translation>
+    </message>
+    <message>
+        <source>Empty range</source>
+        <translation>Plage vide</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>Zoom bar</source>
+        <translation>Barre de zoom</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Mirrored layout</source>
+        <translation>Disposition en miroir</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>Barre</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>Autres couleurs</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Vertical</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,125 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="id_ID" sourcelanguage="en_US">
 <context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Buttons</source>
+        <translation>Tombol</translation>
+    </message>
+    <message>
+        <source>Several states</source>
+        <translation>Beberapa keadaan</translation>
+    </message>
+    <message>
+        <source>Image and text</source>
+        <translation>Gambar dan teks</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Label</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Sinyal terakhir</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>belum ada</translation>
+    </message>
+    <message>
+        <source>Pressed %1</source>
+        <translation>%1 ditekan</translation>
+    </message>
+    <message>
+        <source>Clicked %1 at (%2, %3)</source>
+        <translation>%1 diklik di (%2, %3)</translation>
+    </message>
+    <message>
+        <source>Entered %1</source>
+        <translation>Masuk ke %1</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>Keluar dari %1</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>Dengan ikon</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favorit</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Dicentang</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Nonaktif</translation>
+    </message>
+    <message>
+        <source>Clicked %1, shows %2</source>
+        <translation>%1 diklik, menampilkan %2</translation>
+    </message>
+    <message>
+        <source>Clicked %1</source>
+        <translation>%1 diklik</translation>
+    </message>
+    <message>
+        <source>Image left</source>
+        <translation>Gambar di kiri</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>Di atas</translation>
+    </message>
+    <message>
+        <source>Image right</source>
+        <translation>Gambar di kanan</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Di bawah</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Judul</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Efek</translation>
+    </message>
+    <message>
+        <source>Selected %1</source>
+        <translation>%1 dipilih</translation>
+    </message>
+    <message>
+        <source>for a language from right to left</source>
+        <translation>untuk bahasa dari kanan ke kiri</translation>
+    </message>
+    <message>
+        <source>for a language from left to right</source>
+        <translation>untuk bahasa dari kiri ke kanan</translation>
+    </message>
+</context>
+<context>
     <name>ClipStrip</name>
     <message>
         <source>Opening</source>
@@ -91,6 +210,84 @@
     </message>
 </context>
 <context>
+    <name>Gallery</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Penggaris</translation>
+    </message>
+    <message>
+        <source>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</source>
+        <translation>Seret penanda putar; roda menggulir, dengan Ctrl memperbesar; klik ganda menampilkan semuanya.</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Penggeser</translation>
+    </message>
+    <message>
+        <source>Drag, use the wheel, or the arrow keys.</source>
+        <translation>Seret, gunakan roda atau tombol panah.</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>Tombol dan label</translation>
+    </message>
+    <message>
+        <source>The last line tells what they signal.</source>
+        <translation>Baris terakhir menunjukkan sinyalnya.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Impor</translation>
+    </message>
+    <message>
+        <source>Copies media from cameras, phones and cards.</source>
+        <translation>Menyalin media dari kamera, ponsel, dan kartu.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Bahasa</translation>
+    </message>
+    <message>
+        <source>A choice reaches every window at once.</source>
+        <translation>Pilihan langsung berlaku di setiap jendela.</translation>
+    </message>
+    <message>
+        <source>Shows the library&apos;s widgets.</source>
+        <translation>Menampilkan widget pustaka.</translation>
+    </message>
+    <message>
+        <source>Begin with the page &lt;name&gt;.</source>
+        <translation>Mulai dari halaman &lt;name&gt;.</translation>
+    </message>
+    <message>
+        <source>List the names of the pages.</source>
+        <translation>Menampilkan daftar nama halaman.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the page to &lt;file&gt;.</source>
+        <translation>Tulis gambar halaman ke &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>tidak dapat menulis %1</translation>
+    </message>
+    <message>
+        <source>no page %1</source>
+        <translation>tidak ada halaman %1</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>CommonLib widgets</source>
+        <translation>Widget CommonLib</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Halaman</translation>
+    </message>
+</context>
+<context>
     <name>HostLanguage</name>
     <message>
         <source>Language of the texts from now on, such as German.</source>
@@ -99,6 +296,132 @@
     <message>
         <source>NAME</source>
         <translation>NAMA</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPage</name>
+    <message>
+        <source>Refresh</source>
+        <translation>Segarkan</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Pilih…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Batal</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Impor</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Perangkat</translation>
+    </message>
+    <message>
+        <source>Folder to import into</source>
+        <translation>Folder tujuan impor</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>Kemajuan impor</translation>
+    </message>
+    <message>
+        <source>Import into</source>
+        <translation>Impor ke</translation>
+    </message>
+    <message>
+        <source>No device found</source>
+        <translation>Perangkat tidak ditemukan</translation>
+    </message>
+    <message>
+        <source>Connect a camera, a phone or a card reader, switch it on and unlock it.</source>
+        <translation>Hubungkan kamera, ponsel, atau pembaca kartu, nyalakan dan buka kuncinya.</translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
+        <translation>Membuka %1…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>%1 tidak dapat dibuka</translation>
+    </message>
+    <message>
+        <source>Unlock the device and allow access to its files, then choose it again.</source>
+        <translation>Buka kunci perangkat dan izinkan akses ke berkasnya, lalu pilih lagi.</translation>
+    </message>
+    <message>
+        <source>%1 was removed</source>
+        <translation>%1 telah dilepas</translation>
+    </message>
+    <message>
+        <source>Connect it again to go on.</source>
+        <translation>Hubungkan lagi untuk melanjutkan.</translation>
+    </message>
+    <message>
+        <source>Chosen files: %1 (%2)</source>
+        <translation>Berkas terpilih: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reading the content… %1 files</source>
+        <translation>Membaca isi… Berkas: %1</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>Perangkat tanpa nama</translation>
+    </message>
+    <message>
+        <source>%1 files on the device</source>
+        <translation>Berkas di perangkat: %1</translation>
+    </message>
+    <message>
+        <source>The device stopped answering; this may not be all of it.</source>
+        <translation>Perangkat berhenti merespons; ini mungkin belum semuanya.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into this folder.</source>
+        <translation>Tidak dapat menulis ke folder ini.</translation>
+    </message>
+    <message>
+        <source>Importing… %1 of %2</source>
+        <translation>Mengimpor… %1 dari %2</translation>
+    </message>
+    <message>
+        <source>Imported files: %1 of %2.</source>
+        <translation>Berkas yang diimpor: %1 dari %2.</translation>
+    </message>
+    <message>
+        <source>The device was removed during the import.</source>
+        <translation>Perangkat dilepas saat mengimpor.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Dibatalkan.</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>Tidak diimpor: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportTree</name>
+    <message>
+        <source>Name</source>
+        <translation>Nama</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Ukuran</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>Diubah</translation>
+    </message>
+    <message>
+        <source>Content of the device</source>
+        <translation>Isi perangkat</translation>
     </message>
 </context>
 <context>
@@ -306,6 +629,57 @@
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>SliderPage</name>
+    <message>
+        <source>Seek bar</source>
+        <translation>Bilah pencarian</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Other chunk and groove</source>
+        <translation>Isian dan alur lain</translation>
+    </message>
+    <message>
+        <source>From right to left</source>
+        <translation>Dari kanan ke kiri</translation>
+    </message>
+    <message>
+        <source>Empty range</source>
+        <translation>Rentang kosong</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Nonaktif</translation>
+    </message>
+    <message>
+        <source>Zoom bar</source>
+        <translation>Bilah zum</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Mirrored layout</source>
+        <translation>Tata letak cermin</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>Bilah</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>Warna lain</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Tegak</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,125 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT" sourcelanguage="en_US">
 <context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Buttons</source>
+        <translation>Pulsanti</translation>
+    </message>
+    <message>
+        <source>Several states</source>
+        <translation>Più stati</translation>
+    </message>
+    <message>
+        <source>Image and text</source>
+        <translation>Immagine e testo</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Schede</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etichette</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Ultimo segnale</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>ancora nessuno</translation>
+    </message>
+    <message>
+        <source>Pressed %1</source>
+        <translation>Premuto: %1</translation>
+    </message>
+    <message>
+        <source>Clicked %1 at (%2, %3)</source>
+        <translation>Clic su %1 in (%2, %3)</translation>
+    </message>
+    <message>
+        <source>Entered %1</source>
+        <translation>Entrato in %1</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>Uscito da %1</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>Con icona</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Preferito</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Selezionato</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Disattivato</translation>
+    </message>
+    <message>
+        <source>Clicked %1, shows %2</source>
+        <translation>Clic su %1, mostra %2</translation>
+    </message>
+    <message>
+        <source>Clicked %1</source>
+        <translation>Clic su %1</translation>
+    </message>
+    <message>
+        <source>Image left</source>
+        <translation>Immagine a sinistra</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>Sopra</translation>
+    </message>
+    <message>
+        <source>Image right</source>
+        <translation>Immagine a destra</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Sotto</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Titoli</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Effetti</translation>
+    </message>
+    <message>
+        <source>Selected %1</source>
+        <translation>Selezionato: %1</translation>
+    </message>
+    <message>
+        <source>for a language from right to left</source>
+        <translation>per una lingua da destra a sinistra</translation>
+    </message>
+    <message>
+        <source>for a language from left to right</source>
+        <translation>per una lingua da sinistra a destra</translation>
+    </message>
+</context>
+<context>
     <name>ClipStrip</name>
     <message>
         <source>Opening</source>
@@ -91,6 +210,84 @@
     </message>
 </context>
 <context>
+    <name>Gallery</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Righello</translation>
+    </message>
+    <message>
+        <source>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</source>
+        <translation>Trascina l’indicatore; la rotellina scorre, con Ctrl ingrandisce; un doppio clic mostra tutto.</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Cursori</translation>
+    </message>
+    <message>
+        <source>Drag, use the wheel, or the arrow keys.</source>
+        <translation>Trascina, usa la rotellina o i tasti freccia.</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>Pulsanti ed etichette</translation>
+    </message>
+    <message>
+        <source>The last line tells what they signal.</source>
+        <translation>L’ultima riga dice che cosa segnalano.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importa</translation>
+    </message>
+    <message>
+        <source>Copies media from cameras, phones and cards.</source>
+        <translation>Copia i media da fotocamere, telefoni e schede.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Lingue</translation>
+    </message>
+    <message>
+        <source>A choice reaches every window at once.</source>
+        <translation>La scelta raggiunge subito ogni finestra.</translation>
+    </message>
+    <message>
+        <source>Shows the library&apos;s widgets.</source>
+        <translation>Mostra i controlli della libreria.</translation>
+    </message>
+    <message>
+        <source>Begin with the page &lt;name&gt;.</source>
+        <translation>Comincia dalla pagina &lt;name&gt;.</translation>
+    </message>
+    <message>
+        <source>List the names of the pages.</source>
+        <translation>Elenca i nomi delle pagine.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the page to &lt;file&gt;.</source>
+        <translation>Scrive un’immagine della pagina in &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>impossibile scrivere %1</translation>
+    </message>
+    <message>
+        <source>no page %1</source>
+        <translation>nessuna pagina %1</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>CommonLib widgets</source>
+        <translation>Controlli di CommonLib</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pagine</translation>
+    </message>
+</context>
+<context>
     <name>HostLanguage</name>
     <message>
         <source>Language of the texts from now on, such as German.</source>
@@ -99,6 +296,132 @@
     <message>
         <source>NAME</source>
         <translation>NOME</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPage</name>
+    <message>
+        <source>Refresh</source>
+        <translation>Aggiorna</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Scegli…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importa</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>Folder to import into</source>
+        <translation>Cartella di destinazione</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>Avanzamento dell’importazione</translation>
+    </message>
+    <message>
+        <source>Import into</source>
+        <translation>Importa in</translation>
+    </message>
+    <message>
+        <source>No device found</source>
+        <translation>Nessun dispositivo trovato</translation>
+    </message>
+    <message>
+        <source>Connect a camera, a phone or a card reader, switch it on and unlock it.</source>
+        <translation>Collega una fotocamera, un telefono o un lettore di schede, accendilo e sbloccalo.</translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
+        <translation>Apertura di %1…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>Impossibile aprire %1</translation>
+    </message>
+    <message>
+        <source>Unlock the device and allow access to its files, then choose it again.</source>
+        <translation>Sblocca il dispositivo, consenti l’accesso ai suoi file e sceglilo di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 was removed</source>
+        <translation>%1 è stato rimosso</translation>
+    </message>
+    <message>
+        <source>Connect it again to go on.</source>
+        <translation>Ricollegalo per continuare.</translation>
+    </message>
+    <message>
+        <source>Chosen files: %1 (%2)</source>
+        <translation>File scelti: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reading the content… %1 files</source>
+        <translation>Lettura del contenuto… File: %1</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>Dispositivo senza nome</translation>
+    </message>
+    <message>
+        <source>%1 files on the device</source>
+        <translation>File sul dispositivo: %1</translation>
+    </message>
+    <message>
+        <source>The device stopped answering; this may not be all of it.</source>
+        <translation>Il dispositivo non risponde più; potrebbe mancare qualcosa.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into this folder.</source>
+        <translation>In questa cartella non si può scrivere.</translation>
+    </message>
+    <message>
+        <source>Importing… %1 of %2</source>
+        <translation>Importazione… %1 di %2</translation>
+    </message>
+    <message>
+        <source>Imported files: %1 of %2.</source>
+        <translation>File importati: %1 di %2.</translation>
+    </message>
+    <message>
+        <source>The device was removed during the import.</source>
+        <translation>Il dispositivo è stato rimosso durante l’importazione.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Annullato.</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>Non importato: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportTree</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Dimensione</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>Modificato</translation>
+    </message>
+    <message>
+        <source>Content of the device</source>
+        <translation>Contenuto del dispositivo</translation>
     </message>
 </context>
 <context>
@@ -309,6 +632,57 @@
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>SliderPage</name>
+    <message>
+        <source>Seek bar</source>
+        <translation>Barra di ricerca</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>Other chunk and groove</source>
+        <translation>Altro riempimento e altra scanalatura</translation>
+    </message>
+    <message>
+        <source>From right to left</source>
+        <translation>Da destra a sinistra</translation>
+    </message>
+    <message>
+        <source>Empty range</source>
+        <translation>Intervallo vuoto</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Disattivato</translation>
+    </message>
+    <message>
+        <source>Zoom bar</source>
+        <translation>Barra dello zoom</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Mirrored layout</source>
+        <translation>Disposizione speculare</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>Barra</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>Altri colori</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Verticale</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,125 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
 <context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Buttons</source>
+        <translation>ボタン</translation>
+    </message>
+    <message>
+        <source>Several states</source>
+        <translation>複数の状態</translation>
+    </message>
+    <message>
+        <source>Image and text</source>
+        <translation>画像とテキスト</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>タブ</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ラベル</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>最後のシグナル</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>まだありません</translation>
+    </message>
+    <message>
+        <source>Pressed %1</source>
+        <translation>%1 が押されました</translation>
+    </message>
+    <message>
+        <source>Clicked %1 at (%2, %3)</source>
+        <translation>%1 が (%2, %3) でクリックされました</translation>
+    </message>
+    <message>
+        <source>Entered %1</source>
+        <translation>%1 に入りました</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>%1 から出ました</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>アイコン付き</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>お気に入り</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>チェック済み</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>無効</translation>
+    </message>
+    <message>
+        <source>Clicked %1, shows %2</source>
+        <translation>%1 がクリックされ、%2 を表示中</translation>
+    </message>
+    <message>
+        <source>Clicked %1</source>
+        <translation>%1 がクリックされました</translation>
+    </message>
+    <message>
+        <source>Image left</source>
+        <translation>画像が左</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Image right</source>
+        <translation>画像が右</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>メディア</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>オーディオ</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>エフェクト</translation>
+    </message>
+    <message>
+        <source>Selected %1</source>
+        <translation>%1 が選択されました</translation>
+    </message>
+    <message>
+        <source>for a language from right to left</source>
+        <translation>右から左へ書く言語用</translation>
+    </message>
+    <message>
+        <source>for a language from left to right</source>
+        <translation>左から右へ書く言語用</translation>
+    </message>
+</context>
+<context>
     <name>ClipStrip</name>
     <message>
         <source>Opening</source>
@@ -91,6 +210,84 @@
     </message>
 </context>
 <context>
+    <name>Gallery</name>
+    <message>
+        <source>Ruler</source>
+        <translation>ルーラー</translation>
+    </message>
+    <message>
+        <source>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</source>
+        <translation>再生ヘッドをドラッグします。ホイールでスクロール、Ctrl を押すとズーム、ダブルクリックで全体を表示します。</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>スライダー</translation>
+    </message>
+    <message>
+        <source>Drag, use the wheel, or the arrow keys.</source>
+        <translation>ドラッグするか、ホイールまたは矢印キーを使います。</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>ボタンとラベル</translation>
+    </message>
+    <message>
+        <source>The last line tells what they signal.</source>
+        <translation>最後の行に、発したシグナルが表示されます。</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>読み込み</translation>
+    </message>
+    <message>
+        <source>Copies media from cameras, phones and cards.</source>
+        <translation>カメラ、スマートフォン、メモリーカードからメディアをコピーします。</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>A choice reaches every window at once.</source>
+        <translation>選択はすぐにすべてのウィンドウに反映されます。</translation>
+    </message>
+    <message>
+        <source>Shows the library&apos;s widgets.</source>
+        <translation>ライブラリのウィジェットを表示します。</translation>
+    </message>
+    <message>
+        <source>Begin with the page &lt;name&gt;.</source>
+        <translation>ページ &lt;name&gt; から始めます。</translation>
+    </message>
+    <message>
+        <source>List the names of the pages.</source>
+        <translation>ページの名前を一覧表示します。</translation>
+    </message>
+    <message>
+        <source>Write a picture of the page to &lt;file&gt;.</source>
+        <translation>ページの画像を &lt;file&gt; に書き出します。</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>%1 を書き込めません</translation>
+    </message>
+    <message>
+        <source>no page %1</source>
+        <translation>ページ %1 はありません</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>CommonLib widgets</source>
+        <translation>CommonLib ウィジェット</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+</context>
+<context>
     <name>HostLanguage</name>
     <message>
         <source>Language of the texts from now on, such as German.</source>
@@ -99,6 +296,132 @@
     <message>
         <source>NAME</source>
         <translation>名前</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPage</name>
+    <message>
+        <source>Refresh</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>選択…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>読み込み</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>Folder to import into</source>
+        <translation>読み込み先のフォルダー</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>読み込みの進行状況</translation>
+    </message>
+    <message>
+        <source>Import into</source>
+        <translation>読み込み先</translation>
+    </message>
+    <message>
+        <source>No device found</source>
+        <translation>デバイスが見つかりません</translation>
+    </message>
+    <message>
+        <source>Connect a camera, a phone or a card reader, switch it on and unlock it.</source>
+        <translation>カメラ、スマートフォン、またはカードリーダーを接続し、電源を入れてロックを解除してください。</translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
+        <translation>%1 を開いています…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>%1 を開けません</translation>
+    </message>
+    <message>
+        <source>Unlock the device and allow access to its files, then choose it again.</source>
+        <translation>デバイスのロックを解除してファイルへのアクセスを許可し、もう一度選択してください。</translation>
+    </message>
+    <message>
+        <source>%1 was removed</source>
+        <translation>%1 が取り外されました</translation>
+    </message>
+    <message>
+        <source>Connect it again to go on.</source>
+        <translation>続けるには再接続してください。</translation>
+    </message>
+    <message>
+        <source>Chosen files: %1 (%2)</source>
+        <translation>選択したファイル: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reading the content… %1 files</source>
+        <translation>内容を読み取っています… ファイル: %1</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>名前のないデバイス</translation>
+    </message>
+    <message>
+        <source>%1 files on the device</source>
+        <translation>デバイス上のファイル: %1</translation>
+    </message>
+    <message>
+        <source>The device stopped answering; this may not be all of it.</source>
+        <translation>デバイスが応答しなくなりました。すべてではない可能性があります。</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into this folder.</source>
+        <translation>このフォルダーには書き込めません。</translation>
+    </message>
+    <message>
+        <source>Importing… %1 of %2</source>
+        <translation>読み込み中… %1/%2</translation>
+    </message>
+    <message>
+        <source>Imported files: %1 of %2.</source>
+        <translation>読み込んだファイル: %1/%2。</translation>
+    </message>
+    <message>
+        <source>The device was removed during the import.</source>
+        <translation>読み込み中にデバイスが取り外されました。</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>キャンセルされました。</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>読み込めませんでした: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportTree</name>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>更新日時</translation>
+    </message>
+    <message>
+        <source>Content of the device</source>
+        <translation>デバイスの内容</translation>
     </message>
 </context>
 <context>
@@ -306,6 +629,57 @@
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>SliderPage</name>
+    <message>
+        <source>Seek bar</source>
+        <translation>シークバー</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Other chunk and groove</source>
+        <translation>別の塗りと溝</translation>
+    </message>
+    <message>
+        <source>From right to left</source>
+        <translation>右から左</translation>
+    </message>
+    <message>
+        <source>Empty range</source>
+        <translation>空の範囲</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>無効</translation>
+    </message>
+    <message>
+        <source>Zoom bar</source>
+        <translation>ズームバー</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Mirrored layout</source>
+        <translation>左右反転の配置</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>バー</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>別の色</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>縦</translation>
     </message>
 </context>
 </TS>

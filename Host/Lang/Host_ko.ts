@@ -2,6 +2,125 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR" sourcelanguage="en_US">
 <context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Buttons</source>
+        <translation>버튼</translation>
+    </message>
+    <message>
+        <source>Several states</source>
+        <translation>여러 상태</translation>
+    </message>
+    <message>
+        <source>Image and text</source>
+        <translation>그림과 글자</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>탭</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>레이블</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>마지막 신호</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>아직 없음</translation>
+    </message>
+    <message>
+        <source>Pressed %1</source>
+        <translation>%1 누름</translation>
+    </message>
+    <message>
+        <source>Clicked %1 at (%2, %3)</source>
+        <translation>(%2, %3)에서 %1 클릭</translation>
+    </message>
+    <message>
+        <source>Entered %1</source>
+        <translation>%1 진입</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>%1 벗어남</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>보통</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>아이콘 포함</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>즐겨찾기</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>선택됨</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>사용 안 함</translation>
+    </message>
+    <message>
+        <source>Clicked %1, shows %2</source>
+        <translation>%1 클릭, %2 표시</translation>
+    </message>
+    <message>
+        <source>Clicked %1</source>
+        <translation>%1 클릭</translation>
+    </message>
+    <message>
+        <source>Image left</source>
+        <translation>그림 왼쪽</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>위</translation>
+    </message>
+    <message>
+        <source>Image right</source>
+        <translation>그림 오른쪽</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>아래</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>미디어</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>오디오</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>자막</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>효과</translation>
+    </message>
+    <message>
+        <source>Selected %1</source>
+        <translation>%1 선택됨</translation>
+    </message>
+    <message>
+        <source>for a language from right to left</source>
+        <translation>오른쪽에서 왼쪽으로 쓰는 언어용</translation>
+    </message>
+    <message>
+        <source>for a language from left to right</source>
+        <translation>왼쪽에서 오른쪽으로 쓰는 언어용</translation>
+    </message>
+</context>
+<context>
     <name>ClipStrip</name>
     <message>
         <source>Opening</source>
@@ -91,6 +210,84 @@
     </message>
 </context>
 <context>
+    <name>Gallery</name>
+    <message>
+        <source>Ruler</source>
+        <translation>눈금자</translation>
+    </message>
+    <message>
+        <source>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</source>
+        <translation>재생 헤드를 끌어 보세요. 휠은 스크롤, Ctrl과 함께는 확대·축소, 두 번 클릭하면 전체가 보입니다.</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>슬라이더</translation>
+    </message>
+    <message>
+        <source>Drag, use the wheel, or the arrow keys.</source>
+        <translation>끌거나 휠 또는 화살표 키를 사용하세요.</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>버튼과 레이블</translation>
+    </message>
+    <message>
+        <source>The last line tells what they signal.</source>
+        <translation>마지막 줄에 보낸 신호가 나옵니다.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>가져오기</translation>
+    </message>
+    <message>
+        <source>Copies media from cameras, phones and cards.</source>
+        <translation>카메라, 휴대전화, 메모리 카드에서 미디어를 복사합니다.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>언어</translation>
+    </message>
+    <message>
+        <source>A choice reaches every window at once.</source>
+        <translation>선택은 모든 창에 바로 적용됩니다.</translation>
+    </message>
+    <message>
+        <source>Shows the library&apos;s widgets.</source>
+        <translation>라이브러리의 위젯을 보여 줍니다.</translation>
+    </message>
+    <message>
+        <source>Begin with the page &lt;name&gt;.</source>
+        <translation>&lt;name&gt; 페이지부터 시작합니다.</translation>
+    </message>
+    <message>
+        <source>List the names of the pages.</source>
+        <translation>페이지 이름을 나열합니다.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the page to &lt;file&gt;.</source>
+        <translation>페이지의 그림을 &lt;file&gt;에 저장합니다.</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>%1을(를) 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>no page %1</source>
+        <translation>%1 페이지가 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>CommonLib widgets</source>
+        <translation>CommonLib 위젯</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>페이지</translation>
+    </message>
+</context>
+<context>
     <name>HostLanguage</name>
     <message>
         <source>Language of the texts from now on, such as German.</source>
@@ -99,6 +296,132 @@
     <message>
         <source>NAME</source>
         <translation>이름</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPage</name>
+    <message>
+        <source>Refresh</source>
+        <translation>새로 고침</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>선택…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>가져오기</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>장치</translation>
+    </message>
+    <message>
+        <source>Folder to import into</source>
+        <translation>가져올 폴더</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>가져오기 진행률</translation>
+    </message>
+    <message>
+        <source>Import into</source>
+        <translation>가져올 위치</translation>
+    </message>
+    <message>
+        <source>No device found</source>
+        <translation>장치를 찾을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Connect a camera, a phone or a card reader, switch it on and unlock it.</source>
+        <translation>카메라, 휴대전화 또는 카드 리더를 연결하고 전원을 켠 뒤 잠금을 해제하세요.</translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
+        <translation>%1 여는 중…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>%1을(를) 열 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Unlock the device and allow access to its files, then choose it again.</source>
+        <translation>장치 잠금을 해제하고 파일 접근을 허용한 다음 다시 선택하세요.</translation>
+    </message>
+    <message>
+        <source>%1 was removed</source>
+        <translation>%1 제거됨</translation>
+    </message>
+    <message>
+        <source>Connect it again to go on.</source>
+        <translation>계속하려면 다시 연결하세요.</translation>
+    </message>
+    <message>
+        <source>Chosen files: %1 (%2)</source>
+        <translation>선택한 파일: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reading the content… %1 files</source>
+        <translation>내용을 읽는 중… 파일: %1</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>이름 없는 장치</translation>
+    </message>
+    <message>
+        <source>%1 files on the device</source>
+        <translation>장치의 파일: %1</translation>
+    </message>
+    <message>
+        <source>The device stopped answering; this may not be all of it.</source>
+        <translation>장치가 응답하지 않습니다. 전체가 아닐 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into this folder.</source>
+        <translation>이 폴더에는 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Importing… %1 of %2</source>
+        <translation>가져오는 중… %1/%2</translation>
+    </message>
+    <message>
+        <source>Imported files: %1 of %2.</source>
+        <translation>가져온 파일: %1/%2.</translation>
+    </message>
+    <message>
+        <source>The device was removed during the import.</source>
+        <translation>가져오는 동안 장치가 제거되었습니다.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>취소됨.</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>가져오지 못함: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportTree</name>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>크기</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>수정한 날짜</translation>
+    </message>
+    <message>
+        <source>Content of the device</source>
+        <translation>장치의 내용</translation>
     </message>
 </context>
 <context>
@@ -306,6 +629,57 @@
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>SliderPage</name>
+    <message>
+        <source>Seek bar</source>
+        <translation>탐색 막대</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>보통</translation>
+    </message>
+    <message>
+        <source>Other chunk and groove</source>
+        <translation>다른 채움과 홈</translation>
+    </message>
+    <message>
+        <source>From right to left</source>
+        <translation>오른쪽에서 왼쪽으로</translation>
+    </message>
+    <message>
+        <source>Empty range</source>
+        <translation>빈 범위</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>사용 안 함</translation>
+    </message>
+    <message>
+        <source>Zoom bar</source>
+        <translation>확대/축소 막대</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Mirrored layout</source>
+        <translation>좌우 반전 배치</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>막대</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>다른 색</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>세로</translation>
     </message>
 </context>
 </TS>

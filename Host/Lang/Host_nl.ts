@@ -2,6 +2,125 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl_NL" sourcelanguage="en_US">
 <context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Buttons</source>
+        <translation>Knoppen</translation>
+    </message>
+    <message>
+        <source>Several states</source>
+        <translation>Meerdere standen</translation>
+    </message>
+    <message>
+        <source>Image and text</source>
+        <translation>Afbeelding en tekst</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Tabbladen</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Labels</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Laatste signaal</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>nog geen</translation>
+    </message>
+    <message>
+        <source>Pressed %1</source>
+        <translation>%1 ingedrukt</translation>
+    </message>
+    <message>
+        <source>Clicked %1 at (%2, %3)</source>
+        <translation>%1 aangeklikt op (%2, %3)</translation>
+    </message>
+    <message>
+        <source>Entered %1</source>
+        <translation>%1 binnengegaan</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>%1 verlaten</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normaal</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>Met pictogram</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favoriet</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Ingeschakeld</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Uitgeschakeld</translation>
+    </message>
+    <message>
+        <source>Clicked %1, shows %2</source>
+        <translation>%1 aangeklikt, toont %2</translation>
+    </message>
+    <message>
+        <source>Clicked %1</source>
+        <translation>%1 aangeklikt</translation>
+    </message>
+    <message>
+        <source>Image left</source>
+        <translation>Afbeelding links</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>Erboven</translation>
+    </message>
+    <message>
+        <source>Image right</source>
+        <translation>Afbeelding rechts</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Eronder</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Titels</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Effecten</translation>
+    </message>
+    <message>
+        <source>Selected %1</source>
+        <translation>%1 geselecteerd</translation>
+    </message>
+    <message>
+        <source>for a language from right to left</source>
+        <translation>voor een taal van rechts naar links</translation>
+    </message>
+    <message>
+        <source>for a language from left to right</source>
+        <translation>voor een taal van links naar rechts</translation>
+    </message>
+</context>
+<context>
     <name>ClipStrip</name>
     <message>
         <source>Opening</source>
@@ -91,6 +210,84 @@
     </message>
 </context>
 <context>
+    <name>Gallery</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Liniaal</translation>
+    </message>
+    <message>
+        <source>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</source>
+        <translation>Sleep de afspeelkop; het wiel schuift, met Ctrl zoomt het; dubbelklikken toont alles.</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Schuifregelaars</translation>
+    </message>
+    <message>
+        <source>Drag, use the wheel, or the arrow keys.</source>
+        <translation>Sleep, gebruik het wiel of de pijltoetsen.</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>Knoppen en labels</translation>
+    </message>
+    <message>
+        <source>The last line tells what they signal.</source>
+        <translation>De laatste regel vertelt wat ze melden.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importeren</translation>
+    </message>
+    <message>
+        <source>Copies media from cameras, phones and cards.</source>
+        <translation>Kopieert media van camera’s, telefoons en kaarten.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Talen</translation>
+    </message>
+    <message>
+        <source>A choice reaches every window at once.</source>
+        <translation>Een keuze bereikt meteen elk venster.</translation>
+    </message>
+    <message>
+        <source>Shows the library&apos;s widgets.</source>
+        <translation>Toont de bedieningselementen van de bibliotheek.</translation>
+    </message>
+    <message>
+        <source>Begin with the page &lt;name&gt;.</source>
+        <translation>Begin met de pagina &lt;name&gt;.</translation>
+    </message>
+    <message>
+        <source>List the names of the pages.</source>
+        <translation>Toon de namen van de pagina’s.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the page to &lt;file&gt;.</source>
+        <translation>Schrijf een afbeelding van de pagina naar &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>kan %1 niet schrijven</translation>
+    </message>
+    <message>
+        <source>no page %1</source>
+        <translation>geen pagina %1</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>CommonLib widgets</source>
+        <translation>CommonLib-bedieningselementen</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pagina’s</translation>
+    </message>
+</context>
+<context>
     <name>HostLanguage</name>
     <message>
         <source>Language of the texts from now on, such as German.</source>
@@ -99,6 +296,132 @@
     <message>
         <source>NAME</source>
         <translation>NAAM</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPage</name>
+    <message>
+        <source>Refresh</source>
+        <translation>Vernieuwen</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Kiezen…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importeren</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Apparaat</translation>
+    </message>
+    <message>
+        <source>Folder to import into</source>
+        <translation>Map om in te importeren</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>Voortgang van het importeren</translation>
+    </message>
+    <message>
+        <source>Import into</source>
+        <translation>Importeren in</translation>
+    </message>
+    <message>
+        <source>No device found</source>
+        <translation>Geen apparaat gevonden</translation>
+    </message>
+    <message>
+        <source>Connect a camera, a phone or a card reader, switch it on and unlock it.</source>
+        <translation>Sluit een camera, telefoon of kaartlezer aan, zet het apparaat aan en ontgrendel het.</translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
+        <translation>%1 wordt geopend…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>%1 kan niet worden geopend</translation>
+    </message>
+    <message>
+        <source>Unlock the device and allow access to its files, then choose it again.</source>
+        <translation>Ontgrendel het apparaat, sta toegang tot de bestanden toe en kies het opnieuw.</translation>
+    </message>
+    <message>
+        <source>%1 was removed</source>
+        <translation>%1 is verwijderd</translation>
+    </message>
+    <message>
+        <source>Connect it again to go on.</source>
+        <translation>Sluit het weer aan om door te gaan.</translation>
+    </message>
+    <message>
+        <source>Chosen files: %1 (%2)</source>
+        <translation>Gekozen bestanden: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reading the content… %1 files</source>
+        <translation>Inhoud wordt gelezen… Bestanden: %1</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>Naamloos apparaat</translation>
+    </message>
+    <message>
+        <source>%1 files on the device</source>
+        <translation>Bestanden op het apparaat: %1</translation>
+    </message>
+    <message>
+        <source>The device stopped answering; this may not be all of it.</source>
+        <translation>Het apparaat antwoordt niet meer; dit is misschien niet alles.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into this folder.</source>
+        <translation>In deze map kan niet worden geschreven.</translation>
+    </message>
+    <message>
+        <source>Importing… %1 of %2</source>
+        <translation>Importeren… %1 van %2</translation>
+    </message>
+    <message>
+        <source>Imported files: %1 of %2.</source>
+        <translation>Geïmporteerde bestanden: %1 van %2.</translation>
+    </message>
+    <message>
+        <source>The device was removed during the import.</source>
+        <translation>Het apparaat is tijdens het importeren verwijderd.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Geannuleerd.</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>Niet geïmporteerd: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportTree</name>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Grootte</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>Gewijzigd</translation>
+    </message>
+    <message>
+        <source>Content of the device</source>
+        <translation>Inhoud van het apparaat</translation>
     </message>
 </context>
 <context>
@@ -309,6 +632,57 @@
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>SliderPage</name>
+    <message>
+        <source>Seek bar</source>
+        <translation>Zoekbalk</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normaal</translation>
+    </message>
+    <message>
+        <source>Other chunk and groove</source>
+        <translation>Andere vulling en groef</translation>
+    </message>
+    <message>
+        <source>From right to left</source>
+        <translation>Van rechts naar links</translation>
+    </message>
+    <message>
+        <source>Empty range</source>
+        <translation>Leeg bereik</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Uitgeschakeld</translation>
+    </message>
+    <message>
+        <source>Zoom bar</source>
+        <translation>Zoombalk</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Mirrored layout</source>
+        <translation>Gespiegelde indeling</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>Balk</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>Andere kleuren</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Rechtop</translation>
     </message>
 </context>
 </TS>

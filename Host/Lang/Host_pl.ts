@@ -2,6 +2,125 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl_PL" sourcelanguage="en_US">
 <context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Buttons</source>
+        <translation>Przyciski</translation>
+    </message>
+    <message>
+        <source>Several states</source>
+        <translation>Kilka stanów</translation>
+    </message>
+    <message>
+        <source>Image and text</source>
+        <translation>Obraz i tekst</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Karty</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etykiety</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Ostatni sygnał</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>jeszcze żaden</translation>
+    </message>
+    <message>
+        <source>Pressed %1</source>
+        <translation>Wciśnięto %1</translation>
+    </message>
+    <message>
+        <source>Clicked %1 at (%2, %3)</source>
+        <translation>Kliknięto %1 w (%2, %3)</translation>
+    </message>
+    <message>
+        <source>Entered %1</source>
+        <translation>Wejście na %1</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>Opuszczono %1</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Zwykły</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>Z ikoną</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Ulubione</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Zaznaczony</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Wyłączony</translation>
+    </message>
+    <message>
+        <source>Clicked %1, shows %2</source>
+        <translation>Kliknięto %1, pokazuje %2</translation>
+    </message>
+    <message>
+        <source>Clicked %1</source>
+        <translation>Kliknięto %1</translation>
+    </message>
+    <message>
+        <source>Image left</source>
+        <translation>Obraz z lewej</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>U góry</translation>
+    </message>
+    <message>
+        <source>Image right</source>
+        <translation>Obraz z prawej</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>U dołu</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Multimedia</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Napisy</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Efekty</translation>
+    </message>
+    <message>
+        <source>Selected %1</source>
+        <translation>Wybrano %1</translation>
+    </message>
+    <message>
+        <source>for a language from right to left</source>
+        <translation>dla języka pisanego od prawej do lewej</translation>
+    </message>
+    <message>
+        <source>for a language from left to right</source>
+        <translation>dla języka pisanego od lewej do prawej</translation>
+    </message>
+</context>
+<context>
     <name>ClipStrip</name>
     <message>
         <source>Opening</source>
@@ -91,6 +210,84 @@
     </message>
 </context>
 <context>
+    <name>Gallery</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Linijka</translation>
+    </message>
+    <message>
+        <source>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</source>
+        <translation>Przeciągnij głowicę; kółko przewija, z Ctrl powiększa; podwójne kliknięcie pokazuje całość.</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Suwaki</translation>
+    </message>
+    <message>
+        <source>Drag, use the wheel, or the arrow keys.</source>
+        <translation>Przeciągaj, użyj kółka albo klawiszy strzałek.</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>Przyciski i etykiety</translation>
+    </message>
+    <message>
+        <source>The last line tells what they signal.</source>
+        <translation>Ostatni wiersz mówi, co sygnalizują.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Copies media from cameras, phones and cards.</source>
+        <translation>Kopiuje multimedia z aparatów, telefonów i kart.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Języki</translation>
+    </message>
+    <message>
+        <source>A choice reaches every window at once.</source>
+        <translation>Wybór od razu dociera do każdego okna.</translation>
+    </message>
+    <message>
+        <source>Shows the library&apos;s widgets.</source>
+        <translation>Pokazuje kontrolki biblioteki.</translation>
+    </message>
+    <message>
+        <source>Begin with the page &lt;name&gt;.</source>
+        <translation>Zacznij od strony &lt;name&gt;.</translation>
+    </message>
+    <message>
+        <source>List the names of the pages.</source>
+        <translation>Wypisz nazwy stron.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the page to &lt;file&gt;.</source>
+        <translation>Zapisz obraz strony do &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>nie można zapisać %1</translation>
+    </message>
+    <message>
+        <source>no page %1</source>
+        <translation>brak strony %1</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>CommonLib widgets</source>
+        <translation>Kontrolki CommonLib</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Strony</translation>
+    </message>
+</context>
+<context>
     <name>HostLanguage</name>
     <message>
         <source>Language of the texts from now on, such as German.</source>
@@ -99,6 +296,132 @@
     <message>
         <source>NAME</source>
         <translation>NAZWA</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPage</name>
+    <message>
+        <source>Refresh</source>
+        <translation>Odśwież</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wybierz…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Urządzenie</translation>
+    </message>
+    <message>
+        <source>Folder to import into</source>
+        <translation>Folder docelowy importu</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>Postęp importu</translation>
+    </message>
+    <message>
+        <source>Import into</source>
+        <translation>Importuj do</translation>
+    </message>
+    <message>
+        <source>No device found</source>
+        <translation>Nie znaleziono urządzenia</translation>
+    </message>
+    <message>
+        <source>Connect a camera, a phone or a card reader, switch it on and unlock it.</source>
+        <translation>Podłącz aparat, telefon lub czytnik kart, włącz go i odblokuj.</translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
+        <translation>Otwieranie: %1…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>Nie można otworzyć: %1</translation>
+    </message>
+    <message>
+        <source>Unlock the device and allow access to its files, then choose it again.</source>
+        <translation>Odblokuj urządzenie, zezwól na dostęp do plików i wybierz je ponownie.</translation>
+    </message>
+    <message>
+        <source>%1 was removed</source>
+        <translation>Odłączono: %1</translation>
+    </message>
+    <message>
+        <source>Connect it again to go on.</source>
+        <translation>Podłącz je ponownie, aby kontynuować.</translation>
+    </message>
+    <message>
+        <source>Chosen files: %1 (%2)</source>
+        <translation>Wybrane pliki: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reading the content… %1 files</source>
+        <translation>Odczyt zawartości… Pliki: %1</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>Urządzenie bez nazwy</translation>
+    </message>
+    <message>
+        <source>%1 files on the device</source>
+        <translation>Pliki na urządzeniu: %1</translation>
+    </message>
+    <message>
+        <source>The device stopped answering; this may not be all of it.</source>
+        <translation>Urządzenie przestało odpowiadać; to może nie być wszystko.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into this folder.</source>
+        <translation>W tym folderze nie można zapisywać.</translation>
+    </message>
+    <message>
+        <source>Importing… %1 of %2</source>
+        <translation>Importowanie… %1 z %2</translation>
+    </message>
+    <message>
+        <source>Imported files: %1 of %2.</source>
+        <translation>Zaimportowane pliki: %1 z %2.</translation>
+    </message>
+    <message>
+        <source>The device was removed during the import.</source>
+        <translation>Urządzenie odłączono podczas importu.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Anulowano.</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>Nie zaimportowano: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportTree</name>
+    <message>
+        <source>Name</source>
+        <translation>Nazwa</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Rozmiar</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>Zmodyfikowano</translation>
+    </message>
+    <message>
+        <source>Content of the device</source>
+        <translation>Zawartość urządzenia</translation>
     </message>
 </context>
 <context>
@@ -312,6 +635,57 @@
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>SliderPage</name>
+    <message>
+        <source>Seek bar</source>
+        <translation>Pasek przewijania odtwarzania</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Zwykły</translation>
+    </message>
+    <message>
+        <source>Other chunk and groove</source>
+        <translation>Inne wypełnienie i rowek</translation>
+    </message>
+    <message>
+        <source>From right to left</source>
+        <translation>Od prawej do lewej</translation>
+    </message>
+    <message>
+        <source>Empty range</source>
+        <translation>Pusty zakres</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Wyłączony</translation>
+    </message>
+    <message>
+        <source>Zoom bar</source>
+        <translation>Pasek powiększenia</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Mirrored layout</source>
+        <translation>Układ lustrzany</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>Pasek</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>Inne kolory</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Pionowo</translation>
     </message>
 </context>
 </TS>

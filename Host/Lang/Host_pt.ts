@@ -2,6 +2,125 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_PT" sourcelanguage="en_US">
 <context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Buttons</source>
+        <translation>Botões</translation>
+    </message>
+    <message>
+        <source>Several states</source>
+        <translation>Vários estados</translation>
+    </message>
+    <message>
+        <source>Image and text</source>
+        <translation>Imagem e texto</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Separadores</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Último sinal</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>ainda nenhum</translation>
+    </message>
+    <message>
+        <source>Pressed %1</source>
+        <translation>Premido: %1</translation>
+    </message>
+    <message>
+        <source>Clicked %1 at (%2, %3)</source>
+        <translation>Clique em %1, posição (%2, %3)</translation>
+    </message>
+    <message>
+        <source>Entered %1</source>
+        <translation>Entrada em %1</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>Saída de %1</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>Com ícone</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favorito</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Ativado</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Desativado</translation>
+    </message>
+    <message>
+        <source>Clicked %1, shows %2</source>
+        <translation>Clique em %1, mostra %2</translation>
+    </message>
+    <message>
+        <source>Clicked %1</source>
+        <translation>Clique em %1</translation>
+    </message>
+    <message>
+        <source>Image left</source>
+        <translation>Imagem à esquerda</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>Em cima</translation>
+    </message>
+    <message>
+        <source>Image right</source>
+        <translation>Imagem à direita</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Em baixo</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Multimédia</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Áudio</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Títulos</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Efeitos</translation>
+    </message>
+    <message>
+        <source>Selected %1</source>
+        <translation>Selecionado: %1</translation>
+    </message>
+    <message>
+        <source>for a language from right to left</source>
+        <translation>para um idioma da direita para a esquerda</translation>
+    </message>
+    <message>
+        <source>for a language from left to right</source>
+        <translation>para um idioma da esquerda para a direita</translation>
+    </message>
+</context>
+<context>
     <name>ClipStrip</name>
     <message>
         <source>Opening</source>
@@ -91,6 +210,84 @@
     </message>
 </context>
 <context>
+    <name>Gallery</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Régua</translation>
+    </message>
+    <message>
+        <source>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</source>
+        <translation>Arraste o cursor de reprodução; a roda desloca e, com Ctrl, amplia; um duplo clique ajusta tudo.</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Controlos deslizantes</translation>
+    </message>
+    <message>
+        <source>Drag, use the wheel, or the arrow keys.</source>
+        <translation>Arraste, use a roda ou as teclas de seta.</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>Botões e etiquetas</translation>
+    </message>
+    <message>
+        <source>The last line tells what they signal.</source>
+        <translation>A última linha diz o que assinalam.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Copies media from cameras, phones and cards.</source>
+        <translation>Copia multimédia de câmaras, telemóveis e cartões.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Idiomas</translation>
+    </message>
+    <message>
+        <source>A choice reaches every window at once.</source>
+        <translation>A escolha chega de imediato a todas as janelas.</translation>
+    </message>
+    <message>
+        <source>Shows the library&apos;s widgets.</source>
+        <translation>Mostra os controlos da biblioteca.</translation>
+    </message>
+    <message>
+        <source>Begin with the page &lt;name&gt;.</source>
+        <translation>Começa pela página &lt;name&gt;.</translation>
+    </message>
+    <message>
+        <source>List the names of the pages.</source>
+        <translation>Lista os nomes das páginas.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the page to &lt;file&gt;.</source>
+        <translation>Escreve uma imagem da página em &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>não é possível escrever %1</translation>
+    </message>
+    <message>
+        <source>no page %1</source>
+        <translation>não há página %1</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>CommonLib widgets</source>
+        <translation>Controlos da CommonLib</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+</context>
+<context>
     <name>HostLanguage</name>
     <message>
         <source>Language of the texts from now on, such as German.</source>
@@ -99,6 +296,132 @@
     <message>
         <source>NAME</source>
         <translation>NOME</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPage</name>
+    <message>
+        <source>Refresh</source>
+        <translation>Atualizar</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Escolher…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>Folder to import into</source>
+        <translation>Pasta de destino</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>Progresso da importação</translation>
+    </message>
+    <message>
+        <source>Import into</source>
+        <translation>Importar para</translation>
+    </message>
+    <message>
+        <source>No device found</source>
+        <translation>Nenhum dispositivo encontrado</translation>
+    </message>
+    <message>
+        <source>Connect a camera, a phone or a card reader, switch it on and unlock it.</source>
+        <translation>Ligue uma câmara, um telemóvel ou um leitor de cartões, ative-o e desbloqueie-o.</translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
+        <translation>A abrir %1…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>Não é possível abrir %1</translation>
+    </message>
+    <message>
+        <source>Unlock the device and allow access to its files, then choose it again.</source>
+        <translation>Desbloqueie o dispositivo, permita o acesso aos seus ficheiros e escolha-o novamente.</translation>
+    </message>
+    <message>
+        <source>%1 was removed</source>
+        <translation>%1 foi removido</translation>
+    </message>
+    <message>
+        <source>Connect it again to go on.</source>
+        <translation>Ligue-o novamente para continuar.</translation>
+    </message>
+    <message>
+        <source>Chosen files: %1 (%2)</source>
+        <translation>Ficheiros escolhidos: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reading the content… %1 files</source>
+        <translation>A ler o conteúdo… Ficheiros: %1</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>Dispositivo sem nome</translation>
+    </message>
+    <message>
+        <source>%1 files on the device</source>
+        <translation>Ficheiros no dispositivo: %1</translation>
+    </message>
+    <message>
+        <source>The device stopped answering; this may not be all of it.</source>
+        <translation>O dispositivo deixou de responder; isto pode não ser tudo.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into this folder.</source>
+        <translation>Não é possível escrever nesta pasta.</translation>
+    </message>
+    <message>
+        <source>Importing… %1 of %2</source>
+        <translation>A importar… %1 de %2</translation>
+    </message>
+    <message>
+        <source>Imported files: %1 of %2.</source>
+        <translation>Ficheiros importados: %1 de %2.</translation>
+    </message>
+    <message>
+        <source>The device was removed during the import.</source>
+        <translation>O dispositivo foi removido durante a importação.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Cancelado.</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>Não importado: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportTree</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamanho</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>Modificado</translation>
+    </message>
+    <message>
+        <source>Content of the device</source>
+        <translation>Conteúdo do dispositivo</translation>
     </message>
 </context>
 <context>
@@ -309,6 +632,57 @@
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>SliderPage</name>
+    <message>
+        <source>Seek bar</source>
+        <translation>Barra de procura</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Other chunk and groove</source>
+        <translation>Outro preenchimento e outra ranhura</translation>
+    </message>
+    <message>
+        <source>From right to left</source>
+        <translation>Da direita para a esquerda</translation>
+    </message>
+    <message>
+        <source>Empty range</source>
+        <translation>Intervalo vazio</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Desativado</translation>
+    </message>
+    <message>
+        <source>Zoom bar</source>
+        <translation>Barra de zoom</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Mirrored layout</source>
+        <translation>Disposição espelhada</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>Barra</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>Outras cores</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Vertical</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,125 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ro_RO" sourcelanguage="en_US">
 <context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Buttons</source>
+        <translation>Butoane</translation>
+    </message>
+    <message>
+        <source>Several states</source>
+        <translation>Mai multe stări</translation>
+    </message>
+    <message>
+        <source>Image and text</source>
+        <translation>Imagine și text</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etichete</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Ultimul semnal</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>încă niciunul</translation>
+    </message>
+    <message>
+        <source>Pressed %1</source>
+        <translation>Apăsat: %1</translation>
+    </message>
+    <message>
+        <source>Clicked %1 at (%2, %3)</source>
+        <translation>Clic pe %1 la (%2, %3)</translation>
+    </message>
+    <message>
+        <source>Entered %1</source>
+        <translation>Intrare în %1</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>Ieșire din %1</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>Cu pictogramă</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favorit</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Bifat</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Dezactivat</translation>
+    </message>
+    <message>
+        <source>Clicked %1, shows %2</source>
+        <translation>Clic pe %1, arată %2</translation>
+    </message>
+    <message>
+        <source>Clicked %1</source>
+        <translation>Clic pe %1</translation>
+    </message>
+    <message>
+        <source>Image left</source>
+        <translation>Imagine la stânga</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>Deasupra</translation>
+    </message>
+    <message>
+        <source>Image right</source>
+        <translation>Imagine la dreapta</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Dedesubt</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Titluri</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Efecte</translation>
+    </message>
+    <message>
+        <source>Selected %1</source>
+        <translation>Selectat: %1</translation>
+    </message>
+    <message>
+        <source>for a language from right to left</source>
+        <translation>pentru o limbă de la dreapta la stânga</translation>
+    </message>
+    <message>
+        <source>for a language from left to right</source>
+        <translation>pentru o limbă de la stânga la dreapta</translation>
+    </message>
+</context>
+<context>
     <name>ClipStrip</name>
     <message>
         <source>Opening</source>
@@ -91,6 +210,84 @@
     </message>
 </context>
 <context>
+    <name>Gallery</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Riglă</translation>
+    </message>
+    <message>
+        <source>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</source>
+        <translation>Trageți capul de redare; rotița derulează, cu Ctrl mărește; un dublu clic afișează totul.</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Glisoare</translation>
+    </message>
+    <message>
+        <source>Drag, use the wheel, or the arrow keys.</source>
+        <translation>Trageți, folosiți rotița sau tastele săgeți.</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>Butoane și etichete</translation>
+    </message>
+    <message>
+        <source>The last line tells what they signal.</source>
+        <translation>Ultimul rând arată ce semnalează.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importă</translation>
+    </message>
+    <message>
+        <source>Copies media from cameras, phones and cards.</source>
+        <translation>Copiază media de pe camere, telefoane și carduri.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Limbi</translation>
+    </message>
+    <message>
+        <source>A choice reaches every window at once.</source>
+        <translation>Alegerea ajunge imediat la toate ferestrele.</translation>
+    </message>
+    <message>
+        <source>Shows the library&apos;s widgets.</source>
+        <translation>Arată elementele de interfață ale bibliotecii.</translation>
+    </message>
+    <message>
+        <source>Begin with the page &lt;name&gt;.</source>
+        <translation>Începe cu pagina &lt;name&gt;.</translation>
+    </message>
+    <message>
+        <source>List the names of the pages.</source>
+        <translation>Listează numele paginilor.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the page to &lt;file&gt;.</source>
+        <translation>Scrie o imagine a paginii în &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>nu se poate scrie %1</translation>
+    </message>
+    <message>
+        <source>no page %1</source>
+        <translation>nu există pagina %1</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>CommonLib widgets</source>
+        <translation>Elemente CommonLib</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pagini</translation>
+    </message>
+</context>
+<context>
     <name>HostLanguage</name>
     <message>
         <source>Language of the texts from now on, such as German.</source>
@@ -99,6 +296,132 @@
     <message>
         <source>NAME</source>
         <translation>NUME</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPage</name>
+    <message>
+        <source>Refresh</source>
+        <translation>Reîmprospătează</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Alege…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anulează</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importă</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Dispozitiv</translation>
+    </message>
+    <message>
+        <source>Folder to import into</source>
+        <translation>Dosarul în care se importă</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>Progresul importului</translation>
+    </message>
+    <message>
+        <source>Import into</source>
+        <translation>Importă în</translation>
+    </message>
+    <message>
+        <source>No device found</source>
+        <translation>Niciun dispozitiv găsit</translation>
+    </message>
+    <message>
+        <source>Connect a camera, a phone or a card reader, switch it on and unlock it.</source>
+        <translation>Conectați o cameră, un telefon sau un cititor de carduri, porniți-l și deblocați-l.</translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
+        <translation>Se deschide %1…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>%1 nu poate fi deschis</translation>
+    </message>
+    <message>
+        <source>Unlock the device and allow access to its files, then choose it again.</source>
+        <translation>Deblocați dispozitivul, permiteți accesul la fișiere, apoi alegeți-l din nou.</translation>
+    </message>
+    <message>
+        <source>%1 was removed</source>
+        <translation>%1 a fost îndepărtat</translation>
+    </message>
+    <message>
+        <source>Connect it again to go on.</source>
+        <translation>Reconectați-l pentru a continua.</translation>
+    </message>
+    <message>
+        <source>Chosen files: %1 (%2)</source>
+        <translation>Fișiere alese: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reading the content… %1 files</source>
+        <translation>Se citește conținutul… Fișiere: %1</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>Dispozitiv fără nume</translation>
+    </message>
+    <message>
+        <source>%1 files on the device</source>
+        <translation>Fișiere pe dispozitiv: %1</translation>
+    </message>
+    <message>
+        <source>The device stopped answering; this may not be all of it.</source>
+        <translation>Dispozitivul nu mai răspunde; este posibil să nu fie tot.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into this folder.</source>
+        <translation>Nu se poate scrie în acest dosar.</translation>
+    </message>
+    <message>
+        <source>Importing… %1 of %2</source>
+        <translation>Se importă… %1 din %2</translation>
+    </message>
+    <message>
+        <source>Imported files: %1 of %2.</source>
+        <translation>Fișiere importate: %1 din %2.</translation>
+    </message>
+    <message>
+        <source>The device was removed during the import.</source>
+        <translation>Dispozitivul a fost îndepărtat în timpul importului.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Anulat.</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>Neimportat: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportTree</name>
+    <message>
+        <source>Name</source>
+        <translation>Nume</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Dimensiune</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>Modificat</translation>
+    </message>
+    <message>
+        <source>Content of the device</source>
+        <translation>Conținutul dispozitivului</translation>
     </message>
 </context>
 <context>
@@ -312,6 +635,57 @@
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>SliderPage</name>
+    <message>
+        <source>Seek bar</source>
+        <translation>Bară de căutare</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Other chunk and groove</source>
+        <translation>Altă umplere și alt șanț</translation>
+    </message>
+    <message>
+        <source>From right to left</source>
+        <translation>De la dreapta la stânga</translation>
+    </message>
+    <message>
+        <source>Empty range</source>
+        <translation>Interval gol</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Dezactivat</translation>
+    </message>
+    <message>
+        <source>Zoom bar</source>
+        <translation>Bară de zoom</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Mirrored layout</source>
+        <translation>Dispunere în oglindă</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>Bară</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>Alte culori</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Vertical</translation>
     </message>
 </context>
 </TS>

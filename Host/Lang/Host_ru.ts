@@ -2,6 +2,125 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Buttons</source>
+        <translation>Кнопки</translation>
+    </message>
+    <message>
+        <source>Several states</source>
+        <translation>Несколько состояний</translation>
+    </message>
+    <message>
+        <source>Image and text</source>
+        <translation>Изображение и текст</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Вкладки</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Надписи</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Последний сигнал</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>пока нет</translation>
+    </message>
+    <message>
+        <source>Pressed %1</source>
+        <translation>Нажата %1</translation>
+    </message>
+    <message>
+        <source>Clicked %1 at (%2, %3)</source>
+        <translation>Щелчок по %1 в (%2, %3)</translation>
+    </message>
+    <message>
+        <source>Entered %1</source>
+        <translation>Курсор вошёл в %1</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>Курсор покинул %1</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Обычная</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>Со значком</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Избранное</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Включена</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Недоступно</translation>
+    </message>
+    <message>
+        <source>Clicked %1, shows %2</source>
+        <translation>Щелчок по %1, показано %2</translation>
+    </message>
+    <message>
+        <source>Clicked %1</source>
+        <translation>Щелчок по %1</translation>
+    </message>
+    <message>
+        <source>Image left</source>
+        <translation>Изображение слева</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>Сверху</translation>
+    </message>
+    <message>
+        <source>Image right</source>
+        <translation>Изображение справа</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Снизу</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Медиа</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Аудио</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Титры</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Эффекты</translation>
+    </message>
+    <message>
+        <source>Selected %1</source>
+        <translation>Выбрано: %1</translation>
+    </message>
+    <message>
+        <source>for a language from right to left</source>
+        <translation>для языка с письмом справа налево</translation>
+    </message>
+    <message>
+        <source>for a language from left to right</source>
+        <translation>для языка с письмом слева направо</translation>
+    </message>
+</context>
+<context>
     <name>ClipStrip</name>
     <message>
         <source>Opening</source>
@@ -91,6 +210,84 @@
     </message>
 </context>
 <context>
+    <name>Gallery</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Линейка</translation>
+    </message>
+    <message>
+        <source>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</source>
+        <translation>Перетащите указатель; колесо прокручивает, с Ctrl — меняет масштаб; двойной щелчок показывает всё.</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Ползунки</translation>
+    </message>
+    <message>
+        <source>Drag, use the wheel, or the arrow keys.</source>
+        <translation>Перетаскивайте, крутите колесо или нажимайте стрелки.</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>Кнопки и надписи</translation>
+    </message>
+    <message>
+        <source>The last line tells what they signal.</source>
+        <translation>В последней строке видно, о чём они сообщают.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Импорт</translation>
+    </message>
+    <message>
+        <source>Copies media from cameras, phones and cards.</source>
+        <translation>Копирует медиафайлы с камер, телефонов и карт памяти.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Языки</translation>
+    </message>
+    <message>
+        <source>A choice reaches every window at once.</source>
+        <translation>Выбор сразу действует во всех окнах.</translation>
+    </message>
+    <message>
+        <source>Shows the library&apos;s widgets.</source>
+        <translation>Показывает элементы управления библиотеки.</translation>
+    </message>
+    <message>
+        <source>Begin with the page &lt;name&gt;.</source>
+        <translation>Начать со страницы &lt;name&gt;.</translation>
+    </message>
+    <message>
+        <source>List the names of the pages.</source>
+        <translation>Перечислить имена страниц.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the page to &lt;file&gt;.</source>
+        <translation>Записать изображение страницы в &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>не удаётся записать %1</translation>
+    </message>
+    <message>
+        <source>no page %1</source>
+        <translation>нет страницы %1</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>CommonLib widgets</source>
+        <translation>Элементы управления CommonLib</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Страницы</translation>
+    </message>
+</context>
+<context>
     <name>HostLanguage</name>
     <message>
         <source>Language of the texts from now on, such as German.</source>
@@ -99,6 +296,132 @@
     <message>
         <source>NAME</source>
         <translation>ИМЯ</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPage</name>
+    <message>
+        <source>Refresh</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Выбрать…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Импорт</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Устройство</translation>
+    </message>
+    <message>
+        <source>Folder to import into</source>
+        <translation>Папка для импорта</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>Ход импорта</translation>
+    </message>
+    <message>
+        <source>Import into</source>
+        <translation>Импортировать в</translation>
+    </message>
+    <message>
+        <source>No device found</source>
+        <translation>Устройства не найдены</translation>
+    </message>
+    <message>
+        <source>Connect a camera, a phone or a card reader, switch it on and unlock it.</source>
+        <translation>Подключите камеру, телефон или устройство чтения карт, включите и разблокируйте его.</translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
+        <translation>Открывается %1…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>Не удаётся открыть %1</translation>
+    </message>
+    <message>
+        <source>Unlock the device and allow access to its files, then choose it again.</source>
+        <translation>Разблокируйте устройство, разрешите доступ к файлам и выберите его снова.</translation>
+    </message>
+    <message>
+        <source>%1 was removed</source>
+        <translation>Устройство %1 отключено</translation>
+    </message>
+    <message>
+        <source>Connect it again to go on.</source>
+        <translation>Подключите его снова, чтобы продолжить.</translation>
+    </message>
+    <message>
+        <source>Chosen files: %1 (%2)</source>
+        <translation>Выбрано файлов: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reading the content… %1 files</source>
+        <translation>Чтение содержимого… Файлов: %1</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>Устройство без имени</translation>
+    </message>
+    <message>
+        <source>%1 files on the device</source>
+        <translation>Файлов на устройстве: %1</translation>
+    </message>
+    <message>
+        <source>The device stopped answering; this may not be all of it.</source>
+        <translation>Устройство перестало отвечать; возможно, это не всё.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into this folder.</source>
+        <translation>В эту папку нельзя записывать.</translation>
+    </message>
+    <message>
+        <source>Importing… %1 of %2</source>
+        <translation>Импорт… %1 из %2</translation>
+    </message>
+    <message>
+        <source>Imported files: %1 of %2.</source>
+        <translation>Импортировано файлов: %1 из %2.</translation>
+    </message>
+    <message>
+        <source>The device was removed during the import.</source>
+        <translation>Устройство отключили во время импорта.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Отменено.</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>Не импортировано: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportTree</name>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Размер</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>Изменён</translation>
+    </message>
+    <message>
+        <source>Content of the device</source>
+        <translation>Содержимое устройства</translation>
     </message>
 </context>
 <context>
@@ -312,6 +635,57 @@
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>SliderPage</name>
+    <message>
+        <source>Seek bar</source>
+        <translation>Полоса перемотки</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Обычная</translation>
+    </message>
+    <message>
+        <source>Other chunk and groove</source>
+        <translation>Другие заполнение и дорожка</translation>
+    </message>
+    <message>
+        <source>From right to left</source>
+        <translation>Справа налево</translation>
+    </message>
+    <message>
+        <source>Empty range</source>
+        <translation>Пустой диапазон</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Недоступно</translation>
+    </message>
+    <message>
+        <source>Zoom bar</source>
+        <translation>Полоса масштаба</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Mirrored layout</source>
+        <translation>Зеркальное расположение</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>Полоса</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>Другие цвета</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Вертикально</translation>
     </message>
 </context>
 </TS>

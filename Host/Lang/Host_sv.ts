@@ -2,6 +2,125 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="sv_SE" sourcelanguage="en_US">
 <context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Buttons</source>
+        <translation>Knappar</translation>
+    </message>
+    <message>
+        <source>Several states</source>
+        <translation>Flera lägen</translation>
+    </message>
+    <message>
+        <source>Image and text</source>
+        <translation>Bild och text</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Flikar</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketter</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Senaste signal</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>inget än</translation>
+    </message>
+    <message>
+        <source>Pressed %1</source>
+        <translation>%1 nedtryckt</translation>
+    </message>
+    <message>
+        <source>Clicked %1 at (%2, %3)</source>
+        <translation>%1 klickad vid (%2, %3)</translation>
+    </message>
+    <message>
+        <source>Entered %1</source>
+        <translation>Gick in i %1</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>Lämnade %1</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>Med ikon</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favorit</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Markerad</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Inaktiverad</translation>
+    </message>
+    <message>
+        <source>Clicked %1, shows %2</source>
+        <translation>%1 klickad, visar %2</translation>
+    </message>
+    <message>
+        <source>Clicked %1</source>
+        <translation>%1 klickad</translation>
+    </message>
+    <message>
+        <source>Image left</source>
+        <translation>Bild till vänster</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>Ovanför</translation>
+    </message>
+    <message>
+        <source>Image right</source>
+        <translation>Bild till höger</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Nedanför</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Medier</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Ljud</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Titlar</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Effekter</translation>
+    </message>
+    <message>
+        <source>Selected %1</source>
+        <translation>%1 vald</translation>
+    </message>
+    <message>
+        <source>for a language from right to left</source>
+        <translation>för ett språk från höger till vänster</translation>
+    </message>
+    <message>
+        <source>for a language from left to right</source>
+        <translation>för ett språk från vänster till höger</translation>
+    </message>
+</context>
+<context>
     <name>ClipStrip</name>
     <message>
         <source>Opening</source>
@@ -91,6 +210,84 @@
     </message>
 </context>
 <context>
+    <name>Gallery</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Linjal</translation>
+    </message>
+    <message>
+        <source>Drag the play head; the wheel scrolls, with Ctrl it zooms; a double click fits all.</source>
+        <translation>Dra spelhuvudet; hjulet rullar, med Ctrl zoomar det; ett dubbelklick visar allt.</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Skjutreglage</translation>
+    </message>
+    <message>
+        <source>Drag, use the wheel, or the arrow keys.</source>
+        <translation>Dra, använd hjulet eller piltangenterna.</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>Knappar och etiketter</translation>
+    </message>
+    <message>
+        <source>The last line tells what they signal.</source>
+        <translation>Sista raden visar vad de signalerar.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importera</translation>
+    </message>
+    <message>
+        <source>Copies media from cameras, phones and cards.</source>
+        <translation>Kopierar medier från kameror, telefoner och kort.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Språk</translation>
+    </message>
+    <message>
+        <source>A choice reaches every window at once.</source>
+        <translation>Ett val når genast alla fönster.</translation>
+    </message>
+    <message>
+        <source>Shows the library&apos;s widgets.</source>
+        <translation>Visar bibliotekets kontroller.</translation>
+    </message>
+    <message>
+        <source>Begin with the page &lt;name&gt;.</source>
+        <translation>Börja med sidan &lt;name&gt;.</translation>
+    </message>
+    <message>
+        <source>List the names of the pages.</source>
+        <translation>Lista sidornas namn.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the page to &lt;file&gt;.</source>
+        <translation>Skriv en bild av sidan till &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>kan inte skriva %1</translation>
+    </message>
+    <message>
+        <source>no page %1</source>
+        <translation>ingen sida %1</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>CommonLib widgets</source>
+        <translation>CommonLib-kontroller</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Sidor</translation>
+    </message>
+</context>
+<context>
     <name>HostLanguage</name>
     <message>
         <source>Language of the texts from now on, such as German.</source>
@@ -99,6 +296,132 @@
     <message>
         <source>NAME</source>
         <translation>NAMN</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPage</name>
+    <message>
+        <source>Refresh</source>
+        <translation>Uppdatera</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Välj…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Avbryt</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importera</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Enhet</translation>
+    </message>
+    <message>
+        <source>Folder to import into</source>
+        <translation>Mapp att importera till</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>Importens förlopp</translation>
+    </message>
+    <message>
+        <source>Import into</source>
+        <translation>Importera till</translation>
+    </message>
+    <message>
+        <source>No device found</source>
+        <translation>Ingen enhet hittades</translation>
+    </message>
+    <message>
+        <source>Connect a camera, a phone or a card reader, switch it on and unlock it.</source>
+        <translation>Anslut en kamera, en telefon eller en kortläsare, slå på den och lås upp den.</translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
+        <translation>Öppnar %1…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>%1 kan inte öppnas</translation>
+    </message>
+    <message>
+        <source>Unlock the device and allow access to its files, then choose it again.</source>
+        <translation>Lås upp enheten, tillåt åtkomst till dess filer och välj den igen.</translation>
+    </message>
+    <message>
+        <source>%1 was removed</source>
+        <translation>%1 togs bort</translation>
+    </message>
+    <message>
+        <source>Connect it again to go on.</source>
+        <translation>Anslut den igen för att fortsätta.</translation>
+    </message>
+    <message>
+        <source>Chosen files: %1 (%2)</source>
+        <translation>Valda filer: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reading the content… %1 files</source>
+        <translation>Läser innehållet… Filer: %1</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>Namnlös enhet</translation>
+    </message>
+    <message>
+        <source>%1 files on the device</source>
+        <translation>Filer på enheten: %1</translation>
+    </message>
+    <message>
+        <source>The device stopped answering; this may not be all of it.</source>
+        <translation>Enheten slutade svara; det här är kanske inte allt.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into this folder.</source>
+        <translation>Det går inte att skriva i den här mappen.</translation>
+    </message>
+    <message>
+        <source>Importing… %1 of %2</source>
+        <translation>Importerar… %1 av %2</translation>
+    </message>
+    <message>
+        <source>Imported files: %1 of %2.</source>
+        <translation>Importerade filer: %1 av %2.</translation>
+    </message>
+    <message>
+        <source>The device was removed during the import.</source>
+        <translation>Enheten togs bort under importen.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Avbrutet.</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>Inte importerat: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportTree</name>
+    <message>
+        <source>Name</source>
+        <translation>Namn</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Storlek</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>Ändrad</translation>
+    </message>
+    <message>
+        <source>Content of the device</source>
+        <translation>Enhetens innehåll</translation>
     </message>
 </context>
 <context>
@@ -309,6 +632,57 @@
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>&quot;LTR&quot; where text runs from left to right, &quot;RTL&quot; where it runs from right to left.</extracomment>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>SliderPage</name>
+    <message>
+        <source>Seek bar</source>
+        <translation>Sökreglage</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Other chunk and groove</source>
+        <translation>Annan fyllning och skåra</translation>
+    </message>
+    <message>
+        <source>From right to left</source>
+        <translation>Från höger till vänster</translation>
+    </message>
+    <message>
+        <source>Empty range</source>
+        <translation>Tomt intervall</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Inaktiverad</translation>
+    </message>
+    <message>
+        <source>Zoom bar</source>
+        <translation>Zoomreglage</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Mirrored layout</source>
+        <translation>Spegelvänd layout</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>Stapel</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>Andra färger</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Lodrät</translation>
     </message>
 </context>
 </TS>
