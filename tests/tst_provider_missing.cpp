@@ -2,6 +2,7 @@
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "CommonLib/WpdApiLib/WpdApiLib.h"
 #include "tests/support/LogCapture.h"
 
 #include <QtTest>
@@ -37,6 +38,12 @@ private Q_SLOTS:
             "-INFO- [PlayerMaterProviderPrivate::OpenCLGpuInit]:  m_pNLEOpenCLGpuFactory Create "
             "failed. - [CommonLib/NLEWraper/PlayerMaterProviderPrivate(67)]"};
         QCOMPARE(log.Take(), expected);
+    }
+
+    void noDevicesWithoutTheirService()
+    {
+        QCOMPARE(WpdApiLib::EnumerateAllDevices(nullptr, nullptr), 0ul);
+        QCOMPARE(WpdApiLib::ChooseDevice(L"phone", nullptr), 0);
     }
 
     void unusableModule()
