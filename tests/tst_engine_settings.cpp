@@ -625,12 +625,25 @@ private slots:
         QVERIFY(context.SetIntValue(Key::kContext_BackgroundColor, int(0xFF00FF00u)));
         QCOMPARE(Frame(project, 0).pixelColor(200, 20), QColor(Qt::green));
         const QImage full = Frame(project, 12);
-        QVERIFY(context.SetDoubleValue(Key::kContext_PreviewScale, 0.1));
+        const auto distance = [&full](const QImage& image) {
+            int sum = 0;
+            for (int i = 0; i < 320 * 180; ++i)
+                sum +=
+                    qAbs(qRed(image.pixel(i % 320, i / 320)) - qRed(full.pixel(i % 320, i / 320)));
+            return sum;
+        };
+        QVERIFY(context.SetDoubleValue(Key::kContext_PreviewScale, 0.05));
         QVERIFY(context.SetBoolValue(Key::kContext_SmoothScaling, false));
         const QImage coarse = Frame(project, 12);
         QVERIFY(coarse != full && coarse == Frame(ClipAt(project, 0), 2));
         for (int x = 0; x < 320; ++x)
-            QCOMPARE(coarse.pixel(x, 57), coarse.pixel(x / 10 * 10, 50));
+            QCOMPARE(coarse.pixel(x, 57), coarse.pixel(x / 20 * 20, 40));
+        // A file is written at its full size.
+        const auto encoder = provider->CreateMediaEncoder();
+        const QString file = Path("full.mkv");
+        QCOMPARE(encoder->Open(project.get(), file.toStdWString().c_str(), nullptr), S_OK);
+        QCOMPARE(encoder->Encode(nullptr, nullptr), S_OK);
+        QVERIFY(distance(Frame(EngineFixture::Media(file), 12)) * 3 < distance(coarse));
         // Nothing is taken of a bag with one bad value.
         double value = 0;
         for (const double bad : {0.0, 1.5, qQNaN()})
@@ -638,7 +651,7 @@ private slots:
         QVERIFY(!context.SetDoubleValue(Key::kContext_BackgroundColor, 1) &&
                 !context.SetDoubleValue(L"other", qQNaN()));
         QVERIFY(!context.GetDoubleValue(L"other", value));
-        QVERIFY(context.GetDoubleValue(Key::kContext_PreviewScale, value) && value == 0.1);
+        QVERIFY(context.GetDoubleValue(Key::kContext_PreviewScale, value) && value == 0.05);
     }
 
     void thumbnailsLeaveTheClipAlone()
