@@ -29,9 +29,7 @@ void AddSettings(ContentHash& hash, const Layer& layer)
         layer.transform.IsIdentity() ? TransformSettings() : layer.transform;
     hash.Add(transform.center.x).Add(transform.center.y).Add(transform.rotation);
     hash.Add(transform.scale.width).Add(transform.scale.height);
-    hash.Add(layer.keyFrames != nullptr);
-    if (layer.keyFrames)
-        layer.keyFrames->ForEachNumber([&hash](double number) { hash.Add(number); });
+    layer.ForEachKeyFrameNumber([&hash](double number) { hash.Add(number); });
     if (layer.kind == LayerKind::Text) {
         const bool canDraw = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
         hash.Add(layer.text).Add(layer.family).Add(canDraw);
