@@ -47,7 +47,10 @@ public:
     }
     HRESULT Start(const NLESize& size = kCacheSize)
     {
-        m_reports.clear();
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            m_reports.clear();
+        }
         return engine->Start(&size, Note, this);
     }
     /// The state with which a run ends; -1 when it does not.
@@ -99,8 +102,6 @@ public:
         return Stat().second;
     }
 
-    NLEComPtr<INLEBackgroundCache> engine;
-
 private:
     static int Note(int percent, long state, long cached, long total, void* self)
     {
@@ -112,6 +113,9 @@ private:
 
     std::mutex m_mutex;
     std::vector<Report> m_reports;
+
+public:
+    NLEComPtr<INLEBackgroundCache> engine; ///< ends before what it reports to
 };
 
 long CountOf(const Frames& frames)

@@ -191,7 +191,7 @@ BackgroundCache::Plan BackgroundCache::Analyse(const Snapshot& root)
 {
     if (!root)
         return nullptr;
-    const Plan plan = std::make_shared<ChunkPlan>(root, FormatFor(*root));
+    Plan plan = std::make_shared<ChunkPlan>(root, FormatFor(*root));
     if (const std::shared_ptr<ChunkStore> store = Store())
         store->EnsureListed();
     const std::lock_guard<std::mutex> lock(m_mutex);

@@ -125,7 +125,7 @@ QByteArray CacheRenderer::EncodeFrame(int frame, Worker& worker) const
         return {};
     // A single clip needs no painting: what was decoded is scaled and encoded in its own colours.
     if (const AVFrame* plain = worker.composer.PlainPicture(frame, m_plan->Format().size)) {
-        const QByteArray encoded = worker.encoder->Encode(*plain);
+        QByteArray encoded = worker.encoder->Encode(*plain);
         if (!encoded.isEmpty())
             return encoded;
     }
