@@ -220,6 +220,7 @@ private slots:
     {
         TestClip clip;
         clip.frames = 60;
+        clip.extra = QStringList{"-colorspace", "bt709"}; // not what this size has by default
         QCOMPARE(MakeTestClip(m_media, clip), QString());
     }
     void init() { m_folder = Path(QTest::currentTestFunction()) + QTest::currentDataTag(); }
@@ -407,22 +408,29 @@ private slots:
 
     void leastRecentlyUsedGoFirst()
     {
-        // Each needs more than half of what both may fill.
-        const Node first = LongProject(8);
-        const Node second = LongProject(16);
+        // Room for what the second needs, and for less than the first has.
+        const Node first = LongProject(40);
+        const Node second = Project();
+        Add(second, Colour(Qt::red));
+        Cache cache(first, m_folder);
+        QCOMPARE(cache.Render(), 5L);
         qint64 size = 0;
-        Cache(second, m_folder).Render();
         for (const QFileInfo& file : QDir(m_folder).entryInfoList({"*.nlechunk"}))
             size += file.size();
-        QVERIFY(size > 1 << 20);
-        Cache cache(second, m_folder, (size >> 20) + 1);
-        cache.engine->DeleteCache(true);
-        Cache smaller(first, m_folder);
-        smaller.engine.query<INLEBackgroundCacheQualitySet>()->SetQuality({9, 10});
-        QCOMPARE(smaller.Render(), 5L);
-        QCOMPARE(cache.Render(), 5L);
-        QCOMPARE(cache.Needed(), Frames());
-        QVERIFY(CountOf(smaller.Needed()) > 0);
+        QVERIFY(size > 2 << 20);
+        QTest::qWait(5); // the next use is later than those before
+        QVERIFY(!Shown(first, 0, NLEOpen_Cached).isNull());
+        QVERIFY(!Shown(first, 1000, NLEOpen_Cached).isNull());
+        Cache other(second, m_folder, size >> 20);
+        QCOMPARE(other.Render(), 5L);
+        const Frames cached = (cache.Needed(), cache.Stat().first);
+        QVERIFY(CountOf(cached) > 0 && CountOf(cached) < 2400);
+        const auto has = [&](int frame) {
+            return std::any_of(cached.begin(), cached.end(), [frame](const auto& part) {
+                return part.first <= frame && frame < part.second;
+            });
+        };
+        QVERIFY(has(0) && has(1000));
     }
 
     void deletesItsOwnFilesOnly()

@@ -25,6 +25,20 @@ int ThreadCount()
     return std::clamp(QThread::idealThreadCount(), 1, kMostThreads);
 }
 
+/// The state that a lack of room ends a run with.
+std::optional<CacheState> StateOf(ChunkStore::Room room)
+{
+    switch (room) {
+    case ChunkStore::Room::LowDisk:
+        return CacheState::LowDisk;
+    case ChunkStore::Room::QuotaReached:
+        return CacheState::QuotaReached;
+    case ChunkStore::Room::Enough:
+        break;
+    }
+    return {};
+}
+
 } // namespace
 
 /// What one thread keeps from chunk to chunk.
@@ -135,14 +149,8 @@ QByteArray CacheRenderer::EncodeFrame(int frame, Worker& worker) const
 
 std::optional<CacheState> CacheRenderer::RenderChunk(const Chunk& chunk, Worker& worker)
 {
-    switch (m_store->MakeRoom(m_limits, worker.lastSize, m_keep)) {
-    case ChunkStore::Room::LowDisk:
-        return CacheState::LowDisk;
-    case ChunkStore::Room::QuotaReached:
-        return CacheState::QuotaReached;
-    case ChunkStore::Room::Enough:
-        break;
-    }
+    if (const auto full = StateOf(m_store->MakeRoom(m_limits, worker.lastSize, m_keep)))
+        return full;
     const PictureCoding coding = m_plan->Coding();
     ChunkWriter file(m_store->PathOf(chunk.key), chunk.key, coding.format, chunk.Length());
     if (!file.Open())
@@ -166,12 +174,12 @@ std::optional<CacheState> CacheRenderer::RenderChunk(const Chunk& chunk, Worker&
     if (m_plan->CurrentKey(chunk) != chunk.key)
         return {};
     worker.lastSize = file.Size();
-    if (m_store->MakeRoom(m_limits, file.Size(), m_keep) == ChunkStore::Room::QuotaReached)
-        return CacheState::QuotaReached;
-    if (m_isEnding)
-        return {};
-    if (!file.Commit())
-        return failure();
+    if (const auto full = StateOf(m_store->Reserve(m_limits, file.Size(), m_keep)))
+        return full;
+    if (m_isEnding || !file.Commit()) {
+        m_store->GiveBack(file.Size());
+        return m_isEnding ? std::nullopt : std::optional<CacheState>(failure());
+    }
     m_store->Add(chunk.key, file.Size());
     return {};
 }

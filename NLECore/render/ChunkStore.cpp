@@ -152,7 +152,22 @@ ChunkStore::Room ChunkStore::MakeRoom(const CacheLimits& limits, std::int64_t wa
                                       const KeySet& keep)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    const std::int64_t surplus = m_used + wanted - limits.quota;
+    return FindRoom(limits, wanted, keep);
+}
+
+ChunkStore::Room ChunkStore::Reserve(const CacheLimits& limits, std::int64_t wanted,
+                                     const KeySet& keep)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const Room room = FindRoom(limits, wanted, keep);
+    m_reserved += room == Room::Enough ? wanted : 0;
+    return room;
+}
+
+ChunkStore::Room ChunkStore::FindRoom(const CacheLimits& limits, std::int64_t wanted,
+                                      const KeySet& keep)
+{
+    const std::int64_t surplus = m_used + m_reserved + wanted - limits.quota;
     if (surplus > 0 && !Evict(surplus, keep))
         return Room::QuotaReached;
     const std::int64_t free = QStorageInfo(m_folder).bytesAvailable();
@@ -184,9 +199,16 @@ bool ChunkStore::Evict(std::int64_t bytes, const KeySet& keep)
 void ChunkStore::Add(const ContentKey& key, std::int64_t size)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
+    m_reserved -= size;
     Entry& entry = m_entries[key];
     m_used += size - entry.size;
     entry = {size, Now()};
+}
+
+void ChunkStore::GiveBack(std::int64_t size)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_reserved -= size;
 }
 
 std::unique_ptr<ChunkReader> ChunkStore::Read(const ContentKey& key)

@@ -47,8 +47,12 @@ public:
     /// Removes the chunks used least lately, those of \a keep apart, until \a wanted more bytes go
     /// into \a limits.
     Room MakeRoom(const CacheLimits& limits, std::int64_t wanted, const KeySet& keep);
-    /// The chunk was written.
+    /// The same, and keeps the room until Add or GiveBack: several threads fill one quota.
+    Room Reserve(const CacheLimits& limits, std::int64_t wanted, const KeySet& keep);
+    /// The chunk, for which room was reserved, was written.
     void Add(const ContentKey& key, std::int64_t size);
+    /// It was not.
+    void GiveBack(std::int64_t size);
 
     /// Opens a chunk for reading; null when it is not here. A damaged one is removed.
     std::unique_ptr<ChunkReader> Read(const ContentKey& key);
@@ -70,6 +74,7 @@ private:
 
     explicit ChunkStore(const QString& folder) : m_folder(folder) {}
     // The functions below need the lock.
+    Room FindRoom(const CacheLimits& limits, std::int64_t wanted, const KeySet& keep);
     void List();
     void Claim();
     bool Evict(std::int64_t bytes, const KeySet& keep);
@@ -79,6 +84,7 @@ private:
     mutable std::mutex m_mutex;
     std::unordered_map<ContentKey, Entry, ContentKeyHash> m_entries;
     std::int64_t m_used = 0;
+    std::int64_t m_reserved = 0;
     bool m_isListed = false;
     bool m_isFolderOurs = false;
     std::unique_ptr<QLockFile> m_claim;
