@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/HostLanguage.h"
 
+#include "CommonLib/GlobalUtils.h"
 #include "CommonLib/MultiLangMgr.h"
 
 #include <QCommandLineParser>
@@ -15,11 +16,18 @@ HostLanguage::HostLanguage()
     MultiLangMgr* languages = MultiLangMgr::GetInstance();
     languages->SetLangLocale();
     languages->SetLangLocale(parser.value(Option()));
+    Select(languages->GetLangLocale());
 }
 
 HostLanguage::~HostLanguage()
 {
     MultiLangMgr::Release();
+}
+
+void HostLanguage::Select(Language_Locale locale)
+{
+    gSetArgLang(locale == Language_Arabic);
+    MultiLangMgr::GetInstance()->SetLangLocale(locale);
 }
 
 QCommandLineOption HostLanguage::Option()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "CommonLib/LangConstInfo.h"
+
 #include <QCommandLineOption>
 
 /// The language of a program of the host, from its construction, right after the application
@@ -14,6 +16,9 @@ public:
     ~HostLanguage();
     HostLanguage(const HostLanguage&) = delete;
     HostLanguage& operator=(const HostLanguage&) = delete;
+
+    /// Selects a language, and tells the library which way it is read.
+    static void Select(Language_Locale locale);
 
     /// For the program's own parser, which then knows the option and describes it.
     static QCommandLineOption Option();

@@ -6,6 +6,7 @@
 #include "CommonLib/ImageTextButton.h"
 #include "CommonLib/ImageTextButton2.h"
 #include "CommonLib/MagicLabel.h"
+#include "Host/Gallery/KeepTranslated.h"
 #include "Host/Gallery/Symbols.h"
 
 #include <QCoreApplication>
@@ -44,16 +45,18 @@ ButtonPage::ButtonPage(QWidget* parent) : QWidget(parent), m_told(new QLabel(thi
     grid->setColumnMinimumWidth(0, kCaptionWidth);
     grid->setColumnStretch(1, 1);
     grid->setVerticalSpacing(kRowGap);
-    const auto add = [&](const QString& caption, QWidget* row) {
-        grid->addWidget(new QLabel(caption, this), grid->rowCount(), 0);
+    const auto add = [&](const char* caption, QWidget* row) {
+        auto* name = new QLabel(this);
+        KeepTranslated(name, [name, caption] { name->setText(tr(caption)); });
+        grid->addWidget(name, grid->rowCount(), 0);
         grid->addWidget(row, grid->rowCount() - 1, 1);
     };
-    add(tr("Buttons"), MakeButtons());
-    add(tr("Several states"), MakeStates());
-    add(tr("Image and text"), MakeImagesAndTexts());
-    add(tr("Tabs"), MakeTabs());
-    add(tr("Labels"), MakeLabels());
-    add(tr("Last signal"), m_told);
+    add(QT_TR_NOOP("Buttons"), MakeButtons());
+    add(QT_TR_NOOP("Several states"), MakeStates());
+    add(QT_TR_NOOP("Image and text"), MakeImagesAndTexts());
+    add(QT_TR_NOOP("Tabs"), MakeTabs());
+    add(QT_TR_NOOP("Labels"), MakeLabels());
+    add(QT_TR_NOOP("Last signal"), m_told);
     grid->setRowStretch(grid->rowCount(), 1);
     Tell(tr("none yet"));
 }
@@ -67,9 +70,10 @@ QWidget* ButtonPage::MakeButtons()
 {
     auto* box = new QWidget(this);
     QHBoxLayout* layout = MakeRow(box);
-    const auto add = [&](int id, const QString& text) {
+    const auto add = [&](int id, const char* text) {
         auto* button = new BaseButton(id, QStringLiteral("Gallery_Button%1").arg(id), box);
-        button->setText(text);
+        if (text)
+            KeepTranslated(button, [button, text] { button->setText(tr(text)); });
         connect(button, &BaseButton::Pressed, this,
                 [this](int k) { Tell(tr("Pressed %1").arg(k)); });
         connect(button, &BaseButton::Clicked, this, [this](int k, QPoint p) {
@@ -81,16 +85,16 @@ QWidget* ButtonPage::MakeButtons()
         layout->addWidget(button);
         return button;
     };
-    add(1, tr("Normal"));
-    add(2, tr("With icon"))->setIcon(SymbolIcon(Symbol::Import, kLine));
-    BaseButton* icon = add(3, {});
+    add(1, QT_TR_NOOP("Normal"));
+    add(2, QT_TR_NOOP("With icon"))->setIcon(SymbolIcon(Symbol::Import, kLine));
+    BaseButton* icon = add(3, nullptr);
     icon->setIcon(SymbolIcon(Symbol::Star, kLine));
     icon->setFixedWidth(kSquare);
-    icon->setToolTip(tr("Favourite"));
-    BaseButton* checked = add(4, tr("Checked"));
+    KeepTranslated(icon, [icon] { icon->setToolTip(tr("Favourite")); });
+    BaseButton* checked = add(4, QT_TR_NOOP("Checked"));
     checked->setCheckable(true);
     checked->setChecked(true);
-    BaseButton* disabled = add(5, tr("Disabled"));
+    BaseButton* disabled = add(5, QT_TR_NOOP("Disabled"));
     disabled->setIcon(SymbolIcon(Symbol::Import, kLine));
     disabled->SetEnabled(false);
     layout->addStretch(1);
@@ -127,10 +131,10 @@ QWidget* ButtonPage::MakeImagesAndTexts()
 {
     auto* box = new QWidget(this);
     QHBoxLayout* layout = MakeRow(box);
-    const auto add = [&](int align, const QString& text, const QSize& size) {
+    const auto add = [&](int align, const char* text, const QSize& size) {
         auto* button =
             new ImageTextButton(40 + align, QStringLiteral("Gallery_Image%1").arg(align), box);
-        button->SetText(text);
+        KeepTranslated(button, [button, text] { button->SetText(tr(text)); });
         button->SetImageAlign(align);
         button->SetImageWidth(kIcon);
         button->setFixedSize(size);
@@ -140,11 +144,11 @@ QWidget* ButtonPage::MakeImagesAndTexts()
         layout->addWidget(button);
         return button;
     };
-    add(0, tr("Image left"), kWide);
-    add(1, tr("On top"), kTall);
-    add(2, tr("Image right"), kWide);
-    add(3, tr("Below"), kTall);
-    add(0, tr("Disabled"), kWide)->setEnabled(false);
+    add(0, QT_TR_NOOP("Image left"), kWide);
+    add(1, QT_TR_NOOP("On top"), kTall);
+    add(2, QT_TR_NOOP("Image right"), kWide);
+    add(3, QT_TR_NOOP("Below"), kTall);
+    add(0, QT_TR_NOOP("Disabled"), kWide)->setEnabled(false);
     layout->addStretch(1);
     return box;
 }
@@ -156,14 +160,14 @@ QWidget* ButtonPage::MakeTabs()
     const struct
     {
         Symbol symbol;
-        QString text;
-    } tabs[] = {{Symbol::Film, tr("Media")},
-                {Symbol::Music, tr("Audio")},
-                {Symbol::Title, tr("Titles")},
-                {Symbol::Star, tr("Effects")}};
+        const char* text;
+    } tabs[] = {{Symbol::Film, QT_TR_NOOP("Media")},
+                {Symbol::Music, QT_TR_NOOP("Audio")},
+                {Symbol::Title, QT_TR_NOOP("Titles")},
+                {Symbol::Star, QT_TR_NOOP("Effects")}};
     for (const auto& row : tabs) {
         auto* tab = new ImageTextButton2(50 + layout->count(), QStringLiteral("Gallery_Tab"), box);
-        tab->SetText(row.text);
+        KeepTranslated(tab, [tab, text = row.text] { tab->SetText(tr(text)); });
         tab->SetNormalImage(SymbolPixmap(row.symbol, kQuiet, kTabIcon, devicePixelRatioF()));
         tab->SetSelectedImage(SymbolPixmap(row.symbol, kAccent, kTabIcon, devicePixelRatioF()));
         tab->setFixedSize(72, 72);
@@ -188,9 +192,10 @@ QWidget* ButtonPage::MakeLabels()
     const bool before = gIsArgLang();
     for (const bool rightToLeft : {false, true}) {
         gSetArgLang(rightToLeft);
-        auto* label = new MagicLabel(rightToLeft ? tr("for a language from right to left")
-                                                 : tr("for a language from left to right"),
-                                     box);
+        const char* text = rightToLeft ? QT_TR_NOOP("for a language from right to left")
+                                       : QT_TR_NOOP("for a language from left to right");
+        auto* label = new MagicLabel(box);
+        KeepTranslated(label, [label, text] { label->setText(tr(text)); });
         layout->addWidget(label, 1);
     }
     gSetArgLang(before);

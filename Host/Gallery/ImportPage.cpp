@@ -3,6 +3,7 @@
 
 #include "Host/Gallery/ImportTarget.h"
 #include "Host/Gallery/ImportTree.h"
+#include "Host/Gallery/KeepTranslated.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -54,34 +55,44 @@ QString SizeText(const QWidget& widget, quint64 bytes)
 ImportPage::ImportPage(QWidget* parent)
     : QWidget(parent)
     , m_deviceBox(new QComboBox(this))
-    , m_refreshButton(new QPushButton(tr("Refresh"), this))
+    , m_refreshButton(new QPushButton(this))
     , m_stack(new QStackedWidget(this))
     , m_notice(new QLabel(this))
     , m_tree(new ImportTree(this))
     , m_folder(new QLineEdit(this))
-    , m_folderButton(new QPushButton(tr("Choose…"), this))
-    , m_deleteBox(new QCheckBox(tr("Delete from the device afterwards"), this))
+    , m_folderButton(new QPushButton(this))
+    , m_deleteBox(new QCheckBox(this))
     , m_status(new QLabel(this))
     , m_progress(new QProgressBar(this))
-    , m_cancelButton(new QPushButton(tr("Cancel"), this))
-    , m_importButton(new QPushButton(tr("Import"), this))
+    , m_cancelButton(new QPushButton(this))
+    , m_importButton(new QPushButton(this))
 {
     setStyleSheet(kMarks);
-    m_deviceBox->setAccessibleName(tr("Device"));
     m_notice->setAlignment(Qt::AlignCenter);
     m_notice->setWordWrap(true);
     m_notice->setTextFormat(Qt::RichText);
-    m_folder->setAccessibleName(tr("Folder to import into"));
     m_folder->setText(
         QDir::toNativeSeparators(QStandardPaths::writableLocation(QStandardPaths::MoviesLocation)));
     m_progress->setRange(0, kProgressSteps);
     m_progress->setFixedWidth(kProgressWidth);
-    m_progress->setAccessibleName(tr("Progress of the import"));
     m_importButton->setDefault(true);
     m_listTimer.setInterval(kListEvery);
     BuildLayout();
     Connect();
-    SetState(State::NoDevice);
+    KeepTranslated(this, [this] { SetTexts(); });
+}
+
+void ImportPage::SetTexts()
+{
+    m_refreshButton->setText(tr("Refresh"));
+    m_folderButton->setText(tr("Choose…"));
+    m_deleteBox->setText(tr("Delete from the device afterwards"));
+    m_cancelButton->setText(tr("Cancel"));
+    m_importButton->setText(tr("Import"));
+    m_deviceBox->setAccessibleName(tr("Device"));
+    m_folder->setAccessibleName(tr("Folder to import into"));
+    m_progress->setAccessibleName(tr("Progress of the import"));
+    SetState(m_state);
 }
 
 void ImportPage::BuildLayout()
@@ -92,7 +103,9 @@ void ImportPage::BuildLayout()
     m_stack->addWidget(m_notice);
     m_stack->addWidget(m_tree);
     auto* folder = new QHBoxLayout;
-    folder->addWidget(new QLabel(tr("Import into"), this));
+    auto* into = new QLabel(this);
+    KeepTranslated(into, [into] { into->setText(tr("Import into")); });
+    folder->addWidget(into);
     folder->addWidget(m_folder, 1);
     folder->addWidget(m_folderButton);
     auto* actions = new QHBoxLayout;

@@ -40,6 +40,7 @@ private:
     };
 
     void BuildLayout();
+    void SetTexts();
     void Connect();
     void SetState(State state);
     void ShowNotice(const QString& title, const QString& text);

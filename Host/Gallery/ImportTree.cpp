@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Gallery/ImportTree.h"
 
+#include "Host/Gallery/KeepTranslated.h"
+
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QImageReader>
@@ -63,8 +65,10 @@ ImportTree::ImportTree(QWidget* parent)
     , m_folderIcon(style()->standardIcon(QStyle::SP_DirIcon))
     , m_storageIcon(style()->standardIcon(QStyle::SP_DriveHDIcon))
 {
-    setHeaderLabels({tr("Name"), tr("Size"), tr("Modified")});
-    setAccessibleName(tr("Content of the device"));
+    KeepTranslated(this, [this] {
+        setHeaderLabels({tr("Name"), tr("Size"), tr("Modified")});
+        setAccessibleName(tr("Content of the device"));
+    });
     setIconSize(kIcon);
     setUniformRowHeights(true);
     setAlternatingRowColors(false);

@@ -3,6 +3,7 @@
 
 #include "CommonLib/MultiLangMgr.h"
 #include "Host/Gallery/KeepTranslated.h"
+#include "Host/HostLanguage.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -71,9 +72,8 @@ LanguagePage::LanguagePage(QWidget* parent)
     layout->addStretch(1);
 
     auto* manager = MultiLangMgr::GetInstance();
-    connect(m_languages, QOverload<int>::of(&QComboBox::activated), manager, [this, manager] {
-        manager->SetLangLocale(Language_Locale(m_languages->currentData().toInt()));
-    });
+    connect(m_languages, QOverload<int>::of(&QComboBox::activated), this,
+            [this] { HostLanguage::Select(Language_Locale(m_languages->currentData().toInt())); });
     connect(manager, &MultiLangMgr::sigFontFamilyChanged, this, &LanguagePage::ShowFacts);
     connect(m_count, QOverload<int>::of(&QSpinBox::valueChanged), this, &LanguagePage::ShowFacts);
     KeepTranslated(this, [this] { ShowFacts(); });

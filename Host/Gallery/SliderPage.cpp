@@ -5,6 +5,7 @@
 #include "CommonLib/PureSlider.h"
 #include "CommonLib/ScaleUnitSlider.h"
 #include "CommonLib/ToolBarSlider.h"
+#include "Host/Gallery/KeepTranslated.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -19,9 +20,12 @@ constexpr int kSectionGap = 14;
 constexpr int kUprightWidth = 44;
 constexpr float kFps = 25;
 
-QLabel* Heading(const QString& text, QWidget* parent)
+// Captions stand in the page's translation context.
+
+QLabel* Heading(const char* text, QWidget* parent)
 {
-    auto* label = new QLabel(text, parent);
+    auto* label = new QLabel(parent);
+    KeepTranslated(label, [label, text] { label->setText(SliderPage::tr(text)); });
     QFont font = label->font();
     font.setBold(true);
     label->setFont(font);
@@ -29,20 +33,25 @@ QLabel* Heading(const QString& text, QWidget* parent)
 }
 
 // A row of caption, slider and value; gives the label of the value.
-QLabel* AddRow(QGridLayout& grid, const QString& caption, QWidget* slider)
+QLabel* AddRow(QGridLayout& grid, const char* caption, QWidget* slider)
 {
     const int row = grid.rowCount();
     auto* value = new QLabel(slider->parentWidget());
     value->setMinimumWidth(kValueWidth);
     value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    grid.addWidget(new QLabel(caption, slider->parentWidget()), row, 0);
+    auto* name = new QLabel(slider->parentWidget());
+    KeepTranslated(name, [name, caption, slider] {
+        name->setText(SliderPage::tr(caption));
+        slider->setAccessibleName(name->text());
+    });
+    grid.addWidget(name, row, 0);
     grid.addWidget(slider, row, 1, Qt::AlignVCenter);
     grid.addWidget(value, row, 2);
     grid.setRowMinimumHeight(row, kRowHeight);
     return value;
 }
 
-void AddHeading(QGridLayout& grid, QWidget* parent, const QString& text)
+void AddHeading(QGridLayout& grid, QWidget* parent, const char* text)
 {
     const int row = grid.rowCount();
     grid.setRowMinimumHeight(row, row > 1 ? kSectionGap : 0);
@@ -71,12 +80,11 @@ SliderPage::SliderPage(QWidget* parent) : QWidget(parent)
 
 void SliderPage::AddSeekBars(QGridLayout& grid)
 {
-    AddHeading(grid, this, tr("Seek bar"));
-    const auto add = [&](const QString& caption, float value) {
+    AddHeading(grid, this, QT_TR_NOOP("Seek bar"));
+    const auto add = [&](const char* caption, float value) {
         auto* slider = new ToolBarSlider(this, Qt::Horizontal);
         slider->setRange(0, 1500);
         slider->setValue(value, false);
-        slider->setAccessibleName(caption);
         QLabel* label = AddRow(grid, caption, slider);
         const auto show = [label, slider] {
             label->setText(gFrame2String(static_cast<int>(slider->value()), kFps));
@@ -85,56 +93,54 @@ void SliderPage::AddSeekBars(QGridLayout& grid)
         show();
         return slider;
     };
-    add(tr("Normal"), 500);
-    ToolBarSlider* thick = add(tr("Other chunk and groove"), 900);
+    add(QT_TR_NOOP("Normal"), 500);
+    ToolBarSlider* thick = add(QT_TR_NOOP("Other chunk and groove"), 900);
     thick->SetChunkSize(8, 18);
     thick->SetGrooveHeight(6);
     thick->SetGroomHighlight("background-color: #e0a43a; border-radius: 1px;");
-    add(tr("From right to left"), 500)->SetLeftToRight(false);
-    add(tr("Empty range"), 0)->setRange(0, 0);
-    add(tr("Disabled"), 700)->setEnabled(false);
+    add(QT_TR_NOOP("From right to left"), 500)->SetLeftToRight(false);
+    add(QT_TR_NOOP("Empty range"), 0)->setRange(0, 0);
+    add(QT_TR_NOOP("Disabled"), 700)->setEnabled(false);
 }
 
 void SliderPage::AddZoomBars(QGridLayout& grid)
 {
-    AddHeading(grid, this, tr("Zoom bar"));
-    const auto add = [&](const QString& caption, float value) {
+    AddHeading(grid, this, QT_TR_NOOP("Zoom bar"));
+    const auto add = [&](const char* caption, float value) {
         auto* slider = new ScaleUnitSlider(this);
         slider->setRange(10, 400);
         slider->setValue(value);
-        slider->setAccessibleName(caption);
         QLabel* label = AddRow(grid, caption, slider);
         const auto show = [label, slider] {
             label->setText(tr("%1 %").arg(qRound(slider->value())));
         };
         connect(slider, &ScaleUnitSlider::valueChanged, label, show);
-        show();
+        KeepTranslated(label, show);
         return slider;
     };
-    add(tr("Normal"), 100);
-    add(tr("Mirrored layout"), 100)->setLayoutDirection(Qt::RightToLeft);
-    add(tr("Disabled"), 200)->setEnabled(false);
+    add(QT_TR_NOOP("Normal"), 100);
+    add(QT_TR_NOOP("Mirrored layout"), 100)->setLayoutDirection(Qt::RightToLeft);
+    add(QT_TR_NOOP("Disabled"), 200)->setEnabled(false);
 }
 
 void SliderPage::AddBars(QGridLayout& grid)
 {
-    AddHeading(grid, this, tr("Bar"));
-    const auto add = [&](const QString& caption, int value) {
+    AddHeading(grid, this, QT_TR_NOOP("Bar"));
+    const auto add = [&](const char* caption, int value) {
         auto* slider = new PureSlider(this);
         slider->setFixedHeight(kBarHeight);
         slider->SetValue(value);
-        slider->setAccessibleName(caption);
         QLabel* label = AddRow(grid, caption, slider);
         const auto show = [label, slider] { label->setText(QString::number(slider->GetValue())); };
         connect(slider, &PureSlider::sigValueChanged, label, show);
         show();
         return slider;
     };
-    add(tr("Normal"), 40);
-    PureSlider* level = add(tr("Other colours"), 75);
+    add(QT_TR_NOOP("Normal"), 40);
+    PureSlider* level = add(QT_TR_NOOP("Other colours"), 75);
     level->SetSubpageColor(QColor(0x4f, 0xb0, 0x6d));
     level->SetBorderColor(QColor(0x2f, 0x6b, 0x45));
-    add(tr("Disabled"), 60)->setEnabled(false);
+    add(QT_TR_NOOP("Disabled"), 60)->setEnabled(false);
 }
 
 QWidget* SliderPage::MakeUprightBars()
@@ -142,7 +148,7 @@ QWidget* SliderPage::MakeUprightBars()
     auto* box = new QWidget(this);
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->addWidget(Heading(tr("Upright"), box), 0, 0, 1, 3);
+    grid->addWidget(Heading(QT_TR_NOOP("Upright"), box), 0, 0, 1, 3);
     const float values[] = {25, 60, 60};
     for (int i = 0; i < 3; ++i) {
         auto* slider = new ToolBarSlider(box, Qt::Vertical);

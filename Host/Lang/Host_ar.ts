@@ -210,6 +210,37 @@
     </message>
 </context>
 <context>
+    <name>DragPage</name>
+    <message>
+        <source>Opacity</source>
+        <translation>العتامة</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>الدوران</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>المقياس</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>معطّل</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>آخر إشارة</translation>
+    </message>
+    <message>
+        <source>drag begins at %1</source>
+        <translation>يبدأ السحب عند %1</translation>
+    </message>
+    <message>
+        <source>drag ends at %1</source>
+        <translation>ينتهي السحب عند %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Ruler</source>
@@ -274,6 +305,14 @@
     <message>
         <source>no page %1</source>
         <translation>لا توجد صفحة %1</translation>
+    </message>
+    <message>
+        <source>Drag values</source>
+        <translation>سحب القيم</translation>
+    </message>
+    <message>
+        <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
+        <translation>اسحب رقمًا، ومع Shift أسرع، ومع Ctrl أبطأ؛ والنقرة تتيح تحريره.</translation>
     </message>
 </context>
 <context>

@@ -210,6 +210,37 @@
     </message>
 </context>
 <context>
+    <name>DragPage</name>
+    <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>旋轉</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>縮放比例</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>已停用</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>最後的訊號</translation>
+    </message>
+    <message>
+        <source>drag begins at %1</source>
+        <translation>拖曳始於 %1</translation>
+    </message>
+    <message>
+        <source>drag ends at %1</source>
+        <translation>拖曳止於 %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Ruler</source>
@@ -274,6 +305,14 @@
     <message>
         <source>no page %1</source>
         <translation>沒有頁面 %1</translation>
+    </message>
+    <message>
+        <source>Drag values</source>
+        <translation>拖曳數值</translation>
+    </message>
+    <message>
+        <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
+        <translation>拖曳數字，按住 Shift 較快，按住 Ctrl 較慢；點擊可編輯。</translation>
     </message>
 </context>
 <context>

@@ -210,6 +210,37 @@
     </message>
 </context>
 <context>
+    <name>DragPage</name>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Deaktiviert</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Letztes Signal</translation>
+    </message>
+    <message>
+        <source>drag begins at %1</source>
+        <translation>Ziehen beginnt bei %1</translation>
+    </message>
+    <message>
+        <source>drag ends at %1</source>
+        <translation>Ziehen endet bei %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Ruler</source>
@@ -274,6 +305,14 @@
     <message>
         <source>no page %1</source>
         <translation>keine Seite %1</translation>
+    </message>
+    <message>
+        <source>Drag values</source>
+        <translation>Werte ziehen</translation>
+    </message>
+    <message>
+        <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
+        <translation>Ziehen Sie an einer Zahl, mit Umschalt schneller, mit Strg langsamer; ein Klick bearbeitet sie.</translation>
     </message>
 </context>
 <context>

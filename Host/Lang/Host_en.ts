@@ -210,6 +210,37 @@
     </message>
 </context>
 <context>
+    <name>DragPage</name>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacity</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Scale</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Disabled</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Last signal</translation>
+    </message>
+    <message>
+        <source>drag begins at %1</source>
+        <translation>drag begins at %1</translation>
+    </message>
+    <message>
+        <source>drag ends at %1</source>
+        <translation>drag ends at %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Ruler</source>
@@ -274,6 +305,14 @@
     <message>
         <source>no page %1</source>
         <translation>no page %1</translation>
+    </message>
+    <message>
+        <source>Drag values</source>
+        <translation>Drag values</translation>
+    </message>
+    <message>
+        <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
+        <translation>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</translation>
     </message>
 </context>
 <context>

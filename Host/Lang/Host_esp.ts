@@ -210,6 +210,37 @@
     </message>
 </context>
 <context>
+    <name>DragPage</name>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacidad</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotación</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Escala</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Última señal</translation>
+    </message>
+    <message>
+        <source>drag begins at %1</source>
+        <translation>el arrastre empieza en %1</translation>
+    </message>
+    <message>
+        <source>drag ends at %1</source>
+        <translation>el arrastre termina en %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Ruler</source>
@@ -274,6 +305,14 @@
     <message>
         <source>no page %1</source>
         <translation>no existe la página %1</translation>
+    </message>
+    <message>
+        <source>Drag values</source>
+        <translation>Arrastrar valores</translation>
+    </message>
+    <message>
+        <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
+        <translation>Arrastre un número: con Mayús, más rápido; con Ctrl, más despacio; un clic lo edita.</translation>
     </message>
 </context>
 <context>

@@ -210,6 +210,37 @@
     </message>
 </context>
 <context>
+    <name>DragPage</name>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacité</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Échelle</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Dernier signal</translation>
+    </message>
+    <message>
+        <source>drag begins at %1</source>
+        <translation>le glissement commence à %1</translation>
+    </message>
+    <message>
+        <source>drag ends at %1</source>
+        <translation>le glissement finit à %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Ruler</source>
@@ -274,6 +305,14 @@
     <message>
         <source>no page %1</source>
         <translation>aucune page %1</translation>
+    </message>
+    <message>
+        <source>Drag values</source>
+        <translation>Faire glisser des valeurs</translation>
+    </message>
+    <message>
+        <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
+        <translation>Faites glisser un nombre, plus vite avec Maj, plus lentement avec Ctrl ; un clic le modifie.</translation>
     </message>
 </context>
 <context>

@@ -210,6 +210,37 @@
     </message>
 </context>
 <context>
+    <name>DragPage</name>
+    <message>
+        <source>Opacity</source>
+        <translation>Opasitas</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotasi</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skala</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Nonaktif</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Sinyal terakhir</translation>
+    </message>
+    <message>
+        <source>drag begins at %1</source>
+        <translation>seret dimulai pada %1</translation>
+    </message>
+    <message>
+        <source>drag ends at %1</source>
+        <translation>seret berakhir pada %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Ruler</source>
@@ -274,6 +305,14 @@
     <message>
         <source>no page %1</source>
         <translation>tidak ada halaman %1</translation>
+    </message>
+    <message>
+        <source>Drag values</source>
+        <translation>Menyeret nilai</translation>
+    </message>
+    <message>
+        <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
+        <translation>Seret angka, dengan Shift lebih cepat, dengan Ctrl lebih lambat; klik untuk menyunting.</translation>
     </message>
 </context>
 <context>

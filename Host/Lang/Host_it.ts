@@ -210,6 +210,37 @@
     </message>
 </context>
 <context>
+    <name>DragPage</name>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacità</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotazione</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Scala</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Disattivato</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Ultimo segnale</translation>
+    </message>
+    <message>
+        <source>drag begins at %1</source>
+        <translation>il trascinamento inizia a %1</translation>
+    </message>
+    <message>
+        <source>drag ends at %1</source>
+        <translation>il trascinamento finisce a %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Ruler</source>
@@ -274,6 +305,14 @@
     <message>
         <source>no page %1</source>
         <translation>nessuna pagina %1</translation>
+    </message>
+    <message>
+        <source>Drag values</source>
+        <translation>Trascinare valori</translation>
+    </message>
+    <message>
+        <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
+        <translation>Trascina un numero, con Maiusc più veloce, con Ctrl più lento; un clic lo modifica.</translation>
     </message>
 </context>
 <context>

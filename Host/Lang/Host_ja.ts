@@ -210,6 +210,37 @@
     </message>
 </context>
 <context>
+    <name>DragPage</name>
+    <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>拡大率</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>無効</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>最後のシグナル</translation>
+    </message>
+    <message>
+        <source>drag begins at %1</source>
+        <translation>ドラッグ開始: %1</translation>
+    </message>
+    <message>
+        <source>drag ends at %1</source>
+        <translation>ドラッグ終了: %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Ruler</source>
@@ -274,6 +305,14 @@
     <message>
         <source>no page %1</source>
         <translation>ページ %1 はありません</translation>
+    </message>
+    <message>
+        <source>Drag values</source>
+        <translation>値のドラッグ</translation>
+    </message>
+    <message>
+        <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
+        <translation>数値をドラッグします。Shift で速く、Ctrl で遅く。クリックで編集します。</translation>
     </message>
 </context>
 <context>

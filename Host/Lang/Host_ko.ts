@@ -210,6 +210,37 @@
     </message>
 </context>
 <context>
+    <name>DragPage</name>
+    <message>
+        <source>Opacity</source>
+        <translation>불투명도</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>회전</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>배율</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>사용 안 함</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>마지막 신호</translation>
+    </message>
+    <message>
+        <source>drag begins at %1</source>
+        <translation>끌기 시작: %1</translation>
+    </message>
+    <message>
+        <source>drag ends at %1</source>
+        <translation>끌기 끝: %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Ruler</source>
@@ -274,6 +305,14 @@
     <message>
         <source>no page %1</source>
         <translation>%1 페이지가 없습니다</translation>
+    </message>
+    <message>
+        <source>Drag values</source>
+        <translation>값 끌기</translation>
+    </message>
+    <message>
+        <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
+        <translation>숫자를 끌어 보세요. Shift는 빠르게, Ctrl은 느리게, 클릭하면 편집합니다.</translation>
     </message>
 </context>
 <context>

@@ -210,6 +210,37 @@
     </message>
 </context>
 <context>
+    <name>DragPage</name>
+    <message>
+        <source>Opacity</source>
+        <translation>Dekking</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotatie</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Schaal</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Uitgeschakeld</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Laatste signaal</translation>
+    </message>
+    <message>
+        <source>drag begins at %1</source>
+        <translation>slepen begint bij %1</translation>
+    </message>
+    <message>
+        <source>drag ends at %1</source>
+        <translation>slepen eindigt bij %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Ruler</source>
@@ -274,6 +305,14 @@
     <message>
         <source>no page %1</source>
         <translation>geen pagina %1</translation>
+    </message>
+    <message>
+        <source>Drag values</source>
+        <translation>Waarden slepen</translation>
+    </message>
+    <message>
+        <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
+        <translation>Sleep aan een getal, met Shift sneller, met Ctrl langzamer; een klik bewerkt het.</translation>
     </message>
 </context>
 <context>

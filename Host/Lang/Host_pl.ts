@@ -210,6 +210,37 @@
     </message>
 </context>
 <context>
+    <name>DragPage</name>
+    <message>
+        <source>Opacity</source>
+        <translation>Krycie</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Obrót</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skala</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Wyłączony</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Ostatni sygnał</translation>
+    </message>
+    <message>
+        <source>drag begins at %1</source>
+        <translation>przeciąganie zaczyna się od %1</translation>
+    </message>
+    <message>
+        <source>drag ends at %1</source>
+        <translation>przeciąganie kończy się na %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Ruler</source>
@@ -274,6 +305,14 @@
     <message>
         <source>no page %1</source>
         <translation>brak strony %1</translation>
+    </message>
+    <message>
+        <source>Drag values</source>
+        <translation>Przeciąganie wartości</translation>
+    </message>
+    <message>
+        <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
+        <translation>Przeciągaj liczbę, z Shift szybciej, z Ctrl wolniej; kliknięcie ją edytuje.</translation>
     </message>
 </context>
 <context>

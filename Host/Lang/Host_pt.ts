@@ -210,6 +210,37 @@
     </message>
 </context>
 <context>
+    <name>DragPage</name>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacidade</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotação</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Escala</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Desativado</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Último sinal</translation>
+    </message>
+    <message>
+        <source>drag begins at %1</source>
+        <translation>o arrasto começa em %1</translation>
+    </message>
+    <message>
+        <source>drag ends at %1</source>
+        <translation>o arrasto termina em %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Ruler</source>
@@ -274,6 +305,14 @@
     <message>
         <source>no page %1</source>
         <translation>não há página %1</translation>
+    </message>
+    <message>
+        <source>Drag values</source>
+        <translation>Arrastar valores</translation>
+    </message>
+    <message>
+        <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
+        <translation>Arraste um número, com Shift mais depressa, com Ctrl mais devagar; um clique edita-o.</translation>
     </message>
 </context>
 <context>

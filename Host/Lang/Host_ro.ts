@@ -210,6 +210,37 @@
     </message>
 </context>
 <context>
+    <name>DragPage</name>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacitate</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotație</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Scară</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Dezactivat</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Ultimul semnal</translation>
+    </message>
+    <message>
+        <source>drag begins at %1</source>
+        <translation>tragerea începe la %1</translation>
+    </message>
+    <message>
+        <source>drag ends at %1</source>
+        <translation>tragerea se termină la %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Ruler</source>
@@ -274,6 +305,14 @@
     <message>
         <source>no page %1</source>
         <translation>nu există pagina %1</translation>
+    </message>
+    <message>
+        <source>Drag values</source>
+        <translation>Tragerea valorilor</translation>
+    </message>
+    <message>
+        <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
+        <translation>Trageți de un număr, cu Shift mai repede, cu Ctrl mai încet; un clic îl editează.</translation>
     </message>
 </context>
 <context>

@@ -210,6 +210,37 @@
     </message>
 </context>
 <context>
+    <name>DragPage</name>
+    <message>
+        <source>Opacity</source>
+        <translation>Непрозрачность</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Поворот</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Масштаб</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Недоступно</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Последний сигнал</translation>
+    </message>
+    <message>
+        <source>drag begins at %1</source>
+        <translation>перетаскивание начато: %1</translation>
+    </message>
+    <message>
+        <source>drag ends at %1</source>
+        <translation>перетаскивание закончено: %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Ruler</source>
@@ -274,6 +305,14 @@
     <message>
         <source>no page %1</source>
         <translation>нет страницы %1</translation>
+    </message>
+    <message>
+        <source>Drag values</source>
+        <translation>Значения перетаскиванием</translation>
+    </message>
+    <message>
+        <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
+        <translation>Тяните число: с Shift быстрее, с Ctrl медленнее; щелчок — правка.</translation>
     </message>
 </context>
 <context>

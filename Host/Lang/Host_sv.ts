@@ -210,6 +210,37 @@
     </message>
 </context>
 <context>
+    <name>DragPage</name>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacitet</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skala</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Inaktiverad</translation>
+    </message>
+    <message>
+        <source>Last signal</source>
+        <translation>Senaste signal</translation>
+    </message>
+    <message>
+        <source>drag begins at %1</source>
+        <translation>dragningen börjar vid %1</translation>
+    </message>
+    <message>
+        <source>drag ends at %1</source>
+        <translation>dragningen slutar vid %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Ruler</source>
@@ -274,6 +305,14 @@
     <message>
         <source>no page %1</source>
         <translation>ingen sida %1</translation>
+    </message>
+    <message>
+        <source>Drag values</source>
+        <translation>Dra värden</translation>
+    </message>
+    <message>
+        <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
+        <translation>Dra i ett tal, med Skift snabbare, med Ctrl långsammare; ett klick redigerar det.</translation>
     </message>
 </context>
 <context>
