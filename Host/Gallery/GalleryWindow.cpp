@@ -49,7 +49,6 @@ QWidget* FramedPage(const GalleryPage& page, QWidget* parent)
 GalleryWindow::GalleryWindow(QWidget* parent)
     : QWidget(parent), m_list(new QListWidget(this)), m_stack(new QStackedWidget(this))
 {
-    m_list->setFixedWidth(kListWidth);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (const GalleryPage& page : GalleryPages()) {
         m_list->addItem(QString());
@@ -82,4 +81,5 @@ void GalleryWindow::SetTexts()
     m_list->setAccessibleName(tr("Pages"));
     for (int row = 0; row < m_list->count(); ++row)
         m_list->item(row)->setText(Translated(GalleryPages()[row].title));
+    m_list->setFixedWidth(std::max(kListWidth, m_list->sizeHintForColumn(0) + kMargin));
 }

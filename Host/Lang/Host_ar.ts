@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>On top</source>
-        <translation>في الأعلى</translation>
+        <translation>أعلى</translation>
     </message>
     <message>
         <source>Image right</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>Below</source>
-        <translation>في الأسفل</translation>
+        <translation>أسفل</translation>
     </message>
     <message>
         <source>Media</source>

@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Image left</source>
-        <translation>Imagen a la izquierda</translation>
+        <translation>Izquierda</translation>
     </message>
     <message>
         <source>On top</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Image right</source>
-        <translation>Imagen a la derecha</translation>
+        <translation>Derecha</translation>
     </message>
     <message>
         <source>Below</source>

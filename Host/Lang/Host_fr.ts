@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Image left</source>
-        <translation>Image à gauche</translation>
+        <translation>À gauche</translation>
     </message>
     <message>
         <source>On top</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Image right</source>
-        <translation>Image à droite</translation>
+        <translation>À droite</translation>
     </message>
     <message>
         <source>Below</source>

@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Image left</source>
-        <translation>Gambar di kiri</translation>
+        <translation>Di kiri</translation>
     </message>
     <message>
         <source>On top</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Image right</source>
-        <translation>Gambar di kanan</translation>
+        <translation>Di kanan</translation>
     </message>
     <message>
         <source>Below</source>

@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Image left</source>
-        <translation>Immagine a sinistra</translation>
+        <translation>A sinistra</translation>
     </message>
     <message>
         <source>On top</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Image right</source>
-        <translation>Immagine a destra</translation>
+        <translation>A destra</translation>
     </message>
     <message>
         <source>Below</source>

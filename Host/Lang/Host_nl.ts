@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Image left</source>
-        <translation>Afbeelding links</translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>On top</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Image right</source>
-        <translation>Afbeelding rechts</translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>Below</source>

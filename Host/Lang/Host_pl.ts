@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Image left</source>
-        <translation>Obraz z lewej</translation>
+        <translation>Z lewej</translation>
     </message>
     <message>
         <source>On top</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Image right</source>
-        <translation>Obraz z prawej</translation>
+        <translation>Z prawej</translation>
     </message>
     <message>
         <source>Below</source>

@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Image left</source>
-        <translation>Imagem à esquerda</translation>
+        <translation>À esquerda</translation>
     </message>
     <message>
         <source>On top</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Image right</source>
-        <translation>Imagem à direita</translation>
+        <translation>À direita</translation>
     </message>
     <message>
         <source>Below</source>

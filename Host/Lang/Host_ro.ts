@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Image left</source>
-        <translation>Imagine la stânga</translation>
+        <translation>La stânga</translation>
     </message>
     <message>
         <source>On top</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Image right</source>
-        <translation>Imagine la dreapta</translation>
+        <translation>La dreapta</translation>
     </message>
     <message>
         <source>Below</source>

@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Image left</source>
-        <translation>Изображение слева</translation>
+        <translation>Слева</translation>
     </message>
     <message>
         <source>On top</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Image right</source>
-        <translation>Изображение справа</translation>
+        <translation>Справа</translation>
     </message>
     <message>
         <source>Below</source>

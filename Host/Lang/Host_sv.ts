@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Image left</source>
-        <translation>Bild till vänster</translation>
+        <translation>Vänster</translation>
     </message>
     <message>
         <source>On top</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Image right</source>
-        <translation>Bild till höger</translation>
+        <translation>Höger</translation>
     </message>
     <message>
         <source>Below</source>
