@@ -5,9 +5,11 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QWidget>
+#include <QXmlStreamReader>
 #include <QtTest>
 
 #ifdef Q_OS_UNIX
@@ -296,6 +298,45 @@ private Q_SLOTS:
         QCOMPARE(Shown(), QString("text 0"));
         QCOMPARE(Stored(), QString("DEU"));
         initTestCase();
+    }
+
+    /// A translation that has lost or gained a place for a value shows nonsense.
+    void hostTexts()
+    {
+        static const QRegularExpression place("%(?:\\d+|n)");
+        const auto places = [](const QString& text) {
+            QStringList found;
+            for (auto match = place.globalMatch(text); match.hasNext();)
+                found << match.next().captured();
+            found.sort();
+            return found;
+        };
+        const QDir folder(HOST_TRANSLATIONS);
+        const QStringList names = folder.entryList({"Host_*.ts"});
+        QCOMPARE(names.size(), 17);
+        for (const QString& name : names) {
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QXmlStreamReader xml(&file);
+            QString source;
+            for (bool counted = false; !xml.atEnd();) {
+                if (xml.readNext() != QXmlStreamReader::StartElement)
+                    continue;
+                const QString element = xml.name().toString();
+                if (element == "message")
+                    counted = xml.attributes().value("numerus") == QLatin1String("yes");
+                else if (element == "source")
+                    source = xml.readElementText();
+                else if (element == "numerusform" || (element == "translation" && !counted)) {
+                    const QString text = xml.readElementText();
+                    QVERIFY2(!text.isEmpty(), qPrintable(name + ": " + source));
+                    // One and two may be told in words.
+                    if (!counted || places(text).contains("%n"))
+                        QCOMPARE(places(text), places(source));
+                }
+            }
+            QVERIFY2(!xml.hasError(), qPrintable(name));
+        }
     }
 
     void fonts()
