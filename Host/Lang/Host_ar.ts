@@ -443,6 +443,14 @@
         <source>Not imported: %1</source>
         <translation>لم يُستورد: %1</translation>
     </message>
+    <message>
+        <source>Delete from the device afterwards</source>
+        <translation>الحذف من الجهاز بعد ذلك</translation>
+    </message>
+    <message>
+        <source>This folder has room for %1 only.</source>
+        <translation>لا يتسع هذا المجلد إلا لـ %1.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

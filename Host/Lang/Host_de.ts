@@ -443,6 +443,14 @@
         <source>Not imported: %1</source>
         <translation>Nicht importiert: %1</translation>
     </message>
+    <message>
+        <source>Delete from the device afterwards</source>
+        <translation>Danach vom Gerät löschen</translation>
+    </message>
+    <message>
+        <source>This folder has room for %1 only.</source>
+        <translation>In diesem Ordner ist nur Platz für %1.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

@@ -443,6 +443,14 @@
         <source>Not imported: %1</source>
         <translation>Not imported: %1</translation>
     </message>
+    <message>
+        <source>Delete from the device afterwards</source>
+        <translation>Delete from the device afterwards</translation>
+    </message>
+    <message>
+        <source>This folder has room for %1 only.</source>
+        <translation>This folder has room for %1 only.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

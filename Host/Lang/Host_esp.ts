@@ -443,6 +443,14 @@
         <source>Not imported: %1</source>
         <translation>No importado: %1</translation>
     </message>
+    <message>
+        <source>Delete from the device afterwards</source>
+        <translation>Eliminar después del dispositivo</translation>
+    </message>
+    <message>
+        <source>This folder has room for %1 only.</source>
+        <translation>En esta carpeta solo caben %1.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

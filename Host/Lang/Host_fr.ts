@@ -443,6 +443,14 @@
         <source>Not imported: %1</source>
         <translation>Non importé : %1</translation>
     </message>
+    <message>
+        <source>Delete from the device afterwards</source>
+        <translation>Supprimer ensuite de l’appareil</translation>
+    </message>
+    <message>
+        <source>This folder has room for %1 only.</source>
+        <translation>Ce dossier n’a de place que pour %1.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

@@ -443,6 +443,14 @@
         <source>Not imported: %1</source>
         <translation>Tidak diimpor: %1</translation>
     </message>
+    <message>
+        <source>Delete from the device afterwards</source>
+        <translation>Hapus dari perangkat setelahnya</translation>
+    </message>
+    <message>
+        <source>This folder has room for %1 only.</source>
+        <translation>Folder ini hanya memuat %1.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

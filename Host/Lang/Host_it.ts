@@ -443,6 +443,14 @@
         <source>Not imported: %1</source>
         <translation>Non importato: %1</translation>
     </message>
+    <message>
+        <source>Delete from the device afterwards</source>
+        <translation>Elimina poi dal dispositivo</translation>
+    </message>
+    <message>
+        <source>This folder has room for %1 only.</source>
+        <translation>In questa cartella c’è spazio solo per %1.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

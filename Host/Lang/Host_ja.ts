@@ -443,6 +443,14 @@
         <source>Not imported: %1</source>
         <translation>読み込めませんでした: %1</translation>
     </message>
+    <message>
+        <source>Delete from the device afterwards</source>
+        <translation>読み込み後にデバイスから削除</translation>
+    </message>
+    <message>
+        <source>This folder has room for %1 only.</source>
+        <translation>このフォルダーの空き容量は %1 だけです。</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

@@ -443,6 +443,14 @@
         <source>Not imported: %1</source>
         <translation>가져오지 못함: %1</translation>
     </message>
+    <message>
+        <source>Delete from the device afterwards</source>
+        <translation>가져온 후 장치에서 삭제</translation>
+    </message>
+    <message>
+        <source>This folder has room for %1 only.</source>
+        <translation>이 폴더에는 %1만 저장할 수 있습니다.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

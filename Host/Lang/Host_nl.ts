@@ -443,6 +443,14 @@
         <source>Not imported: %1</source>
         <translation>Niet geïmporteerd: %1</translation>
     </message>
+    <message>
+        <source>Delete from the device afterwards</source>
+        <translation>Daarna van het apparaat verwijderen</translation>
+    </message>
+    <message>
+        <source>This folder has room for %1 only.</source>
+        <translation>In deze map is maar plaats voor %1.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

@@ -443,6 +443,14 @@
         <source>Not imported: %1</source>
         <translation>Nie zaimportowano: %1</translation>
     </message>
+    <message>
+        <source>Delete from the device afterwards</source>
+        <translation>Potem usuń z urządzenia</translation>
+    </message>
+    <message>
+        <source>This folder has room for %1 only.</source>
+        <translation>W tym folderze jest miejsce tylko na %1.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

@@ -443,6 +443,14 @@
         <source>Not imported: %1</source>
         <translation>Não importado: %1</translation>
     </message>
+    <message>
+        <source>Delete from the device afterwards</source>
+        <translation>Eliminar depois do dispositivo</translation>
+    </message>
+    <message>
+        <source>This folder has room for %1 only.</source>
+        <translation>Esta pasta só tem espaço para %1.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

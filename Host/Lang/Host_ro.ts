@@ -443,6 +443,14 @@
         <source>Not imported: %1</source>
         <translation>Neimportat: %1</translation>
     </message>
+    <message>
+        <source>Delete from the device afterwards</source>
+        <translation>Șterge apoi de pe dispozitiv</translation>
+    </message>
+    <message>
+        <source>This folder has room for %1 only.</source>
+        <translation>În acest dosar este loc doar pentru %1.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

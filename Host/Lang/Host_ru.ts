@@ -443,6 +443,14 @@
         <source>Not imported: %1</source>
         <translation>Не импортировано: %1</translation>
     </message>
+    <message>
+        <source>Delete from the device afterwards</source>
+        <translation>Затем удалить с устройства</translation>
+    </message>
+    <message>
+        <source>This folder has room for %1 only.</source>
+        <translation>В этой папке есть место только для %1.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

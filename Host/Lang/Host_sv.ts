@@ -443,6 +443,14 @@
         <source>Not imported: %1</source>
         <translation>Inte importerat: %1</translation>
     </message>
+    <message>
+        <source>Delete from the device afterwards</source>
+        <translation>Ta bort från enheten efteråt</translation>
+    </message>
+    <message>
+        <source>This folder has room for %1 only.</source>
+        <translation>Den här mappen har bara plats för %1.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

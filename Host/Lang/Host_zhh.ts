@@ -443,6 +443,14 @@
         <source>Not imported: %1</source>
         <translation>未匯入：%1</translation>
     </message>
+    <message>
+        <source>Delete from the device afterwards</source>
+        <translation>完成後從裝置刪除</translation>
+    </message>
+    <message>
+        <source>This folder has room for %1 only.</source>
+        <translation>此資料夾僅剩 %1 的空間。</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>
