@@ -8,6 +8,7 @@
 #include "CommonLib/externalapi/PixelRatio_p.h"
 #include "CommonLib/externalapi/ScreenResolution.h"
 #include "CommonLib/externalapi/TimelinePosition.h"
+#include "tests/support/LogCapture.h"
 
 #include <QScreen>
 #include <QtTest>
@@ -18,7 +19,16 @@ class TestScreens : public QObject
 {
     Q_OBJECT
 
+    QStringList firstLines; // of the log, from where the ratio is found
+
 private slots:
+    void initTestCase()
+    {
+        LogCapture log;
+        gGetDevicePixelRatio(nullptr);
+        firstLines = log.Take();
+    }
+
     void areaClasses()
     {
         const auto classOf = ScreenResolution::GetScreenRangeTypeFrom;
@@ -190,6 +200,55 @@ private slots:
     {
         gOpenFramelessWidgetShadow(nullptr, 0);
         gOpenFramelessWidgetShadow(reinterpret_cast<HWND>(quintptr(12345)), 0);
+    }
+
+    // Eight pictures and four reaches, for a window manager that knows them and for no other.
+    void shadowOnX11()
+    {
+        if (QGuiApplication::platformName() != "xcb")
+            QSKIP("needs an X11 display, which the test screens_x11 has");
+        const auto run = [](const QString& arguments) {
+            QProcess process;
+            process.start("xprop", arguments.split(' '));
+            process.waitForFinished();
+            return QString::fromUtf8(process.readAllStandardOutput());
+        };
+        const QString name = "_KDE_NET_WM_SHADOW";
+        QWidget window;
+        const auto shadow = [&] {
+            gOpenFramelessWidgetShadow(reinterpret_cast<HWND>(window.winId()), 0);
+            const QString text = run(QString("-id %1 -notype %2").arg(window.winId()).arg(name));
+            return text.section(" = ", 1).trimmed().split(", ", Qt::SkipEmptyParts);
+        };
+        run("-root -f _NET_SUPPORTED 32a -set _NET_SUPPORTED _NET_WM_NAME");
+        run("-root -f " + name + " 32c -set " + name + " 0"); // the name alone is no support
+        QCOMPARE(shadow(), QStringList());
+        run("-root -f _NET_SUPPORTED 32a -set _NET_SUPPORTED " + name);
+        const QStringList words = shadow();
+        QCOMPARE(words.mid(8), QStringList({"24", "24", "24", "24"}));
+        QCOMPARE(QStringList(words.mid(0, 8)).removeDuplicates(), 0);
+        QVERIFY(!words.contains("0"));
+        QCOMPARE(shadow(), words); // shared
+    }
+
+    void ratioIsLogged()
+    {
+        const double scale = QGuiApplication::primaryScreen()->devicePixelRatio();
+        const QSize size = QGuiApplication::primaryScreen()->geometry().size() * scale;
+        QStringList expected;
+        const auto line = [&](int number, const char* format, auto... values) {
+            expected << QString("-INFO- [gGetDevicePixelRatio]:  %1 - [CommonLib/externalapi(%2)]")
+                            .arg(QString::asprintf(format, values...))
+                            .arg(number);
+        };
+        line(97, "[monitor physical size]:(%d, %d) [app max size]:(%f, %f) fFixedRatio %f",
+             size.width(), size.height(), 1280.0, 690.0, scale);
+        const double fixed = FixedPixelRatio(scale);
+        line(128, "getIntRatio fFixedRatio: %f", fixed);
+        const double last = FittingPixelRatio(fixed, size.width(), size.height(),
+                                              [&](double r) { line(136, "ratio down to: %f", r); });
+        line(149, "final fFixedRatio: %f", last);
+        QCOMPARE(firstLines, expected);
     }
 };
 

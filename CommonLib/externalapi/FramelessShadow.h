@@ -7,6 +7,7 @@
 /// Asks the system for a shadow around the frameless native window \a window. \a unused is part of
 /// the signature only.
 ///
-/// On X11, where \a window is the number of the window, sets the hint of the compositing managers
-/// that know one. Does nothing for null, on Wayland and on a screen without such a manager.
+/// On X11, where \a window is the number of the window, sets the hints of the compositing and
+/// window managers that know one. Does nothing for null, on Wayland and on a screen without such a
+/// manager.
 COMMONLIB_EXPORT void gOpenFramelessWidgetShadow(HWND window, int unused);

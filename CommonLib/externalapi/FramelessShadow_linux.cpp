@@ -2,11 +2,17 @@
 #include "CommonLib/externalapi/FramelessShadow.h"
 
 #include <QGuiApplication>
+#include <QImage>
 #include <QLibrary>
 
-#include <cstdint>
+#include <xcb/xcb.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <memory>
 
 namespace {
 
@@ -14,83 +20,188 @@ namespace {
 // asks for a shadow also for a window without a frame.
 constexpr const char* kShadowHint = "_COMPTON_SHADOW";
 constexpr std::uint32_t kWanted = 1;
+// A property of eight pictures around the window, clockwise from the top, and how far they reach at
+// the top, right, bottom and left. For window managers that list it.
+constexpr const char* kShadowPictures = "_KDE_NET_WM_SHADOW";
+constexpr int kPictures = 8;
+constexpr const char* kSupported = "_NET_SUPPORTED";
 
-// The X protocol's own numbers.
-constexpr std::uint32_t kCardinal = 6;
-constexpr std::uint8_t kReplace = 0;
 constexpr std::uint8_t kWordBits = 32;
+constexpr std::uint8_t kDepth = 32; // with an alpha channel
+constexpr std::uint32_t kMostAtoms = 4096;
+
+constexpr int kReach = 24;      // pixels
+constexpr double kDarkest = 96; // of 255, at the window's edge
+
+template <typename Reply>
+using ReplyPtr = std::unique_ptr<Reply, decltype(&std::free)>;
 
 // The part of libxcb that is needed. The toolkit's X11 plug-in has loaded it already, while a
 // session without X11 must not need it.
-struct Connection;
-struct Cookie
-{
-    unsigned int sequence;
-};
-struct AtomReply
-{
-    std::uint8_t responseType;
-    std::uint8_t pad;
-    std::uint16_t sequence;
-    std::uint32_t length;
-    std::uint32_t atom;
-};
-struct Error;
-using Connect = Connection* (*)(const char* display, int* screen);
-using HasError = int (*)(Connection*);
-using InternAtom = Cookie (*)(Connection*, std::uint8_t onlyIfExists, std::uint16_t length,
-                              const char* name);
-using InternAtomReply = AtomReply* (*)(Connection*, Cookie, Error**);
-using ChangeProperty = Cookie (*)(Connection*, std::uint8_t mode, std::uint32_t window,
-                                  std::uint32_t property, std::uint32_t type, std::uint8_t format,
-                                  std::uint32_t count, const void* data);
-using Flush = int (*)(Connection*);
-using Disconnect = void (*)(Connection*);
-
 struct Xcb
 {
     QLibrary library{QStringLiteral("xcb"), 1};
     template <typename Function>
     Function Find(const char* name)
     {
-        return reinterpret_cast<Function>(library.resolve(name));
+        const auto found = reinterpret_cast<Function>(library.resolve(name));
+        isComplete = isComplete && found;
+        return found;
     }
-    Connect connect = Find<Connect>("xcb_connect");
-    HasError hasError = Find<HasError>("xcb_connection_has_error");
-    InternAtom internAtom = Find<InternAtom>("xcb_intern_atom");
-    InternAtomReply internAtomReply = Find<InternAtomReply>("xcb_intern_atom_reply");
-    ChangeProperty changeProperty = Find<ChangeProperty>("xcb_change_property");
-    Flush flush = Find<Flush>("xcb_flush");
-    Disconnect disconnect = Find<Disconnect>("xcb_disconnect");
-
-    bool IsComplete() const
-    {
-        return connect && hasError && internAtom && internAtomReply && changeProperty && flush &&
-               disconnect;
-    }
+    bool isComplete = true;
+#define COMMONLIB_XCB(name) decltype(&xcb_##name) name = Find<decltype(&xcb_##name)>("xcb_" #name)
+    COMMONLIB_XCB(connect);
+    COMMONLIB_XCB(connection_has_error);
+    COMMONLIB_XCB(get_setup);
+    COMMONLIB_XCB(setup_roots_iterator);
+    COMMONLIB_XCB(screen_next);
+    COMMONLIB_XCB(intern_atom);
+    COMMONLIB_XCB(intern_atom_reply);
+    COMMONLIB_XCB(get_property);
+    COMMONLIB_XCB(get_property_reply);
+    COMMONLIB_XCB(get_property_value);
+    COMMONLIB_XCB(get_property_value_length);
+    COMMONLIB_XCB(change_property);
+    COMMONLIB_XCB(generate_id);
+    COMMONLIB_XCB(create_pixmap);
+    COMMONLIB_XCB(create_gc);
+    COMMONLIB_XCB(put_image);
+    COMMONLIB_XCB(free_gc);
+    COMMONLIB_XCB(flush);
+    COMMONLIB_XCB(disconnect);
+#undef COMMONLIB_XCB
 };
 
-// 0 when nobody has ever used the name.
-std::uint32_t ExistingAtom(const Xcb& xcb, Connection* connection, const char* name)
+// The picture that lies `right` and `down` (each -1, 0 or 1) of the window. Those at the sides are
+// stretched.
+QImage ShadowPicture(int right, int down)
 {
-    const auto length = static_cast<std::uint16_t>(std::strlen(name));
-    AtomReply* reply =
-        xcb.internAtomReply(connection, xcb.internAtom(connection, true, length, name), nullptr);
-    const std::uint32_t atom = reply ? reply->atom : 0;
-    std::free(reply);
-    return atom;
+    QImage image(right == 0 ? 1 : kReach, down == 0 ? 1 : kReach,
+                 QImage::Format_ARGB32_Premultiplied);
+    const auto outwards = [](int way, int at) {
+        return way == 0 ? 0.0 : (way < 0 ? kReach - at - 0.5 : at + 0.5);
+    };
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const double distance = std::hypot(outwards(right, x), outwards(down, y)) / kReach;
+            const double left = distance < 1 ? 1 - distance : 0;
+            image.setPixel(x, y, qRgba(0, 0, 0, static_cast<int>(kDarkest * left * left)));
+        }
+    }
+    return image;
 }
 
-void SetHint(const Xcb& xcb, Connection* connection, std::uint32_t window)
+// A connection of its own: an error on it, such as for a window that is gone, ends nothing. It
+// stays open, since the pictures last no longer.
+class ShadowSession
 {
-    const std::uint32_t hint = ExistingAtom(xcb, connection, kShadowHint);
-    if (hint == 0)
-        return;
-    xcb.changeProperty(connection, kReplace, window, hint, kCardinal, kWordBits, 1, &kWanted);
-    xcb.flush(connection);
-    // An answer means that what was sent before has arrived.
-    ExistingAtom(xcb, connection, kShadowHint);
-}
+public:
+    ShadowSession()
+    {
+        if (!m_xcb.isComplete)
+            return;
+        int number = 0;
+        m_connection = m_xcb.connect(nullptr, &number);
+        if (m_xcb.connection_has_error(m_connection))
+            return;
+        auto screens = m_xcb.setup_roots_iterator(m_xcb.get_setup(m_connection));
+        for (; number > 0 && screens.rem > 1; --number)
+            m_xcb.screen_next(&screens);
+        if (screens.rem > 0)
+            m_root = screens.data->root;
+    }
+    ~ShadowSession()
+    {
+        if (m_connection)
+            m_xcb.disconnect(m_connection);
+    }
+    ShadowSession(const ShadowSession&) = delete;
+    ShadowSession& operator=(const ShadowSession&) = delete;
+
+    void Ask(xcb_window_t window)
+    {
+        if (!m_root || m_xcb.connection_has_error(m_connection))
+            return;
+        if (const xcb_atom_t hint = ExistingAtom(kShadowHint))
+            SetProperty(window, hint, &kWanted, 1);
+        const xcb_atom_t pictures = ExistingAtom(kShadowPictures);
+        if (pictures && IsSupported(pictures)) {
+            const auto& value = Pictures();
+            SetProperty(window, pictures, value.data(), static_cast<std::uint32_t>(value.size()));
+        }
+        m_xcb.flush(m_connection);
+        // An answer means that what was sent before has arrived.
+        ExistingAtom(kShadowHint);
+    }
+
+private:
+    using Words = std::array<std::uint32_t, kPictures + 4>;
+
+    // 0 when nobody has ever used the name.
+    xcb_atom_t ExistingAtom(const char* name)
+    {
+        const auto length = static_cast<std::uint16_t>(std::strlen(name));
+        const auto asked = m_xcb.intern_atom(m_connection, true, length, name);
+        const ReplyPtr<xcb_intern_atom_reply_t> reply(
+            m_xcb.intern_atom_reply(m_connection, asked, nullptr), &std::free);
+        return reply ? reply->atom : 0;
+    }
+
+    bool IsSupported(xcb_atom_t atom)
+    {
+        const xcb_atom_t list = ExistingAtom(kSupported);
+        const auto asked =
+            m_xcb.get_property(m_connection, false, m_root, list, XCB_ATOM_ATOM, 0, kMostAtoms);
+        const ReplyPtr<xcb_get_property_reply_t> reply(
+            m_xcb.get_property_reply(m_connection, asked, nullptr), &std::free);
+        if (!reply || reply->format != kWordBits)
+            return false;
+        const auto* begin = static_cast<const xcb_atom_t*>(m_xcb.get_property_value(reply.get()));
+        const int bytes = m_xcb.get_property_value_length(reply.get());
+        const auto* end = begin + static_cast<std::size_t>(bytes) / sizeof(xcb_atom_t);
+        return std::find(begin, end, atom) != end;
+    }
+
+    void SetProperty(xcb_window_t window, xcb_atom_t name, const std::uint32_t* words,
+                     std::uint32_t count)
+    {
+        m_xcb.change_property(m_connection, XCB_PROP_MODE_REPLACE, window, name, XCB_ATOM_CARDINAL,
+                              kWordBits, count, words);
+    }
+
+    xcb_pixmap_t Upload(const QImage& image)
+    {
+        const auto width = static_cast<std::uint16_t>(image.width());
+        const auto height = static_cast<std::uint16_t>(image.height());
+        const xcb_pixmap_t pixmap = m_xcb.generate_id(m_connection);
+        const xcb_gcontext_t context = m_xcb.generate_id(m_connection);
+        m_xcb.create_pixmap(m_connection, kDepth, pixmap, m_root, width, height);
+        m_xcb.create_gc(m_connection, context, pixmap, 0, nullptr);
+        m_xcb.put_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, pixmap, context, width, height, 0,
+                        0, 0, kDepth, static_cast<std::uint32_t>(image.sizeInBytes()),
+                        image.constBits());
+        m_xcb.free_gc(m_connection, context);
+        return pixmap;
+    }
+
+    // The same for all windows.
+    const Words& Pictures()
+    {
+        constexpr int kWays[kPictures][2] = {{0, -1}, {1, -1}, {1, 0},  {1, 1},
+                                             {0, 1},  {-1, 1}, {-1, 0}, {-1, -1}};
+        if (m_pictures[0] == 0) {
+            m_pictures.fill(kReach);
+            for (std::size_t i = 0; i < kPictures; ++i)
+                m_pictures[i] = Upload(ShadowPicture(kWays[i][0], kWays[i][1]));
+        }
+        return m_pictures;
+    }
+
+    Xcb m_xcb;
+    xcb_connection_t* m_connection = nullptr;
+    xcb_window_t m_root = 0;
+    Words m_pictures{};
+};
 
 } // namespace
 
@@ -98,13 +209,6 @@ void gOpenFramelessWidgetShadow(HWND window, int /*unused*/)
 {
     if (!window || QGuiApplication::platformName() != QLatin1String("xcb"))
         return;
-    const Xcb xcb;
-    if (!xcb.IsComplete())
-        return;
-    // A connection of its own: an error on it, such as for a window that is gone, ends nothing.
-    Connection* connection = xcb.connect(nullptr, nullptr);
-    if (!xcb.hasError(connection))
-        SetHint(xcb, connection,
-                static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(window)));
-    xcb.disconnect(connection);
+    static ShadowSession session;
+    session.Ask(static_cast<xcb_window_t>(reinterpret_cast<std::uintptr_t>(window)));
 }
