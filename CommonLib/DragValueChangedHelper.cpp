@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/DragValueChangedHelper_p.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QMouseEvent>
 #include <QWidget>
 
@@ -41,6 +41,13 @@ bool IsAtEdge(const QPoint& position)
            !screen->geometry().adjusted(Margin, Margin, -Margin, -Margin).contains(position);
 }
 
+// A finger or a pen is where it is; a program cannot move it.
+bool IsMouse(const QMouseEvent& event)
+{
+    return event.source() != Qt::MouseEventSynthesizedByQt &&
+           event.source() != Qt::MouseEventSynthesizedBySystem;
+}
+
 int WarpDistanceFor(int distance)
 {
     return std::max(distance, WarpDistance);
@@ -52,7 +59,8 @@ std::unique_ptr<QMouseEvent> DragValueChangedHelper::s_press;
 
 DragValueChangedHelper::DragValueChangedHelper(QWidget* widget) : QObject(widget), m_widget(widget)
 {
-    qApp->installEventFilter(this);
+    if (QCoreApplication* app = QCoreApplication::instance())
+        app->installEventFilter(this);
 }
 
 DragValueChangedHelper::~DragValueChangedHelper()
@@ -90,10 +98,17 @@ bool DragValueChangedHelper::eventFilter(QObject* watched, QEvent* event)
         case QEvent::MouseMove:
             return Move(*static_cast<QMouseEvent*>(event));
         case QEvent::MouseButtonRelease:
-            return m_pressed && Release(watched);
+            if (m_pressed)
+                return Release(watched, *static_cast<QMouseEvent*>(event));
+            break;
         default:
             break;
         }
+    }
+    if (m_clicked && event->type() == QEvent::MouseButtonRelease && watched->isWidgetType()) {
+        // The window has passed it on.
+        m_clicked = false;
+        PlaceRelease(*static_cast<QWidget*>(watched), *static_cast<QMouseEvent*>(event));
     }
     if (watched == m_widget)
         WatchWidget(*event);
@@ -118,7 +133,7 @@ void DragValueChangedHelper::WatchWidget(const QEvent& event)
         break;
     case QEvent::FocusOut:
         m_intercept = true;
-        if (IsCursorInside())
+        if (IsInside(QCursor::pos(), true))
             PushCursor(m_hoverCursor);
         break;
     default:
@@ -126,27 +141,36 @@ void DragValueChangedHelper::WatchWidget(const QEvent& event)
     }
 }
 
-bool DragValueChangedHelper::IsCursorInside() const
+bool DragValueChangedHelper::IsInside(const QPoint& position, bool isMouse) const
 {
-    // Under the mouse: nothing else, such as a dialog, covers the place.
-    if (!m_widget || !m_widget->isVisible() || !m_widget->isEnabled() || !m_widget->underMouse())
+    // Nothing else, such as a dialog, covers the place. A finger makes no widget lie under the
+    // mouse.
+    const bool isUnder =
+        m_widget && (isMouse ? m_widget->underMouse()
+                             : m_widget->window() == QApplication::topLevelAt(position));
+    if (!isUnder || !m_widget->isVisible() || !m_widget->isEnabled())
         return false;
     const QRect area = m_interactiveRect.isValid() ? m_interactiveRect : m_widget->rect();
-    return area.contains(m_widget->mapFromGlobal(QCursor::pos()));
+    return area.contains(m_widget->mapFromGlobal(position));
 }
 
 bool DragValueChangedHelper::Press(const QMouseEvent& event)
 {
-    if (m_pressed || !IsCursorInside())
+    const bool isMouse = IsMouse(event);
+    m_clicked = false;
+    if (m_pressed || !IsInside(isMouse ? QCursor::pos() : event.globalPos(), isMouse))
         return false;
-    m_pressPos = QCursor::pos();
+    m_pressPos = isMouse ? QCursor::pos() : event.globalPos();
     m_pressScreen = ScreenAt(m_pressPos);
-    if (m_pressScreen)
+    if (m_pressScreen && isMouse)
         m_pressPos = QCursor::pos(m_pressScreen);
     m_anchorPos = Anchor(m_pressPos);
-    PushCursor(Qt::BlankCursor);
-    QCursor::setPos(m_anchorPos);
-    m_lastPos = m_anchorPos;
+    HidePointer();
+    if (isMouse)
+        QCursor::setPos(m_anchorPos);
+    // Not every system lets a program move the pointer. Motion is measured from where it is then.
+    m_parks = isMouse && (m_anchorPos == m_pressPos || QCursor::pos() != m_pressPos);
+    m_lastPos = m_parks ? m_anchorPos : m_pressPos;
     // What the last drag measured is no motion of this one.
     m_distance = 0;
     m_pressed = true;
@@ -168,6 +192,9 @@ bool DragValueChangedHelper::Move(const QMouseEvent& event)
 {
     if (!m_pressed || event.buttons() == Qt::NoButton)
         return false;
+    // Parked, it may have left the widget, which popped what hid it.
+    if (!m_hidesPointer && m_widget->isVisible())
+        HidePointer();
     const Pace pace = PaceOf(event);
     if (m_firstMove) {
         m_accel = 0;
@@ -182,7 +209,10 @@ bool DragValueChangedHelper::Move(const QMouseEvent& event)
             return true;
     }
     m_distance = std::abs(event.globalX() - m_lastPos.x());
-    if (m_distance > pace.warpDistance || IsAtEdge(event.globalPos())) {
+    if (!m_parks) {
+        if (m_distance > pace.warpDistance)
+            m_lastPos = event.globalPos();
+    } else if (m_distance > pace.warpDistance || IsAtEdge(event.globalPos())) {
         QCursor::setPos(m_anchorPos);
         m_lastPos = m_anchorPos;
     }
@@ -222,6 +252,8 @@ bool DragValueChangedHelper::Step(const QMouseEvent& event, double step)
 
 void DragValueChangedHelper::ReturnPointer() const
 {
+    if (!m_parks)
+        return;
     if (m_pressScreen)
         QCursor::setPos(m_pressScreen, m_pressPos);
     else
@@ -229,8 +261,9 @@ void DragValueChangedHelper::ReturnPointer() const
 }
 
 // True when who was told has ended the receiver, which then must not get the release.
-bool DragValueChangedHelper::Release(QObject* receiver)
+bool DragValueChangedHelper::Release(QObject* receiver, QMouseEvent& event)
 {
+    const QPointer<DragValueChangedHelper> self(this);
     const QPointer<QObject> alive(receiver);
     ReturnPointer();
     m_accel = 0;
@@ -241,6 +274,10 @@ bool DragValueChangedHelper::Release(QObject* receiver)
         m_intercept = false;
         if (const auto press = std::move(s_press))
             QCoreApplication::sendEvent(receiver, press.get());
+        if (self && alive && receiver->isWidgetType())
+            PlaceRelease(*static_cast<QWidget*>(receiver), event);
+        else if (self)
+            m_clicked = alive != nullptr;
     } else {
         PopCursor();
         Q_EMIT sigEndValueChanged(m_value);
@@ -248,14 +285,29 @@ bool DragValueChangedHelper::Release(QObject* receiver)
     return !alive;
 }
 
+// A click was released where the pointer was parked; for the widget that is where it was pressed.
+void DragValueChangedHelper::PlaceRelease(const QWidget& receiver, QMouseEvent& event) const
+{
+    if (m_parks && !receiver.rect().contains(event.pos()))
+        event.setLocalPos(receiver.mapFromGlobal(m_pressPos));
+}
+
+void DragValueChangedHelper::HidePointer()
+{
+    PushCursor(Qt::BlankCursor);
+    m_hidesPointer = true;
+}
+
 void DragValueChangedHelper::PushCursor(const QCursor& cursor)
 {
     QGuiApplication::setOverrideCursor(cursor);
     ++m_overrideCount;
+    m_hidesPointer = false;
 }
 
 void DragValueChangedHelper::PopCursor()
 {
+    m_hidesPointer = false;
     if (m_overrideCount == 0)
         return;
     QGuiApplication::restoreOverrideCursor();

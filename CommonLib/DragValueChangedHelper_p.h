@@ -61,15 +61,17 @@ private:
         int warpDistance;
     };
 
-    bool IsCursorInside() const;
+    bool IsInside(const QPoint& position, bool isMouse) const;
     Pace PaceOf(const QMouseEvent& event) const;
     double InRange(double value) const;
     bool Press(const QMouseEvent& event);
     bool Move(const QMouseEvent& event);
     bool Step(const QMouseEvent& event, double step);
-    bool Release(QObject* receiver);
+    bool Release(QObject* receiver, QMouseEvent& event);
+    void PlaceRelease(const QWidget& receiver, QMouseEvent& event) const;
     void ReturnPointer() const;
     void WatchWidget(const QEvent& event);
+    void HidePointer();
     void PushCursor(const QCursor& cursor);
     void PopCursor();
     void PopAllCursors();
@@ -86,6 +88,10 @@ private:
     bool m_lastIncrease = true;
     int m_overrideCount = 0; ///< override cursors that this object has pushed
     QPointer<QScreen> m_pressScreen;
+
+    bool m_parks = false;        ///< the pointer can be and is kept at the anchor
+    bool m_hidesPointer = false; ///< the cursor on top is the blank one
+    bool m_clicked = false;      ///< a window was told of a click, and has to pass its release on
 
     /// The last press that was kept from its receiver.
     static std::unique_ptr<QMouseEvent> s_press;

@@ -15,13 +15,17 @@ Q_DECLARE_METATYPE(Setup)
 
 namespace {
 
-/// Counts the presses that reach it.
-struct Field : QWidget
+/// Counts the presses and clicks that reach it.
+struct Field : QPushButton
 {
-    Field() { setFocusPolicy(Qt::ClickFocus); }
-    void mousePressEvent(QMouseEvent*) override { ++presses; }
+    Field()
+    {
+        connect(this, &QPushButton::pressed, [this] { ++presses; });
+        connect(this, &QPushButton::clicked, [this] { ++clicks; });
+    }
 
     int presses = 0;
+    int clicks = 0;
 };
 
 } // namespace
@@ -39,11 +43,13 @@ private:
     int total = 0; ///< steps of all drags
 
     static void Send(QObject* receiver, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
-                     Qt::KeyboardModifiers keys = Qt::NoModifier)
+                     Qt::KeyboardModifiers keys = Qt::NoModifier,
+                     Qt::MouseEventSource source = Qt::MouseEventNotSynthesized)
     {
         const Qt::MouseButtons down =
             type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-        QMouseEvent event(type, QPointF(1, 1), at, button, down, keys);
+        const QPoint local = static_cast<QWidget*>(receiver)->mapFromGlobal(at);
+        QMouseEvent event(type, local, local, at, button, down, keys, source);
         QCoreApplication::sendEvent(receiver, &event);
     }
     void Press() { Send(field.get(), QEvent::MouseButtonPress, QCursor::pos(), Qt::LeftButton); }
@@ -194,9 +200,19 @@ private Q_SLOTS:
         Hover();
         Press();
         QCOMPARE(field->presses, 1);
+        const QPoint parked = QCursor::pos();
+        QVERIFY(!field->geometry().contains(parked));
+        QEvent enter(QEvent::Enter), leave(QEvent::Leave);
+        QCoreApplication::sendEvent(field.get(), &leave);
+        QCOMPARE(Cursors(), 0);
+        MoveTo(parked.x()); // hides the pointer again
+        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::BlankCursor);
+        const int before = field->clicks;
         Release();
         QCOMPARE(field->presses, 2);
+        QCOMPARE(field->clicks, before + 1); // although it was released elsewhere
         QVERIFY(!helper->GetDragEnabled());
+        QCoreApplication::sendEvent(field.get(), &enter);
         Press();
         QCOMPARE(field->presses, 3);
         QFocusEvent out(QEvent::FocusOut);
@@ -206,6 +222,21 @@ private Q_SLOTS:
         field->setEnabled(false);
         Press();
         QCOMPARE(started, Values());
+    }
+
+    void touch()
+    {
+        const auto send = [this](QEvent::Type type, int x) {
+            Send(field.get(), type, field->mapToGlobal(QPoint(x, 10)), Qt::LeftButton, {},
+                 Qt::MouseEventSynthesizedByQt);
+        };
+        const QPoint pointer = QCursor::pos();
+        send(QEvent::MouseButtonPress, 40);
+        for (const int x : {32, 24, 16, 20})
+            send(QEvent::MouseMove, x);
+        send(QEvent::MouseButtonRelease, 20);
+        QCOMPARE(changed, Values({-1, 0}));
+        QCOMPARE(QCursor::pos(), pointer);
     }
 
     void endsWithin_data()
@@ -329,6 +360,7 @@ private Q_SLOTS:
         QCOMPARE(QCursor::pos(), middle);
         point({"click", "1"});
         QCOMPARE(field->presses, 1);
+        QCOMPARE(field->clicks, 1);
         point({"mousemove", "1", "1"});
         QTRY_VERIFY(!field->underMouse());
     }
