@@ -49,6 +49,7 @@ struct Xcb
         return found;
     }
     bool isComplete = true;
+    // NOLINTNEXTLINE(bugprone-macro-parentheses): a name that is declared takes none
 #define COMMONLIB_XCB(name) decltype(&xcb_##name) name = Find<decltype(&xcb_##name)>("xcb_" #name)
     COMMONLIB_XCB(connect);
     COMMONLIB_XCB(connection_has_error);
