@@ -12,8 +12,10 @@ namespace devices {
 
 /// Identifier of the object that stands for the device itself; the root of its content.
 constexpr const wchar_t* kDeviceObject = L"DEVICE";
-/// Transfers go in steps of this many bytes.
+/// Transfers go in steps of this many bytes; those of local files in steps that stay in a
+/// processor's cache.
 constexpr std::uint32_t kTransferSize = 1U << 20;
+constexpr std::uint32_t kLocalTransferSize = 1U << 17;
 
 enum class ObjectKind
 {
@@ -42,7 +44,7 @@ enum class Resource
     Thumbnail
 };
 
-/// One open stream of an object's data. Lives on the thread of its session.
+/// One open stream of an object's data. Lives on the thread of its session, unless it is local.
 class DataReader
 {
 public:
@@ -51,6 +53,9 @@ public:
     DataReader& operator=(const DataReader&) = delete;
     virtual ~DataReader() = default;
 
+    /// Whether the data lies in the local file system, so that reading may go on in the caller's
+    /// thread, one at a time. A local reader sees to the presence of its device itself.
+    virtual bool isLocal() const { return false; }
     /// Reads at most \a size bytes; 0 bytes with success is the end of the data.
     virtual HRESULT read(void* buffer, std::uint32_t size, std::uint32_t& got,
                          GCancellable* cancellable) = 0;

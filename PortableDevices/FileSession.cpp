@@ -29,11 +29,20 @@ GFileQueryInfoFlags LinkRule(const std::string& path)
 class FileReader final : public DataReader
 {
 public:
-    explicit FileReader(GPtr<GInputStream> stream) : m_stream(std::move(stream)) {}
+    /// \a root is null when the file is not local.
+    FileReader(GPtr<GInputStream> stream, std::shared_ptr<const LocalRoot> root)
+        : m_stream(std::move(stream)), m_root(std::move(root))
+    {
+    }
 
+    bool isLocal() const override { return m_root != nullptr; }
     HRESULT read(void* buffer, std::uint32_t size, std::uint32_t& got,
                  GCancellable* cancellable) override
     {
+        got = 0;
+        // An open file can be read to its end after its folder has gone.
+        if (m_root && !m_root->isThere())
+            return kDeviceGone;
         GPtr<GError> error;
         const gssize count =
             g_input_stream_read(m_stream.get(), buffer, size, cancellable, ErrorOut(error));
@@ -52,7 +61,8 @@ public:
     }
 
 private:
-    GPtr<GInputStream> m_stream;
+    const GPtr<GInputStream> m_stream;
+    const std::shared_ptr<const LocalRoot> m_root;
 };
 
 bool IsFolder(GFileInfo* info)
@@ -78,6 +88,28 @@ std::string Escaped(const char* name)
 
 } // namespace
 
+LocalRoot::LocalRoot(const char* path) : m_path(path)
+{
+    read(m_device, m_inode);
+}
+
+bool LocalRoot::read(dev_t& device, ino_t& inode) const
+{
+    struct stat status = {};
+    if (stat(m_path.c_str(), &status) != 0)
+        return false;
+    device = status.st_dev;
+    inode = status.st_ino;
+    return true;
+}
+
+bool LocalRoot::isThere() const
+{
+    dev_t device = 0;
+    ino_t inode = 0;
+    return read(device, inode) && device == m_device && inode == m_inode;
+}
+
 FileSession::FileSession(const std::string& uri, std::wstring name, bool hasStorages)
     : m_root(g_file_new_for_uri(uri.c_str())), m_name(std::move(name)), m_hasStorages(hasStorages)
 {
@@ -85,19 +117,22 @@ FileSession::FileSession(const std::string& uri, std::wstring name, bool hasStor
 
 HRESULT FileSession::open(GCancellable* cancellable)
 {
-    if (g_file_is_native(m_root.get()))
-        return readRootIdentity(m_device, m_inode) ? checkRoot(cancellable) : kNotFound;
-    HRESULT result = MountAndWait(m_root.get(), cancellable);
-    if (FAILED(result))
+    HRESULT result = checkRoot(cancellable);
+    if (g_file_is_native(m_root.get())) {
+        m_local = std::make_shared<LocalRoot>(g_file_peek_path(m_root.get()));
         return result;
+    }
+    if (SUCCEEDED(result))
+        return result;
+    const HRESULT mounted = MountAndWait(m_root.get(), cancellable);
+    result = checkRoot(cancellable);
     // A device that was plugged in again a moment ago: GVfs still asks the daemon of the old mount,
     // which takes its time to end.
-    result = checkRoot(cancellable);
     for (int attempt = 1; attempt < kOpenAttempts && result == E_FAIL; ++attempt) {
         g_usleep(kOpenPause);
         result = checkRoot(cancellable);
     }
-    return result;
+    return FAILED(mounted) && FAILED(result) ? mounted : result;
 }
 
 HRESULT FileSession::checkRoot(GCancellable* cancellable) const
@@ -110,24 +145,10 @@ HRESULT FileSession::checkRoot(GCancellable* cancellable) const
     return IsFolder(info.get()) ? S_OK : kNotFound;
 }
 
-bool FileSession::readRootIdentity(dev_t& device, ino_t& inode) const
-{
-    struct stat status = {};
-    if (stat(g_file_peek_path(m_root.get()), &status) != 0)
-        return false;
-    device = status.st_dev;
-    inode = status.st_ino;
-    return true;
-}
-
 bool FileSession::isPresent(bool hasFailed)
 {
-    if (g_file_is_native(m_root.get())) {
-        // A folder that came back under the old name, or the bare mount point, is another one.
-        dev_t device = 0;
-        ino_t inode = 0;
-        return readRootIdentity(device, inode) && device == m_device && inode == m_inode;
-    }
+    if (m_local)
+        return m_local->isThere();
     if (!hasFailed)
         return true;
     GPtr<GError> error;
@@ -289,7 +310,7 @@ HRESULT FileSession::openData(const std::wstring& id, Resource resource,
     }
     if (!stream)
         return FromGlibError(error.get());
-    reader = std::make_unique<FileReader>(std::move(stream));
+    reader = std::make_unique<FileReader>(std::move(stream), m_local);
     return S_OK;
 }
 

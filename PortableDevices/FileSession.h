@@ -8,6 +8,23 @@
 
 namespace devices {
 
+/// Tells whether a local root is still the one that was opened: a folder that came back under the
+/// old name, or the bare mount point, is another one.
+class LocalRoot
+{
+public:
+    /// \a path has to exist.
+    explicit LocalRoot(const char* path);
+    bool isThere() const;
+
+private:
+    bool read(dev_t& device, ino_t& inode) const;
+
+    const std::string m_path;
+    dev_t m_device = 0;
+    ino_t m_inode = 0;
+};
+
 /// A device whose content is reached as files: a folder, a mounted disk, a phone behind GVfs.
 ///
 /// An object's identifier is the file's own ("id::file"), a slash, and its escaped path below the
@@ -48,13 +65,11 @@ private:
     HRESULT openWhole(GFile* file, std::unique_ptr<DataReader>& reader,
                       GCancellable* cancellable) const;
     HRESULT checkIsEmpty(GFile* folder, GCancellable* cancellable) const;
-    bool readRootIdentity(dev_t& device, ino_t& inode) const;
 
     GPtr<GFile> m_root;
     std::wstring m_name;
     bool m_hasStorages;
-    dev_t m_device = 0; // of a local root
-    ino_t m_inode = 0;
+    std::shared_ptr<const LocalRoot> m_local; // null for a root that is not local
 };
 
 } // namespace devices

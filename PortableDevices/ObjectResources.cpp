@@ -41,10 +41,12 @@ HRESULT ObjectResources::GetStream(LPCWSTR object, REFPROPERTYKEY key, const DWO
     const bool isData = key == Wpd::WPD_RESOURCE_DEFAULT;
     if (!isData && key != Wpd::WPD_RESOURCE_THUMBNAIL)
         return kNoElement;
+    std::uint32_t size = 0;
+    const HRESULT result = ResourceStream::open(
+        m_device, object, isData ? Resource::Data : Resource::Thumbnail, size, out);
     if (optimalBufferSize)
-        *optimalBufferSize = kTransferSize;
-    return ResourceStream::open(m_device, object, isData ? Resource::Data : Resource::Thumbnail,
-                                out);
+        *optimalBufferSize = size;
+    return result;
 }
 
 HRESULT ObjectResources::Delete(LPCWSTR /*object*/, IPortableDeviceKeyCollection* /*keys*/)

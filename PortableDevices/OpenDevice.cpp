@@ -25,6 +25,12 @@ OpenDevice::OpenDevice(std::wstring id, std::unique_ptr<DeviceSession> session)
 
 HRESULT OpenDevice::list(const std::wstring& parent, std::vector<std::wstring>& children)
 {
+    {
+        // Who walks the content asks for the children of every object.
+        const std::lock_guard lock(m_mutex);
+        if (parent == m_lastFile)
+            return S_OK;
+    }
     std::vector<ObjectInfo> infos;
     const HRESULT result = m_worker.run([&](DeviceSession& session, GCancellable* cancellable) {
         return session.list(parent, infos, cancellable);
@@ -49,6 +55,8 @@ bool OpenDevice::takeKnown(const std::wstring& id, ObjectInfo& info)
         return false;
     info = std::move(known->second);
     m_known.erase(known);
+    if (info.kind == ObjectKind::File)
+        m_lastFile = id;
     return true;
 }
 

@@ -30,6 +30,7 @@ private:
     DeviceWorker m_worker;
     std::mutex m_mutex; // guards what follows
     std::unordered_map<std::wstring, ObjectInfo> m_known;
+    std::wstring m_lastFile; // described last; has no children
 };
 
 } // namespace devices

@@ -7,7 +7,7 @@
 namespace devices {
 
 HRESULT ResourceStream::open(std::shared_ptr<OpenDevice> device, const std::wstring& id,
-                             Resource resource, IStream** out)
+                             Resource resource, std::uint32_t& stepSize, IStream** out)
 {
     OpenDevice& opened = *device;
     const NLEComPtr<ResourceStream> stream = MakeCom<ResourceStream>(std::move(device));
@@ -18,8 +18,12 @@ HRESULT ResourceStream::open(std::shared_ptr<OpenDevice> device, const std::wstr
         });
     if (FAILED(result))
         return result;
-    source->buffer.resize(kTransferSize);
-    stream->startStep();
+    stream->m_isLocal = source->reader->isLocal();
+    stepSize = stream->m_isLocal ? kLocalTransferSize : kTransferSize;
+    if (!stream->m_isLocal) {
+        source->buffer.resize(kTransferSize);
+        stream->startStep();
+    }
     return NLEComPtr<IStream>(stream).copyTo(out);
 }
 
@@ -67,6 +71,31 @@ void ResourceStream::dropStep()
     finishStep();
 }
 
+HRESULT ResourceStream::readLocal(void* data, ULONG count, ULONG& got)
+{
+    const HRESULT result = m_source->reader->read(data, count, got, nullptr);
+    if (result == kDeviceGone)
+        m_device->worker().noteRemoval();
+    return result;
+}
+
+HRESULT ResourceStream::readStep(void* data, ULONG count, ULONG& got)
+{
+    if (m_step.result.valid()) {
+        if (const HRESULT result = finishStep(); FAILED(result))
+            return result;
+    }
+    if (const HRESULT result = m_device->worker().resultSince(m_cancelCount); FAILED(result))
+        return result;
+    got = std::min(count, m_source->filled - m_taken);
+    std::memcpy(data, m_source->buffer.data() + m_taken, got);
+    m_taken += got;
+    // An empty step was the end; there is nothing more to ask for.
+    if (m_taken == m_source->filled && m_source->filled > 0)
+        startStep();
+    return S_OK;
+}
+
 HRESULT ResourceStream::Read(void* data, ULONG count, ULONG* read)
 {
     if (read)
@@ -74,24 +103,18 @@ HRESULT ResourceStream::Read(void* data, ULONG count, ULONG* read)
     if (!data)
         return E_POINTER;
     const std::lock_guard lock(m_mutex);
-    if (FAILED(m_failure))
-        return m_failure;
-    if (m_step.result.valid())
-        m_failure = finishStep();
     if (SUCCEEDED(m_failure))
         m_failure = m_device->worker().resultSince(m_cancelCount);
     if (FAILED(m_failure))
         return m_failure;
-    const ULONG taken = std::min(count, m_source->filled - m_taken);
-    std::memcpy(data, m_source->buffer.data() + m_taken, taken);
-    m_taken += taken;
-    m_position += taken;
+    ULONG got = 0;
+    m_failure = m_isLocal ? readLocal(data, count, got) : readStep(data, count, got);
+    if (FAILED(m_failure))
+        return m_failure;
+    m_position += got;
     if (read)
-        *read = taken;
-    // An empty step was the end; there is nothing more to ask for.
-    if (m_taken == m_source->filled && m_source->filled > 0)
-        startStep();
-    return taken > 0 || count == 0 ? S_OK : S_FALSE;
+        *read = got;
+    return got > 0 || count == 0 ? S_OK : S_FALSE;
 }
 
 HRESULT ResourceStream::Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER* position)
@@ -114,7 +137,8 @@ HRESULT ResourceStream::Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER* p
         if (FAILED(result))
             return m_failure = result;
         m_position = static_cast<std::uint64_t>(target);
-        startStep();
+        if (!m_isLocal)
+            startStep();
     }
     if (position)
         position->QuadPart = m_position;

@@ -10,15 +10,16 @@
 namespace devices {
 
 /// Read-only stream over an object's data. The device reads the next piece while the caller writes
-/// the last one away, so each stream holds one buffer of kTransferSize beside the caller's.
+/// the last one away, so each stream holds one buffer of kTransferSize beside the caller's. Data of
+/// the local file system goes straight into the caller's buffer.
 ///
 /// Once a read has failed, every later one fails the same way.
 class ResourceStream final : public ComObject<IStream>
 {
 public:
-    /// Opens \a resource of the object \a id.
+    /// Opens \a resource of the object \a id; \a stepSize is the best size of a read.
     static HRESULT open(std::shared_ptr<OpenDevice> device, const std::wstring& id,
-                        Resource resource, IStream** out);
+                        Resource resource, std::uint32_t& stepSize, IStream** out);
 
     HRESULT QueryInterface(REFIID iid, void** out) override;
 
@@ -50,6 +51,8 @@ private:
         std::uint32_t filled = 0;
     };
 
+    HRESULT readLocal(void* data, ULONG count, ULONG& got);
+    HRESULT readStep(void* data, ULONG count, ULONG& got);
     void startStep();
     HRESULT finishStep();
     void dropStep();
@@ -57,7 +60,8 @@ private:
     std::shared_ptr<OpenDevice> m_device;
     const std::shared_ptr<Source> m_source = std::make_shared<Source>();
     const unsigned m_cancelCount;
-    std::mutex m_mutex; // guards what follows
+    bool m_isLocal = false; // set once, before the caller has the stream
+    std::mutex m_mutex;     // guards what follows
     DeviceWorker::Pending m_step;
     std::uint32_t m_taken = 0; // of the buffer
     std::uint64_t m_position = 0;
