@@ -15,6 +15,7 @@ constexpr const char* kDescription = G_FILE_ATTRIBUTE_ID_FILE
     "," G_FILE_ATTRIBUTE_STANDARD_TYPE "," G_FILE_ATTRIBUTE_STANDARD_NAME
     "," G_FILE_ATTRIBUTE_STANDARD_DISPLAY_NAME "," G_FILE_ATTRIBUTE_STANDARD_SIZE
     "," G_FILE_ATTRIBUTE_TIME_MODIFIED "," G_FILE_ATTRIBUTE_TIME_MODIFIED_USEC;
+constexpr int kThumbnailSize = 256; // pixels, where the device can choose
 constexpr int kOpenAttempts = 30;
 constexpr gulong kOpenPause = 100000; // microseconds
 // Links may lead in circles or off the device; they are left out.
@@ -26,43 +27,105 @@ GFileQueryInfoFlags LinkRule(const std::string& path)
     return path.empty() ? G_FILE_QUERY_INFO_NONE : kNoLinks;
 }
 
-class FileReader final : public DataReader
+HRESULT ReadStream(GInputStream* stream, void* buffer, std::uint32_t size, std::uint32_t& got,
+                   GCancellable* cancellable)
+{
+    GPtr<GError> error;
+    const gssize count = g_input_stream_read(stream, buffer, size, cancellable, ErrorOut(error));
+    got = count > 0 ? static_cast<std::uint32_t>(count) : 0;
+    return count < 0 ? FromGlibError(error.get()) : S_OK;
+}
+
+HRESULT SeekStream(GInputStream* stream, std::uint64_t position, GCancellable* cancellable)
+{
+    if (!G_IS_SEEKABLE(stream))
+        return kNotSupported;
+    GPtr<GError> error;
+    const bool isDone = g_seekable_seek(G_SEEKABLE(stream), static_cast<goffset>(position),
+                                        G_SEEK_SET, cancellable, ErrorOut(error));
+    return isDone ? S_OK : FromGlibError(error.get());
+}
+
+// For a phone that gives its files only as a whole.
+HRESULT OpenWhole(GFile* file, std::unique_ptr<DataReader>& reader, GCancellable* cancellable)
+{
+    std::unique_ptr<SpoolFile> spool = SpoolFile::create();
+    if (!spool)
+        return kDiskFull;
+    const GPtr<GFile> target(g_file_new_for_path(spool->path().c_str()));
+    GPtr<GError> error;
+    if (!g_file_copy(file, target.get(), G_FILE_COPY_OVERWRITE, cancellable, nullptr, nullptr,
+                     ErrorOut(error)))
+        return FromGlibError(error.get());
+    const HRESULT result = spool->startReading();
+    reader = std::move(spool);
+    return result;
+}
+
+// Whether a failure may mean that there are no partial reads. GVfs has no code of its own for it.
+bool MayLackPartialReads(HRESULT result)
+{
+    return result == E_FAIL || result == kNotSupported;
+}
+
+class LocalReader final : public DataReader
 {
 public:
-    /// \a root is null when the file is not local.
-    FileReader(GPtr<GInputStream> stream, std::shared_ptr<const LocalRoot> root)
+    LocalReader(GPtr<GInputStream> stream, std::shared_ptr<const LocalRoot> root)
         : m_stream(std::move(stream)), m_root(std::move(root))
     {
     }
 
-    bool isLocal() const override { return m_root != nullptr; }
+    bool isLocal() const override { return true; }
     HRESULT read(void* buffer, std::uint32_t size, std::uint32_t& got,
                  GCancellable* cancellable) override
     {
         got = 0;
         // An open file can be read to its end after its folder has gone.
-        if (m_root && !m_root->isThere())
-            return kDeviceGone;
-        GPtr<GError> error;
-        const gssize count =
-            g_input_stream_read(m_stream.get(), buffer, size, cancellable, ErrorOut(error));
-        got = count > 0 ? static_cast<std::uint32_t>(count) : 0;
-        return count < 0 ? FromGlibError(error.get()) : S_OK;
+        return m_root->isThere() ? ReadStream(m_stream.get(), buffer, size, got, cancellable)
+                                 : kDeviceGone;
     }
     HRESULT seek(std::uint64_t position, GCancellable* cancellable) override
     {
-        GPtr<GError> error;
-        GInputStream* stream = m_stream.get();
-        if (!G_IS_SEEKABLE(stream))
-            return kNotSupported;
-        const bool isDone = g_seekable_seek(G_SEEKABLE(stream), static_cast<goffset>(position),
-                                            G_SEEK_SET, cancellable, ErrorOut(error));
-        return isDone ? S_OK : FromGlibError(error.get());
+        return SeekStream(m_stream.get(), position, cancellable);
     }
 
 private:
     const GPtr<GInputStream> m_stream;
     const std::shared_ptr<const LocalRoot> m_root;
+};
+
+class RemoteReader final : public DataReader
+{
+public:
+    /// Without a \a file the stream is all that there is.
+    explicit RemoteReader(GPtr<GInputStream> stream, GPtr<GFile> file = nullptr)
+        : m_stream(std::move(stream)), m_file(std::move(file))
+    {
+    }
+
+    HRESULT read(void* buffer, std::uint32_t size, std::uint32_t& got,
+                 GCancellable* cancellable) override
+    {
+        if (m_whole)
+            return m_whole->read(buffer, size, got, cancellable);
+        const HRESULT result = ReadStream(m_stream.get(), buffer, size, got, cancellable);
+        const GPtr<GFile> file = std::move(m_file); // what has been read once can be read on
+        if (!file || !MayLackPartialReads(result))
+            return result;
+        const HRESULT opened = OpenWhole(file.get(), m_whole, cancellable);
+        return FAILED(opened) ? opened : m_whole->read(buffer, size, got, cancellable);
+    }
+    HRESULT seek(std::uint64_t position, GCancellable* cancellable) override
+    {
+        return m_whole ? m_whole->seek(position, cancellable)
+                       : SeekStream(m_stream.get(), position, cancellable);
+    }
+
+private:
+    const GPtr<GInputStream> m_stream;
+    GPtr<GFile> m_file;
+    std::unique_ptr<DataReader> m_whole;
 };
 
 bool IsFolder(GFileInfo* info)
@@ -292,42 +355,40 @@ HRESULT FileSession::openData(const std::wstring& id, Resource resource,
         return result;
     if (IsFolder(place.info.get()))
         return kNoElement;
-    GPtr<GError> error;
-    GPtr<GInputStream> stream;
-    if (resource == Resource::Thumbnail) {
-        GObject* icon =
-            g_file_info_get_attribute_object(place.info.get(), G_FILE_ATTRIBUTE_PREVIEW_ICON);
-        if (!G_IS_LOADABLE_ICON(icon))
-            return kNoElement;
-        stream.reset(g_loadable_icon_load(G_LOADABLE_ICON(icon), 256, nullptr, cancellable,
-                                          ErrorOut(error)));
-    } else {
-        stream.reset(G_INPUT_STREAM(g_file_read(place.file.get(), cancellable, ErrorOut(error))));
-        const bool isWhole = !stream && !g_file_is_native(place.file.get()) &&
-                             FromGlibError(error.get()) == kNotSupported;
-        if (isWhole)
-            return openWhole(place.file.get(), reader, cancellable);
-    }
-    if (!stream)
-        return FromGlibError(error.get());
-    reader = std::make_unique<FileReader>(std::move(stream), m_local);
-    return S_OK;
+    return resource == Resource::Data ? openFile(std::move(place.file), reader, cancellable)
+                                      : openThumbnail(place.info.get(), reader, cancellable);
 }
 
-HRESULT FileSession::openWhole(GFile* file, std::unique_ptr<DataReader>& reader,
-                               GCancellable* cancellable) const
+HRESULT FileSession::openFile(GPtr<GFile> file, std::unique_ptr<DataReader>& reader,
+                              GCancellable* cancellable) const
 {
-    std::unique_ptr<SpoolFile> spool = SpoolFile::create();
-    if (!spool)
-        return kDiskFull;
-    const GPtr<GFile> target(g_file_new_for_path(spool->path().c_str()));
     GPtr<GError> error;
-    if (!g_file_copy(file, target.get(), G_FILE_COPY_OVERWRITE, cancellable, nullptr, nullptr,
-                     ErrorOut(error)))
+    GPtr<GInputStream> stream(
+        G_INPUT_STREAM(g_file_read(file.get(), cancellable, ErrorOut(error))));
+    if (stream && m_local)
+        reader = std::make_unique<LocalReader>(std::move(stream), m_local);
+    else if (stream)
+        reader = std::make_unique<RemoteReader>(std::move(stream), std::move(file));
+    if (reader)
+        return S_OK;
+    const HRESULT result = FromGlibError(error.get());
+    return !m_local && MayLackPartialReads(result) ? OpenWhole(file.get(), reader, cancellable)
+                                                   : result;
+}
+
+HRESULT FileSession::openThumbnail(GFileInfo* info, std::unique_ptr<DataReader>& reader,
+                                   GCancellable* cancellable) const
+{
+    GObject* icon = g_file_info_get_attribute_object(info, G_FILE_ATTRIBUTE_PREVIEW_ICON);
+    if (!G_IS_LOADABLE_ICON(icon))
+        return kNoElement;
+    GPtr<GError> error;
+    GPtr<GInputStream> stream(g_loadable_icon_load(G_LOADABLE_ICON(icon), kThumbnailSize, nullptr,
+                                                   cancellable, ErrorOut(error)));
+    if (!stream)
         return FromGlibError(error.get());
-    const HRESULT result = spool->startReading();
-    reader = std::move(spool);
-    return result;
+    reader = std::make_unique<RemoteReader>(std::move(stream));
+    return S_OK;
 }
 
 HRESULT FileSession::checkIsEmpty(GFile* folder, GCancellable* cancellable) const

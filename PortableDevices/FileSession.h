@@ -62,8 +62,10 @@ private:
     std::wstring idOf(GFileInfo* info, const std::string& path) const;
     HRESULT parentOf(const std::string& path, std::wstring& id, GCancellable* cancellable) const;
     ObjectInfo infoOf(GFileInfo* info, const std::string& path) const;
-    HRESULT openWhole(GFile* file, std::unique_ptr<DataReader>& reader,
-                      GCancellable* cancellable) const;
+    HRESULT openFile(GPtr<GFile> file, std::unique_ptr<DataReader>& reader,
+                     GCancellable* cancellable) const;
+    HRESULT openThumbnail(GFileInfo* info, std::unique_ptr<DataReader>& reader,
+                          GCancellable* cancellable) const;
     HRESULT checkIsEmpty(GFile* folder, GCancellable* cancellable) const;
 
     GPtr<GFile> m_root;

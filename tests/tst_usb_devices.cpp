@@ -93,10 +93,10 @@ private Q_SLOTS:
     void transfer()
     {
         QFETCH(PtpDevice::Kind, kind);
-        constexpr quint64 kSize = 300 << 20;
+        const quint64 size = kind.hasPartialReads ? 300 << 20 : 30 << 20;
         PtpDevice usb(m_testbed, kind);
         const quint32 folder = usb.addFolder(usb.addFolder(0, "DCIM"), "100");
-        usb.add(folder, "\u00fcber.MP4", kSize);
+        usb.add(folder, "\u00fcber.MP4", size);
         const quint32 picture = usb.add(folder, "IMG.JPG", 3);
         const quint32 locked = usb.add(folder, "LOCKED.JPG", 0, true);
         const QString id = WaitForDevice();
@@ -108,7 +108,7 @@ private Q_SLOTS:
         const auto tree = device.tree();
         const QString top = tree.firstKey() + "/DCIM/100/";
         QCOMPARE(tree.size(), 6);
-        QCOMPARE(tree[top + "\u00fcber.MP4"].size, kSize);
+        QCOMPARE(tree[top + "\u00fcber.MP4"].size, size);
         QCOMPARE(tree[top + "IMG.JPG"].modified, 45351.5);
 
         QByteArray hash;
@@ -116,9 +116,9 @@ private Q_SLOTS:
         int steps = 0;
         const auto count = [&steps](quint64) { return ++steps > 0; };
         QCOMPARE(device.read(tree[top + "\u00fcber.MP4"].id, hash, total, count), S_FALSE);
-        QCOMPARE(total, kSize);
-        QCOMPARE(hash, HashOf(kSize));
-        QVERIFY(steps >= 300);
+        QCOMPARE(total, size);
+        QCOMPARE(hash, HashOf(size));
+        QVERIFY(steps >= int(size >> 20));
         QCOMPARE(usb.wholeReads > 0, !kind.hasPartialReads);
         QCOMPARE(usb.partialReads > 0, kind.hasPartialReads);
 
