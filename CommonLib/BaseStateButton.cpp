@@ -107,7 +107,8 @@ void BaseStateButton::childEvent(QChildEvent* event)
         if (static_cast<QObject*>(m_buttons.at(i)) != event->child())
             continue;
         m_buttons.removeAt(i);
-        if (m_currentIndex > i)
+        const bool wasLast = m_currentIndex == i && i == m_buttons.size();
+        if (m_currentIndex > i || (wasLast && i > 0))
             --m_currentIndex;
         LayOut();
         return;

@@ -13,7 +13,8 @@ namespace {
 constexpr int WarpDistance = 5;    // pixels
 constexpr int PauseDuration = 200; // ms
 
-/// Middle of the primary screen, in native pixels over the whole scale.
+/// Lower right corner over twice the whole scale: the middle of a primary screen at (0, 0) whose
+/// geometry counts native pixels, further up and left where the toolkit scales, as intended.
 QPoint Anchor(const QPoint& fallback)
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
@@ -37,8 +38,8 @@ bool IsAtEdge(const QPoint& position)
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
     constexpr int Margin = 2 * WarpDistance;
-    return screen &&
-           !screen->geometry().adjusted(Margin, Margin, -Margin, -Margin).contains(position);
+    return screen && (position.x() < screen->geometry().left() + Margin ||
+                      position.x() > screen->geometry().right() - Margin);
 }
 
 // A finger or a pen is where it is; a program cannot move it.
@@ -117,6 +118,8 @@ bool DragValueChangedHelper::eventFilter(QObject* watched, QEvent* event)
 
 void DragValueChangedHelper::WatchWidget(const QEvent& event)
 {
+    // Only while usable: one that is disabled under the pointer keeps the hover cursor until it is
+    // hidden, as intended.
     const bool usable = m_widget->isVisible() && m_widget->isEnabled();
     switch (event.type()) {
     case QEvent::Enter:
@@ -274,6 +277,11 @@ bool DragValueChangedHelper::Release(QObject* receiver, QMouseEvent& event)
         m_intercept = false;
         if (const auto press = std::move(s_press))
             QCoreApplication::sendEvent(receiver, press.get());
+        if (self && !m_pressed) {
+            // Once more: the widget may have passed the focus on to an editor of its own.
+            PopAllCursors();
+            m_intercept = false;
+        }
         if (self && alive && receiver->isWidgetType())
             PlaceRelease(*static_cast<QWidget*>(receiver), event);
         else if (self)

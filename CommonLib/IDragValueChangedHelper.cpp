@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <utility>
+
 IDragValueChangedHelper::IDragValueChangedHelper(QWidget* widget)
     : QObject(widget), m_helper(new DragValueChangedHelper(widget))
 {
@@ -128,9 +130,9 @@ bool IDragValueChangedHelper::GetLoop() const
     return m_helper->m_loop;
 }
 
-void IDragValueChangedHelper::SetHoverCursor(const QCursor& cursor)
+void IDragValueChangedHelper::SetHoverCursor(QCursor cursor)
 {
-    m_helper->m_hoverCursor = cursor;
+    m_helper->m_hoverCursor = std::move(cursor);
 }
 
 QCursor IDragValueChangedHelper::GetHoverCursor() const
@@ -138,7 +140,7 @@ QCursor IDragValueChangedHelper::GetHoverCursor() const
     return m_helper->m_hoverCursor;
 }
 
-void IDragValueChangedHelper::SetInteractiveRectangle(const QRect& rectangle)
+void IDragValueChangedHelper::SetInteractiveRectangle(QRect rectangle)
 {
     m_helper->m_interactiveRect = rectangle;
 }

@@ -28,7 +28,7 @@ class COMMONLIB_EXPORT IDragValueChangedHelper : public QObject
     Q_OBJECT
 
 public:
-    /// Watches \a widget, which becomes the parent. One object serves one widget.
+    /// Watches \a widget, which becomes the parent and must stay it. One object serves one widget.
     explicit IDragValueChangedHelper(QWidget* widget);
     ~IDragValueChangedHelper() override;
 
@@ -66,11 +66,11 @@ public:
     bool GetLoop() const;
 
     /// Pointer over the widget; Qt::SizeHorCursor by default.
-    void SetHoverCursor(const QCursor& cursor);
+    void SetHoverCursor(QCursor cursor);
     QCursor GetHoverCursor() const;
     /// Part of the widget, in its own coordinates, where a press begins a drag. An invalid one, the
     /// default, stands for all of it.
-    void SetInteractiveRectangle(const QRect& rectangle);
+    void SetInteractiveRectangle(QRect rectangle);
     QRect GetInteractiveRectangle() const;
 
 Q_SIGNALS:

@@ -28,7 +28,7 @@ ImageTextButton::ImageTextButton(int id, const QString& name, QWidget* parent)
     setAttribute(Qt::WA_StyledBackground);
     m_text->setObjectName(QStringLiteral("ImageTextButton_Text"));
     m_text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    // Else the text would lose its hover style to the image and swallow nothing in exchange.
+    // The mouse belongs to the whole button, which passes enter and leave on to the text.
     m_text->setAttribute(Qt::WA_TransparentForMouseEvents);
     connect(m_image, &BaseButton::Clicked, this, &ImageTextButton::Clicked);
     resize(kInitialSide, kInitialSide);
@@ -126,7 +126,6 @@ void ImageTextButton::LayOut()
 
 void ImageTextButton::PassToText(QEvent* event)
 {
-    QEvent copy(event->type());
-    QCoreApplication::sendEvent(m_text, &copy);
+    QCoreApplication::sendEvent(m_text, event);
     m_text->update();
 }

@@ -26,6 +26,8 @@ constexpr int kPagesPerRange = 10;
 PureSlider::PureSlider(QWidget* parent) : QWidget(parent)
 {
     InstallWidgetAccessibility();
+    setObjectName(QStringLiteral("CommonLib_PureSlider"));
+    setAttribute(Qt::WA_StyledBackground);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
@@ -34,7 +36,7 @@ void PureSlider::SetRange(int min, int max)
 {
     m_minimum = min < max ? min : kDefaultMinimum;
     m_maximum = min < max ? max : kDefaultMaximum;
-    SetValue(m_value);
+    update();
 }
 
 void PureSlider::GetRange(int* min, int* max) const
@@ -101,7 +103,8 @@ void PureSlider::paintEvent(QPaintEvent*)
     painter.fillRect(rect(), m_addpageColor);
     // In 64 bits: the range may span all of an int.
     const qint64 range = qint64(m_maximum) - m_minimum;
-    const auto filled = static_cast<int>(width() * (qint64(m_value) - m_minimum) / range);
+    const qint64 above = qint64(qBound(m_minimum, m_value, m_maximum)) - m_minimum;
+    const auto filled = static_cast<int>(width() * above / range);
     painter.fillRect(0, 0, filled, height(), m_subpageColor);
     // A frame one pixel wide. In strips, as a pen would straddle the edge at other scales than 1.
     const QColor frame = m_keyboardFocus ? palette().color(QPalette::Highlight) : m_borderColor;

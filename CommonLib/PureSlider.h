@@ -22,8 +22,8 @@ class COMMONLIB_EXPORT PureSlider : public QWidget
 public:
     explicit PureSlider(QWidget* parent);
 
-    /// 0 to 100 by default, and when \a min is not below \a max. The value follows into the range,
-    /// which is told as by SetValue().
+    /// 0 to 100 by default, and when \a min is not below \a max. The value stays until it is
+    /// set again; meanwhile it shows at the nearer end.
     void SetRange(int min, int max);
     /// A null pointer is left alone.
     void GetRange(int* min, int* max) const;

@@ -2,6 +2,7 @@
 #include "CommonLib/WidgetAccessibility_p.h"
 
 #include "CommonLib/BaseButton.h"
+#include "CommonLib/BaseStateButton.h"
 #include "CommonLib/ImageTextButton2.h"
 #include "CommonLib/PureSlider.h"
 #include "CommonLib/ScaleUnitSlider.h"
@@ -68,7 +69,13 @@ public:
     }
 
 protected:
-    void Press() override { m_button->click(); }
+    void Press() override
+    {
+        if (auto* states = qobject_cast<BaseStateButton*>(m_button))
+            states->ClickCurrentButton();
+        else
+            m_button->click();
+    }
 
 private:
     BaseButton* m_button;
@@ -130,7 +137,8 @@ public:
     QVariant currentValue() const override { return m_slider->value(); }
     void setCurrentValue(const QVariant& value) override
     {
-        m_slider->ChangeByUser(value.toDouble());
+        if (m_slider->isEnabled())
+            m_slider->ChangeByUser(value.toDouble());
     }
     QVariant maximumValue() const override
     {
@@ -153,7 +161,11 @@ public:
     {
     }
     QVariant currentValue() const override { return m_slider->GetValue(); }
-    void setCurrentValue(const QVariant& value) override { m_slider->SetValue(value.toInt()); }
+    void setCurrentValue(const QVariant& value) override
+    {
+        if (m_slider->isEnabled())
+            m_slider->SetValue(value.toInt());
+    }
     QVariant maximumValue() const override { return Range().second; }
     QVariant minimumValue() const override { return Range().first; }
     QVariant minimumStepSize() const override { return 1; }
