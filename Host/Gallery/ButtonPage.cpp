@@ -13,15 +13,20 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kIcon = 18;
 constexpr int kSquare = 32;
 constexpr QSize kWide(148, 32); // an ImageTextButton beside, and above or below its text
 constexpr QSize kTall(72, 96);
+constexpr QSize kTab(72, 72);
+constexpr int kTextMargin = 12;
 constexpr int kTabIcon = 26;
 constexpr int kCaptionWidth = 110;
 constexpr int kRowGap = 22;
+constexpr int kColumnGap = 16;
 const QColor kLine(0xd5, 0xd8, 0xdc);
 const QColor kQuiet(0x92, 0x99, 0xa1);
 const QColor kAccent(0x4d, 0xa3, 0xff);
@@ -32,6 +37,17 @@ QHBoxLayout* MakeRow(QWidget* box)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
     return layout;
+}
+
+// Gives the button its size, or more where its text needs it. An image above or below the text is
+// as high as the button is wide.
+void FitText(QWidget* button, const QString& text, QSize size)
+{
+    button->ensurePolished();
+    const int beside = size == kWide ? kWide.height() : 0;
+    const int wanted = button->fontMetrics().horizontalAdvance(text) + 2 * kTextMargin + beside;
+    const int growth = std::max(0, wanted - size.width());
+    button->setFixedSize(size + QSize(growth, size == kTall ? growth : 0));
 }
 
 } // namespace
@@ -45,6 +61,7 @@ ButtonPage::ButtonPage(QWidget* parent) : QWidget(parent), m_told(new QLabel(thi
     grid->setColumnMinimumWidth(0, kCaptionWidth);
     grid->setColumnStretch(1, 1);
     grid->setVerticalSpacing(kRowGap);
+    grid->setHorizontalSpacing(kColumnGap);
     const auto add = [&](const char* caption, QWidget* row) {
         auto* name = new QLabel(this);
         KeepTranslated(name, [name, caption] { name->setText(tr(caption)); });
@@ -134,10 +151,12 @@ QWidget* ButtonPage::MakeImagesAndTexts()
     const auto add = [&](int align, const char* text, const QSize& size) {
         auto* button =
             new ImageTextButton(40 + align, QStringLiteral("Gallery_Image%1").arg(align), box);
-        KeepTranslated(button, [button, text] { button->SetText(tr(text)); });
+        KeepTranslated(button, [button, text, size] {
+            button->SetText(tr(text));
+            FitText(button, tr(text), size);
+        });
         button->SetImageAlign(align);
         button->SetImageWidth(kIcon);
-        button->setFixedSize(size);
         button->findChild<BaseButton*>()->setIcon(SymbolIcon(Symbol::Film, kLine));
         connect(button, &ImageTextButton::Clicked, this,
                 [this](int k) { Tell(tr("Clicked %1").arg(k)); });
@@ -167,10 +186,12 @@ QWidget* ButtonPage::MakeTabs()
                 {Symbol::Star, QT_TR_NOOP("Effects")}};
     for (const auto& row : tabs) {
         auto* tab = new ImageTextButton2(50 + layout->count(), QStringLiteral("Gallery_Tab"), box);
-        KeepTranslated(tab, [tab, text = row.text] { tab->SetText(tr(text)); });
+        KeepTranslated(tab, [tab, text = row.text] {
+            tab->SetText(tr(text));
+            FitText(tab, tr(text), kTab);
+        });
         tab->SetNormalImage(SymbolPixmap(row.symbol, kQuiet, kTabIcon, devicePixelRatioF()));
         tab->SetSelectedImage(SymbolPixmap(row.symbol, kAccent, kTabIcon, devicePixelRatioF()));
-        tab->setFixedSize(72, 72);
         connect(tab, &ImageTextButton2::sigSelected, this, [this, box](int id) {
             for (ImageTextButton2* other : box->findChildren<ImageTextButton2*>()) {
                 if (other->GetId() != id)
