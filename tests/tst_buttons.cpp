@@ -6,13 +6,8 @@
 #include "CommonLib/ImageTextButton2.h"
 #include "CommonLib/MagicLabel.h"
 
-#include <QAccessible>
-#include <QBitmap>
-#include <QLabel>
-#include <QPointer>
-#include <QSignalSpy>
-#include <QStyle>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -29,15 +24,14 @@ void Key(QWidget* widget, int key)
 }
 
 // The ids and, when it is not the upper left corner of \a widget, the points that a signal told.
-QStringList Told(QSignalSpy& spy, const QWidget& widget)
+QString Told(QSignalSpy& spy, const QWidget& widget)
 {
-    QStringList told;
-    for (const QVariantList& arguments : qAsConst(spy)) {
-        told << arguments.at(0).toString();
-        if (arguments.size() > 1 && arguments.at(1).toPoint() != widget.mapToGlobal({}))
-            told << "elsewhere";
+    QString told;
+    while (!spy.isEmpty()) {
+        const QVariantList arguments = spy.takeFirst();
+        const QPoint at = arguments.value(1, widget.mapToGlobal({})).toPoint();
+        told += arguments[0].toString() + (at == widget.mapToGlobal({}) ? "" : " elsewhere");
     }
-    spy.clear();
     return told;
 }
 
@@ -62,13 +56,12 @@ struct States : BaseStateButton
             AddButton(id, QString::number(id));
         show();
     }
-    QStringList Shown() const
+    QString Shown() const
     {
-        QStringList shown;
-        for (const BaseButton* button : findChildren<BaseButton*>()) {
-            if (button->isVisible() && button->geometry() == rect())
-                shown << button->objectName();
-        }
+        QString shown;
+        for (const BaseButton* button : findChildren<BaseButton*>())
+            shown +=
+                button->isVisible() && button->geometry() == rect() ? button->objectName() : "";
         return shown;
     }
 };
@@ -116,15 +109,15 @@ private slots:
         QSignalSpy clicked(&button, &BaseButton::Clicked), pressed(&button, &BaseButton::Pressed),
             entered(&button, &BaseButton::sigEnter), left(&button, &BaseButton::sigLeave);
         QTest::mousePress(&button, Qt::LeftButton);
-        QCOMPARE(Told(pressed, button), QStringList("7"));
+        QCOMPARE(Told(pressed, button), QString("7"));
         QCOMPARE(clicked.size(), 0);
         QTest::mouseRelease(&button, Qt::LeftButton);
-        QCOMPARE(Told(clicked, button), QStringList("7"));
+        QCOMPARE(Told(clicked, button), QString("7"));
         entered.clear(); // of a pointer that happens to be there
         Send(&button, QEvent::Enter);
-        QCOMPARE(Told(entered, button), QStringList("7"));
+        QCOMPARE(Told(entered, button), QString("7"));
         Send(&button, QEvent::Leave);
-        QCOMPARE(Told(left, button).last(), QString("7"));
+        QCOMPARE(Told(left, button).right(1), QString("7"));
         button.SetEnabled(false);
         QTest::mouseClick(&button, Qt::LeftButton);
         QCOMPARE(pressed.size() + clicked.size(), 0);
@@ -135,25 +128,25 @@ private slots:
         States states;
         QSignalSpy spy(&states, &BaseStateButton::Clicked);
         for (const QString id : {"11", "12", "13"}) {
-            QCOMPARE(states.Shown(), QStringList(id));
+            QCOMPARE(states.Shown(), id);
             QCOMPARE(QString::number(states.CurrentButtonId()), id);
             QTest::mouseClick(states.windowHandle(), Qt::LeftButton, {}, {5, 5});
-            QCOMPARE(Told(spy, states), QStringList(id));
+            QCOMPARE(Told(spy, states), id);
         }
-        QCOMPARE(states.Shown(), QStringList("11"));
+        QCOMPARE(states.Shown(), QString("11"));
         states.ClickCurrentButton();
-        QCOMPARE(Told(spy, states), QStringList("11"));
+        QCOMPARE(Told(spy, states), QString("11"));
         states.resize(80, 60);
-        QCOMPARE(states.Shown(), QStringList("12"));
+        QCOMPARE(states.Shown(), QString("12"));
         states.SetCurrentButtonId(13);
-        QCOMPARE(states.Shown(), QStringList("13"));
+        QCOMPARE(states.Shown(), QString("13"));
         states.SetCurrentButtonId(99);
-        QCOMPARE(states.Shown(), QStringList());
+        QCOMPARE(states.Shown(), QString());
         QCOMPARE(states.CurrentButtonId(), 13);
         states.ClickCurrentButton();
         QCOMPARE(spy.size(), 0);
         states.Restore();
-        QCOMPARE(states.Shown(), QStringList("11"));
+        QCOMPARE(states.Shown(), QString("11"));
         QCOMPARE(states.BaseStateButtonId(), 9);
         QVERIFY(!states.GetButton(99));
         const BaseStateButton none(9, {}, nullptr);
@@ -171,18 +164,18 @@ private slots:
         states.AddButton(added);
         states.SetCurrentButtonId(12);
         delete states.GetButton(11);
-        QCOMPARE(states.Shown(), QStringList("12"));
+        QCOMPARE(states.Shown(), QString("12"));
         added->setParent(nullptr);
         emit added->Clicked(14, {});
         states.ClickCurrentButton();
-        QCOMPARE(Told(spy, states), QStringList("12"));
-        QCOMPARE(states.Shown(), QStringList("13"));
+        QCOMPARE(Told(spy, states), QString("12"));
+        QCOMPARE(states.Shown(), QString("13"));
         states.ClickCurrentButton();
-        QCOMPARE(states.Shown(), QStringList("12"));
+        QCOMPARE(states.Shown(), QString("12"));
         states.AddButton(added);
         states.SetCurrentButtonId(14);
         states.ClickCurrentButton();
-        QCOMPARE(states.Shown(), QStringList("12")); // advanced once, not twice
+        QCOMPARE(states.Shown(), QString("12")); // advanced once, not twice
         // The keyboard stays on it, although another button is next.
         QPushButton next(&states);
         next.show();
@@ -225,8 +218,8 @@ private slots:
         QApplication::setLayoutDirection(Qt::LeftToRight);
         gSetArgLang(false);
         QCOMPARE(before.alignment(), Qt::AlignLeft | Qt::AlignVCenter);
-        QCOMPARE(plain.alignment(), Qt::AlignRight | Qt::AlignVCenter);
-        QCOMPARE(text.alignment(), Qt::AlignRight | Qt::AlignVCenter);
+        for (const MagicLabel* label : {&plain, &text})
+            QCOMPARE(label->alignment(), Qt::AlignRight | Qt::AlignVCenter);
         QVERIFY(QStyle::visualAlignment(Qt::RightToLeft, mirrored.alignment()) & Qt::AlignRight);
     }
 
@@ -271,7 +264,7 @@ private slots:
         QSignalSpy clicked(&button, &ImageTextButton::Clicked);
         for (const QPoint at : {QPoint(20, 20), QPoint(80, 20)}) { // the image, then the text
             QTest::mouseClick(button.windowHandle(), Qt::LeftButton, {}, at);
-            QCOMPARE(Told(clicked, button), QStringList("5"));
+            QCOMPARE(Told(clicked, button), QString("5"));
         }
         QTest::mousePress(button.windowHandle(), Qt::LeftButton, {}, {80, 20});
         QTest::mouseRelease(button.windowHandle(), Qt::LeftButton, {}, {80, 60});
@@ -321,25 +314,22 @@ private slots:
         tab.SetButtonState(ImageTextButton2::Normal);
         Key(&tab, Qt::Key_Space);
         QVERIFY(!bounds(Qt::blue).isNull());
-        QCOMPARE(Told(selected, tab), QStringList({"6", "6"}));
+        QCOMPARE(Told(selected, tab), QString("66"));
     }
 
     void accessibleNames()
     {
-        BaseButton button("objectName", nullptr);
+        BaseButton button("name", nullptr);
         ImageTextButton2 tab(1, "tab", nullptr);
         tab.SetText("Media");
         const auto name = [](QWidget& widget) {
             return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
         };
         QCOMPARE(name(tab), QString("Media"));
-        QCOMPARE(name(button), QString("objectName"));
-        button.setToolTip("tool tip");
-        QCOMPARE(name(button), QString("tool tip"));
-        button.setText("text");
-        QCOMPARE(name(button), QString("text"));
-        button.setAccessibleName("given");
-        QCOMPARE(name(button), QString("given"));
+        for (const char* property : {"objectName", "toolTip", "text", "accessibleName"}) {
+            button.setProperty(property, property);
+            QCOMPARE(name(button), QString(property));
+        }
 
         QSignalSpy clicked(&button, &BaseButton::Clicked),
             selected(&tab, &ImageTextButton2::sigSelected);
