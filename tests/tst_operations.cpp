@@ -5,14 +5,8 @@
 #include "CommonLib/StringOperation.h"
 #include "tests/support/FolderLink.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileDialog>
-#include <QFontMetrics>
-#include <QLabel>
-#include <QTemporaryDir>
-#include <QTimer>
 #include <QtTest>
+#include <QtWidgets>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -58,7 +52,7 @@ bool AnswerDialog(const QString& title, const QString& folder, bool accept)
     auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
     if (!dialog || dialog->windowTitle() != title)
         return false;
-    dialog->selectFile(folder);
+    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(folder); // as typed
     accept ? static_cast<QDialog*>(dialog)->accept() : dialog->reject();
     return true;
 }
