@@ -17,8 +17,8 @@ public:
     static constexpr qint64 kLongestFile = qint64(4) * 1024 * 1024;
 
     /// Reads a file. Whatever was read before is forgotten, also when this fails: the path names no
-    /// regular file, the file cannot be read, is longer than kLongestFile, is not well-formed XML
-    /// or has another root element.
+    /// regular file, the file cannot be read, is longer than kLongestFile, is not well-formed XML,
+    /// has another root element or an element within a value.
     bool Load(const QString& path);
 
     /// The value, without white space at its ends; nothing when there is none. Case counts.

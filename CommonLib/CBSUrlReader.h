@@ -26,7 +26,7 @@ public:
     ~CBSUrlReader() override;
 
     /// The value \a second of the group \a first, as the module gives it; an empty text when there
-    /// is none. At most 256 characters. Every call asks the module again.
+    /// is none. At most 255 characters. Every call asks the module again.
     ///
     /// A module that reports success but writes nothing gives "0".
     QString ReadCustomerUrl(const QString& first, const QString& second);

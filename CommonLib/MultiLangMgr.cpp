@@ -61,8 +61,10 @@ MultiLangMgr::~MultiLangMgr()
 
 void MultiLangMgr::Init()
 {
-    for (const Language_Locale locale : qAsConst(LanguageCodes()))
-        m_translators.append(new LanguageTranslators(locale));
+    int count = 0;
+    const LangConstInfo* rows = GetGlobalLangConstInfos(count);
+    for (int row = 0; row < count; ++row)
+        m_translators.append(new LanguageTranslators(rows[row].locale));
 }
 
 MultiLangMgr* MultiLangMgr::GetInstance()

@@ -104,12 +104,21 @@ bool Split(Bytes file, Sections& sections)
     return true;
 }
 
+/// Stands for the length of an empty translation.
+constexpr quint32 EmptyText = 0xFFFFFFFF;
+
 /// A message is a row of tagged fields; the toolkit stops at any other tag.
 bool IsSoundMessage(Bytes message)
 {
     while (message.Left() > 0) {
         switch (message.Read<uchar>()) {
-        case Translation:
+        case Translation: {
+            const auto length = message.Read<quint32>();
+            if (length == EmptyText)
+                return true; // the toolkit stops here
+            message.Skip(length);
+            break;
+        }
         case SourceText:
         case Context:
         case Comment:

@@ -41,7 +41,7 @@ private:
         for (QString& line : lines)
             line.replace(
                 QRegularExpression("-INFO- \\[CaptionEnvironment::(\\w+)\\]:  (.*) - "
-                                   "\\[CommonLib/GlobalResources/CaptionEnvironment\\(\\d+\\)\\]"),
+                                   "\\[CommonLib/GlobalResources\\(\\d+\\)\\]"),
                 "\\1: \\2");
         return lines;
     }

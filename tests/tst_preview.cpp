@@ -145,7 +145,7 @@ private Q_SLOTS:
         composite = MakeCom<Composite>("composite");
         composite->clips = {node};
         cache = MakeCom<Cache>("cache");
-        cache->onStop = [this] { cache->Report(9, RenderCache_StoppedByUser); };
+        cache->onStop = [this] { cache->Report(9, Helper::StoppedByUser); };
         auto setting = MakeCom<ProjectSetting>("setting");
         setting->profile.frameSize = {1081, 1921};
         node->Offer<INLETimelineComposite>(composite);
@@ -193,10 +193,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<HRESULT>("status");
         QTest::addColumn<QList<long>>("states");
-        QTest::newRow("rendering") << HRESULT(S_FALSE) << QList<long>{RenderCache_Caching};
-        QTest::newRow("no access") << E_ACCESSDENIED << QList<long>{RenderCache_FolderUnwriteable};
-        QTest::newRow("refused") << E_INVALIDARG << QList<long>{RenderCache_FolderUnwriteable};
-        QTest::newRow("nothing to do") << E_FAIL << QList<long>{RenderCache_Finished};
+        QTest::newRow("rendering") << HRESULT(S_FALSE) << QList<long>{Helper::Caching};
+        QTest::newRow("no access") << E_ACCESSDENIED << QList<long>{Helper::FolderUnwriteable};
+        QTest::newRow("refused") << E_INVALIDARG << QList<long>{Helper::FolderUnwriteable};
+        QTest::newRow("nothing to do") << E_FAIL << QList<long>{Helper::Finished};
         QTest::newRow("anything else") << E_OUTOFMEMORY << QList<long>();
     }
 
@@ -270,9 +270,9 @@ private Q_SLOTS:
                 [&](long progress, long cached, long total) {
                     seen += {progress, cached, total};
                 });
-        cache->Report(50, RenderCache_Caching, 4);
-        cache->Report(99, RenderCache_LowDisk, 7);
-        cache->Report(100, RenderCache_Caching, 8);
+        cache->Report(50, Helper::Caching, 4);
+        cache->Report(99, Helper::LowDisk, 7);
+        cache->Report(100, Helper::Caching, 8);
         cache->render(100, 0, 0, 0, nullptr);
         QVERIFY(seen.isEmpty()); // only queued
         QCoreApplication::processEvents();
@@ -295,7 +295,7 @@ private Q_SLOTS:
         for (const int frame :
              {14, 20, 30, 40, -13, -21, -29, -41}) // the ends too; not those below 0
             QCOMPARE(helper->IsFramNeedRender(std::abs(frame)), frame > 0);
-        QCOMPARE(seen.last(), QList<long>{RenderCache_Idle});
+        QCOMPARE(seen.last(), QList<long>{Helper::Idle});
         // A segment that cannot be read keeps the answers of the one before, with an empty range.
         cache->segments = {{Range{0, 9}, 1, 10}};
         Ranges none;
@@ -303,8 +303,10 @@ private Q_SLOTS:
         QVERIFY(!helper->IsNeedRender() && !helper->IsFramNeedRender(14));
 
         helper->StartRender();
-        timeline.reset(); // while it renders
-        cache->Report(50, RenderCache_Caching);
+        helper->doDelayedUpdate(0);
+        timeline.reset(); // while it renders, with an update due
+        QVERIFY(!Helper::CheckAnsyUpdateUserData(helper));
+        cache->Report(50, Helper::Caching);
         QCoreApplication::processEvents();
     }
 
@@ -335,7 +337,7 @@ private Q_SLOTS:
         QVERIFY(timer.elapsed() >= 30000);
         QVERIFY(helper->IsCaching());
         QCOMPARE(Log().join('|'), told.arg("failed", "timeOut"));
-        helper->SetCachingState(RenderCache_Idle);
+        helper->SetCachingState(Helper::Idle);
     }
 
     void updates()
@@ -369,11 +371,11 @@ private Q_SLOTS:
         QCOMPARE(Calls("SetUpdateCallback"), QStringList("cache.SetUpdateCallback(false)"));
         QCOMPARE(Log(), QStringList("ClearUpdate......"));
 
-        helper->SetCachingState(RenderCache_Caching);
+        helper->SetCachingState(Helper::Caching);
         helper->UpdateSysc();
         helper->doDelayedUpdate(0);
         QTRY_COMPARE(progress.size(), 5); // nothing but the countdown's restart
-        helper->SetCachingState(RenderCache_Idle);
+        helper->SetCachingState(Helper::Idle);
         QCOMPARE(script.TakeCalls(), QStringList());
         timeline.reset();
         QVERIFY(!Helper::CheckAnsyUpdateUserData(helper));
@@ -391,11 +393,11 @@ private Q_SLOTS:
         QTRY_VERIFY(helper->IsCaching());
         helper->SetForceStopAutoStartRender(true);
         helper->UpdateSysc();
-        cache->Report(50, RenderCache_Caching);
+        cache->Report(50, Helper::Caching);
         QCoreApplication::processEvents();
         QVERIFY(!countdown->isActive());
         QCOMPARE(progress.size(), 0);
-        helper->SetCachingState(RenderCache_Idle);
+        helper->SetCachingState(Helper::Idle);
         script.TakeCalls();
         helper->SetAutoRenderEnable(true, 0);
         QTest::qWait(50);

@@ -254,6 +254,16 @@ private slots:
         }
     }
 
+    // However off its centre it is grabbed.
+    void verticalChunkCentresItself()
+    {
+        Bar bar(Qt::Vertical);
+        bar.ChunkAt();
+        bar.Press(3);
+        bar.Release(103);
+        QCOMPARE(bar.value(), 48.0F);
+    }
+
     void setByItsHandler()
     {
         Bar bar;
@@ -302,23 +312,6 @@ private slots:
             Key(&bar, Qt::Key_A);
             QVERIFY(bar.log.isEmpty());
         }
-    }
-
-    void touchAndGrab()
-    {
-        Bar bar;
-        QWindow* window = bar.windowHandle();
-        QTouchDevice* finger = QTest::createTouchDevice();
-        QTest::touchEvent(window, finger).press(0, QPoint(107, 10), window);
-        QTest::touchEvent(window, finger).move(0, QPoint(57, 10), window);
-        QTest::touchEvent(window, finger).release(0, QPoint(57, 10), window);
-        QCOMPARE(bar.TakeLog(), QString("start 50 startDrag 25 end endDrag"));
-        // A vertical chunk centres itself wherever it is grabbed.
-        Bar vertical(Qt::Vertical);
-        vertical.ChunkAt();
-        vertical.Press(3);
-        vertical.Release(103);
-        QCOMPARE(vertical.value(), 48.0F);
     }
 
     void oneMovePerTurn()

@@ -21,7 +21,7 @@
 
 namespace {
 
-constexpr char SourcePath[] = "CommonLib/GlobalResources/CaptionEnvironment";
+constexpr char SourcePath[] = "CommonLib/GlobalResources";
 constexpr char ConstructorName[] = "CaptionEnvironment::CaptionEnvironment";
 constexpr char AddFontsName[] = "CaptionEnvironment::AddFonts";
 constexpr char AddSystemFontsName[] = "CaptionEnvironment::AddSystemFonts";

@@ -31,7 +31,9 @@ constexpr float ProjectScale = 0.5f;
     GetGlobalLogInstance()->LogInfo(SourcePath, "FPreViewRenderHelper::" function, __LINE__,       \
                                     __VA_ARGS__)
 
-/// As the log has it.
+// The misspellings in this file's messages are intended: readers of the log know them.
+
+/// "ture" is intended.
 const char* Answer(bool success)
 {
     return success ? "ture" : "false";
@@ -86,6 +88,8 @@ FPreViewRenderHelper::~FPreViewRenderHelper()
     }
     const QMutexLocker lock(&s_asynUpdateUserDatasMutex);
     m_renderUserDatas.removeOne(this);
+    // An update that was due has run while this one waited.
+    m_asynUpdateUserDatas.removeOne(this);
 }
 
 INLEBackgroundCache* FPreViewRenderHelper::EnsureCache()
@@ -111,27 +115,27 @@ bool FPreViewRenderHelper::IsState(RenderCacheState state) const
 
 bool FPreViewRenderHelper::IsCaching() const
 {
-    return IsState(RenderCache_Caching);
+    return IsState(Caching);
 }
 
 bool FPreViewRenderHelper::IsLowDisk() const
 {
-    return IsState(RenderCache_LowDisk);
+    return IsState(LowDisk);
 }
 
 bool FPreViewRenderHelper::IsFolderFull() const
 {
-    return IsState(RenderCache_FolderFull);
+    return IsState(FolderFull);
 }
 
 bool FPreViewRenderHelper::IsFolderUnWriteable() const
 {
-    return IsState(RenderCache_FolderUnwriteable);
+    return IsState(FolderUnwriteable);
 }
 
 bool FPreViewRenderHelper::IsFinished() const
 {
-    return IsState(RenderCache_Finished);
+    return IsState(Finished);
 }
 
 bool FPreViewRenderHelper::IsNeedRender() const
@@ -152,7 +156,7 @@ QString FPreViewRenderHelper::GetCacheDirectory() const
     return m_cacheDir;
 }
 
-QString FPreViewRenderHelper::GetUserSetRenderPath(const QString& folder)
+QString FPreViewRenderHelper::GetUserSetRenderPath(QString folder)
 {
     return folder + QDir::separator() + QStringLiteral(".RenderCache");
 }
@@ -168,6 +172,7 @@ void FPreViewRenderHelper::GetRenderProgress(QList<QPair<int, int>>& cached,
 {
     INLEBackgroundCacheStat* stat = EnsurePart(m_cacheStat);
     const long count = stat ? stat->GetCount() : 0;
+    // Not cleared for each segment, as the range is; that is intended.
     long valid = 0;
     int cachedTo = 0;
     for (int index = 0; index < count; ++index) {
@@ -182,10 +187,10 @@ void FPreViewRenderHelper::GetRenderProgress(QList<QPair<int, int>>& cached,
     }
     m_needRenderRanges = needRender;
     if (IsNeedRender() && IsFinished())
-        SetCachingState(RenderCache_Idle);
+        SetCachingState(Idle);
 }
 
-bool FPreViewRenderHelper::SetCacheDirectory(const QString& folder)
+bool FPreViewRenderHelper::SetCacheDirectory(QString folder)
 {
     bool success = false;
     if (INLEBackgroundCache* cache = EnsureCache()) {
@@ -197,7 +202,7 @@ bool FPreViewRenderHelper::SetCacheDirectory(const QString& folder)
         LOG_INFO("SetCacheDirectory", "folderSize:%s forder:%s",
                  qUtf8Printable(QString::number(quota)), WideAsNarrow(folder));
         success = SUCCEEDED(cache->SetCacheFolder(ToWide(folder).c_str(), quota, DiskReserve));
-        SetCachingState(RenderCache_Idle);
+        SetCachingState(Idle);
         delayedAsyncUpdate();
         if (success)
             m_cacheDir = folder;
@@ -252,7 +257,7 @@ void FPreViewRenderHelper::StartRender()
         GetGlobalLogInstance()->LogError(
             SourcePath, "FPreViewRenderHelper::StartRender", __LINE__,
             "Preview Render CacheDir is not exist, CacheDir mkpath failed!");
-        SetCachingState(RenderCache_FolderUnwriteable);
+        SetCachingState(FolderUnwriteable);
         return;
     }
 
@@ -260,12 +265,12 @@ void FPreViewRenderHelper::StartRender()
     const NLESize resolution{m_cacheWidth, m_cacheHeight};
     const HRESULT status = m_backgroundCache->Start(&resolution, &OnRender, this);
     if (SUCCEEDED(status)) {
-        SetCachingState(RenderCache_Caching);
+        SetCachingState(Caching);
     } else if (status == E_ACCESSDENIED || status == E_INVALIDARG) {
-        SetCachingState(RenderCache_FolderUnwriteable);
+        SetCachingState(FolderUnwriteable);
     } else if (status == E_FAIL) {
         // The engine has nothing to render.
-        SetCachingState(RenderCache_Finished);
+        SetCachingState(Finished);
         doDelayedUpdate(UpdateDelay);
     }
 }
@@ -278,7 +283,7 @@ void FPreViewRenderHelper::StopRender()
     }
     if (EnsureCache() && SUCCEEDED(m_backgroundCache->Stop())) {
         LOG_INFO("StopRender", "StopRender succeed");
-        SetCachingState(RenderCache_Idle);
+        SetCachingState(Idle);
     } else {
         LOG_INFO("StopRender", "StopRender failed");
     }
@@ -295,7 +300,7 @@ void FPreViewRenderHelper::StopRenderSync()
     // The engine's answer counts, not the state, which is idle by now.
     connect(
         this, &FPreViewRenderHelper::sigRenderStateChangeInternal, this,
-        [&stopped](long state) { stopped = stopped || state == RenderCache_StoppedByUser; },
+        [&stopped](long state) { stopped = stopped || state == StoppedByUser; },
         static_cast<Qt::ConnectionType>(Qt::AutoConnection | Qt::UniqueConnection));
     QElapsedTimer waited;
     waited.start();
@@ -317,7 +322,7 @@ void FPreViewRenderHelper::DelRenderCache(bool flag)
         if (IsCaching())
             StopRender();
         success = SUCCEEDED(cache->DeleteCache(flag));
-        SetCachingState(RenderCache_Idle);
+        SetCachingState(Idle);
         Q_EMIT sigRenderCatchDeleted();
     }
     LOG_INFO("DelRenderCache", "DelRenderCache:%s", Answer(success));
@@ -333,7 +338,7 @@ int FPreViewRenderHelper::AutoRenderInterval() const
 void FPreViewRenderHelper::RestartAutoRender(bool wanted)
 {
     m_autoRenderTimer->stop();
-    if (m_autoRenderEnable && wanted)
+    if (m_autoRenderEnable && m_autoRenderSeconds >= 0 && wanted)
         m_autoRenderTimer->start(AutoRenderInterval());
 }
 
@@ -482,7 +487,7 @@ int FPreViewRenderHelper::OnRender(int progress, long state, long cachedFrames, 
     auto* helper = static_cast<FPreViewRenderHelper*>(userData);
     QMetaObject::invokeMethod(
         helper, "SetCachingState", Qt::QueuedConnection,
-        Q_ARG(long, progress < Complete ? state : static_cast<long>(RenderCache_Finished)));
+        Q_ARG(long, progress < Complete ? state : static_cast<long>(Finished)));
     return QMetaObject::invokeMethod(helper, "SetProgressInfo", Qt::QueuedConnection,
                                      Q_ARG(long, progress), Q_ARG(long, cachedFrames),
                                      Q_ARG(long, totalFrames));

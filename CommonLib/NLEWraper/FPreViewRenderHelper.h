@@ -15,18 +15,6 @@
 
 class QTimer;
 
-/// State of a preview-render cache. The values travel through signals and the engine's callback.
-enum RenderCacheState : long
-{
-    RenderCache_Caching = 0,
-    RenderCache_LowDisk = 1,           ///< stopped: disk space is low
-    RenderCache_FolderFull = 2,        ///< stopped: the cache's quota is reached
-    RenderCache_StoppedByUser = 3,     ///< the engine has stopped as it was asked to
-    RenderCache_FolderUnwriteable = 4, ///< the folder is missing or the engine refuses it
-    RenderCache_Finished = 5,          ///< everything that needed rendering is cached
-    RenderCache_Idle = 6               ///< at first, after a stop, a new folder or a deletion
-};
-
 /// Drives the engine's background render of one timeline's preview: folder, quota, picture size,
 /// start and stop, and what is cached or needs rendering.
 ///
@@ -38,6 +26,18 @@ class COMMONLIB_EXPORT FPreViewRenderHelper : public QObject
     Q_OBJECT
 
 public:
+    /// State of the cache. The values travel through signals and the engine's callback.
+    enum RenderCacheState : long
+    {
+        Caching = 0,
+        LowDisk = 1,           ///< stopped: disk space is low
+        FolderFull = 2,        ///< stopped: the cache's quota is reached
+        StoppedByUser = 3,     ///< the engine has stopped as it was asked to
+        FolderUnwriteable = 4, ///< the folder is missing or the engine refuses it
+        Finished = 5,          ///< everything that needed rendering is cached
+        Idle = 6               ///< at first, after a stop, a new folder or a deletion
+    };
+
     /// Holds a reference to \a timeline. A \a parent is the wrapper of that timeline: half of its
     /// project's resolution becomes the size of the cached pictures, see SetCacheSize().
     FPreViewRenderHelper(NLEComPtr<INLETimeline> timeline, QObject* parent);
@@ -57,7 +57,7 @@ public:
     /// Folder that the engine accepted last; empty before.
     QString GetCacheDirectory() const;
     /// The folder for a render cache within a \a folder that the user chose.
-    static QString GetUserSetRenderPath(const QString& folder);
+    static QString GetUserSetRenderPath(QString folder);
     /// Whether \a userData is a living helper that has asked for asynchronous updates. From any
     /// thread.
     static bool CheckAnsyUpdateUserData(void* userData);
@@ -68,7 +68,7 @@ public:
     /// Makes the engine cache in \a folder, stopping a running render. The cache may fill half of
     /// the disk's free space, at most 100 GiB, and leaves 2 GiB free. False when the engine refuses
     /// the folder or has no cache; the folder kept here then stays.
-    bool SetCacheDirectory(const QString& folder);
+    bool SetCacheDirectory(QString folder);
     /// Size of the cached pictures: \a size times \a ratio (0 stands for 1), each side cut off. A
     /// size of more pixels than 960 x 540 is brought to 960 in width, or to 540 in height when it
     /// is no wider than high. Takes effect with the next start.
@@ -89,8 +89,8 @@ public:
 
     /// Lets the render start by itself \a seconds after the last change or progress report.
     void SetAutoRenderEnable(bool enable, int seconds);
-    /// True stops the render, ends auto-render and silences the progress signal; false undoes only
-    /// the silence.
+    /// True stops the render, ends auto-render and silences the progress signal; false lifts the
+    /// silence and lets auto-render be enabled again.
     void SetForceStopAutoStartRender(bool force);
     /// Whether the destructor deletes the cache.
     void SetAutoDeleteCaching(bool autoDelete);
@@ -128,7 +128,8 @@ private Q_SLOTS:
     void TrigerAutoRender();
 
 private:
-    /// Analyses on a thread of the pool instead of the engine's; invoked by name.
+    /// Analyses on a thread of the pool instead of the engine's; kept beside delayedAsyncUpdate()
+    /// and invoked by name, nothing here calls it.
     Q_INVOKABLE void delayedUpdate();
     void SlotAutoRenderTimeOut();
     void delayedAsyncUpdate();
@@ -157,7 +158,7 @@ private:
     const QSize m_maxCacheSize{960, 540};
     int m_cacheWidth = 0;
     int m_cacheHeight = 0;
-    long m_state = RenderCache_Idle;
+    long m_state = Idle;
     QString m_cacheDir;
     mutable QMutex m_stateMutex; ///< m_state only
     QMutex m_updateMutex;        ///< m_clearUpdateCallBack and who is called back

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -65,8 +66,8 @@ NLEComPtr<INLETimeline> FindCurrent(const NLEComPtr<INLETimelineEnumerator>& cli
 template <typename Helper>
 void Drop(Helper*& helper)
 {
-    delete helper;
-    helper = nullptr;
+    // Null first: the preview helper's end lets events through.
+    delete std::exchange(helper, nullptr);
 }
 
 } // namespace

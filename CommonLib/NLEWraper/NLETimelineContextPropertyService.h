@@ -12,8 +12,8 @@
 ///
 /// The engine's context object, the basin, hands its settings out as a property bag and takes a bag
 /// back; each setter stores at once. The basin is null until a subclass sets it. Without it every
-/// call gives false and two errors in the log. A getter that gives false leaves its out-value as it
-/// was. Calls go to the basin on the caller's thread; nothing is locked.
+/// getter and setter of a value gives false and two errors in the log. A getter that gives false
+/// leaves its out-value as it was. Calls go to the basin on the caller's thread; nothing is locked.
 class COMMONLIB_EXPORT NLETimelineContextPropertyService
 {
 public:

@@ -160,11 +160,15 @@ VideoKeyFrameParam VideoKeyFrameSetting::ParamOrPreset(int index) const
 template <typename Field>
 void VideoKeyFrameSetting::SetField(int index, Field VideoKeyFrameParam::*field, const Field& value)
 {
-    VideoKeyFrameParam param;
-    if (!GetKeyFrameParam(index, param))
+    const auto list = ListWith(index);
+    NLEKeyFrameRecord record = Preset;
+    if (!list || list->GetKeyFrame(index, &record) != S_OK)
         return;
+    VideoKeyFrameParam param = FromRecord(record);
     param.*field = value;
-    SetKeyFrameParam(index, param);
+    NLEKeyFrameRecord changed = ToRecord(param);
+    changed.interpolation = record.interpolation;
+    list->SetKeyFrame(index, &changed);
 }
 
 QPointF VideoKeyFrameSetting::GetPosition(int index) const

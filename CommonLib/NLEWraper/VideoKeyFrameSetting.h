@@ -60,7 +60,8 @@ public:
     void SetOpacity(int index, double opacity);
 
     /// Whether key frames follow and precede \a index. An index out of range is not refused here:
-    /// only 0 has none before it, only the last one and what lies beyond has none after it.
+    /// only 0 has none before it, only the last one and what lies beyond has none after it; in
+    /// an empty list none has.
     bool HasNext(int index) const;
     bool HasPrevious(int index) const;
 

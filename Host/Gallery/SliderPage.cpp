@@ -20,6 +20,10 @@ constexpr int kSectionGap = 14;
 constexpr int kUprightWidth = 44;
 constexpr float kFps = 25;
 
+// What the zoom bar calls its buttons, for screen readers.
+const char* const s_zoomButtons[] = {QT_TRANSLATE_NOOP("ScaleUnitSlider", "Zoom out"),
+                                     QT_TRANSLATE_NOOP("ScaleUnitSlider", "Zoom in")};
+
 // Captions stand in the page's translation context.
 
 QLabel* Heading(const char* text, QWidget* parent)
@@ -62,6 +66,7 @@ void AddHeading(QGridLayout& grid, QWidget* parent, const char* text)
 
 SliderPage::SliderPage(QWidget* parent) : QWidget(parent)
 {
+    Q_UNUSED(s_zoomButtons)
     auto* grid = new QGridLayout;
     grid->setColumnMinimumWidth(0, kCaptionWidth);
     grid->setColumnStretch(1, 1);

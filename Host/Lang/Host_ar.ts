@@ -694,6 +694,17 @@
     </message>
 </context>
 <context>
+    <name>ScaleUnitSlider</name>
+    <message>
+        <source>Zoom out</source>
+        <translation>تصغير</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>تكبير</translation>
+    </message>
+</context>
+<context>
     <name>SliderPage</name>
     <message>
         <source>Seek bar</source>

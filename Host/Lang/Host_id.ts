@@ -679,6 +679,17 @@
     </message>
 </context>
 <context>
+    <name>ScaleUnitSlider</name>
+    <message>
+        <source>Zoom out</source>
+        <translation>Perkecil</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Perbesar</translation>
+    </message>
+</context>
+<context>
     <name>SliderPage</name>
     <message>
         <source>Seek bar</source>

@@ -679,6 +679,17 @@
     </message>
 </context>
 <context>
+    <name>ScaleUnitSlider</name>
+    <message>
+        <source>Zoom out</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>拡大</translation>
+    </message>
+</context>
+<context>
     <name>SliderPage</name>
     <message>
         <source>Seek bar</source>

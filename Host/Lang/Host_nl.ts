@@ -682,6 +682,17 @@
     </message>
 </context>
 <context>
+    <name>ScaleUnitSlider</name>
+    <message>
+        <source>Zoom out</source>
+        <translation>Uitzoomen</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Inzoomen</translation>
+    </message>
+</context>
+<context>
     <name>SliderPage</name>
     <message>
         <source>Seek bar</source>

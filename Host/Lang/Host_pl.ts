@@ -685,6 +685,17 @@
     </message>
 </context>
 <context>
+    <name>ScaleUnitSlider</name>
+    <message>
+        <source>Zoom out</source>
+        <translation>Pomniejsz</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Powiększ</translation>
+    </message>
+</context>
+<context>
     <name>SliderPage</name>
     <message>
         <source>Seek bar</source>

@@ -685,6 +685,17 @@
     </message>
 </context>
 <context>
+    <name>ScaleUnitSlider</name>
+    <message>
+        <source>Zoom out</source>
+        <translation>Micșorează</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Mărește</translation>
+    </message>
+</context>
+<context>
     <name>SliderPage</name>
     <message>
         <source>Seek bar</source>

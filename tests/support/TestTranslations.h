@@ -20,7 +20,8 @@ inline bool WriteTranslations(const QString& path, const QString& prefix, int co
                                "<translation>%2%1</translation></message>")
                     .arg(QString::number(i), prefix);
     }
-    text += QStringLiteral("</context></TS>");
+    text += QStringLiteral("<message><source>none</source><translation></translation></message>"
+                           "</context></TS>");
     QDir().mkpath(QFileInfo(path).path());
     const QString source = path + QStringLiteral(".ts");
     QFile file(source);
