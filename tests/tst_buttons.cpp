@@ -17,12 +17,6 @@ void Send(QWidget* widget, QEvent::Type type)
     QCoreApplication::sendEvent(widget, &event);
 }
 
-void Key(QWidget* widget, int key)
-{
-    QKeyEvent event(QEvent::KeyPress, key, {});
-    QCoreApplication::sendEvent(widget, &event);
-}
-
 // The ids and, when it is not the upper left corner of \a widget, the points that a signal told.
 QString Told(QSignalSpy& spy, const QWidget& widget)
 {
@@ -308,12 +302,11 @@ private slots:
         tab.SetButtonState(static_cast<ImageTextButton2::BUTTONSTATE>(7));
         QCOMPARE(bounds(Qt::white), tab.rect());
         QVERIFY(bounds(Qt::blue).isNull());
-        tab.SetButtonState(ImageTextButton2::Normal);
-        QTest::mousePress(&tab, Qt::LeftButton);
-        QVERIFY(!bounds(Qt::blue).isNull());
-        tab.SetButtonState(ImageTextButton2::Normal);
-        Key(&tab, Qt::Key_Space);
-        QVERIFY(!bounds(Qt::blue).isNull());
+        for (const bool byKey : {false, true}) {
+            tab.SetButtonState(ImageTextButton2::Normal);
+            byKey ? QTest::keyPress(&tab, Qt::Key_Space) : QTest::mousePress(&tab, Qt::LeftButton);
+            QVERIFY(!bounds(Qt::blue).isNull());
+        }
         QCOMPARE(Told(selected, tab), QString("66"));
     }
 
