@@ -14,6 +14,7 @@
 #include <QLabel>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -63,9 +64,9 @@ ButtonPage::ButtonPage(QWidget* parent) : QWidget(parent), m_told(new QLabel(thi
     grid->setVerticalSpacing(kRowGap);
     grid->setHorizontalSpacing(kColumnGap);
     const auto add = [&](const char* caption, QWidget* row) {
-        auto* name = new QLabel(this);
-        KeepTranslated(name, [name, caption] { name->setText(tr(caption)); });
-        grid->addWidget(name, grid->rowCount(), 0);
+        auto* label = new QLabel(this);
+        KeepTranslated(label, [label, caption] { label->setText(tr(caption)); });
+        grid->addWidget(label, grid->rowCount(), 0);
         grid->addWidget(row, grid->rowCount() - 1, 1);
     };
     add(QT_TR_NOOP("Buttons"), MakeButtons());
@@ -75,12 +76,14 @@ ButtonPage::ButtonPage(QWidget* parent) : QWidget(parent), m_told(new QLabel(thi
     add(QT_TR_NOOP("Labels"), MakeLabels());
     add(QT_TR_NOOP("Last signal"), m_told);
     grid->setRowStretch(grid->rowCount(), 1);
-    Tell(tr("none yet"));
+    m_tell = [] { return tr("none yet"); };
+    KeepTranslated(m_told, [this] { m_told->setText(m_tell()); });
 }
 
-void ButtonPage::Tell(const QString& text)
+void ButtonPage::Tell(std::function<QString()> text)
 {
-    m_told->setText(text);
+    m_tell = std::move(text);
+    m_told->setText(m_tell());
 }
 
 QWidget* ButtonPage::MakeButtons()
@@ -92,13 +95,14 @@ QWidget* ButtonPage::MakeButtons()
         if (text)
             KeepTranslated(button, [button, text] { button->setText(tr(text)); });
         connect(button, &BaseButton::Pressed, this,
-                [this](int k) { Tell(tr("Pressed %1").arg(k)); });
+                [this](int k) { Tell([k] { return tr("Pressed %1").arg(k); }); });
         connect(button, &BaseButton::Clicked, this, [this](int k, QPoint p) {
-            Tell(tr("Clicked %1 at (%2, %3)").arg(k).arg(p.x()).arg(p.y()));
+            Tell([k, p] { return tr("Clicked %1 at (%2, %3)").arg(k).arg(p.x()).arg(p.y()); });
         });
         connect(button, &BaseButton::sigEnter, this,
-                [this](int k) { Tell(tr("Entered %1").arg(k)); });
-        connect(button, &BaseButton::sigLeave, this, [this](int k) { Tell(tr("Left %1").arg(k)); });
+                [this](int k) { Tell([k] { return tr("Entered %1").arg(k); }); });
+        connect(button, &BaseButton::sigLeave, this,
+                [this](int k) { Tell([k] { return tr("Left %1").arg(k); }); });
         layout->addWidget(button);
         return button;
     };
@@ -132,7 +136,9 @@ QWidget* ButtonPage::MakeStates()
             state->setIconSize(QSize(kIcon, kIcon));
         }
         connect(button, &BaseButton::Clicked, this, [this, button](int k) {
-            Tell(tr("Clicked %1, shows %2").arg(k).arg(button->CurrentButtonId()));
+            Tell([k, shown = button->CurrentButtonId()] {
+                return tr("Clicked %1, shows %2").arg(k).arg(shown);
+            });
         });
         layout->addWidget(button);
         return button;
@@ -159,7 +165,7 @@ QWidget* ButtonPage::MakeImagesAndTexts()
         button->SetImageWidth(kIcon);
         button->findChild<BaseButton*>()->setIcon(SymbolIcon(Symbol::Film, kLine));
         connect(button, &ImageTextButton::Clicked, this,
-                [this](int k) { Tell(tr("Clicked %1").arg(k)); });
+                [this](int k) { Tell([k] { return tr("Clicked %1").arg(k); }); });
         layout->addWidget(button);
         return button;
     };
@@ -197,7 +203,7 @@ QWidget* ButtonPage::MakeTabs()
                 if (other->GetId() != id)
                     other->SetButtonState(ImageTextButton2::Normal);
             }
-            Tell(tr("Selected %1").arg(id));
+            Tell([id] { return tr("Selected %1").arg(id); });
         });
         layout->addWidget(tab);
     }
@@ -213,10 +219,11 @@ QWidget* ButtonPage::MakeLabels()
     const bool before = gIsArgLang();
     for (const bool rightToLeft : {false, true}) {
         gSetArgLang(rightToLeft);
-        const char* text = rightToLeft ? QT_TR_NOOP("for a language from right to left")
-                                       : QT_TR_NOOP("for a language from left to right");
         auto* label = new MagicLabel(box);
-        KeepTranslated(label, [label, text] { label->setText(tr(text)); });
+        KeepTranslated(label, [label, rightToLeft] {
+            label->setText(rightToLeft ? tr("for a language from right to left")
+                                       : tr("for a language from left to right"));
+        });
         layout->addWidget(label, 1);
     }
     gSetArgLang(before);

@@ -3,6 +3,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 class QLabel;
 
 /// The buttons and labels in all their states, with a line that tells what they signal.
@@ -19,7 +21,8 @@ private:
     QWidget* MakeImagesAndTexts();
     QWidget* MakeTabs();
     QWidget* MakeLabels();
-    void Tell(const QString& text);
+    void Tell(std::function<QString()> text);
 
+    std::function<QString()> m_tell; ///< what was told last, in the language of the moment
     QLabel* m_told;
 };

@@ -33,6 +33,7 @@ DragPage::DragPage(QWidget* parent) : QWidget(parent), m_told(new QLabel(this))
     auto* label = new QLabel(this);
     KeepTranslated(label, [label] { label->setText(tr("Last signal")); });
     form->addRow(label, m_told);
+    KeepTranslated(m_told, [this] { ShowTold(); });
 }
 
 QDoubleSpinBox* DragPage::AddField(QFormLayout& form, const Field& field)
@@ -72,5 +73,13 @@ QDoubleSpinBox* DragPage::AddField(QFormLayout& form, const Field& field)
 
 void DragPage::Tell(const char* what, double value)
 {
-    m_told->setText(tr(what).arg(value));
+    m_toldText = what;
+    m_toldValue = value;
+    ShowTold();
+}
+
+void DragPage::ShowTold()
+{
+    if (m_toldText)
+        m_told->setText(tr(m_toldText).arg(m_toldValue));
 }

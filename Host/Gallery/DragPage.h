@@ -31,6 +31,9 @@ private:
 
     QDoubleSpinBox* AddField(QFormLayout& form, const Field& field);
     void Tell(const char* what, double value);
+    void ShowTold();
 
     QLabel* m_told;
+    const char* m_toldText = nullptr; ///< in the page's translation context; null before any signal
+    double m_toldValue = 0;
 };

@@ -81,5 +81,19 @@ void GalleryWindow::SetTexts()
     m_list->setAccessibleName(tr("Pages"));
     for (int row = 0; row < m_list->count(); ++row)
         m_list->item(row)->setText(Translated(GalleryPages()[row].title));
-    m_list->setFixedWidth(std::max(kListWidth, m_list->sizeHintForColumn(0) + kMargin));
+    FitList();
+}
+
+void GalleryWindow::FitList()
+{
+    // The paddings of the list and of its items are the style's.
+    m_list->ensurePolished();
+    const int around = m_list->width() - m_list->viewport()->width();
+    m_list->setFixedWidth(std::max(kListWidth, m_list->sizeHintForColumn(0) + around));
+}
+
+void GalleryWindow::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    FitList(); // the style is whole only now
 }

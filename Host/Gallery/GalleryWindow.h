@@ -17,8 +17,12 @@ public:
     /// Shows the page of that name; false when there is none.
     bool ShowPage(const QString& name);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void SetTexts();
+    void FitList();
 
     QListWidget* m_list;
     QStackedWidget* m_stack;

@@ -22,6 +22,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -59,6 +60,7 @@ ImportPage::ImportPage(QWidget* parent)
     , m_stack(new QStackedWidget(this))
     , m_notice(new QLabel(this))
     , m_tree(new ImportTree(this))
+    , m_folderLabel(new QLabel(this))
     , m_folder(new QLineEdit(this))
     , m_folderButton(new QPushButton(this))
     , m_deleteBox(new QCheckBox(this))
@@ -79,20 +81,30 @@ ImportPage::ImportPage(QWidget* parent)
     m_listTimer.setInterval(kListEvery);
     BuildLayout();
     Connect();
+    SetState(State::NoDevice);
     KeepTranslated(this, [this] { SetTexts(); });
 }
 
 void ImportPage::SetTexts()
 {
+    m_deviceBox->setAccessibleName(tr("Device"));
+    for (int i = 0; i < m_devices.size(); ++i)
+        m_deviceBox->setItemText(i, ShownName(m_devices[i].name));
     m_refreshButton->setText(tr("Refresh"));
+    m_folderLabel->setText(tr("Import into"));
+    m_folder->setAccessibleName(tr("Folder to import into"));
     m_folderButton->setText(tr("Choose…"));
     m_deleteBox->setText(tr("Delete from the device afterwards"));
+    m_progress->setAccessibleName(tr("Progress of the import"));
     m_cancelButton->setText(tr("Cancel"));
     m_importButton->setText(tr("Import"));
-    m_deviceBox->setAccessibleName(tr("Device"));
-    m_folder->setAccessibleName(tr("Folder to import into"));
-    m_progress->setAccessibleName(tr("Progress of the import"));
-    SetState(m_state);
+    ShowNotice();
+    ShowStatus();
+}
+
+QString ImportPage::ShownName(const QString& deviceName)
+{
+    return deviceName.isEmpty() ? tr("Unnamed device") : deviceName;
 }
 
 void ImportPage::BuildLayout()
@@ -103,9 +115,7 @@ void ImportPage::BuildLayout()
     m_stack->addWidget(m_notice);
     m_stack->addWidget(m_tree);
     auto* folder = new QHBoxLayout;
-    auto* into = new QLabel(this);
-    KeepTranslated(into, [into] { into->setText(tr("Import into")); });
-    folder->addWidget(into);
+    folder->addWidget(m_folderLabel);
     folder->addWidget(m_folder, 1);
     folder->addWidget(m_folderButton);
     auto* actions = new QHBoxLayout;
@@ -158,26 +168,10 @@ void ImportPage::showEvent(QShowEvent* event)
 void ImportPage::SetState(State state)
 {
     m_state = state;
-    const QString name = m_deviceBox->currentText();
-    switch (state) {
-    case State::NoDevice:
-        ShowNotice(tr("No device found"), tr("Connect a camera, a phone or a card reader, switch "
-                                             "it on and unlock it."));
-        break;
-    case State::Opening:
-        ShowNotice(tr("Opening %1…").arg(name), QString());
-        break;
-    case State::Refused:
-        ShowNotice(tr("%1 cannot be opened").arg(name),
-                   tr("Unlock the device and allow access to its files, then choose it again."));
-        break;
-    case State::Removed:
-        ShowNotice(tr("%1 was removed").arg(name), tr("Connect it again to go on."));
-        break;
-    default:
-        m_stack->setCurrentWidget(m_tree);
-    }
     const bool isWaiting = state == State::NoDevice || state == State::Removed;
+    const bool hasNotice = isWaiting || state == State::Opening || state == State::Refused;
+    ShowNotice();
+    m_stack->setCurrentWidget(hasNotice ? static_cast<QWidget*>(m_notice) : m_tree);
     if (isWaiting != m_listTimer.isActive())
         isWaiting ? m_listTimer.start() : m_listTimer.stop();
     m_progress->setVisible(state == State::Importing);
@@ -185,11 +179,43 @@ void ImportPage::SetState(State state)
     UpdateButtons();
 }
 
-void ImportPage::ShowNotice(const QString& title, const QString& text)
+void ImportPage::ShowNotice()
 {
+    const QString name = ShownName(m_chosenName);
+    QString title;
+    QString text;
+    switch (m_state) {
+    case State::NoDevice:
+        title = tr("No device found");
+        text = tr("Connect a camera, a phone or a card reader, switch it on and unlock it.");
+        break;
+    case State::Opening:
+        title = tr("Opening %1…").arg(name);
+        break;
+    case State::Refused:
+        title = tr("%1 cannot be opened").arg(name);
+        text = tr("Unlock the device and allow access to its files, then choose it again.");
+        break;
+    case State::Removed:
+        title = tr("%1 was removed").arg(name);
+        text = tr("Connect it again to go on.");
+        break;
+    default:
+        return;
+    }
     m_notice->setText(QStringLiteral("<p style='font-size:17px'><b>%1</b></p><p>%2</p>")
                           .arg(title.toHtmlEscaped(), text.toHtmlEscaped()));
-    m_stack->setCurrentWidget(m_notice);
+}
+
+void ImportPage::Say(Text status)
+{
+    m_statusText = std::move(status);
+    ShowStatus();
+}
+
+void ImportPage::ShowStatus()
+{
+    m_status->setText(m_statusText ? m_statusText() : QString());
 }
 
 void ImportPage::UpdateButtons()
@@ -210,12 +236,15 @@ void ImportPage::UpdateButtons()
     for (const ImportTree::File& file : files)
         bytes += file.size;
     if (!files.isEmpty())
-        m_status->setText(
-            tr("Chosen files: %1 (%2)").arg(files.size()).arg(SizeText(*this, bytes)));
+        Say([this, count = files.size(), bytes] {
+            return tr("Chosen files: %1 (%2)").arg(count).arg(SizeText(*this, bytes));
+        });
     else if (m_state == State::Reading)
-        m_status->setText(tr("Reading the content… %1 files").arg(m_tree->FileCount()));
+        Say([count = m_tree->FileCount()] {
+            return tr("Reading the content… %1 files").arg(count);
+        });
     else if (m_state == State::Ready)
-        m_status->setText(m_idleText);
+        Say(m_idleText);
 }
 
 void ImportPage::TakeDevices(const QVector<ImportDevice>& devices)
@@ -224,7 +253,7 @@ void ImportPage::TakeDevices(const QVector<ImportDevice>& devices)
     const QSignalBlocker blocker(m_deviceBox);
     m_deviceBox->clear();
     for (const ImportDevice& device : devices)
-        m_deviceBox->addItem(device.name.isEmpty() ? tr("Unnamed device") : device.name);
+        m_deviceBox->addItem(ShownName(device.name));
     const auto found =
         std::find_if(devices.begin(), devices.end(),
                      [this](const ImportDevice& device) { return device.id == m_chosen; });
@@ -244,8 +273,10 @@ void ImportPage::TakeDevices(const QVector<ImportDevice>& devices)
 void ImportPage::Choose(int index)
 {
     m_deviceBox->setCurrentIndex(index);
-    m_chosen = m_devices.value(index).id;
-    m_lastResult.clear();
+    const ImportDevice device = m_devices.value(index);
+    m_chosen = device.id;
+    m_chosenName = device.name;
+    m_lastResult = nullptr;
     OpenChosen();
 }
 
@@ -255,7 +286,7 @@ void ImportPage::OpenChosen(const QVector<std::wstring>& toDelete)
     if (!toDelete.isEmpty())
         m_session.Delete(toDelete);
     m_tree->Clear();
-    m_status->clear();
+    Say(nullptr);
     SetState(State::Opening);
     m_session.Open(m_chosen);
 }
@@ -264,9 +295,12 @@ void ImportPage::TakeContentEnd(bool isWhole)
 {
     if (m_state != State::Reading)
         return;
-    const QString text = isWhole ? tr("%1 files on the device").arg(m_tree->FileCount())
+    m_idleText = [isWhole, count = m_tree->FileCount(), result = m_lastResult] {
+        const QString text = isWhole
+                                 ? tr("%1 files on the device").arg(count)
                                  : tr("The device stopped answering; this may not be all of it.");
-    m_idleText = (m_lastResult + ' ' + text).trimmed();
+        return result ? result() + ' ' + text : text;
+    };
     SetState(State::Ready);
 }
 
@@ -298,13 +332,15 @@ void ImportPage::StartImport()
 bool ImportPage::CanImportInto(const QString& folder)
 {
     if (!QDir().mkpath(folder) || !QFileInfo(folder).isWritable()) {
-        m_status->setText(tr("Nothing can be written into this folder."));
+        Say([] { return tr("Nothing can be written into this folder."); });
         return false;
     }
     const auto room = static_cast<quint64>(QStorageInfo(folder).bytesAvailable());
     if (room >= m_bytesToImport)
         return true;
-    m_status->setText(tr("This folder has room for %1 only.").arg(SizeText(*this, room)));
+    Say([this, room] {
+        return tr("This folder has room for %1 only.").arg(SizeText(*this, room));
+    });
     return false;
 }
 
@@ -315,24 +351,26 @@ void ImportPage::TakeProgress(quint64 bytes)
     const double share =
         m_bytesToImport > 0 ? static_cast<double>(bytes) / static_cast<double>(m_bytesToImport) : 0;
     m_progress->setValue(static_cast<int>(std::min(share, 1.0) * kProgressSteps));
-    m_status->setText(
-        tr("Importing… %1 of %2").arg(SizeText(*this, bytes), SizeText(*this, m_bytesToImport)));
+    Say([this, bytes] {
+        return tr("Importing… %1 of %2")
+            .arg(SizeText(*this, bytes), SizeText(*this, m_bytesToImport));
+    });
 }
 
 void ImportPage::TakeResult(const ImportResult& result)
 {
-    const QString count = tr("Imported files: %1 of %2.").arg(result.imported).arg(result.wanted);
-    if (m_state == State::Removed)
-        m_lastResult = tr("The device was removed during the import.") + ' ' + count;
-    else if (result.isStopped)
-        m_lastResult = tr("Cancelled.") + ' ' + count;
-    else if (!result.failed.isEmpty())
-        m_lastResult =
-            count + ' ' + tr("Not imported: %1").arg(QFileInfo(result.failed[0]).fileName());
-    else
-        m_lastResult = count;
+    m_lastResult = [result, wasRemoved = m_state == State::Removed] {
+        QString count = tr("Imported files: %1 of %2.").arg(result.imported).arg(result.wanted);
+        if (wasRemoved)
+            return tr("The device was removed during the import.") + ' ' + count;
+        if (result.isStopped)
+            return tr("Cancelled.") + ' ' + count;
+        if (result.failed.isEmpty())
+            return count;
+        return count + ' ' + tr("Not imported: %1").arg(QFileInfo(result.failed[0]).fileName());
+    };
     m_idleText = m_lastResult;
-    m_status->setText(m_lastResult);
+    Say(m_lastResult);
     if (m_state == State::Importing) {
         SetState(State::Ready);
         if (m_deleteBox->isChecked() && !result.importedIds.isEmpty())
@@ -347,6 +385,6 @@ void ImportPage::TakeRemoval()
     m_session.Stop();
     m_session.Close();
     m_tree->Clear();
-    m_status->clear();
+    Say(nullptr);
     SetState(State::Removed);
 }

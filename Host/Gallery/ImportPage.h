@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
+
 class ImportTree;
 class QCheckBox;
 class QComboBox;
@@ -39,11 +41,16 @@ private:
         Removed
     };
 
+    using Text = std::function<QString()>; ///< in the language of the moment it is asked
+
     void BuildLayout();
-    void SetTexts();
     void Connect();
     void SetState(State state);
-    void ShowNotice(const QString& title, const QString& text);
+    void SetTexts();
+    static QString ShownName(const QString& deviceName);
+    void ShowNotice();
+    void Say(Text status);
+    void ShowStatus();
     void UpdateButtons();
 
     void TakeDevices(const QVector<ImportDevice>& devices);
@@ -62,9 +69,11 @@ private:
     State m_state = State::NoDevice;
     QVector<ImportDevice> m_devices;
     std::wstring m_chosen; ///< identifier of the device that is shown
+    QString m_chosenName;  ///< its own, which may be empty
     quint64 m_bytesToImport = 0;
-    QString m_lastResult; ///< what came of the last import from the device that is shown
-    QString m_idleText;   ///< said of the content while no file is chosen
+    Text m_statusText; ///< what the page says now; null for nothing
+    Text m_lastResult; ///< what came of the last import from the device that is shown
+    Text m_idleText;   ///< said of the content while no file is chosen
 
     // Children of the page.
     QComboBox* m_deviceBox;
@@ -72,6 +81,7 @@ private:
     QStackedWidget* m_stack;
     QLabel* m_notice;
     ImportTree* m_tree;
+    QLabel* m_folderLabel;
     QLineEdit* m_folder;
     QPushButton* m_folderButton;
     QCheckBox* m_deleteBox;

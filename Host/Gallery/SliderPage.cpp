@@ -24,12 +24,17 @@ constexpr float kFps = 25;
 const char* const s_zoomButtons[] = {QT_TRANSLATE_NOOP("ScaleUnitSlider", "Zoom out"),
                                      QT_TRANSLATE_NOOP("ScaleUnitSlider", "Zoom in")};
 
-// Captions stand in the page's translation context.
-
-QLabel* Heading(const char* text, QWidget* parent)
+// A label of a text in the page's translation context.
+QLabel* Text(const char* text, QWidget* parent)
 {
     auto* label = new QLabel(parent);
     KeepTranslated(label, [label, text] { label->setText(SliderPage::tr(text)); });
+    return label;
+}
+
+QLabel* Heading(const char* text, QWidget* parent)
+{
+    QLabel* label = Text(text, parent);
     QFont font = label->font();
     font.setBold(true);
     label->setFont(font);
@@ -43,15 +48,12 @@ QLabel* AddRow(QGridLayout& grid, const char* caption, QWidget* slider)
     auto* value = new QLabel(slider->parentWidget());
     value->setMinimumWidth(kValueWidth);
     value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    auto* name = new QLabel(slider->parentWidget());
-    KeepTranslated(name, [name, caption, slider] {
-        name->setText(SliderPage::tr(caption));
-        slider->setAccessibleName(name->text());
-    });
-    grid.addWidget(name, row, 0);
+    grid.addWidget(Text(caption, slider->parentWidget()), row, 0);
     grid.addWidget(slider, row, 1, Qt::AlignVCenter);
     grid.addWidget(value, row, 2);
     grid.setRowMinimumHeight(row, kRowHeight);
+    KeepTranslated(slider,
+                   [slider, caption] { slider->setAccessibleName(SliderPage::tr(caption)); });
     return value;
 }
 
