@@ -126,7 +126,6 @@ private Q_SLOTS:
         row("growing", none, {2, 3, 5, 6, 8, 9, 11, 12}, {1, 3, 6, 10});
         row("one pixel is none", none, {1, 2, 4, 3}, {1});
         row("turning", none, {2, 3, 5, 6, 4, 3, 1, 0}, {1, 3, 0, -1});
-        row("same place", none, {2, 0, 3}, {1});
         row("fast", none, {2, 3, 5, 6}, {10, 30}, Qt::ShiftModifier | Qt::ControlModifier);
         row(
             "slow", [](Helper& h) { h.SetSlowStep(.5); }, {2, 3}, {.5}, Qt::ControlModifier);
@@ -137,11 +136,9 @@ private Q_SLOTS:
         row("wraps up", with(0, 100, 99.5, true), {2, 3}, {0});
         row("wraps down", with(0, 100, 0, true), {-2, -3}, {100});
         row("clamps", with(0, 100, 99.5, false), {2, 3, 5, 6}, {100, 100});
-        row("clamps down", with(0, 100, 0, false), {-2, -3}, {0});
         row("lower bound alone", [](Helper& h) { h.SetMinValue(5); }, {2, 3}, {DBL_MAX});
         row("empty range", with(7, 7, 7, true), {2, 3, 5, 6}, {7, 7});
         row("bounds that are no numbers", with(qQNaN(), qQNaN(), 1, true), {2, 3}, {2});
-        row("bounds turned round", with(10, 0, 5, false), {2, 3}, {10});
         row("beyond all numbers", [](Helper& h) { h.SetStep(DBL_MAX); }, {2, 3, 5, 6},
             {DBL_MAX, -DBL_MAX});
     }
@@ -177,9 +174,8 @@ private Q_SLOTS:
         Hover();
         Press();
         const int x = QCursor::pos().x();
-        MoveTo(x + 2);
-        MoveTo(x + 3);
-        MoveTo(x + 5);
+        for (const int move : {2, 3, 5})
+            MoveTo(x + move);
         QTest::qWait(250);
         MoveTo(x + 6);
         QCOMPARE(changed, Values({1, 2}));
@@ -239,45 +235,49 @@ private Q_SLOTS:
         QCOMPARE(QCursor::pos(), pointer);
     }
 
-    void endsWithin_data()
+    void editorTakesTheFocus()
     {
-        QTest::addColumn<int>("signal");
-        QTest::addColumn<bool>("destroy");
-        for (const bool destroy : {false, true}) {
-            for (int signal = 0; signal < 3; ++signal)
-                QTest::addRow("signal %d, destroyed %d", signal, destroy) << signal << destroy;
-        }
+        QLineEdit editor(field.get());
+        editor.setGeometry(50, 0, 10, 10);
+        editor.show();
+        connect(field.get(), &QPushButton::pressed, &editor, [&] { editor.setFocus(); });
+        field->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(field.get()));
+        field->setFocus();
+        Hover();
+        Press();
+        Release();
+        QVERIFY(editor.hasFocus());
+        QVERIFY(!helper->GetDragEnabled()); // although the field has lost the focus
     }
 
     void endsWithin()
     {
-        QFETCH(int, signal);
-        QFETCH(bool, destroy);
-        int calls = 0;
-        const auto end = [this, destroy, &calls](double) {
-            ++calls;
-            if (destroy)
-                field.reset();
-            else
-                helper->SetDragEnabled(false);
-        };
-        if (signal == 0)
-            connect(helper, &Helper::sigStartValueChanged, this, end);
-        else if (signal == 1)
-            connect(helper, &Helper::sigValueChanged, this, end);
-        else
-            connect(helper, &Helper::sigEndValueChanged, this, end);
-        Hover();
-        const QPoint start = QCursor::pos();
-        Press();
-        const int x = QCursor::pos().x();
-        for (int move = 2; move < 9 && field; ++move)
-            MoveTo(x + move);
-        if (field)
-            Release();
-        QVERIFY(calls > 0);
-        QCOMPARE(QCursor::pos(), start);
-        QCOMPARE(Cursors(), 0);
+        for (const bool destroy : {false, true}) {
+            for (const auto signal : {&Helper::sigStartValueChanged, &Helper::sigValueChanged,
+                                      &Helper::sigEndValueChanged}) {
+                init();
+                int calls = 0;
+                connect(helper, signal, this, [&] {
+                    ++calls;
+                    if (destroy)
+                        field.reset();
+                    else
+                        helper->SetDragEnabled(false);
+                });
+                Hover();
+                const QPoint start = QCursor::pos();
+                Press();
+                const int x = QCursor::pos().x();
+                for (int move = 2; move < 9 && field; ++move)
+                    MoveTo(x + move);
+                if (field)
+                    Release();
+                QVERIFY(calls > 0);
+                QCOMPARE(QCursor::pos(), start);
+                QCOMPARE(Cursors(), 0);
+            }
+        }
     }
 
     void anySequence()
@@ -285,45 +285,27 @@ private Q_SLOTS:
         std::mt19937 random(7);
         total = 0;
         const auto below = [&random](int count) { return int(random() % unsigned(count)); };
-        for (int event = 0; event < 10000; ++event) {
-            switch (below(16)) {
-            case 0:
-                Press();
-                break;
-            case 1:
-                Release();
-                break;
-            case 2: {
-                QEvent crossing(below(2) ? QEvent::Enter : QEvent::Leave);
+        const QEvent::Type crossings[] = {QEvent::Enter, QEvent::Leave, QEvent::FocusOut};
+        const std::function<void()> actions[] = {
+            [&] { Press(); },
+            [&] { Release(); },
+            [&] { field->setVisible(below(8)); },
+            [&] { field->setEnabled(below(8)); },
+            [&] {
+                QFocusEvent crossing(crossings[below(3)]);
                 QCoreApplication::sendEvent(field.get(), &crossing);
-                break;
-            }
-            case 3:
-                field->setVisible(below(8));
-                break;
-            case 4:
-                field->setEnabled(below(8));
-                break;
-            case 5: {
-                QFocusEvent out(QEvent::FocusOut);
-                QCoreApplication::sendEvent(field.get(), &out);
-                break;
-            }
-            case 6:
+            },
+            [&] {
                 QCursor::setPos(field->mapToGlobal(QPoint(below(90), below(50))));
                 QCoreApplication::processEvents();
-                break;
-            case 7:
-                if (below(50) == 0) {
-                    field.reset();
-                    QVERIFY(!helper);
-                    QCOMPARE(Cursors(), 0);
-                    init();
-                }
-                break;
-            default:
-                MoveTo(QCursor::pos().x() + below(21) - 10);
+            },
+            [&] { MoveTo(QCursor::pos().x() + below(21) - 10); }};
+        for (int event = 0; event < 10000; ++event) {
+            if (event % 1000 == 0) { // ends the one before, whatever it does
+                cleanup();
+                init();
             }
+            actions[std::min(below(14), 6)]();
         }
         QVERIFY(total > 100);
     }
@@ -350,14 +332,12 @@ private Q_SLOTS:
         // Further than the screen is wide, in large and in small moves.
         for (int move = 0; move < 100; ++move)
             point({"mousemove_relative", "8", "0"});
-        QVERIFY(changed.size() > 30);
+        const int before = changed.size();
+        QVERIFY(before > 30);
         QVERIFY(std::abs(QCursor::pos().x() - anchor.x()) < 30);
         for (int move = 0; move < 150; ++move)
             point({"mousemove_relative", "3", "0"});
-        const int before = changed.size();
-        for (int move = 0; move < 10; ++move)
-            point({"mousemove_relative", "3", "0"});
-        QVERIFY(changed.size() > before);
+        QVERIFY(changed.size() > before + 40);
         point({"mouseup", "1"});
         QCOMPARE(ended.size(), 1);
         QCOMPARE(QCursor::pos(), middle);
