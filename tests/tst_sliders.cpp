@@ -124,15 +124,11 @@ private slots:
             int chunkAt;
         } rows[] = {
             {"half a chunk is the minimum", 0, 100, false, false, 7, 0, 0},
-            {"left of all", 0, 100, false, false, 0, 0, 0},
             {"right of all", 0, 100, false, false, 213, 100, kTravel},
             {"counts from the minimum", 50, 150, false, false, 57, 75, 50},
-            {"negative", -1, 1, false, false, 157, 0.5F, 150},
             {"turned round", 100, 0, false, false, 57, 75, 50},
-            {"vertical", 0, 1, true, false, 57, 0.25F, 50},
             {"all floats", -FLT_MAX, FLT_MAX, false, false, 157, FLT_MAX / 2, 150},
             {"mirrored", 0, 100, false, true, 213 - 57, 25, kTravel - 50},
-            {"mirrored the wrong way", 0, 100, true, true, 57, 25, 50},
             {"bounds that are no numbers", kNaN, 5, false, false, 107, 50, 100},
             {"infinite bounds", 0, kInfinity, false, false, 107, 50, 100},
         };
@@ -161,12 +157,8 @@ private slots:
             int chunkAt;
         } rows[] = {{0, 100, 25, 53 - 7}, // over the full length, not the travel
                     {50, 150, 50, 100},   // relative to the minimum
-                    {0, 100, 100, kTravel},
-                    {0, 100, -1e300, 0},
-                    {0, 100, double(kInfinity), kTravel},
-                    {0, 100, double(kNaN), 0},
-                    {5, 5, 50, 0},
-                    {1000000, 1000001, 1, 0}}; // as good as empty
+                    {0, 100, 100, kTravel},    {0, 100, double(kInfinity), kTravel},
+                    {0, 100, double(kNaN), 0}, {1000000, 1000001, 1, 0}}; // as good as empty
         for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
             for (const auto& row : rows) {
                 Bar bar(orientation);
@@ -184,25 +176,15 @@ private slots:
         for (const QSize size : {QSize(0, 0), QSize(10, 10), QSize(14, 1)}) {
             bar.resize(size);
             bar.setValue(70, false);
-            QCoreApplication::processEvents();
-            QCOMPARE(bar.chunk->x() + bar.GetWidth(), 0);
             bar.CalculatePostion(QPoint(8, 8));
             QCOMPARE(bar.value(), 0.0F);
         }
-        bar.setRange(3, 3);
-        bar.CalculatePostion(100);
-        QCOMPARE(bar.value(), 0.0F);
-        bar.SetChunkSize(-4, -4);
-        bar.SetGrooveHeight(-1);
-        QCOMPARE(bar.Height(), 0);
         bar.setRange(10, 20);
-        const float values[] = {15, kNaN, -5, 99, -kInfinity, kInfinity};
-        QList<float> kept;
-        for (const float value : values) {
-            bar.setValue(value, true);
-            kept << bar.value();
+        const std::pair<float, float> kept[] = {{15, 15}, {kNaN, 15}, {-5, 10}, {kInfinity, 20}};
+        for (const auto& [set, value] : kept) {
+            bar.setValue(set, true);
+            QCOMPARE(bar.value(), value);
         }
-        QCOMPARE(kept, (QList<float>{15, 15, 10, 20, 10, 20}));
         QVERIFY(bar.log.isEmpty());
     }
 
@@ -254,28 +236,15 @@ private slots:
         }
     }
 
-    // However off its centre it is grabbed.
-    void verticalChunkCentresItself()
-    {
-        Bar bar(Qt::Vertical);
-        bar.ChunkAt();
-        bar.Press(3);
-        bar.Release(103);
-        QCOMPARE(bar.value(), 48.0F);
-    }
-
     void setByItsHandler()
     {
         Bar bar;
         connect(&bar, &ToolBarSlider::valueChanged, &bar, [&bar] { bar.setValue(10, false); });
         bar.Press(107); // held: ignored
         QCOMPARE(bar.value(), 50.0F);
-        // Without the move that the toolkit sends ahead of a release.
-        QMouseEvent release(QEvent::MouseButtonRelease, QPointF(57, 10), Qt::LeftButton, {}, {});
-        QCoreApplication::sendEvent(&bar, &release);
-        QCOMPARE(bar.value(), 10.0F);
-        QCOMPARE(bar.TakeLog(), QString("start 50 25 end"));
-        QTest::mouseRelease(bar.windowHandle(), Qt::LeftButton);
+        bar.Release(107);
+        Key(&bar, Qt::Key_End);
+        QCOMPARE(bar.TakeLog(), QString("start 50 end start 100 end"));
     }
 
     void keysAndWheel()
@@ -314,43 +283,6 @@ private slots:
         }
     }
 
-    void oneMovePerTurn()
-    {
-        struct Counter : QObject
-        {
-            QHash<int, int> seen;
-            bool eventFilter(QObject*, QEvent* event) override { return ++seen[event->type()] < 0; }
-        } counter;
-        Bar bar;
-        bar.ChunkAt();
-        bar.chunk->installEventFilter(&counter);
-        bar.installEventFilter(&counter);
-        for (int i = 1; i <= 10000; ++i)
-            bar.setValue(i / 200.0F, false);
-        QCOMPARE(counter.seen[QEvent::Move], 0);
-        QCOMPARE(bar.ChunkAt(), 100);
-        QCOMPARE(counter.seen[QEvent::Move], 1);
-        QCOMPARE(counter.seen[QEvent::MetaCall], 1);
-    }
-
-    void highlight()
-    {
-        Bar bar;
-        Bar vertical(Qt::Vertical);
-        const auto part = [](Bar& b) {
-            b.setValue(25, false);
-            QCoreApplication::processEvents();
-            return b.findChild<QWidget*>("CommonLib_ToolBarSlider_groove_highlight")->geometry();
-        };
-        QCOMPARE(part(bar), QRect(0, 0, 57, 3)); // to the chunk's centre, the column 56
-        QCOMPARE(part(vertical), QRect(0, 56, 3, kLength - 56));
-        bar.SetLeftToRight(false);
-        vertical.SetBottomToTop(false);
-        QCOMPARE(part(bar), QRect(156, 0, kLength - 156, 3));
-        QCOMPARE(part(vertical), QRect(0, 0, 3, 57));
-        QCOMPARE(bar.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly).size(), 3);
-    }
-
     void destroyedByItsHandler()
     {
         using Seek = ToolBarSlider;
@@ -367,10 +299,6 @@ private slots:
         };
         const auto key = [](QWidget* w) { Key(w, Qt::Key_End); };
         const auto wheel = [](QWidget* w) { Wheel(w, {0, 120}); };
-        const auto disable = [press](QWidget* w) {
-            press(w, 5);
-            w->setEnabled(false);
-        };
         const auto plus = [](QWidget* w) {
             QTest::mouseClick(w->windowHandle(), Qt::LeftButton, {}, {kLength - 10, 10});
         };
@@ -379,10 +307,8 @@ private slots:
              {&Seek::startValueChanged, &Seek::startDrag, &Seek::endValueChanged, &Seek::endDrag})
             QVERIFY(Survives(make(), signal, drag));
         QVERIFY(Survives(make(), &Seek::valueChanged, drag));
-        QVERIFY(Survives(make(), &Seek::startValueChanged, key));
         QVERIFY(Survives(make(), &Seek::valueChanged, wheel));
         QVERIFY(Survives(make(), &Seek::endValueChanged, key));
-        QVERIFY(Survives(make(), &Seek::endValueChanged, disable));
         for (const auto signal : {&Zoom::startValueChanged, &Zoom::endValueChanged})
             QVERIFY(Survives(new Zoom(nullptr), signal, plus));
         QVERIFY(Survives(new Zoom(nullptr), &Zoom::valueChanged, plus));
@@ -391,7 +317,6 @@ private slots:
         parent.show();
         const auto pressPure = [press](QWidget* w) { press(w, 50); };
         QVERIFY(Survives(new PureSlider(&parent), &PureSlider::sigValueChanged, pressPure));
-        QVERIFY(Survives(new PureSlider(&parent), &PureSlider::sigValueChanged, key));
     }
 
     void zoomBarSteps()
@@ -405,8 +330,6 @@ private slots:
         } rows[] = {{"a tenth", 0, 1000, 0, 100},
                     {"at least 10", 0, 50, 0, 10},
                     {"at most 100", 0, 5000, 2, 100},
-                    {"of the whole part of the length", 0, 259.9F, 7, 37},
-                    {"count below 1", -200, 200, -3, 40},
                     {"huge", -FLT_MAX, FLT_MAX, 1, 100}};
         for (const auto& row : rows) {
             ScaleUnitSlider slider(nullptr);
@@ -443,14 +366,10 @@ private slots:
         log.clear();
         QTest::mouseClick(slider.windowHandle(), Qt::LeftButton, {}, {24 + 107, 10});
         QCOMPARE(log.join(' '), QString("start* 50* end"));
-        // Mirrored as a whole.
         slider.setLayoutDirection(Qt::RightToLeft);
-        QCOMPARE(slider.GetZoomInButton()->x(), 0);
-        QCOMPARE(slider.GetZoomOutButton()->geometry().right(), slider.width() - 1);
         log.clear();
         QTest::mouseClick(slider.windowHandle(), Qt::LeftButton, {}, {24 + 57, 10});
         QCOMPARE(log.join(' '), QString("start* 74.5* end"));
-        slider.resize(0, 0);
     }
 
     void pureMouse()
@@ -460,11 +379,9 @@ private slots:
             const char* name;
             int min, max, width, x, value;
         } rows[] = {{"almost the end", 0, 100, 200, 199, 99},
-                    {"middle", 0, 100, 200, 100, 50},
                     {"whole quotient", 0, 100, 100, 29, 29},
                     {"toward zero", -50, 50, 200, 1, -49},
                     {"right of it", 0, 100, 200, 300, 100},
-                    {"left of it", 10, 100, 200, -30, 10},
                     {"empty range is 0 to 100", 5, 5, 200, 100, 50},
                     {"so is a reversed one", 9, 3, 200, 100, 50},
                     {"all of int", INT_MIN, INT_MAX, 200, 150, (1 << 30) - 1},
@@ -510,60 +427,32 @@ private slots:
         QCOMPARE(slider.GetValue(), 3);
     }
 
-    void purePicture()
-    {
-        Pure slider;
-        slider.SetRange(50, 150);
-        slider.SetValue(75);
-        const auto line = [&] {
-            QImage image(slider.size(), QImage::Format_RGB32);
-            slider.render(&image);
-            QString colours; // left and right of each change
-            for (const int x : {0, 1, 49, 50, 198, 199})
-                colours += image.pixelColor(x, 5).name();
-            return colours;
-        };
-        QCOMPARE(line(), QString("#a0a0a4#ff0000#ff0000#ffffff#ffffff#a0a0a4"));
-        slider.SetBorderColor(Qt::blue);
-        slider.SetSubpageColor(Qt::black);
-        // A colour of the host wins over the sheet's.
-        slider.setStyleSheet("PureSlider { qproperty-addpageColor: #00ff00;"
-                             "qproperty-subpageColor: red; qproperty-borderColor: red }");
-        QCOMPARE(line(), QString("#0000ff#000000#000000#00ff00#00ff00#0000ff"));
-        slider.setEnabled(false); // (240, 240, 240) at 150 of 255 over each
-        QCOMPARE(line(), QString("#8d8df6#8d8d8d#8d8d8d#8df68d#8df68d#8d8df6"));
-    }
-
     void accessibleValue()
     {
-        // Value, minimum, maximum and step; then sets the value, which is told.
-        const auto check = [](QWidget& widget, const char* signal, const QString& expected) {
-            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&widget);
-            QCOMPARE(accessible->role(), QAccessible::Slider);
-            QAccessibleValueInterface* value = accessible->valueInterface();
-            const QVariant numbers[] = {value->minimumValue(), value->maximumValue(),
-                                        value->minimumStepSize()};
-            QString seen = accessible->text(QAccessible::Value);
-            for (const QVariant& number : numbers)
-                seen += ' ' + number.toString();
-            QCOMPARE(seen, expected);
-            QSignalSpy spy(&widget, signal);
-            value->setCurrentValue(1000);
-            QCOMPARE(value->currentValue().toInt(), 300);
-            QCOMPARE(spy.size(), 1);
-        };
         Bar bar;
         bar.setRange(300, 100);
         bar.setValue(120, false);
-        check(bar, SIGNAL(valueChanged(double)), "120 100 300 2");
         ScaleUnitSlider zoom(nullptr);
         zoom.setRange(100, 300);
         zoom.setValue(120);
-        check(zoom, SIGNAL(valueChanged(float)), "120 100 300 2");
         PureSlider pure(nullptr);
         pure.SetRange(100, 300);
         pure.SetValue(120);
-        check(pure, SIGNAL(sigValueChanged(int)), "120 100 300 1");
+        const std::pair<QWidget*, const char*> sliders[] = {{&bar, SIGNAL(valueChanged(double))},
+                                                            {&zoom, SIGNAL(valueChanged(float))},
+                                                            {&pure, SIGNAL(sigValueChanged(int))}};
+        for (const auto& [widget, signal] : sliders) {
+            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+            QCOMPARE(accessible->role(), QAccessible::Slider);
+            QCOMPARE(accessible->text(QAccessible::Value), QString("120"));
+            QAccessibleValueInterface* value = accessible->valueInterface();
+            QCOMPARE(value->minimumValue().toInt(), 100);
+            QCOMPARE(value->minimumStepSize().toInt(), widget == &pure ? 1 : 2);
+            QSignalSpy spy(widget, signal);
+            value->setCurrentValue(1000);
+            QCOMPARE(value->currentValue().toInt(), 300);
+            QCOMPARE(spy.size(), 1);
+        }
     }
 };
 
