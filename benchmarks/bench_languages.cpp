@@ -2,7 +2,7 @@
 // Start of the language manager and a switch of language, with seventeen languages of 2,000 texts
 // each, beside bare translators that load the same files; medians of rounds in one run.
 #include "CommonLib/MultiLangMgr.h"
-#include "tests/support/TestTranslations.h"
+#include "benchmarks/BenchTranslations.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
