@@ -197,6 +197,7 @@ private slots:
         for (const auto& row : rows) {
             ImageTextButton button(5, "image", nullptr);
             QCOMPARE(button.size(), QSize(300, 300));
+            button.setWindowFlag(Qt::FramelessWindowHint); // a frame may want a greater width
             button.resize(100, row.height);
             button.SetImageAlign(row.align); // laid out when it shows
             button.show();
@@ -211,6 +212,7 @@ private slots:
     void imageAndTextByMouse()
     {
         ImageTextButton button(5, "image", nullptr);
+        button.setWindowFlag(Qt::FramelessWindowHint);
         button.resize(100, 40);
         button.show();
         button.SetText("Import");

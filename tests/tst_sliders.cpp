@@ -45,6 +45,7 @@ struct Bar : ToolBarSlider
 
     explicit Bar(Qt::Orientation orientation = Qt::Horizontal) : ToolBarSlider(nullptr, orientation)
     {
+        setWindowFlag(Qt::FramelessWindowHint); // a frame may want a greater width
         resize(orientation == Qt::Horizontal ? QSize(kLength, 20) : QSize(20, kLength));
         show();
         const auto note = [this](const char* name) { return [this, name] { log << name; }; };
