@@ -216,17 +216,20 @@ private slots:
     {
         QFETCH(bool, removeSelf);
         QFETCH(QStringList, patterns);
+        QFETCH(QString, left);
         for (const char* name : {"top/full/deep", "top/.hollow", "outside"})
             QVERIFY(QDir(m_folder->path()).mkpath(name));
         for (const char* name : {"top/.a.tmp", "top/full/b.tmp", "top/full/keep", "outside/c.tmp"})
             Write(name, "");
-        const bool hasLink = QTest::currentDataTag() != QByteArray("everything");
-        if (hasLink && !LinkFolder(Path("outside"), Path("top/link")))
-            QSKIP("no links to folders here");
+        if (left.endsWith("link") && !LinkFolder(Path("outside"), Path("top/link"))) {
+            if (QTest::currentDataTag() == QByteArray("links stay"))
+                QSKIP("no links to folders here");
+            left = left.remove("link").trimmed();
+        }
         QTEST(PathOperation::RemoveDirectoryrecursive(Path("top"), removeSelf, patterns), "result");
         const QDir top(Path("top"));
         const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-        QTEST(top.exists() ? top.entryList(all).join(' ') : QString("-"), "left");
+        QCOMPARE(top.exists() ? top.entryList(all).join(' ') : QString("-"), left);
         QVERIFY(QFile::exists(Path("outside/c.tmp")));
     }
 

@@ -108,10 +108,10 @@ private slots:
 #endif
     }
 
+#ifdef Q_OS_LINUX
     // An archive that met itself while it grows would never end.
     void archiveReachedByLink()
     {
-#ifdef Q_OS_LINUX
         QVERIFY(Write(Path("in/file"), QByteArray(100000, 'x')));
         QVERIFY(QDir().mkdir(Path("archives")));
         QVERIFY(QFile::link("in", Path("link")) && QFile::link("../archives", Path("in/out")));
@@ -121,8 +121,8 @@ private slots:
             QCOMPARE(JlCompress::getFileList(Path(archive)).contains("out/a.zip"), false);
             QVERIFY(QFile::remove(Path(archive)));
         }
-#endif
     }
+#endif
 
     void names_data()
     {
