@@ -15,6 +15,10 @@
 
 #include <limits>
 
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
+#endif
+
 class TestScreens : public QObject
 {
     Q_OBJECT
@@ -202,6 +206,23 @@ private slots:
         gOpenFramelessWidgetShadow(reinterpret_cast<HWND>(quintptr(12345)), 0);
     }
 
+#ifdef Q_OS_WIN
+    void shadowMovesNothing()
+    {
+        QWidget window(nullptr, Qt::FramelessWindowHint);
+        window.setGeometry(50, 60, 200, 100);
+        window.show();
+        const auto handle = reinterpret_cast<HWND>(window.winId());
+        const auto area = [handle] {
+            RECT edges = {};
+            GetWindowRect(handle, &edges);
+            return QRect(QPoint(edges.left, edges.top), QPoint(edges.right - 1, edges.bottom - 1));
+        };
+        gOpenFramelessWidgetShadow(handle, 0);
+        QCOMPARE(GetWindowLongPtrW(handle, GWL_STYLE) & 0x82C00000, LONG_PTR(0x82C00000));
+        QCOMPARE(area(), QRect(50, 60, 200, 100));
+    }
+#else
     // Eight pictures and four reaches, for a window manager that knows them and for no other.
     void shadowOnX11()
     {
@@ -230,6 +251,7 @@ private slots:
         QVERIFY(!words.contains("0"));
         QCOMPARE(shadow(), words); // shared
     }
+#endif
 
     void ratioIsLogged()
     {
