@@ -39,10 +39,9 @@ private:
     {
         QStringList lines = log.Take();
         for (QString& line : lines)
-            line.replace(
-                QRegularExpression("-INFO- \\[CaptionEnvironment::(\\w+)\\]:  (.*) - "
-                                   "\\[CommonLib/GlobalResources\\(\\d+\\)\\]"),
-                "\\1: \\2");
+            line.replace(QRegularExpression("-INFO- \\[CaptionEnvironment::(\\w+)\\]:  (.*) - "
+                                            "\\[CommonLib/GlobalResources\\(\\d+\\)\\]"),
+                         "\\1: \\2");
         return lines;
     }
 

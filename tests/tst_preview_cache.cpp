@@ -184,7 +184,7 @@ class tst_PreviewCache : public QObject, private EngineFixture
     /// Clips that all look different, so that each has to be rendered.
     Node LongProject(int clips = 60) const
     {
-        const Node project = Project();
+        Node project = Project();
         for (int i = 0; i < clips; ++i) {
             const Node clip = Media(m_media);
             clip.query<INLEBlendSetting>()->SetAlpha(255 - i);

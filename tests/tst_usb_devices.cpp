@@ -159,7 +159,7 @@ private Q_SLOTS:
         const auto listener = MakeCom<Listener>();
         listener->advise(device);
         const auto tree = device.tree();
-        const QString top = tree.firstKey();
+        const QString& top = tree.firstKey();
         QByteArray hash;
         quint64 total = 0;
         std::thread helper;
