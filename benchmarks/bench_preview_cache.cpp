@@ -5,6 +5,7 @@
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/INLEBackgroundCache.h"
+#include "EngineApi/INLEKeyFrames.h"
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/INLETransform.h"
 #include "TestMedia.h"
@@ -164,6 +165,13 @@ Node MakeTimeline(const QString& media, int layers)
             clip.query<INLETransform>()->SetScale(&half);
             clip.query<INLETransform>()->SetRotation(10);
             clip.query<INLEBlendSetting>()->SetAlpha(160);
+            // Across the picture and half round.
+            const auto keys = clip.query<INLEKeyFrameList>();
+            const NLEKeyFrameRecord ends[] = {{0, 0, -0.2, 0.2, 1, 1, 1, 1},
+                                              {1, 180, 0.2, -0.2, 0.7, 0.7, 0.6, 1}};
+            int index = 0;
+            for (const NLEKeyFrameRecord& end : ends)
+                keys->AddKeyFrame(&end, &index);
         }
         Add(project, clip, 0, level);
     }
