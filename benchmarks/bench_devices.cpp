@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-// The portable-device service on a folder: walking 20,000 objects beside the file system's own
-// walk, and copying a file of 1 GiB beside cp. Rounds are interleaved; figures are medians.
-#include "tests/support/DeviceClient.h"
+// A folder as a portable device: walking 20,000 objects beside the file system's own walk, and
+// copying a file of 1 GiB beside cp. Rounds are interleaved; figures are medians.
+#include "CommonLib/WpdApiLib/WpdApiLib.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -12,10 +13,11 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <fcntl.h>
+#include <cwchar>
 #include <filesystem>
 #include <functional>
-#include <unistd.h>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -54,24 +56,25 @@ void Compare(const char* subject, const char* peer, const std::function<bool()>&
                 Median(their), Median(their) / Median(our));
 }
 
-// As an importer copies: one buffer of the size that the device asked for.
-bool Copy(const DeviceClient::Device& device, const QString& id, const QByteArray& target)
+struct Walk
 {
-    NLEComPtr<IStream> stream;
-    DWORD size = 0;
-    if (FAILED(device.resources->GetStream(id.toStdWString().c_str(), Wpd::WPD_RESOURCE_DEFAULT,
-                                           STGM_READ, &size, stream.put())))
-        return false;
-    const int file = ::open(target.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
-    std::vector<char> buffer(size);
-    ULONG count = 0;
-    bool isGood = file >= 0;
-    do {
-        isGood = isGood && SUCCEEDED(stream->Read(buffer.data(), size, &count)) &&
-                 ::write(file, buffer.data(), count) == static_cast<ssize_t>(count);
-    } while (isGood && count > 0);
-    ::close(file);
-    return isGood;
+    int objects = 0;
+    std::wstring large; // identifier of the file to copy
+};
+
+// Goes into every folder.
+std::int64_t OnDevice(HWND /*window*/, std::uint32_t /*message*/, std::uint64_t code,
+                      std::int64_t value, void* user)
+{
+    if (code != WpdObjectRead)
+        return 0;
+    auto& walk = *static_cast<Walk*>(user);
+    auto& record = *reinterpret_cast<WpdObjectRecord*>(value);
+    ++walk.objects;
+    if (std::wcscmp(record.originalFileName, L"large") == 0)
+        walk.large = record.objectId;
+    record.descend = record.isFolder;
+    return 0;
 }
 
 bool MakeFiles(const QString& folder)
@@ -98,18 +101,19 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "cannot make the test files\n");
         return 1;
     }
-    const DeviceClient::Device device(QString::fromLatin1(QUrl::fromLocalFile(folder).toEncoded()));
-    if (FAILED(device.result)) {
+    Walk walk;
+    WpdApiLib::SetCallbackProc(&OnDevice, &walk);
+    const std::wstring id =
+        QString::fromLatin1(QUrl::fromLocalFile(folder).toEncoded()).toStdWString();
+    if (!WpdApiLib::ChooseDevice(id.c_str(), nullptr)) {
         std::fprintf(stderr, "cannot open the folder as a device\n");
         return 1;
     }
-    const QString id = device.tree()["card/large"].id;
     Compare(
         "walking 20,000 objects", "std::filesystem",
         [&] {
-            int count = 0;
-            device.walk(L"DEVICE", [&count](const DeviceClient::Object&) { ++count; });
-            return count > kObjects;
+            walk.objects = 0;
+            return WpdApiLib::EnumerateAllContent() && walk.objects > kObjects;
         },
         [&] {
             std::uintmax_t bytes = 0;
@@ -123,10 +127,15 @@ int main(int argc, char** argv)
             return count > kObjects && bytes > 0;
         });
     const QString target = work.filePath("copy");
+    const std::wstring path = target.toStdWString();
     Compare(
-        "copying 1 GiB", "cp", [&] { return Copy(device, id, QFile::encodeName(target)); },
+        "copying 1 GiB", "cp",
+        [&] {
+            return WpdApiLib::TransferContentFromDevice(walk.large.c_str(), path.c_str(), 0) == 1;
+        },
         [&] {
             return QProcess::execute("cp", {folder + "/large", target}) == 0;
         });
+    WpdApiLib::UnregisterForEventNotifications();
     return 0;
 }

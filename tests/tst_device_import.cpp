@@ -10,6 +10,7 @@
 #include <atomic>
 #include <cstdlib>
 #include <new>
+#include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
 
@@ -345,7 +346,9 @@ private slots:
                     {10000, 8192, 4000, -1, {4000, 8000, 10000}}, // short reads
                     {300000, 0, 0, -1, {262144, 300000}}, // a device without a size of its own
                     {10000, 4096, 0, 0, {4096}},
-                    {10000, 4096, 0, 2, {4096, 8192, 10000}}};
+                    {10000, 4096, 0, 2, {4096, 8192, 10000}},
+                    // space is reserved ahead
+                    {70000000, 1 << 25, 0, 2, {1 << 25, 1 << 26, 70000000}}};
         for (const auto& row : rows) {
             const QVector<qint64>& chunks = row.chunks;
             const int stopAfter = row.stopAfter;
@@ -376,6 +379,11 @@ private slots:
             for (int i = 0; i < expected.size(); ++i)
                 expected[i] = DeviceScript::DataAt(i);
             QVERIFY(file.readAll() == expected);
+#ifdef Q_OS_LINUX
+            struct stat status = {};
+            QVERIFY(::fstat(file.handle(), &status) == 0);
+            QVERIFY(status.st_blocks * 512 < file.size() + (1 << 20));
+#endif
             cleanup();
         }
     }

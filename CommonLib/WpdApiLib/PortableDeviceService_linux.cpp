@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QLibrary>
 
+#include <fcntl.h>
+
 namespace {
 
 using GetClassObjectFunction = HRESULT (*)(REFCLSID classId, REFIID iid, void** out);
@@ -24,7 +26,8 @@ GetClassObjectFunction GetClassObject()
     return s_function;
 }
 
-/// Writes a local file; unbuffered, so that a full disk shows in the write that meets it.
+/// Writes a local file; unbuffered, so that a full disk shows in the write that meets it. Space for
+/// a large file is reserved ahead: without, writing takes twice as long on ext4.
 class FileStream final : public ComObject<IStream>
 {
 public:
@@ -37,6 +40,7 @@ public:
     HRESULT Read(void* /*data*/, ULONG /*count*/, ULONG* /*read*/) override { return E_NOTIMPL; }
     HRESULT Write(const void* data, ULONG count, ULONG* written) override
     {
+        ReserveUpTo(m_file.pos() + count);
         const qint64 done = m_file.write(static_cast<const char*>(data), count);
         if (written)
             *written = done < 0 ? 0 : static_cast<ULONG>(done);
@@ -68,8 +72,29 @@ public:
     HRESULT Stat(STATSTG* /*out*/, DWORD /*flags*/) override { return E_NOTIMPL; }
     HRESULT Clone(IStream** /*out*/) override { return E_NOTIMPL; }
 
+protected:
+    ~FileStream() override
+    {
+        if (m_reserved > ReserveStep)
+            m_file.resize(m_file.size()); // gives back what lies behind the end
+    }
+
 private:
+    /// Sees to space for the data before \a end, unless the file system cannot: writing tells then.
+    void ReserveUpTo(qint64 end)
+    {
+        if (!m_canReserve || end <= m_reserved)
+            return;
+        m_canReserve =
+            ::fallocate(m_file.handle(), FALLOC_FL_KEEP_SIZE, m_reserved, ReserveStep) == 0;
+        m_reserved += ReserveStep;
+    }
+
+    static constexpr qint64 ReserveStep = 64 << 20; // bytes
+
     QFile m_file;
+    qint64 m_reserved = ReserveStep; // smaller files gain nothing
+    bool m_canReserve = true;
 };
 
 } // namespace
