@@ -98,10 +98,14 @@ void TimelineViewRuler::resizeEvent(QResizeEvent* event)
 void TimelineViewRuler::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange)
-        ChangeSegments([this](RulerSegment& segment) { segment.enabled = isEnabled(); });
     if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange)
         ChangeConvertor([](RulerConvertor& convertor) { convertor.UpdateLabelInterval(); });
+    if (event->type() != QEvent::EnabledChange)
+        return;
+    ChangeSegments([this](RulerSegment& segment) { segment.enabled = isEnabled(); });
+    // The release would never come.
+    if (!isEnabled())
+        EndDrag();
 }
 
 void TimelineViewRuler::hideEvent(QHideEvent* event)
@@ -156,7 +160,8 @@ void TimelineViewRuler::MoveByUser(int frame)
 void TimelineViewRuler::StepTo(qint64 frame)
 {
     const int target = Bounded(frame);
-    if (!behaviour.moveFrame || target == Segment().currentFrame)
+    if (!behaviour.moveFrame || m_drag.Active() != Drag::None ||
+        target == Segment().currentFrame)
         return;
     emit StartFramesChanged();
     MoveByUser(target);
@@ -203,7 +208,7 @@ void TimelineViewRuler::ZoomAbout(float zoom, double frame, double x)
 
 void TimelineViewRuler::ZoomOnceAbout(float zoom, double frame, double x)
 {
-    if (m_convertor.BoundedZoom(zoom) == m_convertor.Zoom())
+    if (m_drag.Active() != Drag::None || m_convertor.BoundedZoom(zoom) == m_convertor.Zoom())
         return;
     emit StartZoomChanged();
     ZoomAbout(zoom, frame, x);
@@ -337,10 +342,12 @@ void TimelineViewRuler::ScrollAtEdge()
 
 void TimelineViewRuler::timerEvent(QTimerEvent* event)
 {
-    if (event->timerId() == m_scrollTimer.timerId())
+    if (event->timerId() != m_scrollTimer.timerId())
+        QWidget::timerEvent(event);
+    else if (behaviour.dragable)
         ScrollAtEdge();
     else
-        QWidget::timerEvent(event);
+        m_scrollTimer.stop();
 }
 
 void TimelineViewRuler::StartZoomAndScroll()

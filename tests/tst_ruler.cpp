@@ -547,16 +547,29 @@ private slots:
         ruler.Move(-100);
         QTRY_COMPARE(ruler.CurrentFrames(), 0);
         QCOMPARE(ruler.OffsetFrames(), 0);
+        QTest::keyClick(ruler.view, Qt::Key_Right); // the mouse has it
+        QTest::keyClick(ruler.view, Qt::Key_Minus);
+        QCOMPARE(ruler.CurrentFrames(), 0);
+        QCOMPARE(ruler.Zoom(), 120.0F);
         ruler.SetTotalFrames(100000);
-        ruler.Move(kWidth + 100);
-        QTRY_VERIFY(ruler.OffsetFrames() > 10);
-        ruler.Release(kWidth + 100);
-        const int still = ruler.OffsetFrames();
-        ruler.TakeLog();
-        QTest::qWait(100);
-        ruler.Move(200);
-        QCOMPARE(ruler.TakeLog(), QString());
-        QCOMPARE(ruler.OffsetFrames(), still);
+        for (const Setter& end : {Setter([](Ruler& r) { r.hide(); }),
+                                  Setter([](Ruler& r) { r.setEnabled(false); }),
+                                  Setter([](Ruler& r) { r.Release(kWidth + 100); })}) {
+            ruler.SetOffsetFrames(0);
+            ruler.setEnabled(true);
+            ruler.show();
+            ruler.Press(300);
+            ruler.Move(kWidth + 100);
+            QTRY_VERIFY(ruler.OffsetFrames() > 10);
+            ruler.TakeLog();
+            end(ruler);
+            QVERIFY(ruler.TakeLog().endsWith(" end"));
+            const int still = ruler.OffsetFrames();
+            QTest::qWait(100);
+            ruler.Move(200);
+            QCOMPARE(ruler.TakeLog(), QString());
+            QCOMPARE(ruler.OffsetFrames(), still);
+        }
         // What shows as a whole does not scroll.
         ruler.SetOffsetFrames(0);
         ruler.SetOffsetPosition(0);
