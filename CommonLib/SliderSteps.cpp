@@ -44,11 +44,10 @@ std::optional<double> SliderSteps::Target(const QKeyEvent& event) const
 double SliderSteps::Target(const QWheelEvent& event) const
 {
     const QPoint turn = event.angleDelta();
-    double notches = turn.y() / kNotch;
-    if (turn.y() != 0 && orientation == Qt::Vertical)
+    const bool sideways = qAbs(turn.x()) > qAbs(turn.y());
+    double notches = (sideways ? turn.x() : turn.y()) / kNotch;
+    if (sideways ? !mirrored : orientation == Qt::Vertical)
         notches = -notches;
-    else if (turn.y() == 0)
-        notches = (mirrored ? turn.x() : -turn.x()) / kNotch;
     const bool pages = event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier);
     return value + notches * (pages ? page : step);
 }

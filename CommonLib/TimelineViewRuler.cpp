@@ -160,8 +160,7 @@ void TimelineViewRuler::MoveByUser(int frame)
 void TimelineViewRuler::StepTo(qint64 frame)
 {
     const int target = Bounded(frame);
-    if (!behaviour.moveFrame || m_drag.Active() != Drag::None ||
-        target == Segment().currentFrame)
+    if (!behaviour.moveFrame || m_drag.Active() != Drag::None || target == Segment().currentFrame)
         return;
     emit StartFramesChanged();
     MoveByUser(target);
@@ -230,7 +229,8 @@ void TimelineViewRuler::wheelEvent(QWheelEvent* event)
 {
     const QPoint turn = event->angleDelta();
     // Alt and Shift turn a vertical wheel into a horizontal one on some systems.
-    const double notches = (turn.y() != 0 ? turn.y() : turn.x()) / kUnitsPerNotch;
+    const bool sideways = std::abs(turn.x()) > std::abs(turn.y());
+    const double notches = (sideways ? turn.x() : turn.y()) / kUnitsPerNotch;
     event->accept();
     if (notches == 0 || m_drag.Active() != Drag::None)
         return;
@@ -241,8 +241,12 @@ void TimelineViewRuler::wheelEvent(QWheelEvent* event)
         ZoomOnceAbout(from - static_cast<float>(notches) * kZoomPerNotch,
                       segment.PositionToFrames(x), x);
     } else {
-        SetLeftEdge(segment.LeftEdge() -
-                    segment.PixelsToFrames(notches * width() * kWidthsPerNotch));
+        const double pixels = notches * width() * kWidthsPerNotch + m_wheelRest;
+        const double wanted = segment.LeftEdge() - segment.PixelsToFrames(pixels);
+        SetLeftEdge(wanted);
+        // What whole frames and pixels cannot express; more than that is left at an end only.
+        const double rest = Segment().FramesToPixels(Segment().LeftEdge() - wanted);
+        m_wheelRest = std::abs(rest) < 1 ? rest : 0;
     }
 }
 

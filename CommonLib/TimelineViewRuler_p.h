@@ -121,5 +121,6 @@ private:
     QElapsedTimer m_sincePress;
     QBasicTimer m_scrollTimer;
     QPoint m_mouse;
+    double m_wheelRest = 0; // part of a pixel that the wheel has yet to scroll
     bool m_inSingleClick = false;
 };

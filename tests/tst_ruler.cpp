@@ -531,6 +531,12 @@ private slots:
         QCOMPARE(ruler.TakeLog(), "offset" + QString::number(ruler.OffsetFrames()));
         QVERIFY(std::abs(under(0) - (grabbed - double(ruler.Duration2FramesF(20 - 40)))) <=
                 2 * double(ruler.Duration2FramesF(1)));
+        // As far by the smallest steps of a wheel, each a third of a pixel.
+        const double scrolled = under(0);
+        for (int i = 0; i < 120; ++i)
+            ruler.Wheel(250, -1, {});
+        QVERIFY(std::abs(under(0) - scrolled - double(ruler.Duration2FramesF(40))) <=
+                2 * double(ruler.Duration2FramesF(1)));
     }
 
     void dragBeyondTheEdgeScrolls()
@@ -552,9 +558,9 @@ private slots:
         QCOMPARE(ruler.CurrentFrames(), 0);
         QCOMPARE(ruler.Zoom(), 120.0F);
         ruler.SetTotalFrames(100000);
-        for (const Setter& end : {Setter([](Ruler& r) { r.hide(); }),
-                                  Setter([](Ruler& r) { r.setEnabled(false); }),
-                                  Setter([](Ruler& r) { r.Release(kWidth + 100); })}) {
+        for (const Setter& end :
+             {Setter([](Ruler& r) { r.hide(); }), Setter([](Ruler& r) { r.setEnabled(false); }),
+              Setter([](Ruler& r) { r.Release(kWidth + 100); })}) {
             ruler.SetOffsetFrames(0);
             ruler.setEnabled(true);
             ruler.show();

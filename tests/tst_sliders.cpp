@@ -253,7 +253,7 @@ private slots:
                     {Qt::Horizontal, false, 100, 0, "49 51 49 51 40 60 100 0 48 40 50.5 48"}};
         const Qt::Key keys[] = {Qt::Key_Right,  Qt::Key_Left,     Qt::Key_Up,   Qt::Key_Down,
                                 Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
-        const QPoint turns[] = {{0, 240}, {0, 120}, {60, 0}, {-240, 0}}; // the second with Ctrl
+        const QPoint turns[] = {{0, 240}, {0, 120}, {60, -9}, {-240, 9}}; // the second with Ctrl
         for (const auto& row : rows) {
             Bar bar(row.orientation);
             bar.SetLeftToRight(!row.mirrored);
