@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/PureSlider.h"
 
+#include "CommonLib/ScreenPixels_p.h"
 #include "CommonLib/SliderSteps_p.h"
 #include "CommonLib/WidgetAccessibility_p.h"
 
@@ -107,13 +108,13 @@ void PureSlider::paintEvent(QPaintEvent*)
     const auto filled = static_cast<int>(width() * above / range);
     painter.fillRect(0, 0, filled, height(), m_subpageColor);
     // A frame one pixel wide. In strips, as a pen would straddle the edge at other scales than 1.
+    const QRect bar = CountInScreenPixels(painter, rect());
+    const int line = qMax(1, qRound(devicePixelRatioF()));
     const QColor frame = m_keyboardFocus ? palette().color(QPalette::Highlight) : m_borderColor;
-    painter.fillRect(0, 0, width(), 1, frame);
-    painter.fillRect(0, height() - 1, width(), 1, frame);
-    painter.fillRect(0, 0, 1, height(), frame);
-    painter.fillRect(width() - 1, 0, 1, height(), frame);
+    for (const QRect& strip : QRegion(bar) - bar.adjusted(line, line, -line, -line))
+        painter.fillRect(strip, frame);
     if (!isEnabled())
-        painter.fillRect(rect(), QColor::fromRgba(kDisabledVeil));
+        painter.fillRect(bar, QColor::fromRgba(kDisabledVeil));
 }
 
 void PureSlider::mousePressEvent(QMouseEvent* event)

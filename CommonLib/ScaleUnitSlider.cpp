@@ -3,6 +3,7 @@
 
 #include "CommonLib/BaseButton.h"
 #include "CommonLib/NumberConversion_p.h"
+#include "CommonLib/ScreenPixels_p.h"
 #include "CommonLib/ToolBarSlider.h"
 #include "CommonLib/WidgetAccessibility_p.h"
 
@@ -43,20 +44,18 @@ protected:
     void paintEvent(QPaintEvent* event) override
     {
         BaseButton::paintEvent(event);
-        // In pixels of the screen. A stroke as odd or even as the button lies in its middle.
-        const double scale = devicePixelRatioF();
-        const QSize button(qRound(width() * scale), qRound(height() * scale));
+        QPainter painter(this);
+        const QRect button = CountInScreenPixels(painter, rect());
+        // A stroke as odd or even as the button lies in its middle.
         const int side = qMin(button.width(), button.height());
         int stroke = qMax(1, qRound(side * kStroke));
         stroke += (side - stroke) % 2;
         int arm = qRound(side * kArm);
         arm += (arm - stroke) % 2;
         const auto bar = [&](int length, int thickness) {
-            const QPoint corner((button.width() - length) / 2, (button.height() - thickness) / 2);
-            return QRectF(QPointF(corner) / scale, QSizeF(length, thickness) / scale);
+            return QRect(button.x() + (button.width() - length) / 2,
+                         button.y() + (button.height() - thickness) / 2, length, thickness);
         };
-
-        QPainter painter(this);
         const QColor color = palette().color(QPalette::ButtonText);
         painter.fillRect(bar(arm, stroke), color);
         if (m_sign == Sign::Plus)

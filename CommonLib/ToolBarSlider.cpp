@@ -18,6 +18,8 @@ namespace {
 constexpr int kUsualLength = 160;
 constexpr double kStepsPerRange = 100;
 constexpr double kPagesPerRange = 10;
+// So that it does not look out below a chunk at an end, which the style sheet gives this margin.
+constexpr int kGrooveInset = 1;
 
 QWidget* MakePart(QWidget* parent, const QString& name)
 {
@@ -461,9 +463,11 @@ void ToolBarSlider::LayOut()
 {
     m_background->setGeometry(rect());
     if (m_orientation == Qt::Horizontal)
-        m_groove->setGeometry(0, (height() - m_grooveHeight) / 2, width(), m_grooveHeight);
+        m_groove->setGeometry(kGrooveInset, (height() - m_grooveHeight) / 2,
+                              width() - 2 * kGrooveInset, m_grooveHeight);
     else
-        m_groove->setGeometry((width() - m_grooveHeight) / 2, 0, m_grooveHeight, height());
+        m_groove->setGeometry((width() - m_grooveHeight) / 2, kGrooveInset, m_grooveHeight,
+                              height() - 2 * kGrooveInset);
     PlaceChunk();
     ResizeChunk();
 }
@@ -505,7 +509,7 @@ void ToolBarSlider::ResizeChunk()
 void ToolBarSlider::ResizeHighlight()
 {
     QRect highlight(QPoint(0, 0), m_groove->size());
-    const QPoint centre = m_chunk->geometry().center();
+    const QPoint centre = m_groove->mapFromParent(m_chunk->geometry().center());
     if (m_orientation == Qt::Vertical && m_forward)
         highlight.setTop(centre.y());
     else if (m_orientation == Qt::Vertical)

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QPainter>
+#include <QRect>
+
+// Not part of the library's interface.
+
+/// Lets \a painter count in pixels of the screen from now on, so that lines are sharp and of one
+/// width at any scale. Gives the pixels of \a area, with its edges rounded as the toolkit does.
+inline QRect CountInScreenPixels(QPainter& painter, const QRect& area)
+{
+    const QTransform toScreen = painter.deviceTransform();
+    painter.setTransform(toScreen.inverted(), true);
+    return toScreen.mapRect(QRectF(area)).toRect();
+}
