@@ -36,12 +36,13 @@ void ClipStrip::PaintClip(QPainter& painter, const Clip& clip) const
     painter.setBrush(clip.color);
     painter.drawRoundedRect(box.translated(0.5, 0.5), kCornerRadius, kCornerRadius);
     painter.setPen(QColor(0xf0, 0xf2, 0xf4));
-    const int room = static_cast<int>(box.width()) - 2 * kTextIndent;
-    if (room > 0)
+    // Within the part of the clip that shows.
+    const QRectF room = (box & QRectF(rect())).adjusted(kTextIndent, 0, -kTextIndent, 0);
+    if (room.width() > 0)
         painter.drawText(
-            box.adjusted(kTextIndent, 0, -kTextIndent, 0), Qt::AlignVCenter | Qt::AlignLeft,
+            room, Qt::AlignVCenter | Qt::AlignLeft,
             fontMetrics().elidedText(QCoreApplication::translate("ClipStrip", clip.name),
-                                     Qt::ElideRight, room));
+                                     Qt::ElideRight, static_cast<int>(room.width())));
 }
 
 void ClipStrip::changeEvent(QEvent* event)
