@@ -67,6 +67,7 @@ LanguagePage::LanguagePage(QWidget* parent)
     AddLabeled(form, QT_TR_NOOP("Clips:"), m_count);
     form->addRow(QString(), m_counted);
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(form);
     layout->addWidget(MakeSample());
     layout->addStretch(1);
