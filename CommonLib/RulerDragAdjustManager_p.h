@@ -19,7 +19,6 @@ public:
     };
 
     Drag Active() const { return m_drag; }
-    bool IsMoved() const { return m_moved; }
 
     void BeginPlayHead(const QPoint& at);
     /// The next Grab() tells where the drag begins.
