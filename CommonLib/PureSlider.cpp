@@ -175,14 +175,12 @@ void PureSlider::keyPressEvent(QKeyEvent* event)
 
 void PureSlider::focusInEvent(QFocusEvent* event)
 {
-    const Qt::FocusReason reason = event->reason();
-    m_keyboardFocus = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-                      reason == Qt::ShortcutFocusReason;
+    m_keyboardFocus = ShowsKeyboardFocus(*event, m_keyboardFocus);
     QWidget::focusInEvent(event);
 }
 
 void PureSlider::focusOutEvent(QFocusEvent* event)
 {
-    m_keyboardFocus = false;
+    m_keyboardFocus = ShowsKeyboardFocus(*event, m_keyboardFocus);
     QWidget::focusOutEvent(event);
 }

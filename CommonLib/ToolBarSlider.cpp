@@ -429,24 +429,24 @@ void ToolBarSlider::keyPressEvent(QKeyEvent* event)
 
 void ToolBarSlider::focusInEvent(QFocusEvent* event)
 {
-    const Qt::FocusReason reason = event->reason();
-    ShowFocus(reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-              reason == Qt::ShortcutFocusReason);
+    ShowFocus(*event);
     QWidget::focusInEvent(event);
 }
 
 void ToolBarSlider::focusOutEvent(QFocusEvent* event)
 {
-    ShowFocus(false);
+    ShowFocus(*event);
     QWidget::focusOutEvent(event);
 }
 
-void ToolBarSlider::ShowFocus(bool shown)
+void ToolBarSlider::ShowFocus(const QFocusEvent& event)
 {
     constexpr const char* name = "keyboardFocus";
-    if (m_chunk->property(name).toBool() == shown)
+    const bool before = m_chunk->property(name).toBool();
+    const bool shows = ShowsKeyboardFocus(event, before);
+    if (shows == before)
         return;
-    m_chunk->setProperty(name, shown);
+    m_chunk->setProperty(name, shows);
     m_chunk->style()->unpolish(m_chunk);
     m_chunk->style()->polish(m_chunk);
 }

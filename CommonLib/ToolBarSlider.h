@@ -124,7 +124,7 @@ private:
     void EndHold(bool emits);
     void CancelHold();
     void ChangeByUser(double value);
-    void ShowFocus(bool shown);
+    void ShowFocus(const QFocusEvent& event);
     SliderSteps Steps() const;
     QPoint Unmirrored(QPoint pos) const;
     float Limited(double value) const;

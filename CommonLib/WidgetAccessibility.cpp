@@ -11,6 +11,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QFocusEvent>
 
 // The text that the widget was given, else \a fallback.
 static QString NameOr(const QWidget& widget, const QString& fallback)
@@ -204,6 +205,21 @@ static QAccessibleInterface* MakeInterface(const QString& className, QObject* ob
 void InstallWidgetAccessibility()
 {
     QAccessible::installFactory(MakeInterface); // once only, however often it is called
+}
+
+bool ShowsKeyboardFocus(const QFocusEvent& event, bool shows)
+{
+    switch (event.reason()) {
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+    case Qt::ShortcutFocusReason:
+        return event.gotFocus();
+    case Qt::ActiveWindowFocusReason:
+    case Qt::PopupFocusReason:
+        return shows;
+    default:
+        return false;
+    }
 }
 
 void NotifyAccessibleValue(QWidget* slider, double value)

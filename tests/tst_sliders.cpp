@@ -275,6 +275,21 @@ private slots:
         }
     }
 
+    void keyboardFocus()
+    {
+        Bar bar;
+        for (const auto& [type, reason, shows] :
+             {std::tuple(QEvent::FocusIn, Qt::TabFocusReason, true),
+              {QEvent::FocusOut, Qt::ActiveWindowFocusReason, true}, // and back to the window
+              {QEvent::FocusIn, Qt::ActiveWindowFocusReason, true},
+              {QEvent::FocusOut, Qt::TabFocusReason, false},
+              {QEvent::FocusIn, Qt::MouseFocusReason, false}}) {
+            QFocusEvent event(type, reason);
+            QCoreApplication::sendEvent(&bar, &event);
+            QCOMPARE(bar.chunk->property("keyboardFocus").toBool(), shows);
+        }
+    }
+
     void destroyedByItsHandler()
     {
         using Seek = ToolBarSlider;
