@@ -310,6 +310,9 @@ private slots:
         while (1.5 * textWidth > every * int(spacing))
             every *= 2;
         const QImage image = ruler.Picture();
+        const auto at = [&](double frame) {
+            return (frame - offset) * spacing / segment->bigFrames;
+        };
         // Ticks stand on whole pixels, counted from a shift which has a fraction itself.
         for (const int row : {kHeight - 10, kHeight - 6}) { // of large ticks only, of both
             const int perTick = row == kHeight - 10 ? segment->bigFrames : segment->bigFrames / 5;
@@ -317,7 +320,7 @@ private slots:
             const int first = (offset + perTick - 1) / perTick;
             int expected = 0;
             for (int tick = first;; ++tick, ++expected) {
-                const double x = (double(tick) * perTick - offset) * spacing / segment->bigFrames;
+                const double x = at(double(tick) * perTick);
                 if (x > kWidth - 1.5)
                     break;
                 const bool found = std::any_of(columns.begin(), columns.end(),
@@ -329,12 +332,8 @@ private slots:
         }
         // Labels begin two pixels beside every n-th large tick, and nowhere else.
         const int big = (offset + segment->bigFrames - 1) / segment->bigFrames;
-        for (int tick = big;
-             (double(tick) * segment->bigFrames - offset) * spacing / segment->bigFrames <
-             kWidth - textWidth;
-             ++tick) {
-            const int x =
-                int((double(tick) * segment->bigFrames - offset) * spacing / segment->bigFrames);
+        for (int tick = big; at(double(tick) * segment->bigFrames) < kWidth - textWidth; ++tick) {
+            const int x = int(at(double(tick) * segment->bigFrames));
             int inked = 0;
             for (int column = x + 3; column < x + std::min(textWidth, int(spacing)) - 3; ++column)
                 for (int row = kHeight - 22; row < kHeight - 10; ++row)
@@ -558,9 +557,7 @@ private slots:
         QCOMPARE(ruler.CurrentFrames(), 0);
         QCOMPARE(ruler.Zoom(), 120.0F);
         ruler.SetTotalFrames(100000);
-        for (const Setter& end :
-             {Setter([](Ruler& r) { r.hide(); }), Setter([](Ruler& r) { r.setEnabled(false); }),
-              Setter([](Ruler& r) { r.Release(kWidth + 100); })}) {
+        for (const char end : {'h', 'd', 'r'}) {
             ruler.SetOffsetFrames(0);
             ruler.setEnabled(true);
             ruler.show();
@@ -568,7 +565,9 @@ private slots:
             ruler.Move(kWidth + 100);
             QTRY_VERIFY(ruler.OffsetFrames() > 10);
             ruler.TakeLog();
-            end(ruler);
+            end == 'h'   ? ruler.hide()
+            : end == 'd' ? ruler.setEnabled(false)
+                         : ruler.Release(kWidth + 100);
             QVERIFY(ruler.TakeLog().endsWith(" end"));
             const int still = ruler.OffsetFrames();
             QTest::qWait(100);

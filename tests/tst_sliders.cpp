@@ -282,8 +282,7 @@ private slots:
              {std::tuple(QEvent::FocusIn, Qt::TabFocusReason, true),
               {QEvent::FocusOut, Qt::ActiveWindowFocusReason, true}, // and back to the window
               {QEvent::FocusIn, Qt::ActiveWindowFocusReason, true},
-              {QEvent::FocusOut, Qt::TabFocusReason, false},
-              {QEvent::FocusIn, Qt::MouseFocusReason, false}}) {
+              {QEvent::FocusOut, Qt::TabFocusReason, false}}) {
             QFocusEvent event(type, reason);
             QCoreApplication::sendEvent(&bar, &event);
             QCOMPARE(bar.chunk->property("keyboardFocus").toBool(), shows);
