@@ -63,7 +63,8 @@ bool startLog(const Options& options, Console& console)
 void copyLog(const Options& options)
 {
     const QString copy = QDir(options.output).filePath(QString::fromLatin1(logName));
-    if (QFileInfo(copy).absoluteFilePath() == QFileInfo(options.log).absoluteFilePath())
+    // Also by way of a link it may be the same file, which removing the copy would lose.
+    if (QFileInfo(copy).canonicalFilePath() == QFileInfo(options.log).canonicalFilePath())
         return;
     QFile::remove(copy);
     QFile::copy(options.log, copy);
@@ -93,7 +94,8 @@ int run(const Options& options, Console& console)
         return WrongUsage;
     }
     std::optional<ToolkitMessages> messages;
-    if (startLog(options, console))
+    const bool logged = startLog(options, console);
+    if (logged)
         messages.emplace();
     const int code = reportFiles(options, output, console);
     // Everything that logs while it is destroyed goes before the log does.
@@ -102,7 +104,8 @@ int run(const Options& options, Console& console)
     messages.reset();
     GetGlobalLogInstance()->LogInfo("Host/main", "main", __LINE__, "end");
     ReleseGlobalLogInstance();
-    copyLog(options);
+    if (logged)
+        copyLog(options);
     return code;
 }
 

@@ -79,8 +79,10 @@ private slots:
     {
         QVERIFY(QDir().mkpath(path("folder.mp4")));
         QVERIFY(writeFile(path("empty.mp4"), {}) && writeFile(path("text.mp4"), "No movie.\n"));
-        const Run run = runHost({"--output", m_output, path("missing.mp4"), path("folder.mp4"),
-                                 path("empty.mp4"), path("text.mp4"), "/dev/zero"});
+        QVERIFY(QDir().mkpath(m_output) && QFile::link(m_output, path("link"))); // the same log
+        const Run run = runHost({"--output", m_output, "--log", path("link/CommonLibDemo.log"),
+                                 path("missing.mp4"), path("folder.mp4"), path("empty.mp4"),
+                                 path("text.mp4"), "/dev/zero"});
         QCOMPARE(run.code, 0);
         for (const char* line :
              {"missing.mp4: does not exist", "empty.mp4: is empty",
