@@ -6,7 +6,8 @@
 # File names are decoded by the locale's character set; a bare machine has none set.
 [[ $(locale charmap) == UTF-8 ]] || export LC_ALL=C.UTF-8
 
-root=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
+# With CDPATH set, cd may go elsewhere and prints where.
+root=$(unset CDPATH && cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
 
 say() {
   printf '\n== %s\n' "$*"
