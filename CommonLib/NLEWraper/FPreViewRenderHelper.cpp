@@ -171,7 +171,9 @@ void FPreViewRenderHelper::GetRenderProgress(QList<QPair<int, int>>& cached,
                                              QList<QPair<int, int>>& needRender)
 {
     INLEBackgroundCacheStat* stat = EnsurePart(m_cacheStat);
-    const long count = stat ? stat->GetCount() : 0;
+    if (!stat)
+        return;
+    const long count = stat->GetCount();
     // Not cleared for each segment, as the range is; that is intended.
     long valid = 0;
     int cachedTo = 0;

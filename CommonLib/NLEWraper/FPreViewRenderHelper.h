@@ -61,8 +61,8 @@ public:
     /// Whether \a userData is a living helper that has asked for asynchronous updates. From any
     /// thread.
     static bool CheckAnsyUpdateUserData(void* userData);
-    /// Appends what is cached and what is not, as ranges without their end frame. When frames need
-    /// rendering, a finished cache becomes idle.
+    /// Appends what is cached and what is not, as ranges without their end frame, and keeps
+    /// \a needRender for IsNeedRender(). When frames need rendering, a finished cache becomes idle.
     void GetRenderProgress(QList<QPair<int, int>>& cached, QList<QPair<int, int>>& needRender);
 
     /// Makes the engine cache in \a folder, stopping a running render. The cache may fill half of
