@@ -126,9 +126,9 @@ QStringList MediaReport::lines() const
     QStringList result{summary()};
     QStringList rates;
     for (const int sampleRate : sampleRates)
-        rates << QStringLiteral("%1 Hz").arg(sampleRate);
+        rates << tr("%1 Hz").arg(sampleRate);
     if (!rates.isEmpty())
-        result << QStringLiteral("sample rates: ") + rates.join(QStringLiteral(", "));
+        result << tr("sample rates: %1").arg(rates.join(QStringLiteral(", ")));
     for (int index = 0; index < streams.size(); ++index)
         result << tr("stream %1: %2").arg(index).arg(streamText(streams[index]));
     return result;

@@ -684,6 +684,10 @@
         <source>stream %1: %2</source>
         <translation>الدفق %1: %2</translation>
     </message>
+    <message>
+        <source>sample rates: %1</source>
+        <translation>معدلات أخذ العينات: %1</translation>
+    </message>
 </context>
 <context>
     <name>QGuiApplication</name>

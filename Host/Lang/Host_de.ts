@@ -672,6 +672,10 @@
         <source>stream %1: %2</source>
         <translation>Strom %1: %2</translation>
     </message>
+    <message>
+        <source>sample rates: %1</source>
+        <translation>Abtastraten: %1</translation>
+    </message>
 </context>
 <context>
     <name>QGuiApplication</name>

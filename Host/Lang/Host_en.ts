@@ -672,6 +672,10 @@
         <source>stream %1: %2</source>
         <translation>stream %1: %2</translation>
     </message>
+    <message>
+        <source>sample rates: %1</source>
+        <translation>sample rates: %1</translation>
+    </message>
 </context>
 <context>
     <name>QGuiApplication</name>

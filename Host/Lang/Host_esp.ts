@@ -672,6 +672,10 @@
         <source>stream %1: %2</source>
         <translation>flujo %1: %2</translation>
     </message>
+    <message>
+        <source>sample rates: %1</source>
+        <translation>frecuencias de muestreo: %1</translation>
+    </message>
 </context>
 <context>
     <name>QGuiApplication</name>

@@ -672,6 +672,10 @@
         <source>stream %1: %2</source>
         <translation>flux %1 : %2</translation>
     </message>
+    <message>
+        <source>sample rates: %1</source>
+        <translation>fréquences d’échantillonnage : %1</translation>
+    </message>
 </context>
 <context>
     <name>QGuiApplication</name>

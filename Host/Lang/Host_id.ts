@@ -669,6 +669,10 @@
         <source>stream %1: %2</source>
         <translation>aliran %1: %2</translation>
     </message>
+    <message>
+        <source>sample rates: %1</source>
+        <translation>laju sampel: %1</translation>
+    </message>
 </context>
 <context>
     <name>QGuiApplication</name>

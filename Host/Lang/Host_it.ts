@@ -672,6 +672,10 @@
         <source>stream %1: %2</source>
         <translation>flusso %1: %2</translation>
     </message>
+    <message>
+        <source>sample rates: %1</source>
+        <translation>frequenze di campionamento: %1</translation>
+    </message>
 </context>
 <context>
     <name>QGuiApplication</name>

@@ -669,6 +669,10 @@
         <source>stream %1: %2</source>
         <translation>ストリーム %1: %2</translation>
     </message>
+    <message>
+        <source>sample rates: %1</source>
+        <translation>サンプリングレート: %1</translation>
+    </message>
 </context>
 <context>
     <name>QGuiApplication</name>

@@ -669,6 +669,10 @@
         <source>stream %1: %2</source>
         <translation>스트림 %1: %2</translation>
     </message>
+    <message>
+        <source>sample rates: %1</source>
+        <translation>샘플링 레이트: %1</translation>
+    </message>
 </context>
 <context>
     <name>QGuiApplication</name>

@@ -675,6 +675,10 @@
         <source>stream %1: %2</source>
         <translation>strumień %1: %2</translation>
     </message>
+    <message>
+        <source>sample rates: %1</source>
+        <translation>częstotliwości próbkowania: %1</translation>
+    </message>
 </context>
 <context>
     <name>QGuiApplication</name>

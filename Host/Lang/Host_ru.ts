@@ -675,6 +675,10 @@
         <source>stream %1: %2</source>
         <translation>поток %1: %2</translation>
     </message>
+    <message>
+        <source>sample rates: %1</source>
+        <translation>частоты дискретизации: %1</translation>
+    </message>
 </context>
 <context>
     <name>QGuiApplication</name>

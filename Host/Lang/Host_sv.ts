@@ -672,6 +672,10 @@
         <source>stream %1: %2</source>
         <translation>ström %1: %2</translation>
     </message>
+    <message>
+        <source>sample rates: %1</source>
+        <translation>samplingsfrekvenser: %1</translation>
+    </message>
 </context>
 <context>
     <name>QGuiApplication</name>

@@ -669,6 +669,10 @@
         <source>stream %1: %2</source>
         <translation>串流 %1：%2</translation>
     </message>
+    <message>
+        <source>sample rates: %1</source>
+        <translation>取樣率：%1</translation>
+    </message>
 </context>
 <context>
     <name>QGuiApplication</name>
