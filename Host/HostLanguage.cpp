@@ -37,3 +37,13 @@ QCommandLineOption HostLanguage::Option()
                                         "Language of the texts from now on, such as German."),
             QCoreApplication::translate("HostLanguage", "NAME")};
 }
+
+QStringList HostLanguage::Names()
+{
+    int count = 0;
+    const LangConstInfo* rows = GetGlobalLangConstInfos(count);
+    QStringList names;
+    for (int row = 0; row < count; ++row)
+        names << rows[row].englishName;
+    return names;
+}

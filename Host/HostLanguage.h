@@ -4,6 +4,7 @@
 #include "CommonLib/LangConstInfo.h"
 
 #include <QCommandLineOption>
+#include <QStringList>
 
 /// The language of a program of the host, from its construction, right after the application
 /// object's, to its end: the one that was chosen last, or the one that the command line names.
@@ -22,4 +23,6 @@ public:
 
     /// For the program's own parser, which then knows the option and describes it.
     static QCommandLineOption Option();
+    /// The names that the option takes; another one changes nothing.
+    static QStringList Names();
 };

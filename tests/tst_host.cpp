@@ -68,7 +68,8 @@ private slots:
 
     void wrongUsage()
     {
-        const QList<QStringList> wrong{{}, {"--nonsense", "a"}, {"--output", "/dev/null/out", "a"}};
+        const QList<QStringList> wrong{
+            {}, {"--nonsense", "a"}, {"--output", "/dev/null/out", "a"}, {"--language", "a", "a"}};
         for (const QStringList& arguments : wrong) {
             const Run run = runHost(arguments);
             QVERIFY2(run.code == 2 && !run.text.isEmpty(), qPrintable(arguments.join(' ')));

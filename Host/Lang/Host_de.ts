@@ -201,6 +201,10 @@
         <source>No media file named.</source>
         <translation>Keine Mediendatei genannt.</translation>
     </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>Die Sprache %1 gibt es nicht. Bekannt sind: %2</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>

@@ -201,6 +201,10 @@
         <source>No media file named.</source>
         <translation>No media file named.</translation>
     </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>There is no language %1. Known are: %2</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>

@@ -201,6 +201,10 @@
         <source>No media file named.</source>
         <translation>No se ha indicado ningún archivo multimedia.</translation>
     </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>No hay ningún idioma %1. Se conocen: %2</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>

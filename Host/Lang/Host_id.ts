@@ -201,6 +201,10 @@
         <source>No media file named.</source>
         <translation>Tidak ada berkas media yang disebutkan.</translation>
     </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>Tidak ada bahasa %1. Bahasa yang tersedia: %2</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>

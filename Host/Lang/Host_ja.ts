@@ -201,6 +201,10 @@
         <source>No media file named.</source>
         <translation>メディアファイルが指定されていません。</translation>
     </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>%1 という言語はありません。使用できる言語: %2</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>

@@ -201,6 +201,10 @@
         <source>No media file named.</source>
         <translation>Geen mediabestand genoemd.</translation>
     </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>De taal %1 bestaat niet. Bekend zijn: %2</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>

@@ -201,6 +201,10 @@
         <source>No media file named.</source>
         <translation>Nenhum ficheiro multimédia indicado.</translation>
     </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>O idioma %1 não existe. Idiomas conhecidos: %2</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>

@@ -201,6 +201,10 @@
         <source>No media file named.</source>
         <translation>Nu a fost indicat niciun fișier media.</translation>
     </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>Nu există limba %1. Limbi disponibile: %2</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>

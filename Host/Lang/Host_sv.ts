@@ -201,6 +201,10 @@
         <source>No media file named.</source>
         <translation>Ingen mediefil angiven.</translation>
     </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>Språket %1 finns inte. Kända språk: %2</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>

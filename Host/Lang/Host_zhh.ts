@@ -201,6 +201,10 @@
         <source>No media file named.</source>
         <translation>未指定媒體檔案。</translation>
     </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>沒有語言 %1。可用的語言：%2</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
