@@ -38,12 +38,18 @@ QCommandLineOption HostLanguage::Option()
             QCoreApplication::translate("HostLanguage", "NAME")};
 }
 
-QStringList HostLanguage::Names()
+QString HostLanguage::Complaint(const QCommandLineParser& parser)
 {
+    if (!parser.isSet(Option()))
+        return {};
     int count = 0;
     const LangConstInfo* rows = GetGlobalLangConstInfos(count);
     QStringList names;
     for (int row = 0; row < count; ++row)
         names << rows[row].englishName;
-    return names;
+    const QString name = parser.value(Option());
+    if (names.contains(name))
+        return {};
+    return QCoreApplication::translate("HostLanguage", "There is no language %1. Known are: %2")
+        .arg(name, names.join(QStringLiteral(", ")));
 }

@@ -4,7 +4,9 @@
 #include "CommonLib/LangConstInfo.h"
 
 #include <QCommandLineOption>
-#include <QStringList>
+#include <QString>
+
+class QCommandLineParser;
 
 /// The language of a program of the host, from its construction, right after the application
 /// object's, to its end: the one that was chosen last, or the one that the command line names.
@@ -23,6 +25,6 @@ public:
 
     /// For the program's own parser, which then knows the option and describes it.
     static QCommandLineOption Option();
-    /// The names that the option takes; another one changes nothing.
-    static QStringList Names();
+    /// What to tell the user when \a parser was given a language that there is not; else empty.
+    static QString Complaint(const QCommandLineParser& parser);
 };

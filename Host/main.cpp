@@ -148,10 +148,8 @@ int main(int argc, char* argv[])
         console.print(parser.helpText());
         return WrongUsage;
     }
-    const QString name = parser.value(HostLanguage::Option());
-    if (parser.isSet(HostLanguage::Option()) && !HostLanguage::Names().contains(name)) {
-        console.print(Program::tr("There is no language %1. Known are: %2")
-                          .arg(name, HostLanguage::Names().join(QStringLiteral(", "))));
+    if (const QString complaint = HostLanguage::Complaint(parser); !complaint.isEmpty()) {
+        console.print(complaint);
         return WrongUsage;
     }
 

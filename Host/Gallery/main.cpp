@@ -67,6 +67,8 @@ int main(int argc, char** argv)
     QCommandLineParser parser;
     AddOptions(parser);
     parser.process(app);
+    if (const QString complaint = HostLanguage::Complaint(parser); !complaint.isEmpty())
+        return Failure(complaint);
     if (parser.isSet("pages"))
         return ListPages();
 

@@ -201,10 +201,6 @@
         <source>No media file named.</source>
         <translation>لم يُذكر أي ملف وسائط.</translation>
     </message>
-    <message>
-        <source>There is no language %1. Known are: %2</source>
-        <translation>لا توجد لغة باسم %1. اللغات المتاحة: %2</translation>
-    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -339,6 +335,10 @@
     <message>
         <source>NAME</source>
         <translation>اسم</translation>
+    </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>لا توجد لغة باسم %1. اللغات المتاحة: %2</translation>
     </message>
 </context>
 <context>

@@ -201,10 +201,6 @@
         <source>No media file named.</source>
         <translation>Keine Mediendatei genannt.</translation>
     </message>
-    <message>
-        <source>There is no language %1. Known are: %2</source>
-        <translation>Die Sprache %1 gibt es nicht. Bekannt sind: %2</translation>
-    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -339,6 +335,10 @@
     <message>
         <source>NAME</source>
         <translation>NAME</translation>
+    </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>Die Sprache %1 gibt es nicht. Bekannt sind: %2</translation>
     </message>
 </context>
 <context>

@@ -201,10 +201,6 @@
         <source>No media file named.</source>
         <translation>No se ha indicado ningún archivo multimedia.</translation>
     </message>
-    <message>
-        <source>There is no language %1. Known are: %2</source>
-        <translation>No hay ningún idioma %1. Se conocen: %2</translation>
-    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -339,6 +335,10 @@
     <message>
         <source>NAME</source>
         <translation>NOMBRE</translation>
+    </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>No hay ningún idioma %1. Se conocen: %2</translation>
     </message>
 </context>
 <context>

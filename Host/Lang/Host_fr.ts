@@ -201,10 +201,6 @@
         <source>No media file named.</source>
         <translation>Aucun fichier multimédia indiqué.</translation>
     </message>
-    <message>
-        <source>There is no language %1. Known are: %2</source>
-        <translation>La langue %1 n’existe pas. Langues connues : %2</translation>
-    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -339,6 +335,10 @@
     <message>
         <source>NAME</source>
         <translation>NOM</translation>
+    </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>La langue %1 n’existe pas. Langues connues : %2</translation>
     </message>
 </context>
 <context>

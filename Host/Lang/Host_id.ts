@@ -201,10 +201,6 @@
         <source>No media file named.</source>
         <translation>Tidak ada berkas media yang disebutkan.</translation>
     </message>
-    <message>
-        <source>There is no language %1. Known are: %2</source>
-        <translation>Tidak ada bahasa %1. Bahasa yang tersedia: %2</translation>
-    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -339,6 +335,10 @@
     <message>
         <source>NAME</source>
         <translation>NAMA</translation>
+    </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>Tidak ada bahasa %1. Bahasa yang tersedia: %2</translation>
     </message>
 </context>
 <context>

@@ -201,10 +201,6 @@
         <source>No media file named.</source>
         <translation>Nessun file multimediale indicato.</translation>
     </message>
-    <message>
-        <source>There is no language %1. Known are: %2</source>
-        <translation>La lingua %1 non esiste. Lingue note: %2</translation>
-    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -339,6 +335,10 @@
     <message>
         <source>NAME</source>
         <translation>NOME</translation>
+    </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>La lingua %1 non esiste. Lingue note: %2</translation>
     </message>
 </context>
 <context>

@@ -201,10 +201,6 @@
         <source>No media file named.</source>
         <translation>メディアファイルが指定されていません。</translation>
     </message>
-    <message>
-        <source>There is no language %1. Known are: %2</source>
-        <translation>%1 という言語はありません。使用できる言語: %2</translation>
-    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -339,6 +335,10 @@
     <message>
         <source>NAME</source>
         <translation>名前</translation>
+    </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>%1 という言語はありません。使用できる言語: %2</translation>
     </message>
 </context>
 <context>

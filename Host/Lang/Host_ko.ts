@@ -201,10 +201,6 @@
         <source>No media file named.</source>
         <translation>미디어 파일이 지정되지 않았습니다.</translation>
     </message>
-    <message>
-        <source>There is no language %1. Known are: %2</source>
-        <translation>%1 언어가 없습니다. 사용할 수 있는 언어: %2</translation>
-    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -339,6 +335,10 @@
     <message>
         <source>NAME</source>
         <translation>이름</translation>
+    </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>%1 언어가 없습니다. 사용할 수 있는 언어: %2</translation>
     </message>
 </context>
 <context>

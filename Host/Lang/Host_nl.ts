@@ -201,10 +201,6 @@
         <source>No media file named.</source>
         <translation>Geen mediabestand genoemd.</translation>
     </message>
-    <message>
-        <source>There is no language %1. Known are: %2</source>
-        <translation>De taal %1 bestaat niet. Bekend zijn: %2</translation>
-    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -339,6 +335,10 @@
     <message>
         <source>NAME</source>
         <translation>NAAM</translation>
+    </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>De taal %1 bestaat niet. Bekend zijn: %2</translation>
     </message>
 </context>
 <context>

@@ -201,10 +201,6 @@
         <source>No media file named.</source>
         <translation>Nie podano pliku multimedialnego.</translation>
     </message>
-    <message>
-        <source>There is no language %1. Known are: %2</source>
-        <translation>Nie ma języka %1. Dostępne: %2</translation>
-    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -339,6 +335,10 @@
     <message>
         <source>NAME</source>
         <translation>NAZWA</translation>
+    </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>Nie ma języka %1. Dostępne: %2</translation>
     </message>
 </context>
 <context>

@@ -201,10 +201,6 @@
         <source>No media file named.</source>
         <translation>Nenhum ficheiro multimédia indicado.</translation>
     </message>
-    <message>
-        <source>There is no language %1. Known are: %2</source>
-        <translation>O idioma %1 não existe. Idiomas conhecidos: %2</translation>
-    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -339,6 +335,10 @@
     <message>
         <source>NAME</source>
         <translation>NOME</translation>
+    </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>O idioma %1 não existe. Idiomas conhecidos: %2</translation>
     </message>
 </context>
 <context>

@@ -201,10 +201,6 @@
         <source>No media file named.</source>
         <translation>Nu a fost indicat niciun fișier media.</translation>
     </message>
-    <message>
-        <source>There is no language %1. Known are: %2</source>
-        <translation>Nu există limba %1. Limbi disponibile: %2</translation>
-    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -339,6 +335,10 @@
     <message>
         <source>NAME</source>
         <translation>NUME</translation>
+    </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>Nu există limba %1. Limbi disponibile: %2</translation>
     </message>
 </context>
 <context>

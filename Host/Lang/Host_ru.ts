@@ -201,10 +201,6 @@
         <source>No media file named.</source>
         <translation>Не указан ни один медиафайл.</translation>
     </message>
-    <message>
-        <source>There is no language %1. Known are: %2</source>
-        <translation>Нет языка %1. Доступны: %2</translation>
-    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -339,6 +335,10 @@
     <message>
         <source>NAME</source>
         <translation>ИМЯ</translation>
+    </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>Нет языка %1. Доступны: %2</translation>
     </message>
 </context>
 <context>

@@ -201,10 +201,6 @@
         <source>No media file named.</source>
         <translation>Ingen mediefil angiven.</translation>
     </message>
-    <message>
-        <source>There is no language %1. Known are: %2</source>
-        <translation>Språket %1 finns inte. Kända språk: %2</translation>
-    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -339,6 +335,10 @@
     <message>
         <source>NAME</source>
         <translation>NAMN</translation>
+    </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>Språket %1 finns inte. Kända språk: %2</translation>
     </message>
 </context>
 <context>

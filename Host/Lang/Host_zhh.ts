@@ -201,10 +201,6 @@
         <source>No media file named.</source>
         <translation>未指定媒體檔案。</translation>
     </message>
-    <message>
-        <source>There is no language %1. Known are: %2</source>
-        <translation>沒有語言 %1。可用的語言：%2</translation>
-    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -339,6 +335,10 @@
     <message>
         <source>NAME</source>
         <translation>名稱</translation>
+    </message>
+    <message>
+        <source>There is no language %1. Known are: %2</source>
+        <translation>沒有語言 %1。可用的語言：%2</translation>
     </message>
 </context>
 <context>
