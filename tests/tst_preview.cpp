@@ -286,6 +286,7 @@ private Q_SLOTS:
              {14, 20, 30, 40, -13, -21, -29, -41}) // the ends too; not those below 0
             QCOMPARE(helper->IsFramNeedRender(std::abs(frame)), frame > 0);
         QCOMPARE(seen.last(), QList<long>{Helper::Idle});
+        QVERIFY(Countdown(helper)->isActive());      // as there is something to do again
         Helper bare(MakeCom<Node>("bare"), nullptr); // has no cache to ask
         bare.GetRenderProgress(cached, needed);
         QVERIFY(!bare.IsNeedRender());

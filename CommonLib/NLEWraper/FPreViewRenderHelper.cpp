@@ -188,8 +188,10 @@ void FPreViewRenderHelper::GetRenderProgress(QList<QPair<int, int>>& cached,
             needRender.append({cachedTo, range.out + 1});
     }
     m_needRenderRanges = needRender;
-    if (IsNeedRender() && IsFinished())
+    if (IsNeedRender() && IsFinished()) {
         SetCachingState(Idle);
+        RestartAutoRender(!m_forceStopAutoStartRender); // it had ended with the finished cache
+    }
 }
 
 bool FPreViewRenderHelper::SetCacheDirectory(QString folder)

@@ -62,7 +62,8 @@ public:
     /// thread.
     static bool CheckAnsyUpdateUserData(void* userData);
     /// Appends what is cached and what is not, as ranges without their end frame, and keeps
-    /// \a needRender for IsNeedRender(). When frames need rendering, a finished cache becomes idle.
+    /// \a needRender for IsNeedRender(). When frames need rendering, a finished cache becomes idle
+    /// and the countdown of auto-render begins again.
     void GetRenderProgress(QList<QPair<int, int>>& cached, QList<QPair<int, int>>& needRender);
 
     /// Makes the engine cache in \a folder, stopping a running render. The cache may fill half of
