@@ -34,6 +34,18 @@ bool ReadProfile(INLEProjectSetting* setting, tagNLEProjectProfile* profile)
     return setting && SUCCEEDED(setting->GetProfile(profile));
 }
 
+/// Replaces one \a field of a project's profile and writes the whole profile back.
+template <typename Field>
+void WriteProfile(INLEProjectSetting* setting, Field tagNLEProjectProfile::*field,
+                  const Field& value)
+{
+    tagNLEProjectProfile profile{};
+    if (!ReadProfile(setting, &profile))
+        return; // what was not read must not be written back
+    profile.*field = value;
+    setting->SetProfile(&profile);
+}
+
 } // namespace
 
 void NLETimeline::SetTimelineGuid(const QString& guid)
@@ -146,12 +158,7 @@ QSize NLETimeline::GetProjectResolution() const
 
 void NLETimeline::SetProjectResolution(int width, int height)
 {
-    const auto setting = GetProjectSetting();
-    tagNLEProjectProfile profile{};
-    if (!ReadProfile(setting.get(), &profile))
-        return; // what was not read must not be written back
-    profile.frameSize = {width, height};
-    setting->SetProfile(&profile);
+    WriteProfile(GetProjectSetting().get(), &tagNLEProjectProfile::frameSize, {width, height});
 }
 
 float NLETimeline::GetProjectFps() const
@@ -163,10 +170,5 @@ float NLETimeline::GetProjectFps() const
 
 void NLETimeline::SetProjectFps(float fps)
 {
-    const auto setting = GetProjectSetting();
-    tagNLEProjectProfile profile{};
-    if (!ReadProfile(setting.get(), &profile))
-        return; // what was not read must not be written back
-    profile.frameRate = RateToRational(fps);
-    setting->SetProfile(&profile);
+    WriteProfile(GetProjectSetting().get(), &tagNLEProjectProfile::frameRate, RateToRational(fps));
 }
