@@ -23,7 +23,6 @@ QImage Filled(const QSize& size, QRgb colour)
 } // namespace
 
 /// A clip with a sound and a picture stream, its clone without media, and their red pictures.
-
 class tst_NLETimeline : public QObject
 {
     Q_OBJECT

@@ -147,7 +147,7 @@ public:
     void SetHiden(bool hidden);
 
     void SetTimelineGuid(const QString& guid);
-    /// "0" when the node has none; at most 256 characters.
+    /// "0" when the node has none; at most 255 characters.
     QString GetTimelineGuid() const;
     void SetAncestralGuid(const QString& guid);
     /// Number of the node in the engine.

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// The record's trailing number; the library never writes another one.
+/// The record's trailing number as conversions write it; changing one field keeps what was read.
 constexpr std::int32_t Interpolation = 1;
 /// What every read starts from.
 constexpr NLEKeyFrameRecord Preset = {0, 0, 0, 0, 1, 1, 1, Interpolation};
