@@ -92,7 +92,7 @@ void XmlOperation::SaveXmlContent2File(const QDomDocument& document, const QStri
     document.save(stream, kIndent, QDomNode::EncodingFromDocument);
 }
 
-QDomElement XmlOperation::AddXmlElement(QDomDocument& document, QDomElement& parent,
+QDomElement XmlOperation::AddXmlElement(QDomDocument& document, QDomElement parent,
                                         const QString& name, const QString& text)
 {
     QDomElement element = document.createElement(name);
@@ -106,8 +106,7 @@ QDomElement XmlOperation::GetChildElement(const QDomElement& element, const QStr
     return element.elementsByTagName(name).item(0).toElement();
 }
 
-void XmlOperation::SetElemmentText(QDomDocument& document, QDomElement& element,
-                                   const QString& text)
+void XmlOperation::SetElemmentText(QDomDocument& document, QDomElement element, const QString& text)
 {
     const QDomNodeList children = element.childNodes();
     // The index moves on although the list shrinks under it: this is intended.

@@ -11,7 +11,7 @@
 /// Operations on XML files and on documents held in memory.
 ///
 /// Files are written in the encoding that the document declares, else in UTF-8, indented by four
-/// spaces per level.
+/// spaces per level. A copy of an element is the same element: the document owns it.
 class COMMONLIB_EXPORT XmlOperation
 {
 public:
@@ -34,7 +34,7 @@ public:
     static void SaveXmlContent2File(const QDomDocument& document, const QString& path);
 
     /// Appends a new element with one text child, which may be empty, to \a parent and gives it.
-    static QDomElement AddXmlElement(QDomDocument& document, QDomElement& parent,
+    static QDomElement AddXmlElement(QDomDocument& document, QDomElement parent,
                                      const QString& name, const QString& text);
 
     /// The first element of that tag name below \a element, at any depth, in document order; a null
@@ -43,5 +43,5 @@ public:
 
     /// Replaces the text of \a element and keeps the elements in it. Of several text nodes in a row
     /// every second one stays; the new text comes last.
-    static void SetElemmentText(QDomDocument& document, QDomElement& element, const QString& text);
+    static void SetElemmentText(QDomDocument& document, QDomElement element, const QString& text);
 };

@@ -63,7 +63,7 @@ private slots:
 
         QDomDocument document;
         QVERIFY(XmlOperation::OpenXmlFile(document, Path("new.xml"), QIODevice::ReadOnly));
-        QDomElement root = document.documentElement();
+        const QDomElement root = document.documentElement();
         QDomElement first = XmlOperation::AddXmlElement(document, root, "First", "");
         QCOMPARE(first.childNodes().size(), 1);
         QVERIFY(first.firstChild().isText());
