@@ -26,7 +26,7 @@ public:
     int GetPitch() const;
 
     void SetDenoiseLevel(int level);
-    /// True when the engine's status is exactly 0; \a level may be written even so.
+    /// True when the engine's status is exactly 0. \a level may be written even if not.
     bool GetDenoiseLevel(int& level) const;
     void SetDenoiseEnable(bool enable);
     bool GetDenoiseEnable() const;
@@ -43,7 +43,7 @@ public:
     /// has no sound settings.
     void GetVolumeKeyFrameParam(INLEKeyFrameParam** param) const;
     void SetVolume(double volume);
-    /// True when the engine's status is exactly 0; \a volume may be written even so.
+    /// True when the engine's status is exactly 0. \a volume may be written even if not.
     bool GetVolume(double& volume) const;
     void SetBalance(double balance);
     double GetBalance() const;
@@ -60,7 +60,7 @@ public:
     void SetEqualizerEnable(bool enable);
     bool GetEqualizerEnable() const;
     void SetEqualizerName(QString name);
-    /// At most 128 characters.
+    /// At most 127 characters.
     QString GetEqualizerName() const;
     /// \a params holds one value for each of the engine's bands.
     void SetEqualizerParam(const double* params);

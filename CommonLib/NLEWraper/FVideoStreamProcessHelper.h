@@ -49,7 +49,7 @@ public:
 
     bool GetProxyEnabled() const;
     void SetProxyEnabled(bool enabled);
-    /// Path of the proxy file, at most 260 characters; empty without one.
+    /// Path of the proxy file, at most 259 characters; empty without one.
     QString GetProxyPeth() const;
     /// An empty \a path clears the proxy. A path where no file is is ignored.
     void SetProxyFile(const QString& path);
