@@ -130,6 +130,7 @@ private slots:
         QVERIFY(!FileOperation::RemoveFile(m_folder->path()));
         for (const char* text : {"12a", "2147483648", "0x10", ""})
             QCOMPARE(StringOperation::StrToInt(text, 7), 7);
+        QCOMPARE(StringOperation::CreateUUID(true).size(), 36);
         QVERIFY(FileOperation::RemoveFile(Path("a")) && !FileOperation::IsFileExist(Path("a")));
     }
 

@@ -399,6 +399,8 @@ private Q_SLOTS:
         QCOMPARE(deleted.size(), 1);
         QCOMPARE(Calls("DeleteCache"), QStringList("cache.DeleteCache(false)"));
         QCOMPARE(Log().last(), "DelRenderCache:ture");
+        helper->SetCachingState(Helper::LowDisk);
+        QVERIFY(helper->IsLowDisk() && !helper->IsFolderFull());
         script.statuses["cache.DeleteCache"] = E_FAIL;
         helper->SetAutoDeleteCaching(true);
         timeline.reset();
