@@ -4,7 +4,6 @@
 #include "CommonLib/CommandCapture_p.h"
 
 #include <string>
-#include <utility>
 
 namespace {
 
@@ -15,8 +14,7 @@ constexpr int kLargestRead = 2046; // what follows stays zero and ends the text 
 
 QString excuteCmd(void* /*ignored*/, QString commandLine)
 {
-    const QString line = std::move(commandLine);
-    CommandCapture command(line);
+    CommandCapture command(commandLine);
     if (!command.IsStarted())
         return QString();
     // Not cleared between reads: a short piece brings along the older bytes behind it. Intended.

@@ -10,7 +10,6 @@
 #include <QUrl>
 
 #include <optional>
-#include <utility>
 
 namespace {
 
@@ -83,8 +82,7 @@ quint64 gGetDiskFreeSpace(void* /*ignored*/, const QString& path)
 
 QString gGetStyleSheet(void* /*ignored*/, QString path)
 {
-    const QString file = std::move(path);
-    return FileOperation::ReadFile(file, true);
+    return FileOperation::ReadFile(path, true);
 }
 
 void gOpenUrl(void* /*ignored*/, QString url)

@@ -9,7 +9,6 @@
 #include <array>
 #include <cmath>
 #include <limits>
-#include <utility>
 
 namespace {
 
@@ -101,10 +100,9 @@ QString gFrame2StringSecond(int frame, float fps)
 
 int gString2Frame(float fps, QString text)
 {
-    const QString timecode = std::move(text);
-    if (!IsTimecode(timecode))
+    if (!IsTimecode(text))
         return -1;
-    const QStringList fields = timecode.split(u':');
+    const QStringList fields = text.split(u':');
     int seconds = 0;
     for (int i = 2; i >= 0; --i)
         seconds = static_cast<int>(fields[2 - i].toInt() * std::pow(60.0, i) + seconds);
