@@ -96,7 +96,6 @@ private slots:
         CHECK(s.GetScale(1), QSizeF(3, 4), QSizeF(1, 1), read);
         CHECK(s.GetRotateAngle(1), 30.0, 0.0, read);
         CHECK(s.GetOpacity(1), 0.25, 1.0, read);
-        CHECK(s.GetOpacity(-1), 1.0, 1.0, "");
         CHECK((s.SetPosition(1, {7, 8}), 0), 0, 0, change.arg("30 7 8 3 4 0.25"));
         CHECK((s.SetScale(1, {7, 8}), 0), 0, 0, change.arg("30 1 2 7 8 0.25"));
         CHECK((s.SetRotateAngle(1, -9), 0), 0, 0, change.arg("-9 1 2 3 4 0.25"));

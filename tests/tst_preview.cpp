@@ -269,11 +269,10 @@ private Q_SLOTS:
         QCOMPARE(seen, (QList<QList<long>>{{50, 4, 8}, {1}, {99, 7, 8}, {5}, {100, 8, 8}}));
         QVERIFY(helper->IsFinished());
 
-        using Range = NLERange;
-        cache->segments = {{Range{0, 9}, 1, 10},
-                           {Range{10, 19}, 2, 14},
-                           {Range{20, 29}, 0, 20},
-                           {Range{30, 39}, 1, 30}};
+        cache->segments = {{NLERange{0, 9}, 1, 10},
+                           {NLERange{10, 19}, 2, 14},
+                           {NLERange{20, 29}, 0, 20},
+                           {NLERange{30, 39}, 1, 30}};
         Ranges cached;
         Ranges needed;
         helper->SetAutoRenderEnable(true, 7);
@@ -290,7 +289,7 @@ private Q_SLOTS:
         Helper bare(MakeCom<Node>("bare"), nullptr); // has no cache to ask
         bare.GetRenderProgress(cached, needed);
         QVERIFY(!bare.IsNeedRender());
-        cache->segments = {{Range{0, 9}, 1, 10}};
+        cache->segments = {{NLERange{0, 9}, 1, 10}};
         Ranges none;
         helper->GetRenderProgress(cached, none);
         QVERIFY(!helper->IsNeedRender() && !helper->IsFramNeedRender(14));
