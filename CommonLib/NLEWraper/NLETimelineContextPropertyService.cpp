@@ -15,7 +15,7 @@ void LogMissing(int line, const char* message)
 {
     GetGlobalLogInstance()->LogError("CommonLib/NLEWraper/NLETimeline",
                                      "NLETimelineContextPropertyService::GetContextProperty", line,
-                                     message);
+                                     "%s", message);
 }
 
 } // namespace
