@@ -158,6 +158,9 @@ private slots:
         row("MPEG-2 program stream", "b.mpg", other);
         other.codec = "prores_ks";
         row("ProRes", "b.mov", other);
+        other.codec = "mpeg2video";
+        other.extra = QStringList{"-packetsize", "16384"};
+        row("several pictures in each packet of a program stream", "several.mpg", other);
     }
 
     void exactFrames()

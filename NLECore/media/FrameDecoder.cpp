@@ -73,6 +73,10 @@ struct FrameDecoder::Private
     bool isFromStart = true;
     /// Latest time among the packets read since the last seek.
     int64_t latestTicks = std::numeric_limits<int64_t>::min();
+    /// Packets read since the last seek: those at whose beginning the container has a time, and
+    /// whether there were others, whose times are counted on from those.
+    int stampedPackets = 0;
+    bool hasCountedTimes = false;
     /// Time of the picture decoded last, before the first one that of the packet.
     int64_t clockTicks = 0;
     /// Highest frame number among packets that the decoder was allowed to skip.
@@ -124,6 +128,9 @@ struct FrameDecoder::Private
     {
         return packet.dts != AV_NOPTS_VALUE ? packet.dts : packet.pts;
     }
+    /// A program stream puts several pictures behind one time. What a seek lands on may be the rest
+    /// of a picture, which is counted as one, so the times are wrong until the next own one.
+    bool AreTimesSure() const { return !hasCountedTimes || stampedPackets > 1; }
     int64_t TicksOf(const AVFrame& frame) const;
     bool IsLastOfItsFrame(const DecodedPicture& picture) const;
 };
@@ -141,6 +148,9 @@ PacketPtr FrameDecoder::Private::ReadPacket()
         if (isOurs && !isCut) {
             if (const int64_t ticks = TicksOf(*packet); ticks != AV_NOPTS_VALUE)
                 latestTicks = std::max(latestTicks, ticks);
+            const bool isStamped = packet->pos >= 0;
+            stampedPackets += isStamped ? 1 : 0;
+            hasCountedTimes = hasCountedTimes || !isStamped;
             return packet;
         }
         av_packet_unref(packet.get());
@@ -163,7 +173,7 @@ std::optional<int64_t> FrameDecoder::Private::ReadToKeyFrame(int64_t frame, int6
         const int64_t decodingTicks = DecodingTicksOf(*packet);
         const bool isKey = (packet->flags & AV_PKT_FLAG_KEY) != 0;
         const int64_t packetTicks = TicksOf(*packet);
-        if (isKey && packetTicks != AV_NOPTS_VALUE && packetTicks <= keyLimit) {
+        if (isKey && packetTicks != AV_NOPTS_VALUE && packetTicks <= keyLimit && AreTimesSure()) {
             queue.clear();
             keyTicks = packetTicks;
         }
@@ -184,6 +194,8 @@ void FrameDecoder::Private::Reset()
     isDrained = false;
     isFromStart = false;
     latestTicks = std::numeric_limits<int64_t>::min();
+    stampedPackets = 0;
+    hasCountedTimes = false;
     skippedTo = -1;
 }
 
