@@ -489,6 +489,21 @@ private slots:
         QCOMPARE(decoder->Read(0, 0, rate, 2, part.data()), -1);
     }
 
+    void joinedRecordings()
+    {
+        TestClip clip = SoundClip("libmp3lame", 0.0);
+        for (const char* name : {"stereo.mp3", "mono.mp3"}) {
+            QCOMPARE(MakeTestClip(Path(name), clip), QString());
+            clip.channels = 1;
+        }
+        QVERIFY(Write(Path("joined.mp3"), ReadAll(Path("stereo.mp3")) + ReadAll(Path("mono.mp3"))));
+        const auto decoder = AudioDecoder::Open(Probe("joined.mp3"), 0, nullptr);
+        std::vector<float> samples(44100 * 4);
+        QCOMPARE(decoder->Read(0, 44100 * 4, 44100, 1, samples.data()), 44100 * 4);
+        samples.erase(samples.begin(), samples.begin() + 44100 * 3);
+        QVERIFY(std::abs(PeakOf(samples) - 0.5F) < 0.05F);
+    }
+
     void soundStaysWithPicture()
     {
         TestClip clip = SmallClip(75);

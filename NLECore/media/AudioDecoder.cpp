@@ -75,6 +75,9 @@ struct AudioDecoder::Private
     int64_t nativePosition = 0;
 
     ResamplerPtr resampler;
+    /// What the resampler takes.
+    int inputFormat = AV_SAMPLE_FMT_NONE;
+    int inputChannels = 0;
     int rate = 0;
     int channels = 0;
     bool isFlushed = false;
@@ -97,6 +100,7 @@ struct AudioDecoder::Private
     bool MatchResampler();
     bool Resample(const uint8_t** data, int count);
     bool FeedSilence(int64_t count);
+    void DrainResampler(int64_t native);
     void Flush();
 
     int ReadyCount() const { return int(ready.size()) / channels; }
@@ -258,14 +262,19 @@ std::vector<double> AudioDecoder::Private::OwnMix(const AVChannelLayout& source,
 
 bool AudioDecoder::Private::MatchResampler()
 {
-    if (resampler)
+    const int sourceChannels = frame->ch_layout.nb_channels;
+    if (resampler && inputFormat == frame->format && inputChannels == sourceChannels)
         return true;
+    // Recordings that were joined may go on with another number of channels.
+    DrainResampler(nativePosition);
+    inputFormat = frame->format;
+    inputChannels = sourceChannels;
     silence.reset();
     AVChannelLayout target = {};
     av_channel_layout_default(&target, channels);
     AVChannelLayout source = {};
     if (frame->ch_layout.order == AV_CHANNEL_ORDER_UNSPEC)
-        av_channel_layout_default(&source, frame->ch_layout.nb_channels);
+        av_channel_layout_default(&source, sourceChannels);
     else
         av_channel_layout_copy(&source, &frame->ch_layout);
     const std::vector<double> mix = OwnMix(source, target);
@@ -280,7 +289,7 @@ bool AudioDecoder::Private::MatchResampler()
     // Sums of channels stay within -1 to 1.
     av_opt_set_double(context, "rematrix_maxval", 1.0, 0);
     if (!mix.empty())
-        swr_set_matrix(context, mix.data(), frame->ch_layout.nb_channels);
+        swr_set_matrix(context, mix.data(), sourceChannels);
     if (swr_init(context) < 0)
         resampler.reset();
     return resampler != nullptr;
@@ -316,16 +325,23 @@ bool AudioDecoder::Private::FeedSilence(int64_t count)
     return Resample(const_cast<const uint8_t**>(silence->extended_data), now);
 }
 
+// Takes out what the resampler holds, as far as it belongs to the samples before a native position.
+void AudioDecoder::Private::DrainResampler(int64_t native)
+{
+    if (resampler)
+        Resample(nullptr, 0);
+    resampler.reset();
+    const int64_t end = CeilScale(native, rate, nativeRate);
+    const int64_t count = std::clamp<int64_t>(end - readyPosition, 0, ReadyCount());
+    ready.resize(size_t(count) * size_t(channels));
+}
+
 void AudioDecoder::Private::Flush()
 {
     isFlushed = true;
-    if (resampler)
-        Resample(nullptr, 0);
     nativeEnd = framePosition + previousCount;
     isEndKnown = true;
-    const int64_t end = CeilScale(nativeEnd, rate, nativeRate);
-    const int64_t count = std::clamp<int64_t>(end - readyPosition, 0, ReadyCount());
-    ready.resize(size_t(count) * size_t(channels));
+    DrainResampler(nativeEnd);
 }
 
 // Adds what comes next to the output. False at the end of the stream.
