@@ -158,6 +158,10 @@ private slots:
         row("MPEG-2 program stream", "b.mpg", other);
         other.codec = "prores_ks";
         row("ProRes", "b.mov", other);
+        other.codec = "apng";
+        row("moving PNG", "moving.apng", other);
+        other.codec = "libx264";
+        row("no times at all", "raw.h264", other);
         other.codec = "mpeg2video";
         other.extra = QStringList{"-packetsize", "16384"};
         row("several pictures in each packet of a program stream", "several.mpg", other);

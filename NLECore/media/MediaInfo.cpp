@@ -121,6 +121,7 @@ bool HoldsOnePicture(MediaFile& file)
         av_packet_unref(packet.get());
         ++pictures;
     }
+    av_seek_frame(context, -1, 0, AVSEEK_FLAG_BACKWARD);
     return pictures < 2;
 }
 
@@ -250,8 +251,10 @@ void MeasureStream(MediaFile& file, int index, MediaStream* stream)
     int64_t end = stream->startTicks;
     file.LimitTime();
     while (av_read_frame(context, packet.get()) >= 0) {
-        if (packet->stream_index == index && packet->pts != AV_NOPTS_VALUE)
-            end = std::max(end, packet->pts + packet->duration);
+        // Without times in the file the pictures follow each other.
+        const int64_t time = packet->pts != AV_NOPTS_VALUE ? packet->pts : end;
+        if (packet->stream_index == index)
+            end = std::max(end, time + packet->duration);
         av_packet_unref(packet.get());
     }
     stream->durationUs = av_rescale_q(end - stream->startTicks, source->time_base, Microseconds);
@@ -353,14 +356,14 @@ std::shared_ptr<const MediaInfo> ProbeMedia(const QString& path, QString* error)
     if (info->streams.size() == 1 && info->streams[0].bitRate == 0)
         info->streams[0].bitRate = context->bit_rate;
 
-    const bool isMoving = !IsStillFormat(context);
+    const bool isMoving = !IsStillFormat(context) && !HoldsOnePicture(*file);
     const int main = info->videoStream >= 0 ? info->videoStream : info->audioStream;
     if (isMoving && info->streams[size_t(main)].durationUs <= 0)
         MeasureStream(*file, main, &info->streams[size_t(main)]);
 
     if (info->videoStream < 0)
         MakeAudio(context, info.get());
-    else if (!isMoving || HoldsOnePicture(*file))
+    else if (!isMoving)
         MakeStill(info.get());
     else
         MakeVideo(context, info.get());
