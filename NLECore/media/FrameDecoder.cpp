@@ -146,8 +146,11 @@ PacketPtr FrameDecoder::Private::ReadPacket()
         // packets after any small fault, which decoders conceal well.
         const bool isCut = (packet->flags & AV_PKT_FLAG_CORRUPT) != 0 && !file->IsFormat("mpegts");
         if (isOurs && !isCut) {
+            // Pictures without a time are counted on from the one before, so none may be skipped.
             if (const int64_t ticks = TicksOf(*packet); ticks != AV_NOPTS_VALUE)
                 latestTicks = std::max(latestTicks, ticks);
+            else
+                canSkip = false;
             const bool isStamped = packet->pos >= 0;
             stampedPackets += isStamped ? 1 : 0;
             hasCountedTimes = hasCountedTimes || !isStamped;
