@@ -215,7 +215,7 @@ struct MediaWriter::Private
             if (!Check(av_channel_layout_copy(&frame->ch_layout, &audio.codec->ch_layout)) ||
                 !Check(av_frame_get_buffer(frame, 0)))
                 return false;
-            av_audio_fifo_read(fifo.get(), reinterpret_cast<void**>(frame->data),
+            av_audio_fifo_read(fifo.get(), reinterpret_cast<void**>(frame->extended_data),
                                frame->nb_samples);
             frame->pts = audio.next;
             audio.next += frame->nb_samples;
@@ -293,8 +293,9 @@ bool MediaWriter::WriteSound(const float* samples, int count)
         !d->Check(av_frame_get_buffer(frame, 0)))
         return false;
     const auto* source = reinterpret_cast<const uint8_t*>(samples);
-    if (!d->Check(swr_convert(d->resampler.get(), frame->data, count, &source, count)) ||
-        !d->Check(av_audio_fifo_write(d->fifo.get(), reinterpret_cast<void**>(frame->data), count)))
+    if (!d->Check(swr_convert(d->resampler.get(), frame->extended_data, count, &source, count)) ||
+        !d->Check(av_audio_fifo_write(d->fifo.get(), reinterpret_cast<void**>(frame->extended_data),
+                                      count)))
         return false;
     return d->DrainSound(false);
 }
