@@ -18,8 +18,7 @@ int64_t BucketStart(int64_t bucket, int64_t sampleCount, int64_t buckets)
 } // namespace
 
 std::vector<WavePeak> ReadWaveForm(AudioDecoder& decoder, int64_t firstSample, int64_t sampleCount,
-                                   int sampleRate, int channels, int buckets,
-                                   const std::atomic<bool>* cancel)
+                                   int sampleRate, int channels, int buckets)
 {
     if (sampleCount <= 0 || sampleRate <= 0 || channels <= 0 || buckets <= 0)
         return {};
@@ -33,8 +32,6 @@ std::vector<WavePeak> ReadWaveForm(AudioDecoder& decoder, int64_t firstSample, i
         WavePeak* const peak = &peaks[size_t(bucket) * size_t(channels)];
         for (int64_t sample = start; sample < end; ++sample) {
             if (sample >= blockEnd) {
-                if (cancel != nullptr && cancel->load())
-                    return {};
                 blockStart = sample;
                 blockEnd = std::min(sampleCount, blockStart + BlockSamples);
                 if (decoder.Read(firstSample + blockStart, int(blockEnd - blockStart), sampleRate,

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <atomic>
 #include <cstdint>
 #include <vector>
 
@@ -19,10 +18,8 @@ struct WavePeak
 /// Peaks of \a sampleCount sample groups from \a firstSample on, both counted at \a sampleRate,
 /// in \a buckets stretches of equal length (to the sample). The result lists, for each stretch,
 /// one peak per channel. Samples outside the stream count as silence; a stretch shorter than a
-/// sample shows the sample that it lies in. Empty for arguments that make no sense, and when
-/// \a cancel, if given, became true meanwhile.
+/// sample shows the sample that it lies in. Empty for arguments that make no sense.
 std::vector<WavePeak> ReadWaveForm(AudioDecoder& decoder, int64_t firstSample, int64_t sampleCount,
-                                   int sampleRate, int channels, int buckets,
-                                   const std::atomic<bool>* cancel = nullptr);
+                                   int sampleRate, int channels, int buckets);
 
 } // namespace nle
