@@ -83,18 +83,15 @@ class tst_EngineSettings : public QObject, private EngineFixture
     Q_OBJECT
 
     Node Media() const { return EngineFixture::Media(m_media); }
+    double GainAt(const Node& node, int frame) const
+    {
+        return Loudness(Sound(node, frame)[0]) / kToneLoudness;
+    }
     Node ProjectWith(const Node& clip, int position = 0, int level = 0) const
     {
         Node project = Project();
         Add(project, clip, position, level);
         return project;
-    }
-
-    static Node Trimmed(Node clip, int in, int out)
-    {
-        const NLERange range = {in, out};
-        clip->SetRange(&range);
-        return clip;
     }
 
     QString m_media = Path("clip.mkv");
@@ -199,9 +196,7 @@ private slots:
 
     void speedAndFreeze()
     {
-        const Node clip = Media();
-        const NLERange trimmed = {20, 59};
-        clip->SetRange(&trimmed);
+        const Node clip = Trimmed(Media(), 20, 59);
         const Node project = ProjectWith(clip, 10);
         NLEComPtr<INLEProperties> bag;
         clip->GetProperties(bag.put());
@@ -236,8 +231,7 @@ private slots:
         QCOMPARE(Loudness(Sound(project, 20)[0]), 0.0);
         bag->SetInt(NLEKey::Freeze::kFreeze_Frame, 33);
         QCOMPARE(ReadFrameNumber(Frame(project, 11)), 33);
-        const NLERange longer = {20, 519};
-        clip->SetRange(&longer);
+        Trimmed(clip, 20, 519);
         QCOMPARE(ReadFrameNumber(Frame(project, 509)), 33);
     }
 
@@ -296,9 +290,7 @@ private slots:
 
     void fades()
     {
-        const Node clip = Media();
-        const NLERange range = {20, 69};
-        clip->SetRange(&range);
+        const Node clip = Trimmed(Media(), 20, 69);
         const Node project = ProjectWith(clip, 5);
         const auto audio = Facet<INLEAudioStreamProcess>(clip);
         audio->SetFadeInRange(10);
@@ -306,9 +298,7 @@ private slots:
         audio->SetFadeInEnable(true);
         audio->SetFadeOutEnable(true);
         // A frame at a time; a linear fade has its middle value in the frame's middle.
-        const auto gainAt = [&](int frame) {
-            return Loudness(Sound(project, frame)[0]) / kToneLoudness;
-        };
+        const auto gainAt = [&](int frame) { return GainAt(project, frame); };
         for (int frame : {5, 7, 14})
             QVERIFY(std::abs(gainAt(frame) - (frame - 5 + 0.5) / 10) < 0.03);
         QVERIFY(std::abs(gainAt(25) - 1) < 0.03);
@@ -328,12 +318,9 @@ private slots:
         curve->GetCount(&count);
         QCOMPARE(count, 2);
         const Node project = ProjectWith(clip);
-        const auto gainAt = [&](int frame) {
-            return Loudness(Sound(project, frame)[0]) / kToneLoudness;
-        };
-        QVERIFY(std::abs(gainAt(10) - 1) < 0.03);
-        QVERIFY(std::abs(gainAt(37) - 0.5) < 0.03);
-        QVERIFY(gainAt(60) < 0.001);
+        QVERIFY(std::abs(GainAt(project, 10) - 1) < 0.03);
+        QVERIFY(std::abs(GainAt(project, 37) - 0.5) < 0.03);
+        QVERIFY(GainAt(project, 60) < 0.001);
     }
 
     void monoIsTheMean()
@@ -441,7 +428,7 @@ private slots:
         tagMixerParam strip = {};
         QCOMPARE(mixer->GetParam(1, &strip), S_OK);
         QCOMPARE(strip.volume, 1.0);
-        const auto loudness = [&] { return Loudness(Sound(project, 10)[0]) / kToneLoudness; };
+        const auto loudness = [&] { return GainAt(project, 10); };
         QVERIFY(std::abs(loudness() - 2) < 0.05);
         strip.volume = 0.5;
         QCOMPARE(mixer->SetParam(1, &strip), S_OK);

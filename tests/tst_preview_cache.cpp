@@ -139,12 +139,6 @@ double Psnr(const QImage& a, const QImage& b)
     return sum == 0 ? 99 : 10 * std::log10(255.0 * 255.0 * double(a.sizeInBytes()) / sum);
 }
 
-void SetRange(const Node& node, int in, int out)
-{
-    const NLERange range = {in, out};
-    node->SetRange(&range);
-}
-
 /// Two clips of a file, a picture above the second, a gap, and a composite of two colours.
 struct Timeline
 {
@@ -168,11 +162,11 @@ class tst_PreviewCache : public QObject, private EngineFixture
                    Colour(Qt::red, QSize(64, 64)),
                    provider->CreateVirtualTimeline(0),
                    Colour(Qt::green)};
-        SetRange(t.above, 0, 19);
-        SetRange(t.inner, 0, 29);
+        Trimmed(t.above, 0, 19);
+        Trimmed(t.inner, 0, 29);
         t.b.query<INLEBlendSetting>()->SetAlpha(200);
         const Node first = Colour(Qt::blue);
-        SetRange(first, 0, 29);
+        Trimmed(first, 0, 29);
         Add(t.nested, first);
         Add(t.nested, t.inner, 30);
         Add(t.project, t.a);
@@ -297,10 +291,10 @@ private slots:
         row("order", [](Timeline& t) { t.above->SetLevel(-1); }, {{60, 110}});
         row("move", [](Timeline& t) { t.above->SetPosition(75); }, {{60, 110}});
         row("move on", [](Timeline& t) { t.above->SetPosition(95); }, {{60, 120}});
-        row("shorter", [](Timeline& t) { SetRange(t.b, 0, 54); }, {{110, 115}});
-        row("other material", [](Timeline& t) { SetRange(t.above, 5, 24); }, {{60, 110}});
+        row("shorter", [](Timeline& t) { Trimmed(t.b, 0, 54); }, {{110, 115}});
+        row("other material", [](Timeline& t) { Trimmed(t.above, 5, 24); }, {{60, 110}});
         const auto trimHead = [](Timeline& t) {
-            SetRange(t.a, 10, 59);
+            Trimmed(t.a, 10, 59);
             t.a->SetPosition(10);
         };
         row("head", trimHead, {{10, 50}});
@@ -311,7 +305,7 @@ private slots:
                 clip->SetPosition(position + 7);
             }
             const Node first = Colour(Qt::yellow);
-            SetRange(first, 0, 6);
+            Trimmed(first, 0, 6);
             Add(t.project, first);
         };
         row("inserted before all", insert, {{0, 7}});

@@ -46,6 +46,12 @@ public:
         clip->SetLevel(level);
         return composite.query<INLETimelineComposite>()->AddClip(clip.get());
     }
+    static Node Trimmed(Node clip, int in, int out)
+    {
+        const NLERange range = {in, out};
+        clip->SetRange(&range);
+        return clip;
+    }
     static Node ClipAt(const Node& composite, int index)
     {
         NLEComPtr<INLETimelineEnumerator> clips;
