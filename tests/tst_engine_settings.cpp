@@ -354,6 +354,8 @@ private slots:
                 pieces.push_back(data[size_t(i) * 2]);
         }
         QCOMPARE(pieces, Sound(clip, 30, kRate / 5)[0]);
+        // It is silent before the material begins.
+        QCOMPARE(GainAt(ProjectWith(Trimmed(clip, -50, 49)), 0), 0.0);
     }
 
     void pitch()

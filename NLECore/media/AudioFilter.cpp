@@ -85,7 +85,8 @@ bool AudioFilter::Private::Build()
 bool AudioFilter::Private::Start(std::int64_t first)
 {
     ready.clear();
-    nextInput = std::max<std::int64_t>(0, first - sampleRate / kLeadInDivisor);
+    // Before sample 0 there is nothing to hear.
+    nextInput = std::min(first, std::max<std::int64_t>(0, first - sampleRate / kLeadInDivisor));
     nextOutput = nextInput;
     return Build();
 }
