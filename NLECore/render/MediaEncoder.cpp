@@ -61,6 +61,7 @@ QImage OnFrame(const QImage& picture, const QRect& place, const QSize& size)
 HRESULT MediaEncoder::Open(INLETimeline* timeline, const wchar_t* path,
                            const NLEEncodeSettings* settings)
 {
+    m_root.reset();
     const TimelineNode* node = TimelineNode::From(timeline);
     if (!node || !path)
         return E_INVALIDARG;
@@ -85,7 +86,10 @@ HRESULT MediaEncoder::Open(INLETimeline* timeline, const wchar_t* path,
     m_settings.hasSound = HasSound(*m_root);
     const bool isCountable =
         ToDouble(m_frameRate) >= kLowestRate && ToDouble(node->FrameRate()) > 0;
-    return NLERangeLength(m_range) > 0 && isCountable ? S_OK : E_INVALIDARG;
+    if (NLERangeLength(m_range) > 0 && isCountable)
+        return S_OK;
+    m_root.reset();
+    return E_INVALIDARG;
 }
 
 HRESULT MediaEncoder::Encode(NLEProgressCallback callback, void* userData)
