@@ -12,6 +12,7 @@
 #include <QWheelEvent>
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -274,6 +275,7 @@ void ToolBarSlider::mousePressEvent(QMouseEvent* event)
     if (!CanChanged())
         return;
     m_buttonPressDown = true;
+    m_holdCancelled = false;
     m_acceptSetValue = false;
     m_chunkGrabbed = false;
     const QPoint pos = Unmirrored(event->pos());
@@ -310,6 +312,8 @@ void ToolBarSlider::mouseMoveEvent(QMouseEvent* event)
 void ToolBarSlider::mouseReleaseEvent(QMouseEvent* event)
 {
     m_buttonPressDown = false;
+    if (std::exchange(m_holdCancelled, false))
+        return; // told already
     const bool emits = NeedEmitValue();
     if (emits) {
         m_acceptSetValue = true;
@@ -369,7 +373,7 @@ void ToolBarSlider::SetCanSeek(bool canSeek)
         CancelHold();
 }
 
-// The release of the mouse will not come. Told later: a handler may delete the slider, which the
+// The release of the mouse may not come. Told later: a handler may delete the slider, which the
 // sender of the event still needs.
 void ToolBarSlider::CancelHold()
 {
@@ -381,6 +385,7 @@ void ToolBarSlider::CancelHold()
             if (m_acceptSetValue)
                 return;
             m_buttonPressDown = false;
+            m_holdCancelled = true;
             EndHold(NeedEmitValue());
         },
         Qt::QueuedConnection);

@@ -153,4 +153,5 @@ private:
     float m_duration = 0;
     QWidget* m_highlight;
     bool m_resizeQueued = false;
+    bool m_holdCancelled = false; // a release that still comes ends nothing
 };

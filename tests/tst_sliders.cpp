@@ -196,7 +196,7 @@ private slots:
             {"empty range", "[5 p107 m57 r7 > w =5", ""},
             {"held against the host", "p107 v10 > w =50 r107 v10 =10", "start 50 end"},
             {"emptied while held", "p107 m57 [5 r57 [100 v70 =70", "start 50 startDrag 25"},
-            {"disabled while held", "p107 m57 d e v70 =70", "start 50 startDrag 25 end endDrag"},
+            {"disabled while held", "p107 m57 d e v70 r7 =70", "start 50 startDrag 25 end endDrag"},
             {"hidden while held", "p107 h v70 =70", "start 50 end"},
             {"keys, the second at the end already", "> > =100", "start 100 end"}};
         for (const auto& row : rows) {
