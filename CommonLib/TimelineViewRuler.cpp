@@ -88,13 +88,6 @@ void TimelineViewRuler::paintEvent(QPaintEvent* event)
     }
 }
 
-void TimelineViewRuler::resizeEvent(QResizeEvent* event)
-{
-    QWidget::resizeEvent(event);
-    const QRect view = rect().adjusted(0, 0, 0, -kBottomMargin);
-    m_convertor.ForEach([&](RulerSegment& segment) { segment.viewRect = view; });
-}
-
 void TimelineViewRuler::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
