@@ -4,12 +4,6 @@
 #include <QKeyEvent>
 #include <QWheelEvent>
 
-namespace {
-
-constexpr double kNotch = 120; // what the toolkit reports for one notch of a wheel
-
-} // namespace
-
 std::optional<double> SliderSteps::Target(const QKeyEvent& event) const
 {
     constexpr Qt::KeyboardModifiers shortcuts =
@@ -45,7 +39,7 @@ double SliderSteps::Target(const QWheelEvent& event) const
 {
     const QPoint turn = event.angleDelta();
     const bool sideways = qAbs(turn.x()) > qAbs(turn.y());
-    double notches = (sideways ? turn.x() : turn.y()) / kNotch;
+    double notches = double(sideways ? turn.x() : turn.y()) / QWheelEvent::DefaultDeltasPerStep;
     if (sideways ? !mirrored : orientation == Qt::Vertical)
         notches = -notches;
     const bool pages = event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier);

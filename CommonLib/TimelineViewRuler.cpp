@@ -14,7 +14,6 @@ namespace {
 
 constexpr int kBottomMargin = 2;
 constexpr float kZoomPerNotch = 10;
-constexpr double kUnitsPerNotch = 120; // of a wheel
 constexpr double kWidthsPerNotch = 0.1;
 constexpr int kScrollInterval = 40;     // ms
 constexpr int kFarthestOvershoot = 200; // pixels beyond which scrolling gets no faster
@@ -223,7 +222,8 @@ void TimelineViewRuler::wheelEvent(QWheelEvent* event)
     const QPoint turn = event->angleDelta();
     // Alt and Shift turn a vertical wheel into a horizontal one on some systems.
     const bool sideways = std::abs(turn.x()) > std::abs(turn.y());
-    const double notches = (sideways ? turn.x() : turn.y()) / kUnitsPerNotch;
+    const double notches =
+        double(sideways ? turn.x() : turn.y()) / QWheelEvent::DefaultDeltasPerStep;
     event->accept();
     if (notches == 0 || m_drag.Active() != Drag::None)
         return;
