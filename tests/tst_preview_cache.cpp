@@ -344,6 +344,21 @@ private slots:
             QCOMPARE(Cache(undone.project, m_folder).Start(), E_FAIL);
     }
 
+    void mediaChangesWhileRendering()
+    {
+        // What was begun with one content of a file must not be found as that content.
+        const Node project = Project();
+        Add(project, Trimmed(Media(m_media), 0, 49));
+        Cache cache(project, m_folder);
+        QCOMPARE(cache.Start({1920, 1080}), S_OK);
+        QFile file(m_media);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        file.setFileTime(QDateTime::currentDateTime().addDays(-2), QFile::FileModificationTime);
+        QCOMPARE(cache.End(), 5L);
+        QCOMPARE(cache.Reports().back().cached, 0L);
+        QCOMPARE(Files(m_folder, "*.nlechunk*"), QStringList());
+    }
+
     void endings_data()
     {
         QTest::addColumn<int>("quota");
