@@ -293,8 +293,7 @@ void TimelineNode::ChangeSpeed(Change change)
         return;
     m_keyFrames.RescaleAxis(before / after);
     if (m_hasRange)
-        m_range =
-            RescaleRange(m_range, RateFromDouble(before), RateFromDouble(before * before / after));
+        m_range = ScaleRange(m_range, before / after);
 }
 
 RenderContext TimelineNode::Context() const
