@@ -55,8 +55,10 @@ private:
     struct Worker;
 
     void Run(int number);
-    /// Empty when the chunk is in the store, or not worth trying again, or the run is ending.
+    /// Empty when the frame cannot be drawn or encoded.
     QByteArray EncodeFrame(int frame, Worker& worker) const;
+    /// The state that ends the run; none when the chunk is in the store, or not worth trying again,
+    /// or the run is ending.
     std::optional<CacheState> RenderChunk(const Chunk& chunk, Worker& worker);
     /// Index of the next chunk for the thread that last did \a last.
     std::optional<int> Take(int last);
