@@ -11,13 +11,6 @@ namespace {
 
 constexpr int kMediaFrames = 60;
 
-NLERange RangeOf(const Node& node)
-{
-    NLERange range = {-1, -1};
-    node->GetRange(&range);
-    return range;
-}
-
 NLERange TotalOf(const Node& node)
 {
     NLERange range = {-1, -1};
@@ -200,8 +193,7 @@ private slots:
     void propertiesAndLiveKeys()
     {
         const Node clip = Media();
-        NLEComPtr<INLEProperties> bag;
-        clip->GetProperties(bag.put());
+        auto bag = BagOf(clip);
         int length = 0;
         QCOMPARE(bag->GetInt(NLEKey::Render::kRender_TotalFrameCount, &length), S_OK);
         QCOMPARE(length, kMediaFrames);
@@ -221,7 +213,7 @@ private slots:
 
         // The bag outlives its node.
         Node other = Media();
-        other->GetProperties(bag.put());
+        bag = BagOf(other);
         other.reset();
         QVERIFY(FAILED(bag->GetInt(NLEKey::Render::kRender_TotalFrameCount, &length)));
     }
@@ -249,12 +241,9 @@ private slots:
         high->SetLevel(0);
         QCOMPARE(colourAt(5), QColor(Qt::red));
 
-        NLEComPtr<INLEProperties> bag;
-        low->GetProperties(bag.put());
-        bag->SetInt(NLEKey::Render::kRender_Mode, NLERender_AudioOnly);
+        BagOf(low)->SetInt(NLEKey::Render::kRender_Mode, NLERender_AudioOnly);
         QCOMPARE(colourAt(10), QColor(Qt::black));
-        project->GetProperties(bag.put());
-        bag->SetInt(NLEKey::Render::kRender_BackgroundColor, int(0xFF00FF00u));
+        BagOf(project)->SetInt(NLEKey::Render::kRender_BackgroundColor, int(0xFF00FF00u));
         QCOMPARE(colourAt(0), QColor(Qt::green));
     }
 
@@ -356,9 +345,7 @@ private slots:
         const Node twin = Media();
         Add(project, twin, 25);
         QVERIFY(std::abs(LoudnessAt(project, 35) - 0.707) < 0.04);
-        NLEComPtr<INLEProperties> bag;
-        twin->GetProperties(bag.put());
-        bag->SetInt(NLEKey::Render::kRender_Mode, NLERender_VideoOnly);
+        BagOf(twin)->SetInt(NLEKey::Render::kRender_Mode, NLERender_VideoOnly);
         QVERIFY(std::abs(LoudnessAt(project, 35) - 0.354) < 0.02);
         twin->SetEnabled(false);
         QVERIFY(std::abs(LoudnessAt(project, 35) - 0.354) < 0.02);
@@ -436,8 +423,7 @@ private slots:
         const Node clip = Media();
         Trimmed(clip, 7, 36);
         clip->SetMarginMode(NLEMargin_Fill);
-        NLEComPtr<INLEProperties> bag;
-        clip->GetProperties(bag.put());
+        auto bag = BagOf(clip);
         bag->SetString(L"Key_TimelineGuid", L"a <&> \u00fc 100% \r\x01");
         bag->SetDouble(L"d", 1.0 / 3);
         bag->SetRational(NLEKey::Speed::kScale, {50000000, 100000000});
@@ -464,7 +450,7 @@ private slots:
         QCOMPARE(ClipCount(loaded), 5);
         QCOMPARE(RangeOf(ClipAt(loaded, 0)).in, 7);
         wchar_t guid[32] = L"";
-        ClipAt(loaded, 0)->GetProperties(bag.put());
+        bag = BagOf(ClipAt(loaded, 0));
         bag->GetString(L"Key_TimelineGuid", guid, 32);
         QCOMPARE(QString::fromWCharArray(guid), "a <&> \u00fc 100% \r\x01");
         double third = 0;

@@ -198,33 +198,27 @@ private slots:
     {
         const Node clip = Trimmed(Media(), 20, 59);
         const Node project = ProjectWith(clip, 10);
-        NLEComPtr<INLEProperties> bag;
-        clip->GetProperties(bag.put());
+        const auto bag = BagOf(clip);
         bag->SetRational(NLEKey::Speed::kScale, {200000000, 100000000});
         QCOMPARE(ReadFrameNumber(Frame(project, 15)), 25);
         bag->SetInt(NLEKey::Speed::kEnabled, 1);
-        NLERange range = {};
-        clip->GetRange(&range);
-        QCOMPARE(range.in, 10);
-        QCOMPARE(range.out, 29);
+        QCOMPARE(RangeOf(clip).in, 10);
+        QCOMPARE(RangeOf(clip).out, 29);
         QCOMPARE(ReadFrameNumber(Frame(project, 10)), 20);
         QCOMPARE(ReadFrameNumber(Frame(project, 15)), 30);
         QVERIFY(Frame(project, 30).isNull());
-        clip->GetTotalRange(&range);
-        QCOMPARE(range.out, 49);
+        NLERange total = {};
+        clip->GetTotalRange(&total);
+        QCOMPARE(total.out, 49);
         // Twice as fast is an octave higher.
         QVERIFY(Strength(Sound(project, 12, kRate / 5)[0], 2 * kTone) > 0.45);
         bag->SetInt(NLEKey::Speed::kEnabled, 0);
-        clip->GetRange(&range);
-        QCOMPARE(range.in, 20);
-        QCOMPARE(range.out, 59);
+        QCOMPARE(RangeOf(clip).in, 20);
+        QCOMPARE(RangeOf(clip).out, 59);
 
         const Node untrimmed = Media();
-        NLEComPtr<INLEProperties> other;
-        untrimmed->GetProperties(other.put());
-        other->SetInt(NLEKey::Freeze::kFreeze_Enabled, 1);
-        untrimmed->GetRange(&range);
-        QCOMPARE(range.out, 99);
+        BagOf(untrimmed)->SetInt(NLEKey::Freeze::kFreeze_Enabled, 1);
+        QCOMPARE(RangeOf(untrimmed).out, 99);
 
         bag->SetInt(NLEKey::Freeze::kFreeze_Enabled, 1);
         QCOMPARE(ReadFrameNumber(Frame(project, 40)), 20);

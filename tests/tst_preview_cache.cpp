@@ -312,9 +312,7 @@ private slots:
         row("nested", [](Timeline& t) { t.inner.query<INLEBlendSetting>()->SetMode(1); },
             {{140, 200}});
         const auto color = [](Timeline& t) {
-            NLEComPtr<INLEProperties> bag;
-            t.project->GetProperties(bag.put());
-            bag->SetInt(NLEKey::Render::kRender_BackgroundColor, int(0xFF123456u));
+            BagOf(t.project)->SetInt(NLEKey::Render::kRender_BackgroundColor, int(0xFF123456u));
         };
         row("background", color, {{0, 120}, {140, 200}});
         const auto touch = [this](Timeline&) {

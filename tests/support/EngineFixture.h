@@ -52,6 +52,18 @@ public:
         clip->SetRange(&range);
         return clip;
     }
+    static NLERange RangeOf(const Node& node)
+    {
+        NLERange range = {-1, -1};
+        node->GetRange(&range);
+        return range;
+    }
+    static NLEComPtr<INLEProperties> BagOf(const Node& node)
+    {
+        NLEComPtr<INLEProperties> bag;
+        node->GetProperties(bag.put());
+        return bag;
+    }
     static Node ClipAt(const Node& composite, int index)
     {
         NLEComPtr<INLETimelineEnumerator> clips;
