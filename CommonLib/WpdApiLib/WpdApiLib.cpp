@@ -84,15 +84,14 @@ NLEComPtr<IPortableDeviceValues> ClientInformation()
 }
 
 /// Opens \a device, read-only when it refuses more.
-HRESULT Open(IPortableDevice& device, const wchar_t* deviceId)
+HRESULT Open(IPortableDevice& device, const wchar_t* deviceId, IPortableDeviceValues* client)
 {
     constexpr ULONG ReadOnly = 0x80000000;
-    const auto client = ClientInformation();
-    const HRESULT result = device.Open(deviceId, client.get());
+    const HRESULT result = device.Open(deviceId, client);
     if (result != E_ACCESSDENIED || !client)
         return result;
     client->SetUnsignedIntegerValue(Wpd::WPD_CLIENT_DESIRED_ACCESS, ReadOnly);
-    return device.Open(deviceId, client.get());
+    return device.Open(deviceId, client);
 }
 
 void RegisterForEventNotifications(WpdCallbackProc callback, void* user)
@@ -313,6 +312,7 @@ int WpdApiLib::ChooseDevice(const wchar_t* deviceId, HWND window)
     UnregisterForEventNotifications();
     if (!deviceId)
         return 0;
+    const auto client = ClientInformation();
     NLEComPtr<IPortableDevice> device;
     HRESULT result = CreatePortableDeviceComponent(Wpd::CLSID_PortableDeviceFTM, device);
     if (FAILED(result)) {
@@ -320,7 +320,7 @@ int WpdApiLib::ChooseDevice(const wchar_t* deviceId, HWND window)
                     ResultBits(result));
         return 0;
     }
-    result = Open(*device, deviceId);
+    result = Open(*device, deviceId, client.get());
     if (FAILED(result)) {
         std::printf("! Failed to Open the device, hr = 0x%lx\n", ResultBits(result));
         return 0;
