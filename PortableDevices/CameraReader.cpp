@@ -20,25 +20,30 @@ HRESULT CameraReader::read(void* buffer, std::uint32_t size, std::uint32_t& got,
                            GCancellable* cancellable)
 {
     got = 0;
-    if (!m_whole && m_size == kSizeTooLarge) {
+    // Parts cannot begin past 4 GiB.
+    if (!m_whole && m_size > kSizeTooLarge) {
         if (const HRESULT result = fetchWhole(cancellable); FAILED(result))
             return result;
     }
     if (m_whole)
         return m_whole->read(buffer, size, got, cancellable);
     if (m_position >= m_size)
-        return S_OK;
+        return m_size == kSizeTooLarge ? kTooLarge : S_OK;
     const CameraHandle::Scope scope(*m_camera, cancellable);
     std::uint64_t count = std::min<std::uint64_t>(size, m_size - m_position);
     const int result = gp_camera_file_read(m_camera->camera(), m_folder.c_str(), m_name.c_str(),
                                            GP_FILE_TYPE_NORMAL, m_position,
                                            static_cast<char*>(buffer), &count, m_camera->context());
-    if (result == GP_ERROR_NOT_SUPPORTED && m_position == 0) {
+    if (result == GP_ERROR_NOT_SUPPORTED) {
         const HRESULT fetched = fetchWhole(cancellable);
         return FAILED(fetched) ? fetched : m_whole->read(buffer, size, got, cancellable);
     }
     if (result < GP_OK)
         return scope.isCancelled() ? kCancelled : FromCameraResult(result);
+    // From a camera that gives parts the library takes no more than the size that it was told, and
+    // that is not all of this file.
+    if (m_size == kSizeTooLarge)
+        return kTooLarge;
     // Success with less than there is: a cancelled transfer, or a camera that lost the file.
     if (count == 0)
         return scope.isCancelled() ? kCancelled : kCutShort;
@@ -66,7 +71,8 @@ HRESULT CameraReader::fetchWhole(GCancellable* cancellable)
     if (spool->size() < m_size)
         return kCutShort;
     m_whole = std::move(spool);
-    return m_whole->startReading();
+    const HRESULT started = m_whole->startReading();
+    return FAILED(started) ? started : m_whole->seek(m_position, cancellable);
 }
 
 HRESULT CameraReader::seek(std::uint64_t position, GCancellable* cancellable)

@@ -6,11 +6,12 @@
 
 namespace devices {
 
-/// A camera's size of a file for 4 GiB and more: the field has 32 bits.
+/// A camera's size of a file for 4 GiB and more where it has only the field of 32 bits for it.
 constexpr std::uint64_t kSizeTooLarge = 0xFFFFFFFF;
 
 /// Reads a file on a camera step by step; as a whole into a spool file where the camera gives no
-/// parts, and where the file is too large for the offsets of parts.
+/// parts, and where the file is too large for the offsets of parts. kTooLarge where neither gives
+/// all of it.
 class CameraReader final : public DataReader
 {
 public:

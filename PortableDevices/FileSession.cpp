@@ -109,15 +109,23 @@ public:
     {
         if (m_whole)
             return m_whole->read(buffer, size, got, cancellable);
-        const HRESULT result = ReadStream(m_stream.get(), buffer, size, got, cancellable);
-        const GPtr<GFile> file = std::move(m_file); // what has been read once can be read on
-        if (!file || !MayLackPartialReads(result))
+        HRESULT result = ReadStream(m_stream.get(), buffer, size, got, cancellable);
+        if (SUCCEEDED(result))
+            m_file.reset(); // what has been read once can be read on
+        if (!m_file || !MayLackPartialReads(result))
             return result;
-        const HRESULT opened = OpenWhole(file.get(), m_whole, cancellable);
-        return FAILED(opened) ? opened : m_whole->read(buffer, size, got, cancellable);
+        std::unique_ptr<DataReader> whole;
+        result = OpenWhole(m_file.get(), whole, cancellable);
+        if (SUCCEEDED(result))
+            result = whole->seek(m_position, cancellable);
+        if (FAILED(result))
+            return result;
+        m_whole = std::move(whole);
+        return m_whole->read(buffer, size, got, cancellable);
     }
     HRESULT seek(std::uint64_t position, GCancellable* cancellable) override
     {
+        m_position = position;
         return m_whole ? m_whole->seek(position, cancellable)
                        : SeekStream(m_stream.get(), position, cancellable);
     }
@@ -125,6 +133,7 @@ public:
 private:
     const GPtr<GInputStream> m_stream;
     GPtr<GFile> m_file;
+    std::uint64_t m_position = 0; // before anything was read
     std::unique_ptr<DataReader> m_whole;
 };
 

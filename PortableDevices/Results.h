@@ -19,6 +19,7 @@ constexpr HRESULT kCutShort = FromSystemError(38);      // less data than the de
 constexpr HRESULT kNotSupported = FromSystemError(50);  // the device cannot do this
 constexpr HRESULT kDiskFull = FromSystemError(112);     // no room for the spool file
 constexpr HRESULT kNotEmpty = FromSystemError(145);     // a folder that has children
+constexpr HRESULT kTooLarge = FromSystemError(223);     // more than can be fetched
 constexpr HRESULT kBusy = FromSystemError(170);         // another program holds the device
 constexpr HRESULT kNoElement = FromSystemError(1168);   // no such property or resource
 constexpr HRESULT kDeviceGone = FromSystemError(1167);  // the device was removed

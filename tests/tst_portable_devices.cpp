@@ -78,7 +78,8 @@ private slots:
         QVERIFY(file);
         fclose(file);
         QFile large(Path("card/large"));
-        QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(5LL << 30));
+        QVERIFY(large.open(QIODevice::WriteOnly) && large.seek(5LL << 30) && large.write("end"));
+        large.flush();
         large.setFileTime(QDateTime({2024, 2, 29}, {12, 0}), QFileDevice::FileModificationTime);
         large.close();
         QVERIFY(QFile::link(".", Path("card/circle")));
@@ -89,7 +90,7 @@ private slots:
                  QStringList({"card", "card/DCIM/", "card/DCIM/100/", "card/DCIM/100/clip.mp4",
                               "card/b\ufffd.jpg", "card/large"}));
         QCOMPARE(tree["card"].parent, QString("DEVICE"));
-        QCOMPARE(tree["card/large"].size, quint64(5) << 30);
+        QCOMPARE(tree["card/large"].size, (5ULL << 30) + 3);
         QCOMPARE(tree["card/large"].modified, 45351.5);
         // An identifier outlives the walk and the session, and tells the same a second time.
         const Device again(FolderId("card"));
@@ -106,17 +107,8 @@ private slots:
             QCOMPARE(again.remove(tree[path].id), S_OK);
         }
         QCOMPARE(QDir(Path("card")).entryList(QDir::Files), QStringList("large"));
-    }
-
-    void pastFourGigabytes()
-    {
-        QFile large(Path("card/large"));
-        QVERIFY(large.open(QIODevice::WriteOnly) && large.seek(5LL << 30));
-        large.write("end");
-        large.close();
-        const Device device(FolderId("card"));
         NLEComPtr<IStream> stream;
-        QCOMPARE(device.open(device.tree()["card/large"].id, stream), S_OK);
+        QCOMPARE(device.open(tree["card/large"].id, stream), S_OK);
         ULARGE_INTEGER position = {};
         QCOMPARE(stream->Seek({(5LL << 30) - 1}, 0, &position), S_OK);
         QCOMPARE(position.QuadPart, (5ULL << 30) - 1);

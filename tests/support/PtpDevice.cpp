@@ -56,16 +56,9 @@ quint32 Parameter(const QByteArray& command, int number)
 // Device, configuration, one still-image interface, three end points.
 QByteArray Descriptors(const PtpDevice::Kind& kind)
 {
-    const QByteArray ids = kind.isPhone ? "d118e14e" : "34127856";
-    return "12010002000000"
-           "40" +
-           ids +
-           "00010000000"
-           "1" +
-           "09022700010100c032" +
-           "0904000003060101"
-           "00" +
-           "07058102000200" + "07050202000200" + "0705830308000a";
+    return QByteArray("1201000200000040") + (kind.isPhone ? "d118e14e" : "34127856") +
+           "000100000001" + "09022700010100c032" + "090400000306010100" + "07058102000200" +
+           "07050202000200" + "0705830308000a";
 }
 
 } // namespace
@@ -174,13 +167,15 @@ QByteArray PtpDevice::Content(quint64 offset, quint32 size)
 
 QByteArray PtpDevice::deviceInfo() const
 {
-    QList<quint16> operations{0x1001, 0x1002, 0x1003, 0x1004, 0x1005,
-                              0x1007, 0x1008, 0x1009, 0x100A, 0x100B};
+    QList<quint16> operations{0x1001, 0x1002, 0x1003, 0x1004, 0x1005, 0x1007, 0x1008,
+                              0x1009, 0x100A, 0x100B, 0x9421, 0x9801, 0x9802, 0x9803};
     if (m_kind.hasPartialReads)
         operations << 0x101B;
     if (m_kind.hasPartialReads && m_kind.isPhone)
         operations << 0x95C1;
-    return Little<quint16>(100) + Little<quint32>(m_kind.isPhone ? 6 : 0) + Little<quint16>(100) +
+    // One maker's extension is that a camera tells sizes of 64 bits.
+    const quint32 maker = m_kind.isPhone ? 6 : m_kind.hasPartialReads ? 0 : 10;
+    return Little<quint16>(100) + Little(maker) + Little<quint16>(100) +
            Text(m_kind.isPhone ? "microsoft.com: 1.0; android.com: 1.0;" : "") +
            Little<quint16>(0) + Array(operations) + Array(QList<quint16>()) +
            Array(QList<quint16>()) + Array(QList<quint16>()) + Array(QList<quint16>{0x3801}) +
@@ -260,6 +255,12 @@ quint16 PtpDevice::data(quint16 code, const QByteArray& command)
         answerData(command, Array(handles));
         return kDone;
     }
+    case 0x9801: // the properties of objects: the size, of 64 bits
+        answerData(command, Array(QList<quint16>{0xDC04}));
+        return kDone;
+    case 0x9802:
+        answerData(command, Little<quint16>(0xDC04) + Little<quint16>(8) + QByteArray(14, 0));
+        return kDone;
     default:
         break;
     }
@@ -283,6 +284,10 @@ quint16 PtpDevice::data(quint16 code, const QByteArray& command)
     case 0x101B:
         ++partialReads;
         return content(Parameter(command, 1), Parameter(command, 2));
+    case 0x9421:
+    case 0x9803:
+        answerData(command, Little(object.size));
+        return kDone;
     case 0x95C1:
         ++partialReads;
         return content(Parameter(command, 1) | quint64(Parameter(command, 2)) << 32,
