@@ -94,7 +94,7 @@ private Q_SLOTS:
     void transfer()
     {
         QFETCH(PtpDevice::Kind, kind);
-        const quint64 size = kind.hasPartialReads ? 300 << 20 : 30 << 20;
+        const quint64 size = 40 << 20;
         PtpDevice usb(m_testbed, kind);
         const quint32 folder = usb.addFolder(usb.addFolder(0, "DCIM"), "100");
         usb.add(folder, "\u00fcber.MP4", size);
@@ -131,12 +131,11 @@ private Q_SLOTS:
         NLEComPtr<IStream> stream;
         // Without parts all would have to be fetched; without the true size the end is not known.
         const Object& sought = kind.hasPartialReads ? large : tree[top + "\u00fcber.MP4"];
-        const bool isTooLarge = sought.size == 0xFFFFFFFF;
+        const quint32 left = sought.size == 0xFFFFFFFF ? 0 : 8;
         QCOMPARE(device.open(sought.id, stream), S_OK);
         QCOMPARE(stream->Seek({qint64(sought.size) - 8}, 0, nullptr), S_OK);
-        QCOMPARE(stream->Read(data, 100, &got), isTooLarge ? kTooLarge : S_OK);
-        QCOMPARE(QByteArray(data, int(got)), PtpDevice::Content(sought.size - 8, got));
-        QCOMPARE(got, isTooLarge ? 0U : 8U);
+        QCOMPARE(stream->Read(data, 100, &got), left > 0 ? S_OK : kTooLarge);
+        QCOMPARE(QByteArray(data, int(got)), PtpDevice::Content(sought.size - 8, left));
         QCOMPARE(device.open(tree[top + "IMG.JPG"].id, stream, Wpd::WPD_RESOURCE_THUMBNAIL), S_OK);
         QCOMPARE(stream->Read(data, 100, &got), S_OK);
         QCOMPARE(QByteArray(data, int(got)), PtpDevice::Thumbnail());

@@ -65,6 +65,8 @@ QByteArray Descriptors(const PtpDevice::Kind& kind)
 
 struct PtpDevice::Urb
 {
+    // Held: a client that ends leaves requests, and none may be answered to another one.
+    UMockdevIoctlClient* client;
     UMockdevIoctlData* request; // in the client's memory, as is the buffer
     UMockdevIoctlData* buffer;
     bool isDiscarded;
@@ -223,8 +225,11 @@ void PtpDevice::command(const QByteArray& bytes)
 quint16 PtpDevice::data(quint16 code, const QByteArray& command)
 {
     const quint32 number = Parameter(command, 0);
-    const bool isKnown = m_objects.contains(number);
     const Object object = m_objects.value(number);
+    const auto give = [&](const QByteArray& bytes) {
+        answerData(command, bytes);
+        return kDone;
+    };
     const auto content = [&](quint64 offset, quint64 size) {
         const quint64 end = qMin(object.size, offset + size);
         answerData(command, {}, offset, end > offset ? end - offset : 0);
@@ -232,19 +237,16 @@ quint16 PtpDevice::data(quint16 code, const QByteArray& command)
     };
     switch (code) {
     case 0x1001:
-        answerData(command, deviceInfo());
-        return kDone;
+        return give(deviceInfo());
     case 0x1002:
     case 0x1003:
         return kDone;
     case 0x1004:
-        answerData(command, Array(QList<quint32>{kStorage}));
-        return kDone;
+        return give(Array(QList<quint32>{kStorage}));
     case 0x1005:
-        answerData(command, Little<quint16>(4) + Little<quint16>(2) + Little<quint16>(0) +
-                                Little<quint64>(1ULL << 36) + Little<quint64>(1ULL << 35) +
-                                Little<quint32>(0) + Text("Memory") + Text("Memory"));
-        return kDone;
+        return give(Little<quint16>(4) + Little<quint16>(2) + Little<quint16>(0) +
+                    Little<quint64>(1ULL << 36) + Little<quint64>(1ULL << 35) + Little<quint32>(0) +
+                    Text("Memory") + Text("Memory"));
     case 0x1007: {
         QList<quint32> handles;
         const quint32 parent = Parameter(command, 2);
@@ -252,30 +254,25 @@ quint16 PtpDevice::data(quint16 code, const QByteArray& command)
             if (parent == 0 || at->parent == (parent == 0xFFFFFFFF ? 0 : parent))
                 handles << at.key();
         }
-        answerData(command, Array(handles));
-        return kDone;
+        return give(Array(handles));
     }
     case 0x9801: // the properties of objects: the size, of 64 bits
-        answerData(command, Array(QList<quint16>{0xDC04}));
-        return kDone;
+        return give(Array(QList<quint16>{0xDC04}));
     case 0x9802:
-        answerData(command, Little<quint16>(0xDC04) + Little<quint16>(8) + QByteArray(14, 0));
-        return kDone;
+        return give(Little<quint16>(0xDC04) + Little<quint16>(8) + QByteArray(14, 0));
     default:
         break;
     }
-    if (!isKnown)
+    if (!m_objects.contains(number))
         return code >= 0x1008 && code <= 0x101B ? kNoObject : kNotKnown;
     switch (code) {
     case 0x1008:
-        answerData(command, objectInfo(object));
-        return kDone;
+        return give(objectInfo(object));
     case 0x1009:
         ++wholeReads;
         return content(0, object.size);
     case 0x100A:
-        answerData(command, Thumbnail());
-        return kDone;
+        return give(Thumbnail());
     case 0x100B:
         if (object.isProtected)
             return kProtected;
@@ -286,8 +283,7 @@ quint16 PtpDevice::data(quint16 code, const QByteArray& command)
         return content(Parameter(command, 1), Parameter(command, 2));
     case 0x9421:
     case 0x9803:
-        answerData(command, Little(object.size));
-        return kDone;
+        return give(Little(object.size));
     case 0x95C1:
         ++partialReads;
         return content(Parameter(command, 1) | quint64(Parameter(command, 2)) << 32,
@@ -330,22 +326,23 @@ int PtpDevice::complete(Urb& urb, int& length)
     return 0;
 }
 
-int PtpDevice::submit(UMockdevIoctlData* request)
+int PtpDevice::submit(UMockdevIoctlClient* client, UMockdevIoctlData* request)
 {
     if (!m_isPlugged)
         return ENODEV;
-    Urb urb = {request, nullptr, false};
+    Urb urb = {client, request, nullptr, false};
     urb.buffer = umockdev_ioctl_data_resolve(request, offsetof(usbdevfs_urb, buffer),
                                              static_cast<gsize>((*urb).buffer_length), nullptr);
+    g_object_ref(client);
     m_urbs.push_back(urb);
     return 0;
 }
 
-int PtpDevice::reap(UMockdevIoctlData* target)
+int PtpDevice::reap(UMockdevIoctlClient* client, UMockdevIoctlData* target)
 {
     for (auto urb = m_urbs.begin(); urb != m_urbs.end(); ++urb) {
         int length = 0;
-        const int status = complete(*urb, length);
+        const int status = urb->client == client ? complete(*urb, length) : 1;
         if (status > 0)
             continue;
         guint8 bytes[sizeof(usbdevfs_urb)];
@@ -357,6 +354,7 @@ int PtpDevice::reap(UMockdevIoctlData* target)
         g_object_unref(urb->request);
         if (urb->buffer)
             g_object_unref(urb->buffer);
+        g_object_unref(urb->client);
         m_urbs.erase(urb);
         return 0;
     }
@@ -382,16 +380,16 @@ bool PtpDevice::handle(UMockdevIoctlClient* client)
                                    sizeof(capabilities));
         g_object_unref(answer);
     } else if (request == USBDEVFS_SUBMITURB) {
-        error = submit(resolved(sizeof(usbdevfs_urb)));
+        error = submit(client, resolved(sizeof(usbdevfs_urb)));
     } else if (request == USBDEVFS_REAPURB || request == USBDEVFS_REAPURBNDELAY) {
         UMockdevIoctlData* target = resolved(sizeof(void*));
-        error = reap(target);
+        error = reap(client, target);
         g_object_unref(target);
     } else if (request == USBDEVFS_DISCARDURB) {
         gulong address = 0;
         memcpy(&address, argument->data, sizeof(address));
         for (Urb& urb : m_urbs)
-            urb.isDiscarded = urb.isDiscarded || urb.request->client_addr == address;
+            urb.isDiscarded |= urb.client == client && urb.request->client_addr == address;
     }
     umockdev_ioctl_client_complete(client, error == 0 ? 0 : -1, error);
     return true;

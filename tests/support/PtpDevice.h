@@ -71,8 +71,8 @@ private:
     QByteArray objectInfo(const Object& object) const;
     quint16 data(quint16 code, const QByteArray& command);
     int complete(Urb& urb, int& length);
-    int submit(_UMockdevIoctlData* request);
-    int reap(_UMockdevIoctlData* target);
+    int submit(_UMockdevIoctlClient* client, _UMockdevIoctlData* request);
+    int reap(_UMockdevIoctlClient* client, _UMockdevIoctlData* target);
 
     _UMockdevTestbed* m_testbed;
     void* m_handler = nullptr;
