@@ -325,13 +325,18 @@ private slots:
         DeviceScript::Get().stepsUntilVanished = -1;
     }
 
-    void passesOddNamesOn()
+    void passesManyAndOddNamesOn()
     {
+        for (int i = 0; i < 20000; ++i)
+            DeviceScript::Get().Add(L"DEVICE", std::to_wstring(i));
         const std::wstring odd = L"IMG\xDCFF.jpg"; // a byte that is not UTF-8
         DeviceScript::Get().Add(L"DEVICE", odd, false, 3);
         Open();
         QCOMPARE(WpdApiLib::EnumerateAllContent(), 1);
         QVERIFY(m_lastName == odd);
+        // The root, its children in tens, and nothing below each of them.
+        QCOMPARE(m_seen.size(), 1 + 20001);
+        QCOMPARE(Script::Get().TakeCalls().filter("enumerator.Next(10)").size(), 2001 + 20001);
     }
 
     void copies()
