@@ -109,15 +109,12 @@ private slots:
         QCOMPARE(QDir(Path("card")).entryList(QDir::Files), QStringList("large"));
         NLEComPtr<IStream> stream;
         QCOMPARE(device.open(tree["card/large"].id, stream), S_OK);
-        ULARGE_INTEGER position = {};
-        QCOMPARE(stream->Seek({(5LL << 30) - 1}, 0, &position), S_OK);
-        QCOMPARE(position.QuadPart, (5ULL << 30) - 1);
+        QCOMPARE(stream->Seek({(5LL << 30) - 1}, 0, nullptr), S_OK);
         char data[8] = {};
         ULONG count = 0;
         QCOMPARE(stream->Read(data, 8, &count), S_OK);
         QCOMPARE(QByteArray(data, static_cast<int>(count)), QByteArray("\0end", 4));
         QCOMPARE(stream->Read(data, 8, &count), S_FALSE);
-        QCOMPARE(count, 0U);
     }
 
     void manyObjects()

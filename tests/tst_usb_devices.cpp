@@ -26,17 +26,24 @@ constexpr auto kTooLarge = static_cast<HRESULT>(0x800700DF);
 constexpr auto kGone = static_cast<HRESULT>(0x8007048F);
 constexpr auto kCancelled = static_cast<HRESULT>(0x800704C7);
 
-constexpr PtpDevice::Kind kCamera{"Shooter", false, true};
-
 } // namespace
 
 class TestUsbDevices : public QObject
 {
     Q_OBJECT
 
+public:
+    TestUsbDevices()
+    {
+        GTestDBus* bus = g_test_dbus_new(G_TEST_DBUS_NONE);
+        // While there is one thread: what ends the bus after this process is a fork of it, which
+        // would wait for ever for a lock that another thread held.
+        g_test_dbus_add_service_dir(bus, QFile::encodeName(m_services.path()).constData());
+        g_test_dbus_up(bus);
+    }
+
 private:
     UMockdevTestbed* m_testbed = nullptr;
-    GTestDBus* m_bus = nullptr;
     QTemporaryDir m_services;
 
     // The emulation names a process's end of the event channel after its descriptor, so those of
@@ -46,8 +53,9 @@ private:
         QFile file(m_services.filePath(name + ".service"));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("[D-BUS Service]\nName=" + name + "\nExec=/bin/bash -c 'for i in {3.." +
-                   QByteArray::number(descriptors) + "}; do eval \"exec $i<&0\"; done; exec " +
-                   "/usr/libexec/" + program + "'\n");
+                   QByteArray::number(descriptors) + "}; do eval \"exec $i<&0\"; done; " +
+                   "UMOCKDEV_DIR=" + qgetenv("UMOCKDEV_DIR") + " exec /usr/libexec/" + program +
+                   "'\n");
     }
     // The identifier of the one device, once GVfs has seen it; empty after a while.
     static QString WaitForDevice()
@@ -73,23 +81,18 @@ private Q_SLOTS:
         // A host that never asked for the user's locale.
         std::setlocale(LC_ALL, "C");
         m_testbed = umockdev_testbed_new();
-        m_bus = g_test_dbus_new(G_TEST_DBUS_NONE);
         AddService("org.gtk.vfs.Daemon", "gvfsd", 3);
         AddService("org.gtk.vfs.GPhoto2VolumeMonitor", "gvfs-gphoto2-volume-monitor", 40);
         AddService("org.gtk.vfs.MTPVolumeMonitor", "gvfs-mtp-volume-monitor", 60);
-        g_test_dbus_add_service_dir(m_bus, QFile::encodeName(m_services.path()).constData());
-        g_test_dbus_up(m_bus);
     }
     void cleanup() { QTRY_VERIFY(DeviceClient::Devices().isEmpty()); }
 
     void transfer_data()
     {
         QTest::addColumn<PtpDevice::Kind>("kind");
-        for (const PtpDevice::Kind& kind :
-             {kCamera, {"Shooter", false, false}, {"Phone", true, true}, {"Phone", true, false}})
-            QTest::addRow("%s %s partial reads", kind.name,
-                          kind.hasPartialReads ? "with" : "without")
-                << kind;
+        for (const PtpDevice::Kind kind :
+             {PtpDevice::Kind{false, true}, {false, false}, {true, true}, {true, false}})
+            QTest::addRow("%s, parts: %d", kind.name(), kind.hasPartialReads) << kind;
     }
     void transfer()
     {
@@ -152,8 +155,8 @@ private Q_SLOTS:
         QTest::addColumn<PtpDevice::Kind>("kind");
         QTest::addColumn<QString>("how");
         for (const char* how : {"cancel", "leave", "unplug", "idle"}) {
-            QTest::addRow("camera, %s", how) << kCamera << how;
-            QTest::addRow("phone, %s", how) << PtpDevice::Kind{"Phone", true, true} << how;
+            QTest::addRow("camera, %s", how) << PtpDevice::Kind{false, true} << how;
+            QTest::addRow("phone, %s", how) << PtpDevice::Kind{true, true} << how;
         }
     }
     // A transfer that ends early (unplugged before the first for "idle"), and what the device is

@@ -105,7 +105,7 @@ PtpDevice::PtpDevice(UMockdevTestbed* testbed, const Kind& kind) : m_testbed(tes
         "P: /devices/usb1/1-1\nN: bus/usb/001/002\nE: DEVNAME=/dev/bus/usb/001/002\n"
         "E: DEVTYPE=usb_device\nE: SUBSYSTEM=usb\nE: BUSNUM=001\nE: DEVNUM=002\nE: MAJOR=189\n"
         "E: MINOR=1\nE: ID_VENDOR_ENC=Maker\nE: ID_MODEL_ENC=" +
-        QByteArray(kind.name) + "\nE: ID_SERIAL=Maker_" + kind.name + "\n" +
+        QByteArray(kind.name()) + "\nE: ID_SERIAL=Maker_" + kind.name() + "\n" +
         (kind.isPhone ? "E: ID_MTP_DEVICE=1\nE: ID_MEDIA_PLAYER=1\n" : "E: ID_GPHOTO2=1\n") +
         "A: busnum=1\\n\nA: devnum=2\\n\nA: bConfigurationValue=1\\n\nA: speed=480\\n\n"
         "H: descriptors=" +
@@ -181,7 +181,7 @@ QByteArray PtpDevice::deviceInfo() const
            Text(m_kind.isPhone ? "microsoft.com: 1.0; android.com: 1.0;" : "") +
            Little<quint16>(0) + Array(operations) + Array(QList<quint16>()) +
            Array(QList<quint16>()) + Array(QList<quint16>()) + Array(QList<quint16>{0x3801}) +
-           Text("Maker") + Text(m_kind.name) + Text("1.0") + Text("0001");
+           Text("Maker") + Text(m_kind.name()) + Text("1.0") + Text("0001");
 }
 
 QByteArray PtpDevice::objectInfo(const Object& object) const
@@ -352,8 +352,7 @@ int PtpDevice::reap(UMockdevIoctlClient* client, UMockdevIoctlData* target)
         umockdev_ioctl_data_update(urb->request, 0, bytes, sizeof(bytes));
         umockdev_ioctl_data_set_ptr(target, 0, urb->request);
         g_object_unref(urb->request);
-        if (urb->buffer)
-            g_object_unref(urb->buffer);
+        g_clear_object(&urb->buffer);
         g_object_unref(urb->client);
         m_urbs.erase(urb);
         return 0;

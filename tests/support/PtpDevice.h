@@ -21,9 +21,9 @@ class PtpDevice
 public:
     struct Kind
     {
-        const char* name;
         bool isPhone;
         bool hasPartialReads;
+        const char* name() const { return isPhone ? "Phone" : "Shooter"; }
     };
     struct Object
     {
