@@ -97,7 +97,7 @@ private Q_SLOTS:
     void transfer()
     {
         QFETCH(PtpDevice::Kind, kind);
-        const quint64 size = 40 << 20;
+        const quint64 size = kind.hasPartialReads ? 300 << 20 : 30 << 20;
         PtpDevice usb(m_testbed, kind);
         const quint32 folder = usb.addFolder(usb.addFolder(0, "DCIM"), "100");
         usb.add(folder, "\u00fcber.MP4", size);
