@@ -503,9 +503,10 @@ private slots:
         }
         QVERIFY(Write(Path("joined.mp3"), ReadAll(Path("stereo.mp3")) + ReadAll(Path("mono.mp3"))));
         const auto decoder = AudioDecoder::Open(Probe("joined.mp3"), 0, nullptr);
-        std::vector<float> samples(44100 * 4);
-        QCOMPARE(decoder->Read(0, 44100 * 4, 44100, 1, samples.data()), 44100 * 4);
-        samples.erase(samples.begin(), samples.begin() + 44100 * 3);
+        const int count = 4 * 44100;
+        std::vector<float> samples(size_t{count});
+        QCOMPARE(decoder->Read(0, count, 44100, 1, samples.data()), count);
+        samples.erase(samples.begin(), samples.end() - 44100);
         QVERIFY(std::abs(PeakOf(samples) - 0.5F) < 0.05F);
     }
 
