@@ -207,9 +207,7 @@ private slots:
         QCOMPARE(ReadFrameNumber(Frame(project, 10)), 20);
         QCOMPARE(ReadFrameNumber(Frame(project, 15)), 30);
         QVERIFY(Frame(project, 30).isNull());
-        NLERange total = {};
-        clip->GetTotalRange(&total);
-        QCOMPARE(total.out, 49);
+        QCOMPARE(TotalOf(clip).out, 49);
         // Twice as fast is an octave higher.
         QVERIFY(Strength(Sound(project, 12, kRate / 5)[0], 2 * kTone) > 0.45);
         bag->SetInt(NLEKey::Speed::kEnabled, 0);

@@ -58,6 +58,12 @@ public:
         node->GetRange(&range);
         return range;
     }
+    static NLERange TotalOf(const Node& node)
+    {
+        NLERange range = {-1, -1};
+        node->GetTotalRange(&range);
+        return range;
+    }
     static NLEComPtr<INLEProperties> BagOf(const Node& node)
     {
         NLEComPtr<INLEProperties> bag;
