@@ -179,17 +179,14 @@ bool AudioDecoder::Private::SeekTicks(int64_t ticks, bool toStart)
     hasFrame = false;
     hasPosition = false;
     isDrained = false;
+    if (toStart)
+        return file->SeekToStart(streamIndex, ticks);
     AVFormatContext* const context = file->Context();
     // Matroska indexes the pictures only.
-    const bool byPictures = !toStart && info->videoStream >= 0 && file->IsFormat("matroska");
+    const bool byPictures = info->videoStream >= 0 && file->IsFormat("matroska");
     const int index = byPictures ? info->videoStream : streamIndex;
     const int64_t time = av_rescale_q(ticks, stream->time_base, context->streams[index]->time_base);
-    if (!toStart)
-        return av_seek_frame(context, index, time, AVSEEK_FLAG_BACKWARD) >= 0;
-    const int64_t margin = av_rescale_q(10, {1, 1}, context->streams[index]->time_base);
-    return av_seek_frame(context, index, time - margin, AVSEEK_FLAG_BACKWARD) >= 0 ||
-           av_seek_frame(context, index, time, AVSEEK_FLAG_BACKWARD) >= 0 ||
-           av_seek_frame(context, -1, 0, AVSEEK_FLAG_BYTE) >= 0;
+    return av_seek_frame(context, index, time, AVSEEK_FLAG_BACKWARD) >= 0;
 }
 
 // Leaves the decoder with a frame at or before the native position, far enough before it for the
@@ -420,24 +417,16 @@ int AudioDecoder::Private::Read(int64_t first, int count, int newRate, int newCh
 
 bool AudioDecoder::Private::Start(QString* error)
 {
-    file = MediaFile::OpenStream(*info, streamIndex, error);
+    file = MediaFile::OpenStream(*info, streamIndex, StreamType::Audio, error);
     if (!file)
         return false;
     stream = file->Context()->streams[streamIndex];
-    const MediaStream* const known = info->Stream(streamIndex);
-    if (known == nullptr || known->type != StreamType::Audio || known->sampleRate <= 0 ||
-        stream->codecpar->codec_type != AVMEDIA_TYPE_AUDIO) {
-        SetError(error, info->path, QStringLiteral(": stream %1 has no sound").arg(streamIndex));
+    codec = OpenCodec(stream, 1, info->path, error);
+    if (!codec)
         return false;
-    }
-    QString reason;
-    codec = OpenCodec(stream, 1, &reason);
-    if (!codec) {
-        SetError(error, info->path, QStringLiteral(": ") + reason);
-        return false;
-    }
-    nativeRate = known->sampleRate;
-    nativeStart = NativeOf(known->startTicks);
+    const MediaStream& known = *info->Stream(streamIndex);
+    nativeRate = known.sampleRate;
+    nativeStart = NativeOf(known.startTicks);
     return true;
 }
 

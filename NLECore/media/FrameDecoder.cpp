@@ -89,7 +89,6 @@ struct FrameDecoder::Private
     bool Start(QString* error);
     void FindFirstPicture();
     bool Locate(int64_t frame);
-    bool SeekToStart();
     bool SeekAndDecode(int64_t frame, int64_t keepFrom);
     bool Shows(int64_t frame) const;
     bool CanContinueTo(int64_t frame);
@@ -302,17 +301,6 @@ bool FrameDecoder::Private::Advance(int64_t frame, int64_t keepFrom)
 
 // ---- positioning
 
-bool FrameDecoder::Private::SeekToStart()
-{
-    AVFormatContext* const context = file->Context();
-    // Some demuxers search by time of decoding, which lies before the first time of display;
-    // others refuse a time before their first packet.
-    const int64_t margin = av_rescale_q(10, {1, 1}, stream->time_base);
-    return av_seek_frame(context, streamIndex, startTicks - margin, AVSEEK_FLAG_BACKWARD) >= 0 ||
-           av_seek_frame(context, streamIndex, startTicks, AVSEEK_FLAG_BACKWARD) >= 0 ||
-           av_seek_frame(context, -1, 0, AVSEEK_FLAG_BYTE) >= 0;
-}
-
 // Demuxers may land after the wanted picture: they go by time of decoding, or guess where a time
 // lies in the file, or land on a key frame whose first pictures cannot be decoded. So the landing
 // is checked, and each further attempt starts earlier.
@@ -337,7 +325,7 @@ bool FrameDecoder::Private::SeekAndDecode(int64_t frame, int64_t keepFrom)
         back = back == 0 ? halfSecond : 2 * back;
     }
     Reset();
-    isFromStart = SeekToStart();
+    isFromStart = file->SeekToStart(streamIndex, startTicks);
     clockTicks = startTicks - TicksPerFrame();
     return isFromStart && Advance(frame, keepFrom);
 }
@@ -408,24 +396,15 @@ void FrameDecoder::Private::NoteEnd()
 
 bool FrameDecoder::Private::Start(QString* error)
 {
-    file = MediaFile::OpenStream(*info, streamIndex, error);
+    file = MediaFile::OpenStream(*info, streamIndex, StreamType::Video, error);
     if (!file)
         return false;
     stream = file->Context()->streams[streamIndex];
-    const MediaStream* const known = info->Stream(streamIndex);
-    if (known == nullptr || known->type != StreamType::Video ||
-        stream->codecpar->codec_type != AVMEDIA_TYPE_VIDEO) {
-        SetError(error, info->path, QStringLiteral(": stream %1 has no picture").arg(streamIndex));
+    codec = OpenCodec(stream, threads, info->path, error);
+    if (!codec)
         return false;
-    }
-    QString reason;
-    codec = OpenCodec(stream, threads, &reason);
-    if (!codec) {
-        SetError(error, info->path, QStringLiteral(": ") + reason);
-        return false;
-    }
-    description = *known;
-    startTicks = known->startTicks;
+    description = *info->Stream(streamIndex);
+    startTicks = description.startTicks;
     if (!file->Matches(*info) && stream->start_time != AV_NOPTS_VALUE)
         startTicks = stream->start_time;
     isStill = info->kind == MediaKind::Image;

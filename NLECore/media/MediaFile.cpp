@@ -13,6 +13,7 @@ extern "C" {
 #include <libavutil/avstring.h>
 #include <libavutil/dict.h>
 #include <libavutil/error.h>
+#include <libavutil/mathematics.h>
 #include <libavutil/mem.h>
 }
 
@@ -150,7 +151,8 @@ std::unique_ptr<MediaFile> MediaFile::Open(const QString& path, Streams streams,
     return file;
 }
 
-std::unique_ptr<MediaFile> MediaFile::OpenStream(const MediaInfo& info, int stream, QString* error)
+std::unique_ptr<MediaFile> MediaFile::OpenStream(const MediaInfo& info, int stream, StreamType type,
+                                                 QString* error)
 {
     std::unique_ptr<MediaFile> file = Open(info.path, Streams::AsDeclared, error);
     if (!file)
@@ -170,11 +172,21 @@ std::unique_ptr<MediaFile> MediaFile::OpenStream(const MediaInfo& info, int stre
         SetError(error, info.path, QStringLiteral(" has no stream %1").arg(stream));
         return nullptr;
     }
+    const MediaStream* const known = info.Stream(stream);
+    AVCodecParameters* const codec = context->streams[stream]->codecpar;
+    const bool isPicture = type == StreamType::Video;
+    const AVMediaType wanted = isPicture ? AVMEDIA_TYPE_VIDEO : AVMEDIA_TYPE_AUDIO;
+    if (known == nullptr || known->type != type || codec->codec_type != wanted) {
+        SetError(error, info.path,
+                 QStringLiteral(": stream %1 has no %2")
+                     .arg(stream)
+                     .arg(QLatin1String(isPicture ? "picture" : "sound")));
+        return nullptr;
+    }
     for (unsigned i = 0; i < context->nb_streams; ++i)
         context->streams[i]->discard = int(i) == stream ? AVDISCARD_DEFAULT : AVDISCARD_ALL;
-    const MediaStream* const known = info.Stream(stream);
-    if (isKnown && known != nullptr)
-        context->streams[stream]->codecpar->video_delay = known->reorderDelay;
+    if (isKnown)
+        codec->video_delay = known->reorderDelay;
     return file;
 }
 
@@ -186,6 +198,16 @@ MediaFile::~MediaFile()
 void MediaFile::LimitTime()
 {
     m_deadline = std::chrono::steady_clock::now() + OpenTimeout;
+}
+
+bool MediaFile::SeekToStart(int stream, int64_t startTicks)
+{
+    // Some demuxers search by time of decoding, which lies before the first time of display;
+    // others refuse a time before their first packet.
+    const int64_t margin = av_rescale_q(10, {1, 1}, m_context->streams[stream]->time_base);
+    return av_seek_frame(m_context, stream, startTicks - margin, AVSEEK_FLAG_BACKWARD) >= 0 ||
+           av_seek_frame(m_context, stream, startTicks, AVSEEK_FLAG_BACKWARD) >= 0 ||
+           av_seek_frame(m_context, -1, 0, AVSEEK_FLAG_BYTE) >= 0;
 }
 
 bool MediaFile::IsFormat(const char* name) const
@@ -215,11 +237,10 @@ const AVCodec* FindDecoder(const AVStream* stream)
     return avcodec_find_decoder(id);
 }
 
-CodecPtr OpenCodec(const AVStream* stream, int threads, QString* error)
+CodecPtr OpenCodec(const AVStream* stream, int threads, const QString& path, QString* error)
 {
-    const auto fail = [error](const QString& text) {
-        if (error != nullptr)
-            *error = text;
+    const auto fail = [&](const QString& reason) {
+        SetError(error, path, QStringLiteral(": ") + reason);
         return CodecPtr();
     };
     const AVCodec* const decoder = FindDecoder(stream);

@@ -65,8 +65,10 @@ public:
     /// Opens the file at \a path. Examined reads into the data until each stream is known; it is
     /// needed for formats that do not declare their streams, and slow. Null on failure.
     static std::unique_ptr<MediaFile> Open(const QString& path, Streams streams, QString* error);
-    /// Opens the file of \a info for reading \a stream alone; examined only where it must be.
-    static std::unique_ptr<MediaFile> OpenStream(const MediaInfo& info, int stream, QString* error);
+    /// Opens the file of \a info for reading \a stream alone, which must be of \a type, Video or
+    /// Audio; examined only where it must be. Null on failure.
+    static std::unique_ptr<MediaFile> OpenStream(const MediaInfo& info, int stream, StreamType type,
+                                                 QString* error);
     ~MediaFile();
     MediaFile(const MediaFile&) = delete;
     MediaFile& operator=(const MediaFile&) = delete;
@@ -80,6 +82,8 @@ public:
     }
     /// From now on reading fails after some seconds; opening has a limit of its own.
     void LimitTime();
+    /// Goes on reading at or before the first packet of \a stream, whose time is \a startTicks.
+    bool SeekToStart(int stream, int64_t startTicks);
     /// True when \a name is one of the short names of the container format.
     bool IsFormat(const char* name) const;
 
@@ -102,8 +106,9 @@ inline int64_t PictureDuration(const AVFrame& frame)
 #endif
 }
 
-/// Opens a decoder for \a stream with \a threads threads (0: chosen here). Null on failure.
-CodecPtr OpenCodec(const AVStream* stream, int threads, QString* error);
+/// Opens a decoder for \a stream with \a threads threads (0: chosen here). Null on failure; \a
+/// error then names the file at \a path.
+CodecPtr OpenCodec(const AVStream* stream, int threads, const QString& path, QString* error);
 /// The decoder for a stream; null when this build of the libraries has none.
 const AVCodec* FindDecoder(const AVStream* stream);
 
