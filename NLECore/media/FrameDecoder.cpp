@@ -128,8 +128,9 @@ struct FrameDecoder::Private
         return packet.dts != AV_NOPTS_VALUE ? packet.dts : packet.pts;
     }
     /// A program stream puts several pictures behind one time. What a seek lands on may be the rest
-    /// of a picture, which is counted as one, so the times are wrong until the next own one.
-    bool AreTimesSure() const { return !hasCountedTimes || stampedPackets > 1; }
+    /// of a picture, which is counted as one, so the times are wrong until the next own one. Where
+    /// no packet is marked, the container does not tell.
+    bool AreTimesSure() const { return !hasCountedTimes || stampedPackets != 1; }
     int64_t TicksOf(const AVFrame& frame) const;
     bool IsLastOfItsFrame(const DecodedPicture& picture) const;
 };
