@@ -159,8 +159,8 @@ struct NLEEncodeSettings
     NLERational frameRate;
     NLERange range;            ///< frames of the timeline; an empty one and {0, 0} mean all of it
     std::int32_t quality;      ///< constant rate factor, 1 (best) to 51
-    std::int32_t sampleRate;   ///< audio samples a second
-    std::int32_t channels;     ///< audio channels
+    std::int32_t sampleRate;   ///< audio samples a second, at most 384000
+    std::int32_t channels;     ///< audio channels, at most 64
     std::int32_t audioBitRate; ///< bits a second
 };
 

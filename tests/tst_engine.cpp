@@ -402,6 +402,9 @@ private slots:
         }
         const std::wstring none = Path("empty.mp4").toStdWString();
         QCOMPARE(encoder->Open(Project().get(), none.c_str(), nullptr), E_INVALIDARG);
+        NLEEncodeSettings absurd{};
+        absurd.channels = 65;
+        QCOMPARE(encoder->Open(clip.get(), none.c_str(), &absurd), E_INVALIDARG);
         QCOMPARE(encoder->Encode(nullptr, nullptr), E_FAIL);
     }
 

@@ -14,8 +14,10 @@ namespace nle {
 
 namespace {
 
-/// Frames a second below which nothing is written: a frame's sound must fit into memory.
-constexpr double kLowestRate = 0.1;
+/// Outside of these nothing is written: a frame's sound must fit into memory.
+constexpr double kLowestRate = 0.1; // frames a second
+constexpr int kHighestSampleRate = 384000;
+constexpr int kMostChannels = 64;
 
 int OrDefault(int value, int preset)
 {
@@ -86,7 +88,9 @@ HRESULT MediaEncoder::Open(INLETimeline* timeline, const wchar_t* path,
     m_settings.hasSound = HasSound(*m_root);
     const bool isCountable =
         ToDouble(m_frameRate) >= kLowestRate && ToDouble(node->FrameRate()) > 0;
-    if (NLERangeLength(m_range) > 0 && isCountable)
+    const bool isAudible =
+        m_settings.sampleRate <= kHighestSampleRate && m_settings.channels <= kMostChannels;
+    if (NLERangeLength(m_range) > 0 && isCountable && isAudible)
         return S_OK;
     m_root.reset();
     return E_INVALIDARG;
