@@ -27,7 +27,7 @@ GetClassObjectFunction GetClassObject()
 }
 
 /// Writes a local file; unbuffered, so that a full disk shows in the write that meets it. Space for
-/// a large file is reserved ahead: without, writing takes twice as long on ext4.
+/// a large file is reserved ahead, which writes it about a tenth faster on ext4.
 class FileStream final : public ComObject<IStream>
 {
 public:
