@@ -334,20 +334,27 @@ private slots:
     {
         const Node clip = Media();
         Facet<INLEAudioStreamProcess>(clip)->SetPitch(5);
-        const auto extractor = provider->CreateFrameExtractor();
-        const auto sound = provider->CreateAudioFrame(kRate / 25);
-        float* data = nullptr;
-        sound->GetData(&data);
-        QCOMPARE(extractor->Open(clip.get(), 1), S_OK);
-        std::vector<double> pieces;
-        for (int frame = 30; frame < 35; ++frame) {
-            QCOMPARE(extractor->ExtractAudio(frame, sound.get()), S_OK);
-            for (int i = 0; i < kRate / 25; ++i)
-                pieces.push_back(data[size_t(i) * 2]);
+        const Node project = ProjectWith(clip); // has effects of its own, which want larger blocks
+        QCOMPARE(project->SetRenderFrameRate({60, 1}), S_OK);
+        for (const auto& [node, rate] : {std::pair(Media(), 25), {project, 60}}) {
+            Facet<INLEAudioStreamProcess>(node)->SetPitch(-5);
+            const auto extractor = provider->CreateFrameExtractor();
+            const auto sound = provider->CreateAudioFrame(kRate / rate);
+            float* data = nullptr;
+            sound->GetData(&data);
+            QCOMPARE(extractor->Open(node.get(), 1), S_OK);
+            std::vector<double> pieces;
+            for (int frame = 30; frame < 36; ++frame) {
+                QCOMPARE(extractor->ExtractAudio(frame, sound.get()), S_OK);
+                for (int i = 0; i < kRate / rate; ++i)
+                    pieces.push_back(data[size_t(i) * 2]);
+            }
+            QCOMPARE(pieces, Sound(node, 30, int(pieces.size()))[0]);
         }
-        QCOMPARE(pieces, Sound(clip, 30, kRate / 5)[0]);
         // It is silent before the material begins.
-        QCOMPARE(GainAt(ProjectWith(Trimmed(clip, -50, 49)), 0), 0.0);
+        const Node early = Trimmed(Media(), -50, 49);
+        Facet<INLEAudioStreamProcess>(early)->SetPitch(5);
+        QCOMPARE(GainAt(ProjectWith(early), 0), 0.0);
     }
 
     void pitch()

@@ -64,7 +64,7 @@ AudioMixer::AudioMixer(Snapshot root, int sampleRate, int channels)
 void AudioMixer::Mix(std::int64_t first, int count, float* samples)
 {
     Render(*m_root, first, count, samples);
-    DropIdleVoices();
+    DropIdleVoices(count);
 }
 
 std::int64_t AudioMixer::SampleOfFrame(std::int64_t frame) const
@@ -87,7 +87,7 @@ void AudioMixer::Render(const Layer& layer, std::int64_t first, int count, float
     };
     const auto [entry, isNew] = m_voices.try_emplace(&layer);
     Voice& voice = entry->second;
-    voice.used = true;
+    voice.idle = 0;
     if (isNew) {
         const QByteArray effects = DescribeEffects(layer.audio);
         if (!effects.isEmpty())
@@ -138,13 +138,13 @@ void AudioMixer::AddChild(const Layer& parent, const Layer& child, std::int64_t 
         out[i] += float(block[i] * strip.volume);
 }
 
-void AudioMixer::DropIdleVoices()
+void AudioMixer::DropIdleVoices(int count)
 {
     for (auto voice = m_voices.begin(); voice != m_voices.end();) {
-        if (std::exchange(voice->second.used, false))
-            ++voice;
-        else
-            voice = m_voices.erase(voice);
+        // Effects take their input in larger pieces than a frame may have samples.
+        const bool isOver = voice->second.idle > m_sampleRate;
+        voice->second.idle += count;
+        voice = isOver ? m_voices.erase(voice) : std::next(voice);
     }
 }
 

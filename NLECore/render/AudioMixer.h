@@ -12,7 +12,7 @@
 namespace nle {
 
 /// Mixes the sound of a snapshot. One object serves one thread; it keeps the decoders of the layers
-/// that are sounding.
+/// that sounded within the last second.
 class AudioMixer
 {
 public:
@@ -31,7 +31,7 @@ private:
         std::unique_ptr<AudioDecoder> decoder;
         std::unique_ptr<AudioFilter> effects;
         bool isOpened = false; ///< also after a failure, which is not tried again
-        bool used = false;
+        std::int64_t idle = 0; ///< samples mixed since it was read last
     };
 
     /// The layer's own samples with its settings, from its frame 0 on.
@@ -39,7 +39,8 @@ private:
     void RenderContent(const Layer& layer, std::int64_t first, int count, float* samples);
     void AddChild(const Layer& parent, const Layer& child, std::int64_t first, int count,
                   float* samples);
-    void DropIdleVoices();
+    /// Gives up what has not been read for a second, after \a count samples were mixed.
+    void DropIdleVoices(int count);
     void ReadMedia(const Layer& layer, Voice& voice, std::int64_t first, int count, float* samples);
     void ApplyGains(const Layer& layer, std::int64_t first, int count, float* samples) const;
     void ApplyBalance(double balance, int count, float* samples) const;
