@@ -5,6 +5,7 @@
 // cipher is looked up beforehand. Rounds are interleaved; figures are medians.
 #include "CommonLib/AesCipher_p.h"
 #include "CommonLib/QAESEncryption.h"
+#include "benchmarks/Median.h"
 
 #include <openssl/evp.h>
 
@@ -113,12 +114,6 @@ double Nanoseconds(int count, const Message& message)
         message();
     const std::chrono::duration<double, std::nano> time = Clock::now() - start;
     return time.count() / count;
-}
-
-double Median(std::vector<double> values)
-{
-    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
-    return values[values.size() / 2];
 }
 
 QByteArray Pattern(int size, int seed)

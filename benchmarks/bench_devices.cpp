@@ -2,6 +2,7 @@
 // A folder as a portable device: walking 20,000 objects beside the file system's own walk, and
 // copying a file of 1 GiB beside cp. Rounds are interleaved; figures are medians.
 #include "CommonLib/WpdApiLib/WpdApiLib.h"
+#include "benchmarks/Median.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -11,7 +12,6 @@
 #include <QTemporaryDir>
 #include <QUrl>
 
-#include <algorithm>
 #include <cstdio>
 #include <cwchar>
 #include <filesystem>
@@ -35,12 +35,6 @@ double Seconds(const std::function<void()>& prepare, const std::function<bool()>
     if (!run())
         std::fprintf(stderr, "failed\n");
     return static_cast<double>(timer.nsecsElapsed()) / 1e9;
-}
-
-double Median(std::vector<double> times)
-{
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
 }
 
 void Compare(const char* subject, const char* peer, const std::function<void()>& prepare,

@@ -2,12 +2,12 @@
 // GetFileMd5 of a sparse 10 GiB file beside a sparse 100 MiB one, with the same block size, and the
 // memory that both take. Rounds are interleaved and compared by their medians.
 #include "CommonLib/GlobalUtils.h"
+#include "benchmarks/Median.h"
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <algorithm>
 #include <cstdio>
 #include <vector>
 
@@ -23,12 +23,6 @@ double Milliseconds(const QString& path)
     if (GetFileMd5(kBlockSize, path).size() != 32)
         std::fprintf(stderr, "no fingerprint\n");
     return timer.nsecsElapsed() / 1e6;
-}
-
-double Median(std::vector<double> values)
-{
-    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
-    return values[values.size() / 2];
 }
 
 // Largest memory that the process has used, in KiB; 0 where the system does not tell.

@@ -2,6 +2,7 @@
 // A folder of 2,000 fonts, scanned at a first start and at later ones, beside a bare listing of the
 // folder and beside the toolkit opening every file. Medians of rounds in one run.
 #include "NLECore/media/FontFiles.h"
+#include "benchmarks/Median.h"
 #include "tests/support/TestFonts.h"
 
 #include <QDateTime>
@@ -28,12 +29,6 @@ double Time(const std::function<void()>& work)
     timer.start();
     work();
     return double(timer.nsecsElapsed()) / 1e6;
-}
-
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 /// Copies of a monospaced face of 340 KB, each under a family of its own.

@@ -7,6 +7,7 @@
 #include "CommonLib/NLEWraper/VideoKeyFrame.h"
 #include "CommonLib/NLEWraper/VideoKeyFrameSetting.h"
 #include "NLECore/model/KeyFrameList.h"
+#include "benchmarks/Median.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -33,12 +34,6 @@ double Time(const Action& action)
     timer.start();
     action();
     return double(timer.nsecsElapsed());
-}
-
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 /// Prints what one of \a calls costs in \a first and in \a peer, which take turns.

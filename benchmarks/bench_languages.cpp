@@ -3,6 +3,7 @@
 // each, beside bare translators that load the same files; medians of rounds in one run.
 #include "CommonLib/MultiLangMgr.h"
 #include "benchmarks/BenchTranslations.h"
+#include "benchmarks/Median.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -10,7 +11,6 @@
 #include <QTranslator>
 #include <QVector>
 
-#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <memory>
@@ -29,12 +29,6 @@ double Time(const std::function<void()>& work)
     timer.start();
     work();
     return timer.nsecsElapsed() / 1e6;
-}
-
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 QStringList WriteAll(const QString& folder)

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // What a program pays for loading the library and taking the log, beside a bare Qt program.
+#include "benchmarks/Median.h"
+
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QProcess>
 
-#include <algorithm>
 #include <cstdio>
 #include <vector>
 
@@ -23,12 +24,6 @@ double RunOnce(const QString& program)
     const bool ended = process.waitForFinished();
     const double time = double(timer.nsecsElapsed()) / 1e6;
     return ended && process.exitCode() == 0 ? time : -1.0;
-}
-
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // What a line of the log costs, beside spdlog flushed after every line and beside the bare system
 // calls, all writing the same bytes. Rounds are interleaved; figures are medians.
 #include "CommonLib/BaseLog.h"
+#include "benchmarks/Median.h"
 
 #include <QDir>
 #include <QFile>
@@ -91,12 +92,6 @@ double BareRound(const QByteArray& line, const QString& path)
     });
     ::close(file);
     return cost;
-}
-
-double Median(std::vector<double> values)
-{
-    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
-    return values[values.size() / 2];
 }
 
 using Costs = std::vector<std::vector<double>>; // by subject, then by round

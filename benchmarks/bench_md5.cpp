@@ -3,6 +3,7 @@
 // alone, over the same file in the page cache. Rounds are interleaved and compared by their
 // medians.
 #include "CommonLib/FileOperation.h"
+#include "benchmarks/Median.h"
 
 #include <QCryptographicHash>
 #include <QElapsedTimer>
@@ -10,7 +11,6 @@
 #include <QProcess>
 #include <QTemporaryFile>
 
-#include <algorithm>
 #include <cstdio>
 #include <vector>
 
@@ -50,12 +50,6 @@ void HashMemory()
     for (qint64 done = 0; done < kFileSize; done += block.size())
         hash.addData(block);
     hash.result();
-}
-
-double Median(std::vector<double> values)
-{
-    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
-    return values[values.size() / 2];
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/INLETransform.h"
 #include "TestMedia.h"
+#include "benchmarks/Median.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -37,12 +38,6 @@ constexpr NLESize kSize = {960, 540};
 PlayerMaterProvider* Provider()
 {
     return NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
-}
-
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 double Largest(const std::vector<double>& values)
@@ -79,7 +74,7 @@ Cost CostOf(int who, const std::function<void()>& work)
 }
 
 /// Medians of several runs.
-Cost Median(const std::vector<Cost>& costs)
+Cost MedianCost(const std::vector<Cost>& costs)
 {
     std::vector<double> wall;
     std::vector<double> processor;
@@ -219,7 +214,7 @@ void CompareRendering(const char* title, const QString& media, int layers, const
         if (layers == 1)
             ffmpeg.push_back(CostOf(RUSAGE_CHILDREN, [&] { RunPlainFfmpeg(media, output); }));
     }
-    const Cost mine = Median(own);
+    const Cost mine = MedianCost(own);
     std::printf(
         "%s: own %.0f frames a second, %.1f ms of processor a frame, at the most %.0f MiB\n", title,
         kFrames / mine.wall, mine.processor * 1e3 / kFrames, TakePeakMemory());
@@ -228,9 +223,9 @@ void CompareRendering(const char* title, const QString& media, int layers, const
                     name, kFrames / peer.wall, peer.wall / mine.wall,
                     peer.processor * 1e3 / kFrames, peer.processor / mine.processor);
     };
-    compare("melt", Median(melt));
+    compare("melt", MedianCost(melt));
     if (layers == 1)
-        compare("ffmpeg", Median(ffmpeg));
+        compare("ffmpeg", MedianCost(ffmpeg));
 }
 
 double FrameTime(const Node& project, int flags, const NLESize& size)
@@ -306,7 +301,7 @@ void MeasureLargeProject(const QString& media, const QDir& folder)
         clips[size_t(round) * 300].query<INLEBlendSetting>()->SetAlpha(100 + round);
         updates.push_back(CostOf(RUSAGE_THREAD, [&] { cache.engine->Update(); }));
     }
-    const Cost update = Median(updates);
+    const Cost update = MedianCost(updates);
     std::printf("%d clips: analysis after one edit %.2f ms, %.2f ms of processor\n", Clips,
                 update.wall * 1e3, update.processor * 1e3);
 

@@ -3,6 +3,7 @@
 // back bare on the same picture; and the slowest conversions. Figures are medians.
 #include "CommonLib/TimelineRuler.h"
 #include "CommonLib/externalapi/PixelRatio.h"
+#include "benchmarks/Median.h"
 
 #include <QApplication>
 #include <QImage>
@@ -127,12 +128,6 @@ double Milliseconds(const std::function<void()>& work)
     const Clock::time_point start = Clock::now();
     work();
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
-}
-
-double Median(std::vector<double> times)
-{
-    std::nth_element(times.begin(), times.begin() + times.size() / 2, times.end());
-    return times[times.size() / 2];
 }
 
 struct Scene

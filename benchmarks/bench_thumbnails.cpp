@@ -6,6 +6,7 @@
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "PlainDecoder.h"
 #include "TestMedia.h"
+#include "benchmarks/Median.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -24,12 +25,6 @@ constexpr int FrameCount = 250;
 constexpr int Rounds = 5;
 constexpr int RandomFrames = 20;
 const QSize Thumbnail(160, 90);
-
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
 
 double MillisecondsOf(const std::function<void()>& work)
 {

@@ -3,12 +3,12 @@
 // compared by their medians. With "--table": the rounding of every frame of 24 hours, as
 // docs/timecode.md shows it.
 #include "CommonLib/GlobalUtils.h"
+#include "benchmarks/Median.h"
 
 #include <QElapsedTimer>
 #include <QStringList>
 #include <QVector>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <vector>
@@ -35,12 +35,6 @@ QVector<Numbers> SameNumbers()
         numbers += row;
     }
     return numbers;
-}
-
-double Median(std::vector<double> values)
-{
-    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
-    return values[values.size() / 2];
 }
 
 void PrintTable()

@@ -6,11 +6,11 @@
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/NLEKey.h"
+#include "benchmarks/Median.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 
-#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <memory>
@@ -24,12 +24,6 @@ using Engine = NLEComPtr<INLETimeline>;
 constexpr int kRounds = 15;
 constexpr int kSmall = 1000;
 constexpr int kLarge = 10000;
-
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
 
 /// Nanoseconds that one run of \a action takes.
 double Time(const Action& action)

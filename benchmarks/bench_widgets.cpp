@@ -9,6 +9,7 @@
 #include "CommonLib/ScaleUnitSlider.h"
 #include "CommonLib/ToolBarSlider.h"
 #include "CommonLib/externalapi/PixelRatio.h"
+#include "benchmarks/Median.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -36,12 +37,6 @@ double Milliseconds(const std::function<void()>& work)
     const Clock::time_point start = Clock::now();
     work();
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
-}
-
-double Median(std::vector<double> times)
-{
-    std::nth_element(times.begin(), times.begin() + times.size() / 2, times.end());
-    return times[times.size() / 2];
 }
 
 // To the child that is at that place, as the toolkit would.
