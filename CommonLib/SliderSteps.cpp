@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/SliderSteps_p.h"
 
+#include "CommonLib/WheelTurn_p.h"
+
 #include <QKeyEvent>
-#include <QWheelEvent>
 
 std::optional<double> SliderSteps::Target(const QKeyEvent& event) const
 {
@@ -37,11 +38,9 @@ std::optional<double> SliderSteps::Target(const QKeyEvent& event) const
 
 double SliderSteps::Target(const QWheelEvent& event) const
 {
-    const QPoint turn = event.angleDelta();
-    const bool sideways = qAbs(turn.x()) > qAbs(turn.y());
-    double notches = double(sideways ? turn.x() : turn.y()) / QWheelEvent::DefaultDeltasPerStep;
-    if (sideways ? !mirrored : orientation == Qt::Vertical)
-        notches = -notches;
+    const WheelTurn turn(event);
+    const bool isReversed = turn.sideways ? !mirrored : orientation == Qt::Vertical;
+    const double notches = isReversed ? -turn.notches : turn.notches;
     const bool pages = event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier);
     return value + notches * (pages ? page : step);
 }

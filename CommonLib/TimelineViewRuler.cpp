@@ -2,6 +2,7 @@
 #include "CommonLib/TimelineViewRuler_p.h"
 
 #include "CommonLib/RulerPainter_p.h"
+#include "CommonLib/WheelTurn_p.h"
 
 #include <QKeyEvent>
 #include <QPaintEvent>
@@ -219,11 +220,8 @@ void TimelineViewRuler::FitAll()
 
 void TimelineViewRuler::wheelEvent(QWheelEvent* event)
 {
-    const QPoint turn = event->angleDelta();
     // Alt and Shift turn a vertical wheel into a horizontal one on some systems.
-    const bool sideways = std::abs(turn.x()) > std::abs(turn.y());
-    const double notches =
-        double(sideways ? turn.x() : turn.y()) / QWheelEvent::DefaultDeltasPerStep;
+    const double notches = WheelTurn(*event).notches;
     event->accept();
     if (notches == 0 || m_drag.Active() != Drag::None)
         return;
