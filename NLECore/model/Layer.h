@@ -77,6 +77,8 @@ struct Layer
     {
         return frame >= position && frame < position + NLERangeLength(range);
     }
+    /// The layer's own frame, counted as its trim range is, at \a frame of its parent.
+    std::int64_t FrameAt(std::int64_t frame) const { return frame - position + range.in; }
 };
 
 using Snapshot = std::shared_ptr<const Layer>;

@@ -90,8 +90,7 @@ void CacheRenderer::Stop()
 void CacheRenderer::Run(int number)
 {
     LowerThreadPriority();
-    const NLESize& size = m_plan->Root()->size;
-    const QRect place = PlacePicture(size, NLEMargin_Fit, size, m_plan->Format().size);
+    const QRect place = PlaceRoot(m_plan->Root()->size, m_plan->Format().size);
     Worker worker{Composer(m_plan->Root(), m_decoders),
                   PictureEncoder::Open(place.size(), m_plan->Coding()), 0};
     // The threads begin apart, so that each finds chunks that follow one another.

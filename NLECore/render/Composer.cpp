@@ -168,6 +168,11 @@ QRect PlacePicture(NLESize size, tagNLEMarginMode margin, NLESize parentSize, co
         whole);
 }
 
+QRect PlaceRoot(NLESize size, const QSize& frameSize)
+{
+    return PlacePicture(size, NLEMargin_Fit, size, frameSize);
+}
+
 Placing PlaceLayer(const Layer& layer, const NLEKeyFrameRecord* key, NLESize parentSize,
                    const QSize& canvas)
 {
@@ -194,7 +199,7 @@ Composer::Composer(Snapshot root, DecoderPool& decoders) : m_root(std::move(root
 
 QImage Composer::Render(std::int64_t frame, const QSize& frameSize, QRect* place)
 {
-    *place = PlacePicture(m_root->size, NLEMargin_Fit, m_root->size, frameSize);
+    *place = PlaceRoot(m_root->size, frameSize);
     if (place->isEmpty())
         return {};
     const RenderContext& context = m_root->context;
@@ -271,7 +276,7 @@ const AVFrame* Composer::PlainPicture(std::int64_t frame, const QSize& frameSize
 {
     if (m_root->context.previewScale < 1 || !m_root->context.smooth)
         return nullptr;
-    const QRect place = PlacePicture(m_root->size, NLEMargin_Fit, m_root->size, frameSize);
+    const QRect place = PlaceRoot(m_root->size, frameSize);
     const Layer* sole = PlainBottom(*m_root, frame, place.size());
     const auto covers = [&](const Snapshot& child) {
         return child.get() != sole && Shows(*child, frame);
@@ -279,7 +284,7 @@ const AVFrame* Composer::PlainPicture(std::int64_t frame, const QSize& frameSize
     if (!sole || std::any_of(m_root->children.begin(), m_root->children.end(), covers))
         return nullptr;
     int wanted = 0;
-    FrameDecoder* decoder = DecoderOf(*sole, frame - sole->position + sole->range.in, &wanted);
+    FrameDecoder* decoder = DecoderOf(*sole, sole->FrameAt(frame), &wanted);
     const AVFrame* picture = decoder ? decoder->Decoded(wanted) : nullptr;
     if (picture)
         DropIdleDecoders();
@@ -292,7 +297,7 @@ QImage Composer::Composite(const Layer& layer, std::int64_t frame, const QSize& 
     const Layer* bottom = PlainBottom(layer, frame, size);
     QImage canvas;
     if (bottom)
-        canvas = MediaPicture(*bottom, frame - bottom->position + bottom->range.in, size);
+        canvas = MediaPicture(*bottom, bottom->FrameAt(frame), size);
     if (canvas.isNull())
         canvas = ColorPicture(layer.argb, size);
     else
@@ -302,7 +307,7 @@ QImage Composer::Composite(const Layer& layer, std::int64_t frame, const QSize& 
     for (const Snapshot& child : layer.children) {
         if (child.get() == bottom || !Shows(*child, frame))
             continue;
-        const std::int64_t childFrame = frame - child->position + child->range.in;
+        const std::int64_t childFrame = child->FrameAt(frame);
         std::optional<NLEKeyFrameRecord> key;
         if (child->keyFrames)
             key = child->keyFrames->AtFrame(double(childFrame));

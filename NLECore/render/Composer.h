@@ -15,6 +15,8 @@ namespace nle {
 
 /// Where a picture of \a size lies on a parent of \a parentSize that is drawn \a canvas large.
 QRect PlacePicture(NLESize size, tagNLEMarginMode margin, NLESize parentSize, const QSize& canvas);
+/// Where the picture of a root of \a size lies on a frame: in the middle, as large as it fits.
+QRect PlaceRoot(NLESize size, const QSize& frameSize);
 
 /// Where a layer's picture lies: an upright rectangle and what is done to it.
 struct Placing

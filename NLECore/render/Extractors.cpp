@@ -55,8 +55,7 @@ HRESULT FrameExtractor::Extract(int frame, INLEVideoFrame* picture)
     std::uint8_t* pixels = nullptr;
     if (!HasFrame(frame) || FAILED(picture->GetSize(&size)) || FAILED(picture->GetData(&pixels)))
         return E_FAIL;
-    QRect place =
-        PlacePicture(m_root->size, NLEMargin_Fit, m_root->size, {size.width, size.height});
+    QRect place = PlaceRoot(m_root->size, {size.width, size.height});
     QImage image = m_cached ? m_cached->Picture(frame, place.size()) : QImage();
     if (image.isNull())
         image = m_composer->Render(frame, QSize(size.width, size.height), &place);
