@@ -143,10 +143,7 @@ HRESULT CameraSession::list(const std::wstring& parent, std::vector<ObjectInfo>&
 HRESULT CameraSession::describe(const std::wstring& id, ObjectInfo& info, GCancellable* cancellable)
 {
     if (id == kDeviceObject) {
-        info = {};
-        info.id = id;
-        info.name = m_name;
-        info.kind = ObjectKind::Device;
+        info = DeviceInfo(m_name);
         return S_OK;
     }
     const std::string path = PathOf(id);

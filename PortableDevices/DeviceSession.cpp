@@ -5,6 +5,16 @@
 
 namespace devices {
 
+ObjectInfo DeviceInfo(const std::wstring& name)
+{
+    ObjectInfo info;
+    info.id = kDeviceObject;
+    info.name = name;
+    info.kind = ObjectKind::Device;
+    info.isComplete = true;
+    return info;
+}
+
 double AutomationDate(std::int64_t seconds, std::int64_t microseconds)
 {
     constexpr double kDaysTo1970 = 25569;

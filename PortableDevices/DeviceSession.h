@@ -92,6 +92,9 @@ public:
     virtual HRESULT remove(const std::wstring& id, GCancellable* cancellable) = 0;
 };
 
+/// What every device tells of itself, its root object.
+ObjectInfo DeviceInfo(const std::wstring& name);
+
 /// Seconds since 1970 as an OLE automation date in local time.
 double AutomationDate(std::int64_t seconds, std::int64_t microseconds);
 

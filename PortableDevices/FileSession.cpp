@@ -312,11 +312,7 @@ ObjectInfo FileSession::infoOf(GFileInfo* info, const std::string& path) const
 HRESULT FileSession::describe(const std::wstring& id, ObjectInfo& info, GCancellable* cancellable)
 {
     if (id == kDeviceObject) {
-        info = {};
-        info.id = id;
-        info.name = m_name;
-        info.kind = ObjectKind::Device;
-        info.isComplete = true;
+        info = DeviceInfo(m_name);
         return S_OK;
     }
     Place place;
