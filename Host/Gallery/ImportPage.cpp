@@ -360,7 +360,8 @@ void ImportPage::TakeProgress(quint64 bytes)
 void ImportPage::TakeResult(const ImportResult& result)
 {
     m_lastResult = [result, wasRemoved = m_state == State::Removed] {
-        QString count = tr("Imported files: %1 of %2.").arg(result.imported).arg(result.wanted);
+        QString count =
+            tr("Imported files: %1 of %2.").arg(result.importedIds.size()).arg(result.wanted);
         if (wasRemoved)
             return tr("The device was removed during the import.") + ' ' + count;
         if (result.isStopped)

@@ -258,7 +258,6 @@ void ImportSession::ImportNow(const QVector<ImportFile>& files)
         emit Progressed(m_imported);
     }
     m_isImporting = false;
-    result.imported = result.importedIds.size();
     result.isStopped = IsStopped();
     emit Imported(result);
 }

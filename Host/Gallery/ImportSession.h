@@ -61,7 +61,6 @@ struct ImportFile
 struct ImportResult
 {
     int wanted = 0;
-    int imported = 0;
     bool isStopped = false;
     QVector<std::wstring> importedIds;
     QStringList failed; ///< paths that were not written
