@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "Com/ComTypes.h"
 #include "CommonLib/CommonLibExport.h"
-#include "EngineApi/ComTypes.h"
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/QAESEncryption.h"
 
-#include "CommonLib/AesCipher_p.h"
+#include "CommonLib/aes/AesCipher_p.h"
 
 #include <algorithm>
 #include <cstring>

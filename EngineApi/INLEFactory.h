@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "EngineApi/ComTypes.h"
+#include "Com/ComTypes.h"
 #include "EngineApi/NLETypes.h"
 
 struct INLEAudioFrame;
@@ -140,6 +140,3 @@ struct INLEFactory : IUnknown
     /// Closes what the engine keeps open. Objects that are still held stay valid.
     virtual HRESULT Shutdown(int flags) = 0;
 };
-
-/// Signature of the one function that an engine module exports, under the name "DllGetClassObject".
-using DllGetClassObjectFunction = HRESULT (*)(REFCLSID classId, REFIID iid, void** out);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "EngineApi/ComTypes.h"
+#include "Com/ComTypes.h"
 #include "EngineApi/NLETypes.h"
 
 /// Volume over time of one stream: points on the clip's key-frame axis.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "EngineApi/ComObject.h"
+#include "Com/ClassFactory.h"
 #include "PortableDevices/Device.h"
 #include "PortableDevices/DeviceManager.h"
 #include "PortableDevices/PropertyValues.h"
@@ -8,30 +8,6 @@
 
 namespace {
 
-/// Makes objects of \a Class.
-template <typename Class>
-class ClassFactory final : public ComObject<IClassFactory>
-{
-public:
-    HRESULT CreateInstance(IUnknown* outer, REFIID iid, void** out) override
-    {
-        if (!out)
-            return E_POINTER;
-        *out = nullptr;
-        if (outer)
-            return CLASS_E_NOAGGREGATION;
-        return MakeCom<Class>()->QueryInterface(iid, out);
-    }
-    // The module is linked so that it stays mapped; there is nothing to lock.
-    HRESULT LockServer(BOOL /*lock*/) override { return S_OK; }
-};
-
-template <typename Class>
-HRESULT GiveFactory(REFIID iid, void** out)
-{
-    return MakeCom<ClassFactory<Class>>()->QueryInterface(iid, out);
-}
-
 struct Known
 {
     const CLSID& id;
@@ -39,12 +15,12 @@ struct Known
 };
 
 const Known kClasses[] = {
-    {Wpd::CLSID_PortableDeviceManager, &GiveFactory<devices::DeviceManager>},
-    {Wpd::CLSID_PortableDevice, &GiveFactory<devices::Device>},
-    {Wpd::CLSID_PortableDeviceFTM, &GiveFactory<devices::Device>},
-    {Wpd::CLSID_PortableDeviceValues, &GiveFactory<devices::PropertyValues>},
-    {Wpd::CLSID_PortableDeviceKeyCollection, &GiveFactory<devices::KeyCollection>},
-    {Wpd::CLSID_PortableDevicePropVariantCollection, &GiveFactory<devices::VariantCollection>},
+    {Wpd::CLSID_PortableDeviceManager, &GiveClassFactory<devices::DeviceManager>},
+    {Wpd::CLSID_PortableDevice, &GiveClassFactory<devices::Device>},
+    {Wpd::CLSID_PortableDeviceFTM, &GiveClassFactory<devices::Device>},
+    {Wpd::CLSID_PortableDeviceValues, &GiveClassFactory<devices::PropertyValues>},
+    {Wpd::CLSID_PortableDeviceKeyCollection, &GiveClassFactory<devices::KeyCollection>},
+    {Wpd::CLSID_PortableDevicePropVariantCollection, &GiveClassFactory<devices::VariantCollection>},
 };
 
 } // namespace

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "EngineApi/ComObject.h"
+#include "Com/ComObject.h"
+#include "DeviceApi/PortableDeviceApi.h"
 #include "PortableDevices/OpenDevice.h"
-#include "PortableDevices/api/PortableDeviceApi.h"
 
 namespace devices {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "EngineApi/ComObject.h"
+#include "Com/ComObject.h"
+#include "DeviceApi/PropertyTypes.h"
 #include "PortableDevices/OpenDevice.h"
-#include "PortableDevices/api/PropertyTypes.h"
 
 #include <mutex>
 

@@ -6,7 +6,7 @@
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "CommonLib/NLEWraper/VideoKeyFrame.h"
 #include "CommonLib/NLEWraper/VideoKeyFrameSetting.h"
-#include "NLECore/model/KeyFrameList.h"
+#include "NLECore/scene/KeyFrameList.h"
 #include "benchmarks/Median.h"
 
 #include <QCoreApplication>

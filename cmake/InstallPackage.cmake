@@ -6,7 +6,7 @@ set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/CommonLib)
 
 install(EXPORT CommonLibTargets NAMESPACE CommonLib:: COMPONENT CommonLib
   DESTINATION ${package_folder})
-configure_package_config_file(${CMAKE_SOURCE_DIR}/cmake/CommonLibConfig.cmake.in
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/CommonLibConfig.cmake.in
   ${CMAKE_BINARY_DIR}/CommonLibConfig.cmake INSTALL_DESTINATION ${package_folder})
 write_basic_package_version_file(${CMAKE_BINARY_DIR}/CommonLibConfigVersion.cmake
   COMPATIBILITY SameMajorVersion)

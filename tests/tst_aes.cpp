@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "CommonLib/AesCipher_p.h"
+#include "CommonLib/aes/AesCipher_p.h"
 #include "CommonLib/QAESEncryption.h"
 
 #include <QRandomGenerator>

@@ -3,9 +3,9 @@
 
 // Not part of the library's interface.
 
+#include "Com/NLEComPtr.h"
 #include "CommonLib/GlobalResources/ICaptionEnvironment.h"
 #include "EngineApi/INLEFactory.h"
-#include "EngineApi/NLEComPtr.h"
 
 class CaptionEnvironment : public ICaptionEnvironment
 {

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 
+#include "Com/ClassFactory.h"
 #include "CommonLib/NLEWraper/EngineModule_p.h"
-#include "EngineApi/INLEFactory.h"
-#include "EngineApi/NLEComPtr.h"
 
 #include <QLibrary>
 
@@ -55,15 +54,6 @@ bool CVCreateInstance::cvCreateInstance(const _GUID& classId, IUnknown* outer,
         reinterpret_cast<DllGetClassObjectFunction>(m_module->resolve("DllGetClassObject"));
     if (!getClassObject)
         return false;
-
-    NLEComPtr<IClassFactory> classFactory;
-    if (FAILED(getClassObject(classId, InterfaceId<IClassFactory>(), classFactory.putVoid()))) {
-        classFactory.detach(); // a failed call hands no reference over
-        return false;
-    }
-    if (!classFactory)
-        return false;
-    if (FAILED(classFactory->CreateInstance(outer, iid, out)))
-        *out = nullptr;
+    CreateThrough(getClassObject, classId, outer, iid, out);
     return *out != nullptr;
 }

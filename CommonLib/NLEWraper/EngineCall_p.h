@@ -3,9 +3,9 @@
 
 // Not part of the library's interface.
 
+#include "Com/NLEComPtr.h"
 #include "CommonLib/WideText_p.h"
 #include "EngineApi/INLETimeline.h"
-#include "EngineApi/NLEComPtr.h"
 #include "EngineApi/NLETypes.h"
 
 #include <cmath>
@@ -21,7 +21,7 @@ NLEComPtr<Result> EngineObject(Interface* engine, Operation operation,
     NLEComPtr<Result> result;
     // A failed call hands no reference over, whatever it left in the out-parameter.
     if (engine && FAILED((engine->*operation)(arguments..., result.put())))
-        result.detach();
+        result.forget();
     return result;
 }
 
@@ -31,7 +31,7 @@ NLEComPtr<Facility> LookUp(INLETimeline* node)
 {
     NLEComPtr<Facility> result;
     if (node && FAILED(node->GetInterface(InterfaceId<Facility>(), result.putVoid(), 0, 0)))
-        result.detach();
+        result.forget();
     return result;
 }
 

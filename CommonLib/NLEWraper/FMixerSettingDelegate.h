@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "Com/NLEComPtr.h"
 #include "CommonLib/CommonLibExport.h"
 #include "EngineApi/INLEMixerSetting.h"
-#include "EngineApi/NLEComPtr.h"
 
 #include <QObject>
 

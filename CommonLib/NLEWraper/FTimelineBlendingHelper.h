@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "Com/NLEComPtr.h"
 #include "CommonLib/CommonLibExport.h"
 #include "EngineApi/INLETimeline.h"
 #include "EngineApi/INLETransform.h"
-#include "EngineApi/NLEComPtr.h"
 
 #include <QObject>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "Com/NLEComPtr.h"
 #include "CommonLib/CommonLibExport.h"
 #include "EngineApi/INLEMedia.h"
 #include "EngineApi/INLEProperties.h"
 #include "EngineApi/INLETimeline.h"
-#include "EngineApi/NLEComPtr.h"
 
 #include <QColor>
 #include <QImage>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/WpdApiLib/PortableDeviceService_p.h"
 
+#include "Com/ClassFactory.h"
 #include "CommonLib/WideText_p.h"
-#include "EngineApi/ComObject.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -12,16 +12,15 @@
 
 namespace {
 
-using GetClassObjectFunction = HRESULT (*)(REFCLSID classId, REFIID iid, void** out);
-
 /// The module's entry; null when there is no module. It stays loaded: devices have threads.
-GetClassObjectFunction GetClassObject()
+DllGetClassObjectFunction GetClassObject()
 {
-    static GetClassObjectFunction s_function = nullptr;
+    static DllGetClassObjectFunction s_function = nullptr;
     if (!s_function) {
         QLibrary module(QCoreApplication::applicationDirPath() +
                         QStringLiteral("/PortableDevices.dll"));
-        s_function = reinterpret_cast<GetClassObjectFunction>(module.resolve("DllGetClassObject"));
+        s_function =
+            reinterpret_cast<DllGetClassObjectFunction>(module.resolve("DllGetClassObject"));
     }
     return s_function;
 }
@@ -102,16 +101,9 @@ private:
 HRESULT CreatePortableDeviceComponent(REFCLSID classId, REFIID iid, void** out)
 {
     *out = nullptr;
-    const GetClassObjectFunction getClassObject = GetClassObject();
-    if (!getClassObject)
-        return CLASS_E_CLASSNOTAVAILABLE;
-    NLEComPtr<IClassFactory> factory;
-    const HRESULT result = getClassObject(classId, InterfaceId<IClassFactory>(), factory.putVoid());
-    if (FAILED(result)) {
-        factory.detach(); // a failed call hands no reference over
-        return result;
-    }
-    return factory->CreateInstance(nullptr, iid, out);
+    const DllGetClassObjectFunction getClassObject = GetClassObject();
+    return getClassObject ? CreateThrough(getClassObject, classId, nullptr, iid, out)
+                          : CLASS_E_CLASSNOTAVAILABLE;
 }
 
 HRESULT CreateStreamOnFile(const wchar_t* path, IStream** out)

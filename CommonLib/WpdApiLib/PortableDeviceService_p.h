@@ -3,8 +3,8 @@
 
 // Not part of the library's interface.
 
-#include "EngineApi/NLEComPtr.h"
-#include "PortableDevices/api/PortableDeviceApi.h"
+#include "Com/NLEComPtr.h"
+#include "DeviceApi/PortableDeviceApi.h"
 
 /// Makes an object of the system's portable-device service. \a out is null after a failure.
 HRESULT CreatePortableDeviceComponent(REFCLSID classId, REFIID iid, void** out);
@@ -18,7 +18,7 @@ template <typename Interface>
 HRESULT Delivered(HRESULT result, NLEComPtr<Interface>& object)
 {
     if (FAILED(result))
-        object.detach(); // a failed call hands no reference over
+        object.forget();
     else if (!object)
         return E_POINTER;
     return result;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "Com/ComMemory.h"
+#include "Com/ComTypes.h"
 #include "CommonLib/CommonLibExport.h"
-#include "EngineApi/ComMemory.h"
-#include "EngineApi/ComTypes.h"
 
 #include <cstdint>
 

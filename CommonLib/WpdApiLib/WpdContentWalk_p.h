@@ -3,9 +3,9 @@
 
 // Not part of the library's interface.
 
+#include "Com/NLEComPtr.h"
 #include "CommonLib/WpdApiLib/WpdApiLib.h"
-#include "EngineApi/NLEComPtr.h"
-#include "PortableDevices/api/PortableDeviceApi.h"
+#include "DeviceApi/PortableDeviceApi.h"
 
 /// One walk over a device's content; holds what all its steps need.
 class WpdContentWalk

@@ -3,9 +3,9 @@
 
 // Not part of the library's interface.
 
+#include "Com/ComObject.h"
 #include "CommonLib/WpdApiLib/WpdApiLib.h"
-#include "EngineApi/ComObject.h"
-#include "PortableDevices/api/PortableDeviceApi.h"
+#include "DeviceApi/PortableDeviceApi.h"
 
 #include <mutex>
 

@@ -3,9 +3,9 @@
 
 // Not part of the library's interface.
 
+#include "Com/ComMemory.h"
+#include "Com/ComTypes.h"
 #include "CommonLib/WideText_p.h"
-#include "EngineApi/ComMemory.h"
-#include "EngineApi/ComTypes.h"
 
 #include <QByteArray>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "Com/ComTypes.h"
 #include "CommonLib/CommonLibExport.h"
-#include "EngineApi/ComTypes.h"
 
 /// Asks the system for a shadow around the frameless native window \a window. \a unused is part of
 /// the signature only.

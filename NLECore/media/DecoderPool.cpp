@@ -199,4 +199,10 @@ int DecoderPool::OpenCount() const
     return int(m_shared->idle.size()) + m_shared->lentCount;
 }
 
+DecoderPool& Decoders()
+{
+    static DecoderPool pool;
+    return pool;
+}
+
 } // namespace nle

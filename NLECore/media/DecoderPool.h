@@ -80,4 +80,7 @@ private:
     std::shared_ptr<Shared> m_shared;
 };
 
+/// The engine's open decoders, shared by all extractors and renders.
+DecoderPool& Decoders();
+
 } // namespace nle

@@ -2,8 +2,8 @@
 #include "NLECore/model/CompositeNode.h"
 
 #include "EngineApi/NLEKey.h"
-#include "NLECore/model/FrameMath.h"
-#include "NLECore/render/BackgroundCache.h"
+#include "NLECore/objects/BackgroundCache.h"
+#include "NLECore/scene/FrameMath.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,6 +14,8 @@ namespace nle {
 namespace {
 
 constexpr NLESize kDefaultSize = {1920, 1080};
+/// Number of interleaved 32-bit floats among the sample formats.
+constexpr int kSampleFormatFloat = 3;
 
 /// Composites that \a node holds one inside of the other, itself included.
 int DepthBelow(const TimelineNode& node)
@@ -103,6 +105,9 @@ void AppendRecursively(const CompositeNode& from, std::vector<NLEComPtr<Timeline
 }
 
 } // namespace
+
+const tagNLEProjectProfile kDefaultProfile = {
+    kDefaultSize, {25000000, 1000000}, 48000, 2, kSampleFormatFloat};
 
 CompositeNode::CompositeNode(const NLERational& frameRate)
     : ComExtension(frameRate), m_size(kDefaultSize)

@@ -11,6 +11,9 @@ namespace nle {
 /// Composites that may lie one inside of the other; everything that walks the tree recurses.
 constexpr int kDeepestNesting = 64;
 
+/// 1920 × 1080, 25 frames a second, 48,000 stereo samples a second as 32-bit floats.
+extern const tagNLEProjectProfile kDefaultProfile;
+
 class BackgroundCache;
 class CachedFrames;
 

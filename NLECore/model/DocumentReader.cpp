@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/DocumentReader.h"
 
-#include "NLECore/model/FrameMath.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/SettingsText.h"
 #include "NLECore/model/SourceNodes.h"
-#include "NLECore/model/TimelineFactory.h"
+#include "NLECore/scene/FrameMath.h"
 
 #include <QColor>
 

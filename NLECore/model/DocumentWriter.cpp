@@ -3,10 +3,9 @@
 
 #include "EngineApi/NLEKey.h"
 #include "NLECore/model/DocumentFormat.h"
-#include "NLECore/model/FrameMath.h"
 #include "NLECore/model/MotionFilters.h"
 #include "NLECore/model/SettingsText.h"
-#include "NLECore/model/TimelineFactory.h"
+#include "NLECore/scene/FrameMath.h"
 
 #include <numeric>
 

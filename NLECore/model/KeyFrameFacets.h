@@ -2,8 +2,8 @@
 #pragma once
 
 #include "EngineApi/INLEKeyFrames.h"
-#include "NLECore/model/KeyFrameList.h"
 #include "NLECore/model/NodeFacets.h"
+#include "NLECore/scene/KeyFrameList.h"
 
 namespace nle {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/MediaObjects.h"
 
-#include "NLECore/model/EngineLog.h"
+#include "NLECore/media/EngineLog.h"
 #include "NLECore/model/PropertyBag.h"
 
 #include <algorithm>

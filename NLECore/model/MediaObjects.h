@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "EngineApi/ComObject.h"
+#include "Com/ComObject.h"
 #include "EngineApi/INLEMedia.h"
 #include "NLECore/media/MediaInfo.h"
 

@@ -2,8 +2,8 @@
 #include "NLECore/model/MotionFilters.h"
 
 #include "NLECore/model/CompositeNode.h"
-#include "NLECore/model/FrameMath.h"
 #include "NLECore/render/Composer.h"
+#include "NLECore/scene/FrameMath.h"
 
 #include <QStringList>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "EngineApi/ComObject.h"
+#include "Com/ComObject.h"
 #include "EngineApi/INLEMixerSetting.h"
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/INLETransform.h"
-#include "NLECore/model/ClipSettings.h"
+#include "NLECore/scene/ClipSettings.h"
 
 namespace nle {
 

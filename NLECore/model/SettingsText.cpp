@@ -2,8 +2,8 @@
 #include "NLECore/model/SettingsText.h"
 
 #include "NLECore/model/DocumentFormat.h"
-#include "NLECore/model/FrameMath.h"
 #include "NLECore/model/MediaObjects.h"
+#include "NLECore/scene/FrameMath.h"
 
 #include <QFileInfo>
 

@@ -3,9 +3,8 @@
 
 #include "NLECore/media/DecoderPool.h"
 #include "NLECore/media/FontFiles.h"
-#include "NLECore/model/FrameMath.h"
 #include "NLECore/model/MediaObjects.h"
-#include "NLECore/render/Decoders.h"
+#include "NLECore/scene/FrameMath.h"
 
 #include <QFileInfo>
 

@@ -3,7 +3,7 @@
 
 #include "EngineApi/NLEKey.h"
 #include "NLECore/model/CompositeNode.h"
-#include "NLECore/model/FrameMath.h"
+#include "NLECore/scene/FrameMath.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "EngineApi/ComObject.h"
+#include "Com/ComObject.h"
 #include "EngineApi/INLEProperties.h"
 #include "EngineApi/INLETimeline.h"
 #include "NLECore/model/KeyFrameFacets.h"
-#include "NLECore/model/Layer.h"
 #include "NLECore/model/NodeFacets.h"
 #include "NLECore/model/PropertyBag.h"
+#include "NLECore/scene/Layer.h"
 
 namespace nle {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/render/AudioMixer.h"
 
-#include "NLECore/model/FrameMath.h"
+#include "NLECore/scene/FrameMath.h"
 
 #include <QStringList>
 

@@ -3,7 +3,7 @@
 
 #include "NLECore/media/AudioDecoder.h"
 #include "NLECore/media/AudioFilter.h"
-#include "NLECore/model/Layer.h"
+#include "NLECore/scene/Layer.h"
 
 #include <map>
 #include <memory>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/render/CacheRenderer.h"
 
-#include "NLECore/model/EngineLog.h"
+#include "NLECore/media/EngineLog.h"
 #include "NLECore/render/Composer.h"
 #include "NLECore/render/ThreadPriority_p.h"
 

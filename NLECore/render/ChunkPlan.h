@@ -2,7 +2,7 @@
 #pragma once
 
 #include "NLECore/media/PictureCodec.h"
-#include "NLECore/render/LayerKey.h"
+#include "NLECore/scene/LayerKey.h"
 
 #include <unordered_map>
 #include <unordered_set>

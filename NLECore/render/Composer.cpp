@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/render/Composer.h"
 
-#include "NLECore/model/FrameMath.h"
-#include "NLECore/render/Decoders.h"
+#include "NLECore/media/DecoderPool.h"
+#include "NLECore/scene/FrameMath.h"
 
 #include <QFont>
 #include <QGuiApplication>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "NLECore/media/DecoderPool.h"
-#include "NLECore/model/Layer.h"
+#include "NLECore/scene/Layer.h"
 
 #include <QImage>
 #include <QRectF>

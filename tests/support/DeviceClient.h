@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "EngineApi/ComObject.h"
-#include "PortableDevices/api/PortableDeviceApi.h"
+#include "Com/ComObject.h"
+#include "DeviceApi/PortableDeviceApi.h"
 
 #include <QByteArray>
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "PortableDevices/api/PortableDeviceApi.h"
+#include "DeviceApi/PortableDeviceApi.h"
 #include "tests/support/ScriptedEngine.h"
 
 #include <map>

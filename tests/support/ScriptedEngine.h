@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "EngineApi/ComObject.h"
-#include "EngineApi/NLEComPtr.h"
+#include "Com/ComObject.h"
+#include "Com/NLEComPtr.h"
 #include "EngineApi/NLETypes.h"
 
 #include <QHash>

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "Com/ComObject.h"
+
+/// The way from a module to its objects: a module exports one function, "DllGetClassObject", which
+/// gives the factory of a class; the factory makes the objects.
+
+/// Signature of that function.
+using DllGetClassObjectFunction = HRESULT (*)(REFCLSID classId, REFIID iid, void** out);
+
+/// Makes objects of \a Class, for a module that stays mapped.
+template <typename Class>
+class ClassFactory final : public ComObject<IClassFactory>
+{
+public:
+    HRESULT CreateInstance(IUnknown* outer, REFIID iid, void** out) override
+    {
+        if (!out)
+            return E_POINTER;
+        *out = nullptr;
+        if (outer)
+            return CLASS_E_NOAGGREGATION;
+        return MakeCom<Class>()->QueryInterface(iid, out);
+    }
+    /// Nothing to lock.
+    HRESULT LockServer(BOOL /*lock*/) override { return S_OK; }
+};
+
+/// Gives the factory of \a Class; what a module's entry answers for a class that it knows.
+template <typename Class>
+HRESULT GiveClassFactory(REFIID iid, void** out)
+{
+    return MakeCom<ClassFactory<Class>>()->QueryInterface(iid, out);
+}
+
+/// Makes an object of a module's class through the module's entry. On failure \a out is null; a
+/// factory that is refused, or missing in spite of success, is a failure.
+inline HRESULT CreateThrough(DllGetClassObjectFunction getClassObject, REFCLSID classId,
+                             IUnknown* outer, REFIID iid, void** out)
+{
+    *out = nullptr;
+    NLEComPtr<IClassFactory> factory;
+    HRESULT result = getClassObject(classId, InterfaceId<IClassFactory>(), factory.putVoid());
+    if (FAILED(result)) {
+        factory.forget();
+        return result;
+    }
+    if (!factory)
+        return E_FAIL;
+    result = factory->CreateInstance(outer, iid, out);
+    if (FAILED(result))
+        *out = nullptr;
+    return result;
+}

@@ -1,8 +1,0 @@
-// SPDX-License-Identifier: LGPL-2.1-or-later
-#include "CommonLib/AesCipher_x86_kernels_p.h"
-
-namespace AesCipher {
-
-constexpr Implementation AesNi = MakeImplementation<Vector128>("AES-NI");
-
-} // namespace AesCipher

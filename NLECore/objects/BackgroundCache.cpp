@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/objects/BackgroundCache.h"
+
+#include "NLECore/model/CompositeNode.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace nle {
+
+namespace {
+
+constexpr std::int64_t kMebibyte = 1 << 20;
+/// A limit beyond it is none.
+constexpr std::int64_t kMostMebibytes = std::int64_t(1) << 40;
+constexpr int kLongestSide = 16384;
+/// What is cached until a size was asked for: half of the picture, at most so large.
+constexpr double kPresetScale = 0.5;
+const QSize kPresetSize(960, 540);
+
+QSize PresetSize(const NLESize& picture)
+{
+    const QSize half(int(picture.width * kPresetScale), int(picture.height * kPresetScale));
+    return half.width() * half.height() <= kPresetSize.width() * kPresetSize.height()
+               ? half
+               : half.scaled(kPresetSize, Qt::KeepAspectRatio);
+}
+
+} // namespace
+
+BackgroundCache::~BackgroundCache() = default;
+
+HRESULT BackgroundCache::SetCacheFolder(const wchar_t* folder, std::int64_t quota, int reserve)
+{
+    if (!folder || *folder == L'\0' || quota < 0 || reserve < 0)
+        return E_INVALIDARG;
+    EndRendering();
+    m_limits = {std::min(quota, kMostMebibytes) * kMebibyte, reserve * kMebibyte};
+    const auto store = ChunkStore::Of(QString::fromWCharArray(folder));
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_store = store;
+    return S_OK;
+}
+
+HRESULT BackgroundCache::Start(const NLESize* resolution, NLERenderCallback callback,
+                               void* userData)
+{
+    const std::shared_ptr<ChunkStore> store = Store();
+    const auto isSide = [](int length) { return length > 0 && length <= kLongestSide; };
+    if (!store || !resolution || !isSide(resolution->width) || !isSide(resolution->height))
+        return E_INVALIDARG;
+    if (m_renderer && m_renderer->IsRunning())
+        return S_FALSE;
+    EndRendering();
+    if (!store->Prepare())
+        return E_ACCESSDENIED;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_size = QSize(resolution->width, resolution->height);
+    }
+    const Plan plan = m_node ? Analyse(TakeSnapshot()) : nullptr;
+    if (!plan || store->CountFrames(plan->Chunks()) == plan->FrameCount())
+        return E_FAIL;
+    const auto report = [this, callback, userData](const CacheRenderer::Progress& progress) {
+        if (!callback)
+            return;
+        m_reports.Post([=] {
+            callback(progress.percent, long(progress.state), long(progress.cachedFrames),
+                     long(progress.totalFrames), userData);
+        });
+    };
+    m_renderer = std::make_unique<CacheRenderer>(plan, store, m_limits, report);
+    return S_OK;
+}
+
+HRESULT BackgroundCache::Stop()
+{
+    if (!m_renderer)
+        return S_FALSE;
+    m_renderer->Stop();
+    return S_OK;
+}
+
+HRESULT BackgroundCache::DeleteCache(bool all)
+{
+    EndRendering();
+    const std::shared_ptr<ChunkStore> store = Store();
+    if (!store)
+        return E_FAIL;
+    if (all) {
+        store->Clear();
+    } else if (const Plan plan = CurrentPlan()) {
+        for (const Chunk& chunk : plan->Chunks())
+            store->Remove(chunk.key);
+    }
+    return S_OK;
+}
+
+HRESULT BackgroundCache::Update()
+{
+    Snapshot root;
+    if (std::this_thread::get_id() == m_editingThread)
+        root = TakeSnapshot();
+    else if (const Plan plan = CurrentPlan())
+        root = plan->Root();
+    return Analyse(root) ? S_OK : E_FAIL;
+}
+
+long BackgroundCache::GetCount()
+{
+    m_segments.clear();
+    const Plan plan = CurrentPlan();
+    const std::shared_ptr<ChunkStore> store = Store();
+    if (!plan)
+        return 0;
+    for (const Chunk& chunk : plan->Chunks()) {
+        const bool isCached = store && store->Has(chunk.key);
+        Segment* last = m_segments.empty() ? nullptr : &m_segments.back();
+        const bool isLastWhole = last && last->cachedTo == last->range.out + 1;
+        if (!last || last->range.out + 1 != chunk.first || (isCached && !isLastWhole))
+            last = &m_segments.emplace_back(Segment{{chunk.first, chunk.first - 1}, chunk.first});
+        last->range.out = chunk.last;
+        if (isCached)
+            last->cachedTo = chunk.last + 1;
+    }
+    return long(m_segments.size());
+}
+
+HRESULT BackgroundCache::GetStat(int index, NLERange* range, long* valid, int* cachedTo)
+{
+    if (!range || !valid || !cachedTo)
+        return E_POINTER;
+    if (index < 0 || index >= int(m_segments.size()))
+        return E_INVALIDARG;
+    const Segment& segment = m_segments[std::size_t(index)];
+    *range = segment.range;
+    *valid = 1;
+    *cachedTo = segment.cachedTo;
+    return S_OK;
+}
+
+HRESULT BackgroundCache::SetUpdateCallback(NLEUpdateCallback callback, void* userData)
+{
+    if (!callback) {
+        m_analyses.Clear();
+        return S_OK;
+    }
+    m_analyses.Post([this, callback, userData, root = TakeSnapshot()] {
+        const Plan plan = Analyse(root);
+        const bool isEmpty = !plan || plan->Chunks().empty();
+        callback(static_cast<INLEBackgroundCache*>(this), plan ? S_OK : E_FAIL,
+                 isEmpty ? 0 : plan->Chunks().front().first,
+                 isEmpty ? -1 : plan->Chunks().back().last, isEmpty ? 0 : long(plan->FrameCount()),
+                 userData);
+    });
+    return S_OK;
+}
+
+HRESULT BackgroundCache::SetQuality(NLERational quality)
+{
+    if (quality.den <= 0 || quality.num < 0 || quality.num > quality.den)
+        return E_INVALIDARG;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_quality = int(std::lround(double(quality.num) / double(quality.den) * 1000));
+    return S_OK;
+}
+
+std::unique_ptr<CachedFrames> BackgroundCache::OpenFrames(const Snapshot& root)
+{
+    const std::shared_ptr<ChunkStore> store = Store();
+    if (!store || !root)
+        return nullptr;
+    store->EnsureListed();
+    return std::make_unique<CachedFrames>(std::make_shared<ChunkPlan>(root, FormatFor(*root)),
+                                          store);
+}
+
+void BackgroundCache::Detach()
+{
+    m_renderer.reset();
+    m_reports.Clear();
+    m_node = nullptr;
+}
+
+Snapshot BackgroundCache::TakeSnapshot() const
+{
+    return m_node ? m_node->MakeSnapshot() : nullptr;
+}
+
+BackgroundCache::Plan BackgroundCache::Analyse(const Snapshot& root)
+{
+    if (!root)
+        return nullptr;
+    Plan plan = std::make_shared<ChunkPlan>(root, FormatFor(*root));
+    if (const std::shared_ptr<ChunkStore> store = Store())
+        store->EnsureListed();
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_plan = plan;
+    return plan;
+}
+
+BackgroundCache::Plan BackgroundCache::CurrentPlan() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_plan;
+}
+
+std::shared_ptr<ChunkStore> BackgroundCache::Store() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_store;
+}
+
+CacheFormat BackgroundCache::FormatFor(const Layer& root) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return {m_size.isEmpty() ? PresetSize(root.size) : m_size, m_quality};
+}
+
+/// For a caller who goes on to use the cache, and who may be waiting for the end.
+void BackgroundCache::EndRendering()
+{
+    if (m_renderer && m_renderer->IsRunning())
+        m_renderer->Stop();
+    m_renderer.reset();
+}
+
+} // namespace nle

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "Com/ComObject.h"
+#include "EngineApi/INLEBackgroundCache.h"
+#include "NLECore/render/CacheRenderer.h"
+#include "NLECore/render/CachedFrames.h"
+#include "NLECore/render/TaskThread.h"
+
+namespace nle {
+
+class CompositeNode;
+
+/// The preview cache of one composite.
+///
+/// The object belongs to the thread that edits, as the composite does. Update may be called from
+/// any thread, but only on the thread that edits it sees edits: elsewhere it analyses again what
+/// was analysed last. Callbacks come from a thread of this object.
+class BackgroundCache final
+    : public ComObject<INLEBackgroundCache, INLEBackgroundCacheStat, INLEBackgroundCacheAsyncUpdate,
+                       INLEBackgroundCacheQualitySet>
+{
+public:
+    explicit BackgroundCache(const CompositeNode& node) : m_node(&node) {}
+
+    /// Ends a render that is running. E_INVALIDARG for no name and for numbers below 0.
+    HRESULT SetCacheFolder(const wchar_t* folder, std::int64_t quota, int reserve) override;
+    /// S_FALSE while a render is running, E_INVALIDARG without a folder or a size, E_ACCESSDENIED
+    /// when the folder takes no files, E_FAIL when there is nothing to render.
+    HRESULT Start(const NLESize* resolution, NLERenderCallback callback, void* userData) override;
+    /// Returns at once; the render ends with its state 3. S_FALSE when none was started.
+    HRESULT Stop() override;
+    /// \a all: every chunk in the folder, also those of other timelines; else those of this one.
+    HRESULT DeleteCache(bool all) override;
+    HRESULT Update() override;
+
+    long GetCount() override;
+    HRESULT GetStat(int index, NLERange* range, long* valid, int* cachedTo) override;
+    HRESULT SetUpdateCallback(NLEUpdateCallback callback, void* userData) override;
+    /// Counts from the next analysis on. E_INVALIDARG outside of 0 to 1.
+    HRESULT SetQuality(NLERational quality) override;
+
+    /// Reads frames of \a root, a snapshot of the composite; null without a folder.
+    std::unique_ptr<CachedFrames> OpenFrames(const Snapshot& root);
+    /// The composite is going away: ends a render, waiting for the frame that is being drawn.
+    void Detach();
+
+private:
+    /// A row of cached frames and the row after it that is not.
+    struct Segment
+    {
+        NLERange range;
+        int cachedTo;
+    };
+    using Plan = std::shared_ptr<const ChunkPlan>;
+
+    ~BackgroundCache() override;
+    Snapshot TakeSnapshot() const;
+    Plan Analyse(const Snapshot& root);
+    Plan CurrentPlan() const;
+    std::shared_ptr<ChunkStore> Store() const;
+    CacheFormat FormatFor(const Layer& root) const;
+    void EndRendering();
+
+    const CompositeNode* m_node;
+    const std::thread::id m_editingThread = std::this_thread::get_id();
+
+    mutable std::mutex m_mutex; ///< guards the four below
+    std::shared_ptr<ChunkStore> m_store;
+    QSize m_size; ///< empty until a render was started
+    int m_quality = CacheFormat().quality;
+    Plan m_plan;
+
+    CacheLimits m_limits;
+    std::vector<Segment> m_segments;
+    TaskThread m_reports;
+    TaskThread m_analyses;
+    std::unique_ptr<CacheRenderer> m_renderer;
+};
+
+} // namespace nle

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "Com/ComObject.h"
+#include "EngineApi/INLEFrames.h"
+#include "NLECore/media/MediaWriter.h"
+#include "NLECore/scene/Layer.h"
+
+namespace nle {
+
+/// Renders a snapshot frame by frame into a media file.
+class MediaEncoder final : public ComObject<INLEMediaEncoder>
+{
+public:
+    HRESULT Open(INLETimeline* timeline, const wchar_t* path,
+                 const NLEEncodeSettings* settings) override;
+    HRESULT Encode(NLEProgressCallback callback, void* userData) override;
+
+private:
+    Snapshot m_root;
+    QString m_path;
+    NLERange m_range = {0, -1};
+    NLERational m_frameRate = {25, 1};
+    WriterSettings m_settings;
+};
+
+} // namespace nle

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/objects/RootFactory.h"
+
+#include "NLECore/media/DecoderPool.h"
+#include "NLECore/media/EngineLog.h"
+#include "NLECore/media/MediaLog.h"
+#include "NLECore/model/MediaObjects.h"
+#include "NLECore/model/PropertyBag.h"
+#include "NLECore/objects/DocumentSerialize.h"
+#include "NLECore/objects/Extractors.h"
+#include "NLECore/objects/FontLibrary.h"
+#include "NLECore/objects/Frames.h"
+#include "NLECore/objects/MediaEncoder.h"
+#include "NLECore/objects/TimelineFactory.h"
+
+namespace nle {
+
+namespace {
+
+/// Longest side of a frame in pixels; a frame of that size still fits a 32-bit byte count.
+constexpr int kLongestSide = 16384;
+/// Most samples of an audio frame: ten minutes.
+constexpr int kMostSamples = 600 * AudioFrame::kSampleRate;
+
+template <typename Class, typename Interface, typename... Arguments>
+HRESULT Make(Interface** out, Arguments&&... arguments)
+{
+    if (!out)
+        return E_POINTER;
+    *out = MakeCom<Class>(std::forward<Arguments>(arguments)...).detach();
+    return S_OK;
+}
+
+template <typename Interface>
+HRESULT Refuse(Interface** out, HRESULT reason = E_NOTIMPL)
+{
+    if (!out)
+        return E_POINTER;
+    *out = nullptr;
+    return reason;
+}
+
+} // namespace
+
+HRESULT RootFactory::Init(int /*flags*/)
+{
+    SetMediaLogSink([](const char* message) { qCDebug(lcEngine, "%s", message); });
+    return S_OK;
+}
+
+HRESULT RootFactory::GetTimelineFactory(INLETimelineFactory** factory)
+{
+    return Make<TimelineFactory>(factory);
+}
+
+HRESULT RootFactory::GetFontLibrary(INLEFontLibrary** library)
+{
+    return Make<FontLibrary>(library);
+}
+
+HRESULT RootFactory::GetSystemConfig(INLESystemConfig** config)
+{
+    return Refuse(config);
+}
+
+HRESULT RootFactory::CreateVideoFrame(int width, int height, int /*pixelFormat*/, int memory,
+                                      int /*poolFlags*/, int /*poolMinimum*/, int /*poolMaximum*/,
+                                      int /*poolReserve*/, INLEVideoFrame** frame)
+{
+    if (memory != NLEMemory_System)
+        return Refuse(frame);
+    if (width < 1 || height < 1 || width > kLongestSide || height > kLongestSide)
+        return Refuse(frame, E_INVALIDARG);
+    return Make<VideoFrame>(frame, NLESize{width, height});
+}
+
+HRESULT RootFactory::CreateAudioFrame(int sampleCount, INLEAudioFrame** frame)
+{
+    if (sampleCount < 1 || sampleCount > kMostSamples)
+        return Refuse(frame, E_INVALIDARG);
+    return Make<AudioFrame>(frame, sampleCount);
+}
+
+HRESULT RootFactory::CreateCodecFromFile(const wchar_t* path, INLECodec** codec)
+{
+    const auto media = path ? DescribeFile(QString::fromWCharArray(path)) : nullptr;
+    return media ? Make<CodecObject>(codec, media) : Refuse(codec, E_FAIL);
+}
+
+HRESULT RootFactory::CreateMarkBook(const wchar_t* /*path*/, INLEMarkBook** book)
+{
+    return Refuse(book);
+}
+
+HRESULT RootFactory::CreateDocumentSerialize(INLEDocumentSerialize** serialize)
+{
+    return Make<DocumentSerialize>(serialize);
+}
+
+HRESULT RootFactory::CreateFrameExtractor(INLEFrameExtractor** extractor)
+{
+    return Make<FrameExtractor>(extractor);
+}
+
+HRESULT RootFactory::CreateThumbnailExtractor(INLEThumbnailExtractor** extractor)
+{
+    return Make<ThumbnailExtractor>(extractor);
+}
+
+HRESULT RootFactory::CreateWaveExtractor(INLEWaveExtractor** extractor)
+{
+    return Make<WaveExtractor>(extractor);
+}
+
+HRESULT RootFactory::CreateSceneSegment(INLESceneSegment** segment)
+{
+    return Refuse(segment);
+}
+
+HRESULT RootFactory::CreateMediaEncoder(INLEMediaEncoder** encoder)
+{
+    return Make<MediaEncoder>(encoder);
+}
+
+HRESULT RootFactory::CreateProperties(INLEProperties** properties)
+{
+    return Make<PropertyBag>(properties);
+}
+
+HRESULT RootFactory::Shutdown(int /*flags*/)
+{
+    Decoders().Clear();
+    return S_OK;
+}
+
+} // namespace nle

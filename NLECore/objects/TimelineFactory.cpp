@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/objects/TimelineFactory.h"
+
+#include "NLECore/model/CompositeNode.h"
+#include "NLECore/model/MediaObjects.h"
+#include "NLECore/model/SourceNodes.h"
+#include "NLECore/objects/DocumentSerialize.h"
+#include "NLECore/scene/FrameMath.h"
+
+#include <QDir>
+
+namespace nle {
+
+namespace {
+
+/// The document of a template, in the template's folder; media paths in it are relative to it.
+const QString kTemplateDocument = QStringLiteral("Template.mlt");
+
+template <typename Node>
+HRESULT Give(NLEComPtr<Node> node, INLETimeline** out)
+{
+    *out = node.detach();
+    return S_OK;
+}
+
+} // namespace
+
+HRESULT TimelineFactory::GetDefaultProfile(tagNLEProjectProfile* profile)
+{
+    return GiveValue(profile, kDefaultProfile);
+}
+
+HRESULT TimelineFactory::CreateProject(const tagNLEProjectProfile* profile, INLETimeline** project)
+{
+    if (!profile || !project)
+        return E_POINTER;
+    *project = nullptr;
+    if (!ProjectNode::IsValid(*profile))
+        return E_INVALIDARG;
+    return Give(MakeCom<ProjectNode>(*profile), project);
+}
+
+HRESULT TimelineFactory::CreateMedia(const wchar_t* path, INLETimeline** clip)
+{
+    if (!path || !clip)
+        return E_POINTER;
+    *clip = nullptr;
+    const QString file = QDir::fromNativeSeparators(QString::fromWCharArray(path));
+    if (file.isEmpty())
+        return E_INVALIDARG;
+    const auto media = QFileInfo::exists(file) ? DescribeFile(file) : OfflineMedia(file);
+    return media ? Give(MakeCom<MediaClip>(media), clip) : E_FAIL;
+}
+
+HRESULT TimelineFactory::CreateFromTemplate(const wchar_t* folder, INLETimeline** project)
+{
+    if (!folder || !project)
+        return E_POINTER;
+    const QDir directory(QString::fromWCharArray(folder));
+    DocumentSerialize document;
+    return document.Load(directory.filePath(kTemplateDocument).toStdWString().c_str(), project);
+}
+
+HRESULT TimelineFactory::CreateAudioFilter(const wchar_t* /*name*/, INLETimeline** filter)
+{
+    if (!filter)
+        return E_POINTER;
+    *filter = nullptr;
+    return E_NOTIMPL;
+}
+
+HRESULT TimelineFactory::CreateColor(std::uint32_t argb, NLESize size, float frameRate,
+                                     INLETimeline** clip)
+{
+    if (!clip)
+        return E_POINTER;
+    *clip = nullptr;
+    const NLERational rate = RateFromDouble(frameRate);
+    if (size.width < 1 || size.height < 1 || !IsRate(rate))
+        return E_INVALIDARG;
+    return Give(MakeCom<ColorClip>(argb, size, rate), clip);
+}
+
+HRESULT TimelineFactory::CreateTipText(const wchar_t* text, const wchar_t* family,
+                                       INLETimeline** clip)
+{
+    if (!text || !family || !clip)
+        return E_POINTER;
+    return Give(MakeCom<TextClip>(QString::fromWCharArray(text), QString::fromWCharArray(family),
+                                  kDefaultProfile.frameSize, kDefaultProfile.frameRate),
+                clip);
+}
+
+HRESULT TimelineFactory::CreateVirtual(int type, INLETimeline** timeline)
+{
+    if (!timeline)
+        return E_POINTER;
+    NLEComPtr<CompositeNode> node = MakeCom<CompositeNode>(kDefaultProfile.frameRate);
+    node->Bag().SetString(kTimelineTypeKey, std::to_wstring(type).c_str());
+    return Give(std::move(node), timeline);
+}
+
+} // namespace nle

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "EngineApi/NLETypes.h"
+#include "NLECore/media/MediaInfo.h"
+#include "NLECore/scene/ClipSettings.h"
+#include "NLECore/scene/KeyFrameList.h"
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace nle {
+
+/// What a node shows.
+enum class LayerKind
+{
+    Media,
+    Color,
+    Text,
+    Composite
+};
+
+/// Settings of a project that count for the whole of a render.
+struct RenderContext
+{
+    double previewScale = 1; ///< share of the wanted size that pictures are drawn at, up to 1
+    bool smooth = true;      ///< whether scaled and turned pictures are smoothed
+};
+
+/// Immutable picture of one node and what it holds: all that a render needs, without the model.
+///
+/// A snapshot is built on the thread that edits and read on the thread that renders.
+struct Layer
+{
+    LayerKind kind = LayerKind::Composite;
+    NLERange range = {0, -1};        ///< frames of the layer that play
+    int position = 0;                ///< first frame on the parent
+    int level = 0;                   ///< higher covers lower
+    NLERational frameRate = {25, 1}; ///< of range and of the children's positions
+    tagNLEMarginMode margin = NLEMargin_Fit;
+    NLERenderMode mode = NLERender_All;
+    NLESize size = {0, 0}; ///< picture size in pixels
+
+    double speed = 1;               ///< source time that passes in a unit of layer time
+    std::optional<int> frozenFrame; ///< the one frame that shows
+    BlendSettings blend;
+    TransformSettings transform;
+    std::shared_ptr<const KeyFrameCurve> keyFrames; ///< null: none apply
+    RenderContext context; ///< of the outermost project; that of the rendered layer counts
+    AudioSettings audio;
+
+    std::shared_ptr<const MediaInfo> media; ///< Media only
+    std::shared_ptr<const MediaInfo> proxy; ///< Media only: read for the picture instead, or null
+    std::uint32_t argb = 0;                 ///< Color: the colour; Composite: what shows behind
+    QString text;                           ///< Text only
+    QString family;                         ///< Text only
+    std::vector<std::shared_ptr<const Layer>>
+        children; ///< Composite: enabled ones, lowest level first
+
+    MixerSettings mixer; ///< Composite only: strips of the children's tracks, by level
+
+    /// Gives every number of the key frames to \a take, in order, and first whether there are any;
+    /// for keys made from a layer's content.
+    template <typename Take>
+    void ForEachKeyFrameNumber(Take take) const
+    {
+        take(keyFrames ? 1.0 : 0.0);
+        if (keyFrames)
+            keyFrames->ForEachNumber(take);
+    }
+
+    /// Whether the layer plays at \a frame of its parent.
+    bool PlaysAt(std::int64_t frame) const
+    {
+        return frame >= position && frame < position + NLERangeLength(range);
+    }
+    /// The layer's own frame, counted as its trim range is, at \a frame of its parent.
+    std::int64_t FrameAt(std::int64_t frame) const { return frame - position + range.in; }
+};
+
+using Snapshot = std::shared_ptr<const Layer>;
+
+} // namespace nle

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "NLECore/media/ContentHash.h"
+#include "NLECore/scene/Layer.h"
+
+#include <map>
+#include <unordered_map>
+
+namespace nle {
+
+/// Whether \a layer can ever show a picture.
+bool HasPicture(const Layer& layer);
+
+/// Keys of layers: equal for layers that draw the same picture of the same frame of their content.
+///
+/// Neither place in time nor sound goes into a key, nor what a composite holds. Media counts with
+/// its path and with size and time of its file as they are when an object of this class first meets
+/// it, so another object tells whether a file has changed since. One object serves one thread.
+class LayerKeys
+{
+public:
+    ContentKey Of(const Layer& layer);
+
+private:
+    ContentKey OfMedia(const MediaInfo& media);
+    ContentKey OfFile(const QString& path);
+
+    std::unordered_map<const Layer*, ContentKey> m_layers;
+    std::unordered_map<const MediaInfo*, ContentKey> m_media;
+    std::map<QString, ContentKey> m_files;
+};
+
+} // namespace nle
