@@ -30,14 +30,15 @@ target_compile_definitions(ProjectSettings INTERFACE
   QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
   QT_DEPRECATED_WARNINGS)
 if(MSVC)
-  # Exported classes hold members of the toolkit's and the standard library's types, which host and
+  # Exported classes hold members of Qt's and the standard library's types, which host and
   # library get from the same compiler (4251, 4275). The C library's functions are not to be
   # replaced by those of one system.
   target_compile_options(ProjectSettings INTERFACE
-    /W4 /WX /utf-8 /permissive- /Zc:__cplusplus /wd4251 /wd4275)
+    /W4 $<$<BOOL:${COMMONLIB_WARNINGS_AS_ERRORS}>:/WX> /utf-8 /permissive- /Zc:__cplusplus /wd4251 /wd4275)
   target_compile_definitions(ProjectSettings INTERFACE _CRT_SECURE_NO_WARNINGS)
 else()
-  target_compile_options(ProjectSettings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Werror)
+  target_compile_options(ProjectSettings INTERFACE -Wall -Wextra -Wpedantic -Wshadow
+    $<$<BOOL:${COMMONLIB_WARNINGS_AS_ERRORS}>:-Werror>)
 endif()
 
 if(COMMONLIB_SANITIZE STREQUAL "address")
