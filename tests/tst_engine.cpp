@@ -20,6 +20,8 @@ int ClipCount(const Node& composite)
 
 } // namespace
 
+Q_DECLARE_METATYPE(NLEEncodeSettings)
+
 class tst_Engine : public QObject, private EngineFixture
 {
     Q_OBJECT
@@ -395,17 +397,83 @@ private slots:
         const auto stopAtHalf = [](int percent, void*) { return percent >= 50 ? 1 : 0; };
         QCOMPARE(encoder->Encode(stopAtHalf, nullptr), S_FALSE);
         QVERIFY(QDir(folder.path()).entryList({"stopped*"}).isEmpty());
-        for (const char* bad : {"no/such/folder/x.mp4", "film.unknownsuffix"}) {
-            const std::wstring name = Path(bad).toStdWString();
-            QCOMPARE(encoder->Open(clip.get(), name.c_str(), nullptr), S_OK);
-            QVERIFY(FAILED(encoder->Encode(nullptr, nullptr)));
-        }
         const std::wstring none = Path("empty.mp4").toStdWString();
         QCOMPARE(encoder->Open(Project().get(), none.c_str(), nullptr), E_INVALIDARG);
         NLEEncodeSettings absurd{};
         absurd.channels = 65;
         QCOMPARE(encoder->Open(clip.get(), none.c_str(), &absurd), E_INVALIDARG);
         QCOMPARE(encoder->Encode(nullptr, nullptr), E_FAIL);
+    }
+
+    void encoderWritesWhatItAccepts_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<NLEEncodeSettings>("settings");
+        QTest::addColumn<HRESULT>("opened");
+        const auto row = [](const char* name, HRESULT opened, NLESize size = {320, 180},
+                            int sampleRate = 48000, int channels = 2, NLERational rate = {25, 1}) {
+            QTest::addRow("%s %dx%d %d Hz %d channels", name, size.width, size.height, sampleRate,
+                          channels)
+                << QString(name) << NLEEncodeSettings{size, rate, {}, 0, sampleRate, channels, 0}
+                << opened;
+        };
+        // Each muxer that names files by itself would leave another kind of litter.
+        for (const char* several : {"x.png", "x.JPG", "x.bmp", "x%03d.tif", "x.m3u8", "x.mpd"})
+            row(several, E_NOTIMPL);
+        for (const char* unknown : {"x.xyz", "x", "x.mp4."})
+            row(unknown, E_NOTIMPL);
+        for (const char* nowhere : {"missing/x.mp4", "clip.mp4/x.mp4", "folder.mp4"})
+            row(nowhere, E_ACCESSDENIED);
+        // A size, sound or rate that the codec has not; a muxer that opens its file once more; and
+        // what nobody can read.
+        row("x.3gp", E_INVALIDARG);
+        row("x.mpg", E_INVALIDARG, {320, 180}, 48000, 2, {13, 1});
+        row("x.cpk", E_INVALIDARG);
+        row("x.webp", E_INVALIDARG);
+        row("x.yuv", E_INVALIDARG);
+        row("x.ogv", E_INVALIDARG, {2, 2});
+        row("x.mp4", E_INVALIDARG, {40000, 40000});
+        for (const char* taken : {"x.mkv", "x.MP4", "x.mov", "x.avi", "x.ts", "x.flv", "x.wmv",
+                                  "x.webm", "x.ogv", "x.gif", "x.wav", "x.flac", "x.aac"})
+            row(taken, S_OK, {63, 36});
+        row("x.mpg", S_OK);
+        row("x.mp3", S_OK, {63, 36}, 11000, 6);
+        row("x.mkv", S_OK, {2, 2}, 96000);
+        row("x.swf", S_OK, {320, 180}, 96000, 6, {30000, 1001});
+        row("x.opus", S_OK, {320, 180}, 44100, 1);
+    }
+
+    void encoderWritesWhatItAccepts()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const NLEEncodeSettings, settings);
+        QFETCH(const HRESULT, opened);
+        QTemporaryDir place;
+        const QDir target(place.path());
+        QVERIFY(target.mkdir("folder.mp4") && QFile::copy(m_media, target.filePath("clip.mp4")));
+        const QString path = target.filePath(name);
+        QFile old(path);
+        if (old.open(QIODevice::WriteOnly))
+            old.write("precious");
+        old.close();
+        const QStringList before = target.entryList(QDir::AllEntries | QDir::Hidden);
+        const QByteArray content = Contents(path);
+
+        const Node clip = Trimmed(Media(), 0, 19);
+        const auto encoder = provider->CreateMediaEncoder();
+        QCOMPARE(encoder->Open(clip.get(), path.toStdWString().c_str(), &settings), opened);
+        QCOMPARE(Contents(path), content);
+        QCOMPARE(encoder->Encode(nullptr, nullptr), opened == S_OK ? S_OK : E_FAIL);
+        QCOMPARE(target.entryList(QDir::AllEntries | QDir::Hidden), before);
+        if (opened != S_OK) {
+            QCOMPARE(Contents(path), content);
+            return;
+        }
+        const Node film = EngineFixture::Media(path);
+        QVERIFY(film);
+        QVERIFY(qAbs(TotalOf(film).out - 19) <= 5);
+        const Stereo sound = name.endsWith("gif") ? Stereo() : Sound(film, 10);
+        QVERIFY(sound[0].empty() || std::abs(Loudness(sound[0]) - 0.354) < 0.05);
     }
 
     void documentRoundTrip()

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/MediaWriter.h"
 
+#include "NLECore/media/FrameDecoder.h"
 #include "NLECore/media/MediaFile_p.h"
 
-#include <QFile>
+#include <QColor>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QTemporaryDir>
 
-#include <cstdio>
+#include <algorithm>
+#include <array>
 
 extern "C" {
 #include <libavutil/audio_fifo.h>
@@ -20,12 +25,23 @@ namespace {
 /// Samples in a packet of codecs that take any number.
 constexpr int kFreeFrameSamples = 1024;
 
+/// Bytes that a muxer gathers before they are written.
+constexpr int kBufferBytes = 1 << 16;
+
+/// Rates that sound is given where the one asked for is not taken, in samples a second.
+constexpr std::array kUsualRates = {8000,  11025, 12000, 16000, 22050, 24000,
+                                    32000, 44100, 48000, 88200, 96000, 192000};
+
 struct FormatFreer
 {
-    void operator()(AVFormatContext* format) const
+    void operator()(AVFormatContext* format) const { avformat_free_context(format); }
+};
+struct OutputFreer
+{
+    void operator()(AVIOContext* output) const
     {
-        avio_closep(&format->pb);
-        avformat_free_context(format);
+        av_freep(&output->buffer);
+        avio_context_free(&output);
     }
 };
 struct FifoFreer
@@ -36,6 +52,95 @@ struct ScalerFreer
 {
     void operator()(SwsContext* scaler) const { sws_freeContext(scaler); }
 };
+
+// Without a prototype of its own: whether the data is constant depends on the library's version.
+constexpr auto WriteBytes = [](void* file, auto* data, int size) {
+    const auto* bytes = reinterpret_cast<const char*>(data);
+    return static_cast<QSaveFile*>(file)->write(bytes, size) == size ? size : AVERROR(EIO);
+};
+
+int64_t SeekByte(void* opaque, int64_t offset, int whence)
+{
+    auto* file = static_cast<QSaveFile*>(opaque);
+    if (whence == AVSEEK_SIZE)
+        return file->size();
+    if (whence == SEEK_CUR)
+        offset += file->pos();
+    else if (whence == SEEK_END)
+        offset += file->size();
+    return file->seek(offset) ? offset : AVERROR(EIO);
+}
+
+int RefuseFile(AVFormatContext* /*format*/, AVIOContext** /*file*/, const char* /*url*/,
+               int /*flags*/, AVDictionary** /*options*/)
+{
+    return AVERROR(EPERM);
+}
+
+/// Whether pictures of the container are a film, and not the cover of what sounds.
+bool TakesFilm(const AVOutputFormat& container)
+{
+    return container.video_codec != AV_CODEC_ID_NONE &&
+           !(container.video_codec == AV_CODEC_ID_PNG && container.audio_codec != AV_CODEC_ID_NONE);
+}
+
+/// What a trial writes: enough for a reader to know the container by.
+constexpr int kTrialPictures = 3;
+constexpr double kTrialSeconds = 0.5;
+
+bool WriteTrial(MediaWriter& writer)
+{
+    const WriterSettings& settings = writer.Settings();
+    if (writer.HasPicture()) {
+        QImage picture(settings.size, QImage::Format_RGB32);
+        for (int i = 0; i < kTrialPictures; ++i) {
+            // Equal ones would make some containers a still picture.
+            picture.fill(QColor(i * 50, i * 50, i * 50));
+            if (!writer.WritePicture(picture))
+                return false;
+        }
+    }
+    const int samples = int(settings.sampleRate * kTrialSeconds);
+    const std::vector<float> silence(size_t(samples) * size_t(settings.channels));
+    return (!settings.hasSound || writer.WriteSound(silence.data(), samples)) && writer.Finish();
+}
+
+/// Whether \a media, null for none, is what \a writer has written.
+bool Holds(const std::shared_ptr<const MediaInfo>& media, const MediaWriter& writer)
+{
+    if (!media || (media->audioStream >= 0) != writer.HasSound())
+        return false;
+    const MediaStream* stream = media->Stream(media->videoStream);
+    if (!stream || !writer.HasPicture())
+        return !stream && !writer.HasPicture();
+    const QSize size(stream->width, stream->height);
+    const auto decoder = FrameDecoder::Open(media, media->videoStream, nullptr, 1);
+    return size == writer.Settings().size && decoder && !decoder->Picture(0, size).isNull();
+}
+
+struct SoundFormat
+{
+    int sampleRate;
+    int channels;
+};
+
+/// The sound as it was asked for, and what comes nearest: fewer channels only when no rate helps.
+std::vector<SoundFormat> SoundFormats(const WriterSettings& wanted)
+{
+    auto rates = kUsualRates;
+    std::stable_sort(rates.begin(), rates.end(), [&](int a, int b) {
+        return std::abs(a - wanted.sampleRate) < std::abs(b - wanted.sampleRate);
+    });
+    std::vector<SoundFormat> formats;
+    for (const int channels : {wanted.channels, 2, 1}) {
+        if (!formats.empty() && channels >= formats.back().channels)
+            continue;
+        formats.push_back({wanted.sampleRate, channels});
+        for (const int rate : rates)
+            formats.push_back({rate, channels});
+    }
+    return formats;
+}
 
 /// One stream being written.
 struct Track
@@ -50,9 +155,10 @@ struct Track
 
 struct MediaWriter::Private
 {
-    QString path;
-    QString temporaryPath;
-    QString error;
+    WriterSettings settings;
+    WriterError error;
+    QSaveFile file;
+    std::unique_ptr<AVIOContext, OutputFreer> output;
     std::unique_ptr<AVFormatContext, FormatFreer> format;
     PacketPtr packet{av_packet_alloc()};
     Track video;
@@ -60,31 +166,59 @@ struct MediaWriter::Private
     std::unique_ptr<SwsContext, ScalerFreer> scaler;
     ResamplerPtr resampler;
     std::unique_ptr<AVAudioFifo, FifoFreer> fifo;
-    bool finished = false;
+
+    Private(const QString& path, const WriterSettings& wanted) : settings(wanted), file(path) {}
 
     bool Check(int code)
     {
-        if (code >= 0)
-            return true;
-        error = AvErrorText(code);
-        return false;
+        return code >= 0 || Fail(WriterError::Kind::Settings, AvErrorText(code));
     }
 
+    bool Fail(WriterError::Kind kind, const QString& reason)
+    {
+        error = {kind, reason};
+        return false;
+    }
     bool Fail(const char* reason)
     {
-        error = QString::fromLatin1(reason);
-        return false;
+        return Fail(WriterError::Kind::Settings, QString::fromLatin1(reason));
     }
 
-    bool OpenFormat()
+    const AVOutputFormat* FindContainer()
+    {
+        const QByteArray name = EncodeMediaPath(file.fileName());
+        const AVOutputFormat* container = av_guess_format(nullptr, name.constData(), nullptr);
+        const char* reason = nullptr;
+        if (!container)
+            reason = "no container goes by this suffix";
+        else if ((container->flags & AVFMT_NOFILE) != 0)
+            reason = "the container is not a single file";
+        if (!reason)
+            return container;
+        Fail(WriterError::Kind::Container, QString::fromLatin1(reason));
+        return nullptr;
+    }
+
+    bool OpenFile()
+    {
+        return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
+               Fail(WriterError::Kind::File, file.errorString());
+    }
+
+    bool OpenFormat(const AVOutputFormat* container)
     {
         AVFormatContext* context = nullptr;
-        // The name with its suffix chooses the container; the bytes go to the temporary name.
-        avformat_alloc_output_context2(&context, nullptr, nullptr,
-                                       EncodeMediaPath(path).constData());
-        if (!context)
-            return Fail("no container goes by this suffix");
+        if (!Check(avformat_alloc_output_context2(&context, container, nullptr, nullptr)))
+            return false;
         format.reset(context);
+        auto* buffer = static_cast<unsigned char*>(av_malloc(kBufferBytes));
+        output.reset(
+            avio_alloc_context(buffer, kBufferBytes, 1, &file, nullptr, WriteBytes, &SeekByte));
+        if (!buffer || !output)
+            return Fail("out of memory");
+        // The muxer writes there and makes no files by itself.
+        context->pb = output.get();
+        context->io_open = &RefuseFile;
         return true;
     }
 
@@ -105,13 +239,18 @@ struct MediaWriter::Private
 
     bool StartTrack(Track& track)
     {
-        if (!Check(avcodec_open2(track.codec.get(), nullptr, nullptr)))
-            return false;
+        const int code = avcodec_open2(track.codec.get(), nullptr, nullptr);
+        if (code < 0) {
+            return Fail(WriterError::Kind::Settings,
+                        QStringLiteral("%1 does not take the settings: %2")
+                            .arg(QLatin1String(avcodec_get_name(track.codec->codec_id)),
+                                 AvErrorText(code)));
+        }
         track.stream->time_base = track.codec->time_base;
         return Check(avcodec_parameters_from_context(track.stream->codecpar, track.codec.get()));
     }
 
-    bool AddVideo(const WriterSettings& settings)
+    bool AddVideo()
     {
         if (!AddTrack(video, format->oformat->video_codec))
             return false;
@@ -151,7 +290,7 @@ struct MediaWriter::Private
         return true;
     }
 
-    bool AddAudio(const WriterSettings& settings)
+    bool AddAudio()
     {
         if (!AddTrack(audio, format->oformat->audio_codec))
             return false;
@@ -174,12 +313,40 @@ struct MediaWriter::Private
         return Check(swr_init(context)) && (fifo || Fail("out of memory"));
     }
 
-    bool Start()
+    /// Opens the tracks and writes what stands before the first frame.
+    bool Start(const AVOutputFormat* container)
     {
-        if (!Check(avio_open(&format->pb, ("file:" + EncodeMediaPath(temporaryPath)).constData(),
-                             AVIO_FLAG_WRITE)))
+        format.reset();
+        video = {};
+        audio = {};
+        if (!file.resize(0) || !file.seek(0))
+            return Fail(WriterError::Kind::File, file.errorString());
+        if (!OpenFormat(container))
             return false;
+        if (!settings.size.isEmpty() && TakesFilm(*container) && !AddVideo())
+            return false;
+        if (settings.hasSound && container->audio_codec != AV_CODEC_ID_NONE && !AddAudio())
+            return false;
+        if (format->nb_streams == 0)
+            return Fail("nothing to write into this container");
         return Check(avformat_write_header(format.get(), nullptr));
+    }
+
+    bool StartWithNearestSound(const AVOutputFormat* container)
+    {
+        if (Start(container))
+            return true;
+        const WriterError first = error;
+        for (const SoundFormat& sound : SoundFormats(settings)) {
+            if (!audio.codec)
+                break;
+            settings.sampleRate = sound.sampleRate;
+            settings.channels = sound.channels;
+            if (Start(container))
+                return true;
+        }
+        error = first;
+        return false;
     }
 
     /// Encodes the track's frame, or what the encoder holds back when \a frame is null.
@@ -229,39 +396,57 @@ struct MediaWriter::Private
 MediaWriter::MediaWriter(std::unique_ptr<Private> state) : d(std::move(state)) {}
 
 std::unique_ptr<MediaWriter> MediaWriter::Open(const QString& path, const WriterSettings& settings,
-                                               QString* error)
+                                               WriterError* error)
 {
-    auto d = std::make_unique<Private>();
-    d->path = path;
-    d->temporaryPath = path + QStringLiteral(".part");
-    bool open = d->OpenFormat();
-    const AVOutputFormat* container = open ? d->format->oformat : nullptr;
-    if (open && !settings.size.isEmpty() && container->video_codec != AV_CODEC_ID_NONE)
-        open = d->AddVideo(settings);
-    if (open && settings.hasSound && container->audio_codec != AV_CODEC_ID_NONE)
-        open = d->AddAudio(settings);
-    if (open && d->format->nb_streams == 0)
-        open = d->Fail("nothing to write into this container");
-    if (!open || !d->Start()) {
-        *error = d->error;
-        d->format.reset();
-        QFile::remove(d->temporaryPath);
-        return nullptr;
-    }
-    return std::unique_ptr<MediaWriter>(new MediaWriter(std::move(d)));
+    auto d = std::make_unique<Private>(path, settings);
+    const AVOutputFormat* container = d->FindContainer();
+    if (container && d->OpenFile() && d->StartWithNearestSound(container))
+        return std::unique_ptr<MediaWriter>(new MediaWriter(std::move(d)));
+    *error = d->error;
+    return nullptr;
 }
 
-MediaWriter::~MediaWriter()
+bool MediaWriter::Try(const QString& path, WriterSettings& settings, WriterError* error)
 {
-    if (d->finished)
-        return;
-    d->format.reset();
-    QFile::remove(d->temporaryPath);
+    const auto fail = [error](WriterError::Kind kind, const QString& reason) {
+        *error = {kind, reason};
+        return false;
+    };
+    QSaveFile target(path);
+    const QFileInfo file(path);
+    const QTemporaryDir folder(file.absolutePath() + QStringLiteral("/trial-XXXXXX"));
+    if (!target.open(QIODevice::WriteOnly))
+        return fail(WriterError::Kind::File, target.errorString());
+    if (!folder.isValid())
+        return fail(WriterError::Kind::File, folder.errorString());
+    const QString trial = folder.filePath(QStringLiteral("trial.") + file.suffix());
+    const std::unique_ptr<MediaWriter> writer = Open(trial, settings, error);
+    if (!writer)
+        return false;
+    if (!WriteTrial(*writer))
+        return fail(WriterError::Kind::Settings, writer->Error());
+    if (!Holds(ProbeMedia(trial, nullptr), *writer))
+        return fail(WriterError::Kind::Settings,
+                    QStringLiteral("what is written so cannot be read"));
+    settings = writer->Settings();
+    return true;
+}
+
+MediaWriter::~MediaWriter() = default;
+
+const WriterSettings& MediaWriter::Settings() const
+{
+    return d->settings;
 }
 
 bool MediaWriter::HasPicture() const
 {
     return d->video.codec != nullptr;
+}
+
+bool MediaWriter::HasSound() const
+{
+    return d->audio.codec != nullptr;
 }
 
 bool MediaWriter::WritePicture(const QImage& picture)
@@ -306,23 +491,17 @@ bool MediaWriter::Finish()
         return false;
     if (d->video.codec && !d->Encode(d->video, nullptr))
         return false;
-    if (!d->Check(av_write_trailer(d->format.get())) || !d->Check(avio_closep(&d->format->pb)))
+    if (!d->Check(av_write_trailer(d->format.get())))
         return false;
-    // Replaces an older file of that name in one step where the system can.
-    const QByteArray from = QFile::encodeName(d->temporaryPath);
-    const QByteArray to = QFile::encodeName(d->path);
-    if (std::rename(from.constData(), to.constData()) != 0) {
-        QFile::remove(d->path);
-        if (!QFile::rename(d->temporaryPath, d->path))
-            return d->Fail("the finished file could not be given its name");
-    }
-    d->finished = true;
-    return true;
+    avio_flush(d->output.get());
+    if (!d->Check(d->output->error))
+        return false;
+    return d->file.commit() || d->Fail(WriterError::Kind::File, d->file.errorString());
 }
 
 QString MediaWriter::Error() const
 {
-    return d->error;
+    return d->error.text;
 }
 
 } // namespace nle

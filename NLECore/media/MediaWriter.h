@@ -23,20 +23,42 @@ struct WriterSettings
     int audioBitRate = 192000; ///< bits a second
 };
 
+/// Why nothing is written.
+struct WriterError
+{
+    enum class Kind
+    {
+        Container, ///< none of that suffix, or one that is not a single file
+        Settings,  ///< codec or container does not take them, or nobody could read the outcome
+        File       ///< no file can be made there
+    };
+    Kind kind = Kind::Settings;
+    QString text;
+};
+
 /// Writes one media file. The container follows from the suffix of the path, the codecs from the
-/// container. Everything is written under a temporary name beside the path and renamed by Finish,
-/// so the file is either whole or not there.
+/// container. Everything is written under a temporary name beside the path and renamed by Finish:
+/// until then a file of that name stays as it was.
 class MediaWriter
 {
 public:
-    /// Null on failure; \a error then tells why.
+    /// Tries \a settings out with a short file that it writes beside \a path, reads and removes,
+    /// and turns the sound in them into what codec and container take. False when nothing can be
+    /// written; \a error then tells why. What stands at \a path is not touched.
+    static bool Try(const QString& path, WriterSettings& settings, WriterError* error);
+    /// Null on failure; \a error then tells why. Sound that codec and container do not take in the
+    /// rate or the channels of \a settings is written in the nearest ones that they take.
     static std::unique_ptr<MediaWriter> Open(const QString& path, const WriterSettings& settings,
-                                             QString* error);
+                                             WriterError* error);
     /// Removes what was written when Finish did not succeed.
     ~MediaWriter();
 
-    /// Whether the container takes pictures.
+    /// What is written, with the sound as it was accepted.
+    const WriterSettings& Settings() const;
+
+    /// Whether pictures are written, and sound: what the container takes of the settings.
     bool HasPicture() const;
+    bool HasSound() const;
     /// Appends a picture of the size given at the start.
     bool WritePicture(const QImage& picture);
     /// Appends \a count samples a channel, interleaved.

@@ -32,10 +32,25 @@ bool HasSound(const Layer& layer)
                        [](const Snapshot& child) { return HasSound(*child); });
 }
 
-/// Codecs that halve the colour planes need even sides.
+/// Codecs that halve the colour planes need even sides; empty for what has no picture.
 QSize EvenSize(NLESize size)
 {
-    return QSize(size.width & ~1, size.height & ~1);
+    if (size.width < 1 || size.height < 1)
+        return {};
+    return QSize(std::max(size.width & ~1, 2), std::max(size.height & ~1, 2));
+}
+
+HRESULT ResultOf(WriterError::Kind kind)
+{
+    switch (kind) {
+    case WriterError::Kind::Container:
+        return E_NOTIMPL;
+    case WriterError::Kind::File:
+        return E_ACCESSDENIED;
+    case WriterError::Kind::Settings:
+        break;
+    }
+    return E_INVALIDARG;
 }
 
 /// A file is written at its full size, however small the preview is.
@@ -67,40 +82,49 @@ HRESULT MediaEncoder::Open(INLETimeline* timeline, const wchar_t* path,
     const TimelineNode* node = TimelineNode::From(timeline);
     if (!node || !path)
         return E_INVALIDARG;
-    const NLEEncodeSettings wanted = settings ? *settings : NLEEncodeSettings{};
-    m_root = AtFullSize(node->MakeSnapshot());
+    const Snapshot root = AtFullSize(node->MakeSnapshot());
     m_path = QString::fromWCharArray(path);
+    if (!TakeSettings(*node, *root, settings ? *settings : NLEEncodeSettings{}))
+        return E_INVALIDARG;
+    WriterError error;
+    if (!MediaWriter::Try(m_path, m_settings, &error)) {
+        Warn(error.text);
+        return ResultOf(error.kind);
+    }
+    m_root = root;
+    return S_OK;
+}
+
+bool MediaEncoder::TakeSettings(const TimelineNode& node, const Layer& root,
+                                const NLEEncodeSettings& wanted)
+{
     // A clip is encoded as it is trimmed, a composite as long as it has clips.
     const NLERange whole =
-        m_root->kind == LayerKind::Composite ? NLERange{0, node->TotalLength() - 1} : m_root->range;
+        root.kind == LayerKind::Composite ? NLERange{0, node.TotalLength() - 1} : root.range;
     const bool wantsAll = wanted.range.in == 0 && wanted.range.out == 0;
     m_range = NLERangeLength(wanted.range) > 0 && !wantsAll ? wanted.range : whole;
     const bool hasSize = wanted.frameSize.width > 1 && wanted.frameSize.height > 1;
-    m_settings.size = EvenSize(hasSize ? wanted.frameSize : m_root->size);
-    m_frameRate = IsRate(wanted.frameRate) ? wanted.frameRate : node->FrameRate();
+    m_settings.size = EvenSize(hasSize ? wanted.frameSize : root.size);
+    m_frameRate = IsRate(wanted.frameRate) ? wanted.frameRate : node.FrameRate();
     m_settings.frameRate = {m_frameRate.num, m_frameRate.den};
     m_settings.quality = OrDefault(wanted.quality, 20);
-    const auto* project = dynamic_cast<const ProjectNode*>(node);
+    const auto* project = dynamic_cast<const ProjectNode*>(&node);
     const tagNLEProjectProfile& profile = project ? project->Profile() : kDefaultProfile;
     m_settings.sampleRate = OrDefault(wanted.sampleRate, profile.sampleRate);
     m_settings.channels = OrDefault(wanted.channels, profile.channels);
     m_settings.audioBitRate = OrDefault(wanted.audioBitRate, 192000);
-    m_settings.hasSound = HasSound(*m_root);
-    const bool isCountable =
-        ToDouble(m_frameRate) >= kLowestRate && ToDouble(node->FrameRate()) > 0;
+    m_settings.hasSound = HasSound(root);
+    const bool isCountable = ToDouble(m_frameRate) >= kLowestRate && ToDouble(node.FrameRate()) > 0;
     const bool isAudible =
         m_settings.sampleRate <= kHighestSampleRate && m_settings.channels <= kMostChannels;
-    if (NLERangeLength(m_range) > 0 && isCountable && isAudible)
-        return S_OK;
-    m_root.reset();
-    return E_INVALIDARG;
+    return NLERangeLength(m_range) > 0 && isCountable && isAudible;
 }
 
 HRESULT MediaEncoder::Encode(NLEProgressCallback callback, void* userData)
 {
     if (!m_root)
         return E_FAIL;
-    QString error;
+    WriterError error;
     const std::unique_ptr<MediaWriter> writer = MediaWriter::Open(m_path, m_settings, &error);
     Composer composer(m_root);
     AudioMixer mixer(m_root, m_settings.sampleRate, m_settings.channels);
@@ -132,13 +156,17 @@ HRESULT MediaEncoder::Encode(NLEProgressCallback callback, void* userData)
         }
     }
     if (!written || !writer->Finish()) {
-        qCWarning(lcEngine, "%s was not written: %s", qUtf8Printable(m_path),
-                  qUtf8Printable(writer ? writer->Error() : error));
+        Warn(writer ? writer->Error() : error.text);
         return E_FAIL;
     }
     if (callback)
         callback(100, userData);
     return S_OK;
+}
+
+void MediaEncoder::Warn(const QString& reason) const
+{
+    qCWarning(lcEngine, "%s is not written: %s", qUtf8Printable(m_path), qUtf8Printable(reason));
 }
 
 } // namespace nle

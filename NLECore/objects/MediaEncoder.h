@@ -8,6 +8,8 @@
 
 namespace nle {
 
+class TimelineNode;
+
 /// Renders a snapshot frame by frame into a media file.
 class MediaEncoder final : public ComObject<INLEMediaEncoder>
 {
@@ -17,6 +19,11 @@ public:
     HRESULT Encode(NLEProgressCallback callback, void* userData) override;
 
 private:
+    /// False for what no file can hold.
+    bool TakeSettings(const TimelineNode& node, const Layer& root, const NLEEncodeSettings& wanted);
+    /// Logs why the file is not written.
+    void Warn(const QString& reason) const;
+
     Snapshot m_root;
     QString m_path;
     NLERange m_range = {0, -1};
