@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "Com/ComGuard.h"
 #include "Com/ComObject.h"
 
 /// The way from a module to its objects: a module exports one function, "DllGetClassObject", which
@@ -21,7 +22,7 @@ public:
         *out = nullptr;
         if (outer)
             return CLASS_E_NOAGGREGATION;
-        return MakeCom<Class>()->QueryInterface(iid, out);
+        return ComGuard([&] { return MakeCom<Class>()->QueryInterface(iid, out); });
     }
     /// Nothing to lock.
     HRESULT LockServer(BOOL /*lock*/) override { return S_OK; }
@@ -31,7 +32,7 @@ public:
 template <typename Class>
 HRESULT GiveClassFactory(REFIID iid, void** out)
 {
-    return MakeCom<ClassFactory<Class>>()->QueryInterface(iid, out);
+    return ComGuard([&] { return MakeCom<ClassFactory<Class>>()->QueryInterface(iid, out); });
 }
 
 /// Makes an object of a module's class through the module's entry. On failure \a out is null; a

@@ -5,6 +5,7 @@
 #include <list>
 #include <map>
 #include <mutex>
+#include <new>
 
 namespace nle {
 
@@ -33,6 +34,8 @@ struct DecoderPool::Shared
 
     IdleList TakeSurplus(int room);
     IdleList TakeMatching(const MediaInfo& info, int stream, DecodePurpose purpose, int wanted);
+    /// Without memory for it the decoder is closed.
+    void Keep(Idle entry) noexcept;
     bool WasDropped(const QString& path, uint64_t since) const;
 };
 
@@ -70,6 +73,14 @@ DecoderPool::Shared::IdleList DecoderPool::Shared::TakeMatching(const MediaInfo&
     return taken;
 }
 
+void DecoderPool::Shared::Keep(Idle entry) noexcept
+{
+    try {
+        idle.push_front(std::move(entry));
+    } catch (const std::bad_alloc&) {
+    }
+}
+
 bool DecoderPool::Shared::WasDropped(const QString& path, uint64_t since) const
 {
     const auto entry = dropped.find(path);
@@ -97,14 +108,14 @@ DecoderPool::Lease& DecoderPool::Lease::operator=(Lease&& other) noexcept
 
 void DecoderPool::Lease::Release()
 {
-    if (!m_decoder)
+    if (!m_pool)
         return;
     Shared::IdleList surplus;
     {
         const std::lock_guard<std::mutex> lock(m_pool->mutex);
         --m_pool->lentCount;
-        if (!m_pool->WasDropped(m_decoder->Info()->path, m_generation))
-            m_pool->idle.push_front({std::move(m_decoder), m_purpose});
+        if (m_decoder && !m_pool->WasDropped(m_decoder->Info()->path, m_generation))
+            m_pool->Keep({std::move(m_decoder), m_purpose});
         surplus = m_pool->TakeSurplus(0);
     }
     m_decoder.reset();
@@ -146,19 +157,16 @@ DecoderPool::Lease DecoderPool::Acquire(const std::shared_ptr<const MediaInfo>& 
             if (!isReusable)
                 surplus = m_shared->TakeSurplus(1);
             ++m_shared->lentCount;
+            lease.m_pool = m_shared;
         }
         surplus.clear();
         if (!isReusable)
             lease.m_decoder = FrameDecoder::Open(info, stream, error, m_shared->threads);
         else if (taken.front().decoder->IsFileUnchanged())
             lease.m_decoder = std::move(taken.front().decoder);
-        if (!lease.m_decoder) {
-            const std::lock_guard<std::mutex> lock(m_shared->mutex);
-            --m_shared->lentCount;
-        }
+        if (!lease.m_decoder)
+            lease.Release();
     }
-    if (lease.m_decoder)
-        lease.m_pool = m_shared;
     return lease;
 }
 

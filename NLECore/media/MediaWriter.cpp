@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 
 extern "C" {
 #include <libavutil/audio_fifo.h>
@@ -87,6 +88,32 @@ bool TakesFilm(const AVOutputFormat& container)
 /// What a trial writes: enough for a reader to know the container by.
 constexpr int kTrialPictures = 3;
 constexpr double kTrialSeconds = 0.5;
+
+/// A folder beside a file, removed with what is in it.
+class TrialFolder
+{
+public:
+    explicit TrialFolder(const QFileInfo& file)
+        : m_folder(file.absolutePath() + QStringLiteral("/trial-XXXXXX"))
+    {
+        m_folder.setAutoRemove(false);
+    }
+    ~TrialFolder()
+    {
+        // The folder's own destructor ends the process when memory is out.
+        try {
+            m_folder.remove();
+        } catch (const std::bad_alloc&) {
+        }
+    }
+    TrialFolder(const TrialFolder&) = delete;
+    TrialFolder& operator=(const TrialFolder&) = delete;
+
+    QTemporaryDir* operator->() { return &m_folder; }
+
+private:
+    QTemporaryDir m_folder;
+};
 
 bool WriteTrial(MediaWriter& writer)
 {
@@ -414,12 +441,12 @@ bool MediaWriter::Try(const QString& path, WriterSettings& settings, WriterError
     };
     QSaveFile target(path);
     const QFileInfo file(path);
-    const QTemporaryDir folder(file.absolutePath() + QStringLiteral("/trial-XXXXXX"));
+    TrialFolder folder(file);
     if (!target.open(QIODevice::WriteOnly))
         return fail(WriterError::Kind::File, target.errorString());
-    if (!folder.isValid())
-        return fail(WriterError::Kind::File, folder.errorString());
-    const QString trial = folder.filePath(QStringLiteral("trial.") + file.suffix());
+    if (!folder->isValid())
+        return fail(WriterError::Kind::File, folder->errorString());
+    const QString trial = folder->filePath(QStringLiteral("trial.") + file.suffix());
     const std::unique_ptr<MediaWriter> writer = Open(trial, settings, error);
     if (!writer)
         return false;

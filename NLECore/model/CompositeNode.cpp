@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/CompositeNode.h"
 
+#include "Com/ComGuard.h"
 #include "EngineApi/NLEKey.h"
 #include "NLECore/objects/BackgroundCache.h"
 #include "NLECore/scene/FrameMath.h"
@@ -91,6 +92,7 @@ HRESULT GiveEnumerator(std::vector<NLEComPtr<TimelineNode>> clips,
 {
     if (!enumerator)
         return E_POINTER;
+    *enumerator = nullptr;
     *enumerator = MakeCom<Enumerator>(std::move(clips)).detach();
     return S_OK;
 }
@@ -124,11 +126,13 @@ CompositeNode::~CompositeNode()
 
 HRESULT CompositeNode::GetInterface(REFIID iid, void** out, int reserved1, int reserved2)
 {
-    if (iid != INLEBackgroundCache::Iid)
-        return ComExtension::GetInterface(iid, out, reserved1, reserved2);
-    if (!m_cache)
-        m_cache = MakeCom<BackgroundCache>(*this);
-    return m_cache->QueryInterface(iid, out);
+    return ComGuard([&] {
+        if (iid != INLEBackgroundCache::Iid)
+            return ComExtension::GetInterface(iid, out, reserved1, reserved2);
+        if (!m_cache)
+            m_cache = MakeCom<BackgroundCache>(*this);
+        return m_cache->QueryInterface(iid, out);
+    });
 }
 
 std::unique_ptr<CachedFrames> CompositeNode::OpenCachedFrames(const Snapshot& snapshot) const
@@ -143,29 +147,33 @@ HRESULT CompositeNode::GetClipCount(int* count)
 
 HRESULT CompositeNode::GetEnumerator(int /*flags*/, INLETimelineEnumerator** enumerator)
 {
-    return GiveEnumerator(m_clips, enumerator);
+    return ComGuard([&] { return GiveEnumerator(m_clips, enumerator); });
 }
 
 HRESULT CompositeNode::GetEnumerator(int recursive, int /*flags*/,
                                      INLETimelineEnumerator** enumerator)
 {
-    std::vector<NLEComPtr<TimelineNode>> clips;
-    if (recursive)
-        AppendRecursively(*this, clips);
-    else
-        clips = m_clips;
-    return GiveEnumerator(std::move(clips), enumerator);
+    return ComGuard([&] {
+        std::vector<NLEComPtr<TimelineNode>> clips;
+        if (recursive)
+            AppendRecursively(*this, clips);
+        else
+            clips = m_clips;
+        return GiveEnumerator(std::move(clips), enumerator);
+    });
 }
 
 HRESULT CompositeNode::AddClip(INLETimeline* clip)
 {
-    TimelineNode* node = TimelineNode::From(clip);
-    if (!node || node->Parent() || IsSelfOrAncestor(node) ||
-        DepthFromTop() + DepthBelow(*node) > kDeepestNesting)
-        return E_INVALIDARG;
-    node->ChangeRate(FrameRate());
-    Adopt(node);
-    return S_OK;
+    return ComGuard([&] {
+        TimelineNode* node = TimelineNode::From(clip);
+        if (!node || node->Parent() || IsSelfOrAncestor(node) ||
+            DepthFromTop() + DepthBelow(*node) > kDeepestNesting)
+            return E_INVALIDARG;
+        Adopt(node);
+        node->ChangeRate(FrameRate());
+        return S_OK;
+    });
 }
 
 HRESULT CompositeNode::RemoveClip(INLETimeline* clip)
@@ -181,8 +189,8 @@ HRESULT CompositeNode::RemoveClip(INLETimeline* clip)
 
 void CompositeNode::Adopt(const NLEComPtr<TimelineNode>& clip)
 {
-    clip->SetParent(this);
     m_clips.push_back(clip);
+    clip->SetParent(this);
 }
 
 bool CompositeNode::IsSelfOrAncestor(const TimelineNode* node) const
@@ -236,11 +244,8 @@ NLEComPtr<TimelineNode> CompositeNode::CopyContent(bool deep) const
 
 void CompositeNode::CopyClipsTo(CompositeNode& copy) const
 {
-    for (const NLEComPtr<TimelineNode>& clip : m_clips) {
-        NLEComPtr<INLETimeline> clone;
-        clip->Clone(true, clone.put());
-        copy.Adopt(TimelineNode::From(clone.get()));
-    }
+    for (const NLEComPtr<TimelineNode>& clip : m_clips)
+        copy.Adopt(clip->Copy(true));
 }
 
 std::uint32_t CompositeNode::Background() const
@@ -306,10 +311,12 @@ HRESULT ProjectNode::FillProperties(INLEProperties* properties)
 
 HRESULT ProjectNode::TakeProperties(INLEProperties* properties)
 {
-    if (!properties)
-        return E_POINTER;
-    const PropertyBag* bag = PropertyBag::From(properties);
-    return bag ? TakeContext(bag->All()) : E_INVALIDARG;
+    return ComGuard([&] {
+        if (!properties)
+            return E_POINTER;
+        const PropertyBag* bag = PropertyBag::From(properties);
+        return bag ? TakeContext(bag->All()) : E_INVALIDARG;
+    });
 }
 
 HRESULT ProjectNode::TakeContext(const PropertyBag::Values& values)
@@ -318,8 +325,10 @@ HRESULT ProjectNode::TakeContext(const PropertyBag::Values& values)
         if (!IsContextValue(key, value))
             return E_INVALIDARG;
     }
+    PropertyBag::Values context = m_context;
     for (const auto& [key, value] : values)
-        m_context[key] = value;
+        context[key] = value;
+    m_context.swap(context);
     return S_OK;
 }
 

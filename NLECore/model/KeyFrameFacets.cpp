@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/KeyFrameFacets.h"
 
+#include "Com/ComGuard.h"
 #include "EngineApi/NLECommon.h"
 #include "NLECore/model/TimelineNode.h"
 
@@ -57,42 +58,50 @@ HRESULT KeyFrameFacet::GetCount(int* count)
 
 HRESULT KeyFrameFacet::GetKeyFrame(int index, NLEKeyFrameRecord* record)
 {
-    if (!Has(index))
-        return E_INVALIDARG;
-    FollowRange();
-    return GiveValue(record, m_frames.At(index));
+    return ComGuard([&] {
+        if (!Has(index))
+            return E_INVALIDARG;
+        FollowRange();
+        return GiveValue(record, m_frames.At(index));
+    });
 }
 
 HRESULT KeyFrameFacet::SetKeyFrame(int index, const NLEKeyFrameRecord* record)
 {
-    if (!record)
-        return E_POINTER;
-    if (!Has(index) || !IsFinite(*record))
-        return E_INVALIDARG;
-    FollowRange();
-    if (m_frames.At(index).time != record->time) {
-        const int count = m_frames.Count();
-        const int other =
-            m_frames.First([=](const NLEKeyFrameRecord& r) { return r.time >= record->time; });
-        if (other < count && m_frames.At(other).time == record->time)
+    return ComGuard([&] {
+        if (!record)
+            return E_POINTER;
+        if (!Has(index) || !IsFinite(*record))
             return E_INVALIDARG;
-        m_frames.Erase(index);
-    }
-    m_frames.Put(*record);
-    Changed();
-    return S_OK;
+        FollowRange();
+        if (m_frames.At(index).time != record->time) {
+            const int count = m_frames.Count();
+            const int other =
+                m_frames.First([=](const NLEKeyFrameRecord& r) { return r.time >= record->time; });
+            if (other < count && m_frames.At(other).time == record->time)
+                return E_INVALIDARG;
+            const int placed = m_frames.Put(*record);
+            m_frames.Erase(placed <= index ? index + 1 : index);
+        } else {
+            m_frames.Put(*record);
+        }
+        Changed();
+        return S_OK;
+    });
 }
 
 HRESULT KeyFrameFacet::AddKeyFrame(const NLEKeyFrameRecord* record, int* index)
 {
-    if (!record || !index)
-        return E_POINTER;
-    if (!IsFinite(*record))
-        return E_INVALIDARG;
-    FollowRange();
-    *index = m_frames.Put(*record);
-    Changed();
-    return S_OK;
+    return ComGuard([&] {
+        if (!record || !index)
+            return E_POINTER;
+        if (!IsFinite(*record))
+            return E_INVALIDARG;
+        FollowRange();
+        *index = m_frames.Put(*record);
+        Changed();
+        return S_OK;
+    });
 }
 
 HRESULT KeyFrameFacet::DeleteKeyFrame(int index)
@@ -113,27 +122,31 @@ HRESULT KeyFrameFacet::DeleteAll()
 
 HRESULT KeyFrameFacet::GetParamAt(double time, NLEKeyFrameRecord* record)
 {
-    if (!std::isfinite(time))
-        return E_INVALIDARG;
-    if (m_frames.Count() == 0)
-        return E_FAIL;
-    FollowRange();
-    return GiveValue(record, m_frames.ValueAt(time));
+    return ComGuard([&] {
+        if (!std::isfinite(time))
+            return E_INVALIDARG;
+        if (m_frames.Count() == 0)
+            return E_FAIL;
+        FollowRange();
+        return GiveValue(record, m_frames.ValueAt(time));
+    });
 }
 
 HRESULT KeyFrameFacet::FindIndex(int frame, int frameCount, int* index)
 {
-    if (frameCount < 1)
-        return E_INVALIDARG;
-    FollowRange();
-    const auto frameOf = [frameCount](const NLEKeyFrameRecord& record) {
-        return NLECommon::KeyFrame::CaculateKeyFrameIndex(record.time, frameCount);
-    };
-    const int found =
-        m_frames.First([&](const NLEKeyFrameRecord& record) { return frameOf(record) >= frame; });
-    if (!Has(found) || frameOf(m_frames.At(found)) != frame)
-        return E_FAIL;
-    return GiveValue(index, found);
+    return ComGuard([&] {
+        if (frameCount < 1)
+            return E_INVALIDARG;
+        FollowRange();
+        const auto frameOf = [frameCount](const NLEKeyFrameRecord& record) {
+            return NLECommon::KeyFrame::CaculateKeyFrameIndex(record.time, frameCount);
+        };
+        const int found = m_frames.First(
+            [&](const NLEKeyFrameRecord& record) { return frameOf(record) >= frame; });
+        if (!Has(found) || frameOf(m_frames.At(found)) != frame)
+            return E_FAIL;
+        return GiveValue(index, found);
+    });
 }
 
 std::shared_ptr<const KeyFrameCurve> KeyFrameFacet::Curve() const

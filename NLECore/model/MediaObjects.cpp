@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/MediaObjects.h"
 
+#include "Com/ComGuard.h"
 #include "NLECore/media/EngineLog.h"
 #include "NLECore/model/PropertyBag.h"
 
@@ -108,35 +109,43 @@ HRESULT MediaInfoObject::GetFrameCountAndRate(std::uint32_t* count, NLERational*
 
 HRESULT MediaInfoObject::GetFilePath(wchar_t* buffer, int capacity)
 {
-    return CopyText(m_media->path.toStdWString(), buffer, capacity);
+    return ComGuard([&] { return CopyText(m_media->path.toStdWString(), buffer, capacity); });
 }
 
 HRESULT CodecObject::GetMediaInfo(INLEMediaInfo** info)
 {
-    if (!info)
-        return E_POINTER;
-    *info = MakeCom<MediaInfoObject>(m_media).detach();
-    return S_OK;
+    return ComGuard([&] {
+        if (!info)
+            return E_POINTER;
+        *info = MakeCom<MediaInfoObject>(m_media).detach();
+        return S_OK;
+    });
 }
 
 HRESULT CodecObject::GetContainerName(wchar_t* buffer, int capacity)
 {
-    return CopyText(m_media->containerName.section(QLatin1Char(','), 0, 0).toStdWString(), buffer,
-                    capacity);
+    return ComGuard([&] {
+        return CopyText(m_media->containerName.section(QLatin1Char(','), 0, 0).toStdWString(),
+                        buffer, capacity);
+    });
 }
 
 HRESULT CodecObject::GetCodecName(std::uint32_t stream, wchar_t* buffer, int capacity)
 {
-    if (stream >= m_media->streams.size())
-        return E_INVALIDARG;
-    return CopyText(Widen(m_media->streams[stream].codecName), buffer, capacity);
+    return ComGuard([&] {
+        if (stream >= m_media->streams.size())
+            return E_INVALIDARG;
+        return CopyText(Widen(m_media->streams[stream].codecName), buffer, capacity);
+    });
 }
 
 HRESULT CodecObject::GetProfileName(std::uint32_t stream, wchar_t* buffer, int capacity)
 {
-    if (stream >= m_media->streams.size())
-        return E_INVALIDARG;
-    return CopyText(Widen(m_media->streams[stream].profileName), buffer, capacity);
+    return ComGuard([&] {
+        if (stream >= m_media->streams.size())
+            return E_INVALIDARG;
+        return CopyText(Widen(m_media->streams[stream].profileName), buffer, capacity);
+    });
 }
 
 } // namespace nle

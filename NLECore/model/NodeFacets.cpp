@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/NodeFacets.h"
 
+#include "Com/ComGuard.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/PropertyBag.h"
 #include "NLECore/model/TimelineNode.h"
@@ -142,16 +143,18 @@ public:
 
     HRESULT SetPoint(double time, double value) override
     {
-        if (!std::isfinite(time) || !(value >= 0 && value <= kMostVolume))
-            return E_INVALIDARG;
-        auto place = std::lower_bound(
-            Points().begin(), Points().end(), time,
-            [](const VolumePoint& point, double wanted) { return point.time < wanted; });
-        if (place != Points().end() && place->time == time)
-            place->gain = value;
-        else
-            Points().insert(place, {time, value});
-        return S_OK;
+        return ComGuard([&] {
+            if (!std::isfinite(time) || !(value >= 0 && value <= kMostVolume))
+                return E_INVALIDARG;
+            auto place = std::lower_bound(
+                Points().begin(), Points().end(), time,
+                [](const VolumePoint& point, double wanted) { return point.time < wanted; });
+            if (place != Points().end() && place->time == time)
+                place->gain = value;
+            else
+                Points().insert(place, {time, value});
+            return S_OK;
+        });
     }
 
     HRESULT Clear() override
@@ -228,10 +231,12 @@ HRESULT AudioFacet::GetMute(bool* mute)
 
 HRESULT AudioFacet::GetVolumeKeyFrameParam(INLEKeyFrameParam** param)
 {
-    if (!param)
-        return E_POINTER;
-    *param = MakeCom<VolumeCurve>(*this).detach();
-    return S_OK;
+    return ComGuard([&] {
+        if (!param)
+            return E_POINTER;
+        *param = MakeCom<VolumeCurve>(*this).detach();
+        return S_OK;
+    });
 }
 
 HRESULT AudioFacet::SetVolume(double volume)
@@ -306,7 +311,8 @@ HRESULT AudioFacet::GetEqualizerEnable(bool* enable)
 
 HRESULT AudioFacet::SetEqualizerName(const wchar_t* name)
 {
-    return name ? Take(settings.equalizerName, std::wstring(name)) : E_POINTER;
+    return ComGuard(
+        [&] { return name ? Take(settings.equalizerName, std::wstring(name)) : E_POINTER; });
 }
 
 HRESULT AudioFacet::GetEqualizerName(wchar_t* buffer, int capacity)
@@ -351,29 +357,35 @@ HRESULT VideoFacet::GetAlphaChannel(NLEAlphaChannelRecord* record)
 
 HRESULT VideoFacet::SetAlphaChannel(const NLEAlphaChannelRecord* record)
 {
-    if (!record)
-        return E_POINTER;
-    settings.alphaChannel = std::make_shared<NLEAlphaChannelRecord>(*record);
-    return S_OK;
+    return ComGuard([&] {
+        if (!record)
+            return E_POINTER;
+        settings.alphaChannel = std::make_shared<NLEAlphaChannelRecord>(*record);
+        return S_OK;
+    });
 }
 
 HRESULT VideoFacet::SetProxyFile(const wchar_t* path)
 {
-    if (!path)
-        return E_POINTER;
-    std::shared_ptr<const MediaInfo> proxy;
-    if (*path != L'\0') {
-        proxy = DescribeFile(QString::fromWCharArray(path));
-        if (!proxy || proxy->videoStream < 0)
-            return E_FAIL;
-    }
-    return Take(settings.proxy, proxy);
+    return ComGuard([&] {
+        if (!path)
+            return E_POINTER;
+        std::shared_ptr<const MediaInfo> proxy;
+        if (*path != L'\0') {
+            proxy = DescribeFile(QString::fromWCharArray(path));
+            if (!proxy || proxy->videoStream < 0)
+                return E_FAIL;
+        }
+        return Take(settings.proxy, proxy);
+    });
 }
 
 HRESULT VideoFacet::GetProxyPath(wchar_t* buffer, int capacity)
 {
-    return CopyText(settings.proxy ? settings.proxy->path.toStdWString() : std::wstring(), buffer,
-                    capacity);
+    return ComGuard([&] {
+        return CopyText(settings.proxy ? settings.proxy->path.toStdWString() : std::wstring(),
+                        buffer, capacity);
+    });
 }
 
 HRESULT VideoFacet::SetProxyEnabled(bool enabled)
@@ -404,14 +416,16 @@ HRESULT MixerFacet::GetParam(int index, tagMixerParam* param)
 
 HRESULT MixerFacet::SetParam(int index, const tagMixerParam* param)
 {
-    if (!param)
-        return E_POINTER;
-    tagMixerParam strip = *param;
-    if (FAILED(TakeWithin(strip.volume, param->volume, 0.0, kMostVolume)) ||
-        FAILED(TakeWithin(strip.balance, param->balance, -1.0, 1.0)))
-        return E_INVALIDARG;
-    settings[index] = strip;
-    return S_OK;
+    return ComGuard([&] {
+        if (!param)
+            return E_POINTER;
+        tagMixerParam strip = *param;
+        if (FAILED(TakeWithin(strip.volume, param->volume, 0.0, kMostVolume)) ||
+            FAILED(TakeWithin(strip.balance, param->balance, -1.0, 1.0)))
+            return E_INVALIDARG;
+        settings[index] = strip;
+        return S_OK;
+    });
 }
 
 } // namespace nle

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/PropertyBag.h"
 
+#include "Com/ComGuard.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -39,60 +41,68 @@ HRESULT PropertyBag::QueryInterface(REFIID iid, void** out)
 
 HRESULT PropertyBag::GetInt(const wchar_t* key, int* value)
 {
-    if (!value)
-        return E_POINTER;
-    const auto found = Find(key);
-    if (!found)
-        return E_FAIL;
-    if (const int* number = std::get_if<int>(&*found)) {
-        *value = *number;
+    return ComGuard([&] {
+        if (!value)
+            return E_POINTER;
+        const auto found = Find(key);
+        if (!found)
+            return E_FAIL;
+        if (const int* number = std::get_if<int>(&*found)) {
+            *value = *number;
+            return S_OK;
+        }
+        const double* number = std::get_if<double>(&*found);
+        if (!number || !(std::abs(*number) < 2147483648.0))
+            return E_FAIL;
+        *value = int(*number);
         return S_OK;
-    }
-    const double* number = std::get_if<double>(&*found);
-    if (!number || !(std::abs(*number) < 2147483648.0))
-        return E_FAIL;
-    *value = int(*number);
-    return S_OK;
+    });
 }
 
 HRESULT PropertyBag::GetDouble(const wchar_t* key, double* value)
 {
-    if (!value)
-        return E_POINTER;
-    const auto found = Find(key);
-    if (!found)
-        return E_FAIL;
-    if (const double* number = std::get_if<double>(&*found))
-        *value = *number;
-    else if (const int* whole = std::get_if<int>(&*found))
-        *value = *whole;
-    else
-        return E_FAIL;
-    return S_OK;
+    return ComGuard([&] {
+        if (!value)
+            return E_POINTER;
+        const auto found = Find(key);
+        if (!found)
+            return E_FAIL;
+        if (const double* number = std::get_if<double>(&*found))
+            *value = *number;
+        else if (const int* whole = std::get_if<int>(&*found))
+            *value = *whole;
+        else
+            return E_FAIL;
+        return S_OK;
+    });
 }
 
 HRESULT PropertyBag::GetRational(const wchar_t* key, NLERational* value)
 {
-    if (!value)
-        return E_POINTER;
-    const auto found = Find(key);
-    const NLERational* rational = found ? std::get_if<NLERational>(&*found) : nullptr;
-    if (!rational)
-        return E_FAIL;
-    *value = *rational;
-    return S_OK;
+    return ComGuard([&] {
+        if (!value)
+            return E_POINTER;
+        const auto found = Find(key);
+        const NLERational* rational = found ? std::get_if<NLERational>(&*found) : nullptr;
+        if (!rational)
+            return E_FAIL;
+        *value = *rational;
+        return S_OK;
+    });
 }
 
 HRESULT PropertyBag::GetString(const wchar_t* key, wchar_t* buffer, int capacity)
 {
-    const auto found = Find(key);
-    const std::wstring* text = found ? std::get_if<std::wstring>(&*found) : nullptr;
-    return text ? CopyText(*text, buffer, capacity) : E_FAIL;
+    return ComGuard([&] {
+        const auto found = Find(key);
+        const std::wstring* text = found ? std::get_if<std::wstring>(&*found) : nullptr;
+        return text ? CopyText(*text, buffer, capacity) : E_FAIL;
+    });
 }
 
 HRESULT PropertyBag::SetString(const wchar_t* key, const wchar_t* value)
 {
-    return value ? Store(key, std::wstring(value)) : E_POINTER;
+    return ComGuard([&] { return value ? Store(key, std::wstring(value)) : E_POINTER; });
 }
 
 int PropertyBag::IntOr(const wchar_t* key, int preset) const
@@ -118,7 +128,7 @@ HRESULT PropertyBag::Write(const std::wstring& key, Value value)
 
 HRESULT PropertyBag::Store(const wchar_t* key, Value value)
 {
-    return key ? Write(key, std::move(value)) : E_POINTER;
+    return ComGuard([&] { return key ? Write(key, std::move(value)) : E_POINTER; });
 }
 
 std::optional<PropertyBag::Value> PropertyBag::Find(const wchar_t* key) const

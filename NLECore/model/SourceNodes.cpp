@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/SourceNodes.h"
 
+#include "Com/ComGuard.h"
 #include "NLECore/media/DecoderPool.h"
 #include "NLECore/media/FontFiles.h"
 #include "NLECore/model/MediaObjects.h"
@@ -55,7 +56,7 @@ MediaClip::MediaClip(std::shared_ptr<const MediaInfo> media)
 
 HRESULT MediaClip::GetFilePath(wchar_t* buffer, int capacity)
 {
-    return CopyText(m_media->path.toStdWString(), buffer, capacity);
+    return ComGuard([&] { return CopyText(m_media->path.toStdWString(), buffer, capacity); });
 }
 
 HRESULT MediaClip::SetFilePath(const wchar_t* path)
@@ -65,10 +66,12 @@ HRESULT MediaClip::SetFilePath(const wchar_t* path)
 
 HRESULT MediaClip::GetMediaInfo(INLEMediaInfo** info)
 {
-    if (!info)
-        return E_POINTER;
-    *info = MakeCom<MediaInfoObject>(m_media).detach();
-    return S_OK;
+    return ComGuard([&] {
+        if (!info)
+            return E_POINTER;
+        *info = MakeCom<MediaInfoObject>(m_media).detach();
+        return S_OK;
+    });
 }
 
 HRESULT MediaClip::GetVideoStreamIndex(std::uint32_t* index)
@@ -94,22 +97,26 @@ HRESULT MediaClip::SetGPUFirst(int preference)
 
 HRESULT MediaClip::Relink(const wchar_t* path, int /*flags*/)
 {
-    if (!path)
-        return E_POINTER;
-    std::shared_ptr<const MediaInfo> media = DescribeFile(QString::fromWCharArray(path));
-    if (!media)
-        return E_FAIL;
-    Take(std::move(media));
-    return S_OK;
+    return ComGuard([&] {
+        if (!path)
+            return E_POINTER;
+        std::shared_ptr<const MediaInfo> media = DescribeFile(QString::fromWCharArray(path));
+        if (!media)
+            return E_FAIL;
+        Take(std::move(media));
+        return S_OK;
+    });
 }
 
 HRESULT MediaClip::Reload()
 {
-    if (!QFileInfo::exists(m_media->path)) {
-        Take(OfflineMedia(m_media->path));
-        return S_OK;
-    }
-    return Relink(m_media->path.toStdWString().c_str(), 0);
+    return ComGuard([&] {
+        if (!QFileInfo::exists(m_media->path)) {
+            Take(OfflineMedia(m_media->path));
+            return S_OK;
+        }
+        return Relink(m_media->path.toStdWString().c_str(), 0);
+    });
 }
 
 void MediaClip::Take(std::shared_ptr<const MediaInfo> media)

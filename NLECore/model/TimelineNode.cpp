@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/TimelineNode.h"
 
+#include "Com/ComGuard.h"
 #include "EngineApi/NLEKey.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/scene/FrameMath.h"
@@ -131,12 +132,12 @@ HRESULT TimelineNode::SetRange(const NLERange* range)
 
 HRESULT TimelineNode::GetRange(NLERange* range)
 {
-    return GiveValue(range, Range());
+    return ComGuard([&] { return GiveValue(range, Range()); });
 }
 
 HRESULT TimelineNode::GetTotalRange(NLERange* range)
 {
-    return GiveValue(range, NLERange{0, TotalLength() - 1});
+    return ComGuard([&] { return GiveValue(range, NLERange{0, TotalLength() - 1}); });
 }
 
 HRESULT TimelineNode::SetRenderFrameRate(NLERational rate)
@@ -201,8 +202,17 @@ HRESULT TimelineNode::GetEnabled(bool* enabled)
 
 HRESULT TimelineNode::Clone(bool deep, INLETimeline** clone)
 {
-    if (!clone)
-        return E_POINTER;
+    return ComGuard([&] {
+        if (!clone)
+            return E_POINTER;
+        *clone = nullptr;
+        *clone = Copy(deep).detach();
+        return S_OK;
+    });
+}
+
+NLEComPtr<TimelineNode> TimelineNode::Copy(bool deep) const
+{
     NLEComPtr<TimelineNode> copy = CopyContent(deep);
     copy->m_frameRate = m_frameRate;
     copy->m_range = m_range;
@@ -219,8 +229,7 @@ HRESULT TimelineNode::Clone(bool deep, INLETimeline** clone)
     copy->m_mixer.settings = m_mixer.settings;
     copy->m_keyFrames.Restore(*m_keyFrames.Stored());
     copy->m_keyFrames.enabled = m_keyFrames.enabled;
-    *clone = copy.detach();
-    return S_OK;
+    return copy;
 }
 
 HRESULT TimelineNode::GetRenderRegion(NLERectF* region)

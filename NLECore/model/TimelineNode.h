@@ -74,6 +74,8 @@ public:
     virtual int TotalLength() const = 0;
     /// Picture size in pixels; empty when the node shows none of its own.
     virtual NLESize PictureSize() const = 0;
+    /// What Clone gives.
+    NLEComPtr<TimelineNode> Copy(bool deep) const;
     /// Everything that a render needs of the node.
     Snapshot MakeSnapshot() const;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/objects/BackgroundCache.h"
 
+#include "Com/ComGuard.h"
 #include "NLECore/model/CompositeNode.h"
 
 #include <algorithm>
@@ -32,45 +33,49 @@ BackgroundCache::~BackgroundCache() = default;
 
 HRESULT BackgroundCache::SetCacheFolder(const wchar_t* folder, std::int64_t quota, int reserve)
 {
-    if (!folder || *folder == L'\0' || quota < 0 || reserve < 0)
-        return E_INVALIDARG;
-    EndRendering();
-    m_limits = {std::min(quota, kMostMebibytes) * kMebibyte, reserve * kMebibyte};
-    const auto store = ChunkStore::Of(QString::fromWCharArray(folder));
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_store = store;
-    return S_OK;
+    return ComGuard([&] {
+        if (!folder || *folder == L'\0' || quota < 0 || reserve < 0)
+            return E_INVALIDARG;
+        EndRendering();
+        m_limits = {std::min(quota, kMostMebibytes) * kMebibyte, reserve * kMebibyte};
+        const auto store = ChunkStore::Of(QString::fromWCharArray(folder));
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_store = store;
+        return S_OK;
+    });
 }
 
 HRESULT BackgroundCache::Start(const NLESize* resolution, NLERenderCallback callback,
                                void* userData)
 {
-    const std::shared_ptr<ChunkStore> store = Store();
-    const auto isSide = [](int length) { return length > 0 && length <= kLongestSide; };
-    if (!store || !resolution || !isSide(resolution->width) || !isSide(resolution->height))
-        return E_INVALIDARG;
-    if (m_renderer && m_renderer->IsRunning())
-        return S_FALSE;
-    EndRendering();
-    if (!store->Prepare())
-        return E_ACCESSDENIED;
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_size = QSize(resolution->width, resolution->height);
-    }
-    const Plan plan = m_node ? Analyse(TakeSnapshot()) : nullptr;
-    if (!plan || store->CountFrames(plan->Chunks()) == plan->FrameCount())
-        return E_FAIL;
-    const auto report = [this, callback, userData](const CacheRenderer::Progress& progress) {
-        if (!callback)
-            return;
-        m_reports.Post([=] {
-            callback(progress.percent, long(progress.state), long(progress.cachedFrames),
-                     long(progress.totalFrames), userData);
-        });
-    };
-    m_renderer = std::make_unique<CacheRenderer>(plan, store, m_limits, report);
-    return S_OK;
+    return ComGuard([&] {
+        const std::shared_ptr<ChunkStore> store = Store();
+        const auto isSide = [](int length) { return length > 0 && length <= kLongestSide; };
+        if (!store || !resolution || !isSide(resolution->width) || !isSide(resolution->height))
+            return E_INVALIDARG;
+        if (m_renderer && m_renderer->IsRunning())
+            return S_FALSE;
+        EndRendering();
+        if (!store->Prepare())
+            return E_ACCESSDENIED;
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            m_size = QSize(resolution->width, resolution->height);
+        }
+        const Plan plan = m_node ? Analyse(TakeSnapshot()) : nullptr;
+        if (!plan || store->CountFrames(plan->Chunks()) == plan->FrameCount())
+            return E_FAIL;
+        const auto report = [this, callback, userData](const CacheRenderer::Progress& progress) {
+            if (!callback)
+                return;
+            m_reports.Post([=] {
+                callback(progress.percent, long(progress.state), long(progress.cachedFrames),
+                         long(progress.totalFrames), userData);
+            });
+        };
+        m_renderer = std::make_unique<CacheRenderer>(plan, store, m_limits, report);
+        return S_OK;
+    });
 }
 
 HRESULT BackgroundCache::Stop()
@@ -83,36 +88,47 @@ HRESULT BackgroundCache::Stop()
 
 HRESULT BackgroundCache::DeleteCache(bool all)
 {
-    EndRendering();
-    const std::shared_ptr<ChunkStore> store = Store();
-    if (!store)
-        return E_FAIL;
-    if (all) {
-        store->Clear();
-    } else if (const Plan plan = CurrentPlan()) {
-        for (const Chunk& chunk : plan->Chunks())
-            store->Remove(chunk.key);
-    }
-    return S_OK;
+    return ComGuard([&] {
+        EndRendering();
+        const std::shared_ptr<ChunkStore> store = Store();
+        if (!store)
+            return E_FAIL;
+        if (all) {
+            store->Clear();
+        } else if (const Plan plan = CurrentPlan()) {
+            for (const Chunk& chunk : plan->Chunks())
+                store->Remove(chunk.key);
+        }
+        return S_OK;
+    });
 }
 
 HRESULT BackgroundCache::Update()
 {
-    Snapshot root;
-    if (std::this_thread::get_id() == m_editingThread)
-        root = TakeSnapshot();
-    else if (const Plan plan = CurrentPlan())
-        root = plan->Root();
-    return Analyse(root) ? S_OK : E_FAIL;
+    return ComGuard([&] {
+        Snapshot root;
+        if (std::this_thread::get_id() == m_editingThread)
+            root = TakeSnapshot();
+        else if (const Plan plan = CurrentPlan())
+            root = plan->Root();
+        return Analyse(root) ? S_OK : E_FAIL;
+    });
 }
 
 long BackgroundCache::GetCount()
 {
     m_segments.clear();
+    if (FAILED(ComGuard([this] { return ListSegments(); })))
+        m_segments.clear();
+    return long(m_segments.size());
+}
+
+HRESULT BackgroundCache::ListSegments()
+{
     const Plan plan = CurrentPlan();
     const std::shared_ptr<ChunkStore> store = Store();
     if (!plan)
-        return 0;
+        return S_OK;
     for (const Chunk& chunk : plan->Chunks()) {
         const bool isCached = store && store->Has(chunk.key);
         Segment* last = m_segments.empty() ? nullptr : &m_segments.back();
@@ -123,7 +139,7 @@ long BackgroundCache::GetCount()
         if (isCached)
             last->cachedTo = chunk.last + 1;
     }
-    return long(m_segments.size());
+    return S_OK;
 }
 
 HRESULT BackgroundCache::GetStat(int index, NLERange* range, long* valid, int* cachedTo)
@@ -141,19 +157,25 @@ HRESULT BackgroundCache::GetStat(int index, NLERange* range, long* valid, int* c
 
 HRESULT BackgroundCache::SetUpdateCallback(NLEUpdateCallback callback, void* userData)
 {
-    if (!callback) {
-        m_analyses.Clear();
+    return ComGuard([&] {
+        if (!callback) {
+            m_analyses.Clear();
+            return S_OK;
+        }
+        m_analyses.Post([this, callback, userData, root = TakeSnapshot()] {
+            Plan plan;
+            const HRESULT result = ComGuard([&] {
+                plan = Analyse(root);
+                return plan ? S_OK : E_FAIL;
+            });
+            const bool isEmpty = !plan || plan->Chunks().empty();
+            callback(static_cast<INLEBackgroundCache*>(this), result,
+                     isEmpty ? 0 : plan->Chunks().front().first,
+                     isEmpty ? -1 : plan->Chunks().back().last,
+                     isEmpty ? 0 : long(plan->FrameCount()), userData);
+        });
         return S_OK;
-    }
-    m_analyses.Post([this, callback, userData, root = TakeSnapshot()] {
-        const Plan plan = Analyse(root);
-        const bool isEmpty = !plan || plan->Chunks().empty();
-        callback(static_cast<INLEBackgroundCache*>(this), plan ? S_OK : E_FAIL,
-                 isEmpty ? 0 : plan->Chunks().front().first,
-                 isEmpty ? -1 : plan->Chunks().back().last, isEmpty ? 0 : long(plan->FrameCount()),
-                 userData);
     });
-    return S_OK;
 }
 
 HRESULT BackgroundCache::SetQuality(NLERational quality)

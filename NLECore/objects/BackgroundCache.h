@@ -61,6 +61,7 @@ private:
     std::shared_ptr<ChunkStore> Store() const;
     CacheFormat FormatFor(const Layer& root) const;
     void EndRendering();
+    HRESULT ListSegments();
 
     const CompositeNode* m_node;
     const std::thread::id m_editingThread = std::this_thread::get_id();

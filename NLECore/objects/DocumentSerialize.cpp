@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/objects/DocumentSerialize.h"
 
+#include "Com/ComGuard.h"
 #include "NLECore/media/EngineLog.h"
 #include "NLECore/model/DocumentReader.h"
 #include "NLECore/model/DocumentWriter.h"
@@ -23,32 +24,36 @@ HRESULT Report(const QString& path, const QString& reason)
 
 HRESULT DocumentSerialize::Save(INLETimeline* timeline, const wchar_t* path)
 {
-    const TimelineNode* node = TimelineNode::From(timeline);
-    if (!node || !path)
-        return E_INVALIDARG;
-    const QString name = QString::fromWCharArray(path);
-    QSaveFile file(name);
-    if (!file.open(QIODevice::WriteOnly))
-        return Report(name, file.errorString());
-    DocumentWriter(file, QFileInfo(name).absoluteDir()).Write(*node);
-    return file.commit() ? S_OK : Report(name, file.errorString());
+    return ComGuard([&] {
+        const TimelineNode* node = TimelineNode::From(timeline);
+        if (!node || !path)
+            return E_INVALIDARG;
+        const QString name = QString::fromWCharArray(path);
+        QSaveFile file(name);
+        if (!file.open(QIODevice::WriteOnly))
+            return Report(name, file.errorString());
+        DocumentWriter(file, QFileInfo(name).absoluteDir()).Write(*node);
+        return file.commit() ? S_OK : Report(name, file.errorString());
+    });
 }
 
 HRESULT DocumentSerialize::Load(const wchar_t* path, INLETimeline** timeline)
 {
-    if (!path || !timeline)
-        return E_POINTER;
-    *timeline = nullptr;
-    const QString name = QString::fromWCharArray(path);
-    QFile file(name);
-    if (!file.open(QIODevice::ReadOnly))
-        return Report(name, file.errorString());
-    DocumentReader reader(file, QFileInfo(name).absoluteDir());
-    NLEComPtr<TimelineNode> node = reader.Read();
-    if (!node)
-        return Report(name, reader.Error());
-    *timeline = node.detach();
-    return S_OK;
+    return ComGuard([&] {
+        if (!path || !timeline)
+            return E_POINTER;
+        *timeline = nullptr;
+        const QString name = QString::fromWCharArray(path);
+        QFile file(name);
+        if (!file.open(QIODevice::ReadOnly))
+            return Report(name, file.errorString());
+        DocumentReader reader(file, QFileInfo(name).absoluteDir());
+        NLEComPtr<TimelineNode> node = reader.Read();
+        if (!node)
+            return Report(name, reader.Error());
+        *timeline = node.detach();
+        return S_OK;
+    });
 }
 
 } // namespace nle

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/objects/Extractors.h"
 
+#include "Com/ComGuard.h"
 #include "NLECore/media/DecoderPool.h"
 #include "NLECore/media/WaveForm.h"
 #include "NLECore/model/CompositeNode.h"
@@ -34,54 +35,62 @@ void CopyInto(const QImage& image, const QRect& place, NLESize size, std::uint8_
 
 HRESULT FrameExtractor::Open(INLETimeline* timeline, int flags)
 {
-    Finish();
-    const TimelineNode* node = TimelineNode::From(timeline);
-    if (!node)
-        return E_INVALIDARG;
-    m_root = node->MakeSnapshot();
-    m_length = node->TotalLength();
-    m_composer.emplace(m_root);
-    const auto* composite = dynamic_cast<const CompositeNode*>(node);
-    if (composite && (flags & NLEOpen_Cached) != 0)
-        m_cached = composite->OpenCachedFrames(m_root);
-    return S_OK;
+    return ComGuard([&] {
+        Finish();
+        const TimelineNode* node = TimelineNode::From(timeline);
+        if (!node)
+            return E_INVALIDARG;
+        const Snapshot root = node->MakeSnapshot();
+        m_composer.emplace(root);
+        const auto* composite = dynamic_cast<const CompositeNode*>(node);
+        if (composite && (flags & NLEOpen_Cached) != 0)
+            m_cached = composite->OpenCachedFrames(root);
+        m_length = node->TotalLength();
+        m_root = root;
+        return S_OK;
+    });
 }
 
 HRESULT FrameExtractor::Extract(int frame, INLEVideoFrame* picture)
 {
-    if (!picture)
-        return E_POINTER;
-    NLESize size;
-    std::uint8_t* pixels = nullptr;
-    if (!HasFrame(frame) || FAILED(picture->GetSize(&size)) || FAILED(picture->GetData(&pixels)))
-        return E_FAIL;
-    QRect place = PlaceRoot(m_root->size, {size.width, size.height});
-    QImage image = m_cached ? m_cached->Picture(frame, place.size()) : QImage();
-    if (image.isNull())
-        image = m_composer->Render(frame, QSize(size.width, size.height), &place);
-    if (image.isNull())
-        return E_FAIL;
-    CopyInto(image.convertToFormat(kPictureFormat), place, size, pixels);
-    const NLERect valid = {place.x(), place.y(), place.width(), place.height()};
-    return picture->SetValidRect(&valid);
+    return ComGuard([&] {
+        if (!picture)
+            return E_POINTER;
+        NLESize size;
+        std::uint8_t* pixels = nullptr;
+        if (!HasFrame(frame) || FAILED(picture->GetSize(&size)) ||
+            FAILED(picture->GetData(&pixels)))
+            return E_FAIL;
+        QRect place = PlaceRoot(m_root->size, {size.width, size.height});
+        QImage image = m_cached ? m_cached->Picture(frame, place.size()) : QImage();
+        if (image.isNull())
+            image = m_composer->Render(frame, QSize(size.width, size.height), &place);
+        if (image.isNull())
+            return E_FAIL;
+        CopyInto(image.convertToFormat(kPictureFormat), place, size, pixels);
+        const NLERect valid = {place.x(), place.y(), place.width(), place.height()};
+        return picture->SetValidRect(&valid);
+    });
 }
 
 HRESULT FrameExtractor::ExtractAudio(int frame, INLEAudioFrame* sound)
 {
-    if (!sound)
-        return E_POINTER;
-    int count = 0;
-    int sampleRate = 0;
-    int channels = 0;
-    float* samples = nullptr;
-    if (!HasFrame(frame) || FAILED(sound->GetSampleCount(&count)) ||
-        FAILED(sound->GetSampleRate(&sampleRate)) || FAILED(sound->GetChannels(&channels)) ||
-        FAILED(sound->GetData(&samples)))
-        return E_FAIL;
-    if (!m_mixer)
-        m_mixer = std::make_unique<AudioMixer>(m_root, sampleRate, channels);
-    m_mixer->Mix(m_mixer->SampleOfFrame(frame), count, samples);
-    return S_OK;
+    return ComGuard([&] {
+        if (!sound)
+            return E_POINTER;
+        int count = 0;
+        int sampleRate = 0;
+        int channels = 0;
+        float* samples = nullptr;
+        if (!HasFrame(frame) || FAILED(sound->GetSampleCount(&count)) ||
+            FAILED(sound->GetSampleRate(&sampleRate)) || FAILED(sound->GetChannels(&channels)) ||
+            FAILED(sound->GetData(&samples)))
+            return E_FAIL;
+        if (!m_mixer)
+            m_mixer = std::make_unique<AudioMixer>(m_root, sampleRate, channels);
+        m_mixer->Mix(m_mixer->SampleOfFrame(frame), count, samples);
+        return S_OK;
+    });
 }
 
 HRESULT FrameExtractor::Finish()
@@ -104,63 +113,72 @@ HRESULT ThumbnailExtractor::SetSource(INLEMediaInfo* info, std::uint32_t videoSt
 
 HRESULT ThumbnailExtractor::Extract(int frame, NLESize wanted, INLEPicture** picture)
 {
-    if (!picture)
-        return E_POINTER;
-    *picture = nullptr;
-    const MediaStream* stream = m_media ? m_media->Stream(m_stream) : nullptr;
-    if (!stream)
-        return E_FAIL;
-    // Decoding straight to the wanted size is cheapest; enlarging is the caller's business.
-    QSize size(stream->width, stream->height);
-    if (wanted.width > 0 && wanted.height > 0 && wanted.width <= size.width() &&
-        wanted.height <= size.height())
-        size = QSize(wanted.width, wanted.height);
-    DecoderPool::Lease decoder =
-        Decoders().Acquire(m_media, m_stream, DecodePurpose::Thumbnail, frame);
-    const QImage image = decoder ? decoder->Picture(frame, size) : QImage();
-    if (image.isNull())
-        return E_FAIL;
-    *picture = MakeCom<Picture>(image).detach();
-    return S_OK;
+    return ComGuard([&] {
+        if (!picture)
+            return E_POINTER;
+        *picture = nullptr;
+        const MediaStream* stream = m_media ? m_media->Stream(m_stream) : nullptr;
+        if (!stream)
+            return E_FAIL;
+        // Decoding straight to the wanted size is cheapest; enlarging is the caller's business.
+        QSize size(stream->width, stream->height);
+        if (wanted.width > 0 && wanted.height > 0 && wanted.width <= size.width() &&
+            wanted.height <= size.height())
+            size = QSize(wanted.width, wanted.height);
+        DecoderPool::Lease decoder =
+            Decoders().Acquire(m_media, m_stream, DecodePurpose::Thumbnail, frame);
+        const QImage image = decoder ? decoder->Picture(frame, size) : QImage();
+        if (image.isNull())
+            return E_FAIL;
+        *picture = MakeCom<Picture>(image).detach();
+        return S_OK;
+    });
 }
 
 HRESULT ThumbnailExtractor::Finish()
 {
-    if (m_media)
-        Decoders().Drop(m_media->path);
-    m_media.reset();
-    return S_OK;
+    return ComGuard([&] {
+        if (m_media)
+            Decoders().Drop(m_media->path);
+        m_media.reset();
+        return S_OK;
+    });
 }
 
 HRESULT WaveExtractor::SetSource(INLEMediaInfo* info, std::uint32_t audioStream)
 {
-    m_decoder.reset();
-    const std::shared_ptr<const MediaInfo> media = MediaInfoObject::From(info);
-    if (!media)
-        return E_INVALIDARG;
-    m_decoder = AudioDecoder::Open(media, int(audioStream), nullptr);
-    return m_decoder ? S_OK : E_FAIL;
+    return ComGuard([&] {
+        m_decoder.reset();
+        const std::shared_ptr<const MediaInfo> media = MediaInfoObject::From(info);
+        if (!media)
+            return E_INVALIDARG;
+        m_decoder = AudioDecoder::Open(media, int(audioStream), nullptr);
+        return m_decoder ? S_OK : E_FAIL;
+    });
 }
 
 HRESULT WaveExtractor::Extract(double start, double length, int count, float* minima, float* maxima)
 {
-    if (!minima || !maxima)
-        return E_POINTER;
-    if (!m_decoder)
-        return E_FAIL;
-    if (count < 1 || !(std::abs(start) <= kLongestWave) || !(length > 0 && length <= kLongestWave))
-        return E_INVALIDARG;
-    // One channel: the decoder mixes down, and an envelope shows the sum of what is heard.
-    const std::vector<WavePeak> peaks =
-        ReadWaveForm(*m_decoder, std::llround(start * kWaveSampleRate),
-                     std::llround(length * kWaveSampleRate), kWaveSampleRate, 1, count);
-    if (peaks.size() != size_t(count))
-        return E_FAIL;
-    for (size_t i = 0; i < peaks.size(); ++i) {
-        minima[i] = peaks[i].min;
-        maxima[i] = peaks[i].max;
-    }
-    return S_OK;
+    return ComGuard([&] {
+        if (!minima || !maxima)
+            return E_POINTER;
+        if (!m_decoder)
+            return E_FAIL;
+        if (count < 1 || !(std::abs(start) <= kLongestWave) ||
+            !(length > 0 && length <= kLongestWave))
+            return E_INVALIDARG;
+        // One channel: the decoder mixes down, and an envelope shows the sum of what is heard.
+        const std::vector<WavePeak> peaks =
+            ReadWaveForm(*m_decoder, std::llround(start * kWaveSampleRate),
+                         std::llround(length * kWaveSampleRate), kWaveSampleRate, 1, count);
+        if (peaks.size() != size_t(count))
+            return E_FAIL;
+        for (size_t i = 0; i < peaks.size(); ++i) {
+            minima[i] = peaks[i].min;
+            maxima[i] = peaks[i].max;
+        }
+        return S_OK;
+    });
 }
 
 HRESULT WaveExtractor::Finish()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/objects/FontLibrary.h"
 
+#include "Com/ComGuard.h"
 #include "NLECore/media/FontFiles.h"
 #include "NLECore/model/PropertyBag.h"
 
@@ -14,10 +15,12 @@ namespace nle {
 
 HRESULT FontLibrary::SetCacheFile(const wchar_t* path)
 {
-    if (!path)
-        return E_POINTER;
-    Fonts().SetCacheFile(QString::fromWCharArray(path));
-    return S_OK;
+    return ComGuard([&] {
+        if (!path)
+            return E_POINTER;
+        Fonts().SetCacheFile(QString::fromWCharArray(path));
+        return S_OK;
+    });
 }
 
 HRESULT FontLibrary::SetFontFolder(const wchar_t* folder)
@@ -29,28 +32,32 @@ HRESULT FontLibrary::SetFontFolder(const wchar_t* folder)
 
 HRESULT FontLibrary::AddFontFolder(const wchar_t* folder)
 {
-    if (!folder)
-        return E_POINTER;
-    const QString path = QString::fromWCharArray(folder);
-    if (!QFileInfo(path).isDir())
-        return E_FAIL;
-    Add(Fonts().Scan(path));
-    return S_OK;
+    return ComGuard([&] {
+        if (!folder)
+            return E_POINTER;
+        const QString path = QString::fromWCharArray(folder);
+        if (!QFileInfo(path).isDir())
+            return E_FAIL;
+        Add(Fonts().Scan(path));
+        return S_OK;
+    });
 }
 
 HRESULT FontLibrary::LoadSystemFonts()
 {
-    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
-        return E_FAIL;
-    const QFontDatabase database;
-    QStringList families = database.families();
-    families.erase(std::remove_if(families.begin(), families.end(),
-                                  [&database](const QString& family) {
-                                      return database.isPrivateFamily(family);
-                                  }),
-                   families.end());
-    Add(families);
-    return S_OK;
+    return ComGuard([&] {
+        if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
+            return E_FAIL;
+        const QFontDatabase database;
+        QStringList families = database.families();
+        families.erase(std::remove_if(families.begin(), families.end(),
+                                      [&database](const QString& family) {
+                                          return database.isPrivateFamily(family);
+                                      }),
+                       families.end());
+        Add(families);
+        return S_OK;
+    });
 }
 
 HRESULT FontLibrary::GetFontCount(int* count)
@@ -60,9 +67,11 @@ HRESULT FontLibrary::GetFontCount(int* count)
 
 HRESULT FontLibrary::GetFontName(int index, wchar_t* buffer, int capacity)
 {
-    if (index < 0 || index >= m_names.size())
-        return E_INVALIDARG;
-    return CopyText(m_names[index].toStdWString(), buffer, capacity);
+    return ComGuard([&] {
+        if (index < 0 || index >= m_names.size())
+            return E_INVALIDARG;
+        return CopyText(m_names[index].toStdWString(), buffer, capacity);
+    });
 }
 
 void FontLibrary::Add(const QStringList& families)

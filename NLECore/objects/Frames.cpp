@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/objects/Frames.h"
 
+#include "Com/ComGuard.h"
+
 namespace nle {
 
 Picture::Picture(const QImage& image) : m_image(image.convertToFormat(kPictureFormat)) {}
@@ -24,11 +26,13 @@ VideoFrame::VideoFrame(NLESize size) : m_size(size), m_valid{0, 0, size.width, s
 
 HRESULT VideoFrame::Prepare()
 {
-    m_image = QImage(m_size.width, m_size.height, kPictureFormat);
-    if (m_image.isNull())
-        return E_OUTOFMEMORY;
-    m_image.fill(Qt::transparent);
-    return S_OK;
+    return ComGuard([&] {
+        m_image = QImage(m_size.width, m_size.height, kPictureFormat);
+        if (m_image.isNull())
+            return E_OUTOFMEMORY;
+        m_image.fill(Qt::transparent);
+        return S_OK;
+    });
 }
 
 HRESULT VideoFrame::GetSize(NLESize* size)

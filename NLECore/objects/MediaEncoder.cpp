@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/objects/MediaEncoder.h"
 
+#include "Com/ComGuard.h"
 #include "NLECore/media/EngineLog.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/objects/TimelineFactory.h"
@@ -78,21 +79,23 @@ QImage OnFrame(const QImage& picture, const QRect& place, const QSize& size)
 HRESULT MediaEncoder::Open(INLETimeline* timeline, const wchar_t* path,
                            const NLEEncodeSettings* settings)
 {
-    m_root.reset();
-    const TimelineNode* node = TimelineNode::From(timeline);
-    if (!node || !path)
-        return E_INVALIDARG;
-    const Snapshot root = AtFullSize(node->MakeSnapshot());
-    m_path = QString::fromWCharArray(path);
-    if (!TakeSettings(*node, *root, settings ? *settings : NLEEncodeSettings{}))
-        return E_INVALIDARG;
-    WriterError error;
-    if (!MediaWriter::Try(m_path, m_settings, &error)) {
-        Warn(error.text);
-        return ResultOf(error.kind);
-    }
-    m_root = root;
-    return S_OK;
+    return ComGuard([&] {
+        m_root.reset();
+        const TimelineNode* node = TimelineNode::From(timeline);
+        if (!node || !path)
+            return E_INVALIDARG;
+        const Snapshot root = AtFullSize(node->MakeSnapshot());
+        m_path = QString::fromWCharArray(path);
+        if (!TakeSettings(*node, *root, settings ? *settings : NLEEncodeSettings{}))
+            return E_INVALIDARG;
+        WriterError error;
+        if (!MediaWriter::Try(m_path, m_settings, &error)) {
+            Warn(error.text);
+            return ResultOf(error.kind);
+        }
+        m_root = root;
+        return S_OK;
+    });
 }
 
 bool MediaEncoder::TakeSettings(const TimelineNode& node, const Layer& root,
@@ -122,46 +125,49 @@ bool MediaEncoder::TakeSettings(const TimelineNode& node, const Layer& root,
 
 HRESULT MediaEncoder::Encode(NLEProgressCallback callback, void* userData)
 {
-    if (!m_root)
-        return E_FAIL;
-    WriterError error;
-    const std::unique_ptr<MediaWriter> writer = MediaWriter::Open(m_path, m_settings, &error);
-    Composer composer(m_root);
-    AudioMixer mixer(m_root, m_settings.sampleRate, m_settings.channels);
-    std::vector<float> sound;
-    const NLERational& ownRate = m_root->frameRate;
-    const auto length =
-        std::llround(double(NLERangeLength(m_range)) * ToDouble(m_frameRate) / ToDouble(ownRate));
-    const std::int64_t firstSample = mixer.SampleOfFrame(m_range.in);
-    const auto sampleOf = [&](std::int64_t frame) {
-        return firstSample +
-               std::llround(double(frame) * m_settings.sampleRate / ToDouble(m_frameRate));
-    };
-    bool written = writer != nullptr;
-    for (std::int64_t done = 0; written && done < length; ++done) {
-        if (callback && callback(int(done * 100 / length), userData) != 0)
-            return S_FALSE;
-        if (writer->HasPicture()) {
-            QRect place;
-            const std::int64_t frame = m_range.in + ShownFrame(double(done), m_frameRate, ownRate);
-            const QImage picture = composer.Render(frame, m_settings.size, &place);
-            written = writer->WritePicture(OnFrame(picture, place, m_settings.size));
+    return ComGuard([&] {
+        if (!m_root)
+            return E_FAIL;
+        WriterError error;
+        const std::unique_ptr<MediaWriter> writer = MediaWriter::Open(m_path, m_settings, &error);
+        Composer composer(m_root);
+        AudioMixer mixer(m_root, m_settings.sampleRate, m_settings.channels);
+        std::vector<float> sound;
+        const NLERational& ownRate = m_root->frameRate;
+        const auto length = std::llround(double(NLERangeLength(m_range)) * ToDouble(m_frameRate) /
+                                         ToDouble(ownRate));
+        const std::int64_t firstSample = mixer.SampleOfFrame(m_range.in);
+        const auto sampleOf = [&](std::int64_t frame) {
+            return firstSample +
+                   std::llround(double(frame) * m_settings.sampleRate / ToDouble(m_frameRate));
+        };
+        bool written = writer != nullptr;
+        for (std::int64_t done = 0; written && done < length; ++done) {
+            if (callback && callback(int(done * 100 / length), userData) != 0)
+                return S_FALSE;
+            if (writer->HasPicture()) {
+                QRect place;
+                const std::int64_t frame =
+                    m_range.in + ShownFrame(double(done), m_frameRate, ownRate);
+                const QImage picture = composer.Render(frame, m_settings.size, &place);
+                written = writer->WritePicture(OnFrame(picture, place, m_settings.size));
+            }
+            if (written && m_settings.hasSound) {
+                const std::int64_t first = sampleOf(done);
+                const int count = int(sampleOf(done + 1) - first);
+                sound.resize(size_t(count) * size_t(m_settings.channels));
+                mixer.Mix(first, count, sound.data());
+                written = writer->WriteSound(sound.data(), count);
+            }
         }
-        if (written && m_settings.hasSound) {
-            const std::int64_t first = sampleOf(done);
-            const int count = int(sampleOf(done + 1) - first);
-            sound.resize(size_t(count) * size_t(m_settings.channels));
-            mixer.Mix(first, count, sound.data());
-            written = writer->WriteSound(sound.data(), count);
+        if (!written || !writer->Finish()) {
+            Warn(writer ? writer->Error() : error.text);
+            return E_FAIL;
         }
-    }
-    if (!written || !writer->Finish()) {
-        Warn(writer ? writer->Error() : error.text);
-        return E_FAIL;
-    }
-    if (callback)
-        callback(100, userData);
-    return S_OK;
+        if (callback)
+            callback(100, userData);
+        return S_OK;
+    });
 }
 
 void MediaEncoder::Warn(const QString& reason) const

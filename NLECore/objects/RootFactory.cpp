@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/objects/RootFactory.h"
 
+#include "Com/ComGuard.h"
 #include "NLECore/media/DecoderPool.h"
 #include "NLECore/media/EngineLog.h"
 #include "NLECore/media/MediaLog.h"
@@ -25,10 +26,13 @@ constexpr int kMostSamples = 600 * AudioFrame::kSampleRate;
 template <typename Class, typename Interface, typename... Arguments>
 HRESULT Make(Interface** out, Arguments&&... arguments)
 {
-    if (!out)
-        return E_POINTER;
-    *out = MakeCom<Class>(std::forward<Arguments>(arguments)...).detach();
-    return S_OK;
+    return ComGuard([&] {
+        if (!out)
+            return E_POINTER;
+        *out = nullptr;
+        *out = MakeCom<Class>(std::forward<Arguments>(arguments)...).detach();
+        return S_OK;
+    });
 }
 
 template <typename Interface>
@@ -44,8 +48,10 @@ HRESULT Refuse(Interface** out, HRESULT reason = E_NOTIMPL)
 
 HRESULT RootFactory::Init(int /*flags*/)
 {
-    SetMediaLogSink([](const char* message) { qCDebug(lcEngine, "%s", message); });
-    return S_OK;
+    return ComGuard([&] {
+        SetMediaLogSink([](const char* message) { qCDebug(lcEngine, "%s", message); });
+        return S_OK;
+    });
 }
 
 HRESULT RootFactory::GetTimelineFactory(INLETimelineFactory** factory)
@@ -83,8 +89,10 @@ HRESULT RootFactory::CreateAudioFrame(int sampleCount, INLEAudioFrame** frame)
 
 HRESULT RootFactory::CreateCodecFromFile(const wchar_t* path, INLECodec** codec)
 {
-    const auto media = path ? DescribeFile(QString::fromWCharArray(path)) : nullptr;
-    return media ? Make<CodecObject>(codec, media) : Refuse(codec, E_FAIL);
+    return ComGuard([&] {
+        const auto media = path ? DescribeFile(QString::fromWCharArray(path)) : nullptr;
+        return media ? Make<CodecObject>(codec, media) : Refuse(codec, E_FAIL);
+    });
 }
 
 HRESULT RootFactory::CreateMarkBook(const wchar_t* /*path*/, INLEMarkBook** book)
@@ -129,8 +137,10 @@ HRESULT RootFactory::CreateProperties(INLEProperties** properties)
 
 HRESULT RootFactory::Shutdown(int /*flags*/)
 {
-    Decoders().Clear();
-    return S_OK;
+    return ComGuard([&] {
+        Decoders().Clear();
+        return S_OK;
+    });
 }
 
 } // namespace nle

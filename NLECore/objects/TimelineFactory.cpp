@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/objects/TimelineFactory.h"
 
+#include "Com/ComGuard.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/SourceNodes.h"
@@ -32,33 +33,39 @@ HRESULT TimelineFactory::GetDefaultProfile(tagNLEProjectProfile* profile)
 
 HRESULT TimelineFactory::CreateProject(const tagNLEProjectProfile* profile, INLETimeline** project)
 {
-    if (!profile || !project)
-        return E_POINTER;
-    *project = nullptr;
-    if (!ProjectNode::IsValid(*profile))
-        return E_INVALIDARG;
-    return Give(MakeCom<ProjectNode>(*profile), project);
+    return ComGuard([&] {
+        if (!profile || !project)
+            return E_POINTER;
+        *project = nullptr;
+        if (!ProjectNode::IsValid(*profile))
+            return E_INVALIDARG;
+        return Give(MakeCom<ProjectNode>(*profile), project);
+    });
 }
 
 HRESULT TimelineFactory::CreateMedia(const wchar_t* path, INLETimeline** clip)
 {
-    if (!path || !clip)
-        return E_POINTER;
-    *clip = nullptr;
-    const QString file = QDir::fromNativeSeparators(QString::fromWCharArray(path));
-    if (file.isEmpty())
-        return E_INVALIDARG;
-    const auto media = QFileInfo::exists(file) ? DescribeFile(file) : OfflineMedia(file);
-    return media ? Give(MakeCom<MediaClip>(media), clip) : E_FAIL;
+    return ComGuard([&] {
+        if (!path || !clip)
+            return E_POINTER;
+        *clip = nullptr;
+        const QString file = QDir::fromNativeSeparators(QString::fromWCharArray(path));
+        if (file.isEmpty())
+            return E_INVALIDARG;
+        const auto media = QFileInfo::exists(file) ? DescribeFile(file) : OfflineMedia(file);
+        return media ? Give(MakeCom<MediaClip>(media), clip) : E_FAIL;
+    });
 }
 
 HRESULT TimelineFactory::CreateFromTemplate(const wchar_t* folder, INLETimeline** project)
 {
-    if (!folder || !project)
-        return E_POINTER;
-    const QDir directory(QString::fromWCharArray(folder));
-    DocumentSerialize document;
-    return document.Load(directory.filePath(kTemplateDocument).toStdWString().c_str(), project);
+    return ComGuard([&] {
+        if (!folder || !project)
+            return E_POINTER;
+        const QDir directory(QString::fromWCharArray(folder));
+        DocumentSerialize document;
+        return document.Load(directory.filePath(kTemplateDocument).toStdWString().c_str(), project);
+    });
 }
 
 HRESULT TimelineFactory::CreateAudioFilter(const wchar_t* /*name*/, INLETimeline** filter)
@@ -72,32 +79,42 @@ HRESULT TimelineFactory::CreateAudioFilter(const wchar_t* /*name*/, INLETimeline
 HRESULT TimelineFactory::CreateColor(std::uint32_t argb, NLESize size, float frameRate,
                                      INLETimeline** clip)
 {
-    if (!clip)
-        return E_POINTER;
-    *clip = nullptr;
-    const NLERational rate = RateFromDouble(frameRate);
-    if (size.width < 1 || size.height < 1 || !IsRate(rate))
-        return E_INVALIDARG;
-    return Give(MakeCom<ColorClip>(argb, size, rate), clip);
+    return ComGuard([&] {
+        if (!clip)
+            return E_POINTER;
+        *clip = nullptr;
+        const NLERational rate = RateFromDouble(frameRate);
+        if (size.width < 1 || size.height < 1 || !IsRate(rate))
+            return E_INVALIDARG;
+        return Give(MakeCom<ColorClip>(argb, size, rate), clip);
+    });
 }
 
 HRESULT TimelineFactory::CreateTipText(const wchar_t* text, const wchar_t* family,
                                        INLETimeline** clip)
 {
-    if (!text || !family || !clip)
-        return E_POINTER;
-    return Give(MakeCom<TextClip>(QString::fromWCharArray(text), QString::fromWCharArray(family),
-                                  kDefaultProfile.frameSize, kDefaultProfile.frameRate),
-                clip);
+    return ComGuard([&] {
+        if (!text || !family || !clip)
+            return E_POINTER;
+        *clip = nullptr;
+        return Give(MakeCom<TextClip>(QString::fromWCharArray(text),
+                                      QString::fromWCharArray(family), kDefaultProfile.frameSize,
+                                      kDefaultProfile.frameRate),
+                    clip);
+    });
 }
 
 HRESULT TimelineFactory::CreateVirtual(int type, INLETimeline** timeline)
 {
-    if (!timeline)
-        return E_POINTER;
-    NLEComPtr<CompositeNode> node = MakeCom<CompositeNode>(kDefaultProfile.frameRate);
-    node->Bag().SetString(kTimelineTypeKey, std::to_wstring(type).c_str());
-    return Give(std::move(node), timeline);
+    return ComGuard([&] {
+        if (!timeline)
+            return E_POINTER;
+        *timeline = nullptr;
+        NLEComPtr<CompositeNode> node = MakeCom<CompositeNode>(kDefaultProfile.frameRate);
+        const HRESULT named =
+            node->Bag().SetString(kTimelineTypeKey, std::to_wstring(type).c_str());
+        return FAILED(named) ? named : Give(std::move(node), timeline);
+    });
 }
 
 } // namespace nle

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/render/CacheRenderer.h"
 
+#include "Com/ComGuard.h"
 #include "NLECore/media/EngineLog.h"
 #include "NLECore/render/Composer.h"
 #include "NLECore/render/ThreadPriority_p.h"
@@ -51,12 +52,12 @@ struct CacheRenderer::Worker
 
 CacheRenderer::CacheRenderer(std::shared_ptr<const ChunkPlan> plan,
                              std::shared_ptr<ChunkStore> store, const CacheLimits& limits,
-                             Report report)
+                             Report report, KeySet keep)
     : m_plan(std::move(plan))
     , m_store(std::move(store))
     , m_limits(limits)
     , m_report(std::move(report))
-    , m_keep(m_plan->Keys())
+    , m_keep(std::move(keep))
     , m_decoders(kDecodersPerThread * ThreadCount(), kDecoderThreads)
 {
     KeySet seen;
@@ -66,6 +67,14 @@ CacheRenderer::CacheRenderer(std::shared_ptr<const ChunkPlan> plan,
         if (!m_store->Has(key) && seen.insert(key).second)
             m_pending.insert(index);
     }
+}
+
+// Should a thread not start, the object is whole already, and its destructor ends the others.
+CacheRenderer::CacheRenderer(std::shared_ptr<const ChunkPlan> plan,
+                             std::shared_ptr<ChunkStore> store, const CacheLimits& limits,
+                             Report report)
+    : CacheRenderer(plan, std::move(store), limits, std::move(report), plan->Keys())
+{
     const std::lock_guard<std::mutex> lock(m_mutex);
     ReportProgress(CacheState::Caching);
     m_working = ThreadCount();
@@ -90,6 +99,17 @@ void CacheRenderer::Stop()
 void CacheRenderer::Run(int number)
 {
     LowerThreadPriority();
+    const HRESULT result = ComGuard([&] {
+        RenderChunks(number);
+        return S_OK;
+    });
+    if (FAILED(result))
+        End(CacheState::Stopped);
+    EndWorker();
+}
+
+void CacheRenderer::RenderChunks(int number)
+{
     const QRect place = PlaceRoot(m_plan->Root()->size, m_plan->Format().size);
     Worker worker{Composer(m_plan->Root(), m_decoders),
                   PictureEncoder::Open(place.size(), m_plan->Coding()), 0};
@@ -99,12 +119,11 @@ void CacheRenderer::Run(int number)
     for (std::optional<int> next = Take(last); next; next = Take(last)) {
         last = *next;
         if (const auto failure = RenderChunk(m_plan->Chunks()[std::size_t(last)], worker))
-            return End(*failure), EndWorker();
+            return End(*failure);
         const std::lock_guard<std::mutex> lock(m_mutex);
         if (!m_isEnding)
             ReportProgress(CacheState::Caching);
     }
-    EndWorker();
 }
 
 // Chunks in a row need no seek, and no other decoder. Who has come to the end of a row begins in
@@ -209,7 +228,11 @@ void CacheRenderer::ReportProgress(CacheState state)
     // A hundred means that the run has ended, and this one is told before its end.
     progress.percent =
         state == CacheState::Finished ? int(percent) : int(std::min<std::int64_t>(percent, 99));
-    m_report(progress);
+    // For lack of memory a report is left out; a thread has nobody to throw to.
+    ComGuard([&] {
+        m_report(progress);
+        return S_OK;
+    });
 }
 
 } // namespace nle

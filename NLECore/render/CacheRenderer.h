@@ -54,7 +54,13 @@ public:
 private:
     struct Worker;
 
+    /// As the public one, without threads yet.
+    CacheRenderer(std::shared_ptr<const ChunkPlan> plan, std::shared_ptr<ChunkStore> store,
+                  const CacheLimits& limits, Report report, KeySet keep);
+
     void Run(int number);
+    /// Renders until nothing is left or the run ends.
+    void RenderChunks(int number);
     /// Empty when the frame cannot be drawn or encoded.
     QByteArray EncodeFrame(int frame, Worker& worker) const;
     /// The state that ends the run; none when the chunk is in the store, or not worth trying again,

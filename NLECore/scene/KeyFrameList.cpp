@@ -69,18 +69,22 @@ int KeyFrameList::Put(const NLEKeyFrameRecord& record)
         m_chunks[place.chunk][place.offset] = record;
         return index;
     }
-    if (m_chunks.empty())
-        m_chunks.emplace_back();
+    if (m_chunks.empty()) {
+        m_chunks.emplace_back(1, record);
+        ++m_count;
+        return index;
+    }
     if (place.chunk == m_chunks.size())
         place = {m_chunks.size() - 1, m_chunks.back().size()};
     Chunk& chunk = m_chunks[place.chunk];
     chunk.insert(chunk.begin() + std::ptrdiff_t(place.offset), record);
     ++m_count;
     if (chunk.size() > kMostInChunk) {
-        const auto middle = chunk.begin() + std::ptrdiff_t(chunk.size() / 2);
-        Chunk upper(middle, chunk.end());
-        chunk.erase(middle, chunk.end());
-        m_chunks.insert(m_chunks.begin() + std::ptrdiff_t(place.chunk) + 1, std::move(upper));
+        const auto half = std::ptrdiff_t(chunk.size() / 2);
+        m_chunks.insert(m_chunks.begin() + std::ptrdiff_t(place.chunk) + 1,
+                        Chunk(chunk.begin() + half, chunk.end()));
+        Chunk& lower = m_chunks[place.chunk];
+        lower.erase(lower.begin() + half, lower.end());
     }
     return index;
 }
