@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "PortableDevices/DeviceWorker.h"
 
+#include "Com/ComGuard.h"
+
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <map>
 #include <mutex>
-#include <new>
 #include <thread>
 
 namespace devices {
@@ -111,11 +112,7 @@ HRESULT DeviceWorker::State::resultOf(const Job& job)
         return kDeviceGone;
     if (g_cancellable_is_cancelled(job.cancellable.get()))
         return kCancelled;
-    HRESULT result = E_OUTOFMEMORY;
-    try {
-        result = job.task(*session, job.cancellable.get());
-    } catch (const std::bad_alloc&) {
-    }
+    const HRESULT result = ComGuard([&] { return job.task(*session, job.cancellable.get()); });
     if (SUCCEEDED(result)) {
         isOpened = true;
         return result;
