@@ -134,8 +134,7 @@ int main(int argc, char* argv[])
         Program::tr("FILE"));
     const QCommandLineOption echo(QStringLiteral("echo"), Program::tr("Print the log as well."));
     parser.addOptions({help, output, log, echo, HostLanguage::Option()});
-    parser.addPositionalArgument(QStringLiteral("MEDIA"), Program::tr("Media files."),
-                                 Program::tr("MEDIA…"));
+    parser.addPositionalArgument(Program::tr("MEDIA…"), Program::tr("Media files."));
 
     Console console;
     const bool understood = parser.parse(QCoreApplication::arguments());

@@ -3,8 +3,12 @@
 #include "Host/Gallery/GalleryWindow.h"
 
 #include <QComboBox>
+#include <QCommandLineParser>
+#include <QDialogButtonBox>
 #include <QFontInfo>
 #include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
 #include <QTreeWidget>
 #include <QtTest>
 
@@ -40,6 +44,19 @@ private:
         }
         return texts;
     }
+    /// What the toolkit itself says: of \a dialog's buttons, in a field's menu, on a command line.
+    static QStringList ToolkitTexts(const QDialogButtonBox& dialog)
+    {
+        QStringList texts{QCommandLineParser().helpText()};
+        for (const QAbstractButton* button : dialog.buttons())
+            texts << button->text();
+        QLineEdit field("text");
+        const QScopedPointer<QMenu> menu(field.createStandardContextMenu());
+        for (const QAction* action : menu->actions())
+            texts << action->text().section('\t', 0, 0);
+        texts.removeAll(QString()); // separators
+        return texts;
+    }
 
 private Q_SLOTS:
     void initTestCase()
@@ -69,6 +86,36 @@ private Q_SLOTS:
             if (english.contains(text) && text.contains(words) && !text.contains(own))
                 QVERIFY2(fonts.contains(text.section(": ", 1)), qPrintable(text));
         }
+    }
+
+    void toolkitFollows_data()
+    {
+        QTest::addColumn<int>("language");
+        int count = 0;
+        const LangConstInfo* info = GetGlobalLangConstInfos(count);
+        for (const LangConstInfo* row = info; row < info + count; ++row) {
+            if (row->locale != Language_English)
+                QTest::newRow(qPrintable(row->englishName)) << int(row->locale);
+        }
+    }
+
+    void toolkitFollows()
+    {
+        QFETCH(int, language);
+        if (!HAS_QT_TRANSLATIONS)
+            QSKIP("built without Qt's translations");
+        MultiLangMgr* languages = MultiLangMgr::GetInstance();
+        languages->SetLangLocale(Language_English);
+        QDialogButtonBox dialog(QDialogButtonBox::Save | QDialogButtonBox::Discard |
+                                QDialogButtonBox::Cancel);
+        dialog.show();
+        const QStringList english = ToolkitTexts(dialog);
+        languages->SetLangLocale(Language_Locale(language));
+        QCoreApplication::processEvents();
+        const QStringList texts = ToolkitTexts(dialog);
+        QCOMPARE(texts.size(), english.size());
+        for (const QString& text : texts)
+            QVERIFY2(!english.contains(text), qPrintable(text));
     }
 };
 

@@ -76,6 +76,17 @@ private slots:
         }
     }
 
+    void helpIsInTheChosenLanguage()
+    {
+        const QString english = runHost({"--help"}).text;
+        QVERIFY(english.contains("MEDIA") && english.contains("Usage:"));
+        if (!HAS_QT_TRANSLATIONS)
+            QSKIP("built without Qt's translations");
+        const QString german = runHost({"--language", "German", "--help"}).text;
+        for (const char* word : {"Usage", "[options]", "Options:", "Arguments:", "MEDIA"})
+            QVERIFY2(!german.isEmpty() && !german.contains(word), qPrintable(german));
+    }
+
     void unusableFilesAreExplained()
     {
         QVERIFY(QDir().mkpath(path("folder.mp4")));

@@ -21,6 +21,12 @@ step(${CMAKE_COMMAND} -S ${SOURCE} -B ${WORK}/build -G Ninja -DCMAKE_CXX_FLAGS=$
   -DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN}
   -DCMAKE_FIND_ROOT_PATH=${WORK}/prefix -DCMAKE_PREFIX_PATH=${WORK}/prefix)
 step(${CMAKE_COMMAND} --build ${WORK}/build)
+# The package's host has what the library's own has of Qt's translations.
+foreach(language IN ITEMS de zhh)
+  if(EXISTS ${BUILD}/bin/Lang/${language}/Qt.qm AND NOT EXISTS ${WORK}/build/Lang/${language}/Qt.qm)
+    message(FATAL_ERROR "Qt's translation is missing: ${WORK}/build/Lang/${language}/Qt.qm")
+  endif()
+endforeach()
 file(GLOB libraries ${WORK}/prefix/bin/*.dll)
 if(libraries)
   file(COPY ${libraries} DESTINATION ${WORK}/build)
