@@ -7,6 +7,8 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include <algorithm>
+
 HostLanguage::HostLanguage()
 {
     QCommandLineParser parser;
@@ -27,7 +29,19 @@ HostLanguage::~HostLanguage()
 void HostLanguage::Select(Language_Locale locale)
 {
     gSetArgLang(locale == Language_Arabic);
+    int count = 0;
+    const LangConstInfo* rows = GetGlobalLangConstInfos(count);
+    const auto* found = std::find_if(
+        rows, rows + count, [locale](const LangConstInfo& row) { return row.locale == locale; });
+    // Before the texts change: windows ask for it as they do.
+    if (found != rows + count)
+        QLocale::setDefault(LocaleOf(*found));
     MultiLangMgr::GetInstance()->SetLangLocale(locale);
+}
+
+QLocale HostLanguage::LocaleOf(const LangConstInfo& info)
+{
+    return QLocale(info.langCode + QLatin1Char('_') + info.regionCode);
 }
 
 QCommandLineOption HostLanguage::Option()

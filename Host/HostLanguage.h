@@ -4,6 +4,7 @@
 #include "CommonLib/LangConstInfo.h"
 
 #include <QCommandLineOption>
+#include <QLocale>
 #include <QString>
 
 class QCommandLineParser;
@@ -20,8 +21,11 @@ public:
     HostLanguage(const HostLanguage&) = delete;
     HostLanguage& operator=(const HostLanguage&) = delete;
 
-    /// Selects a language, and tells the library which way it is read.
+    /// Selects a language, makes its way to write numbers and dates the default one, and tells the
+    /// library which way it is read. Windows that are open keep the locale they have.
     static void Select(Language_Locale locale);
+    /// How numbers and dates are written in the language of \a info.
+    static QLocale LocaleOf(const LangConstInfo& info);
 
     /// For the program's own parser, which then knows the option and describes it.
     static QCommandLineOption Option();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/CommonLib.h"
 #include "Host/Gallery/GalleryWindow.h"
+#include "Host/HostLanguage.h"
 
 #include <QComboBox>
 #include <QCommandLineParser>
@@ -8,6 +9,7 @@
 #include <QFontInfo>
 #include <QLineEdit>
 #include <QMenu>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QtTest>
@@ -86,6 +88,76 @@ private Q_SLOTS:
             if (english.contains(text) && text.contains(words) && !text.contains(own))
                 QVERIFY2(fonts.contains(text.section(": ", 1)), qPrintable(text));
         }
+    }
+
+    /// A folder stands for a device; the second file is so large that the import of it is
+    /// cancelled.
+    void importPage()
+    {
+#ifdef Q_OS_WIN
+        QSKIP("the system has no device to import from");
+#endif
+        const qint64 size = qint64(2) << 30;
+        const QString large = m_folder.filePath("card/b.mov");
+        QVERIFY(QDir(m_folder.path()).mkdir("card"));
+        QFile small(m_folder.filePath("card/a.mov"));
+        QVERIFY(small.open(QIODevice::WriteOnly) && small.write("clip") == 4);
+        small.close();
+        QFile sparse(large);
+        QVERIFY(sparse.open(QIODevice::WriteOnly) && sparse.resize(size));
+        sparse.close();
+        qputenv("COMMONLIB_DEVICE_FOLDERS", QFile::encodeName(m_folder.filePath("card")));
+        qputenv("HOME", QFile::encodeName(m_folder.path())); // where the page imports to
+
+        HostLanguage::Select(Language_English);
+        GalleryWindow window;
+        QVERIFY(window.ShowPage("import"));
+        window.show();
+        const auto button = [&window](const char* text) {
+            for (auto* found : window.findChildren<QPushButton*>()) {
+                if (found->text() == QCoreApplication::translate("ImportPage", text))
+                    return found;
+            }
+            qFatal("no such button");
+        };
+        auto* tree = window.findChild<QTreeWidget*>();
+        QTRY_COMPARE(tree->findItems("?.mov", Qt::MatchWildcard | Qt::MatchRecursive).size(), 2);
+        for (const Language_Locale language : {Language_Swedish, Language_German}) {
+            HostLanguage::Select(language);
+            QCoreApplication::processEvents();
+            const QLocale locale =
+                HostLanguage::LocaleOf(MultiLangMgr::GetInstance()->GetLangConstInfo());
+            const QTreeWidgetItem* item = tree->findItems("b.mov", Qt::MatchRecursive).value(0);
+            QCOMPARE(item->text(1), locale.formattedDataSize(size, 1));
+            // A device tells whole seconds, rounded its way.
+            const QDateTime modified = QFileInfo(large).lastModified();
+            const auto text = [&](int seconds) {
+                return locale.toString(modified.addSecs(seconds), QLocale::ShortFormat);
+            };
+            QVERIFY2(item->text(2) == text(0) || item->text(2) == text(1),
+                     qPrintable(item->text(2)));
+        }
+
+        tree->topLevelItem(0)->setCheckState(0, Qt::Checked);
+        QTRY_VERIFY(button("Import")->isEnabled());
+        const QSize before = window.size();
+        QSize during;
+        auto* progress = window.findChild<QProgressBar*>();
+        connect(progress, &QProgressBar::valueChanged, this, [&](int value) {
+            during = window.size();
+            if (value > 0)
+                button("Cancel")->click();
+        });
+        button("Import")->click();
+        QTRY_VERIFY(during.isValid() && progress->isHidden());
+        QCoreApplication::processEvents();
+        QVERIFY2(during == before && window.size() == before, "the window has grown");
+        const auto mark = [tree](const char* name) {
+            return tree->findItems(name, Qt::MatchRecursive).value(0)->checkState(0);
+        };
+        QCOMPARE(mark("a.mov"), Qt::Unchecked);
+        QCOMPARE(mark("b.mov"), Qt::Checked);
+        QVERIFY(button("Import")->isEnabled());
     }
 
     void toolkitFollows_data()

@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QLocale>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -77,6 +78,7 @@ bool GalleryWindow::ShowPage(const QString& name)
 
 void GalleryWindow::SetTexts()
 {
+    setLocale(QLocale()); // the language's; what is in the window takes it over
     setWindowTitle(tr("CommonLib widgets"));
     m_list->setAccessibleName(tr("Pages"));
     for (int row = 0; row < m_list->count(); ++row)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Gallery/ImportPage.h"
 
+#include "CommonLib/StringOperation.h"
 #include "Host/Gallery/ImportTarget.h"
 #include "Host/Gallery/ImportTree.h"
 #include "Host/Gallery/KeepTranslated.h"
@@ -22,6 +23,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <unordered_set>
 #include <utility>
 
 namespace {
@@ -118,9 +120,11 @@ void ImportPage::BuildLayout()
     folder->addWidget(m_folderLabel);
     folder->addWidget(m_folder, 1);
     folder->addWidget(m_folderButton);
+    // A long text must not make the window wider.
+    m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto* actions = new QHBoxLayout;
-    actions->addWidget(m_status, 1);
     actions->addWidget(m_deleteBox);
+    actions->addStretch(1);
     actions->addWidget(m_progress);
     actions->addWidget(m_cancelButton);
     actions->addWidget(m_importButton);
@@ -129,6 +133,7 @@ void ImportPage::BuildLayout()
     layout->addLayout(devices);
     layout->addWidget(m_stack, 1);
     layout->addLayout(folder);
+    layout->addWidget(m_status);
     layout->addLayout(actions);
 }
 
@@ -163,6 +168,12 @@ void ImportPage::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
     if (m_state == State::NoDevice)
         m_session.List(); // the first look at the devices, not at the start of the program
+}
+
+void ImportPage::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    ShowStatus();
 }
 
 void ImportPage::SetState(State state)
@@ -215,7 +226,15 @@ void ImportPage::Say(Text status)
 
 void ImportPage::ShowStatus()
 {
-    m_status->setText(m_statusText ? m_statusText() : QString());
+    const QString text = m_statusText ? m_statusText() : QString();
+    m_status->setText(StringOperation::GetElidedString(m_status->font(), m_status->width(), text,
+                                                       Qt::ElideRight));
+    m_status->setToolTip(m_status->text() == text ? QString() : text);
+}
+
+QString ImportPage::AfterResult(const QString& text) const
+{
+    return m_lastResult ? m_lastResult() + ' ' + text : text;
 }
 
 void ImportPage::UpdateButtons()
@@ -237,11 +256,12 @@ void ImportPage::UpdateButtons()
         bytes += file.size;
     if (!files.isEmpty())
         Say([this, count = files.size(), bytes] {
-            return tr("Chosen files: %1 (%2)").arg(count).arg(SizeText(*this, bytes));
+            return AfterResult(
+                tr("Chosen files: %1 (%2)").arg(locale().toString(count), SizeText(*this, bytes)));
         });
     else if (m_state == State::Reading)
-        Say([count = m_tree->FileCount()] {
-            return tr("Reading the content… %1 files").arg(count);
+        Say([this, count = m_tree->FileCount()] {
+            return tr("Reading the content… %1 files").arg(locale().toString(count));
         });
     else if (m_state == State::Ready)
         Say(m_idleText);
@@ -282,6 +302,7 @@ void ImportPage::Choose(int index)
 
 void ImportPage::OpenChosen(const QVector<std::wstring>& toDelete)
 {
+    m_leftToImport.clear();
     m_session.Stop(); // the content of another device may be on its way
     if (!toDelete.isEmpty())
         m_session.Delete(toDelete);
@@ -295,12 +316,12 @@ void ImportPage::TakeContentEnd(bool isWhole)
 {
     if (m_state != State::Reading)
         return;
-    m_idleText = [isWhole, count = m_tree->FileCount(), result = m_lastResult] {
-        const QString text = isWhole
-                                 ? tr("%1 files on the device").arg(count)
-                                 : tr("The device stopped answering; this may not be all of it.");
-        return result ? result() + ' ' + text : text;
+    m_idleText = [this, isWhole, count = m_tree->FileCount()] {
+        return AfterResult(isWhole
+                               ? tr("%1 files on the device").arg(locale().toString(count))
+                               : tr("The device stopped answering; this may not be all of it."));
     };
+    m_tree->Mark(m_leftToImport);
     SetState(State::Ready);
 }
 
@@ -359,9 +380,10 @@ void ImportPage::TakeProgress(quint64 bytes)
 
 void ImportPage::TakeResult(const ImportResult& result)
 {
-    m_lastResult = [result, wasRemoved = m_state == State::Removed] {
-        QString count =
-            tr("Imported files: %1 of %2.").arg(result.importedIds.size()).arg(result.wanted);
+    m_lastResult = [this, result, wasRemoved = m_state == State::Removed] {
+        const QString count = tr("Imported files: %1 of %2.")
+                                  .arg(locale().toString(result.importedIds.size()),
+                                       locale().toString(result.wanted));
         if (wasRemoved)
             return tr("The device was removed during the import.") + ' ' + count;
         if (result.isStopped)
@@ -372,13 +394,29 @@ void ImportPage::TakeResult(const ImportResult& result)
     };
     m_idleText = m_lastResult;
     Say(m_lastResult);
-    if (m_state == State::Importing) {
-        SetState(State::Ready);
-        if (m_deleteBox->isChecked() && !result.importedIds.isEmpty())
-            OpenChosen(result.importedIds); // shows what is left
-        else
-            m_tree->UnmarkAll(); // what is imported is not wanted again
+    if (m_state != State::Importing)
+        return;
+    const QVector<std::wstring> left = NotImported(result);
+    if (m_deleteBox->isChecked() && !result.importedIds.isEmpty()) {
+        OpenChosen(result.importedIds); // shows what is left
+        m_leftToImport = left;
+        return;
     }
+    m_tree->UnmarkAll(); // what is imported is not wanted again
+    m_tree->Mark(left);
+    SetState(State::Ready);
+}
+
+QVector<std::wstring> ImportPage::NotImported(const ImportResult& result) const
+{
+    const std::unordered_set<std::wstring> imported(result.importedIds.begin(),
+                                                    result.importedIds.end());
+    QVector<std::wstring> left;
+    for (const ImportTree::File& file : m_tree->MarkedFiles()) {
+        if (imported.count(file.id) == 0)
+            left.append(file.id);
+    }
+    return left;
 }
 
 void ImportPage::TakeRemoval()

@@ -28,6 +28,7 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     enum class State
@@ -51,6 +52,8 @@ private:
     void ShowNotice();
     void Say(Text status);
     void ShowStatus();
+    /// \a text behind what came of the last import, if there was one.
+    QString AfterResult(const QString& text) const;
     void UpdateButtons();
 
     void TakeDevices(const QVector<ImportDevice>& devices);
@@ -59,6 +62,8 @@ private:
     void StartImport();
     void TakeProgress(quint64 bytes);
     void TakeResult(const ImportResult& result);
+    /// The marked files that \a result does not tell of as imported.
+    QVector<std::wstring> NotImported(const ImportResult& result) const;
     void TakeRemoval();
     void OpenChosen(const QVector<std::wstring>& toDelete = {});
     bool CanImportInto(const QString& folder);
@@ -71,7 +76,8 @@ private:
     std::wstring m_chosen; ///< identifier of the device that is shown
     QString m_chosenName;  ///< its own, which may be empty
     quint64 m_bytesToImport = 0;
-    Text m_statusText; ///< what the page says now; null for nothing
+    QVector<std::wstring> m_leftToImport; ///< to be marked once the content has been read again
+    Text m_statusText;                    ///< what the page says now; null for nothing
     Text m_lastResult; ///< what came of the last import from the device that is shown
     Text m_idleText;   ///< said of the content while no file is chosen
 

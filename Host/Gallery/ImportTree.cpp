@@ -30,7 +30,8 @@ enum Role
 {
     IdRole = Qt::UserRole,
     SizeRole,
-    FolderRole
+    FolderRole,
+    DateRole
 };
 
 std::wstring IdOf(const QTreeWidgetItem& item)
@@ -68,6 +69,8 @@ ImportTree::ImportTree(QWidget* parent)
     KeepTranslated(this, [this] {
         setHeaderLabels({tr("Name"), tr("Size"), tr("Modified")});
         setAccessibleName(tr("Content of the device"));
+        for (const auto& [id, item] : m_items)
+            SetFacts(*item);
     });
     setIconSize(kIcon);
     setUniformRowHeights(true);
@@ -140,12 +143,20 @@ QTreeWidgetItem* ImportTree::MakeItem(const ImportObject& object) const
     item->setData(NameColumn, IdRole, QVariant::fromValue(object.id));
     item->setData(NameColumn, SizeRole, object.size);
     item->setData(NameColumn, FolderRole, object.isFolder);
-    if (object.size > 0)
-        item->setText(SizeColumn, locale().formattedDataSize(static_cast<qint64>(object.size), 1));
+    item->setData(NameColumn, DateRole, object.modified);
     item->setTextAlignment(SizeColumn, Qt::AlignRight | Qt::AlignVCenter);
-    if (object.modified.isValid())
-        item->setText(DateColumn, locale().toString(object.modified, QLocale::ShortFormat));
+    SetFacts(*item);
     return item;
+}
+
+void ImportTree::SetFacts(QTreeWidgetItem& item) const
+{
+    const qint64 size = item.data(NameColumn, SizeRole).toLongLong();
+    if (size > 0)
+        item.setText(SizeColumn, locale().formattedDataSize(size, 1));
+    const QDateTime modified = item.data(NameColumn, DateRole).toDateTime();
+    if (modified.isValid())
+        item.setText(DateColumn, locale().toString(modified, QLocale::ShortFormat));
 }
 
 void ImportTree::SetThumbnail(const std::wstring& objectId, const QImage& image)
@@ -180,6 +191,15 @@ QVector<ImportTree::File> ImportTree::MarkedFiles() const
                 {IdOf(item), item.text(NameColumn), item.data(NameColumn, SizeRole).toULongLong()});
     });
     return files;
+}
+
+void ImportTree::Mark(const QVector<std::wstring>& ids)
+{
+    for (const std::wstring& id : ids) {
+        const auto found = m_items.find(id);
+        if (found != m_items.end())
+            found->second->setCheckState(NameColumn, Qt::Checked);
+    }
 }
 
 void ImportTree::UnmarkAll()

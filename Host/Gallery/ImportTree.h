@@ -32,6 +32,8 @@ public:
     void SetThumbnail(const std::wstring& objectId, const QImage& image);
     /// The marked files, in the order of the device.
     QVector<File> MarkedFiles() const;
+    /// Marks those objects of \a ids that are there.
+    void Mark(const QVector<std::wstring>& ids);
     void UnmarkAll();
     /// Number of files.
     int FileCount() const;
@@ -47,6 +49,8 @@ protected:
 
 private:
     QTreeWidgetItem* MakeItem(const ImportObject& object) const;
+    /// Writes size and date as the language does.
+    void SetFacts(QTreeWidgetItem& item) const;
     void WantThumbnails();
     bool IsFile(const QTreeWidgetItem& item) const;
 

@@ -12,7 +12,6 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -36,8 +35,7 @@ constexpr int kSampleColumns = 2;
 /// Each language in its own words, and in English for whoever ended up in the wrong one.
 QString LanguageName(const LangConstInfo& info)
 {
-    const QString own =
-        QLocale(info.langCode + QLatin1Char('_') + info.regionCode).nativeLanguageName();
+    const QString own = HostLanguage::LocaleOf(info).nativeLanguageName();
     return QStringLiteral("%1 (%2)").arg(own, info.englishName);
 }
 
@@ -129,5 +127,5 @@ void LanguagePage::ShowFacts()
     m_drawnIn->setText(QFontInfo(font()).family());
     m_direction->setText(layoutDirection() == Qt::RightToLeft ? tr("right to left")
                                                               : tr("left to right"));
-    m_counted->setText(tr("%n clip(s) selected", nullptr, m_count->value()));
+    m_counted->setText(tr("%Ln clip(s) selected", nullptr, m_count->value()));
 }

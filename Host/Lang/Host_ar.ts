@@ -534,14 +534,14 @@
         <translation>من اليسار إلى اليمين</translation>
     </message>
     <message numerus="yes">
-        <source>%n clip(s) selected</source>
+        <source>%Ln clip(s) selected</source>
         <translation>
             <numerusform>لم يُحدَّد أي مقطع</numerusform>
             <numerusform>حُدِّد مقطع واحد</numerusform>
             <numerusform>حُدِّد مقطعان</numerusform>
-            <numerusform>حُدِّدت %n مقاطع</numerusform>
-            <numerusform>حُدِّد %n مقطعًا</numerusform>
-            <numerusform>حُدِّد %n مقطع</numerusform>
+            <numerusform>حُدِّدت %Ln مقاطع</numerusform>
+            <numerusform>حُدِّد %Ln مقطعًا</numerusform>
+            <numerusform>حُدِّد %Ln مقطع</numerusform>
         </translation>
     </message>
 </context>

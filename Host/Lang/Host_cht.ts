@@ -534,9 +534,9 @@
         <translation>由左至右</translation>
     </message>
     <message numerus="yes">
-        <source>%n clip(s) selected</source>
+        <source>%Ln clip(s) selected</source>
         <translation>
-            <numerusform>已選取 %n 個片段</numerusform>
+            <numerusform>已選取 %Ln 個片段</numerusform>
         </translation>
     </message>
 </context>

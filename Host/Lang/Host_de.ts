@@ -534,10 +534,10 @@
         <translation>von links nach rechts</translation>
     </message>
     <message numerus="yes">
-        <source>%n clip(s) selected</source>
+        <source>%Ln clip(s) selected</source>
         <translation>
-            <numerusform>%n Clip ausgewählt</numerusform>
-            <numerusform>%n Clips ausgewählt</numerusform>
+            <numerusform>%Ln Clip ausgewählt</numerusform>
+            <numerusform>%Ln Clips ausgewählt</numerusform>
         </translation>
     </message>
 </context>

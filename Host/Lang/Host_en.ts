@@ -534,10 +534,10 @@
         <translation>left to right</translation>
     </message>
     <message numerus="yes">
-        <source>%n clip(s) selected</source>
+        <source>%Ln clip(s) selected</source>
         <translation>
-            <numerusform>%n clip selected</numerusform>
-            <numerusform>%n clips selected</numerusform>
+            <numerusform>%Ln clip selected</numerusform>
+            <numerusform>%Ln clips selected</numerusform>
         </translation>
     </message>
 </context>

@@ -534,10 +534,10 @@
         <translation>de izquierda a derecha</translation>
     </message>
     <message numerus="yes">
-        <source>%n clip(s) selected</source>
+        <source>%Ln clip(s) selected</source>
         <translation>
-            <numerusform>%n clip seleccionado</numerusform>
-            <numerusform>%n clips seleccionados</numerusform>
+            <numerusform>%Ln clip seleccionado</numerusform>
+            <numerusform>%Ln clips seleccionados</numerusform>
         </translation>
     </message>
 </context>

@@ -534,10 +534,10 @@
         <translation>de gauche à droite</translation>
     </message>
     <message numerus="yes">
-        <source>%n clip(s) selected</source>
+        <source>%Ln clip(s) selected</source>
         <translation>
-            <numerusform>%n clip sélectionné</numerusform>
-            <numerusform>%n clips sélectionnés</numerusform>
+            <numerusform>%Ln clip sélectionné</numerusform>
+            <numerusform>%Ln clips sélectionnés</numerusform>
         </translation>
     </message>
 </context>

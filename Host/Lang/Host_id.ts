@@ -534,9 +534,9 @@
         <translation>kiri ke kanan</translation>
     </message>
     <message numerus="yes">
-        <source>%n clip(s) selected</source>
+        <source>%Ln clip(s) selected</source>
         <translation>
-            <numerusform>%n klip dipilih</numerusform>
+            <numerusform>%Ln klip dipilih</numerusform>
         </translation>
     </message>
 </context>

@@ -534,10 +534,10 @@
         <translation>da sinistra a destra</translation>
     </message>
     <message numerus="yes">
-        <source>%n clip(s) selected</source>
+        <source>%Ln clip(s) selected</source>
         <translation>
-            <numerusform>%n clip selezionata</numerusform>
-            <numerusform>%n clip selezionate</numerusform>
+            <numerusform>%Ln clip selezionata</numerusform>
+            <numerusform>%Ln clip selezionate</numerusform>
         </translation>
     </message>
 </context>

@@ -534,9 +534,9 @@
         <translation>左から右</translation>
     </message>
     <message numerus="yes">
-        <source>%n clip(s) selected</source>
+        <source>%Ln clip(s) selected</source>
         <translation>
-            <numerusform>%n 個のクリップを選択中</numerusform>
+            <numerusform>%Ln 個のクリップを選択中</numerusform>
         </translation>
     </message>
 </context>

@@ -534,9 +534,9 @@
         <translation>왼쪽에서 오른쪽</translation>
     </message>
     <message numerus="yes">
-        <source>%n clip(s) selected</source>
+        <source>%Ln clip(s) selected</source>
         <translation>
-            <numerusform>클립 %n개 선택됨</numerusform>
+            <numerusform>클립 %Ln개 선택됨</numerusform>
         </translation>
     </message>
 </context>

@@ -534,10 +534,10 @@
         <translation>van links naar rechts</translation>
     </message>
     <message numerus="yes">
-        <source>%n clip(s) selected</source>
+        <source>%Ln clip(s) selected</source>
         <translation>
-            <numerusform>%n clip geselecteerd</numerusform>
-            <numerusform>%n clips geselecteerd</numerusform>
+            <numerusform>%Ln clip geselecteerd</numerusform>
+            <numerusform>%Ln clips geselecteerd</numerusform>
         </translation>
     </message>
 </context>

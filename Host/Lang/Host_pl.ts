@@ -534,11 +534,11 @@
         <translation>od lewej do prawej</translation>
     </message>
     <message numerus="yes">
-        <source>%n clip(s) selected</source>
+        <source>%Ln clip(s) selected</source>
         <translation>
-            <numerusform>wybrano %n klip</numerusform>
-            <numerusform>wybrano %n klipy</numerusform>
-            <numerusform>wybrano %n klipów</numerusform>
+            <numerusform>wybrano %Ln klip</numerusform>
+            <numerusform>wybrano %Ln klipy</numerusform>
+            <numerusform>wybrano %Ln klipów</numerusform>
         </translation>
     </message>
 </context>

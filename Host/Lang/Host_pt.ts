@@ -534,10 +534,10 @@
         <translation>da esquerda para a direita</translation>
     </message>
     <message numerus="yes">
-        <source>%n clip(s) selected</source>
+        <source>%Ln clip(s) selected</source>
         <translation>
-            <numerusform>%n clipe selecionado</numerusform>
-            <numerusform>%n clipes selecionados</numerusform>
+            <numerusform>%Ln clipe selecionado</numerusform>
+            <numerusform>%Ln clipes selecionados</numerusform>
         </translation>
     </message>
 </context>

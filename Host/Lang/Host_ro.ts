@@ -534,11 +534,11 @@
         <translation>de la stânga la dreapta</translation>
     </message>
     <message numerus="yes">
-        <source>%n clip(s) selected</source>
+        <source>%Ln clip(s) selected</source>
         <translation>
-            <numerusform>%n clip selectat</numerusform>
-            <numerusform>%n clipuri selectate</numerusform>
-            <numerusform>%n de clipuri selectate</numerusform>
+            <numerusform>%Ln clip selectat</numerusform>
+            <numerusform>%Ln clipuri selectate</numerusform>
+            <numerusform>%Ln de clipuri selectate</numerusform>
         </translation>
     </message>
 </context>

@@ -534,11 +534,11 @@
         <translation>слева направо</translation>
     </message>
     <message numerus="yes">
-        <source>%n clip(s) selected</source>
+        <source>%Ln clip(s) selected</source>
         <translation>
-            <numerusform>выбран %n клип</numerusform>
-            <numerusform>выбрано %n клипа</numerusform>
-            <numerusform>выбрано %n клипов</numerusform>
+            <numerusform>выбран %Ln клип</numerusform>
+            <numerusform>выбрано %Ln клипа</numerusform>
+            <numerusform>выбрано %Ln клипов</numerusform>
         </translation>
     </message>
 </context>

@@ -534,10 +534,10 @@
         <translation>från vänster till höger</translation>
     </message>
     <message numerus="yes">
-        <source>%n clip(s) selected</source>
+        <source>%Ln clip(s) selected</source>
         <translation>
-            <numerusform>%n klipp valt</numerusform>
-            <numerusform>%n klipp valda</numerusform>
+            <numerusform>%Ln klipp valt</numerusform>
+            <numerusform>%Ln klipp valda</numerusform>
         </translation>
     </message>
 </context>
