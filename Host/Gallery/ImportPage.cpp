@@ -381,9 +381,9 @@ void ImportPage::TakeProgress(quint64 bytes)
 void ImportPage::TakeResult(const ImportResult& result)
 {
     m_lastResult = [this, result, wasRemoved = m_state == State::Removed] {
-        const QString count = tr("Imported files: %1 of %2.")
-                                  .arg(locale().toString(result.importedIds.size()),
-                                       locale().toString(result.wanted));
+        QString count = tr("Imported files: %1 of %2.")
+                            .arg(locale().toString(result.importedIds.size()),
+                                 locale().toString(result.wanted));
         if (wasRemoved)
             return tr("The device was removed during the import.") + ' ' + count;
         if (result.isStopped)
