@@ -51,8 +51,8 @@ public:
     /// name. A path without a folder gets a separator in front.
     static QString RepalceSuffixName(const QString& path, const QString& suffix);
 
-    /// The content as text, line ends kept, decoded as UTF-8 or else in the locale's character set.
-    /// Empty when the file cannot be opened.
+    /// The content as text, line ends kept, decoded as UTF-8 or else in the locale's character set;
+    /// a byte order mark of UTF-16 or UTF-32 overrules both. Empty when the file cannot be opened.
     static QString ReadFile(const QString& path, bool utf8);
     /// The same, with CR LF read as LF.
     static QString ReadTextFile(const QString& path, bool utf8);

@@ -22,7 +22,7 @@ public:
     static QString ExtractFilePath(const QString& path);
 
     /// Makes sure that a folder exists, creating the levels that miss. False when that fails, and
-    /// always for a missing folder whose path has no delimiter or none but a leading one.
+    /// always for a missing folder whose path has no delimiter or none but a leading or a last one.
     static bool ForceDir(const QString& path);
     /// The path when ForceDir() succeeds on it, else an empty text.
     static QString CheckDir(const QString& path);

@@ -113,6 +113,9 @@ QString StringOperation::Format2WordWrapString(const QString& text, const QFont&
     qDebug().noquote() << "before:" << text;
     QString result = text;
     for (int i = 1; i < layout.lineCount(); ++i) {
+        // i - 1 breaks stand before line i already, so this is where it starts, behind the space
+        // that the layout broke at. Counted as if i stood there, each break would come a character
+        // earlier and the lines begin with that space, which is not what the layout shows.
         const QTextLine line = layout.lineAt(i);
         if (line.textLength() >= 1)
             result.insert(line.textStart() - 1 + i, '\n');

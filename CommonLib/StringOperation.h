@@ -31,8 +31,8 @@ public:
     static QString GetMenuStringW(const QFont& font, const QString& left, const QString& right,
                                   int width);
 
-    /// \a text with a line break wherever a layout \a width wide wraps it. A text that has a line
-    /// break already is given unchanged.
+    /// \a text with a line break wherever a layout \a width wide wraps it, behind the space that it
+    /// wraps at. A text that has a line break already is given unchanged.
     static QString Format2WordWrapString(const QString& text, const QFont& font, int width);
     /// The same with the font and the current width of \a widget, which may be null: then the text
     /// is given unchanged.

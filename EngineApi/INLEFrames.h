@@ -88,8 +88,8 @@ struct INLEWaveExtractor : IUnknown
         0x9427F03A, 0xB673, 0x43A5, {0x93, 0xD8, 0x1B, 0x5F, 0xE7, 0x97, 0x08, 0x43}};
 
     virtual HRESULT SetSource(INLEMediaInfo* info, std::uint32_t audioStream) = 0;
-    /// Lowest and highest sample (-1 to 1, over all channels) of \a count equal steps of the span
-    /// from \a start, \a length seconds long. Both arrays hold \a count values.
+    /// Lowest and highest sample (-1 to 1, of all channels mixed down to one) of \a count equal
+    /// steps of the span from \a start, \a length seconds long. Both arrays hold \a count values.
     virtual HRESULT Extract(double start, double length, int count, float* minima,
                             float* maxima) = 0;
     virtual HRESULT Finish() = 0;

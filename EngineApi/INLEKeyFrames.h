@@ -19,7 +19,8 @@ struct INLEKeyFrameList : IUnknown
     virtual HRESULT DeleteAll() = 0;
     /// Interpolated values at a time.
     virtual HRESULT GetParamAt(double time, NLEKeyFrameRecord* record) = 0;
-    /// The key frame at frame \a frame of a clip of \a frameCount frames.
+    /// The key frame at frame \a frame of a clip of \a frameCount frames; E_FAIL when there is
+    /// none.
     virtual HRESULT FindIndex(int frame, int frameCount, int* index) = 0;
 };
 

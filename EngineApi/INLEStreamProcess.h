@@ -4,7 +4,9 @@
 #include "Com/ComTypes.h"
 #include "EngineApi/NLETypes.h"
 
-/// Volume over time of one stream: points on the clip's key-frame axis.
+/// Volume over time of one stream: points sorted by time, in seconds from the clip's in point and
+/// not on the key-frame axis that its picture has. A value is a linear gain, 1 unchanged; it is
+/// interpolated between two points and held outside of them.
 struct INLEKeyFrameParam : IUnknown
 {
     static constexpr _GUID Iid = {
@@ -12,6 +14,7 @@ struct INLEKeyFrameParam : IUnknown
 
     virtual HRESULT GetCount(int* count) = 0;
     virtual HRESULT GetPoint(int index, double* time, double* value) = 0;
+    /// Adds a point, or changes the one at exactly \a time.
     virtual HRESULT SetPoint(double time, double value) = 0;
     virtual HRESULT Clear() = 0;
 };

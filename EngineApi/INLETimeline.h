@@ -73,8 +73,9 @@ struct INLETimelineComposite : IUnknown
     /// Enumerates the clips in the order in which they were added. \a flags is 1.
     virtual HRESULT GetEnumerator(int flags, INLETimelineEnumerator** enumerator) = 0;
     /// Adds a clip, which must have no parent: E_INVALIDARG for null, for this node itself, for a
-    /// node that holds this one and for a clip that is held already. The clip takes the composite's
-    /// frame rate and keeps the instants of its in and out point.
+    /// node that holds this one, for a clip that is held already and for composites nested deeper
+    /// than the engine allows. The clip takes the composite's frame rate and keeps the instants of
+    /// its in and out point.
     virtual HRESULT AddClip(INLETimeline* clip) = 0;
     /// Removes a clip; E_INVALIDARG when it is not held here.
     virtual HRESULT RemoveClip(INLETimeline* clip) = 0;

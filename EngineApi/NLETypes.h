@@ -157,7 +157,8 @@ struct NLEEncodeSettings
 {
     NLESize frameSize;
     NLERational frameRate;
-    NLERange range;            ///< frames of the timeline; an empty one and {0, 0} mean all of it
+    NLERange range;            ///< frames of the timeline; an empty one and {0, 0} mean all of it,
+                               ///< of a clip its trim range
     std::int32_t quality;      ///< constant rate factor, 1 (best) to 51
     std::int32_t sampleRate;   ///< audio samples a second, at most 384000
     std::int32_t channels;     ///< audio channels, at most 64
@@ -169,8 +170,8 @@ struct NLEKeyFrameRecord
 {
     double time;      ///< place on the clip's key-frame axis
     double angle;     ///< rotation in degrees
-    double positionX; ///< centre offset, normalised
-    double positionY;
+    double positionX; ///< offset of the centre, in widths of the parent
+    double positionY; ///< in heights of the parent; grows upward
     double scaleWidth;
     double scaleHeight;
     double opacity;             ///< 0 transparent to 1 opaque

@@ -100,9 +100,10 @@ public:
     /// True makes updates withdraw the engine's update callback instead of setting it.
     void ClearUpdateCallBack(bool clear);
 
-    /// Asks for a new analysis of what needs rendering. Calls within 50 ms become one.
+    /// Asks for a new analysis of what needs rendering. Calls within 50 ms become one. While the
+    /// render runs there is none, and only the progress is emitted again.
     void Update();
-    /// Analyses on the calling thread.
+    /// As Update(), at once and on the calling thread.
     void UpdateSysc();
     /// Asks for a new analysis in \a ms milliseconds, unless one is due already.
     void doDelayedUpdate(int ms);

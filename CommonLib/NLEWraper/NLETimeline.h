@@ -59,9 +59,9 @@ public:
     virtual bool HaveAudio() const;
 
 protected:
-    /// Called after the position was really changed.
+    /// Called after another position than the current one was set, whatever the engine answered.
     virtual void PositionChanged();
-    /// Called after the range was really changed.
+    /// Called after another range than the current one was set, whatever the engine answered.
     virtual void TrimRangeChanged();
 
 public:

@@ -45,7 +45,8 @@ public:
     void SetKeyFrameParam(int index, const VideoKeyFrameParam& param);
     /// The first key frame that is equal to \a param; -1 when there is none.
     int GetKeyFrameIndex(const VideoKeyFrameParam& param) const;
-    /// The engine's search for the key frame at frame \a frame of a clip of \a frameCount frames.
+    /// The engine's search for the key frame at frame \a frame of a clip of \a frameCount frames;
+    /// false when there is none.
     bool GetKeyFrameIndex(int frame, int frameCount, int& index) const;
 
     // One field of a key frame. The getters give its preset, the setters do nothing, when \a index
@@ -60,8 +61,8 @@ public:
     void SetOpacity(int index, double opacity);
 
     /// Whether key frames follow and precede \a index. An index out of range is not refused here:
-    /// only 0 has none before it, only the last one and what lies beyond has none after it; in
-    /// an empty list none has.
+    /// only 0 has none before it, only the last one and what lies beyond has none after it. In an
+    /// empty list none has one before it, and from -1 on none has one after it.
     bool HasNext(int index) const;
     bool HasPrevious(int index) const;
 

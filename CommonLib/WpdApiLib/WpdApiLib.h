@@ -95,7 +95,7 @@ public:
     /// every chunk. What was written stays when the copy fails or is aborted.
     ///
     /// \param alternateResource 0 for the object's data, else the small picture that stands for it
-    /// \return 1 on success, else 0
+    /// \return 1 on success, and with an empty file when there is no memory for a buffer; else 0
     static int TransferContentFromDevice(const wchar_t* objectId, const wchar_t* destinationPath,
                                          int alternateResource);
 

@@ -20,7 +20,8 @@ COMMONLIB_EXPORT float gGetDevicePixelRatio(QWidget* widget);
 /// Device pixels for a pixel of \a widget; for null the system's pixel ratio.
 COMMONLIB_EXPORT float gGetDevicePixelRatioFor(QWidget* widget);
 
-/// \a path unchanged at a system pixel ratio of 1, else the same with "_2x" before the suffix.
+/// \a path unchanged at a system pixel ratio of 1, else the same with "_2x" before the suffix; one
+/// without a folder then begins with "./", and one without a suffix ends in a dot.
 COMMONLIB_EXPORT QString gGetResourcePathWithPixelRatio(QString path);
 
 /// The library's own style sheet, for the system's pixel ratio.

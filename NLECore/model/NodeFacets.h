@@ -155,7 +155,7 @@ public:
 
     /// A track that was never set has the neutral strip.
     HRESULT GetParam(int index, tagMixerParam* param) override;
-    /// E_INVALIDARG for values that are no finite numbers or a volume below 0.
+    /// E_INVALIDARG for a volume outside of 0 to 16 and a balance outside of -1 to 1.
     HRESULT SetParam(int index, const tagMixerParam* param) override;
 
     MixerSettings settings;
