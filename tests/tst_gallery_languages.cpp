@@ -155,7 +155,9 @@ private Q_SLOTS:
         const auto mark = [tree](const char* name) {
             return tree->findItems(name, Qt::MatchRecursive).value(0)->checkState(0);
         };
-        QCOMPARE(mark("a.mov"), Qt::Unchecked);
+        // The device has its own order.
+        const QDir target(QStandardPaths::writableLocation(QStandardPaths::MoviesLocation));
+        QCOMPARE(mark("a.mov"), target.exists("a.mov") ? Qt::Unchecked : Qt::Checked);
         QCOMPARE(mark("b.mov"), Qt::Checked);
         QVERIFY(button("Import")->isEnabled());
     }
