@@ -36,11 +36,7 @@ TimelineRuler::TimelineRuler(QWidget* parent) : QWidget(parent), m_view(new Time
     connect(m_view, &View::sigRightClicked, this, &Ruler::sigRightClicked);
 }
 
-TimelineRuler::~TimelineRuler()
-{
-    // The view outlives this object's signals, and hides last of all.
-    disconnect(m_view, nullptr, this, nullptr);
-}
+TimelineRuler::~TimelineRuler() = default;
 
 void TimelineRuler::setObjectName(const QString& name)
 {

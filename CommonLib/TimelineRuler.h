@@ -20,7 +20,8 @@ class TimelineViewRuler;
 /// and keys do.
 ///
 /// Signals tell of what the user does. A call never emits one, except that it may end a drag which
-/// is under way. Positions are pixels from the left edge, frames whole frames at FPS().
+/// is under way. A ruler that is disabled or hidden in a drag ends it in the next turn of the event
+/// loop. A slot of any of the signals may delete the ruler, at once or later. Positions are pixels from the left edge, frames whole frames at FPS().
 ///
 /// Colours are properties for style sheets, which reach the ruler by the object name
 /// "CommonLib_TimelineRuler" until the host gives another, and the area it draws on by
@@ -155,7 +156,7 @@ signals:
     void ZoomChanged(float zoom);
     /// The user scrolled. GetZoomAndScrollRulerOffsetPosition() tells where to, to the pixel.
     void OffsetFramesChanged(int frames);
-    /// A press of the right button, in global coordinates.
+    /// A press of the right button, in global coordinates. Told in the next turn of the event loop.
     void sigRightClicked(QPoint pt);
 
 private:

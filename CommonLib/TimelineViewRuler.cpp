@@ -6,10 +6,12 @@
 
 #include <QKeyEvent>
 #include <QPaintEvent>
+#include <QThread>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -96,15 +98,13 @@ void TimelineViewRuler::changeEvent(QEvent* event)
     if (event->type() != QEvent::EnabledChange)
         return;
     ChangeSegments([this](RulerSegment& segment) { segment.enabled = isEnabled(); });
-    // The release would never come.
     if (!isEnabled())
-        EndDrag();
+        QueueEndDrag();
 }
 
 void TimelineViewRuler::hideEvent(QHideEvent* event)
 {
-    // The release would never come.
-    EndDrag();
+    QueueEndDrag();
     QWidget::hideEvent(event);
 }
 
@@ -144,10 +144,10 @@ int TimelineViewRuler::FrameAt(int x) const
     return Bounded(static_cast<qint64>(std::max(-1.0, std::min<double>(kMostFrames, frame))));
 }
 
-void TimelineViewRuler::MoveByUser(int frame)
+bool TimelineViewRuler::MoveByUser(int frame)
 {
-    if (SetCurrentFrame(frame))
-        emit FramesChanged(Segment().currentFrame);
+    return !SetCurrentFrame(frame) ||
+           Tell(&TimelineViewRuler::FramesChanged, Segment().currentFrame);
 }
 
 void TimelineViewRuler::StepTo(qint64 frame)
@@ -155,23 +155,21 @@ void TimelineViewRuler::StepTo(qint64 frame)
     const int target = Bounded(frame);
     if (!behaviour.moveFrame || m_drag.Active() != Drag::None || target == Segment().currentFrame)
         return;
-    emit StartFramesChanged();
-    MoveByUser(target);
-    ShowPlayHead();
-    emit EndFramesChanged();
+    if (Tell(&TimelineViewRuler::StartFramesChanged) && MoveByUser(target) && ShowPlayHead())
+        emit EndFramesChanged();
 }
 
-void TimelineViewRuler::ShowPlayHead()
+bool TimelineViewRuler::ShowPlayHead()
 {
     const RulerSegment& segment = Segment();
     const double x = segment.FramesToPosition(segment.currentFrame);
-    if (x < 0 || x >= width())
-        SetLeftEdge(segment.currentFrame - segment.PixelsToFrames(width() / 2.0));
+    const bool isInSight = x >= 0 && x < width();
+    return isInSight || SetLeftEdge(segment.currentFrame - segment.PixelsToFrames(width() / 2.0));
 }
 
 // Zooming and scrolling ---------------------------------------------------------------------------
 
-void TimelineViewRuler::SetLeftEdge(double frame)
+bool TimelineViewRuler::SetLeftEdge(double frame)
 {
     RulerSegment& segment = m_convertor.Current();
     const double last = behaviour.totalFrames > 0 ? behaviour.totalFrames - 1 : kMostFrames;
@@ -180,31 +178,31 @@ void TimelineViewRuler::SetLeftEdge(double frame)
     const auto offset = static_cast<int>(whole);
     const auto pixels = static_cast<int>(std::lround(segment.FramesToPixels(frame - whole)));
     if (offset == segment.offsetFrames && pixels == segment.offsetPosition)
-        return;
+        return true;
     segment.offsetFrames = offset;
     segment.offsetPosition = pixels;
     update();
-    emit OffsetFramesChanged(offset);
+    return Tell(&TimelineViewRuler::OffsetFramesChanged, offset);
 }
 
-void TimelineViewRuler::ZoomAbout(float zoom, double frame, double x)
+bool TimelineViewRuler::ZoomAbout(float zoom, double frame, double x)
 {
     const float bounded = m_convertor.BoundedZoom(zoom);
     if (bounded != m_convertor.Zoom()) {
         m_convertor.SetZoom(bounded);
         update();
-        emit ZoomChanged(bounded);
+        if (!Tell(&TimelineViewRuler::ZoomChanged, bounded))
+            return false;
     }
-    SetLeftEdge(frame - Segment().PixelsToFrames(x));
+    return SetLeftEdge(frame - Segment().PixelsToFrames(x));
 }
 
 void TimelineViewRuler::ZoomOnceAbout(float zoom, double frame, double x)
 {
     if (m_drag.Active() != Drag::None || m_convertor.BoundedZoom(zoom) == m_convertor.Zoom())
         return;
-    emit StartZoomChanged();
-    ZoomAbout(zoom, frame, x);
-    emit EndZoomChanged();
+    if (Tell(&TimelineViewRuler::StartZoomChanged) && ZoomAbout(zoom, frame, x))
+        emit EndZoomChanged();
 }
 
 void TimelineViewRuler::FitAll()
@@ -234,7 +232,8 @@ void TimelineViewRuler::wheelEvent(QWheelEvent* event)
     } else {
         const double pixels = notches * width() * kWidthsPerNotch + m_wheelRest;
         const double wanted = segment.LeftEdge() - segment.PixelsToFrames(pixels);
-        SetLeftEdge(wanted);
+        if (!SetLeftEdge(wanted))
+            return;
         // What whole frames and pixels cannot express; more than that is left at an end only.
         const double rest = Segment().FramesToPixels(Segment().LeftEdge() - wanted);
         m_wheelRest = std::abs(rest) < 1 ? rest : 0;
@@ -251,15 +250,26 @@ void TimelineViewRuler::mousePressEvent(QMouseEvent* event)
     const bool zooms = event->button() == Qt::MiddleButton ||
                        (event->button() == Qt::LeftButton && event->modifiers() & Qt::AltModifier);
     if (event->button() == Qt::RightButton) {
-        emit sigRightClicked(event->globalPos());
+        TellRightClick(event->globalPos());
     } else if (zooms) {
-        StartZoomAndScroll();
-        if (m_drag.NeedsGrab())
+        if (StartZoomAndScroll() && m_drag.NeedsGrab())
             m_drag.Grab(m_mouse, Segment().PositionToFrames(m_mouse.x()));
     } else if (event->button() == Qt::LeftButton) {
         m_sincePress.start();
         PressPlayHead(m_mouse);
     }
+}
+
+// A window that has passed on a press sends the same widget the request for a context menu, even
+// when a handler has deleted it in between. Therefore told afterwards, if there is a loop to do so.
+void TimelineViewRuler::TellRightClick(const QPoint& at)
+{
+    if (thread()->loopLevel() == 0) {
+        emit sigRightClicked(at);
+        return;
+    }
+    QMetaObject::invokeMethod(
+        this, [this, at] { emit sigRightClicked(at); }, Qt::QueuedConnection);
 }
 
 void TimelineViewRuler::PressPlayHead(const QPoint& at)
@@ -268,9 +278,10 @@ void TimelineViewRuler::PressPlayHead(const QPoint& at)
         return;
     m_drag.BeginPlayHead(at);
     m_inSingleClick = behaviour.singleClickEmits;
-    if (m_inSingleClick)
-        emit sigSingleClickStartFramesChanged();
-    emit StartFramesChanged();
+    if (m_inSingleClick && !Tell(&TimelineViewRuler::sigSingleClickStartFramesChanged))
+        return;
+    if (!Tell(&TimelineViewRuler::StartFramesChanged))
+        return;
     SetCurrentFrame(FrameAt(at.x()));
     if (behaviour.pressEmitsFrames)
         emit FramesChanged(Segment().currentFrame);
@@ -306,8 +317,8 @@ void TimelineViewRuler::mouseMoveEvent(QMouseEvent* event)
 
 void TimelineViewRuler::DragPlayHead(const QPoint& at)
 {
-    if (m_drag.IsBeyondClick(at))
-        EndSingleClick();
+    if (m_drag.IsBeyondClick(at) && !EndSingleClick())
+        return;
     const bool isInside = at.x() >= 0 && at.x() < width();
     if (isInside) {
         m_scrollTimer.stop();
@@ -330,7 +341,9 @@ void TimelineViewRuler::ScrollAtEdge()
         const double wanted =
             kScrollPerOvershoot * std::min(std::abs(overshoot), kFarthestOvershoot);
         const double pixels = std::min(std::ceil(wanted), std::ceil(std::abs(beyond)));
-        SetLeftEdge(segment.LeftEdge() + segment.PixelsToFrames(std::copysign(pixels, overshoot)));
+        const double frames = segment.PixelsToFrames(std::copysign(pixels, overshoot));
+        if (!SetLeftEdge(segment.LeftEdge() + frames))
+            return;
     }
     MoveByUser(FrameAt(edge));
 }
@@ -339,21 +352,22 @@ void TimelineViewRuler::timerEvent(QTimerEvent* event)
 {
     if (event->timerId() != m_scrollTimer.timerId())
         QWidget::timerEvent(event);
-    else if (behaviour.dragable)
+    else if (behaviour.dragable && m_drag.Active() == Drag::PlayHead)
         ScrollAtEdge();
     else
         m_scrollTimer.stop();
 }
 
-void TimelineViewRuler::StartZoomAndScroll()
+bool TimelineViewRuler::StartZoomAndScroll()
 {
-    EndDrag();
+    if (!EndDrag())
+        return false;
     if (!behaviour.dragable)
-        return;
+        return true;
     m_drag.BeginZoomAndScroll(m_convertor.BoundedZoom(m_convertor.Zoom()));
     // Without a button down the mouse is followed all the same.
     setMouseTracking(true);
-    emit StartZoomChanged();
+    return Tell(&TimelineViewRuler::StartZoomChanged);
 }
 
 void TimelineViewRuler::DragZoomAndScroll(const QPoint& at)
@@ -361,29 +375,43 @@ void TimelineViewRuler::DragZoomAndScroll(const QPoint& at)
     ZoomAbout(m_drag.ZoomAt(at), m_drag.GrabbedFrame(), at.x());
 }
 
-void TimelineViewRuler::EndSingleClick()
+bool TimelineViewRuler::EndSingleClick()
 {
-    if (!m_inSingleClick)
-        return;
-    m_inSingleClick = false;
-    emit sigSingleClickEndFrameChanged();
+    return !std::exchange(m_inSingleClick, false) ||
+           Tell(&TimelineViewRuler::sigSingleClickEndFrameChanged);
 }
 
-void TimelineViewRuler::EndDrag()
+bool TimelineViewRuler::EndDrag()
 {
     const Drag ended = m_drag.Active();
     m_drag.End();
     m_scrollTimer.stop();
+    m_endQueued = false;
     if (ended == Drag::ZoomAndScroll) {
         setMouseTracking(false);
-        emit EndZoomChanged();
+        return Tell(&TimelineViewRuler::EndZoomChanged);
     }
     if (ended != Drag::PlayHead)
+        return true;
+    if (behaviour.releaseEmitsFrames &&
+        !Tell(&TimelineViewRuler::FramesChanged, Segment().currentFrame))
+        return false;
+    return Tell(&TimelineViewRuler::EndFramesChanged) && EndSingleClick();
+}
+
+// The release of the mouse would never come. Told later: a handler may delete the ruler, which the
+// sender of the event still needs.
+void TimelineViewRuler::QueueEndDrag()
+{
+    if (m_drag.Active() == Drag::None || std::exchange(m_endQueued, true))
         return;
-    if (behaviour.releaseEmitsFrames)
-        emit FramesChanged(Segment().currentFrame);
-    emit EndFramesChanged();
-    EndSingleClick();
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_endQueued)
+                EndDrag();
+        },
+        Qt::QueuedConnection);
 }
 
 void TimelineViewRuler::mouseReleaseEvent(QMouseEvent* event)

@@ -6,6 +6,7 @@
 
 #include <QBasicTimer>
 #include <QElapsedTimer>
+#include <QPointer>
 #include <QWidget>
 
 #include <limits>
@@ -14,6 +15,9 @@
 
 /// The widget that draws a TimelineRuler and takes its mouse, wheel and keys. Signals tell of what
 /// the user does, never of calls.
+///
+/// A handler may delete the ruler. Functions that emit therefore tell whether it is still there,
+/// unless they are the last thing that an event does.
 class TimelineViewRuler : public QWidget
 {
     Q_OBJECT
@@ -63,8 +67,8 @@ public:
     void SetOffsetFrames(int frames);
     void SetOffsetPosition(int pixels);
 
-    void StartZoomAndScroll();
-    void EndDrag();
+    bool StartZoomAndScroll();
+    bool EndDrag();
 
 signals:
     void sigSingleClickStartFramesChanged();
@@ -93,14 +97,25 @@ protected:
 private:
     using Drag = RulerDragAdjustManager::Drag;
 
+    /// Emits \a signal.
+    template <typename... Parameters, typename... Arguments>
+    bool Tell(void (TimelineViewRuler::*signal)(Parameters...), Arguments... arguments)
+    {
+        const QPointer<TimelineViewRuler> self(this);
+        emit(this->*signal)(arguments...);
+        return !self.isNull();
+    }
+
+    void TellRightClick(const QPoint& at);
     void PressPlayHead(const QPoint& at);
     void DragPlayHead(const QPoint& at);
     void DragZoomAndScroll(const QPoint& at);
-    void EndSingleClick();
+    bool EndSingleClick();
+    void QueueEndDrag();
     /// Moves the play head for the user and tells of it when it moved.
-    void MoveByUser(int frame);
+    bool MoveByUser(int frame);
     void StepTo(qint64 frame);
-    void ShowPlayHead();
+    bool ShowPlayHead();
     void ScrollAtEdge();
 
     int FrameAt(int x) const;
@@ -109,11 +124,11 @@ private:
     int Bounded(qint64 frame) const;
 
     /// Zooms so that \a frame lies at \a x, and tells of what changed.
-    void ZoomAbout(float zoom, double frame, double x);
+    bool ZoomAbout(float zoom, double frame, double x);
     void ZoomOnceAbout(float zoom, double frame, double x);
     void FitAll();
     /// Scrolls so that \a frame (with its fraction) lies at the left edge.
-    void SetLeftEdge(double frame);
+    bool SetLeftEdge(double frame);
 
     RulerConvertor m_convertor;
     RulerDragAdjustManager m_drag;
@@ -122,4 +137,5 @@ private:
     QPoint m_mouse;
     double m_wheelRest = 0; // part of a pixel that the wheel has yet to scroll
     bool m_inSingleClick = false;
+    bool m_endQueued = false; // a drag ends in the next turn of the event loop
 };

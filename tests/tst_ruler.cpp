@@ -5,8 +5,10 @@
 #include <QFontMetrics>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QWheelEvent>
+#include <QWindow>
 #include <QtTest>
 
 #include <cmath>
@@ -39,14 +41,15 @@ struct Ruler : TimelineRuler
 {
     QWidget* view = SetEventFilter(nullptr);
     QStringList log;
-    Ruler() : TimelineRuler(nullptr)
+    std::function<void()> onSignal;
+    explicit Ruler(QWidget* parent = nullptr) : TimelineRuler(parent)
     {
         resize(kWidth, kHeight);
         SetScaleColor(kTick);
         SetFrameTextColor(kText);
         setStyleSheet("QWidget { background: white }");
         show();
-        const auto note = [this](const char* name) { return [this, name] { log << name; }; };
+        const auto note = [this](const char* name) { return [this, name] { Note(name); }; };
         connect(this, &TimelineRuler::sigSingleClickStartFramesChanged, note("clickStart"));
         connect(this, &TimelineRuler::sigSingleClickEndFrameChanged, note("clickEnd"));
         connect(this, &TimelineRuler::StartFramesChanged, note("start"));
@@ -54,14 +57,20 @@ struct Ruler : TimelineRuler
         connect(this, &TimelineRuler::StartZoomChanged, note("startZoom"));
         connect(this, &TimelineRuler::EndZoomChanged, note("endZoom"));
         connect(this, &TimelineRuler::ZoomChanged, note("zoom"));
-        connect(this, &TimelineRuler::FramesChanged, [this](int f) { log << QString::number(f); });
+        connect(this, &TimelineRuler::FramesChanged, [this](int f) { Note(QString::number(f)); });
         connect(this, &TimelineRuler::OffsetFramesChanged,
-                [this](int f) { log << "offset" + QString::number(f); });
+                [this](int f) { Note("offset" + QString::number(f)); });
         connect(this, &TimelineRuler::sigRightClicked, [this](QPoint pt) {
-            log << QString("right%1,%2")
-                       .arg(pt.x() - mapToGlobal({}).x())
-                       .arg(pt.y() - mapToGlobal({}).y());
+            Note(QString("right%1,%2")
+                     .arg(pt.x() - mapToGlobal({}).x())
+                     .arg(pt.y() - mapToGlobal({}).y()));
         });
+    }
+    void Note(const QString& entry)
+    {
+        log << entry;
+        if (const auto handler = onSignal) // a copy, which outlives the ruler
+            handler();
     }
     QString TakeLog() { return std::exchange(log, {}).join(' '); }
     QImage Picture(double scale = 1)
@@ -148,7 +157,9 @@ int SlowZoomFromWidth(int width, int frames)
 } // namespace
 
 using Setter = std::function<void(Ruler&)>;
+using Steps = QVector<Setter>;
 Q_DECLARE_METATYPE(Setter)
+Q_DECLARE_METATYPE(Steps)
 
 class TestRuler : public QObject
 {
@@ -568,6 +579,7 @@ private slots:
             end == 'h'   ? ruler.hide()
             : end == 'd' ? ruler.setEnabled(false)
                          : ruler.Release(kWidth + 100);
+            QCoreApplication::processEvents(); // told once the widget has been hidden
             QVERIFY(ruler.TakeLog().endsWith(" end"));
             const int still = ruler.OffsetFrames();
             QTest::qWait(100);
@@ -584,6 +596,102 @@ private slots:
         QTest::qWait(100);
         QCOMPARE(ruler.CurrentFrames(), 29);
         QCOMPARE(ruler.OffsetFrames(), 0);
+    }
+
+    void deletedInASlot_data()
+    {
+        QTest::addColumn<Steps>("input");
+        using Action = QTest::MouseAction;
+        const auto mouse = [](Action action, Qt::MouseButton button, int x, int y = 5) {
+            return [=](Ruler& r) {
+                QTest::mouseEvent(action, r.window()->windowHandle(), button, {}, {x, y}, -1);
+            };
+        };
+        const auto press = [=](int x) { return mouse(QTest::MousePress, Qt::LeftButton, x); };
+        const auto release = [=](int x) { return mouse(QTest::MouseRelease, Qt::LeftButton, x); };
+        const auto move = [=](int x, int y = 5) {
+            return mouse(QTest::MouseMove, Qt::NoButton, x, y);
+        };
+        const auto key = [](Qt::Key which) {
+            return [=](Ruler& r) { QTest::keyPress(r.window()->windowHandle(), which); };
+        };
+        const auto wheel = [](Qt::KeyboardModifiers modifiers) {
+            return [=](Ruler& r) { r.Wheel(100, -120, modifiers); };
+        };
+        const Setter scroll = [](Ruler& r) { // on and on
+            const QPointer<Ruler> ruler(&r);
+            Q_UNUSED(QTest::qWaitFor([&] { return !ruler || ruler->log.size() > 7; }));
+        };
+        QTest::newRow("drag") << Steps{press(60), move(200), release(201)};
+        QTest::newRow("drag beyond the edge") << Steps{press(60), move(kWidth + 50), scroll};
+        QTest::newRow("double click") << Steps{
+            press(60), release(60), [](Ruler& r) { r.Mouse(QEvent::MouseButtonDblClick, 60, 5); }};
+        QTest::newRow("middle drag")
+            << Steps{mouse(QTest::MousePress, Qt::MiddleButton, 60), move(70, 25),
+                     mouse(QTest::MouseRelease, Qt::MiddleButton, 70)};
+        QTest::newRow("right click") << Steps{[=](Ruler& r) {
+            QEventLoop loop;
+            QTimer::singleShot(0, &loop, [&] {
+                mouse(QTest::MousePress, Qt::RightButton, 60)(r);
+                loop.quit();
+            });
+            loop.exec();
+        }};
+        QTest::newRow("wheel") << Steps{wheel({})};
+        QTest::newRow("wheel that zooms") << Steps{wheel(Qt::ControlModifier)};
+        QTest::newRow("key to a frame out of sight") << Steps{key(Qt::Key_End)};
+        QTest::newRow("key that zooms") << Steps{key(Qt::Key_Minus)};
+        QTest::newRow("disabled in a drag")
+            << Steps{press(60), [](Ruler& r) { r.window()->setEnabled(false); }};
+        QTest::newRow("hidden in a drag") << Steps{press(60), [](Ruler& r) { r.hide(); }};
+        QTest::newRow("hover of a drag that a call begins and ends")
+            << Steps{press(60), [](Ruler& r) { r.StartZoomAndScrollRuler(); }, move(80, 5),
+                     move(90, 30), [](Ruler& r) { r.doMouseButtonRelease(); }};
+    }
+    // In each of the signals that the input causes, at once and later, as a window and within one.
+    void deletedInASlot()
+    {
+        QFETCH(Steps, input);
+        const auto told = [&input](bool isWindow, bool atOnce, int deletedAt) {
+            QWidget window;
+            window.resize(kWidth, kHeight);
+            window.show();
+            QPointer<Ruler> ruler(new Ruler(isWindow ? nullptr : &window));
+            ruler->SetSingalClickStartEndFrameChangeEnabled(true);
+            ruler->SetTotalFrames(1000);
+            ruler->SetZoom(120);
+            ruler->SetOffsetFrames(10);
+            ruler->view->setFocus();
+            ruler->activateWindow();
+            int count = 0;
+            ruler->onSignal = [&, doomed = ruler.data()] {
+                if (count++ != deletedAt)
+                    return;
+                atOnce ? delete doomed : doomed->deleteLater();
+            };
+            for (const Setter& step : input) {
+                if (ruler)
+                    step(*ruler);
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            }
+            QCoreApplication::processEvents();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            const bool isGone = !ruler;
+            delete ruler;
+            QWidget other; // which the mouse goes on to
+            other.show();
+            for (const auto button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton})
+                QTest::mouseRelease(other.windowHandle(), button);
+            return isGone ? count : -count;
+        };
+        for (const bool isWindow : {false, true}) {
+            const int signalsToldOf = -told(isWindow, true, -1);
+            QVERIFY(signalsToldOf > 0);
+            for (int i = 0; i < signalsToldOf; ++i) {
+                QCOMPARE(told(isWindow, true, i), i + 1);
+                QVERIFY(told(isWindow, false, i) > i);
+            }
+        }
     }
 
     void limitsRoundingAndKeys()
