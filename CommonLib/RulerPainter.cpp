@@ -2,6 +2,7 @@
 #include "CommonLib/RulerPainter_p.h"
 
 #include "CommonLib/GlobalUtils.h"
+#include "CommonLib/ScreenPixels_p.h"
 #include "CommonLib/StringOperation.h"
 
 #include <QFontMetricsF>
@@ -22,6 +23,10 @@ constexpr int kTimeTextGap = 3;
 constexpr int kTimeTextBaseline = 15;
 // Pens and antialiasing reach beyond an outline.
 constexpr int kPointerMargin = 2;
+// How far whole pixels of the screen may reach beyond the place of a tick.
+constexpr double kTickReach = 2;
+// Scales such as 1.3 come back a little below whole pixels.
+constexpr double kPixelNoise = 1e-3;
 // The rasteriser works in fixed-point numbers; what lies further out is not on the widget.
 constexpr double kFarthestPixel = 1 << 20;
 
@@ -35,6 +40,11 @@ double TimeTextX(const RulerSegment& segment)
 {
     const int offset = segment.pointerWidth / 2 + kTimeTextGap;
     return PointerX(segment) + offset;
+}
+
+int ScreenY(const QTransform& toScreen, int y)
+{
+    return qRound(toScreen.m22() * y + toScreen.dy());
 }
 
 qint64 RoundedUpTo(qint64 value, qint64 multiple)
@@ -71,17 +81,45 @@ RulerPainter::TickRange RulerPainter::VisibleTicks(const QRect& clip, double rea
     return {static_cast<qint64>(std::max(first, 0.0)), static_cast<qint64>(last)};
 }
 
-void RulerPainter::PaintTicks(const QRect& clip)
+// Ticks and the bottom line, as rectangles of whole pixels of the screen.
+void RulerPainter::PaintLines(const QRect& clip)
+{
+    const QTransform before = m_painter.transform();
+    const QTransform toScreen = CountInScreenPixels(m_painter);
+    QVector<QRect> lines = Ticks(clip, toScreen);
+    if (m_segment.drawBottomLine) {
+        const QRect line =
+            toScreen.mapRect(QRectF(m_segment.viewRect).adjusted(0, 0, 1, 0)).toRect();
+        lines.append(
+            QRect(line.left(), line.bottom() + 1, line.width(), LineInScreenPixels(toScreen, 1)));
+    }
+    m_painter.setPen(Qt::NoPen);
+    m_painter.setBrush(m_segment.scaleColor);
+    m_painter.drawRects(lines);
+    m_painter.setTransform(before);
+}
+
+QVector<QRect> RulerPainter::Ticks(const QRect& clip, const QTransform& toScreen) const
 {
     const int perBig = m_segment.smallTicksPerBigTick;
     const double smallSpacing = m_spacing / perBig;
     const auto stride = static_cast<qint64>(std::ceil(std::max(1.0, 1 / m_spacing)));
-    const TickRange visible = VisibleTicks(clip, m_spacing);
-    const double end = clip.right() + 1.0;
-    QVector<QLineF> lines;
-    const auto addTick = [&](double x, int height) {
-        lines.append(QLineF(x, m_height - height, x, m_height - 1));
+    const TickRange visible = VisibleTicks(clip, m_spacing + kTickReach);
+    const double start = clip.left() - kTickReach;
+    const double end = clip.right() + 1.0 + kTickReach;
+    // Where the toolkit begins the widget, so that nothing cuts the tick at its left edge.
+    const int origin = qRound(toScreen.dx());
+    const int width = LineInScreenPixels(toScreen, 1);
+    const int bottom = ScreenY(toScreen, m_height);
+    QVector<QRect> ticks;
+    const auto addTick = [&](double x, int top) {
+        if (x < start || x > end)
+            return;
+        const double left = std::floor(toScreen.m11() * x + kPixelNoise);
+        ticks.append(QRect(origin + static_cast<int>(left), top, width, bottom - top));
     };
+    const int bigTop = ScreenY(toScreen, m_height - kBigTickHeight);
+    const int smallTop = ScreenY(toScreen, m_height - kSmallTickHeight);
     for (qint64 i = RoundedUpTo(visible.first, stride); i <= visible.last; i += stride) {
         const double big = BigTickX(i);
         if (big > end)
@@ -92,13 +130,12 @@ void RulerPainter::PaintTicks(const QRect& clip)
             const double x =
                 std::trunc(static_cast<double>(perBig * i + j) * smallSpacing) - m_shift;
             if (x > previous)
-                addTick(x, kSmallTickHeight);
+                addTick(x, smallTop);
             previous = x;
         }
-        addTick(big, kBigTickHeight);
+        addTick(big, bigTop);
     }
-    m_painter.setPen(m_segment.scaleColor);
-    m_painter.drawLines(lines);
+    return ticks;
 }
 
 void RulerPainter::PaintLabels(const QRect& clip)
@@ -137,11 +174,8 @@ void RulerPainter::PaintPointer(const QRect& clip)
     m_painter.setRenderHint(QPainter::Antialiasing, true);
     m_painter.drawPolygon(m_segment.translatedPointer);
     m_painter.setRenderHint(QPainter::Antialiasing, false);
-    if (m_segment.drawCursorLine) {
-        m_painter.setPen(QPen(color, m_segment.cursorLineWidth));
-        m_painter.drawLine(QPointF(x, m_segment.pointerHeight),
-                           QPointF(x, m_segment.viewRect.bottom()));
-    }
+    if (m_segment.drawCursorLine)
+        PaintCursorLine(x, color);
     if (m_segment.drawTimeText) {
         m_painter.setPen(m_segment.frameTextColor);
         m_painter.drawText(QPointF(TimeTextX(m_segment), kTimeTextBaseline),
@@ -149,12 +183,23 @@ void RulerPainter::PaintPointer(const QRect& clip)
     }
 }
 
+// Its ends are square: it begins half its width above the pointer's lower end.
+void RulerPainter::PaintCursorLine(double x, const QColor& color)
+{
+    const QTransform before = m_painter.transform();
+    const QTransform toScreen = CountInScreenPixels(m_painter);
+    const int width = LineInScreenPixels(toScreen, m_segment.cursorLineWidth);
+    const double left = toScreen.m11() * x + toScreen.dx() - width / 2.0;
+    const int top = ScreenY(toScreen, m_segment.pointerHeight - m_segment.cursorLineWidth / 2);
+    m_painter.fillRect(static_cast<int>(std::floor(left + 0.5)), top, width,
+                       ScreenY(toScreen, m_height) - top, color);
+    m_painter.setTransform(before);
+}
+
 void RulerPainter::Paint(const QRect& clip)
 {
     PaintLabels(clip);
-    PaintTicks(clip);
-    if (m_segment.drawBottomLine)
-        m_painter.drawLine(0, m_height, m_segment.viewRect.width(), m_height);
+    PaintLines(clip);
     PaintPointer(clip);
 }
 

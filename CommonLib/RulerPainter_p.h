@@ -5,6 +5,7 @@
 
 #include <QFont>
 #include <QPainter>
+#include <QVector>
 
 // Not part of the library's interface.
 
@@ -32,9 +33,12 @@ private:
 
     double BigTickX(qint64 index) const;
     TickRange VisibleTicks(const QRect& clip, double reach) const;
-    void PaintTicks(const QRect& clip);
+    /// In pixels of the screen.
+    QVector<QRect> Ticks(const QRect& clip, const QTransform& toScreen) const;
+    void PaintLines(const QRect& clip);
     void PaintLabels(const QRect& clip);
     void PaintPointer(const QRect& clip);
+    void PaintCursorLine(double x, const QColor& color);
 
     QPainter& m_painter;
     RulerSegment& m_segment;

@@ -7,13 +7,25 @@
 // Not part of the library's interface.
 
 /// Lets \a painter count in pixels of the screen from now on, so that lines are sharp and of one
-/// width at any scale. Gives the pixels of \a area, with its edges rounded as the toolkit does.
-/// Where the painter is turned, everything stays as it is.
-inline QRect CountInScreenPixels(QPainter& painter, const QRect& area)
+/// width at any scale. Gives what maps to them. Where the painter is turned, everything stays as it
+/// is.
+inline QTransform CountInScreenPixels(QPainter& painter)
 {
     const QTransform toScreen = painter.deviceTransform();
     if (toScreen.type() > QTransform::TxScale)
-        return area;
+        return {};
     painter.setTransform(toScreen.inverted(), true);
-    return toScreen.mapRect(QRectF(area)).toRect();
+    return toScreen;
+}
+
+/// The same. Gives the pixels of \a area, with its edges rounded as the toolkit does.
+inline QRect CountInScreenPixels(QPainter& painter, const QRect& area)
+{
+    return CountInScreenPixels(painter).mapRect(QRectF(area)).toRect();
+}
+
+/// Pixels of the screen for a line of \a width; at least 1.
+inline int LineInScreenPixels(const QTransform& toScreen, double width)
+{
+    return qMax(1, qRound(width * toScreen.m11()));
 }

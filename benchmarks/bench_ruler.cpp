@@ -58,15 +58,8 @@ public:
     {
         QPaintEngine::drawLines(lines, count);
     }
-    void drawRects(const QRectF* rects, int count) override
-    {
-        for (int i = 0; i < count; ++i)
-            m_calls.push_back([rect = rects[i]](QPainter& p) { p.drawRect(rect); });
-    }
-    void drawRects(const QRect* rects, int count) override
-    {
-        QPaintEngine::drawRects(rects, count);
-    }
+    void drawRects(const QRectF* rects, int count) override { AddRects(rects, count); }
+    void drawRects(const QRect* rects, int count) override { AddRects(rects, count); }
     void drawPolygon(const QPointF* points, int count, PolygonDrawMode) override
     {
         QPolygonF polygon;
@@ -88,6 +81,16 @@ public:
     int Texts() const { return m_texts; }
 
 private:
+    // Lines of whole pixels are rectangles. In one call, too.
+    template <typename Rect>
+    void AddRects(const Rect* rects, int count)
+    {
+        QVector<Rect> all;
+        std::copy(rects, rects + count, std::back_inserter(all));
+        m_calls.push_back([all](QPainter& p) { p.drawRects(all); });
+        m_lines += count;
+    }
+
     std::vector<Call>& m_calls;
     int m_lines = 0;
     int m_texts = 0;

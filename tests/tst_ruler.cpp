@@ -3,6 +3,7 @@
 #include "CommonLib/TimelineRuler.h"
 
 #include <QFontMetrics>
+#include <QLayout>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
@@ -400,6 +401,63 @@ private slots:
             QVERIFY2(difference < 0.004,
                      qPrintable(QString("strip %1: %2").arg(i).arg(difference)));
         }
+    }
+
+    void linesAreOfOneWidth_data()
+    {
+        QTest::addColumn<double>("scale");
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("margin"); // to the left of the ruler
+        for (const auto& [scale, width] : {std::pair(1.0, 1),
+                                           {1.25, 1},
+                                           {1.3, 1},
+                                           {1.5, 2},
+                                           {1.75, 2},
+                                           {2.0, 2},
+                                           {2.25, 2},
+                                           {3.0, 3}})
+            for (const int margin : {0, 9})
+                QTest::addRow("%g times, at %d", scale, margin) << scale << width << margin;
+    }
+    void linesAreOfOneWidth()
+    {
+        QFETCH(double, scale);
+        QFETCH(int, width);
+        QFETCH(int, margin);
+        Ruler ruler;
+        ruler.layout()->setContentsMargins(margin, 0, 0, 0);
+        ruler.layout()->activate();
+        ruler.SetZoom(117); // 6.6 pixels a frame
+        ruler.SetCurrentFrames(12);
+        ruler.SetCursorEnable(true);
+        ruler.SetPointerBGColor(Qt::green);
+        QImage image(ruler.size() * scale, QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        ruler.render(&image);
+        image = image.copy(image.rect().adjusted(qRound(margin * scale), 0, 0, 0));
+        const auto row = [&](double y, QColor color) {
+            return Columns(image, int(y * scale), color);
+        };
+        const QVector<int> ticks = row(23.5, kTick), line = row(22.5, Qt::green);
+        QCOMPARE(ticks.mid(0, width).last(), width - 1); // the first one is whole
+        int run = 0, lines = 0;
+        for (int i = 0; i < ticks.size(); ++i) {
+            ++run;
+            if (i + 1 < ticks.size() && ticks[i + 1] == ticks[i] + 1)
+                continue;
+            QVERIFY2(run == width || ticks[i] == image.width() - 1,
+                     qPrintable(QString::number(ticks[i])));
+            run = 0;
+            ++lines;
+        }
+        QCOMPARE(lines, int((kWidth - margin) / 6.6)); // all but the one below the line
+        QCOMPARE(line.size(), qRound(2 * scale));
+        const auto centre = (line.first() + line.last() + 1) / 2.0;
+        QVERIFY(std::abs(centre - double(ruler.Frames2PositionF(12)) * scale) < 1.01);
+        int bottom = 0;
+        for (int y = 0; y < image.height(); ++y)
+            bottom += image.pixelColor(width, y) == kTick; // beside the first tick
+        QCOMPARE(bottom, width);
     }
 
     void repaintsOnlyThePlayHead()
