@@ -43,3 +43,18 @@ inline double PixelRatioOn(double systemRatio, double primaryScale, double scale
         return systemRatio;
     return std::max(1.0, systemRatio * scale / primaryScale);
 }
+
+/// The side of a monitor in its own pixels that the toolkit tells as \a logical at \a scale,
+/// rounded. Of those that come out as this, the one with the most factors of two, as display modes
+/// have.
+inline int PhysicalSide(int logical, double scale)
+{
+    const auto factorsOfTwo = [](int side) { return side & -side; };
+    int best = qRound(logical * scale);
+    const int reach = qRound(scale);
+    for (int side = qMax(1, best - reach); side <= best + reach; ++side) {
+        if (qRound(side / scale) == logical && factorsOfTwo(side) > factorsOfTwo(best))
+            best = side;
+    }
+    return best;
+}

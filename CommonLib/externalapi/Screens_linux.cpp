@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/externalapi/PixelRatio_p.h"
 #include "CommonLib/externalapi/Screens_p.h"
 
 #include <QGuiApplication>
@@ -18,12 +19,13 @@ QVector<ScreenResolution::ScreenInfo> ListScreens()
             continue;
         info.handle = screen;
         info.primary = screen == QGuiApplication::primaryScreen();
-        info.physical =
-            QRect(QPoint(), (QSizeF(logical.size()) * screen->devicePixelRatio()).toSize());
+        const double scale = screen->devicePixelRatio();
+        info.physical = QRect(0, 0, PhysicalSide(logical.width(), scale),
+                              PhysicalSide(logical.height(), scale));
         info.logical = logical;
         // Not the quotient of the two sizes: both are rounded, and 1.25 would come out as a bit
         // more.
-        info.scale = static_cast<float>(screen->devicePixelRatio());
+        info.scale = static_cast<float>(scale);
         info.id = infos.size();
         infos.append(info);
     }
