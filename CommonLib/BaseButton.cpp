@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/BaseButton.h"
 
-#include "CommonLib/WidgetAccessibility_p.h"
-
 BaseButton::BaseButton(const QString& name, QWidget* parent) : BaseButton(0, name, parent) {}
 
 BaseButton::BaseButton(int id, const QString& name, QWidget* parent) : QPushButton(parent), m_id(id)
 {
-    InstallWidgetAccessibility();
     // Named before it is styled, so that rules for the name are looked up once.
     setObjectName(name);
     setAttribute(Qt::WA_StyledBackground);

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/ImageTextButton2.h"
 
-#include "CommonLib/WidgetAccessibility_p.h"
-
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -22,7 +20,6 @@ QSize LogicalSize(const QPixmap& image)
 ImageTextButton2::ImageTextButton2(int id, const QString& name, QWidget* parent)
     : QWidget(parent), m_id(id)
 {
-    InstallWidgetAccessibility();
     setObjectName(name);
     setAttribute(Qt::WA_StyledBackground);
     setFocusPolicy(Qt::TabFocus);
@@ -95,6 +92,11 @@ void ImageTextButton2::SetButtonState(BUTTONSTATE state)
 {
     m_state = state;
     update();
+}
+
+ImageTextButton2::BUTTONSTATE ImageTextButton2::GetButtonState() const
+{
+    return m_state;
 }
 
 QSize ImageTextButton2::sizeHint() const

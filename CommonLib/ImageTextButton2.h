@@ -45,6 +45,7 @@ public:
     QColor GetSelectedTextColor() const;
     /// Emits nothing. Neither image nor text shows in a state that is none of the two.
     void SetButtonState(BUTTONSTATE state);
+    BUTTONSTATE GetButtonState() const;
 
     QSize sizeHint() const override;
 
@@ -58,8 +59,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    friend class ImageTextButton2Accessible;
-
     void Select();
 
     QPixmap m_normalImage;

@@ -19,14 +19,12 @@ constexpr int kDefaultMinimum = 0;
 constexpr int kDefaultMaximum = 100;
 constexpr QSize kUsualSize(160, 12);
 constexpr QRgb kDisabledVeil = qRgba(240, 240, 240, 150);
-constexpr int kStepsPerRange = 100;
 constexpr int kPagesPerRange = 10;
 
 } // namespace
 
 PureSlider::PureSlider(QWidget* parent) : QWidget(parent)
 {
-    InstallWidgetAccessibility();
     setObjectName(QStringLiteral("CommonLib_PureSlider"));
     setAttribute(Qt::WA_StyledBackground);
     setFocusPolicy(Qt::StrongFocus);

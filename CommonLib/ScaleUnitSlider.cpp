@@ -5,7 +5,6 @@
 #include "CommonLib/NumberConversion_p.h"
 #include "CommonLib/ScreenPixels_p.h"
 #include "CommonLib/ToolBarSlider.h"
-#include "CommonLib/WidgetAccessibility_p.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -76,7 +75,6 @@ ScaleUnitSlider::ScaleUnitSlider(QWidget* parent)
     // In the order of the tab key.
     m_slider = new ToolBarSlider(this, Qt::Horizontal);
     m_addButton = new SignButton(Sign::Plus, QStringLiteral("CommonLib_ScaleUnitSlider_Add"), this);
-    InstallWidgetAccessibility();
     setObjectName(QStringLiteral("CommonLib_ScaleUnitSlider"));
     setAttribute(Qt::WA_StyledBackground);
     setFocusProxy(m_slider);

@@ -17,7 +17,6 @@
 namespace {
 
 constexpr int kUsualLength = 160;
-constexpr double kStepsPerRange = 100;
 constexpr double kPagesPerRange = 10;
 // So that it does not look out below a chunk at an end, which the style sheet gives this margin.
 constexpr int kGrooveInset = 1;
@@ -40,7 +39,6 @@ ToolBarSlider::ToolBarSlider(QWidget* parent, Qt::Orientation orientation)
     , m_chunk(MakePart(this, QStringLiteral("CommonLib_ToolBarSlider_chunk")))
     , m_highlight(MakePart(m_groove, QStringLiteral("CommonLib_ToolBarSlider_groove_highlight")))
 {
-    InstallWidgetAccessibility();
     setObjectName(QStringLiteral("CommonLib_ToolBarSlider"));
     setAttribute(Qt::WA_StyledBackground);
     m_chunk->setAccessibleName(m_chunk->objectName());

@@ -111,8 +111,6 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    friend class ToolBarSliderAccessible;
-
     void ResizeChunk();
     void SetCanSeek(bool canSeek);
 

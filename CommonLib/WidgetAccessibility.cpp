@@ -11,12 +11,22 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QCoreApplication>
 #include <QFocusEvent>
+#include <QKeyEvent>
+#include <QPointer>
 
 // The text that the widget was given, else \a fallback.
 static QString NameOr(const QWidget& widget, const QString& fallback)
 {
     return widget.accessibleName().isEmpty() ? fallback : widget.accessibleName();
+}
+
+// As the user does.
+static void PressKey(QWidget& widget, Qt::Key key)
+{
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &press);
 }
 
 // A button, or a tab, that can be pressed.
@@ -98,12 +108,12 @@ public:
     {
         QAccessible::State state = QAccessibleWidget::state();
         state.selectable = true;
-        state.selected = m_tab->m_state == ImageTextButton2::Selected;
+        state.selected = m_tab->GetButtonState() == ImageTextButton2::Selected;
         return state;
     }
 
 protected:
-    void Press() override { m_tab->Select(); }
+    void Press() override { PressKey(*m_tab, Qt::Key_Space); }
 
 private:
     ImageTextButton2* m_tab;
@@ -138,8 +148,17 @@ public:
     QVariant currentValue() const override { return m_slider->value(); }
     void setCurrentValue(const QVariant& value) override
     {
-        if (m_slider->isEnabled())
-            m_slider->ChangeByUser(value.toDouble());
+        const QPointer<ToolBarSlider> slider(m_slider);
+        const float before = slider->value();
+        if (slider->isEnabled())
+            slider->setValue(value.toFloat(), false);
+        if (slider->value() == before)
+            return;
+        emit slider->startValueChanged();
+        if (slider)
+            emit slider->valueChanged(slider->value());
+        if (slider)
+            emit slider->endValueChanged();
     }
     QVariant maximumValue() const override
     {
@@ -149,7 +168,11 @@ public:
     {
         return qMin(m_slider->getRange().x(), m_slider->getRange().y());
     }
-    QVariant minimumStepSize() const override { return qAbs(m_slider->Steps().step); }
+    QVariant minimumStepSize() const override
+    {
+        const QPointF range = m_slider->getRange();
+        return qAbs(range.y() - range.x()) / kStepsPerRange;
+    }
 
 private:
     ToolBarSlider* m_slider;
@@ -202,10 +225,12 @@ static QAccessibleInterface* MakeInterface(const QString& className, QObject* ob
     return nullptr;
 }
 
-void InstallWidgetAccessibility()
+// With every application object, together with which the toolkit forgets it.
+static void InstallWidgetAccessibility()
 {
-    QAccessible::installFactory(MakeInterface); // once only, however often it is called
+    QAccessible::installFactory(MakeInterface);
 }
+Q_COREAPP_STARTUP_FUNCTION(InstallWidgetAccessibility)
 
 bool ShowsKeyboardFocus(const QFocusEvent& event, bool shows)
 {
@@ -222,10 +247,10 @@ bool ShowsKeyboardFocus(const QFocusEvent& event, bool shows)
     }
 }
 
-void NotifyAccessibleValue(QWidget* slider, double value)
+void NotifyAccessibleValue(QWidget* widget, double value)
 {
     if (!QAccessible::isActive())
         return;
-    QAccessibleValueChangeEvent event(slider, value);
+    QAccessibleValueChangeEvent event(widget, value);
     QAccessible::updateAccessibility(&event);
 }
