@@ -9,16 +9,18 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QStorageInfo>
+#include <QUuid>
 #include <quazip.h>
 #include <quazipfile.h>
 
+#include <filesystem>
 #include <limits>
 #include <optional>
+#include <type_traits>
 
 namespace {
 
-constexpr quint64 kLargestHarmlessSize = quint64(1) << 30;
-constexpr quint64 kLargestHarmlessRatio = 200;
+constexpr quint64 kLargestSmallSize = quint64(1) << 30;
 constexpr quint64 kLongestLinkTarget = 4096;
 // From here on sizes and offsets need the format's 64-bit fields. Left room for headers.
 constexpr qint64 kLargestPlainSize = qint64(0xF0000000);
@@ -81,6 +83,13 @@ bool ClimbsFirst(const QStringList& parts)
     return true;
 }
 
+// Whether a link that stands \a depth folders below the root leads to somewhere below the root.
+bool IsInner(const QString& linkTarget, int depth)
+{
+    const QStringList parts = Parts(linkTarget);
+    return !IsAbsolute(parts) && ClimbsFirst(parts) && DepthAfter(parts, depth).has_value();
+}
+
 class Extractor
 {
 public:
@@ -89,10 +98,9 @@ public:
     {
     }
 
-    // False for a broken archive or a bomb.
-    bool IsHarmless() const
+    // False for a broken archive, too.
+    bool HasRoom() const
     {
-        const quint64 archiveSize = static_cast<quint64>(QFileInfo(m_zip.getZipName()).size());
         quint64 total = 0;
         for (bool more = m_zip.goToFirstFile(); more; more = m_zip.goToNextFile()) {
             QuaZipFileInfo64 info;
@@ -102,9 +110,7 @@ public:
                 return false;
             total += info.uncompressedSize;
         }
-        const bool isBomb =
-            total > kLargestHarmlessSize && total / kLargestHarmlessRatio > archiveSize;
-        return m_zip.getZipError() == UNZ_OK && !isBomb && Fits(total);
+        return m_zip.getZipError() == UNZ_OK && Fits(total);
     }
 
     QStringList Extract()
@@ -120,7 +126,7 @@ private:
     bool Fits(quint64 size) const
     {
         // Not asked for small archives: the question costs more than they do.
-        if (size <= kLargestHarmlessSize)
+        if (size <= kLargestSmallSize)
             return true;
         QString existing = m_target;
         while (!QFileInfo::exists(existing) && !QDir(existing).isRoot())
@@ -176,9 +182,7 @@ private:
         QuaZipFile file(&m_zip);
         if (!file.open(QIODevice::ReadOnly))
             return false;
-        const QStringList parts = Parts(QFile::decodeName(file.readAll()));
-        return !IsAbsolute(parts) && ClimbsFirst(parts) &&
-               DepthAfter(parts, relative.count('/')).has_value();
+        return IsInner(QFile::decodeName(file.readAll()), relative.count('/'));
     }
 
     static bool IsLink(const QFileInfo& info) { return info.isSymbolicLink() || info.isJunction(); }
@@ -196,23 +200,44 @@ private:
     QStringList m_extracted;
 };
 
+std::filesystem::path SystemPath(const QString& path)
+{
+    if (std::is_same_v<std::filesystem::path::value_type, wchar_t>)
+        return path.toStdWString();
+    return QFile::encodeName(path).toStdString();
+}
+
+// What the system finds in a folder: the toolkit passes over names that are no valid text, and
+// takes a folder that it cannot read for an empty one. Nothing when the folder cannot be read.
+std::optional<int> CountEntries(const QString& folder)
+{
+    std::error_code error;
+    int count = 0;
+    for (std::filesystem::directory_iterator entry(SystemPath(folder), error), end;
+         !error && entry != end; entry.increment(error))
+        ++count;
+    return error ? std::nullopt : std::optional<int>(count);
+}
+
 // What there is to pack.
 class Survey
 {
 public:
-    // False when a link leads back to a folder that holds it: the library would follow it forever.
+    // False when the library would pass over something, or when a link leads back to a folder that
+    // holds it: the library would follow it forever.
     bool Visit(const QString& folder)
     {
         const QString realPath = QFileInfo(folder).canonicalFilePath();
         if (m_holders.contains(realPath))
             return false;
         m_holders += realPath;
-        const auto filters = QDir::AllDirs | QDir::Files | QDir::NoDotAndDotDot;
-        const QFileInfoList entries = QDir(folder).entryInfoList(filters, QDir::NoSort);
+        const std::optional<int> count = CountEntries(folder);
+        const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+        const QFileInfoList entries = QDir(folder).entryInfoList(all, QDir::NoSort);
+        if (!count || *count > entries.size())
+            return false;
         for (const QFileInfo& entry : entries) {
-            if (!entry.isDir())
-                m_size += entry.size();
-            else if (!Visit(entry.filePath()))
+            if (!entry.isHidden() && !(entry.isDir() ? Visit(entry.filePath()) : AddFile(entry)))
                 return false;
         }
         m_holders.removeLast();
@@ -222,9 +247,28 @@ public:
     bool NeedsLargeFormat() const { return m_size >= kLargestPlainSize; }
 
 private:
+    // False for broken links, pipes and the like, and for links that would not be unpacked again.
+    bool AddFile(const QFileInfo& file)
+    {
+        m_size += file.size();
+        // The target as the library packs it.
+        return file.isFile() &&
+               (!file.isSymbolicLink() ||
+                IsInner(file.dir().relativeFilePath(file.symLinkTarget()), m_holders.size() - 1));
+    }
+
     qint64 m_size = 0;
-    QStringList m_holders;
+    QStringList m_holders; // from the root down
 };
+
+// The path of a new empty file; empty when there cannot be one. Its name does not depend on the
+// archive's, so it fits whatever the file system allows and is nobody else's. A temporary file of
+// the toolkit would stay closed to other users.
+QString NewHiddenFile(const QString& folder)
+{
+    QFile file(folder + "/." + QUuid::createUuid().toString(QUuid::WithoutBraces) + ".part");
+    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly) ? file.fileName() : QString();
+}
 
 bool Pack(const QString& archivePath, const QString& folder)
 {
@@ -253,11 +297,12 @@ bool QuaZipOperate::CompressDir(const QString& archivePath, const QString& folde
     // The archive may lie inside of the folder, or be reached from it by a link: hidden entries are
     // not packed, so while it grows it stays out of its own sight. Absolute, because the library
     // leaves out the file that it writes by comparing absolute paths.
-    const QString growing =
-        archive.absolutePath() + QStringLiteral("/.%1.part").arg(archive.fileName());
+    const QString growing = NewHiddenFile(archive.absolutePath());
+    if (growing.isEmpty())
+        return false;
     if (Pack(growing, folder) && QFile::rename(growing, archive.filePath()))
         return true;
-    FileOperation::RemoveFile(growing);
+    QFile::remove(growing);
     return false;
 }
 
@@ -270,5 +315,5 @@ QStringList QuaZipOperate::ExtractDir(const QString& archivePath, const QString&
     if (!zip.open(QuaZip::mdUnzip))
         return QStringList();
     Extractor extractor(zip, targetFolder);
-    return extractor.IsHarmless() ? extractor.Extract() : QStringList();
+    return extractor.HasRoom() ? extractor.Extract() : QStringList();
 }

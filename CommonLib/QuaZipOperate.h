@@ -12,11 +12,13 @@ class COMMONLIB_EXPORT QuaZipOperate
 public:
     /// Packs what \a folder holds, with all sub-folders but without hidden entries, into a new
     /// archive. An archive inside the folder does not pack itself; folders of the archive's path
-    /// that miss are created. A link to a folder is packed as that folder.
+    /// that miss are created. A link to a folder is packed as that folder, a link to a file as a
+    /// link.
     ///
     /// \return false when the folder is missing, which leaves an older archive as it is, or when
-    ///         something cannot be packed or a link leads back to a folder that holds it, which
-    ///         leaves no archive
+    ///         something cannot be packed, which leaves no archive: a file or folder that cannot be
+    ///         read or whose name is no valid text, a pipe or another special file, a link that is
+    ///         broken, leads back to a folder that holds it or to a file outside of \a folder
     static bool CompressDir(const QString& archivePath, const QString& folder);
 
     /// Unpacks an archive below \a targetFolder, replacing files and creating folders as needed.
@@ -25,12 +27,11 @@ public:
     /// when a symbolic link on its way or in its place already lies there, or when it is itself a
     /// link that leads out. Bytes of a name that are not UTF-8 become replacement characters.
     ///
-    /// An archive counts as a bomb, and is refused before anything is written, when its entries
-    /// together unpack to more than the target's volume has free, or to more than 1 GiB and 200
-    /// times the archive's size.
-    ///
-    /// \return absolute paths of the entries unpacked, folders included; empty when the archive is
-    ///         missing, broken, encrypted or a bomb, or when an entry cannot be written. In the
-    ///         latter case the files already unpacked are deleted again
+    /// \return absolute paths of the entries unpacked, folders included; empty, and nothing
+    /// written,
+    ///         when the archive is missing, broken or encrypted or when its entries together state
+    ///         more than 1 GiB and more than the target's volume has free; empty, too, when an
+    ///         entry cannot be unpacked. In the latter case the files already unpacked are deleted
+    ///         again
     static QStringList ExtractDir(const QString& archivePath, const QString& targetFolder);
 };
