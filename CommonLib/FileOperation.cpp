@@ -2,6 +2,7 @@
 #include "CommonLib/FileOperation.h"
 
 #include "CommonLib/PathOperation.h"
+#include "CommonLib/RegularFile_p.h"
 
 #include <QCryptographicHash>
 #include <QFile>
@@ -33,7 +34,7 @@ void SetEncoding(QTextStream& stream, bool utf8)
 QString ReadAll(const QString& path, bool utf8, QIODevice::OpenMode mode)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | mode))
+    if (!OpenRegularFile(file, QIODevice::ReadOnly | mode))
         return QString();
     QTextStream stream(&file);
     SetEncoding(stream, utf8);
@@ -43,7 +44,7 @@ QString ReadAll(const QString& path, bool utf8, QIODevice::OpenMode mode)
 void WriteAll(const QString& path, const QString& text, bool utf8, QIODevice::OpenMode mode)
 {
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | mode))
+    if (!OpenRegularFile(file, QIODevice::WriteOnly | QIODevice::Truncate | mode))
         return;
     QTextStream stream(&file);
     SetEncoding(stream, utf8);
@@ -88,7 +89,7 @@ bool FileOperation::CopyOneFile(const QString& source, const QString& target)
         return false;
     if (IsFileExist(target))
         QFile::remove(target);
-    return QFile::copy(source, target);
+    return QFileInfo(source).isFile() && QFile::copy(source, target);
 }
 
 bool FileOperation::CopyFileW(const QString& source, const QString& folder)
@@ -165,7 +166,7 @@ QString FileOperation::CalcFileMD5(const QString& path)
     QFile file(path);
     qint64 remaining = file.size();
     // The pieces are large enough that the file's own buffer would only copy them once more.
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    if (!OpenRegularFile(file, QIODevice::ReadOnly | QIODevice::Unbuffered))
         return QString();
     QCryptographicHash hash(QCryptographicHash::Md5);
     char block[kHashBlockSize];

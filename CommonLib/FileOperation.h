@@ -8,6 +8,9 @@
 
 /// Operations on files and on the names in their paths. Paths may use "/" or the native separator.
 ///
+/// Content is read, copied and replaced of regular files only. Anything else, a folder, a pipe or a
+/// device, counts as a file that cannot be opened.
+///
 /// In a name, the base name is what stands before the first dot and the suffix what stands after
 /// the last one: of "a.b.c" they are "a" and "c".
 class COMMONLIB_EXPORT FileOperation

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/GlobalUtils.h"
 
+#include "CommonLib/RegularFile_p.h"
+
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDebug>
@@ -50,17 +52,10 @@ bool HashSamples(QFile& file, quint64 blockSize, QCryptographicHash& hash)
     return true;
 }
 
-// Opening a pipe would block and a device may have no end.
-bool OpenRegularFile(QFile& file)
-{
-    return QFileInfo(file.fileName()).isFile() &&
-           file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
-}
-
 QString Fingerprint(quint64 blockSize, const QString& path, bool withTime)
 {
     QFile file(path);
-    if (!OpenRegularFile(file)) {
+    if (!OpenRegularFile(file, QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         qDebug("file open error.");
         return QString();
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/TranslationFile_p.h"
 
+#include "CommonLib/RegularFile_p.h"
+
 #include <QDataStream>
 #include <QFile>
 #include <QFileInfo>
@@ -198,8 +200,8 @@ bool IsSound(const QString& path, int depth)
     const QString chosen = QFileInfo(suffixed).isFile() ? suffixed : path;
     QFile file(chosen);
     const qint64 size = file.size();
-    if (depth > kDeepest || !QFileInfo(chosen).isFile() || size <= qint64(kMagic.size()) ||
-        !file.open(QIODevice::ReadOnly))
+    if (depth > kDeepest || size <= qint64(kMagic.size()) ||
+        !OpenRegularFile(file, QIODevice::ReadOnly))
         return false;
     const uchar* const data = file.map(0, size);
     if (!data || !std::equal(kMagic.begin(), kMagic.end(), data))

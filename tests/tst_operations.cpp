@@ -12,6 +12,8 @@
 #include <windows.h>
 
 #include <shlobj.h>
+#else
+#include <sys/stat.h>
 #endif
 
 namespace {
@@ -167,6 +169,22 @@ private slots:
         QVERIFY(!FileOperation::WriteTextFile(Path("no/t"), "a", true));
         QCOMPARE(FileOperation::ReadFile(Path("no"), true), QString());
     }
+
+#ifdef Q_OS_LINUX
+    void specialFiles()
+    {
+        QCOMPARE(::mkfifo(qPrintable(Path("pipe")), 0600), 0);
+        FileOperation::WriteFile(Path("pipe"), "a", true);
+        for (const QString& path : {Path("pipe"), QString("/dev/zero"), m_folder->path()}) {
+            QVERIFY(FileOperation::IsFileExist(path));
+            QCOMPARE(FileOperation::ReadFile(path, true), QString());
+            QCOMPARE(FileOperation::ReadTextFile(path, false), QString());
+            QCOMPARE(FileOperation::CalcFileMD5(path), QString());
+            QVERIFY(!FileOperation::CopyOneFile(path, Path("copy")));
+        }
+        QCOMPARE(FileOperation::ReadFile("/proc/self/comm", true), QString("tst_operations\n"));
+    }
+#endif
 
     void hashesWholeFile()
     {

@@ -93,7 +93,7 @@ private slots:
         check(40, std::numeric_limits<quint64>::max() / 3 + 1, {}); // three blocks overflow
     }
 
-    void fingerprintOfNoFile()
+    void noFile()
     {
         QStringList none{Path("missing"), m_folder->path(), QString()};
 #ifdef Q_OS_LINUX
@@ -105,6 +105,7 @@ private slots:
         for (const QString& path : none) {
             QTest::ignoreMessage(QtDebugMsg, "file open error.");
             QCOMPARE(GetFileMd5(10, path), QString());
+            QCOMPARE(gGetStyleSheet(nullptr, path), QString());
         }
     }
 
@@ -227,7 +228,7 @@ private slots:
         CreateSettingsFile(GetSettingFilePath());
         QCOMPARE(gGetStyleSheet(nullptr, GetSettingFilePath()),
                  QString("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Settings/>\n"));
-        QCOMPARE(gGetStyleSheet(nullptr, Path("missing")), QString());
+        QVERIFY(!gGetStyleSheet(nullptr, ":/CommonLib/Resources/styles.qss").isEmpty());
         qunsetenv("ProgramData");
         qputenv("XDG_DATA_HOME", Path("data").toLocal8Bit());
         QVERIFY(GetConfigfileDir().endsWith("/Corvane Video Editor/Resources/MotionKit"));
