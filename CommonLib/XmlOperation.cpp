@@ -2,55 +2,12 @@
 #include "CommonLib/XmlOperation.h"
 
 #include "CommonLib/FileOperation.h"
+#include "CommonLib/RegularFile_p.h"
 #include "CommonLib/XmlDocument_p.h"
-
-#include <QFile>
-#include <QFileInfo>
-#include <QTextStream>
-#include <QXmlStreamReader>
 
 namespace {
 
-constexpr int kIndent = 4;
-constexpr int kDeepestLevel = 1000;
-constexpr int kLongestEntity = 1024;
-constexpr qint64 kLargestFileWithEntities = qint64(128) * 1024;
-
-// Whether the content may be built into a document: that works recursively and expands entities
-// with few limits, so depth and growth are judged by a reader that does neither.
-bool IsSafeXml(QIODevice& device)
-{
-    QXmlStreamReader reader(&device);
-    reader.setNamespaceProcessing(false);
-    reader.setEntityExpansionLimit(kLongestEntity);
-    int level = 0;
-    while (!reader.atEnd()) {
-        switch (reader.readNext()) {
-        case QXmlStreamReader::StartElement:
-            if (++level > kDeepestLevel)
-                return false;
-            break;
-        case QXmlStreamReader::EndElement:
-            --level;
-            break;
-        case QXmlStreamReader::DTD:
-            // Many short entities in a long file multiply its size just as well.
-            if (!reader.entityDeclarations().isEmpty() && device.size() > kLargestFileWithEntities)
-                return false;
-            break;
-        default:
-            break;
-        }
-    }
-    return !reader.hasError();
-}
-
-// A pipe would block and a device may have no end.
-bool IsSpecialFile(const QString& path)
-{
-    const QFileInfo info(path);
-    return info.exists() && !info.isFile();
-}
+constexpr qint64 kLargestFile = qint64(1) << 30;
 
 } // namespace
 
@@ -73,10 +30,10 @@ bool XmlOperation::OpenXmlFile(QDomDocument& document, const QString& path,
                                QIODevice::OpenMode mode)
 {
     QFile file(path);
-    if (IsSpecialFile(path) || !file.open(mode))
+    if (!OpenRegularFile(file, mode))
         return false;
-    const bool isRead =
-        file.isReadable() && IsSafeXml(file) && file.seek(0) && document.setContent(&file, false);
+    const bool isRead = file.isReadable() && file.size() <= kLargestFile &&
+                        ReadXmlDocument(document, file.readAll());
     if (!isRead)
         document.clear();
     return isRead;
@@ -85,11 +42,8 @@ bool XmlOperation::OpenXmlFile(QDomDocument& document, const QString& path,
 void XmlOperation::SaveXmlContent2File(const QDomDocument& document, const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return;
-    QTextStream stream(&file);
-    stream.setCodec("UTF-8");
-    document.save(stream, kIndent, QDomNode::EncodingFromDocument);
+    if (OpenRegularFile(file, QIODevice::WriteOnly | QIODevice::Truncate))
+        WriteXmlDocument(document, file);
 }
 
 QDomElement XmlOperation::AddXmlElement(QDomDocument& document, QDomElement parent,

@@ -20,17 +20,32 @@ public:
     static void CreateXmlFile(const QString& path, const QString& rootName);
 
     /// Reads a whole file into \a document, without namespace processing. A document of many small
-    /// elements takes about fifty times the memory of its file.
+    /// elements takes about fifty times the memory of its file. White space between elements is
+    /// layout and left out, unless it stands in a section or a part of it is a character reference.
+    /// The versions after 1.0 are read as if they were that.
     ///
     /// \param mode how to open the file; must allow reading for the call to succeed
-    /// \return false, and a null \a document, when the file is not well-formed XML 1.0, has a
-    ///         name with two colons, is nested deeper than 1,000 levels, or declares entities that
-    ///         expand to more than 1,024 characters or that stand in a file of more than 128 KiB.
+    /// \return false, and a null \a document, when the file is not well-formed XML, is larger than
+    ///         1 GiB, has a name with two colons, is nested deeper than 1,000 levels, or could grow
+    ///         by more than 16 million characters if each reference stood for its longest entity.
     ///         False, and \a document as it was, when the file cannot be opened or is no regular
     ///         file
     static bool OpenXmlFile(QDomDocument& document, const QString& path, QIODevice::OpenMode mode);
 
     /// Writes the document, replacing the file. Nothing happens when it cannot be opened.
+    ///
+    /// OpenXmlFile() can read any file that has been written from a document with a root element:
+    /// - Characters that XML cannot hold (control characters, lone surrogates, U+FFFE, U+FFFF) are
+    ///   left out; in names they become "_", like all that a name cannot have. Of attributes whose
+    ///   names become the same one stays.
+    /// - In texts and attributes a character that the declared encoding lacks becomes a reference;
+    ///   in comments and instructions it becomes "?". A section that cannot hold its text becomes
+    ///   a text.
+    /// - "--" in a comment and "?>" in an instruction are parted by a space, and carriage returns
+    ///   in them become line feeds.
+    /// - Elements nested deeper than 1,000 levels, undeclared entities and a document type or a
+    ///   further root element that would make the file unreadable are left out. In place of such a
+    ///   declaration stands one of UTF-8.
     static void SaveXmlContent2File(const QDomDocument& document, const QString& path);
 
     /// Appends a new element with one text child, which may be empty, to \a parent and gives it.
