@@ -74,8 +74,8 @@ struct INLEThumbnailExtractor : IUnknown
 
     virtual HRESULT SetSource(INLEMediaInfo* info, std::uint32_t videoStream) = 0;
     /// The picture of frame \a frame, counted from the file's first frame. The size is what the
-    /// caller will show; the picture may have another one. E_FAIL without a source, past the end
-    /// and when the media cannot be decoded.
+    /// caller will show; the picture may have another one. E_FAIL without a source, past the
+    /// frame count of the file and when the media cannot be decoded.
     virtual HRESULT Extract(int frame, NLESize wanted, INLEPicture** picture) = 0;
     /// Closes the file. Without it the open file is kept for the next extractor.
     virtual HRESULT Finish() = 0;

@@ -690,7 +690,8 @@ private slots:
         QCOMPARE(shown(Path("none.mkv"), 40), QList<int>({false, 40, 40}));
         QCOMPARE(timeline.GetFilePath(), Path("moved.mkv"));
         QCOMPARE(shown(Path("short.mp4"), 8), QList<int>({true, 8, 16}));
-        QCOMPARE(shown({}, 40), QList<int>({true, -1, -1}));
+        QCOMPARE(shown({}, 19), QList<int>({true, 19, -1}));
+        QCOMPARE(shown({}, 20), QList<int>({true, -1, -1}));
         QVERIFY(timeline.GetSourceSize() == QSizeF(160, 120) && timeline.GetPlayLen() == 40);
         QCOMPARE(shown(Path("sound.wav"), 8), QList<int>({true, -1, -1}));
         QCOMPARE(shown(m_media, 8), QList<int>({true, 8, 8}));

@@ -298,6 +298,48 @@ private slots:
         QCOMPARE(ReadFrameNumber(other->Picture(lastShown, Thumbnail)), lastShown);
     }
 
+    void copiedPart_data()
+    {
+        QTest::addColumn<QString>("suffix");
+        QTest::addColumn<int>("rate"); // frames in 1001 seconds
+        QTest::addColumn<QStringList>("part");
+        const auto row = [](const char* title, QString suffix, int rate, const char* part) {
+            QTest::newRow(title) << suffix << rate << QString(part).split(' ');
+        };
+        row("29.97, ends amid a frame", "mp4", 30000, "-ss 2.017 -t 3.35");
+        row("25, ends amid a frame", "mov", 25025, "-ss 1.5 -t 2");
+        row("25, ends between pictures", "mp4", 25025, "-ss 3.333 -t 3.35");
+        row("29.97, from the first picture", "mp4", 30000, "-t 4.017");
+        row("59.94 in fragments", "mp4", 60000, "-ss 2.017 -t 2 -movflags frag_keyframe");
+        row("29.97 in MKV", "mkv", 30000, "-ss 1.5 -t 4.017");
+    }
+
+    void copiedPart()
+    {
+        QFETCH(QString, suffix);
+        QFETCH(int, rate);
+        QFETCH(QStringList, part);
+        TestClip clip = SmallClip(240);
+        clip.rateNum = rate;
+        clip.rateDen = 1001;
+        clip.gop = 30;
+        clip.bframes = 2;
+        clip.audioCodec = "aac";
+        const QString whole = Path("to copy." + suffix);
+        QCOMPARE(MakeTestClip(whole, clip), QString());
+        const int output = part.contains("-movflags") ? part.indexOf("-movflags") : part.size();
+        QCOMPARE(RunFfmpeg(part.mid(0, output) + QStringList{"-i", whole, "-c", "copy"} +
+                           part.mid(output) + QStringList{Path("part." + suffix)}),
+                 QString());
+        const auto info = Probe("part." + suffix);
+        QVERIFY(info);
+        const auto decoder = FrameDecoder::Open(info, info->videoStream, nullptr);
+        const int count = int(info->frameCount);
+        for (int frame = 0; frame < count; ++frame)
+            QVERIFY(!decoder->Picture(frame, Thumbnail).isNull());
+        QCOMPARE(decoder->Position(), count - 1);
+    }
+
     void stillPicture_data()
     {
         QTest::addColumn<QString>("suffix"); // names the format

@@ -30,6 +30,9 @@ constexpr double StandardRateTolerance = 0.0002;
 // Above this, r_frame_rate is the clock of the container rather than a grid of pictures.
 constexpr double MaxGridRate = 125.0;
 
+// More packets than this behind the last entries of an index: it is not that of the whole file.
+constexpr int MaxPacketsAtEnd = 64;
+
 struct Orientation
 {
     int rotation = 0;
@@ -287,14 +290,52 @@ uint32_t CountFrames(int64_t durationUs, const Rational& rate)
     return uint32_t(std::clamp<int64_t>(count, 0, INT32_MAX));
 }
 
+// The frame after the last picture that the packets at the end of the index hold; 0 where there is
+// no index of the whole file or its end cannot be read. Parts that an edit list cuts away do not
+// count.
+uint32_t FindEnd(MediaFile& file, const AVStream* stream, const MediaStream& description)
+{
+    AVFormatContext* const context = file.Context();
+    auto* const source = const_cast<AVStream*>(stream);
+    const int entries = avformat_index_get_entries_count(source);
+    // So many packets can stand after that of the picture shown last.
+    const int first = entries - 1 - stream->codecpar->video_delay;
+    if (!file.IsFormat("mp4") || stream->nb_frames <= 0 || first < 0)
+        return 0;
+    const int64_t start = avformat_index_get_entry(source, first)->timestamp;
+    if (av_seek_frame(context, stream->index, start, AVSEEK_FLAG_BACKWARD | AVSEEK_FLAG_ANY) < 0)
+        return 0;
+    for (unsigned i = 0; i < context->nb_streams; ++i)
+        context->streams[i]->discard = int(i) == stream->index ? AVDISCARD_DEFAULT : AVDISCARD_ALL;
+    const AVRational frame{int(description.frameRate.den), int(description.frameRate.num)};
+    const PacketPtr packet(av_packet_alloc());
+    int64_t end = 0;
+    int packets = 0;
+    file.LimitTime();
+    while (av_read_frame(context, packet.get()) >= 0) {
+        if (++packets > MaxPacketsAtEnd)
+            return 0;
+        const bool isShown = packet->pts != AV_NOPTS_VALUE &&
+                             (packet->flags & (AV_PKT_FLAG_DISCARD | AV_PKT_FLAG_CORRUPT)) == 0;
+        const int64_t ticks = packet->pts - description.startTicks;
+        if (isShown)
+            end = std::max(end, av_rescale_q(ticks, stream->time_base, frame) + 1);
+        av_packet_unref(packet.get());
+    }
+    return uint32_t(std::clamp<int64_t>(end, 0, INT32_MAX));
+}
+
 // The container's own count is exact, but counts pictures: at a variable rate, or with parts cut
 // away by an edit list, it is not the number of frames.
-uint32_t CountFrames(const AVStream* stream, const MediaStream& description)
+uint32_t CountFrames(MediaFile& file, const AVStream* stream, const MediaStream& description)
 {
     const uint32_t expected = CountFrames(description.durationUs, description.frameRate);
     const int64_t known = stream->nb_frames;
     const bool isUsable = known > 0 && std::abs(known - int64_t(expected)) <= 1;
-    return std::max(1U, isUsable || expected == 0 ? uint32_t(known) : expected);
+    const uint32_t count = isUsable || expected == 0 ? uint32_t(known) : expected;
+    // A copied part ends where the sound does, maybe amid a frame that has no picture.
+    const uint32_t end = description.constantRate ? FindEnd(file, stream, description) : 0;
+    return end > 0 ? std::min(count, end) : count;
 }
 
 void MakeStill(MediaInfo* info)
@@ -302,19 +343,26 @@ void MakeStill(MediaInfo* info)
     MediaStream& stream = info->streams[size_t(info->videoStream)];
     stream.frameRate = StillRate;
     stream.durationUs = 1000000 * StillRate.den / StillRate.num;
+    stream.frameCount = 1;
     info->kind = MediaKind::Image;
     info->frameCount = 1;
     info->frameRate = StillRate;
     info->durationUs = stream.durationUs;
 }
 
-void MakeVideo(const AVFormatContext* context, MediaInfo* info)
+void MakeVideo(MediaFile& file, MediaInfo* info)
 {
+    const AVFormatContext* const context = file.Context();
+    for (unsigned i = 0; i < context->nb_streams; ++i) {
+        MediaStream& stream = info->streams[i];
+        if (stream.type == StreamType::Video)
+            stream.frameCount = CountFrames(file, context->streams[i], stream);
+    }
     const MediaStream& stream = info->streams[size_t(info->videoStream)];
     const AVStream* const source = context->streams[info->videoStream];
     info->kind = MediaKind::Video;
     info->frameRate = stream.frameRate;
-    info->frameCount = CountFrames(source, stream);
+    info->frameCount = std::max(1U, stream.frameCount);
     info->originUs = StartUs(source);
     info->durationUs = av_rescale_q(
         info->frameCount, {int(stream.frameRate.den), int(stream.frameRate.num)}, Microseconds);
@@ -366,7 +414,7 @@ std::shared_ptr<const MediaInfo> ProbeMedia(const QString& path, QString* error)
     else if (!isMoving)
         MakeStill(info.get());
     else
-        MakeVideo(context, info.get());
+        MakeVideo(*file, info.get());
     return info;
 }
 

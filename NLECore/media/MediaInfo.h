@@ -77,6 +77,8 @@ struct MediaStream
     int reorderDelay = 0;
     /// Pictures stand on the grid of frameRate, so no two of them share one frame number.
     bool constantRate = false;
+    /// Frames of a video stream at frameRate, 1 for a still picture; 0 when unknown.
+    uint32_t frameCount = 0;
 };
 
 /// Plain description of a media file. Never changes once made, so threads may share it.

@@ -40,6 +40,8 @@ public:
     HRESULT Finish() override;
 
 private:
+    bool HasFrame(const MediaStream& stream, int frame) const;
+
     std::shared_ptr<const MediaInfo> m_media;
     int m_stream = -1;
 };
