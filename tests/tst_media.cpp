@@ -4,6 +4,7 @@
 #include "NLECore/media/FrameDecoder.h"
 #include "NLECore/media/MediaInfo.h"
 #include "NLECore/media/MediaLog.h"
+#include "NLECore/media/MediaStore.h"
 #include "NLECore/media/WaveForm.h"
 #include "TestMedia.h"
 
@@ -591,6 +592,89 @@ private slots:
                     std::abs(peaks[i].min + level) < 0.01F);
         }
         QVERIFY(ReadWaveForm(*decoder, 0, 0, 48000, 2, 10).empty());
+    }
+
+    void describedAnew_data()
+    {
+        QTest::addColumn<QString>("change");
+        for (const char* change : {"none", "time", "size", "another file", "gone and back"})
+            QTest::newRow(change) << change;
+    }
+
+    void describedAnew()
+    {
+        QFETCH(QString, change);
+        const QString path = Path("described " + change + ".mp4");
+        const QString other = Path("other.mp4");
+        const QByteArray content = ReadAll(Make("to describe.mp4", SmallClip(10))->path);
+        const auto setTime = [](const QString& name, int seconds) {
+            QFile file(name);
+            const QDateTime time = QDateTime::fromSecsSinceEpoch(1000000000 + seconds);
+            return file.open(QIODevice::ReadWrite) &&
+                   file.setFileTime(time, QFileDevice::FileModificationTime);
+        };
+        QVERIFY(Write(path, content) && setTime(path, 0));
+        // What was changed just now is not taken for known.
+        QTest::qWait(300);
+        MediaStore store;
+        const auto known = store.Describe(path).info;
+        QVERIFY(known);
+        if (change == "time")
+            QVERIFY(setTime(path, 1));
+        if (change == "size")
+            QVERIFY(Write(path, content + content) && setTime(path, 0));
+        if (change == "another file")
+            QVERIFY(Write(other, content) && setTime(other, 0) && QFile::remove(path) &&
+                    QFile::rename(other, path));
+        if (change == "gone and back") {
+            QVERIFY(QFile::rename(path, other));
+            QCOMPARE(store.Describe(path).error, path + ": no such file");
+            QVERIFY(Write(path, "no longer media"));
+            QVERIFY(!store.Describe(path).info);
+            QVERIFY(QFile::remove(path) && QFile::rename(other, path));
+        }
+        const auto next = store.Describe(path).info;
+        QVERIFY(next);
+        QCOMPARE(next == known, change == "none");
+    }
+
+    void storeServesThreads()
+    {
+        const auto info = Make("shared.mp4", SmallClip(10));
+        QStringList paths;
+        for (int i = 0; i < 12; ++i) {
+            paths << Path(QString("shared %1.mp4").arg(i));
+            QVERIFY(i == 5 || QFile::copy(info->path, paths.last()));
+        }
+        QTest::qWait(300);
+        MediaStore store(8);
+        const auto all = store.DescribeAll(paths + paths.mid(0, 1));
+        QCOMPARE(int(all.size()), 13);
+        for (int i = 0; i < 12; ++i)
+            QCOMPARE(all[size_t(i)].info ? all[size_t(i)].info->path : QString(),
+                     i == 5 ? QString() : paths[i]);
+        QCOMPARE(all[5].error, paths[5] + ": no such file");
+        QVERIFY(store.DescribeAll({}).empty());
+
+        // The eight asked for last are known.
+        MediaStore bounded(8);
+        std::vector<std::shared_ptr<const MediaInfo>> known;
+        for (const QString& path : paths)
+            known.push_back(bounded.Describe(path).info);
+        QVERIFY(bounded.Describe(paths[11]).info == known[11]);
+        QVERIFY(bounded.Describe(paths[4]).info == known[4]);
+        QVERIFY(bounded.Describe(paths[0]).info != known[0]);
+
+        // Who asks while the file is being opened waits for the same description.
+        std::vector<std::thread> threads;
+        std::vector<std::shared_ptr<const MediaInfo>> same(4);
+        MediaStore fresh;
+        for (auto& result : same)
+            threads.emplace_back([&] { result = fresh.Describe(paths[1]).info; });
+        for (std::thread& thread : threads)
+            thread.join();
+        for (const auto& result : same)
+            QVERIFY(result && result == same[0]);
     }
 
     void poolLendsAndBounds()

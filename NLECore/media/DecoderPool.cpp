@@ -62,8 +62,7 @@ DecoderPool::Shared::IdleList DecoderPool::Shared::TakeMatching(const MediaInfo&
     for (auto entry = idle.begin(); entry != idle.end(); ++entry) {
         const MediaInfo& other = *entry->decoder->Info();
         const bool isSame = entry->purpose == purpose && other.path == info.path &&
-                            entry->decoder->StreamIndex() == stream &&
-                            other.fileSize == info.fileSize && other.modifiedMs == info.modifiedMs;
+                            entry->decoder->StreamIndex() == stream && other.stamp == info.stamp;
         if (isSame && (best == idle.end() || cost(*entry) < cost(*best)))
             best = entry;
     }

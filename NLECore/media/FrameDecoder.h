@@ -46,7 +46,7 @@ public:
     const std::shared_ptr<const MediaInfo>& Info() const;
     /// Index of the stream being decoded.
     int StreamIndex() const;
-    /// False when the file has another size or time of change than when it was opened here.
+    /// False when the file was changed or replaced since it was opened here.
     bool IsFileUnchanged() const;
 
 private:

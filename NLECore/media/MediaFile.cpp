@@ -2,7 +2,6 @@
 #include "NLECore/media/MediaFile_p.h"
 #include "NLECore/media/MediaLog_p.h"
 
-#include <QDateTime>
 #include <QFileInfo>
 #include <QThread>
 
@@ -83,14 +82,6 @@ bool DeclaresStreams(const MediaFile& file)
 }
 
 } // namespace
-
-FileStamp StampOf(const QString& path)
-{
-    const QFileInfo file(path);
-    if (!file.isFile())
-        return {};
-    return {file.size(), file.lastModified().toMSecsSinceEpoch()};
-}
 
 QString AvErrorText(int error)
 {

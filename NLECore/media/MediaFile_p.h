@@ -32,18 +32,7 @@ using FramePtr = std::unique_ptr<AVFrame, AvDeleter>;
 using PacketPtr = std::unique_ptr<AVPacket, AvDeleter>;
 using ResamplerPtr = std::unique_ptr<SwrContext, AvDeleter>;
 
-/// Size in bytes and time of the last change, which together tell one content from another.
-struct FileStamp
-{
-    int64_t size = -1;
-    int64_t modifiedMs = 0;
-    friend bool operator==(const FileStamp& a, const FileStamp& b)
-    {
-        return a.size == b.size && a.modifiedMs == b.modifiedMs;
-    }
-};
-
-/// Size and time of the file at \a path; the size is -1 when there is no regular file.
+/// That of the file at \a path as it is now.
 FileStamp StampOf(const QString& path);
 /// The path in the bytes that the libraries expect on this system.
 QByteArray EncodeMediaPath(const QString& path);
@@ -76,10 +65,7 @@ public:
     AVFormatContext* Context() const { return m_context; }
     const FileStamp& Stamp() const { return m_stamp; }
     /// The content is the one that \a info describes.
-    bool Matches(const MediaInfo& info) const
-    {
-        return m_stamp == FileStamp{info.fileSize, info.modifiedMs};
-    }
+    bool Matches(const MediaInfo& info) const { return m_stamp == info.stamp; }
     /// From now on reading fails after some seconds; opening has a limit of its own.
     void LimitTime();
     /// Goes on reading at or before the first packet of \a stream, whose time is \a startTicks.

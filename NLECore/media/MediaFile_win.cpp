@@ -1,12 +1,65 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/MediaFile_p.h"
 
+#include <QDir>
+#include <QFileInfo>
+
+#include <memory>
+
+#include <windows.h>
+
 namespace nle {
+namespace {
+
+struct HandleCloser
+{
+    void operator()(void* handle) const { CloseHandle(handle); }
+};
+
+// The system counts steps of 100 ns since 1601.
+int64_t Nanoseconds(const LARGE_INTEGER& time)
+{
+    constexpr int64_t stepsTo1970 = 116444736000000000;
+    return (time.QuadPart - stepsTo1970) * 100;
+}
+
+// Without a limit of its length.
+std::wstring SystemPath(const QString& path)
+{
+    const QString name =
+        QDir::toNativeSeparators(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
+    const QString unlimited = name.startsWith(QLatin1String("\\\\"))
+                                  ? QLatin1String("\\\\?\\UNC\\") + name.mid(2)
+                                  : QLatin1String("\\\\?\\") + name;
+    return unlimited.toStdWString();
+}
+
+} // namespace
 
 // The libraries take UTF-8 on Windows, whatever the system's code page.
 QByteArray EncodeMediaPath(const QString& path)
 {
     return path.toUtf8();
+}
+
+FileStamp StampOf(const QString& path)
+{
+    const HANDLE handle = CreateFileW(SystemPath(path).c_str(), FILE_READ_ATTRIBUTES,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                      nullptr, OPEN_EXISTING, 0, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        return {};
+    const std::unique_ptr<void, HandleCloser> file(handle);
+    FILE_BASIC_INFO times = {};
+    BY_HANDLE_FILE_INFORMATION identity = {};
+    if (GetFileType(handle) != FILE_TYPE_DISK ||
+        !GetFileInformationByHandleEx(handle, FileBasicInfo, &times, sizeof times) ||
+        !GetFileInformationByHandle(handle, &identity))
+        return {};
+    const auto join = [](DWORD high, DWORD low) { return uint64_t(high) << 32 | low; };
+    return {int64_t(join(identity.nFileSizeHigh, identity.nFileSizeLow)),
+            Nanoseconds(times.LastWriteTime), Nanoseconds(times.ChangeTime),
+            identity.dwVolumeSerialNumber, join(identity.nFileIndexHigh, identity.nFileIndexLow)};
 }
 
 } // namespace nle

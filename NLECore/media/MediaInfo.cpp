@@ -391,8 +391,7 @@ std::shared_ptr<const MediaInfo> ProbeMedia(const QString& path, QString* error)
     auto info = std::make_shared<MediaInfo>();
     info->path = path;
     info->containerName = QString::fromUtf8(context->iformat->name);
-    info->fileSize = file->Stamp().size;
-    info->modifiedMs = file->Stamp().modifiedMs;
+    info->stamp = file->Stamp();
     for (unsigned i = 0; i < context->nb_streams; ++i)
         info->streams.push_back(Describe(*file, context->streams[i], path));
     info->videoStream = PreferredStream(context, *info, StreamType::Video);

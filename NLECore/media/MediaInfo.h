@@ -81,6 +81,22 @@ struct MediaStream
     uint32_t frameCount = 0;
 };
 
+/// Tells one content of a file from another; times in nanoseconds since 1970, UTC.
+struct FileStamp
+{
+    int64_t size = -1;      ///< bytes; -1 when there is no regular file
+    int64_t modifiedNs = 0; ///< last change of the content
+    int64_t changedNs = 0;  ///< last change of content or attributes
+    uint64_t volume = 0;
+    uint64_t file = 0; ///< number on the volume
+
+    friend bool operator==(const FileStamp& a, const FileStamp& b)
+    {
+        return a.size == b.size && a.modifiedNs == b.modifiedNs && a.changedNs == b.changedNs &&
+               a.volume == b.volume && a.file == b.file;
+    }
+};
+
 /// Plain description of a media file. Never changes once made, so threads may share it.
 struct MediaInfo
 {
@@ -101,10 +117,8 @@ struct MediaInfo
     int64_t originUs = 0;
     /// Short names of the container format, separated by commas, as libavformat has them.
     QString containerName;
-    /// Size in bytes and time of the last change (milliseconds since 1970, UTC) of the file when
-    /// it was described; together they tell whether it was replaced since.
-    int64_t fileSize = 0;
-    int64_t modifiedMs = 0;
+    /// That of the file when it was described; tells whether it was replaced since.
+    FileStamp stamp;
 
     /// The stream at \a index, or null when the index is outside the list.
     const MediaStream* Stream(int index) const

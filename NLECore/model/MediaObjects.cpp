@@ -3,6 +3,7 @@
 
 #include "Com/ComGuard.h"
 #include "NLECore/media/EngineLog.h"
+#include "NLECore/media/MediaStore.h"
 #include "NLECore/model/PropertyBag.h"
 
 #include <algorithm>
@@ -40,15 +41,37 @@ std::wstring Widen(const std::string& ascii)
     return std::wstring(ascii.begin(), ascii.end());
 }
 
+MediaStore& Files()
+{
+    static MediaStore store;
+    return store;
+}
+
+std::shared_ptr<const MediaInfo> Logged(const MediaStore::Result& result)
+{
+    if (!result.info)
+        qCWarning(lcEngine, "%s", qUtf8Printable(result.error));
+    return result.info;
+}
+
 } // namespace
 
 std::shared_ptr<const MediaInfo> DescribeFile(const QString& path)
 {
-    QString error;
-    std::shared_ptr<const MediaInfo> media = ProbeMedia(path, &error);
-    if (!media)
-        qCWarning(lcEngine, "%s", qUtf8Printable(error));
-    return media;
+    return Logged(Files().Describe(path));
+}
+
+std::vector<std::shared_ptr<const MediaInfo>> DescribeFiles(const QStringList& paths)
+{
+    std::vector<std::shared_ptr<const MediaInfo>> infos;
+    for (const MediaStore::Result& result : Files().DescribeAll(paths))
+        infos.push_back(Logged(result));
+    return infos;
+}
+
+void ForgetFiles()
+{
+    Files().Clear();
 }
 
 std::shared_ptr<const MediaInfo> OfflineMedia(const QString& path)

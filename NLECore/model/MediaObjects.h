@@ -5,12 +5,20 @@
 #include "EngineApi/INLEMedia.h"
 #include "NLECore/media/MediaInfo.h"
 
+#include <QStringList>
+
 #include <memory>
+#include <vector>
 
 namespace nle {
 
-/// Opens and describes a file for the engine; the reason of a failure goes to the engine's log.
+/// Describes a file for the engine, which is opened unless it is known as it is; the reason of a
+/// failure goes to the engine's log.
 std::shared_ptr<const MediaInfo> DescribeFile(const QString& path);
+/// Describes files in their order, several at a time.
+std::vector<std::shared_ptr<const MediaInfo>> DescribeFiles(const QStringList& paths);
+/// Forgets what the engine knows of files.
+void ForgetFiles();
 /// Description of media that is not there.
 std::shared_ptr<const MediaInfo> OfflineMedia(const QString& path);
 

@@ -139,6 +139,7 @@ HRESULT RootFactory::Shutdown(int /*flags*/)
 {
     return ComGuard([&] {
         Decoders().Clear();
+        ForgetFiles();
         return S_OK;
     });
 }

@@ -74,7 +74,7 @@ ContentKey LayerKeys::OfMedia(const MediaInfo& media)
     if (known != m_media.end())
         return known->second;
     ContentHash hash;
-    hash.Add(media.path).Add(media.fileSize).Add(media.modifiedMs).Add(media.videoStream);
+    hash.Add(media.path).Add(media.stamp.size).Add(media.stamp.modifiedNs).Add(media.videoStream);
     return m_media[&media] = hash.Add(OfFile(media.path)).Result();
 }
 

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/media/MediaStore.h"
+#include "NLECore/media/MediaFile_p.h"
+
+#include <QThread>
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <new>
+#include <system_error>
+#include <thread>
+
+namespace nle {
+namespace {
+
+using namespace std::chrono;
+
+// Opening a file mostly waits for the disk, so two at a time pay on one processor as well.
+constexpr int FewestThreads = 2;
+constexpr int MostThreads = 8;
+
+// Two changes so close to each other may carry the same time.
+constexpr milliseconds ClockStep{100};
+
+// A file that was changed just now may be changed again without a trace in its stamp.
+bool IsFresh(const FileStamp& stamp)
+{
+    const auto now = duration_cast<nanoseconds>(system_clock::now().time_since_epoch());
+    const int64_t age = now.count() - std::max(stamp.modifiedNs, stamp.changedNs);
+    return std::abs(age) < nanoseconds(ClockStep).count();
+}
+
+MediaStore::Result Probe(const QString& path)
+{
+    try {
+        MediaStore::Result result;
+        result.info = ProbeMedia(path, &result.error);
+        return result;
+    } catch (const std::bad_alloc&) {
+        return {nullptr, path + QStringLiteral(": out of memory")};
+    }
+}
+
+// Threads that share out tasks; all have ended when this goes away.
+class Crew
+{
+public:
+    explicit Crew(int tasks) : m_tasks(tasks) {}
+    ~Crew()
+    {
+        m_next = m_tasks;
+        for (std::thread& thread : m_threads)
+            thread.join();
+    }
+    Crew(const Crew&) = delete;
+    Crew& operator=(const Crew&) = delete;
+
+    // Does all tasks on this and at most so many other threads.
+    template <typename Task>
+    void Run(int others, const Task& task)
+    {
+        const auto work = [this, &task] {
+            for (int i = m_next++; i < m_tasks; i = m_next++)
+                task(i);
+        };
+        try {
+            while (int(m_threads.size()) < others)
+                m_threads.emplace_back(work);
+        } catch (const std::system_error&) {
+            // Those that started, and this one, do it all.
+        }
+        work();
+    }
+
+private:
+    const int m_tasks;
+    std::atomic<int> m_next{0};
+    std::vector<std::thread> m_threads;
+};
+
+} // namespace
+
+MediaStore::MediaStore(int capacity) : m_capacity(std::max(1, capacity)) {}
+
+MediaStore::Answer MediaStore::Find(const QString& path, const FileStamp& stamp)
+{
+    const auto place = m_places.constFind(path);
+    if (place == m_places.constEnd() || !((*place)->stamp == stamp))
+        return {};
+    m_entries.splice(m_entries.begin(), m_entries, *place);
+    return (*place)->answer;
+}
+
+uint64_t MediaStore::Insert(const QString& path, const FileStamp& stamp, const Answer& answer)
+{
+    Remove(path);
+    m_entries.push_front({path, stamp, answer, ++m_lastNumber});
+    m_places.insert(path, m_entries.begin());
+    if (m_places.size() > m_capacity)
+        Remove(QString(m_entries.back().path));
+    return m_lastNumber;
+}
+
+void MediaStore::Remove(const QString& path)
+{
+    const auto place = m_places.find(path);
+    if (place == m_places.end())
+        return;
+    m_entries.erase(*place);
+    m_places.erase(place);
+}
+
+void MediaStore::Forget(const QString& path, uint64_t number)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const auto place = m_places.constFind(path);
+    if (place != m_places.constEnd() && (*place)->number == number)
+        Remove(path);
+}
+
+MediaStore::Result MediaStore::Describe(const QString& path)
+{
+    const FileStamp stamp = StampOf(path);
+    if (stamp.size < 0)
+        return Probe(path);
+    std::packaged_task<Result()> task([&path] { return Probe(path); });
+    Answer answer;
+    uint64_t number = 0;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        answer = Find(path, stamp);
+        if (!answer.valid()) {
+            answer = task.get_future().share();
+            number = Insert(path, stamp, answer);
+        }
+    }
+    if (number == 0)
+        return answer.get();
+    task();
+    Result result = answer.get();
+    const bool isLasting = result.info && result.info->stamp == stamp && !IsFresh(stamp);
+    if (!isLasting)
+        Forget(path, number);
+    return result;
+}
+
+std::vector<MediaStore::Result> MediaStore::DescribeAll(const QStringList& paths)
+{
+    std::vector<Result> results(size_t(paths.size()));
+    const int threads = std::clamp(QThread::idealThreadCount(), FewestThreads, MostThreads);
+    Crew(paths.size()).Run(std::min(threads, paths.size()) - 1, [&](int i) {
+        try {
+            results[size_t(i)] = Describe(paths[i]);
+        } catch (const std::bad_alloc&) {
+            // The result stays empty, as that of a file that cannot be read.
+        }
+    });
+    return results;
+}
+
+void MediaStore::Clear()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_places.clear();
+    m_entries.clear();
+}
+
+} // namespace nle
