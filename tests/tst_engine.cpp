@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // The open engine, judged by what it shows: pixels, samples and files.
 #include "CommonLib/NLEWraper/VideoKeyFrameSetting.h"
+#include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
 
 #include <QProcess>
 #include <QStandardPaths>
+
+#include <random>
+#include <string>
+
+Q_DECLARE_METATYPE(std::wstring)
 
 namespace {
 
@@ -519,12 +525,77 @@ private slots:
             QCOMPARE(Frame(loaded, frame), Frame(project, frame));
     }
 
+    void documentKeepsTexts_data()
+    {
+        QTest::addColumn<std::wstring>("text");
+        QTest::newRow("beyond the basic plane") << std::wstring(L"a\U0001F600\U0010FFFFz");
+        QTest::newRow("no characters") << std::wstring(L"\xFFFE\xFFFF\xFFFD\xFFFE");
+        QTest::newRow("byte order mark") << std::wstring(L"\xFEFF\xFEFF");
+        QTest::newRow("halves of characters") << std::wstring(L"\xDC00-\xD83D");
+        QTest::newRow("like an encoded text") << std::wstring(L"%25 %41 %uFFFE %ud83d %u %");
+        QTest::newRow("line ends and blanks") << std::wstring(L" \t\r\n\n\r ");
+        std::wstring controls;
+        for (wchar_t code = 1; code < 0xA1; ++code)
+            controls += code;
+        QTest::newRow("controls") << controls;
+        std::mt19937 generator(3);
+        const std::wstring odd =
+            L"%u25<&>]'\"\r\n\t \x01\x7F\x85\x2028\xFFFE\xFFFF\xD800\xDBFF\xFEFF";
+        for (int row = 0; row < 20; ++row) {
+            std::wstring text;
+            for (int i = 0; i < 60; ++i) {
+                const auto code = wchar_t(1 + generator() % 0xDBFF);
+                text += generator() % 3 ? odd[generator() % odd.size()] : code;
+            }
+            QTest::addRow("by chance, %d", row) << text;
+        }
+    }
+
+    void documentKeepsTexts()
+    {
+        QFETCH(std::wstring, text);
+        const Node project = Project();
+        const QString shown = QString::fromStdWString(text);
+        const Node clip = provider->CreateTipTextTimeline(shown, shown);
+        BagOf(clip)->SetString(text.c_str(), text.c_str());
+        clip.query<INLEAudioStreamProcess>()->SetEqualizerName(text.c_str());
+        Add(project, clip);
+        const QString first = Path("first.mlt");
+        const QString second = Path("second.mlt");
+        QVERIFY(Save(project, first));
+        const Node loaded = Load(first);
+        QVERIFY(loaded);
+        QVERIFY(Save(loaded, second));
+        QCOMPARE(Contents(second), Contents(first));
+        wchar_t value[256] = L"";
+        QCOMPARE(BagOf(ClipAt(loaded, 0))->GetString(text.c_str(), value, 256), S_OK);
+        QVERIFY(value == text);
+        ClipAt(loaded, 0).query<INLEAudioStreamProcess>()->GetEqualizerName(value, 256);
+        QVERIFY(value == text);
+    }
+
+    void textOfAnotherEditorHolds()
+    {
+        const Node project = Project();
+        Add(project, provider->CreateTipTextTimeline(QString(QChar(0xFFFE)), "DejaVu Sans"));
+        const QString path = Path("edited.mlt");
+        QVERIFY(Save(project, path));
+        const QByteArray saved = Contents(path);
+        QVERIFY(saved.contains("\xEF\xBF\xBD</property>"));
+        QVERIFY(Save(Parse(QByteArray(saved).replace("\xEF\xBF\xBD<", "50%25<")), path));
+        QVERIFY(Contents(path).contains(">50%25</property>"));
+        QVERIFY(!Contents(path).contains("nle:exact"));
+    }
+
     void documentInTheFrameworksOwnPlayer()
     {
         if (QStandardPaths::findExecutable("melt").isEmpty())
             QSKIP("the framework's player, melt, is not installed");
         const Node project = Project();
-        const Node clip = Media();
+        const QString odd = Path("50% of 100%25.mp4");
+        QVERIFY(QFile::copy(m_media, odd));
+        const Node clip = EngineFixture::Media(odd);
+        BagOf(clip)->SetString(L"odd \x01\xFFFE", L"\x02\xFFFF\xD800");
         Trimmed(clip, 20, 39);
         Add(project, clip, 10);
         // From the top left quarter to the bottom right one; in the middle at the frame looked at.

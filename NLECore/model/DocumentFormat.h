@@ -11,9 +11,14 @@
 ///
 /// A document is MLT XML: a producer for each clip, a playlist for each lane of clips that do not
 /// overlap, a tractor for each composite. What MLT has no place for is kept in properties whose
-/// names begin with "nle:"; other programs ignore them.
+/// names begin with "nle:"; other programs ignore them. Their names and texts are encoded, so that
+/// every text comes back; a property of MLT stands as it is, and where XML cannot carry it, its
+/// text is encoded once more under "nle:exact:".
 namespace nle::document {
 
+inline const QLatin1String kOwnPrefix("nle:");
+/// Followed by the name of a property of MLT; holds as long as that one says the same.
+inline const QLatin1String kExactPrefix("nle:exact:");
 inline const QLatin1String kKind("nle:kind");
 inline const QLatin1String kOrder("nle:order");
 inline const QLatin1String kPosition("nle:position");

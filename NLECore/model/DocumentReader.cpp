@@ -22,6 +22,9 @@ NLERational ParseFraction(const QString& text)
     return {parts[0].toLongLong(), parts[1].toLongLong()};
 }
 
+const QString kService = QStringLiteral("mlt_service");
+const QString kResource = QStringLiteral("resource");
+
 /// Nodes that one document may make.
 constexpr int kMostNodes = 200000;
 
@@ -47,7 +50,7 @@ PropertyBag::Value ParseValue(const QString& text)
     case 'r':
         return ParseFraction(value);
     default:
-        return value.toStdWString();
+        return ToWide(value);
     }
 }
 
@@ -57,9 +60,23 @@ PropertyBag::Values ReadValues(const QHash<QString, QString>& properties, QLatin
     PropertyBag::Values values;
     for (auto property = properties.begin(); property != properties.end(); ++property) {
         if (property.key().startsWith(prefix))
-            values[property.key().mid(prefix.size()).toStdWString()] = ParseValue(property.value());
+            values[ToWide(property.key().mid(prefix.size()))] = ParseValue(property.value());
     }
     return values;
+}
+
+/// Puts the texts that XML cannot carry in the place of those that stand for them. Where another
+/// editor has changed a text, that holds.
+void TakeExactTexts(QHash<QString, QString>& properties)
+{
+    const QHash<QString, QString> read = properties;
+    for (auto property = read.begin(); property != read.end(); ++property) {
+        if (!property.key().startsWith(kExactPrefix))
+            continue;
+        const QString name = property.key().mid(kExactPrefix.size());
+        if (read.value(name) == PlainText(property.value()))
+            properties[name] = property.value();
+    }
 }
 
 /// A colour as MLT writes it: "#aarrggbb", "#rrggbb", "0xrrggbbaa" or a name.
@@ -73,10 +90,32 @@ std::uint32_t ParseColor(const QString& text)
     return color.isValid() ? color.rgba() : 0xFF000000u;
 }
 
+bool HoldsClips(const QString& element)
+{
+    return element == QLatin1String("tractor") || element == QLatin1String("playlist");
+}
+
+bool IsColor(const QHash<QString, QString>& properties)
+{
+    const QString kind = properties.value(kService);
+    return kind == QLatin1String("color") || kind == QLatin1String("colour");
+}
+
+bool IsText(const QHash<QString, QString>& properties)
+{
+    return properties.value(kService) == QLatin1String("qtext");
+}
+
+/// The name of a producer's file; empty when it needs none.
+QString MediaName(const QHash<QString, QString>& properties)
+{
+    return IsColor(properties) || IsText(properties) ? QString() : properties.value(kResource);
+}
+
 } // namespace
 
-DocumentReader::DocumentReader(QIODevice& device, const QDir& folder)
-    : m_xml(&device), m_folder(folder), m_profile(kDefaultProfile)
+DocumentReader::DocumentReader(const QByteArray& text, const QDir& folder)
+    : m_xml(text), m_folder(folder), m_profile(kDefaultProfile)
 {
 }
 
@@ -88,6 +127,7 @@ NLEComPtr<TimelineNode> DocumentReader::Read()
         return nullptr;
     }
     const QString root = m_services.contains(m_root) ? m_root : m_lastService;
+    DescribeMedia(root);
     NLEComPtr<TimelineNode> node = Make(root);
     if (!node)
         m_error = QStringLiteral("no timeline in the document");
@@ -152,8 +192,7 @@ void DocumentReader::ReadService(const QString& element)
         if (m_xml.name() == QLatin1String("multitrack")) {
             ++depth;
         } else if (m_xml.name() == QLatin1String("property")) {
-            service.properties.insert(DecodeText(text("name")),
-                                      DecodeText(m_xml.readElementText()));
+            ReadProperty(service.properties);
         } else if (m_xml.name() == QLatin1String("blank")) {
             service.items.push_back(
                 {{}, std::max<std::int64_t>(0, Frames(text("length"), 0)), {}, {}});
@@ -166,8 +205,58 @@ void DocumentReader::ReadService(const QString& element)
             m_xml.skipCurrentElement();
         }
     }
-    m_services.insert(id, service);
+    TakeExactTexts(service.properties);
+    m_services.insert(id, std::move(service));
     m_lastService = id;
+}
+
+void DocumentReader::ReadProperty(Properties& properties)
+{
+    const QString name = m_xml.attributes().value(QLatin1String("name")).toString();
+    const QString text = m_xml.readElementText();
+    const bool isOwn = name.startsWith(kOwnPrefix);
+    properties.insert(isOwn ? DecodeText(name) : name, isOwn ? DecodeText(text) : text);
+}
+
+QStringList DocumentReader::MediaNames(const QString& root) const
+{
+    QSet<QString> names;
+    QSet<QString> seen = {root};
+    QStringList open = {root};
+    while (!open.isEmpty()) {
+        const auto service = m_services.constFind(open.takeLast());
+        if (service == m_services.constEnd())
+            continue;
+        if (!HoldsClips(service->element))
+            names << MediaName(service->properties);
+        names << service->properties.value(kProxy);
+        for (const Item& item : service->items) {
+            if (!seen.contains(item.producer))
+                open << item.producer;
+            seen << item.producer;
+        }
+    }
+    names.remove(QString());
+    return names.values();
+}
+
+void DocumentReader::DescribeMedia(const QString& root)
+{
+    QStringList names;
+    QStringList paths;
+    for (const QString& name : MediaNames(root)) {
+        const QString path = QDir::cleanPath(m_folder.absoluteFilePath(name));
+        m_media[name] = OfflineMedia(path);
+        if (QFileInfo(path).isFile()) {
+            names << name;
+            paths << path;
+        }
+    }
+    const auto infos = DescribeFiles(paths);
+    for (int i = 0; i < names.size(); ++i) {
+        if (infos[size_t(i)])
+            m_media[names[i]] = infos[size_t(i)];
+    }
 }
 
 NLEComPtr<TimelineNode> DocumentReader::Make(const QString& id)
@@ -180,44 +269,39 @@ NLEComPtr<TimelineNode> DocumentReader::Make(const QString& id)
         return nullptr;
     // A service that contains itself would never end.
     m_open.insert(id);
-    const bool holds =
-        found->element == QLatin1String("tractor") || found->element == QLatin1String("playlist");
-    NLEComPtr<TimelineNode> node = holds ? MakeComposite(*found) : MakeProducer(*found);
+    NLEComPtr<TimelineNode> node =
+        HoldsClips(found->element) ? MakeComposite(*found) : MakeProducer(*found);
     m_open.remove(id);
     return node;
 }
 
 NLEComPtr<TimelineNode> DocumentReader::MakeProducer(const Service& service)
 {
-    const QString kind = service.properties.value(QLatin1String("mlt_service"));
-    const QString resource = service.properties.value(QLatin1String("resource"));
+    const Properties& properties = service.properties;
     bool hasSize = false;
-    const auto size = ParsePair(service.properties.value(kSize), &hasSize);
+    const auto size = ParsePair(properties.value(kSize), &hasSize);
     const NLESize pictureSize = hasSize ? NLESize{size.first, size.second} : m_profile.frameSize;
+    const QString media = MediaName(properties);
     NLEComPtr<TimelineNode> node;
-    if (kind == QLatin1String("color") || kind == QLatin1String("colour"))
-        node = MakeCom<ColorClip>(ParseColor(resource), pictureSize, m_profile.frameRate);
-    else if (kind == QLatin1String("qtext"))
-        node = MakeCom<TextClip>(service.properties.value(QLatin1String("text")),
-                                 service.properties.value(QLatin1String("family")), pictureSize,
+    if (IsColor(properties))
+        node = MakeCom<ColorClip>(ParseColor(properties.value(kResource)), pictureSize,
+                                  m_profile.frameRate);
+    else if (IsText(properties))
+        node = MakeCom<TextClip>(properties.value(QLatin1String("text")),
+                                 properties.value(QLatin1String("family")), pictureSize,
                                  m_profile.frameRate);
-    else if (!resource.isEmpty())
-        node = MakeMedia(service);
+    else if (!media.isEmpty())
+        node = MakeMedia(properties);
     if (node)
-        ApplyCommon(service.properties, *node);
+        ApplyCommon(properties, *node);
     return node;
 }
 
-NLEComPtr<TimelineNode> DocumentReader::MakeMedia(const Service& service)
+NLEComPtr<TimelineNode> DocumentReader::MakeMedia(const Properties& properties)
 {
-    const QString resource = service.properties.value(QLatin1String("resource"));
-    const QString path = QDir::cleanPath(m_folder.absoluteFilePath(resource));
-    std::shared_ptr<const MediaInfo> media;
-    if (QFileInfo(path).isFile())
-        media = DescribeFile(path);
-    NLEComPtr<MediaClip> clip = MakeCom<MediaClip>(media ? media : OfflineMedia(path));
+    NLEComPtr<MediaClip> clip = MakeCom<MediaClip>(m_media.value(MediaName(properties)));
     clip->ChangeRate(m_profile.frameRate);
-    clip->SetGPUFirst(service.properties.value(kDecoder).toInt());
+    clip->SetGPUFirst(properties.value(kDecoder).toInt());
     return clip;
 }
 
@@ -289,9 +373,10 @@ void DocumentReader::ReadTrack(const Service& track, int index, std::vector<Plac
 
 NLERange DocumentReader::RangeOf(const Item& item) const
 {
-    const Service producer = m_services.value(item.producer);
-    const std::int64_t in = Frames(item.in, Frames(producer.in, 0));
-    const std::int64_t out = Frames(item.out, Frames(producer.out, in));
+    const auto producer = m_services.constFind(item.producer);
+    const bool isKnown = producer != m_services.constEnd();
+    const std::int64_t in = Frames(item.in, isKnown ? Frames(producer->in, 0) : 0);
+    const std::int64_t out = Frames(item.out, isKnown ? Frames(producer->out, in) : in);
     return {ClampToInt(double(in)), ClampToInt(double(out))};
 }
 
@@ -335,7 +420,8 @@ void DocumentReader::ApplyCommon(const Properties& properties, TimelineNode& nod
     node.SetLevel(properties.value(kLevel).toInt());
     node.SetMarginMode(tagNLEMarginMode(properties.value(kMargin).toInt()));
     node.SetEnabled(properties.value(kEnabled, QStringLiteral("1")).toInt() != 0);
-    SettingsFromText(properties, m_folder, node);
+    SettingsFromText(
+        properties, [this](const QString& name) { return m_media.value(name); }, node);
     node.Bag().SetAll(ReadValues(properties, kBagPrefix));
     if (auto* project = dynamic_cast<ProjectNode*>(&node))
         project->TakeContext(ReadValues(properties, kContextPrefix));

@@ -22,7 +22,7 @@ class DocumentReader
 {
 public:
     /// Relative media names start from \a folder.
-    DocumentReader(QIODevice& device, const QDir& folder);
+    DocumentReader(const QByteArray& text, const QDir& folder);
 
     /// The document's root node; null on failure.
     NLEComPtr<TimelineNode> Read();
@@ -59,9 +59,14 @@ private:
     void ReadDocument();
     void ReadProfile();
     void ReadService(const QString& element);
+    void ReadProperty(Properties& properties);
+    /// The names of all files that \a root and what it holds need, each once.
+    QStringList MediaNames(const QString& root) const;
+    /// Fills m_media.
+    void DescribeMedia(const QString& root);
     NLEComPtr<TimelineNode> Make(const QString& id);
     NLEComPtr<TimelineNode> MakeProducer(const Service& service);
-    NLEComPtr<TimelineNode> MakeMedia(const Service& service);
+    NLEComPtr<TimelineNode> MakeMedia(const Properties& properties);
     NLEComPtr<TimelineNode> MakeComposite(const Service& service);
     void ReadTrack(const Service& track, int index, std::vector<Placed>& clips);
     void PlaceEntry(const Item& item, std::int64_t position, int level, bool unplaced,
@@ -77,6 +82,8 @@ private:
     QString m_error;
     tagNLEProjectProfile m_profile;
     QHash<QString, Service> m_services;
+    /// Files by their names in the document, offline where they are not there.
+    QHash<QString, std::shared_ptr<const MediaInfo>> m_media;
     QString m_root;
     QString m_lastService;
     QSet<QString> m_open;

@@ -43,14 +43,13 @@ struct ValueText
     }
     QString operator()(const std::wstring& value) const
     {
-        return QLatin1String("s:") + QString::fromStdWString(value);
+        return QLatin1String("s:") + FromWide(value);
     }
 };
 
 } // namespace
 
-DocumentWriter::DocumentWriter(QIODevice& device, const QDir& folder)
-    : m_xml(&device), m_folder(folder)
+DocumentWriter::DocumentWriter(QString& text, const QDir& folder) : m_xml(&text), m_folder(folder)
 {
     m_xml.setAutoFormatting(true);
     m_xml.setAutoFormattingIndent(1);
@@ -130,7 +129,7 @@ void DocumentWriter::WriteMedia(const MediaClip& clip)
     Property(QStringLiteral("mlt_service"),
              still ? QStringLiteral("qimage") : QStringLiteral("avformat"));
     Property(QStringLiteral("resource"), DocumentPath(clip.Media().path, m_folder));
-    Property(kDecoder, QString::number(clip.GpuFirst()));
+    Number(kDecoder, clip.GpuFirst(), 0);
 }
 
 void DocumentWriter::WriteCommon(const TimelineNode& node, QLatin1String kind, int order)
@@ -138,18 +137,21 @@ void DocumentWriter::WriteCommon(const TimelineNode& node, QLatin1String kind, i
     Property(kKind, kind);
     Property(kOrder, QString::number(order));
     Property(kPosition, QString::number(node.Position()));
-    Property(kLevel, QString::number(node.Level()));
+    Number(kLevel, node.Level(), 0);
     if (node.HasOwnRange())
         Property(kRange, QStringLiteral("%1 %2").arg(node.Range().in).arg(node.Range().out));
     Property(kRate, Fraction(node.FrameRate()));
-    Property(kMargin, QString::number(node.MarginMode()));
-    Property(kEnabled, QString::number(node.IsEnabled()));
-    Property(kSize,
-             QStringLiteral("%1 %2").arg(node.PictureSize().width).arg(node.PictureSize().height));
+    Number(kMargin, node.MarginMode(), NLEMargin_Fit);
+    Number(kEnabled, node.IsEnabled(), 1);
+    // A file says itself how large it is.
+    if (kind != kMedia)
+        Property(
+            kSize,
+            QStringLiteral("%1 %2").arg(node.PictureSize().width).arg(node.PictureSize().height));
     for (const auto& [name, text] : SettingsToText(node, m_folder))
         Property(name, text);
     for (const auto& [key, value] : node.Bag().All())
-        Property(kBagPrefix + QString::fromStdWString(key), std::visit(ValueText(), value));
+        Property(kBagPrefix + FromWide(key), std::visit(ValueText(), value));
 }
 
 QString DocumentWriter::WriteComposite(const CompositeNode& node, int order)
@@ -202,7 +204,7 @@ QString DocumentWriter::WriteComposite(const CompositeNode& node, int order)
                              .arg(project->Profile().channels)
                              .arg(project->Profile().sampleFormat));
         for (const auto& [key, value] : project->ContextValues())
-            Property(kContextPrefix + QString::fromStdWString(key), std::visit(ValueText(), value));
+            Property(kContextPrefix + FromWide(key), std::visit(ValueText(), value));
     }
     for (const QString& track : tracks)
         WriteTrack(track, false);
@@ -308,12 +310,22 @@ void DocumentWriter::EntryOf(const QString& producer, const NLERange& range)
     m_xml.writeAttribute(QStringLiteral("out"), QString::number(range.out));
 }
 
+void DocumentWriter::Number(QLatin1String name, int value, int preset)
+{
+    if (value != preset)
+        Property(name, QString::number(value));
+}
+
 void DocumentWriter::Property(const QString& name, const QString& value)
 {
+    const bool isOwn = name.startsWith(kOwnPrefix);
+    const QString text = isOwn ? EncodeText(value) : PlainText(value);
     m_xml.writeStartElement(QStringLiteral("property"));
-    m_xml.writeAttribute(QStringLiteral("name"), EncodeText(name));
-    m_xml.writeCharacters(EncodeText(value));
+    m_xml.writeAttribute(QStringLiteral("name"), isOwn ? EncodeText(name) : name);
+    m_xml.writeCharacters(text);
     m_xml.writeEndElement();
+    if (!isOwn && text != value)
+        Property(kExactPrefix + name, value);
 }
 
 QString DocumentWriter::NewId(const char* prefix)

@@ -14,7 +14,7 @@ class DocumentWriter
 {
 public:
     /// Media below \a folder is named relative to it, so that document and media can move together.
-    DocumentWriter(QIODevice& device, const QDir& folder);
+    DocumentWriter(QString& text, const QDir& folder);
 
     void Write(const TimelineNode& root);
 
@@ -39,6 +39,8 @@ private:
     void WriteProfile(const TimelineNode& root);
     void WriteCommon(const TimelineNode& node, QLatin1String kind, int order);
     void WriteMedia(const MediaClip& clip);
+    /// A property that readers take for \a preset when it is missing.
+    void Number(QLatin1String name, int value, int preset);
     void Property(const QString& name, const QString& value);
     void EntryOf(const QString& producer, const NLERange& range);
     QString NewId(const char* prefix);

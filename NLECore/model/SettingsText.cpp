@@ -7,6 +7,7 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -133,11 +134,13 @@ void ReadSound(const QHash<QString, QString>& properties, AudioFacet& audio)
         Split(properties.value(kSoundEqualizer), int(kEqualizerBands.size()));
     if (!gains.empty())
         audio.SetEqualizerParam(gains.data());
-    audio.SetEqualizerName(properties.value(kSoundEqualizerName).toStdWString().c_str());
+    audio.SetEqualizerName(ToWide(properties.value(kSoundEqualizerName)).c_str());
     ReadCurve(properties.value(kSoundCurve), audio);
 }
 
-void ReadSource(const QHash<QString, QString>& properties, const QDir& folder, VideoFacet& video)
+void ReadSource(const QHash<QString, QString>& properties,
+                const std::function<std::shared_ptr<const MediaInfo>(const QString&)>& media,
+                VideoFacet& video)
 {
     const QByteArray record = QByteArray::fromBase64(properties.value(kAlphaChannel).toLatin1());
     if (record.size() == int(sizeof(NLEAlphaChannelRecord))) {
@@ -147,42 +150,102 @@ void ReadSource(const QHash<QString, QString>& properties, const QDir& folder, V
     }
     const QString proxy = properties.value(kProxy);
     // A proxy that is gone is only a proxy: the clip plays its own media until it comes back.
-    const QString path = QDir::cleanPath(folder.absoluteFilePath(proxy));
-    if (!proxy.isEmpty() && FAILED(video.SetProxyFile(path.toStdWString().c_str())))
-        video.settings.proxy = OfflineMedia(path);
+    if (!proxy.isEmpty())
+        video.settings.proxy = media(proxy);
     video.SetProxyEnabled(properties.value(kProxyEnabled).toInt() != 0);
     video.SetPremultipliedAlphaType(properties.value(kPremultiplied).toInt());
+}
+
+/// Whether XML gives a character back as it is, and nothing of ours begins with it. Line feed and
+/// tab survive; a carriage return would come back as a line feed.
+bool IsPlain(ushort code)
+{
+    const bool isControl = code < 0x20 && code != '\n' && code != '\t';
+    return !isControl && code != '%' && code < 0xFFFE && !QChar::isSurrogate(code);
+}
+
+/// Whether one character beyond the basic plane stands at \a index.
+bool IsPairAt(const QString& text, int index)
+{
+    return index + 1 < text.size() && text.at(index).isHighSurrogate() &&
+           text.at(index + 1).isLowSurrogate();
 }
 
 } // namespace
 
 QString EncodeText(const QString& text)
 {
+    if (std::all_of(text.begin(), text.end(), [](QChar c) { return IsPlain(c.unicode()); }))
+        return text;
     QString result;
-    for (const QChar character : text) {
-        const ushort code = character.unicode();
-        // Line feed and tab survive; a carriage return would come back as a line feed.
-        const bool isPlain = code >= 0x20 || code == '\n' || code == '\t';
-        if (isPlain && code != '%' && code < 0xFFFE)
-            result += character;
-        else if (code >= 0xFFFE)
-            result += QChar(QChar::ReplacementCharacter);
-        else
+    for (int i = 0; i < text.size(); ++i) {
+        const ushort code = text.at(i).unicode();
+        if (IsPlain(code))
+            result += text.at(i);
+        else if (IsPairAt(text, i))
+            result += text.mid(i++, 2);
+        else if (code < 0x80)
             result += QStringLiteral("%%1").arg(code, 2, 16, QLatin1Char('0'));
+        else
+            result += QStringLiteral("%u%1").arg(code, 4, 16, QLatin1Char('0'));
     }
     return result;
 }
 
 QString DecodeText(const QString& text)
 {
+    if (!text.contains(QLatin1Char('%')))
+        return text;
     QString result;
     for (int i = 0; i < text.size(); ++i) {
+        const bool isMark = text.at(i) == QLatin1Char('%');
+        const bool isLong = isMark && text.mid(i + 1, 1) == QLatin1String("u");
+        const int skipped = isLong ? 5 : 2;
         bool ok = false;
         const ushort code =
-            text.at(i) == QLatin1Char('%') ? text.mid(i + 1, 2).toUShort(&ok, 16) : 0;
-        const bool isOurs = ok && (code < 0x20 || code == '%');
+            isMark ? text.mid(i + (isLong ? 2 : 1), isLong ? 4 : 2).toUShort(&ok, 16) : 0;
+        const bool isOurs = ok && !IsPlain(code) && isLong == (code >= 0x80);
         result += isOurs ? QChar(code) : text.at(i);
-        i += isOurs ? 2 : 0;
+        i += isOurs ? skipped : 0;
+    }
+    return result;
+}
+
+QString PlainText(const QString& text)
+{
+    QString result = text;
+    result.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    result.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    for (int i = 0; i < result.size(); ++i) {
+        if (IsPairAt(result, i))
+            ++i;
+        else if (result.at(i) != QLatin1Char('%') && !IsPlain(result.at(i).unicode()))
+            result[i] = QChar(QChar::ReplacementCharacter);
+    }
+    return result;
+}
+
+std::wstring ToWide(const QString& text)
+{
+    std::wstring result;
+    for (int i = 0; i < text.size(); ++i) {
+        const bool isPair = sizeof(wchar_t) > sizeof(ushort) && IsPairAt(text, i);
+        result += isPair ? wchar_t(QChar::surrogateToUcs4(text.at(i), text.at(i + 1)))
+                         : wchar_t(text.at(i).unicode());
+        i += isPair ? 1 : 0;
+    }
+    return result;
+}
+
+QString FromWide(const std::wstring& text)
+{
+    QString result;
+    for (const wchar_t character : text) {
+        const auto code = std::uint32_t(character);
+        if (QChar::requiresSurrogates(code))
+            result += QChar(QChar::highSurrogate(code));
+        result += QChar::requiresSurrogates(code) ? QChar(QChar::lowSurrogate(code))
+                                                  : QChar(ushort(code));
     }
     return result;
 }
@@ -202,7 +265,7 @@ std::vector<std::pair<QString, QString>> SettingsToText(const TimelineNode& node
 {
     std::vector<std::pair<QString, QString>> texts;
     const AudioSettings& sound = node.Audio().settings;
-    const AudioSettings preset;
+    static const AudioSettings preset;
     const VideoSettings& video = node.Video().settings;
     const BlendSettings& blend = node.Blend().settings;
     const TransformSettings& transform = node.Transform().settings;
@@ -235,14 +298,20 @@ std::vector<std::pair<QString, QString>> SettingsToText(const TimelineNode& node
             numbers << Join({gain});
         return numbers.join(QLatin1Char(' '));
     };
-    add(kBlend, blendText(blend), blendText(BlendSettings()));
-    add(kTransform, transformText(transform), transformText(TransformSettings()));
+    static const QString plainBlend = blendText(BlendSettings());
+    static const QString plainTransform = transformText(TransformSettings());
+    static const QString plainLevels = levels(preset);
+    static const QString plainFades = fades(preset);
+    static const QString plainEffects = effects(preset);
+    static const QString plainGains = gains(preset);
+    add(kBlend, blendText(blend), plainBlend);
+    add(kTransform, transformText(transform), plainTransform);
     add(kKeyFrames, KeyFrameText(node.KeyFrames()), QString());
-    add(kSoundLevels, levels(sound), levels(preset));
-    add(kSoundFades, fades(sound), fades(preset));
-    add(kSoundEffects, effects(sound), effects(preset));
-    add(kSoundEqualizer, gains(sound), gains(preset));
-    add(kSoundEqualizerName, QString::fromStdWString(sound.equalizerName), QString());
+    add(kSoundLevels, levels(sound), plainLevels);
+    add(kSoundFades, fades(sound), plainFades);
+    add(kSoundEffects, effects(sound), plainEffects);
+    add(kSoundEqualizer, gains(sound), plainGains);
+    add(kSoundEqualizerName, FromWide(sound.equalizerName), QString());
     add(kSoundCurve, CurveText(sound.volumePoints), QString());
     if (video.alphaChannel)
         texts.emplace_back(
@@ -261,12 +330,13 @@ std::vector<std::pair<QString, QString>> SettingsToText(const TimelineNode& node
     return texts;
 }
 
-void SettingsFromText(const QHash<QString, QString>& properties, const QDir& folder,
+void SettingsFromText(const QHash<QString, QString>& properties,
+                      const std::function<std::shared_ptr<const MediaInfo>(const QString&)>& media,
                       TimelineNode& node)
 {
     ReadPicture(properties, node);
     ReadSound(properties, node.Audio());
-    ReadSource(properties, folder, node.Video());
+    ReadSource(properties, media, node.Video());
     for (auto property = properties.begin(); property != properties.end(); ++property) {
         if (!property.key().startsWith(kMixerPrefix))
             continue;

@@ -32,7 +32,9 @@ HRESULT DocumentSerialize::Save(INLETimeline* timeline, const wchar_t* path)
         QSaveFile file(name);
         if (!file.open(QIODevice::WriteOnly))
             return Report(name, file.errorString());
-        DocumentWriter(file, QFileInfo(name).absoluteDir()).Write(*node);
+        QString text;
+        DocumentWriter(text, QFileInfo(name).absoluteDir()).Write(*node);
+        file.write(text.toUtf8());
         return file.commit() ? S_OK : Report(name, file.errorString());
     });
 }
@@ -47,7 +49,7 @@ HRESULT DocumentSerialize::Load(const wchar_t* path, INLETimeline** timeline)
         QFile file(name);
         if (!file.open(QIODevice::ReadOnly))
             return Report(name, file.errorString());
-        DocumentReader reader(file, QFileInfo(name).absoluteDir());
+        DocumentReader reader(file.readAll(), QFileInfo(name).absoluteDir());
         NLEComPtr<TimelineNode> node = reader.Read();
         if (!node)
             return Report(name, reader.Error());
