@@ -13,6 +13,7 @@
 using namespace Scripted;
 using Helper = FPreViewRenderHelper;
 using Ranges = QList<QPair<int, int>>;
+using Operation = std::function<void(Helper*)>;
 
 namespace {
 
@@ -96,6 +97,8 @@ private:
 };
 
 } // namespace
+
+Q_DECLARE_METATYPE(Operation)
 
 class tst_Preview : public QObject
 {
@@ -405,6 +408,81 @@ private Q_SLOTS:
         timeline.reset();
         QCOMPARE(Calls("DeleteCache"), QStringList("cache.DeleteCache(true)"));
         QCOMPARE(Log().value(1), "DelRenderCache:false");
+    }
+
+    void endsInItsOwnSlots_data()
+    {
+        QTest::addColumn<long>("state");
+        QTest::addColumn<Operation>("operate");
+        const auto row = [](const char* name, long state, const Operation& operate) {
+            QTest::newRow(name) << state << operate;
+        };
+        row("nothing to render", Helper::Idle, &Helper::StartRender);
+        row("stop", Helper::Caching, &Helper::StopRender);
+        row("stop and wait", Helper::Caching, &Helper::StopRenderSync);
+        row("stop for good", Helper::Caching,
+            [](auto* h) { h->SetForceStopAutoStartRender(true); });
+        row("folder", Helper::Caching, [](auto* h) { h->SetCacheDirectory("other"); });
+        row("quality", Helper::Caching, [](auto* h) { h->SetTimelineQuality(1); });
+        row("deletion", Helper::Caching, [](auto* h) { h->DelRenderCache(true); });
+        row("update", Helper::Caching, &Helper::UpdateSysc);
+        row("update later", Helper::Caching, [](auto* h) { h->doDelayedUpdate(0); });
+        row("new work", Helper::Finished, [](auto* h) {
+            Ranges cached;
+            h->GetRenderProgress(cached, cached);
+        });
+        row("another node", Helper::Caching,
+            [](auto* h) { qobject_cast<NLETimeline*>(h->parent())->SetTimelineBase(nullptr); });
+        row("the end", Helper::Caching, [](auto* h) { delete h; });
+    }
+    void endsInItsOwnSlots()
+    {
+        QFETCH(const long, state);
+        QFETCH(const Operation, operate);
+        enum Way
+        {
+            Later,
+            WithItsWrapper,
+            AtOnce
+        };
+        const QByteArray row = QTest::currentDataTag();
+        const bool isBeingDeleted = row == "another node" || row == "the end";
+        cache->segments = {{NLERange{0, 9}, 1, 5}};
+        int ended = 0;
+        for (const int way : {Later, WithItsWrapper, AtOnce}) {
+            for (int signal = 0; signal < 4 && !(way == AtOnce && isBeingDeleted); ++signal) {
+                script.statuses.remove("cache.Start");
+                const QPointer<Helper> helper = MakeCaching();
+                helper->SetCachingState(state);
+                script.statuses["cache.Start"] = E_FAIL;
+                QObject context;
+                const auto end = [&] {
+                    ++ended;
+                    if (way == Later)
+                        helper->deleteLater();
+                    else if (way == WithItsWrapper)
+                        timeline.reset();
+                    else
+                        delete helper;
+                };
+                if (signal == 0)
+                    connect(helper, &Helper::sigRenderStateChange, &context, end);
+                else if (signal == 1)
+                    connect(helper, &Helper::sigRenderStateChangeInternal, &context, end);
+                else if (signal == 2)
+                    connect(helper, &Helper::sigRenderProgressInfo, &context, end);
+                else
+                    connect(helper, &Helper::sigRenderCatchDeleted, &context, end);
+                const int before = ended;
+                operate(helper);
+                QCoreApplication::processEvents();
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+                QVERIFY(ended == before || !helper);
+                if (timeline && !helper) // hands out no helper that is gone
+                    QVERIFY(timeline->GetPreViewRenderHelper()->GetCacheDirectory().isEmpty());
+            }
+        }
+        QVERIFY(ended > 0);
     }
 
     void endsWhileUpdatesAreInFlight()

@@ -9,7 +9,9 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QEvent>
 #include <QFileInfo>
+#include <QPointer>
 #include <QThread>
 #include <QTimer>
 #include <QtConcurrent>
@@ -69,6 +71,16 @@ FPreViewRenderHelper::FPreViewRenderHelper(NLEComPtr<INLETimeline> timeline, QOb
 
 FPreViewRenderHelper::~FPreViewRenderHelper()
 {
+    // Slots run below; neither the wrapper's end nor deleteLater() may delete a second time.
+    setParent(nullptr);
+    m_isEnding = true;
+    // Nor may the slot that deletes this object be called again by what its end emits.
+    if (m_emitting > 0) {
+        disconnect(this, &FPreViewRenderHelper::sigRenderStateChange, nullptr, nullptr);
+        disconnect(this, &FPreViewRenderHelper::sigRenderStateChangeInternal, nullptr, nullptr);
+        disconnect(this, &FPreViewRenderHelper::sigRenderProgressInfo, nullptr, nullptr);
+        disconnect(this, &FPreViewRenderHelper::sigRenderCatchDeleted, nullptr, nullptr);
+    }
     {
         const QMutexLocker lock(&s_asynUpdateUserDatasMutex);
         m_asynUpdateUserDatas.removeOne(this);
@@ -90,6 +102,23 @@ FPreViewRenderHelper::~FPreViewRenderHelper()
     m_renderUserDatas.removeOne(this);
     // An update that was due has run while this one waited.
     m_asynUpdateUserDatas.removeOne(this);
+}
+
+/// False when a slot has deleted this object.
+template <typename... Values>
+bool FPreViewRenderHelper::Emit(void (FPreViewRenderHelper::*signal)(Values...), Values... values)
+{
+    const QPointer<FPreViewRenderHelper> self(this);
+    ++m_emitting;
+    Q_EMIT(this->*signal)(values...);
+    if (self)
+        --m_emitting;
+    return bool(self);
+}
+
+bool FPreViewRenderHelper::event(QEvent* event)
+{
+    return (m_isEnding && event->type() == QEvent::DeferredDelete) || QObject::event(event);
 }
 
 INLEBackgroundCache* FPreViewRenderHelper::EnsureCache()
@@ -188,26 +217,35 @@ void FPreViewRenderHelper::GetRenderProgress(QList<QPair<int, int>>& cached,
             needRender.append({cachedTo, range.out + 1});
     }
     m_needRenderRanges = needRender;
-    if (IsNeedRender() && IsFinished()) {
-        SetCachingState(Idle);
+    if (!IsNeedRender() || !IsFinished())
+        return;
+    const QPointer<FPreViewRenderHelper> self(this);
+    SetCachingState(Idle);
+    if (self)
         RestartAutoRender(!m_forceStopAutoStartRender); // it had ended with the finished cache
-    }
 }
 
 bool FPreViewRenderHelper::SetCacheDirectory(QString folder)
 {
     bool success = false;
-    if (INLEBackgroundCache* cache = EnsureCache()) {
+    if (EnsureCache()) {
+        const QPointer<FPreViewRenderHelper> self(this);
         if (IsCaching())
             StopRender();
+        if (!self)
+            return false;
         const int freeSpace = static_cast<int>(gGetDiskFreeSpace(nullptr, folder));
         const int quota = std::min(freeSpace / 2, MaxQuota);
         // Only the folder's first character is logged, as intended.
         LOG_INFO("SetCacheDirectory", "folderSize:%s forder:%s",
                  qUtf8Printable(QString::number(quota)), WideAsNarrow(folder));
-        success = SUCCEEDED(cache->SetCacheFolder(ToWide(folder).c_str(), quota, DiskReserve));
+        success = SUCCEEDED(
+            m_backgroundCache->SetCacheFolder(ToWide(folder).c_str(), quota, DiskReserve));
         SetCachingState(Idle);
-        delayedAsyncUpdate();
+        if (self)
+            delayedAsyncUpdate();
+        if (!self)
+            return success;
         if (success)
             m_cacheDir = folder;
     }
@@ -240,7 +278,10 @@ void FPreViewRenderHelper::SetCacheSize(QSize size, float ratio)
 
 void FPreViewRenderHelper::SetTimelineQuality(double quality)
 {
+    const QPointer<FPreViewRenderHelper> self(this);
     StopRender();
+    if (!self)
+        return;
     if (INLEBackgroundCacheQualitySet* setting = EnsurePart(m_qualitySet))
         setting->SetQuality(RateToRational(quality));
     delayedAsyncUpdate();
@@ -274,8 +315,10 @@ void FPreViewRenderHelper::StartRender()
         SetCachingState(FolderUnwriteable);
     } else if (status == E_FAIL) {
         // The engine has nothing to render.
+        const QPointer<FPreViewRenderHelper> self(this);
         SetCachingState(Finished);
-        doDelayedUpdate(UpdateDelay);
+        if (self)
+            doDelayedUpdate(UpdateDelay);
     }
 }
 
@@ -285,21 +328,35 @@ void FPreViewRenderHelper::StopRender()
         m_autoRenderTimer->setInterval(AutoRenderInterval());
         return;
     }
+    const QPointer<FPreViewRenderHelper> self(this);
     if (EnsureCache() && SUCCEEDED(m_backgroundCache->Stop())) {
         LOG_INFO("StopRender", "StopRender succeed");
         SetCachingState(Idle);
     } else {
         LOG_INFO("StopRender", "StopRender failed");
     }
-    RestartAutoRender(!m_forceStopAutoStartRender);
+    if (self)
+        RestartAutoRender(!m_forceStopAutoStartRender);
 }
 
 void FPreViewRenderHelper::StopRenderSync()
 {
     if (!IsCaching())
         return;
+    const QPointer<FPreViewRenderHelper> self(this);
     StopRender();
     LOG_INFO("StopRenderSync", "FPreViewRenderHelper StopRender exec start");
+    const bool stopped = self && WaitForStop();
+    LOG_INFO("StopRenderSync", stopped || !self ? "StopRender StopByUser" : "StopRender timeOut");
+    if (self)
+        disconnect(this, &FPreViewRenderHelper::sigRenderStateChangeInternal, this, nullptr);
+    LOG_INFO("StopRenderSync", "FPreViewRenderHelper StopRender exec end");
+}
+
+/// False when the engine does not answer in time, or a slot deletes this object.
+bool FPreViewRenderHelper::WaitForStop()
+{
+    const QPointer<FPreViewRenderHelper> self(this);
     bool stopped = false;
     // The engine's answer counts, not the state, which is idle by now.
     connect(
@@ -308,26 +365,28 @@ void FPreViewRenderHelper::StopRenderSync()
         static_cast<Qt::ConnectionType>(Qt::AutoConnection | Qt::UniqueConnection));
     QElapsedTimer waited;
     waited.start();
-    while (!stopped && waited.elapsed() < StopTimeOut) {
+    while (self && !stopped && waited.elapsed() < StopTimeOut) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, EventSlice);
         // Without events the call returns at once; the rest keeps the processor free.
         if (!stopped)
             QThread::msleep(1);
     }
-    LOG_INFO("StopRenderSync", stopped ? "StopRender StopByUser" : "StopRender timeOut");
-    disconnect(this, &FPreViewRenderHelper::sigRenderStateChangeInternal, this, nullptr);
-    LOG_INFO("StopRenderSync", "FPreViewRenderHelper StopRender exec end");
+    return stopped;
 }
 
 void FPreViewRenderHelper::DelRenderCache(bool flag)
 {
     bool success = false;
-    if (INLEBackgroundCache* cache = EnsureCache()) {
+    if (EnsureCache()) {
+        const QPointer<FPreViewRenderHelper> self(this);
         if (IsCaching())
             StopRender();
-        success = SUCCEEDED(cache->DeleteCache(flag));
+        if (!self)
+            return;
+        success = SUCCEEDED(m_backgroundCache->DeleteCache(flag));
         SetCachingState(Idle);
-        Q_EMIT sigRenderCatchDeleted();
+        if (self)
+            Emit(&FPreViewRenderHelper::sigRenderCatchDeleted);
     }
     LOG_INFO("DelRenderCache", "DelRenderCache:%s", Answer(success));
 }
@@ -358,7 +417,10 @@ void FPreViewRenderHelper::SetForceStopAutoStartRender(bool force)
     m_forceStopAutoStartRender = force;
     if (!force)
         return;
+    const QPointer<FPreViewRenderHelper> self(this);
     StopRender();
+    if (!self)
+        return;
     m_autoRenderEnable = false;
     m_autoRenderSeconds = AutoRenderSeconds;
     m_autoRenderTimer->stop();
@@ -387,10 +449,12 @@ void FPreViewRenderHelper::Update()
 
 void FPreViewRenderHelper::UpdateSysc()
 {
+    const QPointer<FPreViewRenderHelper> self(this);
     if (!IsCaching() && EnsureCache())
         m_backgroundCache->Update();
     TrigerAutoRender();
-    m_delayedUpdatePending = false;
+    if (self)
+        m_delayedUpdatePending = false;
 }
 
 void FPreViewRenderHelper::doDelayedUpdate(int ms)
@@ -403,6 +467,7 @@ void FPreViewRenderHelper::doDelayedUpdate(int ms)
 
 void FPreViewRenderHelper::delayedAsyncUpdate()
 {
+    const QPointer<FPreViewRenderHelper> self(this);
     if (IsCaching()) {
         TrigerAutoRender();
     } else if (INLEBackgroundCacheAsyncUpdate* update = EnsurePart(m_asyncUpdate)) {
@@ -415,7 +480,8 @@ void FPreViewRenderHelper::delayedAsyncUpdate()
             update->SetUpdateCallback(&OnUpdate, this);
         }
     }
-    m_delayedUpdatePending = false;
+    if (self)
+        m_delayedUpdatePending = false;
 }
 
 void FPreViewRenderHelper::delayedUpdate()
@@ -438,8 +504,10 @@ void FPreViewRenderHelper::delayedUpdate()
 
 void FPreViewRenderHelper::TrigerAutoRender()
 {
+    const QPointer<FPreViewRenderHelper> self(this);
     SetProgressInfo();
-    RestartAutoRender(!IsFinished());
+    if (self)
+        RestartAutoRender(!IsFinished());
 }
 
 void FPreViewRenderHelper::SlotAutoRenderTimeOut()
@@ -455,8 +523,8 @@ void FPreViewRenderHelper::SetCachingState(long state)
         return;
     m_state = state;
     lock.unlock();
-    Q_EMIT sigRenderStateChange(state);
-    Q_EMIT sigRenderStateChangeInternal(state);
+    if (Emit(&FPreViewRenderHelper::sigRenderStateChange, state))
+        Emit(&FPreViewRenderHelper::sigRenderStateChangeInternal, state);
 }
 
 void FPreViewRenderHelper::SetProgressInfo(long progress, long cachedframes, long totalframes)
@@ -470,7 +538,8 @@ void FPreViewRenderHelper::SetProgressInfo(long progress, long cachedframes, lon
 void FPreViewRenderHelper::SetProgressInfo()
 {
     if (!m_forceStopAutoStartRender)
-        Q_EMIT sigRenderProgressInfo(m_progress, m_cachedFrames, m_totalFrames);
+        Emit(&FPreViewRenderHelper::sigRenderProgressInfo, m_progress, m_cachedFrames,
+             m_totalFrames);
 }
 
 void FPreViewRenderHelper::Register(QList<void*>& helpers, void* helper)

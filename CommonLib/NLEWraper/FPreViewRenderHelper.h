@@ -21,6 +21,10 @@ class QTimer;
 /// Belongs to the GUI thread. The engine reports from threads of its own; states and progress
 /// arrive here queued, in its order. An engine without a preview cache makes the commands do
 /// nothing. Frames are whole frames of the timeline.
+///
+/// Slots of its signals may delete the object, or its wrapper, at once or later; the operation
+/// that emitted ends there. The destructor emits too, unless it runs in such a slot: there only
+/// deleteLater() is safe.
 class COMMONLIB_EXPORT FPreViewRenderHelper : public QObject
 {
     Q_OBJECT
@@ -126,6 +130,9 @@ public Q_SLOTS:
     /// Stores and emits a progress.
     void SetProgressInfo(long progress, long cachedframes, long totalframes);
 
+protected:
+    bool event(QEvent* event) override;
+
 private Q_SLOTS:
     void TrigerAutoRender();
 
@@ -141,6 +148,9 @@ private:
     template <typename Interface>
     Interface* EnsurePart(NLEComPtr<Interface>& part);
     bool EnsureCacheFolder() const;
+    bool WaitForStop();
+    template <typename... Values>
+    bool Emit(void (FPreViewRenderHelper::*signal)(Values...), Values... values);
     int AutoRenderInterval() const;
     void RestartAutoRender(bool wanted);
     static void Register(QList<void*>& helpers, void* helper);
@@ -175,6 +185,8 @@ private:
     long m_totalFrames = 0;
     long m_cachedFrames = 0;
     bool m_forceStopAutoStartRender = false;
+    bool m_isEnding = false; ///< in the destructor
+    int m_emitting = 0;      ///< signals whose slots are being called
 
     // Living helpers that engine threads may call, guarded by s_asynUpdateUserDatasMutex, which is
     // taken last.

@@ -64,10 +64,10 @@ NLEComPtr<INLETimeline> FindCurrent(const NLEComPtr<INLETimelineEnumerator>& cli
 }
 
 template <typename Helper>
-void Drop(Helper*& helper)
+void Drop(QPointer<Helper>& helper)
 {
     // Null first: the preview helper's end lets events through.
-    delete std::exchange(helper, nullptr);
+    delete std::exchange(helper, nullptr).data();
 }
 
 } // namespace
@@ -101,7 +101,10 @@ void NLETimeline::SetTimelineBase(NLEComPtr<INLETimeline> timeline)
     Drop(m_blendingHelper);
     Drop(m_audioStreamHelper);
     Drop(m_videoStreamHelper);
+    const QPointer<NLETimeline> self(this);
     Drop(m_previewHelper);
+    if (!self)
+        return; // a slot of the preview helper has deleted this object
     m_properties = EngineObject<INLEProperties>(m_timeline.get(), &INLETimeline::GetProperties);
 }
 
@@ -403,7 +406,7 @@ void NLETimeline::SetHiden(bool hidden)
 }
 
 template <typename Helper>
-Helper* NLETimeline::MakeOnce(Helper*& helper)
+Helper* NLETimeline::MakeOnce(QPointer<Helper>& helper)
 {
     if (!helper)
         helper = new Helper(m_timeline, this);

@@ -12,6 +12,7 @@
 #include <QList>
 #include <QObject>
 #include <QPair>
+#include <QPointer>
 #include <QSize>
 #include <QSizeF>
 #include <QString>
@@ -217,7 +218,7 @@ public:
                                   bool finish) const;
 
     /// Processing helpers of the node, children of this object. The first call makes each; it lives
-    /// until the node is replaced.
+    /// until the node is replaced. A host may delete it before; the next call makes another.
     FTimelineBlendingHelper* GetBlendingHelper();
     FTimelineTransformHelper* GetTransformHelper();
     FAudioStreamProcessHelper* GetAudioStreamProcessHelper();
@@ -248,18 +249,18 @@ private:
     NLEComPtr<INLETimeline> NodeToRead(bool cloneFirst) const;
     bool HaveStream(NLEStreamType type) const;
     template <typename Helper>
-    Helper* MakeOnce(Helper*& helper);
+    Helper* MakeOnce(QPointer<Helper>& helper);
 
     // The reverse of this order is the order of release.
     NLEComPtr<INLETimeline> m_timeline;
     NLEComPtr<INLEProperties> m_properties;
     NLEComPtr<IUnknown> m_spare; ///< never set here
-    // Children of this object, null until first asked for.
-    FTimelineBlendingHelper* m_blendingHelper = nullptr;
-    FTimelineTransformHelper* m_transformHelper = nullptr;
-    FAudioStreamProcessHelper* m_audioStreamHelper = nullptr;
-    FVideoStreamProcessHelper* m_videoStreamHelper = nullptr;
-    FPreViewRenderHelper* m_previewHelper = nullptr;
+    // Children of this object, null until first asked for and after a host has deleted them.
+    QPointer<FTimelineBlendingHelper> m_blendingHelper;
+    QPointer<FTimelineTransformHelper> m_transformHelper;
+    QPointer<FAudioStreamProcessHelper> m_audioStreamHelper;
+    QPointer<FVideoStreamProcessHelper> m_videoStreamHelper;
+    QPointer<FPreViewRenderHelper> m_previewHelper;
     ExactType m_exactType;
     QString m_filePath; ///< as it was when the node was wrapped
 };
