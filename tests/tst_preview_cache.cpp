@@ -1,17 +1,21 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // The open engine's preview cache, judged by its reports, its pictures and the files in its folder.
 #include "EngineApi/INLEBackgroundCache.h"
+#include "EngineApi/INLEKeyFrames.h"
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/INLETransform.h"
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
 
+#include <QGuiApplication>
 #include <QProcess>
+#include <QSemaphore>
 
 #include <csignal>
 #include <functional>
 #include <mutex>
 
+#include <pthread.h>
 #include <sys/resource.h>
 
 namespace {
@@ -146,9 +150,26 @@ struct Timeline
 };
 using Edit = std::function<void(Timeline&)>;
 
+/// A clip of each kind, one after the other, ten frames each.
+struct Kinds
+{
+    Node project, media, colour, text, nested;
+};
+using Setting = std::function<void(Kinds&)>;
+
+/// What the process takes of the address space, in bytes.
+qint64 AddressSpace()
+{
+    QFile pages("/proc/self/statm");
+    return pages.open(QIODevice::ReadOnly)
+               ? pages.readAll().split(' ').front().toLongLong() * sysconf(_SC_PAGESIZE)
+               : 0;
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Edit)
+Q_DECLARE_METATYPE(Setting)
 
 class tst_PreviewCache : public QObject, private EngineFixture
 {
@@ -186,6 +207,35 @@ class tst_PreviewCache : public QObject, private EngineFixture
         }
         return project;
     }
+    Kinds MakeKinds() const
+    {
+        Kinds k{Project(), Trimmed(Media(m_media), 0, 9), Colour(Qt::red, QSize(64, 64)),
+                provider->CreateTipTextTimeline("Hamburg", "DejaVu Sans"),
+                provider->CreateVirtualTimeline(0)};
+        Add(k.nested, Trimmed(Colour(Qt::green, QSize(64, 64)), 0, 9));
+        Add(k.project, k.media);
+        Add(k.project, Trimmed(k.colour, 0, 9), 10);
+        Add(k.project, Trimmed(k.text, 0, 9), 20);
+        Add(k.project, k.nested, 30);
+        const NLESizeF large = {2, 2};
+        k.text.query<INLETransform>()->SetScale(&large);
+        k.text.query<INLETransform>()->SetRotation(10);
+        return k;
+    }
+    /// Puts another clip into the place of \a clip.
+    static void Replace(const Kinds& kinds, const Node& clip, const Node& other)
+    {
+        int position = 0;
+        NLESizeF scale = {1, 1};
+        double angle = 0;
+        clip->GetPosition(&position);
+        clip.query<INLETransform>()->GetScale(&scale);
+        clip.query<INLETransform>()->GetRotation(&angle);
+        other.query<INLETransform>()->SetScale(&scale);
+        other.query<INLETransform>()->SetRotation(angle);
+        kinds.project.query<INLETimelineComposite>()->RemoveClip(clip.get());
+        Add(kinds.project, Trimmed(other, 0, 9), position);
+    }
     QImage Shown(const Node& node, int frame, int flags) const
     {
         return Frame(node, frame, flags, QSize(kCacheSize.width, kCacheSize.height));
@@ -201,12 +251,20 @@ class tst_PreviewCache : public QObject, private EngineFixture
         }
         return worst;
     }
+    static qint64 SizeOf(const QString& folder)
+    {
+        qint64 size = 0;
+        for (const QFileInfo& file : QDir(folder).entryInfoList({"*.nlechunk"}))
+            size += file.size();
+        return size;
+    }
     static QStringList Files(const QString& folder, const char* filter)
     {
         return QDir(folder).entryList({QString::fromLatin1(filter)}, QDir::Files | QDir::Hidden);
     }
 
     const QString m_media = Path("clip.mp4");
+    const QString m_tall = Path("tall.mp4");
     QString m_folder;
 
 private slots:
@@ -216,6 +274,8 @@ private slots:
         clip.frames = 60;
         clip.extra = QStringList{"-colorspace", "bt709"}; // not what this size has by default
         QCOMPARE(MakeTestClip(m_media, clip), QString());
+        clip.size = {96, 160};
+        QCOMPARE(MakeTestClip(m_tall, clip), QString());
     }
     void init() { m_folder = Path(QTest::currentTestFunction()) + QTest::currentDataTag(); }
 
@@ -286,6 +346,10 @@ private slots:
         row("sound", [](Timeline& t) { t.b.query<INLEAudioStreamProcess>()->SetVolume(2); }, {});
         row("off", [](Timeline& t) { t.above->SetEnabled(false); }, {{60, 110}});
         row("turn", [](Timeline& t) { t.b.query<INLETransform>()->SetRotation(30); }, {{60, 120}});
+        const auto silence = [](Timeline& t) {
+            BagOf(t.above)->SetInt(NLEKey::Render::kRender_Mode, NLERender_AudioOnly);
+        };
+        row("sound only", silence, {{60, 110}});
         row("blend", [](Timeline& t) { t.above.query<INLEBlendSetting>()->SetAlpha(99); },
             {{60, 110}});
         row("order", [](Timeline& t) { t.above->SetLevel(-1); }, {{60, 110}});
@@ -342,6 +406,92 @@ private slots:
             QCOMPARE(Cache(undone.project, m_folder).Start(), E_FAIL);
     }
 
+    void everySettingCounts_data()
+    {
+        QTest::addColumn<Setting>("set");
+        const auto row = [](const char* name, const Setting& set) { QTest::newRow(name) << set; };
+        const auto setInt = [](const Node& node, const wchar_t* key, int value) {
+            BagOf(node)->SetInt(key, value);
+        };
+        const auto setContext = [this](const Kinds& k, double scale, int smooth) {
+            const auto bag = provider->CreateNLEProperties();
+            bag->SetDouble(NLEKey::Context::kContext_PreviewScale, scale);
+            bag->SetInt(NLEKey::Context::kContext_SmoothScaling, smooth);
+            k.project.query<INLEBasin>()->TakeProperties(bag.get());
+        };
+        const auto play = [setInt](const Node& clip, NLERational speed) {
+            BagOf(clip)->SetRational(NLEKey::Speed::kScale, speed);
+            setInt(clip, NLEKey::Speed::kEnabled, 1);
+            Trimmed(clip, 0, 9);
+        };
+        const auto hold = [setInt](const Node& clip, int frame) {
+            setInt(clip, NLEKey::Freeze::kFreeze_Frame, frame);
+            setInt(clip, NLEKey::Freeze::kFreeze_Enabled, 1);
+        };
+        const auto turn = [](const Node& clip, const NLEKeyFrameRecord& record) {
+            int index = 0;
+            clip.query<INLEKeyFrameList>()->AddKeyFrame(&record, &index);
+            clip.query<INLEKeyFrameStatus>()->SetStatus(true);
+        };
+        const auto text = [this](const char* words, const char* family) {
+            return provider->CreateTipTextTimeline(words, family);
+        };
+        const auto proxy = [this](const Node& clip) {
+            const auto video = clip.query<INLEVideoStreamProcess>();
+            video->SetProxyFile(m_tall.toStdWString().c_str());
+            video->SetProxyEnabled(true);
+        };
+        static const NLEPointF aside = {0.2, 0.7};
+        static const NLESizeF small = {0.3, 0.6};
+        const auto background = NLEKey::Render::kRender_BackgroundColor;
+        row("file", [this](Kinds& k) { Replace(k, k.media, Media(m_tall)); });
+        row("margin", [](Kinds& k) { k.colour->SetMarginMode(NLEMargin_Stretch); });
+        row("speed", [play](Kinds& k) { play(k.media, {3, 1}); });
+        row("freeze", [hold](Kinds& k) { hold(k.media, 30); });
+        row("proxy", [proxy](Kinds& k) { proxy(k.media); });
+        row("key frame angle", [turn](Kinds& k) { turn(k.media, {0, 30, 0, 0, 1, 1, 1, 1}); });
+        row("key frame place", [turn](Kinds& k) { turn(k.media, {0, 0, .3, .2, 1, 1, 1, 1}); });
+        row("key frame scale", [turn](Kinds& k) { turn(k.media, {0, 0, 0, 0, .5, .5, 1, 1}); });
+        row("key frame opacity", [turn](Kinds& k) { turn(k.media, {0, 0, 0, 0, 1, 1, .3, 1}); });
+        row("blend mode", [](Kinds& k) { k.colour.query<INLEBlendSetting>()->SetMode(1); });
+        row("alpha", [](Kinds& k) { k.media.query<INLEBlendSetting>()->SetAlpha(90); });
+        row("centre", [](Kinds& k) { k.text.query<INLETransform>()->SetCenter(&aside); });
+        row("scale", [](Kinds& k) { k.media.query<INLETransform>()->SetScale(&small); });
+        row("rotation", [](Kinds& k) { k.media.query<INLETransform>()->SetRotation(45); });
+        row("colour", [this](Kinds& k) { Replace(k, k.colour, Colour(Qt::blue, QSize(64, 64))); });
+        row("size", [this](Kinds& k) { Replace(k, k.colour, Colour(Qt::red, QSize(32, 64))); });
+        row("text", [text](Kinds& k) { Replace(k, k.text, text("Berlin", "DejaVu Sans")); });
+        row("family", [text](Kinds& k) { Replace(k, k.text, text("Hamburg", "DejaVu Serif")); });
+        row("background", [=](Kinds& k) { setInt(k.nested, background, int(0xFF804020u)); });
+        row("project background",
+            [=](Kinds& k) { setInt(k.project, background, int(0xFF123456u)); });
+        row("preview scale", [=](Kinds& k) { setContext(k, 0.1, 1); });
+        row("smoothing", [=](Kinds& k) { setContext(k, 1, 0); });
+    }
+    void everySettingCounts()
+    {
+        QFETCH(const Setting, set);
+        Kinds kinds = MakeKinds();
+        Cache cache(kinds.project, m_folder);
+        QCOMPARE(cache.Render(), 5L);
+        const int frames[] = {8, 15, 25, 35};
+        std::vector<QImage> before;
+        for (const int frame : frames)
+            before.push_back(Shown(kinds.project, frame, NLEOpen_Cached));
+        set(kinds);
+        QCOMPARE(cache.Render(), 5L);
+        double change = 99;
+        double likeness = 99;
+        for (std::size_t i = 0; i < before.size(); ++i) {
+            const QImage rendered = Shown(kinds.project, frames[i], NLEOpen_Render);
+            const QImage cached = Shown(kinds.project, frames[i], NLEOpen_Cached);
+            likeness = std::min(likeness, Psnr(cached, rendered));
+            change = std::min(change, Psnr(before[i], rendered));
+        }
+        QVERIFY(likeness >= 40);
+        QVERIFY(change < 34); // else the row shows nothing
+    }
+
     void mediaChangesWhileRendering()
     {
         // What was begun with one content of a file must not be found as that content.
@@ -368,7 +518,7 @@ private slots:
         QTest::newRow("no quota") << 0 << 0 << 0 << false << 2L;
         QTest::newRow("quota") << 1 << 0 << 0 << false << 2L;
         QTest::newRow("stopped") << 1000 << 0 << 0 << false << 3L;
-        QTest::newRow("full within a chunk") << 1000 << 0 << 20000 << false << 1L;
+        QTest::newRow("no large files") << 1000 << 0 << 20000 << false << 4L;
         QTest::newRow("folder removed") << 1000 << 0 << 0 << true << 4L;
     }
     void endings()
@@ -403,10 +553,7 @@ private slots:
         const Frames needed = cache.Needed();
         const QPair<Frames, Frames> stat = cache.Stat();
         QCOMPARE(CountOf(stat.first) + CountOf(needed), 3600L);
-        qint64 size = 0;
-        for (const QString& name : Files(m_folder, "*chunk*"))
-            size += name.endsWith(".lock") ? 0 : QFileInfo(m_folder + '/' + name).size();
-        QVERIFY(quota > 1 || size <= quota << 20);
+        QVERIFY(quota > 1 || SizeOf(m_folder) <= quota << 20);
         QVERIFY(Likeness(project, stat.first.mid(0, 2)) >= 40);
         QCOMPARE(cache.Render(), 5L);
         QCOMPARE(Files(m_folder, "*chunk*").size(), 60 * 2 + 1);
@@ -421,9 +568,7 @@ private slots:
         Add(second, Colour(Qt::red));
         Cache cache(first, m_folder);
         QCOMPARE(cache.Render(), 5L);
-        qint64 size = 0;
-        for (const QFileInfo& file : QDir(m_folder).entryInfoList({"*.nlechunk"}))
-            size += file.size();
+        const qint64 size = SizeOf(m_folder);
         QVERIFY(size > 2 << 20);
         QTest::qWait(5); // the next use is later than those before
         QVERIFY(!Shown(first, 0, NLEOpen_Cached).isNull());
@@ -464,6 +609,66 @@ private slots:
         QCOMPARE(cache.Render(), 5L);
         cache.engine->DeleteCache(true);
         QVERIFY(!QFileInfo::exists(m_folder + "/made"));
+    }
+
+    void deletesEarlierVersions()
+    {
+        const Node project = LongProject(2);
+        Cache cache(project, m_folder);
+        QCOMPARE(cache.Render(), 5L);
+        ClipAt(project, 0).query<INLEBlendSetting>()->SetAlpha(99);
+        QCOMPARE(cache.Render(), 5L);
+        QCOMPARE(Files(m_folder, "*.nlechunk").size(), 6);
+        QCOMPARE(cache.engine->DeleteCache(false), S_OK);
+        QCOMPARE(Files(m_folder, "*.nlechunk"), QStringList());
+        // Nor need a timeline have been analysed, or be as it was when it was loaded.
+        QCOMPARE(cache.Start({960, 540}), S_OK);
+        QCOMPARE(cache.End(), 5L);
+        const Node same = LongProject(2);
+        ClipAt(same, 0).query<INLEBlendSetting>()->SetAlpha(99);
+        Cache later(same, m_folder);
+        QCOMPARE(later.Start({960, 540}), E_FAIL);
+        const Node original = LongProject(2);
+        Cache other(original, m_folder);
+        QCOMPARE(other.Render(), 5L);
+        const Node loaded = LongProject(2);
+        Cache fresh(loaded, m_folder);
+        QCOMPARE(fresh.engine->DeleteCache(false), S_OK);
+        QCOMPARE(other.Needed(), (Frames{{0, 120}}));
+        QCOMPARE(later.Needed(), Frames());
+        ClipAt(same, 1)->SetEnabled(false);
+        QCOMPARE(later.engine->DeleteCache(false), S_OK);
+        QCOMPARE(Files(m_folder, "*.nlechunk"), QStringList());
+    }
+
+    void emptyFolderGoes()
+    {
+        // Whoever has made it, as it was empty.
+        QVERIFY(QDir().mkpath(m_folder));
+        Node project = LongProject(1);
+        Cache(project, m_folder).Render();
+        QCOMPARE(Cache(project, m_folder).engine->DeleteCache(true), S_OK);
+        QVERIFY(!QFileInfo::exists(m_folder));
+        project.reset();
+        QVERIFY(QDir().mkpath(m_folder));
+        const Node silent = Project();
+        QCOMPARE(Cache(silent, m_folder).Render(), long(E_FAIL));
+        Cache(silent, m_folder + "/other").Stat(); // lets go of the folder
+        QVERIFY(!QFileInfo::exists(m_folder));
+    }
+
+    void filesRemovedByOthers()
+    {
+        const Node project = LongProject(2);
+        Cache cache(project, m_folder);
+        QCOMPARE(cache.Render(), 5L);
+        QCOMPARE(cache.Needed(), Frames());
+        const QStringList names = Files(m_folder, "*.nlechunk");
+        QVERIFY(QFile::remove(m_folder + '/' + names[0]));
+        const long needed = CountOf(cache.Needed());
+        QVERIFY(needed > 0 && needed < 120);
+        QCOMPARE(cache.Render(), 5L);
+        QCOMPARE(cache.Needed(), Frames());
     }
 
     void damageIsNeverShown_data()
@@ -524,6 +729,138 @@ private slots:
         QCOMPARE(Files(m_folder, "*.nlechunk*").size(), 120);
     }
 
+    void twoProcesses()
+    {
+        const QString document = Path("shared.mlt");
+        QVERIFY(Save(LongProject(), document));
+        const Node project = Project();
+        for (int i = 0; i < 60; ++i) {
+            const Node clip = Media(m_media);
+            clip.query<INLEBlendSetting>()->SetAlpha(190 - i);
+            Add(project, clip, 60 * i);
+        }
+        const auto startOther = [&](QProcess& other, const char* quota) {
+            other.start(QCoreApplication::applicationFilePath(),
+                        {"--render", document, m_folder, quota});
+            return other.waitForStarted() &&
+                   QTest::qWaitFor([&] { return Files(m_folder, "*.nlechunk").size() > 2; }, 60000);
+        };
+        Cache cache(project, m_folder, 1);
+        QProcess other;
+        QVERIFY(startOther(other, "1"));
+        QCOMPARE(cache.Render(), 2L);
+        QTRY_COMPARE_WITH_TIMEOUT(other.state(), QProcess::NotRunning, 60000);
+        QCOMPARE(other.exitCode(), 2);
+        QVERIFY(SizeOf(m_folder) <= 1 << 20);
+
+        // What another process is writing stays.
+        QCOMPARE(cache.engine->DeleteCache(true), S_OK);
+        QVERIFY(startOther(other, "1000"));
+        const QString writing = m_folder + '/' + Files(m_folder, "*.nlechunk").front() + ".Ab12cd";
+        QVERIFY(QFile::copy(m_media, writing));
+        QCOMPARE(cache.engine->DeleteCache(true), S_OK);
+        QVERIFY(QFile::exists(writing));
+        other.kill();
+        QVERIFY(other.waitForFinished());
+        QCOMPARE(cache.engine->DeleteCache(true), S_OK);
+    }
+
+    void twoWhoStart()
+    {
+        const Node project = LongProject();
+        Cache first(project, m_folder);
+        Cache second(project, m_folder);
+        QCOMPARE(first.Start(), S_OK);
+        QCOMPARE(second.Start(), S_FALSE);
+        QTRY_VERIFY(!second.Reports().empty());
+        QCOMPARE(second.engine->Stop(), S_OK);
+        QCOMPARE(first.End(), 3L);
+        QCOMPARE(second.End(), 3L);
+        // Who has not asked for the next run is not told of it.
+        QCOMPARE(second.Start(), S_OK);
+        QCOMPARE(second.engine->Stop(), S_OK);
+        QCOMPARE(second.End(), 3L);
+        const std::vector<Report> reports = first.Reports();
+        QCOMPARE(int(std::count_if(reports.begin(), reports.end(),
+                                   [](const Report& report) { return report.state == 3; })),
+                 1);
+    }
+
+    void fewThreads_data()
+    {
+        QTest::addColumn<int>("threads");
+        QTest::addColumn<long>("started");
+        QTest::newRow("none") << 0 << long(E_OUTOFMEMORY);
+        QTest::newRow("one for reports") << 1 << long(E_OUTOFMEMORY);
+        QTest::newRow("one to render") << 2 << long(S_OK);
+    }
+    void fewThreads()
+    {
+        QFETCH(const int, threads);
+        QFETCH(const long, started);
+        const Node project = LongProject(2);
+        Cache cache(project, m_folder);
+        rlimit old = {};
+        getrlimit(RLIMIT_AS, &old);
+        // Stacks so large that the address space has room for that many.
+        constexpr qint64 stack = qint64(8) << 30;
+        pthread_attr_t usual;
+        pthread_attr_t large;
+        pthread_getattr_default_np(&usual);
+        pthread_getattr_default_np(&large);
+        pthread_attr_setstacksize(&large, stack);
+        pthread_setattr_default_np(&large);
+        const rlimit tight = {rlim_t(AddressSpace() + stack * threads + stack / 2), old.rlim_max};
+        setrlimit(RLIMIT_AS, &tight);
+        const long result = cache.Start();
+        const long end = result == S_OK ? cache.End() : 0;
+        const QImage shown = Shown(project, 3, NLEOpen_Render);
+        setrlimit(RLIMIT_AS, &old);
+        pthread_setattr_default_np(&usual);
+        QCOMPARE(result, started);
+        QCOMPARE(end, result == S_OK ? 5L : 0L);
+        QCOMPARE(cache.Reports().empty(), result != S_OK);
+        QVERIFY(Psnr(shown, Shown(project, 3, NLEOpen_Render)) >= 40);
+    }
+
+    void releasedByItsOwnCall()
+    {
+        // The last reference goes within a report, and within the end of an analysis.
+        struct Last
+        {
+            NLEComPtr<INLEBackgroundCache> engine;
+            QSemaphore isLast;
+            QSemaphore isReleased;
+
+            int Release()
+            {
+                isLast.acquire();
+                engine.reset();
+                isReleased.release();
+                return 0;
+            }
+        };
+        const auto onReport = [](int, long, long, long, void* last) {
+            return static_cast<Last*>(last)->Release();
+        };
+        const auto onUpdate = [](void*, long, long, long, long, void* last) {
+            return static_cast<Last*>(last)->Release();
+        };
+        for (const bool isReport : {true, false}) {
+            Node project = LongProject(1);
+            Last last;
+            last.engine = Cache(project, m_folder).engine;
+            const auto update = [&] { return last.engine.query<INLEBackgroundCacheAsyncUpdate>(); };
+            QCOMPARE(isReport ? last.engine->Start(&kCacheSize, onReport, &last)
+                              : update()->SetUpdateCallback(onUpdate, &last),
+                     S_OK);
+            QTest::qWait(20); // the call is under way, and not dropped with the timeline
+            project.reset();
+            last.isLast.release();
+            QVERIFY(last.isReleased.tryAcquire(1, 60000));
+        }
+    }
+
     void releasedWhileRendering()
     {
         Node project = LongProject();
@@ -560,12 +897,12 @@ private slots:
         QCOMPARE(CountOf(cache.Needed()), 140L);
     }
 
-    /// What the process does that killedProcess kills.
-    static int RenderUntilKilled(const QString& document, const QString& folder)
+    /// What the other process does of killedProcess and twoProcesses.
+    static int RenderUntilKilled(const QString& document, const QString& folder, int quota)
     {
         const tst_PreviewCache engine;
         const Node project = engine.Load(document);
-        Cache cache(project, folder);
+        Cache cache(project, folder, quota);
         cache.Start();
         return int(cache.End());
     }
@@ -574,11 +911,12 @@ private slots:
 
 int main(int argc, char** argv)
 {
-    QCoreApplication application(argc, argv);
+    QGuiApplication application(argc, argv); // text is drawn
     std::signal(SIGXFSZ, SIG_IGN);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == "--render")
-        return tst_PreviewCache::RenderUntilKilled(arguments.value(2), arguments.value(3));
+        return tst_PreviewCache::RenderUntilKilled(arguments.value(2), arguments.value(3),
+                                                   arguments.value(4, "1000").toInt());
     tst_PreviewCache test;
     return QTest::qExec(&test, argc, argv);
 }

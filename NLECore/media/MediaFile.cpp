@@ -246,6 +246,8 @@ CodecPtr OpenCodec(const AVStream* stream, int threads, const QString& path, QSt
     codec->thread_count =
         threads > 0 ? threads : std::clamp(QThread::idealThreadCount(), 1, MaxThreads);
     const int result = avcodec_open2(codec.get(), decoder, nullptr);
+    if (result < 0 && codec->thread_count > 1)
+        return OpenCodec(stream, 1, path, error); // the system may be short of threads
     if (result < 0)
         return fail(QStringLiteral("decoder does not open: ") + AvErrorText(result));
     return codec;

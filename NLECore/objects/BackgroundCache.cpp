@@ -40,7 +40,9 @@ HRESULT BackgroundCache::SetCacheFolder(const wchar_t* folder, std::int64_t quot
         m_limits = {std::min(quota, kMostMebibytes) * kMebibyte, reserve * kMebibyte};
         const auto store = ChunkStore::Of(QString::fromWCharArray(folder));
         const std::lock_guard<std::mutex> lock(m_mutex);
-        m_store = store;
+        if (m_guarded.store != store)
+            m_guarded.former.clear();
+        m_guarded.store = store;
         return S_OK;
     });
 }
@@ -53,29 +55,55 @@ HRESULT BackgroundCache::Start(const NLESize* resolution, NLERenderCallback call
         const auto isSide = [](int length) { return length > 0 && length <= kLongestSide; };
         if (!store || !resolution || !isSide(resolution->width) || !isSide(resolution->height))
             return E_INVALIDARG;
-        if (m_renderer && m_renderer->IsRunning())
+        const Listener listener(callback, userData);
+        if (JoinRun(listener))
             return S_FALSE;
         EndRendering();
         if (!store->Prepare())
             return E_ACCESSDENIED;
         {
             const std::lock_guard<std::mutex> lock(m_mutex);
-            m_size = QSize(resolution->width, resolution->height);
+            m_guarded.size = QSize(resolution->width, resolution->height);
         }
         const Plan plan = m_node ? Analyse(TakeSnapshot()) : nullptr;
         if (!plan || store->CountFrames(plan->Chunks()) == plan->FrameCount())
             return E_FAIL;
-        const auto report = [this, callback, userData](const CacheRenderer::Progress& progress) {
-            if (!callback)
-                return;
-            m_reports.Post([=] {
-                callback(progress.percent, long(progress.state), long(progress.cachedFrames),
-                         long(progress.totalFrames), userData);
-            });
-        };
-        m_renderer = std::make_unique<CacheRenderer>(plan, store, m_limits, report);
-        return S_OK;
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            m_guarded.former.merge(plan->Keys());
+            m_guarded.listeners = {listener};
+        }
+        if (m_reports.Start())
+            m_renderer = CacheRenderer::Start(
+                plan, store, m_limits,
+                [this](const CacheRenderer::Progress& progress) { Report(progress); });
+        return m_renderer ? S_OK : E_OUTOFMEMORY;
     });
+}
+
+// A run that has ended tells so under this lock, and is no longer running before it does.
+bool BackgroundCache::JoinRun(const Listener& listener)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (!m_renderer || !m_renderer->IsRunning())
+        return false;
+    std::vector<Listener>& listeners = m_guarded.listeners;
+    if (std::find(listeners.begin(), listeners.end(), listener) == listeners.end())
+        listeners.push_back(listener);
+    return true;
+}
+
+void BackgroundCache::Report(const CacheRenderer::Progress& progress)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    for (const auto& [callback, userData] : m_guarded.listeners) {
+        if (!callback)
+            continue;
+        m_reports.Post([=, callback = callback, userData = userData] {
+            callback(progress.percent, long(progress.state), long(progress.cachedFrames),
+                     long(progress.totalFrames), userData);
+        });
+    }
 }
 
 HRESULT BackgroundCache::Stop()
@@ -95,10 +123,16 @@ HRESULT BackgroundCache::DeleteCache(bool all)
             return E_FAIL;
         if (all) {
             store->Clear();
-        } else if (const Plan plan = CurrentPlan()) {
-            for (const Chunk& chunk : plan->Chunks())
-                store->Remove(chunk.key);
+            return S_OK;
         }
+        const Plan plan = m_node ? Analyse(TakeSnapshot()) : CurrentPlan();
+        KeySet keys = plan ? plan->Keys() : KeySet();
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            keys.merge(std::exchange(m_guarded.former, {}));
+        }
+        for (const ContentKey& key : keys)
+            store->Remove(key);
         return S_OK;
     });
 }
@@ -118,17 +152,19 @@ HRESULT BackgroundCache::Update()
 long BackgroundCache::GetCount()
 {
     m_segments.clear();
-    if (FAILED(ComGuard([this] { return ListSegments(); })))
-        m_segments.clear();
-    return long(m_segments.size());
+    const HRESULT result = ComGuard([&] {
+        ListSegments();
+        return S_OK;
+    });
+    return SUCCEEDED(result) ? long(m_segments.size()) : 0;
 }
 
-HRESULT BackgroundCache::ListSegments()
+void BackgroundCache::ListSegments()
 {
     const Plan plan = CurrentPlan();
     const std::shared_ptr<ChunkStore> store = Store();
     if (!plan)
-        return S_OK;
+        return;
     for (const Chunk& chunk : plan->Chunks()) {
         const bool isCached = store && store->Has(chunk.key);
         Segment* last = m_segments.empty() ? nullptr : &m_segments.back();
@@ -139,7 +175,6 @@ HRESULT BackgroundCache::ListSegments()
         if (isCached)
             last->cachedTo = chunk.last + 1;
     }
-    return S_OK;
 }
 
 HRESULT BackgroundCache::GetStat(int index, NLERange* range, long* valid, int* cachedTo)
@@ -162,7 +197,7 @@ HRESULT BackgroundCache::SetUpdateCallback(NLEUpdateCallback callback, void* use
             m_analyses.Clear();
             return S_OK;
         }
-        m_analyses.Post([this, callback, userData, root = TakeSnapshot()] {
+        const bool isPosted = m_analyses.Post([this, callback, userData, root = TakeSnapshot()] {
             Plan plan;
             const HRESULT result = ComGuard([&] {
                 plan = Analyse(root);
@@ -174,7 +209,7 @@ HRESULT BackgroundCache::SetUpdateCallback(NLEUpdateCallback callback, void* use
                      isEmpty ? -1 : plan->Chunks().back().last,
                      isEmpty ? 0 : long(plan->FrameCount()), userData);
         });
-        return S_OK;
+        return isPosted ? S_OK : E_OUTOFMEMORY;
     });
 }
 
@@ -183,7 +218,7 @@ HRESULT BackgroundCache::SetQuality(NLERational quality)
     if (quality.den <= 0 || quality.num < 0 || quality.num > quality.den)
         return E_INVALIDARG;
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_quality = int(std::lround(double(quality.num) / double(quality.den) * 1000));
+    m_guarded.quality = int(std::lround(double(quality.num) / double(quality.den) * 1000));
     return S_OK;
 }
 
@@ -215,28 +250,30 @@ BackgroundCache::Plan BackgroundCache::Analyse(const Snapshot& root)
         return nullptr;
     Plan plan = std::make_shared<ChunkPlan>(root, FormatFor(*root));
     if (const std::shared_ptr<ChunkStore> store = Store())
-        store->EnsureListed();
+        store->Refresh();
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_plan = plan;
+    if (m_guarded.former.empty())
+        m_guarded.former = plan->Keys();
+    m_guarded.plan = plan;
     return plan;
 }
 
 BackgroundCache::Plan BackgroundCache::CurrentPlan() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_plan;
+    return m_guarded.plan;
 }
 
 std::shared_ptr<ChunkStore> BackgroundCache::Store() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_store;
+    return m_guarded.store;
 }
 
 CacheFormat BackgroundCache::FormatFor(const Layer& root) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return {m_size.isEmpty() ? PresetSize(root.size) : m_size, m_quality};
+    return {m_guarded.size.isEmpty() ? PresetSize(root.size) : m_guarded.size, m_guarded.quality};
 }
 
 /// For a caller who goes on to use the cache, and who may be waiting for the end.

@@ -25,12 +25,14 @@ public:
 
     /// Ends a render that is running. E_INVALIDARG for no name and for numbers below 0.
     HRESULT SetCacheFolder(const wchar_t* folder, std::int64_t quota, int reserve) override;
-    /// S_FALSE while a render is running, E_INVALIDARG without a folder or a size, E_ACCESSDENIED
-    /// when the folder takes no files, E_FAIL when there is nothing to render.
+    /// S_FALSE while a render is running, whose reports the caller gets from then on as well;
+    /// E_INVALIDARG without a folder or a size, E_ACCESSDENIED when the folder takes no files,
+    /// E_FAIL when there is nothing to render, E_OUTOFMEMORY when there is no thread.
     HRESULT Start(const NLESize* resolution, NLERenderCallback callback, void* userData) override;
     /// Returns at once; the render ends with its state 3. S_FALSE when none was started.
     HRESULT Stop() override;
-    /// \a all: every chunk in the folder, also those of other timelines; else those of this one.
+    /// \a all: every chunk in the folder, also those of other timelines; else those of this one as
+    /// it is, as it was first analysed and as it was rendered since the folder was set.
     HRESULT DeleteCache(bool all) override;
     HRESULT Update() override;
 
@@ -53,6 +55,8 @@ private:
         int cachedTo;
     };
     using Plan = std::shared_ptr<const ChunkPlan>;
+    /// Who has started a render: the function, and what it is given.
+    using Listener = std::pair<NLERenderCallback, void*>;
 
     ~BackgroundCache() override;
     Snapshot TakeSnapshot() const;
@@ -60,17 +64,25 @@ private:
     Plan CurrentPlan() const;
     std::shared_ptr<ChunkStore> Store() const;
     CacheFormat FormatFor(const Layer& root) const;
+    bool JoinRun(const Listener& listener);
+    void Report(const CacheRenderer::Progress& progress);
+    void ListSegments();
     void EndRendering();
-    HRESULT ListSegments();
 
     const CompositeNode* m_node;
     const std::thread::id m_editingThread = std::this_thread::get_id();
 
-    mutable std::mutex m_mutex; ///< guards the four below
-    std::shared_ptr<ChunkStore> m_store;
-    QSize m_size; ///< empty until a render was started
-    int m_quality = CacheFormat().quality;
-    Plan m_plan;
+    struct Guarded
+    {
+        std::shared_ptr<ChunkStore> store;
+        QSize size; ///< empty until a render was started
+        int quality = CacheFormat().quality;
+        Plan plan;
+        KeySet former; ///< of earlier plans in this folder that were rendered, and of the first
+        std::vector<Listener> listeners; ///< of the last run
+    };
+    mutable std::mutex m_mutex; ///< guards m_guarded
+    Guarded m_guarded;
 
     CacheLimits m_limits;
     std::vector<Segment> m_segments;

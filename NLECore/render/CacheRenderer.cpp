@@ -4,6 +4,7 @@
 #include "Com/ComGuard.h"
 #include "NLECore/media/EngineLog.h"
 #include "NLECore/render/Composer.h"
+#include "NLECore/render/TaskThread.h"
 #include "NLECore/render/ThreadPriority_p.h"
 
 #include <QThread>
@@ -50,14 +51,23 @@ struct CacheRenderer::Worker
     std::int64_t lastSize = 0;
 };
 
+std::unique_ptr<CacheRenderer> CacheRenderer::Start(std::shared_ptr<const ChunkPlan> plan,
+                                                    std::shared_ptr<ChunkStore> store,
+                                                    const CacheLimits& limits, Report report)
+{
+    std::unique_ptr<CacheRenderer> renderer(
+        new CacheRenderer(std::move(plan), std::move(store), limits, std::move(report)));
+    return renderer->StartThreads() ? std::move(renderer) : nullptr;
+}
+
 CacheRenderer::CacheRenderer(std::shared_ptr<const ChunkPlan> plan,
                              std::shared_ptr<ChunkStore> store, const CacheLimits& limits,
-                             Report report, KeySet keep)
+                             Report report)
     : m_plan(std::move(plan))
     , m_store(std::move(store))
     , m_limits(limits)
     , m_report(std::move(report))
-    , m_keep(std::move(keep))
+    , m_keep(m_plan->Keys())
     , m_decoders(kDecodersPerThread * ThreadCount(), kDecoderThreads)
 {
     KeySet seen;
@@ -65,21 +75,25 @@ CacheRenderer::CacheRenderer(std::shared_ptr<const ChunkPlan> plan,
     for (int index = 0; index < int(chunks.size()); ++index) {
         const ContentKey& key = chunks[std::size_t(index)].key;
         if (!m_store->Has(key) && seen.insert(key).second)
-            m_pending.insert(index);
+            m_guarded.pending.insert(index);
     }
 }
 
-// Should a thread not start, the object is whole already, and its destructor ends the others.
-CacheRenderer::CacheRenderer(std::shared_ptr<const ChunkPlan> plan,
-                             std::shared_ptr<ChunkStore> store, const CacheLimits& limits,
-                             Report report)
-    : CacheRenderer(plan, std::move(store), limits, std::move(report), plan->Keys())
+// The threads that start wait for the lock before they take a chunk or report.
+bool CacheRenderer::StartThreads()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
+    m_threads.reserve(std::size_t(ThreadCount()));
+    for (int number = 0; number < ThreadCount(); ++number) {
+        std::thread thread = StartThread([this, number] { Run(number); });
+        if (thread.joinable())
+            m_threads.push_back(std::move(thread));
+    }
+    m_guarded.working = int(m_threads.size());
+    if (m_threads.empty())
+        return false;
     ReportProgress(CacheState::Caching);
-    m_working = ThreadCount();
-    for (int number = 0; number < m_working; ++number)
-        m_threads.emplace_back([this, number] { Run(number); });
+    return true;
 }
 
 CacheRenderer::~CacheRenderer()
@@ -131,23 +145,24 @@ void CacheRenderer::RenderChunks(int number)
 std::optional<int> CacheRenderer::Take(int last)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_isEnding || m_pending.empty())
+    std::set<int>& pending = m_guarded.pending;
+    if (m_isEnding || pending.empty())
         return {};
-    auto chosen = m_pending.find(last + 1);
-    if (chosen == m_pending.end()) {
+    auto chosen = pending.find(last + 1);
+    if (chosen == pending.end()) {
         std::vector<int> row;
         std::vector<int> longest;
-        for (const int index : m_pending) {
+        for (const int index : pending) {
             if (!row.empty() && index != row.back() + 1)
                 row.clear();
             row.push_back(index);
             if (row.size() > longest.size())
                 longest = row;
         }
-        chosen = m_pending.find(longest[longest.size() / 2]);
+        chosen = pending.find(longest[longest.size() / 2]);
     }
     const int index = *chosen;
-    m_pending.erase(chosen);
+    pending.erase(chosen);
     return index;
 }
 
@@ -165,6 +180,21 @@ QByteArray CacheRenderer::EncodeFrame(int frame, Worker& worker) const
     return worker.encoder->Encode(worker.composer.Render(frame, m_plan->Format().size, &place));
 }
 
+// A name that cannot be given, because another process has cleared the half-written file away or a
+// reader holds the old one, says nothing about the other chunks.
+std::optional<CacheState> CacheRenderer::FailureState(QFileDevice::FileError error,
+                                                      std::int64_t size) const
+{
+    if (!m_store->IsFolderThere())
+        return CacheState::FolderUnwriteable;
+    const std::int64_t free = m_store->FreeSpace();
+    if (error == QFileDevice::ResourceError || (free >= 0 && free < size))
+        return CacheState::LowDisk;
+    if (error == QFileDevice::RenameError)
+        return {};
+    return CacheState::FolderUnwriteable;
+}
+
 std::optional<CacheState> CacheRenderer::RenderChunk(const Chunk& chunk, Worker& worker)
 {
     if (const auto full = StateOf(m_store->MakeRoom(m_limits, worker.lastSize, m_keep)))
@@ -172,11 +202,7 @@ std::optional<CacheState> CacheRenderer::RenderChunk(const Chunk& chunk, Worker&
     const PictureCoding coding = m_plan->Coding();
     ChunkWriter file(m_store->PathOf(chunk.key), chunk.key, coding.format, chunk.Length());
     if (!file.Open())
-        return CacheState::FolderUnwriteable;
-    // A folder that takes files, but not what belongs into them, lies on a full disk.
-    const auto failure = [this] {
-        return m_store->IsFolderThere() ? CacheState::LowDisk : CacheState::FolderUnwriteable;
-    };
+        return FailureState(QFileDevice::OpenError, file.Size());
     for (int frame = chunk.first; frame <= chunk.last; ++frame) {
         if (m_isEnding)
             return {};
@@ -186,7 +212,7 @@ std::optional<CacheState> CacheRenderer::RenderChunk(const Chunk& chunk, Worker&
             return {};
         }
         if (!file.Append(encoded))
-            return failure();
+            return FailureState(file.Error(), file.Size() + encoded.size());
     }
     // Media that was written to meanwhile would stand under the key of what it was before.
     if (m_plan->CurrentKey(chunk) != chunk.key)
@@ -196,10 +222,9 @@ std::optional<CacheState> CacheRenderer::RenderChunk(const Chunk& chunk, Worker&
         return full;
     if (m_isEnding || !file.Commit()) {
         m_store->GiveBack(file.Size());
-        return m_isEnding ? std::nullopt : std::optional<CacheState>(failure());
+        return m_isEnding ? std::nullopt : FailureState(file.Error(), file.Size());
     }
-    m_store->Add(chunk.key, file.Size());
-    return {};
+    return StateOf(m_store->Add(chunk.key, file.Size(), m_limits, m_keep));
 }
 
 void CacheRenderer::End(CacheState state)
@@ -213,7 +238,7 @@ void CacheRenderer::EndWorker()
 {
     m_decoders.Clear();
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (--m_working == 0 && !m_isEnding.exchange(true))
+    if (--m_guarded.working == 0 && !m_isEnding.exchange(true))
         ReportProgress(CacheState::Finished);
 }
 

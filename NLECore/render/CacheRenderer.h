@@ -38,9 +38,10 @@ public:
     /// wait for anything.
     using Report = std::function<void(const Progress&)>;
 
-    /// Starts to render.
-    CacheRenderer(std::shared_ptr<const ChunkPlan> plan, std::shared_ptr<ChunkStore> store,
-                  const CacheLimits& limits, Report report);
+    /// Starts to render; null when the system has no thread for it.
+    static std::unique_ptr<CacheRenderer> Start(std::shared_ptr<const ChunkPlan> plan,
+                                                std::shared_ptr<ChunkStore> store,
+                                                const CacheLimits& limits, Report report);
     /// Stops, and waits for the frames that are being drawn.
     ~CacheRenderer();
     CacheRenderer(const CacheRenderer&) = delete;
@@ -54,10 +55,10 @@ public:
 private:
     struct Worker;
 
-    /// As the public one, without threads yet.
     CacheRenderer(std::shared_ptr<const ChunkPlan> plan, std::shared_ptr<ChunkStore> store,
-                  const CacheLimits& limits, Report report, KeySet keep);
-
+                  const CacheLimits& limits, Report report);
+    /// False when not even one starts.
+    bool StartThreads();
     void Run(int number);
     /// Renders until nothing is left or the run ends.
     void RenderChunks(int number);
@@ -66,6 +67,9 @@ private:
     /// The state that ends the run; none when the chunk is in the store, or not worth trying again,
     /// or the run is ending.
     std::optional<CacheState> RenderChunk(const Chunk& chunk, Worker& worker);
+    /// The state that a file which cannot be written ends the run with; none when only that chunk
+    /// is to be left out.
+    std::optional<CacheState> FailureState(QFileDevice::FileError error, std::int64_t size) const;
     /// Index of the next chunk for the thread that last did \a last.
     std::optional<int> Take(int last);
     void End(CacheState state);
@@ -80,9 +84,13 @@ private:
     DecoderPool m_decoders;
     std::atomic<bool> m_isEnding{false};
 
-    std::mutex m_mutex;
-    std::set<int> m_pending; ///< indexes of chunks, one of each content
-    int m_working = 0;
+    struct Guarded
+    {
+        std::set<int> pending; ///< indexes of chunks, one of each content
+        int working = 0;       ///< threads that have not ended
+    };
+    std::mutex m_mutex; ///< guards m_guarded and the order of reports
+    Guarded m_guarded;
     std::vector<std::thread> m_threads;
 };
 

@@ -34,6 +34,8 @@ public:
     /// Needs all pictures that were announced. False when what was written is not whole.
     bool Commit();
     qint64 Size() const { return m_end; }
+    /// Why the last of these failed.
+    QFileDevice::FileError Error() const { return m_file.error(); }
 
 private:
     QSaveFile m_file;

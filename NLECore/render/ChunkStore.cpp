@@ -17,6 +17,9 @@ namespace {
 
 const QLatin1String kSuffix(".nlechunk");
 const QLatin1String kClaimName("nlechunks.lock");
+const QLatin1String kSharedName("nlechunks.shared");
+/// Coarsest time of change that file systems keep, in milliseconds.
+constexpr std::int64_t kTimeGrain = 2000;
 
 /// Name of a chunk, or of one that is or was being written.
 const QRegularExpression& NamePattern()
@@ -31,7 +34,7 @@ std::int64_t Now()
     return QDateTime::currentMSecsSinceEpoch();
 }
 
-/// Calls \a visit with each file of ours: key, whether it is whole, and the file.
+/// Calls \a visit with each file of ours: key, whether it is whole, and where the file is found.
 template <typename Visit>
 void ForEachFile(const QString& folder, Visit visit)
 {
@@ -43,7 +46,7 @@ void ForEachFile(const QString& folder, Visit visit)
             continue;
         const ContentKey key{name.captured(1).toULongLong(nullptr, 16),
                              name.captured(2).toULongLong(nullptr, 16)};
-        visit(key, name.captured(3).isEmpty(), files.fileInfo());
+        visit(key, name.captured(3).isEmpty(), files);
     }
 }
 
@@ -63,7 +66,12 @@ std::shared_ptr<ChunkStore> ChunkStore::Of(const QString& path)
     return store;
 }
 
-ChunkStore::~ChunkStore() = default;
+ChunkStore::~ChunkStore()
+{
+    LeaveFolder();
+    if (m_isFolderOurs)
+        QDir().rmdir(m_folder);
+}
 
 QString ChunkStore::PathOf(const ContentKey& key) const
 {
@@ -79,16 +87,21 @@ bool ChunkStore::IsFolderThere() const
     return QFileInfo(m_folder).isDir();
 }
 
+std::int64_t ChunkStore::FreeSpace() const
+{
+    return QStorageInfo(m_folder).bytesAvailable();
+}
+
 bool ChunkStore::Prepare()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    const bool wasThere = IsFolderThere();
-    if (!wasThere && !QDir().mkpath(m_folder))
+    if (!IsFolderThere() && !QDir().mkpath(m_folder))
         return false;
-    m_isFolderOurs = m_isFolderOurs || !wasThere;
+    m_isFolderOurs = m_isFolderOurs || QDir(m_folder).isEmpty(QDir::AllEntries | QDir::Hidden |
+                                                              QDir::System | QDir::NoDotAndDotDot);
     if (!QTemporaryFile(PathOf({}) + QLatin1String(".XXXXXX")).open())
         return false;
-    List();
+    m_listedState = kUnknownState;
     return true;
 }
 
@@ -99,23 +112,36 @@ void ChunkStore::EnsureListed()
         List();
 }
 
+void ChunkStore::Refresh()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const QFileInfo folder(m_folder);
+    const std::int64_t state = folder.lastModified().toMSecsSinceEpoch();
+    if (!m_isListed || !folder.isDir() || m_listedState == kUnknownState || state != m_listedState)
+        List();
+}
+
 // What a killed process left half written goes as well, provided that no other process writes here.
 void ChunkStore::List()
 {
     Claim();
+    // What changes within one grain of time after this cannot be told from it.
+    const std::int64_t state = QFileInfo(m_folder).lastModified().toMSecsSinceEpoch();
+    m_listedState = state + kTimeGrain < Now() ? state : kUnknownState;
     std::unordered_map<ContentKey, Entry, ContentKeyHash> found;
     m_used = 0;
-    ForEachFile(m_folder, [&](const ContentKey& key, bool isWhole, const QFileInfo& file) {
+    ForEachFile(m_folder, [&](const ContentKey& key, bool isWhole, const QDirIterator& file) {
         if (!isWhole && m_claim && !m_isListed)
             QFile::remove(file.filePath());
         if (!isWhole)
             return;
         const auto known = m_entries.find(key);
-        const std::int64_t lastUse = known != m_entries.end()
-                                         ? known->second.lastUse
-                                         : file.lastModified().toMSecsSinceEpoch();
-        found[key] = {file.size(), lastUse};
-        m_used += file.size();
+        const QFileInfo info = file.fileInfo();
+        const Entry entry = known != m_entries.end()
+                                ? known->second
+                                : Entry{info.size(), info.lastModified().toMSecsSinceEpoch()};
+        found[key] = entry;
+        m_used += entry.size;
     });
     m_entries.swap(found);
     m_isListed = IsFolderThere();
@@ -123,14 +149,35 @@ void ChunkStore::List()
 
 void ChunkStore::Claim()
 {
-    if (m_claim && !m_isListed)
+    if (m_claim && !QFileInfo::exists(InFolder(kClaimName)))
         m_claim.reset();
     if (m_claim || !IsFolderThere())
         return;
-    m_claim = std::make_unique<QLockFile>(m_folder + QLatin1Char('/') + kClaimName);
+    m_claim = std::make_unique<QLockFile>(InFolder(kClaimName));
     m_claim->setStaleLockTime(0);
-    if (!m_claim->tryLock(0))
+    if (m_claim->tryLock(0))
+        QFile::remove(InFolder(kSharedName));
+    else
         m_claim.reset();
+}
+
+/// Whether other processes write to the folder as well. The one that claims it learns that from a
+/// mark, which each of the others leaves whenever it has written.
+bool ChunkStore::IsShared()
+{
+    Claim();
+    if (m_claim)
+        return QFileInfo::exists(InFolder(kSharedName));
+    m_isMarked = QFile(InFolder(kSharedName)).open(QIODevice::WriteOnly) || m_isMarked;
+    return true;
+}
+
+void ChunkStore::LeaveFolder()
+{
+    if (m_claim || m_isMarked)
+        QFile::remove(InFolder(kSharedName));
+    m_isMarked = false;
+    m_claim.reset();
 }
 
 bool ChunkStore::Has(const ContentKey& key) const
@@ -170,7 +217,7 @@ ChunkStore::Room ChunkStore::FindRoom(const CacheLimits& limits, std::int64_t wa
     const std::int64_t surplus = m_used + m_reserved + wanted - limits.quota;
     if (surplus > 0 && !Evict(surplus, keep))
         return Room::QuotaReached;
-    const std::int64_t free = QStorageInfo(m_folder).bytesAvailable();
+    const std::int64_t free = FreeSpace();
     const std::int64_t lacking = free < 0 ? 0 : limits.reserve + wanted - free;
     return lacking <= 0 || Evict(lacking, keep) ? Room::Enough : Room::LowDisk;
 }
@@ -196,13 +243,23 @@ bool ChunkStore::Evict(std::int64_t bytes, const KeySet& keep)
     return true;
 }
 
-void ChunkStore::Add(const ContentKey& key, std::int64_t size)
+// Who adds last sees what all have added, so the quota holds whenever nobody is adding.
+ChunkStore::Room ChunkStore::Add(const ContentKey& key, std::int64_t size,
+                                 const CacheLimits& limits, const KeySet& keep)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_reserved -= size;
     Entry& entry = m_entries[key];
     m_used += size - entry.size;
     entry = {size, Now()};
+    if (!IsShared())
+        return Room::Enough;
+    List();
+    const std::int64_t surplus = m_used - limits.quota;
+    if (surplus <= 0 || Evict(surplus, keep))
+        return Room::Enough;
+    Drop(key);
+    return Room::QuotaReached;
 }
 
 void ChunkStore::GiveBack(std::int64_t size)
@@ -247,10 +304,13 @@ void ChunkStore::Drop(const ContentKey& key)
 void ChunkStore::Clear()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    ForEachFile(m_folder, [](const ContentKey&, bool, const QFileInfo& file) {
-        QFile::remove(file.filePath());
+    // Without the claim, what is half written may be another process's.
+    ForEachFile(m_folder, [this](const ContentKey&, bool isWhole, const QDirIterator& file) {
+        if (isWhole || m_claim)
+            QFile::remove(file.filePath());
+        m_isFolderOurs = m_isFolderOurs || isWhole;
     });
-    m_claim.reset();
+    LeaveFolder();
     m_entries.clear();
     m_used = 0;
     m_isListed = false;

@@ -35,11 +35,13 @@ public:
     static std::shared_ptr<ChunkStore> Of(const QString& path);
     ~ChunkStore();
 
-    /// Makes the folder where it is missing and takes stock of it. False when nothing can be
-    /// written there.
+    /// Makes the folder where it is missing; the next Refresh takes stock of it. False when nothing
+    /// can be written there.
     bool Prepare();
     /// Takes stock of the folder unless that has been done; forgets all when it is gone.
     void EnsureListed();
+    /// Takes stock of the folder when it may have changed since.
+    void Refresh();
 
     bool Has(const ContentKey& key) const;
     /// Frames of \a chunks that are here.
@@ -49,8 +51,10 @@ public:
     Room MakeRoom(const CacheLimits& limits, std::int64_t wanted, const KeySet& keep);
     /// The same, and keeps the room until Add or GiveBack: several threads fill one quota.
     Room Reserve(const CacheLimits& limits, std::int64_t wanted, const KeySet& keep);
-    /// The chunk, for which room was reserved, was written.
-    void Add(const ContentKey& key, std::int64_t size);
+    /// The chunk, for which room was reserved, was written. When other processes have used up the
+    /// quota meanwhile, this makes room as MakeRoom() does, or removes the chunk.
+    Room Add(const ContentKey& key, std::int64_t size, const CacheLimits& limits,
+             const KeySet& keep);
     /// It was not.
     void GiveBack(std::int64_t size);
 
@@ -58,12 +62,14 @@ public:
     std::unique_ptr<ChunkReader> Read(const ContentKey& key);
     /// Removes a chunk.
     void Remove(const ContentKey& key);
-    /// Removes all chunks and what else was made here, the folder included when it was made here
-    /// and is empty.
+    /// Removes all chunks and what else was made here. The folder goes as well when nothing else is
+    /// in it, unless it was there for something else.
     void Clear();
 
     QString PathOf(const ContentKey& key) const;
     bool IsFolderThere() const;
+    /// Bytes that the disk has left; below 0 when that is not known.
+    std::int64_t FreeSpace() const;
 
 private:
     struct Entry
@@ -72,21 +78,28 @@ private:
         std::int64_t lastUse = 0; ///< milliseconds since 1970
     };
 
+    static constexpr std::int64_t kUnknownState = -1;
+
     explicit ChunkStore(const QString& folder) : m_folder(folder) {}
+    QString InFolder(const QString& name) const { return m_folder + QLatin1Char('/') + name; }
     // The functions below need the lock.
     Room FindRoom(const CacheLimits& limits, std::int64_t wanted, const KeySet& keep);
     void List();
     void Claim();
+    bool IsShared();
+    void LeaveFolder();
     bool Evict(std::int64_t bytes, const KeySet& keep);
     void Drop(const ContentKey& key);
 
     const QString m_folder;
-    mutable std::mutex m_mutex;
+    mutable std::mutex m_mutex; ///< guards the rest
     std::unordered_map<ContentKey, Entry, ContentKeyHash> m_entries;
     std::int64_t m_used = 0;
     std::int64_t m_reserved = 0;
     bool m_isListed = false;
-    bool m_isFolderOurs = false;
+    std::int64_t m_listedState = kUnknownState; ///< the folder's time of change as of the listing
+    bool m_isFolderOurs = false;                ///< was missing or empty
+    bool m_isMarked = false;                    ///< this process has left the mark of IsShared()
     std::unique_ptr<QLockFile> m_claim;
 };
 

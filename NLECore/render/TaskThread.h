@@ -1,36 +1,38 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <condition_variable>
-#include <deque>
 #include <functional>
-#include <mutex>
+#include <memory>
 #include <thread>
 
 namespace nle {
+
+/// A thread that does \a work; not joinable when the system has none left.
+std::thread StartThread(const std::function<void()>& work);
 
 /// A thread that does one task after the other. It starts with the first task.
 class TaskThread
 {
 public:
-    TaskThread() = default;
-    /// Drops the tasks that wait and lets the running one end.
+    TaskThread();
+    /// Drops the tasks that wait and lets the running one end. Does not wait when that is what
+    /// calls it.
     ~TaskThread();
     TaskThread(const TaskThread&) = delete;
     TaskThread& operator=(const TaskThread&) = delete;
 
-    void Post(std::function<void()> task);
+    /// Starts before the first task, so that Post succeeds; false when there is no thread.
+    bool Start();
+    /// False when there is no thread; the task is dropped then.
+    bool Post(std::function<void()> task);
     /// Drops the tasks that wait.
     void Clear();
 
 private:
-    void Run();
+    struct Shared;
 
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    std::deque<std::function<void()>> m_tasks;
-    bool m_isEnding = false;
-    std::thread m_thread;
+    /// Lives as long as this object or its thread.
+    const std::shared_ptr<Shared> m_shared;
 };
 
 } // namespace nle
