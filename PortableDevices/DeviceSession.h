@@ -56,11 +56,20 @@ public:
     /// Whether the data lies in the local file system, so that reading may go on in the caller's
     /// thread, one at a time. A local reader sees to the presence of its device itself.
     virtual bool isLocal() const { return false; }
+    /// A path that leads to the open local file itself as long as the reader lives; else empty.
+    virtual std::string localPath() const { return {}; }
     /// Reads at most \a size bytes; 0 bytes with success is the end of the data.
     virtual HRESULT read(void* buffer, std::uint32_t size, std::uint32_t& got,
                          GCancellable* cancellable) = 0;
     /// Goes to \a position, counted from the start of the data.
     virtual HRESULT seek(std::uint64_t position, GCancellable* cancellable) = 0;
+
+    /// Bytes that the device promised: data that ends before is cut short. 0 where it told none.
+    std::uint64_t promisedSize() const { return m_promisedSize; }
+    void setPromisedSize(std::uint64_t size) { m_promisedSize = size; }
+
+private:
+    std::uint64_t m_promisedSize = 0;
 };
 
 /// The content of one open device. Every operation runs on the one thread that the device has,

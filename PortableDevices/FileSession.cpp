@@ -5,6 +5,7 @@
 #include "PortableDevices/SpoolFile.h"
 #include "PortableDevices/WideText.h"
 
+#include <gio/gfiledescriptorbased.h>
 #include <sys/stat.h>
 
 namespace devices {
@@ -77,6 +78,13 @@ public:
     }
 
     bool isLocal() const override { return true; }
+    std::string localPath() const override
+    {
+        return G_IS_FILE_DESCRIPTOR_BASED(m_stream.get())
+                   ? "/proc/self/fd/" + std::to_string(g_file_descriptor_based_get_fd(
+                                            G_FILE_DESCRIPTOR_BASED(m_stream.get())))
+                   : std::string();
+    }
     HRESULT read(void* buffer, std::uint32_t size, std::uint32_t& got,
                  GCancellable* cancellable) override
     {
@@ -355,13 +363,18 @@ HRESULT FileSession::openData(const std::wstring& id, Resource resource,
                               std::unique_ptr<DataReader>& reader, GCancellable* cancellable)
 {
     Place place;
-    const std::string attributes = std::string(kIdentity) + "," G_FILE_ATTRIBUTE_PREVIEW_ICON;
+    const std::string attributes = std::string(kIdentity) + "," G_FILE_ATTRIBUTE_STANDARD_SIZE
+                                                            "," G_FILE_ATTRIBUTE_PREVIEW_ICON;
     if (const HRESULT result = find(id, place, attributes.c_str(), cancellable); FAILED(result))
         return result;
     if (IsFolder(place.info.get()))
         return kNoElement;
-    return resource == Resource::Data ? openFile(std::move(place.file), reader, cancellable)
-                                      : openThumbnail(place.info.get(), reader, cancellable);
+    if (resource == Resource::Thumbnail)
+        return openThumbnail(place.info.get(), reader, cancellable);
+    const HRESULT result = openFile(std::move(place.file), reader, cancellable);
+    if (SUCCEEDED(result))
+        reader->setPromisedSize(static_cast<std::uint64_t>(g_file_info_get_size(place.info.get())));
+    return result;
 }
 
 HRESULT FileSession::openFile(GPtr<GFile> file, std::unique_ptr<DataReader>& reader,

@@ -1,10 +1,20 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "PortableDevices/ResourceStream.h"
 
+#include "PortableDevices/PropertyValues.h"
+#include "PortableDevices/WideText.h"
+
 #include <algorithm>
 #include <cstring>
 
 namespace devices {
+namespace {
+
+// Of Stat().
+constexpr DWORD kStreamType = 2;
+constexpr DWORD kNoName = 1;
+
+} // namespace
 
 HRESULT ResourceStream::open(std::shared_ptr<OpenDevice> device, const std::wstring& id,
                              Resource resource, std::uint32_t& stepSize, IStream** out)
@@ -19,6 +29,7 @@ HRESULT ResourceStream::open(std::shared_ptr<OpenDevice> device, const std::wstr
     if (FAILED(result))
         return result;
     stream->m_isLocal = source->reader->isLocal();
+    stream->m_promisedSize = source->reader->promisedSize();
     stepSize = stream->m_isLocal ? kLocalTransferSize : kTransferSize;
     if (!stream->m_isLocal) {
         source->buffer.resize(kTransferSize);
@@ -109,6 +120,8 @@ HRESULT ResourceStream::Read(void* data, ULONG count, ULONG* read)
         return m_failure;
     ULONG got = 0;
     m_failure = m_isLocal ? readLocal(data, count, got) : readStep(data, count, got);
+    if (SUCCEEDED(m_failure) && got == 0 && count > 0 && m_position < m_promisedSize)
+        m_failure = kCutShort;
     if (FAILED(m_failure))
         return m_failure;
     m_position += got;
@@ -185,9 +198,16 @@ HRESULT ResourceStream::UnlockRegion(ULARGE_INTEGER /*offset*/, ULARGE_INTEGER /
     return STG_E_INVALIDFUNCTION;
 }
 
-HRESULT ResourceStream::Stat(STATSTG* /*out*/, DWORD /*flags*/)
+HRESULT ResourceStream::Stat(STATSTG* out, DWORD flags)
 {
-    return E_NOTIMPL;
+    if (!out)
+        return E_POINTER;
+    *out = {};
+    out->type = kStreamType;
+    out->cbSize.QuadPart = m_promisedSize;
+    if (m_isLocal && !(flags & kNoName))
+        out->pwcsName = TaskText(WideText(m_source->reader->localPath().c_str()).c_str());
+    return S_OK;
 }
 
 HRESULT ResourceStream::Clone(IStream** out)

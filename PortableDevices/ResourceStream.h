@@ -34,6 +34,7 @@ public:
     HRESULT Revert() override;
     HRESULT LockRegion(ULARGE_INTEGER offset, ULARGE_INTEGER count, DWORD type) override;
     HRESULT UnlockRegion(ULARGE_INTEGER offset, ULARGE_INTEGER count, DWORD type) override;
+    /// Tells the promised size and, of data in the local file system, a path to the open file.
     HRESULT Stat(STATSTG* out, DWORD flags) override;
     HRESULT Clone(IStream** out) override;
 
@@ -60,8 +61,10 @@ private:
     std::shared_ptr<OpenDevice> m_device;
     const std::shared_ptr<Source> m_source = std::make_shared<Source>();
     const unsigned m_cancelCount;
-    bool m_isLocal = false; // set once, before the caller has the stream
-    std::mutex m_mutex;     // guards what follows
+    // Both are set once, before the caller has the stream.
+    bool m_isLocal = false;
+    std::uint64_t m_promisedSize = 0;
+    std::mutex m_mutex; // guards what follows
     DeviceWorker::Pending m_step;
     std::uint32_t m_taken = 0; // of the buffer
     std::uint64_t m_position = 0;

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // The portable-device service through its published interfaces.
+#include "CommonLib/WpdApiLib/WpdApiLib.h"
 #include "tests/support/DeviceClient.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <unistd.h>
 
 using DeviceClient::Device;
 using DeviceClient::Listener;
@@ -15,6 +18,7 @@ namespace {
 
 constexpr auto kGone = static_cast<HRESULT>(0x8007048F);      // the device was removed
 constexpr auto kCancelled = static_cast<HRESULT>(0x800704C7); // ended by Cancel
+constexpr auto kCutShort = static_cast<HRESULT>(0x80070026);  // ended before the told size
 constexpr auto kNotFound = static_cast<HRESULT>(0x80070002);
 constexpr auto kNotEmpty = static_cast<HRESULT>(0x80070091);
 constexpr auto kNoElement = static_cast<HRESULT>(0x80070490);
@@ -135,6 +139,7 @@ private slots:
         QTest::addColumn<quint64>("total"); // 0: whatever was read before the change
         const quint64 size = 20 << 20;
         QTest::newRow("the file grows") << "grow" << int(S_FALSE) << size + 5;
+        QTest::newRow("the file shrinks") << "shrink" << int(kCutShort) << quint64(5 << 20);
         QTest::newRow("the file is deleted") << "delete" << int(S_FALSE) << size;
         QTest::newRow("the folder is renamed") << "rename" << int(kGone) << quint64(0);
         QTest::newRow("another folder in its place") << "replace" << int(kGone) << quint64(0);
@@ -157,6 +162,8 @@ private slots:
             QFile file(Path("card/clip"));
             if (change == "grow")
                 return file.open(QIODevice::Append) && file.write("grown") == 5;
+            if (change == "shrink")
+                return file.resize(5 << 20);
             if (change == "delete")
                 return file.remove();
             if (change == "cancel")
@@ -173,6 +180,35 @@ private slots:
         Object object;
         const HRESULT after = device.describe(id.toStdWString(), object);
         QCOMPARE(after, isGone ? kGone : change == "delete" ? kNotFound : S_OK);
+    }
+
+    void copyOntoItself_data()
+    {
+        QTest::addColumn<QString>("target");
+        QTest::newRow("the same path") << "card/b\u00fc.mp4";
+        QTest::newRow("another spelling") << "card/../card//./b\u00fc.mp4";
+        QTest::newRow("a symbolic link") << "soft";
+        QTest::newRow("a hard link") << "hard";
+    }
+    void copyOntoItself()
+    {
+        QFETCH(QString, target);
+        Write("card/b\u00fc.mp4", 300000);
+        const QByteArray path = QFile::encodeName(Path("card/b\u00fc.mp4"));
+        QVERIFY(QFile::link(Path("card/b\u00fc.mp4"), Path("soft")));
+        QCOMPARE(::link(path.constData(), QFile::encodeName(Path("hard")).constData()), 0);
+        const QByteArray hash = Hash("card/b\u00fc.mp4");
+        const QString id = Device(FolderId("card")).tree()["card/b\u00fc.mp4"].id;
+        QCOMPARE(WpdApiLib::ChooseDevice(FolderId("card").toStdWString().c_str(), nullptr), 1);
+        const auto copy = [&id](const QString& to) {
+            return WpdApiLib::TransferContentFromDevice(id.toStdWString().c_str(),
+                                                        to.toStdWString().c_str(), 0);
+        };
+        QCOMPARE(copy(m_folder->path() + '/' + target), 0);
+        QCOMPARE(Hash("card/b\u00fc.mp4"), hash);
+        QCOMPARE(copy(Path("other")), 1);
+        QCOMPARE(Hash("other"), hash);
+        WpdApiLib::UnregisterForEventNotifications();
     }
 
     void removedWhileIdle()

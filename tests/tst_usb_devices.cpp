@@ -22,6 +22,7 @@ Q_DECLARE_METATYPE(PtpDevice::Kind)
 
 namespace {
 
+constexpr auto kCutShort = static_cast<HRESULT>(0x80070026);
 constexpr auto kTooLarge = static_cast<HRESULT>(0x800700DF);
 constexpr auto kGone = static_cast<HRESULT>(0x8007048F);
 constexpr auto kCancelled = static_cast<HRESULT>(0x800704C7);
@@ -158,6 +159,10 @@ private Q_SLOTS:
             QTest::addRow("camera, %s", how) << PtpDevice::Kind{false, true} << how;
             QTest::addRow("phone, %s", how) << PtpDevice::Kind{true, true} << how;
         }
+        for (const PtpDevice::Kind kind :
+             {PtpDevice::Kind{false, true}, {false, false}, {true, true}, {true, false}})
+            QTest::addRow("%s, parts: %d, short", kind.name(), kind.hasPartialReads)
+                << kind << "short";
     }
     // A transfer that ends early (unplugged before the first for "idle"), and what the device is
     // good for afterwards.
@@ -183,9 +188,11 @@ private Q_SLOTS:
         QByteArray hash;
         quint64 total = 0;
         std::thread helper;
+        if (how == "short")
+            usb.endsAt = 5 << 20;
         const HRESULT result =
             device.read(tree[top + "/A.MP4"].id, hash, total, [&](quint64 sofar) {
-                if (sofar < 4 << 20 || helper.joinable())
+                if (sofar < 4 << 20 || helper.joinable() || how == "short")
                     return true;
                 if (how == "leave")
                     return false;
@@ -208,7 +215,7 @@ private Q_SLOTS:
             QCOMPARE(device.read(tree[top + "/B.JPG"].id, hash, total), kGone);
             return;
         }
-        QCOMPARE(result, how == "cancel" ? kCancelled : S_FALSE);
+        QCOMPARE(result, how == "cancel" ? kCancelled : how == "short" ? kCutShort : S_FALSE);
         QCOMPARE(device.read(tree[top + "/B.JPG"].id, hash, total), S_FALSE);
         QCOMPARE(total, quint64(5));
         QCOMPARE(listener->removals.load(), 0);

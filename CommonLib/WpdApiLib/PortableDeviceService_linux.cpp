@@ -2,13 +2,17 @@
 #include "CommonLib/WpdApiLib/PortableDeviceService_p.h"
 
 #include "Com/ClassFactory.h"
+#include "Com/ComObject.h"
 #include "CommonLib/WideText_p.h"
+#include "CommonLib/WpdApiLib/WpdReport_p.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QLibrary>
 
 #include <fcntl.h>
+#include <filesystem>
+#include <system_error>
 
 namespace {
 
@@ -96,6 +100,20 @@ private:
     bool m_canReserve = true;
 };
 
+/// Whether \a source reads the file at \a path, by whatever name; only streams over local files
+/// tell.
+bool ReadsFile(IStream& source, const QString& path)
+{
+    STATSTG status = {};
+    if (FAILED(source.Stat(&status, 0)))
+        return false;
+    const TaskText name(status.pwcsName);
+    std::error_code error;
+    return name &&
+           std::filesystem::equivalent(QFile::encodeName(FromWide(name.get())).toStdString(),
+                                       QFile::encodeName(path).toStdString(), error);
+}
+
 } // namespace
 
 HRESULT CreatePortableDeviceComponent(REFCLSID classId, REFIID iid, void** out)
@@ -106,11 +124,14 @@ HRESULT CreatePortableDeviceComponent(REFCLSID classId, REFIID iid, void** out)
                           : CLASS_E_CLASSNOTAVAILABLE;
 }
 
-HRESULT CreateStreamOnFile(const wchar_t* path, IStream** out)
+HRESULT CreateStreamOnFile(const wchar_t* path, IStream& source, IStream** out)
 {
     *out = nullptr;
+    const QString file = FromWide(path);
+    if (ReadsFile(source, file))
+        return STG_E_SHAREVIOLATION; // opening would empty it
     const auto stream = MakeCom<FileStream>();
-    if (!stream->Open(FromWide(path)))
+    if (!stream->Open(file))
         return STG_E_ACCESSDENIED;
     return NLEComPtr<IStream>(stream).copyTo(out);
 }

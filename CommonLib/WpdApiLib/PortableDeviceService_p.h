@@ -9,8 +9,9 @@
 /// Makes an object of the system's portable-device service. \a out is null after a failure.
 HRESULT CreatePortableDeviceComponent(REFCLSID classId, REFIID iid, void** out);
 
-/// Opens a stream that writes a local file, which is created or cut to nothing.
-HRESULT CreateStreamOnFile(const wchar_t* path, IStream** out);
+/// Opens a stream that writes a local file, which is created or cut to nothing. Fails, and leaves
+/// the file alone, when it is the one that \a source reads.
+HRESULT CreateStreamOnFile(const wchar_t* path, IStream& source, IStream** out);
 
 /// The \a result of a call that delivers \a object: E_POINTER for a success without an object.
 /// After a failure \a object is null, whatever the call has left in it.

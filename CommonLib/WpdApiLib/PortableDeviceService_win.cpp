@@ -8,7 +8,8 @@ HRESULT CreatePortableDeviceComponent(REFCLSID classId, REFIID iid, void** out)
     return CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, iid, out);
 }
 
-HRESULT CreateStreamOnFile(const wchar_t* path, IStream** out)
+// The system's streams do not tell which file they read.
+HRESULT CreateStreamOnFile(const wchar_t* path, IStream& /*source*/, IStream** out)
 {
     return SHCreateStreamOnFileW(path, STGM_CREATE | STGM_WRITE, out);
 }

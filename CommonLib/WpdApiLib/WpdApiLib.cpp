@@ -152,10 +152,11 @@ NLEComPtr<IStream> SourceStream(IPortableDeviceResources& resources, const wchar
     return nullptr;
 }
 
-NLEComPtr<IStream> DestinationStream(const wchar_t* path, const wchar_t* objectId)
+NLEComPtr<IStream> DestinationStream(const wchar_t* path, const wchar_t* objectId, IStream& source)
 {
     NLEComPtr<IStream> destination;
-    const HRESULT result = Delivered(CreateStreamOnFile(path, destination.put()), destination);
+    const HRESULT result =
+        Delivered(CreateStreamOnFile(path, source, destination.put()), destination);
     if (SUCCEEDED(result))
         return destination;
     std::printf("! Failed to create a temporary file named (%s) to transfer object (%s), "
@@ -352,7 +353,8 @@ int WpdApiLib::TransferContentFromDevice(const wchar_t* objectId, const wchar_t*
     const auto source = resources
                             ? SourceStream(*resources, objectId, alternateResource != 0, bufferSize)
                             : nullptr;
-    const auto destination = source ? DestinationStream(destinationPath, objectId) : nullptr;
+    const auto destination =
+        source ? DestinationStream(destinationPath, objectId, *source) : nullptr;
     if (!destination)
         return 0;
     const HRESULT result =

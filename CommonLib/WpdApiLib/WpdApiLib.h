@@ -92,7 +92,8 @@ public:
     static int EnumerateAllContent();
 
     /// Copies an object into a local file, which is created or overwritten. The callback hears of
-    /// every chunk. What was written stays when the copy fails or is aborted.
+    /// every chunk. What was written stays when the copy fails or is aborted. A file that lies on
+    /// the device as the object itself is left alone; that is a failure.
     ///
     /// \param alternateResource 0 for the object's data, else the small picture that stands for it
     /// \return 1 on success, and with an empty file when there is no memory for a buffer; else 0

@@ -231,7 +231,7 @@ quint16 PtpDevice::data(quint16 code, const QByteArray& command)
         return kDone;
     };
     const auto content = [&](quint64 offset, quint64 size) {
-        const quint64 end = qMin(object.size, offset + size);
+        const quint64 end = qMin(qMin(object.size, endsAt.load()), offset + size);
         answerData(command, {}, offset, end > offset ? end - offset : 0);
         return kDone;
     };

@@ -48,6 +48,8 @@ public:
     static QByteArray Content(quint64 offset, quint32 size);
     static QByteArray Thumbnail() { return "a thumbnail"; }
 
+    /// Objects give no data from this place on, whatever their told size.
+    std::atomic<quint64> endsAt{~0ULL};
     /// Whole and partial reads of data that were asked for.
     std::atomic<int> wholeReads{0}, partialReads{0};
 
