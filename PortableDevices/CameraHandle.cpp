@@ -10,16 +10,17 @@ namespace {
 CameraAbilitiesList* Drivers(GPContext* context)
 {
     static std::mutex mutex;
-    static CameraPtr<CameraAbilitiesList> drivers;
+    // Never freed: the thread of a camera that hangs goes on while the process ends.
+    static CameraAbilitiesList* drivers = nullptr;
     const std::lock_guard lock(mutex);
     if (!drivers) {
         CameraAbilitiesList* list = nullptr;
         gp_abilities_list_new(&list);
-        drivers.reset(list);
-        if (gp_abilities_list_load(list, context) < 0)
-            drivers.reset();
+        CameraPtr<CameraAbilitiesList> loaded(list);
+        if (gp_abilities_list_load(list, context) >= 0)
+            drivers = loaded.release();
     }
-    return drivers.get();
+    return drivers;
 }
 
 CameraPtr<CameraList> NewList()

@@ -11,6 +11,8 @@
 namespace devices {
 namespace {
 
+constexpr std::chrono::seconds kOpeningLimit{30};
+
 NLEComPtr<IPortableDeviceValues> RemovalEvent(const std::wstring& deviceId)
 {
     const auto event = MakeCom<PropertyValues>();
@@ -47,12 +49,15 @@ HRESULT Device::Open(LPCWSTR id, IPortableDeviceValues* clientInformation)
     const auto device = std::make_shared<OpenDevice>(entry->id, MakeSession(*entry));
     // Watched from now on: a device that goes while it opens must not stay.
     VolumeWatcher::instance().watch(device);
-    const HRESULT result =
-        device->worker().run([](DeviceSession& session, GCancellable* cancellable) {
+    const DeviceWorker::Pending opening =
+        device->worker().start([](DeviceSession& session, GCancellable* cancellable) {
             return session.open(cancellable);
         });
+    // Until it is open, nobody else can cancel.
+    const HRESULT result =
+        device->worker().finish(opening, DeviceWorker::Clock::now() + kOpeningLimit);
     if (FAILED(result))
-        return result;
+        return result == kCancelled ? kTimedOut : result;
     if (entry->cameraPort.empty())
         VolumeWatcher::followMount(entry->uri);
     const std::lock_guard lock(m_mutex);

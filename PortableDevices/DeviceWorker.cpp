@@ -16,6 +16,10 @@ namespace {
 
 // How often an idle device is looked after.
 constexpr std::chrono::milliseconds kPresenceInterval{500};
+// How often who waits for a result looks whether the device hangs.
+constexpr std::chrono::milliseconds kLookInterval{100};
+// The time that a device has to end what was cancelled, and a session to end.
+constexpr std::chrono::milliseconds kPatience{1200};
 
 struct Job
 {
@@ -33,6 +37,9 @@ struct DeviceWorker::State
     explicit State(std::unique_ptr<DeviceSession> opened) : session(std::move(opened)) {}
 
     void loop();
+    template <typename Work>
+    void unlocked(std::unique_lock<std::mutex>& lock, GPtr<GCancellable> cancellable, Work work);
+    bool isStuck();
     void perform(Job& job);
     HRESULT resultOf(const Job& job);
     void announceRemoval();
@@ -44,12 +51,16 @@ struct DeviceWorker::State
     std::mutex mutex; // guards what follows
     std::condition_variable wake;
     std::deque<Job> jobs;
-    GPtr<GCancellable> running;
+    GPtr<GCancellable> running; // ends what the thread is at; null while it waits
+    DeviceWorker::Clock::time_point endOfPatience; // with what runs, since it was cancelled
+    bool isClosed = false;
     std::map<unsigned, Listener> listeners;
     unsigned lastListener = 0;
     unsigned calledListener = 0; // 0 when no call is under way
     std::condition_variable callEnded;
     bool isStopping = false;
+    bool hasEnded = false;
+    std::condition_variable ended;
     bool isAnnounced = false;
 
     std::atomic<bool> isRemoved{false};
@@ -71,26 +82,46 @@ void DeviceWorker::State::loop()
         if (!jobs.empty()) {
             Job job = std::move(jobs.front());
             jobs.pop_front();
-            running = Share(job.cancellable.get());
-            lock.unlock();
-            perform(job);
-            lock.lock();
-            running.reset();
+            unlocked(lock, Share(job.cancellable.get()), [&] { perform(job); });
         } else if (isOpened && !isRemoved) {
-            lock.unlock();
-            isRemoved = session && !session->isPresent(false);
-            lock.lock();
+            unlocked(lock, GPtr<GCancellable>(g_cancellable_new()),
+                     [this] { isRemoved = session && !session->isPresent(false); });
         }
         if (isRemoved && !isAnnounced && !isStopping) {
             isAnnounced = true;
-            lock.unlock();
-            announceRemoval();
-            lock.lock();
+            unlocked(lock, GPtr<GCancellable>(g_cancellable_new()), [this] { announceRemoval(); });
         }
     }
     lock.unlock();
     session.reset();
     g_main_context_pop_thread_default(context.get());
+    lock.lock();
+    hasEnded = true;
+    ended.notify_all();
+}
+
+// Runs \a work as what \a cancellable ends.
+template <typename Work>
+void DeviceWorker::State::unlocked(std::unique_lock<std::mutex>& lock,
+                                   GPtr<GCancellable> cancellable, Work work)
+{
+    running = std::move(cancellable);
+    endOfPatience = {};
+    lock.unlock();
+    work();
+    lock.lock();
+    running.reset();
+}
+
+// Whether what runs was cancelled long ago.
+bool DeviceWorker::State::isStuck()
+{
+    const std::lock_guard lock(mutex);
+    if (!running || !g_cancellable_is_cancelled(running.get()))
+        return false;
+    if (endOfPatience == Clock::time_point())
+        endOfPatience = Clock::now() + kPatience;
+    return Clock::now() >= endOfPatience;
 }
 
 void DeviceWorker::State::perform(Job& job)
@@ -164,10 +195,15 @@ DeviceWorker::~DeviceWorker()
     }
     m_state->wake.notify_all();
     // The last reference to a device may be given back by a listener.
-    if (std::this_thread::get_id() == m_state->threadId)
-        m_state->thread.detach();
-    else
+    bool hasEnded = std::this_thread::get_id() != m_state->threadId;
+    if (hasEnded) {
+        std::unique_lock lock(m_state->mutex);
+        hasEnded = m_state->ended.wait_for(lock, kPatience, [this] { return m_state->hasEnded; });
+    }
+    if (hasEnded)
         m_state->thread.join();
+    else
+        m_state->thread.detach();
 }
 
 DeviceWorker::Pending DeviceWorker::start(Task task)
@@ -176,8 +212,15 @@ DeviceWorker::Pending DeviceWorker::start(Task task)
     job.task = std::move(task);
     job.cancellable.reset(g_cancellable_new());
     Pending pending{job.result.get_future(), Share(job.cancellable.get())};
+    if (m_state->isStuck()) {
+        job.result.set_value(m_state->isRemoved ? kDeviceGone : kTimedOut);
+        return pending;
+    }
     {
         const std::lock_guard lock(m_state->mutex);
+        if (m_state->isClosed)
+            job.result.set_value(kNotOpen);
+        else
         m_state->jobs.push_back(std::move(job));
     }
     m_state->wake.notify_one();
@@ -193,13 +236,28 @@ HRESULT DeviceWorker::run(Task task)
         job.cancellable.reset(g_cancellable_new());
         return m_state->resultOf(job);
     }
-    return start(std::move(task)).result.get();
+    return finish(start(std::move(task)));
+}
+
+HRESULT DeviceWorker::finish(const Pending& pending, Clock::time_point deadline)
+{
+    while (pending.result.wait_for(kLookInterval) != std::future_status::ready) {
+        if (Clock::now() >= deadline)
+            g_cancellable_cancel(pending.cancellable.get());
+        if (!m_state->isStuck())
+            continue;
+        const bool wasCancelled = g_cancellable_is_cancelled(pending.cancellable.get());
+        g_cancellable_cancel(pending.cancellable.get()); // it may not have had its turn yet
+        return m_state->isRemoved ? kDeviceGone : wasCancelled ? kCancelled : kTimedOut;
+    }
+    return pending.result.get();
 }
 
 void DeviceWorker::startCleanup(std::function<void()> cleanup)
 {
     Job job;
     job.cleanup = std::move(cleanup);
+    job.cancellable.reset(g_cancellable_new());
     {
         const std::lock_guard lock(m_state->mutex);
         m_state->jobs.push_back(std::move(job));
@@ -215,11 +273,9 @@ void DeviceWorker::cancel()
         ++m_state->cancelCount;
         if (m_state->running)
             targets.push_back(Share(m_state->running.get()));
-        for (const Job& job : m_state->jobs) {
-            if (job.cancellable)
+        for (const Job& job : m_state->jobs)
                 targets.push_back(Share(job.cancellable.get()));
         }
-    }
     for (const GPtr<GCancellable>& target : targets)
         g_cancellable_cancel(target.get());
 }
@@ -241,6 +297,7 @@ void DeviceWorker::close()
     cancel();
     {
         std::unique_lock lock(m_state->mutex);
+        m_state->isClosed = true;
         m_state->listeners.clear();
         m_state->waitForCall(lock, m_state->calledListener);
     }

@@ -4,6 +4,7 @@
 #include "PortableDevices/DeviceSession.h"
 #include "PortableDevices/GlibPointers.h"
 
+#include <chrono>
 #include <functional>
 #include <future>
 #include <memory>
@@ -14,30 +15,37 @@ namespace devices {
 /// removal of the device, and tells the listeners about it.
 ///
 /// All operations may be called from any thread, the listeners' calls included.
+///
+/// Nobody waits long for a device that stopped answering: what was cancelled and does not end is
+/// left to the thread, and the thread to itself. So a task owns what it uses, or shares it.
 class DeviceWorker
 {
 public:
     using Task = std::function<HRESULT(DeviceSession& session, GCancellable* cancellable)>;
     using Listener = std::function<void()>;
+    using Clock = std::chrono::steady_clock;
 
     /// An operation that runs or waits for its turn.
     struct Pending
     {
-        std::future<HRESULT> result;
+        std::shared_future<HRESULT> result;
         GPtr<GCancellable> cancellable; // ends this operation alone
     };
 
     explicit DeviceWorker(std::unique_ptr<DeviceSession> session);
     DeviceWorker(const DeviceWorker&) = delete;
     DeviceWorker& operator=(const DeviceWorker&) = delete;
-    /// Ends what runs, then the thread. No listener is called afterwards.
+    /// Ends what runs, then the thread, which goes on without the worker when it hangs. No listener
+    /// is called afterwards.
     ~DeviceWorker();
 
     /// Runs \a task and waits for its result: kCancelled after cancel(), kDeviceGone when the
-    /// device is or gets removed.
+    /// device is or gets removed, kTimedOut while it hangs in something that was cancelled.
     HRESULT run(Task task);
     /// Runs \a task without waiting.
     Pending start(Task task);
+    /// Waits for the result, as run(); cancels the operation at \a deadline.
+    HRESULT finish(const Pending& pending, Clock::time_point deadline = Clock::time_point::max());
     /// Runs \a cleanup even when the device is gone or closed; for what lives on its thread.
     void startCleanup(std::function<void()> cleanup);
 

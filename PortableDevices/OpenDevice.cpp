@@ -31,15 +31,16 @@ HRESULT OpenDevice::list(const std::wstring& parent, std::vector<std::wstring>& 
         if (parent == m_lastFile)
             return S_OK;
     }
-    std::vector<ObjectInfo> infos;
-    const HRESULT result = m_worker.run([&](DeviceSession& session, GCancellable* cancellable) {
-        return session.list(parent, infos, cancellable);
-    });
+    const auto infos = std::make_shared<std::vector<ObjectInfo>>();
+    const HRESULT result =
+        m_worker.run([parent, infos](DeviceSession& session, GCancellable* cancellable) {
+            return session.list(parent, *infos, cancellable);
+        });
     if (FAILED(result))
         return result;
-    children.reserve(infos.size());
+    children.reserve(infos->size());
     const std::lock_guard lock(m_mutex);
-    for (ObjectInfo& info : infos) {
+    for (ObjectInfo& info : *infos) {
         children.push_back(info.id);
         if (info.isComplete)
             m_known.insert_or_assign(info.id, std::move(info));
@@ -64,16 +65,21 @@ HRESULT OpenDevice::describe(const std::wstring& id, ObjectInfo& info)
 {
     if (takeKnown(id, info))
         return S_OK;
-    return m_worker.run([&](DeviceSession& session, GCancellable* cancellable) {
-        return session.describe(id, info, cancellable);
-    });
+    const auto answer = std::make_shared<ObjectInfo>();
+    const HRESULT result =
+        m_worker.run([id, answer](DeviceSession& session, GCancellable* cancellable) {
+            return session.describe(id, *answer, cancellable);
+        });
+    if (SUCCEEDED(result))
+        info = std::move(*answer);
+    return result;
 }
 
 HRESULT OpenDevice::remove(const std::wstring& id, bool isRecursive)
 {
     ObjectInfo forgotten;
     takeKnown(id, forgotten);
-    return m_worker.run([&](DeviceSession& session, GCancellable* cancellable) {
+    return m_worker.run([id, isRecursive](DeviceSession& session, GCancellable* cancellable) {
         return isRecursive ? RemoveTree(session, id, cancellable) : session.remove(id, cancellable);
     });
 }

@@ -22,8 +22,8 @@ HRESULT ResourceStream::open(std::shared_ptr<OpenDevice> device, const std::wstr
     OpenDevice& opened = *device;
     const NLEComPtr<ResourceStream> stream = MakeCom<ResourceStream>(std::move(device));
     const std::shared_ptr<Source> source = stream->m_source;
-    const HRESULT result =
-        opened.worker().run([&](DeviceSession& session, GCancellable* cancellable) {
+    const HRESULT result = opened.worker().run(
+        [id, resource, source](DeviceSession& session, GCancellable* cancellable) {
             return session.openData(id, resource, source->reader, cancellable);
         });
     if (FAILED(result))
@@ -69,7 +69,7 @@ void ResourceStream::startStep()
 
 HRESULT ResourceStream::finishStep()
 {
-    const HRESULT result = m_step.result.get();
+    const HRESULT result = m_device->worker().finish(m_step);
     m_step = {};
     return result;
 }
@@ -143,9 +143,9 @@ HRESULT ResourceStream::Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER* p
         return STG_E_INVALIDFUNCTION;
     if (static_cast<std::uint64_t>(target) != m_position) {
         dropStep();
-        const HRESULT result =
-            m_device->worker().run([&](DeviceSession& /*session*/, GCancellable* cancellable) {
-                return m_source->reader->seek(static_cast<std::uint64_t>(target), cancellable);
+        const HRESULT result = m_device->worker().run(
+            [source = m_source, target](DeviceSession& /*session*/, GCancellable* cancellable) {
+                return source->reader->seek(static_cast<std::uint64_t>(target), cancellable);
             });
         if (FAILED(result))
             return m_failure = result;

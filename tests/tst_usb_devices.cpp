@@ -25,6 +25,7 @@ namespace {
 constexpr auto kCutShort = static_cast<HRESULT>(0x80070026);
 constexpr auto kTooLarge = static_cast<HRESULT>(0x800700DF);
 constexpr auto kGone = static_cast<HRESULT>(0x8007048F);
+constexpr auto kTimedOut = static_cast<HRESULT>(0x800705B4);
 constexpr auto kCancelled = static_cast<HRESULT>(0x800704C7);
 
 } // namespace
@@ -219,6 +220,59 @@ private Q_SLOTS:
         QCOMPARE(device.read(tree[top + "/B.JPG"].id, hash, total), S_FALSE);
         QCOMPARE(total, quint64(5));
         QCOMPARE(listener->removals.load(), 0);
+    }
+
+    void stopsAnswering_data()
+    {
+        QTest::addColumn<PtpDevice::Kind>("kind");
+        QTest::addColumn<bool>("isRead");
+        QTest::newRow("camera, in a transfer") << PtpDevice::Kind{false, true} << true;
+        QTest::newRow("camera, in a walk") << PtpDevice::Kind{false, true} << false;
+        QTest::newRow("phone, in a transfer") << PtpDevice::Kind{true, true} << true;
+        QTest::newRow("phone, in a walk") << PtpDevice::Kind{true, true} << false;
+    }
+    // Cancelled and closed before the libraries below have given up.
+    void stopsAnswering()
+    {
+        QFETCH(PtpDevice::Kind, kind);
+        QFETCH(bool, isRead);
+        PtpDevice usb(m_testbed, kind);
+        usb.add(usb.addFolder(0, "DCIM"), "A.MP4", 60 << 20);
+        auto device = std::make_unique<Device>(WaitForDevice());
+        QCOMPARE(device->result, S_OK);
+        const auto walk = [&device] { return static_cast<HRESULT>(device->tree()["failed"].size); };
+        std::atomic<bool> isDone{false};
+        std::thread helper;
+        const auto hang = [&](quint64) {
+            if (helper.joinable())
+                return true;
+            usb.isHanging = true;
+            helper = std::thread([&] {
+                // More than once: one may come between two operations.
+                while (!isDone) {
+                    QThread::msleep(50);
+                    if (usb.isAsked)
+                        device->device->Cancel();
+                }
+            });
+            return true;
+        };
+        QByteArray hash;
+        quint64 total = 0;
+        HRESULT result = S_OK;
+        if (isRead) {
+            result = device->read(device->tree().last().id, hash, total, hang);
+        } else {
+            hang(0);
+            result = walk();
+        }
+        isDone = true;
+        helper.join();
+        QCOMPARE(result, kCancelled);
+        if (isRead) // the device is still at it
+            QCOMPARE(walk(), kTimedOut);
+        device.reset();
+        QCOMPARE(usb.givenUp.load(), 0);
     }
 };
 

@@ -94,8 +94,11 @@ void ImportSession::ReadThumbnails(const QVector<ImportPicture>& files)
         m_thumbnails.insert(m_thumbnails.end(), files.begin(), files.end());
     }
     Queue([this] {
-        while (!IsStopped() && ReadNextThumbnail()) {
-        }
+        WhileBusy([this] {
+            while (!IsStopped() && ReadNextThumbnail()) {
+            }
+            return true;
+        });
     });
 }
 
@@ -107,8 +110,11 @@ void ImportSession::Import(const QVector<ImportFile>& files)
 void ImportSession::Delete(const QVector<std::wstring>& objectIds)
 {
     Queue([this, objectIds] {
-        for (int i = 0; i < objectIds.size() && !IsStopped(); ++i)
-            WpdApiLib::DeleteContentFromDevice(objectIds[i].c_str());
+        WhileBusy([this, &objectIds] {
+            for (int i = 0; i < objectIds.size() && !IsStopped(); ++i)
+                WpdApiLib::DeleteContentFromDevice(objectIds[i].c_str());
+            return true;
+        });
     });
 }
 

@@ -81,18 +81,23 @@ struct PtpDevice::Urb
 struct Handler
 {
     UMockdevIoctlBase base;
-    PtpDevice* device;
+    PtpDevice* device; // null when it has gone before those that have its node open
 };
 struct HandlerClass
 {
     UMockdevIoctlBaseClass base;
 };
 G_DEFINE_TYPE(Handler, handler, UMOCKDEV_TYPE_IOCTL_BASE)
+static std::mutex s_handlerMutex; // guards the devices of all
 static void handler_init(Handler* /*self*/) {}
 static void handler_class_init(HandlerClass* type)
 {
     type->base.handle_ioctl = [](UMockdevIoctlBase* self, UMockdevIoctlClient* client) -> gboolean {
-        return reinterpret_cast<Handler*>(self)->device->handle(client);
+        const std::lock_guard lock(s_handlerMutex);
+        if (PtpDevice* device = reinterpret_cast<Handler*>(self)->device)
+            return device->handle(client);
+        umockdev_ioctl_client_complete(client, -1, ENODEV);
+        return TRUE;
     };
 }
 
@@ -119,6 +124,8 @@ PtpDevice::PtpDevice(UMockdevTestbed* testbed, const Kind& kind) : m_testbed(tes
 PtpDevice::~PtpDevice()
 {
     unplug();
+    const std::lock_guard lock(s_handlerMutex);
+    static_cast<Handler*>(m_handler)->device = nullptr;
     g_object_unref(m_handler);
 }
 
@@ -304,12 +311,17 @@ int PtpDevice::complete(Urb& urb, int& length)
         return -ESHUTDOWN;
     if (request.type == USBDEVFS_URB_TYPE_CONTROL)
         return 0;
+    const bool isBulk = request.type == USBDEVFS_URB_TYPE_BULK;
+    if (isHanging && isBulk) {
+        isAsked = true;
+        return 1;
+    }
     length = request.buffer_length;
     if (!(request.endpoint & USB_DIR_IN)) {
         command({reinterpret_cast<const char*>(urb.buffer->data), length});
         return 0;
     }
-    if (request.type != USBDEVFS_URB_TYPE_BULK || m_transfers.empty())
+    if (!isBulk || m_transfers.empty())
         return 1;
     Transfer& transfer = m_transfers.front();
     QByteArray bytes = transfer.head.left(length);
@@ -387,8 +399,12 @@ bool PtpDevice::handle(UMockdevIoctlClient* client)
     } else if (request == USBDEVFS_DISCARDURB) {
         gulong address = 0;
         memcpy(&address, argument->data, sizeof(address));
-        for (Urb& urb : m_urbs)
-            urb.isDiscarded |= urb.client == client && urb.request->client_addr == address;
+        for (Urb& urb : m_urbs) {
+            if (urb.client != client || urb.request->client_addr != address)
+                continue;
+            urb.isDiscarded = true;
+            givenUp += isHanging && (*urb).type == USBDEVFS_URB_TYPE_BULK;
+        }
     }
     umockdev_ioctl_client_complete(client, error == 0 ? 0 : -1, error);
     return true;

@@ -50,6 +50,10 @@ public:
 
     /// Objects give no data from this place on, whatever their told size.
     std::atomic<quint64> endsAt{~0ULL};
+    /// Nothing is answered any more; a request that waits for data sets isAsked, and one that is
+    /// taken back adds to givenUp.
+    std::atomic<bool> isHanging{false}, isAsked{false};
+    std::atomic<int> givenUp{0};
     /// Whole and partial reads of data that were asked for.
     std::atomic<int> wholeReads{0}, partialReads{0};
 
