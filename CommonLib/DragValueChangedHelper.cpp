@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -57,6 +58,7 @@ int WarpDistanceFor(int distance)
 } // namespace
 
 std::unique_ptr<QMouseEvent> DragValueChangedHelper::s_press;
+QPointer<DragValueChangedHelper> DragValueChangedHelper::s_last;
 
 DragValueChangedHelper::DragValueChangedHelper(QWidget* widget) : QObject(widget), m_widget(widget)
 {
@@ -78,13 +80,28 @@ void DragValueChangedHelper::SetDragEnabled(bool enable)
     if (enable)
         return;
     // The events that would end these are not looked at any more.
+    Interrupt();
+    TellEnd();
+}
+
+// The end of a drag whose release may not come. Told later: who is told may delete the widget,
+// which the sender of an event still needs.
+void DragValueChangedHelper::Interrupt()
+{
     PopAllCursors();
     if (!m_pressed)
         return;
     m_pressed = false;
     m_accel = 0;
     ReturnPointer();
-    if (!m_firstMove)
+    m_endUntold = !m_firstMove;
+    if (m_endUntold)
+        QMetaObject::invokeMethod(this, &DragValueChangedHelper::TellEnd, Qt::QueuedConnection);
+}
+
+void DragValueChangedHelper::TellEnd()
+{
+    if (std::exchange(m_endUntold, false))
         Q_EMIT sigEndValueChanged(m_value);
 }
 
@@ -113,31 +130,57 @@ bool DragValueChangedHelper::eventFilter(QObject* watched, QEvent* event)
     }
     if (watched == m_widget)
         WatchWidget(*event);
+    else
+        WatchSurroundings(*watched, *event);
     return false;
 }
 
 void DragValueChangedHelper::WatchWidget(const QEvent& event)
 {
-    // Only while usable: one that is disabled under the pointer keeps the hover cursor until it is
-    // hidden, as intended.
     const bool usable = m_widget->isVisible() && m_widget->isEnabled();
     switch (event.type()) {
     case QEvent::Enter:
         if (m_intercept && usable)
-            PushCursor(m_hoverCursor);
+            PushHoverCursor();
         break;
     case QEvent::Leave:
         if (m_intercept && usable)
             PopAllCursors();
         break;
     case QEvent::Hide:
-        if (m_intercept && !usable)
-            PopAllCursors();
+    case QEvent::WindowBlocked:
+        Interrupt();
+        break;
+    case QEvent::EnabledChange:
+        if (!m_widget->isEnabled())
+            Interrupt();
+        else if (m_intercept && IsInside(QCursor::pos(), true))
+            PushHoverCursor();
         break;
     case QEvent::FocusOut:
         m_intercept = true;
         if (IsInside(QCursor::pos(), true))
-            PushCursor(m_hoverCursor);
+            PushHoverCursor();
+        break;
+    default:
+        break;
+    }
+}
+
+void DragValueChangedHelper::WatchSurroundings(const QObject& watched, const QEvent& event)
+{
+    switch (event.type()) {
+    case QEvent::Leave:
+        // The toolkit may have lost sight of the widget; without its window the pointer has left it
+        // too.
+        if (&watched == m_widget->window())
+            WatchWidget(event);
+        break;
+    case QEvent::ApplicationStateChange:
+        if (m_pressed &&
+            static_cast<const QApplicationStateChangeEvent&>(event).applicationState() !=
+                Qt::ApplicationActive)
+            Interrupt();
         break;
     default:
         break;
@@ -159,9 +202,16 @@ bool DragValueChangedHelper::IsInside(const QPoint& position, bool isMouse) cons
 
 bool DragValueChangedHelper::Press(const QMouseEvent& event)
 {
-    const bool isMouse = IsMouse(event);
     m_clicked = false;
-    if (m_pressed || !IsInside(isMouse ? QCursor::pos() : event.globalPos(), isMouse))
+    if (s_last && s_last->m_pressed) {
+        if (event.buttons() != event.button())
+            return true; // a further button, where the pointer is only parked
+        // Its release has gone elsewhere, and the pointer to where this press is.
+        s_last->m_parks = false;
+        s_last->Interrupt();
+    }
+    const bool isMouse = IsMouse(event);
+    if (!IsInside(isMouse ? QCursor::pos() : event.globalPos(), isMouse))
         return false;
     m_pressPos = isMouse ? QCursor::pos() : event.globalPos();
     m_pressScreen = ScreenAt(m_pressPos);
@@ -178,7 +228,9 @@ bool DragValueChangedHelper::Press(const QMouseEvent& event)
     m_distance = 0;
     m_pressed = true;
     m_firstMove = true;
+    ++m_drag;
     s_press = std::make_unique<QMouseEvent>(event);
+    s_last = this;
     return true;
 }
 
@@ -234,16 +286,21 @@ double DragValueChangedHelper::InRange(double value) const
 // False when a receiver of the signals has ended this object or the drag.
 bool DragValueChangedHelper::Step(const QMouseEvent& event, double step)
 {
+    const QPointer<DragValueChangedHelper> alive(this);
+    // A receiver that runs an event loop may let another drag begin.
+    const auto goesOn = [&, drag = m_drag] { return alive && m_pressed && m_drag == drag; };
+    TellEnd(); // of the drag before
+    if (!goesOn())
+        return false;
     const bool increase = event.globalX() > m_lastPos.x();
     m_value = InRange(increase ? m_value + step + m_accel : m_value - step - m_accel);
-    const QPointer<DragValueChangedHelper> alive(this);
     if (m_firstMove) {
         m_firstMove = false;
         Q_EMIT sigStartValueChanged(m_value);
     }
-    if (alive && m_pressed)
+    if (goesOn())
         Q_EMIT sigValueChanged(m_value);
-    if (!alive || !m_pressed)
+    if (!goesOn())
         return false;
     m_lastPos = event.globalPos();
     m_distance = 0;
@@ -298,6 +355,17 @@ void DragValueChangedHelper::PlaceRelease(const QWidget& receiver, QMouseEvent& 
 {
     if (m_parks && !receiver.rect().contains(event.pos()))
         event.setLocalPos(receiver.mapFromGlobal(m_pressPos));
+}
+
+// Below the blank one in a drag.
+void DragValueChangedHelper::PushHoverCursor()
+{
+    const bool hidesPointer = m_hidesPointer;
+    if (hidesPointer)
+        PopCursor();
+    PushCursor(m_hoverCursor);
+    if (hidesPointer)
+        HidePointer();
 }
 
 void DragValueChangedHelper::HidePointer()

@@ -70,7 +70,11 @@ private:
     bool Release(QObject* receiver, QMouseEvent& event);
     void PlaceRelease(const QWidget& receiver, QMouseEvent& event) const;
     void ReturnPointer() const;
+    void Interrupt();
+    void TellEnd();
     void WatchWidget(const QEvent& event);
+    void WatchSurroundings(const QObject& watched, const QEvent& event);
+    void PushHoverCursor();
     void HidePointer();
     void PushCursor(const QCursor& cursor);
     void PopCursor();
@@ -92,7 +96,10 @@ private:
     bool m_parks = false;        ///< the pointer can be and is kept at the anchor
     bool m_hidesPointer = false; ///< the cursor on top is the blank one
     bool m_clicked = false;      ///< a window was told of a click, and has to pass its release on
+    bool m_endUntold = false;    ///< the end of an interrupted drag is still to be told
+    int m_drag = 0;              ///< number of the press
 
-    /// The last press that was kept from its receiver.
+    /// The last press that was kept from its receiver, and by whom.
     static std::unique_ptr<QMouseEvent> s_press;
+    static QPointer<DragValueChangedHelper> s_last;
 };

@@ -20,6 +20,17 @@ IDragValueChangedHelper::IDragValueChangedHelper(QWidget* widget)
 
 IDragValueChangedHelper::~IDragValueChangedHelper()
 {
+    if (!m_helper)
+        return;
+    // The end of a drag is not for those that are being destroyed with this: this itself, and each
+    // owner that has already forgotten the child that it deletes.
+    disconnect(this, &IDragValueChangedHelper::sigEndValueChanged, this, nullptr);
+    QObject* child = this;
+    for (QObject* owner = parent(); owner; child = std::exchange(owner, owner->parent())) {
+        if (!owner->children().contains(child))
+            disconnect(this, &IDragValueChangedHelper::sigEndValueChanged, owner, nullptr);
+    }
+    m_helper->SetDragEnabled(false);
     delete m_helper;
 }
 

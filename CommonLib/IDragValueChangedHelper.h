@@ -24,6 +24,12 @@ class QWidget;
 /// The widget shows the number itself: connect sigValueChanged(), and tell of changes made
 /// elsewhere with SetValue(). Bounds and steps are taken as they are; a bound that is not a number
 /// bounds nothing. GUI thread only.
+///
+/// The release of the button may never come. A drag also ends when the widget is hidden or
+/// disabled, when a dialog blocks it and when another program becomes active; who connects is told
+/// in the next turn of the event loop. Object and widget may be deleted at any time, also by a slot
+/// of its signals; the end of a drag is told first, but not to those that are being destroyed with
+/// them.
 class COMMONLIB_EXPORT IDragValueChangedHelper : public QObject
 {
     Q_OBJECT
@@ -84,7 +90,7 @@ Q_SIGNALS:
     void sigValueChanged(double value);
     /// Before the first sigValueChanged() of a drag, with the same value.
     void sigStartValueChanged(double value);
-    /// A drag that has made steps is over.
+    /// A drag that has made steps is over: once for every sigStartValueChanged().
     void sigEndValueChanged(double value);
 
 private:

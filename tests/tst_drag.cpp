@@ -15,7 +15,9 @@
 using Helper = IDragValueChangedHelper;
 using Values = QVector<double>;
 using Setup = std::function<void(Helper&)>;
+using Action = std::function<void()>;
 Q_DECLARE_METATYPE(Setup)
+Q_DECLARE_METATYPE(Action)
 
 namespace {
 
@@ -44,6 +46,7 @@ private:
     Values changed;
     Values started;
     Values ended;
+    QString told;  ///< the first letter of each signal
     int total = 0; ///< steps of all drags
 
     static void Send(QObject* receiver, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
@@ -72,6 +75,15 @@ private:
         QCursor::setPos(field->mapToGlobal(within));
         QTRY_VERIFY(field->underMouse());
     }
+    /// Who presses where no drag is possible gets through.
+    static void PressElsewhere()
+    {
+        QCursor::setPos(5, 5);
+        Field other;
+        Send(&other, QEvent::MouseButtonPress, QCursor::pos(), Qt::LeftButton);
+        QCOMPARE(other.presses, 1);
+        QCOMPARE(QCursor::pos(), QPoint(5, 5));
+    }
     static int Cursors()
     {
         int count = 0;
@@ -93,12 +105,20 @@ private Q_SLOTS:
         changed.clear();
         started.clear();
         ended.clear();
+        told.clear();
         connect(helper, &Helper::sigValueChanged, this, [this](double v) {
             changed += v;
+            told += 'v';
             ++total;
         });
-        connect(helper, &Helper::sigStartValueChanged, this, [this](double v) { started += v; });
-        connect(helper, &Helper::sigEndValueChanged, this, [this](double v) { ended += v; });
+        connect(helper, &Helper::sigStartValueChanged, this, [this](double v) {
+            started += v;
+            told += 's';
+        });
+        connect(helper, &Helper::sigEndValueChanged, this, [this](double v) {
+            ended += v;
+            told += 'e';
+        });
     }
 
     void cleanup()
@@ -220,8 +240,10 @@ private Q_SLOTS:
         QVERIFY(helper->GetDragEnabled());
         QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::SizeHorCursor);
         field->setEnabled(false);
-        Press();
-        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::SizeHorCursor); // no drag began
+        Press(); // begins no drag
+        QVERIFY(!QGuiApplication::overrideCursor());
+        field->setEnabled(true);
+        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::SizeHorCursor);
     }
 
     void touch()
@@ -255,33 +277,83 @@ private Q_SLOTS:
         QVERIFY(!helper->GetDragEnabled()); // although the field has lost the focus
     }
 
-    void endsWithin()
+    void interrupted_data()
     {
-        for (const bool destroy : {false, true}) {
-            for (const auto signal : {&Helper::sigStartValueChanged, &Helper::sigValueChanged,
-                                      &Helper::sigEndValueChanged}) {
-                init();
-                int calls = 0;
-                connect(helper, signal, this, [&] {
-                    ++calls;
-                    if (destroy)
-                        field.reset();
-                    else
-                        helper->SetDragEnabled(false);
-                });
-                Hover();
-                const QPoint start = QCursor::pos();
-                Press();
-                const int x = QCursor::pos().x();
-                for (int move = 2; move < 9 && field; ++move)
-                    MoveTo(x + move);
-                if (field)
-                    Release();
-                QVERIFY(calls > 0);
-                QCOMPARE(QCursor::pos(), start);
-                QCOMPARE(Cursors(), 0);
-            }
+        QTest::addColumn<QByteArray>("moment");
+        QTest::addColumn<Action>("interrupt");
+        const std::pair<const char*, Action> ways[] = {
+            {"turned off", [this] { helper->SetDragEnabled(false); }},
+            {"off and on",
+             [this] {
+                 helper->SetDragEnabled(false);
+                 helper->SetDragEnabled(true);
+             }},
+            {"widget deleted", [this] { field.reset(); }},
+            {"widget deleted later", [this] { field.release()->deleteLater(); }},
+            {"helper deleted", [this] { delete helper; }},
+            {"helper deleted later", [this] { helper->deleteLater(); }},
+            {"dialog",
+             [this] {
+                 QMessageBox dialog;
+                 QTimer::singleShot(0, &dialog, &QDialog::accept);
+                 dialog.exec();
+             }},
+            {"hidden", [this] { field->hide(); }},
+            {"closed", [this] { field->close(); }},
+            {"disabled", [this] { field->setEnabled(false); }},
+            {"another program",
+             [] {
+                 QApplicationStateChangeEvent event(Qt::ApplicationInactive);
+                 QCoreApplication::sendEvent(qApp, &event);
+             }},
+            {"release elsewhere",
+             [this] {
+                 PressElsewhere();
+                 QCursor::setPos(field->mapToGlobal({20, 10}));
+             }},
+            {"another drag",
+             [this] {
+                 Release();
+                 Press();
+                 QTimer::singleShot(0, field.get(), [this] { Release(); });
+             }},
+        };
+        for (const char* moment : {"pressed", "start", "value", "moved", "end"}) {
+            for (const auto& [way, interrupt] : ways)
+                QTest::addRow("%s, %s", way, moment) << QByteArray(moment) << interrupt;
         }
+    }
+
+    void interrupted()
+    {
+        QFETCH(QByteArray, moment);
+        QFETCH(Action, interrupt);
+        const auto at = [&](const QByteArray& now) {
+            if (moment == now)
+                std::exchange(interrupt, [] {})();
+        };
+        connect(helper, &Helper::sigEndValueChanged, field.get(),
+                [this] { QVERIFY(field); }); // not told while it is being destroyed
+        connect(helper, &Helper::sigStartValueChanged, this, [&] { at("start"); });
+        connect(helper, &Helper::sigValueChanged, this, [&] { at("value"); });
+        connect(helper, &Helper::sigEndValueChanged, this, [&] { at("end"); });
+        Hover();
+        const QPoint start = QCursor::pos();
+        Press();
+        const int x = QCursor::pos().x();
+        at("pressed");
+        for (int move = 2; move < 9 && field; ++move)
+            MoveTo(x + move);
+        at("moved");
+        if (moment == "end")
+            Release(); // comes in no other case
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY2(QRegularExpression("^(sv*e)*$").match(told).hasMatch(), qPrintable(told));
+        QCOMPARE(QCursor::pos(), start);
+        const QCursor* cursor = QGuiApplication::overrideCursor();
+        QVERIFY(!cursor || cursor->shape() != Qt::BlankCursor);
+        PressElsewhere();
     }
 
     void anySequence()
@@ -318,13 +390,15 @@ private Q_SLOTS:
     {
 #ifdef Q_OS_WIN
         const auto point = [](const QStringList& arguments) {
-            const QMap<QString, DWORD> flags = {{"mousemove_relative", MOUSEEVENTF_MOVE},
-                                                {"mousedown", MOUSEEVENTF_LEFTDOWN},
-                                                {"mouseup", MOUSEEVENTF_LEFTUP},
-                                                { "click",
-                                                  MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP }};
+            const QMap<QString, DWORD> flags = {
+                {"mousemove_relative", MOUSEEVENTF_MOVE},
+                {"mousedown", MOUSEEVENTF_LEFTDOWN},
+                {"mouseup", MOUSEEVENTF_LEFTUP},
+                {"mousedown 3", MOUSEEVENTF_RIGHTDOWN},
+                {"mouseup 3", MOUSEEVENTF_RIGHTUP},
+                { "click", MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP }};
             const int x = arguments[1].toInt(), y = arguments.value(2).toInt();
-            if (const DWORD flag = flags.value(arguments[0]))
+            if (const DWORD flag = flags.value(arguments.join(' '), flags.value(arguments[0])))
                 mouse_event(flag, x, y, 0, 0);
             else
                 SetCursorPos(x, y);
@@ -338,9 +412,16 @@ private Q_SLOTS:
             QTest::qWait(15);
         };
 #endif
-        // On the last of the screens.
+        // On the last of the screens, as part of a window.
         const QRect screen = QGuiApplication::screens().last()->geometry();
-        field->move(screen.topLeft() + QPoint(50, 50));
+        QWidget panel(nullptr, Qt::FramelessWindowHint);
+        const auto leave = qScopeGuard([this] { field->setParent(nullptr); });
+        panel.setGeometry(QRect(screen.topLeft() + QPoint(40, 40), QSize(120, 80)));
+        field->setParent(&panel);
+        field->move(10, 10);
+        field->show();
+        panel.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&panel));
         const QPoint middle = screen.topLeft() + QPoint(80, 70);
         point({"mousemove", QString::number(middle.x()), QString::number(middle.y())});
         QTRY_VERIFY(field->underMouse());
@@ -361,6 +442,19 @@ private Q_SLOTS:
         point({"mouseup", "1"});
         QCOMPARE(ended.size(), 1);
         QCOMPARE(QCursor::pos(), middle);
+        // Another button, of which the window gets to know while the pointer is parked beside it.
+        point({"mousedown", "1"});
+        for (int move = 0; move < 5; ++move)
+            point({"mousemove_relative", "3", "0"});
+        for (const char* action : {"mousedown", "mouseup"})
+            point({action, "3"});
+        point({"mouseup", "1"});
+        QCOMPARE(ended.size(), 2);
+        const QPoint beside = middle + QPoint(0, 40);
+        point({"mousemove", QString::number(beside.x()), QString::number(beside.y())});
+        QTRY_VERIFY(!field->underMouse());
+        QVERIFY(!QGuiApplication::overrideCursor());
+        point({"mousemove", QString::number(middle.x()), QString::number(middle.y())});
         point({"click", "1"});
         QCOMPARE(field->presses, 1);
         QCOMPARE(field->clicks, 1);
