@@ -12,7 +12,9 @@ constexpr int kMargin = 8;
 
 QSize LogicalSize(const QPixmap& image)
 {
-    return (QSizeF(image.size()) / image.devicePixelRatioF()).toSize();
+    // A null one has no ratio.
+    return image.isNull() ? QSize(0, 0)
+                          : (QSizeF(image.size()) / image.devicePixelRatioF()).toSize();
 }
 
 } // namespace

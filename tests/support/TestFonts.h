@@ -5,9 +5,13 @@
 #include <QFile>
 #include <QString>
 #include <QTextCodec>
+#include <QVector>
 #include <QtEndian>
 
-/// Font files made from one of the system's, under names that no system has.
+#include <iterator>
+#include <utility>
+
+/// Font files, made from one of the system's or from nothing, under names that no system has.
 namespace TestFonts {
 
 inline QByteArray Read(const QString& path)
@@ -68,6 +72,46 @@ inline QByteArray Renamed(QByteArray font, const QString& family)
         Put<quint32>(font, at + 12, quint32(names.size()));
     }
     return font + names;
+}
+
+/// A font of its own, for what must not depend on the installed ones: each character of ASCII, the
+/// space too, is a filled box, half of the font's size wide, 0.7 of it high and 0.2 from the next.
+inline QByteArray Boxes(const QString& family)
+{
+    const auto words = [](const QVector<int>& values) {
+        QByteArray data(2 * values.size(), '\0');
+        for (int i = 0; i < values.size(); ++i)
+            Put<quint16>(data, 2 * i, quint16(values[i]));
+        return data;
+    };
+    const QByteArray box =
+        words({1, 100, 0, 600, 700, 3, 0}) + "\1\1\1\1" + words({100, 0, 500, 0, 0, 700, 0, -700});
+    const QVector<int> fifteen(15, 0);
+    const std::pair<const char*, QByteArray> tables[] = {
+        {"OS/2", words({1, 700, 400, 5}) + words(fifteen.mid(0, 12)) + words(fifteen.mid(0, 5)) +
+                     words({1}) + words(fifteen.mid(0, 8)) +
+                     words({0x40, 0x20, 0x7e, 800, -200, 0, 800, 200, 0, 1, 0, 0})},
+        {"cmap", words({0, 1, 3,    1,      0, 12,   4,      222, 0, 4, 4,
+                        1, 0, 0x7e, 0xffff, 0, 0x20, 0xffff, 0,   1, 4, 0}) +
+                     words(QVector<int>(95, 1))},
+        {"glyf", box + box},
+        {"head", words({1, 0, 1, 0, 0, 0, 0x5f0f, 0x3cf5, 0, 1000}) + words(fifteen.mid(0, 8)) +
+                     words({100, 0, 600, 700, 0, 8, 2, 0, 0})},
+        {"hhea", words({1, 0, 800, -200, 0, 700, 100, 100, 600, 1}) + words(fifteen.mid(0, 7)) +
+                     words({1})},
+        {"hmtx", words({700, 100, 100})},
+        {"loca", words({0, 17, 34})},
+        {"maxp", words({1, 0, 2, 4, 1, 0, 0, 1}) + words(fifteen.mid(0, 8))},
+        {"name", QByteArray()},
+        {"post", words({3, 0, 0, 0, -100, 50}) + words(fifteen.mid(0, 10))}};
+    const int count = int(std::size(tables));
+    QByteArray font = words({1, 0, count, 128, 3, count * 16 - 128});
+    QByteArray contents;
+    for (const auto& [tag, content] : tables) {
+        font += tag + words({0, 0, 0, 12 + 16 * count + contents.size(), 0, content.size()});
+        contents += content + QByteArray(-content.size() & 3, '\0');
+    }
+    return Renamed(font + contents, family);
 }
 
 /// A collection of two faces.
