@@ -31,7 +31,8 @@ signals:
     /// A click, and a press. \a p is the button's upper left corner in global coordinates.
     void Clicked(int id, QPoint p);
     void Pressed(int id, QPoint p);
-    /// The mouse came or went. \a type is the id.
+    /// The mouse came or went. \a type is the id. A slot may delete the button with deleteLater()
+    /// only: the toolkit still uses it.
     void sigEnter(int type);
     void sigLeave(int type);
 

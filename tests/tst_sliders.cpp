@@ -3,6 +3,7 @@
 #include "CommonLib/PureSlider.h"
 #include "CommonLib/ScaleUnitSlider.h"
 #include "CommonLib/ToolBarSlider.h"
+#include "tests/support/DeletedInSlot.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -89,28 +90,16 @@ QString Row(const char* name, Values... values)
     return texts.join(' ');
 }
 
-// Whether nothing breaks when the first \a signal during \a trigger deletes its sender.
-template <typename Slider, typename Signal, typename Trigger>
-bool Survives(Slider* slider, Signal signal, Trigger trigger)
-{
-    const QPointer<QWidget> widget(slider);
-    slider->resize(kLength, 20);
-    slider->show();
-    QObject::connect(slider, signal, slider, [slider] { delete slider; });
-    QCoreApplication::processEvents();
-    trigger(slider);
-    QCoreApplication::processEvents();
-    QWidget other;
-    other.show();
-    QTest::mouseRelease(other.windowHandle(), Qt::LeftButton);
-    return !widget;
-}
-
 } // namespace
+
+Q_DECLARE_METATYPE(DeletedInSlot::Make)
+Q_DECLARE_METATYPE(DeletedInSlot::Steps)
 
 class TestSliders : public QObject
 {
     Q_OBJECT
+
+    std::unique_ptr<QWidget> stage;
 
 private slots:
     void pressAndValue()
@@ -289,40 +278,63 @@ private slots:
         }
     }
 
-    void destroyedByItsHandler()
+    void deletedInSlot_data()
     {
-        using Seek = ToolBarSlider;
-        using Zoom = ScaleUnitSlider;
-        const auto press = [](QWidget* w, int x) {
-            QTest::mousePress(w->window()->windowHandle(), Qt::LeftButton, {}, {x, 10});
+        using namespace DeletedInSlot;
+        QTest::addColumn<Make>("make");
+        QTest::addColumn<Steps>("steps");
+        QTest::addColumn<QString>("deletedIn"); // apart from after each step
+        const Make seek = [] { return new ToolBarSlider(nullptr, Qt::Horizontal); };
+        const Make zoom = [] { return new ScaleUnitSlider(nullptr); };
+        const Make pure = [this] {
+            stage.reset(new QWidget); // mouse events go on to it
+            stage->resize(kLength, 20);
+            stage->show();
+            return new PureSlider(stage.get());
         };
-        const auto drag = [press](const QPointer<QWidget>& w) {
-            press(w, 5);
-            if (w)
-                QTest::mouseMove(w->windowHandle(), {107, 10});
-            if (w)
-                QTest::mouseRelease(w->windowHandle(), Qt::LeftButton, {}, {57, 10});
+        const Step wheel = [](QWidget* w) { Wheel(w, {0, 120}); };
+        const Step key = [](QWidget* w) { Key(w, Qt::Key_End); };
+        const Step speak = [](QWidget* w) {
+            QAccessible::queryAccessibleInterface(w)->valueInterface()->setCurrentValue(70);
         };
-        const auto key = [](QWidget* w) { Key(w, Qt::Key_End); };
-        const auto wheel = [](QWidget* w) { Wheel(w, {0, 120}); };
-        const auto plus = [](QWidget* w) {
-            QTest::mouseClick(w->windowHandle(), Qt::LeftButton, {}, {kLength - 10, 10});
-        };
-        const auto make = [] { return new Seek(nullptr, Qt::Horizontal); };
-        for (const auto signal :
-             {&Seek::startValueChanged, &Seek::startDrag, &Seek::endValueChanged, &Seek::endDrag})
-            QVERIFY(Survives(make(), signal, drag));
-        QVERIFY(Survives(make(), &Seek::valueChanged, drag));
-        QVERIFY(Survives(make(), &Seek::valueChanged, wheel));
-        QVERIFY(Survives(make(), &Seek::endValueChanged, key));
-        for (const auto signal : {&Zoom::startValueChanged, &Zoom::endValueChanged})
-            QVERIFY(Survives(new Zoom(nullptr), signal, plus));
-        QVERIFY(Survives(new Zoom(nullptr), &Zoom::valueChanged, plus));
-        QWidget parent; // the mouse would go on to it
-        parent.resize(kLength, 20);
-        parent.show();
-        const auto pressPure = [press](QWidget* w) { press(w, 50); };
-        QVERIFY(Survives(new PureSlider(&parent), &PureSlider::sigValueChanged, pressPure));
+        const Step disable = [](QWidget* w) { w->setEnabled(false); };
+        const Step hide = [](QWidget* w) { w->hide(); };
+        const Step close = [](QWidget* w) { w->close(); };
+        const Step plus = [](QWidget* w) { Key(w, Qt::Key_Plus); };
+        const Steps hold{Press(5), Move(107)};
+        const QString held = "valueChanged startValueChanged endValueChanged startDrag endDrag";
+        const QString once = "valueChanged startValueChanged endValueChanged";
+        const QString pureSignal = "sigValueChanged";
+        QTest::newRow("seek, press") << seek << Steps{Press(107), Release(107)} << once;
+        QTest::newRow("seek, drag")
+            << seek << hold + Steps{Move(57), Release(7)} << "valueChanged valueChanged " + held;
+        QTest::newRow("seek, disabled while held") << seek << hold + Steps{disable} << held;
+        QTest::newRow("seek, hidden while held") << seek << hold + Steps{hide} << held;
+        QTest::newRow("seek, closed while held") << seek << hold + Steps{close} << held;
+        QTest::newRow("seek, wheel") << seek << Steps{wheel} << once;
+        QTest::newRow("seek, key") << seek << Steps{key} << once;
+        QTest::newRow("seek, assistive tool") << seek << Steps{speak} << once;
+        QTest::newRow("zoom, drag") << zoom << Steps{Press(60), Move(107), Release(80)}
+                                    << "valueChanged valueChanged " + once;
+        QTest::newRow("zoom, plus button") << zoom << Steps{Press(204), Release(204)} << once;
+        QTest::newRow("zoom, minus button") << zoom << Steps{Press(10), Release(10)} << once;
+        QTest::newRow("zoom, key") << zoom << Steps{plus} << once;
+        QTest::newRow("zoom, hidden while held") << zoom << Steps{Press(60), hide} << once;
+        QTest::newRow("zoom, assistive tool") << zoom << Steps{speak} << once;
+        QTest::newRow("pure, drag") << pure << Steps{Press(50), Move(107), Release(80)}
+                                    << "sigValueChanged sigValueChanged sigValueChanged";
+        QTest::newRow("pure, wheel") << pure << Steps{wheel} << pureSignal;
+        QTest::newRow("pure, key") << pure << Steps{key} << pureSignal;
+        QTest::newRow("pure, assistive tool") << pure << Steps{speak} << pureSignal;
+    }
+
+    void deletedInSlot()
+    {
+        QFETCH(DeletedInSlot::Make, make);
+        QFETCH(DeletedInSlot::Steps, steps);
+        QFETCH(QString, deletedIn);
+        for (const bool later : {false, true})
+            QCOMPARE(DeletedInSlot::InEachSlot(make, steps, later), deletedIn);
     }
 
     void zoomBarSteps()
