@@ -206,7 +206,7 @@ void DocumentReader::ReadService(const QString& element)
         }
     }
     TakeExactTexts(service.properties);
-    m_services.insert(id, std::move(service));
+    m_services[id] = std::move(service);
     m_lastService = id;
 }
 
