@@ -62,33 +62,35 @@ int PureSlider::GetValue() const
     return m_value;
 }
 
-void PureSlider::Style(QColor& color, bool isFixed, const QColor& styled)
+void PureSlider::Style(QColor& color, const QColor& styled)
 {
-    if (isFixed)
+    if (m_fixedColors.contains(&color))
         return;
     color = styled;
     update();
 }
 
+void PureSlider::Fix(QColor& color, const QColor& fixed)
+{
+    if (!m_fixedColors.contains(&color))
+        m_fixedColors.append(&color);
+    color = fixed;
+    update();
+}
+
 void PureSlider::SetBorderColor(const QColor& color)
 {
-    m_borderFixed = true;
-    m_borderColor = color;
-    update();
+    Fix(m_borderColor, color);
 }
 
 void PureSlider::SetSubpageColor(const QColor& color)
 {
-    m_subpageFixed = true;
-    m_subpageColor = color;
-    update();
+    Fix(m_subpageColor, color);
 }
 
 void PureSlider::SetAddpageColor(const QColor& color)
 {
-    m_addpageFixed = true;
-    m_addpageColor = color;
-    update();
+    Fix(m_addpageColor, color);
 }
 
 QSize PureSlider::sizeHint() const

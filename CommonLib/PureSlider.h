@@ -4,6 +4,7 @@
 #include "CommonLib/CommonLibExport.h"
 
 #include <QColor>
+#include <QVector>
 #include <QWidget>
 
 struct SliderSteps;
@@ -55,10 +56,11 @@ protected:
 private:
     void FollowMouse(QMouseEvent* event, int x);
     // A colour from a style sheet, for as long as the host sets none.
-    void Style(QColor& color, bool isFixed, const QColor& styled);
-    void StyleBorder(const QColor& color) { Style(m_borderColor, m_borderFixed, color); }
-    void StyleSubpage(const QColor& color) { Style(m_subpageColor, m_subpageFixed, color); }
-    void StyleAddpage(const QColor& color) { Style(m_addpageColor, m_addpageFixed, color); }
+    void Style(QColor& color, const QColor& styled);
+    void StyleBorder(const QColor& color) { Style(m_borderColor, color); }
+    void StyleSubpage(const QColor& color) { Style(m_subpageColor, color); }
+    void StyleAddpage(const QColor& color) { Style(m_addpageColor, color); }
+    void Fix(QColor& color, const QColor& fixed);
     SliderSteps Steps() const;
 
     int m_value = 0;
@@ -67,9 +69,7 @@ private:
     QColor m_borderColor = Qt::gray;
     QColor m_subpageColor = Qt::red;
     QColor m_addpageColor = Qt::white;
-    bool m_borderFixed = false;
-    bool m_subpageFixed = false;
-    bool m_addpageFixed = false;
-    double m_wheelRest = 0; // part of a step that the wheel has turned
+    QVector<const QColor*> m_fixedColors; // those above that the host has set
+    double m_wheelRest = 0;               // part of a step that the wheel has turned
     bool m_keyboardFocus = false;
 };

@@ -69,7 +69,7 @@ QPointF ToolBarSlider::getRange() const
 
 void ToolBarSlider::setValue(float value, bool)
 {
-    if (!m_acceptSetValue || std::isnan(value))
+    if (IsHeld() || std::isnan(value))
         return;
     m_lastEmitted = value;
     m_value = Limited(value);
@@ -258,7 +258,7 @@ void ToolBarSlider::EmitValueChange()
 
 void ToolBarSlider::EmitStartEndSignals(bool start)
 {
-    if (!m_chunkGrabbed && !m_alwaysEmitStartEnd)
+    if (!IsTold(m_hold))
         return;
     if (start)
         emit startValueChanged();
@@ -266,19 +266,26 @@ void ToolBarSlider::EmitStartEndSignals(bool start)
         emit endValueChanged();
 }
 
+bool ToolBarSlider::IsTold(Hold hold) const
+{
+    return hold == Hold::Chunk || m_alwaysEmitStartEnd;
+}
+
 // Mouse -------------------------------------------------------------------------------------------
+
+bool ToolBarSlider::IsHeld() const
+{
+    return m_hold == Hold::Groove || m_hold == Hold::Chunk;
+}
 
 void ToolBarSlider::mousePressEvent(QMouseEvent* event)
 {
     if (!CanChanged())
         return;
     m_buttonPressDown = true;
-    m_holdCancelled = false;
-    m_acceptSetValue = false;
-    m_chunkGrabbed = false;
+    m_hold = childAt(event->pos()) == m_chunk ? Hold::Chunk : Hold::Groove;
     const QPoint pos = Unmirrored(event->pos());
-    if (childAt(event->pos()) == m_chunk) {
-        m_chunkGrabbed = true;
+    if (m_hold == Hold::Chunk) {
         // Horizontal also on a vertical slider, whose chunk therefore centres itself on the
         // pointer; intended.
         m_grabOffset = pos.x() - m_chunkPosition - m_chunkWidth / 2;
@@ -297,8 +304,7 @@ void ToolBarSlider::mouseMoveEvent(QMouseEvent* event)
     if (!m_buttonPressDown || !CanChanged())
         return;
     const QPointer<ToolBarSlider> self(this);
-    if (m_dragIdle) {
-        m_dragIdle = false;
+    if (!std::exchange(m_isDragging, true)) {
         emit startDrag();
         if (!self || !CanChanged())
             return;
@@ -310,35 +316,34 @@ void ToolBarSlider::mouseMoveEvent(QMouseEvent* event)
 void ToolBarSlider::mouseReleaseEvent(QMouseEvent* event)
 {
     m_buttonPressDown = false;
-    if (std::exchange(m_holdCancelled, false))
+    const Hold held = std::exchange(m_hold, Hold::None);
+    if (held == Hold::Cancelled)
         return; // told already
     const bool emits = NeedEmitValue();
     if (emits) {
-        m_acceptSetValue = true;
         MoveChunkTo(Unmirrored(event->pos()));
         const QPointer<ToolBarSlider> self(this);
         EmitValueChange();
         if (!self)
             return;
     }
-    EndHold(emits);
+    EndHold(held, emits);
 }
 
 // A range that has become empty in the meantime ends the hold in silence.
-void ToolBarSlider::EndHold(bool emits)
+void ToolBarSlider::EndHold(Hold held, bool emits)
 {
-    m_acceptSetValue = true;
     if (emits) {
         const QPointer<ToolBarSlider> self(this);
-        EmitStartEndSignals(false);
-        if (self && !m_dragIdle)
+        if (IsTold(held))
+            emit endValueChanged();
+        if (self && m_isDragging)
             emit endDrag();
         if (!self)
             return;
     }
-    m_dragIdle = true;
+    m_isDragging = false;
     m_grabOffset = 0;
-    m_chunkGrabbed = false;
 }
 
 void ToolBarSlider::MoveChunkTo(QPoint pos)
@@ -375,16 +380,15 @@ void ToolBarSlider::SetCanSeek(bool canSeek)
 // sender of the event still needs.
 void ToolBarSlider::CancelHold()
 {
-    if (m_acceptSetValue)
+    if (!IsHeld())
         return;
     QMetaObject::invokeMethod(
         this,
         [this] {
-            if (m_acceptSetValue)
+            if (!IsHeld())
                 return;
             m_buttonPressDown = false;
-            m_holdCancelled = true;
-            EndHold(NeedEmitValue());
+            EndHold(std::exchange(m_hold, Hold::Cancelled), NeedEmitValue());
         },
         Qt::QueuedConnection);
 }
@@ -400,7 +404,7 @@ SliderSteps ToolBarSlider::Steps() const
 
 void ToolBarSlider::ChangeByUser(double value)
 {
-    if (!CanChanged() || !m_acceptSetValue || std::isnan(value) || Limited(value) == m_value)
+    if (!CanChanged() || IsHeld() || std::isnan(value) || Limited(value) == m_value)
         return;
     m_value = Limited(value);
     PlaceChunk();

@@ -111,6 +111,15 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    // What the mouse holds.
+    enum class Hold
+    {
+        None,
+        Groove,
+        Chunk,
+        Cancelled // nothing any more; a release that still comes ends nothing
+    };
+
     void ResizeChunk();
     void SetCanSeek(bool canSeek);
 
@@ -119,7 +128,9 @@ private:
     void QueueResizeChunk();
     void ResizeHighlight();
     void MoveChunkTo(QPoint pos);
-    void EndHold(bool emits);
+    bool IsHeld() const;
+    bool IsTold(Hold hold) const;
+    void EndHold(Hold held, bool emits);
     void CancelHold();
     void ChangeByUser(double value);
     void ShowFocus(const QFocusEvent& event);
@@ -128,28 +139,33 @@ private:
     float Limited(double value) const;
     bool IsMirrored() const;
 
+    // Value.
     float m_value = 0;
     float m_lastEmitted = 0;
     float m_minimum = 0;
     float m_maximum = 100.0F;
-    bool m_chunkGrabbed = false;
-    bool m_alwaysEmitStartEnd = true;
+    float m_duration = 0;
+
+    // Switches.
     Qt::Orientation m_orientation;
+    bool m_forward = true; // SetLeftToRight() or SetBottomToTop(), whichever fits the orientation
+    bool m_canSeek = true;
+    bool m_alwaysEmitStartEnd = true;
+
+    // Mouse.
+    Hold m_hold = Hold::None;
+    bool m_isDragging = false;
+    bool m_buttonPressDown = false; // what ButtonPressDown() gives, which the host may set too
+    int m_grabOffset = 0;
+
+    // Look, in pixels.
     QWidget* m_background;
     QWidget* m_groove;
     QWidget* m_chunk;
-    int m_chunkPosition = 0; // left or top edge, pixels from the end with the minimum
-    int m_grabOffset = 0;
+    QWidget* m_highlight;
+    int m_chunkPosition = 0; // left or top edge, from the end with the minimum
     int m_chunkWidth = 14;
     int m_chunkHeight = 14;
     int m_grooveHeight = 3;
-    bool m_acceptSetValue = true; // false while the user holds the slider
-    bool m_dragIdle = true;
-    bool m_forward = true; // SetLeftToRight() or SetBottomToTop(), whichever fits the orientation
-    bool m_canSeek = true;
-    bool m_buttonPressDown = false;
-    float m_duration = 0;
-    QWidget* m_highlight;
     bool m_resizeQueued = false;
-    bool m_holdCancelled = false; // a release that still comes ends nothing
 };
