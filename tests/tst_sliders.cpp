@@ -300,6 +300,11 @@ private slots:
         const Step disable = [](QWidget* w) { w->setEnabled(false); };
         const Step hide = [](QWidget* w) { w->hide(); };
         const Step close = [](QWidget* w) { w->close(); };
+        const Step drop = [](QWidget* w) { // where no move has been
+            QMouseEvent event(QEvent::MouseButtonRelease, QPointF(57, 10), Qt::LeftButton,
+                              Qt::NoButton, {});
+            QCoreApplication::sendEvent(w, &event);
+        };
         const Step plus = [](QWidget* w) { Key(w, Qt::Key_Plus); };
         const Steps hold{Press(5), Move(107)};
         const QString held = "valueChanged startValueChanged endValueChanged startDrag endDrag";
@@ -308,6 +313,7 @@ private slots:
         QTest::newRow("seek, press") << seek << Steps{Press(107), Release(107)} << once;
         QTest::newRow("seek, drag")
             << seek << hold + Steps{Move(57), Release(7)} << "valueChanged valueChanged " + held;
+        QTest::newRow("seek, dropped") << seek << hold + Steps{drop} << "valueChanged " + held;
         QTest::newRow("seek, disabled while held") << seek << hold + Steps{disable} << held;
         QTest::newRow("seek, hidden while held") << seek << hold + Steps{hide} << held;
         QTest::newRow("seek, closed while held") << seek << hold + Steps{close} << held;
