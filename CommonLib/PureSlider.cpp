@@ -107,14 +107,10 @@ void PureSlider::paintEvent(QPaintEvent*)
     const qint64 above = qint64(qBound(m_minimum, m_value, m_maximum)) - m_minimum;
     const auto filled = static_cast<int>(width() * above / range);
     painter.fillRect(0, 0, filled, height(), m_subpageColor);
-    // A frame one pixel wide. In strips, as a pen would straddle the edge at other scales than 1.
-    const QRect bar = CountInScreenPixels(painter, rect());
-    const int line = qMax(1, qRound(devicePixelRatioF()));
-    const QColor frame = m_keyboardFocus ? palette().color(QPalette::Highlight) : m_borderColor;
-    for (const QRect& strip : QRegion(bar) - bar.adjusted(line, line, -line, -line))
-        painter.fillRect(strip, frame);
+    PaintFrame(painter, rect(),
+               m_keyboardFocus ? palette().color(QPalette::Highlight) : m_borderColor);
     if (!isEnabled())
-        painter.fillRect(bar, QColor::fromRgba(kDisabledVeil));
+        painter.fillRect(rect(), QColor::fromRgba(kDisabledVeil));
 }
 
 void PureSlider::mousePressEvent(QMouseEvent* event)

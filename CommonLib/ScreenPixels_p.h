@@ -3,6 +3,7 @@
 
 #include <QPainter>
 #include <QRect>
+#include <QRegion>
 
 // Not part of the library's interface.
 
@@ -11,7 +12,7 @@
 /// is.
 inline QTransform CountInScreenPixels(QPainter& painter)
 {
-    const QTransform toScreen = painter.deviceTransform();
+    QTransform toScreen = painter.deviceTransform();
     if (toScreen.type() > QTransform::TxScale)
         return {};
     painter.setTransform(toScreen.inverted(), true);
@@ -28,4 +29,17 @@ inline QRect CountInScreenPixels(QPainter& painter, const QRect& area)
 inline int LineInScreenPixels(const QTransform& toScreen, double width)
 {
     return qMax(1, qRound(width * toScreen.m11()));
+}
+
+/// Paints a frame one pixel wide along the inside of \a area. In strips, as a pen would straddle
+/// the edge at other scales than 1.
+inline void PaintFrame(QPainter& painter, const QRect& area, const QColor& color)
+{
+    const QTransform before = painter.transform();
+    const QTransform toScreen = CountInScreenPixels(painter);
+    const QRect frame = toScreen.mapRect(QRectF(area)).toRect();
+    const int line = LineInScreenPixels(toScreen, 1);
+    for (const QRect& strip : QRegion(frame) - frame.adjusted(line, line, -line, -line))
+        painter.fillRect(strip, color);
+    painter.setTransform(before);
 }

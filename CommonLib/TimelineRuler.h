@@ -21,7 +21,12 @@ class TimelineViewRuler;
 ///
 /// Signals tell of what the user does. A call never emits one, except that it may end a drag which
 /// is under way. A ruler that is disabled or hidden in a drag ends it in the next turn of the event
-/// loop. A slot of any of the signals may delete the ruler, at once or later. Positions are pixels from the left edge, frames whole frames at FPS().
+/// loop. A slot of any of the signals may delete the ruler, at once or later. Positions are pixels
+/// from the left edge, frames whole frames at FPS().
+///
+/// While the keyboard has brought the focus, a frame in the palette's highlight colour shows.
+/// Assistive tools see a slider over frames with its value as timecode, named by the ruler's
+/// accessible name.
 ///
 /// Colours are properties for style sheets, which reach the ruler by the object name
 /// "CommonLib_TimelineRuler" until the host gives another, and the area it draws on by

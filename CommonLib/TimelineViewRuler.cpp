@@ -2,7 +2,9 @@
 #include "CommonLib/TimelineViewRuler_p.h"
 
 #include "CommonLib/RulerPainter_p.h"
+#include "CommonLib/ScreenPixels_p.h"
 #include "CommonLib/WheelTurn_p.h"
+#include "CommonLib/WidgetAccessibility_p.h"
 
 #include <QKeyEvent>
 #include <QPaintEvent>
@@ -56,6 +58,7 @@ bool TimelineViewRuler::SetCurrentFrame(int frame)
     const QRect before = RulerPainter::PointerRect(segment, font());
     segment.currentFrame = frame;
     update(QRegion(before) + RulerPainter::PointerRect(segment, font()));
+    NotifyAccessibleValue(this, frame);
     return true;
 }
 
@@ -87,6 +90,8 @@ void TimelineViewRuler::paintEvent(QPaintEvent* event)
     for (const QRect& part : event->region()) {
         painter.setClipRect(part);
         ruler.Paint(part);
+        if (m_keyboardFocus)
+            PaintFrame(painter, rect(), palette().color(QPalette::Highlight));
     }
 }
 
@@ -422,7 +427,19 @@ void TimelineViewRuler::mouseReleaseEvent(QMouseEvent* event)
         EndDrag();
 }
 
-// Keys --------------------------------------------------------------------------------------------
+// Focus and keys ----------------------------------------------------------------------------------
+
+void TimelineViewRuler::focusInEvent(QFocusEvent* event)
+{
+    m_keyboardFocus = ShowsKeyboardFocus(*event, m_keyboardFocus);
+    QWidget::focusInEvent(event);
+}
+
+void TimelineViewRuler::focusOutEvent(QFocusEvent* event)
+{
+    m_keyboardFocus = ShowsKeyboardFocus(*event, m_keyboardFocus);
+    QWidget::focusOutEvent(event);
+}
 
 void TimelineViewRuler::keyPressEvent(QKeyEvent* event)
 {

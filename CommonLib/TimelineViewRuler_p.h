@@ -64,6 +64,11 @@ public:
     /// was and is. Returns whether it moved.
     bool SetCurrentFrame(int frame);
     int AvailableFrames() const;
+    /// The frames that the user's play head can reach.
+    int FirstFrame() const;
+    int LastFrame() const;
+    /// Moves the play head for the user, to the nearest frame that it can reach, and into sight.
+    void StepTo(qint64 frame);
     void SetOffsetFrames(int frames);
     void SetOffsetPosition(int pixels);
 
@@ -86,6 +91,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -114,13 +121,10 @@ private:
     void QueueEndDrag();
     /// Moves the play head for the user and tells of it when it moved.
     bool MoveByUser(int frame);
-    void StepTo(qint64 frame);
     bool ShowPlayHead();
     void ScrollAtEdge();
 
     int FrameAt(int x) const;
-    int FirstFrame() const;
-    int LastFrame() const;
     int Bounded(qint64 frame) const;
 
     /// Zooms so that \a frame lies at \a x, and tells of what changed.
@@ -137,5 +141,6 @@ private:
     QPoint m_mouse;
     double m_wheelRest = 0; // part of a pixel that the wheel has yet to scroll
     bool m_inSingleClick = false;
+    bool m_keyboardFocus = false;
     bool m_endQueued = false; // a drag ends in the next turn of the event loop
 };

@@ -3,10 +3,14 @@
 
 #include "CommonLib/BaseButton.h"
 #include "CommonLib/BaseStateButton.h"
+#include "CommonLib/GlobalUtils.h"
 #include "CommonLib/ImageTextButton2.h"
+#include "CommonLib/NumberConversion_p.h"
 #include "CommonLib/PureSlider.h"
 #include "CommonLib/ScaleUnitSlider.h"
 #include "CommonLib/SliderSteps_p.h"
+#include "CommonLib/TimelineRuler.h"
+#include "CommonLib/TimelineViewRuler_p.h"
 #include "CommonLib/ToolBarSlider.h"
 
 #include <QAccessible>
@@ -14,7 +18,11 @@
 #include <QCoreApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QKeySequence>
+#include <QMap>
 #include <QPointer>
+
+#include <optional>
 
 // The text that the widget was given, else \a fallback.
 static QString NameOr(const QWidget& widget, const QString& fallback)
@@ -205,6 +213,65 @@ private:
     PureSlider* m_slider;
 };
 
+// Both of the ruler and of the view within it, which has the focus.
+class RulerAccessible : public SliderAccessible
+{
+public:
+    RulerAccessible(QWidget* widget, const TimelineRuler* ruler, TimelineViewRuler* view)
+        : SliderAccessible(widget), m_ruler(ruler), m_view(view)
+    {
+    }
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind == QAccessible::Name)
+            return NameOr(*m_ruler, TimelineRuler::tr("Ruler"));
+        if (kind == QAccessible::Value)
+            return gFrame2String(m_ruler->CurrentFrames(), m_ruler->FPS());
+        return SliderAccessible::text(kind);
+    }
+    QVariant currentValue() const override { return m_ruler->CurrentFrames(); }
+    void setCurrentValue(const QVariant& value) override
+    {
+        const std::optional<int> frame = Truncated<int>(value.toDouble());
+        if (frame && m_ruler->isEnabled())
+            m_view->StepTo(*frame);
+    }
+    QVariant maximumValue() const override { return m_view->LastFrame(); }
+    QVariant minimumValue() const override { return m_view->FirstFrame(); }
+    QVariant minimumStepSize() const override { return 1; }
+
+    QStringList actionNames() const override
+    {
+        QStringList names = m_ruler->isEnabled() ? Keys().keys() : QStringList();
+        return names + SliderAccessible::actionNames();
+    }
+    void doAction(const QString& name) override
+    {
+        if (!Keys().contains(name))
+            SliderAccessible::doAction(name);
+        else if (m_ruler->isEnabled())
+            PressKey(*m_view, Keys().value(name));
+    }
+    QStringList keyBindingsForAction(const QString& name) const override
+    {
+        return Keys().contains(name) ? QStringList(QKeySequence(Keys().value(name)).toString())
+                                     : SliderAccessible::keyBindingsForAction(name);
+    }
+
+private:
+    // A frame and a large tick forth and back.
+    static QMap<QString, Qt::Key> Keys()
+    {
+        return {{increaseAction(), Qt::Key_Right},
+                {decreaseAction(), Qt::Key_Left},
+                {nextPageAction(), Qt::Key_PageDown},
+                {previousPageAction(), Qt::Key_PageUp}};
+    }
+
+    const TimelineRuler* m_ruler;
+    TimelineViewRuler* m_view;
+};
+
 // The toolkit asks for each class of an object's line in turn.
 static QAccessibleInterface* MakeInterface(const QString& className, QObject* object)
 {
@@ -221,6 +288,14 @@ static QAccessibleInterface* MakeInterface(const QString& className, QObject* ob
     if (className == QLatin1String("ScaleUnitSlider")) {
         auto* slider = static_cast<ScaleUnitSlider*>(object);
         return new ToolBarSliderAccessible(slider, slider->findChild<ToolBarSlider*>());
+    }
+    if (className == QLatin1String("TimelineRuler")) {
+        auto* ruler = static_cast<TimelineRuler*>(object);
+        return new RulerAccessible(ruler, ruler, ruler->findChild<TimelineViewRuler*>());
+    }
+    if (className == QLatin1String("TimelineViewRuler")) {
+        auto* view = static_cast<TimelineViewRuler*>(object);
+        return new RulerAccessible(view, static_cast<TimelineRuler*>(view->parentWidget()), view);
     }
     return nullptr;
 }

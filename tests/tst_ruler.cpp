@@ -3,6 +3,7 @@
 #include "CommonLib/TimelineRuler.h"
 #include "tests/support/TestFonts.h"
 
+#include <QAccessible>
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QLayout>
@@ -801,6 +802,67 @@ private slots:
         ruler.SetCurrentFrames(0);
         QTest::keyClick(ruler.view, Qt::Key_End);
         QVERIFY(ruler.Frames2PositionF(99999) > 0 && ruler.Frames2PositionF(99999) < kWidth);
+    }
+
+    void keyboardFocusShows()
+    {
+        QWidget window;
+        Ruler ruler(&window);
+        ruler.setStyleSheet("QWidget { background: white; selection-background-color: magenta }");
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        for (const auto reason : {Qt::MouseFocusReason, Qt::TabFocusReason}) {
+            ruler.setFocus(reason);
+            QVERIFY(ruler.hasFocus());
+            const QImage image = ruler.Picture(1.5);
+            const bool shows = reason == Qt::TabFocusReason;
+            QCOMPARE(Columns(image, 20, Qt::magenta),
+                     shows ? QVector<int>({0, 1, 598, 599}) : QVector<int>());
+            QCOMPARE(Columns(image, 41, Qt::magenta).size(), shows ? 600 : 0);
+            ruler.view->clearFocus();
+            QVERIFY(Columns(ruler.Picture(), 0, Qt::magenta).isEmpty());
+        }
+    }
+
+    void assistiveTools()
+    {
+        Ruler ruler;
+        ruler.SetZoom(120);
+        ruler.SetTotalFrames(100);
+        ruler.SetCurrentFrames(30);
+        for (QWidget* widget : {static_cast<QWidget*>(&ruler), ruler.view}) {
+            ruler.setAccessibleName({});
+            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+            QCOMPARE(accessible->role(), QAccessible::Slider);
+            QCOMPARE(accessible->text(QAccessible::Name), QString("Ruler"));
+            ruler.setAccessibleName("Time");
+            QCOMPARE(accessible->text(QAccessible::Name), QString("Time"));
+            QCOMPARE(accessible->text(QAccessible::Value), QString("00:00:01:05"));
+            QAccessibleValueInterface* value = accessible->valueInterface();
+            QCOMPARE(value->currentValue().toInt(), 30);
+            QCOMPARE(value->minimumValue().toInt(), 0);
+            QCOMPARE(value->maximumValue().toInt(), 99);
+            value->setCurrentValue(40.0);
+            QAccessibleActionInterface* actions = accessible->actionInterface();
+            const QStringList names{actions->increaseAction(), actions->nextPageAction(),
+                                    actions->decreaseAction(), actions->previousPageAction()};
+            for (const QString& name : names) {
+                QVERIFY(actions->actionNames().contains(name));
+                actions->doAction(name);
+            }
+            value->setCurrentValue(1000);
+            ruler.setEnabled(false);
+            value->setCurrentValue(30);
+            actions->doAction(names.first());
+            QVERIFY(!actions->actionNames().contains(names.first()));
+            ruler.setEnabled(true);
+            QCOMPARE(ruler.TakeLog(), QString("start 40 end start 41 end start 46 end start 45 end "
+                                              "start 40 end start 99 offset65 end"));
+            ruler.SetCurrentFrames(30);
+            ruler.SetOffsetFrames(0);
+            ruler.SetOffsetPosition(0);
+        }
     }
 
     void otherButtons()

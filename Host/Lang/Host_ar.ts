@@ -763,4 +763,11 @@
         <translation>عمودي</translation>
     </message>
 </context>
+<context>
+    <name>TimelineRuler</name>
+    <message>
+        <source>Ruler</source>
+        <translation>المسطرة</translation>
+    </message>
+</context>
 </TS>

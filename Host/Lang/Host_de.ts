@@ -751,4 +751,11 @@
         <translation>Senkrecht</translation>
     </message>
 </context>
+<context>
+    <name>TimelineRuler</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Lineal</translation>
+    </message>
+</context>
 </TS>

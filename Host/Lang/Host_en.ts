@@ -751,4 +751,11 @@
         <translation>Upright</translation>
     </message>
 </context>
+<context>
+    <name>TimelineRuler</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Ruler</translation>
+    </message>
+</context>
 </TS>

@@ -748,4 +748,11 @@
         <translation>Tegak</translation>
     </message>
 </context>
+<context>
+    <name>TimelineRuler</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Penggaris</translation>
+    </message>
+</context>
 </TS>

@@ -751,4 +751,11 @@
         <translation>Verticale</translation>
     </message>
 </context>
+<context>
+    <name>TimelineRuler</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Righello</translation>
+    </message>
+</context>
 </TS>

@@ -748,4 +748,11 @@
         <translation>縦</translation>
     </message>
 </context>
+<context>
+    <name>TimelineRuler</name>
+    <message>
+        <source>Ruler</source>
+        <translation>ルーラー</translation>
+    </message>
+</context>
 </TS>

@@ -748,4 +748,11 @@
         <translation>세로</translation>
     </message>
 </context>
+<context>
+    <name>TimelineRuler</name>
+    <message>
+        <source>Ruler</source>
+        <translation>눈금자</translation>
+    </message>
+</context>
 </TS>

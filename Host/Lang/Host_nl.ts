@@ -751,4 +751,11 @@
         <translation>Rechtop</translation>
     </message>
 </context>
+<context>
+    <name>TimelineRuler</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Liniaal</translation>
+    </message>
+</context>
 </TS>

@@ -754,4 +754,11 @@
         <translation>Pionowo</translation>
     </message>
 </context>
+<context>
+    <name>TimelineRuler</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Linijka</translation>
+    </message>
+</context>
 </TS>

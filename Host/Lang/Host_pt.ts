@@ -751,4 +751,11 @@
         <translation>Vertical</translation>
     </message>
 </context>
+<context>
+    <name>TimelineRuler</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Régua</translation>
+    </message>
+</context>
 </TS>

@@ -754,4 +754,11 @@
         <translation>Vertical</translation>
     </message>
 </context>
+<context>
+    <name>TimelineRuler</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Riglă</translation>
+    </message>
+</context>
 </TS>

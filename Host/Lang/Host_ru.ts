@@ -754,4 +754,11 @@
         <translation>Вертикально</translation>
     </message>
 </context>
+<context>
+    <name>TimelineRuler</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Линейка</translation>
+    </message>
+</context>
 </TS>

@@ -751,4 +751,11 @@
         <translation>Lodrät</translation>
     </message>
 </context>
+<context>
+    <name>TimelineRuler</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Linjal</translation>
+    </message>
+</context>
 </TS>

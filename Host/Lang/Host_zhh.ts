@@ -748,4 +748,11 @@
         <translation>直立</translation>
     </message>
 </context>
+<context>
+    <name>TimelineRuler</name>
+    <message>
+        <source>Ruler</source>
+        <translation>尺規</translation>
+    </message>
+</context>
 </TS>
