@@ -45,12 +45,12 @@ public:
     /// as intended.
     bool GetDragEnabled() const;
 
-    /// Pixels that must be exceeded before a step is made; 1 each by default. The move after the one
-    /// that exceeds them makes the step, in its own direction.
+    /// Pixels that must be exceeded before a step is made; 1 each by default. The move after the
+    /// one that exceeds them makes the step, in its own direction.
     ///
-    /// The step distance counts anew once 5 pixels are exceeded. Set above 5 it is therefore a speed:
-    /// a slow motion makes no steps, only one in which a single move leads beyond it. The fast and
-    /// the slow distance may be of any length.
+    /// The step distance counts anew once 5 pixels are exceeded. Set above 5 it is therefore a
+    /// speed: a slow motion makes no steps, only one in which a single move leads beyond it. The
+    /// fast and the slow distance may be of any length.
     void SetFastDistance(int pixels);
     int GetFastDistance() const;
     void SetSlowDistance(int pixels);
