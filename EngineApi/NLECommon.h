@@ -9,6 +9,32 @@
 /// Functions that engine and library count with alike.
 namespace NLECommon {
 
+/// Whether a frame rate can be counted with.
+constexpr bool IsRate(const NLERational& rate)
+{
+    return rate.num > 0 && rate.den > 0;
+}
+
+/// The fraction's value; 0 when the denominator is 0.
+constexpr double ToDouble(const NLERational& value)
+{
+    return value.den == 0 ? 0.0 : double(value.num) / double(value.den);
+}
+
+/// Frames a second as the engine carries them: millionths, trunc(rate * 1000000 + 0.5). 0 for what
+/// is not finite; the nearest that 64 bits hold for what is beyond.
+inline NLERational RateToRational(double rate)
+{
+    constexpr std::int64_t millionths = 1000000;
+    constexpr double furthest = 9.2e18;
+    const double count = rate * millionths + 0.5;
+    if (!std::isfinite(count))
+        return {0, millionths};
+    if (count >= furthest || count <= -furthest)
+        return {count > 0 ? INT64_MAX : INT64_MIN, millionths};
+    return {static_cast<std::int64_t>(count), millionths};
+}
+
 /// Places on a clip's key-frame axis: 0 is the start of the clip's first frame, 1 the end of its
 /// last. A frame is numbered from 0 at the in point.
 namespace KeyFrame {

@@ -6,7 +6,7 @@
 #include "Com/NLEComPtr.h"
 #include "CommonLib/WideText_p.h"
 #include "EngineApi/INLETimeline.h"
-#include "EngineApi/NLETypes.h"
+#include "EngineApi/NLECommon.h"
 
 #include <cmath>
 #include <cstdint>
@@ -81,17 +81,8 @@ Integer ToInteger(double value)
     return static_cast<Integer>(value);
 }
 
-/// Frames a second as the engine carries them: millionths. 0 for a rate that is not finite.
-inline NLERational RateToRational(double rate)
-{
-    constexpr std::int64_t Millionths = 1000000;
-    return {ToInteger<std::int64_t>(rate * Millionths + 0.5), Millionths};
-}
-
-/// The fraction's value; 0 when the denominator is 0.
+/// As NLECommon::ToDouble(), in the library's precision.
 inline float RationalToFloat(const NLERational& value)
 {
-    if (value.den == 0)
-        return 0;
-    return static_cast<float>(static_cast<double>(value.num) / static_cast<double>(value.den));
+    return static_cast<float>(NLECommon::ToDouble(value));
 }

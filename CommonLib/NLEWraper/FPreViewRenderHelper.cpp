@@ -283,7 +283,7 @@ void FPreViewRenderHelper::SetTimelineQuality(double quality)
     if (!self)
         return;
     if (INLEBackgroundCacheQualitySet* setting = EnsurePart(m_qualitySet))
-        setting->SetQuality(RateToRational(quality));
+        setting->SetQuality(NLECommon::RateToRational(quality));
     delayedAsyncUpdate();
 }
 

@@ -130,7 +130,7 @@ QColor NLETimeline::GetRenderBackgroundColor() const
 
 void NLETimeline::SetRenderFrameRate(float rate)
 {
-    EngineSet(m_timeline.get(), &INLETimeline::SetRenderFrameRate, RateToRational(rate));
+    EngineSet(m_timeline.get(), &INLETimeline::SetRenderFrameRate, NLECommon::RateToRational(rate));
 }
 
 float NLETimeline::GetRenderFrameRate() const
@@ -170,5 +170,5 @@ float NLETimeline::GetProjectFps() const
 
 void NLETimeline::SetProjectFps(float fps)
 {
-    WriteProfile(GetProjectSetting().get(), &tagNLEProjectProfile::frameRate, RateToRational(fps));
+    WriteProfile(GetProjectSetting().get(), &tagNLEProjectProfile::frameRate, NLECommon::RateToRational(fps));
 }

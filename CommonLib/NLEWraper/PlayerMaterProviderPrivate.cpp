@@ -145,7 +145,7 @@ void PlayerMaterProviderPrivate::SetTimelineFrameRate(const NLEComPtr<INLETimeli
                                                       int framesPerSecond)
 {
     if (const auto properties = NLEGetProperties(timeline.get()))
-        properties->SetRational(NLEKey::Render::kRender_Framerate, RateToRational(framesPerSecond));
+        properties->SetRational(NLEKey::Render::kRender_Framerate, NLECommon::RateToRational(framesPerSecond));
 }
 
 int PlayerMaterProviderPrivate::GetTimelineLength(const NLEComPtr<INLETimeline>& timeline)

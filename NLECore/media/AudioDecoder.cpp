@@ -417,7 +417,7 @@ int AudioDecoder::Private::Read(int64_t first, int count, int newRate, int newCh
 
 bool AudioDecoder::Private::Start(QString* error)
 {
-    file = MediaFile::OpenStream(*info, streamIndex, StreamType::Audio, error);
+    file = MediaFile::OpenStream(*info, streamIndex, NLEStream_Audio, error);
     if (!file)
         return false;
     stream = file->Context()->streams[streamIndex];

@@ -397,7 +397,7 @@ void FrameDecoder::Private::NoteEnd()
 
 bool FrameDecoder::Private::Start(QString* error)
 {
-    file = MediaFile::OpenStream(*info, streamIndex, StreamType::Video, error);
+    file = MediaFile::OpenStream(*info, streamIndex, NLEStream_Video, error);
     if (!file)
         return false;
     stream = file->Context()->streams[streamIndex];
@@ -408,7 +408,7 @@ bool FrameDecoder::Private::Start(QString* error)
     startTicks = description.startTicks;
     if (!file->Matches(*info) && stream->start_time != AV_NOPTS_VALUE)
         startTicks = stream->start_time;
-    isStill = info->kind == MediaKind::Image;
+    isStill = info->kind == NLEMedia_Image;
     canSkip = MarksUnreferenced(stream->codecpar->codec_id);
     if (!isStill)
         FindFirstPicture();

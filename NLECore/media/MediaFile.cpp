@@ -142,8 +142,8 @@ std::unique_ptr<MediaFile> MediaFile::Open(const QString& path, Streams streams,
     return file;
 }
 
-std::unique_ptr<MediaFile> MediaFile::OpenStream(const MediaInfo& info, int stream, StreamType type,
-                                                 QString* error)
+std::unique_ptr<MediaFile> MediaFile::OpenStream(const MediaInfo& info, int stream,
+                                                 NLEStreamType type, QString* error)
 {
     std::unique_ptr<MediaFile> file = Open(info.path, Streams::AsDeclared, error);
     if (!file)
@@ -165,7 +165,7 @@ std::unique_ptr<MediaFile> MediaFile::OpenStream(const MediaInfo& info, int stre
     }
     const MediaStream* const known = info.Stream(stream);
     AVCodecParameters* const codec = context->streams[stream]->codecpar;
-    const bool isPicture = type == StreamType::Video;
+    const bool isPicture = type == NLEStream_Video;
     const AVMediaType wanted = isPicture ? AVMEDIA_TYPE_VIDEO : AVMEDIA_TYPE_AUDIO;
     if (known == nullptr || known->type != type || codec->codec_type != wanted) {
         SetError(error, info.path,

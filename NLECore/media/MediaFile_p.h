@@ -56,8 +56,8 @@ public:
     static std::unique_ptr<MediaFile> Open(const QString& path, Streams streams, QString* error);
     /// Opens the file of \a info for reading \a stream alone, which must be of \a type, Video or
     /// Audio; examined only where it must be. Null on failure.
-    static std::unique_ptr<MediaFile> OpenStream(const MediaInfo& info, int stream, StreamType type,
-                                                 QString* error);
+    static std::unique_ptr<MediaFile> OpenStream(const MediaInfo& info, int stream,
+                                                 NLEStreamType type, QString* error);
     ~MediaFile();
     MediaFile(const MediaFile&) = delete;
     MediaFile& operator=(const MediaFile&) = delete;

@@ -19,7 +19,7 @@ namespace nle {
 namespace {
 
 constexpr AVRational Microseconds{1, 1000000};
-constexpr Rational StillRate{25, 1};
+constexpr NLERational StillRate = {25, 1};
 
 // Rates that containers with coarse clocks only come close to.
 constexpr AVRational StandardRates[] = {{24000, 1001}, {24, 1},        {25, 1}, {30000, 1001},
@@ -128,23 +128,23 @@ bool HoldsOnePicture(MediaFile& file)
     return pictures < 2;
 }
 
-StreamType TypeOf(const AVStream* stream)
+NLEStreamType TypeOf(const AVStream* stream)
 {
     const AVCodecParameters* const codec = stream->codecpar;
     const bool hasDecoder = FindDecoder(stream) != nullptr;
     switch (codec->codec_type) {
     case AVMEDIA_TYPE_UNKNOWN:
-        return StreamType::Unknown;
+        return NLEStream_Unknown;
     case AVMEDIA_TYPE_VIDEO:
         if ((stream->disposition & AV_DISPOSITION_ATTACHED_PIC) != 0 || !hasDecoder)
-            return StreamType::Other;
-        return codec->width > 0 && codec->height > 0 ? StreamType::Video : StreamType::Other;
+            return NLEStream_Other;
+        return codec->width > 0 && codec->height > 0 ? NLEStream_Video : NLEStream_Other;
     case AVMEDIA_TYPE_AUDIO:
         return hasDecoder && codec->sample_rate > 0 && codec->ch_layout.nb_channels > 0
-                   ? StreamType::Audio
-                   : StreamType::Other;
+                   ? NLEStream_Audio
+                   : NLEStream_Other;
     default:
-        return StreamType::Other;
+        return NLEStream_Other;
     }
 }
 
@@ -232,9 +232,9 @@ MediaStream Describe(const MediaFile& file, const AVStream* stream, const QStrin
         result.profileName = profile;
     result.durationUs = DurationUs(file.Context(), stream);
     result.startTicks = StartTicks(stream);
-    if (result.type == StreamType::Video)
+    if (result.type == NLEStream_Video)
         DescribePicture(file, stream, path, &result);
-    if (result.type == StreamType::Audio) {
+    if (result.type == NLEStream_Audio) {
         result.sampleRate = codec->sample_rate;
         result.channels = codec->ch_layout.nb_channels;
         // The shortest frame of Opus lasts 2.5 ms; it does not say more.
@@ -264,7 +264,7 @@ void MeasureStream(MediaFile& file, int index, MediaStream* stream)
 }
 
 // The stream that a player would choose: marked as default, then the largest, then the first.
-int PreferredStream(const AVFormatContext* context, const MediaInfo& info, StreamType type)
+int PreferredStream(const AVFormatContext* context, const MediaInfo& info, NLEStreamType type)
 {
     int best = -1;
     int64_t bestRank = -1;
@@ -274,7 +274,7 @@ int PreferredStream(const AVFormatContext* context, const MediaInfo& info, Strea
             continue;
         const bool isDefault = (context->streams[i]->disposition & AV_DISPOSITION_DEFAULT) != 0;
         const int64_t size =
-            type == StreamType::Video ? int64_t(stream.width) * stream.height : stream.channels;
+            type == NLEStream_Video ? int64_t(stream.width) * stream.height : stream.channels;
         const int64_t rank = size + (isDefault ? int64_t(1) << 40 : 0);
         if (rank > bestRank) {
             best = i;
@@ -284,7 +284,7 @@ int PreferredStream(const AVFormatContext* context, const MediaInfo& info, Strea
     return best;
 }
 
-uint32_t CountFrames(int64_t durationUs, const Rational& rate)
+uint32_t CountFrames(int64_t durationUs, const NLERational& rate)
 {
     const int64_t count = av_rescale_q(durationUs, Microseconds, {int(rate.den), int(rate.num)});
     return uint32_t(std::clamp<int64_t>(count, 0, INT32_MAX));
@@ -344,7 +344,7 @@ void MakeStill(MediaInfo* info)
     stream.frameRate = StillRate;
     stream.durationUs = 1000000 * StillRate.den / StillRate.num;
     stream.frameCount = 1;
-    info->kind = MediaKind::Image;
+    info->kind = NLEMedia_Image;
     info->frameCount = 1;
     info->frameRate = StillRate;
     info->durationUs = stream.durationUs;
@@ -355,12 +355,12 @@ void MakeVideo(MediaFile& file, MediaInfo* info)
     const AVFormatContext* const context = file.Context();
     for (unsigned i = 0; i < context->nb_streams; ++i) {
         MediaStream& stream = info->streams[i];
-        if (stream.type == StreamType::Video)
+        if (stream.type == NLEStream_Video)
             stream.frameCount = CountFrames(file, context->streams[i], stream);
     }
     const MediaStream& stream = info->streams[size_t(info->videoStream)];
     const AVStream* const source = context->streams[info->videoStream];
-    info->kind = MediaKind::Video;
+    info->kind = NLEMedia_Video;
     info->frameRate = stream.frameRate;
     info->frameCount = std::max(1U, stream.frameCount);
     info->originUs = StartUs(source);
@@ -371,7 +371,7 @@ void MakeVideo(MediaFile& file, MediaInfo* info)
 void MakeAudio(const AVFormatContext* context, MediaInfo* info)
 {
     const MediaStream& stream = info->streams[size_t(info->audioStream)];
-    info->kind = MediaKind::Audio;
+    info->kind = NLEMedia_Audio;
     info->frameRate = StillRate;
     info->durationUs = stream.durationUs;
     // Before time 0 some containers keep what an encoder needs to settle; it is not played.
@@ -394,8 +394,8 @@ std::shared_ptr<const MediaInfo> ProbeMedia(const QString& path, QString* error)
     info->stamp = file->Stamp();
     for (unsigned i = 0; i < context->nb_streams; ++i)
         info->streams.push_back(Describe(*file, context->streams[i], path));
-    info->videoStream = PreferredStream(context, *info, StreamType::Video);
-    info->audioStream = PreferredStream(context, *info, StreamType::Audio);
+    info->videoStream = PreferredStream(context, *info, NLEStream_Video);
+    info->audioStream = PreferredStream(context, *info, NLEStream_Audio);
     if (info->videoStream < 0 && info->audioStream < 0) {
         SetError(error, path, QStringLiteral(": no picture or sound in it"));
         return nullptr;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "EngineApi/NLECommon.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -10,44 +12,11 @@
 
 namespace nle {
 
-/// Exact fraction; a rate in pictures per second or an aspect ratio.
-struct Rational
-{
-    int64_t num = 0;
-    int64_t den = 1;
-
-    /// The value as a floating-point number; 0 when the denominator is 0.
-    double ToDouble() const { return den != 0 ? double(num) / double(den) : 0.0; }
-    friend bool operator==(const Rational& a, const Rational& b)
-    {
-        return a.num * b.den == b.num * a.den;
-    }
-    friend bool operator!=(const Rational& a, const Rational& b) { return !(a == b); }
-};
-
-/// Kind of one stream. Attached cover pictures are Other.
-enum class StreamType : int32_t
-{
-    Unknown = 0,
-    Other = 1,
-    Video = 2,
-    Audio = 3
-};
-
-/// What a file is used as. A still picture is Image; a file with a cover picture and sound is
-/// Audio.
-enum class MediaKind : int32_t
-{
-    Offline = 0,
-    Video = 1,
-    Audio = 2,
-    Image = 3
-};
-
 /// One stream of a file. Fields that do not apply to its type keep their presets.
 struct MediaStream
 {
-    StreamType type = StreamType::Unknown;
+    /// Attached cover pictures are NLEStream_Other.
+    NLEStreamType type = NLEStream_Unknown;
     /// Pixels as displayed, that is after the rotation; the sample aspect is not applied.
     int width = 0;
     int height = 0;
@@ -56,9 +25,9 @@ struct MediaStream
     /// The coded picture is mirrored left to right before it is turned.
     bool mirrored = false;
     bool hasAlpha = false;
-    Rational frameRate;
+    NLERational frameRate = {0, 1};
     /// Width to height of one displayed pixel; 1/1 when the file does not say.
-    Rational sampleAspect{1, 1};
+    NLERational sampleAspect = {1, 1};
     int sampleRate = 0;
     int channels = 0;
     /// Each coded frame holds a multiple of so many samples; 0 when unknown.
@@ -101,7 +70,9 @@ struct FileStamp
 struct MediaInfo
 {
     QString path;
-    MediaKind kind = MediaKind::Offline;
+    /// What the file is used as: a still picture is an image, a file with a cover picture and sound
+    /// is audio.
+    NLEMediaKind kind = NLEMedia_Offline;
     std::vector<MediaStream> streams;
     /// Indexes of the preferred streams in streams; -1 when there is none.
     int videoStream = -1;
@@ -109,7 +80,7 @@ struct MediaInfo
     /// Number of frames at frameRate; 1 for a still picture.
     uint32_t frameCount = 0;
     /// Rate of the video stream; 25/1 for sound and still pictures.
-    Rational frameRate{25, 1};
+    NLERational frameRate = {25, 1};
     int64_t durationUs = 0;
     /// Time in the container, in microseconds, that counts as the beginning: the start of the
     /// video stream, or of the audio stream when there is no picture. Sound and pictures are both

@@ -14,9 +14,9 @@ namespace nle {
 /// What a media file is to hold.
 struct WriterSettings
 {
-    QSize size;         ///< of the pictures; both sides even; empty for sound alone
-    Rational frameRate; ///< pictures a second
-    int quality = 20;   ///< constant rate factor, 1 (best) to 51
+    QSize size;                     ///< of the pictures; both sides even; empty for sound alone
+    NLERational frameRate = {0, 1}; ///< pictures a second
+    int quality = 20;               ///< constant rate factor, 1 (best) to 51
     bool hasSound = false;
     int sampleRate = 48000;
     int channels = 2;

@@ -3,7 +3,7 @@
 
 #include "Com/ComGuard.h"
 #include "EngineApi/NLEKey.h"
-#include "NLECore/objects/BackgroundCache.h"
+#include "NLECore/render/CachedFrames.h"
 #include "NLECore/scene/FrameMath.h"
 
 #include <algorithm>
@@ -108,6 +108,8 @@ void AppendRecursively(const CompositeNode& from, std::vector<NLEComPtr<Timeline
 
 } // namespace
 
+MakeCompositeCache CompositeNode::s_makeCache = nullptr;
+
 const tagNLEProjectProfile kDefaultProfile = {
     kDefaultSize, {25000000, 1000000}, 48000, 2, kSampleFormatFloat};
 
@@ -127,10 +129,10 @@ CompositeNode::~CompositeNode()
 HRESULT CompositeNode::GetInterface(REFIID iid, void** out, int reserved1, int reserved2)
 {
     return ComGuard([&] {
-        if (iid != INLEBackgroundCache::Iid)
+        if (iid != INLEBackgroundCache::Iid || !s_makeCache)
             return ComExtension::GetInterface(iid, out, reserved1, reserved2);
         if (!m_cache)
-            m_cache = MakeCom<BackgroundCache>(*this);
+            m_cache = s_makeCache([this] { return MakeSnapshot(); });
         return m_cache->QueryInterface(iid, out);
     });
 }
@@ -228,7 +230,7 @@ void CompositeNode::ChangeRate(const NLERational& rate)
     const NLERational old = FrameRate();
     TimelineNode::ChangeRate(rate);
     for (const NLEComPtr<TimelineNode>& clip : m_clips) {
-        clip->SetPosition(RescaleFrame(clip->Position(), old, rate));
+        clip->SetPosition(FrameTime{double(clip->Position()), old}.NearestAt(rate));
         clip->ChangeRate(rate);
     }
 }

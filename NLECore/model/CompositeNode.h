@@ -2,6 +2,7 @@
 #pragma once
 
 #include "EngineApi/INLEFactory.h"
+#include "NLECore/model/CompositeCache.h"
 #include "NLECore/model/TimelineNode.h"
 
 #include <vector>
@@ -14,15 +15,14 @@ constexpr int kDeepestNesting = 64;
 /// 1920 × 1080, 25 frames a second, 48,000 stereo samples a second as 32-bit floats.
 extern const tagNLEProjectProfile kDefaultProfile;
 
-class BackgroundCache;
-class CachedFrames;
-
 /// A node that holds clips. Without a size of its own it takes its parent's.
 class CompositeNode
     : public ComExtension<TimelineNode, INLETimelineComposite, INLETimelineCompositeEx>
 {
 public:
     explicit CompositeNode(const NLERational& frameRate);
+    /// How the caches of all composites are made. Without it they have none.
+    static void SetCacheMaker(MakeCompositeCache make) { s_makeCache = make; }
 
     /// Answers the background cache as well, which is made when it is first asked for.
     HRESULT GetInterface(REFIID iid, void** out, int reserved1, int reserved2) override;
@@ -64,7 +64,8 @@ private:
     int DepthFromTop() const;
 
     NLESize m_size;
-    NLEComPtr<BackgroundCache> m_cache;
+    static MakeCompositeCache s_makeCache;
+    NLEComPtr<CompositeCache> m_cache;
 
     std::vector<NLEComPtr<TimelineNode>> m_clips;
 };

@@ -21,33 +21,14 @@ inline const QLatin1String kOwnPrefix("nle:");
 inline const QLatin1String kExactPrefix("nle:exact:");
 inline const QLatin1String kKind("nle:kind");
 inline const QLatin1String kOrder("nle:order");
-inline const QLatin1String kPosition("nle:position");
-inline const QLatin1String kLevel("nle:level");
 inline const QLatin1String kRange("nle:range");
 inline const QLatin1String kRate("nle:rate");
-inline const QLatin1String kMargin("nle:margin");
-inline const QLatin1String kEnabled("nle:enabled");
 inline const QLatin1String kSize("nle:size");
 inline const QLatin1String kAudio("nle:audio");
 inline const QLatin1String kDecoder("nle:decoder");
 inline const QLatin1String kBagPrefix("nle:bag:");
 /// Followed by the key of a project's context.
 inline const QLatin1String kContextPrefix("nle:context:");
-inline const QLatin1String kBlend("nle:blend");
-inline const QLatin1String kTransform("nle:transform");
-inline const QLatin1String kSoundLevels("nle:sound:levels");
-inline const QLatin1String kSoundFades("nle:sound:fades");
-inline const QLatin1String kSoundEffects("nle:sound:effects");
-inline const QLatin1String kSoundEqualizer("nle:sound:equalizer");
-inline const QLatin1String kSoundEqualizerName("nle:sound:equalizer-name");
-inline const QLatin1String kSoundCurve("nle:sound:curve");
-inline const QLatin1String kKeyFrames("nle:key-frames");
-inline const QLatin1String kAlphaChannel("nle:alpha-channel");
-inline const QLatin1String kProxy("nle:proxy");
-inline const QLatin1String kProxyEnabled("nle:proxy-enabled");
-inline const QLatin1String kPremultiplied("nle:premultiplied");
-/// Followed by the level of the track.
-inline const QLatin1String kMixerPrefix("nle:mixer:");
 
 inline const QLatin1String kProject("project");
 inline const QLatin1String kComposite("composite");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/DocumentReader.h"
 
+#include "NLECore/model/DocumentText.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/SettingsText.h"
 #include "NLECore/model/SourceNodes.h"
@@ -229,7 +230,8 @@ QStringList DocumentReader::MediaNames(const QString& root) const
             continue;
         if (!HoldsClips(service->element))
             names << MediaName(service->properties);
-        names << service->properties.value(kProxy);
+        for (const QString& name : MediaInSettings(service->properties))
+            names << name;
         for (const Item& item : service->items) {
             if (!seen.contains(item.producer))
                 open << item.producer;
@@ -411,15 +413,6 @@ void DocumentReader::ApplyCommon(const Properties& properties, TimelineNode& nod
     // A composite was made with its rate, and its clips were saved at that rate.
     if (IsRate(rate) && !dynamic_cast<CompositeNode*>(&node))
         node.ChangeRate(rate);
-    bool hasRange = false;
-    const auto range = ParsePair(properties.value(kRange), &hasRange);
-    const NLERange trimmed = {range.first, range.second};
-    if (hasRange)
-        node.SetRange(&trimmed);
-    node.SetPosition(properties.value(kPosition).toInt());
-    node.SetLevel(properties.value(kLevel).toInt());
-    node.SetMarginMode(tagNLEMarginMode(properties.value(kMargin).toInt()));
-    node.SetEnabled(properties.value(kEnabled, QStringLiteral("1")).toInt() != 0);
     SettingsFromText(
         properties, [this](const QString& name) { return m_media.value(name); }, node);
     node.Bag().SetAll(ReadValues(properties, kBagPrefix));

@@ -3,6 +3,7 @@
 
 #include "EngineApi/NLEKey.h"
 #include "NLECore/model/DocumentFormat.h"
+#include "NLECore/model/DocumentText.h"
 #include "NLECore/model/MotionFilters.h"
 #include "NLECore/model/SettingsText.h"
 #include "NLECore/scene/FrameMath.h"
@@ -125,7 +126,7 @@ void DocumentWriter::WriteProducer(const QString& id, const TimelineNode& node, 
 
 void DocumentWriter::WriteMedia(const MediaClip& clip)
 {
-    const bool still = clip.Media().kind == MediaKind::Image;
+    const bool still = clip.Media().kind == NLEMedia_Image;
     Property(QStringLiteral("mlt_service"),
              still ? QStringLiteral("qimage") : QStringLiteral("avformat"));
     Property(QStringLiteral("resource"), DocumentPath(clip.Media().path, m_folder));
@@ -136,13 +137,7 @@ void DocumentWriter::WriteCommon(const TimelineNode& node, QLatin1String kind, i
 {
     Property(kKind, kind);
     Property(kOrder, QString::number(order));
-    Property(kPosition, QString::number(node.Position()));
-    Number(kLevel, node.Level(), 0);
-    if (node.HasOwnRange())
-        Property(kRange, QStringLiteral("%1 %2").arg(node.Range().in).arg(node.Range().out));
     Property(kRate, Fraction(node.FrameRate()));
-    Number(kMargin, node.MarginMode(), NLEMargin_Fit);
-    Number(kEnabled, node.IsEnabled(), 1);
     // A file says itself how large it is.
     if (kind != kMedia)
         Property(

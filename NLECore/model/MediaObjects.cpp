@@ -12,11 +12,6 @@ namespace nle {
 
 namespace {
 
-NLERational ToEngine(const Rational& rational)
-{
-    return {rational.num, rational.den};
-}
-
 NLEStreamInfo ToEngine(const MediaStream& stream)
 {
     NLEStreamInfo info = {};
@@ -24,8 +19,8 @@ NLEStreamInfo ToEngine(const MediaStream& stream)
     info.width = stream.width;
     info.height = stream.height;
     info.rotation = stream.rotation;
-    info.frameRate = ToEngine(stream.frameRate);
-    info.pixelAspect = ToEngine(stream.sampleAspect);
+    info.frameRate = stream.frameRate;
+    info.pixelAspect = stream.sampleAspect;
     info.sampleRate = stream.sampleRate;
     info.channels = stream.channels;
     info.sampleFormat = stream.sampleFormat;
@@ -126,7 +121,7 @@ HRESULT MediaInfoObject::GetFrameCountAndRate(std::uint32_t* count, NLERational*
     if (!count || !rate)
         return E_POINTER;
     *count = m_media->frameCount;
-    *rate = ToEngine(m_media->frameRate);
+    *rate = m_media->frameRate;
     return S_OK;
 }
 

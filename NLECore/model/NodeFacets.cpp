@@ -13,33 +13,18 @@ namespace nle {
 
 namespace {
 
-constexpr int kMostSemitones = 24;
-constexpr int kMostDenoise = 97;
-constexpr double kMostVolume = 16;
-constexpr double kMostEqualizerGain = 40;
-
-template <typename T>
-HRESULT Take(T& field, const T& value)
+/// Sets the field \a Member; E_INVALIDARG for a value that it does not accept.
+template <auto Member, typename Settings, typename Value>
+HRESULT Take(Settings& settings, const Value& value)
 {
-    field = value;
-    return S_OK;
-}
-
-/// Takes a number from \a lowest to \a highest; what is not a number lies in no range.
-template <typename T>
-HRESULT TakeWithin(T& field, T value, T lowest, T highest)
-{
-    if (!(value >= lowest && value <= highest))
-        return E_INVALIDARG;
-    field = value;
-    return S_OK;
+    return SetField<Member>(settings, value) ? S_OK : E_INVALIDARG;
 }
 
 } // namespace
 
 HRESULT BlendFacet::SetEnable(bool enable)
 {
-    return Take(settings.enabled, enable);
+    return Take<&BlendSettings::enabled>(settings, enable);
 }
 
 HRESULT BlendFacet::GetEnable(bool* enable)
@@ -54,9 +39,7 @@ HRESULT BlendFacet::GetMode(int* mode)
 
 HRESULT BlendFacet::SetMode(int mode)
 {
-    if (mode < 0 || mode >= kBlendModes)
-        return E_INVALIDARG;
-    return Take(settings.mode, BlendMode(mode));
+    return Take<&BlendSettings::mode>(settings, BlendMode(mode));
 }
 
 HRESULT BlendFacet::GetAlpha(int* alpha)
@@ -66,12 +49,12 @@ HRESULT BlendFacet::GetAlpha(int* alpha)
 
 HRESULT BlendFacet::SetAlpha(int alpha)
 {
-    return TakeWithin(settings.alpha, alpha, 0, kOpaqueAlpha);
+    return Take<&BlendSettings::alpha>(settings, alpha);
 }
 
 HRESULT TransformFacet::SetEnable(bool enable)
 {
-    return Take(settings.enabled, enable);
+    return Take<&TransformSettings::enabled>(settings, enable);
 }
 
 HRESULT TransformFacet::GetEnable(bool* enable)
@@ -83,9 +66,7 @@ HRESULT TransformFacet::SetCenter(const NLEPointF* center)
 {
     if (!center)
         return E_POINTER;
-    if (!std::isfinite(center->x) || !std::isfinite(center->y))
-        return E_INVALIDARG;
-    return Take(settings.center, *center);
+    return Take<&TransformSettings::center>(settings, *center);
 }
 
 HRESULT TransformFacet::GetCenter(NLEPointF* center)
@@ -97,9 +78,7 @@ HRESULT TransformFacet::SetScale(const NLESizeF* scale)
 {
     if (!scale)
         return E_POINTER;
-    if (!std::isfinite(scale->width) || !std::isfinite(scale->height))
-        return E_INVALIDARG;
-    return Take(settings.scale, *scale);
+    return Take<&TransformSettings::scale>(settings, *scale);
 }
 
 HRESULT TransformFacet::GetScale(NLESizeF* scale)
@@ -109,7 +88,7 @@ HRESULT TransformFacet::GetScale(NLESizeF* scale)
 
 HRESULT TransformFacet::SetRotation(double degrees)
 {
-    return std::isfinite(degrees) ? Take(settings.rotation, degrees) : E_INVALIDARG;
+    return Take<&TransformSettings::rotation>(settings, degrees);
 }
 
 HRESULT TransformFacet::GetRotation(double* degrees)
@@ -119,7 +98,7 @@ HRESULT TransformFacet::GetRotation(double* degrees)
 
 HRESULT TransformFacet::SetLock(bool lock)
 {
-    return Take(settings.lock, lock);
+    return Take<&TransformSettings::lock>(settings, lock);
 }
 
 class AudioFacet::VolumeCurve final : public ComObject<INLEKeyFrameParam>
@@ -144,16 +123,7 @@ public:
     HRESULT SetPoint(double time, double value) override
     {
         return ComGuard([&] {
-            if (!std::isfinite(time) || !(value >= 0 && value <= kMostVolume))
-                return E_INVALIDARG;
-            auto place = std::lower_bound(
-                Points().begin(), Points().end(), time,
-                [](const VolumePoint& point, double wanted) { return point.time < wanted; });
-            if (place != Points().end() && place->time == time)
-                place->gain = value;
-            else
-                Points().insert(place, {time, value});
-            return S_OK;
+            return PutVolumePoint(Points(), {time, value}) ? S_OK : E_INVALIDARG;
         });
     }
 
@@ -171,7 +141,7 @@ private:
 
 HRESULT AudioFacet::SetPitch(int pitch)
 {
-    return TakeWithin(settings.pitch, pitch, -kMostSemitones, kMostSemitones);
+    return Take<&AudioSettings::pitch>(settings, pitch);
 }
 
 HRESULT AudioFacet::GetPitch(int* pitch)
@@ -181,7 +151,7 @@ HRESULT AudioFacet::GetPitch(int* pitch)
 
 HRESULT AudioFacet::SetDenoiseLevel(int level)
 {
-    return TakeWithin(settings.denoiseLevel, level, 0, kMostDenoise);
+    return Take<&AudioSettings::denoiseLevel>(settings, level);
 }
 
 HRESULT AudioFacet::GetDenoiseLevel(int* level)
@@ -191,7 +161,7 @@ HRESULT AudioFacet::GetDenoiseLevel(int* level)
 
 HRESULT AudioFacet::SetDenoiseEnable(bool enable)
 {
-    return Take(settings.denoise, enable);
+    return Take<&AudioSettings::denoise>(settings, enable);
 }
 
 HRESULT AudioFacet::GetDenoiseEnable(bool* enable)
@@ -201,7 +171,7 @@ HRESULT AudioFacet::GetDenoiseEnable(bool* enable)
 
 HRESULT AudioFacet::SetMixToMonoEnable(bool enable)
 {
-    return Take(settings.mono, enable);
+    return Take<&AudioSettings::mono>(settings, enable);
 }
 
 HRESULT AudioFacet::GetMixToMonoEnable(bool* enable)
@@ -211,7 +181,7 @@ HRESULT AudioFacet::GetMixToMonoEnable(bool* enable)
 
 HRESULT AudioFacet::SetVolumeEnable(bool enable)
 {
-    return Take(settings.volumeEnabled, enable);
+    return Take<&AudioSettings::volumeEnabled>(settings, enable);
 }
 
 HRESULT AudioFacet::GetVolumeEnable(bool* enable)
@@ -221,7 +191,7 @@ HRESULT AudioFacet::GetVolumeEnable(bool* enable)
 
 HRESULT AudioFacet::SetMute(bool mute)
 {
-    return Take(settings.mute, mute);
+    return Take<&AudioSettings::mute>(settings, mute);
 }
 
 HRESULT AudioFacet::GetMute(bool* mute)
@@ -241,7 +211,7 @@ HRESULT AudioFacet::GetVolumeKeyFrameParam(INLEKeyFrameParam** param)
 
 HRESULT AudioFacet::SetVolume(double volume)
 {
-    return TakeWithin(settings.volume, volume, 0.0, kMostVolume);
+    return Take<&AudioSettings::volume>(settings, volume);
 }
 
 HRESULT AudioFacet::GetVolume(double* volume)
@@ -251,7 +221,7 @@ HRESULT AudioFacet::GetVolume(double* volume)
 
 HRESULT AudioFacet::SetBalance(double balance)
 {
-    return TakeWithin(settings.balance, balance, -1.0, 1.0);
+    return Take<&AudioSettings::balance>(settings, balance);
 }
 
 HRESULT AudioFacet::GetBalance(double* balance)
@@ -261,7 +231,7 @@ HRESULT AudioFacet::GetBalance(double* balance)
 
 HRESULT AudioFacet::SetFadeInEnable(bool enable)
 {
-    return Take(settings.fadeIn, enable);
+    return Take<&AudioSettings::fadeIn>(settings, enable);
 }
 
 HRESULT AudioFacet::GetFadeInEnable(bool* enable)
@@ -271,7 +241,7 @@ HRESULT AudioFacet::GetFadeInEnable(bool* enable)
 
 HRESULT AudioFacet::SetFadeInRange(int frames)
 {
-    return TakeWithin(settings.fadeInFrames, frames, 0, INT32_MAX);
+    return Take<&AudioSettings::fadeInFrames>(settings, frames);
 }
 
 HRESULT AudioFacet::GetFadeInRange(int* frames)
@@ -281,7 +251,7 @@ HRESULT AudioFacet::GetFadeInRange(int* frames)
 
 HRESULT AudioFacet::SetFadeOutEnable(bool enable)
 {
-    return Take(settings.fadeOut, enable);
+    return Take<&AudioSettings::fadeOut>(settings, enable);
 }
 
 HRESULT AudioFacet::GetFadeOutEnable(bool* enable)
@@ -291,7 +261,7 @@ HRESULT AudioFacet::GetFadeOutEnable(bool* enable)
 
 HRESULT AudioFacet::SetFadeOutRange(int frames)
 {
-    return TakeWithin(settings.fadeOutFrames, frames, 0, INT32_MAX);
+    return Take<&AudioSettings::fadeOutFrames>(settings, frames);
 }
 
 HRESULT AudioFacet::GetFadeOutRange(int* frames)
@@ -301,7 +271,7 @@ HRESULT AudioFacet::GetFadeOutRange(int* frames)
 
 HRESULT AudioFacet::SetEqualizerEnable(bool enable)
 {
-    return Take(settings.equalizer, enable);
+    return Take<&AudioSettings::equalizer>(settings, enable);
 }
 
 HRESULT AudioFacet::GetEqualizerEnable(bool* enable)
@@ -311,8 +281,9 @@ HRESULT AudioFacet::GetEqualizerEnable(bool* enable)
 
 HRESULT AudioFacet::SetEqualizerName(const wchar_t* name)
 {
-    return ComGuard(
-        [&] { return name ? Take(settings.equalizerName, std::wstring(name)) : E_POINTER; });
+    return ComGuard([&] {
+        return name ? Take<&AudioSettings::equalizerName>(settings, std::wstring(name)) : E_POINTER;
+    });
 }
 
 HRESULT AudioFacet::GetEqualizerName(wchar_t* buffer, int capacity)
@@ -325,11 +296,8 @@ HRESULT AudioFacet::SetEqualizerParam(const double* params)
     if (!params)
         return E_POINTER;
     auto gains = settings.equalizerGains;
-    for (size_t band = 0; band < gains.size(); ++band) {
-        if (FAILED(TakeWithin(gains[band], params[band], -kMostEqualizerGain, kMostEqualizerGain)))
-            return E_INVALIDARG;
-    }
-    return Take(settings.equalizerGains, gains);
+    std::copy_n(params, gains.size(), gains.begin());
+    return Take<&AudioSettings::equalizerGains>(settings, gains);
 }
 
 HRESULT AudioFacet::GetEqualizerParam(double* params)
@@ -376,7 +344,7 @@ HRESULT VideoFacet::SetProxyFile(const wchar_t* path)
             if (!proxy || proxy->videoStream < 0)
                 return E_FAIL;
         }
-        return Take(settings.proxy, proxy);
+        return Take<&VideoSettings::proxy>(settings, proxy);
     });
 }
 
@@ -390,7 +358,7 @@ HRESULT VideoFacet::GetProxyPath(wchar_t* buffer, int capacity)
 
 HRESULT VideoFacet::SetProxyEnabled(bool enabled)
 {
-    return Take(settings.proxyEnabled, enabled);
+    return Take<&VideoSettings::proxyEnabled>(settings, enabled);
 }
 
 HRESULT VideoFacet::GetProxyEnabled(bool* enabled)
@@ -400,7 +368,7 @@ HRESULT VideoFacet::GetProxyEnabled(bool* enabled)
 
 HRESULT VideoFacet::SetPremultipliedAlphaType(int type)
 {
-    return Take(settings.premultipliedType, type);
+    return Take<&VideoSettings::premultipliedType>(settings, type);
 }
 
 HRESULT VideoFacet::GetPremultipliedAlphaType(int* type)
@@ -419,11 +387,9 @@ HRESULT MixerFacet::SetParam(int index, const tagMixerParam* param)
     return ComGuard([&] {
         if (!param)
             return E_POINTER;
-        tagMixerParam strip = *param;
-        if (FAILED(TakeWithin(strip.volume, param->volume, 0.0, kMostVolume)) ||
-            FAILED(TakeWithin(strip.balance, param->balance, -1.0, 1.0)))
+        if (!IsValid(*param))
             return E_INVALIDARG;
-        settings[index] = strip;
+        settings[index] = *param;
         return S_OK;
     });
 }

@@ -2,13 +2,11 @@
 #include "NLECore/model/SettingsText.h"
 
 #include "NLECore/model/DocumentFormat.h"
-#include "NLECore/model/MediaObjects.h"
+#include "NLECore/model/DocumentText.h"
 #include "NLECore/scene/FrameMath.h"
 
-#include <QFileInfo>
+#include <QStringList>
 
-#include <algorithm>
-#include <cmath>
 #include <cstring>
 
 namespace nle {
@@ -17,336 +15,312 @@ using namespace document;
 
 namespace {
 
-QString Join(std::initializer_list<double> numbers)
+/// Names of the document properties that hold the fields of \a Settings, in their order.
+template <typename Settings>
+const std::vector<QString>& PropertyNames()
 {
-    QStringList texts;
-    for (const double number : numbers)
-        texts << QString::number(number, 'g', 17);
-    return texts.join(QLatin1Char(' '));
+    static const std::vector<QString> names = [] {
+        std::vector<QString> result;
+        ForEachField<Settings>([&result](const auto& field) {
+            result.push_back(kOwnPrefix + QLatin1String(field.property));
+        });
+        return result;
+    }();
+    return names;
 }
 
-/// The numbers of a text; empty when there are not \a count of them.
-std::vector<double> Split(const QString& text, int count)
+/// Values of fields as texts. Numbers of one property stand behind one another.
+struct ToText
 {
-    const QStringList parts = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    std::vector<double> numbers;
-    bool ok = parts.size() == count;
-    for (int i = 0; ok && i < count; ++i)
-        numbers.push_back(parts[i].toDouble(&ok));
-    return ok ? numbers : std::vector<double>();
+    const QDir& folder;
+
+    template <typename Number>
+    std::enable_if_t<std::is_arithmetic_v<Number> || std::is_enum_v<Number>, QString>
+    operator()(Number value) const
+    {
+        return QString::number(double(value), 'g', 17);
+    }
+    QString operator()(const NLEPointF& point) const { return Join({point.x, point.y}); }
+    QString operator()(const NLESizeF& size) const { return Join({size.width, size.height}); }
+    QString operator()(const std::optional<NLERange>& range) const
+    {
+        return range ? Join({double(range->in), double(range->out)}) : QString();
+    }
+    template <std::size_t Count>
+    QString operator()(const std::array<double, Count>& numbers) const
+    {
+        return Join(numbers);
+    }
+    QString operator()(const std::wstring& text) const { return FromWide(text); }
+    QString operator()(const std::vector<VolumePoint>& curve) const
+    {
+        QStringList points;
+        for (const VolumePoint& point : curve)
+            points << Join({point.time, point.gain});
+        return points.join(QLatin1Char(';'));
+    }
+    QString operator()(const std::shared_ptr<const NLEAlphaChannelRecord>& record) const
+    {
+        if (!record)
+            return {};
+        const QByteArray bytes(reinterpret_cast<const char*>(record.get()), sizeof(*record));
+        return QString::fromLatin1(bytes.toBase64());
+    }
+    QString operator()(const std::shared_ptr<const MediaInfo>& media) const
+    {
+        return media ? DocumentPath(media->path, folder) : QString();
+    }
+
+private:
+    template <typename Numbers = std::initializer_list<double>>
+    static QString Join(const Numbers& numbers)
+    {
+        QString result;
+        for (const double number : numbers) {
+            if (!result.isEmpty())
+                result += QLatin1Char(' ');
+            result += QString::number(number, 'g', 17);
+        }
+        return result;
+    }
+};
+
+template <typename Settings>
+DocumentTexts FieldTexts(const Settings& settings, const QDir& folder)
+{
+    DocumentTexts texts;
+    const ToText toText{folder};
+    auto name = PropertyNames<Settings>().begin();
+    ForEachField<Settings>([&](const auto& field) {
+        const QString text = toText(settings.*field.member);
+        if (!texts.empty() && texts.back().first == *name)
+            texts.back().second += QLatin1Char(' ') + text;
+        else
+            texts.emplace_back(*name, text);
+        ++name;
+    });
+    return texts;
 }
 
-QString CurveText(const std::vector<VolumePoint>& points)
+/// Presets are left out: a document of ten thousand plain clips stays small.
+template <typename Settings>
+void AddChanged(const Settings& settings, const QDir& folder, DocumentTexts& texts)
 {
-    QStringList texts;
-    for (const VolumePoint& point : points)
-        texts << Join({point.time, point.gain});
-    return texts.join(QLatin1Char(';'));
-}
-
-void ReadCurve(const QString& text, AudioFacet& audio)
-{
-    NLEComPtr<INLEKeyFrameParam> curve;
-    audio.GetVolumeKeyFrameParam(curve.put());
-    for (const QString& point : text.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
-        const std::vector<double> numbers = Split(point, 2);
-        if (!numbers.empty())
-            curve->SetPoint(numbers[0], numbers[1]);
+    static const Settings preset;
+    static const DocumentTexts presets = FieldTexts(preset, QDir());
+    if (IsSame(settings, preset))
+        return;
+    DocumentTexts own = FieldTexts(settings, folder);
+    for (std::size_t i = 0; i < own.size(); ++i) {
+        if (own[i].second != presets[i].second)
+            texts.push_back(std::move(own[i]));
     }
 }
+
+/// Takes values of fields from the texts of properties, one behind the other.
+class FromText
+{
+public:
+    FromText(const QHash<QString, QString>& properties, const FindMedia& media)
+        : m_properties(properties), m_media(media)
+    {
+    }
+
+    /// The next values come from the property \a name.
+    void Open(const QString& name)
+    {
+        if (m_name == name)
+            return;
+        m_name = name;
+        m_text = m_properties.value(name);
+        m_parts = m_text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    }
+
+    // Each is false, and gives nothing, when there is no such value.
+    bool Take(double& value)
+    {
+        bool ok = false;
+        if (!m_parts.isEmpty())
+            value = m_parts.takeFirst().toDouble(&ok);
+        return ok;
+    }
+    template <typename Number>
+    std::enable_if_t<std::is_integral_v<Number> || std::is_enum_v<Number>, bool> Take(Number& value)
+    {
+        double number = 0;
+        if (!Take(number))
+            return false;
+        value = static_cast<Number>(ClampToInt(number));
+        return true;
+    }
+    bool Take(NLEPointF& point) { return Take(point.x) && Take(point.y); }
+    bool Take(NLESizeF& size) { return Take(size.width) && Take(size.height); }
+    bool Take(std::optional<NLERange>& range)
+    {
+        NLERange found;
+        if (!Take(found.in) || !Take(found.out))
+            return false;
+        range = found;
+        return true;
+    }
+    template <std::size_t Count>
+    bool Take(std::array<double, Count>& numbers)
+    {
+        return std::all_of(numbers.begin(), numbers.end(),
+                           [this](double& number) { return Take(number); });
+    }
+    bool Take(std::wstring& text)
+    {
+        text = ToWide(m_text);
+        return !text.empty();
+    }
+    bool Take(std::vector<VolumePoint>& curve)
+    {
+        for (const QString& text : m_text.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+            m_parts = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+            VolumePoint point = {};
+            if (Take(point.time) && Take(point.gain))
+                PutVolumePoint(curve, point);
+        }
+        return !curve.empty();
+    }
+    bool Take(std::shared_ptr<const NLEAlphaChannelRecord>& record)
+    {
+        const QByteArray bytes = QByteArray::fromBase64(m_text.toLatin1());
+        if (bytes.size() != int(sizeof(NLEAlphaChannelRecord)))
+            return false;
+        auto found = std::make_shared<NLEAlphaChannelRecord>();
+        std::memcpy(found.get(), bytes.constData(), sizeof(*found));
+        record = std::move(found);
+        return true;
+    }
+    bool Take(std::shared_ptr<const MediaInfo>& media)
+    {
+        if (!m_text.isEmpty())
+            media = m_media(m_text);
+        return media != nullptr;
+    }
+
+private:
+    const QHash<QString, QString>& m_properties;
+    const FindMedia& m_media;
+    QString m_name;
+    QString m_text;
+    QStringList m_parts; ///< what is left of the text
+};
+
+template <typename Settings>
+void ReadFields(FromText& texts, Settings& settings)
+{
+    auto name = PropertyNames<Settings>().begin();
+    ForEachField<Settings>([&](const auto& field) {
+        texts.Open(*name++);
+        auto value = settings.*field.member;
+        if (texts.Take(value) && IsWithin(value, field.lowest, field.highest))
+            settings.*field.member = std::move(value);
+    });
+}
+
+// ---- Lists of records: a text for each, behind a head
 
 QString KeyFrameText(const KeyFrameFacet& keyFrames)
 {
     const auto curve = keyFrames.Stored();
     if (curve->frames.empty() && keyFrames.enabled)
         return {};
-    QStringList texts = {Join({double(keyFrames.enabled), curve->axis.start, curve->axis.length})};
-    for (const NLEKeyFrameRecord& f : curve->frames)
-        texts << Join({f.time, f.angle, f.positionX, f.positionY, f.scaleWidth, f.scaleHeight,
-                       f.opacity, double(f.interpolation)});
+    const ToText toText{QDir()};
+    QStringList texts = {toText(
+        std::array<double, 3>{double(keyFrames.enabled), curve->axis.start, curve->axis.length})};
+    for (const NLEKeyFrameRecord& frame : curve->frames)
+        texts << FieldTexts(frame, QDir()).front().second;
     return texts.join(QLatin1Char(';'));
 }
 
 void ReadKeyFrames(const QString& text, KeyFrameFacet& keyFrames)
 {
+    const QString name = PropertyNames<NLEKeyFrameRecord>().front();
     const QStringList parts = text.split(QLatin1Char(';'), Qt::SkipEmptyParts);
-    const std::vector<double> head = Split(parts.value(0), 3);
-    if (head.empty())
-        return;
     KeyFrameCurve curve;
-    if (std::isfinite(head[1]) && std::isfinite(head[2]))
-        curve.axis = {head[1], head[2]};
-    for (int i = 1; i < parts.size(); ++i) {
-        const std::vector<double> f = Split(parts[i], 8);
-        if (!f.empty())
-            curve.frames.push_back({f[0], f[1], f[2], f[3], f[4], f[5], f[6], ClampToInt(f[7])});
+    std::array<double, 3> head = {};
+    for (const QString& part : parts) {
+        const QHash<QString, QString> record = {{name, part}};
+        FromText texts(record, {});
+        if (&part == &parts.front()) {
+            texts.Open(name);
+            if (!texts.Take(head))
+                return;
+            continue;
+        }
+        NLEKeyFrameRecord frame = kPlainKeyFrame;
+        ReadFields(texts, frame);
+        curve.frames.push_back(frame);
     }
+    if (parts.isEmpty())
+        return;
+    if (IsFinite(head[1]) && IsFinite(head[2]))
+        curve.axis = {head[1], head[2]};
     keyFrames.enabled = head[0] != 0;
     keyFrames.Restore(curve);
 }
 
-void ReadPicture(const QHash<QString, QString>& properties, TimelineNode& node)
+void ReadMixer(const QHash<QString, QString>& properties, MixerSettings& mixer)
 {
-    const std::vector<double> blend = Split(properties.value(kBlend), 3);
-    if (!blend.empty()) {
-        node.Blend().SetEnable(blend[0] != 0);
-        node.Blend().SetMode(ClampToInt(blend[1]));
-        node.Blend().SetAlpha(ClampToInt(blend[2]));
+    const QString prefix = PropertyNames<tagMixerParam>().front();
+    for (auto property = properties.begin(); property != properties.end(); ++property) {
+        if (!property.key().startsWith(prefix))
+            continue;
+        const QHash<QString, QString> texts = {{prefix, property.value()}};
+        FromText reader(texts, {});
+        tagMixerParam strip = kNeutralStrip;
+        ReadFields(reader, strip);
+        mixer[property.key().mid(prefix.size()).toInt()] = strip;
     }
-    const std::vector<double> transform = Split(properties.value(kTransform), 7);
-    if (!transform.empty()) {
-        const NLEPointF center = {transform[1], transform[2]};
-        const NLESizeF scale = {transform[3], transform[4]};
-        node.Transform().SetEnable(transform[0] != 0);
-        node.Transform().SetCenter(&center);
-        node.Transform().SetScale(&scale);
-        node.Transform().SetRotation(transform[5]);
-        node.Transform().SetLock(transform[6] != 0);
-    }
-    ReadKeyFrames(properties.value(kKeyFrames), node.KeyFrames());
-}
-
-void ReadSound(const QHash<QString, QString>& properties, AudioFacet& audio)
-{
-    const std::vector<double> levels = Split(properties.value(kSoundLevels), 4);
-    if (!levels.empty()) {
-        audio.SetVolumeEnable(levels[0] != 0);
-        audio.SetVolume(levels[1]);
-        audio.SetMute(levels[2] != 0);
-        audio.SetBalance(levels[3]);
-    }
-    const std::vector<double> fades = Split(properties.value(kSoundFades), 4);
-    if (!fades.empty()) {
-        audio.SetFadeInEnable(fades[0] != 0);
-        audio.SetFadeInRange(ClampToInt(fades[1]));
-        audio.SetFadeOutEnable(fades[2] != 0);
-        audio.SetFadeOutRange(ClampToInt(fades[3]));
-    }
-    const std::vector<double> effects = Split(properties.value(kSoundEffects), 5);
-    if (!effects.empty()) {
-        audio.SetPitch(ClampToInt(effects[0]));
-        audio.SetDenoiseEnable(effects[1] != 0);
-        audio.SetDenoiseLevel(ClampToInt(effects[2]));
-        audio.SetMixToMonoEnable(effects[3] != 0);
-        audio.SetEqualizerEnable(effects[4] != 0);
-    }
-    const std::vector<double> gains =
-        Split(properties.value(kSoundEqualizer), int(kEqualizerBands.size()));
-    if (!gains.empty())
-        audio.SetEqualizerParam(gains.data());
-    audio.SetEqualizerName(ToWide(properties.value(kSoundEqualizerName)).c_str());
-    ReadCurve(properties.value(kSoundCurve), audio);
-}
-
-void ReadSource(const QHash<QString, QString>& properties,
-                const std::function<std::shared_ptr<const MediaInfo>(const QString&)>& media,
-                VideoFacet& video)
-{
-    const QByteArray record = QByteArray::fromBase64(properties.value(kAlphaChannel).toLatin1());
-    if (record.size() == int(sizeof(NLEAlphaChannelRecord))) {
-        NLEAlphaChannelRecord alpha;
-        std::memcpy(&alpha, record.constData(), sizeof(alpha));
-        video.SetAlphaChannel(&alpha);
-    }
-    const QString proxy = properties.value(kProxy);
-    // A proxy that is gone is only a proxy: the clip plays its own media until it comes back.
-    if (!proxy.isEmpty())
-        video.settings.proxy = media(proxy);
-    video.SetProxyEnabled(properties.value(kProxyEnabled).toInt() != 0);
-    video.SetPremultipliedAlphaType(properties.value(kPremultiplied).toInt());
-}
-
-/// Whether XML gives a character back as it is, and nothing of ours begins with it. Line feed and
-/// tab survive; a carriage return would come back as a line feed.
-bool IsPlain(ushort code)
-{
-    const bool isControl = code < 0x20 && code != '\n' && code != '\t';
-    return !isControl && code != '%' && code < 0xFFFE && !QChar::isSurrogate(code);
-}
-
-/// Whether one character beyond the basic plane stands at \a index.
-bool IsPairAt(const QString& text, int index)
-{
-    return index + 1 < text.size() && text.at(index).isHighSurrogate() &&
-           text.at(index + 1).isLowSurrogate();
 }
 
 } // namespace
 
-QString EncodeText(const QString& text)
+DocumentTexts SettingsToText(const TimelineNode& node, const QDir& folder)
 {
-    if (std::all_of(text.begin(), text.end(), [](QChar c) { return IsPlain(c.unicode()); }))
-        return text;
-    QString result;
-    for (int i = 0; i < text.size(); ++i) {
-        const ushort code = text.at(i).unicode();
-        if (IsPlain(code))
-            result += text.at(i);
-        else if (IsPairAt(text, i))
-            result += text.mid(i++, 2);
-        else if (code < 0x80)
-            result += QStringLiteral("%%1").arg(code, 2, 16, QLatin1Char('0'));
-        else
-            result += QStringLiteral("%u%1").arg(code, 4, 16, QLatin1Char('0'));
+    DocumentTexts texts;
+    AddChanged(node.Placement(), folder, texts);
+    AddChanged(node.Blend().settings, folder, texts);
+    AddChanged(node.Transform().settings, folder, texts);
+    AddChanged(node.Audio().settings, folder, texts);
+    AddChanged(node.Video().settings, folder, texts);
+    const QString keyFrames = KeyFrameText(node.KeyFrames());
+    if (!keyFrames.isEmpty())
+        texts.emplace_back(PropertyNames<NLEKeyFrameRecord>().front(), keyFrames);
+    for (const auto& [level, strip] : node.Mixer().settings) {
+        const auto [prefix, text] = FieldTexts(strip, folder).front();
+        texts.emplace_back(prefix + QString::number(level), text);
     }
-    return result;
-}
-
-QString DecodeText(const QString& text)
-{
-    if (!text.contains(QLatin1Char('%')))
-        return text;
-    QString result;
-    for (int i = 0; i < text.size(); ++i) {
-        const bool isMark = text.at(i) == QLatin1Char('%');
-        const bool isLong = isMark && text.mid(i + 1, 1) == QLatin1String("u");
-        const int skipped = isLong ? 5 : 2;
-        bool ok = false;
-        const ushort code =
-            isMark ? text.mid(i + (isLong ? 2 : 1), isLong ? 4 : 2).toUShort(&ok, 16) : 0;
-        const bool isOurs = ok && !IsPlain(code) && isLong == (code >= 0x80);
-        result += isOurs ? QChar(code) : text.at(i);
-        i += isOurs ? skipped : 0;
-    }
-    return result;
-}
-
-QString PlainText(const QString& text)
-{
-    QString result = text;
-    result.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    result.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    for (int i = 0; i < result.size(); ++i) {
-        if (IsPairAt(result, i))
-            ++i;
-        else if (result.at(i) != QLatin1Char('%') && !IsPlain(result.at(i).unicode()))
-            result[i] = QChar(QChar::ReplacementCharacter);
-    }
-    return result;
-}
-
-std::wstring ToWide(const QString& text)
-{
-    std::wstring result;
-    for (int i = 0; i < text.size(); ++i) {
-        const bool isPair = sizeof(wchar_t) > sizeof(ushort) && IsPairAt(text, i);
-        result += isPair ? wchar_t(QChar::surrogateToUcs4(text.at(i), text.at(i + 1)))
-                         : wchar_t(text.at(i).unicode());
-        i += isPair ? 1 : 0;
-    }
-    return result;
-}
-
-QString FromWide(const std::wstring& text)
-{
-    QString result;
-    for (const wchar_t character : text) {
-        const auto code = std::uint32_t(character);
-        if (QChar::requiresSurrogates(code))
-            result += QChar(QChar::highSurrogate(code));
-        result += QChar::requiresSurrogates(code) ? QChar(QChar::lowSurrogate(code))
-                                                  : QChar(ushort(code));
-    }
-    return result;
-}
-
-QString DocumentPath(const QString& path, const QDir& folder)
-{
-    QString absolute = QFileInfo(path).absoluteFilePath();
-    const QString relative = folder.relativeFilePath(absolute);
-    if (relative == QLatin1String("..") || relative.startsWith(QLatin1String("../")))
-        return absolute;
-    // A name that begins with a colon would be taken for one of the toolkit's resources.
-    return relative.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + relative : relative;
-}
-
-std::vector<std::pair<QString, QString>> SettingsToText(const TimelineNode& node,
-                                                        const QDir& folder)
-{
-    std::vector<std::pair<QString, QString>> texts;
-    const AudioSettings& sound = node.Audio().settings;
-    static const AudioSettings preset;
-    const VideoSettings& video = node.Video().settings;
-    const BlendSettings& blend = node.Blend().settings;
-    const TransformSettings& transform = node.Transform().settings;
-    // Presets are left out: a document of ten thousand plain clips stays small.
-    const auto add = [&texts](QLatin1String name, const QString& text, const QString& plain) {
-        if (text != plain)
-            texts.emplace_back(name, text);
-    };
-    const auto blendText = [](const BlendSettings& b) {
-        return Join({double(b.enabled), double(b.mode), double(b.alpha)});
-    };
-    const auto transformText = [](const TransformSettings& t) {
-        return Join({double(t.enabled), t.center.x, t.center.y, t.scale.width, t.scale.height,
-                     t.rotation, double(t.lock)});
-    };
-    const auto levels = [](const AudioSettings& a) {
-        return Join({double(a.volumeEnabled), a.volume, double(a.mute), a.balance});
-    };
-    const auto fades = [](const AudioSettings& a) {
-        return Join(
-            {double(a.fadeIn), double(a.fadeInFrames), double(a.fadeOut), double(a.fadeOutFrames)});
-    };
-    const auto effects = [](const AudioSettings& a) {
-        return Join({double(a.pitch), double(a.denoise), double(a.denoiseLevel), double(a.mono),
-                     double(a.equalizer)});
-    };
-    const auto gains = [](const AudioSettings& a) {
-        QStringList numbers;
-        for (const double gain : a.equalizerGains)
-            numbers << Join({gain});
-        return numbers.join(QLatin1Char(' '));
-    };
-    static const QString plainBlend = blendText(BlendSettings());
-    static const QString plainTransform = transformText(TransformSettings());
-    static const QString plainLevels = levels(preset);
-    static const QString plainFades = fades(preset);
-    static const QString plainEffects = effects(preset);
-    static const QString plainGains = gains(preset);
-    add(kBlend, blendText(blend), plainBlend);
-    add(kTransform, transformText(transform), plainTransform);
-    add(kKeyFrames, KeyFrameText(node.KeyFrames()), QString());
-    add(kSoundLevels, levels(sound), plainLevels);
-    add(kSoundFades, fades(sound), plainFades);
-    add(kSoundEffects, effects(sound), plainEffects);
-    add(kSoundEqualizer, gains(sound), plainGains);
-    add(kSoundEqualizerName, FromWide(sound.equalizerName), QString());
-    add(kSoundCurve, CurveText(sound.volumePoints), QString());
-    if (video.alphaChannel)
-        texts.emplace_back(
-            kAlphaChannel,
-            QString::fromLatin1(QByteArray(reinterpret_cast<const char*>(video.alphaChannel.get()),
-                                           sizeof(NLEAlphaChannelRecord))
-                                    .toBase64()));
-    if (video.proxy)
-        texts.emplace_back(kProxy, DocumentPath(video.proxy->path, folder));
-    add(kProxyEnabled, QString::number(video.proxyEnabled), QStringLiteral("0"));
-    add(kPremultiplied, QString::number(video.premultipliedType), QStringLiteral("0"));
-    for (const auto& [level, strip] : node.Mixer().settings)
-        texts.emplace_back(
-            kMixerPrefix + QString::number(level),
-            Join({strip.volume, strip.balance, double(strip.mute), double(strip.solo)}));
     return texts;
 }
 
-void SettingsFromText(const QHash<QString, QString>& properties,
-                      const std::function<std::shared_ptr<const MediaInfo>(const QString&)>& media,
+QStringList MediaInSettings(const QHash<QString, QString>& properties)
+{
+    QStringList names;
+    auto name = PropertyNames<VideoSettings>().begin();
+    ForEachField<VideoSettings>([&](const auto& field) {
+        using Value = typename std::decay_t<decltype(field)>::Value;
+        if (std::is_same_v<Value, std::shared_ptr<const MediaInfo>>)
+            names << properties.value(*name);
+        ++name;
+    });
+    return names;
+}
+
+void SettingsFromText(const QHash<QString, QString>& properties, const FindMedia& media,
                       TimelineNode& node)
 {
-    ReadPicture(properties, node);
-    ReadSound(properties, node.Audio());
-    ReadSource(properties, media, node.Video());
-    for (auto property = properties.begin(); property != properties.end(); ++property) {
-        if (!property.key().startsWith(kMixerPrefix))
-            continue;
-        const std::vector<double> strip = Split(property.value(), 4);
-        if (strip.empty())
-            continue;
-        const tagMixerParam param = {strip[0], strip[1], ClampToInt(strip[2]),
-                                     ClampToInt(strip[3])};
-        node.Mixer().SetParam(property.key().mid(kMixerPrefix.size()).toInt(), &param);
-    }
+    FromText texts(properties, media);
+    ReadFields(texts, node.Placement());
+    ReadFields(texts, node.Blend().settings);
+    ReadFields(texts, node.Transform().settings);
+    ReadFields(texts, node.Audio().settings);
+    ReadFields(texts, node.Video().settings);
+    ReadKeyFrames(properties.value(PropertyNames<NLEKeyFrameRecord>().front()), node.KeyFrames());
+    ReadMixer(properties, node.Mixer().settings);
 }
 
 } // namespace nle

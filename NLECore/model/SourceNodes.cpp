@@ -18,14 +18,13 @@ namespace {
 
 NLERational RateOf(const MediaInfo& media)
 {
-    const NLERational rate = {media.frameRate.num, media.frameRate.den};
-    return IsRate(rate) ? rate : NLERational{25, 1};
+    return IsRate(media.frameRate) ? media.frameRate : NLERational{25, 1};
 }
 
 /// A still picture, or media that is not there: it can be drawn out.
 bool IsStill(const MediaInfo& media)
 {
-    return media.kind == MediaKind::Image || media.kind == MediaKind::Offline;
+    return media.kind == NLEMedia_Image || media.kind == NLEMedia_Offline;
 }
 
 NLERange StillRange(const NLERational& rate)
@@ -131,8 +130,8 @@ int MediaClip::TotalLength() const
 {
     if (IsStill(*m_media) || IsFrozen())
         return LongestStill(FrameRate());
-    const int length = ClampToInt(
-        std::round(RescaleFrame(m_media->frameCount, RateOf(*m_media), FrameRate()) / Speed()));
+    const int length = ClampToInt(std::round(
+        FrameTime{double(m_media->frameCount), RateOf(*m_media)}.NearestAt(FrameRate()) / Speed()));
     return m_media->frameCount > 0 ? std::max(1, length) : 0;
 }
 

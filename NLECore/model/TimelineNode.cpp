@@ -125,8 +125,7 @@ HRESULT TimelineNode::SetRange(const NLERange* range)
 {
     if (!range)
         return E_POINTER;
-    m_range = *range;
-    m_hasRange = true;
+    m_placement.range = *range;
     return S_OK;
 }
 
@@ -156,48 +155,45 @@ HRESULT TimelineNode::GetRenderFrameRate(NLERational* rate)
 
 HRESULT TimelineNode::SetLevel(int level)
 {
-    m_level = level;
+    m_placement.level = level;
     return S_OK;
 }
 
 HRESULT TimelineNode::GetLevel(int* level)
 {
-    return GiveValue(level, m_level);
+    return GiveValue(level, m_placement.level);
 }
 
 HRESULT TimelineNode::SetPosition(int position)
 {
-    m_position = position;
+    m_placement.position = position;
     return S_OK;
 }
 
 HRESULT TimelineNode::GetPosition(int* position)
 {
-    return GiveValue(position, m_position);
+    return GiveValue(position, m_placement.position);
 }
 
 HRESULT TimelineNode::SetMarginMode(tagNLEMarginMode mode)
 {
-    if (mode < NLEMargin_Fit || mode > NLEMargin_None)
-        return E_INVALIDARG;
-    m_margin = mode;
-    return S_OK;
+    return SetField<&PlacementSettings::margin>(m_placement, mode) ? S_OK : E_INVALIDARG;
 }
 
 HRESULT TimelineNode::GetMarginMode(tagNLEMarginMode* mode)
 {
-    return GiveValue(mode, m_margin);
+    return GiveValue(mode, m_placement.margin);
 }
 
 HRESULT TimelineNode::SetEnabled(bool enabled)
 {
-    m_enabled = enabled;
+    m_placement.enabled = enabled;
     return S_OK;
 }
 
 HRESULT TimelineNode::GetEnabled(bool* enabled)
 {
-    return GiveValue(enabled, m_enabled);
+    return GiveValue(enabled, m_placement.enabled);
 }
 
 HRESULT TimelineNode::Clone(bool deep, INLETimeline** clone)
@@ -215,12 +211,7 @@ NLEComPtr<TimelineNode> TimelineNode::Copy(bool deep) const
 {
     NLEComPtr<TimelineNode> copy = CopyContent(deep);
     copy->m_frameRate = m_frameRate;
-    copy->m_range = m_range;
-    copy->m_hasRange = m_hasRange;
-    copy->m_position = m_position;
-    copy->m_level = m_level;
-    copy->m_margin = m_margin;
-    copy->m_enabled = m_enabled;
+    copy->m_placement = m_placement;
     copy->m_bag->SetAll(m_bag->All());
     copy->m_blend.settings = m_blend.settings;
     copy->m_transform.settings = m_transform.settings;
@@ -251,13 +242,12 @@ HRESULT TimelineNode::SetCurrent(bool current)
 
 NLERange TimelineNode::Range() const
 {
-    return m_hasRange ? m_range : NLERange{0, TotalLength() - 1};
+    return m_placement.range ? *m_placement.range : NLERange{0, TotalLength() - 1};
 }
 
 void TimelineNode::PinRange()
 {
-    m_range = Range();
-    m_hasRange = true;
+    m_placement.range = Range();
 }
 
 void TimelineNode::ChangeRate(const NLERational& rate)
@@ -265,15 +255,16 @@ void TimelineNode::ChangeRate(const NLERational& rate)
     const NLERational old = std::exchange(m_frameRate, rate);
     if (ToDouble(old) == ToDouble(rate))
         return;
-    if (m_hasRange)
-        m_range = RescaleRange(m_range, old, rate);
+    if (m_placement.range)
+        m_placement.range = FrameSpan{*m_placement.range, old}.At(rate);
     m_keyFrames.RescaleAxis(ToDouble(rate) / ToDouble(old));
     AudioSettings& sound = m_audio.settings;
-    sound.fadeInFrames = RescaleFrame(sound.fadeInFrames, old, rate);
-    sound.fadeOutFrames = RescaleFrame(sound.fadeOutFrames, old, rate);
+    sound.fadeInFrames = FrameTime{double(sound.fadeInFrames), old}.NearestAt(rate);
+    sound.fadeOutFrames = FrameTime{double(sound.fadeOutFrames), old}.NearestAt(rate);
     int frozen = 0;
     if (m_bag->GetInt(NLEKey::Freeze::kFreeze_Frame, &frozen) == S_OK)
-        m_bag->SetInt(NLEKey::Freeze::kFreeze_Frame, RescaleFrame(frozen, old, rate));
+        m_bag->SetInt(NLEKey::Freeze::kFreeze_Frame,
+                      FrameTime{double(frozen), old}.NearestAt(rate));
 }
 
 double TimelineNode::Speed() const
@@ -301,8 +292,8 @@ void TimelineNode::ChangeSpeed(Change change)
     if (before == after)
         return;
     m_keyFrames.RescaleAxis(before / after);
-    if (m_hasRange)
-        m_range = ScaleRange(m_range, before / after);
+    if (m_placement.range)
+        m_placement.range = ScaleRange(*m_placement.range, before / after);
 }
 
 RenderContext TimelineNode::Context() const
@@ -317,10 +308,10 @@ Snapshot TimelineNode::MakeSnapshot() const
 {
     auto layer = std::make_shared<Layer>();
     layer->range = Range();
-    layer->position = m_position;
-    layer->level = m_level;
+    layer->position = m_placement.position;
+    layer->level = m_placement.level;
     layer->frameRate = m_frameRate;
-    layer->margin = m_margin;
+    layer->margin = m_placement.margin;
     layer->mode = NLERenderMode(m_bag->IntOr(NLEKey::Render::kRender_Mode, NLERender_All));
     layer->size = PictureSize();
     layer->speed = Speed();

@@ -81,14 +81,12 @@ public:
 
     /// The trim range; all frames as long as none was set.
     NLERange Range() const;
-    bool HasOwnRange() const { return m_hasRange; }
     /// Makes the range that plays now the node's own, whatever becomes of its length.
     void PinRange();
     const NLERational& FrameRate() const { return m_frameRate; }
-    int Position() const { return m_position; }
-    int Level() const { return m_level; }
-    bool IsEnabled() const { return m_enabled; }
-    tagNLEMarginMode MarginMode() const { return m_margin; }
+    int Position() const { return m_placement.position; }
+    int Level() const { return m_placement.level; }
+    bool IsEnabled() const { return m_placement.enabled; }
     PropertyBag& Bag() const { return *m_bag; }
     /// Playing speed, above 0; 1 when none is set or enabled.
     double Speed() const;
@@ -99,6 +97,8 @@ public:
     template <typename Change>
     void ChangeSpeed(Change change);
 
+    PlacementSettings& Placement() { return m_placement; }
+    const PlacementSettings& Placement() const { return m_placement; }
     BlendFacet& Blend() { return m_blend; }
     TransformFacet& Transform() { return m_transform; }
     AudioFacet& Audio() { return m_audio; }
@@ -133,13 +133,8 @@ private:
     RenderContext Context() const;
 
     const std::uint32_t m_id;
-    NLERange m_range = {0, -1};
-    bool m_hasRange = false;
+    PlacementSettings m_placement;
     NLERational m_frameRate;
-    int m_position = 0;
-    int m_level = 0;
-    tagNLEMarginMode m_margin = NLEMargin_Fit;
-    bool m_enabled = true;
     bool m_current = false;
     CompositeNode* m_parent = nullptr;
     NLEComPtr<NodeBag> m_bag;

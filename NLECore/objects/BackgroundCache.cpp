@@ -2,7 +2,6 @@
 #include "NLECore/objects/BackgroundCache.h"
 
 #include "Com/ComGuard.h"
-#include "NLECore/model/CompositeNode.h"
 
 #include <algorithm>
 #include <cmath>
@@ -65,7 +64,7 @@ HRESULT BackgroundCache::Start(const NLESize* resolution, NLERenderCallback call
             const std::lock_guard<std::mutex> lock(m_mutex);
             m_guarded.size = QSize(resolution->width, resolution->height);
         }
-        const Plan plan = m_node ? Analyse(TakeSnapshot()) : nullptr;
+        const Plan plan = Analyse(TakeSnapshot());
         if (!plan || store->CountFrames(plan->Chunks()) == plan->FrameCount())
             return E_FAIL;
         {
@@ -125,7 +124,7 @@ HRESULT BackgroundCache::DeleteCache(bool all)
             store->Clear();
             return S_OK;
         }
-        const Plan plan = m_node ? Analyse(TakeSnapshot()) : CurrentPlan();
+        const Plan plan = m_takeSnapshot ? Analyse(TakeSnapshot()) : CurrentPlan();
         KeySet keys = plan ? plan->Keys() : KeySet();
         {
             const std::lock_guard<std::mutex> lock(m_mutex);
@@ -236,12 +235,12 @@ void BackgroundCache::Detach()
 {
     m_renderer.reset();
     m_reports.Clear();
-    m_node = nullptr;
+    m_takeSnapshot = nullptr;
 }
 
 Snapshot BackgroundCache::TakeSnapshot() const
 {
-    return m_node ? m_node->MakeSnapshot() : nullptr;
+    return m_takeSnapshot ? m_takeSnapshot() : nullptr;
 }
 
 BackgroundCache::Plan BackgroundCache::Analyse(const Snapshot& root)

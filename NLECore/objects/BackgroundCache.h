@@ -3,13 +3,12 @@
 
 #include "Com/ComObject.h"
 #include "EngineApi/INLEBackgroundCache.h"
+#include "NLECore/model/CompositeCache.h"
 #include "NLECore/render/CacheRenderer.h"
 #include "NLECore/render/CachedFrames.h"
 #include "NLECore/render/TaskThread.h"
 
 namespace nle {
-
-class CompositeNode;
 
 /// The preview cache of one composite.
 ///
@@ -17,11 +16,14 @@ class CompositeNode;
 /// any thread, but only on the thread that edits it sees edits: elsewhere it analyses again what
 /// was analysed last. Callbacks come from a thread of this object.
 class BackgroundCache final
-    : public ComObject<INLEBackgroundCache, INLEBackgroundCacheStat, INLEBackgroundCacheAsyncUpdate,
+    : public ComObject<CompositeCache, INLEBackgroundCacheStat, INLEBackgroundCacheAsyncUpdate,
                        INLEBackgroundCacheQualitySet>
 {
 public:
-    explicit BackgroundCache(const CompositeNode& node) : m_node(&node) {}
+    explicit BackgroundCache(std::function<Snapshot()> takeSnapshot)
+        : m_takeSnapshot(std::move(takeSnapshot))
+    {
+    }
 
     /// Ends a render that is running. E_INVALIDARG for no name and for numbers below 0.
     HRESULT SetCacheFolder(const wchar_t* folder, std::int64_t quota, int reserve) override;
@@ -42,10 +44,8 @@ public:
     /// Counts from the next analysis on. E_INVALIDARG outside of 0 to 1.
     HRESULT SetQuality(NLERational quality) override;
 
-    /// Reads frames of \a root, a snapshot of the composite; null without a folder.
-    std::unique_ptr<CachedFrames> OpenFrames(const Snapshot& root);
-    /// The composite is going away: ends a render, waiting for the frame that is being drawn.
-    void Detach();
+    std::unique_ptr<CachedFrames> OpenFrames(const Snapshot& root) override;
+    void Detach() override;
 
 private:
     /// A row of cached frames and the row after it that is not.
@@ -69,7 +69,7 @@ private:
     void ListSegments();
     void EndRendering();
 
-    const CompositeNode* m_node;
+    std::function<Snapshot()> m_takeSnapshot; ///< null once the composite is gone
     const std::thread::id m_editingThread = std::this_thread::get_id();
 
     struct Guarded

@@ -108,13 +108,13 @@ HRESULT ThumbnailExtractor::SetSource(INLEMediaInfo* info, std::uint32_t videoSt
     m_media = MediaInfoObject::From(info);
     m_stream = int(videoStream);
     const MediaStream* stream = m_media ? m_media->Stream(m_stream) : nullptr;
-    return stream && stream->type == StreamType::Video ? S_OK : E_INVALIDARG;
+    return stream && stream->type == NLEStream_Video ? S_OK : E_INVALIDARG;
 }
 
 bool ThumbnailExtractor::HasFrame(const MediaStream& stream, int frame) const
 {
     // A still picture is the same for every frame; a stream of unknown length tells when it ends.
-    const bool isEndless = m_media->kind == MediaKind::Image || stream.frameCount == 0;
+    const bool isEndless = m_media->kind == NLEMedia_Image || stream.frameCount == 0;
     return frame >= 0 && (isEndless || std::uint32_t(frame) < stream.frameCount);
 }
 
@@ -125,7 +125,7 @@ HRESULT ThumbnailExtractor::Extract(int frame, NLESize wanted, INLEPicture** pic
             return E_POINTER;
         *picture = nullptr;
         const MediaStream* stream = m_media ? m_media->Stream(m_stream) : nullptr;
-    if (!stream || !HasFrame(*stream, frame))
+        if (!stream || !HasFrame(*stream, frame))
             return E_FAIL;
         // Decoding straight to the wanted size is cheapest; enlarging is the caller's business.
         QSize size(stream->width, stream->height);

@@ -109,7 +109,7 @@ bool MediaEncoder::TakeSettings(const TimelineNode& node, const Layer& root,
     const bool hasSize = wanted.frameSize.width > 1 && wanted.frameSize.height > 1;
     m_settings.size = EvenSize(hasSize ? wanted.frameSize : root.size);
     m_frameRate = IsRate(wanted.frameRate) ? wanted.frameRate : node.FrameRate();
-    m_settings.frameRate = {m_frameRate.num, m_frameRate.den};
+    m_settings.frameRate = m_frameRate;
     m_settings.quality = OrDefault(wanted.quality, 20);
     const auto* project = dynamic_cast<const ProjectNode*>(&node);
     const tagNLEProjectProfile& profile = project ? project->Profile() : kDefaultProfile;
@@ -148,7 +148,7 @@ HRESULT MediaEncoder::Encode(NLEProgressCallback callback, void* userData)
             if (writer->HasPicture()) {
                 QRect place;
                 const std::int64_t frame =
-                    m_range.in + ShownFrame(double(done), m_frameRate, ownRate);
+                    m_range.in + FrameTime{double(done), m_frameRate}.ShownAt(ownRate);
                 const QImage picture = composer.Render(frame, m_settings.size, &place);
                 written = writer->WritePicture(OnFrame(picture, place, m_settings.size));
             }

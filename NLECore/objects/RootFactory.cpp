@@ -5,8 +5,10 @@
 #include "NLECore/media/DecoderPool.h"
 #include "NLECore/media/EngineLog.h"
 #include "NLECore/media/MediaLog.h"
+#include "NLECore/model/CompositeNode.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/PropertyBag.h"
+#include "NLECore/objects/BackgroundCache.h"
 #include "NLECore/objects/DocumentSerialize.h"
 #include "NLECore/objects/Extractors.h"
 #include "NLECore/objects/FontLibrary.h"
@@ -45,6 +47,13 @@ HRESULT Refuse(Interface** out, HRESULT reason = E_NOTIMPL)
 }
 
 } // namespace
+
+RootFactory::RootFactory()
+{
+    CompositeNode::SetCacheMaker([](std::function<Snapshot()> takeSnapshot) {
+        return NLEComPtr<CompositeCache>(MakeCom<BackgroundCache>(std::move(takeSnapshot)));
+    });
+}
 
 HRESULT RootFactory::Init(int /*flags*/)
 {

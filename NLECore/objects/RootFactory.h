@@ -10,6 +10,8 @@ namespace nle {
 class RootFactory final : public ComObject<INLEFactory>
 {
 public:
+    RootFactory();
+
     HRESULT Init(int flags) override;
     HRESULT GetTimelineFactory(INLETimelineFactory** factory) override;
     HRESULT GetFontLibrary(INLEFontLibrary** library) override;

@@ -17,6 +17,9 @@ namespace {
 /// The document of a template, in the template's folder; media paths in it are relative to it.
 const QString kTemplateDocument = QStringLiteral("Template.mlt");
 
+/// Frames a second beyond which nothing is counted.
+constexpr float kHighestRate = 1e6F;
+
 template <typename Node>
 HRESULT Give(NLEComPtr<Node> node, INLETimeline** out)
 {
@@ -83,8 +86,8 @@ HRESULT TimelineFactory::CreateColor(std::uint32_t argb, NLESize size, float fra
         if (!clip)
             return E_POINTER;
         *clip = nullptr;
-        const NLERational rate = RateFromDouble(frameRate);
-        if (size.width < 1 || size.height < 1 || !IsRate(rate))
+        const NLERational rate = NLECommon::RateToRational(frameRate);
+        if (size.width < 1 || size.height < 1 || !IsRate(rate) || frameRate > kHighestRate)
             return E_INVALIDARG;
         return Give(MakeCom<ColorClip>(argb, size, rate), clip);
     });

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/render/ChunkPlan.h"
 
+#include "NLECore/scene/FieldKeys.h"
+
 #include <algorithm>
 #include <limits>
 #include <set>
@@ -10,7 +12,7 @@ namespace nle {
 namespace {
 
 /// Number of the way in which pictures are rendered and kept; another one makes all keys new.
-constexpr int kRenderVersion = 1;
+constexpr int kRenderVersion = 2;
 /// Quality, in thousandths, from which on colour keeps its full resolution.
 constexpr int kFineQuality = 950;
 
@@ -37,7 +39,7 @@ ChunkPlan::ChunkPlan(Snapshot root, const CacheFormat& format)
     hash.Add(m_format.size.width()).Add(m_format.size.height());
     hash.Add(m_root->argb).Add(m_root->size.width).Add(m_root->size.height);
     hash.Add(m_root->frameRate.num).Add(m_root->frameRate.den);
-    hash.Add(m_root->context.previewScale).Add(m_root->context.smooth);
+    AddFields(hash, m_root->context);
     m_rootKey = hash.Result();
     LayerKeys layers;
     for (const Run& run : FindRuns(m_spans[m_root.get()]))

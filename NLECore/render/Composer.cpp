@@ -98,7 +98,7 @@ QPainter::CompositionMode PainterMode(BlendMode mode)
     return QPainter::CompositionMode_SourceOver;
 }
 
-bool Shows(const Layer& layer, std::int64_t frame)
+bool IsShown(const Layer& layer, std::int64_t frame)
 {
     return layer.PlaysAt(frame) && layer.mode != NLERender_AudioOnly;
 }
@@ -232,11 +232,10 @@ FrameDecoder* Composer::DecoderOf(const Layer& layer, std::int64_t frame, int* w
     const std::shared_ptr<const MediaInfo>& media = layer.proxy ? layer.proxy : layer.media;
     if (!media->Stream(media->videoStream))
         return nullptr;
-    const NLERational mediaRate = {media->frameRate.num, media->frameRate.den};
     // A frozen clip names a frame of its material, which plays at normal speed.
-    *wanted = layer.frozenFrame
-                  ? ShownFrame(*layer.frozenFrame, layer.frameRate, mediaRate)
-                  : ShownFrame(double(frame) * layer.speed, layer.frameRate, mediaRate);
+    const double played =
+        layer.frozenFrame ? double(*layer.frozenFrame) : double(frame) * layer.speed;
+    *wanted = FrameTime{played, layer.frameRate}.ShownAt(media->frameRate);
     OpenDecoder& decoder = m_decoders[&layer];
     decoder.used = true;
     if (!decoder.lease)
@@ -258,7 +257,7 @@ const Layer* Composer::PlainBottom(const Layer& composite, std::int64_t frame,
 {
     const auto bottom =
         std::find_if(composite.children.begin(), composite.children.end(),
-                     [frame](const Snapshot& child) { return Shows(*child, frame); });
+                     [frame](const Snapshot& child) { return IsShown(*child, frame); });
     if (bottom == composite.children.end() || (*bottom)->kind != LayerKind::Media)
         return nullptr;
     const Layer& layer = **bottom;
@@ -266,7 +265,7 @@ const Layer* Composer::PlainBottom(const Layer& composite, std::int64_t frame,
     const MediaStream* stream = media.Stream(media.videoStream);
     const Placing placing = PlaceLayer(layer, nullptr, composite.size, size);
     const bool isPlain = stream && !stream->hasAlpha && !layer.keyFrames &&
-                         (!layer.blend.enabled || layer.blend == BlendSettings()) &&
+                         (!layer.blend.enabled || IsSame(layer.blend, BlendSettings())) &&
                          placing.rotation == 0 &&
                          placing.rect == QRectF(QPointF(0, 0), QSizeF(size));
     return isPlain ? &layer : nullptr;
@@ -279,7 +278,7 @@ const AVFrame* Composer::PlainPicture(std::int64_t frame, const QSize& frameSize
     const QRect place = PlaceRoot(m_root->size, frameSize);
     const Layer* sole = PlainBottom(*m_root, frame, place.size());
     const auto covers = [&](const Snapshot& child) {
-        return child.get() != sole && Shows(*child, frame);
+        return child.get() != sole && IsShown(*child, frame);
     };
     if (!sole || std::any_of(m_root->children.begin(), m_root->children.end(), covers))
         return nullptr;
@@ -305,7 +304,7 @@ QImage Composer::Composite(const Layer& layer, std::int64_t frame, const QSize& 
     QPainter painter(&canvas);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, m_root->context.smooth);
     for (const Snapshot& child : layer.children) {
-        if (child.get() == bottom || !Shows(*child, frame))
+        if (child.get() == bottom || !IsShown(*child, frame))
             continue;
         const std::int64_t childFrame = child->FrameAt(frame);
         std::optional<NLEKeyFrameRecord> key;

@@ -3,14 +3,35 @@
 
 #include "EngineApi/NLETypes.h"
 #include "NLECore/media/MediaInfo.h"
+#include "NLECore/scene/Fields.h"
 
 #include <array>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace nle {
+
+/// Where a node stands on its parent, and what of it plays.
+struct PlacementSettings
+{
+    std::optional<NLERange> range; ///< the trim range; none: all frames
+    int position = 0;              ///< first frame on the parent
+    int level = 0;                 ///< higher covers lower
+    tagNLEMarginMode margin = NLEMargin_Fit;
+    bool enabled = true;
+};
+/// Place and length count where a layer stands, and not in what it shows.
+template <>
+inline constexpr auto kFields<PlacementSettings> = std::tuple(
+    Field{&PlacementSettings::range, "range", Shows::No},
+    Field{&PlacementSettings::position, "position", Shows::No},
+    Field{&PlacementSettings::level, "level", Shows::No},
+    Field{&PlacementSettings::margin, "margin", Shows::Yes, NLEMargin_Fit, NLEMargin_None},
+    Field{&PlacementSettings::enabled, "enabled", Shows::No});
+static_assert(kListsAllFields<PlacementSettings>);
 
 /// How the colours of a clip and of what is below it become one; numbers are part of documents.
 enum class BlendMode : int
@@ -38,12 +59,13 @@ struct BlendSettings
     bool enabled = true;
     BlendMode mode = BlendMode::Normal;
     int alpha = kOpaqueAlpha; ///< 0 to 255
-
-    friend bool operator==(const BlendSettings& a, const BlendSettings& b)
-    {
-        return a.enabled == b.enabled && a.mode == b.mode && a.alpha == b.alpha;
-    }
 };
+template <>
+inline constexpr auto kFields<BlendSettings> =
+    std::tuple(Field{&BlendSettings::enabled, "blend", Shows::Yes},
+               Field{&BlendSettings::mode, "blend", Shows::Yes, 0, kBlendModes - 1},
+               Field{&BlendSettings::alpha, "blend", Shows::Yes, 0, kOpaqueAlpha});
+static_assert(kListsAllFields<BlendSettings>);
 
 /// Where a clip lies on its parent, on top of what its margin mode says.
 struct TransformSettings
@@ -60,6 +82,14 @@ struct TransformSettings
                             scale.height == 1 && rotation == 0);
     }
 };
+template <>
+inline constexpr auto kFields<TransformSettings> =
+    std::tuple(Field{&TransformSettings::enabled, "transform", Shows::Yes},
+               Field{&TransformSettings::center, "transform", Shows::Yes},
+               Field{&TransformSettings::scale, "transform", Shows::Yes},
+               Field{&TransformSettings::rotation, "transform", Shows::Yes},
+               Field{&TransformSettings::lock, "transform", Shows::No});
+static_assert(kListsAllFields<TransformSettings>);
 
 /// Bands of the equaliser; each is an octave wide.
 constexpr std::array<double, 10> kEqualizerBands = {31.25, 62.5, 125,  250,  500,
@@ -68,13 +98,26 @@ constexpr std::array<double, 10> kEqualizerBands = {31.25, 62.5, 125,  250,  500
 struct VolumePoint
 {
     double time; ///< seconds from the clip's in point
-    double gain; ///< linear
+    double gain; ///< linear, 0 to kMostVolume
+
+    friend bool operator==(const VolumePoint& a, const VolumePoint& b)
+    {
+        return a.time == b.time && a.gain == b.gain;
+    }
 };
+/// Puts a point into a curve, in place of one at the same time. False, and nothing changed, for a
+/// time that is not finite and a gain outside of 0 to kMostVolume.
+bool PutVolumePoint(std::vector<VolumePoint>& curve, const VolumePoint& point);
+
+constexpr int kMostSemitones = 24;
+constexpr int kMostDenoise = 97;          ///< dB
+constexpr double kMostVolume = 16;        ///< linear gain
+constexpr double kMostEqualizerGain = 40; ///< dB, up or down
 
 struct AudioSettings
 {
     int pitch = 0;         ///< semitones
-    int denoiseLevel = 12; ///< dB, 0 to 97
+    int denoiseLevel = 12; ///< dB
     bool denoise = false;
     bool mono = false;
     bool volumeEnabled = true;
@@ -90,17 +133,53 @@ struct AudioSettings
     std::array<double, kEqualizerBands.size()> equalizerGains = {}; ///< dB
     std::vector<VolumePoint> volumePoints;                          ///< sorted by time
 };
+template <>
+inline constexpr auto kFields<AudioSettings> = std::tuple(
+    Field{&AudioSettings::volumeEnabled, "sound:levels", Shows::No},
+    Field{&AudioSettings::volume, "sound:levels", Shows::No, 0.0, kMostVolume},
+    Field{&AudioSettings::mute, "sound:levels", Shows::No},
+    Field{&AudioSettings::balance, "sound:levels", Shows::No, -1.0, 1.0},
+    Field{&AudioSettings::fadeIn, "sound:fades", Shows::No},
+    Field{&AudioSettings::fadeInFrames, "sound:fades", Shows::No, 0, INT32_MAX},
+    Field{&AudioSettings::fadeOut, "sound:fades", Shows::No},
+    Field{&AudioSettings::fadeOutFrames, "sound:fades", Shows::No, 0, INT32_MAX},
+    Field{&AudioSettings::pitch, "sound:effects", Shows::No, -kMostSemitones, kMostSemitones},
+    Field{&AudioSettings::denoise, "sound:effects", Shows::No},
+    Field{&AudioSettings::denoiseLevel, "sound:effects", Shows::No, 0, kMostDenoise},
+    Field{&AudioSettings::mono, "sound:effects", Shows::No},
+    Field{&AudioSettings::equalizer, "sound:effects", Shows::No},
+    Field{&AudioSettings::equalizerGains, "sound:equalizer", Shows::No, -kMostEqualizerGain,
+          kMostEqualizerGain},
+    Field{&AudioSettings::equalizerName, "sound:equalizer-name", Shows::No},
+    Field{&AudioSettings::volumePoints, "sound:curve", Shows::No});
+static_assert(kListsAllFields<AudioSettings>);
 
 struct VideoSettings
 {
     std::shared_ptr<const NLEAlphaChannelRecord> alphaChannel; ///< null: never set
     std::shared_ptr<const MediaInfo> proxy;                    ///< null: none
     bool proxyEnabled = false;
-    int premultipliedType = 0;
+    int premultipliedType = 0; ///< kept for editors; rendering does not ask for it
 };
+/// Whether a proxy shows is the layer's to say.
+template <>
+inline constexpr auto kFields<VideoSettings> =
+    std::tuple(Field{&VideoSettings::alphaChannel, "alpha-channel", Shows::No},
+               Field{&VideoSettings::proxy, "proxy", Shows::No},
+               Field{&VideoSettings::proxyEnabled, "proxy-enabled", Shows::No},
+               Field{&VideoSettings::premultipliedType, "premultiplied", Shows::No});
+static_assert(kListsAllFields<VideoSettings>);
 
 /// Mixer strips of a composite's tracks, by level.
 using MixerSettings = std::map<int, tagMixerParam>;
 constexpr tagMixerParam kNeutralStrip = {1, 0, 0, 0};
+/// The document property of a strip has the level behind its name.
+template <>
+inline constexpr auto kFields<tagMixerParam> =
+    std::tuple(Field{&tagMixerParam::volume, "mixer:", Shows::No, 0.0, kMostVolume},
+               Field{&tagMixerParam::balance, "mixer:", Shows::No, -1.0, 1.0},
+               Field{&tagMixerParam::mute, "mixer:", Shows::No},
+               Field{&tagMixerParam::solo, "mixer:", Shows::No});
+static_assert(kListsAllFields<tagMixerParam>);
 
 } // namespace nle

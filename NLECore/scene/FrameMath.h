@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "EngineApi/NLETypes.h"
+#include "EngineApi/NLECommon.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,25 +10,8 @@
 
 namespace nle {
 
-/// Whether a rate can be counted with.
-constexpr bool IsRate(const NLERational& rate)
-{
-    return rate.num > 0 && rate.den > 0;
-}
-
-constexpr double ToDouble(const NLERational& rational)
-{
-    return rational.den == 0 ? 0.0 : double(rational.num) / double(rational.den);
-}
-
-/// A rate in millionths; 0 over 1000000 for what is not a usable number.
-inline NLERational RateFromDouble(double rate)
-{
-    constexpr double highest = 1e6;
-    if (!(rate > 0.0) || rate > highest)
-        return {0, 1000000};
-    return {std::int64_t(rate * 1000000 + 0.5), 1000000};
-}
+using NLECommon::IsRate;
+using NLECommon::ToDouble;
 
 /// The nearest 32-bit number; 0 for what is not a number.
 inline int ClampToInt(double value)
@@ -40,18 +23,28 @@ inline int ClampToInt(double value)
     return int(std::clamp(value, lowest, highest));
 }
 
-/// The frame at rate \a to that is nearest to the start of \a frame at rate \a from.
-inline int RescaleFrame(std::int64_t frame, const NLERational& from, const NLERational& to)
+/// A place in time: a frame number with the rate that it counts at. Where a rate cannot be counted
+/// with, every place is frame 0.
+struct FrameTime
 {
-    return ClampToInt(std::round(double(frame) * ToDouble(to) / ToDouble(from)));
-}
+    double frame;
+    NLERational rate;
 
-/// The frame at rate \a to that is showing when \a frame at rate \a from starts.
-inline int ShownFrame(double frame, const NLERational& from, const NLERational& to)
-{
-    // The margin keeps a frame that starts at the same instant from falling to the one before.
-    return ClampToInt(std::floor(frame * ToDouble(to) / ToDouble(from) + 1e-4));
-}
+    /// The frame at rate \a other that starts nearest to this place.
+    int NearestAt(const NLERational& other) const { return ClampToInt(std::round(At(other))); }
+    /// The frame at rate \a other that is showing at this place.
+    int ShownAt(const NLERational& other) const
+    {
+        // The margin keeps a frame that starts at the same instant from falling to the one before.
+        return ClampToInt(std::floor(At(other) + 1e-4));
+    }
+
+private:
+    double At(const NLERational& other) const
+    {
+        return IsRate(rate) && IsRate(other) ? frame * ToDouble(other) / ToDouble(rate) : 0.0;
+    }
+};
 
 /// \a range with both ends at \a factor times their place; what is not empty keeps at least one
 /// frame.
@@ -65,10 +58,18 @@ inline NLERange ScaleRange(const NLERange& range, double factor)
     return {in, std::max(in, ClampToInt(end - 1))};
 }
 
-/// The same span of time at another rate.
-inline NLERange RescaleRange(const NLERange& range, const NLERational& from, const NLERational& to)
+/// A span of time: frames with the rate that they count at.
+struct FrameSpan
 {
-    return ScaleRange(range, ToDouble(to) / ToDouble(from));
-}
+    NLERange range;
+    NLERational rate;
+
+    /// The same span at another rate; unchanged where one of the rates cannot be counted with.
+    NLERange At(const NLERational& other) const
+    {
+        const bool counts = IsRate(rate) && IsRate(other);
+        return counts ? ScaleRange(range, ToDouble(other) / ToDouble(rate)) : range;
+    }
+};
 
 } // namespace nle

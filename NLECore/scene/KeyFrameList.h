@@ -2,6 +2,7 @@
 #pragma once
 
 #include "EngineApi/NLETypes.h"
+#include "NLECore/scene/Fields.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,6 +10,18 @@
 #include <vector>
 
 namespace nle {
+
+template <>
+inline constexpr auto kFields<NLEKeyFrameRecord> =
+    std::tuple(Field{&NLEKeyFrameRecord::time, "key-frames", Shows::Yes},
+               Field{&NLEKeyFrameRecord::angle, "key-frames", Shows::Yes},
+               Field{&NLEKeyFrameRecord::positionX, "key-frames", Shows::Yes},
+               Field{&NLEKeyFrameRecord::positionY, "key-frames", Shows::Yes},
+               Field{&NLEKeyFrameRecord::scaleWidth, "key-frames", Shows::Yes},
+               Field{&NLEKeyFrameRecord::scaleHeight, "key-frames", Shows::Yes},
+               Field{&NLEKeyFrameRecord::opacity, "key-frames", Shows::Yes},
+               Field{&NLEKeyFrameRecord::interpolation, "key-frames", Shows::Yes});
+static_assert(kListsAllFields<NLEKeyFrameRecord>);
 
 /// A key frame that changes nothing.
 constexpr NLEKeyFrameRecord kPlainKeyFrame = {0, 0, 0, 0, 1, 1, 1, 1};
@@ -115,11 +128,10 @@ struct KeyFrameCurve
     {
         constexpr double finest = 1e6; // parts of a frame that are told apart
         take(double(frames.size()));
-        for (const NLEKeyFrameRecord& f : frames) {
-            for (const double number :
-                 {std::round(axis.FrameOf(f.time) * finest), f.angle, f.positionX, f.positionY,
-                  f.scaleWidth, f.scaleHeight, f.opacity, double(f.interpolation)})
-                take(number);
+        for (NLEKeyFrameRecord f : frames) {
+            f.time = std::round(axis.FrameOf(f.time) * finest);
+            ForEachField<NLEKeyFrameRecord>(
+                [&](const auto& field) { take(double(f.*field.member)); });
         }
     }
 };

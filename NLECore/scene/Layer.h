@@ -29,6 +29,11 @@ struct RenderContext
     double previewScale = 1; ///< share of the wanted size that pictures are drawn at, up to 1
     bool smooth = true;      ///< whether scaled and turned pictures are smoothed
 };
+template <>
+inline constexpr auto
+    kFields<RenderContext> = std::tuple(Field{&RenderContext::previewScale, nullptr, Shows::Yes},
+                                        Field{&RenderContext::smooth, nullptr, Shows::Yes});
+static_assert(kListsAllFields<RenderContext>);
 
 /// Immutable picture of one node and what it holds: all that a render needs, without the model.
 ///
@@ -62,16 +67,6 @@ struct Layer
 
     MixerSettings mixer; ///< Composite only: strips of the children's tracks, by level
 
-    /// Gives every number of the key frames to \a take, in order, and first whether there are any;
-    /// for keys made from a layer's content.
-    template <typename Take>
-    void ForEachKeyFrameNumber(Take take) const
-    {
-        take(keyFrames ? 1.0 : 0.0);
-        if (keyFrames)
-            keyFrames->ForEachNumber(take);
-    }
-
     /// Whether the layer plays at \a frame of its parent.
     bool PlaysAt(std::int64_t frame) const
     {
@@ -80,6 +75,23 @@ struct Layer
     /// The layer's own frame, counted as its trim range is, at \a frame of its parent.
     std::int64_t FrameAt(std::int64_t frame) const { return frame - position + range.in; }
 };
+
+/// Which of a layer's fields its own picture depends on. The others say where and when it shows,
+/// how it sounds, what it holds (layers with keys of their own), or count for the root alone.
+template <>
+inline constexpr auto kFields<Layer> = std::tuple(
+    Field{&Layer::kind, nullptr, Shows::Yes}, Field{&Layer::range, nullptr, Shows::No},
+    Field{&Layer::position, nullptr, Shows::No}, Field{&Layer::level, nullptr, Shows::No},
+    Field{&Layer::frameRate, nullptr, Shows::Yes}, Field{&Layer::margin, nullptr, Shows::Yes},
+    Field{&Layer::mode, nullptr, Shows::No}, Field{&Layer::size, nullptr, Shows::Yes},
+    Field{&Layer::speed, nullptr, Shows::Yes}, Field{&Layer::frozenFrame, nullptr, Shows::Yes},
+    Field{&Layer::blend, nullptr, Shows::Yes}, Field{&Layer::transform, nullptr, Shows::Yes},
+    Field{&Layer::keyFrames, nullptr, Shows::Yes}, Field{&Layer::context, nullptr, Shows::No},
+    Field{&Layer::audio, nullptr, Shows::No}, Field{&Layer::media, nullptr, Shows::Yes},
+    Field{&Layer::proxy, nullptr, Shows::Yes}, Field{&Layer::argb, nullptr, Shows::Yes},
+    Field{&Layer::text, nullptr, Shows::Yes}, Field{&Layer::family, nullptr, Shows::Yes},
+    Field{&Layer::children, nullptr, Shows::No}, Field{&Layer::mixer, nullptr, Shows::No});
+static_assert(kListsAllFields<Layer>);
 
 using Snapshot = std::shared_ptr<const Layer>;
 

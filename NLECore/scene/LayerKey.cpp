@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/scene/LayerKey.h"
 
+#include "NLECore/scene/FieldKeys.h"
+
 #include <QDateTime>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -14,26 +16,6 @@ namespace {
 const std::shared_ptr<const MediaInfo>& ShownMedia(const Layer& layer)
 {
     return layer.proxy ? layer.proxy : layer.media;
-}
-
-/// Everything of a layer that its picture depends on, its media apart.
-void AddSettings(ContentHash& hash, const Layer& layer)
-{
-    hash.Add(layer.kind).Add(layer.frameRate.num).Add(layer.frameRate.den).Add(layer.margin);
-    hash.Add(layer.size.width).Add(layer.size.height).Add(layer.argb);
-    hash.Add(layer.speed).Add(layer.frozenFrame.has_value()).Add(layer.frozenFrame.value_or(0));
-    // What is switched off counts as what was never set.
-    const BlendSettings blend = layer.blend.enabled ? layer.blend : BlendSettings();
-    hash.Add(blend.mode).Add(blend.alpha);
-    const TransformSettings transform =
-        layer.transform.IsIdentity() ? TransformSettings() : layer.transform;
-    hash.Add(transform.center.x).Add(transform.center.y).Add(transform.rotation);
-    hash.Add(transform.scale.width).Add(transform.scale.height);
-    layer.ForEachKeyFrameNumber([&hash](double number) { hash.Add(number); });
-    if (layer.kind == LayerKind::Text) {
-        const bool canDraw = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
-        hash.Add(layer.text).Add(layer.family).Add(canDraw);
-    }
 }
 
 } // namespace
@@ -62,10 +44,27 @@ ContentKey LayerKeys::Of(const Layer& layer)
     if (known != m_layers.end())
         return known->second;
     ContentHash hash;
-    AddSettings(hash, layer);
-    if (layer.kind == LayerKind::Media)
-        hash.Add(OfMedia(*ShownMedia(layer)));
+    ForEachField<Layer>([&](const auto& field) {
+        if constexpr (std::decay_t<decltype(field)>::kShows)
+            AddField(hash, layer, layer.*field.member);
+    });
+    if (layer.kind == LayerKind::Text) {
+        const bool canDraw = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
+        hash.Add(canDraw);
+    }
     return m_layers[&layer] = hash.Result();
+}
+
+// Of media and proxy only the one that shows counts.
+template <typename Value>
+void LayerKeys::AddField(ContentHash& hash, const Layer& layer, const Value& value)
+{
+    if constexpr (std::is_same_v<Value, std::shared_ptr<const MediaInfo>>) {
+        if (value && &value == &ShownMedia(layer))
+            hash.Add(OfMedia(*value));
+    } else {
+        AddValue(hash, value);
+    }
 }
 
 ContentKey LayerKeys::OfMedia(const MediaInfo& media)

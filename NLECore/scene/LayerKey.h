@@ -23,6 +23,8 @@ public:
     ContentKey Of(const Layer& layer);
 
 private:
+    template <typename Value>
+    void AddField(ContentHash& hash, const Layer& layer, const Value& value);
     ContentKey OfMedia(const MediaInfo& media);
     ContentKey OfFile(const QString& path);
 

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/model/DocumentText.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cstdint>
+
+namespace nle {
+
+namespace {
+
+/// Whether XML gives a character back as it is, and nothing of ours begins with it. Line feed and
+/// tab survive; a carriage return would come back as a line feed.
+bool IsPlain(ushort code)
+{
+    const bool isControl = code < 0x20 && code != '\n' && code != '\t';
+    return !isControl && code != '%' && code < 0xFFFE && !QChar::isSurrogate(code);
+}
+
+/// Whether one character beyond the basic plane stands at \a index.
+bool IsPairAt(const QString& text, int index)
+{
+    return index + 1 < text.size() && text.at(index).isHighSurrogate() &&
+           text.at(index + 1).isLowSurrogate();
+}
+
+} // namespace
+
+QString EncodeText(const QString& text)
+{
+    if (std::all_of(text.begin(), text.end(), [](QChar c) { return IsPlain(c.unicode()); }))
+        return text;
+    QString result;
+    for (int i = 0; i < text.size(); ++i) {
+        const ushort code = text.at(i).unicode();
+        if (IsPlain(code))
+            result += text.at(i);
+        else if (IsPairAt(text, i))
+            result += text.mid(i++, 2);
+        else if (code < 0x80)
+            result += QStringLiteral("%%1").arg(code, 2, 16, QLatin1Char('0'));
+        else
+            result += QStringLiteral("%u%1").arg(code, 4, 16, QLatin1Char('0'));
+    }
+    return result;
+}
+
+QString DecodeText(const QString& text)
+{
+    if (!text.contains(QLatin1Char('%')))
+        return text;
+    QString result;
+    for (int i = 0; i < text.size(); ++i) {
+        const bool isMark = text.at(i) == QLatin1Char('%');
+        const bool isLong = isMark && text.mid(i + 1, 1) == QLatin1String("u");
+        const int skipped = isLong ? 5 : 2;
+        bool ok = false;
+        const ushort code =
+            isMark ? text.mid(i + (isLong ? 2 : 1), isLong ? 4 : 2).toUShort(&ok, 16) : 0;
+        const bool isOurs = ok && !IsPlain(code) && isLong == (code >= 0x80);
+        result += isOurs ? QChar(code) : text.at(i);
+        i += isOurs ? skipped : 0;
+    }
+    return result;
+}
+
+QString PlainText(const QString& text)
+{
+    QString result = text;
+    result.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    result.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    for (int i = 0; i < result.size(); ++i) {
+        if (IsPairAt(result, i))
+            ++i;
+        else if (result.at(i) != QLatin1Char('%') && !IsPlain(result.at(i).unicode()))
+            result[i] = QChar(QChar::ReplacementCharacter);
+    }
+    return result;
+}
+
+std::wstring ToWide(const QString& text)
+{
+    std::wstring result;
+    for (int i = 0; i < text.size(); ++i) {
+        const bool isPair = sizeof(wchar_t) > sizeof(ushort) && IsPairAt(text, i);
+        result += isPair ? wchar_t(QChar::surrogateToUcs4(text.at(i), text.at(i + 1)))
+                         : wchar_t(text.at(i).unicode());
+        i += isPair ? 1 : 0;
+    }
+    return result;
+}
+
+QString FromWide(const std::wstring& text)
+{
+    QString result;
+    for (const wchar_t character : text) {
+        const auto code = std::uint32_t(character);
+        if (QChar::requiresSurrogates(code))
+            result += QChar(QChar::highSurrogate(code));
+        result += QChar::requiresSurrogates(code) ? QChar(QChar::lowSurrogate(code))
+                                                  : QChar(ushort(code));
+    }
+    return result;
+}
+
+QString DocumentPath(const QString& path, const QDir& folder)
+{
+    QString absolute = QFileInfo(path).absoluteFilePath();
+    const QString relative = folder.relativeFilePath(absolute);
+    if (relative == QLatin1String("..") || relative.startsWith(QLatin1String("../")))
+        return absolute;
+    // A name that begins with a colon would be taken for one of Qt's resources.
+    return relative.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + relative : relative;
+}
+
+} // namespace nle
