@@ -58,8 +58,6 @@ HRESULT Device::Open(LPCWSTR id, IPortableDeviceValues* clientInformation)
         device->worker().finish(opening, DeviceWorker::Clock::now() + kOpeningLimit);
     if (FAILED(result))
         return result == kCancelled ? kTimedOut : result;
-    if (entry->cameraPort.empty())
-        VolumeWatcher::followMount(entry->uri);
     const std::lock_guard lock(m_mutex);
     if (m_device)
         return kAlreadyOpen;

@@ -48,7 +48,7 @@ std::unique_ptr<DeviceSession> MakeSession(const DeviceEntry& entry)
 {
     if (!entry.cameraPort.empty())
         return std::make_unique<CameraSession>(entry.uri, entry.cameraPort, entry.name);
-    return std::make_unique<FileSession>(entry.uri, entry.name, entry.hasStorages);
+    return std::make_unique<FileSession>(entry.uri, entry.name, entry.hasStorages, entry.usbNode);
 }
 
 } // namespace devices

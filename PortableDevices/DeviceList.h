@@ -19,6 +19,7 @@ struct DeviceEntry
     std::wstring name;
     std::wstring description;
     std::string uri;
+    std::string usbNode;      ///< "/dev/bus/usb/BBB/DDD" where it is known, else empty.
     std::string cameraPort;   ///< "usb:BBB,DDD" for a camera, else empty.
     bool hasStorages = false; ///< The folders in the root are storages.
 };

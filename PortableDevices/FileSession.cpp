@@ -3,10 +3,16 @@
 
 #include "PortableDevices/MountWait.h"
 #include "PortableDevices/SpoolFile.h"
+#include "PortableDevices/VolumeWatcher.h"
 #include "PortableDevices/WideText.h"
 
+#include <cerrno>
+#include <fcntl.h>
 #include <gio/gfiledescriptorbased.h>
+#include <linux/usbdevice_fs.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace devices {
 namespace {
@@ -17,7 +23,7 @@ constexpr const char* kDescription = G_FILE_ATTRIBUTE_ID_FILE
     "," G_FILE_ATTRIBUTE_STANDARD_DISPLAY_NAME "," G_FILE_ATTRIBUTE_STANDARD_SIZE
     "," G_FILE_ATTRIBUTE_TIME_MODIFIED "," G_FILE_ATTRIBUTE_TIME_MODIFIED_USEC;
 constexpr int kThumbnailSize = 256; // pixels, where the device can choose
-constexpr int kOpenAttempts = 30;
+constexpr int kOpenAttempts = 50;
 constexpr gulong kOpenPause = 100000; // microseconds
 // Links may lead in circles or off the device; they are left out.
 constexpr GFileQueryInfoFlags kNoLinks = G_FILE_QUERY_INFO_NOFOLLOW_SYMLINKS;
@@ -145,6 +151,20 @@ private:
     std::unique_ptr<DataReader> m_whole;
 };
 
+// Whether another program has taken up the phone on the device file \a node. The interface for
+// files comes first on phones.
+bool IsHeld(const std::string& node)
+{
+    const int file = node.empty() ? -1 : ::open(node.c_str(), O_RDWR | O_CLOEXEC);
+    if (file < 0)
+        return false;
+    unsigned interface = 0;
+    const bool isTaken = ioctl(file, USBDEVFS_CLAIMINTERFACE, &interface) == 0;
+    const bool isHeld = !isTaken && errno == EBUSY;
+    close(file); // gives the interface back
+    return isHeld;
+}
+
 bool IsFolder(GFileInfo* info)
 {
     return g_file_info_get_file_type(info) == G_FILE_TYPE_DIRECTORY;
@@ -190,29 +210,50 @@ bool LocalRoot::isThere() const
     return read(device, inode) && device == m_device && inode == m_inode;
 }
 
-FileSession::FileSession(const std::string& uri, std::wstring name, bool hasStorages)
-    : m_root(g_file_new_for_uri(uri.c_str())), m_name(std::move(name)), m_hasStorages(hasStorages)
+FileSession::FileSession(const std::string& uri, std::wstring name, bool hasStorages,
+                         std::string usbNode)
+    : m_root(g_file_new_for_uri(uri.c_str()))
+    , m_name(std::move(name))
+    , m_hasStorages(hasStorages)
+    , m_usbNode(std::move(usbNode))
 {
 }
 
 HRESULT FileSession::open(GCancellable* cancellable)
 {
-    HRESULT result = checkRoot(cancellable);
     if (g_file_is_native(m_root.get())) {
         m_local = std::make_shared<LocalRoot>(g_file_peek_path(m_root.get()));
-        return result;
+        return checkRoot(cancellable);
     }
+    const HRESULT result = openRemote(cancellable);
     if (SUCCEEDED(result))
-        return result;
-    const HRESULT mounted = MountAndWait(m_root.get(), cancellable);
-    result = checkRoot(cancellable);
-    // A device that was plugged in again a moment ago: GVfs still asks the daemon of the old mount,
-    // which takes its time to end.
-    for (int attempt = 1; attempt < kOpenAttempts && result == E_FAIL; ++attempt) {
-        g_usleep(kOpenPause);
+        VolumeWatcher::instance().followMount(uri());
+    // GVfs has no code of its own for it.
+    return result == E_FAIL && IsHeld(m_usbNode) ? kBusy : result;
+}
+
+std::string FileSession::uri() const
+{
+    return GPtr<char>(g_file_get_uri(m_root.get())).get();
+}
+
+HRESULT FileSession::openRemote(GCancellable* cancellable) const
+{
+    HRESULT result = checkRoot(cancellable);
+    for (int attempt = 0; attempt < kOpenAttempts && FAILED(result); ++attempt) {
+        if (attempt > 0)
+            g_usleep(kOpenPause);
+        const HRESULT mounted = MountAndWait(m_root.get(), cancellable);
         result = checkRoot(cancellable);
+        // A device that was plugged in again a moment ago: the daemon of the old mount takes its
+        // time to end, and GVfs still asks it.
+        const bool isOldMount = result == E_FAIL || (SUCCEEDED(mounted) && result == kDeviceGone);
+        if (FAILED(result) && !isOldMount)
+            return FAILED(mounted) ? mounted : result;
+        if (isOldMount)
+            VolumeWatcher::instance().followMount(uri());
     }
-    return FAILED(mounted) && FAILED(result) ? mounted : result;
+    return result;
 }
 
 HRESULT FileSession::checkRoot(GCancellable* cancellable) const

@@ -34,8 +34,8 @@ class FileSession final : public DeviceSession
 {
 public:
     /// \a uri is the root; \a hasStorages tells that the folders there are the device's storages.
-    /// Otherwise the root itself is the only storage.
-    FileSession(const std::string& uri, std::wstring name, bool hasStorages);
+    /// Otherwise the root itself is the only storage. \a usbNode is the device file of a phone.
+    FileSession(const std::string& uri, std::wstring name, bool hasStorages, std::string usbNode);
 
     HRESULT open(GCancellable* cancellable) override;
     bool isPresent(bool hasFailed) override;
@@ -55,6 +55,8 @@ private:
         GPtr<GFileInfo> info;
     };
 
+    std::string uri() const;
+    HRESULT openRemote(GCancellable* cancellable) const;
     HRESULT checkRoot(GCancellable* cancellable) const;
     HRESULT find(const std::wstring& id, Place& place, const char* attributes,
                  GCancellable* cancellable) const;
@@ -71,6 +73,7 @@ private:
     GPtr<GFile> m_root;
     std::wstring m_name;
     bool m_hasStorages;
+    std::string m_usbNode;
     std::shared_ptr<const LocalRoot> m_local; // null for a root that is not local
 };
 

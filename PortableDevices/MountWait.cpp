@@ -31,8 +31,9 @@ HRESULT MountAndWait(GFile* root, GCancellable* cancellable)
     g_file_mount_enclosing_volume(root, G_MOUNT_MOUNT_NONE, nullptr, cancellable,
                                   &Completion::store, &end);
     end.wait();
-    if (g_file_mount_enclosing_volume_finish(root, end.result.get(), ErrorOut(error)) ||
-        g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_ALREADY_MOUNTED))
+    const bool isDone =
+        g_file_mount_enclosing_volume_finish(root, end.result.get(), ErrorOut(error));
+    if (isDone || g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_ALREADY_MOUNTED))
         return S_OK;
     return FromGlibError(error.get());
 }

@@ -3,19 +3,18 @@
 
 #include "PortableDevices/WideText.h"
 
-#include <QAbstractEventDispatcher>
-#include <QCoreApplication>
-#include <QThread>
-#include <QTimer>
-
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <thread>
 
 namespace devices {
 namespace {
 
-constexpr int kTurnInterval = 250; // ms between two turns of GLib's loop where Qt's does not run it
+// How long the first list waits for the monitors, which may have to be started.
+constexpr std::chrono::seconds kStartLimit{10};
+constexpr unsigned kAnswerLimit =
+    2000; // ms that the daemon of a mount has to tell that it is there
 
 struct ObjectListDeleter
 {
@@ -28,14 +27,20 @@ bool HasScheme(GFile* root, const char* scheme)
     return g_file_has_uri_scheme(root, scheme);
 }
 
-// "usb:BBB,DDD" out of "/dev/bus/usb/BBB/DDD".
-std::string CameraPort(GVolume* volume)
+// "/dev/bus/usb/BBB/DDD", or empty.
+std::string UsbNode(GVolume* volume)
 {
     const GPtr<char> node(
         volume ? g_volume_get_identifier(volume, G_VOLUME_IDENTIFIER_KIND_UNIX_DEVICE) : nullptr);
+    return node && g_str_has_prefix(node.get(), "/dev/bus/usb/") ? node.get() : std::string();
+}
+
+// "usb:BBB,DDD"
+std::string CameraPort(const std::string& node)
+{
     unsigned bus = 0;
     unsigned device = 0;
-    if (!node || std::sscanf(node.get(), "/dev/bus/usb/%u/%u", &bus, &device) != 2)
+    if (std::sscanf(node.c_str(), "/dev/bus/usb/%u/%u", &bus, &device) != 2)
         return {};
     const GPtr<char> port(g_strdup_printf("usb:%03u,%03u", bus, device));
     return port.get();
@@ -51,8 +56,9 @@ DeviceEntry MakeEntry(GFile* root, const char* name, GVolume* volume)
     const bool isPhone = HasScheme(root, "mtp") || HasScheme(root, "afc");
     entry.description = isCamera ? L"Camera" : isPhone ? L"Phone or player" : L"Removable disk";
     entry.hasStorages = isCamera || HasScheme(root, "mtp");
+    entry.usbNode = UsbNode(volume);
     if (isCamera)
-        entry.cameraPort = CameraPort(volume);
+        entry.cameraPort = CameraPort(entry.usbNode);
     return entry;
 }
 
@@ -82,9 +88,8 @@ GPtr<GFile> RootOf(GVolume* volume)
                              : g_volume_get_activation_root(volume));
 }
 
-std::vector<DeviceEntry> ReadMonitor(GVolumeMonitor* monitor)
+void ReadMonitor(GVolumeMonitor* monitor, std::vector<DeviceEntry>& entries)
 {
-    std::vector<DeviceEntry> entries;
     const ObjectList volumes(g_volume_monitor_get_volumes(monitor));
     for (GList* at = volumes.get(); at; at = at->next) {
         GVolume* volume = G_VOLUME(at->data);
@@ -101,61 +106,143 @@ std::vector<DeviceEntry> ReadMonitor(GVolumeMonitor* monitor)
         AddEntry(entries, GPtr<GFile>(g_mount_get_root(mount)), name.get(), volume.get(),
                  drive.get());
     }
-    return entries;
+}
+
+// Cancels after a while, from the thread that runs a context.
+class Timer
+{
+public:
+    Timer(GMainContext* context, unsigned milliseconds)
+        : m_cancellable(g_cancellable_new()), m_source(g_timeout_source_new(milliseconds))
+    {
+        const auto cancel = [](gpointer target) -> gboolean {
+            g_cancellable_cancel(G_CANCELLABLE(target));
+            return G_SOURCE_REMOVE;
+        };
+        g_source_set_callback(m_source, cancel, g_object_ref(m_cancellable.get()), g_object_unref);
+        g_source_attach(m_source, context);
+    }
+    Timer(const Timer&) = delete;
+    Timer& operator=(const Timer&) = delete;
+    ~Timer()
+    {
+        g_source_destroy(m_source);
+        g_source_unref(m_source);
+    }
+    GCancellable* cancellable() const { return m_cancellable.get(); }
+
+private:
+    const GPtr<GCancellable> m_cancellable;
+    GSource* const m_source;
+};
+
+// A device that was plugged in again is another one.
+bool IsSame(const DeviceEntry& one, const DeviceEntry& other)
+{
+    return one.id == other.id && one.usbNode == other.usbNode;
 }
 
 } // namespace
 
 VolumeWatcher& VolumeWatcher::instance()
 {
-    // Never destroyed: the monitor's signals may come as long as the main loop turns.
     static VolumeWatcher* const watcher = new VolumeWatcher;
     return *watcher;
 }
 
-bool VolumeWatcher::isMainThread()
+VolumeWatcher::VolumeWatcher()
+    : m_context(g_main_context_new()), m_mountContext(g_main_context_new())
 {
-    static const std::thread::id first = std::this_thread::get_id();
-    const QCoreApplication* application = QCoreApplication::instance();
-    return application ? application->thread() == QThread::currentThread()
-                       : first == std::this_thread::get_id();
+    std::thread([this] { loop(); }).detach();
+    std::thread([this] { followMounts(); }).detach();
+}
+
+// Apart from the rest, since a device that does not answer holds it up.
+void VolumeWatcher::followMounts()
+{
+    g_main_context_push_thread_default(m_mountContext.get());
+    for (;;)
+        g_main_context_iteration(m_mountContext.get(), TRUE);
+}
+
+void VolumeWatcher::loop()
+{
+    g_main_context_push_thread_default(m_context.get());
+    // The end of a bus that was first used here must not end the host.
+    if (const GPtr<GDBusConnection> bus{g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr)})
+        g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
+    g_vfs_get_default(); // loads the modules that have monitors
+    addMonitors(G_NATIVE_VOLUME_MONITOR_EXTENSION_POINT_NAME);
+    addMonitors(G_VOLUME_MONITOR_EXTENSION_POINT_NAME);
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isReady = true;
+    }
+    m_ready.notify_all();
+    for (;;) {
+        update();
+        g_main_context_iteration(m_context.get(), TRUE);
+    }
+}
+
+void VolumeWatcher::addMonitors(const char* extensionPoint)
+{
+    // Reports to a main loop, if there is one: of a monitor that was first used by the host.
+    const auto changed = +[](VolumeWatcher* self) { self->update(); };
+    GIOExtensionPoint* point = g_io_extension_point_lookup(extensionPoint);
+    for (GList* at = point ? g_io_extension_point_get_extensions(point) : nullptr; at;
+         at = at->next) {
+        const GType type = g_io_extension_get_type(static_cast<GIOExtension*>(at->data));
+        const GType remote = g_type_from_name("GProxyVolumeMonitor");
+        if (remote == 0 || !g_type_is_a(type, remote))
+            continue;
+        auto* monitorClass = static_cast<GVolumeMonitorClass*>(g_type_class_ref(type));
+        if (monitorClass->is_supported()) {
+            m_monitors.emplace_back(G_VOLUME_MONITOR(g_object_new(type, nullptr)));
+            for (const char* signal : {"volume-removed", "mount-removed"})
+                g_signal_connect_swapped(m_monitors.back().get(), signal, G_CALLBACK(changed),
+                                         this);
+        }
+        g_type_class_unref(monitorClass);
+    }
 }
 
 std::vector<DeviceEntry> VolumeWatcher::entries()
 {
-    if (isMainThread()) {
-        connect();
-        std::vector<DeviceEntry> entries = ReadMonitor(m_monitor.get());
-        const std::lock_guard lock(m_mutex);
-        m_entries = std::move(entries);
+    {
+        std::unique_lock lock(m_mutex);
+        if (!m_ready.wait_for(lock, kStartLimit, [this] { return m_isReady; }))
+            return {};
     }
+    update();
     const std::lock_guard lock(m_mutex);
     return m_entries;
 }
 
-void VolumeWatcher::connect()
+void VolumeWatcher::update()
 {
-    if (m_monitor)
-        return;
-    m_monitor.reset(g_volume_monitor_get());
-    g_signal_connect(m_monitor.get(), "volume-removed", G_CALLBACK(&VolumeWatcher::volumeRemoved),
-                     this);
-    g_signal_connect(m_monitor.get(), "mount-removed", G_CALLBACK(&VolumeWatcher::mountRemoved),
-                     this);
-    keepTurning();
-}
-
-void VolumeWatcher::keepTurning()
-{
-    const QAbstractEventDispatcher* dispatcher = QAbstractEventDispatcher::instance();
-    if (!dispatcher || dispatcher->inherits("QEventDispatcherGlib"))
-        return;
-    auto* timer = new QTimer(QCoreApplication::instance());
-    QObject::connect(timer, &QTimer::timeout, [] {
-        while (g_main_context_iteration(nullptr, FALSE)) {
+    std::vector<std::shared_ptr<OpenDevice>> gone;
+    {
+        const std::lock_guard lock(m_mutex);
+        std::vector<DeviceEntry> found;
+        for (const GPtr<GVolumeMonitor>& monitor : m_monitors)
+            ReadMonitor(monitor.get(), found);
+        found.swap(m_entries);
+        const auto isGone = [this](const DeviceEntry& old) {
+            return std::none_of(m_entries.begin(), m_entries.end(),
+                                [&old](const DeviceEntry& entry) { return IsSame(entry, old); });
+        };
+        found.erase(std::partition(found.begin(), found.end(), isGone), found.end());
+        for (const std::weak_ptr<OpenDevice>& known : m_watched) {
+            std::shared_ptr<OpenDevice> device = known.lock();
+            if (device &&
+                std::any_of(found.begin(), found.end(),
+                            [&device](const DeviceEntry& old) { return old.id == device->id(); }))
+                gone.push_back(std::move(device));
         }
-    });
-    timer->start(kTurnInterval);
+    }
+    for (const std::shared_ptr<OpenDevice>& device : gone)
+        device->worker().noteRemoval();
 }
 
 void VolumeWatcher::watch(const std::shared_ptr<OpenDevice>& device)
@@ -168,51 +255,17 @@ void VolumeWatcher::watch(const std::shared_ptr<OpenDevice>& device)
 
 void VolumeWatcher::followMount(const std::string& uri)
 {
-    // GVfs drops what it remembers of a mount when the connection of an asynchronous call ends,
-    // and the one of the main thread stays. The answer itself does not matter.
+    // GVfs finds that a mount has ended when a thread asks once more over the connection that the
+    // thread has had to it, and this thread stays. The answer itself does not matter.
     const auto ask = [](gpointer file) -> gboolean {
-        const auto ignore = [](GObject* source, GAsyncResult* result, gpointer) {
-            const GPtr<GFileInfo> info(g_file_query_info_finish(G_FILE(source), result, nullptr));
-        };
-        g_file_query_info_async(G_FILE(file), G_FILE_ATTRIBUTE_STANDARD_TYPE,
-                                G_FILE_QUERY_INFO_NONE, G_PRIORITY_DEFAULT, nullptr, ignore,
-                                nullptr);
+        const Timer timer(instance().m_context.get(), kAnswerLimit);
+        const GPtr<GFileInfo> info(g_file_query_info(G_FILE(file), G_FILE_ATTRIBUTE_STANDARD_TYPE,
+                                                     G_FILE_QUERY_INFO_NONE, timer.cancellable(),
+                                                     nullptr));
         return G_SOURCE_REMOVE;
     };
-    GFile* root = g_file_new_for_uri(uri.c_str());
-    if (g_file_is_native(root))
-        g_object_unref(root);
-    else
-        g_main_context_invoke_full(nullptr, G_PRIORITY_DEFAULT, ask, root, g_object_unref);
-}
-
-void VolumeWatcher::noteRemoval(GFile* root)
-{
-    const std::wstring id = WideText(GPtr<char>(g_file_get_uri(root)).get());
-    std::vector<std::shared_ptr<OpenDevice>> gone;
-    {
-        const std::lock_guard lock(m_mutex);
-        for (const std::weak_ptr<OpenDevice>& known : m_watched) {
-            if (std::shared_ptr<OpenDevice> device = known.lock(); device && device->id() == id)
-                gone.push_back(std::move(device));
-        }
-    }
-    for (const std::shared_ptr<OpenDevice>& device : gone)
-        device->worker().noteRemoval();
-}
-
-void VolumeWatcher::volumeRemoved(GVolumeMonitor* /*monitor*/, GVolume* volume, gpointer self)
-{
-    if (const GPtr<GFile> root{g_volume_get_activation_root(volume)})
-        static_cast<VolumeWatcher*>(self)->noteRemoval(root.get());
-}
-
-void VolumeWatcher::mountRemoved(GVolumeMonitor* /*monitor*/, GMount* mount, gpointer self)
-{
-    const GPtr<GFile> root(g_mount_get_root(mount));
-    // A camera's mount goes when the camera is opened, to make way.
-    if (root && !HasScheme(root.get(), "gphoto2"))
-        static_cast<VolumeWatcher*>(self)->noteRemoval(root.get());
+    g_main_context_invoke_full(m_mountContext.get(), G_PRIORITY_DEFAULT, ask,
+                               g_file_new_for_uri(uri.c_str()), g_object_unref);
 }
 
 } // namespace devices

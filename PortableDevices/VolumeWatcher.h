@@ -4,43 +4,47 @@
 #include "PortableDevices/DeviceList.h"
 #include "PortableDevices/GlibPointers.h"
 
+#include <condition_variable>
 #include <mutex>
 
 namespace devices {
 
-/// The system's volume monitor: phones, cameras, card readers and removable disks.
+/// The system's volume monitors: phones, cameras, card readers and removable disks.
 ///
-/// The monitor belongs to the main thread. It learns what comes and goes when that thread runs its
-/// event loop: through the GLib dispatcher where the loop has one, else through a timer.
+/// A thread of its own runs the context that they report to, so it does not matter which threads
+/// ask and what event loop the host has. GLib's own collection of the monitors is left alone: it
+/// belongs to the main thread, and made here it would call the handlers of the host's dialogs from
+/// this thread. Those of GVfs, which are locked and may be used from any thread, know all volumes.
 class VolumeWatcher
 {
 public:
-    /// Lives until the process ends.
+    /// Lives until the process ends, as does its thread.
     static VolumeWatcher& instance();
 
-    /// The devices that are there; nothing without a session bus or GVfs. On another thread than
-    /// the main one these are the devices of the last call there.
+    /// The devices that are there; nothing without a session bus or GVfs.
     std::vector<DeviceEntry> entries();
 
     /// Tells \a device when it is removed, as long as it lives.
     void watch(const std::shared_ptr<OpenDevice>& device);
-    /// Has GVfs notice, in this process, when the mount of the root \a uri ends. Otherwise it
-    /// would ask the daemon that has gone when the same device is plugged in again.
-    static void followMount(const std::string& uri);
+    /// Has GVfs look, in this process, whether the mount of the root \a uri is still the one that
+    /// it was when this was called last. Otherwise it would ask the daemon that has gone when the
+    /// same device is plugged in again.
+    void followMount(const std::string& uri);
 
 private:
-    VolumeWatcher() = default;
+    VolumeWatcher();
 
-    bool isMainThread();
-    void connect();
-    void keepTurning();
-    void noteRemoval(GFile* root);
+    void loop();
+    void followMounts();
+    void addMonitors(const char* extensionPoint);
+    void update();
 
-    static void volumeRemoved(GVolumeMonitor* monitor, GVolume* volume, gpointer self);
-    static void mountRemoved(GVolumeMonitor* monitor, GMount* mount, gpointer self);
-
-    GPtr<GVolumeMonitor> m_monitor; // the main thread's
-    std::mutex m_mutex;             // guards what follows
+    const GPtr<GMainContext> m_context;
+    const GPtr<GMainContext> m_mountContext;      // of the thread that follows mounts
+    std::vector<GPtr<GVolumeMonitor>> m_monitors; // complete when m_isReady
+    std::mutex m_mutex;                           // guards what follows
+    std::condition_variable m_ready;
+    bool m_isReady = false;
     std::vector<DeviceEntry> m_entries;
     std::vector<std::weak_ptr<OpenDevice>> m_watched;
 };

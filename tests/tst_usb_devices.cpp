@@ -9,6 +9,7 @@
 #include <QtTest>
 
 #include <clocale>
+#include <future>
 #include <gio/gio.h>
 #include <thread>
 #include <umockdev.h>
@@ -23,6 +24,7 @@ Q_DECLARE_METATYPE(PtpDevice::Kind)
 namespace {
 
 constexpr auto kCutShort = static_cast<HRESULT>(0x80070026);
+constexpr auto kBusy = static_cast<HRESULT>(0x800700AA);
 constexpr auto kTooLarge = static_cast<HRESULT>(0x800700DF);
 constexpr auto kGone = static_cast<HRESULT>(0x8007048F);
 constexpr auto kTimedOut = static_cast<HRESULT>(0x800705B4);
@@ -59,13 +61,14 @@ private:
                    "UMOCKDEV_DIR=" + qgetenv("UMOCKDEV_DIR") + " exec /usr/libexec/" + program +
                    "'\n");
     }
-    // The identifier of the one device, once GVfs has seen it; empty after a while.
+    // The identifier of the one device, once GVfs has seen it; empty after a while. Asked for on
+    // threads that have no event loop.
     static QString WaitForDevice()
     {
         QMap<QString, QString> devices;
         for (int i = 0; i < 100 && devices.isEmpty(); ++i) {
             QTest::qWait(50);
-            devices = DeviceClient::Devices();
+            devices = std::async(std::launch::async, &DeviceClient::Devices).get();
         }
         return devices.isEmpty() ? QString() : devices.firstKey();
     }
@@ -222,6 +225,23 @@ private Q_SLOTS:
         QCOMPARE(listener->removals.load(), 0);
     }
 
+    void heldByAnother_data()
+    {
+        QTest::addColumn<PtpDevice::Kind>("kind");
+        QTest::newRow("camera") << PtpDevice::Kind{false, true};
+        QTest::newRow("phone") << PtpDevice::Kind{true, true};
+    }
+    void heldByAnother()
+    {
+        QFETCH(PtpDevice::Kind, kind);
+        PtpDevice usb(m_testbed, kind);
+        const QString id = WaitForDevice();
+        usb.isHeld = true;
+        QCOMPARE(Device(id).result, kBusy);
+        usb.isHeld = false;
+        QCOMPARE(Device(id).result, S_OK);
+    }
+
     void stopsAnswering_data()
     {
         QTest::addColumn<PtpDevice::Kind>("kind");
@@ -287,6 +307,8 @@ int main(int argc, char** argv)
         qputenv("GVFS_DISABLE_FUSE", "1");
         execv("/proc/self/exe", argv);
     }
+    // A host whose event loop is not GLib's.
+    qputenv("QT_NO_GLIB", "1");
     QCoreApplication application(argc, argv);
     TestUsbDevices test;
     return QTest::qExec(&test, argc, argv);

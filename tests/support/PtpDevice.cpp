@@ -390,6 +390,8 @@ bool PtpDevice::handle(UMockdevIoctlClient* client)
         umockdev_ioctl_data_update(answer, 0, reinterpret_cast<guint8*>(&capabilities),
                                    sizeof(capabilities));
         g_object_unref(answer);
+    } else if (request == USBDEVFS_CLAIMINTERFACE) {
+        error = isHeld ? EBUSY : error;
     } else if (request == USBDEVFS_SUBMITURB) {
         error = submit(client, resolved(sizeof(usbdevfs_urb)));
     } else if (request == USBDEVFS_REAPURB || request == USBDEVFS_REAPURBNDELAY) {

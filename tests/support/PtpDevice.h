@@ -54,6 +54,8 @@ public:
     /// taken back adds to givenUp.
     std::atomic<bool> isHanging{false}, isAsked{false};
     std::atomic<int> givenUp{0};
+    /// Another program has taken it up.
+    std::atomic<bool> isHeld{false};
     /// Whole and partial reads of data that were asked for.
     std::atomic<int> wholeReads{0}, partialReads{0};
 
