@@ -20,20 +20,37 @@ thread_local long allowed = -1;
 } // namespace
 
 // The engine's module takes these, as the executable's come first.
-void* operator new(std::size_t bytes)
+void* operator new(std::size_t bytes, const std::nothrow_t& /*tag*/) noexcept
 {
-    void* memory = allowed == 0 ? nullptr : std::malloc(bytes > 0 ? bytes : 1);
-    if (!memory)
-        throw std::bad_alloc();
+    if (allowed == 0)
+        return nullptr;
     if (allowed > 0)
         --allowed;
-    return memory;
+    return std::malloc(bytes > 0 ? bytes : 1);
+}
+void* operator new(std::size_t bytes)
+{
+    if (void* memory = operator new(bytes, std::nothrow))
+        return memory;
+    throw std::bad_alloc();
+}
+void* operator new[](std::size_t bytes)
+{
+    return operator new(bytes);
 }
 void operator delete(void* memory) noexcept
 {
     std::free(memory);
 }
 void operator delete(void* memory, std::size_t /*bytes*/) noexcept
+{
+    std::free(memory);
+}
+void operator delete[](void* memory) noexcept
+{
+    std::free(memory);
+}
+void operator delete[](void* memory, std::size_t /*bytes*/) noexcept
 {
     std::free(memory);
 }

@@ -105,7 +105,8 @@ std::unique_ptr<MediaFile> MediaFile::Open(const QString& path, Streams streams,
     std::unique_ptr<MediaFile> file(new MediaFile);
     file->m_stamp = StampOf(path);
     file->LimitTime();
-    AVFormatContext* context = avformat_alloc_context();
+    AVFormatContext*& context = file->m_context;
+    context = avformat_alloc_context();
     if (context == nullptr)
         return nullptr;
     context->interrupt_callback = {&MediaFile::IsLate, file.get()};
@@ -127,7 +128,6 @@ std::unique_ptr<MediaFile> MediaFile::Open(const QString& path, Streams streams,
         SetError(error, path, NotMedia(result));
         return nullptr;
     }
-    file->m_context = context;
     if (context->probe_score < MinProbeScore) {
         SetError(error, path, NotMedia(AVERROR_INVALIDDATA));
         return nullptr;

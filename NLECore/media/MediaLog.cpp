@@ -49,8 +49,13 @@ void Forward(void* context, int level, const char* format, va_list arguments)
     size_t length = std::strlen(line);
     while (length > 0 && (line[length - 1] == '\n' || line[length - 1] == '\r'))
         line[--length] = '\0';
-    if (length > 0)
+    if (length == 0)
+        return;
+    // Nothing may be thrown through the libraries, which are C; a message is lost for it.
+    try {
         (*sink)(line);
+    } catch (...) {
+    }
 }
 
 } // namespace

@@ -57,7 +57,11 @@ struct ScalerFreer
 // Without a prototype of its own: whether the data is constant depends on the library's version.
 constexpr auto WriteBytes = [](void* file, auto* data, int size) {
     const auto* bytes = reinterpret_cast<const char*>(data);
-    return static_cast<QSaveFile*>(file)->write(bytes, size) == size ? size : AVERROR(EIO);
+    try {
+        return static_cast<QSaveFile*>(file)->write(bytes, size) == size ? size : AVERROR(EIO);
+    } catch (const std::bad_alloc&) {
+        return AVERROR(ENOMEM);
+    }
 };
 
 int64_t SeekByte(void* opaque, int64_t offset, int whence)
@@ -69,7 +73,11 @@ int64_t SeekByte(void* opaque, int64_t offset, int whence)
         offset += file->pos();
     else if (whence == SEEK_END)
         offset += file->size();
-    return file->seek(offset) ? offset : AVERROR(EIO);
+    try {
+        return file->seek(offset) ? offset : AVERROR(EIO);
+    } catch (const std::bad_alloc&) {
+        return AVERROR(ENOMEM);
+    }
 }
 
 int RefuseFile(AVFormatContext* /*format*/, AVIOContext** /*file*/, const char* /*url*/,

@@ -53,9 +53,9 @@ struct WriteValue
     HRESULT operator()(int value) const { return bag.SetInt(key, value); }
     HRESULT operator()(double value) const { return bag.SetDouble(key, value); }
     HRESULT operator()(const NLERational& value) const { return bag.SetRational(key, value); }
-    HRESULT operator()(const std::wstring& value) const
+    HRESULT operator()(const PropertyBag::Text& value) const
     {
-        return bag.SetString(key, value.c_str());
+        return bag.SetString(key, value->c_str());
     }
 };
 

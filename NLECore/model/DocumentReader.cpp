@@ -51,7 +51,7 @@ PropertyBag::Value ParseValue(const QString& text)
     case 'r':
         return ParseFraction(value);
     default:
-        return ToWide(value);
+        return std::make_shared<const std::wstring>(ToWide(value));
     }
 }
 

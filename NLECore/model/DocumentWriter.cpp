@@ -42,9 +42,9 @@ struct ValueText
     {
         return QLatin1String("r:") + Fraction(value);
     }
-    QString operator()(const std::wstring& value) const
+    QString operator()(const PropertyBag::Text& value) const
     {
-        return QLatin1String("s:") + FromWide(value);
+        return QLatin1String("s:") + FromWide(*value);
     }
 };
 

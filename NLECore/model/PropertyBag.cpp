@@ -95,14 +95,16 @@ HRESULT PropertyBag::GetString(const wchar_t* key, wchar_t* buffer, int capacity
 {
     return ComGuard([&] {
         const auto found = Find(key);
-        const std::wstring* text = found ? std::get_if<std::wstring>(&*found) : nullptr;
-        return text ? CopyText(*text, buffer, capacity) : E_FAIL;
+        const Text* text = found ? std::get_if<Text>(&*found) : nullptr;
+        return text ? CopyText(**text, buffer, capacity) : E_FAIL;
     });
 }
 
 HRESULT PropertyBag::SetString(const wchar_t* key, const wchar_t* value)
 {
-    return ComGuard([&] { return value ? Store(key, std::wstring(value)) : E_POINTER; });
+    return ComGuard([&] {
+        return value ? Store(key, std::make_shared<const std::wstring>(value)) : E_POINTER;
+    });
 }
 
 int PropertyBag::IntOr(const wchar_t* key, int preset) const

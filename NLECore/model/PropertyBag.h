@@ -5,6 +5,7 @@
 #include "EngineApi/INLEProperties.h"
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <variant>
@@ -18,7 +19,9 @@ HRESULT CopyText(const std::wstring& text, wchar_t* buffer, int capacity);
 class PropertyBag : public ComObject<INLEProperties>
 {
 public:
-    using Value = std::variant<int, double, NLERational, std::wstring>;
+    /// Shared, as copying a variant must not fail: libstdc++ ends in undefined behaviour then.
+    using Text = std::shared_ptr<const std::wstring>;
+    using Value = std::variant<int, double, NLERational, Text>;
     using Values = std::map<std::wstring, Value>;
 
     /// Identifier under which a bag of this engine tells its class.
