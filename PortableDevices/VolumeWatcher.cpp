@@ -168,8 +168,10 @@ void VolumeWatcher::followMounts()
 void VolumeWatcher::loop()
 {
     g_main_context_push_thread_default(m_context.get());
-    // The end of a bus that was first used here must not end the host.
-    if (const GPtr<GDBusConnection> bus{g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr)})
+    // The end of a bus that was first used here must not end the host. Held, since GLib makes the
+    // connection anew after the last reference.
+    const GPtr<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
+    if (bus)
         g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
     g_vfs_get_default(); // loads the modules that have monitors
     addMonitors(G_NATIVE_VOLUME_MONITOR_EXTENSION_POINT_NAME);
