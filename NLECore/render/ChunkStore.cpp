@@ -161,20 +161,25 @@ void ChunkStore::Claim()
         m_claim.reset();
 }
 
-/// Whether other processes write to the folder as well. The one that claims it learns that from a
-/// mark, which each of the others leaves whenever it has written.
+/// Whether other processes may have written to the folder since it was last listed. The one that
+/// claims it learns that from a mark, which each of the others leaves whenever it has written, and
+/// takes the mark away before it lists; who has only now got the claim does not know.
 bool ChunkStore::IsShared()
 {
+    const bool hadClaim = m_claim != nullptr;
     Claim();
     if (m_claim)
-        return QFileInfo::exists(InFolder(kSharedName));
+        return QFile::remove(InFolder(kSharedName)) || !hadClaim;
     m_isMarked = QFile(InFolder(kSharedName)).open(QIODevice::WriteOnly) || m_isMarked;
     return true;
 }
 
+/// The mark stays for the one that has the claim; who leaves last takes it away.
 void ChunkStore::LeaveFolder()
 {
-    if (m_claim || m_isMarked)
+    if (m_isMarked)
+        Claim();
+    if (m_claim)
         QFile::remove(InFolder(kSharedName));
     m_isMarked = false;
     m_claim.reset();
