@@ -10,9 +10,9 @@ BaseButton::BaseButton(int id, const QString& name, QWidget* parent) : QPushButt
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(QStringLiteral("QPushButton{border:0px;}"));
     connect(this, &QPushButton::clicked, this,
-            [this] { emit Clicked(m_id, mapToGlobal(QPoint(0, 0))); });
+            [this] { Q_EMIT Clicked(m_id, mapToGlobal(QPoint(0, 0))); });
     connect(this, &QPushButton::pressed, this,
-            [this] { emit Pressed(m_id, mapToGlobal(QPoint(0, 0))); });
+            [this] { Q_EMIT Pressed(m_id, mapToGlobal(QPoint(0, 0))); });
 }
 
 int BaseButton::GetId() const
@@ -28,11 +28,11 @@ void BaseButton::SetEnabled(bool enabled)
 void BaseButton::enterEvent(QEvent* event)
 {
     QPushButton::enterEvent(event);
-    emit sigEnter(m_id);
+    Q_EMIT sigEnter(m_id);
 }
 
 void BaseButton::leaveEvent(QEvent* event)
 {
     QPushButton::leaveEvent(event);
-    emit sigLeave(m_id);
+    Q_EMIT sigLeave(m_id);
 }

@@ -27,7 +27,7 @@ public:
     /// As setEnabled().
     void SetEnabled(bool enabled);
 
-signals:
+Q_SIGNALS:
     /// A click, and a press. \a p is the button's upper left corner in global coordinates.
     void Clicked(int id, QPoint p);
     void Pressed(int id, QPoint p);

@@ -60,7 +60,7 @@ void BaseStateButton::ClickCurrentButton()
     if (m_currentIndex >= m_buttons.size())
         return;
     BaseButton* button = m_buttons.at(m_currentIndex);
-    emit button->Clicked(button->GetId(), button->mapToGlobal(QPoint(0, 0)));
+    Q_EMIT button->Clicked(button->GetId(), button->mapToGlobal(QPoint(0, 0)));
 }
 
 void BaseStateButton::Restore()
@@ -123,7 +123,7 @@ void BaseStateButton::Advance(int clickedId)
     if (++m_currentIndex >= m_buttons.size())
         m_currentIndex = 0;
     LayOut();
-    emit Clicked(clickedId, mapToGlobal(QPoint(0, 0)));
+    Q_EMIT Clicked(clickedId, mapToGlobal(QPoint(0, 0)));
 }
 
 void BaseStateButton::LayOut()

@@ -76,7 +76,7 @@ void ImageTextButton::mouseReleaseEvent(QMouseEvent* event)
 {
     if (rect().contains(event->pos())) {
         const QPointer<ImageTextButton> self(this);
-        emit Clicked(m_image->GetId(), mapToGlobal(QPoint(0, 0)));
+        Q_EMIT Clicked(m_image->GetId(), mapToGlobal(QPoint(0, 0)));
         if (!self)
             return;
     }

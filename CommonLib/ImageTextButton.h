@@ -31,7 +31,7 @@ public:
     /// height, or its width when it stands on top or below.
     void SetImageWidth(int width);
 
-signals:
+Q_SIGNALS:
     /// A click anywhere on the button, or a release of a press on the text within it. \a p is the
     /// upper left corner, of the image for a click on the image, in global coordinates.
     void Clicked(int id, QPoint p);

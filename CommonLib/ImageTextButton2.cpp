@@ -152,5 +152,5 @@ void ImageTextButton2::Select()
 {
     m_state = Selected;
     update();
-    emit sigSelected(m_id);
+    Q_EMIT sigSelected(m_id);
 }

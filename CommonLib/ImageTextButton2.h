@@ -49,7 +49,7 @@ public:
 
     QSize sizeHint() const override;
 
-signals:
+Q_SIGNALS:
     /// The user selected the tab, or pressed it again.
     void sigSelected(int id);
 

@@ -54,7 +54,7 @@ void PureSlider::SetValue(int value)
         return;
     m_value = limited;
     NotifyAccessibleValue(this, m_value);
-    emit sigValueChanged(m_value);
+    Q_EMIT sigValueChanged(m_value);
 }
 
 int PureSlider::GetValue() const

@@ -41,7 +41,7 @@ public:
 
     QSize sizeHint() const override;
 
-signals:
+Q_SIGNALS:
     void sigValueChanged(int value);
 
 protected:

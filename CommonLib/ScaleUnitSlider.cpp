@@ -83,7 +83,7 @@ ScaleUnitSlider::ScaleUnitSlider(QWidget* parent)
     NameButtons();
 
     connect(m_slider, &ToolBarSlider::valueChanged, this,
-            [this](double value) { emit valueChanged(static_cast<float>(value)); });
+            [this](double value) { Q_EMIT valueChanged(static_cast<float>(value)); });
     connect(m_slider, &ToolBarSlider::startValueChanged, this, &ScaleUnitSlider::startValueChanged);
     connect(m_slider, &ToolBarSlider::endValueChanged, this, &ScaleUnitSlider::endValueChanged);
     connect(m_subButton, &BaseButton::Clicked, this, &ScaleUnitSlider::Sub);
@@ -181,16 +181,16 @@ void ScaleUnitSlider::ChangeBy(int step)
 {
     const QPointer<ScaleUnitSlider> self(this);
     setValue(value() + static_cast<float>(step));
-    emit startValueChanged();
+    Q_EMIT startValueChanged();
     if (!self)
         return;
     const bool wasDown = ButtonPressDown();
     m_slider->SetButtonPressDown(true);
-    emit valueChanged(value());
+    Q_EMIT valueChanged(value());
     if (!self)
         return;
     m_slider->SetButtonPressDown(wasDown);
-    emit endValueChanged();
+    Q_EMIT endValueChanged();
 }
 
 QSize ScaleUnitSlider::sizeHint() const

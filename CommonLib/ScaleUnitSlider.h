@@ -49,7 +49,7 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-signals:
+Q_SIGNALS:
     void valueChanged(float value);
     /// Around all changes of the value by one press, drag or key.
     void startValueChanged();

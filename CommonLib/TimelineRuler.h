@@ -146,7 +146,7 @@ public:
     /// Ends a drag as a release of the mouse does, for a host that takes the release for itself.
     void doMouseButtonRelease();
 
-signals:
+Q_SIGNALS:
     /// Around a click, when enabled: on the press, and on the release or as soon as it becomes a
     /// drag.
     void sigSingleClickStartFramesChanged();

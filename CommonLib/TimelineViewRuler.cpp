@@ -161,7 +161,7 @@ void TimelineViewRuler::StepTo(qint64 frame)
     if (!behaviour.moveFrame || m_drag.Active() != Drag::None || target == Segment().currentFrame)
         return;
     if (Tell(&TimelineViewRuler::StartFramesChanged) && MoveByUser(target) && ShowPlayHead())
-        emit EndFramesChanged();
+        Q_EMIT EndFramesChanged();
 }
 
 bool TimelineViewRuler::ShowPlayHead()
@@ -207,7 +207,7 @@ void TimelineViewRuler::ZoomOnceAbout(float zoom, double frame, double x)
     if (m_drag.Active() != Drag::None || m_convertor.BoundedZoom(zoom) == m_convertor.Zoom())
         return;
     if (Tell(&TimelineViewRuler::StartZoomChanged) && ZoomAbout(zoom, frame, x))
-        emit EndZoomChanged();
+        Q_EMIT EndZoomChanged();
 }
 
 void TimelineViewRuler::FitAll()
@@ -270,11 +270,11 @@ void TimelineViewRuler::mousePressEvent(QMouseEvent* event)
 void TimelineViewRuler::TellRightClick(const QPoint& at)
 {
     if (thread()->loopLevel() == 0) {
-        emit sigRightClicked(at);
+        Q_EMIT sigRightClicked(at);
         return;
     }
     QMetaObject::invokeMethod(
-        this, [this, at] { emit sigRightClicked(at); }, Qt::QueuedConnection);
+        this, [this, at] { Q_EMIT sigRightClicked(at); }, Qt::QueuedConnection);
 }
 
 void TimelineViewRuler::PressPlayHead(const QPoint& at)
@@ -289,7 +289,7 @@ void TimelineViewRuler::PressPlayHead(const QPoint& at)
         return;
     SetCurrentFrame(FrameAt(at.x()));
     if (behaviour.pressEmitsFrames)
-        emit FramesChanged(Segment().currentFrame);
+        Q_EMIT FramesChanged(Segment().currentFrame);
 }
 
 void TimelineViewRuler::mouseDoubleClickEvent(QMouseEvent* event)

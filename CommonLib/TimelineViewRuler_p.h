@@ -75,7 +75,7 @@ public:
     bool StartZoomAndScroll();
     bool EndDrag();
 
-signals:
+Q_SIGNALS:
     void sigSingleClickStartFramesChanged();
     void sigSingleClickEndFrameChanged();
     void StartFramesChanged();

@@ -249,7 +249,7 @@ void ToolBarSlider::EmitValueChange()
 {
     if (!qFuzzyCompare(m_value, m_lastEmitted)) {
         const QPointer<ToolBarSlider> self(this);
-        emit valueChanged(m_value);
+        Q_EMIT valueChanged(m_value);
         if (!self)
             return;
     }
@@ -261,9 +261,9 @@ void ToolBarSlider::EmitStartEndSignals(bool start)
     if (!IsTold(m_hold))
         return;
     if (start)
-        emit startValueChanged();
+        Q_EMIT startValueChanged();
     else
-        emit endValueChanged();
+        Q_EMIT endValueChanged();
 }
 
 bool ToolBarSlider::IsTold(Hold hold) const
@@ -305,7 +305,7 @@ void ToolBarSlider::mouseMoveEvent(QMouseEvent* event)
         return;
     const QPointer<ToolBarSlider> self(this);
     if (!std::exchange(m_isDragging, true)) {
-        emit startDrag();
+        Q_EMIT startDrag();
         if (!self || !CanChanged())
             return;
     }
@@ -336,9 +336,9 @@ void ToolBarSlider::EndHold(Hold held, bool emits)
     if (emits) {
         const QPointer<ToolBarSlider> self(this);
         if (IsTold(held))
-            emit endValueChanged();
+            Q_EMIT endValueChanged();
         if (self && m_isDragging)
-            emit endDrag();
+            Q_EMIT endDrag();
         if (!self)
             return;
     }
@@ -411,11 +411,11 @@ void ToolBarSlider::ChangeByUser(double value)
     ResizeChunk();
     NotifyAccessibleValue(this, m_value);
     const QPointer<ToolBarSlider> self(this);
-    emit startValueChanged();
+    Q_EMIT startValueChanged();
     if (self)
         EmitValueChange();
     if (self)
-        emit endValueChanged();
+        Q_EMIT endValueChanged();
 }
 
 void ToolBarSlider::wheelEvent(QWheelEvent* event)

@@ -73,7 +73,7 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-signals:
+Q_SIGNALS:
     void valueChanged(double value);
     /// Around all changes of the value by one press, drag or key.
     void startValueChanged();

@@ -162,11 +162,11 @@ public:
             slider->setValue(value.toFloat(), false);
         if (slider->value() == before)
             return;
-        emit slider->startValueChanged();
+        Q_EMIT slider->startValueChanged();
         if (slider)
-            emit slider->valueChanged(slider->value());
+            Q_EMIT slider->valueChanged(slider->value());
         if (slider)
-            emit slider->endValueChanged();
+            Q_EMIT slider->endValueChanged();
     }
     QVariant maximumValue() const override
     {

@@ -4,7 +4,19 @@
 #include "Com/ComTypes.h"
 #include "EngineApi/NLETypes.h"
 
-/// Called from the render thread: percentage, a render state, cached and total frames.
+/// States of a preview cache. An engine reports all but the last; the numbers are fixed.
+enum NLECacheState : long
+{
+    NLECache_Caching = 0,
+    NLECache_LowDisk = 1,
+    NLECache_QuotaReached = 2,
+    NLECache_Stopped = 3, ///< as it was asked to
+    NLECache_FolderUnwriteable = 4,
+    NLECache_Finished = 5,
+    NLECache_Idle = 6 ///< at first, after a stop, a new folder or a deletion
+};
+
+/// Called from the render thread: percentage, an NLECacheState, cached and total frames.
 using NLERenderCallback = int (*)(int progress, long state, long cachedFrames, long totalFrames,
                                   void* userData);
 /// Called from an engine thread when an analysis has ended. Only the user data is for the caller.

@@ -51,7 +51,7 @@ struct PlainDecoder::Private
             const int* const matrix = sws_getCoefficients(SWS_CS_ITU709);
             sws_setColorspaceDetails(scaler, matrix, 0, matrix, 1, 0, 1 << 16, 1 << 16);
         }
-        uint8_t* const planes[4] = {image.bits()};
+        std::uint8_t* const planes[4] = {image.bits()};
         const int strides[4] = {image.bytesPerLine()};
         sws_scale(scaler, frame->data, frame->linesize, 0, frame->height, planes, strides);
         return image;
@@ -91,7 +91,7 @@ QImage PlainDecoder::Next(const QSize& size)
 QImage PlainDecoder::At(int frame, const QSize& size)
 {
     const AVRational rate = d->stream->r_frame_rate;
-    const int64_t ticks =
+    const std::int64_t ticks =
         d->stream->start_time + av_rescale_q(frame, {rate.den, rate.num}, d->stream->time_base);
     av_seek_frame(d->format, d->stream->index, ticks, AVSEEK_FLAG_BACKWARD);
     avcodec_flush_buffers(d->codec);

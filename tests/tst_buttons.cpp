@@ -135,7 +135,7 @@ private slots:
         delete states.GetButton(11);
         QCOMPARE(states.Shown(), QString("12"));
         added->setParent(nullptr);
-        emit added->Clicked(14, {});
+        Q_EMIT added->Clicked(14, {});
         states.ClickCurrentButton();
         QCOMPARE(Told(spy, states), QString("12"));
         QCOMPARE(states.Shown(), QString("13"));

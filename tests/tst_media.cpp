@@ -176,8 +176,8 @@ private slots:
         const auto info = Make(name, clip);
         QVERIFY(info);
         QCOMPARE(info->kind, NLEMedia_Video);
-        QCOMPARE(info->frameRate.num, int64_t(clip.rateNum));
-        QCOMPARE(info->frameRate.den, int64_t(clip.rateDen));
+        QCOMPARE(info->frameRate.num, std::int64_t(clip.rateNum));
+        QCOMPARE(info->frameRate.den, std::int64_t(clip.rateDen));
         const int tolerance = name.endsWith(".mp4") ? 0 : 1;
         QVERIFY(std::abs(int(info->frameCount) - clip.frames) <= tolerance);
         const MediaStream& stream = info->streams[size_t(info->videoStream)];
@@ -505,16 +505,16 @@ private slots:
         QVERIFY(decoder);
         std::vector<float> whole(size_t(rate) * 4 * 2);
         for (int i = 0; i < 40; ++i)
-            QVERIFY(decoder->Read(int64_t(i) * 4800, 4800, rate, 2, &whole[size_t(i) * 9600]) >=
-                    4776);
+            QVERIFY(decoder->Read(std::int64_t(i) * 4800, 4800, rate, 2,
+                                  &whole[size_t(i) * 9600]) >= 4776);
         int onset = 0;
         while (onset < rate * 4 && std::abs(whole[size_t(onset) * 2]) < 0.06F)
             ++onset;
         // The encoders of some formats do not note the delay that they add.
         const int delay = name.endsWith(".ts") ? 1024 : name.endsWith("a.mkv") ? 1115 : 0;
         QVERIFY2(std::abs(onset - rate - delay) <= tolerance, qPrintable(QString::number(onset)));
-        const std::vector<float> tone(whole.begin() + int64_t(rate) * 4,
-                                      whole.begin() + int64_t(rate) * 6);
+        const std::vector<float> tone(whole.begin() + std::int64_t(rate) * 4,
+                                      whole.begin() + std::int64_t(rate) * 6);
         QVERIFY2(std::abs(PeakOf(tone) - 0.5F) < 0.03F, qPrintable(QString::number(PeakOf(tone))));
         QVERIFY(Difference(tone.data(), &tone[96], 2) < 0.03F);
 
@@ -529,9 +529,9 @@ private slots:
 
         // Silence outside, also where only a part lies in the stream.
         QCOMPARE(decoder->Read(-5000, 1000, rate, 2, part.data()), 0);
-        QCOMPARE(decoder->Read(int64_t(rate) * 5, 1000, rate, 2, part.data()), 0);
+        QCOMPARE(decoder->Read(std::int64_t(rate) * 5, 1000, rate, 2, part.data()), 0);
         QCOMPARE(PeakOf(part), 0.0F);
-        QCOMPARE(decoder->Read(int64_t(rate) * 1000000, 1000, rate, 2, part.data()), 0);
+        QCOMPARE(decoder->Read(std::int64_t(rate) * 1000000, 1000, rate, 2, part.data()), 0);
         QCOMPARE(decoder->Read(-500, 1000, rate, 2, part.data()), 1000);
         QVERIFY(Difference(&part[1000], whole.data(), 1000) < 0.001F);
         QCOMPARE(decoder->Read(0, 0, rate, 2, part.data()), -1);

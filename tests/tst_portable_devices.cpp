@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // The portable-device service through its published interfaces.
 #include "CommonLib/WpdApiLib/WpdApiLib.h"
+#include "DeviceApi/DeviceResults.h"
 #include "tests/support/DeviceClient.h"
 
 #include <QDir>
@@ -14,14 +15,9 @@ using DeviceClient::Device;
 using DeviceClient::Listener;
 using DeviceClient::Object;
 
-namespace {
+using namespace devices;
 
-constexpr auto kGone = static_cast<HRESULT>(0x8007048F);      // the device was removed
-constexpr auto kCancelled = static_cast<HRESULT>(0x800704C7); // ended by Cancel
-constexpr auto kCutShort = static_cast<HRESULT>(0x80070026);  // ended before the told size
-constexpr auto kNotFound = static_cast<HRESULT>(0x80070002);
-constexpr auto kNotEmpty = static_cast<HRESULT>(0x80070091);
-constexpr auto kNoElement = static_cast<HRESULT>(0x80070490);
+namespace {
 
 } // namespace
 
@@ -141,8 +137,8 @@ private slots:
         QTest::newRow("the file grows") << "grow" << int(S_FALSE) << size + 5;
         QTest::newRow("the file shrinks") << "shrink" << int(kCutShort) << quint64(5 << 20);
         QTest::newRow("the file is deleted") << "delete" << int(S_FALSE) << size;
-        QTest::newRow("the folder is renamed") << "rename" << int(kGone) << quint64(0);
-        QTest::newRow("another folder in its place") << "replace" << int(kGone) << quint64(0);
+        QTest::newRow("the folder is renamed") << "rename" << int(kDeviceGone) << quint64(0);
+        QTest::newRow("another folder in its place") << "replace" << int(kDeviceGone) << quint64(0);
         QTest::newRow("cancelled") << "cancel" << int(kCancelled) << quint64(0);
     }
     void changesDuringCopy()
@@ -174,12 +170,12 @@ private slots:
         QTEST(int(result), "result");
         // One step more may have been read ahead.
         QVERIFY(total > 0 ? read == total : read <= 3 << 20);
-        const bool isGone = result == kGone;
+        const bool isGone = result == kDeviceGone;
         QTRY_COMPARE(listener->removals.load(), isGone ? 1 : 0);
         // Cancel ends what was under way, and nothing else.
         Object object;
         const HRESULT after = device.describe(id.toStdWString(), object);
-        QCOMPARE(after, isGone ? kGone : change == "delete" ? kNotFound : S_OK);
+        QCOMPARE(after, isGone ? kDeviceGone : change == "delete" ? kNotFound : S_OK);
     }
 
     void copyOntoItself_data()
@@ -248,7 +244,7 @@ private slots:
         const QString id = device.tree()["card/folder/file"].id;
         QCOMPARE(device.open(id, stream, Wpd::WPD_RESOURCE_THUMBNAIL), kNoElement);
         QCOMPARE(device.device->Close(), S_OK);
-        QCOMPARE(device.remove(id), static_cast<HRESULT>(0x802A0002));
+        QCOMPARE(device.remove(id), kNotOpen);
     }
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // The portable-device service with cameras and phones on emulated USB ports: GVfs, libgphoto2 and
 // libmtp are the ones that talk to real devices.
+#include "DeviceApi/DeviceResults.h"
 #include "tests/support/DeviceClient.h"
 #include "tests/support/PtpDevice.h"
 
@@ -21,14 +22,9 @@ using DeviceClient::Object;
 
 Q_DECLARE_METATYPE(PtpDevice::Kind)
 
-namespace {
+using namespace devices;
 
-constexpr auto kCutShort = static_cast<HRESULT>(0x80070026);
-constexpr auto kBusy = static_cast<HRESULT>(0x800700AA);
-constexpr auto kTooLarge = static_cast<HRESULT>(0x800700DF);
-constexpr auto kGone = static_cast<HRESULT>(0x8007048F);
-constexpr auto kTimedOut = static_cast<HRESULT>(0x800705B4);
-constexpr auto kCancelled = static_cast<HRESULT>(0x800704C7);
+namespace {
 
 } // namespace
 
@@ -216,7 +212,7 @@ private Q_SLOTS:
             QTRY_COMPARE(listener->removals.load(), 1);
             QVERIFY(listener->isOwnThread);
             QCOMPARE(listener->deviceId, id);
-            QCOMPARE(device.read(tree[top + "/B.JPG"].id, hash, total), kGone);
+            QCOMPARE(device.read(tree[top + "/B.JPG"].id, hash, total), kDeviceGone);
             return;
         }
         QCOMPARE(result, how == "cancel" ? kCancelled : how == "short" ? kCutShort : S_FALSE);

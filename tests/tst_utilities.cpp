@@ -57,7 +57,7 @@ signals:
     void Opened(const QUrl& url);
 
 public slots:
-    void Open(const QUrl& url) { emit Opened(url); }
+    void Open(const QUrl& url) { Q_EMIT Opened(url); }
 
 private slots:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }

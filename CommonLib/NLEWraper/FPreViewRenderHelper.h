@@ -33,13 +33,14 @@ public:
     /// State of the cache. The values travel through signals and the engine's callback.
     enum RenderCacheState : long
     {
-        Caching = 0,
-        LowDisk = 1,           ///< stopped: disk space is low
-        FolderFull = 2,        ///< stopped: the cache's quota is reached
-        StoppedByUser = 3,     ///< the engine has stopped as it was asked to
-        FolderUnwriteable = 4, ///< the folder is missing or the engine refuses it
-        Finished = 5,          ///< everything that needed rendering is cached
-        Idle = 6               ///< at first, after a stop, a new folder or a deletion
+        Caching = NLECache_Caching,
+        LowDisk = NLECache_LowDisk,         ///< stopped: disk space is low
+        FolderFull = NLECache_QuotaReached, ///< stopped: the cache's quota is reached
+        StoppedByUser = NLECache_Stopped,   ///< the engine has stopped as it was asked to
+        FolderUnwriteable =
+            NLECache_FolderUnwriteable, ///< the folder is missing or the engine refuses it
+        Finished = NLECache_Finished,   ///< everything that needed rendering is cached
+        Idle = NLECache_Idle            ///< at first, after a stop, a new folder or a deletion
     };
 
     /// Holds a reference to \a timeline. A \a parent is the wrapper of that timeline: half of its

@@ -142,7 +142,7 @@ std::int64_t ImportSession::Callback(HWND /*window*/, std::uint32_t /*message*/,
 {
     auto& self = *static_cast<ImportSession*>(user);
     if (code == WpdDeviceRemoved) {
-        emit self.Removed(); // on a thread of the service; receivers hear of it on their own
+        Q_EMIT self.Removed(); // on a thread of the service; receivers hear of it on their own
         return 0;
     }
     if (code == WpdObjectRead) {
@@ -168,7 +168,7 @@ void ImportSession::ListNow()
         SysFreeString(ids[i]);
         SysFreeString(names[i]);
     }
-    emit DevicesListed(devices);
+    Q_EMIT DevicesListed(devices);
 }
 
 bool ImportSession::ChooseNow(const wchar_t* deviceId)
@@ -182,7 +182,7 @@ void ImportSession::OpenNow(const std::wstring& deviceId)
     if (IsStopped())
         return;
     const bool isOpen = ChooseNow(deviceId.c_str());
-    emit Opened(isOpen);
+    Q_EMIT Opened(isOpen);
     if (!isOpen)
         return;
     m_objects.clear();
@@ -191,7 +191,7 @@ void ImportSession::OpenNow(const std::wstring& deviceId)
     if (IsStopped())
         return; // the content of a device that nobody looks at any more
     SendObjects();
-    emit ContentRead(isWhole);
+    Q_EMIT ContentRead(isWhole);
 }
 
 void ImportSession::TakeObject(WpdObjectRecord& record)
@@ -207,7 +207,7 @@ void ImportSession::TakeObject(WpdObjectRecord& record)
 void ImportSession::SendObjects()
 {
     if (!m_objects.isEmpty() && !IsStopped())
-        emit ObjectsRead(m_objects);
+        Q_EMIT ObjectsRead(m_objects);
     m_objects.clear();
     m_sent.restart();
 }
@@ -226,7 +226,7 @@ bool ImportSession::ReadNextThumbnail()
     if (image.isNull() && picture.isSmallPicture)
         image = ReadPicture(picture.id, true);
     if (!image.isNull())
-        emit ThumbnailRead(picture.id, image);
+        Q_EMIT ThumbnailRead(picture.id, image);
     return true;
 }
 
@@ -261,11 +261,11 @@ void ImportSession::ImportNow(const QVector<ImportFile>& files)
         else if (!IsStopped())
             result.failed.append(file.path);
         m_imported += file.size;
-        emit Progressed(m_imported);
+        Q_EMIT Progressed(m_imported);
     }
     m_isImporting = false;
     result.isStopped = IsStopped();
-    emit Imported(result);
+    Q_EMIT Imported(result);
 }
 
 bool ImportSession::ImportFileNow(const ImportFile& file)
@@ -285,5 +285,5 @@ void ImportSession::TakeProgress(quint64 bytesOfFile)
     if (m_sent.elapsed() < kSendEvery)
         return;
     m_sent.restart();
-    emit Progressed(m_imported + bytesOfFile);
+    Q_EMIT Progressed(m_imported + bytesOfFile);
 }

@@ -97,7 +97,7 @@ public:
     /// Stops everything that was asked for so far.
     void Stop();
 
-signals:
+Q_SIGNALS:
     void DevicesListed(const QVector<ImportDevice>& devices);
     void Opened(bool isOpen);
     void ObjectsRead(const QVector<ImportObject>& objects);

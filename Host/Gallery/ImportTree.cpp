@@ -231,5 +231,5 @@ void ImportTree::WantThumbnails()
             files.append({IdOf(*item), IsSmallPicture(*item)});
     }
     if (!files.isEmpty())
-        emit ThumbnailsWanted(files);
+        Q_EMIT ThumbnailsWanted(files);
 }

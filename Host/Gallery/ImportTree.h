@@ -38,7 +38,7 @@ public:
     /// Number of files.
     int FileCount() const;
 
-signals:
+Q_SIGNALS:
     /// The marks or the files have changed; once for many changes at a time.
     void MarksChanged();
     /// Files have come into view that have had no picture yet.

@@ -22,7 +22,7 @@ constexpr int MaxChannels = 64;
 constexpr int MaxSeekAttempts = 16;
 constexpr int MaxErrorsInRow = 1000;
 constexpr int SilenceBlock = 4096;
-constexpr int64_t EndSlackUs = 10000000;
+constexpr std::int64_t EndSlackUs = 10000000;
 
 // Codecs need what was before a sample to decode it: overlapping windows, a bit reservoir.
 constexpr int PrerollMs = 250;
@@ -36,12 +36,12 @@ constexpr int MaxForwardSeconds = 2;
 // The resampler's filter reaches so many samples around each one, at the lower of the two rates.
 constexpr int FilterReach = 64;
 
-int64_t FloorDivide(int64_t a, int64_t b)
+std::int64_t FloorDivide(std::int64_t a, std::int64_t b)
 {
     return a / b - (a % b < 0 ? 1 : 0);
 }
 
-int64_t CeilScale(int64_t value, int64_t numerator, int64_t denominator)
+std::int64_t CeilScale(std::int64_t value, std::int64_t numerator, std::int64_t denominator)
 {
     return av_rescale_rnd(value, numerator, denominator, AV_ROUND_UP);
 }
@@ -59,20 +59,20 @@ struct AudioDecoder::Private
     CodecPtr codec;
     PacketPtr packet{av_packet_alloc()};
     int nativeRate = 0;
-    int64_t nativeStart = 0;
+    std::int64_t nativeStart = 0;
     /// End of the stream, once it was seen.
-    int64_t nativeEnd = 0;
+    std::int64_t nativeEnd = 0;
     bool isEndKnown = false;
 
     /// The frame decoded last, its position, and whether part of it is still to be used.
     FramePtr frame{av_frame_alloc()};
-    int64_t framePosition = 0;
-    int64_t previousCount = 0;
+    std::int64_t framePosition = 0;
+    std::int64_t previousCount = 0;
     bool hasFrame = false;
     bool hasPosition = false;
     bool isDrained = false;
     /// Position of the sample that goes to the resampler next.
-    int64_t nativePosition = 0;
+    std::int64_t nativePosition = 0;
 
     ResamplerPtr resampler;
     /// What the resampler takes.
@@ -84,40 +84,42 @@ struct AudioDecoder::Private
     FramePtr silence;
     /// Output not yet read, and the position of its first group.
     std::vector<float> ready;
-    int64_t readyPosition = 0;
+    std::int64_t readyPosition = 0;
     bool isPositioned = false;
 
     bool Start(QString* error);
-    int Read(int64_t first, int count, int newRate, int newChannels, float* output);
+    int Read(std::int64_t first, int count, int newRate, int newChannels, float* output);
     void SetOutput(int newRate, int newChannels);
-    bool Position(int64_t first);
-    bool Seek(int64_t native);
-    bool SeekTicks(int64_t ticks, bool toStart);
+    bool Position(std::int64_t first);
+    bool Seek(std::int64_t native);
+    bool SeekTicks(std::int64_t ticks, bool toStart);
     bool DecodeFrame();
-    int64_t PlaceFrame() const;
+    std::int64_t PlaceFrame() const;
     bool Produce();
     static std::vector<double> OwnMix(const AVChannelLayout& source, const AVChannelLayout& target);
     bool MatchResampler();
-    bool Resample(const uint8_t** data, int count);
-    bool FeedSilence(int64_t count);
-    void DrainResampler(int64_t native);
+    bool Resample(const std::uint8_t** data, int count);
+    bool FeedSilence(std::int64_t count);
+    void DrainResampler(std::int64_t native);
     void Flush();
 
     int ReadyCount() const { return int(ready.size()) / channels; }
-    int64_t NativeOf(int64_t ticks) const
+    std::int64_t NativeOf(std::int64_t ticks) const
     {
         return av_rescale_q(ticks, stream->time_base, {1, nativeRate}) -
                av_rescale(info->originUs, nativeRate, 1000000);
     }
-    int64_t TicksOf(int64_t native) const
+    std::int64_t TicksOf(std::int64_t native) const
     {
         return av_rescale_q(native + av_rescale(info->originUs, nativeRate, 1000000),
                             {1, nativeRate}, stream->time_base);
     }
     /// Groups of output that the resampler's filter may reach before a position.
-    int64_t Margin() const
+    std::int64_t Margin() const
     {
-        return rate == nativeRate ? 0 : FilterReach * (1 + std::max<int64_t>(1, rate / nativeRate));
+        return rate == nativeRate
+                   ? 0
+                   : FilterReach * (1 + std::max<std::int64_t>(1, rate / nativeRate));
     }
 };
 
@@ -154,26 +156,27 @@ bool AudioDecoder::Private::DecodeFrame()
 
 // Containers with coarse clocks round each time stamp; frames of constant length stand on a grid
 // all the same, and frames that follow each other leave no gap.
-int64_t AudioDecoder::Private::PlaceFrame() const
+std::int64_t AudioDecoder::Private::PlaceFrame() const
 {
-    const int64_t count = frame->nb_samples;
-    const int64_t expected = framePosition + previousCount;
-    const int64_t ticks = frame->pts != AV_NOPTS_VALUE ? frame->pts : frame->best_effort_timestamp;
+    const std::int64_t count = frame->nb_samples;
+    const std::int64_t expected = framePosition + previousCount;
+    const std::int64_t ticks =
+        frame->pts != AV_NOPTS_VALUE ? frame->pts : frame->best_effort_timestamp;
     if (ticks == AV_NOPTS_VALUE)
         return hasPosition ? expected : nativeStart;
-    const int64_t stamped = NativeOf(ticks);
+    const std::int64_t stamped = NativeOf(ticks);
     if (hasPosition && std::abs(stamped - expected) <= nativeRate * JitterMs / 1000)
         return expected;
-    const int64_t tick = av_rescale_q(1, stream->time_base, {1, nativeRate});
-    const int64_t grid = info->Stream(streamIndex)->frameSamples;
+    const std::int64_t tick = av_rescale_q(1, stream->time_base, {1, nativeRate});
+    const std::int64_t grid = info->Stream(streamIndex)->frameSamples;
     if (tick <= 1 || grid <= 0)
         return stamped;
-    const int64_t end = stamped + count - nativeStart;
-    const int64_t snapped = FloorDivide(end + grid / 2, grid) * grid;
+    const std::int64_t end = stamped + count - nativeStart;
+    const std::int64_t snapped = FloorDivide(end + grid / 2, grid) * grid;
     return std::abs(snapped - end) <= tick + 1 ? nativeStart + snapped - count : stamped;
 }
 
-bool AudioDecoder::Private::SeekTicks(int64_t ticks, bool toStart)
+bool AudioDecoder::Private::SeekTicks(std::int64_t ticks, bool toStart)
 {
     avcodec_flush_buffers(codec.get());
     hasFrame = false;
@@ -185,18 +188,19 @@ bool AudioDecoder::Private::SeekTicks(int64_t ticks, bool toStart)
     // Matroska indexes the pictures only.
     const bool byPictures = info->videoStream >= 0 && file->IsFormat("matroska");
     const int index = byPictures ? info->videoStream : streamIndex;
-    const int64_t time = av_rescale_q(ticks, stream->time_base, context->streams[index]->time_base);
+    const std::int64_t time =
+        av_rescale_q(ticks, stream->time_base, context->streams[index]->time_base);
     return av_seek_frame(context, index, time, AVSEEK_FLAG_BACKWARD) >= 0;
 }
 
 // Leaves the decoder with a frame at or before the native position, far enough before it for the
 // codec to have settled.
-bool AudioDecoder::Private::Seek(int64_t native)
+bool AudioDecoder::Private::Seek(std::int64_t native)
 {
-    const int64_t preroll = int64_t(nativeRate) * PrerollMs / 1000;
-    const int64_t startTicks = TicksOf(nativeStart);
-    int64_t target = native - preroll;
-    int64_t back = preroll;
+    const std::int64_t preroll = std::int64_t(nativeRate) * PrerollMs / 1000;
+    const std::int64_t startTicks = TicksOf(nativeStart);
+    std::int64_t target = native - preroll;
+    std::int64_t back = preroll;
     for (int attempt = 1; attempt <= MaxSeekAttempts; ++attempt) {
         const bool isLast = attempt == MaxSeekAttempts || target <= nativeStart;
         const bool hasSeeked = SeekTicks(isLast ? startTicks : TicksOf(target), isLast);
@@ -225,12 +229,12 @@ void AudioDecoder::Private::SetOutput(int newRate, int newChannels)
 
 // The resampler starts where the samples of both rates coincide, so a position is always computed
 // from the same samples with the same phase, wherever reading began.
-bool AudioDecoder::Private::Position(int64_t first)
+bool AudioDecoder::Private::Position(std::int64_t first)
 {
-    const int64_t divisor = std::gcd(nativeRate, rate);
-    const int64_t nativeStep = nativeRate / divisor;
-    const int64_t step = rate / divisor;
-    const int64_t block = FloorDivide(first - Margin(), step);
+    const std::int64_t divisor = std::gcd(nativeRate, rate);
+    const std::int64_t nativeStep = nativeRate / divisor;
+    const std::int64_t step = rate / divisor;
+    const std::int64_t block = FloorDivide(first - Margin(), step);
     ready.clear();
     readyPosition = block * step;
     nativePosition = block * nativeStep;
@@ -292,20 +296,20 @@ bool AudioDecoder::Private::MatchResampler()
     return resampler != nullptr;
 }
 
-bool AudioDecoder::Private::Resample(const uint8_t** data, int count)
+bool AudioDecoder::Private::Resample(const std::uint8_t** data, int count)
 {
     const int capacity = swr_get_out_samples(resampler.get(), count);
     if (capacity < 0)
         return false;
     const size_t before = ready.size();
     ready.resize(before + size_t(capacity) * size_t(channels));
-    auto* output = reinterpret_cast<uint8_t*>(ready.data() + before);
+    auto* output = reinterpret_cast<std::uint8_t*>(ready.data() + before);
     const int written = swr_convert(resampler.get(), &output, capacity, data, count);
     ready.resize(before + size_t(std::max(0, written)) * size_t(channels));
     return written >= 0;
 }
 
-bool AudioDecoder::Private::FeedSilence(int64_t count)
+bool AudioDecoder::Private::FeedSilence(std::int64_t count)
 {
     if (!silence) {
         silence.reset(av_frame_alloc());
@@ -317,19 +321,19 @@ bool AudioDecoder::Private::FeedSilence(int64_t count)
         av_samples_set_silence(silence->extended_data, 0, SilenceBlock,
                                silence->ch_layout.nb_channels, AVSampleFormat(silence->format));
     }
-    const int now = int(std::min<int64_t>(count, SilenceBlock));
+    const int now = int(std::min<std::int64_t>(count, SilenceBlock));
     nativePosition += now;
-    return Resample(const_cast<const uint8_t**>(silence->extended_data), now);
+    return Resample(const_cast<const std::uint8_t**>(silence->extended_data), now);
 }
 
 // Takes out what the resampler holds, as far as it belongs to the samples before a native position.
-void AudioDecoder::Private::DrainResampler(int64_t native)
+void AudioDecoder::Private::DrainResampler(std::int64_t native)
 {
     if (resampler)
         Resample(nullptr, 0);
     resampler.reset();
-    const int64_t end = CeilScale(native, rate, nativeRate);
-    const int64_t count = std::clamp<int64_t>(end - readyPosition, 0, ReadyCount());
+    const std::int64_t end = CeilScale(native, rate, nativeRate);
+    const std::int64_t count = std::clamp<std::int64_t>(end - readyPosition, 0, ReadyCount());
     ready.resize(size_t(count) * size_t(channels));
 }
 
@@ -350,8 +354,8 @@ bool AudioDecoder::Private::Produce()
         Flush();
         return true;
     }
-    const int64_t skip = nativePosition - framePosition;
-    const int64_t count = frame->nb_samples - skip;
+    const std::int64_t skip = nativePosition - framePosition;
+    const std::int64_t count = frame->nb_samples - skip;
     if (count <= 0) {
         hasFrame = false;
         return true;
@@ -363,8 +367,9 @@ bool AudioDecoder::Private::Produce()
     const auto format = AVSampleFormat(frame->format);
     const int frameChannels = frame->ch_layout.nb_channels;
     const bool isPlanar = av_sample_fmt_is_planar(format) != 0;
-    const int64_t offset = skip * av_get_bytes_per_sample(format) * (isPlanar ? 1 : frameChannels);
-    std::vector<const uint8_t*> planes(size_t(isPlanar ? frameChannels : 1));
+    const std::int64_t offset =
+        skip * av_get_bytes_per_sample(format) * (isPlanar ? 1 : frameChannels);
+    std::vector<const std::uint8_t*> planes(size_t(isPlanar ? frameChannels : 1));
     for (size_t i = 0; i < planes.size(); ++i)
         planes[i] = frame->extended_data[i] + offset;
     nativePosition += count;
@@ -373,38 +378,38 @@ bool AudioDecoder::Private::Produce()
 }
 
 // Writes the groups from first on that lie in the stream; leaves the others as they are.
-int AudioDecoder::Private::Read(int64_t first, int count, int newRate, int newChannels,
+int AudioDecoder::Private::Read(std::int64_t first, int count, int newRate, int newChannels,
                                 float* output)
 {
     SetOutput(newRate, newChannels);
     // Far outside there is no need to look; the end is only an estimate until it was seen.
-    const int64_t start = av_rescale_rnd(nativeStart, rate, nativeRate, AV_ROUND_DOWN);
-    const int64_t duration = info->Stream(streamIndex)->durationUs + EndSlackUs;
-    const int64_t length = av_rescale(duration, rate, 1000000);
+    const std::int64_t start = av_rescale_rnd(nativeStart, rate, nativeRate, AV_ROUND_DOWN);
+    const std::int64_t duration = info->Stream(streamIndex)->durationUs + EndSlackUs;
+    const std::int64_t length = av_rescale(duration, rate, 1000000);
     const bool isPastEnd = isEndKnown && first >= CeilScale(nativeEnd, rate, nativeRate);
     const bool isOutside = isPastEnd || first >= start + length || first < start - count;
     if (isOutside)
         return 0;
-    const int64_t lead = std::clamp<int64_t>(start - first, 0, count);
-    int64_t position = first + lead;
-    float* target = output + lead * int64_t(channels);
-    const int64_t end = first + count;
+    const std::int64_t lead = std::clamp<std::int64_t>(start - first, 0, count);
+    std::int64_t position = first + lead;
+    float* target = output + lead * std::int64_t(channels);
+    const std::int64_t end = first + count;
 
     const bool isNear =
         isPositioned && position >= readyPosition &&
-        position <= readyPosition + ReadyCount() + int64_t(rate) * MaxForwardSeconds;
+        position <= readyPosition + ReadyCount() + std::int64_t(rate) * MaxForwardSeconds;
     if (!isNear && !Position(position))
         return 0;
     while (position < end) {
-        const int64_t skipped = std::min<int64_t>(position - readyPosition, ReadyCount());
-        const int64_t taken = std::min<int64_t>(ReadyCount() - skipped, end - position);
+        const std::int64_t skipped = std::min<std::int64_t>(position - readyPosition, ReadyCount());
+        const std::int64_t taken = std::min<std::int64_t>(ReadyCount() - skipped, end - position);
         if (readyPosition + skipped == position && taken > 0) {
             const float* const from = ready.data() + skipped * channels;
             std::copy_n(from, taken * channels, target);
             target += taken * channels;
             position += taken;
         }
-        const int64_t used = skipped + std::max<int64_t>(0, taken);
+        const std::int64_t used = skipped + std::max<std::int64_t>(0, taken);
         ready.erase(ready.begin(), ready.begin() + used * channels);
         readyPosition += used;
         if (position < end && !Produce())
@@ -451,7 +456,7 @@ std::unique_ptr<AudioDecoder> AudioDecoder::Open(std::shared_ptr<const MediaInfo
     return std::unique_ptr<AudioDecoder>(new AudioDecoder(std::move(state)));
 }
 
-int AudioDecoder::Read(int64_t firstSample, int count, int sampleRate, int channels,
+int AudioDecoder::Read(std::int64_t firstSample, int count, int sampleRate, int channels,
                        float* interleaved)
 {
     const bool isSensible = count > 0 && sampleRate > 0 && sampleRate <= MaxRate && channels > 0 &&

@@ -30,7 +30,7 @@ public:
     /// Reads that follow each other continue without a seek. Gives the number of groups up to
     /// the end of the stream, 0 when all was silence outside of it; -1, and nothing is written,
     /// for arguments that make no sense.
-    int Read(int64_t firstSample, int count, int sampleRate, int channels, float* interleaved);
+    int Read(std::int64_t firstSample, int count, int sampleRate, int channels, float* interleaved);
 
     /// The description that the decoder was opened with.
     const std::shared_ptr<const MediaInfo>& Info() const;

@@ -24,9 +24,9 @@ struct DecoderPool::Shared
     IdleList idle;
     /// Number of the last Drop() of each path, and of the last Clear(). A lease that began before
     /// does not give its decoder back.
-    std::map<QString, uint64_t> dropped;
-    uint64_t cleared = 0;
-    uint64_t generation = 0;
+    std::map<QString, std::uint64_t> dropped;
+    std::uint64_t cleared = 0;
+    std::uint64_t generation = 0;
     int lentCount = 0;
     int maxOpen = 8;
     int threads = 0;
@@ -36,7 +36,7 @@ struct DecoderPool::Shared
     IdleList TakeMatching(const MediaInfo& info, int stream, DecodePurpose purpose, int wanted);
     /// Without memory for it the decoder is closed.
     void Keep(Idle entry) noexcept;
-    bool WasDropped(const QString& path, uint64_t since) const;
+    bool WasDropped(const QString& path, std::uint64_t since) const;
 };
 
 // The functions of Shared need the lock. They hand out what is to be closed, as closing a file
@@ -55,8 +55,8 @@ DecoderPool::Shared::IdleList DecoderPool::Shared::TakeMatching(const MediaInfo&
                                                                 DecodePurpose purpose, int wanted)
 {
     const auto cost = [wanted](const Idle& entry) {
-        const int64_t distance = int64_t(wanted) - entry.decoder->Position();
-        return distance >= 0 ? distance : (int64_t(1) << 32) - distance;
+        const std::int64_t distance = std::int64_t(wanted) - entry.decoder->Position();
+        return distance >= 0 ? distance : (std::int64_t(1) << 32) - distance;
     };
     auto best = idle.end();
     for (auto entry = idle.begin(); entry != idle.end(); ++entry) {
@@ -80,7 +80,7 @@ void DecoderPool::Shared::Keep(Idle entry) noexcept
     }
 }
 
-bool DecoderPool::Shared::WasDropped(const QString& path, uint64_t since) const
+bool DecoderPool::Shared::WasDropped(const QString& path, std::uint64_t since) const
 {
     const auto entry = dropped.find(path);
     return isClosed || cleared > since || (entry != dropped.end() && entry->second > since);

@@ -10,7 +10,7 @@ namespace nle {
 
 /// What a decoder is kept for. Decoders of one purpose are never given out for another, so
 /// scrolling through thumbnails does not move the play position of a render.
-enum class DecodePurpose : int32_t
+enum class DecodePurpose : std::int32_t
 {
     Thumbnail = 0,
     Render = 1
@@ -48,7 +48,7 @@ public:
         std::shared_ptr<Shared> m_pool;
         std::unique_ptr<FrameDecoder> m_decoder;
         DecodePurpose m_purpose = DecodePurpose::Thumbnail;
-        uint64_t m_generation = 0;
+        std::uint64_t m_generation = 0;
     };
 
     /// \a maxOpen is the bound of open decoders, at least 1; \a threads are those of a decoder, 0

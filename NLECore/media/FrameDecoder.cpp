@@ -16,10 +16,10 @@ namespace nle {
 namespace {
 
 // Decoding on over so few frames is cheaper than emptying the decoder and starting anew.
-constexpr int64_t AlwaysForward = 8;
+constexpr std::int64_t AlwaysForward = 8;
 
 // Up to this distance packets are read ahead in search of a key frame; beyond it a seek is cheaper.
-constexpr int64_t MaxReadAhead = 300;
+constexpr std::int64_t MaxReadAhead = 300;
 
 // Without any key frame within so many packets, decoding starts with what was read.
 constexpr size_t MaxQueuedPackets = 1024;
@@ -29,7 +29,7 @@ constexpr int MaxSeekAttempts = 16;
 // So many packets and errors without a picture mean that there is none to come.
 constexpr int MaxRoundsPerPicture = 20000;
 
-constexpr int64_t MinHoldFrames = 2;
+constexpr std::int64_t MinHoldFrames = 2;
 
 // Codecs that tell from the packet alone that no other picture needs it.
 bool MarksUnreferenced(AVCodecID codec)
@@ -42,8 +42,8 @@ struct DecodedPicture
 {
     FramePtr frame{av_frame_alloc()};
     bool isValid = false;
-    int64_t index = -1;
-    int64_t ticks = 0;
+    std::int64_t index = -1;
+    std::int64_t ticks = 0;
 };
 
 } // namespace
@@ -57,7 +57,7 @@ struct FrameDecoder::Private
     CodecPtr codec;
     PictureScaler scaler;
     MediaStream description;
-    int64_t startTicks = 0;
+    std::int64_t startTicks = 0;
     bool canSkip = false;
     bool isStill = false;
     int threads = 0;
@@ -72,31 +72,31 @@ struct FrameDecoder::Private
     /// Decoding began with the first packet of the file.
     bool isFromStart = true;
     /// Latest time among the packets read since the last seek.
-    int64_t latestTicks = std::numeric_limits<int64_t>::min();
+    std::int64_t latestTicks = std::numeric_limits<std::int64_t>::min();
     /// Packets read since the last seek: those at whose beginning the container has a time, and
     /// whether there were others, whose times are counted on from those.
     int stampedPackets = 0;
     bool hasCountedTimes = false;
     /// Time of the picture decoded last, before the first one that of the packet.
-    int64_t clockTicks = 0;
+    std::int64_t clockTicks = 0;
     /// Highest frame number among packets that the decoder was allowed to skip.
-    int64_t skippedTo = -1;
+    std::int64_t skippedTo = -1;
     /// Frame of the first picture, where that is known to be after 0.
-    int64_t firstFrame = 0;
+    std::int64_t firstFrame = 0;
     /// Last frame that shows a picture, once the end of the data was seen.
-    int64_t endFrame = std::numeric_limits<int64_t>::max();
+    std::int64_t endFrame = std::numeric_limits<std::int64_t>::max();
 
     bool Start(QString* error);
     void FindFirstPicture();
-    bool Locate(int64_t frame);
-    bool SeekAndDecode(int64_t frame, int64_t keepFrom);
-    bool Shows(int64_t frame) const;
-    bool CanContinueTo(int64_t frame);
-    bool Advance(int64_t frame, int64_t keepFrom);
-    bool DecodeNext(int64_t keepFrom);
-    bool Feed(int64_t keepFrom);
+    bool Locate(std::int64_t frame);
+    bool SeekAndDecode(std::int64_t frame, std::int64_t keepFrom);
+    bool Shows(std::int64_t frame) const;
+    bool CanContinueTo(std::int64_t frame);
+    bool Advance(std::int64_t frame, std::int64_t keepFrom);
+    bool DecodeNext(std::int64_t keepFrom);
+    bool Feed(std::int64_t keepFrom);
     PacketPtr ReadPacket();
-    std::optional<int64_t> ReadToKeyFrame(int64_t frame, int64_t keyLimit);
+    std::optional<std::int64_t> ReadToKeyFrame(std::int64_t frame, std::int64_t keyLimit);
     void Reset();
     void NoteEnd();
 
@@ -104,26 +104,26 @@ struct FrameDecoder::Private
     {
         return {int(description.frameRate.den), int(description.frameRate.num)};
     }
-    int64_t IndexOf(int64_t ticks) const
+    std::int64_t IndexOf(std::int64_t ticks) const
     {
         return av_rescale_q(ticks - startTicks, stream->time_base, FrameDuration());
     }
     /// Time of the last tick that still rounds to \a frame.
-    int64_t LastTickOf(int64_t frame) const
+    std::int64_t LastTickOf(std::int64_t frame) const
     {
         const AVRational half{FrameDuration().num, FrameDuration().den * 2};
         return startTicks + av_rescale_q_rnd(2 * frame + 1, half, stream->time_base, AV_ROUND_UP) -
                1;
     }
-    int64_t TicksPerFrame() const
+    std::int64_t TicksPerFrame() const
     {
-        return std::max<int64_t>(1, av_rescale_q(1, FrameDuration(), stream->time_base));
+        return std::max<std::int64_t>(1, av_rescale_q(1, FrameDuration(), stream->time_base));
     }
-    static int64_t TicksOf(const AVPacket& packet)
+    static std::int64_t TicksOf(const AVPacket& packet)
     {
         return packet.pts != AV_NOPTS_VALUE ? packet.pts : packet.dts;
     }
-    static int64_t DecodingTicksOf(const AVPacket& packet)
+    static std::int64_t DecodingTicksOf(const AVPacket& packet)
     {
         return packet.dts != AV_NOPTS_VALUE ? packet.dts : packet.pts;
     }
@@ -131,7 +131,7 @@ struct FrameDecoder::Private
     /// of a picture, which is counted as one, so the times are wrong until the next own one. Where
     /// no packet is marked, the container does not tell.
     bool AreTimesSure() const { return !hasCountedTimes || stampedPackets != 1; }
-    int64_t TicksOf(const AVFrame& frame) const;
+    std::int64_t TicksOf(const AVFrame& frame) const;
     bool IsLastOfItsFrame(const DecodedPicture& picture) const;
 };
 
@@ -147,7 +147,7 @@ PacketPtr FrameDecoder::Private::ReadPacket()
         const bool isCut = (packet->flags & AV_PKT_FLAG_CORRUPT) != 0 && !file->IsFormat("mpegts");
         if (isOurs && !isCut) {
             // Pictures without a time are counted on from the one before, so none may be skipped.
-            if (const int64_t ticks = TicksOf(*packet); ticks != AV_NOPTS_VALUE)
+            if (const std::int64_t ticks = TicksOf(*packet); ticks != AV_NOPTS_VALUE)
                 latestTicks = std::max(latestTicks, ticks);
             else
                 canSkip = false;
@@ -163,19 +163,20 @@ PacketPtr FrameDecoder::Private::ReadPacket()
 
 // Fills the queue up to the wanted frame and drops what lies before the last key frame not after
 // keyLimit. Gives the time of that key frame; without one the queue is whole.
-std::optional<int64_t> FrameDecoder::Private::ReadToKeyFrame(int64_t frame, int64_t keyLimit)
+std::optional<std::int64_t> FrameDecoder::Private::ReadToKeyFrame(std::int64_t frame,
+                                                                  std::int64_t keyLimit)
 {
-    const int64_t lastTick = LastTickOf(frame);
-    std::optional<int64_t> keyTicks;
+    const std::int64_t lastTick = LastTickOf(frame);
+    std::optional<std::int64_t> keyTicks;
     while (queue.size() < MaxQueuedPackets) {
         PacketPtr packet = ReadPacket();
         if (!packet) {
             isInputAtEnd = true;
             break;
         }
-        const int64_t decodingTicks = DecodingTicksOf(*packet);
+        const std::int64_t decodingTicks = DecodingTicksOf(*packet);
         const bool isKey = (packet->flags & AV_PKT_FLAG_KEY) != 0;
-        const int64_t packetTicks = TicksOf(*packet);
+        const std::int64_t packetTicks = TicksOf(*packet);
         if (isKey && packetTicks != AV_NOPTS_VALUE && packetTicks <= keyLimit && AreTimesSure()) {
             queue.clear();
             keyTicks = packetTicks;
@@ -196,7 +197,7 @@ void FrameDecoder::Private::Reset()
     isInputAtEnd = false;
     isDrained = false;
     isFromStart = false;
-    latestTicks = std::numeric_limits<int64_t>::min();
+    latestTicks = std::numeric_limits<std::int64_t>::min();
     stampedPackets = 0;
     hasCountedTimes = false;
     skippedTo = -1;
@@ -204,7 +205,7 @@ void FrameDecoder::Private::Reset()
 
 // ---- decoding
 
-int64_t FrameDecoder::Private::TicksOf(const AVFrame& frame) const
+std::int64_t FrameDecoder::Private::TicksOf(const AVFrame& frame) const
 {
     if (frame.pts != AV_NOPTS_VALUE)
         return frame.pts;
@@ -215,7 +216,7 @@ int64_t FrameDecoder::Private::TicksOf(const AVFrame& frame) const
     return clockTicks + TicksPerFrame();
 }
 
-bool FrameDecoder::Private::Feed(int64_t keepFrom)
+bool FrameDecoder::Private::Feed(std::int64_t keepFrom)
 {
     PacketPtr packet;
     if (!queue.empty()) {
@@ -228,8 +229,8 @@ bool FrameDecoder::Private::Feed(int64_t keepFrom)
         isInputAtEnd = true;
         return avcodec_send_packet(codec.get(), nullptr) >= 0;
     }
-    const int64_t ticks = TicksOf(*packet);
-    const int64_t index = ticks != AV_NOPTS_VALUE ? IndexOf(ticks) : keepFrom;
+    const std::int64_t ticks = TicksOf(*packet);
+    const std::int64_t index = ticks != AV_NOPTS_VALUE ? IndexOf(ticks) : keepFrom;
     const bool isSkippable = canSkip && index < keepFrom;
     codec->skip_frame = isSkippable ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
     if (isSkippable)
@@ -241,7 +242,7 @@ bool FrameDecoder::Private::Feed(int64_t keepFrom)
     return true;
 }
 
-bool FrameDecoder::Private::DecodeNext(int64_t keepFrom)
+bool FrameDecoder::Private::DecodeNext(std::int64_t keepFrom)
 {
     int rounds = 0;
     while (!isDrained) {
@@ -264,12 +265,12 @@ bool FrameDecoder::Private::DecodeNext(int64_t keepFrom)
 // to know.
 bool FrameDecoder::Private::IsLastOfItsFrame(const DecodedPicture& picture) const
 {
-    const int64_t duration = PictureDuration(*picture.frame);
+    const std::int64_t duration = PictureDuration(*picture.frame);
     return description.constantRate && duration > 0 &&
            IndexOf(picture.ticks + duration) > picture.index;
 }
 
-bool FrameDecoder::Private::Shows(int64_t frame) const
+bool FrameDecoder::Private::Shows(std::int64_t frame) const
 {
     if (!current.isValid || current.index > frame)
         return false;
@@ -280,7 +281,7 @@ bool FrameDecoder::Private::Shows(int64_t frame) const
 
 // Decodes on until the picture of the frame is the current one. False when decoding began too late
 // for it or gave nothing.
-bool FrameDecoder::Private::Advance(int64_t frame, int64_t keepFrom)
+bool FrameDecoder::Private::Advance(std::int64_t frame, std::int64_t keepFrom)
 {
     while (!Shows(frame)) {
         if (!next.isValid && !DecodeNext(keepFrom))
@@ -305,15 +306,16 @@ bool FrameDecoder::Private::Advance(int64_t frame, int64_t keepFrom)
 // Demuxers may land after the wanted picture: they go by time of decoding, or guess where a time
 // lies in the file, or land on a key frame whose first pictures cannot be decoded. So the landing
 // is checked, and each further attempt starts earlier.
-bool FrameDecoder::Private::SeekAndDecode(int64_t frame, int64_t keepFrom)
+bool FrameDecoder::Private::SeekAndDecode(std::int64_t frame, std::int64_t keepFrom)
 {
-    const int64_t halfSecond = std::max<int64_t>(1, av_rescale_q(1, {1, 2}, stream->time_base));
-    int64_t ticks = LastTickOf(frame);
-    int64_t keyLimit = ticks;
-    int64_t back = 0;
+    const std::int64_t halfSecond =
+        std::max<std::int64_t>(1, av_rescale_q(1, {1, 2}, stream->time_base));
+    std::int64_t ticks = LastTickOf(frame);
+    std::int64_t keyLimit = ticks;
+    std::int64_t back = 0;
     for (int attempt = 1; attempt < MaxSeekAttempts && ticks > startTicks; ++attempt) {
         Reset();
-        std::optional<int64_t> keyTicks;
+        std::optional<std::int64_t> keyTicks;
         if (av_seek_frame(file->Context(), streamIndex, ticks, AVSEEK_FLAG_BACKWARD) >= 0)
             keyTicks = ReadToKeyFrame(frame, keyLimit);
         if (keyTicks && Advance(frame, keepFrom))
@@ -332,16 +334,16 @@ bool FrameDecoder::Private::SeekAndDecode(int64_t frame, int64_t keepFrom)
 }
 
 // Whether decoding on is cheaper than a seek. May drop packets up to a later key frame.
-bool FrameDecoder::Private::CanContinueTo(int64_t frame)
+bool FrameDecoder::Private::CanContinueTo(std::int64_t frame)
 {
     const bool isUntouched = isFromStart && !next.isValid;
     if (!current.isValid && !isUntouched)
         return false;
-    const int64_t distance = frame - (current.isValid ? current.index : 0);
+    const std::int64_t distance = frame - (current.isValid ? current.index : 0);
     if (distance <= AlwaysForward)
         return distance >= 0;
 
-    const int64_t lastTick = LastTickOf(frame);
+    const std::int64_t lastTick = LastTickOf(frame);
     const AVIndexEntry* const key =
         avformat_index_get_entry_from_timestamp(stream, lastTick, AVSEEK_FLAG_BACKWARD);
     if (key != nullptr && key->timestamp > latestTicks)
@@ -363,7 +365,7 @@ bool FrameDecoder::Private::CanContinueTo(int64_t frame)
     return true;
 }
 
-bool FrameDecoder::Private::Locate(int64_t frame)
+bool FrameDecoder::Private::Locate(std::int64_t frame)
 {
     if (isStill)
         return current.isValid || Advance(0, 0);
@@ -379,7 +381,7 @@ bool FrameDecoder::Private::Locate(int64_t frame)
     if (isFound && skippedTo > current.index)
         isFound = SeekAndDecode(frame, skippedTo);
     if (isFound && skippedTo > current.index)
-        isFound = SeekAndDecode(frame, std::numeric_limits<int64_t>::min());
+        isFound = SeekAndDecode(frame, std::numeric_limits<std::int64_t>::min());
     NoteEnd();
     return isFound && frame <= endFrame;
 }
@@ -388,7 +390,7 @@ void FrameDecoder::Private::NoteEnd()
 {
     if (!isDrained || next.isValid || !current.isValid)
         return;
-    const int64_t hold =
+    const std::int64_t hold =
         av_rescale_q(PictureDuration(*current.frame), stream->time_base, FrameDuration());
     endFrame = current.index + std::max(MinHoldFrames, hold);
 }
@@ -472,7 +474,7 @@ const AVFrame* FrameDecoder::Decoded(int frame)
 
 int FrameDecoder::Position() const
 {
-    return d->current.isValid ? int(std::clamp<int64_t>(d->current.index, 0, INT32_MAX)) : -1;
+    return d->current.isValid ? int(std::clamp<std::int64_t>(d->current.index, 0, INT32_MAX)) : -1;
 }
 
 const std::shared_ptr<const MediaInfo>& FrameDecoder::Info() const

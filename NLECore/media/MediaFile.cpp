@@ -191,11 +191,11 @@ void MediaFile::LimitTime()
     m_deadline = std::chrono::steady_clock::now() + OpenTimeout;
 }
 
-bool MediaFile::SeekToStart(int stream, int64_t startTicks)
+bool MediaFile::SeekToStart(int stream, std::int64_t startTicks)
 {
     // Some demuxers search by time of decoding, which lies before the first time of display;
     // others refuse a time before their first packet.
-    const int64_t margin = av_rescale_q(10, {1, 1}, m_context->streams[stream]->time_base);
+    const std::int64_t margin = av_rescale_q(10, {1, 1}, m_context->streams[stream]->time_base);
     return av_seek_frame(m_context, stream, startTicks - margin, AVSEEK_FLAG_BACKWARD) >= 0 ||
            av_seek_frame(m_context, stream, startTicks, AVSEEK_FLAG_BACKWARD) >= 0 ||
            av_seek_frame(m_context, -1, 0, AVSEEK_FLAG_BYTE) >= 0;

@@ -8,9 +8,9 @@
 namespace nle {
 namespace {
 
-int64_t Nanoseconds(const timespec& time)
+std::int64_t Nanoseconds(const timespec& time)
 {
-    return int64_t(time.tv_sec) * 1000000000 + time.tv_nsec;
+    return std::int64_t(time.tv_sec) * 1000000000 + time.tv_nsec;
 }
 
 } // namespace

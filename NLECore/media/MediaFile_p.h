@@ -69,7 +69,7 @@ public:
     /// From now on reading fails after some seconds; opening has a limit of its own.
     void LimitTime();
     /// Goes on reading at or before the first packet of \a stream, whose time is \a startTicks.
-    bool SeekToStart(int stream, int64_t startTicks);
+    bool SeekToStart(int stream, std::int64_t startTicks);
     /// True when \a name is one of the short names of the container format.
     bool IsFormat(const char* name) const;
 
@@ -83,7 +83,7 @@ private:
 };
 
 /// Time that a decoded picture is on show, in ticks of its stream; 0 when unknown.
-inline int64_t PictureDuration(const AVFrame& frame)
+inline std::int64_t PictureDuration(const AVFrame& frame)
 {
 #if LIBAVUTIL_VERSION_MAJOR >= 58
     return frame.duration;

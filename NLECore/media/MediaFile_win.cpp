@@ -17,9 +17,9 @@ struct HandleCloser
 };
 
 // The system counts steps of 100 ns since 1601.
-int64_t Nanoseconds(const LARGE_INTEGER& time)
+std::int64_t Nanoseconds(const LARGE_INTEGER& time)
 {
-    constexpr int64_t stepsTo1970 = 116444736000000000;
+    constexpr std::int64_t stepsTo1970 = 116444736000000000;
     return (time.QuadPart - stepsTo1970) * 100;
 }
 
@@ -56,8 +56,8 @@ FileStamp StampOf(const QString& path)
         !GetFileInformationByHandleEx(handle, FileBasicInfo, &times, sizeof times) ||
         !GetFileInformationByHandle(handle, &identity))
         return {};
-    const auto join = [](DWORD high, DWORD low) { return uint64_t(high) << 32 | low; };
-    return {int64_t(join(identity.nFileSizeHigh, identity.nFileSizeLow)),
+    const auto join = [](DWORD high, DWORD low) { return std::uint64_t(high) << 32 | low; };
+    return {std::int64_t(join(identity.nFileSizeHigh, identity.nFileSizeLow)),
             Nanoseconds(times.LastWriteTime), Nanoseconds(times.ChangeTime),
             identity.dwVolumeSerialNumber, join(identity.nFileIndexHigh, identity.nFileIndexLow)};
 }

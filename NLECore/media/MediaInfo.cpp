@@ -76,14 +76,15 @@ AVRational ChooseRate(const AVStream* stream, bool* isConstant)
 Orientation ReadDisplayMatrix(const AVStream* stream)
 {
     size_t size = 0;
-    const uint8_t* const data = av_stream_get_side_data(stream, AV_PKT_DATA_DISPLAYMATRIX, &size);
-    if (data == nullptr || size < 9 * sizeof(int32_t))
+    const std::uint8_t* const data =
+        av_stream_get_side_data(stream, AV_PKT_DATA_DISPLAYMATRIX, &size);
+    if (data == nullptr || size < 9 * sizeof(std::int32_t))
         return {};
-    const auto* const matrix = reinterpret_cast<const int32_t*>(data);
-    const int64_t a = matrix[0];
-    const int64_t b = matrix[1];
-    const int64_t c = matrix[3];
-    const int64_t d = matrix[4];
+    const auto* const matrix = reinterpret_cast<const std::int32_t*>(data);
+    const std::int64_t a = matrix[0];
+    const std::int64_t b = matrix[1];
+    const std::int64_t c = matrix[3];
+    const std::int64_t d = matrix[4];
     if (std::abs(a) + std::abs(d) >= std::abs(b) + std::abs(c)) {
         const bool isMirrored = (a < 0) != (d < 0);
         return {d < 0 ? 180 : 0, isMirrored};
@@ -149,38 +150,38 @@ NLEStreamType TypeOf(const AVStream* stream)
 }
 
 // Matroska notes the end of each track as text: hours:minutes:seconds.nanoseconds.
-int64_t ReadDurationTag(const AVStream* stream)
+std::int64_t ReadDurationTag(const AVStream* stream)
 {
     const AVDictionaryEntry* const tag = av_dict_get(stream->metadata, "DURATION", nullptr, 0);
     const QStringList parts =
         tag != nullptr ? QString::fromUtf8(tag->value).split(QLatin1Char(':')) : QStringList();
     if (parts.size() != 3)
         return 0;
-    const int64_t minutes = parts[0].toLongLong() * 60 + parts[1].toLongLong();
+    const std::int64_t minutes = parts[0].toLongLong() * 60 + parts[1].toLongLong();
     return minutes * 60000000 + std::llround(parts[2].toDouble() * 1e6);
 }
 
-int64_t StartTicks(const AVStream* stream)
+std::int64_t StartTicks(const AVStream* stream)
 {
     return stream->start_time != AV_NOPTS_VALUE ? stream->start_time : 0;
 }
 
-int64_t StartUs(const AVStream* stream)
+std::int64_t StartUs(const AVStream* stream)
 {
     return av_rescale_q(StartTicks(stream), stream->time_base, Microseconds);
 }
 
-int64_t DurationUs(const AVFormatContext* context, const AVStream* stream)
+std::int64_t DurationUs(const AVFormatContext* context, const AVStream* stream)
 {
     if (stream->duration > 0)
         return av_rescale_q(stream->duration, stream->time_base, Microseconds);
-    const int64_t start = StartUs(stream);
-    if (const int64_t end = ReadDurationTag(stream); end > start)
+    const std::int64_t start = StartUs(stream);
+    if (const std::int64_t end = ReadDurationTag(stream); end > start)
         return end - start;
     if (context->duration <= 0)
         return 0;
-    const int64_t first = context->start_time != AV_NOPTS_VALUE ? context->start_time : start;
-    return std::max<int64_t>(0, context->duration - (start - first));
+    const std::int64_t first = context->start_time != AV_NOPTS_VALUE ? context->start_time : start;
+    return std::max<std::int64_t>(0, context->duration - (start - first));
 }
 
 bool HasAlpha(const AVStream* stream)
@@ -251,11 +252,11 @@ void MeasureStream(MediaFile& file, int index, MediaStream* stream)
     AVFormatContext* const context = file.Context();
     const AVStream* const source = context->streams[index];
     const PacketPtr packet(av_packet_alloc());
-    int64_t end = stream->startTicks;
+    std::int64_t end = stream->startTicks;
     file.LimitTime();
     while (av_read_frame(context, packet.get()) >= 0) {
         // Without times in the file the pictures follow each other.
-        const int64_t time = packet->pts != AV_NOPTS_VALUE ? packet->pts : end;
+        const std::int64_t time = packet->pts != AV_NOPTS_VALUE ? packet->pts : end;
         if (packet->stream_index == index)
             end = std::max(end, time + packet->duration);
         av_packet_unref(packet.get());
@@ -267,15 +268,15 @@ void MeasureStream(MediaFile& file, int index, MediaStream* stream)
 int PreferredStream(const AVFormatContext* context, const MediaInfo& info, NLEStreamType type)
 {
     int best = -1;
-    int64_t bestRank = -1;
+    std::int64_t bestRank = -1;
     for (int i = 0; i < int(info.streams.size()); ++i) {
         const MediaStream& stream = info.streams[size_t(i)];
         if (stream.type != type)
             continue;
         const bool isDefault = (context->streams[i]->disposition & AV_DISPOSITION_DEFAULT) != 0;
-        const int64_t size =
-            type == NLEStream_Video ? int64_t(stream.width) * stream.height : stream.channels;
-        const int64_t rank = size + (isDefault ? int64_t(1) << 40 : 0);
+        const std::int64_t size =
+            type == NLEStream_Video ? std::int64_t(stream.width) * stream.height : stream.channels;
+        const std::int64_t rank = size + (isDefault ? std::int64_t(1) << 40 : 0);
         if (rank > bestRank) {
             best = i;
             bestRank = rank;
@@ -284,16 +285,17 @@ int PreferredStream(const AVFormatContext* context, const MediaInfo& info, NLESt
     return best;
 }
 
-uint32_t CountFrames(int64_t durationUs, const NLERational& rate)
+std::uint32_t CountFrames(std::int64_t durationUs, const NLERational& rate)
 {
-    const int64_t count = av_rescale_q(durationUs, Microseconds, {int(rate.den), int(rate.num)});
-    return uint32_t(std::clamp<int64_t>(count, 0, INT32_MAX));
+    const std::int64_t count =
+        av_rescale_q(durationUs, Microseconds, {int(rate.den), int(rate.num)});
+    return std::uint32_t(std::clamp<std::int64_t>(count, 0, INT32_MAX));
 }
 
 // The frame after the last picture that the packets at the end of the index hold; 0 where there is
 // no index of the whole file or its end cannot be read. Parts that an edit list cuts away do not
 // count.
-uint32_t FindEnd(MediaFile& file, const AVStream* stream, const MediaStream& description)
+std::uint32_t FindEnd(MediaFile& file, const AVStream* stream, const MediaStream& description)
 {
     AVFormatContext* const context = file.Context();
     auto* const source = const_cast<AVStream*>(stream);
@@ -302,14 +304,14 @@ uint32_t FindEnd(MediaFile& file, const AVStream* stream, const MediaStream& des
     const int first = entries - 1 - stream->codecpar->video_delay;
     if (!file.IsFormat("mp4") || stream->nb_frames <= 0 || first < 0)
         return 0;
-    const int64_t start = avformat_index_get_entry(source, first)->timestamp;
+    const std::int64_t start = avformat_index_get_entry(source, first)->timestamp;
     if (av_seek_frame(context, stream->index, start, AVSEEK_FLAG_BACKWARD | AVSEEK_FLAG_ANY) < 0)
         return 0;
     for (unsigned i = 0; i < context->nb_streams; ++i)
         context->streams[i]->discard = int(i) == stream->index ? AVDISCARD_DEFAULT : AVDISCARD_ALL;
     const AVRational frame{int(description.frameRate.den), int(description.frameRate.num)};
     const PacketPtr packet(av_packet_alloc());
-    int64_t end = 0;
+    std::int64_t end = 0;
     int packets = 0;
     file.LimitTime();
     while (av_read_frame(context, packet.get()) >= 0) {
@@ -317,24 +319,24 @@ uint32_t FindEnd(MediaFile& file, const AVStream* stream, const MediaStream& des
             return 0;
         const bool isShown = packet->pts != AV_NOPTS_VALUE &&
                              (packet->flags & (AV_PKT_FLAG_DISCARD | AV_PKT_FLAG_CORRUPT)) == 0;
-        const int64_t ticks = packet->pts - description.startTicks;
+        const std::int64_t ticks = packet->pts - description.startTicks;
         if (isShown)
             end = std::max(end, av_rescale_q(ticks, stream->time_base, frame) + 1);
         av_packet_unref(packet.get());
     }
-    return uint32_t(std::clamp<int64_t>(end, 0, INT32_MAX));
+    return std::uint32_t(std::clamp<std::int64_t>(end, 0, INT32_MAX));
 }
 
 // The container's own count is exact, but counts pictures: at a variable rate, or with parts cut
 // away by an edit list, it is not the number of frames.
-uint32_t CountFrames(MediaFile& file, const AVStream* stream, const MediaStream& description)
+std::uint32_t CountFrames(MediaFile& file, const AVStream* stream, const MediaStream& description)
 {
-    const uint32_t expected = CountFrames(description.durationUs, description.frameRate);
-    const int64_t known = stream->nb_frames;
-    const bool isUsable = known > 0 && std::abs(known - int64_t(expected)) <= 1;
-    const uint32_t count = isUsable || expected == 0 ? uint32_t(known) : expected;
+    const std::uint32_t expected = CountFrames(description.durationUs, description.frameRate);
+    const std::int64_t known = stream->nb_frames;
+    const bool isUsable = known > 0 && std::abs(known - std::int64_t(expected)) <= 1;
+    const std::uint32_t count = isUsable || expected == 0 ? std::uint32_t(known) : expected;
     // A copied part ends where the sound does, maybe amid a frame that has no picture.
-    const uint32_t end = description.constantRate ? FindEnd(file, stream, description) : 0;
+    const std::uint32_t end = description.constantRate ? FindEnd(file, stream, description) : 0;
     return end > 0 ? std::min(count, end) : count;
 }
 
@@ -375,7 +377,7 @@ void MakeAudio(const AVFormatContext* context, MediaInfo* info)
     info->frameRate = StillRate;
     info->durationUs = stream.durationUs;
     // Before time 0 some containers keep what an encoder needs to settle; it is not played.
-    info->originUs = std::max<int64_t>(0, StartUs(context->streams[info->audioStream]));
+    info->originUs = std::max<std::int64_t>(0, StartUs(context->streams[info->audioStream]));
     info->frameCount = std::max(1U, CountFrames(info->durationUs, StillRate));
 }
 

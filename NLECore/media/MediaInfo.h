@@ -35,29 +35,29 @@ struct MediaStream
     /// Number of the sample format in libavutil's AVSampleFormat; -1 without sound.
     int sampleFormat = -1;
     /// Bits per second; 0 when unknown.
-    int64_t bitRate = 0;
-    uint32_t fourcc = 0;
+    std::int64_t bitRate = 0;
+    std::uint32_t fourcc = 0;
     std::string codecName;
     std::string profileName;
-    int64_t durationUs = 0;
+    std::int64_t durationUs = 0;
     /// Time stamp of the first picture or sample in ticks of the container's stream clock.
-    int64_t startTicks = 0;
+    std::int64_t startTicks = 0;
     /// Number of pictures that a decoder holds back to bring them into order of display.
     int reorderDelay = 0;
     /// Pictures stand on the grid of frameRate, so no two of them share one frame number.
     bool constantRate = false;
     /// Frames of a video stream at frameRate, 1 for a still picture; 0 when unknown.
-    uint32_t frameCount = 0;
+    std::uint32_t frameCount = 0;
 };
 
 /// Tells one content of a file from another; times in nanoseconds since 1970, UTC.
 struct FileStamp
 {
-    int64_t size = -1;      ///< bytes; -1 when there is no regular file
-    int64_t modifiedNs = 0; ///< last change of the content
-    int64_t changedNs = 0;  ///< last change of content or attributes
-    uint64_t volume = 0;
-    uint64_t file = 0; ///< number on the volume
+    std::int64_t size = -1;      ///< bytes; -1 when there is no regular file
+    std::int64_t modifiedNs = 0; ///< last change of the content
+    std::int64_t changedNs = 0;  ///< last change of content or attributes
+    std::uint64_t volume = 0;
+    std::uint64_t file = 0; ///< number on the volume
 
     friend bool operator==(const FileStamp& a, const FileStamp& b)
     {
@@ -78,14 +78,14 @@ struct MediaInfo
     int videoStream = -1;
     int audioStream = -1;
     /// Number of frames at frameRate; 1 for a still picture.
-    uint32_t frameCount = 0;
+    std::uint32_t frameCount = 0;
     /// Rate of the video stream; 25/1 for sound and still pictures.
     NLERational frameRate = {25, 1};
-    int64_t durationUs = 0;
+    std::int64_t durationUs = 0;
     /// Time in the container, in microseconds, that counts as the beginning: the start of the
     /// video stream, or of the audio stream when there is no picture. Sound and pictures are both
     /// counted from here, so they stay together.
-    int64_t originUs = 0;
+    std::int64_t originUs = 0;
     /// Short names of the container format, separated by commas, as libavformat has them.
     QString containerName;
     /// That of the file when it was described; tells whether it was replaced since.

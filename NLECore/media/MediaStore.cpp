@@ -27,7 +27,7 @@ constexpr milliseconds ClockStep{100};
 bool IsFresh(const FileStamp& stamp)
 {
     const auto now = duration_cast<nanoseconds>(system_clock::now().time_since_epoch());
-    const int64_t age = now.count() - std::max(stamp.modifiedNs, stamp.changedNs);
+    const std::int64_t age = now.count() - std::max(stamp.modifiedNs, stamp.changedNs);
     return std::abs(age) < nanoseconds(ClockStep).count();
 }
 
@@ -92,7 +92,7 @@ MediaStore::Answer MediaStore::Find(const QString& path, const FileStamp& stamp)
     return (*place)->answer;
 }
 
-uint64_t MediaStore::Insert(const QString& path, const FileStamp& stamp, const Answer& answer)
+std::uint64_t MediaStore::Insert(const QString& path, const FileStamp& stamp, const Answer& answer)
 {
     Remove(path);
     m_entries.push_front({path, stamp, answer, ++m_lastNumber});
@@ -111,7 +111,7 @@ void MediaStore::Remove(const QString& path)
     m_places.erase(place);
 }
 
-void MediaStore::Forget(const QString& path, uint64_t number)
+void MediaStore::Forget(const QString& path, std::uint64_t number)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     const auto place = m_places.constFind(path);
@@ -126,7 +126,7 @@ MediaStore::Result MediaStore::Describe(const QString& path)
         return Probe(path);
     std::packaged_task<Result()> task([&path] { return Probe(path); });
     Answer answer;
-    uint64_t number = 0;
+    std::uint64_t number = 0;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         answer = Find(path, stamp);

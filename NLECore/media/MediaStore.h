@@ -45,24 +45,24 @@ private:
         QString path;
         FileStamp stamp;
         Answer answer;
-        uint64_t number;
+        std::uint64_t number;
     };
     using Entries = std::list<Entry>;
 
     /// The answer that is there for the file, if any. Needs the lock.
     Answer Find(const QString& path, const FileStamp& stamp);
     /// Puts an answer in front and gives its number. Needs the lock.
-    uint64_t Insert(const QString& path, const FileStamp& stamp, const Answer& answer);
+    std::uint64_t Insert(const QString& path, const FileStamp& stamp, const Answer& answer);
     /// Needs the lock.
     void Remove(const QString& path);
-    void Forget(const QString& path, uint64_t number);
+    void Forget(const QString& path, std::uint64_t number);
 
     const int m_capacity;
     std::mutex m_mutex;
     /// Guarded by the mutex; the one asked for last stands first.
     Entries m_entries;
     QHash<QString, Entries::iterator> m_places;
-    uint64_t m_lastNumber = 0;
+    std::uint64_t m_lastNumber = 0;
 };
 
 } // namespace nle

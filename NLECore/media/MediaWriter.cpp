@@ -64,7 +64,7 @@ constexpr auto WriteBytes = [](void* file, auto* data, int size) {
     }
 };
 
-int64_t SeekByte(void* opaque, int64_t offset, int whence)
+std::int64_t SeekByte(void* opaque, std::int64_t offset, int whence)
 {
     auto* file = static_cast<QSaveFile*>(opaque);
     if (whence == AVSEEK_SIZE)
@@ -183,7 +183,7 @@ struct Track
     CodecPtr codec;
     AVStream* stream = nullptr;
     FramePtr frame;
-    int64_t next = 0; ///< time stamp of what comes next, in the codec's time base
+    std::int64_t next = 0; ///< time stamp of what comes next, in the codec's time base
 };
 
 } // namespace
@@ -492,7 +492,7 @@ bool MediaWriter::WritePicture(const QImage& picture)
         return d->Fail("a picture of another size");
     if (!d->Check(av_frame_make_writable(frame)))
         return false;
-    const uint8_t* const planes[] = {source.constBits()};
+    const std::uint8_t* const planes[] = {source.constBits()};
     const int strides[] = {source.bytesPerLine()};
     sws_scale(d->scaler.get(), planes, strides, 0, source.height(), frame->data, frame->linesize);
     frame->pts = d->video.next++;
@@ -512,7 +512,7 @@ bool MediaWriter::WriteSound(const float* samples, int count)
     if (!d->Check(av_channel_layout_copy(&frame->ch_layout, &codec->ch_layout)) ||
         !d->Check(av_frame_get_buffer(frame, 0)))
         return false;
-    const auto* source = reinterpret_cast<const uint8_t*>(samples);
+    const auto* source = reinterpret_cast<const std::uint8_t*>(samples);
     if (!d->Check(swr_convert(d->resampler.get(), frame->extended_data, count, &source, count)) ||
         !d->Check(av_audio_fifo_write(d->fifo.get(), reinterpret_cast<void**>(frame->extended_data),
                                       count)))

@@ -145,8 +145,8 @@ QImage PictureScaler::Scale(const AVFrame& frame, const QSize& size)
     const int stride = (lineBytes + LineAlignment - 1) / LineAlignment * LineAlignment;
     if (!isAligned)
         m_scratch.resize(size_t(stride) * size_t(size.height()) + LineAlignment);
-    uint8_t* const pixels = isAligned ? image.bits() : m_scratch.data();
-    uint8_t* const planes[4] = {pixels, nullptr, nullptr, nullptr};
+    std::uint8_t* const pixels = isAligned ? image.bits() : m_scratch.data();
+    std::uint8_t* const planes[4] = {pixels, nullptr, nullptr, nullptr};
     const int strides[4] = {stride, 0, 0, 0};
     if (sws_scale(m_context, frame.data, frame.linesize, 0, frame.height, planes, strides) <= 0)
         return {};

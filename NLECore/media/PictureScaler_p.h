@@ -38,7 +38,7 @@ private:
     QImage Scale(const AVFrame& frame, const QSize& size);
 
     SwsContext* m_context = nullptr;
-    std::vector<uint8_t> m_scratch;
+    std::vector<std::uint8_t> m_scratch;
 };
 
 } // namespace nle

@@ -7,30 +7,31 @@
 namespace nle {
 namespace {
 
-constexpr int64_t BlockSamples = 32768;
+constexpr std::int64_t BlockSamples = 32768;
 
 // First sample of a bucket; sampleCount * bucket may exceed 64 bits only beyond any real length.
-int64_t BucketStart(int64_t bucket, int64_t sampleCount, int64_t buckets)
+std::int64_t BucketStart(std::int64_t bucket, std::int64_t sampleCount, std::int64_t buckets)
 {
     return sampleCount / buckets * bucket + sampleCount % buckets * bucket / buckets;
 }
 
 } // namespace
 
-std::vector<WavePeak> ReadWaveForm(AudioDecoder& decoder, int64_t firstSample, int64_t sampleCount,
-                                   int sampleRate, int channels, int buckets)
+std::vector<WavePeak> ReadWaveForm(AudioDecoder& decoder, std::int64_t firstSample,
+                                   std::int64_t sampleCount, int sampleRate, int channels,
+                                   int buckets)
 {
     if (sampleCount <= 0 || sampleRate <= 0 || channels <= 0 || buckets <= 0)
         return {};
     std::vector<WavePeak> peaks(size_t(buckets) * size_t(channels));
     std::vector<float> block(size_t(BlockSamples) * size_t(channels));
-    int64_t blockStart = 0;
-    int64_t blockEnd = 0;
+    std::int64_t blockStart = 0;
+    std::int64_t blockEnd = 0;
     for (int bucket = 0; bucket < buckets; ++bucket) {
-        const int64_t start = BucketStart(bucket, sampleCount, buckets);
-        const int64_t end = std::max(start + 1, BucketStart(bucket + 1, sampleCount, buckets));
+        const std::int64_t start = BucketStart(bucket, sampleCount, buckets);
+        const std::int64_t end = std::max(start + 1, BucketStart(bucket + 1, sampleCount, buckets));
         WavePeak* const peak = &peaks[size_t(bucket) * size_t(channels)];
-        for (int64_t sample = start; sample < end; ++sample) {
+        for (std::int64_t sample = start; sample < end; ++sample) {
             if (sample >= blockEnd) {
                 blockStart = sample;
                 blockEnd = std::min(sampleCount, blockStart + BlockSamples);

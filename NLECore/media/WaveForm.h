@@ -19,7 +19,8 @@ struct WavePeak
 /// in \a buckets stretches of equal length (to the sample). The result lists, for each stretch,
 /// one peak per channel. Samples outside the stream count as silence; a stretch shorter than a
 /// sample shows the sample that it lies in. Empty for arguments that make no sense.
-std::vector<WavePeak> ReadWaveForm(AudioDecoder& decoder, int64_t firstSample, int64_t sampleCount,
-                                   int sampleRate, int channels, int buckets);
+std::vector<WavePeak> ReadWaveForm(AudioDecoder& decoder, std::int64_t firstSample,
+                                   std::int64_t sampleCount, int sampleRate, int channels,
+                                   int buckets);
 
 } // namespace nle

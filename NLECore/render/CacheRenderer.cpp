@@ -28,13 +28,13 @@ int ThreadCount()
 }
 
 /// The state that a lack of room ends a run with.
-std::optional<CacheState> StateOf(ChunkStore::Room room)
+std::optional<NLECacheState> StateOf(ChunkStore::Room room)
 {
     switch (room) {
     case ChunkStore::Room::LowDisk:
-        return CacheState::LowDisk;
+        return NLECache_LowDisk;
     case ChunkStore::Room::QuotaReached:
-        return CacheState::QuotaReached;
+        return NLECache_QuotaReached;
     case ChunkStore::Room::Enough:
         break;
     }
@@ -92,7 +92,7 @@ bool CacheRenderer::StartThreads()
     m_guarded.working = int(m_threads.size());
     if (m_threads.empty())
         return false;
-    ReportProgress(CacheState::Caching);
+    ReportProgress(NLECache_Caching);
     return true;
 }
 
@@ -107,7 +107,7 @@ void CacheRenderer::Stop()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_isEnding = true;
-    ReportProgress(CacheState::Stopped);
+    ReportProgress(NLECache_Stopped);
 }
 
 void CacheRenderer::Run(int number)
@@ -118,7 +118,7 @@ void CacheRenderer::Run(int number)
         return S_OK;
     });
     if (FAILED(result))
-        End(CacheState::Stopped);
+        End(NLECache_Stopped);
     EndWorker();
 }
 
@@ -136,7 +136,7 @@ void CacheRenderer::RenderChunks(int number)
             return End(*failure);
         const std::lock_guard<std::mutex> lock(m_mutex);
         if (!m_isEnding)
-            ReportProgress(CacheState::Caching);
+            ReportProgress(NLECache_Caching);
     }
 }
 
@@ -182,20 +182,20 @@ QByteArray CacheRenderer::EncodeFrame(int frame, Worker& worker) const
 
 // A name that cannot be given, because another process has cleared the half-written file away or a
 // reader holds the old one, says nothing about the other chunks.
-std::optional<CacheState> CacheRenderer::FailureState(QFileDevice::FileError error,
-                                                      std::int64_t size) const
+std::optional<NLECacheState> CacheRenderer::FailureState(QFileDevice::FileError error,
+                                                         std::int64_t size) const
 {
     if (!m_store->IsFolderThere())
-        return CacheState::FolderUnwriteable;
+        return NLECache_FolderUnwriteable;
     const std::int64_t free = m_store->FreeSpace();
     if (error == QFileDevice::ResourceError || (free >= 0 && free < size))
-        return CacheState::LowDisk;
+        return NLECache_LowDisk;
     if (error == QFileDevice::RenameError)
         return {};
-    return CacheState::FolderUnwriteable;
+    return NLECache_FolderUnwriteable;
 }
 
-std::optional<CacheState> CacheRenderer::RenderChunk(const Chunk& chunk, Worker& worker)
+std::optional<NLECacheState> CacheRenderer::RenderChunk(const Chunk& chunk, Worker& worker)
 {
     if (const auto full = StateOf(m_store->MakeRoom(m_limits, worker.lastSize, m_keep)))
         return full;
@@ -227,7 +227,7 @@ std::optional<CacheState> CacheRenderer::RenderChunk(const Chunk& chunk, Worker&
     return StateOf(m_store->Add(chunk.key, file.Size(), m_limits, m_keep));
 }
 
-void CacheRenderer::End(CacheState state)
+void CacheRenderer::End(NLECacheState state)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (!m_isEnding.exchange(true))
@@ -239,10 +239,10 @@ void CacheRenderer::EndWorker()
     m_decoders.Clear();
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (--m_guarded.working == 0 && !m_isEnding.exchange(true))
-        ReportProgress(CacheState::Finished);
+        ReportProgress(NLECache_Finished);
 }
 
-void CacheRenderer::ReportProgress(CacheState state)
+void CacheRenderer::ReportProgress(NLECacheState state)
 {
     Progress progress;
     progress.state = state;
@@ -252,7 +252,7 @@ void CacheRenderer::ReportProgress(CacheState state)
         progress.totalFrames > 0 ? progress.cachedFrames * 100 / progress.totalFrames : 100;
     // A hundred means that the run has ended, and this one is told before its end.
     progress.percent =
-        state == CacheState::Finished ? int(percent) : int(std::min<std::int64_t>(percent, 99));
+        state == NLECache_Finished ? int(percent) : int(std::min<std::int64_t>(percent, 99));
     // For lack of memory a report is left out; a thread has nobody to throw to.
     ComGuard([&] {
         m_report(progress);

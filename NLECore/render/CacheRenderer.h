@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "EngineApi/INLEBackgroundCache.h"
 #include "NLECore/media/DecoderPool.h"
 #include "NLECore/render/ChunkStore.h"
 
@@ -12,17 +13,6 @@
 
 namespace nle {
 
-/// States that a render of the cache reports. The numbers are fixed.
-enum class CacheState : long
-{
-    Caching = 0,
-    LowDisk = 1,
-    QuotaReached = 2,
-    Stopped = 3,
-    FolderUnwriteable = 4,
-    Finished = 5
-};
-
 /// One run that renders what a plan lacks, on threads of low priority.
 class CacheRenderer
 {
@@ -30,7 +20,7 @@ public:
     struct Progress
     {
         int percent = 0;
-        CacheState state = CacheState::Caching;
+        NLECacheState state = NLECache_Caching;
         std::int64_t cachedFrames = 0;
         std::int64_t totalFrames = 0;
     };
@@ -66,15 +56,16 @@ private:
     QByteArray EncodeFrame(int frame, Worker& worker) const;
     /// The state that ends the run; none when the chunk is in the store, or not worth trying again,
     /// or the run is ending.
-    std::optional<CacheState> RenderChunk(const Chunk& chunk, Worker& worker);
+    std::optional<NLECacheState> RenderChunk(const Chunk& chunk, Worker& worker);
     /// The state that a file which cannot be written ends the run with; none when only that chunk
     /// is to be left out.
-    std::optional<CacheState> FailureState(QFileDevice::FileError error, std::int64_t size) const;
+    std::optional<NLECacheState> FailureState(QFileDevice::FileError error,
+                                              std::int64_t size) const;
     /// Index of the next chunk for the thread that last did \a last.
     std::optional<int> Take(int last);
-    void End(CacheState state);
+    void End(NLECacheState state);
     void EndWorker();
-    void ReportProgress(CacheState state);
+    void ReportProgress(NLECacheState state);
 
     const std::shared_ptr<const ChunkPlan> m_plan;
     const std::shared_ptr<ChunkStore> m_store;

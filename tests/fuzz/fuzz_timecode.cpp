@@ -37,10 +37,10 @@ bool IsTimecode(const QString& text)
            fields[2].toInt() < 60;
 }
 
-int64_t FramesAt25(const QString& text)
+std::int64_t FramesAt25(const QString& text)
 {
     const QStringList fields = text.trimmed().split(':');
-    const int64_t minutes = fields[0].toInt() * 60 + fields[1].toInt();
+    const std::int64_t minutes = fields[0].toInt() * 60 + fields[1].toInt();
     return (minutes * 60 + fields[2].toInt()) * 25 + fields[3].toInt();
 }
 
@@ -61,7 +61,7 @@ void CheckText(const QString& text, float fps)
     if (!isTimecode)
         return;
     // Single precision counts whole frames up to here, and rounds twice to steps of 8 above.
-    const int64_t allowed = FramesAt25(text) < (1 << 24) ? 0 : 8;
+    const std::int64_t allowed = FramesAt25(text) < (1 << 24) ? 0 : 8;
     Require(std::llabs(frameAt25 - FramesAt25(text)) <= allowed, "frame at 25", text);
     Require(FramesAt25(gFrame2String(frameAt25, 25)) == frameAt25, "back to text", text);
 }
@@ -78,7 +78,7 @@ void CheckFrame(int frame, float fps)
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, size_t size)
 {
     int frame = 0;
     float fps = 0;
@@ -122,11 +122,11 @@ int main(int argc, char** argv)
     std::minstd_rand random(argc > 2 ? unsigned(std::atol(argv[2])) : 1);
     long accepted = 0;
     for (long i = 0; i < count; ++i) {
-        const uint32_t numbers[2] = {uint32_t(random() * 2), uint32_t(random() * 2)};
+        const std::uint32_t numbers[2] = {std::uint32_t(random() * 2), std::uint32_t(random() * 2)};
         const QByteArray text = RandomText(random);
         QByteArray input(reinterpret_cast<const char*>(numbers), sizeof numbers);
         input += text;
-        LLVMFuzzerTestOneInput(reinterpret_cast<const uint8_t*>(input.constData()),
+        LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.constData()),
                                size_t(input.size()));
         accepted += IsTimecode(QString::fromUtf8(text)) ? 1 : 0;
     }
