@@ -32,7 +32,7 @@ Q_SIGNALS:
     void Clicked(int id, QPoint p);
     void Pressed(int id, QPoint p);
     /// The mouse came or went. \a type is the id. A slot may delete the button with deleteLater()
-    /// only: the toolkit still uses it.
+    /// only: Qt still uses it.
     void sigEnter(int type);
     void sigLeave(int type);
 

@@ -9,8 +9,8 @@
 BaseStateButton::BaseStateButton(int id, const QString& name, QWidget* parent)
     : BaseButton(id, name, parent)
 {
-    // Four values for rgb() are one too many, which the toolkit remarks on and takes as meant. The
-    // text is fixed.
+    // Four values for rgb() are one too many, which Qt remarks on and takes as meant. The text is
+    // fixed.
     setStyleSheet(QStringLiteral("BaseStateButton{background-color:rgb(0,0,0, 0)}"));
 }
 

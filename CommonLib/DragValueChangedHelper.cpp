@@ -15,7 +15,7 @@ constexpr int WarpDistance = 5;    // pixels
 constexpr int PauseDuration = 200; // ms
 
 /// Lower right corner over twice the whole scale: the middle of a primary screen at (0, 0) whose
-/// geometry counts native pixels, further up and left where the toolkit scales, as intended.
+/// geometry counts native pixels, further up and left where Qt scales, as intended.
 QPoint Anchor(const QPoint& fallback)
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
@@ -171,8 +171,7 @@ void DragValueChangedHelper::WatchSurroundings(const QObject& watched, const QEv
 {
     switch (event.type()) {
     case QEvent::Leave:
-        // The toolkit may have lost sight of the widget; without its window the pointer has left it
-        // too.
+        // Qt may have lost sight of the widget; without its window the pointer has left it too.
         if (&watched == m_widget->window())
             WatchWidget(event);
         break;

@@ -15,11 +15,11 @@ class QWidget;
 /// arrows.
 ///
 /// While the button is down the pointer is hidden and parked in the middle of the primary screen,
-/// further up and left where the toolkit scales, so no drag ends at a screen's edge. Every few
-/// pixels are a step; steps that follow each other within 200 ms in one direction grow, each by one
-/// step more than the last. Shift selects the fast step, Ctrl the slow one. A press and release
-/// without a step is a click: the widget gets it, and the next ones too (to edit the number as
-/// text), until it loses the focus.
+/// further up and left where Qt scales, so no drag ends at a screen's edge. Every few pixels are a
+/// step; steps that follow each other within 200 ms in one direction grow, each by one step more
+/// than the last. Shift selects the fast step, Ctrl the slow one. A press and release without a
+/// step is a click: the widget gets it, and the next ones too (to edit the number as text), until
+/// it loses the focus.
 ///
 /// The widget shows the number itself: connect sigValueChanged(), and tell of changes made
 /// elsewhere with SetValue(). Bounds and steps are taken as they are; a bound that is not a number

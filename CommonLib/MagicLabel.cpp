@@ -10,7 +10,7 @@ MagicLabel::MagicLabel(const QString& text, QWidget* parent) : QLabel(text, pare
     if (!gIsArgLang())
         return;
     Qt::Alignment alignment = Qt::AlignRight | Qt::AlignVCenter;
-    // In a mirrored layout the toolkit takes "right" for the far end of a line, which is the left.
+    // In a mirrored layout Qt takes "right" for the far end of a line, which is the left.
     if (layoutDirection() == Qt::RightToLeft)
         alignment |= Qt::AlignAbsolute;
     setAlignment(alignment);

@@ -23,7 +23,7 @@ MultiLangMgr* s_instance = nullptr;
 const char s_nameKey[] = "System/DefInstallLang";
 const char s_productKey[] = "System/ProductID";
 
-/// An ini file of ours is far shorter; the toolkit would read all of a longer one into memory.
+/// An ini file of ours is far shorter; Qt would read all of a longer one into memory.
 constexpr qint64 kLongestConfig = qint64(1024) * 1024;
 
 /// Creates an empty file; one that exists keeps what it holds.

@@ -137,7 +137,7 @@ void PureSlider::FollowMouse(QMouseEvent* event, int x)
     const qint64 value = (x * range + m_minimum * length) / length;
     const QPointer<PureSlider> self(this);
     SetValue(static_cast<int>(qBound<qint64>(m_minimum, value, m_maximum)));
-    // The toolkit would look for the parent of a slider that its handler has deleted.
+    // Qt would look for the parent of a slider that its handler has deleted.
     event->setAccepted(!self);
 }
 

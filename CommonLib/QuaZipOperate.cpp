@@ -207,8 +207,8 @@ std::filesystem::path SystemPath(const QString& path)
     return QFile::encodeName(path).toStdString();
 }
 
-// What the system finds in a folder: the toolkit passes over names that are no valid text, and
-// takes a folder that it cannot read for an empty one. Nothing when the folder cannot be read.
+// What the system finds in a folder: Qt passes over names that are no valid text, and takes a
+// folder that it cannot read for an empty one. Nothing when the folder cannot be read.
 std::optional<int> CountEntries(const QString& folder)
 {
     std::error_code error;
@@ -262,8 +262,8 @@ private:
 };
 
 // The path of a new empty file; empty when there cannot be one. Its name does not depend on the
-// archive's, so it fits whatever the file system allows and is nobody else's. A temporary file of
-// the toolkit would stay closed to other users.
+// archive's, so it fits whatever the file system allows and is nobody else's. A QTemporaryFile
+// would stay closed to other users.
 QString NewHiddenFile(const QString& folder)
 {
     QFile file(folder + "/." + QUuid::createUuid().toString(QUuid::WithoutBraces) + ".part");

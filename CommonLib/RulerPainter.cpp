@@ -107,7 +107,7 @@ QVector<QRect> RulerPainter::Ticks(const QRect& clip, const QTransform& toScreen
     const TickRange visible = VisibleTicks(clip, m_spacing + kTickReach);
     const double start = clip.left() - kTickReach;
     const double end = clip.right() + 1.0 + kTickReach;
-    // Where the toolkit begins the widget, so that nothing cuts the tick at its left edge.
+    // Where Qt begins the widget, so that nothing cuts the tick at its left edge.
     const int origin = qRound(toScreen.dx());
     const int width = LineInScreenPixels(toScreen, 1);
     const int bottom = ScreenY(toScreen, m_height);

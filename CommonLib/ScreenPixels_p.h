@@ -19,7 +19,7 @@ inline QTransform CountInScreenPixels(QPainter& painter)
     return toScreen;
 }
 
-/// The same. Gives the pixels of \a area, with its edges rounded as the toolkit does.
+/// The same. Gives the pixels of \a area, with its edges rounded as Qt does.
 inline QRect CountInScreenPixels(QPainter& painter, const QRect& area)
 {
     return CountInScreenPixels(painter).mapRect(QRectF(area)).toRect();

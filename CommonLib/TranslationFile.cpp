@@ -109,7 +109,7 @@ bool Split(Bytes file, Sections& sections)
 /// Stands for the length of an empty translation.
 constexpr quint32 EmptyText = 0xFFFFFFFF;
 
-/// A message is a row of tagged fields; the toolkit stops at any other tag.
+/// A message is a row of tagged fields; Qt stops at any other tag.
 bool IsSoundMessage(Bytes message)
 {
     while (message.Left() > 0) {
@@ -117,7 +117,7 @@ bool IsSoundMessage(Bytes message)
         case Translation: {
             const auto length = message.Read<quint32>();
             if (length == EmptyText)
-                return true; // the toolkit stops here
+                return true; // Qt stops here
             message.Skip(length);
             break;
         }
@@ -135,7 +135,7 @@ bool IsSoundMessage(Bytes message)
         if (message.Overrun())
             return false;
     }
-    // The toolkit looks one byte behind a field; here that would be behind the last one.
+    // Qt looks one byte behind a field; here that would be behind the last one.
     return false;
 }
 
@@ -195,7 +195,7 @@ bool AreSoundDependencies(const Bytes& dependencies, const QString& folder, int 
 
 bool IsSound(const QString& path, int depth)
 {
-    // Asked for a name, the toolkit prefers the file with its suffix added.
+    // Asked for a name, Qt prefers the file with its suffix added.
     const QString suffixed = path + ".qm";
     const QString chosen = QFileInfo(suffixed).isFile() ? suffixed : path;
     QFile file(chosen);

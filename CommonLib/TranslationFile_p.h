@@ -5,9 +5,9 @@
 
 #include <QString>
 
-/// Whether the toolkit can load the translation file at \a path and look texts up in it.
+/// Whether Qt can load the translation file at \a path and look texts up in it.
 ///
-/// The toolkit follows the lengths and offsets within a file without checking them, so that a
-/// damaged one would end the process at some later text. False for a file that is damaged, is no
-/// translation file, cannot be read, or depends on such a file or, in a circle, on itself.
+/// Qt follows the lengths and offsets within a file without checking them, so that a damaged one
+/// would end the process at some later text. False for a file that is damaged, is no translation
+/// file, cannot be read, or depends on such a file or, in a circle, on itself.
 bool IsSoundTranslationFile(const QString& path);

@@ -272,7 +272,7 @@ private:
     TimelineViewRuler* m_view;
 };
 
-// The toolkit asks for each class of an object's line in turn.
+// Qt asks for each class of an object's line in turn.
 static QAccessibleInterface* MakeInterface(const QString& className, QObject* object)
 {
     if (className == QLatin1String("BaseButton"))
@@ -300,7 +300,7 @@ static QAccessibleInterface* MakeInterface(const QString& className, QObject* ob
     return nullptr;
 }
 
-// With every application object, together with which the toolkit forgets it.
+// With every application object, together with which Qt forgets it.
 static void InstallWidgetAccessibility()
 {
     QAccessible::installFactory(MakeInterface);

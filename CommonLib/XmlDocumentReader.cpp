@@ -53,7 +53,7 @@ int LongestEntity(qint64 references)
     return static_cast<int>(kLargestGrowth / (1 + references));
 }
 
-// The toolkit's own builder drops blank sections.
+// Qt's own builder drops blank sections.
 class Builder
 {
 public:

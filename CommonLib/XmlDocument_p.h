@@ -8,7 +8,7 @@
 /// Reading and writing of XML documents. Not part of the library's interface.
 
 /// Elements nested deeper than this, the root being level 1, are neither read nor written: much of
-/// what the toolkit does with a document is recursive.
+/// what Qt does with a document is recursive.
 constexpr int kDeepestXmlLevel = 1000;
 
 /// A document with the declaration of version 1.0 in UTF-8 and an empty root element.

@@ -3,8 +3,8 @@
 
 #include <QtGlobal>
 
-/// While it lives, messages of the toolkit and of the engine, which uses the toolkit's channel, go
-/// to the log instead of standard error. Needs an open log; one at a time.
+/// While it lives, messages of Qt and of the engine, which uses Qt's channel, go to the log instead
+/// of standard error. Needs an open log; one at a time.
 class ToolkitMessages
 {
 public:

@@ -8,9 +8,9 @@
 #include <QProcess>
 #include <QString>
 
-/// Writes a translation file for the context "Test" through the toolkit's compiler: the source
-/// "text N" becomes \a prefix + "N" for every N below \a count. The folder is made. A compressed
-/// file leaves the sources out and has a table of contexts.
+/// Writes a translation file for the context "Test" through Qt's compiler: the source "text N"
+/// becomes \a prefix + "N" for every N below \a count. The folder is made. A compressed file leaves
+/// the sources out and has a table of contexts.
 inline bool WriteTranslations(const QString& path, const QString& prefix, int count,
                               bool compress = false)
 {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // A folder of 2,000 fonts, scanned at a first start and at later ones, beside a bare listing of the
-// folder and beside the toolkit opening every file. Medians of rounds in one run.
+// folder and beside Qt opening every file. Medians of rounds in one run.
 #include "NLECore/media/FontFiles.h"
 #include "benchmarks/Median.h"
 #include "tests/support/TestFonts.h"

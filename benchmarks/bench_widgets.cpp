@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // What sliders and buttons cost: from a press of the mouse to the painted picture in a window of
-// 1920 x 1080, beside the toolkit's own slider or button with a rule of the same kind; many values
-// in one turn of the event loop; and the making of buttons. Figures are medians.
+// 1920 x 1080, beside Qt's own slider or button with a rule of the same kind; many values in one
+// turn of the event loop; and the making of buttons. Figures are medians.
 #include "CommonLib/BaseStateButton.h"
 #include "CommonLib/ImageTextButton.h"
 #include "CommonLib/ImageTextButton2.h"
@@ -39,7 +39,7 @@ double Milliseconds(const std::function<void()>& work)
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-// To the child that is at that place, as the toolkit would.
+// To the child that is at that place, as Qt would.
 void Send(QWidget* parent, QEvent::Type type, QPoint place)
 {
     QWidget* child = parent->childAt(place);

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
-# Makes the translations beside the executables, Lang/<language>/*.qm, with the toolkit's tools, those
-# of this machine also when the build is for another. Part of the installed package.
+# Makes the translations beside the executables, Lang/<language>/*.qm, with Qt's tools, those of
+# this machine also when the build is for another. Part of the installed package.
 
 get_target_property(qmake_program Qt5::qmake IMPORTED_LOCATION)
 get_filename_component(qt_tools ${qmake_program} DIRECTORY)

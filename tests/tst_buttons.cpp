@@ -340,7 +340,7 @@ private slots:
         QFETCH(DeletedInSlot::Make, make);
         QFETCH(DeletedInSlot::Steps, steps);
         QFETCH(QString, deletedIn);
-        // The toolkit still uses a widget that it tells of the mouse.
+        // Qt still uses a widget that it tells of the mouse.
         const bool laterOnly = deletedIn.contains("sigEnter");
         for (const bool later : {laterOnly, true})
             QCOMPARE(DeletedInSlot::InEachSlot(make, steps, later), deletedIn);

@@ -78,7 +78,7 @@ private Q_SLOTS:
             native + "); fonts.GetFontCount()";
         QCOMPARE(script.TakeCalls().join("; "),
                  setUp + QString("; fonts.GetFontName(256)").repeated(6));
-        // Sorted; the toolkit's spelling where it has the font.
+        // Sorted; Qt's spelling where it has the font.
         const QStringList expected = {"Caption A=Caption A", "Caption C=Caption C",
                                       "Unknown=Unknown", "caption b=Caption B",
                                       QString(256, 'x') + '=' + QString(256, 'x')};

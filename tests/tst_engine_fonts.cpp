@@ -135,7 +135,7 @@ private Q_SLOTS:
         QCOMPARE(Scan(), S_OK);
         QCOMPARE(Text("Shown Serif"), Text("DejaVu Serif"));
 
-        // At a second start the cache alone knows it; the toolkit learns of it when a clip asks.
+        // At a second start the cache alone knows it; Qt learns of it when a clip asks.
         QVERIFY(Put("b.ttf", TestFonts::Renamed(TestFonts::Serif(), "Shown Later")));
         const QFileInfo file(Path("b.ttf"));
         const QString cache = "<FontCache><Font file='%1' size='%2' modified='%3'>"

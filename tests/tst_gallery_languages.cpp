@@ -46,7 +46,7 @@ private:
         }
         return texts;
     }
-    /// What the toolkit itself says: of \a dialog's buttons, in a field's menu, on a command line.
+    /// What Qt itself says: of \a dialog's buttons, in a field's menu, on a command line.
     static QStringList ToolkitTexts(const QDialogButtonBox& dialog)
     {
         QStringList texts{QCommandLineParser().helpText()};

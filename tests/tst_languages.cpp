@@ -236,7 +236,7 @@ private Q_SLOTS:
                 bad.replace(i, 2, QByteArray(2, '\0'));
                 QVERIFY(TestFonts::Write(m_lang + name + " empty", bad));
             }
-            // Depends on itself: the toolkit would load it for ever.
+            // Depends on itself: Qt would load it for ever.
             QByteArray section;
             QDataStream stream(&section, QIODevice::WriteOnly);
             stream << QString("self");

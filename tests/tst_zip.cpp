@@ -131,7 +131,7 @@ private slots:
         QTEST(QuaZipOperate::CompressDir(Path("new.zip"), Path("in")), "isPacked");
         QTEST(QFile::exists(Path("new.zip")), "isPacked");
         QTEST(QuaZipOperate::ExtractDir(Path("new.zip"), Path("out")).size() >= 3, "isPacked");
-        QProcess::execute("rm", {"-r", Path("in")}); // the toolkit cannot remove every name
+        QProcess::execute("rm", {"-r", Path("in")}); // Qt cannot remove every name
     }
 
     // An archive that met itself while it grows would never end.

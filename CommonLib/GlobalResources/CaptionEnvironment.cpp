@@ -48,7 +48,7 @@ bool IsFontFile(const QFileInfo& entry)
     });
 }
 
-/// The toolkit's families in two forms at the same positions.
+/// Qt's families in two forms at the same positions.
 class ToolkitFamilies
 {
 public:
@@ -61,7 +61,7 @@ public:
         }
     }
 
-    /// The family as the toolkit spells it; \a name itself when it knows none.
+    /// The family as Qt spells it; \a name itself when it knows none.
     QString Find(const QString& name) const
     {
         const auto found = m_positions.constFind(Plain(name));
@@ -69,7 +69,7 @@ public:
     }
 
 private:
-    /// Without case, and without the foundry that the toolkit adds to a name that two share.
+    /// Without case, and without the foundry that Qt adds to a name that two share.
     static QString Plain(const QString& family)
     {
         return family.section(QStringLiteral(" ["), 0, 0).toCaseFolded();

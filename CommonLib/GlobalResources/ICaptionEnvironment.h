@@ -12,14 +12,14 @@ struct INLEFactory;
 struct CaptionFont
 {
     QString name;   ///< as the engine reports it
-    QString family; ///< under which the toolkit knows it; the name itself when it does not
+    QString family; ///< under which Qt knows it; the name itself when it does not
 };
 
 /// The engine's font library, set up with the fonts that the editor's menus offer.
 ///
 /// The first GetInstance() gives the engine the folder "Fonts/" beside the executable with the
-/// cache file "Cache.xml" in it, registers that folder's fonts with the toolkit and lists what the
-/// engine has. Without an engine, or without its font library, the list is empty and stays so.
+/// cache file "Cache.xml" in it, registers that folder's fonts with Qt and lists what the engine
+/// has. Without an engine, or without its font library, the list is empty and stays so.
 ///
 /// Needs a QGuiApplication. For the GUI thread only; created without a lock.
 class COMMONLIB_EXPORT ICaptionEnvironment

@@ -53,7 +53,7 @@ struct WpdObjectRecord
 /// thread is inside an operation, as long as no device is opened or closed meanwhile.
 ///
 /// On Windows a thread of the host's own that calls has initialised the component library, with
-/// CoInitializeEx(); the toolkit does so for the GUI thread.
+/// CoInitializeEx(); Qt does so for the GUI thread.
 ///
 /// A system without portable-device service has no devices. On Linux the service is a module beside
 /// the executable that the first call loads.

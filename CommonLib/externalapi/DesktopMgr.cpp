@@ -15,7 +15,7 @@ QWidget* WidgetOf(QScreen* screen)
     const int number = QGuiApplication::screens().indexOf(screen);
     if (number < 0 || !qobject_cast<QApplication*>(QCoreApplication::instance()))
         return nullptr;
-    // The toolkit offers no other widget for a screen.
+    // Qt offers no other widget for a screen.
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
     return QApplication::desktop()->screen(number);

@@ -8,8 +8,8 @@
 
 class QWidget;
 
-/// Widgets that stand for the screens, to place windows by. They are the toolkit's: never delete,
-/// show or keep one across a change of the screens.
+/// Widgets that stand for the screens, to place windows by. They are Qt's: never delete, show or
+/// keep one across a change of the screens.
 class COMMONLIB_EXPORT DesktopMgr : public QObject
 {
     Q_OBJECT

@@ -36,8 +36,8 @@ constexpr double kDarkest = 96; // of 255, at the window's edge
 template <typename Reply>
 using ReplyPtr = std::unique_ptr<Reply, decltype(&std::free)>;
 
-// The part of libxcb that is needed. The toolkit's X11 plug-in has loaded it already, while a
-// session without X11 must not need it.
+// The part of libxcb that is needed. Qt's X11 plug-in has loaded it already, while a session
+// without X11 must not need it.
 struct Xcb
 {
     QLibrary library{QStringLiteral("xcb"), 1};

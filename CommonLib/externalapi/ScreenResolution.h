@@ -20,7 +20,7 @@ public:
 
     struct ScreenInfo
     {
-        HMONITOR handle = nullptr; ///< the system's monitor; on Linux the toolkit's QScreen
+        HMONITOR handle = nullptr; ///< the system's monitor; on Linux Qt's QScreen
         bool primary = false;
         QRect physical;  ///< size in the monitor's own pixels
         QRect logical;   ///< place and size on the desktop

@@ -55,7 +55,7 @@ void FitText(QWidget* button, const QString& text, QSize size)
 
 ButtonPage::ButtonPage(QWidget* parent) : QWidget(parent), m_told(new QLabel(this))
 {
-    // Else the toolkit asks icons for few pixels on a dense screen.
+    // Else Qt asks icons for few pixels on a dense screen.
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);

@@ -32,7 +32,7 @@ constexpr int kListEvery = 3000; // ms
 constexpr int kProgressSteps = 1000;
 constexpr int kProgressWidth = 220;
 
-// The marks of the toolkit's own style are drawn too dark to be seen on a dark surface.
+// The marks of Qt's own style are drawn too dark to be seen on a dark surface.
 constexpr char kMarks[] = R"(
     QTreeView::indicator, QCheckBox::indicator {
         width: 12px; height: 12px;

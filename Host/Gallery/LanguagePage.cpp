@@ -18,7 +18,7 @@
 
 namespace {
 
-/// The toolkit mirrors all layouts when this text, in this context of its own, becomes "RTL".
+/// Qt mirrors all layouts when this text, in this context of its own, becomes "RTL".
 const char* const s_direction[] = {
     //: "LTR" where text runs from left to right, "RTL" where it runs from right to left.
     QT_TRANSLATE_NOOP("QGuiApplication", "QT_LAYOUT_DIRECTION")};

@@ -5,7 +5,7 @@
 
 namespace nle {
 
-/// The engine's messages; a host routes them with a message handler of the toolkit.
+/// The engine's messages; a host routes them through qInstallMessageHandler().
 Q_DECLARE_LOGGING_CATEGORY(lcEngine)
 
 } // namespace nle

@@ -10,11 +10,11 @@
 
 namespace nle {
 
-/// The font files of folders, and their way into the toolkit, which draws the texts.
+/// The font files of folders, and their way into Qt, which draws the texts.
 ///
-/// A new file is registered with the toolkit at once, because only the toolkit can tell under which
-/// family a text will find it; one that the cache knows when a text first asks for its family. For
-/// one thread. Without a GUI application there are no fonts.
+/// A new file is registered with Qt at once, because only Qt can tell under which family a text
+/// will find it; one that the cache knows when a text first asks for its family. For one thread.
+/// Without a GUI application there are no fonts.
 class FontFiles
 {
 public:
@@ -23,9 +23,9 @@ public:
     /// The families in the font files (ttf, otf, ttc) of a folder, not of those within it, in the
     /// order of the file names. Broken files have none.
     QStringList Scan(const QString& folder);
-    /// Registers the files of \a family that the toolkit does not have yet. Gives the name to draw
-    /// with: \a family and, when files of ours hold it, a second name that no font has and that
-    /// changes with the files. The toolkit remembers for good what it once found for a name.
+    /// Registers the files of \a family that Qt does not have yet. Gives the name to draw with:
+    /// \a family and, when files of ours hold it, a second name that no font has and that changes
+    /// with the files. Qt remembers for good what it once found for a name.
     QString Provide(const QString& family);
 
 private:

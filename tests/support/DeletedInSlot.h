@@ -70,7 +70,7 @@ inline bool Dies(const Make& make, const Steps& steps,
     act(widget, steps);
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QWidget other; // for what the toolkit has kept of the mouse
+    QWidget other; // for what Qt has kept of the mouse
     other.show();
     QTest::mouseRelease(other.windowHandle(), Qt::LeftButton);
     const bool dead = !widget;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// The toolkit is not built for the thread sanitizer, which therefore does not see what its mutexes
-// order. These take the place of the toolkit's functions in a test and tell it.
+// Qt is not built for the thread sanitizer, which therefore does not see what its mutexes order.
+// These take the place of Qt's functions in a test and tell it.
 
 #include <QMutex>
 
