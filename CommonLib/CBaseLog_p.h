@@ -11,7 +11,7 @@
 #include <memory>
 #include <mutex>
 
-/// The one implementation of BaseLog. Not part of the library's interface.
+/// The one implementation of BaseLog.
 class CBaseLog final : public BaseLog
 {
 public:

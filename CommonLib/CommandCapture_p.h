@@ -4,8 +4,7 @@
 #include <QString>
 #include <QtGlobal>
 
-/// A program started with its standard output and error on a pipe that nobody else writes to. Not
-/// part of the library's interface.
+/// A program started with its standard output and error on a pipe that nobody else writes to.
 ///
 /// The program is not waited for, and destroying this object does not end it.
 class CommandCapture

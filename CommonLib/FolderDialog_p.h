@@ -4,5 +4,5 @@
 #include <QString>
 
 /// The system's folder-choice dialog, owned by the window of the native handle \a owner (0 for
-/// none). Empty when the user cancels. Not part of the library's interface.
+/// none). Empty when the user cancels.
 QString ChooseFolder(const QString& title, quint64 owner);

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <ctime>
 
-/// What the log needs of the system. Not part of the library's interface.
+/// What the log needs of the system.
 ///
 /// No function reports an error beyond its result, and each accepts an Invalid handle.
 namespace LogFile {

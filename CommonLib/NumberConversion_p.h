@@ -5,7 +5,7 @@
 #include <optional>
 
 /// \a value truncated toward zero, or nothing when that is not a number of type \a Integer, where a
-/// plain conversion would be undefined. Not part of the library's interface.
+/// plain conversion would be undefined.
 template <typename Integer, typename Float>
 std::optional<Integer> Truncated(Float value)
 {

@@ -4,5 +4,5 @@
 #include <QFile>
 
 /// Opens the file, as QFile::open() does, unless something else than a regular file stands at its
-/// path: a pipe would block and a device may have no end. Not part of the library's interface.
+/// path: a pipe would block and a device may have no end.
 bool OpenRegularFile(QFile& file, QIODevice::OpenMode mode);

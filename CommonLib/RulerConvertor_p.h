@@ -10,8 +10,6 @@
 #include <tuple>
 #include <vector>
 
-// Not part of the library's interface.
-
 /// One segment of the zoom scale, with all that is needed to draw the ruler at a zoom within it.
 struct RulerSegment
 {

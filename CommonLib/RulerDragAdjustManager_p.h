@@ -3,8 +3,6 @@
 
 #include <QPoint>
 
-// Not part of the library's interface.
-
 /// What the mouse drags on a ruler, where that began, and where it leads. Knows no widget.
 class RulerDragAdjustManager
 {

@@ -7,8 +7,6 @@
 #include <QPainter>
 #include <QVector>
 
-// Not part of the library's interface.
-
 /// Paints the ticks, the labels and the play head of one segment within its view rectangle.
 ///
 /// Does only what shows in the clip, and no more than a tick per pixel however close they lie.

@@ -5,8 +5,6 @@
 #include <QRect>
 #include <QRegion>
 
-// Not part of the library's interface.
-
 /// Lets \a painter count in pixels of the screen from now on, so that lines are sharp and of one
 /// width at any scale. Gives what maps to them. Where the painter is turned, everything stays as it
 /// is.

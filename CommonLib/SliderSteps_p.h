@@ -12,7 +12,7 @@ class QWheelEvent;
 /// Steps of an arrow key from one end of a slider to the other.
 constexpr double kStepsPerRange = 100;
 
-/// Where keys and the wheel take a slider. Not part of the library's interface.
+/// Where keys and the wheel take a slider.
 struct SliderSteps
 {
     double value;

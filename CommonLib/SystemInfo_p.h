@@ -6,7 +6,7 @@
 
 #include <optional>
 
-/// Questions to the operating system. Not part of the library's interface.
+/// Questions to the operating system.
 
 /// Whether this is Windows 8 or later; true on every other system.
 bool IsWindows8OrLater();

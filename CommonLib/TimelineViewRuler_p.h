@@ -11,8 +11,6 @@
 
 #include <limits>
 
-// Not part of the library's interface.
-
 /// The widget that draws a TimelineRuler and takes its mouse, wheel and keys. Signals tell of what
 /// the user does, never of calls.
 ///

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-// Not part of the library's interface.
-
 #include <QString>
 
 /// Whether Qt can load the translation file at \a path and look texts up in it.

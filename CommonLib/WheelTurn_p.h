@@ -3,8 +3,6 @@
 
 #include <QWheelEvent>
 
-// Not part of the library's interface.
-
 /// A turn of a wheel, or a swipe on a touchpad, along the axis that it goes further on.
 struct WheelTurn
 {

@@ -11,7 +11,7 @@
 #include <type_traits>
 
 /// The only conversions between QString and wide text in the system's own width (UTF-16 on Windows,
-/// UTF-32 elsewhere). Not part of the library's interface.
+/// UTF-32 elsewhere).
 
 inline std::wstring ToWide(const QString& text)
 {

@@ -4,7 +4,7 @@
 class QFocusEvent;
 class QWidget;
 
-// Not part of the library's interface. The accessible interfaces themselves need no call.
+// The accessible interfaces themselves need no call.
 
 /// Whether a widget that \a shows the keyboard's focus, or does not, shows it after \a event: from
 /// when the keyboard brings it until it goes elsewhere within the window.

@@ -5,7 +5,7 @@
 #include <QDomDocument>
 #include <QIODevice>
 
-/// Reading and writing of XML documents. Not part of the library's interface.
+/// Reading and writing of XML documents.
 
 /// Elements nested deeper than this, the root being level 1, are neither read nor written: much of
 /// what Qt does with a document is recursive.

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-// Not part of the library's interface.
-
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 
 /// Holds the engine's factories for PlayerMaterProvider, whose operations it carries out under the

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-// Not part of the library's interface.
-
 #include "Com/ComMemory.h"
 #include "Com/ComTypes.h"
 #include "CommonLib/WideText_p.h"

@@ -6,8 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The AES block cipher and the inner loops of its modes, once per kind of processor. Not part of
-/// the library's interface.
+/// The AES block cipher and the inner loops of its modes, once per kind of processor.
 ///
 /// Everything works on whole blocks of 16 bytes; padding, partial blocks and checks of the
 /// arguments are the caller's. Nothing allocates or fails.

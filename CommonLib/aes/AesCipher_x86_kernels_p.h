@@ -7,8 +7,7 @@
 #include <type_traits>
 #include <utility>
 
-/// The cipher on the AES instructions of x86, over the width of the vector. Not part of the
-/// library's interface.
+/// The cipher on the AES instructions of x86, over the width of the vector.
 ///
 /// Each source that includes this is compiled for processors of its own kind. Everything here
 /// therefore has internal linkage: the linker must not let one kind of code stand in for another.

@@ -3,7 +3,7 @@
 
 #include "CommonLib/aes/AesCipher_p.h"
 
-/// The implementations on instructions of x86. Not part of the library's interface.
+/// The implementations on instructions of x86.
 namespace AesCipher {
 
 /// Needs AES-NI and SSE4.1.

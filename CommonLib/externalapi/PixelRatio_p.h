@@ -5,8 +5,6 @@
 
 #include <algorithm>
 
-// Not part of the library's interface.
-
 /// The least room that the interface needs, in pixels at a ratio of 1.
 constexpr double kLeastWidth = 1280.0;
 constexpr double kLeastHeight = 690.0;

@@ -3,8 +3,6 @@
 
 #include "CommonLib/externalapi/ScreenResolution.h"
 
-// Not part of the library's interface.
-
 /// The monitors as the system lists them, numbered in its order.
 QVector<ScreenResolution::ScreenInfo> ListScreens();
 

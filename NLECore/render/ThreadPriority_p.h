@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-// Not part of the public interface.
 #pragma once
 
 namespace nle {
