@@ -64,7 +64,7 @@ QString CBSUrlReader::ReadCustomerUrl(const QString& first, const QString& secon
     const auto read = Resolve<ReadFunction>(m_module, "ReadCustomizeInfoW");
     if (!read)
         return QString();
-    // A module that succeeds without writing anything gives "0"; that is intended.
+    // A module that succeeds without writing anything gives "0". Kept: see docs/compatibility.md.
     std::array<wchar_t, kCapacity> buffer{L'0'};
     // The order is crossed: the function takes the name within the group first.
     if (read(ToWide(second).c_str(), ToWide(first).c_str(), buffer.data(), kCapacity, 0, 0) == 0)

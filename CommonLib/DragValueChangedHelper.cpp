@@ -15,7 +15,8 @@ constexpr int WarpDistance = 5;    // pixels
 constexpr int PauseDuration = 200; // ms
 
 /// Lower right corner over twice the whole scale: the middle of a primary screen at (0, 0) whose
-/// geometry counts native pixels, further up and left where Qt scales, as intended.
+/// geometry counts native pixels, further up and left where Qt scales. Kept: see
+/// docs/compatibility.md.
 QPoint Anchor(const QPoint& fallback)
 {
     const QScreen* screen = QGuiApplication::primaryScreen();

@@ -41,8 +41,8 @@ public:
 
     /// False also ends a drag that is going on. On by default.
     void SetDragEnabled(bool enable);
-    /// Whether the next press begins a drag: false as well between a click and the loss of focus,
-    /// as intended.
+    /// Whether the next press begins a drag. Not what was set last: between a click and the loss of
+    /// focus presses are the widget's, and this is false.
     bool GetDragEnabled() const;
 
     /// Pixels that must be exceeded before a step is made; 1 each by default. The move after the

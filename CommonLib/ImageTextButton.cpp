@@ -98,7 +98,7 @@ void ImageTextButton::showEvent(QShowEvent* event)
 void ImageTextButton::LayOut()
 {
     // QRect's right() and bottom() are the last column and row within, so that image and text share
-    // one; intended.
+    // one. Beginning behind it would move one of the two by a pixel in every button.
     const int w = width();
     const int h = height();
     QRect image(0, 0, h, h);

@@ -21,7 +21,7 @@ LangConstInfo Row(Language_Locale locale, const char* langCode, const char* regi
 }
 
 // The order is the one of language menus, not that of the values. Countries in place of languages
-// among the English names, and "ARG" for Arabic, are intended: settings and services hold them.
+// among the English names, and "ARG" for Arabic, are kept: see docs/compatibility.md.
 const std::array<LangConstInfo, 17> s_table = {
     Row(Language_English, "en", "US", "ENG", "English"),
     Row(Language_German, "de", "DE", "DEU", "German"),

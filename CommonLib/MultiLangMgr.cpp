@@ -105,7 +105,7 @@ QString MultiLangMgr::GetSimpleName1() const
 
 QString MultiLangMgr::GetSimpleName2() const
 {
-    // Empty in every row; that is intended.
+    // Empty in every row. Kept: see docs/compatibility.md.
     const LangConstInfo* row = FindLanguage(m_curLocale);
     return row ? row->simpleName2 : QString();
 }
@@ -233,7 +233,7 @@ void MultiLangMgr::ResetFont(const QStringList& families)
     QFont font;
     if (m_curFontFamily.isEmpty()) {
         font.setFamily(m_defaultFontFamily);
-        // The preferred family is reported although the font is the system's; that is intended.
+        // Reported although the font is the system's. Kept: see docs/compatibility.md.
         m_curFontFamily = families.first();
     } else {
         font.setFamily(m_curFontFamily);
@@ -278,7 +278,7 @@ bool MultiLangMgr::IsSameFontFamily(const Language_Locale& a, const Language_Loc
     if (a == b || (isChinese(a) && isChinese(b)))
         return true;
     // Between Chinese and the languages that share the common list the font stays, although their
-    // lists differ; that is intended.
+    // lists differ. Kept: see docs/compatibility.md.
     return !hasOwn(a) && !hasOwn(b);
 }
 

@@ -19,8 +19,8 @@ struct KeySizeValues
     int expandedKeySize;
 };
 
-// By QAESEncryption::Aes. The 209 is intended, although the schedule has 208 bytes: the value is
-// only kept, the length of the schedule follows from the rounds.
+// By QAESEncryption::Aes. The schedule for 209 has 208 bytes: its length follows from the rounds,
+// and this value is only stored. Kept: see docs/compatibility.md.
 constexpr KeySizeValues kKeySizes[] = {{4, 10, 176}, {6, 12, 209}, {8, 14, 240}};
 
 const std::uint8_t* Bytes(const QByteArray& array)

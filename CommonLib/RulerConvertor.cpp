@@ -237,7 +237,7 @@ int RulerConvertor::ZoomFromWidthAndTotaleFrames(int width, int frames)
             return zoom;
         if (i > 0 && m_segments[i - 1].zoomMax >= fit.Zoom(step))
             return zoom;
-        // Keeping the adjusted step is intended: the whole range then fits without a gap.
+        // The segment keeps the step: with the former one the range would not fit at this zoom.
         segment.framesPerSmallTick = static_cast<int>(step);
         return Truncated<int>(fit.Zoom(step) + 1).value_or(zoom);
     }

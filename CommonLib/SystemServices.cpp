@@ -33,8 +33,8 @@ void RemoveTree(const QString& path)
         QFile::remove(path);
         return;
     }
-    // Without hidden entries, broken links and special files: a folder that holds any stays, which
-    // is intended.
+    // Without hidden entries, broken links and special files: a folder that holds any stays. Kept:
+    // see docs/compatibility.md.
     const auto filters = QDir::Dirs | QDir::Files | QDir::Drives | QDir::NoDotAndDotDot;
     const QFileInfoList entries = QDir(path).entryInfoList(filters);
     for (const QFileInfo& entry : entries)

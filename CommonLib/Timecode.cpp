@@ -42,7 +42,8 @@ Timecode ToTimecode(int frame, float fps)
     const quint64 rate = ScaledRate(fps);
     if (rate == 0)
         return {};
-    // Sign-extended first: a negative frame wraps to a huge number, which is intended.
+    // Sign-extended first: a negative frame wraps to a huge number. Kept: see
+    // docs/compatibility.md.
     const quint64 count = static_cast<quint64>(static_cast<qint64>(frame)) * kScale;
     const quint64 inHour = count % (rate * kSecondsPerHour);
     const quint64 inMinute = inHour % (rate * kSecondsPerMinute);
@@ -106,7 +107,8 @@ int gString2Frame(float fps, QString text)
     int seconds = 0;
     for (int i = 2; i >= 0; --i)
         seconds = static_cast<int>(fields[2 - i].toInt() * std::pow(60.0, i) + seconds);
-    // Single precision throughout is intended: it decides how long timecodes round.
+    // Double precision would give a frame more for some long timecodes (docs/timecode.md). Kept:
+    // see docs/compatibility.md.
     const float frames =
         static_cast<float>(fields.last().toInt()) + static_cast<float>(seconds) * fps;
     return Truncated<int>(std::ceil(frames)).value_or(-1);
@@ -116,7 +118,7 @@ int gFrameBaseFps(int frame, double fromFps, double toFps)
 {
     if (std::abs(fromFps) < kSmallestSourceRate)
         return -1;
-    // Only the low 32 bits of a longer number count, which is intended.
+    // Only the low 32 bits of a longer number count. Kept: see docs/compatibility.md.
     return static_cast<int>(Truncated<qint64>(frame * toFps / fromFps).value_or(-1));
 }
 

@@ -196,7 +196,7 @@ void ToolBarSlider::CalculatePositionFromValue(double value)
 {
     const bool horizontal = m_orientation == Qt::Horizontal;
     // Over the whole length and from the start of the range, while the way back counts from the
-    // minimum over the length that the chunk travels; intended.
+    // minimum over the length that the chunk travels. Kept: see docs/compatibility.md.
     const double range = double(m_maximum) - m_minimum;
     const int length = horizontal ? width() : height();
     const int chunk = horizontal ? m_chunkWidth : m_chunkHeight;
@@ -287,7 +287,7 @@ void ToolBarSlider::mousePressEvent(QMouseEvent* event)
     const QPoint pos = Unmirrored(event->pos());
     if (m_hold == Hold::Chunk) {
         // Horizontal also on a vertical slider, whose chunk therefore centres itself on the
-        // pointer; intended.
+        // pointer. Kept: see docs/compatibility.md.
         m_grabOffset = pos.x() - m_chunkPosition - m_chunkWidth / 2;
     }
     MoveChunkTo(pos);

@@ -63,7 +63,7 @@ QDomElement XmlOperation::GetChildElement(const QDomElement& element, const QStr
 void XmlOperation::SetElemmentText(QDomDocument& document, QDomElement element, const QString& text)
 {
     const QDomNodeList children = element.childNodes();
-    // The index moves on although the list shrinks under it: this is intended.
+    // The index moves on although the list shrinks under it. Kept: see docs/compatibility.md.
     for (int i = 0; i < children.length(); ++i) {
         const QDomNode child = children.item(i);
         if (child.isText())

@@ -37,7 +37,7 @@ bool FAudioStreamProcessHelper::GetDenoiseLevel(int& level) const
 {
     const auto process = GetAudioStreamProcess();
     return process &&
-           process->GetDenoiseLevel(&level) == S_OK; // a positive status is a failure, as intended
+           process->GetDenoiseLevel(&level) == S_OK; // a positive status does not vouch for it
 }
 
 void FAudioStreamProcessHelper::SetDenoiseEnable(bool enable)
@@ -98,7 +98,7 @@ bool FAudioStreamProcessHelper::GetVolume(double& volume) const
 {
     const auto process = GetAudioStreamProcess();
     return process &&
-           process->GetVolume(&volume) == S_OK; // a positive status is a failure, as intended
+           process->GetVolume(&volume) == S_OK; // a positive status does not vouch for it
 }
 
 void FAudioStreamProcessHelper::SetBalance(double balance)

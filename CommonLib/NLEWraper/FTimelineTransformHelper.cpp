@@ -127,7 +127,8 @@ float FTimelineTransformHelper::GetXpos() const
     NLERectF region{};
     if (!Transform() || !GetRenderROD(region))
         return 0;
-    // Single precision of the size is intended; GetXYpos() has the full one.
+    // The size is rounded before the product, here and below; GetXYpos() rounds nothing. Kept: see
+    // docs/compatibility.md.
     return static_cast<float>((GetCenterPos().x() - 0.5) * static_cast<float>(region.width));
 }
 
@@ -167,7 +168,7 @@ QRectF FTimelineTransformHelper::GetRenderRegion() const
         return QRectF(0, 0, 1, 1);
     const QPointF center = GetCenterPos();
     const QSizeF scale = GetResizeScale();
-    // Not the inverse of SetRenderRegion(), as intended: hosts rely on twice the centre.
+    // Not the inverse of SetRenderRegion(). Kept: see docs/compatibility.md.
     return QRectF(2 * center.x() - scale.width(), 2 * center.y() - scale.height(), scale.width(),
                   scale.height());
 }
@@ -197,7 +198,7 @@ void FTimelineTransformHelper::SetTransformLock(bool lock)
 
 bool FTimelineTransformHelper::GetTransformLock() const
 {
-    // The constant answer is intended; asking for the transform is all that happens.
+    // The transform is looked up, its lock is not read. Kept: see docs/compatibility.md.
     Transform();
     return false;
 }

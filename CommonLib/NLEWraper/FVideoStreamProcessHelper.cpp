@@ -35,7 +35,7 @@ void FVideoStreamProcessHelper::SetAlphaChannel(const AlphaChannelParm& parm)
     const auto process = GetVideoStreamProcess();
     if (!process)
         return;
-    // What follows the seven fields goes back as the engine gave it, as intended.
+    // From the engine's record: an empty one would clear what follows the seven fields.
     NLEAlphaChannelRecord record{};
     process->GetAlphaChannel(&record);
     record.param1 = parm.nParam1;

@@ -95,8 +95,8 @@ void NLETimeline::SetTimelineBase(NLEComPtr<INLETimeline> timeline)
     if (timeline != m_timeline)
         m_timeline = std::move(timeline);
     m_properties.reset();
-    // No helper outlives the node it is bound to. Transform before blending, against the order of
-    // the fields, is intended.
+    // No helper outlives the node it is bound to. Transform goes before blending, against the order
+    // of the fields: hosts can see it in the order of destroyed().
     Drop(m_transformHelper);
     Drop(m_blendingHelper);
     Drop(m_audioStreamHelper);
@@ -217,7 +217,7 @@ NLEComPtr<INLETimeline> NLETimeline::GetCurrentTimeline() const
 
 NLEComPtr<INLETimeline> NLETimeline::GetCurrentTimelineEx() const
 {
-    // The node itself is no answer here, as intended.
+    // Unlike above the node itself is no answer: null says that no clip is current.
     constexpr int Flag = 1;
     return FindCurrent(EngineObject<INLETimelineEnumerator>(
         GetTimelineCompositeEx().get(), &INLETimelineCompositeEx::GetEnumerator, Flag, Flag));

@@ -46,8 +46,8 @@ public:
     NLEComPtr<INLETimeline> CreateVirtualTimeline(int type);
     /// The engine's clone, with what the node holds when \a deep is set.
     NLEComPtr<INLETimeline> CloneTimeline(NLEComPtr<INLETimeline> timeline, bool deep);
-    /// Stores \a timeline itself with a new reference in \a out. Nothing is combined; this is
-    /// intended. True, unless \a out is null.
+    /// Stores \a timeline itself with a new reference in \a out; nothing is combined. True, unless
+    /// \a out is null.
     bool GetMediaCombineTimeline(NLEComPtr<INLETimeline> timeline, INLETimeline** out);
 
     /// Whole frames a second, cut toward zero; 0 for a null timeline.

@@ -128,7 +128,7 @@ PlayerMaterProviderPrivate::CloneTimeline(const NLEComPtr<INLETimeline>& timelin
 bool PlayerMaterProviderPrivate::GetMediaCombineTimeline(const NLEComPtr<INLETimeline>& timeline,
                                                          INLETimeline** out)
 {
-    // The given timeline is the result; combining nothing is intended.
+    // Nothing is combined. Kept: see docs/compatibility.md.
     return SUCCEEDED(timeline.copyTo(out));
 }
 
@@ -145,7 +145,8 @@ void PlayerMaterProviderPrivate::SetTimelineFrameRate(const NLEComPtr<INLETimeli
                                                       int framesPerSecond)
 {
     if (const auto properties = NLEGetProperties(timeline.get()))
-        properties->SetRational(NLEKey::Render::kRender_Framerate, NLECommon::RateToRational(framesPerSecond));
+        properties->SetRational(NLEKey::Render::kRender_Framerate,
+                                NLECommon::RateToRational(framesPerSecond));
 }
 
 int PlayerMaterProviderPrivate::GetTimelineLength(const NLEComPtr<INLETimeline>& timeline)
@@ -253,7 +254,7 @@ void PlayerMaterProviderPrivate::OpenCLGpuInit()
     constexpr int ReInitLine = 63;
     constexpr int CreateFailedLine = 67;
 
-    // Only reports: nothing makes the GPU factory in this build, which is intended.
+    // Only reports: nothing makes the GPU factory. Kept: see docs/compatibility.md.
     BaseLog* log = GetGlobalLogInstance();
     if (m_gpuFactory)
         log->LogInfo(SourcePath, OpenCLGpuInitName, ReInitLine, "m_pNLEOpenCLGpuFactory->ReInit.");

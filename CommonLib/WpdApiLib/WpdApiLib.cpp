@@ -193,7 +193,7 @@ HRESULT CopyStream(IStream& source, IStream& destination, DWORD bufferSize,
     if (!buffer) {
         std::printf("! Failed to allocate %lu bytes for the temporary transfer buffer.\n",
                     static_cast<unsigned long>(bufferSize));
-        return S_OK; // that this counts as a copy of nothing is intended
+        return S_OK; // a copy of nothing; kept: see docs/compatibility.md
     }
     std::int64_t total = 0;
     for (;;) {
@@ -253,7 +253,7 @@ NLEComPtr<IPortableDevicePropVariantCollection> CollectionOf(const wchar_t* obje
     }
     TaskText copy = CopyText(objectId);
     if (!copy) {
-        // "could no" is intended, here and below.
+        // "could no", here and below. Kept: see docs/compatibility.md.
         std::printf("! Failed to delete an object from the device because we could no allocate "
                     "memory for the object identifier string, hr = 0x%lx\n",
                     ResultBits(E_OUTOFMEMORY));
@@ -387,7 +387,7 @@ int WpdApiLib::Cancel()
     const HRESULT result = s_device->Cancel();
     if (SUCCEEDED(result))
         return 1;
-    // The line end inside the message is intended.
+    // With a line end inside the message. Kept: see docs/compatibility.md.
     GetGlobalLogInstance()->LogWarn(SourcePath, "WpdApiLib::Cancel", __LINE__,
                                     "! Failed to Cancel, hr = 0x%lx\n", ResultBits(result));
     return 0;

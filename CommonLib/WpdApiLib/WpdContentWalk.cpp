@@ -91,7 +91,7 @@ void WpdContentWalk::AddKeys()
         return;
     for (const Key& key : Keys) {
         const HRESULT result = m_keys->Add(key.key);
-        // "hr=" without a blank before it is intended here and where values are read.
+        // "hr=" with no blank in it, also where values are read. Kept: see docs/compatibility.md.
         if (FAILED(result))
             std::printf(
                 "! Failed to add WPD_OBJECT_%s to IPortableDeviceKeyCollection, hr= 0x%lx\n",

@@ -9,7 +9,8 @@ namespace {
 
 // WS_POPUP | WS_CAPTION | WS_CLIPCHILDREN
 constexpr LONG_PTR kShadowStyles = 0x82C00000;
-// SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE; exactly these are intended.
+// SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE. Without SWP_NOZORDER and SWP_NOACTIVATE the window
+// also comes to the front. Kept: see docs/compatibility.md.
 constexpr UINT kFrameChange = 0x23;
 
 } // namespace

@@ -14,7 +14,7 @@
 namespace {
 
 // Areas up to and with `last` are of the class. No class 12, small areas in class 2 and a band of
-// class 0 below 17 are intended.
+// class 0 below 17 are kept: see docs/compatibility.md.
 struct AreaClass
 {
     qint64 last;
