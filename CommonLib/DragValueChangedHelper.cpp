@@ -85,8 +85,8 @@ void DragValueChangedHelper::SetDragEnabled(bool enable)
     TellEnd();
 }
 
-// The end of a drag whose release may not come. Told later: who is told may delete the widget,
-// which the sender of an event still needs.
+// The end of a drag whose release may not come. Reported later: a receiver may delete the
+// widget, which the sender of an event still needs.
 void DragValueChangedHelper::Interrupt()
 {
     PopAllCursors();
@@ -327,7 +327,7 @@ bool DragValueChangedHelper::Release(QObject* receiver, QMouseEvent& event)
     const QPointer<QObject> alive(receiver);
     ReturnPointer();
     m_accel = 0;
-    // Over before anyone is told: who is told may run an event loop, or end this object.
+    // Over before it is reported: a receiver may run an event loop, or end this object.
     m_pressed = false;
     if (m_firstMove) {
         PopAllCursors();

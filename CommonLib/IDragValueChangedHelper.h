@@ -21,15 +21,15 @@ class QWidget;
 /// step is a click: the widget gets it, and the next ones too (to edit the number as text), until
 /// it loses the focus.
 ///
-/// The widget shows the number itself: connect sigValueChanged(), and tell of changes made
+/// The widget shows the number itself: connect sigValueChanged(), and report changes made
 /// elsewhere with SetValue(). Bounds and steps are taken as they are; a bound that is not a number
 /// bounds nothing. GUI thread only.
 ///
 /// The release of the button may never come. A drag also ends when the widget is hidden or
-/// disabled, when a dialog blocks it and when another program becomes active; who connects is told
+/// disabled, when a dialog blocks it and when another program becomes active; the signal follows
 /// in the next turn of the event loop. Object and widget may be deleted at any time, also by a slot
-/// of its signals; the end of a drag is told first, but not to those that are being destroyed with
-/// them.
+/// of its signals; the end of a drag is reported first, but not to those that are being destroyed
+/// with them.
 class COMMONLIB_EXPORT IDragValueChangedHelper : public QObject
 {
     Q_OBJECT

@@ -5,7 +5,7 @@
 
 #include <QLabel>
 
-/// Label that is aligned to the right when gIsArgLang() tells, as it is made, that the interface is
+/// Label that is aligned to the right when gIsArgLang() is true as it is made: the interface is
 /// written from right to left. A change of that flag later does not reach it.
 class COMMONLIB_EXPORT MagicLabel : public QLabel
 {

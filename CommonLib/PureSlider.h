@@ -28,7 +28,7 @@ public:
     void SetRange(int min, int max);
     /// A null pointer is left alone.
     void GetRange(int* min, int* max) const;
-    /// Sets the value, limited to the range, and tells of a change.
+    /// Sets the value, limited to the range, and reports a change.
     void SetValue(int value);
     int GetValue() const;
 

@@ -11,8 +11,8 @@
 /// Keys have 16, 24 or 32 bytes, by the key size; of a longer key only the first bytes count, and
 /// with a shorter one every operation that takes a key gives an empty array. All modes but ECB need
 /// an initialisation vector of exactly 16 bytes, without which the result is empty too; ECB ignores
-/// it. Nothing tells a wrong key or padding: they give wrong bytes. A result that there is no
-/// memory for is empty.
+/// it. A wrong key or padding is not detected: they give wrong bytes. A result that there is
+/// no memory for is empty.
 ///
 /// One instance serves one thread at a time. The static functions can be called from any thread.
 class COMMONLIB_EXPORT QAESEncryption : public QObject

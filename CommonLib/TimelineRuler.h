@@ -19,7 +19,7 @@ class TimelineViewRuler;
 /// from the spacing of large ticks. docs/ruler.md tabulates the scale and says what mouse, wheel
 /// and keys do.
 ///
-/// Signals tell of what the user does. A call never emits one, except that it may end a drag which
+/// Signals report what the user does. A call never emits one, except that it may end a drag which
 /// is under way. A ruler that is disabled or hidden in a drag ends it in the next turn of the event
 /// loop. A slot of any of the signals may delete the ruler, at once or later. Positions are pixels
 /// from the left edge, frames whole frames at FPS().

@@ -11,10 +11,10 @@
 
 #include <limits>
 
-/// The widget that draws a TimelineRuler and takes its mouse, wheel and keys. Signals tell of what
+/// The widget that draws a TimelineRuler and takes its mouse, wheel and keys. Signals report what
 /// the user does, never of calls.
 ///
-/// A handler may delete the ruler. Functions that emit therefore tell whether it is still there,
+/// A handler may delete the ruler. Functions that emit therefore return whether it is still there,
 /// unless they are the last thing that an event does.
 class TimelineViewRuler : public QWidget
 {
@@ -117,7 +117,7 @@ private:
     void DragZoomAndScroll(const QPoint& at);
     bool EndSingleClick();
     void QueueEndDrag();
-    /// Moves the play head for the user and tells of it when it moved.
+    /// Moves the play head for the user and reports it when it moved.
     bool MoveByUser(int frame);
     bool ShowPlayHead();
     void ScrollAtEdge();
@@ -125,7 +125,7 @@ private:
     int FrameAt(int x) const;
     int Bounded(qint64 frame) const;
 
-    /// Zooms so that \a frame lies at \a x, and tells of what changed.
+    /// Zooms so that \a frame lies at \a x, and reports what changed.
     bool ZoomAbout(float zoom, double frame, double x);
     void ZoomOnceAbout(float zoom, double frame, double x);
     void FitAll();

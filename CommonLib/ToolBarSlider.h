@@ -20,7 +20,7 @@ struct SliderSteps;
 ///
 /// The minimum is at the left or top end. A minimum above the maximum turns the scale round. Bounds
 /// that differ by no more than a hundred-thousandth of the smaller one are an empty range, on which
-/// mouse and keys do nothing. Signals tell of what the user does; no call emits one.
+/// mouse and keys do nothing. Signals report what the user does; no call emits one.
 ///
 /// docs/widgets.md tells what mouse, wheel and keys do.
 class COMMONLIB_EXPORT ToolBarSlider : public QWidget
@@ -57,8 +57,8 @@ public:
     /// On by default: on a vertical slider the highlight rises from the bottom to the chunk. Off,
     /// it hangs from the top. The minimum is at the top in either case.
     void SetBottomToTop(bool on);
-    /// Whether a press beside the chunk is told as startValueChanged() and endValueChanged() too.
-    /// On by default; a drag of the chunk always is.
+    /// Whether a press beside the chunk emits startValueChanged() and endValueChanged() too.
+    /// On by default; a drag of the chunk always does.
     void SetAwaysEmitValueChangeStartEnd(bool on);
     /// What ButtonPressDown() gives until the next press or release, for a host that changes the
     /// value on the user's behalf.
@@ -93,9 +93,10 @@ protected:
     /// Whether the range is not empty.
     bool CanChanged() const;
     bool NeedEmitValue() const;
-    /// Emits valueChanged() unless the last one told the same value.
+    /// Emits valueChanged() unless the last one had the same value.
     void EmitValueChange();
-    /// Emits startValueChanged() or, with \a start false, endValueChanged(), if this press is told.
+    /// Emits startValueChanged() or, with \a start false, endValueChanged(), if this press has
+    /// them.
     void EmitStartEndSignals(bool start);
     /// Pixels that the chunk can travel.
     int GetWidth() const;

@@ -231,7 +231,7 @@ constexpr HRESULT STG_E_READFAULT = static_cast<HRESULT>(0x8003001Eu);
 constexpr HRESULT STG_E_SHAREVIOLATION = static_cast<HRESULT>(0x80030020u);
 constexpr HRESULT STG_E_MEDIUMFULL = static_cast<HRESULT>(0x80030070u);
 
-/// What IStream::Stat() tells.
+/// What IStream::Stat() returns.
 struct STATSTG
 {
     LPWSTR pwcsName; ///< task memory, or null

@@ -25,7 +25,7 @@ enum class ObjectKind
     File
 };
 
-/// What a device tells of one object.
+/// What a device reports of one object.
 struct ObjectInfo
 {
     std::wstring id;
@@ -101,7 +101,7 @@ public:
     virtual HRESULT remove(const std::wstring& id, GCancellable* cancellable) = 0;
 };
 
-/// What every device tells of itself, its root object.
+/// What every device reports of itself, its root object.
 ObjectInfo DeviceInfo(const std::wstring& name);
 
 /// Seconds since 1970 as an OLE automation date in local time.

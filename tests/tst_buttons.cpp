@@ -340,7 +340,7 @@ private slots:
         QFETCH(DeletedInSlot::Make, make);
         QFETCH(DeletedInSlot::Steps, steps);
         QFETCH(QString, deletedIn);
-        // Qt still uses a widget that it tells of the mouse.
+        // Qt still uses a widget that it sends the mouse to.
         const bool laterOnly = deletedIn.contains("sigEnter");
         for (const bool later : {laterOnly, true})
             QCOMPARE(DeletedInSlot::InEachSlot(make, steps, later), deletedIn);

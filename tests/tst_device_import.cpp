@@ -411,7 +411,7 @@ private slots:
         fromThreads(removed);
         QCOMPARE(m_removals.load(), 1);
 
-        // An event in the middle of closing: none is told of afterwards.
+        // An event in the middle of closing: none is reported afterwards.
         for (int round = 0; round < 200; ++round) {
             WpdApiLib::SetCallbackProc(&Callback, this);
             Open();

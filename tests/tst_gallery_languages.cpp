@@ -129,7 +129,7 @@ private Q_SLOTS:
                 HostLanguage::LocaleOf(MultiLangMgr::GetInstance()->GetLangConstInfo());
             const QTreeWidgetItem* item = tree->findItems("b.mov", Qt::MatchRecursive).value(0);
             QCOMPARE(item->text(1), locale.formattedDataSize(size, 1));
-            // A device tells whole seconds, rounded its way.
+            // A device reports whole seconds, rounded its way.
             const QDateTime modified = QFileInfo(large).lastModified();
             const auto text = [&](int seconds) {
                 return locale.toString(modified.addSecs(seconds), QLocale::ShortFormat);

@@ -92,7 +92,7 @@ private slots:
         QCOMPARE(tree["card"].parent, QString("DEVICE"));
         QCOMPARE(tree["card/large"].size, (5ULL << 30) + 3);
         QCOMPARE(tree["card/large"].modified, 45351.5);
-        // An identifier outlives the walk and the session, and tells the same a second time.
+        // An identifier outlives the walk and the session, and is the same a second time.
         const Device again(FolderId("card"));
         Object clip;
         QCOMPARE(again.describe(tree["card/DCIM/100/clip.mp4"].id.toStdWString(), clip), S_OK);

@@ -117,7 +117,7 @@ private slots:
         QCOMPARE(PixelRatioOn(1.5, 0.0, 1.0), 1.5);
     }
 
-    // Qt's logical size is rounded; the mode that it comes from is told all the same.
+    // Qt's logical size is rounded; the mode that it comes from is found all the same.
     void physicalSides()
     {
         for (int percent = 100; percent <= 400; ++percent) {

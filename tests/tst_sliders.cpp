@@ -431,7 +431,7 @@ private slots:
         for (int i = 0; i < 4; ++i)
             Wheel(&slider, {0, 40}); // a third of a notch
         Wheel(&slider, {0, -120}, Qt::ShiftModifier);
-        slider.SetRange(0, 60); // tells nothing
+        slider.SetRange(0, 60); // emits nothing
         slider.SetRange(0, 9000);
         Key(&slider, Qt::Key_Right);
         Key(&slider, Qt::Key_Home);

@@ -192,7 +192,7 @@ public:
     QSizeF GetSourceSize() const;
     /// Frames a second of the media; 25 without media.
     float GetSourceFramerate() const;
-    /// Fills in what the media tells: rate, picture size and sound format. The other fields stay.
+    /// Fills in what the media reports: rate, picture size and sound format. The other fields stay.
     void GetSourceAVProfile(tagNLEProjectProfile* profile) const;
     /// Length of the media in frames, and its frames a second. Both stay as they are without media.
     void GetMediaFrameCount(unsigned int& count, float& rate) const;

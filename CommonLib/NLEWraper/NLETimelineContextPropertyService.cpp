@@ -107,7 +107,7 @@ bool NLETimelineContextPropertyService::SetDoubleValue(const wchar_t* key, doubl
 
 bool NLETimelineContextPropertyService::SetDoubleValues(const QMap<const wchar_t*, double>& values)
 {
-    // With nothing to write a basin is left alone; a missing one is told all the same.
+    // With nothing to write a basin is left alone; a missing one is reported all the same.
     if (values.isEmpty() && m_basin)
         return false;
     const auto properties = GetContextProperty();

@@ -83,7 +83,7 @@ protected:
     }
 
 private:
-    /// Sees to space for the data before \a end, unless the file system cannot: writing tells then.
+    /// Reserves space for the data before \a end. Where it cannot, writing reports a full disk.
     void ReserveUpTo(qint64 end)
     {
         if (!m_canReserve || end <= m_reserved)

@@ -374,7 +374,7 @@ void WpdApiLib::DeleteContentFromDevice(const wchar_t* objectId)
         return;
     const HRESULT result =
         content->Delete(Wpd::PORTABLE_DEVICE_DELETE_NO_RECURSION, ids.get(), nullptr);
-    // S_FALSE tells of objects that stayed, and there was only this one.
+    // S_FALSE reports objects that stayed, and there was only this one.
     if (result != S_OK)
         std::printf("! Failed to delete an object from the device, hr = 0x%lx\n",
                     ResultBits(result));

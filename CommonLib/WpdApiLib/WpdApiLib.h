@@ -31,7 +31,7 @@ enum WpdCallbackCode : std::uint64_t
 using WpdCallbackProc = std::int64_t (*)(HWND window, std::uint32_t message, std::uint64_t code,
                                          std::int64_t value, void* user);
 
-/// One object of a device's content, during the callback that tells of it.
+/// One object of a device's content, during the callback that reports it.
 ///
 /// The texts are never null. They belong to the library and end with the callback. What a device
 /// does not tell is empty or 0.
@@ -63,7 +63,7 @@ public:
     WpdApiLib() = delete;
 
     /// Sets the host's callback and the pointer that every call passes back. A device that is open
-    /// keeps telling of its removal to the callback that was set when it was opened.
+    /// keeps reporting its removal to the callback that was set when it was opened.
     static void SetCallbackProc(WpdCallbackProc callback, void* user);
 
     /// Lists the devices.

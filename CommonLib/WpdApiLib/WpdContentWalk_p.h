@@ -12,7 +12,7 @@ public:
     WpdContentWalk(const NLEComPtr<IPortableDeviceContent>& content, WpdCallbackProc callback,
                    void* user);
 
-    /// Tells the host of the object and visits its children. Failures and the host's wish to stop
+    /// Reports the object to the host and visits its children. Failures and the host's wish to stop
     /// go into the flags of WpdApiLib.
     void Visit(const wchar_t* objectId, int depth);
 

@@ -42,7 +42,7 @@ inline double PixelRatioOn(double systemRatio, double primaryScale, double scale
     return std::max(1.0, systemRatio * scale / primaryScale);
 }
 
-/// The side of a monitor in its own pixels that Qt tells as \a logical at \a scale, rounded. Of
+/// The side of a monitor in its own pixels that Qt reports as \a logical at \a scale, rounded. Of
 /// those that come out as this, the one with the most factors of two, as display modes have.
 inline int PhysicalSide(int logical, double scale)
 {

@@ -62,7 +62,7 @@ private:
     void StartImport();
     void TakeProgress(quint64 bytes);
     void TakeResult(const ImportResult& result);
-    /// The marked files that \a result does not tell of as imported.
+    /// The marked files that \a result does not report as imported.
     QVector<std::wstring> NotImported(const ImportResult& result) const;
     void TakeRemoval();
     void OpenChosen(const QVector<std::wstring>& toDelete = {});

@@ -80,7 +80,7 @@ HRESULT BackgroundCache::Start(const NLESize* resolution, NLERenderCallback call
     });
 }
 
-// A run that has ended tells so under this lock, and is no longer running before it does.
+// A run that has ended reports it under this lock, and is no longer running before it does.
 bool BackgroundCache::JoinRun(const Listener& listener)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);

@@ -250,7 +250,7 @@ void CacheRenderer::ReportProgress(NLECacheState state)
     progress.cachedFrames = m_store->CountFrames(m_plan->Chunks());
     const std::int64_t percent =
         progress.totalFrames > 0 ? progress.cachedFrames * 100 / progress.totalFrames : 100;
-    // A hundred means that the run has ended, and this one is told before its end.
+    // A hundred means that the run has ended, and this one is reported before its end.
     progress.percent =
         state == NLECache_Finished ? int(percent) : int(std::min<std::int64_t>(percent, 99));
     // For lack of memory a report is left out; a thread has nobody to throw to.

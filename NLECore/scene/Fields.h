@@ -26,7 +26,7 @@ struct Shows
 
 namespace FieldDetail {
 
-/// The number that a field's range is told in: that of a plain field, else that of its parts.
+/// The number that a field's range is given in: that of a plain field, else that of its parts.
 template <typename Value, typename = void>
 struct RangeOf
 {

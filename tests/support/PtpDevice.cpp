@@ -182,7 +182,7 @@ QByteArray PtpDevice::deviceInfo() const
         operations << 0x101B;
     if (m_kind.hasPartialReads && m_kind.isPhone)
         operations << 0x95C1;
-    // One maker's extension is that a camera tells sizes of 64 bits.
+    // One maker's extension is that a camera reports sizes of 64 bits.
     const quint32 maker = m_kind.isPhone ? 6 : m_kind.hasPartialReads ? 0 : 10;
     return Little<quint16>(100) + Little(maker) + Little<quint16>(100) +
            Text(m_kind.isPhone ? "microsoft.com: 1.0; android.com: 1.0;" : "") +
