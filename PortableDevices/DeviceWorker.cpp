@@ -221,7 +221,7 @@ DeviceWorker::Pending DeviceWorker::start(Task task)
         if (m_state->isClosed)
             job.result.set_value(kNotOpen);
         else
-        m_state->jobs.push_back(std::move(job));
+            m_state->jobs.push_back(std::move(job));
     }
     m_state->wake.notify_one();
     return pending;
@@ -274,8 +274,8 @@ void DeviceWorker::cancel()
         if (m_state->running)
             targets.push_back(Share(m_state->running.get()));
         for (const Job& job : m_state->jobs)
-                targets.push_back(Share(job.cancellable.get()));
-        }
+            targets.push_back(Share(job.cancellable.get()));
+    }
     for (const GPtr<GCancellable>& target : targets)
         g_cancellable_cancel(target.get());
 }

@@ -3,8 +3,8 @@
 // its schedule and its result anew for every message. The peer writes into a buffer that is there
 // already; for 64-byte messages it makes a context each time, for longer ones it keeps one. Its
 // cipher is looked up beforehand. Rounds are interleaved; figures are medians.
-#include "CommonLib/aes/AesCipher_p.h"
 #include "CommonLib/QAESEncryption.h"
+#include "CommonLib/aes/AesCipher_p.h"
 #include "benchmarks/Median.h"
 
 #include <openssl/evp.h>

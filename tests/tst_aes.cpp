@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "CommonLib/aes/AesCipher_p.h"
 #include "CommonLib/QAESEncryption.h"
+#include "CommonLib/aes/AesCipher_p.h"
 
 #include <QRandomGenerator>
 #include <QtTest>

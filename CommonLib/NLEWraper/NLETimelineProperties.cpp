@@ -170,5 +170,6 @@ float NLETimeline::GetProjectFps() const
 
 void NLETimeline::SetProjectFps(float fps)
 {
-    WriteProfile(GetProjectSetting().get(), &tagNLEProjectProfile::frameRate, NLECommon::RateToRational(fps));
+    WriteProfile(GetProjectSetting().get(), &tagNLEProjectProfile::frameRate,
+                 NLECommon::RateToRational(fps));
 }
