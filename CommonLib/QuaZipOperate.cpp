@@ -202,8 +202,12 @@ private:
 
 std::filesystem::path SystemPath(const QString& path)
 {
-    if (std::is_same_v<std::filesystem::path::value_type, wchar_t>)
-        return path.toStdWString();
+    if (std::is_same_v<std::filesystem::path::value_type, wchar_t>) {
+        // With this in front, a path of Windows may be longer than 260 characters.
+        const QString native = QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
+        const QString prefix = QStringLiteral("\\\\?\\");
+        return (native.startsWith(QLatin1String("\\\\")) ? native : prefix + native).toStdWString();
+    }
     return QFile::encodeName(path).toStdString();
 }
 
@@ -270,14 +274,11 @@ QString NewHiddenFile(const QString& folder)
     return file.open(QIODevice::WriteOnly | QIODevice::NewOnly) ? file.fileName() : QString();
 }
 
-bool Pack(const QString& archivePath, const QString& folder)
+bool Pack(const QString& archivePath, const QString& folder, bool needsLargeFormat)
 {
-    Survey survey;
-    if (!survey.Visit(folder))
-        return false;
     QuaZip zip(archivePath);
     zip.setUtf8Enabled(true);
-    zip.setZip64Enabled(survey.NeedsLargeFormat());
+    zip.setZip64Enabled(needsLargeFormat);
     if (!zip.open(QuaZip::mdCreate))
         return false;
     const bool isPacked = JlCompress::compressSubDir(&zip, folder, folder, true, QDir::Filters());
@@ -289,7 +290,8 @@ bool Pack(const QString& archivePath, const QString& folder)
 
 bool QuaZipOperate::CompressDir(const QString& archivePath, const QString& folder)
 {
-    if (!QFileInfo(folder).isDir())
+    Survey survey;
+    if (!QFileInfo(folder).isDir() || !survey.Visit(folder))
         return false;
     const QFileInfo archive(QDir::cleanPath(QFileInfo(archivePath).absoluteFilePath()));
     QDir().mkpath(archive.absolutePath());
@@ -300,7 +302,8 @@ bool QuaZipOperate::CompressDir(const QString& archivePath, const QString& folde
     const QString growing = NewHiddenFile(archive.absolutePath());
     if (growing.isEmpty())
         return false;
-    if (Pack(growing, folder) && QFile::rename(growing, archive.filePath()))
+    if (Pack(growing, folder, survey.NeedsLargeFormat()) &&
+        QFile::rename(growing, archive.filePath()))
         return true;
     QFile::remove(growing);
     return false;

@@ -223,10 +223,13 @@ std::vector<DeviceEntry> VolumeWatcher::entries()
 
 void VolumeWatcher::update()
 {
-    std::vector<std::shared_ptr<OpenDevice>> gone;
+    std::vector<DeviceEntry> found;
+    // What may be the last references ends outside of the lock, since ending waits for the device.
+    std::vector<std::shared_ptr<OpenDevice>> watched;
     {
         const std::lock_guard lock(m_mutex);
-        std::vector<DeviceEntry> found;
+        if (!m_isReady)
+            return;
         for (const GPtr<GVolumeMonitor>& monitor : m_monitors)
             ReadMonitor(monitor.get(), found);
         found.swap(m_entries);
@@ -235,16 +238,14 @@ void VolumeWatcher::update()
                                 [&old](const DeviceEntry& entry) { return IsSame(entry, old); });
         };
         found.erase(std::partition(found.begin(), found.end(), isGone), found.end());
-        for (const std::weak_ptr<OpenDevice>& known : m_watched) {
-            std::shared_ptr<OpenDevice> device = known.lock();
-            if (device &&
-                std::any_of(found.begin(), found.end(),
-                            [&device](const DeviceEntry& old) { return old.id == device->id(); }))
-                gone.push_back(std::move(device));
-        }
+        for (const std::weak_ptr<OpenDevice>& known : m_watched)
+            watched.push_back(known.lock());
     }
-    for (const std::shared_ptr<OpenDevice>& device : gone)
-        device->worker().noteRemoval();
+    for (const std::shared_ptr<OpenDevice>& device : watched) {
+        const auto isOf = [&device](const DeviceEntry& old) { return old.id == device->id(); };
+        if (device && std::any_of(found.begin(), found.end(), isOf))
+            device->worker().noteRemoval();
+    }
 }
 
 void VolumeWatcher::watch(const std::shared_ptr<OpenDevice>& device)

@@ -12,5 +12,5 @@ write_basic_package_version_file(${CMAKE_BINARY_DIR}/CommonLibConfigVersion.cmak
   COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_BINARY_DIR}/CommonLibConfig.cmake ${CMAKE_BINARY_DIR}/CommonLibConfigVersion.cmake
   COMPONENT CommonLib DESTINATION ${package_folder})
-install(FILES ${CMAKE_SOURCE_DIR}/cmake/Translations.cmake RENAME CommonLibTranslations.cmake
+install(FILES ${PROJECT_SOURCE_DIR}/cmake/Translations.cmake RENAME CommonLibTranslations.cmake
   COMPONENT CommonLib DESTINATION ${package_folder})

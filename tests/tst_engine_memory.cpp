@@ -248,14 +248,16 @@ private slots:
         QFETCH(const Call, call);
         bool ranOut = true;
         long count = 0;
+        int failures = 0;
         // Further and further into the call: every allocation at first, then some.
         for (; ranOut; count += 1 + count / 10) {
             const std::optional<HRESULT> result = After(count, call, &ranOut);
             QVERIFY2(result, qPrintable(QString("threw after %1 allocations").arg(count)));
             QVERIFY2(ranOut || SUCCEEDED(*result),
                      qPrintable(QString("%1").arg(std::uint32_t(*result), 0, 16)));
+            failures += FAILED(*result) ? 1 : 0;
         }
-        QVERIFY(count > 1);
+        QVERIFY(failures > 0);
     }
 };
 

@@ -319,9 +319,10 @@ std::uint32_t FindEnd(MediaFile& file, const AVStream* stream, const MediaStream
             return 0;
         const bool isShown = packet->pts != AV_NOPTS_VALUE &&
                              (packet->flags & (AV_PKT_FLAG_DISCARD | AV_PKT_FLAG_CORRUPT)) == 0;
-        const std::int64_t ticks = packet->pts - description.startTicks;
-        if (isShown)
+        if (isShown) {
+            const std::int64_t ticks = packet->pts - description.startTicks;
             end = std::max(end, av_rescale_q(ticks, stream->time_base, frame) + 1);
+        }
         av_packet_unref(packet.get());
     }
     return std::uint32_t(std::clamp<std::int64_t>(end, 0, INT32_MAX));

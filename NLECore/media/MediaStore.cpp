@@ -50,8 +50,7 @@ public:
     ~Crew()
     {
         m_next = m_tasks;
-        for (std::thread& thread : m_threads)
-            thread.join();
+        Join();
     }
     Crew(const Crew&) = delete;
     Crew& operator=(const Crew&) = delete;
@@ -71,6 +70,13 @@ public:
             // Those that started, and this one, do it all.
         }
         work();
+    }
+
+    void Join()
+    {
+        for (std::thread& thread : m_threads)
+            thread.join();
+        m_threads.clear();
     }
 
 private:
@@ -149,13 +155,16 @@ std::vector<MediaStore::Result> MediaStore::DescribeAll(const QStringList& paths
 {
     std::vector<Result> results(size_t(paths.size()));
     const int threads = std::clamp(QThread::idealThreadCount(), FewestThreads, MostThreads);
-    Crew(paths.size()).Run(std::min(threads, paths.size()) - 1, [&](int i) {
+    const auto describe = [&](int i) {
         try {
             results[size_t(i)] = Describe(paths[i]);
         } catch (const std::bad_alloc&) {
             // The result stays empty, as that of a file that cannot be read.
         }
-    });
+    };
+    Crew crew(paths.size()); // ends before what its threads use
+    crew.Run(std::min(threads, paths.size()) - 1, describe);
+    crew.Join();
     return results;
 }
 

@@ -249,8 +249,10 @@ struct MediaWriter::Private
         auto* buffer = static_cast<unsigned char*>(av_malloc(kBufferBytes));
         output.reset(
             avio_alloc_context(buffer, kBufferBytes, 1, &file, nullptr, WriteBytes, &SeekByte));
-        if (!buffer || !output)
+        if (!buffer || !output) {
+            av_free(output ? nullptr : buffer);
             return Fail("out of memory");
+        }
         // The muxer writes there and makes no files by itself.
         context->pb = output.get();
         context->io_open = &RefuseFile;
@@ -364,7 +366,10 @@ struct MediaWriter::Private
             return false;
         if (format->nb_streams == 0)
             return Fail("nothing to write into this container");
-        return Check(avformat_write_header(format.get(), nullptr));
+        const int code = avformat_write_header(format.get(), nullptr);
+        if (code < 0 && output->error < 0)
+            return Fail(WriterError::Kind::File, AvErrorText(output->error));
+        return Check(code);
     }
 
     bool StartWithNearestSound(const AVOutputFormat* container)
@@ -373,7 +378,7 @@ struct MediaWriter::Private
             return true;
         const WriterError first = error;
         for (const SoundFormat& sound : SoundFormats(settings)) {
-            if (!audio.codec)
+            if (!audio.codec || error.kind == WriterError::Kind::File)
                 break;
             settings.sampleRate = sound.sampleRate;
             settings.channels = sound.channels;

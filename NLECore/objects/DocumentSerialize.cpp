@@ -47,6 +47,8 @@ HRESULT DocumentSerialize::Load(const wchar_t* path, INLETimeline** timeline)
         *timeline = nullptr;
         const QString name = QString::fromWCharArray(path);
         QFile file(name);
+        if (!QFileInfo(name).isFile())
+            return Report(name, QStringLiteral("no such file"));
         if (!file.open(QIODevice::ReadOnly))
             return Report(name, file.errorString());
         DocumentReader reader(file.readAll(), QFileInfo(name).absoluteDir());

@@ -130,8 +130,13 @@ HRESULT MediaEncoder::Encode(NLEProgressCallback callback, void* userData)
             return E_FAIL;
         WriterError error;
         const std::unique_ptr<MediaWriter> writer = MediaWriter::Open(m_path, m_settings, &error);
+        if (!writer) {
+            Warn(error.text);
+            return E_FAIL;
+        }
+        const WriterSettings& settings = writer->Settings();
         Composer composer(m_root);
-        AudioMixer mixer(m_root, m_settings.sampleRate, m_settings.channels);
+        AudioMixer mixer(m_root, settings.sampleRate, settings.channels);
         std::vector<float> sound;
         const NLERational& ownRate = m_root->frameRate;
         const auto length = std::llround(double(NLERangeLength(m_range)) * ToDouble(m_frameRate) /
@@ -139,9 +144,9 @@ HRESULT MediaEncoder::Encode(NLEProgressCallback callback, void* userData)
         const std::int64_t firstSample = mixer.SampleOfFrame(m_range.in);
         const auto sampleOf = [&](std::int64_t frame) {
             return firstSample +
-                   std::llround(double(frame) * m_settings.sampleRate / ToDouble(m_frameRate));
+                   std::llround(double(frame) * settings.sampleRate / ToDouble(m_frameRate));
         };
-        bool written = writer != nullptr;
+        bool written = true;
         for (std::int64_t done = 0; written && done < length; ++done) {
             if (callback && callback(int(done * 100 / length), userData) != 0)
                 return S_FALSE;
@@ -149,19 +154,19 @@ HRESULT MediaEncoder::Encode(NLEProgressCallback callback, void* userData)
                 QRect place;
                 const std::int64_t frame =
                     m_range.in + FrameTime{double(done), m_frameRate}.ShownAt(ownRate);
-                const QImage picture = composer.Render(frame, m_settings.size, &place);
-                written = writer->WritePicture(OnFrame(picture, place, m_settings.size));
+                const QImage picture = composer.Render(frame, settings.size, &place);
+                written = writer->WritePicture(OnFrame(picture, place, settings.size));
             }
-            if (written && m_settings.hasSound) {
+            if (written && writer->HasSound()) {
                 const std::int64_t first = sampleOf(done);
                 const int count = int(sampleOf(done + 1) - first);
-                sound.resize(size_t(count) * size_t(m_settings.channels));
+                sound.resize(size_t(count) * size_t(settings.channels));
                 mixer.Mix(first, count, sound.data());
                 written = writer->WriteSound(sound.data(), count);
             }
         }
         if (!written || !writer->Finish()) {
-            Warn(writer ? writer->Error() : error.text);
+            Warn(writer->Error());
             return E_FAIL;
         }
         if (callback)

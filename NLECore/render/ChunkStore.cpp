@@ -121,7 +121,8 @@ void ChunkStore::Refresh()
         List();
 }
 
-// What a killed process left half written goes as well, provided that no other process writes here.
+// What a killed process left half written goes at first, provided that no other process writes
+// here.
 void ChunkStore::List()
 {
     Claim();
@@ -129,9 +130,9 @@ void ChunkStore::List()
     const std::int64_t state = QFileInfo(m_folder).lastModified().toMSecsSinceEpoch();
     m_listedState = state + kTimeGrain < Now() ? state : kUnknownState;
     std::unordered_map<ContentKey, Entry, ContentKeyHash> found;
-    m_used = 0;
+    std::int64_t used = 0;
     ForEachFile(m_folder, [&](const ContentKey& key, bool isWhole, const QDirIterator& file) {
-        if (!isWhole && m_claim && !m_isListed)
+        if (!isWhole && m_claim && !m_wasListed)
             QFile::remove(file.filePath());
         if (!isWhole)
             return;
@@ -141,10 +142,12 @@ void ChunkStore::List()
                                 ? known->second
                                 : Entry{info.size(), info.lastModified().toMSecsSinceEpoch()};
         found[key] = entry;
-        m_used += entry.size;
+        used += entry.size;
     });
     m_entries.swap(found);
+    m_used = used;
     m_isListed = IsFolderThere();
+    m_wasListed = true;
 }
 
 void ChunkStore::Claim()

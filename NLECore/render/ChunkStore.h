@@ -97,6 +97,7 @@ private:
     std::int64_t m_used = 0;
     std::int64_t m_reserved = 0;
     bool m_isListed = false;
+    bool m_wasListed = false; ///< ever; from then on half-written files may be this process's
     std::int64_t m_listedState = kUnknownState; ///< the folder's time of change as of the listing
     bool m_isFolderOurs = false;                ///< was missing or empty
     bool m_isMarked = false;                    ///< this process has left the mark of IsShared()

@@ -65,9 +65,14 @@ struct Field
 template <typename Settings, typename Type, typename IsShown, typename... Range>
 Field(Type Settings::*, const char*, IsShown, Range...) -> Field<Settings, Type, IsShown>;
 
-/// The fields of \a Settings, in the order of the struct.
+/// The fields of \a Settings, in the order of documents.
 template <typename Settings>
 inline constexpr std::tuple<> kFields;
+
+/// How many fields \a Settings lists; none for what is no settings struct.
+template <typename Settings>
+inline constexpr std::size_t kFieldCount =
+    std::tuple_size_v<std::remove_const_t<decltype(kFields<Settings>)>>;
 
 /// Gives each field of \a Settings to \a visit, in order.
 template <typename Settings, typename Visit>
@@ -101,9 +106,8 @@ constexpr std::size_t CountFields(int)
 
 /// Whether kFields names as many fields as \a Settings has. For plain structs.
 template <typename Settings>
-inline constexpr bool
-    kListsAllFields = std::tuple_size_v<std::remove_const_t<decltype(kFields<Settings>)>> ==
-                      FieldDetail::CountFields<Settings>(0);
+inline constexpr bool kListsAllFields = kFieldCount<Settings> ==
+                                        FieldDetail::CountFields<Settings>(0);
 
 template <typename T>
 std::enable_if_t<!std::is_floating_point_v<T>, bool> IsFinite(const T& /*value*/)
@@ -188,7 +192,7 @@ inline bool IsSame(const std::optional<NLERange>& a, const std::optional<NLERang
 template <typename Value>
 bool IsSame(const Value& a, const Value& b)
 {
-    if constexpr (std::tuple_size_v < std::remove_const_t < decltype(kFields<Value>) >>> 0) {
+    if constexpr (kFieldCount < Value >> 0) {
         bool same = true;
         ForEachField<Value>(
             [&](const auto& field) { same = same && IsSame(a.*field.member, b.*field.member); });

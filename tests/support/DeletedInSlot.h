@@ -90,6 +90,8 @@ inline void Play(const QPointer<QWidget>& widget, const Steps& steps)
 /// The signals during which the widget was deleted, each as often as it came.
 inline QString InEachSlot(const Make& make, const Steps& steps, bool later)
 {
+    // The real pointer must not enter what is shown.
+    QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
     const auto remove = [later](QWidget* widget) { later ? widget->deleteLater() : delete widget; };
     for (int count = 1; count <= steps.size(); ++count) {
         Dies(make, steps.mid(0, count), [&](const QPointer<QWidget>& widget, const Steps& first) {

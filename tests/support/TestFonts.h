@@ -50,19 +50,24 @@ inline QByteArray Renamed(QByteArray font, const QString& family)
 {
     constexpr int header = 12;
     constexpr int entry = 16;
-    QByteArray text = QTextCodec::codecForName("UTF-16BE")->fromUnicode(family);
-    text = text.right(2 * family.size()); // the codec may write a byte order mark
-    QByteArray names(6 + 3 * 12, '\0');
-    Put<quint16>(names, 2, 3);
+    const std::pair<int, QString> texts[] = {
+        {1, family}, {2, QStringLiteral("Regular")}, {4, family}, {6, family}}; // 6: for PostScript
+    const int count = int(std::size(texts));
+    QByteArray names(6 + count * 12, '\0');
+    Put<quint16>(names, 2, quint16(count));
     Put<quint16>(names, 4, quint16(names.size()));
+    QByteArray strings;
     int record = 6;
-    for (const int name : {1, 4, 6}) { // family, full name, PostScript name
-        for (const int value : {3, 1, 0x409, name, int(text.size()), 0}) {
+    for (const auto& [name, string] : texts) {
+        QByteArray text = QTextCodec::codecForName("UTF-16BE")->fromUnicode(string);
+        text = text.right(2 * string.size()); // the codec may write a byte order mark
+        for (const int value : {3, 1, 0x409, name, int(text.size()), int(strings.size())}) {
             Put<quint16>(names, record, quint16(value));
             record += 2;
         }
+        strings += text;
     }
-    names += text;
+    names += strings;
     font.append(-font.size() & 3, '\0');
     for (int i = 0; i < Get<quint16>(font, 4); ++i) {
         const int at = header + i * entry;
@@ -89,7 +94,7 @@ inline QByteArray Boxes(const QString& family)
     const QVector<int> fifteen(15, 0);
     const std::pair<const char*, QByteArray> tables[] = {
         {"OS/2", words({1, 700, 400, 5}) + words(fifteen.mid(0, 12)) + words(fifteen.mid(0, 5)) +
-                     words({1}) + words(fifteen.mid(0, 8)) +
+                     words({0, 1}) + words(fifteen.mid(0, 8)) +
                      words({0x40, 0x20, 0x7e, 800, -200, 0, 800, 200, 0, 1, 0, 0})},
         {"cmap", words({0, 1, 3,    1,      0, 12,   4,      222, 0, 4, 4,
                         1, 0, 0x7e, 0xffff, 0, 0x20, 0xffff, 0,   1, 4, 0}) +
