@@ -79,8 +79,8 @@ private slots:
     void references_data()
     {
         QTest::addColumn<std::function<void(Counted&)>>("use");
-        const auto row = [](const char* name, std::function<void(Counted&)> use) {
-            QTest::newRow(name) << std::move(use);
+        const auto row = [](const char* name, const std::function<void(Counted&)>& use) {
+            QTest::newRow(name) << use;
         };
         row("a pointer takes a reference and gives it back", [](Counted& object) {
             const Pointer pointer(&object);
