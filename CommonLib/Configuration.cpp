@@ -2,8 +2,8 @@
 #include "CommonLib/GlobalUtils.h"
 
 #include "CommonLib/FileOperation.h"
-#include "CommonLib/XmlDocument_p.h"
 #include "CommonLib/XmlOperation.h"
+#include "CommonLib/xml/XmlDocument_p.h"
 
 #include <QDir>
 #include <QStandardPaths>

@@ -2,7 +2,7 @@
 #include "CommonLib/FileOperation.h"
 
 #include "CommonLib/PathOperation.h"
-#include "CommonLib/RegularFile_p.h"
+#include "CommonLib/system/RegularFile_p.h"
 
 #include <QCryptographicHash>
 #include <QFile>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/LangConstInfo.h"
 
-#include "CommonLib/LanguageTable_p.h"
+#include "CommonLib/languages/LanguageTable_p.h"
 
 #include <algorithm>
 #include <array>

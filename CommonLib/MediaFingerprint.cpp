@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/GlobalUtils.h"
 
-#include "CommonLib/RegularFile_p.h"
+#include "CommonLib/system/RegularFile_p.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>

@@ -2,8 +2,8 @@
 #include "CommonLib/MultiLangMgr.h"
 
 #include "CommonLib/CBSUrlReader.h"
-#include "CommonLib/LanguageTable_p.h"
-#include "CommonLib/LanguageTranslators_p.h"
+#include "CommonLib/languages/LanguageTable_p.h"
+#include "CommonLib/languages/LanguageTranslators_p.h"
 
 #include <QApplication>
 #include <QFile>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/PathOperation.h"
 
-#include "CommonLib/FolderDialog_p.h"
 #include "CommonLib/StringOperation.h"
+#include "CommonLib/system/FolderDialog_p.h"
 
 #include <QCoreApplication>
 #include <QDir>

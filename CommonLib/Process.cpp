@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/GlobalUtils.h"
 
-#include "CommonLib/CommandCapture_p.h"
+#include "CommonLib/system/CommandCapture_p.h"
 
 #include <string>
 

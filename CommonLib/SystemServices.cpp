@@ -2,7 +2,7 @@
 #include "CommonLib/GlobalUtils.h"
 
 #include "CommonLib/FileOperation.h"
-#include "CommonLib/SystemInfo_p.h"
+#include "CommonLib/system/SystemInfo_p.h"
 
 #include <QDesktopServices>
 #include <QDir>

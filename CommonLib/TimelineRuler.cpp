@@ -2,7 +2,7 @@
 #include "CommonLib/TimelineRuler.h"
 
 #include "CommonLib/NumberConversion_p.h"
-#include "CommonLib/TimelineViewRuler_p.h"
+#include "CommonLib/ruler/TimelineViewRuler_p.h"
 
 #include <QStyle>
 #include <QVBoxLayout>

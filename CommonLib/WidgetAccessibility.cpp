@@ -10,8 +10,8 @@
 #include "CommonLib/ScaleUnitSlider.h"
 #include "CommonLib/SliderSteps_p.h"
 #include "CommonLib/TimelineRuler.h"
-#include "CommonLib/TimelineViewRuler_p.h"
 #include "CommonLib/ToolBarSlider.h"
+#include "CommonLib/ruler/TimelineViewRuler_p.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>

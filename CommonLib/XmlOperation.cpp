@@ -2,8 +2,8 @@
 #include "CommonLib/XmlOperation.h"
 
 #include "CommonLib/FileOperation.h"
-#include "CommonLib/RegularFile_p.h"
-#include "CommonLib/XmlDocument_p.h"
+#include "CommonLib/system/RegularFile_p.h"
+#include "CommonLib/xml/XmlDocument_p.h"
 
 namespace {
 

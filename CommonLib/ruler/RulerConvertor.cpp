@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/GlobalUtils.h"
 #include "CommonLib/NumberConversion_p.h"
-#include "CommonLib/RulerConvertor_p.h"
 #include "CommonLib/StringOperation.h"
+#include "CommonLib/ruler/RulerConvertor_p.h"
 
 #include <QFont>
 #include <QGuiApplication>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "CommonLib/XmlDocument_p.h"
+#include "CommonLib/xml/XmlDocument_p.h"
 
 #include <QDomDocumentFragment>
 #include <QRegularExpression>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "CommonLib/RulerDragAdjustManager_p.h"
+#include "CommonLib/ruler/RulerDragAdjustManager_p.h"
 
 #include <QApplication>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "CommonLib/RulerConvertor_p.h"
+#include "CommonLib/ruler/RulerConvertor_p.h"
 
 #include <QFont>
 #include <QPainter>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "CommonLib/RulerConvertor_p.h"
-#include "CommonLib/RulerDragAdjustManager_p.h"
+#include "CommonLib/ruler/RulerConvertor_p.h"
+#include "CommonLib/ruler/RulerDragAdjustManager_p.h"
 
 #include <QBasicTimer>
 #include <QElapsedTimer>

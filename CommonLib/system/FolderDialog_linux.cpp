@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "CommonLib/FolderDialog_p.h"
+#include "CommonLib/system/FolderDialog_p.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "CommonLib/SystemInfo_p.h"
+#include "CommonLib/system/SystemInfo_p.h"
 
 #include "CommonLib/WideText_p.h"
 

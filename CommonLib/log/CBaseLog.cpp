@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "CommonLib/CBaseLog_p.h"
+#include "CommonLib/log/CBaseLog_p.h"
 
 #include <algorithm>
 #include <charconv>

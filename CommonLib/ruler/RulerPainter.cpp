@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "CommonLib/RulerPainter_p.h"
+#include "CommonLib/ruler/RulerPainter_p.h"
 
 #include "CommonLib/GlobalUtils.h"
 #include "CommonLib/ScreenPixels_p.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "CommonLib/LanguageTranslators_p.h"
+#include "CommonLib/languages/LanguageTranslators_p.h"
 
-#include "CommonLib/LanguageTable_p.h"
-#include "CommonLib/TranslationFile_p.h"
+#include "CommonLib/languages/LanguageTable_p.h"
+#include "CommonLib/languages/TranslationFile_p.h"
 
 #include <QCoreApplication>
 #include <QDir>

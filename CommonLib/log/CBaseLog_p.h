@@ -2,7 +2,7 @@
 #pragma once
 
 #include "CommonLib/BaseLog.h"
-#include "CommonLib/LogFile_p.h"
+#include "CommonLib/log/LogFile_p.h"
 
 #include <atomic>
 #include <cstdarg>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "CommonLib/LogFile_p.h"
+#include "CommonLib/log/LogFile_p.h"
 
 #include <cerrno>
 #include <cstdio>

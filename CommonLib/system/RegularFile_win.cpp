@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "CommonLib/RegularFile_p.h"
+#include "CommonLib/system/RegularFile_p.h"
 
 #include <QFileInfo>
 

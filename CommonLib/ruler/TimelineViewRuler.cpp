@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "CommonLib/TimelineViewRuler_p.h"
+#include "CommonLib/ruler/TimelineViewRuler_p.h"
 
-#include "CommonLib/RulerPainter_p.h"
 #include "CommonLib/ScreenPixels_p.h"
 #include "CommonLib/WheelTurn_p.h"
 #include "CommonLib/WidgetAccessibility_p.h"
+#include "CommonLib/ruler/RulerPainter_p.h"
 
 #include <QKeyEvent>
 #include <QPaintEvent>
