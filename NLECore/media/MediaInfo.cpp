@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/MediaInfo.h"
+
+#include "NLECore/media/FrameGrid_p.h"
 #include "NLECore/media/MediaFile_p.h"
 
 #include <QImageReader>
@@ -21,17 +23,11 @@ namespace {
 constexpr AVRational Microseconds{1, 1000000};
 constexpr NLERational StillRate = {25, 1};
 
-// Rates that containers with coarse clocks only come close to.
-constexpr AVRational StandardRates[] = {{24000, 1001}, {24, 1},        {25, 1}, {30000, 1001},
-                                        {30, 1},       {48, 1},        {50, 1}, {60000, 1001},
-                                        {60, 1},       {120000, 1001}, {120, 1}};
-constexpr double StandardRateTolerance = 0.0002;
-
-// Above this, r_frame_rate is the clock of the container rather than a grid of pictures.
-constexpr double MaxGridRate = 125.0;
-
 // More packets than this behind the last entries of an index: it is not that of the whole file.
 constexpr int MaxPacketsAtEnd = 64;
+
+// Where there is no index, so many pictures tell the rate.
+constexpr std::size_t kMaxPicturesRead = 2000;
 
 struct Orientation
 {
@@ -42,34 +38,6 @@ struct Orientation
 bool IsValid(AVRational value)
 {
     return value.num > 0 && value.den > 0;
-}
-
-AVRational SnapToStandardRate(AVRational rate)
-{
-    for (const AVRational& standard : StandardRates) {
-        if (std::abs(av_q2d(rate) / av_q2d(standard) - 1.0) < StandardRateTolerance)
-            return standard;
-    }
-    return rate;
-}
-
-// The grid that the time stamps stand on where there is one, else the mean rate.
-AVRational ChooseRate(const AVStream* stream, bool* isConstant)
-{
-    AVRational grid = stream->r_frame_rate;
-    const AVRational mean = stream->avg_frame_rate;
-    // Interlaced streams may count fields.
-    const bool isInterlaced = stream->codecpar->field_order > AV_FIELD_PROGRESSIVE;
-    if (isInterlaced && IsValid(mean) && std::abs(av_q2d(grid) / av_q2d(mean) - 2.0) < 0.1)
-        grid = {grid.num, 2 * grid.den};
-    const bool hasGrid = IsValid(grid) && av_q2d(grid) <= MaxGridRate &&
-                         (!IsValid(mean) || av_q2d(grid) < 2.5 * av_q2d(mean));
-    *isConstant = hasGrid;
-    if (hasGrid)
-        return SnapToStandardRate(grid);
-    if (IsValid(mean))
-        return SnapToStandardRate(mean);
-    return {25, 1};
 }
 
 // Quarter turns and mirrors of the matrix that maps coded to displayed positions.
@@ -217,8 +185,9 @@ void DescribePicture(const MediaFile& file, const AVStream* stream, const QStrin
     result->sampleAspect = {aspect.num, aspect.den};
     result->hasAlpha = HasAlpha(stream);
     result->reorderDelay = codec->video_delay;
-    const AVRational rate = ChooseRate(stream, &result->constantRate);
-    result->frameRate = {rate.num, rate.den};
+    const FrameGrid grid = DeclaredGrid(stream);
+    result->frameRate = {grid.rate.num, grid.rate.den};
+    result->constantRate = grid.isConstant;
 }
 
 MediaStream Describe(const MediaFile& file, const AVStream* stream, const QString& path)
@@ -292,9 +261,9 @@ std::uint32_t CountFrames(std::int64_t durationUs, const NLERational& rate)
     return std::uint32_t(std::clamp<std::int64_t>(count, 0, INT32_MAX));
 }
 
-// The frame after the last picture that the packets at the end of the index hold; 0 where there is
-// no index of the whole file or its end cannot be read. Parts that an edit list cuts away do not
-// count.
+// The frame after those of the last picture that the packets at the end of the index hold; 0 where
+// there is no index of the whole file or its end cannot be read. Parts that an edit list cuts away
+// do not count.
 std::uint32_t FindEnd(MediaFile& file, const AVStream* stream, const MediaStream& description)
 {
     AVFormatContext* const context = file.Context();
@@ -310,6 +279,7 @@ std::uint32_t FindEnd(MediaFile& file, const AVStream* stream, const MediaStream
     for (unsigned i = 0; i < context->nb_streams; ++i)
         context->streams[i]->discard = int(i) == stream->index ? AVDISCARD_DEFAULT : AVDISCARD_ALL;
     const AVRational frame{int(description.frameRate.den), int(description.frameRate.num)};
+    const bool hasHoles = HasHoles(stream, av_inv_q(frame));
     const PacketPtr packet(av_packet_alloc());
     std::int64_t end = 0;
     int packets = 0;
@@ -321,7 +291,9 @@ std::uint32_t FindEnd(MediaFile& file, const AVStream* stream, const MediaStream
                              (packet->flags & (AV_PKT_FLAG_DISCARD | AV_PKT_FLAG_CORRUPT)) == 0;
         if (isShown) {
             const std::int64_t ticks = packet->pts - description.startTicks;
-            end = std::max(end, av_rescale_q(ticks, stream->time_base, frame) + 1);
+            const std::int64_t hold = av_rescale_q(packet->duration, stream->time_base, frame);
+            end = std::max(end, av_rescale_q(ticks, stream->time_base, frame) +
+                                    (hasHoles ? std::max<std::int64_t>(1, hold) : 1));
         }
         av_packet_unref(packet.get());
     }
@@ -336,9 +308,50 @@ std::uint32_t CountFrames(MediaFile& file, const AVStream* stream, const MediaSt
     const std::int64_t known = stream->nb_frames;
     const bool isUsable = known > 0 && std::abs(known - std::int64_t(expected)) <= 1;
     const std::uint32_t count = isUsable || expected == 0 ? std::uint32_t(known) : expected;
-    // A copied part ends where the sound does, maybe amid a frame that has no picture.
-    const std::uint32_t end = description.constantRate ? FindEnd(file, stream, description) : 0;
-    return end > 0 ? std::min(count, end) : count;
+    const std::uint32_t end = FindEnd(file, stream, description);
+    if (end == 0)
+        return count;
+    // A duration counts from the first time of decoding: where pictures come out of order, the last
+    // ones stand behind it by what the decoder holds back. A copied part ends where the sound does,
+    // maybe amid a frame that has no picture.
+    const AVRational rate{int(description.frameRate.num), int(description.frameRate.den)};
+    return HasHoles(stream, rate) ? end : std::min(count, end);
+}
+
+// The times of the pictures: of all of them where there is an index, else of the first ones. An
+// index holds times of decoding, which lie on the same grid.
+std::vector<std::int64_t> PictureTimes(MediaFile& file, AVStream* stream, bool* areAll)
+{
+    std::vector<std::int64_t> times;
+    *areAll = true;
+    const int entries = avformat_index_get_entries_count(stream);
+    if (file.IsFormat("mp4") && entries > 0 && entries >= stream->nb_frames) {
+        for (int entry = 0; entry < entries; ++entry)
+            times.push_back(avformat_index_get_entry(stream, entry)->timestamp);
+        return times;
+    }
+    av_seek_frame(file.Context(), -1, 0, AVSEEK_FLAG_BACKWARD);
+    const PacketPtr packet(av_packet_alloc());
+    file.LimitTime();
+    while (times.size() < kMaxPicturesRead && av_read_frame(file.Context(), packet.get()) >= 0) {
+        if (packet->stream_index == stream->index && packet->pts != AV_NOPTS_VALUE)
+            times.push_back(packet->pts);
+        av_packet_unref(packet.get());
+    }
+    *areAll = times.size() < kMaxPicturesRead;
+    return times;
+}
+
+// A mean rate, or that of the first pictures, would lose pictures where they come closer together.
+void ExamineRate(MediaFile& file, AVStream* stream, MediaStream* description)
+{
+    if (!IsDoubtful(stream, DeclaredGrid(stream)))
+        return;
+    bool areAll = false;
+    const std::vector<std::int64_t> times = PictureTimes(file, stream, &areAll);
+    const FrameGrid grid = FindGrid(stream, times);
+    description->frameRate = {grid.rate.num, grid.rate.den};
+    description->constantRate = grid.isConstant && areAll;
 }
 
 void MakeStill(MediaInfo* info)
@@ -358,8 +371,10 @@ void MakeVideo(MediaFile& file, MediaInfo* info)
     const AVFormatContext* const context = file.Context();
     for (unsigned i = 0; i < context->nb_streams; ++i) {
         MediaStream& stream = info->streams[i];
-        if (stream.type == NLEStream_Video)
-            stream.frameCount = CountFrames(file, context->streams[i], stream);
+        if (stream.type != NLEStream_Video)
+            continue;
+        ExamineRate(file, context->streams[i], &stream);
+        stream.frameCount = CountFrames(file, context->streams[i], stream);
     }
     const MediaStream& stream = info->streams[size_t(info->videoStream)];
     const AVStream* const source = context->streams[info->videoStream];
