@@ -215,22 +215,38 @@ MediaStream Describe(const MediaFile& file, const AVStream* stream, const QStrin
     return result;
 }
 
-// Recordings that were never finished say nothing about their length; reading them through does.
+// Recordings that were never finished say nothing about their length, or, as an AVI whose head
+// could not be written anew, a placeholder that disagrees with itself.
+bool TellsLength(const MediaFile& file, int index, const MediaStream& description)
+{
+    const AVStream* const stream = file.Context()->streams[index];
+    const bool isContradicted = file.IsFormat("avi") && description.type == NLEStream_Video &&
+                                std::abs(stream->nb_frames - stream->duration) > 1;
+    return description.durationUs > 0 && !isContradicted;
+}
+
+// Reads the file through. Where that takes too long, the rest is taken to be like what was read.
 void MeasureStream(MediaFile& file, int index, MediaStream* stream)
 {
     AVFormatContext* const context = file.Context();
     const AVStream* const source = context->streams[index];
     const PacketPtr packet(av_packet_alloc());
     std::int64_t end = stream->startTicks;
+    int result = 0;
     file.LimitTime();
-    while (av_read_frame(context, packet.get()) >= 0) {
+    while ((result = av_read_frame(context, packet.get())) >= 0) {
         // Without times in the file the pictures follow each other.
         const std::int64_t time = packet->pts != AV_NOPTS_VALUE ? packet->pts : end;
         if (packet->stream_index == index)
             end = std::max(end, time + packet->duration);
         av_packet_unref(packet.get());
     }
-    stream->durationUs = av_rescale_q(end - stream->startTicks, source->time_base, Microseconds);
+    std::int64_t length = end - stream->startTicks;
+    const std::int64_t position = avio_tell(context->pb);
+    const bool isCutShort = result == AVERROR_EXIT || context->pb->error == AVERROR_EXIT;
+    if (isCutShort && position > 0)
+        length = av_rescale(length, avio_size(context->pb), position);
+    stream->durationUs = av_rescale_q(length, source->time_base, Microseconds);
 }
 
 // The stream that a player would choose: marked as default, then the largest, then the first.
@@ -423,7 +439,7 @@ std::shared_ptr<const MediaInfo> ProbeMedia(const QString& path, QString* error)
 
     const bool isMoving = !IsStillFormat(context) && !HoldsOnePicture(*file);
     const int main = info->videoStream >= 0 ? info->videoStream : info->audioStream;
-    if (isMoving && info->streams[size_t(main)].durationUs <= 0)
+    if (isMoving && !TellsLength(*file, main, info->streams[size_t(main)]))
         MeasureStream(*file, main, &info->streams[size_t(main)]);
 
     if (info->videoStream < 0)
