@@ -78,7 +78,13 @@ Orientation ReadExifOrientation(const QString& path)
 bool IsStillFormat(const AVFormatContext* context)
 {
     const QLatin1String name(context->iformat->name);
-    return name.endsWith(QLatin1String("_pipe")) || name == QLatin1String("image2");
+    if (name.endsWith(QLatin1String("_pipe")) || name == QLatin1String("image2"))
+        return true;
+    // The containers of films hold stills as well, under brands of their own.
+    const AVDictionaryEntry* const brand =
+        av_dict_get(context->metadata, "major_brand", nullptr, 0);
+    return brand != nullptr &&
+           QByteArrayList{"avif", "heic", "heix", "mif1"}.contains(brand->value);
 }
 
 // A moving-picture format for web pages that often holds a single picture.
