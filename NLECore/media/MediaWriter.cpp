@@ -26,6 +26,9 @@ namespace {
 /// Samples in a packet of codecs that take any number.
 constexpr int kFreeFrameSamples = 1024;
 
+/// Lines from which on pictures are coded by ITU-R BT.709, as high definition is.
+constexpr int kModernHeight = 720;
+
 /// Bytes that a muxer gathers before they are written.
 constexpr int kBufferBytes = 1 << 16;
 
@@ -86,11 +89,65 @@ int RefuseFile(AVFormatContext* /*format*/, AVIOContext** /*file*/, const char* 
     return AVERROR(EPERM);
 }
 
-/// Whether pictures of the container are a film, and not the cover of what sounds.
-bool TakesFilm(const AVOutputFormat& container)
+/// What a container is written with; None for what it does not hold.
+struct Codecs
 {
-    return container.video_codec != AV_CODEC_ID_NONE &&
-           !(container.video_codec == AV_CODEC_ID_PNG && container.audio_codec != AV_CODEC_ID_NONE);
+    AVCodecID video;
+    AVCodecID audio;
+};
+
+/// Containers whose muxer would choose an older codec than what reads them today knows.
+struct BetterCodecs
+{
+    const char* container;
+    Codecs codecs;
+};
+constexpr BetterCodecs kBetterCodecs[] = {
+    {"3g2", {AV_CODEC_ID_H264, AV_CODEC_ID_AAC}},
+    {"3gp", {AV_CODEC_ID_H264, AV_CODEC_ID_AAC}},
+    {"asf", {AV_CODEC_ID_WMV2, AV_CODEC_ID_WMAV2}},
+    {"flv", {AV_CODEC_ID_H264, AV_CODEC_ID_AAC}},
+    {"matroska", {AV_CODEC_ID_H264, AV_CODEC_ID_AAC}},
+    {"mpeg", {AV_CODEC_ID_MPEG2VIDEO, AV_CODEC_ID_MP2}},
+    {"mpegts", {AV_CODEC_ID_H264, AV_CODEC_ID_AAC}},
+};
+
+/// Suffixes that promise sound alone where the container could hold more.
+constexpr const char* kSoundSuffixes[] = {"m4a", "m4b", "wma"};
+
+Codecs CodecsFor(const AVOutputFormat& container, const QString& path)
+{
+    Codecs codecs = {container.video_codec, container.audio_codec};
+    const bool holdsFilm = codecs.video != AV_CODEC_ID_NONE;
+    for (const BetterCodecs& better : kBetterCodecs) {
+        if (holdsFilm && qstrcmp(better.container, container.name) == 0)
+            codecs = better.codecs;
+    }
+    const QString suffix = QFileInfo(path).suffix();
+    for (const char* sound : kSoundSuffixes) {
+        if (suffix.compare(QLatin1String(sound), Qt::CaseInsensitive) == 0)
+            codecs.video = AV_CODEC_ID_NONE;
+    }
+    // That is the cover of what sounds.
+    if (codecs.video == AV_CODEC_ID_PNG && codecs.audio != AV_CODEC_ID_NONE)
+        codecs.video = AV_CODEC_ID_NONE;
+    return codecs;
+}
+
+/// Whether the codec's data says by which matrix its colours were coded.
+bool TellsColours(AVCodecID id)
+{
+    switch (id) {
+    case AV_CODEC_ID_AV1:
+    case AV_CODEC_ID_H264:
+    case AV_CODEC_ID_HEVC:
+    case AV_CODEC_ID_MPEG2VIDEO:
+    case AV_CODEC_ID_PRORES:
+    case AV_CODEC_ID_VP9:
+        return true;
+    default:
+        return false;
+    }
 }
 
 /// What a trial writes: enough for a reader to know the container by.
@@ -287,9 +344,9 @@ struct MediaWriter::Private
         return Check(avcodec_parameters_from_context(track.stream->codecpar, track.codec.get()));
     }
 
-    bool AddVideo()
+    bool AddVideo(AVCodecID id)
     {
-        if (!AddTrack(video, format->oformat->video_codec))
+        if (!AddTrack(video, id))
             return false;
         AVCodecContext* codec = video.codec.get();
         codec->width = settings.size.width();
@@ -300,9 +357,11 @@ struct MediaWriter::Private
         codec->time_base = av_inv_q(codec->framerate);
         codec->pix_fmt = codec->codec->pix_fmts ? codec->codec->pix_fmts[0] : AV_PIX_FMT_YUV420P;
         codec->color_range = AVCOL_RANGE_MPEG;
-        codec->colorspace = AVCOL_SPC_BT709;
-        codec->color_primaries = AVCOL_PRI_BT709;
-        codec->color_trc = AVCOL_TRC_BT709;
+        // Where nothing is told, players take small pictures for those of older television.
+        const bool isModern = TellsColours(id) || codec->height >= kModernHeight;
+        codec->colorspace = isModern ? AVCOL_SPC_BT709 : AVCOL_SPC_SMPTE170M;
+        codec->color_primaries = isModern ? AVCOL_PRI_BT709 : AVCOL_PRI_SMPTE170M;
+        codec->color_trc = isModern ? AVCOL_TRC_BT709 : AVCOL_TRC_SMPTE170M;
         if (av_opt_set_double(codec->priv_data, "crf", settings.quality, 0) < 0) {
             codec->flags |= AV_CODEC_FLAG_QSCALE;
             codec->global_quality = settings.quality * FF_QP2LAMBDA;
@@ -322,14 +381,14 @@ struct MediaWriter::Private
                                     nullptr));
         if (!scaler)
             return Fail("no conversion to the codec's pixels");
-        const int* matrix = sws_getCoefficients(SWS_CS_ITU709);
+        const int* matrix = sws_getCoefficients(isModern ? SWS_CS_ITU709 : SWS_CS_ITU601);
         sws_setColorspaceDetails(scaler.get(), matrix, 1, matrix, 0, 0, 1 << 16, 1 << 16);
         return true;
     }
 
-    bool AddAudio()
+    bool AddAudio(AVCodecID id)
     {
-        if (!AddTrack(audio, format->oformat->audio_codec))
+        if (!AddTrack(audio, id))
             return false;
         AVCodecContext* codec = audio.codec.get();
         codec->sample_rate = settings.sampleRate;
@@ -360,9 +419,12 @@ struct MediaWriter::Private
             return Fail(WriterError::Kind::File, file.errorString());
         if (!OpenFormat(container))
             return false;
-        if (!settings.size.isEmpty() && TakesFilm(*container) && !AddVideo())
+        const Codecs codecs = CodecsFor(*container, file.fileName());
+        const bool writesFilm = !settings.size.isEmpty() && codecs.video != AV_CODEC_ID_NONE;
+        if (writesFilm && !AddVideo(codecs.video))
             return false;
-        if (settings.hasSound && container->audio_codec != AV_CODEC_ID_NONE && !AddAudio())
+        const bool writesSound = settings.hasSound && codecs.audio != AV_CODEC_ID_NONE;
+        if (writesSound && !AddAudio(codecs.audio))
             return false;
         if (format->nb_streams == 0)
             return Fail("nothing to write into this container");
