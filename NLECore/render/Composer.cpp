@@ -229,7 +229,7 @@ QImage Composer::Content(const Layer& layer, std::int64_t frame, const QSize& si
 
 FrameDecoder* Composer::DecoderOf(const Layer& layer, std::int64_t frame, int* wanted)
 {
-    const std::shared_ptr<const MediaInfo>& media = layer.proxy ? layer.proxy : layer.media;
+    const std::shared_ptr<const MediaInfo>& media = layer.ShownMedia();
     if (!media->Stream(media->videoStream))
         return nullptr;
     // A frozen clip names a frame of its material, which plays at normal speed.
@@ -261,7 +261,7 @@ const Layer* Composer::PlainBottom(const Layer& composite, std::int64_t frame,
     if (bottom == composite.children.end() || (*bottom)->kind != LayerKind::Media)
         return nullptr;
     const Layer& layer = **bottom;
-    const MediaInfo& media = layer.proxy ? *layer.proxy : *layer.media;
+    const MediaInfo& media = *layer.ShownMedia();
     const MediaStream* stream = media.Stream(media.videoStream);
     const Placing placing = PlaceLayer(layer, nullptr, composite.size, size);
     const bool isPlain = stream && !stream->hasAlpha && !layer.keyFrames &&

@@ -74,6 +74,8 @@ struct Layer
     }
     /// The layer's own frame, counted as its trim range is, at \a frame of its parent.
     std::int64_t FrameAt(std::int64_t frame) const { return frame - position + range.in; }
+    /// Media only: the one of media and proxy that pictures are read from.
+    const std::shared_ptr<const MediaInfo>& ShownMedia() const { return proxy ? proxy : media; }
 };
 
 /// Which of a layer's fields its own picture depends on. The others say where and when it shows,

@@ -11,22 +11,13 @@
 
 namespace nle {
 
-namespace {
-
-const std::shared_ptr<const MediaInfo>& ShownMedia(const Layer& layer)
-{
-    return layer.proxy ? layer.proxy : layer.media;
-}
-
-} // namespace
-
 bool HasPicture(const Layer& layer)
 {
     if (layer.mode == NLERender_AudioOnly || NLERangeLength(layer.range) == 0)
         return false;
     switch (layer.kind) {
     case LayerKind::Media:
-        return ShownMedia(layer)->videoStream >= 0;
+        return layer.ShownMedia()->videoStream >= 0;
     case LayerKind::Composite:
         return layer.argb >> 24 != 0 ||
                std::any_of(layer.children.begin(), layer.children.end(),
@@ -60,7 +51,7 @@ template <typename Value>
 void LayerKeys::AddField(ContentHash& hash, const Layer& layer, const Value& value)
 {
     if constexpr (std::is_same_v<Value, std::shared_ptr<const MediaInfo>>) {
-        if (value && &value == &ShownMedia(layer))
+        if (value && &value == &layer.ShownMedia())
             hash.Add(OfMedia(*value));
     } else {
         AddValue(hash, value);
