@@ -117,23 +117,14 @@ void AddChanged(const Settings& settings, const QDir& folder, DocumentTexts& tex
     }
 }
 
-/// Takes values of fields from the texts of properties, one behind the other.
+/// Takes values of fields from a text, one behind the other.
 class FromText
 {
 public:
-    FromText(const QHash<QString, QString>& properties, const FindMedia& media)
-        : m_properties(properties), m_media(media)
+    /// Without \a media, which outlives the object, for texts that name no files.
+    explicit FromText(const QString& text, const FindMedia* media = nullptr)
+        : m_media(media), m_text(text), m_parts(text.split(QLatin1Char(' '), Qt::SkipEmptyParts))
     {
-    }
-
-    /// The next values come from the property \a name.
-    void Open(const QString& name)
-    {
-        if (m_name == name)
-            return;
-        m_name = name;
-        m_text = m_properties.value(name);
-        m_parts = m_text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     }
 
     // Each is false, and gives nothing, when there is no such value.
@@ -196,29 +187,46 @@ public:
     }
     bool Take(std::shared_ptr<const MediaInfo>& media)
     {
-        if (!m_text.isEmpty())
-            media = m_media(m_text);
+        if (m_media && !m_text.isEmpty())
+            media = (*m_media)(m_text);
         return media != nullptr;
     }
 
 private:
-    const QHash<QString, QString>& m_properties;
-    const FindMedia& m_media;
-    QString m_name;
+    const FindMedia* m_media;
     QString m_text;
     QStringList m_parts; ///< what is left of the text
 };
 
-template <typename Settings>
-void ReadFields(FromText& texts, Settings& settings)
+template <typename Settings, typename Field>
+void ReadField(FromText& text, const Field& field, Settings& settings)
 {
-    auto name = PropertyNames<Settings>().begin();
+    auto value = settings.*field.member;
+    if (text.Take(value) && IsWithin(value, field.lowest, field.highest))
+        settings.*field.member = std::move(value);
+}
+
+template <typename Settings>
+void ReadSettings(const QHash<QString, QString>& properties, const FindMedia& media,
+                  Settings& settings)
+{
+    const std::vector<QString>& names = PropertyNames<Settings>();
+    auto name = names.begin();
+    std::optional<FromText> text;
     ForEachField<Settings>([&](const auto& field) {
-        texts.Open(*name++);
-        auto value = settings.*field.member;
-        if (texts.Take(value) && IsWithin(value, field.lowest, field.highest))
-            settings.*field.member = std::move(value);
+        if (name == names.begin() || *name != *std::prev(name))
+            text.emplace(properties.value(*name), &media);
+        ReadField(*text, field, settings);
+        ++name;
     });
+}
+
+/// A record stands in one text.
+template <typename Record>
+void ReadRecord(const QString& text, Record& record)
+{
+    FromText values(text);
+    ForEachField<Record>([&](const auto& field) { ReadField(values, field, record); });
 }
 
 // ---- Lists of records: a text for each, behind a head
@@ -238,25 +246,16 @@ QString KeyFrameText(const KeyFrameFacet& keyFrames)
 
 void ReadKeyFrames(const QString& text, KeyFrameFacet& keyFrames)
 {
-    const QString name = PropertyNames<NLEKeyFrameRecord>().front();
-    const QStringList parts = text.split(QLatin1Char(';'), Qt::SkipEmptyParts);
-    KeyFrameCurve curve;
+    QStringList parts = text.split(QLatin1Char(';'), Qt::SkipEmptyParts);
     std::array<double, 3> head = {};
+    if (parts.isEmpty() || !FromText(parts.takeFirst()).Take(head))
+        return;
+    KeyFrameCurve curve;
     for (const QString& part : parts) {
-        const QHash<QString, QString> record = {{name, part}};
-        FromText texts(record, {});
-        if (&part == &parts.front()) {
-            texts.Open(name);
-            if (!texts.Take(head))
-                return;
-            continue;
-        }
         NLEKeyFrameRecord frame = kPlainKeyFrame;
-        ReadFields(texts, frame);
+        ReadRecord(part, frame);
         curve.frames.push_back(frame);
     }
-    if (parts.isEmpty())
-        return;
     if (IsFinite(head[1]) && IsFinite(head[2]))
         curve.axis = {head[1], head[2]};
     keyFrames.enabled = head[0] != 0;
@@ -269,10 +268,8 @@ void ReadMixer(const QHash<QString, QString>& properties, MixerSettings& mixer)
     for (auto property = properties.begin(); property != properties.end(); ++property) {
         if (!property.key().startsWith(prefix))
             continue;
-        const QHash<QString, QString> texts = {{prefix, property.value()}};
-        FromText reader(texts, {});
         tagMixerParam strip = kNeutralStrip;
-        ReadFields(reader, strip);
+        ReadRecord(property.value(), strip);
         mixer[property.key().mid(prefix.size()).toInt()] = strip;
     }
 }
@@ -313,12 +310,11 @@ QStringList MediaInSettings(const QHash<QString, QString>& properties)
 void SettingsFromText(const QHash<QString, QString>& properties, const FindMedia& media,
                       TimelineNode& node)
 {
-    FromText texts(properties, media);
-    ReadFields(texts, node.Placement());
-    ReadFields(texts, node.Blend().settings);
-    ReadFields(texts, node.Transform().settings);
-    ReadFields(texts, node.Audio().settings);
-    ReadFields(texts, node.Video().settings);
+    ReadSettings(properties, media, node.Placement());
+    ReadSettings(properties, media, node.Blend().settings);
+    ReadSettings(properties, media, node.Transform().settings);
+    ReadSettings(properties, media, node.Audio().settings);
+    ReadSettings(properties, media, node.Video().settings);
     ReadKeyFrames(properties.value(PropertyNames<NLEKeyFrameRecord>().front()), node.KeyFrames());
     ReadMixer(properties, node.Mixer().settings);
 }
