@@ -130,7 +130,8 @@ void DocumentWriter::WriteMedia(const MediaClip& clip)
     Property(QStringLiteral("mlt_service"),
              still ? QStringLiteral("qimage") : QStringLiteral("avformat"));
     Property(QStringLiteral("resource"), DocumentPath(clip.Media().path, m_folder));
-    Number(kDecoder, clip.GpuFirst(), 0);
+    if (clip.GpuFirst() != 0)
+        Property(kDecoder, QString::number(clip.GpuFirst()));
 }
 
 void DocumentWriter::WriteCommon(const TimelineNode& node, QLatin1String kind, int order)
@@ -303,12 +304,6 @@ void DocumentWriter::EntryOf(const QString& producer, const NLERange& range)
     m_xml.writeAttribute(QStringLiteral("producer"), producer);
     m_xml.writeAttribute(QStringLiteral("in"), QString::number(range.in));
     m_xml.writeAttribute(QStringLiteral("out"), QString::number(range.out));
-}
-
-void DocumentWriter::Number(QLatin1String name, int value, int preset)
-{
-    if (value != preset)
-        Property(name, QString::number(value));
 }
 
 void DocumentWriter::Property(const QString& name, const QString& value)

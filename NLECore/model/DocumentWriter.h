@@ -39,8 +39,6 @@ private:
     void WriteProfile(const TimelineNode& root);
     void WriteCommon(const TimelineNode& node, QLatin1String kind, int order);
     void WriteMedia(const MediaClip& clip);
-    /// A property that readers take for \a preset when it is missing.
-    void Number(QLatin1String name, int value, int preset);
     void Property(const QString& name, const QString& value);
     void EntryOf(const QString& producer, const NLERange& range);
     QString NewId(const char* prefix);
