@@ -8,6 +8,28 @@
 
 namespace nle {
 
+namespace {
+
+/// A value as \a Wanted, if it is one. Numbers stand for one another: as a whole one, what fits,
+/// without its fraction.
+template <typename Wanted>
+std::optional<Wanted> ValueAs(const PropertyBag::Value& value)
+{
+    if (const Wanted* exact = std::get_if<Wanted>(&value))
+        return *exact;
+    if constexpr (std::is_same_v<Wanted, int>) {
+        const double* number = std::get_if<double>(&value);
+        if (number && std::abs(*number) < 2147483648.0)
+            return int(*number);
+    } else if constexpr (std::is_same_v<Wanted, double>) {
+        if (const int* whole = std::get_if<int>(&value))
+            return *whole;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
 HRESULT CopyText(const std::wstring& text, wchar_t* buffer, int capacity)
 {
     if (!buffer)
@@ -41,54 +63,17 @@ HRESULT PropertyBag::QueryInterface(REFIID iid, void** out)
 
 HRESULT PropertyBag::GetInt(const wchar_t* key, int* value)
 {
-    return ComGuard([&] {
-        if (!value)
-            return E_POINTER;
-        const auto found = Find(key);
-        if (!found)
-            return E_FAIL;
-        if (const int* number = std::get_if<int>(&*found)) {
-            *value = *number;
-            return S_OK;
-        }
-        const double* number = std::get_if<double>(&*found);
-        if (!number || !(std::abs(*number) < 2147483648.0))
-            return E_FAIL;
-        *value = int(*number);
-        return S_OK;
-    });
+    return Give(key, value);
 }
 
 HRESULT PropertyBag::GetDouble(const wchar_t* key, double* value)
 {
-    return ComGuard([&] {
-        if (!value)
-            return E_POINTER;
-        const auto found = Find(key);
-        if (!found)
-            return E_FAIL;
-        if (const double* number = std::get_if<double>(&*found))
-            *value = *number;
-        else if (const int* whole = std::get_if<int>(&*found))
-            *value = *whole;
-        else
-            return E_FAIL;
-        return S_OK;
-    });
+    return Give(key, value);
 }
 
 HRESULT PropertyBag::GetRational(const wchar_t* key, NLERational* value)
 {
-    return ComGuard([&] {
-        if (!value)
-            return E_POINTER;
-        const auto found = Find(key);
-        const NLERational* rational = found ? std::get_if<NLERational>(&*found) : nullptr;
-        if (!rational)
-            return E_FAIL;
-        *value = *rational;
-        return S_OK;
-    });
+    return Give(key, value);
 }
 
 HRESULT PropertyBag::GetString(const wchar_t* key, wchar_t* buffer, int capacity)
@@ -126,6 +111,18 @@ HRESULT PropertyBag::Write(const std::wstring& key, Value value)
 {
     m_values[key] = std::move(value);
     return S_OK;
+}
+
+template <typename Wanted>
+HRESULT PropertyBag::Give(const wchar_t* key, Wanted* value) const
+{
+    return ComGuard([&] {
+        if (!value)
+            return E_POINTER;
+        const auto found = Find(key);
+        const auto wanted = found ? ValueAs<Wanted>(*found) : std::nullopt;
+        return wanted ? GiveValue(value, *wanted) : E_FAIL;
+    });
 }
 
 HRESULT PropertyBag::Store(const wchar_t* key, Value value)

@@ -55,6 +55,8 @@ protected:
     virtual HRESULT Write(const std::wstring& key, Value value);
 
 private:
+    template <typename Wanted>
+    HRESULT Give(const wchar_t* key, Wanted* value) const;
     HRESULT Store(const wchar_t* key, Value value);
     std::optional<Value> Find(const wchar_t* key) const;
 
