@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "Com/ComGuard.h"
 #include "Com/NLEComPtr.h"
 
 #include <atomic>
@@ -97,4 +98,18 @@ NLEComPtr<Class> MakeCom(Arguments&&... arguments)
     NLEComPtr<Class> object;
     object.attach(new Class(std::forward<Arguments>(arguments)...));
     return object;
+}
+
+/// Makes a component object for a caller, under ComGuard: \a out receives its first reference, or
+/// null on failure. E_POINTER for null.
+template <typename Class, typename Interface, typename... Arguments>
+HRESULT GiveNew(Interface** out, Arguments&&... arguments) noexcept
+{
+    if (!out)
+        return E_POINTER;
+    *out = nullptr;
+    return ComGuard([&] {
+        *out = MakeCom<Class>(std::forward<Arguments>(arguments)...).detach();
+        return S_OK;
+    });
 }

@@ -87,16 +87,6 @@ private:
     size_t m_index = 0;
 };
 
-HRESULT GiveEnumerator(std::vector<NLEComPtr<TimelineNode>> clips,
-                       INLETimelineEnumerator** enumerator)
-{
-    if (!enumerator)
-        return E_POINTER;
-    *enumerator = nullptr;
-    *enumerator = MakeCom<Enumerator>(std::move(clips)).detach();
-    return S_OK;
-}
-
 void AppendRecursively(const CompositeNode& from, std::vector<NLEComPtr<TimelineNode>>& to)
 {
     for (const NLEComPtr<TimelineNode>& clip : from.Clips()) {
@@ -149,7 +139,7 @@ HRESULT CompositeNode::GetClipCount(int* count)
 
 HRESULT CompositeNode::GetEnumerator(int /*flags*/, INLETimelineEnumerator** enumerator)
 {
-    return ComGuard([&] { return GiveEnumerator(m_clips, enumerator); });
+    return GiveNew<Enumerator>(enumerator, m_clips);
 }
 
 HRESULT CompositeNode::GetEnumerator(int recursive, int /*flags*/,
@@ -161,7 +151,7 @@ HRESULT CompositeNode::GetEnumerator(int recursive, int /*flags*/,
             AppendRecursively(*this, clips);
         else
             clips = m_clips;
-        return GiveEnumerator(std::move(clips), enumerator);
+        return GiveNew<Enumerator>(enumerator, std::move(clips));
     });
 }
 

@@ -132,12 +132,7 @@ HRESULT MediaInfoObject::GetFilePath(wchar_t* buffer, int capacity)
 
 HRESULT CodecObject::GetMediaInfo(INLEMediaInfo** info)
 {
-    return ComGuard([&] {
-        if (!info)
-            return E_POINTER;
-        *info = MakeCom<MediaInfoObject>(m_media).detach();
-        return S_OK;
-    });
+    return GiveNew<MediaInfoObject>(info, m_media);
 }
 
 HRESULT CodecObject::GetContainerName(wchar_t* buffer, int capacity)

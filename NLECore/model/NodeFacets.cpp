@@ -201,12 +201,7 @@ HRESULT AudioFacet::GetMute(bool* mute)
 
 HRESULT AudioFacet::GetVolumeKeyFrameParam(INLEKeyFrameParam** param)
 {
-    return ComGuard([&] {
-        if (!param)
-            return E_POINTER;
-        *param = MakeCom<VolumeCurve>(*this).detach();
-        return S_OK;
-    });
+    return GiveNew<VolumeCurve>(param, *this);
 }
 
 HRESULT AudioFacet::SetVolume(double volume)

@@ -65,12 +65,7 @@ HRESULT MediaClip::SetFilePath(const wchar_t* path)
 
 HRESULT MediaClip::GetMediaInfo(INLEMediaInfo** info)
 {
-    return ComGuard([&] {
-        if (!info)
-            return E_POINTER;
-        *info = MakeCom<MediaInfoObject>(m_media).detach();
-        return S_OK;
-    });
+    return GiveNew<MediaInfoObject>(info, m_media);
 }
 
 HRESULT MediaClip::GetVideoStreamIndex(std::uint32_t* index)

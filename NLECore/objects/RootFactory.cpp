@@ -25,18 +25,6 @@ constexpr int kLongestSide = 16384;
 /// Most samples of an audio frame: ten minutes.
 constexpr int kMostSamples = 600 * AudioFrame::kSampleRate;
 
-template <typename Class, typename Interface, typename... Arguments>
-HRESULT Make(Interface** out, Arguments&&... arguments)
-{
-    return ComGuard([&] {
-        if (!out)
-            return E_POINTER;
-        *out = nullptr;
-        *out = MakeCom<Class>(std::forward<Arguments>(arguments)...).detach();
-        return S_OK;
-    });
-}
-
 template <typename Interface>
 HRESULT Refuse(Interface** out, HRESULT reason = E_NOTIMPL)
 {
@@ -65,12 +53,12 @@ HRESULT RootFactory::Init(int /*flags*/)
 
 HRESULT RootFactory::GetTimelineFactory(INLETimelineFactory** factory)
 {
-    return Make<TimelineFactory>(factory);
+    return GiveNew<TimelineFactory>(factory);
 }
 
 HRESULT RootFactory::GetFontLibrary(INLEFontLibrary** library)
 {
-    return Make<FontLibrary>(library);
+    return GiveNew<FontLibrary>(library);
 }
 
 HRESULT RootFactory::GetSystemConfig(INLESystemConfig** config)
@@ -86,21 +74,21 @@ HRESULT RootFactory::CreateVideoFrame(int width, int height, int /*pixelFormat*/
         return Refuse(frame);
     if (width < 1 || height < 1 || width > kLongestSide || height > kLongestSide)
         return Refuse(frame, E_INVALIDARG);
-    return Make<VideoFrame>(frame, NLESize{width, height});
+    return GiveNew<VideoFrame>(frame, NLESize{width, height});
 }
 
 HRESULT RootFactory::CreateAudioFrame(int sampleCount, INLEAudioFrame** frame)
 {
     if (sampleCount < 1 || sampleCount > kMostSamples)
         return Refuse(frame, E_INVALIDARG);
-    return Make<AudioFrame>(frame, sampleCount);
+    return GiveNew<AudioFrame>(frame, sampleCount);
 }
 
 HRESULT RootFactory::CreateCodecFromFile(const wchar_t* path, INLECodec** codec)
 {
     return ComGuard([&] {
         const auto media = path ? DescribeFile(QString::fromWCharArray(path)) : nullptr;
-        return media ? Make<CodecObject>(codec, media) : Refuse(codec, E_FAIL);
+        return media ? GiveNew<CodecObject>(codec, media) : Refuse(codec, E_FAIL);
     });
 }
 
@@ -111,22 +99,22 @@ HRESULT RootFactory::CreateMarkBook(const wchar_t* /*path*/, INLEMarkBook** book
 
 HRESULT RootFactory::CreateDocumentSerialize(INLEDocumentSerialize** serialize)
 {
-    return Make<DocumentSerialize>(serialize);
+    return GiveNew<DocumentSerialize>(serialize);
 }
 
 HRESULT RootFactory::CreateFrameExtractor(INLEFrameExtractor** extractor)
 {
-    return Make<FrameExtractor>(extractor);
+    return GiveNew<FrameExtractor>(extractor);
 }
 
 HRESULT RootFactory::CreateThumbnailExtractor(INLEThumbnailExtractor** extractor)
 {
-    return Make<ThumbnailExtractor>(extractor);
+    return GiveNew<ThumbnailExtractor>(extractor);
 }
 
 HRESULT RootFactory::CreateWaveExtractor(INLEWaveExtractor** extractor)
 {
-    return Make<WaveExtractor>(extractor);
+    return GiveNew<WaveExtractor>(extractor);
 }
 
 HRESULT RootFactory::CreateSceneSegment(INLESceneSegment** segment)
@@ -136,12 +124,12 @@ HRESULT RootFactory::CreateSceneSegment(INLESceneSegment** segment)
 
 HRESULT RootFactory::CreateMediaEncoder(INLEMediaEncoder** encoder)
 {
-    return Make<MediaEncoder>(encoder);
+    return GiveNew<MediaEncoder>(encoder);
 }
 
 HRESULT RootFactory::CreateProperties(INLEProperties** properties)
 {
-    return Make<PropertyBag>(properties);
+    return GiveNew<PropertyBag>(properties);
 }
 
 HRESULT RootFactory::Shutdown(int /*flags*/)

@@ -20,13 +20,6 @@ const QString kTemplateDocument = QStringLiteral("Template.mlt");
 /// Frames a second beyond which nothing is counted.
 constexpr float kHighestRate = 1e6F;
 
-template <typename Node>
-HRESULT Give(NLEComPtr<Node> node, INLETimeline** out)
-{
-    *out = node.detach();
-    return S_OK;
-}
-
 } // namespace
 
 HRESULT TimelineFactory::GetDefaultProfile(tagNLEProjectProfile* profile)
@@ -42,7 +35,7 @@ HRESULT TimelineFactory::CreateProject(const tagNLEProjectProfile* profile, INLE
         *project = nullptr;
         if (!ProjectNode::IsValid(*profile))
             return E_INVALIDARG;
-        return Give(MakeCom<ProjectNode>(*profile), project);
+        return GiveNew<ProjectNode>(project, *profile);
     });
 }
 
@@ -56,7 +49,7 @@ HRESULT TimelineFactory::CreateMedia(const wchar_t* path, INLETimeline** clip)
         if (file.isEmpty())
             return E_INVALIDARG;
         const auto media = QFileInfo::exists(file) ? DescribeFile(file) : OfflineMedia(file);
-        return media ? Give(MakeCom<MediaClip>(media), clip) : E_FAIL;
+        return media ? GiveNew<MediaClip>(clip, media) : E_FAIL;
     });
 }
 
@@ -89,7 +82,7 @@ HRESULT TimelineFactory::CreateColor(std::uint32_t argb, NLESize size, float fra
         const NLERational rate = NLECommon::RateToRational(frameRate);
         if (size.width < 1 || size.height < 1 || !IsRate(rate) || frameRate > kHighestRate)
             return E_INVALIDARG;
-        return Give(MakeCom<ColorClip>(argb, size, rate), clip);
+        return GiveNew<ColorClip>(clip, argb, size, rate);
     });
 }
 
@@ -100,10 +93,9 @@ HRESULT TimelineFactory::CreateTipText(const wchar_t* text, const wchar_t* famil
         if (!text || !family || !clip)
             return E_POINTER;
         *clip = nullptr;
-        return Give(MakeCom<TextClip>(QString::fromWCharArray(text),
-                                      QString::fromWCharArray(family), kDefaultProfile.frameSize,
-                                      kDefaultProfile.frameRate),
-                    clip);
+        return GiveNew<TextClip>(clip, QString::fromWCharArray(text),
+                                 QString::fromWCharArray(family), kDefaultProfile.frameSize,
+                                 kDefaultProfile.frameRate);
     });
 }
 
@@ -116,7 +108,10 @@ HRESULT TimelineFactory::CreateVirtual(int type, INLETimeline** timeline)
         NLEComPtr<CompositeNode> node = MakeCom<CompositeNode>(kDefaultProfile.frameRate);
         const HRESULT named =
             node->Bag().SetString(kTimelineTypeKey, std::to_wstring(type).c_str());
-        return FAILED(named) ? named : Give(std::move(node), timeline);
+        if (FAILED(named))
+            return named;
+        *timeline = node.detach();
+        return S_OK;
     });
 }
 
