@@ -31,11 +31,6 @@ NLEStreamInfo ToEngine(const MediaStream& stream)
     return info;
 }
 
-std::wstring Widen(const std::string& ascii)
-{
-    return std::wstring(ascii.begin(), ascii.end());
-}
-
 MediaStore& Files()
 {
     static MediaStore store;
@@ -128,37 +123,6 @@ HRESULT MediaInfoObject::GetFrameCountAndRate(std::uint32_t* count, NLERational*
 HRESULT MediaInfoObject::GetFilePath(wchar_t* buffer, int capacity)
 {
     return ComGuard([&] { return CopyText(m_media->path.toStdWString(), buffer, capacity); });
-}
-
-HRESULT CodecObject::GetMediaInfo(INLEMediaInfo** info)
-{
-    return GiveNew<MediaInfoObject>(info, m_media);
-}
-
-HRESULT CodecObject::GetContainerName(wchar_t* buffer, int capacity)
-{
-    return ComGuard([&] {
-        return CopyText(m_media->containerName.section(QLatin1Char(','), 0, 0).toStdWString(),
-                        buffer, capacity);
-    });
-}
-
-HRESULT CodecObject::GetCodecName(std::uint32_t stream, wchar_t* buffer, int capacity)
-{
-    return ComGuard([&] {
-        if (stream >= m_media->streams.size())
-            return E_INVALIDARG;
-        return CopyText(Widen(m_media->streams[stream].codecName), buffer, capacity);
-    });
-}
-
-HRESULT CodecObject::GetProfileName(std::uint32_t stream, wchar_t* buffer, int capacity)
-{
-    return ComGuard([&] {
-        if (stream >= m_media->streams.size())
-            return E_INVALIDARG;
-        return CopyText(Widen(m_media->streams[stream].profileName), buffer, capacity);
-    });
 }
 
 } // namespace nle

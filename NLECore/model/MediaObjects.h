@@ -22,7 +22,7 @@ void ForgetFiles();
 /// Description of media that is not there.
 std::shared_ptr<const MediaInfo> OfflineMedia(const QString& path);
 
-/// A media description as an engine object.
+/// A media description as an engine object. Clips give it out, so it stands with the nodes.
 class MediaInfoObject final : public ComObject<INLEMediaInfo>
 {
 public:
@@ -40,21 +40,6 @@ public:
     HRESULT GetStream(std::uint32_t index, NLEStreamInfo* stream) override;
     HRESULT GetFrameCountAndRate(std::uint32_t* count, NLERational* rate) override;
     HRESULT GetFilePath(wchar_t* buffer, int capacity) override;
-
-private:
-    const std::shared_ptr<const MediaInfo> m_media;
-};
-
-/// The codecs of a file.
-class CodecObject final : public ComObject<INLECodec>
-{
-public:
-    explicit CodecObject(std::shared_ptr<const MediaInfo> media) : m_media(std::move(media)) {}
-
-    HRESULT GetMediaInfo(INLEMediaInfo** info) override;
-    HRESULT GetContainerName(wchar_t* buffer, int capacity) override;
-    HRESULT GetCodecName(std::uint32_t stream, wchar_t* buffer, int capacity) override;
-    HRESULT GetProfileName(std::uint32_t stream, wchar_t* buffer, int capacity) override;
 
 private:
     const std::shared_ptr<const MediaInfo> m_media;

@@ -9,6 +9,7 @@
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/PropertyBag.h"
 #include "NLECore/objects/BackgroundCache.h"
+#include "NLECore/objects/CodecObject.h"
 #include "NLECore/objects/DocumentSerialize.h"
 #include "NLECore/objects/Extractors.h"
 #include "NLECore/objects/FontLibrary.h"
