@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-// The plain values of the open engine: frame arithmetic, and what follows from the lists of fields.
+// Parts of the open engine that have no interface: frame arithmetic, what follows from the lists of
+// fields, and who gets room in the preview cache.
 #include "NLECore/model/DocumentReader.h"
 #include "NLECore/model/DocumentWriter.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/SourceNodes.h"
+#include "NLECore/render/ChunkStore.h"
 #include "NLECore/scene/FrameMath.h"
 #include "NLECore/scene/LayerKey.h"
 
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <functional>
@@ -16,6 +19,7 @@ using namespace nle;
 namespace {
 
 using NodePointer = NLEComPtr<TimelineNode>;
+using UseOfRoom = std::function<void(ChunkStore&, ChunkStore::Reservation&)>;
 
 // ---- Another value that a field accepts
 
@@ -204,6 +208,7 @@ Layer MakeLayer()
 Q_DECLARE_METATYPE(NLERational)
 Q_DECLARE_METATYPE(NodeField)
 Q_DECLARE_METATYPE(std::function<void(Layer&)>)
+Q_DECLARE_METATYPE(UseOfRoom)
 
 class TestScene : public QObject
 {
@@ -321,6 +326,45 @@ private slots:
         const ContentKey before = KeyOf(layer);
         change(layer);
         QVERIFY(KeyOf(layer) == before);
+    }
+
+    /// What is left of a quota of 100 bytes when 60 were reserved.
+    void reservedRoom_data()
+    {
+        using Reservation = ChunkStore::Reservation;
+        QTest::addColumn<UseOfRoom>("use");
+        QTest::addColumn<int>("left");
+        const auto row = [](const char* name, int left, const UseOfRoom& use) {
+            QTest::newRow(name) << use << left;
+        };
+        row("nothing was written", 100, [](ChunkStore&, Reservation&) {});
+        row("moved, nothing was written", 100, [](ChunkStore&, Reservation& reserved) {
+            const Reservation moved = std::move(reserved);
+        });
+        row("the chunk was written", 40, [](ChunkStore& store, Reservation& reserved) {
+            store.Add({1, 1}, std::move(reserved), {100, 0}, {{1, 1}});
+        });
+        row("there was no room for another", 100, [](ChunkStore& store, Reservation&) {
+            const Reservation refused = store.Reserve({100, 0}, 41, {});
+        });
+    }
+
+    void reservedRoom()
+    {
+        QFETCH(const UseOfRoom, use);
+        QFETCH(const int, left);
+        const QTemporaryDir folder;
+        const auto store = ChunkStore::Of(folder.path());
+        QVERIFY(store->Prepare());
+        store->Refresh();
+        {
+            ChunkStore::Reservation reserved = store->Reserve({100, 0}, 60, {});
+            QCOMPARE(reserved.Outcome(), ChunkStore::Room::Enough);
+            use(*store, reserved);
+        }
+        const KeySet keep = {{1, 1}};
+        QCOMPARE(store->MakeRoom({100, 0}, left + 1, keep), ChunkStore::Room::QuotaReached);
+        QCOMPARE(store->MakeRoom({100, 0}, left, keep), ChunkStore::Room::Enough);
     }
 };
 

@@ -218,13 +218,14 @@ std::optional<NLECacheState> CacheRenderer::RenderChunk(const Chunk& chunk, Work
     if (m_plan->CurrentKey(chunk) != chunk.key)
         return {};
     worker.lastSize = file.Size();
-    if (const auto full = StateOf(m_store->Reserve(m_limits, file.Size(), m_keep)))
+    ChunkStore::Reservation room = m_store->Reserve(m_limits, file.Size(), m_keep);
+    if (const auto full = StateOf(room.Outcome()))
         return full;
-    if (m_isEnding || !file.Commit()) {
-        m_store->GiveBack(file.Size());
+    if (m_isEnding)
+        return {};
+    if (!file.Commit())
         return m_isEnding ? std::nullopt : FailureState(file.Error(), file.Size());
-    }
-    return StateOf(m_store->Add(chunk.key, file.Size(), m_limits, m_keep));
+    return StateOf(m_store->Add(chunk.key, std::move(room), m_limits, m_keep));
 }
 
 void CacheRenderer::End(NLECacheState state)

@@ -210,13 +210,21 @@ ChunkStore::Room ChunkStore::MakeRoom(const CacheLimits& limits, std::int64_t wa
     return FindRoom(limits, wanted, keep);
 }
 
-ChunkStore::Room ChunkStore::Reserve(const CacheLimits& limits, std::int64_t wanted,
-                                     const KeySet& keep)
+ChunkStore::Reservation ChunkStore::Reserve(const CacheLimits& limits, std::int64_t wanted,
+                                            const KeySet& keep)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    const Room room = FindRoom(limits, wanted, keep);
-    m_reserved += room == Room::Enough ? wanted : 0;
-    return room;
+    Reservation reservation(*this, FindRoom(limits, wanted, keep), wanted);
+    m_reserved += reservation.m_size;
+    return reservation;
+}
+
+ChunkStore::Reservation::~Reservation()
+{
+    if (m_size == 0)
+        return;
+    const std::lock_guard<std::mutex> lock(m_store.m_mutex);
+    m_store.m_reserved -= m_size;
 }
 
 ChunkStore::Room ChunkStore::FindRoom(const CacheLimits& limits, std::int64_t wanted,
@@ -252,10 +260,11 @@ bool ChunkStore::Evict(std::int64_t bytes, const KeySet& keep)
 }
 
 // Who adds last sees what all have added, so the quota holds whenever nobody is adding.
-ChunkStore::Room ChunkStore::Add(const ContentKey& key, std::int64_t size,
+ChunkStore::Room ChunkStore::Add(const ContentKey& key, Reservation reserved,
                                  const CacheLimits& limits, const KeySet& keep)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::int64_t size = std::exchange(reserved.m_size, 0);
     m_reserved -= size;
     Entry& entry = m_entries[key];
     m_used += size - entry.size;
@@ -268,12 +277,6 @@ ChunkStore::Room ChunkStore::Add(const ContentKey& key, std::int64_t size,
         return Room::Enough;
     Drop(key);
     return Room::QuotaReached;
-}
-
-void ChunkStore::GiveBack(std::int64_t size)
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_reserved -= size;
 }
 
 std::unique_ptr<ChunkReader> ChunkStore::Read(const ContentKey& key)

@@ -9,6 +9,7 @@
 #include <memory>
 #include <mutex>
 #include <unordered_map>
+#include <utility>
 
 namespace nle {
 
@@ -31,6 +32,36 @@ public:
         QuotaReached
     };
 
+    /// Room that several threads cannot take twice. It goes back when the object ends, unless the
+    /// store, which outlives it, has got it in Add.
+    class Reservation
+    {
+    public:
+        Reservation(Reservation&& other) noexcept
+            : m_store(other.m_store)
+            , m_outcome(other.m_outcome)
+            , m_size(std::exchange(other.m_size, 0))
+        {
+        }
+        Reservation(const Reservation&) = delete;
+        Reservation& operator=(const Reservation&) = delete;
+        ~Reservation();
+
+        /// Whether there is room.
+        Room Outcome() const { return m_outcome; }
+
+    private:
+        friend ChunkStore;
+        Reservation(ChunkStore& store, Room outcome, std::int64_t size)
+            : m_store(store), m_outcome(outcome), m_size(outcome == Room::Enough ? size : 0)
+        {
+        }
+
+        ChunkStore& m_store;
+        const Room m_outcome;
+        std::int64_t m_size; ///< what is reserved, in bytes
+    };
+
     /// The object of the folder at \a path, which need not be there yet.
     static std::shared_ptr<ChunkStore> Of(const QString& path);
     ~ChunkStore();
@@ -49,14 +80,12 @@ public:
     /// Removes the chunks used least lately, those of \a keep apart, until \a wanted more bytes go
     /// into \a limits.
     Room MakeRoom(const CacheLimits& limits, std::int64_t wanted, const KeySet& keep);
-    /// The same, and keeps the room until Add or GiveBack: several threads fill one quota.
-    Room Reserve(const CacheLimits& limits, std::int64_t wanted, const KeySet& keep);
-    /// The chunk, for which room was reserved, was written. When other processes have used up the
-    /// quota meanwhile, this makes room as MakeRoom() does, or removes the chunk.
-    Room Add(const ContentKey& key, std::int64_t size, const CacheLimits& limits,
+    /// The same, and keeps the room: several threads fill one quota.
+    Reservation Reserve(const CacheLimits& limits, std::int64_t wanted, const KeySet& keep);
+    /// The chunk was written, as large as was reserved. When other processes have used up the quota
+    /// meanwhile, this makes room as MakeRoom() does, or removes the chunk.
+    Room Add(const ContentKey& key, Reservation reserved, const CacheLimits& limits,
              const KeySet& keep);
-    /// It was not.
-    void GiveBack(std::int64_t size);
 
     /// Opens a chunk for reading; null when it is not here. A damaged one is removed.
     std::unique_ptr<ChunkReader> Read(const ContentKey& key);
