@@ -209,6 +209,7 @@ Q_DECLARE_METATYPE(NLERational)
 Q_DECLARE_METATYPE(NodeField)
 Q_DECLARE_METATYPE(std::function<void(Layer&)>)
 Q_DECLARE_METATYPE(UseOfRoom)
+Q_DECLARE_METATYPE(ChunkStore::Room)
 
 class TestScene : public QObject
 {
@@ -365,6 +366,41 @@ private slots:
         const KeySet keep = {{1, 1}};
         QCOMPARE(store->MakeRoom({100, 0}, left + 1, keep), ChunkStore::Room::QuotaReached);
         QCOMPARE(store->MakeRoom({100, 0}, left, keep), ChunkStore::Room::Enough);
+    }
+
+    /// Who may remove a chunk that this process has not written.
+    void chunksOfOthers_data()
+    {
+        QTest::addColumn<int>("age");
+        QTest::addColumn<bool>("isAtWork");
+        QTest::addColumn<ChunkStore::Room>("room");
+        const int minute = 60000;
+        using Room = ChunkStore::Room;
+        QTest::newRow("written a minute ago") << minute << true << Room::QuotaReached;
+        QTest::newRow("written an hour ago") << 60 * minute << true << Room::Enough;
+        QTest::newRow("left by an earlier process") << minute << false << Room::Enough;
+    }
+
+    void chunksOfOthers()
+    {
+        QFETCH(const int, age);
+        QFETCH(const bool, isAtWork);
+        QFETCH(const ChunkStore::Room, room);
+        const QTemporaryDir folder;
+        const auto store = ChunkStore::Of(folder.path());
+        if (isAtWork)
+            store->EnsureListed();
+        QFile file(store->PathOf({1, 1}));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(QByteArray(60, 'x')), 60LL);
+        QVERIFY(file.flush());
+        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addMSecs(-age),
+                                 QFileDevice::FileModificationTime));
+        file.close();
+        QVERIFY(store->Prepare());
+        store->Refresh();
+        QCOMPARE(store->MakeRoom({100, 0}, 41, {}), room);
+        QCOMPARE(file.exists(), room != ChunkStore::Room::Enough);
     }
 };
 

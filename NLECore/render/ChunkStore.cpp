@@ -21,6 +21,10 @@ const QLatin1String kSharedName("nlechunks.shared");
 /// Coarsest time of change that file systems keep, in milliseconds.
 constexpr std::int64_t kTimeGrain = 2000;
 
+/// How long what another process has written is not removed for new chunks, in milliseconds. Two
+/// that fill one quota would else remove each other's work for as long as they run.
+constexpr std::int64_t kOthersTime = 5 * 60 * 1000;
+
 /// Name of a chunk, or of one that is or was being written.
 const QRegularExpression& NamePattern()
 {
@@ -129,6 +133,8 @@ void ChunkStore::List()
     // What changes within one grain of time after this cannot be told from it.
     const std::int64_t state = QFileInfo(m_folder).lastModified().toMSecsSinceEpoch();
     m_listedState = state + kTimeGrain < Now() ? state : kUnknownState;
+    // What has come since, or is here while another process has the claim, is not this one's.
+    const bool isOthers = m_wasListed || !m_claim;
     std::unordered_map<ContentKey, Entry, ContentKeyHash> found;
     std::int64_t used = 0;
     ForEachFile(m_folder, [&](const ContentKey& key, bool isWhole, const QDirIterator& file) {
@@ -138,9 +144,10 @@ void ChunkStore::List()
             return;
         const auto known = m_entries.find(key);
         const QFileInfo info = file.fileInfo();
+        const std::int64_t written = info.lastModified().toMSecsSinceEpoch();
         const Entry entry = known != m_entries.end()
                                 ? known->second
-                                : Entry{info.size(), info.lastModified().toMSecsSinceEpoch()};
+                                : Entry{info.size(), std::min(written, Now()), isOthers};
         found[key] = entry;
         used += entry.size;
     });
@@ -243,8 +250,10 @@ bool ChunkStore::Evict(std::int64_t bytes, const KeySet& keep)
 {
     std::vector<std::pair<std::int64_t, ContentKey>> oldest;
     std::int64_t removable = 0;
+    const std::int64_t othersUntil = Now() - kOthersTime;
     for (const auto& [key, entry] : m_entries) {
-        if (keep.count(key) == 0) {
+        const bool isOthers = entry.isOthers && entry.lastUse > othersUntil;
+        if (!isOthers && keep.count(key) == 0) {
             oldest.emplace_back(entry.lastUse, key);
             removable += entry.size;
         }
@@ -268,7 +277,7 @@ ChunkStore::Room ChunkStore::Add(const ContentKey& key, Reservation reserved,
     m_reserved -= size;
     Entry& entry = m_entries[key];
     m_used += size - entry.size;
-    entry = {size, Now()};
+    entry = {size, Now(), false};
     if (!IsShared())
         return Room::Enough;
     List();

@@ -77,8 +77,8 @@ public:
     bool Has(const ContentKey& key) const;
     /// Frames of \a chunks that are here.
     std::int64_t CountFrames(const std::vector<Chunk>& chunks) const;
-    /// Removes the chunks used least lately, those of \a keep apart, until \a wanted more bytes go
-    /// into \a limits.
+    /// Removes the chunks used least lately until \a wanted more bytes go into \a limits; those of
+    /// \a keep stay, and what other processes have lately written.
     Room MakeRoom(const CacheLimits& limits, std::int64_t wanted, const KeySet& keep);
     /// The same, and keeps the room: several threads fill one quota.
     Reservation Reserve(const CacheLimits& limits, std::int64_t wanted, const KeySet& keep);
@@ -105,6 +105,7 @@ private:
     {
         std::int64_t size = 0;
         std::int64_t lastUse = 0; ///< milliseconds since 1970
+        bool isOthers = false;    ///< another process has written it while this one was at work
     };
 
     static constexpr std::int64_t kUnknownState = -1;
