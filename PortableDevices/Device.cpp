@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "PortableDevices/Device.h"
 
+#include "Com/ComGuard.h"
 #include "PortableDevices/DeviceContent.h"
 #include "PortableDevices/DeviceList.h"
 #include "PortableDevices/PropertyValues.h"
@@ -37,32 +38,34 @@ std::shared_ptr<OpenDevice> Device::opened()
 
 HRESULT Device::Open(LPCWSTR id, IPortableDeviceValues* clientInformation)
 {
-    if (!id || !clientInformation)
-        return E_POINTER;
-    if (opened())
-        return kAlreadyOpen;
-    const std::vector<DeviceEntry> entries = ListDevices();
-    const auto entry = std::find_if(entries.begin(), entries.end(),
-                                    [id](const DeviceEntry& known) { return known.id == id; });
-    if (entry == entries.end())
-        return kNotFound;
-    const auto device = std::make_shared<OpenDevice>(entry->id, MakeSession(*entry));
-    // Watched from now on: a device that goes while it opens must not stay.
-    VolumeWatcher::instance().watch(device);
-    const DeviceWorker::Pending opening =
-        device->worker().start([](DeviceSession& session, GCancellable* cancellable) {
-            return session.open(cancellable);
-        });
-    // Until it is open, nobody else can cancel.
-    const HRESULT result =
-        device->worker().finish(opening, DeviceWorker::Clock::now() + kOpeningLimit);
-    if (FAILED(result))
-        return result == kCancelled ? kTimedOut : result;
-    const std::lock_guard lock(m_mutex);
-    if (m_device)
-        return kAlreadyOpen;
-    m_device = device;
-    return S_OK;
+    return ComGuard([&] {
+        if (!id || !clientInformation)
+            return E_POINTER;
+        if (opened())
+            return kAlreadyOpen;
+        const std::vector<DeviceEntry> entries = ListDevices();
+        const auto entry = std::find_if(entries.begin(), entries.end(),
+                                        [id](const DeviceEntry& known) { return known.id == id; });
+        if (entry == entries.end())
+            return kNotFound;
+        const auto device = std::make_shared<OpenDevice>(entry->id, MakeSession(*entry));
+        // Watched from now on: a device that goes while it opens must not stay.
+        VolumeWatcher::instance().watch(device);
+        const DeviceWorker::Pending opening =
+            device->worker().start([](DeviceSession& session, GCancellable* cancellable) {
+                return session.open(cancellable);
+            });
+        // Until it is open, nobody else can cancel.
+        const HRESULT result =
+            device->worker().finish(opening, DeviceWorker::Clock::now() + kOpeningLimit);
+        if (FAILED(result))
+            return result == kCancelled ? kTimedOut : result;
+        const std::lock_guard lock(m_mutex);
+        if (m_device)
+            return kAlreadyOpen;
+        m_device = device;
+        return S_OK;
+    });
 }
 
 HRESULT Device::Content(IPortableDeviceContent** out)
@@ -70,47 +73,54 @@ HRESULT Device::Content(IPortableDeviceContent** out)
     const std::shared_ptr<OpenDevice> device = opened();
     if (!device)
         return kNotOpen;
-    return NLEComPtr<IPortableDeviceContent>(MakeCom<DeviceContent>(device)).copyTo(out);
+    return GiveNew<DeviceContent>(out, device);
 }
 
 HRESULT Device::Cancel()
 {
-    const std::shared_ptr<OpenDevice> device = opened();
-    if (!device)
-        return kNotOpen;
-    device->worker().cancel();
-    return S_OK;
+    return ComGuard([&] {
+        const std::shared_ptr<OpenDevice> device = opened();
+        if (!device)
+            return kNotOpen;
+        device->worker().cancel();
+        return S_OK;
+    });
 }
 
 HRESULT Device::Close()
 {
-    std::shared_ptr<OpenDevice> device;
-    {
-        const std::lock_guard lock(m_mutex);
-        m_device.swap(device);
-    }
-    if (device)
-        device->worker().close();
-    return S_OK;
+    return ComGuard([&] {
+        std::shared_ptr<OpenDevice> device;
+        {
+            const std::lock_guard lock(m_mutex);
+            m_device.swap(device);
+        }
+        if (device)
+            device->worker().close();
+        return S_OK;
+    });
 }
 
 HRESULT Device::Advise(const DWORD /*flags*/, IPortableDeviceEventCallback* callback,
                        IPortableDeviceValues* /*parameters*/, LPWSTR* cookie)
 {
-    if (!callback || !cookie)
-        return E_POINTER;
-    *cookie = nullptr;
-    const std::shared_ptr<OpenDevice> device = opened();
-    if (!device)
-        return kNotOpen;
-    const unsigned number = device->worker().addListener(
-        [sink = NLEComPtr<IPortableDeviceEventCallback>(callback), id = device->id()] {
-            sink->OnEvent(RemovalEvent(id).get());
-        });
-    if (number == 0)
-        return kDeviceGone;
-    *cookie = TaskText(std::to_wstring(number).c_str());
-    return S_OK;
+    return ComGuard([&] {
+        if (!callback || !cookie)
+            return E_POINTER;
+        *cookie = nullptr;
+        const std::shared_ptr<OpenDevice> device = opened();
+        if (!device)
+            return kNotOpen;
+        const unsigned number = device->worker().addListener(
+            [sink = NLEComPtr<IPortableDeviceEventCallback>(callback), id = device->id()] {
+                // Without memory no event comes; the device's thread has nobody to throw to.
+                ComGuard([&] { return sink->OnEvent(RemovalEvent(id).get()); });
+            });
+        if (number == 0)
+            return kDeviceGone;
+        *cookie = TaskText(std::to_wstring(number).c_str());
+        return S_OK;
+    });
 }
 
 HRESULT Device::Unadvise(LPCWSTR cookie)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "PortableDevices/DeviceContent.h"
 
+#include "Com/ComGuard.h"
 #include "PortableDevices/ObjectProperties.h"
 #include "PortableDevices/ObjectResources.h"
 #include "PortableDevices/PropertyValues.h"
@@ -50,14 +51,14 @@ public:
     HRESULT Clone(IEnumPortableDeviceObjectIDs** out) override
     {
         const std::lock_guard lock(m_mutex);
-        const NLEComPtr<IEnumPortableDeviceObjectIDs> copy =
-            MakeCom<ObjectIds>(m_device, m_ids, m_next);
-        return copy.copyTo(out);
+        return GiveNew<ObjectIds>(out, m_device, m_ids, m_next);
     }
     HRESULT Cancel() override
     {
-        m_device->worker().cancel();
-        return S_OK;
+        return ComGuard([&] {
+            m_device->worker().cancel();
+            return S_OK;
+        });
     }
 
 private:
@@ -75,63 +76,69 @@ HRESULT DeviceContent::EnumObjects(const DWORD /*flags*/, LPCWSTR parent,
                                    IPortableDeviceValues* /*filter*/,
                                    IEnumPortableDeviceObjectIDs** out)
 {
-    if (!parent || !out)
-        return E_POINTER;
-    *out = nullptr;
-    auto ids = std::make_shared<std::vector<std::wstring>>();
-    if (const HRESULT result = m_device->list(parent, *ids); FAILED(result))
-        return result;
-    return NLEComPtr<IEnumPortableDeviceObjectIDs>(MakeCom<ObjectIds>(m_device, std::move(ids)))
-        .copyTo(out);
+    return ComGuard([&] {
+        if (!parent || !out)
+            return E_POINTER;
+        *out = nullptr;
+        auto ids = std::make_shared<std::vector<std::wstring>>();
+        if (const HRESULT result = m_device->list(parent, *ids); FAILED(result))
+            return result;
+        return GiveNew<ObjectIds>(out, m_device, std::move(ids));
+    });
 }
 
 HRESULT DeviceContent::Properties(IPortableDeviceProperties** out)
 {
-    return NLEComPtr<IPortableDeviceProperties>(MakeCom<ObjectProperties>(m_device)).copyTo(out);
+    return GiveNew<ObjectProperties>(out, m_device);
 }
 
 HRESULT DeviceContent::Transfer(IPortableDeviceResources** out)
 {
-    return NLEComPtr<IPortableDeviceResources>(MakeCom<ObjectResources>(m_device)).copyTo(out);
+    return GiveNew<ObjectResources>(out, m_device);
 }
 
 HRESULT DeviceContent::Delete(const DWORD options, IPortableDevicePropVariantCollection* ids,
                               IPortableDevicePropVariantCollection** results)
 {
-    if (results)
-        *results = nullptr;
-    if (!ids)
-        return E_POINTER;
-    DWORD count = 0;
-    ids->GetCount(&count);
-    const auto outcomes = MakeCom<VariantCollection>();
-    HRESULT firstFailure = S_OK;
-    DWORD failures = 0;
-    for (DWORD i = 0; i < count; ++i) {
-        Variant id;
-        ids->GetAt(i, id.put());
-        const HRESULT outcome =
-            id.get().vt == VT_LPWSTR
-                ? m_device->remove(id.get().pwszVal,
-                                   options & Wpd::PORTABLE_DEVICE_DELETE_WITH_RECURSION)
-                : E_INVALIDARG;
-        outcomes->Add(&Variant::error(outcome).get());
-        if (SUCCEEDED(outcome))
-            continue;
-        ++failures;
-        firstFailure = FAILED(firstFailure) ? firstFailure : outcome;
-    }
-    if (results)
-        NLEComPtr<IPortableDevicePropVariantCollection>(outcomes).copyTo(results);
-    if (failures == 0)
-        return count > 0 ? S_OK : E_INVALIDARG;
-    return failures == count ? firstFailure : S_FALSE;
+    return ComGuard([&] {
+        if (results)
+            *results = nullptr;
+        if (!ids)
+            return E_POINTER;
+        DWORD count = 0;
+        ids->GetCount(&count);
+        const auto outcomes = MakeCom<VariantCollection>();
+        HRESULT firstFailure = S_OK;
+        DWORD failures = 0;
+        for (DWORD i = 0; i < count; ++i) {
+            Variant id;
+            ids->GetAt(i, id.put());
+            const HRESULT outcome =
+                id.get().vt == VT_LPWSTR
+                    ? m_device->remove(id.get().pwszVal,
+                                       options & Wpd::PORTABLE_DEVICE_DELETE_WITH_RECURSION)
+                    : E_INVALIDARG;
+            if (const HRESULT noted = outcomes->Add(&Variant::error(outcome).get()); FAILED(noted))
+                return noted;
+            if (SUCCEEDED(outcome))
+                continue;
+            ++failures;
+            firstFailure = FAILED(firstFailure) ? firstFailure : outcome;
+        }
+        if (results)
+            NLEComPtr<IPortableDevicePropVariantCollection>(outcomes).copyTo(results);
+        if (failures == 0)
+            return count > 0 ? S_OK : E_INVALIDARG;
+        return failures == count ? firstFailure : S_FALSE;
+    });
 }
 
 HRESULT DeviceContent::Cancel()
 {
-    m_device->worker().cancel();
-    return S_OK;
+    return ComGuard([&] {
+        m_device->worker().cancel();
+        return S_OK;
+    });
 }
 
 HRESULT DeviceContent::CreateObjectWithPropertiesOnly(IPortableDeviceValues* /*values*/,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "PortableDevices/DeviceManager.h"
 
+#include "Com/ComGuard.h"
 #include "PortableDevices/PropertyValues.h"
 
 #include <algorithm>
@@ -14,11 +15,13 @@ constexpr HRESULT kBufferTooSmall = FromSystemError(122);
 
 HRESULT DeviceManager::RefreshDeviceList()
 {
-    std::vector<DeviceEntry> entries = ListDevices();
-    const std::lock_guard lock(m_mutex);
-    m_entries = std::move(entries);
-    m_isListed = true;
-    return S_OK;
+    return ComGuard([&] {
+        std::vector<DeviceEntry> entries = ListDevices();
+        const std::lock_guard lock(m_mutex);
+        m_entries = std::move(entries);
+        m_isListed = true;
+        return S_OK;
+    });
 }
 
 HRESULT DeviceManager::GetDevices(LPWSTR* ids, DWORD* count)
@@ -28,7 +31,8 @@ HRESULT DeviceManager::GetDevices(LPWSTR* ids, DWORD* count)
     std::unique_lock lock(m_mutex);
     if (!m_isListed) {
         lock.unlock();
-        RefreshDeviceList();
+        if (const HRESULT result = RefreshDeviceList(); FAILED(result))
+            return result;
         lock.lock();
     }
     const auto known = static_cast<DWORD>(m_entries.size());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "PortableDevices/ObjectProperties.h"
 
+#include "Com/ComGuard.h"
 #include "PortableDevices/PropertyValues.h"
 
 namespace devices {
@@ -49,10 +50,7 @@ Variant ValueOf(const ObjectInfo& info, REFPROPERTYKEY key)
 
 NLEComPtr<IPortableDeviceKeyCollection> AllKeys()
 {
-    const auto keys = MakeCom<KeyCollection>();
-    for (const PROPERTYKEY& key : kKeys)
-        keys->Add(key);
-    return keys;
+    return MakeCom<KeyCollection>(std::vector(std::begin(kKeys), std::end(kKeys)));
 }
 
 } // namespace
@@ -60,7 +58,7 @@ NLEComPtr<IPortableDeviceKeyCollection> AllKeys()
 HRESULT ObjectProperties::GetSupportedProperties(LPCWSTR object,
                                                  IPortableDeviceKeyCollection** keys)
 {
-    return object ? AllKeys().copyTo(keys) : E_POINTER;
+    return ComGuard([&] { return object ? AllKeys().copyTo(keys) : E_POINTER; });
 }
 
 HRESULT ObjectProperties::GetPropertyAttributes(LPCWSTR /*object*/, REFPROPERTYKEY /*key*/,
@@ -73,27 +71,30 @@ HRESULT ObjectProperties::GetPropertyAttributes(LPCWSTR /*object*/, REFPROPERTYK
 HRESULT ObjectProperties::GetValues(LPCWSTR object, IPortableDeviceKeyCollection* keys,
                                     IPortableDeviceValues** values)
 {
-    if (!object || !values)
-        return E_POINTER;
-    *values = nullptr;
-    ObjectInfo info;
-    if (const HRESULT result = m_device->describe(object, info); FAILED(result))
+    return ComGuard([&] {
+        if (!object || !values)
+            return E_POINTER;
+        *values = nullptr;
+        ObjectInfo info;
+        if (const HRESULT result = m_device->describe(object, info); FAILED(result))
+            return result;
+        const NLEComPtr<IPortableDeviceKeyCollection> wanted = keys ? keys : AllKeys();
+        const auto answer = MakeCom<PropertyValues>();
+        DWORD count = 0;
+        wanted->GetCount(&count);
+        HRESULT result = S_OK;
+        for (DWORD i = 0; i < count; ++i) {
+            PROPERTYKEY key = {};
+            wanted->GetAt(i, &key);
+            Variant value = ValueOf(info, key);
+            if (value.get().vt == VT_ERROR)
+                result = S_FALSE;
+            if (const HRESULT stored = answer->store(key, std::move(value)); FAILED(stored))
+                return stored;
+        }
+        NLEComPtr<IPortableDeviceValues>(answer).copyTo(values);
         return result;
-    const NLEComPtr<IPortableDeviceKeyCollection> wanted = keys ? keys : AllKeys();
-    const auto answer = MakeCom<PropertyValues>();
-    DWORD count = 0;
-    wanted->GetCount(&count);
-    HRESULT result = S_OK;
-    for (DWORD i = 0; i < count; ++i) {
-        PROPERTYKEY key = {};
-        wanted->GetAt(i, &key);
-        Variant value = ValueOf(info, key);
-        if (value.get().vt == VT_ERROR)
-            result = S_FALSE;
-        answer->store(key, std::move(value));
-    }
-    NLEComPtr<IPortableDeviceValues>(answer).copyTo(values);
-    return result;
+    });
 }
 
 HRESULT ObjectProperties::SetValues(LPCWSTR /*object*/, IPortableDeviceValues* /*values*/,
@@ -111,8 +112,10 @@ HRESULT ObjectProperties::Delete(LPCWSTR /*object*/, IPortableDeviceKeyCollectio
 
 HRESULT ObjectProperties::Cancel()
 {
-    m_device->worker().cancel();
-    return S_OK;
+    return ComGuard([&] {
+        m_device->worker().cancel();
+        return S_OK;
+    });
 }
 
 } // namespace devices

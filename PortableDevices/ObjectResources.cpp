@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "PortableDevices/ObjectResources.h"
 
+#include "Com/ComGuard.h"
 #include "PortableDevices/PropertyValues.h"
 #include "PortableDevices/ResourceStream.h"
 
@@ -8,19 +9,19 @@ namespace devices {
 
 HRESULT ObjectResources::GetSupportedResources(LPCWSTR object, IPortableDeviceKeyCollection** keys)
 {
-    if (!object || !keys)
-        return E_POINTER;
-    *keys = nullptr;
-    ObjectInfo info;
-    if (const HRESULT result = m_device->describe(object, info); FAILED(result))
-        return result;
-    const auto known = MakeCom<KeyCollection>();
-    if (info.kind == ObjectKind::File) {
-        known->Add(Wpd::WPD_RESOURCE_DEFAULT);
-        // Whether there is one shows only when it is asked for.
-        known->Add(Wpd::WPD_RESOURCE_THUMBNAIL);
-    }
-    return NLEComPtr<IPortableDeviceKeyCollection>(known).copyTo(keys);
+    return ComGuard([&] {
+        if (!object || !keys)
+            return E_POINTER;
+        *keys = nullptr;
+        ObjectInfo info;
+        if (const HRESULT result = m_device->describe(object, info); FAILED(result))
+            return result;
+        std::vector<PROPERTYKEY> known;
+        // Whether there is a thumbnail shows only when it is asked for.
+        if (info.kind == ObjectKind::File)
+            known = {Wpd::WPD_RESOURCE_DEFAULT, Wpd::WPD_RESOURCE_THUMBNAIL};
+        return GiveNew<KeyCollection>(keys, std::move(known));
+    });
 }
 
 HRESULT ObjectResources::GetResourceAttributes(LPCWSTR /*object*/, REFPROPERTYKEY /*key*/,
@@ -33,20 +34,22 @@ HRESULT ObjectResources::GetResourceAttributes(LPCWSTR /*object*/, REFPROPERTYKE
 HRESULT ObjectResources::GetStream(LPCWSTR object, REFPROPERTYKEY key, const DWORD mode,
                                    DWORD* optimalBufferSize, IStream** out)
 {
-    if (!object || !out)
-        return E_POINTER;
-    *out = nullptr;
-    if (mode != STGM_READ)
-        return E_ACCESSDENIED;
-    const bool isData = key == Wpd::WPD_RESOURCE_DEFAULT;
-    if (!isData && key != Wpd::WPD_RESOURCE_THUMBNAIL)
-        return kNoElement;
-    std::uint32_t size = 0;
-    const HRESULT result = ResourceStream::open(
-        m_device, object, isData ? Resource::Data : Resource::Thumbnail, size, out);
-    if (optimalBufferSize)
-        *optimalBufferSize = size;
-    return result;
+    return ComGuard([&] {
+        if (!object || !out)
+            return E_POINTER;
+        *out = nullptr;
+        if (mode != STGM_READ)
+            return E_ACCESSDENIED;
+        const bool isData = key == Wpd::WPD_RESOURCE_DEFAULT;
+        if (!isData && key != Wpd::WPD_RESOURCE_THUMBNAIL)
+            return kNoElement;
+        std::uint32_t size = 0;
+        const HRESULT result = ResourceStream::open(
+            m_device, object, isData ? Resource::Data : Resource::Thumbnail, size, out);
+        if (optimalBufferSize)
+            *optimalBufferSize = size;
+        return result;
+    });
 }
 
 HRESULT ObjectResources::Delete(LPCWSTR /*object*/, IPortableDeviceKeyCollection* /*keys*/)
@@ -56,8 +59,10 @@ HRESULT ObjectResources::Delete(LPCWSTR /*object*/, IPortableDeviceKeyCollection
 
 HRESULT ObjectResources::Cancel()
 {
-    m_device->worker().cancel();
-    return S_OK;
+    return ComGuard([&] {
+        m_device->worker().cancel();
+        return S_OK;
+    });
 }
 
 HRESULT ObjectResources::CreateResource(IPortableDeviceValues* /*attributes*/, IStream** /*out*/,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "PortableDevices/PropertyValues.h"
 
+#include "Com/ComGuard.h"
 #include "PortableDevices/Results.h"
 
 #include <algorithm>
@@ -75,13 +76,16 @@ const PropertyValues::Entry* PropertyValues::find(REFPROPERTYKEY key) const
     return found == m_entries.end() ? nullptr : &*found;
 }
 
-void PropertyValues::store(REFPROPERTYKEY key, Variant value)
+HRESULT PropertyValues::store(REFPROPERTYKEY key, Variant value)
 {
-    const std::lock_guard lock(m_mutex);
-    if (const Entry* known = find(key))
-        std::swap(m_entries[static_cast<std::size_t>(known - m_entries.data())].second, value);
-    else
-        m_entries.emplace_back(key, std::move(value));
+    return ComGuard([&] {
+        const std::lock_guard lock(m_mutex);
+        if (const Entry* known = find(key))
+            std::swap(m_entries[static_cast<std::size_t>(known - m_entries.data())].second, value);
+        else
+            m_entries.emplace_back(key, std::move(value));
+        return S_OK;
+    });
 }
 
 HRESULT PropertyValues::copyOf(REFPROPERTYKEY key, VARTYPE type, Variant& copy) const
@@ -98,8 +102,7 @@ HRESULT PropertyValues::copyOf(REFPROPERTYKEY key, VARTYPE type, Variant& copy) 
 template <typename T>
 HRESULT PropertyValues::setScalar(REFPROPERTYKEY key, VARTYPE type, T PROPVARIANT::*member, T value)
 {
-    store(key, Scalar(type, member, value));
-    return S_OK;
+    return store(key, Scalar(type, member, value));
 }
 
 template <typename T, typename Out>
@@ -157,8 +160,7 @@ HRESULT PropertyValues::SetValue(REFPROPERTYKEY key, const PROPVARIANT* value)
 {
     if (!value)
         return E_POINTER;
-    store(key, Variant(*value));
-    return S_OK;
+    return store(key, Variant(*value));
 }
 
 HRESULT PropertyValues::GetValue(REFPROPERTYKEY key, PROPVARIANT* value)
@@ -175,8 +177,7 @@ HRESULT PropertyValues::SetStringValue(REFPROPERTYKEY key, LPCWSTR value)
 {
     if (!value)
         return E_POINTER;
-    store(key, Variant::text(value));
-    return S_OK;
+    return store(key, Variant::text(value));
 }
 
 HRESULT PropertyValues::GetStringValue(REFPROPERTYKEY key, LPWSTR* value)
@@ -253,8 +254,7 @@ HRESULT PropertyValues::GetErrorValue(REFPROPERTYKEY key, HRESULT* value)
 
 HRESULT PropertyValues::SetKeyValue(REFPROPERTYKEY key, REFPROPERTYKEY value)
 {
-    store(key, Bytes(&value, sizeof(value)));
-    return S_OK;
+    return store(key, Bytes(&value, sizeof(value)));
 }
 
 HRESULT PropertyValues::GetKeyValue(REFPROPERTYKEY key, PROPERTYKEY* value)
@@ -295,8 +295,7 @@ HRESULT PropertyValues::GetIUnknownValue(REFPROPERTYKEY key, IUnknown** value)
 
 HRESULT PropertyValues::SetGuidValue(REFPROPERTYKEY key, REFGUID value)
 {
-    store(key, Variant::identifier(value));
-    return S_OK;
+    return store(key, Variant::identifier(value));
 }
 
 HRESULT PropertyValues::GetGuidValue(REFPROPERTYKEY key, GUID* value)
@@ -315,8 +314,7 @@ HRESULT PropertyValues::SetBufferValue(REFPROPERTYKEY key, BYTE* value, DWORD by
 {
     if (!value && bytes > 0)
         return E_POINTER;
-    store(key, Bytes(value, bytes));
-    return S_OK;
+    return store(key, Bytes(value, bytes));
 }
 
 HRESULT PropertyValues::GetBufferValue(REFPROPERTYKEY key, BYTE** value, DWORD* bytes)
@@ -427,9 +425,11 @@ HRESULT KeyCollection::GetAt(const DWORD index, PROPERTYKEY* key)
 
 HRESULT KeyCollection::Add(REFPROPERTYKEY key)
 {
-    const std::lock_guard lock(m_mutex);
-    m_keys.push_back(key);
-    return S_OK;
+    return ComGuard([&] {
+        const std::lock_guard lock(m_mutex);
+        m_keys.push_back(key);
+        return S_OK;
+    });
 }
 
 HRESULT KeyCollection::Clear()
@@ -465,14 +465,16 @@ HRESULT VariantCollection::GetAt(const DWORD index, PROPVARIANT* value)
 
 HRESULT VariantCollection::Add(const PROPVARIANT* value)
 {
-    if (!value)
-        return E_POINTER;
-    const std::lock_guard lock(m_mutex);
-    if (m_type != VT_EMPTY && value->vt != m_type)
-        return E_INVALIDARG;
-    m_type = value->vt;
-    m_values.emplace_back(*value);
-    return S_OK;
+    return ComGuard([&] {
+        if (!value)
+            return E_POINTER;
+        const std::lock_guard lock(m_mutex);
+        if (m_type != VT_EMPTY && value->vt != m_type)
+            return E_INVALIDARG;
+        m_values.emplace_back(*value);
+        m_type = value->vt;
+        return S_OK;
+    });
 }
 
 HRESULT VariantCollection::GetType(VARTYPE* type)

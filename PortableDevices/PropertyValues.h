@@ -47,8 +47,8 @@ LPWSTR TaskText(const wchar_t* text);
 class PropertyValues final : public ComObject<IPortableDeviceValues>
 {
 public:
-    /// Stores \a value under \a key; an old value goes.
-    void store(REFPROPERTYKEY key, Variant value);
+    /// Stores \a value under \a key; an old value goes. Throws nothing.
+    HRESULT store(REFPROPERTYKEY key, Variant value);
 
     HRESULT GetCount(DWORD* count) override;
     HRESULT GetAt(const DWORD index, PROPERTYKEY* key, PROPVARIANT* value) override;
@@ -122,6 +122,8 @@ private:
 class KeyCollection final : public ComObject<IPortableDeviceKeyCollection>
 {
 public:
+    explicit KeyCollection(std::vector<PROPERTYKEY> keys = {}) : m_keys(std::move(keys)) {}
+
     HRESULT GetCount(DWORD* count) override;
     HRESULT GetAt(const DWORD index, PROPERTYKEY* key) override;
     HRESULT Add(REFPROPERTYKEY key) override;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "PortableDevices/ResourceStream.h"
 
+#include "Com/ComGuard.h"
 #include "PortableDevices/PropertyValues.h"
 #include "PortableDevices/WideText.h"
 
@@ -107,6 +108,21 @@ HRESULT ResourceStream::readStep(void* data, ULONG count, ULONG& got)
     return S_OK;
 }
 
+HRESULT ResourceStream::moveTo(std::uint64_t position)
+{
+    dropStep();
+    const HRESULT result = m_device->worker().run(
+        [source = m_source, position](DeviceSession& /*session*/, GCancellable* cancellable) {
+            return source->reader->seek(position, cancellable);
+        });
+    if (FAILED(result))
+        return result;
+    m_position = position;
+    if (!m_isLocal)
+        startStep();
+    return S_OK;
+}
+
 HRESULT ResourceStream::Read(void* data, ULONG count, ULONG* read)
 {
     if (read)
@@ -119,7 +135,8 @@ HRESULT ResourceStream::Read(void* data, ULONG count, ULONG* read)
     if (FAILED(m_failure))
         return m_failure;
     ULONG got = 0;
-    m_failure = m_isLocal ? readLocal(data, count, got) : readStep(data, count, got);
+    m_failure = ComGuard(
+        [&] { return m_isLocal ? readLocal(data, count, got) : readStep(data, count, got); });
     if (SUCCEEDED(m_failure) && got == 0 && count > 0 && m_position < m_promisedSize)
         m_failure = kCutShort;
     if (FAILED(m_failure))
@@ -142,16 +159,9 @@ HRESULT ResourceStream::Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER* p
     if (target < 0)
         return STG_E_INVALIDFUNCTION;
     if (static_cast<std::uint64_t>(target) != m_position) {
-        dropStep();
-        const HRESULT result = m_device->worker().run(
-            [source = m_source, target](DeviceSession& /*session*/, GCancellable* cancellable) {
-                return source->reader->seek(static_cast<std::uint64_t>(target), cancellable);
-            });
-        if (FAILED(result))
-            return m_failure = result;
-        m_position = static_cast<std::uint64_t>(target);
-        if (!m_isLocal)
-            startStep();
+        m_failure = ComGuard([&] { return moveTo(static_cast<std::uint64_t>(target)); });
+        if (FAILED(m_failure))
+            return m_failure;
     }
     if (position)
         position->QuadPart = m_position;
@@ -200,14 +210,16 @@ HRESULT ResourceStream::UnlockRegion(ULARGE_INTEGER /*offset*/, ULARGE_INTEGER /
 
 HRESULT ResourceStream::Stat(STATSTG* out, DWORD flags)
 {
-    if (!out)
-        return E_POINTER;
-    *out = {};
-    out->type = kStreamType;
-    out->cbSize.QuadPart = m_promisedSize;
-    if (m_isLocal && !(flags & kNoName))
-        out->pwcsName = TaskText(WideText(m_source->reader->localPath().c_str()).c_str());
-    return S_OK;
+    return ComGuard([&] {
+        if (!out)
+            return E_POINTER;
+        *out = {};
+        out->type = kStreamType;
+        out->cbSize.QuadPart = m_promisedSize;
+        if (m_isLocal && !(flags & kNoName))
+            out->pwcsName = TaskText(WideText(m_source->reader->localPath().c_str()).c_str());
+        return S_OK;
+    });
 }
 
 HRESULT ResourceStream::Clone(IStream** out)

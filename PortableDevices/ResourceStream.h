@@ -54,6 +54,7 @@ private:
 
     HRESULT readLocal(void* data, ULONG count, ULONG& got);
     HRESULT readStep(void* data, ULONG count, ULONG& got);
+    HRESULT moveTo(std::uint64_t position);
     void startStep();
     HRESULT finishStep();
     void dropStep();
