@@ -62,35 +62,31 @@ int PureSlider::GetValue() const
     return m_value;
 }
 
-void PureSlider::Style(QColor& color, const QColor& styled)
+void PureSlider::Style(PartColor& part, const QColor& color)
 {
-    if (m_fixedColors.contains(&color))
-        return;
-    color = styled;
+    part.styled = color;
     update();
 }
 
-void PureSlider::Fix(QColor& color, const QColor& fixed)
+void PureSlider::Fix(PartColor& part, const QColor& color)
 {
-    if (!m_fixedColors.contains(&color))
-        m_fixedColors.append(&color);
-    color = fixed;
+    part.fixed = color;
     update();
 }
 
 void PureSlider::SetBorderColor(const QColor& color)
 {
-    Fix(m_borderColor, color);
+    Fix(m_border, color);
 }
 
 void PureSlider::SetSubpageColor(const QColor& color)
 {
-    Fix(m_subpageColor, color);
+    Fix(m_subpage, color);
 }
 
 void PureSlider::SetAddpageColor(const QColor& color)
 {
-    Fix(m_addpageColor, color);
+    Fix(m_addpage, color);
 }
 
 QSize PureSlider::sizeHint() const
@@ -101,14 +97,14 @@ QSize PureSlider::sizeHint() const
 void PureSlider::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), m_addpageColor);
+    painter.fillRect(rect(), AddpageColor());
     // In 64 bits: the range may span all of an int.
     const qint64 range = qint64(m_maximum) - m_minimum;
     const qint64 above = qint64(qBound(m_minimum, m_value, m_maximum)) - m_minimum;
     const auto filled = static_cast<int>(width() * above / range);
-    painter.fillRect(0, 0, filled, height(), m_subpageColor);
+    painter.fillRect(0, 0, filled, height(), SubpageColor());
     PaintFrame(painter, rect(),
-               m_keyboardFocus ? palette().color(QPalette::Highlight) : m_borderColor);
+               m_keyboardFocus ? palette().color(QPalette::Highlight) : BorderColor());
     if (!isEnabled())
         painter.fillRect(rect(), QColor::fromRgba(kDisabledVeil));
 }

@@ -4,8 +4,9 @@
 #include "CommonLib/CommonLibExport.h"
 
 #include <QColor>
-#include <QVector>
 #include <QWidget>
+
+#include <optional>
 
 struct SliderSteps;
 
@@ -16,9 +17,9 @@ struct SliderSteps;
 class COMMONLIB_EXPORT PureSlider : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QColor borderColor MEMBER m_borderColor WRITE StyleBorder)
-    Q_PROPERTY(QColor subpageColor MEMBER m_subpageColor WRITE StyleSubpage)
-    Q_PROPERTY(QColor addpageColor MEMBER m_addpageColor WRITE StyleAddpage)
+    Q_PROPERTY(QColor borderColor READ BorderColor WRITE StyleBorder)
+    Q_PROPERTY(QColor subpageColor READ SubpageColor WRITE StyleSubpage)
+    Q_PROPERTY(QColor addpageColor READ AddpageColor WRITE StyleAddpage)
 
 public:
     explicit PureSlider(QWidget* parent);
@@ -55,21 +56,28 @@ protected:
 
 private:
     void FollowMouse(QMouseEvent* event, int x);
-    // A colour from a style sheet, for as long as the host sets none.
-    void Style(QColor& color, const QColor& styled);
-    void StyleBorder(const QColor& color) { Style(m_borderColor, color); }
-    void StyleSubpage(const QColor& color) { Style(m_subpageColor, color); }
-    void StyleAddpage(const QColor& color) { Style(m_addpageColor, color); }
-    void Fix(QColor& color, const QColor& fixed);
+    struct PartColor
+    {
+        QColor styled;               // preset, or from a style sheet
+        std::optional<QColor> fixed; // from the host; wins
+        QColor Shown() const { return fixed.value_or(styled); }
+    };
+    void Style(PartColor& part, const QColor& color);
+    void Fix(PartColor& part, const QColor& color);
+    QColor BorderColor() const { return m_border.Shown(); }
+    QColor SubpageColor() const { return m_subpage.Shown(); }
+    QColor AddpageColor() const { return m_addpage.Shown(); }
+    void StyleBorder(const QColor& color) { Style(m_border, color); }
+    void StyleSubpage(const QColor& color) { Style(m_subpage, color); }
+    void StyleAddpage(const QColor& color) { Style(m_addpage, color); }
     SliderSteps Steps() const;
 
     int m_value = 0;
     int m_minimum = 0;
     int m_maximum = 100;
-    QColor m_borderColor = Qt::gray;
-    QColor m_subpageColor = Qt::red;
-    QColor m_addpageColor = Qt::white;
-    QVector<const QColor*> m_fixedColors; // those above that the host has set
-    double m_wheelRest = 0;               // part of a step that the wheel has turned
+    PartColor m_border = {Qt::gray, {}};
+    PartColor m_subpage = {Qt::red, {}};
+    PartColor m_addpage = {Qt::white, {}};
+    double m_wheelRest = 0; // part of a step that the wheel has turned
     bool m_keyboardFocus = false;
 };
