@@ -193,7 +193,7 @@ private:
             WriteSection(node.nodeValue());
             break;
         case QDomNode::EntityReferenceNode:
-            WriteEntity('&' + node.nodeName() + ';');
+            WriteEntity(node.nodeName());
             break;
         case QDomNode::CommentNode:
             WriteComment(node, level);
@@ -282,11 +282,20 @@ private:
             m_stream << "<![CDATA[" << text << "]]>";
     }
 
-    void WriteEntity(const QString& reference)
+    void WriteEntity(const QString& name)
     {
+        auto known = m_entities.constFind(name);
+        if (known == m_entities.constEnd())
+            known = m_entities.insert(name, ReadableReference(name));
+        m_stream << *known;
+    }
+
+    // Empty when the document type gives the reader no meaning of it.
+    QString ReadableReference(const QString& name) const
+    {
+        const QString reference = '&' + name + ';';
         const QString content = m_type + "<root>" + reference + "</root>";
-        if (m_encoding.Has(reference) && IsReadable(content.toUtf8()))
-            m_stream << reference;
+        return m_encoding.Has(reference) && IsReadable(content.toUtf8()) ? reference : QString();
     }
 
     void WriteComment(const QDomNode& comment, int level)
@@ -383,6 +392,7 @@ private:
     QTextStream m_stream;
     QString m_type;
     QHash<QString, QString> m_names;
+    QHash<QString, QString> m_entities; // what stands for each; the document type is read for it
 };
 
 } // namespace
