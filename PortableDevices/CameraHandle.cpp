@@ -9,18 +9,18 @@ namespace {
 // Loads every driver of the library, which takes a while and is not safe from several threads.
 CameraAbilitiesList* Drivers(GPContext* context)
 {
-    static std::mutex mutex;
+    static std::mutex s_mutex;
     // Never freed: the thread of a camera that hangs goes on while the process ends.
-    static CameraAbilitiesList* drivers = nullptr;
-    const std::lock_guard lock(mutex);
-    if (!drivers) {
+    static CameraAbilitiesList* s_drivers = nullptr;
+    const std::lock_guard lock(s_mutex);
+    if (!s_drivers) {
         CameraAbilitiesList* list = nullptr;
         gp_abilities_list_new(&list);
         CameraPtr<CameraAbilitiesList> loaded(list);
         if (gp_abilities_list_load(list, context) >= 0)
-            drivers = loaded.release();
+            s_drivers = loaded.release();
     }
-    return drivers;
+    return s_drivers;
 }
 
 CameraPtr<CameraList> NewList()
@@ -93,7 +93,7 @@ CameraHandle::~CameraHandle()
     gp_context_unref(m_context);
 }
 
-HRESULT CameraHandle::open(const std::string& port)
+HRESULT CameraHandle::Open(const std::string& port)
 {
     GPPortInfoList* portList = nullptr;
     gp_port_info_list_new(&portList);
@@ -124,7 +124,7 @@ HRESULT CameraHandle::open(const std::string& port)
     return kNotFound;
 }
 
-HRESULT CameraHandle::files(const std::string& folder, std::vector<std::string>& names) const
+HRESULT CameraHandle::Files(const std::string& folder, std::vector<std::string>& names) const
 {
     const CameraPtr<CameraList> list = NewList();
     const int result = gp_camera_folder_list_files(m_camera, folder.c_str(), list.get(), m_context);
@@ -132,7 +132,7 @@ HRESULT CameraHandle::files(const std::string& folder, std::vector<std::string>&
     return FromCameraResult(result);
 }
 
-HRESULT CameraHandle::folders(const std::string& folder, std::vector<std::string>& names) const
+HRESULT CameraHandle::Folders(const std::string& folder, std::vector<std::string>& names) const
 {
     const CameraPtr<CameraList> list = NewList();
     const int result =
@@ -152,7 +152,7 @@ CameraHandle::Scope::~Scope()
     m_handle.m_cancellable = m_outer;
 }
 
-bool CameraHandle::Scope::isCancelled() const
+bool CameraHandle::Scope::IsCancelled() const
 {
     return g_cancellable_is_cancelled(m_handle.m_cancellable);
 }

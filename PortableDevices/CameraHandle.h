@@ -34,13 +34,13 @@ public:
     ~CameraHandle();
 
     /// Finds out what is connected to the port and takes it up.
-    HRESULT open(const std::string& port);
-    Camera* camera() const { return m_camera; }
-    GPContext* context() const { return m_context; }
+    HRESULT Open(const std::string& port);
+    Camera* Get() const { return m_camera; }
+    GPContext* Context() const { return m_context; }
 
     /// Names in \a folder, which has no slash at its end except for the root.
-    HRESULT files(const std::string& folder, std::vector<std::string>& names) const;
-    HRESULT folders(const std::string& folder, std::vector<std::string>& names) const;
+    HRESULT Files(const std::string& folder, std::vector<std::string>& names) const;
+    HRESULT Folders(const std::string& folder, std::vector<std::string>& names) const;
 
     /// Makes \a cancellable the one that ends calls.
     class Scope
@@ -50,7 +50,7 @@ public:
         Scope(const Scope&) = delete;
         Scope& operator=(const Scope&) = delete;
         ~Scope();
-        bool isCancelled() const;
+        bool IsCancelled() const;
 
     private:
         CameraHandle& m_handle;

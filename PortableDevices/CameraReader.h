@@ -19,12 +19,12 @@ public:
     CameraReader(std::shared_ptr<CameraHandle> camera, std::string folder, std::string name,
                  std::uint64_t size);
 
-    HRESULT read(void* buffer, std::uint32_t size, std::uint32_t& got,
+    HRESULT Read(void* buffer, std::uint32_t size, std::uint32_t& got,
                  GCancellable* cancellable) override;
-    HRESULT seek(std::uint64_t position, GCancellable* cancellable) override;
+    HRESULT Seek(std::uint64_t position, GCancellable* cancellable) override;
 
 private:
-    HRESULT fetchWhole(GCancellable* cancellable);
+    HRESULT FetchWhole(GCancellable* cancellable);
 
     const std::shared_ptr<CameraHandle> m_camera;
     const std::string m_folder;
@@ -40,9 +40,9 @@ class PreviewReader final : public DataReader
 public:
     explicit PreviewReader(CameraPtr<CameraFile> file) : m_file(std::move(file)) {}
 
-    HRESULT read(void* buffer, std::uint32_t size, std::uint32_t& got,
+    HRESULT Read(void* buffer, std::uint32_t size, std::uint32_t& got,
                  GCancellable* cancellable) override;
-    HRESULT seek(std::uint64_t position, GCancellable* cancellable) override;
+    HRESULT Seek(std::uint64_t position, GCancellable* cancellable) override;
 
 private:
     const CameraPtr<CameraFile> m_file;

@@ -77,12 +77,12 @@ CameraSession::~CameraSession()
     freelocale(m_locale);
 }
 
-HRESULT CameraSession::open(GCancellable* cancellable)
+HRESULT CameraSession::Open(GCancellable* cancellable)
 {
     const GPtr<GFile> root(g_file_new_for_uri(m_uri.c_str()));
     if (const HRESULT result = UnmountAndWait(root.get(), cancellable); FAILED(result))
         return result;
-    useUtf8();
+    UseUtf8();
     const std::string place = m_port.substr(m_port.find(':') + 1);
     m_node = "/dev/bus/usb/" + place;
     std::replace(m_node.begin(), m_node.end(), ',', '/');
@@ -90,12 +90,12 @@ HRESULT CameraSession::open(GCancellable* cancellable)
         m_node.clear();
     m_camera = std::make_shared<CameraHandle>();
     const CameraHandle::Scope scope(*m_camera, cancellable);
-    return m_camera->open(m_port);
+    return m_camera->Open(m_port);
 }
 
 // The library converts names to the character set of the locale, and names that it cannot convert
 // would turn into question marks. The process's own locale is the host's business.
-void CameraSession::useUtf8()
+void CameraSession::UseUtf8()
 {
     if (!m_locale)
         m_locale = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
@@ -103,21 +103,21 @@ void CameraSession::useUtf8()
         uselocale(m_locale);
 }
 
-bool CameraSession::isPresent(bool /*hasFailed*/)
+bool CameraSession::IsPresent(bool /*hasFailed*/)
 {
     return m_node.empty() || access(m_node.c_str(), F_OK) == 0;
 }
 
-HRESULT CameraSession::checkFolder(const std::string& path, bool& isThere)
+HRESULT CameraSession::CheckFolder(const std::string& path, bool& isThere)
 {
     std::vector<std::string> names;
     const auto [parent, name] = Split(path);
-    const HRESULT result = m_camera->folders(FolderName(parent), names);
+    const HRESULT result = m_camera->Folders(FolderName(parent), names);
     isThere = Contains(names, name);
     return result;
 }
 
-HRESULT CameraSession::list(const std::wstring& parent, std::vector<ObjectInfo>& children,
+HRESULT CameraSession::List(const std::wstring& parent, std::vector<ObjectInfo>& children,
                             GCancellable* cancellable)
 {
     const std::string path = PathOf(parent);
@@ -127,20 +127,20 @@ HRESULT CameraSession::list(const std::wstring& parent, std::vector<ObjectInfo>&
         return S_OK;
     const CameraHandle::Scope scope(*m_camera, cancellable);
     std::vector<std::string> names;
-    if (const HRESULT result = m_camera->folders(FolderName(path), names); FAILED(result))
+    if (const HRESULT result = m_camera->Folders(FolderName(path), names); FAILED(result))
         return result;
     for (const std::string& name : names)
         children.push_back(FolderInfo(path + name + '/'));
-    if (const HRESULT result = m_camera->files(FolderName(path), names); FAILED(result))
+    if (const HRESULT result = m_camera->Files(FolderName(path), names); FAILED(result))
         return result;
     for (const std::string& name : names) {
         children.emplace_back();
         children.back().id = WideText((path + name).c_str());
     }
-    return scope.isCancelled() ? kCancelled : S_OK;
+    return scope.IsCancelled() ? kCancelled : S_OK;
 }
 
-HRESULT CameraSession::describe(const std::wstring& id, ObjectInfo& info, GCancellable* cancellable)
+HRESULT CameraSession::Describe(const std::wstring& id, ObjectInfo& info, GCancellable* cancellable)
 {
     if (id == kDeviceObject) {
         info = DeviceInfo(m_name);
@@ -151,19 +151,19 @@ HRESULT CameraSession::describe(const std::wstring& id, ObjectInfo& info, GCance
         return kNotFound;
     const CameraHandle::Scope scope(*m_camera, cancellable);
     if (!IsFolderPath(path))
-        return describeFile(path, info);
+        return DescribeFile(path, info);
     bool isThere = false;
-    const HRESULT result = checkFolder(path, isThere);
+    const HRESULT result = CheckFolder(path, isThere);
     info = FolderInfo(path);
     return FAILED(result) || isThere ? result : kNotFound;
 }
 
-HRESULT CameraSession::describeFile(const std::string& path, ObjectInfo& info)
+HRESULT CameraSession::DescribeFile(const std::string& path, ObjectInfo& info)
 {
     const auto [folder, name] = Split(path);
     CameraFileInfo answer = {};
-    const int result = gp_camera_file_get_info(m_camera->camera(), FolderName(folder).c_str(),
-                                               name.c_str(), &answer, m_camera->context());
+    const int result = gp_camera_file_get_info(m_camera->Get(), FolderName(folder).c_str(),
+                                               name.c_str(), &answer, m_camera->Context());
     if (result < GP_OK)
         return FromCameraResult(result);
     info = {};
@@ -178,7 +178,7 @@ HRESULT CameraSession::describeFile(const std::string& path, ObjectInfo& info)
     return S_OK;
 }
 
-HRESULT CameraSession::openData(const std::wstring& id, Resource resource,
+HRESULT CameraSession::OpenData(const std::wstring& id, Resource resource,
                                 std::unique_ptr<DataReader>& reader, GCancellable* cancellable)
 {
     const std::string path = PathOf(id);
@@ -188,7 +188,7 @@ HRESULT CameraSession::openData(const std::wstring& id, Resource resource,
         return kNoElement;
     ObjectInfo info;
     const CameraHandle::Scope scope(*m_camera, cancellable);
-    if (const HRESULT result = describeFile(path, info); FAILED(result))
+    if (const HRESULT result = DescribeFile(path, info); FAILED(result))
         return result;
     const auto [folder, name] = Split(path);
     if (resource == Resource::Data) {
@@ -198,36 +198,35 @@ HRESULT CameraSession::openData(const std::wstring& id, Resource resource,
     CameraFile* target = nullptr;
     gp_file_new(&target);
     CameraPtr<CameraFile> file(target);
-    const int result =
-        gp_camera_file_get(m_camera->camera(), FolderName(folder).c_str(), name.c_str(),
-                           GP_FILE_TYPE_PREVIEW, file.get(), m_camera->context());
+    const int result = gp_camera_file_get(m_camera->Get(), FolderName(folder).c_str(), name.c_str(),
+                                          GP_FILE_TYPE_PREVIEW, file.get(), m_camera->Context());
     if (result < GP_OK)
         return result == GP_ERROR_NOT_SUPPORTED ? kNoElement : FromCameraResult(result);
     reader = std::make_unique<PreviewReader>(std::move(file));
     return S_OK;
 }
 
-HRESULT CameraSession::remove(const std::wstring& id, GCancellable* cancellable)
+HRESULT CameraSession::Remove(const std::wstring& id, GCancellable* cancellable)
 {
     const std::string path = PathOf(id);
     const bool isFolder = IsFolderPath(path);
     if (path.size() < 2 || (isFolder && Split(path).first == "/"))
         return E_ACCESSDENIED;
     const CameraHandle::Scope scope(*m_camera, cancellable);
-    Camera* camera = m_camera->camera();
+    Camera* camera = m_camera->Get();
     const auto [folder, name] = Split(path);
     const std::string parent = FolderName(folder);
     int result = GP_OK;
     if (isFolder) {
         std::vector<ObjectInfo> children;
-        if (const HRESULT listed = list(id, children, cancellable); FAILED(listed))
+        if (const HRESULT listed = List(id, children, cancellable); FAILED(listed))
             return listed;
         if (!children.empty())
             return kNotEmpty;
         result =
-            gp_camera_folder_remove_dir(camera, parent.c_str(), name.c_str(), m_camera->context());
+            gp_camera_folder_remove_dir(camera, parent.c_str(), name.c_str(), m_camera->Context());
     } else {
-        result = gp_camera_file_delete(camera, parent.c_str(), name.c_str(), m_camera->context());
+        result = gp_camera_file_delete(camera, parent.c_str(), name.c_str(), m_camera->Context());
     }
     if (result < GP_OK)
         return FromCameraResult(result);
@@ -235,7 +234,7 @@ HRESULT CameraSession::remove(const std::wstring& id, GCancellable* cancellable)
     gp_filesystem_reset(camera->fs);
     std::vector<std::string> names;
     const HRESULT listed =
-        isFolder ? m_camera->folders(parent, names) : m_camera->files(parent, names);
+        isFolder ? m_camera->Folders(parent, names) : m_camera->Files(parent, names);
     if (FAILED(listed))
         return listed;
     return Contains(names, name) ? E_ACCESSDENIED : S_OK;

@@ -16,25 +16,25 @@ class CameraHandle;
 class CameraSession final : public DeviceSession
 {
 public:
-    /// \a uri is the root under which GVfs may have mounted the camera, which is undone by open();
+    /// \a uri is the root under which GVfs may have mounted the camera, which is undone by Open();
     /// \a port names the USB port as "usb:BBB,DDD".
     CameraSession(std::string uri, std::string port, std::wstring name);
     ~CameraSession() override;
 
-    HRESULT open(GCancellable* cancellable) override;
-    bool isPresent(bool hasFailed) override;
-    HRESULT list(const std::wstring& parent, std::vector<ObjectInfo>& children,
+    HRESULT Open(GCancellable* cancellable) override;
+    bool IsPresent(bool hasFailed) override;
+    HRESULT List(const std::wstring& parent, std::vector<ObjectInfo>& children,
                  GCancellable* cancellable) override;
-    HRESULT describe(const std::wstring& id, ObjectInfo& info, GCancellable* cancellable) override;
-    HRESULT openData(const std::wstring& id, Resource resource, std::unique_ptr<DataReader>& reader,
+    HRESULT Describe(const std::wstring& id, ObjectInfo& info, GCancellable* cancellable) override;
+    HRESULT OpenData(const std::wstring& id, Resource resource, std::unique_ptr<DataReader>& reader,
                      GCancellable* cancellable) override;
     /// Not to be believed at once: a protected object stays although the camera reports success.
-    HRESULT remove(const std::wstring& id, GCancellable* cancellable) override;
+    HRESULT Remove(const std::wstring& id, GCancellable* cancellable) override;
 
 private:
-    void useUtf8();
-    HRESULT describeFile(const std::string& path, ObjectInfo& info);
-    HRESULT checkFolder(const std::string& path, bool& isThere);
+    void UseUtf8();
+    HRESULT DescribeFile(const std::string& path, ObjectInfo& info);
+    HRESULT CheckFolder(const std::string& path, bool& isThere);
 
     const std::string m_uri;
     const std::string m_port;

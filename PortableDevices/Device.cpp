@@ -17,9 +17,9 @@ constexpr std::chrono::seconds kOpeningLimit{30};
 NLEComPtr<IPortableDeviceValues> RemovalEvent(const std::wstring& deviceId)
 {
     const auto event = MakeCom<PropertyValues>();
-    event->store(Wpd::WPD_EVENT_PARAMETER_PNP_DEVICE_ID, Variant::text(deviceId.c_str()));
-    event->store(Wpd::WPD_EVENT_PARAMETER_EVENT_ID,
-                 Variant::identifier(Wpd::WPD_EVENT_DEVICE_REMOVED));
+    event->Store(Wpd::WPD_EVENT_PARAMETER_PNP_DEVICE_ID, Variant::Text(deviceId.c_str()));
+    event->Store(Wpd::WPD_EVENT_PARAMETER_EVENT_ID,
+                 Variant::Identifier(Wpd::WPD_EVENT_DEVICE_REMOVED));
     return event;
 }
 
@@ -30,7 +30,7 @@ Device::~Device()
     Close();
 }
 
-std::shared_ptr<OpenDevice> Device::opened()
+std::shared_ptr<OpenDevice> Device::Opened()
 {
     const std::lock_guard lock(m_mutex);
     return m_device;
@@ -41,7 +41,7 @@ HRESULT Device::Open(LPCWSTR id, IPortableDeviceValues* clientInformation)
     return ComGuard([&] {
         if (!id || !clientInformation)
             return E_POINTER;
-        if (opened())
+        if (Opened())
             return kAlreadyOpen;
         const std::vector<DeviceEntry> entries = ListDevices();
         const auto entry = std::find_if(entries.begin(), entries.end(),
@@ -50,14 +50,14 @@ HRESULT Device::Open(LPCWSTR id, IPortableDeviceValues* clientInformation)
             return kNotFound;
         const auto device = std::make_shared<OpenDevice>(entry->id, MakeSession(*entry));
         // Watched from now on: a device that goes while it opens must not stay.
-        VolumeWatcher::instance().watch(device);
+        VolumeWatcher::Instance().Watch(device);
         const DeviceWorker::Pending opening =
-            device->worker().start([](DeviceSession& session, GCancellable* cancellable) {
-                return session.open(cancellable);
+            device->Worker().Start([](DeviceSession& session, GCancellable* cancellable) {
+                return session.Open(cancellable);
             });
         // Until it is open, nobody else can cancel.
         const HRESULT result =
-            device->worker().finish(opening, DeviceWorker::Clock::now() + kOpeningLimit);
+            device->Worker().Finish(opening, DeviceWorker::Clock::now() + kOpeningLimit);
         if (FAILED(result))
             return result == kCancelled ? kTimedOut : result;
         const std::lock_guard lock(m_mutex);
@@ -70,7 +70,7 @@ HRESULT Device::Open(LPCWSTR id, IPortableDeviceValues* clientInformation)
 
 HRESULT Device::Content(IPortableDeviceContent** out)
 {
-    const std::shared_ptr<OpenDevice> device = opened();
+    const std::shared_ptr<OpenDevice> device = Opened();
     if (!device)
         return kNotOpen;
     return GiveNew<DeviceContent>(out, device);
@@ -79,10 +79,10 @@ HRESULT Device::Content(IPortableDeviceContent** out)
 HRESULT Device::Cancel()
 {
     return ComGuard([&] {
-        const std::shared_ptr<OpenDevice> device = opened();
+        const std::shared_ptr<OpenDevice> device = Opened();
         if (!device)
             return kNotOpen;
-        device->worker().cancel();
+        device->Worker().Cancel();
         return S_OK;
     });
 }
@@ -96,7 +96,7 @@ HRESULT Device::Close()
             m_device.swap(device);
         }
         if (device)
-            device->worker().close();
+            device->Worker().Close();
         return S_OK;
     });
 }
@@ -108,11 +108,11 @@ HRESULT Device::Advise(const DWORD /*flags*/, IPortableDeviceEventCallback* call
         if (!callback || !cookie)
             return E_POINTER;
         *cookie = nullptr;
-        const std::shared_ptr<OpenDevice> device = opened();
+        const std::shared_ptr<OpenDevice> device = Opened();
         if (!device)
             return kNotOpen;
-        const unsigned number = device->worker().addListener(
-            [sink = NLEComPtr<IPortableDeviceEventCallback>(callback), id = device->id()] {
+        const unsigned number = device->Worker().AddListener(
+            [sink = NLEComPtr<IPortableDeviceEventCallback>(callback), id = device->Id()] {
                 // Without memory no event comes; the device's thread has nobody to throw to.
                 ComGuard([&] { return sink->OnEvent(RemovalEvent(id).get()); });
             });
@@ -127,12 +127,12 @@ HRESULT Device::Unadvise(LPCWSTR cookie)
 {
     if (!cookie)
         return E_POINTER;
-    const std::shared_ptr<OpenDevice> device = opened();
+    const std::shared_ptr<OpenDevice> device = Opened();
     if (!device)
         return kNotOpen;
     const auto number = static_cast<unsigned>(std::wcstoul(cookie, nullptr, 10));
     // Once the event has come, its registration is used up; ending it is no failure.
-    device->worker().removeListener(number);
+    device->Worker().RemoveListener(number);
     return S_OK;
 }
 
@@ -140,8 +140,8 @@ HRESULT Device::GetPnPDeviceID(LPWSTR* id)
 {
     if (!id)
         return E_POINTER;
-    const std::shared_ptr<OpenDevice> device = opened();
-    *id = device ? TaskText(device->id().c_str()) : nullptr;
+    const std::shared_ptr<OpenDevice> device = Opened();
+    *id = device ? TaskText(device->Id().c_str()) : nullptr;
     return device ? S_OK : kNotOpen;
 }
 

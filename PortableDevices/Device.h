@@ -31,7 +31,7 @@ protected:
     ~Device() override;
 
 private:
-    std::shared_ptr<OpenDevice> opened();
+    std::shared_ptr<OpenDevice> Opened();
 
     std::mutex m_mutex; // guards what follows
     std::shared_ptr<OpenDevice> m_device;

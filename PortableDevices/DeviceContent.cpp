@@ -28,7 +28,7 @@ public:
         if (!ids || (!fetched && wanted != 1))
             return E_POINTER;
         const std::lock_guard lock(m_mutex);
-        const auto count = static_cast<ULONG>(std::min<std::size_t>(wanted, left()));
+        const auto count = static_cast<ULONG>(std::min<std::size_t>(wanted, Left()));
         for (ULONG i = 0; i < count; ++i)
             ids[i] = TaskText((*m_ids)[m_next++].c_str());
         if (fetched)
@@ -38,7 +38,7 @@ public:
     HRESULT Skip(ULONG count) override
     {
         const std::lock_guard lock(m_mutex);
-        const std::size_t skipped = std::min<std::size_t>(count, left());
+        const std::size_t skipped = std::min<std::size_t>(count, Left());
         m_next += skipped;
         return skipped == count ? S_OK : S_FALSE;
     }
@@ -56,13 +56,13 @@ public:
     HRESULT Cancel() override
     {
         return ComGuard([&] {
-            m_device->worker().cancel();
+            m_device->Worker().Cancel();
             return S_OK;
         });
     }
 
 private:
-    std::size_t left() const { return m_ids->size() - m_next; }
+    std::size_t Left() const { return m_ids->size() - m_next; }
 
     const std::shared_ptr<OpenDevice> m_device;
     const List m_ids;
@@ -81,7 +81,7 @@ HRESULT DeviceContent::EnumObjects(const DWORD /*flags*/, LPCWSTR parent,
             return E_POINTER;
         *out = nullptr;
         auto ids = std::make_shared<std::vector<std::wstring>>();
-        if (const HRESULT result = m_device->list(parent, *ids); FAILED(result))
+        if (const HRESULT result = m_device->List(parent, *ids); FAILED(result))
             return result;
         return GiveNew<ObjectIds>(out, m_device, std::move(ids));
     });
@@ -112,13 +112,13 @@ HRESULT DeviceContent::Delete(const DWORD options, IPortableDevicePropVariantCol
         DWORD failures = 0;
         for (DWORD i = 0; i < count; ++i) {
             Variant id;
-            ids->GetAt(i, id.put());
+            ids->GetAt(i, id.Put());
             const HRESULT outcome =
-                id.get().vt == VT_LPWSTR
-                    ? m_device->remove(id.get().pwszVal,
+                id.Get().vt == VT_LPWSTR
+                    ? m_device->Remove(id.Get().pwszVal,
                                        options & Wpd::PORTABLE_DEVICE_DELETE_WITH_RECURSION)
                     : E_INVALIDARG;
-            if (const HRESULT noted = outcomes->Add(&Variant::error(outcome).get()); FAILED(noted))
+            if (const HRESULT noted = outcomes->Add(&Variant::Error(outcome).Get()); FAILED(noted))
                 return noted;
             if (SUCCEEDED(outcome))
                 continue;
@@ -136,7 +136,7 @@ HRESULT DeviceContent::Delete(const DWORD options, IPortableDevicePropVariantCol
 HRESULT DeviceContent::Cancel()
 {
     return ComGuard([&] {
-        m_device->worker().cancel();
+        m_device->Worker().Cancel();
         return S_OK;
     });
 }

@@ -39,7 +39,7 @@ std::vector<DeviceEntry> ConfiguredFolders()
 std::vector<DeviceEntry> ListDevices()
 {
     std::vector<DeviceEntry> entries = ConfiguredFolders();
-    for (DeviceEntry& entry : VolumeWatcher::instance().entries())
+    for (DeviceEntry& entry : VolumeWatcher::Instance().Entries())
         entries.push_back(std::move(entry));
     return entries;
 }

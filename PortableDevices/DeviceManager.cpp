@@ -45,7 +45,7 @@ HRESULT DeviceManager::GetDevices(LPWSTR* ids, DWORD* count)
     return given == known ? S_OK : S_FALSE;
 }
 
-HRESULT DeviceManager::giveText(LPCWSTR id, std::wstring DeviceEntry::*text, WCHAR* buffer,
+HRESULT DeviceManager::GiveText(LPCWSTR id, std::wstring DeviceEntry::*text, WCHAR* buffer,
                                 DWORD* length)
 {
     if (!id || !length)
@@ -68,12 +68,12 @@ HRESULT DeviceManager::giveText(LPCWSTR id, std::wstring DeviceEntry::*text, WCH
 
 HRESULT DeviceManager::GetDeviceFriendlyName(LPCWSTR id, WCHAR* name, DWORD* length)
 {
-    return giveText(id, &DeviceEntry::name, name, length);
+    return GiveText(id, &DeviceEntry::name, name, length);
 }
 
 HRESULT DeviceManager::GetDeviceDescription(LPCWSTR id, WCHAR* description, DWORD* length)
 {
-    return giveText(id, &DeviceEntry::description, description, length);
+    return GiveText(id, &DeviceEntry::description, description, length);
 }
 
 HRESULT DeviceManager::GetDeviceManufacturer(LPCWSTR /*id*/, WCHAR* /*manufacturer*/,

@@ -24,7 +24,7 @@ public:
     HRESULT GetPrivateDevices(LPWSTR* ids, DWORD* count) override;
 
 private:
-    HRESULT giveText(LPCWSTR id, std::wstring DeviceEntry::*text, WCHAR* buffer, DWORD* length);
+    HRESULT GiveText(LPCWSTR id, std::wstring DeviceEntry::*text, WCHAR* buffer, DWORD* length);
 
     std::mutex m_mutex; // guards what follows
     bool m_isListed = false;

@@ -55,18 +55,18 @@ public:
 
     /// Whether the data lies in the local file system, so that reading may go on in the caller's
     /// thread, one at a time. A local reader sees to the presence of its device itself.
-    virtual bool isLocal() const { return false; }
+    virtual bool IsLocal() const { return false; }
     /// A path that leads to the open local file itself as long as the reader lives; else empty.
-    virtual std::string localPath() const { return {}; }
+    virtual std::string LocalPath() const { return {}; }
     /// Reads at most \a size bytes; 0 bytes with success is the end of the data.
-    virtual HRESULT read(void* buffer, std::uint32_t size, std::uint32_t& got,
+    virtual HRESULT Read(void* buffer, std::uint32_t size, std::uint32_t& got,
                          GCancellable* cancellable) = 0;
     /// Goes to \a position, counted from the start of the data.
-    virtual HRESULT seek(std::uint64_t position, GCancellable* cancellable) = 0;
+    virtual HRESULT Seek(std::uint64_t position, GCancellable* cancellable) = 0;
 
     /// Bytes that the device promised: data that ends before is cut short. 0 where it told none.
-    std::uint64_t promisedSize() const { return m_promisedSize; }
-    void setPromisedSize(std::uint64_t size) { m_promisedSize = size; }
+    std::uint64_t PromisedSize() const { return m_promisedSize; }
+    void SetPromisedSize(std::uint64_t size) { m_promisedSize = size; }
 
 private:
     std::uint64_t m_promisedSize = 0;
@@ -82,23 +82,23 @@ public:
     DeviceSession& operator=(const DeviceSession&) = delete;
     virtual ~DeviceSession() = default;
 
-    virtual HRESULT open(GCancellable* cancellable) = 0;
+    virtual HRESULT Open(GCancellable* cancellable) = 0;
     /// Whether the device is still there. Cheap: asked before every operation and twice a second
     /// in between. \a hasFailed tells that an operation has just failed, which justifies a
     /// question to the device itself.
-    virtual bool isPresent(bool hasFailed) = 0;
+    virtual bool IsPresent(bool hasFailed) = 0;
 
     /// Appends the children of \a parent, completely or, where that would cost a question to the
     /// device for each of them, with their identifiers only.
-    virtual HRESULT list(const std::wstring& parent, std::vector<ObjectInfo>& children,
+    virtual HRESULT List(const std::wstring& parent, std::vector<ObjectInfo>& children,
                          GCancellable* cancellable) = 0;
-    virtual HRESULT describe(const std::wstring& id, ObjectInfo& info,
+    virtual HRESULT Describe(const std::wstring& id, ObjectInfo& info,
                              GCancellable* cancellable) = 0;
     /// kNoElement when the object lacks the resource.
-    virtual HRESULT openData(const std::wstring& id, Resource resource,
+    virtual HRESULT OpenData(const std::wstring& id, Resource resource,
                              std::unique_ptr<DataReader>& reader, GCancellable* cancellable) = 0;
     /// Deletes a file or an empty folder; success means that it is gone.
-    virtual HRESULT remove(const std::wstring& id, GCancellable* cancellable) = 0;
+    virtual HRESULT Remove(const std::wstring& id, GCancellable* cancellable) = 0;
 };
 
 /// What every device reports of itself, its root object.

@@ -36,14 +36,14 @@ struct DeviceWorker::State
 {
     explicit State(std::unique_ptr<DeviceSession> opened) : session(std::move(opened)) {}
 
-    void loop();
+    void Loop();
     template <typename Work>
-    void unlocked(std::unique_lock<std::mutex>& lock, GPtr<GCancellable> cancellable, Work work);
-    bool isStuck();
-    void perform(Job& job);
-    HRESULT resultOf(const Job& job);
-    void announceRemoval();
-    void waitForCall(std::unique_lock<std::mutex>& lock, unsigned listener);
+    void Unlocked(std::unique_lock<std::mutex>& lock, GPtr<GCancellable> cancellable, Work work);
+    bool IsStuck();
+    void Perform(Job& job);
+    HRESULT ResultOf(const Job& job);
+    void AnnounceRemoval();
+    void WaitForCall(std::unique_lock<std::mutex>& lock, unsigned listener);
 
     std::unique_ptr<DeviceSession> session; // the thread's own
     bool isOpened = false;                  // the thread's own: an operation has succeeded
@@ -69,7 +69,7 @@ struct DeviceWorker::State
     std::thread::id threadId;
 };
 
-void DeviceWorker::State::loop()
+void DeviceWorker::State::Loop()
 {
     // Mounting waits on a context of this thread's own.
     const GPtr<GMainContext> context(g_main_context_new());
@@ -82,14 +82,14 @@ void DeviceWorker::State::loop()
         if (!jobs.empty()) {
             Job job = std::move(jobs.front());
             jobs.pop_front();
-            unlocked(lock, Share(job.cancellable.get()), [&] { perform(job); });
+            Unlocked(lock, Share(job.cancellable.get()), [&] { Perform(job); });
         } else if (isOpened && !isRemoved) {
-            unlocked(lock, GPtr<GCancellable>(g_cancellable_new()),
-                     [this] { isRemoved = session && !session->isPresent(false); });
+            Unlocked(lock, GPtr<GCancellable>(g_cancellable_new()),
+                     [this] { isRemoved = session && !session->IsPresent(false); });
         }
         if (isRemoved && !isAnnounced && !isStopping) {
             isAnnounced = true;
-            unlocked(lock, GPtr<GCancellable>(g_cancellable_new()), [this] { announceRemoval(); });
+            Unlocked(lock, GPtr<GCancellable>(g_cancellable_new()), [this] { AnnounceRemoval(); });
         }
     }
     lock.unlock();
@@ -102,7 +102,7 @@ void DeviceWorker::State::loop()
 
 // Runs \a work as what \a cancellable ends.
 template <typename Work>
-void DeviceWorker::State::unlocked(std::unique_lock<std::mutex>& lock,
+void DeviceWorker::State::Unlocked(std::unique_lock<std::mutex>& lock,
                                    GPtr<GCancellable> cancellable, Work work)
 {
     running = std::move(cancellable);
@@ -114,7 +114,7 @@ void DeviceWorker::State::unlocked(std::unique_lock<std::mutex>& lock,
 }
 
 // Whether what runs was cancelled long ago.
-bool DeviceWorker::State::isStuck()
+bool DeviceWorker::State::IsStuck()
 {
     const std::lock_guard lock(mutex);
     if (!running || !g_cancellable_is_cancelled(running.get()))
@@ -124,20 +124,20 @@ bool DeviceWorker::State::isStuck()
     return Clock::now() >= endOfPatience;
 }
 
-void DeviceWorker::State::perform(Job& job)
+void DeviceWorker::State::Perform(Job& job)
 {
     if (job.cleanup) {
         job.cleanup();
         return;
     }
-    job.result.set_value(resultOf(job));
+    job.result.set_value(ResultOf(job));
 }
 
-HRESULT DeviceWorker::State::resultOf(const Job& job)
+HRESULT DeviceWorker::State::ResultOf(const Job& job)
 {
     if (!session)
         return kNotOpen;
-    if (!isRemoved && isOpened && !session->isPresent(false))
+    if (!isRemoved && isOpened && !session->IsPresent(false))
         isRemoved = true;
     if (isRemoved)
         return kDeviceGone;
@@ -148,12 +148,12 @@ HRESULT DeviceWorker::State::resultOf(const Job& job)
         isOpened = true;
         return result;
     }
-    if (isOpened && !isRemoved && result != kCancelled && !session->isPresent(true))
+    if (isOpened && !isRemoved && result != kCancelled && !session->IsPresent(true))
         isRemoved = true;
     return isRemoved ? kDeviceGone : result;
 }
 
-void DeviceWorker::State::announceRemoval()
+void DeviceWorker::State::AnnounceRemoval()
 {
     std::unique_lock lock(mutex);
     while (!listeners.empty() && !isStopping) {
@@ -171,7 +171,7 @@ void DeviceWorker::State::announceRemoval()
     }
 }
 
-void DeviceWorker::State::waitForCall(std::unique_lock<std::mutex>& lock, unsigned listener)
+void DeviceWorker::State::WaitForCall(std::unique_lock<std::mutex>& lock, unsigned listener)
 {
     if (listener != 0 && std::this_thread::get_id() != threadId)
         callEnded.wait(lock, [this, listener] { return calledListener != listener; });
@@ -181,13 +181,13 @@ DeviceWorker::DeviceWorker(std::unique_ptr<DeviceSession> session)
     : m_state(std::make_shared<State>(std::move(session)))
 {
     const std::lock_guard lock(m_state->mutex);
-    m_state->thread = std::thread([state = m_state] { state->loop(); });
+    m_state->thread = std::thread([state = m_state] { state->Loop(); });
     m_state->threadId = m_state->thread.get_id();
 }
 
 DeviceWorker::~DeviceWorker()
 {
-    cancel();
+    Cancel();
     {
         const std::lock_guard lock(m_state->mutex);
         m_state->isStopping = true;
@@ -206,13 +206,13 @@ DeviceWorker::~DeviceWorker()
         m_state->thread.detach();
 }
 
-DeviceWorker::Pending DeviceWorker::start(Task task)
+DeviceWorker::Pending DeviceWorker::Start(Task task)
 {
     Job job;
     job.task = std::move(task);
     job.cancellable.reset(g_cancellable_new());
     Pending pending{job.result.get_future(), Share(job.cancellable.get())};
-    if (m_state->isStuck()) {
+    if (m_state->IsStuck()) {
         job.result.set_value(m_state->isRemoved ? kDeviceGone : kTimedOut);
         return pending;
     }
@@ -227,24 +227,24 @@ DeviceWorker::Pending DeviceWorker::start(Task task)
     return pending;
 }
 
-HRESULT DeviceWorker::run(Task task)
+HRESULT DeviceWorker::Run(Task task)
 {
     // A listener's own call cannot wait for its thread, which is free for it.
     if (std::this_thread::get_id() == m_state->threadId) {
         Job job;
         job.task = std::move(task);
         job.cancellable.reset(g_cancellable_new());
-        return m_state->resultOf(job);
+        return m_state->ResultOf(job);
     }
-    return finish(start(std::move(task)));
+    return Finish(Start(std::move(task)));
 }
 
-HRESULT DeviceWorker::finish(const Pending& pending, Clock::time_point deadline)
+HRESULT DeviceWorker::Finish(const Pending& pending, Clock::time_point deadline)
 {
     while (pending.result.wait_for(kLookInterval) != std::future_status::ready) {
         if (Clock::now() >= deadline)
             g_cancellable_cancel(pending.cancellable.get());
-        if (!m_state->isStuck())
+        if (!m_state->IsStuck())
             continue;
         const bool wasCancelled = g_cancellable_is_cancelled(pending.cancellable.get());
         g_cancellable_cancel(pending.cancellable.get()); // it may not have had its turn yet
@@ -253,7 +253,7 @@ HRESULT DeviceWorker::finish(const Pending& pending, Clock::time_point deadline)
     return pending.result.get();
 }
 
-void DeviceWorker::startCleanup(std::function<void()> cleanup)
+void DeviceWorker::StartCleanup(std::function<void()> cleanup)
 {
     Job job;
     job.cleanup = std::move(cleanup);
@@ -265,7 +265,7 @@ void DeviceWorker::startCleanup(std::function<void()> cleanup)
     m_state->wake.notify_one();
 }
 
-void DeviceWorker::cancel()
+void DeviceWorker::Cancel()
 {
     std::vector<GPtr<GCancellable>> targets;
     {
@@ -280,34 +280,34 @@ void DeviceWorker::cancel()
         g_cancellable_cancel(target.get());
 }
 
-unsigned DeviceWorker::cancelCount() const
+unsigned DeviceWorker::CancelCount() const
 {
     return m_state->cancelCount;
 }
 
-HRESULT DeviceWorker::resultSince(unsigned count) const
+HRESULT DeviceWorker::ResultSince(unsigned count) const
 {
     if (m_state->isRemoved)
         return kDeviceGone;
     return m_state->cancelCount == count ? S_OK : kCancelled;
 }
 
-void DeviceWorker::close()
+void DeviceWorker::Close()
 {
-    cancel();
+    Cancel();
     {
         std::unique_lock lock(m_state->mutex);
         m_state->isClosed = true;
         m_state->listeners.clear();
-        m_state->waitForCall(lock, m_state->calledListener);
+        m_state->WaitForCall(lock, m_state->calledListener);
     }
-    startCleanup([state = m_state.get()] { state->session.reset(); });
+    StartCleanup([state = m_state.get()] { state->session.reset(); });
 }
 
-void DeviceWorker::noteRemoval()
+void DeviceWorker::NoteRemoval()
 {
     m_state->isRemoved = true;
-    cancel();
+    Cancel();
     // Under the lock, so that the thread is either waiting or yet to look.
     {
         const std::lock_guard lock(m_state->mutex);
@@ -315,7 +315,7 @@ void DeviceWorker::noteRemoval()
     m_state->wake.notify_all();
 }
 
-unsigned DeviceWorker::addListener(Listener listener)
+unsigned DeviceWorker::AddListener(Listener listener)
 {
     const std::lock_guard lock(m_state->mutex);
     if (m_state->isRemoved)
@@ -324,11 +324,11 @@ unsigned DeviceWorker::addListener(Listener listener)
     return m_state->lastListener;
 }
 
-bool DeviceWorker::removeListener(unsigned number)
+bool DeviceWorker::RemoveListener(unsigned number)
 {
     std::unique_lock lock(m_state->mutex);
     const bool isKnown = m_state->listeners.erase(number) > 0;
-    m_state->waitForCall(lock, number);
+    m_state->WaitForCall(lock, number);
     return isKnown;
 }
 

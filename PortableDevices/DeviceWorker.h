@@ -39,34 +39,34 @@ public:
     /// is called afterwards.
     ~DeviceWorker();
 
-    /// Runs \a task and waits for its result: kCancelled after cancel(), kDeviceGone when the
+    /// Runs \a task and waits for its result: kCancelled after Cancel(), kDeviceGone when the
     /// device is or gets removed, kTimedOut while it hangs in something that was cancelled.
-    HRESULT run(Task task);
+    HRESULT Run(Task task);
     /// Runs \a task without waiting.
-    Pending start(Task task);
-    /// Waits for the result, as run(); cancels the operation at \a deadline.
-    HRESULT finish(const Pending& pending, Clock::time_point deadline = Clock::time_point::max());
+    Pending Start(Task task);
+    /// Waits for the result, as Run(); cancels the operation at \a deadline.
+    HRESULT Finish(const Pending& pending, Clock::time_point deadline = Clock::time_point::max());
     /// Runs \a cleanup even when the device is gone or closed; for what lives on its thread.
-    void startCleanup(std::function<void()> cleanup);
+    void StartCleanup(std::function<void()> cleanup);
 
     /// Ends the operations that run or wait.
-    void cancel();
-    /// Counts the ends of everything under way, through cancel() or the removal.
-    unsigned cancelCount() const;
-    /// S_OK when nothing was ended since cancelCount() gave \a count, else kDeviceGone or
+    void Cancel();
+    /// Counts the ends of everything under way, through Cancel() or the removal.
+    unsigned CancelCount() const;
+    /// S_OK when nothing was ended since CancelCount() gave \a count, else kDeviceGone or
     /// kCancelled.
-    HRESULT resultSince(unsigned count) const;
+    HRESULT ResultSince(unsigned count) const;
     /// Ends the session; every later operation gives kNotOpen.
-    void close();
+    void Close();
     /// Tells that the device was removed, when somebody else noticed.
-    void noteRemoval();
+    void NoteRemoval();
 
     /// Calls \a listener once when the device is removed, from the device's thread. Gives its
     /// number; 0 when the device is gone already.
-    unsigned addListener(Listener listener);
+    unsigned AddListener(Listener listener);
     /// Returns false when there is no such listener. A call that is under way is waited for, except
     /// by the listener itself; no call comes afterwards.
-    bool removeListener(unsigned number);
+    bool RemoveListener(unsigned number);
 
 private:
     struct State;

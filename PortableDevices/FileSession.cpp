@@ -56,15 +56,15 @@ HRESULT SeekStream(GInputStream* stream, std::uint64_t position, GCancellable* c
 // For a phone that gives its files only as a whole.
 HRESULT OpenWhole(GFile* file, std::unique_ptr<DataReader>& reader, GCancellable* cancellable)
 {
-    std::unique_ptr<SpoolFile> spool = SpoolFile::create();
+    std::unique_ptr<SpoolFile> spool = SpoolFile::Create();
     if (!spool)
         return kDiskFull;
-    const GPtr<GFile> target(g_file_new_for_path(spool->path().c_str()));
+    const GPtr<GFile> target(g_file_new_for_path(spool->Path().c_str()));
     GPtr<GError> error;
     if (!g_file_copy(file, target.get(), G_FILE_COPY_OVERWRITE, cancellable, nullptr, nullptr,
                      ErrorOut(error)))
         return FromGlibError(error.get());
-    const HRESULT result = spool->startReading();
+    const HRESULT result = spool->StartReading();
     reader = std::move(spool);
     return result;
 }
@@ -83,23 +83,23 @@ public:
     {
     }
 
-    bool isLocal() const override { return true; }
-    std::string localPath() const override
+    bool IsLocal() const override { return true; }
+    std::string LocalPath() const override
     {
         return G_IS_FILE_DESCRIPTOR_BASED(m_stream.get())
                    ? "/proc/self/fd/" + std::to_string(g_file_descriptor_based_get_fd(
                                             G_FILE_DESCRIPTOR_BASED(m_stream.get())))
                    : std::string();
     }
-    HRESULT read(void* buffer, std::uint32_t size, std::uint32_t& got,
+    HRESULT Read(void* buffer, std::uint32_t size, std::uint32_t& got,
                  GCancellable* cancellable) override
     {
         got = 0;
         // An open file can be read to its end after its folder has gone.
-        return m_root->isThere() ? ReadStream(m_stream.get(), buffer, size, got, cancellable)
+        return m_root->IsThere() ? ReadStream(m_stream.get(), buffer, size, got, cancellable)
                                  : kDeviceGone;
     }
-    HRESULT seek(std::uint64_t position, GCancellable* cancellable) override
+    HRESULT Seek(std::uint64_t position, GCancellable* cancellable) override
     {
         return SeekStream(m_stream.get(), position, cancellable);
     }
@@ -118,11 +118,11 @@ public:
     {
     }
 
-    HRESULT read(void* buffer, std::uint32_t size, std::uint32_t& got,
+    HRESULT Read(void* buffer, std::uint32_t size, std::uint32_t& got,
                  GCancellable* cancellable) override
     {
         if (m_whole)
-            return m_whole->read(buffer, size, got, cancellable);
+            return m_whole->Read(buffer, size, got, cancellable);
         HRESULT result = ReadStream(m_stream.get(), buffer, size, got, cancellable);
         if (SUCCEEDED(result))
             m_file.reset(); // what has been read once can be read on
@@ -131,16 +131,16 @@ public:
         std::unique_ptr<DataReader> whole;
         result = OpenWhole(m_file.get(), whole, cancellable);
         if (SUCCEEDED(result))
-            result = whole->seek(m_position, cancellable);
+            result = whole->Seek(m_position, cancellable);
         if (FAILED(result))
             return result;
         m_whole = std::move(whole);
-        return m_whole->read(buffer, size, got, cancellable);
+        return m_whole->Read(buffer, size, got, cancellable);
     }
-    HRESULT seek(std::uint64_t position, GCancellable* cancellable) override
+    HRESULT Seek(std::uint64_t position, GCancellable* cancellable) override
     {
         m_position = position;
-        return m_whole ? m_whole->seek(position, cancellable)
+        return m_whole ? m_whole->Seek(position, cancellable)
                        : SeekStream(m_stream.get(), position, cancellable);
     }
 
@@ -190,10 +190,10 @@ std::string Escaped(const char* name)
 
 LocalRoot::LocalRoot(const char* path) : m_path(path)
 {
-    read(m_device, m_inode);
+    Read(m_device, m_inode);
 }
 
-bool LocalRoot::read(dev_t& device, ino_t& inode) const
+bool LocalRoot::Read(dev_t& device, ino_t& inode) const
 {
     struct stat status = {};
     if (stat(m_path.c_str(), &status) != 0)
@@ -203,11 +203,11 @@ bool LocalRoot::read(dev_t& device, ino_t& inode) const
     return true;
 }
 
-bool LocalRoot::isThere() const
+bool LocalRoot::IsThere() const
 {
     dev_t device = 0;
     ino_t inode = 0;
-    return read(device, inode) && device == m_device && inode == m_inode;
+    return Read(device, inode) && device == m_device && inode == m_inode;
 }
 
 FileSession::FileSession(const std::string& uri, std::wstring name, bool hasStorages,
@@ -219,44 +219,44 @@ FileSession::FileSession(const std::string& uri, std::wstring name, bool hasStor
 {
 }
 
-HRESULT FileSession::open(GCancellable* cancellable)
+HRESULT FileSession::Open(GCancellable* cancellable)
 {
     if (g_file_is_native(m_root.get())) {
         m_local = std::make_shared<LocalRoot>(g_file_peek_path(m_root.get()));
-        return checkRoot(cancellable);
+        return CheckRoot(cancellable);
     }
-    const HRESULT result = openRemote(cancellable);
+    const HRESULT result = OpenRemote(cancellable);
     if (SUCCEEDED(result))
-        VolumeWatcher::instance().followMount(uri());
+        VolumeWatcher::Instance().FollowMount(Uri());
     // GVfs has no code of its own for it.
     return result == E_FAIL && IsHeld(m_usbNode) ? kBusy : result;
 }
 
-std::string FileSession::uri() const
+std::string FileSession::Uri() const
 {
     return GPtr<char>(g_file_get_uri(m_root.get())).get();
 }
 
-HRESULT FileSession::openRemote(GCancellable* cancellable) const
+HRESULT FileSession::OpenRemote(GCancellable* cancellable) const
 {
-    HRESULT result = checkRoot(cancellable);
+    HRESULT result = CheckRoot(cancellable);
     for (int attempt = 0; attempt < kOpenAttempts && FAILED(result); ++attempt) {
         if (attempt > 0)
             g_usleep(kOpenPause);
         const HRESULT mounted = MountAndWait(m_root.get(), cancellable);
-        result = checkRoot(cancellable);
+        result = CheckRoot(cancellable);
         // A device that was plugged in again a moment ago: the daemon of the old mount takes its
         // time to end, and GVfs still asks it.
         const bool isOldMount = result == E_FAIL || (SUCCEEDED(mounted) && result == kDeviceGone);
         if (FAILED(result) && !isOldMount)
             return FAILED(mounted) ? mounted : result;
         if (isOldMount)
-            VolumeWatcher::instance().followMount(uri());
+            VolumeWatcher::Instance().FollowMount(Uri());
     }
     return result;
 }
 
-HRESULT FileSession::checkRoot(GCancellable* cancellable) const
+HRESULT FileSession::CheckRoot(GCancellable* cancellable) const
 {
     GPtr<GError> error;
     const GPtr<GFileInfo> info(g_file_query_info(m_root.get(), kIdentity, G_FILE_QUERY_INFO_NONE,
@@ -266,10 +266,10 @@ HRESULT FileSession::checkRoot(GCancellable* cancellable) const
     return IsFolder(info.get()) ? S_OK : kNotFound;
 }
 
-bool FileSession::isPresent(bool hasFailed)
+bool FileSession::IsPresent(bool hasFailed)
 {
     if (m_local)
-        return m_local->isThere();
+        return m_local->IsThere();
     if (!hasFailed)
         return true;
     GPtr<GError> error;
@@ -278,7 +278,7 @@ bool FileSession::isPresent(bool hasFailed)
     return info != nullptr;
 }
 
-GPtr<GFile> FileSession::fileAt(const std::string& path) const
+GPtr<GFile> FileSession::FileAt(const std::string& path) const
 {
     if (path.empty())
         return Share(m_root.get());
@@ -288,13 +288,13 @@ GPtr<GFile> FileSession::fileAt(const std::string& path) const
     return GPtr<GFile>(g_file_resolve_relative_path(m_root.get(), plain.get()));
 }
 
-std::wstring FileSession::idOf(GFileInfo* info, const std::string& path) const
+std::wstring FileSession::IdOf(GFileInfo* info, const std::string& path) const
 {
     const char* id = g_file_info_get_attribute_string(info, G_FILE_ATTRIBUTE_ID_FILE);
     return WideText((Escaped(id ? id : "") + '/' + path).c_str());
 }
 
-HRESULT FileSession::find(const std::wstring& id, Place& place, const char* attributes,
+HRESULT FileSession::Find(const std::wstring& id, Place& place, const char* attributes,
                           GCancellable* cancellable) const
 {
     const std::string text = Utf8Text(id.c_str());
@@ -302,7 +302,7 @@ HRESULT FileSession::find(const std::wstring& id, Place& place, const char* attr
     if (slash == std::string::npos && id != kDeviceObject)
         return kNotFound;
     place.path = slash == std::string::npos ? "" : text.substr(slash + 1);
-    place.file = fileAt(place.path);
+    place.file = FileAt(place.path);
     if (!place.file)
         return kNotFound;
     GPtr<GError> error;
@@ -310,11 +310,11 @@ HRESULT FileSession::find(const std::wstring& id, Place& place, const char* attr
                                        cancellable, ErrorOut(error)));
     if (!place.info)
         return FromGlibError(error.get());
-    const bool isSame = id == kDeviceObject || idOf(place.info.get(), place.path) == id;
+    const bool isSame = id == kDeviceObject || IdOf(place.info.get(), place.path) == id;
     return isSame && IsListed(place.info.get()) ? S_OK : kNotFound;
 }
 
-HRESULT FileSession::parentOf(const std::string& path, std::wstring& id,
+HRESULT FileSession::ParentOf(const std::string& path, std::wstring& id,
                               GCancellable* cancellable) const
 {
     const std::size_t slash = path.rfind('/');
@@ -323,20 +323,20 @@ HRESULT FileSession::parentOf(const std::string& path, std::wstring& id,
         return S_OK;
     }
     const std::string parent = slash == std::string::npos ? "" : path.substr(0, slash);
-    const GPtr<GFile> file = fileAt(parent);
+    const GPtr<GFile> file = FileAt(parent);
     GPtr<GError> error;
     const GPtr<GFileInfo> info(
         g_file_query_info(file.get(), kIdentity, LinkRule(parent), cancellable, ErrorOut(error)));
     if (!info)
         return FromGlibError(error.get());
-    id = idOf(info.get(), parent);
+    id = IdOf(info.get(), parent);
     return S_OK;
 }
 
-ObjectInfo FileSession::infoOf(GFileInfo* info, const std::string& path) const
+ObjectInfo FileSession::InfoOf(GFileInfo* info, const std::string& path) const
 {
     ObjectInfo object;
-    object.id = idOf(info, path);
+    object.id = IdOf(info, path);
     object.isComplete = true;
     const bool isTop = path.find('/') == std::string::npos;
     const bool isStorage = m_hasStorages ? isTop : path.empty();
@@ -358,27 +358,27 @@ ObjectInfo FileSession::infoOf(GFileInfo* info, const std::string& path) const
     return object;
 }
 
-HRESULT FileSession::describe(const std::wstring& id, ObjectInfo& info, GCancellable* cancellable)
+HRESULT FileSession::Describe(const std::wstring& id, ObjectInfo& info, GCancellable* cancellable)
 {
     if (id == kDeviceObject) {
         info = DeviceInfo(m_name);
         return S_OK;
     }
     Place place;
-    if (const HRESULT result = find(id, place, kDescription, cancellable); FAILED(result))
+    if (const HRESULT result = Find(id, place, kDescription, cancellable); FAILED(result))
         return result;
-    info = infoOf(place.info.get(), place.path);
-    return parentOf(place.path, info.parentId, cancellable);
+    info = InfoOf(place.info.get(), place.path);
+    return ParentOf(place.path, info.parentId, cancellable);
 }
 
-HRESULT FileSession::list(const std::wstring& parent, std::vector<ObjectInfo>& children,
+HRESULT FileSession::List(const std::wstring& parent, std::vector<ObjectInfo>& children,
                           GCancellable* cancellable)
 {
     Place place;
-    if (const HRESULT result = find(parent, place, kDescription, cancellable); FAILED(result))
+    if (const HRESULT result = Find(parent, place, kDescription, cancellable); FAILED(result))
         return result;
     if (parent == kDeviceObject && !m_hasStorages) {
-        children.push_back(infoOf(place.info.get(), ""));
+        children.push_back(InfoOf(place.info.get(), ""));
         children.back().parentId = kDeviceObject;
         return S_OK;
     }
@@ -394,31 +394,31 @@ HRESULT FileSession::list(const std::wstring& parent, std::vector<ObjectInfo>& c
         g_file_enumerator_next_file(files.get(), cancellable, ErrorOut(error))}) {
         if (!IsListed(info.get()))
             continue;
-        children.push_back(infoOf(info.get(), prefix + Escaped(g_file_info_get_name(info.get()))));
+        children.push_back(InfoOf(info.get(), prefix + Escaped(g_file_info_get_name(info.get()))));
         children.back().parentId = parent;
     }
     return error ? FromGlibError(error.get()) : S_OK;
 }
 
-HRESULT FileSession::openData(const std::wstring& id, Resource resource,
+HRESULT FileSession::OpenData(const std::wstring& id, Resource resource,
                               std::unique_ptr<DataReader>& reader, GCancellable* cancellable)
 {
     Place place;
     const std::string attributes = std::string(kIdentity) + "," G_FILE_ATTRIBUTE_STANDARD_SIZE
                                                             "," G_FILE_ATTRIBUTE_PREVIEW_ICON;
-    if (const HRESULT result = find(id, place, attributes.c_str(), cancellable); FAILED(result))
+    if (const HRESULT result = Find(id, place, attributes.c_str(), cancellable); FAILED(result))
         return result;
     if (IsFolder(place.info.get()))
         return kNoElement;
     if (resource == Resource::Thumbnail)
-        return openThumbnail(place.info.get(), reader, cancellable);
-    const HRESULT result = openFile(std::move(place.file), reader, cancellable);
+        return OpenThumbnail(place.info.get(), reader, cancellable);
+    const HRESULT result = OpenFile(std::move(place.file), reader, cancellable);
     if (SUCCEEDED(result))
-        reader->setPromisedSize(static_cast<std::uint64_t>(g_file_info_get_size(place.info.get())));
+        reader->SetPromisedSize(static_cast<std::uint64_t>(g_file_info_get_size(place.info.get())));
     return result;
 }
 
-HRESULT FileSession::openFile(GPtr<GFile> file, std::unique_ptr<DataReader>& reader,
+HRESULT FileSession::OpenFile(GPtr<GFile> file, std::unique_ptr<DataReader>& reader,
                               GCancellable* cancellable) const
 {
     GPtr<GError> error;
@@ -435,7 +435,7 @@ HRESULT FileSession::openFile(GPtr<GFile> file, std::unique_ptr<DataReader>& rea
                                                    : result;
 }
 
-HRESULT FileSession::openThumbnail(GFileInfo* info, std::unique_ptr<DataReader>& reader,
+HRESULT FileSession::OpenThumbnail(GFileInfo* info, std::unique_ptr<DataReader>& reader,
                                    GCancellable* cancellable) const
 {
     GObject* icon = g_file_info_get_attribute_object(info, G_FILE_ATTRIBUTE_PREVIEW_ICON);
@@ -450,7 +450,7 @@ HRESULT FileSession::openThumbnail(GFileInfo* info, std::unique_ptr<DataReader>&
     return S_OK;
 }
 
-HRESULT FileSession::checkIsEmpty(GFile* folder, GCancellable* cancellable) const
+HRESULT FileSession::CheckIsEmpty(GFile* folder, GCancellable* cancellable) const
 {
     GPtr<GError> error;
     const GPtr<GFileEnumerator> files(g_file_enumerate_children(
@@ -464,24 +464,24 @@ HRESULT FileSession::checkIsEmpty(GFile* folder, GCancellable* cancellable) cons
     return first ? kNotEmpty : S_OK;
 }
 
-HRESULT FileSession::remove(const std::wstring& id, GCancellable* cancellable)
+HRESULT FileSession::Remove(const std::wstring& id, GCancellable* cancellable)
 {
     Place place;
-    if (const HRESULT result = find(id, place, kIdentity, cancellable); FAILED(result))
+    if (const HRESULT result = Find(id, place, kIdentity, cancellable); FAILED(result))
         return result;
     const bool isTop = place.path.find('/') == std::string::npos;
     if (place.path.empty() || (m_hasStorages && isTop))
         return E_ACCESSDENIED;
     // A phone takes everything below a folder with it.
     if (IsFolder(place.info.get())) {
-        if (const HRESULT result = checkIsEmpty(place.file.get(), cancellable); FAILED(result))
+        if (const HRESULT result = CheckIsEmpty(place.file.get(), cancellable); FAILED(result))
             return result;
     }
     GPtr<GError> error;
     if (!g_file_delete(place.file.get(), cancellable, ErrorOut(error)))
         return FromGlibError(error.get());
     // A protected object stays although the device said that it went.
-    return SUCCEEDED(find(id, place, kIdentity, cancellable)) ? E_ACCESSDENIED : S_OK;
+    return SUCCEEDED(Find(id, place, kIdentity, cancellable)) ? E_ACCESSDENIED : S_OK;
 }
 
 } // namespace devices

@@ -15,10 +15,10 @@ class LocalRoot
 public:
     /// \a path has to exist.
     explicit LocalRoot(const char* path);
-    bool isThere() const;
+    bool IsThere() const;
 
 private:
-    bool read(dev_t& device, ino_t& inode) const;
+    bool Read(dev_t& device, ino_t& inode) const;
 
     const std::string m_path;
     dev_t m_device = 0;
@@ -37,14 +37,14 @@ public:
     /// Otherwise the root itself is the only storage. \a usbNode is the device file of a phone.
     FileSession(const std::string& uri, std::wstring name, bool hasStorages, std::string usbNode);
 
-    HRESULT open(GCancellable* cancellable) override;
-    bool isPresent(bool hasFailed) override;
-    HRESULT list(const std::wstring& parent, std::vector<ObjectInfo>& children,
+    HRESULT Open(GCancellable* cancellable) override;
+    bool IsPresent(bool hasFailed) override;
+    HRESULT List(const std::wstring& parent, std::vector<ObjectInfo>& children,
                  GCancellable* cancellable) override;
-    HRESULT describe(const std::wstring& id, ObjectInfo& info, GCancellable* cancellable) override;
-    HRESULT openData(const std::wstring& id, Resource resource, std::unique_ptr<DataReader>& reader,
+    HRESULT Describe(const std::wstring& id, ObjectInfo& info, GCancellable* cancellable) override;
+    HRESULT OpenData(const std::wstring& id, Resource resource, std::unique_ptr<DataReader>& reader,
                      GCancellable* cancellable) override;
-    HRESULT remove(const std::wstring& id, GCancellable* cancellable) override;
+    HRESULT Remove(const std::wstring& id, GCancellable* cancellable) override;
 
 private:
     // Where an identifier leads.
@@ -55,20 +55,20 @@ private:
         GPtr<GFileInfo> info;
     };
 
-    std::string uri() const;
-    HRESULT openRemote(GCancellable* cancellable) const;
-    HRESULT checkRoot(GCancellable* cancellable) const;
-    HRESULT find(const std::wstring& id, Place& place, const char* attributes,
+    std::string Uri() const;
+    HRESULT OpenRemote(GCancellable* cancellable) const;
+    HRESULT CheckRoot(GCancellable* cancellable) const;
+    HRESULT Find(const std::wstring& id, Place& place, const char* attributes,
                  GCancellable* cancellable) const;
-    GPtr<GFile> fileAt(const std::string& path) const;
-    std::wstring idOf(GFileInfo* info, const std::string& path) const;
-    HRESULT parentOf(const std::string& path, std::wstring& id, GCancellable* cancellable) const;
-    ObjectInfo infoOf(GFileInfo* info, const std::string& path) const;
-    HRESULT openFile(GPtr<GFile> file, std::unique_ptr<DataReader>& reader,
+    GPtr<GFile> FileAt(const std::string& path) const;
+    std::wstring IdOf(GFileInfo* info, const std::string& path) const;
+    HRESULT ParentOf(const std::string& path, std::wstring& id, GCancellable* cancellable) const;
+    ObjectInfo InfoOf(GFileInfo* info, const std::string& path) const;
+    HRESULT OpenFile(GPtr<GFile> file, std::unique_ptr<DataReader>& reader,
                      GCancellable* cancellable) const;
-    HRESULT openThumbnail(GFileInfo* info, std::unique_ptr<DataReader>& reader,
+    HRESULT OpenThumbnail(GFileInfo* info, std::unique_ptr<DataReader>& reader,
                           GCancellable* cancellable) const;
-    HRESULT checkIsEmpty(GFile* folder, GCancellable* cancellable) const;
+    HRESULT CheckIsEmpty(GFile* folder, GCancellable* cancellable) const;
 
     GPtr<GFile> m_root;
     std::wstring m_name;

@@ -11,11 +11,11 @@ struct Completion
 {
     GPtr<GAsyncResult> result;
 
-    static void store(GObject* /*source*/, GAsyncResult* result, gpointer self)
+    static void Store(GObject* /*source*/, GAsyncResult* result, gpointer self)
     {
         static_cast<Completion*>(self)->result = Share(result);
     }
-    void wait() const
+    void Wait() const
     {
         while (!result)
             g_main_context_iteration(g_main_context_get_thread_default(), TRUE);
@@ -29,8 +29,8 @@ HRESULT MountAndWait(GFile* root, GCancellable* cancellable)
     Completion end;
     GPtr<GError> error;
     g_file_mount_enclosing_volume(root, G_MOUNT_MOUNT_NONE, nullptr, cancellable,
-                                  &Completion::store, &end);
-    end.wait();
+                                  &Completion::Store, &end);
+    end.Wait();
     const bool isDone =
         g_file_mount_enclosing_volume_finish(root, end.result.get(), ErrorOut(error));
     if (isDone || g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_ALREADY_MOUNTED))
@@ -46,8 +46,8 @@ HRESULT UnmountAndWait(GFile* root, GCancellable* cancellable)
         return S_OK;
     Completion end;
     g_mount_unmount_with_operation(mount.get(), G_MOUNT_UNMOUNT_NONE, nullptr, cancellable,
-                                   &Completion::store, &end);
-    end.wait();
+                                   &Completion::Store, &end);
+    end.Wait();
     const bool isDone =
         g_mount_unmount_with_operation_finish(mount.get(), end.result.get(), ErrorOut(error));
     return isDone ? S_OK : FromGlibError(error.get());

@@ -23,29 +23,29 @@ Variant ContentType(ObjectKind kind)
 {
     switch (kind) {
     case ObjectKind::Folder:
-        return Variant::identifier(WPD_CONTENT_TYPE_FOLDER);
+        return Variant::Identifier(WPD_CONTENT_TYPE_FOLDER);
     case ObjectKind::File:
-        return Variant::identifier(kGenericFileType);
+        return Variant::Identifier(kGenericFileType);
     default:
-        return Variant::identifier(kFunctionalObjectType);
+        return Variant::Identifier(kFunctionalObjectType);
     }
 }
 
 Variant ValueOf(const ObjectInfo& info, REFPROPERTYKEY key)
 {
     if (key == WPD_OBJECT_ID)
-        return Variant::text(info.id.c_str());
+        return Variant::Text(info.id.c_str());
     if (key == WPD_OBJECT_PARENT_ID)
-        return Variant::text(info.parentId.c_str());
+        return Variant::Text(info.parentId.c_str());
     if (key == WPD_OBJECT_NAME || key == WPD_OBJECT_ORIGINAL_FILE_NAME)
-        return Variant::text(info.name.c_str());
+        return Variant::Text(info.name.c_str());
     if (key == WPD_OBJECT_CONTENT_TYPE)
         return ContentType(info.kind);
     if (key == WPD_OBJECT_SIZE)
-        return Variant::size(info.size);
+        return Variant::Size(info.size);
     if (key == WPD_OBJECT_DATE_MODIFIED && info.modified != 0)
-        return Variant::date(info.modified);
-    return Variant::error(kNoElement);
+        return Variant::Date(info.modified);
+    return Variant::Error(kNoElement);
 }
 
 NLEComPtr<IPortableDeviceKeyCollection> AllKeys()
@@ -76,7 +76,7 @@ HRESULT ObjectProperties::GetValues(LPCWSTR object, IPortableDeviceKeyCollection
             return E_POINTER;
         *values = nullptr;
         ObjectInfo info;
-        if (const HRESULT result = m_device->describe(object, info); FAILED(result))
+        if (const HRESULT result = m_device->Describe(object, info); FAILED(result))
             return result;
         const NLEComPtr<IPortableDeviceKeyCollection> wanted = keys ? keys : AllKeys();
         const auto answer = MakeCom<PropertyValues>();
@@ -87,9 +87,9 @@ HRESULT ObjectProperties::GetValues(LPCWSTR object, IPortableDeviceKeyCollection
             PROPERTYKEY key = {};
             wanted->GetAt(i, &key);
             Variant value = ValueOf(info, key);
-            if (value.get().vt == VT_ERROR)
+            if (value.Get().vt == VT_ERROR)
                 result = S_FALSE;
-            if (const HRESULT stored = answer->store(key, std::move(value)); FAILED(stored))
+            if (const HRESULT stored = answer->Store(key, std::move(value)); FAILED(stored))
                 return stored;
         }
         NLEComPtr<IPortableDeviceValues>(answer).copyTo(values);
@@ -113,7 +113,7 @@ HRESULT ObjectProperties::Delete(LPCWSTR /*object*/, IPortableDeviceKeyCollectio
 HRESULT ObjectProperties::Cancel()
 {
     return ComGuard([&] {
-        m_device->worker().cancel();
+        m_device->Worker().Cancel();
         return S_OK;
     });
 }

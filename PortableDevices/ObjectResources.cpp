@@ -14,7 +14,7 @@ HRESULT ObjectResources::GetSupportedResources(LPCWSTR object, IPortableDeviceKe
             return E_POINTER;
         *keys = nullptr;
         ObjectInfo info;
-        if (const HRESULT result = m_device->describe(object, info); FAILED(result))
+        if (const HRESULT result = m_device->Describe(object, info); FAILED(result))
             return result;
         std::vector<PROPERTYKEY> known;
         // Whether there is a thumbnail shows only when it is asked for.
@@ -44,7 +44,7 @@ HRESULT ObjectResources::GetStream(LPCWSTR object, REFPROPERTYKEY key, const DWO
         if (!isData && key != Wpd::WPD_RESOURCE_THUMBNAIL)
             return kNoElement;
         std::uint32_t size = 0;
-        const HRESULT result = ResourceStream::open(
+        const HRESULT result = ResourceStream::Open(
             m_device, object, isData ? Resource::Data : Resource::Thumbnail, size, out);
         if (optimalBufferSize)
             *optimalBufferSize = size;
@@ -60,7 +60,7 @@ HRESULT ObjectResources::Delete(LPCWSTR /*object*/, IPortableDeviceKeyCollection
 HRESULT ObjectResources::Cancel()
 {
     return ComGuard([&] {
-        m_device->worker().cancel();
+        m_device->Worker().Cancel();
         return S_OK;
     });
 }

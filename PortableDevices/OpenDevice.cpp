@@ -7,13 +7,13 @@ namespace {
 HRESULT RemoveTree(DeviceSession& session, const std::wstring& id, GCancellable* cancellable)
 {
     std::vector<ObjectInfo> children;
-    if (const HRESULT result = session.list(id, children, cancellable); FAILED(result))
+    if (const HRESULT result = session.List(id, children, cancellable); FAILED(result))
         return result;
     for (const ObjectInfo& child : children) {
         if (const HRESULT result = RemoveTree(session, child.id, cancellable); FAILED(result))
             return result;
     }
-    return session.remove(id, cancellable);
+    return session.Remove(id, cancellable);
 }
 
 } // namespace
@@ -23,7 +23,7 @@ OpenDevice::OpenDevice(std::wstring id, std::unique_ptr<DeviceSession> session)
 {
 }
 
-HRESULT OpenDevice::list(const std::wstring& parent, std::vector<std::wstring>& children)
+HRESULT OpenDevice::List(const std::wstring& parent, std::vector<std::wstring>& children)
 {
     {
         // Who walks the content asks for the children of every object.
@@ -33,8 +33,8 @@ HRESULT OpenDevice::list(const std::wstring& parent, std::vector<std::wstring>& 
     }
     const auto infos = std::make_shared<std::vector<ObjectInfo>>();
     const HRESULT result =
-        m_worker.run([parent, infos](DeviceSession& session, GCancellable* cancellable) {
-            return session.list(parent, *infos, cancellable);
+        m_worker.Run([parent, infos](DeviceSession& session, GCancellable* cancellable) {
+            return session.List(parent, *infos, cancellable);
         });
     if (FAILED(result))
         return result;
@@ -48,7 +48,7 @@ HRESULT OpenDevice::list(const std::wstring& parent, std::vector<std::wstring>& 
     return S_OK;
 }
 
-bool OpenDevice::takeKnown(const std::wstring& id, ObjectInfo& info)
+bool OpenDevice::TakeKnown(const std::wstring& id, ObjectInfo& info)
 {
     const std::lock_guard lock(m_mutex);
     const auto known = m_known.find(id);
@@ -61,26 +61,26 @@ bool OpenDevice::takeKnown(const std::wstring& id, ObjectInfo& info)
     return true;
 }
 
-HRESULT OpenDevice::describe(const std::wstring& id, ObjectInfo& info)
+HRESULT OpenDevice::Describe(const std::wstring& id, ObjectInfo& info)
 {
-    if (takeKnown(id, info))
+    if (TakeKnown(id, info))
         return S_OK;
     const auto answer = std::make_shared<ObjectInfo>();
     const HRESULT result =
-        m_worker.run([id, answer](DeviceSession& session, GCancellable* cancellable) {
-            return session.describe(id, *answer, cancellable);
+        m_worker.Run([id, answer](DeviceSession& session, GCancellable* cancellable) {
+            return session.Describe(id, *answer, cancellable);
         });
     if (SUCCEEDED(result))
         info = std::move(*answer);
     return result;
 }
 
-HRESULT OpenDevice::remove(const std::wstring& id, bool isRecursive)
+HRESULT OpenDevice::Remove(const std::wstring& id, bool isRecursive)
 {
     ObjectInfo forgotten;
-    takeKnown(id, forgotten);
-    return m_worker.run([id, isRecursive](DeviceSession& session, GCancellable* cancellable) {
-        return isRecursive ? RemoveTree(session, id, cancellable) : session.remove(id, cancellable);
+    TakeKnown(id, forgotten);
+    return m_worker.Run([id, isRecursive](DeviceSession& session, GCancellable* cancellable) {
+        return isRecursive ? RemoveTree(session, id, cancellable) : session.Remove(id, cancellable);
     });
 }
 

@@ -14,17 +14,17 @@ class OpenDevice
 public:
     OpenDevice(std::wstring id, std::unique_ptr<DeviceSession> session);
 
-    const std::wstring& id() const { return m_id; }
-    DeviceWorker& worker() { return m_worker; }
+    const std::wstring& Id() const { return m_id; }
+    DeviceWorker& Worker() { return m_worker; }
 
-    HRESULT list(const std::wstring& parent, std::vector<std::wstring>& children);
-    /// What list() has learned already is given without asking the device, once.
-    HRESULT describe(const std::wstring& id, ObjectInfo& info);
+    HRESULT List(const std::wstring& parent, std::vector<std::wstring>& children);
+    /// What List() has learned already is given without asking the device, once.
+    HRESULT Describe(const std::wstring& id, ObjectInfo& info);
     /// With \a isRecursive a folder goes with everything in it.
-    HRESULT remove(const std::wstring& id, bool isRecursive);
+    HRESULT Remove(const std::wstring& id, bool isRecursive);
 
 private:
-    bool takeKnown(const std::wstring& id, ObjectInfo& info);
+    bool TakeKnown(const std::wstring& id, ObjectInfo& info);
 
     const std::wstring m_id;
     DeviceWorker m_worker;

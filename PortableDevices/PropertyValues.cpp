@@ -24,16 +24,16 @@ template <typename T>
 Variant Scalar(VARTYPE type, T PROPVARIANT::*member, T value)
 {
     Variant variant;
-    variant.put()->vt = type;
-    variant.put()->*member = value;
+    variant.Put()->vt = type;
+    variant.Put()->*member = value;
     return variant;
 }
 
 Variant Bytes(const void* data, DWORD bytes)
 {
     Variant variant;
-    variant.put()->vt = VT_VECTOR | VT_UI1;
-    variant.put()->caub = {bytes, static_cast<BYTE*>(TaskCopy(data, bytes))};
+    variant.Put()->vt = VT_VECTOR | VT_UI1;
+    variant.Put()->caub = {bytes, static_cast<BYTE*>(TaskCopy(data, bytes))};
     return variant;
 }
 
@@ -44,43 +44,43 @@ LPWSTR TaskText(const wchar_t* text)
     return static_cast<LPWSTR>(TaskCopy(text, (std::wcslen(text) + 1) * sizeof(wchar_t)));
 }
 
-Variant Variant::text(const wchar_t* text)
+Variant Variant::Text(const wchar_t* text)
 {
     return Scalar(VT_LPWSTR, &PROPVARIANT::pwszVal, TaskText(text));
 }
 
-Variant Variant::identifier(REFGUID id)
+Variant Variant::Identifier(REFGUID id)
 {
     return Scalar(VT_CLSID, &PROPVARIANT::puuid, static_cast<GUID*>(TaskCopy(&id, sizeof(id))));
 }
 
-Variant Variant::date(DATE date)
+Variant Variant::Date(DATE date)
 {
     return Scalar(VT_DATE, &PROPVARIANT::date, date);
 }
 
-Variant Variant::size(ULONGLONG size)
+Variant Variant::Size(ULONGLONG size)
 {
     return Scalar(VT_UI8, &PROPVARIANT::uhVal, ULARGE_INTEGER{size});
 }
 
-Variant Variant::error(HRESULT error)
+Variant Variant::Error(HRESULT error)
 {
     return Scalar(VT_ERROR, &PROPVARIANT::scode, SCODE{error});
 }
 
-const PropertyValues::Entry* PropertyValues::find(REFPROPERTYKEY key) const
+const PropertyValues::Entry* PropertyValues::Find(REFPROPERTYKEY key) const
 {
     const auto found = std::find_if(m_entries.begin(), m_entries.end(),
                                     [&key](const Entry& entry) { return entry.first == key; });
     return found == m_entries.end() ? nullptr : &*found;
 }
 
-HRESULT PropertyValues::store(REFPROPERTYKEY key, Variant value)
+HRESULT PropertyValues::Store(REFPROPERTYKEY key, Variant value)
 {
     return ComGuard([&] {
         const std::lock_guard lock(m_mutex);
-        if (const Entry* known = find(key))
+        if (const Entry* known = Find(key))
             std::swap(m_entries[static_cast<std::size_t>(known - m_entries.data())].second, value);
         else
             m_entries.emplace_back(key, std::move(value));
@@ -88,54 +88,54 @@ HRESULT PropertyValues::store(REFPROPERTYKEY key, Variant value)
     });
 }
 
-HRESULT PropertyValues::copyOf(REFPROPERTYKEY key, VARTYPE type, Variant& copy) const
+HRESULT PropertyValues::CopyOf(REFPROPERTYKEY key, VARTYPE type, Variant& copy) const
 {
     const std::lock_guard lock(m_mutex);
-    const Entry* entry = find(key);
+    const Entry* entry = Find(key);
     if (!entry)
         return kNoElement;
-    if (entry->second.get().vt != type)
+    if (entry->second.Get().vt != type)
         return kWrongType;
-    return PropVariantCopy(copy.put(), &entry->second.get());
+    return PropVariantCopy(copy.Put(), &entry->second.Get());
 }
 
 template <typename T>
-HRESULT PropertyValues::setScalar(REFPROPERTYKEY key, VARTYPE type, T PROPVARIANT::*member, T value)
+HRESULT PropertyValues::SetScalar(REFPROPERTYKEY key, VARTYPE type, T PROPVARIANT::*member, T value)
 {
-    return store(key, Scalar(type, member, value));
+    return Store(key, Scalar(type, member, value));
 }
 
 template <typename T, typename Out>
-HRESULT PropertyValues::getScalar(REFPROPERTYKEY key, VARTYPE type, T PROPVARIANT::*member,
+HRESULT PropertyValues::GetScalar(REFPROPERTYKEY key, VARTYPE type, T PROPVARIANT::*member,
                                   Out* out) const
 {
     if (!out)
         return E_POINTER;
     *out = {};
     Variant copy;
-    const HRESULT result = copyOf(key, type, copy);
+    const HRESULT result = CopyOf(key, type, copy);
     if (SUCCEEDED(result))
-        std::memcpy(out, &(copy.get().*member), sizeof(Out));
+        std::memcpy(out, &(copy.Get().*member), sizeof(Out));
     return result;
 }
 
-HRESULT PropertyValues::setObject(REFPROPERTYKEY key, IUnknown* value)
+HRESULT PropertyValues::SetObject(REFPROPERTYKEY key, IUnknown* value)
 {
     if (value)
         value->AddRef();
-    return setScalar(key, VT_UNKNOWN, &PROPVARIANT::punkVal, value);
+    return SetScalar(key, VT_UNKNOWN, &PROPVARIANT::punkVal, value);
 }
 
 template <typename Interface>
-HRESULT PropertyValues::getObject(REFPROPERTYKEY key, Interface** out) const
+HRESULT PropertyValues::GetObject(REFPROPERTYKEY key, Interface** out) const
 {
     if (!out)
         return E_POINTER;
     *out = nullptr;
     Variant copy;
-    if (const HRESULT result = copyOf(key, VT_UNKNOWN, copy); FAILED(result))
+    if (const HRESULT result = CopyOf(key, VT_UNKNOWN, copy); FAILED(result))
         return result;
-    IUnknown* object = copy.get().punkVal;
+    IUnknown* object = copy.Get().punkVal;
     return object ? object->QueryInterface(InterfaceId<Interface>(), reinterpret_cast<void**>(out))
                   : S_OK;
 }
@@ -153,14 +153,14 @@ HRESULT PropertyValues::GetAt(const DWORD index, PROPERTYKEY* key, PROPVARIANT* 
         return E_INVALIDARG;
     if (key)
         *key = m_entries[index].first;
-    return value ? PropVariantCopy(value, &m_entries[index].second.get()) : S_OK;
+    return value ? PropVariantCopy(value, &m_entries[index].second.Get()) : S_OK;
 }
 
 HRESULT PropertyValues::SetValue(REFPROPERTYKEY key, const PROPVARIANT* value)
 {
     if (!value)
         return E_POINTER;
-    return store(key, Variant(*value));
+    return Store(key, Variant(*value));
 }
 
 HRESULT PropertyValues::GetValue(REFPROPERTYKEY key, PROPVARIANT* value)
@@ -169,15 +169,15 @@ HRESULT PropertyValues::GetValue(REFPROPERTYKEY key, PROPVARIANT* value)
         return E_POINTER;
     PropVariantInit(value);
     const std::lock_guard lock(m_mutex);
-    const Entry* entry = find(key);
-    return entry ? PropVariantCopy(value, &entry->second.get()) : kNoElement;
+    const Entry* entry = Find(key);
+    return entry ? PropVariantCopy(value, &entry->second.Get()) : kNoElement;
 }
 
 HRESULT PropertyValues::SetStringValue(REFPROPERTYKEY key, LPCWSTR value)
 {
     if (!value)
         return E_POINTER;
-    return store(key, Variant::text(value));
+    return Store(key, Variant::Text(value));
 }
 
 HRESULT PropertyValues::GetStringValue(REFPROPERTYKEY key, LPWSTR* value)
@@ -186,75 +186,75 @@ HRESULT PropertyValues::GetStringValue(REFPROPERTYKEY key, LPWSTR* value)
         return E_POINTER;
     *value = nullptr;
     Variant copy;
-    const HRESULT result = copyOf(key, VT_LPWSTR, copy);
+    const HRESULT result = CopyOf(key, VT_LPWSTR, copy);
     if (SUCCEEDED(result))
-        std::swap(*value, copy.put()->pwszVal);
+        std::swap(*value, copy.Put()->pwszVal);
     return result;
 }
 
 HRESULT PropertyValues::SetUnsignedIntegerValue(REFPROPERTYKEY key, const ULONG value)
 {
-    return setScalar(key, VT_UI4, &PROPVARIANT::ulVal, ULONG{value});
+    return SetScalar(key, VT_UI4, &PROPVARIANT::ulVal, ULONG{value});
 }
 
 HRESULT PropertyValues::GetUnsignedIntegerValue(REFPROPERTYKEY key, ULONG* value)
 {
-    return getScalar(key, VT_UI4, &PROPVARIANT::ulVal, value);
+    return GetScalar(key, VT_UI4, &PROPVARIANT::ulVal, value);
 }
 
 HRESULT PropertyValues::SetSignedIntegerValue(REFPROPERTYKEY key, const LONG value)
 {
-    return setScalar(key, VT_I4, &PROPVARIANT::lVal, LONG{value});
+    return SetScalar(key, VT_I4, &PROPVARIANT::lVal, LONG{value});
 }
 
 HRESULT PropertyValues::GetSignedIntegerValue(REFPROPERTYKEY key, LONG* value)
 {
-    return getScalar(key, VT_I4, &PROPVARIANT::lVal, value);
+    return GetScalar(key, VT_I4, &PROPVARIANT::lVal, value);
 }
 
 HRESULT PropertyValues::SetUnsignedLargeIntegerValue(REFPROPERTYKEY key, const ULONGLONG value)
 {
-    return setScalar(key, VT_UI8, &PROPVARIANT::uhVal, ULARGE_INTEGER{value});
+    return SetScalar(key, VT_UI8, &PROPVARIANT::uhVal, ULARGE_INTEGER{value});
 }
 
 HRESULT PropertyValues::GetUnsignedLargeIntegerValue(REFPROPERTYKEY key, ULONGLONG* value)
 {
-    return getScalar(key, VT_UI8, &PROPVARIANT::uhVal, value);
+    return GetScalar(key, VT_UI8, &PROPVARIANT::uhVal, value);
 }
 
 HRESULT PropertyValues::SetSignedLargeIntegerValue(REFPROPERTYKEY key, const LONGLONG value)
 {
-    return setScalar(key, VT_I8, &PROPVARIANT::hVal, LARGE_INTEGER{value});
+    return SetScalar(key, VT_I8, &PROPVARIANT::hVal, LARGE_INTEGER{value});
 }
 
 HRESULT PropertyValues::GetSignedLargeIntegerValue(REFPROPERTYKEY key, LONGLONG* value)
 {
-    return getScalar(key, VT_I8, &PROPVARIANT::hVal, value);
+    return GetScalar(key, VT_I8, &PROPVARIANT::hVal, value);
 }
 
 HRESULT PropertyValues::SetFloatValue(REFPROPERTYKEY key, const FLOAT value)
 {
-    return setScalar(key, VT_R4, &PROPVARIANT::fltVal, FLOAT{value});
+    return SetScalar(key, VT_R4, &PROPVARIANT::fltVal, FLOAT{value});
 }
 
 HRESULT PropertyValues::GetFloatValue(REFPROPERTYKEY key, FLOAT* value)
 {
-    return getScalar(key, VT_R4, &PROPVARIANT::fltVal, value);
+    return GetScalar(key, VT_R4, &PROPVARIANT::fltVal, value);
 }
 
 HRESULT PropertyValues::SetErrorValue(REFPROPERTYKEY key, const HRESULT value)
 {
-    return setScalar(key, VT_ERROR, &PROPVARIANT::scode, SCODE{value});
+    return SetScalar(key, VT_ERROR, &PROPVARIANT::scode, SCODE{value});
 }
 
 HRESULT PropertyValues::GetErrorValue(REFPROPERTYKEY key, HRESULT* value)
 {
-    return getScalar(key, VT_ERROR, &PROPVARIANT::scode, value);
+    return GetScalar(key, VT_ERROR, &PROPVARIANT::scode, value);
 }
 
 HRESULT PropertyValues::SetKeyValue(REFPROPERTYKEY key, REFPROPERTYKEY value)
 {
-    return store(key, Bytes(&value, sizeof(value)));
+    return Store(key, Bytes(&value, sizeof(value)));
 }
 
 HRESULT PropertyValues::GetKeyValue(REFPROPERTYKEY key, PROPERTYKEY* value)
@@ -263,39 +263,39 @@ HRESULT PropertyValues::GetKeyValue(REFPROPERTYKEY key, PROPERTYKEY* value)
         return E_POINTER;
     *value = {};
     Variant copy;
-    if (const HRESULT result = copyOf(key, VT_VECTOR | VT_UI1, copy); FAILED(result))
+    if (const HRESULT result = CopyOf(key, VT_VECTOR | VT_UI1, copy); FAILED(result))
         return result;
-    if (copy.get().caub.cElems != sizeof(*value))
+    if (copy.Get().caub.cElems != sizeof(*value))
         return kWrongType;
-    std::memcpy(value, copy.get().caub.pElems, sizeof(*value));
+    std::memcpy(value, copy.Get().caub.pElems, sizeof(*value));
     return S_OK;
 }
 
 HRESULT PropertyValues::SetBoolValue(REFPROPERTYKEY key, const BOOL value)
 {
-    return setScalar(key, VT_BOOL, &PROPVARIANT::boolVal, value ? VARIANT_TRUE : VARIANT_FALSE);
+    return SetScalar(key, VT_BOOL, &PROPVARIANT::boolVal, value ? VARIANT_TRUE : VARIANT_FALSE);
 }
 
 HRESULT PropertyValues::GetBoolValue(REFPROPERTYKEY key, BOOL* value)
 {
     VARIANT_BOOL stored = VARIANT_FALSE;
-    const HRESULT result = getScalar(key, VT_BOOL, &PROPVARIANT::boolVal, &stored);
+    const HRESULT result = GetScalar(key, VT_BOOL, &PROPVARIANT::boolVal, &stored);
     return SUCCEEDED(result) ? GiveValue(value, BOOL{stored != VARIANT_FALSE}) : result;
 }
 
 HRESULT PropertyValues::SetIUnknownValue(REFPROPERTYKEY key, IUnknown* value)
 {
-    return setObject(key, value);
+    return SetObject(key, value);
 }
 
 HRESULT PropertyValues::GetIUnknownValue(REFPROPERTYKEY key, IUnknown** value)
 {
-    return getObject(key, value);
+    return GetObject(key, value);
 }
 
 HRESULT PropertyValues::SetGuidValue(REFPROPERTYKEY key, REFGUID value)
 {
-    return store(key, Variant::identifier(value));
+    return Store(key, Variant::Identifier(value));
 }
 
 HRESULT PropertyValues::GetGuidValue(REFPROPERTYKEY key, GUID* value)
@@ -304,9 +304,9 @@ HRESULT PropertyValues::GetGuidValue(REFPROPERTYKEY key, GUID* value)
         return E_POINTER;
     *value = {};
     Variant copy;
-    const HRESULT result = copyOf(key, VT_CLSID, copy);
+    const HRESULT result = CopyOf(key, VT_CLSID, copy);
     if (SUCCEEDED(result))
-        *value = *copy.get().puuid;
+        *value = *copy.Get().puuid;
     return result;
 }
 
@@ -314,7 +314,7 @@ HRESULT PropertyValues::SetBufferValue(REFPROPERTYKEY key, BYTE* value, DWORD by
 {
     if (!value && bytes > 0)
         return E_POINTER;
-    return store(key, Bytes(value, bytes));
+    return Store(key, Bytes(value, bytes));
 }
 
 HRESULT PropertyValues::GetBufferValue(REFPROPERTYKEY key, BYTE** value, DWORD* bytes)
@@ -324,10 +324,10 @@ HRESULT PropertyValues::GetBufferValue(REFPROPERTYKEY key, BYTE** value, DWORD* 
     *value = nullptr;
     *bytes = 0;
     Variant copy;
-    const HRESULT result = copyOf(key, VT_VECTOR | VT_UI1, copy);
+    const HRESULT result = CopyOf(key, VT_VECTOR | VT_UI1, copy);
     if (SUCCEEDED(result)) {
-        *bytes = copy.get().caub.cElems;
-        std::swap(*value, copy.put()->caub.pElems);
+        *bytes = copy.Get().caub.cElems;
+        std::swap(*value, copy.Put()->caub.pElems);
     }
     return result;
 }
@@ -335,37 +335,37 @@ HRESULT PropertyValues::GetBufferValue(REFPROPERTYKEY key, BYTE** value, DWORD* 
 HRESULT PropertyValues::SetIPortableDeviceValuesValue(REFPROPERTYKEY key,
                                                       IPortableDeviceValues* value)
 {
-    return setObject(key, value);
+    return SetObject(key, value);
 }
 
 HRESULT PropertyValues::GetIPortableDeviceValuesValue(REFPROPERTYKEY key,
                                                       IPortableDeviceValues** value)
 {
-    return getObject(key, value);
+    return GetObject(key, value);
 }
 
 HRESULT PropertyValues::SetIPortableDevicePropVariantCollectionValue(
     REFPROPERTYKEY key, IPortableDevicePropVariantCollection* value)
 {
-    return setObject(key, value);
+    return SetObject(key, value);
 }
 
 HRESULT PropertyValues::GetIPortableDevicePropVariantCollectionValue(
     REFPROPERTYKEY key, IPortableDevicePropVariantCollection** value)
 {
-    return getObject(key, value);
+    return GetObject(key, value);
 }
 
 HRESULT PropertyValues::SetIPortableDeviceKeyCollectionValue(REFPROPERTYKEY key,
                                                              IPortableDeviceKeyCollection* value)
 {
-    return setObject(key, value);
+    return SetObject(key, value);
 }
 
 HRESULT PropertyValues::GetIPortableDeviceKeyCollectionValue(REFPROPERTYKEY key,
                                                              IPortableDeviceKeyCollection** value)
 {
-    return getObject(key, value);
+    return GetObject(key, value);
 }
 
 HRESULT
@@ -386,7 +386,7 @@ PropertyValues::GetIPortableDeviceValuesCollectionValue(REFPROPERTYKEY /*key*/,
 HRESULT PropertyValues::RemoveValue(REFPROPERTYKEY key)
 {
     const std::lock_guard lock(m_mutex);
-    const Entry* entry = find(key);
+    const Entry* entry = Find(key);
     if (!entry)
         return kNoElement;
     m_entries.erase(m_entries.begin() + (entry - m_entries.data()));
@@ -460,7 +460,7 @@ HRESULT VariantCollection::GetAt(const DWORD index, PROPVARIANT* value)
         return E_POINTER;
     PropVariantInit(value);
     const std::lock_guard lock(m_mutex);
-    return index < m_values.size() ? PropVariantCopy(value, &m_values[index].get()) : E_INVALIDARG;
+    return index < m_values.size() ? PropVariantCopy(value, &m_values[index].Get()) : E_INVALIDARG;
 }
 
 HRESULT VariantCollection::Add(const PROPVARIANT* value)

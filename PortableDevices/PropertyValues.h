@@ -27,14 +27,14 @@ public:
     }
     ~Variant() { PropVariantClear(&m_value); }
 
-    static Variant text(const wchar_t* text);
-    static Variant identifier(REFGUID id);
-    static Variant date(DATE date);
-    static Variant size(ULONGLONG size);
-    static Variant error(HRESULT error);
+    static Variant Text(const wchar_t* text);
+    static Variant Identifier(REFGUID id);
+    static Variant Date(DATE date);
+    static Variant Size(ULONGLONG size);
+    static Variant Error(HRESULT error);
 
-    const PROPVARIANT& get() const { return m_value; }
-    PROPVARIANT* put() { return &m_value; }
+    const PROPVARIANT& Get() const { return m_value; }
+    PROPVARIANT* Put() { return &m_value; }
 
 private:
     PROPVARIANT m_value;
@@ -48,7 +48,7 @@ class PropertyValues final : public ComObject<IPortableDeviceValues>
 {
 public:
     /// Stores \a value under \a key; an old value goes. Throws nothing.
-    HRESULT store(REFPROPERTYKEY key, Variant value);
+    HRESULT Store(REFPROPERTYKEY key, Variant value);
 
     HRESULT GetCount(DWORD* count) override;
     HRESULT GetAt(const DWORD index, PROPERTYKEY* key, PROPVARIANT* value) override;
@@ -105,14 +105,14 @@ private:
     using Entry = std::pair<PROPERTYKEY, Variant>;
 
     template <typename T>
-    HRESULT setScalar(REFPROPERTYKEY key, VARTYPE type, T PROPVARIANT::*member, T value);
+    HRESULT SetScalar(REFPROPERTYKEY key, VARTYPE type, T PROPVARIANT::*member, T value);
     template <typename T, typename Out>
-    HRESULT getScalar(REFPROPERTYKEY key, VARTYPE type, T PROPVARIANT::*member, Out* out) const;
-    HRESULT setObject(REFPROPERTYKEY key, IUnknown* value);
+    HRESULT GetScalar(REFPROPERTYKEY key, VARTYPE type, T PROPVARIANT::*member, Out* out) const;
+    HRESULT SetObject(REFPROPERTYKEY key, IUnknown* value);
     template <typename Interface>
-    HRESULT getObject(REFPROPERTYKEY key, Interface** out) const;
-    HRESULT copyOf(REFPROPERTYKEY key, VARTYPE type, Variant& copy) const;
-    const Entry* find(REFPROPERTYKEY key) const;
+    HRESULT GetObject(REFPROPERTYKEY key, Interface** out) const;
+    HRESULT CopyOf(REFPROPERTYKEY key, VARTYPE type, Variant& copy) const;
+    const Entry* Find(REFPROPERTYKEY key) const;
 
     mutable std::mutex m_mutex;
     std::vector<Entry> m_entries;

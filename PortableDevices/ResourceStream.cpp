@@ -17,30 +17,30 @@ constexpr DWORD kNoName = 1;
 
 } // namespace
 
-HRESULT ResourceStream::open(std::shared_ptr<OpenDevice> device, const std::wstring& id,
+HRESULT ResourceStream::Open(std::shared_ptr<OpenDevice> device, const std::wstring& id,
                              Resource resource, std::uint32_t& stepSize, IStream** out)
 {
     OpenDevice& opened = *device;
     const NLEComPtr<ResourceStream> stream = MakeCom<ResourceStream>(std::move(device));
     const std::shared_ptr<Source> source = stream->m_source;
-    const HRESULT result = opened.worker().run(
+    const HRESULT result = opened.Worker().Run(
         [id, resource, source](DeviceSession& session, GCancellable* cancellable) {
-            return session.openData(id, resource, source->reader, cancellable);
+            return session.OpenData(id, resource, source->reader, cancellable);
         });
     if (FAILED(result))
         return result;
-    stream->m_isLocal = source->reader->isLocal();
-    stream->m_promisedSize = source->reader->promisedSize();
+    stream->m_isLocal = source->reader->IsLocal();
+    stream->m_promisedSize = source->reader->PromisedSize();
     stepSize = stream->m_isLocal ? kLocalTransferSize : kTransferSize;
     if (!stream->m_isLocal) {
         source->buffer.resize(kTransferSize);
-        stream->startStep();
+        stream->StartStep();
     }
     return NLEComPtr<IStream>(stream).copyTo(out);
 }
 
 ResourceStream::ResourceStream(std::shared_ptr<OpenDevice> device)
-    : m_device(std::move(device)), m_cancelCount(m_device->worker().cancelCount())
+    : m_device(std::move(device)), m_cancelCount(m_device->Worker().CancelCount())
 {
 }
 
@@ -48,7 +48,7 @@ ResourceStream::~ResourceStream()
 {
     if (m_step.cancellable)
         g_cancellable_cancel(m_step.cancellable.get());
-    m_device->worker().startCleanup([source = m_source] { source->reader.reset(); });
+    m_device->Worker().StartCleanup([source = m_source] { source->reader.reset(); });
 }
 
 HRESULT ResourceStream::QueryInterface(REFIID iid, void** out)
@@ -57,69 +57,69 @@ HRESULT ResourceStream::QueryInterface(REFIID iid, void** out)
     return ComObject::QueryInterface(isBase ? InterfaceId<IStream>() : iid, out);
 }
 
-void ResourceStream::startStep()
+void ResourceStream::StartStep()
 {
     m_taken = 0;
-    m_step = m_device->worker().start(
+    m_step = m_device->Worker().Start(
         [source = m_source](DeviceSession& /*session*/, GCancellable* cancellable) {
             source->filled = 0;
-            return source->reader->read(source->buffer.data(), kTransferSize, source->filled,
+            return source->reader->Read(source->buffer.data(), kTransferSize, source->filled,
                                         cancellable);
         });
 }
 
-HRESULT ResourceStream::finishStep()
+HRESULT ResourceStream::FinishStep()
 {
-    const HRESULT result = m_device->worker().finish(m_step);
+    const HRESULT result = m_device->Worker().Finish(m_step);
     m_step = {};
     return result;
 }
 
-void ResourceStream::dropStep()
+void ResourceStream::DropStep()
 {
     if (!m_step.result.valid())
         return;
     g_cancellable_cancel(m_step.cancellable.get());
-    finishStep();
+    FinishStep();
 }
 
-HRESULT ResourceStream::readLocal(void* data, ULONG count, ULONG& got)
+HRESULT ResourceStream::ReadLocal(void* data, ULONG count, ULONG& got)
 {
-    const HRESULT result = m_source->reader->read(data, count, got, nullptr);
+    const HRESULT result = m_source->reader->Read(data, count, got, nullptr);
     if (result == kDeviceGone)
-        m_device->worker().noteRemoval();
+        m_device->Worker().NoteRemoval();
     return result;
 }
 
-HRESULT ResourceStream::readStep(void* data, ULONG count, ULONG& got)
+HRESULT ResourceStream::ReadStep(void* data, ULONG count, ULONG& got)
 {
     if (m_step.result.valid()) {
-        if (const HRESULT result = finishStep(); FAILED(result))
+        if (const HRESULT result = FinishStep(); FAILED(result))
             return result;
     }
-    if (const HRESULT result = m_device->worker().resultSince(m_cancelCount); FAILED(result))
+    if (const HRESULT result = m_device->Worker().ResultSince(m_cancelCount); FAILED(result))
         return result;
     got = std::min(count, m_source->filled - m_taken);
     std::memcpy(data, m_source->buffer.data() + m_taken, got);
     m_taken += got;
     // An empty step was the end; there is nothing more to ask for.
     if (m_taken == m_source->filled && m_source->filled > 0)
-        startStep();
+        StartStep();
     return S_OK;
 }
 
-HRESULT ResourceStream::moveTo(std::uint64_t position)
+HRESULT ResourceStream::MoveTo(std::uint64_t position)
 {
-    dropStep();
-    const HRESULT result = m_device->worker().run(
+    DropStep();
+    const HRESULT result = m_device->Worker().Run(
         [source = m_source, position](DeviceSession& /*session*/, GCancellable* cancellable) {
-            return source->reader->seek(position, cancellable);
+            return source->reader->Seek(position, cancellable);
         });
     if (FAILED(result))
         return result;
     m_position = position;
     if (!m_isLocal)
-        startStep();
+        StartStep();
     return S_OK;
 }
 
@@ -131,12 +131,12 @@ HRESULT ResourceStream::Read(void* data, ULONG count, ULONG* read)
         return E_POINTER;
     const std::lock_guard lock(m_mutex);
     if (SUCCEEDED(m_failure))
-        m_failure = m_device->worker().resultSince(m_cancelCount);
+        m_failure = m_device->Worker().ResultSince(m_cancelCount);
     if (FAILED(m_failure))
         return m_failure;
     ULONG got = 0;
     m_failure = ComGuard(
-        [&] { return m_isLocal ? readLocal(data, count, got) : readStep(data, count, got); });
+        [&] { return m_isLocal ? ReadLocal(data, count, got) : ReadStep(data, count, got); });
     if (SUCCEEDED(m_failure) && got == 0 && count > 0 && m_position < m_promisedSize)
         m_failure = kCutShort;
     if (FAILED(m_failure))
@@ -159,7 +159,7 @@ HRESULT ResourceStream::Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER* p
     if (target < 0)
         return STG_E_INVALIDFUNCTION;
     if (static_cast<std::uint64_t>(target) != m_position) {
-        m_failure = ComGuard([&] { return moveTo(static_cast<std::uint64_t>(target)); });
+        m_failure = ComGuard([&] { return MoveTo(static_cast<std::uint64_t>(target)); });
         if (FAILED(m_failure))
             return m_failure;
     }
@@ -217,7 +217,7 @@ HRESULT ResourceStream::Stat(STATSTG* out, DWORD flags)
         out->type = kStreamType;
         out->cbSize.QuadPart = m_promisedSize;
         if (m_isLocal && !(flags & kNoName))
-            out->pwcsName = TaskText(WideText(m_source->reader->localPath().c_str()).c_str());
+            out->pwcsName = TaskText(WideText(m_source->reader->LocalPath().c_str()).c_str());
         return S_OK;
     });
 }

@@ -18,7 +18,7 @@ class ResourceStream final : public ComObject<IStream>
 {
 public:
     /// Opens \a resource of the object \a id; \a stepSize is the best size of a read.
-    static HRESULT open(std::shared_ptr<OpenDevice> device, const std::wstring& id,
+    static HRESULT Open(std::shared_ptr<OpenDevice> device, const std::wstring& id,
                         Resource resource, std::uint32_t& stepSize, IStream** out);
 
     HRESULT QueryInterface(REFIID iid, void** out) override;
@@ -52,12 +52,12 @@ private:
         std::uint32_t filled = 0;
     };
 
-    HRESULT readLocal(void* data, ULONG count, ULONG& got);
-    HRESULT readStep(void* data, ULONG count, ULONG& got);
-    HRESULT moveTo(std::uint64_t position);
-    void startStep();
-    HRESULT finishStep();
-    void dropStep();
+    HRESULT ReadLocal(void* data, ULONG count, ULONG& got);
+    HRESULT ReadStep(void* data, ULONG count, ULONG& got);
+    HRESULT MoveTo(std::uint64_t position);
+    void StartStep();
+    HRESULT FinishStep();
+    void DropStep();
 
     std::shared_ptr<OpenDevice> m_device;
     const std::shared_ptr<Source> m_source = std::make_shared<Source>();

@@ -10,7 +10,7 @@
 
 namespace devices {
 
-std::unique_ptr<SpoolFile> SpoolFile::create()
+std::unique_ptr<SpoolFile> SpoolFile::Create()
 {
     // Not the folder for temporary files: that one often lies in memory, and videos are large.
     const char* folder = g_get_user_cache_dir();
@@ -30,22 +30,22 @@ SpoolFile::SpoolFile(std::string path, int descriptor)
 
 SpoolFile::~SpoolFile()
 {
-    removeName();
+    RemoveName();
     if (m_descriptor >= 0)
         close(m_descriptor);
 }
 
-void SpoolFile::removeName()
+void SpoolFile::RemoveName()
 {
     if (!m_path.empty())
         g_unlink(m_path.c_str());
     m_path.clear();
 }
 
-HRESULT SpoolFile::startReading()
+HRESULT SpoolFile::StartReading()
 {
     const int opened = g_open(m_path.c_str(), O_RDONLY | O_CLOEXEC, 0);
-    removeName();
+    RemoveName();
     if (opened < 0)
         return E_FAIL;
     close(m_descriptor);
@@ -53,13 +53,13 @@ HRESULT SpoolFile::startReading()
     return S_OK;
 }
 
-std::uint64_t SpoolFile::size() const
+std::uint64_t SpoolFile::Size() const
 {
     struct stat status = {};
     return fstat(m_descriptor, &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
 }
 
-HRESULT SpoolFile::read(void* buffer, std::uint32_t size, std::uint32_t& got,
+HRESULT SpoolFile::Read(void* buffer, std::uint32_t size, std::uint32_t& got,
                         GCancellable* /*cancellable*/)
 {
     const ssize_t count = ::read(m_descriptor, buffer, size);
@@ -67,7 +67,7 @@ HRESULT SpoolFile::read(void* buffer, std::uint32_t size, std::uint32_t& got,
     return count < 0 ? kDeviceError : S_OK;
 }
 
-HRESULT SpoolFile::seek(std::uint64_t position, GCancellable* /*cancellable*/)
+HRESULT SpoolFile::Seek(std::uint64_t position, GCancellable* /*cancellable*/)
 {
     return lseek(m_descriptor, static_cast<off_t>(position), SEEK_SET) < 0 ? E_INVALIDARG : S_OK;
 }

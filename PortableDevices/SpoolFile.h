@@ -11,24 +11,24 @@ class SpoolFile final : public DataReader
 {
 public:
     /// A new, empty file; null when none can be made.
-    static std::unique_ptr<SpoolFile> create();
+    static std::unique_ptr<SpoolFile> Create();
     ~SpoolFile() override;
 
-    const std::string& path() const { return m_path; }
+    const std::string& Path() const { return m_path; }
     /// The open file; the object keeps it.
-    int descriptor() const { return m_descriptor; }
+    int Descriptor() const { return m_descriptor; }
     /// Opens the path anew, as a file was copied there, and takes the name away, so that nothing is
     /// left behind whatever happens. Reading starts at the beginning.
-    HRESULT startReading();
-    std::uint64_t size() const;
+    HRESULT StartReading();
+    std::uint64_t Size() const;
 
-    HRESULT read(void* buffer, std::uint32_t size, std::uint32_t& got,
+    HRESULT Read(void* buffer, std::uint32_t size, std::uint32_t& got,
                  GCancellable* cancellable) override;
-    HRESULT seek(std::uint64_t position, GCancellable* cancellable) override;
+    HRESULT Seek(std::uint64_t position, GCancellable* cancellable) override;
 
 private:
     SpoolFile(std::string path, int descriptor);
-    void removeName();
+    void RemoveName();
 
     std::string m_path;
     int m_descriptor;

@@ -129,7 +129,7 @@ public:
         g_source_destroy(m_source);
         g_source_unref(m_source);
     }
-    GCancellable* cancellable() const { return m_cancellable.get(); }
+    GCancellable* Cancellable() const { return m_cancellable.get(); }
 
 private:
     const GPtr<GCancellable> m_cancellable;
@@ -144,7 +144,7 @@ bool IsSame(const DeviceEntry& one, const DeviceEntry& other)
 
 } // namespace
 
-VolumeWatcher& VolumeWatcher::instance()
+VolumeWatcher& VolumeWatcher::Instance()
 {
     static VolumeWatcher* const watcher = new VolumeWatcher;
     return *watcher;
@@ -153,19 +153,19 @@ VolumeWatcher& VolumeWatcher::instance()
 VolumeWatcher::VolumeWatcher()
     : m_context(g_main_context_new()), m_mountContext(g_main_context_new())
 {
-    std::thread([this] { loop(); }).detach();
-    std::thread([this] { followMounts(); }).detach();
+    std::thread([this] { Loop(); }).detach();
+    std::thread([this] { FollowMounts(); }).detach();
 }
 
 // Apart from the rest, since a device that does not answer holds it up.
-void VolumeWatcher::followMounts()
+void VolumeWatcher::FollowMounts()
 {
     g_main_context_push_thread_default(m_mountContext.get());
     for (;;)
         g_main_context_iteration(m_mountContext.get(), TRUE);
 }
 
-void VolumeWatcher::loop()
+void VolumeWatcher::Loop()
 {
     g_main_context_push_thread_default(m_context.get());
     // The end of a bus that was first used here must not end the host. Held, since GLib makes the
@@ -174,23 +174,23 @@ void VolumeWatcher::loop()
     if (bus)
         g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
     g_vfs_get_default(); // loads the modules that have monitors
-    addMonitors(G_NATIVE_VOLUME_MONITOR_EXTENSION_POINT_NAME);
-    addMonitors(G_VOLUME_MONITOR_EXTENSION_POINT_NAME);
+    AddMonitors(G_NATIVE_VOLUME_MONITOR_EXTENSION_POINT_NAME);
+    AddMonitors(G_VOLUME_MONITOR_EXTENSION_POINT_NAME);
     {
         const std::lock_guard lock(m_mutex);
         m_isReady = true;
     }
     m_ready.notify_all();
     for (;;) {
-        update();
+        Update();
         g_main_context_iteration(m_context.get(), TRUE);
     }
 }
 
-void VolumeWatcher::addMonitors(const char* extensionPoint)
+void VolumeWatcher::AddMonitors(const char* extensionPoint)
 {
     // Reports to a main loop, if there is one: of a monitor that was first used by the host.
-    const auto changed = +[](VolumeWatcher* self) { self->update(); };
+    const auto changed = +[](VolumeWatcher* self) { self->Update(); };
     GIOExtensionPoint* point = g_io_extension_point_lookup(extensionPoint);
     for (GList* at = point ? g_io_extension_point_get_extensions(point) : nullptr; at;
          at = at->next) {
@@ -209,19 +209,19 @@ void VolumeWatcher::addMonitors(const char* extensionPoint)
     }
 }
 
-std::vector<DeviceEntry> VolumeWatcher::entries()
+std::vector<DeviceEntry> VolumeWatcher::Entries()
 {
     {
         std::unique_lock lock(m_mutex);
         if (!m_ready.wait_for(lock, kStartLimit, [this] { return m_isReady; }))
             return {};
     }
-    update();
+    Update();
     const std::lock_guard lock(m_mutex);
     return m_entries;
 }
 
-void VolumeWatcher::update()
+void VolumeWatcher::Update()
 {
     std::vector<DeviceEntry> found;
     // What may be the last references ends outside of the lock, since ending waits for the device.
@@ -242,13 +242,13 @@ void VolumeWatcher::update()
             watched.push_back(known.lock());
     }
     for (const std::shared_ptr<OpenDevice>& device : watched) {
-        const auto isOf = [&device](const DeviceEntry& old) { return old.id == device->id(); };
+        const auto isOf = [&device](const DeviceEntry& old) { return old.id == device->Id(); };
         if (device && std::any_of(found.begin(), found.end(), isOf))
-            device->worker().noteRemoval();
+            device->Worker().NoteRemoval();
     }
 }
 
-void VolumeWatcher::watch(const std::shared_ptr<OpenDevice>& device)
+void VolumeWatcher::Watch(const std::shared_ptr<OpenDevice>& device)
 {
     const std::lock_guard lock(m_mutex);
     const auto isGone = [](const std::weak_ptr<OpenDevice>& known) { return known.expired(); };
@@ -256,14 +256,14 @@ void VolumeWatcher::watch(const std::shared_ptr<OpenDevice>& device)
     m_watched.push_back(device);
 }
 
-void VolumeWatcher::followMount(const std::string& uri)
+void VolumeWatcher::FollowMount(const std::string& uri)
 {
     // GVfs finds that a mount has ended when a thread asks once more over the connection that the
     // thread has had to it, and this thread stays. The answer itself does not matter.
     const auto ask = [](gpointer file) -> gboolean {
-        const Timer timer(instance().m_context.get(), kAnswerLimit);
+        const Timer timer(Instance().m_context.get(), kAnswerLimit);
         const GPtr<GFileInfo> info(g_file_query_info(G_FILE(file), G_FILE_ATTRIBUTE_STANDARD_TYPE,
-                                                     G_FILE_QUERY_INFO_NONE, timer.cancellable(),
+                                                     G_FILE_QUERY_INFO_NONE, timer.Cancellable(),
                                                      nullptr));
         return G_SOURCE_REMOVE;
     };

@@ -19,25 +19,25 @@ class VolumeWatcher
 {
 public:
     /// Lives until the process ends, as does its thread.
-    static VolumeWatcher& instance();
+    static VolumeWatcher& Instance();
 
     /// The devices that are there; nothing without a session bus or GVfs.
-    std::vector<DeviceEntry> entries();
+    std::vector<DeviceEntry> Entries();
 
     /// Tells \a device when it is removed, as long as it lives.
-    void watch(const std::shared_ptr<OpenDevice>& device);
+    void Watch(const std::shared_ptr<OpenDevice>& device);
     /// Has GVfs look, in this process, whether the mount of the root \a uri is still the one that
     /// it was when this was called last. Otherwise it would ask the daemon that has gone when the
     /// same device is plugged in again.
-    void followMount(const std::string& uri);
+    void FollowMount(const std::string& uri);
 
 private:
     VolumeWatcher();
 
-    void loop();
-    void followMounts();
-    void addMonitors(const char* extensionPoint);
-    void update();
+    void Loop();
+    void FollowMounts();
+    void AddMonitors(const char* extensionPoint);
+    void Update();
 
     const GPtr<GMainContext> m_context;
     const GPtr<GMainContext> m_mountContext;      // of the thread that follows mounts
