@@ -7,9 +7,9 @@
 
 namespace {
 
-const char eraseLine[] = "\r\x1b[2K";
+const char kEraseLine[] = "\r\x1b[2K";
 
-void write(const QString& text)
+void Write(const QString& text)
 {
     const QByteArray bytes = text.toLocal8Bit();
     std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stdout);
@@ -22,29 +22,29 @@ Console::Console() : m_terminal(StandardOutputIsTerminal()) {}
 
 Console::~Console()
 {
-    clearProgress();
+    ClearProgress();
 }
 
-void Console::print(const QString& text)
+void Console::Print(const QString& text)
 {
-    clearProgress();
-    write(text + QLatin1Char('\n'));
+    ClearProgress();
+    Write(text + QLatin1Char('\n'));
 }
 
-void Console::progress(const QString& text)
+void Console::Progress(const QString& text)
 {
     if (!m_terminal) {
-        print(text);
+        Print(text);
         return;
     }
-    clearProgress();
-    write(text);
+    ClearProgress();
+    Write(text);
     m_progressShown = true;
 }
 
-void Console::clearProgress()
+void Console::ClearProgress()
 {
     if (m_progressShown)
-        write(QString::fromLatin1(eraseLine));
+        Write(QString::fromLatin1(kEraseLine));
     m_progressShown = false;
 }

@@ -14,13 +14,13 @@ public:
     Console& operator=(const Console&) = delete;
 
     /// Prints \a text and ends the line; a progress line makes room for it.
-    void print(const QString& text = {});
+    void Print(const QString& text = {});
     /// Shows \a text as progress: one line that each call replaces, or a plain line each when
     /// standard output is no terminal.
-    void progress(const QString& text);
+    void Progress(const QString& text);
 
 private:
-    void clearProgress();
+    void ClearProgress();
 
     const bool m_terminal;
     bool m_progressShown = false;

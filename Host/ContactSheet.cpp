@@ -9,13 +9,13 @@
 
 namespace {
 
-constexpr int captionHeight = 40;
-constexpr double narrowest = 0.5;
-constexpr double widest = 2.4;
+constexpr int kCaptionHeight = 40;
+constexpr double kNarrowest = 0.5;
+constexpr double kWidest = 2.4;
 /// A picture alone on its page stays within one screen.
-constexpr int tallest = 1080;
+constexpr int kTallest = 1080;
 
-int columnsFor(double shape, int count)
+int ColumnsFor(double shape, int count)
 {
     const int columns = shape < 0.9 ? 6 : shape > 2 ? 3 : 4;
     return qMin(columns, count);
@@ -23,61 +23,61 @@ int columnsFor(double shape, int count)
 
 } // namespace
 
-ContactSheet::ContactSheet(double shape, int count) : m_columns(columnsFor(shape, count))
+ContactSheet::ContactSheet(double shape, int count) : m_columns(ColumnsFor(shape, count))
 {
     using namespace SheetStyle;
-    const double cellShape = qBound(narrowest, shape, widest);
-    int width = (ContentWidth - (m_columns - 1) * Gap) / m_columns;
-    width = qMin(width, qRound(tallest * cellShape));
+    const double cellShape = qBound(kNarrowest, shape, kWidest);
+    int width = (kContentWidth - (m_columns - 1) * kGap) / m_columns;
+    width = qMin(width, qRound(kTallest * cellShape));
     m_cellSize = QSize(width, qRound(width / cellShape));
     const double pictureWidth = qMin<double>(width, m_cellSize.height() * shape);
     m_pictureSize = QSize(qMax(1, qRound(pictureWidth)), qMax(1, qRound(pictureWidth / shape)));
 }
 
-void ContactSheet::add(const QImage& picture, const QString& caption, const QString& note)
+void ContactSheet::Add(const QImage& picture, const QString& caption, const QString& note)
 {
     m_cells.append({picture, caption, note});
 }
 
-QImage ContactSheet::paint(const QString& title, const QString& subtitle) const
+QImage ContactSheet::Paint(const QString& title, const QString& subtitle) const
 {
     using namespace SheetStyle;
     const int rows = (m_cells.size() + m_columns - 1) / m_columns;
-    const int rowHeight = m_cellSize.height() + captionHeight + Gap;
-    const int top = Margin + HeaderHeight;
-    QImage page(Width, top + rows * rowHeight - Gap + Margin / 2, QImage::Format_RGB32);
-    page.fill(Background);
+    const int rowHeight = m_cellSize.height() + kCaptionHeight + kGap;
+    const int top = kMargin + kHeaderHeight;
+    QImage page(kWidth, top + rows * rowHeight - kGap + kMargin / 2, QImage::Format_RGB32);
+    page.fill(kBackground);
 
     QPainter painter(&page);
     painter.setRenderHint(QPainter::Antialiasing);
     PaintHeader(painter, title, subtitle);
-    const int gridWidth = m_columns * (m_cellSize.width() + Gap) - Gap;
-    const int left = (Width - gridWidth) / 2;
+    const int gridWidth = m_columns * (m_cellSize.width() + kGap) - kGap;
+    const int left = (kWidth - gridWidth) / 2;
     for (int index = 0; index < m_cells.size(); ++index)
-        paintCell(painter, m_cells[index],
-                  QPoint(left + index % m_columns * (m_cellSize.width() + Gap),
+        PaintCell(painter, m_cells[index],
+                  QPoint(left + index % m_columns * (m_cellSize.width() + kGap),
                          top + index / m_columns * rowHeight));
     return page;
 }
 
-void ContactSheet::paintCell(QPainter& painter, const Cell& cell, const QPoint& corner) const
+void ContactSheet::PaintCell(QPainter& painter, const Cell& cell, const QPoint& corner) const
 {
     using namespace SheetStyle;
     const QRect frame(corner, m_cellSize);
-    painter.fillRect(frame, Panel);
+    painter.fillRect(frame, kPanel);
     if (cell.picture.isNull()) {
-        PaintText(painter, frame, TextFont(19), FaintText,
+        PaintText(painter, frame, TextFont(19), kFaintText,
                   QCoreApplication::translate("ContactSheet", "no picture"), Qt::AlignHCenter);
     } else {
         QRect area(QPoint(), m_pictureSize);
         area.moveCenter(frame.center());
         painter.drawImage(area, cell.picture);
     }
-    painter.setPen(Line);
+    painter.setPen(kLine);
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(QRectF(frame).adjusted(-0.5, -0.5, 0.5, 0.5));
 
-    const QRect line(frame.left(), frame.bottom() + 1, frame.width(), captionHeight);
-    PaintText(painter, line, TextFont(19), Text, cell.caption, Qt::AlignLeft);
-    PaintText(painter, line, TextFont(17), FaintText, cell.note, Qt::AlignRight);
+    const QRect line(frame.left(), frame.bottom() + 1, frame.width(), kCaptionHeight);
+    PaintText(painter, line, TextFont(19), kText, cell.caption, Qt::AlignLeft);
+    PaintText(painter, line, TextFont(17), kFaintText, cell.note, Qt::AlignRight);
 }

@@ -16,11 +16,11 @@ public:
     ContactSheet(double shape, int count);
 
     /// Size in pixels to ask pictures for; it fills the cell in one direction.
-    QSize pictureSize() const { return m_pictureSize; }
+    QSize PictureSize() const { return m_pictureSize; }
     /// Adds a picture; a null one shows as an empty cell that says so.
-    void add(const QImage& picture, const QString& caption, const QString& note);
+    void Add(const QImage& picture, const QString& caption, const QString& note);
     /// The page. Works for fewer pictures than announced too.
-    QImage paint(const QString& title, const QString& subtitle) const;
+    QImage Paint(const QString& title, const QString& subtitle) const;
 
 private:
     struct Cell
@@ -29,7 +29,7 @@ private:
         QString caption;
         QString note;
     };
-    void paintCell(QPainter& painter, const Cell& cell, const QPoint& corner) const;
+    void PaintCell(QPainter& painter, const Cell& cell, const QPoint& corner) const;
 
     int m_columns;
     QSize m_cellSize;

@@ -20,11 +20,11 @@
 
 namespace {
 
-constexpr unsigned int sheetPictures = 12;
+constexpr unsigned int kSheetPictures = 12;
 
 /// Why the file cannot even be handed to the engine; empty when it can. Opening anything but a
 /// regular file might wait for ever.
-QString obstacle(const QFileInfo& file)
+QString Obstacle(const QFileInfo& file)
 {
     if (!file.exists())
         return MediaJob::tr("does not exist");
@@ -40,9 +40,9 @@ QString obstacle(const QFileInfo& file)
 }
 
 /// Frame numbers spread evenly from the first to the last, each one once.
-QVector<int> spreadFrames(unsigned int frames)
+QVector<int> SpreadFrames(unsigned int frames)
 {
-    const unsigned int count = qMin(frames, sheetPictures);
+    const unsigned int count = qMin(frames, kSheetPictures);
     QVector<int> result;
     for (unsigned int index = 0; index < count; ++index)
         result << (count > 1 ? int(quint64(index) * (frames - 1) / (count - 1)) : 0);
@@ -56,44 +56,44 @@ MediaJob::MediaJob(PlayerMaterProvider& provider, Console& console, OutputFolder
 {
 }
 
-bool MediaJob::run(const QString& path)
+bool MediaJob::Run(const QString& path)
 {
     m_path = path;
-    m_console.print();
-    m_console.print(path);
-    const QString reason = obstacle(QFileInfo(path));
+    m_console.Print();
+    m_console.Print(path);
+    const QString reason = Obstacle(QFileInfo(path));
     if (!reason.isEmpty()) {
-        explain(reason);
+        Explain(reason);
         return true;
     }
     const NLEComPtr<INLETimeline> node =
         m_provider.CreateMediaTimeline(QFileInfo(path).absoluteFilePath(), true);
     if (!node) {
-        explain(tr("cannot be read as media"));
+        Explain(tr("cannot be read as media"));
         return true;
     }
 
     MediaTimeline timeline(node, ExactType_Unknown, nullptr);
     const MediaReport report(timeline);
-    for (const QString& line : report.lines())
-        m_console.print(QStringLiteral("  ") + line);
-    if (report.pictureShape() > 0)
-        return makeContactSheet(timeline, report);
+    for (const QString& line : report.Lines())
+        m_console.Print(QStringLiteral("  ") + line);
+    if (report.PictureShape() > 0)
+        return MakeContactSheet(timeline, report);
     if (report.audio)
-        return makeWaveSheet(timeline, report);
-    explain(tr("holds neither picture nor sound"));
+        return MakeWaveSheet(timeline, report);
+    Explain(tr("holds neither picture nor sound"));
     return true;
 }
 
-bool MediaJob::makeContactSheet(NLETimeline& timeline, const MediaReport& report)
+bool MediaJob::MakeContactSheet(NLETimeline& timeline, const MediaReport& report)
 {
-    const QVector<int> frames = spreadFrames(report.frames);
+    const QVector<int> frames = SpreadFrames(report.frames);
     if (frames.isEmpty()) {
-        explain(tr("has no frames"));
+        Explain(tr("has no frames"));
         return true;
     }
-    ContactSheet sheet(report.pictureShape(), frames.size());
-    const QSize size = sheet.pictureSize();
+    ContactSheet sheet(report.PictureShape(), frames.size());
+    const QSize size = sheet.PictureSize();
     int failures = 0;
     for (int index = 0; index < frames.size(); ++index) {
         const int frame = frames[index];
@@ -103,40 +103,40 @@ bool MediaJob::makeContactSheet(NLETimeline& timeline, const MediaReport& report
             timeline.GetThumbnailFromMediaInfo(frame, size.width(), size.height(), false, last);
         failures += picture.isNull() ? 1 : 0;
         if (report.image)
-            sheet.add(picture, {}, {});
+            sheet.Add(picture, {}, {});
         else
-            sheet.add(picture, timecode, tr("frame %1").arg(frame));
+            sheet.Add(picture, timecode, tr("frame %1").arg(frame));
         const QString place = tr("picture %1 of %2: frame %3, %4")
                                   .arg(index + 1)
                                   .arg(frames.size())
                                   .arg(frame)
                                   .arg(timecode);
-        m_console.progress(QStringLiteral("  ") +
+        m_console.Progress(QStringLiteral("  ") +
                            (picture.isNull() ? tr("%1, not decoded").arg(place) : place));
     }
     if (failures == frames.size()) {
-        explain(tr("none of its pictures can be decoded"));
+        Explain(tr("none of its pictures can be decoded"));
         return true;
     }
     if (failures > 0)
-        explain(tr("%1 of %2 pictures cannot be decoded; the file may be damaged")
+        Explain(tr("%1 of %2 pictures cannot be decoded; the file may be damaged")
                     .arg(failures)
                     .arg(frames.size()));
-    return save(sheet.paint(QFileInfo(m_path).fileName(), report.summary()));
+    return Save(sheet.Paint(QFileInfo(m_path).fileName(), report.Summary()));
 }
 
-bool MediaJob::makeWaveSheet(NLETimeline& timeline, const MediaReport& report)
+bool MediaJob::MakeWaveSheet(NLETimeline& timeline, const MediaReport& report)
 {
     const NLEComPtr<INLEWaveExtractor> extractor = m_provider.CreateWaveExtractor();
     const NLEComPtr<INLEMediaInfo> info = timeline.GetTimelineMediaInfo();
-    const double seconds = report.seconds();
+    const double seconds = report.Seconds();
     bool measured =
         extractor && seconds > 0 &&
-        SUCCEEDED(extractor->SetSource(info.get(), report.firstStream(NLEStream_Audio)));
+        SUCCEEDED(extractor->SetSource(info.get(), report.FirstStream(NLEStream_Audio)));
 
     // In parts, so that a long recording shows how far it is.
     constexpr int parts = 8;
-    const int steps = WaveSheet::stepCount();
+    const int steps = WaveSheet::StepCount();
     QVector<float> minima(steps);
     QVector<float> maxima(steps);
     for (int part = 0; measured && part < parts; ++part) {
@@ -145,33 +145,33 @@ bool MediaJob::makeWaveSheet(NLETimeline& timeline, const MediaReport& report)
         measured =
             SUCCEEDED(extractor->Extract(seconds * first / steps, seconds * count / steps, count,
                                          minima.data() + first, maxima.data() + first));
-        m_console.progress(QStringLiteral("  ") +
+        m_console.Progress(QStringLiteral("  ") +
                            tr("wave form: part %1 of %2").arg(part + 1).arg(parts));
     }
     if (extractor)
         extractor->Finish();
     if (!measured) {
-        explain(tr("its sound cannot be decoded"));
+        Explain(tr("its sound cannot be decoded"));
         return true;
     }
-    return save(
-        WaveSheet::paint(QFileInfo(m_path).fileName(), report.summary(), minima, maxima, seconds));
+    return Save(
+        WaveSheet::Paint(QFileInfo(m_path).fileName(), report.Summary(), minima, maxima, seconds));
 }
 
-bool MediaJob::save(const QImage& page)
+bool MediaJob::Save(const QImage& page)
 {
-    const QString path = m_output.pictureFor(m_path);
+    const QString path = m_output.PictureFor(m_path);
     if (!page.save(path)) {
-        explain(tr("the result cannot be written to %1").arg(path));
+        Explain(tr("the result cannot be written to %1").arg(path));
         return false;
     }
-    m_console.print(QStringLiteral("  ") + tr("written: %1").arg(QDir::toNativeSeparators(path)));
+    m_console.Print(QStringLiteral("  ") + tr("written: %1").arg(QDir::toNativeSeparators(path)));
     return true;
 }
 
-void MediaJob::explain(const QString& reason)
+void MediaJob::Explain(const QString& reason)
 {
-    m_console.print(QStringLiteral("  %1: %2").arg(QFileInfo(m_path).fileName(), reason));
+    m_console.Print(QStringLiteral("  %1: %2").arg(QFileInfo(m_path).fileName(), reason));
     GetGlobalLogInstance()->LogWarn("Host/MediaJob", "MediaJob::explain", __LINE__, "%s: %s",
                                     m_path.toUtf8().constData(), reason.toUtf8().constData());
 }

@@ -23,13 +23,13 @@ public:
 
     /// Does the work for the file at \a path and prints it. False only when the result could not
     /// be written; a file that cannot be used gives a line that says why.
-    bool run(const QString& path);
+    bool Run(const QString& path);
 
 private:
-    bool makeContactSheet(NLETimeline& timeline, const MediaReport& report);
-    bool makeWaveSheet(NLETimeline& timeline, const MediaReport& report);
-    bool save(const QImage& page);
-    void explain(const QString& reason);
+    bool MakeContactSheet(NLETimeline& timeline, const MediaReport& report);
+    bool MakeWaveSheet(NLETimeline& timeline, const MediaReport& report);
+    bool Save(const QImage& page);
+    void Explain(const QString& reason);
 
     PlayerMaterProvider& m_provider;
     Console& m_console;

@@ -20,15 +20,15 @@ public:
     explicit MediaReport(NLETimeline& timeline);
 
     /// First stream of a type; NLENoStream when there is none.
-    std::uint32_t firstStream(NLEStreamType type) const;
+    std::uint32_t FirstStream(NLEStreamType type) const;
     /// Width over height as displayed, pixel shape included; 0 without a picture.
-    double pictureShape() const;
+    double PictureShape() const;
     /// Length in seconds; 0 when the rate is unknown.
-    double seconds() const;
+    double Seconds() const;
     /// "Video, 1280 × 720, 25 fps, 250 frames, 00:00:10:00"
-    QString summary() const;
+    QString Summary() const;
     /// The summary, the sample rates of the sound streams and a line for each stream.
-    QStringList lines() const;
+    QStringList Lines() const;
 
     bool image;
     bool video;

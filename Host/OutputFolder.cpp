@@ -6,7 +6,7 @@
 namespace {
 
 /// Two paths that some file systems take for one give the same key.
-QString key(const QString& path)
+QString Key(const QString& path)
 {
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath()).toCaseFolded();
 }
@@ -16,22 +16,22 @@ QString key(const QString& path)
 OutputFolder::OutputFolder(const QString& folder, const QStringList& mediaPaths) : m_folder(folder)
 {
     for (const QString& path : mediaPaths)
-        m_taken.insert(key(path));
+        m_taken.insert(Key(path));
 }
 
-bool OutputFolder::create() const
+bool OutputFolder::Create() const
 {
     return m_folder.mkpath(QStringLiteral("."));
 }
 
-QString OutputFolder::pictureFor(const QString& mediaPath)
+QString OutputFolder::PictureFor(const QString& mediaPath)
 {
     // File systems take names of 255 bytes, and a character may need four.
     constexpr int longest = 60;
     const QString base = QFileInfo(mediaPath).completeBaseName().left(longest);
-    QString path = file(base + QStringLiteral(".png"));
-    for (int number = 2; m_taken.contains(key(path)); ++number)
-        path = file(QStringLiteral("%1-%2.png").arg(base).arg(number));
-    m_taken.insert(key(path));
+    QString path = File(base + QStringLiteral(".png"));
+    for (int number = 2; m_taken.contains(Key(path)); ++number)
+        path = File(QStringLiteral("%1-%2.png").arg(base).arg(number));
+    m_taken.insert(Key(path));
     return path;
 }

@@ -13,11 +13,11 @@ public:
     OutputFolder(const QString& folder, const QStringList& mediaPaths);
 
     /// Makes the folder; false when that fails.
-    bool create() const;
+    bool Create() const;
     /// A PNG path for the result of a media file; each call gives another one.
-    QString pictureFor(const QString& mediaPath);
+    QString PictureFor(const QString& mediaPath);
     /// Path of a file of that name in the folder.
-    QString file(const QString& name) const { return m_folder.filePath(name); }
+    QString File(const QString& name) const { return m_folder.filePath(name); }
 
 private:
     QDir m_folder;

@@ -17,10 +17,10 @@ QFont TextFont(int pixels, bool strong)
 
 void PaintHeader(QPainter& painter, const QString& title, const QString& subtitle)
 {
-    const QRect titleArea(Margin, Margin - 12, ContentWidth, 52);
-    PaintText(painter, titleArea, TextFont(36, true), Text, title, Qt::AlignLeft);
-    const QRect subtitleArea(Margin, titleArea.bottom() + 6, ContentWidth, 34);
-    PaintText(painter, subtitleArea, TextFont(21), FaintText, subtitle, Qt::AlignLeft);
+    const QRect titleArea(kMargin, kMargin - 12, kContentWidth, 52);
+    PaintText(painter, titleArea, TextFont(36, true), kText, title, Qt::AlignLeft);
+    const QRect subtitleArea(kMargin, titleArea.bottom() + 6, kContentWidth, 34);
+    PaintText(painter, subtitleArea, TextFont(21), kFaintText, subtitle, Qt::AlignLeft);
 }
 
 void PaintText(QPainter& painter, const QRect& area, const QFont& font, const QColor& color,

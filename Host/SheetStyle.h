@@ -11,18 +11,18 @@ class QRect;
 /// The dark look that every sheet of the host shares. Measures are pixels.
 namespace SheetStyle {
 
-constexpr int Width = 1920;
-constexpr int Margin = 56;
-constexpr int HeaderHeight = 108; ///< title and subtitle, below the upper margin
-constexpr int Gap = 20;
-constexpr int ContentWidth = Width - 2 * Margin;
+constexpr int kWidth = 1920;
+constexpr int kMargin = 56;
+constexpr int kHeaderHeight = 108; ///< title and subtitle, below the upper margin
+constexpr int kGap = 20;
+constexpr int kContentWidth = kWidth - 2 * kMargin;
 
-const QColor Background(0x16, 0x18, 0x1c);
-const QColor Panel(0x0d, 0x0e, 0x11);
-const QColor Line(0x33, 0x37, 0x3f);
-const QColor Text(0xf2, 0xf3, 0xf5);
-const QColor FaintText(0x9a, 0xa1, 0xad);
-const QColor Accent(0x4f, 0xa3, 0xff);
+const QColor kBackground(0x16, 0x18, 0x1c);
+const QColor kPanel(0x0d, 0x0e, 0x11);
+const QColor kLine(0x33, 0x37, 0x3f);
+const QColor kText(0xf2, 0xf3, 0xf5);
+const QColor kFaintText(0x9a, 0xa1, 0xad);
+const QColor kAccent(0x4f, 0xa3, 0xff);
 
 /// A sans-serif font of \a pixels height.
 QFont TextFont(int pixels, bool strong = false);

@@ -7,7 +7,7 @@
 
 namespace {
 
-void logMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
+void LogMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     BaseLog* log = GetGlobalLogInstance();
     const QByteArray text = message.toUtf8();
@@ -28,7 +28,7 @@ void logMessage(QtMsgType type, const QMessageLogContext& context, const QString
 
 } // namespace
 
-ToolkitMessages::ToolkitMessages() : m_previous(qInstallMessageHandler(logMessage)) {}
+ToolkitMessages::ToolkitMessages() : m_previous(qInstallMessageHandler(LogMessage)) {}
 
 ToolkitMessages::~ToolkitMessages()
 {

@@ -10,11 +10,11 @@ using namespace SheetStyle;
 
 namespace {
 
-constexpr int waveHeight = 360;
-constexpr int axisHeight = 44;
+constexpr int kWaveHeight = 360;
+constexpr int kAxisHeight = 44;
 
 /// The smallest round step that leaves room for a label at each mark.
-double markStep(double seconds)
+double MarkStep(double seconds)
 {
     constexpr int mostMarks = 11;
     for (double step : {0.1, 0.2, 0.5, 1.0, 2.0, 5.0, 10.0, 15.0, 30.0, 60.0, 120.0, 300.0, 600.0,
@@ -26,7 +26,7 @@ double markStep(double seconds)
 }
 
 /// "0:04", with tenths where the step needs them.
-QString markText(double seconds, double step)
+QString MarkText(double seconds, double step)
 {
     const int minutes = int(seconds / 60 + 1e-6);
     const int decimals = step < 1 ? 1 : 0;
@@ -34,23 +34,23 @@ QString markText(double seconds, double step)
                                                     decimals, QLatin1Char('0'));
 }
 
-void paintAxis(QPainter& painter, const QRect& wave, double seconds)
+void PaintAxis(QPainter& painter, const QRect& wave, double seconds)
 {
-    const double step = markStep(seconds);
+    const double step = MarkStep(seconds);
     for (int mark = 0; mark * step < seconds + 1e-6; ++mark) {
         const int x = wave.left() + qRound(mark * step / seconds * (wave.width() - 1));
-        painter.fillRect(x, wave.top(), 1, wave.height() + 8, Line);
+        painter.fillRect(x, wave.top(), 1, wave.height() + 8, kLine);
         // The outermost labels stay within the page's margins.
         const int centre = qBound(wave.left() + 20, x, wave.right() - 20);
-        const QRect label(centre - 60, wave.bottom() + 10, 120, axisHeight - 10);
-        PaintText(painter, label, TextFont(17), FaintText, markText(mark * step, step),
+        const QRect label(centre - 60, wave.bottom() + 10, 120, kAxisHeight - 10);
+        PaintText(painter, label, TextFont(17), kFaintText, MarkText(mark * step, step),
                   Qt::AlignHCenter);
     }
 }
 
 /// A column of pixels for each step. Each reaches to the one before it, so that the line has no
 /// gaps where a step is shorter than a wave.
-void paintWave(QPainter& painter, const QRect& area, const QVector<float>& minima,
+void PaintWave(QPainter& painter, const QRect& area, const QVector<float>& minima,
                const QVector<float>& maxima)
 {
     const double middle = area.top() + area.height() / 2.0;
@@ -61,29 +61,29 @@ void paintWave(QPainter& painter, const QRect& area, const QVector<float>& minim
         const float low = qMin(minima[column], maxima[before]);
         const double top = middle - scale * double(qBound(-1.0f, high, 1.0f));
         const double bottom = middle - scale * double(qBound(-1.0f, low, 1.0f));
-        painter.fillRect(QRectF(area.left() + column, top, 1, qMax(1.0, bottom - top)), Accent);
+        painter.fillRect(QRectF(area.left() + column, top, 1, qMax(1.0, bottom - top)), kAccent);
     }
 }
 
 } // namespace
 
-int WaveSheet::stepCount()
+int WaveSheet::StepCount()
 {
-    return ContentWidth;
+    return kContentWidth;
 }
 
-QImage WaveSheet::paint(const QString& title, const QString& subtitle, const QVector<float>& minima,
+QImage WaveSheet::Paint(const QString& title, const QString& subtitle, const QVector<float>& minima,
                         const QVector<float>& maxima, double seconds)
 {
-    const QRect wave(Margin, Margin + HeaderHeight, ContentWidth, waveHeight);
-    QImage page(Width, wave.bottom() + 1 + axisHeight + Margin / 2, QImage::Format_RGB32);
-    page.fill(Background);
+    const QRect wave(kMargin, kMargin + kHeaderHeight, kContentWidth, kWaveHeight);
+    QImage page(kWidth, wave.bottom() + 1 + kAxisHeight + kMargin / 2, QImage::Format_RGB32);
+    page.fill(kBackground);
 
     QPainter painter(&page);
     PaintHeader(painter, title, subtitle);
-    painter.fillRect(wave, Panel);
+    painter.fillRect(wave, kPanel);
     if (seconds > 0)
-        paintAxis(painter, wave, seconds);
-    paintWave(painter, wave, minima, maxima);
+        PaintAxis(painter, wave, seconds);
+    PaintWave(painter, wave, minima, maxima);
     return page;
 }

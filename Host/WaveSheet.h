@@ -10,9 +10,9 @@ class WaveSheet
 {
 public:
     /// Number of steps to measure the sound in: one for each column of pixels.
-    static int stepCount();
-    /// The page. \a minima and \a maxima hold stepCount() values from -1 to 1; \a seconds is the
+    static int StepCount();
+    /// The page. \a minima and \a maxima hold StepCount() values from -1 to 1; \a seconds is the
     /// span that they cover.
-    static QImage paint(const QString& title, const QString& subtitle, const QVector<float>& minima,
+    static QImage Paint(const QString& title, const QString& subtitle, const QVector<float>& minima,
                         const QVector<float>& maxima, double seconds);
 };

@@ -33,7 +33,7 @@ enum ExitCode
     WrongUsage = 2
 };
 
-const char logName[] = "CommonLibDemo.log";
+const char kLogName[] = "CommonLibDemo.log";
 
 struct Options
 {
@@ -44,14 +44,14 @@ struct Options
 };
 
 /// Opens the process's log; false when the host must work without it.
-bool startLog(const Options& options, Console& console)
+bool StartLog(const Options& options, Console& console)
 {
     // A longer path would be cut, and the log be another file than the one asked for.
     constexpr int longestPath = 255;
     const QByteArray path = QFile::encodeName(options.log);
     BaseLog* log = GetGlobalLogInstance();
     if (path.size() > longestPath || log->Init(path.constData(), options.echo, LogLevelAll) != 0) {
-        console.print(
+        console.Print(
             Program::tr("The log %1 cannot be opened; going on without it.").arg(options.log));
         return false;
     }
@@ -60,9 +60,9 @@ bool startLog(const Options& options, Console& console)
 }
 
 /// Puts a copy of the log beside the results when it was kept elsewhere.
-void copyLog(const Options& options)
+void CopyLog(const Options& options)
 {
-    const QString copy = QDir(options.output).filePath(QString::fromLatin1(logName));
+    const QString copy = QDir(options.output).filePath(QString::fromLatin1(kLogName));
     // Also by way of a link it may be the same file, which removing the copy would lose.
     if (QFileInfo(copy).canonicalFilePath() == QFileInfo(options.log).canonicalFilePath())
         return;
@@ -70,11 +70,11 @@ void copyLog(const Options& options)
     QFile::copy(options.log, copy);
 }
 
-int reportFiles(const Options& options, OutputFolder& output, Console& console)
+int ReportFiles(const Options& options, OutputFolder& output, Console& console)
 {
     PlayerMaterProvider* provider = NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
     if (!provider->CreateNLEProperties()) {
-        console.print(Program::tr("The engine is missing or does not start: %1")
+        console.Print(Program::tr("The engine is missing or does not start: %1")
                           .arg(QDir::toNativeSeparators(QCoreApplication::applicationDirPath() +
                                                         QStringLiteral("/NLECore.dll"))));
         return Failure;
@@ -82,22 +82,22 @@ int reportFiles(const Options& options, OutputFolder& output, Console& console)
     bool written = true;
     MediaJob job(*provider, console, output);
     for (const QString& path : options.media)
-        written = job.run(path) && written;
+        written = job.Run(path) && written;
     return written ? Success : Failure;
 }
 
-int run(const Options& options, Console& console)
+int Run(const Options& options, Console& console)
 {
     OutputFolder output(options.output, options.media);
-    if (!output.create()) {
-        console.print(Program::tr("The folder %1 cannot be made.").arg(options.output));
+    if (!output.Create()) {
+        console.Print(Program::tr("The folder %1 cannot be made.").arg(options.output));
         return WrongUsage;
     }
     std::optional<ToolkitMessages> messages;
-    const bool logged = startLog(options, console);
+    const bool logged = StartLog(options, console);
     if (logged)
         messages.emplace();
-    const int code = reportFiles(options, output, console);
+    const int code = ReportFiles(options, output, console);
     // Everything that logs while it is destroyed goes before the log does.
     NLEWraper::Release();
     CVCreateInstance::Instance()->Release();
@@ -105,7 +105,7 @@ int run(const Options& options, Console& console)
     GetGlobalLogInstance()->LogInfo("Host/main", "main", __LINE__, "end");
     ReleseGlobalLogInstance();
     if (logged)
-        copyLog(options);
+        CopyLog(options);
     return code;
 }
 
@@ -128,10 +128,10 @@ int main(int argc, char* argv[])
                                   Program::tr("Print this help."));
     const QCommandLineOption output(QStringLiteral("output"), Program::tr("Folder for results."),
                                     Program::tr("FOLDER"), QStringLiteral("demo-output"));
-    const QCommandLineOption log(
-        QStringLiteral("log"),
-        Program::tr("Log file, by default %1 among the results.").arg(QString::fromLatin1(logName)),
-        Program::tr("FILE"));
+    const QCommandLineOption log(QStringLiteral("log"),
+                                 Program::tr("Log file, by default %1 among the results.")
+                                     .arg(QString::fromLatin1(kLogName)),
+                                 Program::tr("FILE"));
     const QCommandLineOption echo(QStringLiteral("echo"), Program::tr("Print the log as well."));
     parser.addOptions({help, output, log, echo, HostLanguage::Option()});
     parser.addPositionalArgument(Program::tr("MEDIA…"), Program::tr("Media files."));
@@ -139,22 +139,22 @@ int main(int argc, char* argv[])
     Console console;
     const bool understood = parser.parse(QCoreApplication::arguments());
     if (understood && parser.isSet(help)) {
-        console.print(parser.helpText());
+        console.Print(parser.helpText());
         return Success;
     }
     if (!understood || parser.positionalArguments().isEmpty()) {
-        console.print(understood ? Program::tr("No media file named.") : parser.errorText());
-        console.print(parser.helpText());
+        console.Print(understood ? Program::tr("No media file named.") : parser.errorText());
+        console.Print(parser.helpText());
         return WrongUsage;
     }
     if (const QString complaint = HostLanguage::Complaint(parser); !complaint.isEmpty()) {
-        console.print(complaint);
+        console.Print(complaint);
         return WrongUsage;
     }
 
     Options options{parser.value(output), parser.value(log), parser.isSet(echo),
                     parser.positionalArguments()};
     if (options.log.isEmpty())
-        options.log = QDir(options.output).filePath(QString::fromLatin1(logName));
-    return run(options, console);
+        options.log = QDir(options.output).filePath(QString::fromLatin1(kLogName));
+    return Run(options, console);
 }

@@ -22,12 +22,12 @@ std::wstring NativePath(const QString& path)
 /// \a days since 30 December 1899; 0 is no date.
 QDateTime DateOf(double days)
 {
-    constexpr double MillisecondsPerDay = 24.0 * 60 * 60 * 1000;
+    constexpr double millisecondsPerDay = 24.0 * 60 * 60 * 1000;
     if (days <= 0)
         return QDateTime();
     const QDateTime start(QDate(1899, 12, 30), QTime(0, 0));
     return start.addDays(static_cast<qint64>(days))
-        .addMSecs(qRound64((days - static_cast<qint64>(days)) * MillisecondsPerDay));
+        .addMSecs(qRound64((days - static_cast<qint64>(days)) * millisecondsPerDay));
 }
 
 } // namespace

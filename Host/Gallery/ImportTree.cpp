@@ -42,10 +42,10 @@ std::wstring IdOf(const QTreeWidgetItem& item)
 /// A picture that is quickly read, even over a slow connection.
 bool IsSmallPicture(const QTreeWidgetItem& item)
 {
-    constexpr qulonglong Most = 16ULL * 1024 * 1024;
+    constexpr qulonglong most = 16ULL * 1024 * 1024;
     static const QList<QByteArray> formats = QImageReader::supportedImageFormats();
     const QFileInfo file(item.text(NameColumn));
-    return item.data(NameColumn, SizeRole).toULongLong() <= Most &&
+    return item.data(NameColumn, SizeRole).toULongLong() <= most &&
            formats.contains(file.suffix().toLower().toLatin1());
 }
 

@@ -19,17 +19,17 @@
 namespace {
 
 /// Qt mirrors all layouts when this text, in this context of its own, becomes "RTL".
-const char* const s_direction[] = {
+const char* const kDirection[] = {
     //: "LTR" where text runs from left to right, "RTL" where it runs from right to left.
     QT_TRANSLATE_NOOP("QGuiApplication", "QT_LAYOUT_DIRECTION")};
 
 /// What an editor's screens say.
-const char* const s_sample[] = {QT_TRANSLATE_NOOP("LanguagePage", "Import media…"),
-                                QT_TRANSLATE_NOOP("LanguagePage", "Split at the play head"),
-                                QT_TRANSLATE_NOOP("LanguagePage", "Add a transition"),
-                                QT_TRANSLATE_NOOP("LanguagePage", "Undo"),
-                                QT_TRANSLATE_NOOP("LanguagePage", "Save the project"),
-                                QT_TRANSLATE_NOOP("LanguagePage", "Export…")};
+const char* const kSample[] = {QT_TRANSLATE_NOOP("LanguagePage", "Import media…"),
+                               QT_TRANSLATE_NOOP("LanguagePage", "Split at the play head"),
+                               QT_TRANSLATE_NOOP("LanguagePage", "Add a transition"),
+                               QT_TRANSLATE_NOOP("LanguagePage", "Undo"),
+                               QT_TRANSLATE_NOOP("LanguagePage", "Save the project"),
+                               QT_TRANSLATE_NOOP("LanguagePage", "Export…")};
 constexpr int kSampleColumns = 2;
 
 /// Each language in its own words, and in English for whoever ended up in the wrong one.
@@ -50,7 +50,7 @@ LanguagePage::LanguagePage(QWidget* parent)
     , m_count(new QSpinBox(this))
     , m_counted(new QLabel(this))
 {
-    Q_UNUSED(s_direction)
+    Q_UNUSED(kDirection)
     ListLanguages();
     // So that names in Latin script stay beside their labels where text runs from right to left.
     for (QLabel* name : {m_font, m_drawnIn})
@@ -109,7 +109,7 @@ QWidget* LanguagePage::MakeSample()
     auto* box = new QGroupBox(this);
     auto* grid = new QGridLayout(box);
     int cell = 0;
-    for (const char* source : s_sample) {
+    for (const char* source : kSample) {
         auto* button = new QPushButton(box);
         grid->addWidget(button, cell / kSampleColumns, cell % kSampleColumns);
         KeepTranslated(button, [button, source] { button->setText(tr(source)); });

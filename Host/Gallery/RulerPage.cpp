@@ -14,7 +14,7 @@ constexpr int kPlayHead = 800;
 constexpr int kStripHeight = 56;
 
 // What the ruler is called for screen readers.
-[[maybe_unused]] const char* const s_rulerName = QT_TRANSLATE_NOOP("TimelineRuler", "Ruler");
+[[maybe_unused]] const char* const kRulerName = QT_TRANSLATE_NOOP("TimelineRuler", "Ruler");
 
 QVector<ClipStrip::Clip> SampleClips()
 {

@@ -21,8 +21,8 @@ constexpr int kUprightWidth = 44;
 constexpr float kFps = 25;
 
 // What the zoom bar calls its buttons, for screen readers.
-const char* const s_zoomButtons[] = {QT_TRANSLATE_NOOP("ScaleUnitSlider", "Zoom out"),
-                                     QT_TRANSLATE_NOOP("ScaleUnitSlider", "Zoom in")};
+const char* const kZoomButtons[] = {QT_TRANSLATE_NOOP("ScaleUnitSlider", "Zoom out"),
+                                    QT_TRANSLATE_NOOP("ScaleUnitSlider", "Zoom in")};
 
 // A label of a text in the page's translation context.
 QLabel* Text(const char* text, QWidget* parent)
@@ -68,7 +68,7 @@ void AddHeading(QGridLayout& grid, QWidget* parent, const char* text)
 
 SliderPage::SliderPage(QWidget* parent) : QWidget(parent)
 {
-    Q_UNUSED(s_zoomButtons)
+    Q_UNUSED(kZoomButtons)
     auto* grid = new QGridLayout;
     grid->setColumnMinimumWidth(0, kCaptionWidth);
     grid->setColumnStretch(1, 1);
