@@ -14,8 +14,8 @@ constexpr std::size_t kLongestValue = 255;
 /// What the last load has read; one for the process, for one thread.
 Customization& Loaded()
 {
-    static Customization customization;
-    return customization;
+    static Customization s_customization;
+    return s_customization;
 }
 
 } // namespace

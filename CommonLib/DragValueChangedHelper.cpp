@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr int WarpDistance = 5;    // pixels
-constexpr int PauseDuration = 200; // ms
+constexpr int kWarpDistance = 5;    // pixels
+constexpr int kPauseDuration = 200; // ms
 
 /// Lower right corner over twice the whole scale: the middle of a primary screen at (0, 0) whose
 /// geometry counts native pixels, further up and left where Qt scales. Kept: see
@@ -39,9 +39,9 @@ QScreen* ScreenAt(const QPoint& position)
 bool IsAtEdge(const QPoint& position)
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    constexpr int Margin = 2 * WarpDistance;
-    return screen && (position.x() < screen->geometry().left() + Margin ||
-                      position.x() > screen->geometry().right() - Margin);
+    constexpr int margin = 2 * kWarpDistance;
+    return screen && (position.x() < screen->geometry().left() + margin ||
+                      position.x() > screen->geometry().right() - margin);
 }
 
 // A finger or a pen is where it is; a program cannot move it.
@@ -53,7 +53,7 @@ bool IsMouse(const QMouseEvent& event)
 
 int WarpDistanceFor(int distance)
 {
-    return std::max(distance, WarpDistance);
+    return std::max(distance, kWarpDistance);
 }
 
 } // namespace
@@ -240,7 +240,7 @@ DragValueChangedHelper::Pace DragValueChangedHelper::PaceOf(const QMouseEvent& e
         return {m_fastStep, m_fastDistance, WarpDistanceFor(m_fastDistance)};
     if (event.modifiers() & Qt::ControlModifier)
         return {m_slowStep, m_slowDistance, WarpDistanceFor(m_slowDistance)};
-    return {m_step, m_stepDistance, WarpDistance};
+    return {m_step, m_stepDistance, kWarpDistance};
 }
 
 bool DragValueChangedHelper::Move(const QMouseEvent& event)
@@ -255,7 +255,7 @@ bool DragValueChangedHelper::Move(const QMouseEvent& event)
         m_accel = 0;
         m_elapsed.restart();
     }
-    if (m_elapsed.elapsed() > PauseDuration)
+    if (m_elapsed.elapsed() > kPauseDuration)
         m_accel = 0;
     if (m_distance > pace.distance) {
         if (event.globalX() == m_lastPos.x())

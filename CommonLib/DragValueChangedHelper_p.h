@@ -28,29 +28,14 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void SetDragEnabled(bool enable);
 
-    QWidget* m_widget;
-    int m_stepDistance = 1;
-    int m_fastDistance = 1;
-    int m_slowDistance = 1;
-    bool m_loop = true;
-    double m_min = -DBL_MAX;
-    double m_max = DBL_MAX;
-    double m_step = 1.0;
-    double m_fastStep = 10.0;
-    double m_slowStep = 1.0;
-    double m_value = 0.0;
-    bool m_intercept = true; ///< false between a click and the loss of focus
-    bool m_dragEnabled = true;
-    QRect m_interactiveRect;
-    QCursor m_hoverCursor{Qt::SizeHorCursor};
-    QCursor m_dragCursor; ///< kept for the fixed list of fields; the pointer is hidden in a drag
-
 Q_SIGNALS:
     void sigValueChanged(double value);
     void sigStartValueChanged(double value);
     void sigEndValueChanged(double value);
 
 private:
+    friend class IDragValueChangedHelper; // reads and sets the fields
+
     /// What the keys that are held select.
     struct Pace
     {
@@ -77,6 +62,23 @@ private:
     void PushCursor(const QCursor& cursor);
     void PopCursor();
     void PopAllCursors();
+
+    QWidget* m_widget;
+    int m_stepDistance = 1;
+    int m_fastDistance = 1;
+    int m_slowDistance = 1;
+    bool m_loop = true;
+    double m_min = -DBL_MAX;
+    double m_max = DBL_MAX;
+    double m_step = 1.0;
+    double m_fastStep = 10.0;
+    double m_slowStep = 1.0;
+    double m_value = 0.0;
+    bool m_intercept = true; ///< false between a click and the loss of focus
+    bool m_dragEnabled = true;
+    QRect m_interactiveRect;
+    QCursor m_hoverCursor{Qt::SizeHorCursor};
+    QCursor m_dragCursor; ///< kept for the fixed list of fields; the pointer is hidden in a drag
 
     QElapsedTimer m_elapsed; ///< since the last step
     // Global coordinates.

@@ -3,49 +3,49 @@
 
 namespace {
 
-QWidget* mainWindow = nullptr;
-QWidget* matterView = nullptr;
-QWidget* playerView = nullptr;
-bool isRightToLeft = false;
+QWidget* s_mainWindow = nullptr;
+QWidget* s_matterView = nullptr;
+QWidget* s_playerView = nullptr;
+bool s_isRightToLeft = false;
 
 } // namespace
 
 void gSetMainWindow(void* /*ignored*/, QWidget* widget)
 {
-    mainWindow = widget;
+    s_mainWindow = widget;
 }
 
 QWidget* gGetMainWindow()
 {
-    return mainWindow;
+    return s_mainWindow;
 }
 
 void gSetMatterView(void* /*ignored*/, QWidget* widget)
 {
-    matterView = widget;
+    s_matterView = widget;
 }
 
 QWidget* gGetMatterView()
 {
-    return matterView;
+    return s_matterView;
 }
 
 void gSetPlayerView(void* /*ignored*/, QWidget* widget)
 {
-    playerView = widget;
+    s_playerView = widget;
 }
 
 QWidget* gGetPlayerView()
 {
-    return playerView;
+    return s_playerView;
 }
 
 void gSetArgLang(bool rightToLeft)
 {
-    isRightToLeft = rightToLeft;
+    s_isRightToLeft = rightToLeft;
 }
 
 bool gIsArgLang()
 {
-    return isRightToLeft;
+    return s_isRightToLeft;
 }

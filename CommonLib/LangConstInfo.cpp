@@ -22,7 +22,7 @@ LangConstInfo Row(Language_Locale locale, const char* langCode, const char* regi
 
 // The order is the one of language menus, not that of the values. Countries in place of languages
 // among the English names, and "ARG" for Arabic, are kept: see docs/compatibility.md.
-const std::array<LangConstInfo, 17> s_table = {
+const std::array<LangConstInfo, 17> kTable = {
     Row(Language_English, "en", "US", "ENG", "English"),
     Row(Language_German, "de", "DE", "DEU", "German"),
     Row(Language_Spanish, "es", "ES", "ESP", "Spanish"),
@@ -45,7 +45,7 @@ const std::array<LangConstInfo, 17> s_table = {
 QVector<Language_Locale> TableCodes()
 {
     QVector<Language_Locale> codes;
-    for (const LangConstInfo& row : s_table)
+    for (const LangConstInfo& row : kTable)
         codes.append(row.locale);
     return codes;
 }
@@ -108,8 +108,8 @@ bool LangConstInfo::Contains(const Language_Locale& value) const
 
 const LangConstInfo* GetGlobalLangConstInfos(int& count)
 {
-    count = static_cast<int>(s_table.size());
-    return s_table.data();
+    count = static_cast<int>(kTable.size());
+    return kTable.data();
 }
 
 QVector<Language_Locale>& LanguageCodes()
@@ -119,7 +119,7 @@ QVector<Language_Locale>& LanguageCodes()
 
 const LangConstInfo* FindLanguage(Language_Locale value)
 {
-    const auto found = std::find_if(s_table.begin(), s_table.end(),
+    const auto found = std::find_if(kTable.begin(), kTable.end(),
                                     [value](const auto& row) { return row.Contains(value); });
-    return found == s_table.end() ? nullptr : &*found;
+    return found == kTable.end() ? nullptr : &*found;
 }

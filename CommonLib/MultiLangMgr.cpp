@@ -20,8 +20,8 @@ namespace {
 
 MultiLangMgr* s_instance = nullptr;
 
-const char s_nameKey[] = "System/DefInstallLang";
-const char s_productKey[] = "System/ProductID";
+const char kNameKey[] = "System/DefInstallLang";
+const char kProductKey[] = "System/ProductID";
 
 /// An ini file of ours is far shorter; Qt would read all of a longer one into memory.
 constexpr qint64 kLongestConfig = qint64(1024) * 1024;
@@ -178,7 +178,7 @@ QString MultiLangMgr::StoredName() const
 {
     if (!IsUsableConfig(m_configPath))
         return QString();
-    return QSettings(m_configPath, QSettings::IniFormat).value(s_nameKey).toString();
+    return QSettings(m_configPath, QSettings::IniFormat).value(kNameKey).toString();
 }
 
 void MultiLangMgr::StoreCurrentLang()
@@ -189,8 +189,8 @@ void MultiLangMgr::StoreCurrentLang()
         return;
     // Both values go out in one step when the settings are destroyed, or neither does.
     QSettings settings(m_configPath, QSettings::IniFormat);
-    settings.setValue(s_nameKey, GetSimpleName1());
-    settings.setValue(s_productKey, product);
+    settings.setValue(kNameKey, GetSimpleName1());
+    settings.setValue(kProductKey, product);
 }
 
 const LanguageTranslators* MultiLangMgr::CurrentTranslators() const

@@ -10,7 +10,7 @@
 
 namespace {
 
-using AesCipher::BlockSize;
+using AesCipher::kBlockSize;
 
 struct KeySizeValues
 {
@@ -47,7 +47,7 @@ bool Pad(std::uint8_t* block, int used, QAESEncryption::Padding padding)
 {
     if (used == 0 && padding != QAESEncryption::PKCS7)
         return false;
-    const int size = BlockSize - used;
+    const int size = kBlockSize - used;
     const int value = padding == QAESEncryption::PKCS7 ? size : 0;
     std::memset(block + used, value, static_cast<std::size_t>(size));
     if (padding == QAESEncryption::ISO)
@@ -60,15 +60,15 @@ AesCipher::Transform Encryption(QAESEncryption::Mode mode)
     const AesCipher::Implementation& cipher = AesCipher::Current();
     switch (mode) {
     case QAESEncryption::CBC:
-        return cipher.CbcEncrypt;
+        return cipher.cbcEncrypt;
     case QAESEncryption::CFB:
-        return cipher.CfbEncrypt;
+        return cipher.cfbEncrypt;
     case QAESEncryption::OFB:
-        return cipher.Ofb;
+        return cipher.ofb;
     case QAESEncryption::ECB:
         break;
     }
-    return cipher.EcbEncrypt;
+    return cipher.ecbEncrypt;
 }
 
 AesCipher::Transform Decryption(QAESEncryption::Mode mode)
@@ -76,15 +76,15 @@ AesCipher::Transform Decryption(QAESEncryption::Mode mode)
     const AesCipher::Implementation& cipher = AesCipher::Current();
     switch (mode) {
     case QAESEncryption::CBC:
-        return cipher.CbcDecrypt;
+        return cipher.cbcDecrypt;
     case QAESEncryption::CFB:
-        return cipher.CfbDecrypt;
+        return cipher.cfbDecrypt;
     case QAESEncryption::OFB:
-        return cipher.Ofb;
+        return cipher.ofb;
     case QAESEncryption::ECB:
         break;
     }
-    return cipher.EcbDecrypt;
+    return cipher.ecbDecrypt;
 }
 
 // Modes that only add the key stream to the text, so a part of a block can be decrypted.
@@ -97,7 +97,7 @@ bool IsStreamMode(QAESEncryption::Mode mode)
 
 QAESEncryption::QAESEncryption(Aes level, Mode mode, Padding padding)
     : m_columns(4)
-    , m_blockLength(BlockSize)
+    , m_blockLength(kBlockSize)
     , m_level(level)
     , m_mode(mode)
     , m_keyWords(kKeySizes[level].keyWords)
@@ -111,7 +111,7 @@ QAESEncryption::QAESEncryption(Aes level, Mode mode, Padding padding)
 
 bool QAESEncryption::Accepts(const QByteArray& key, const QByteArray& iv) const
 {
-    return key.size() >= m_keyLength && (m_mode == ECB || iv.size() == BlockSize);
+    return key.size() >= m_keyLength && (m_mode == ECB || iv.size() == kBlockSize);
 }
 
 QByteArray QAESEncryption::encode(const QByteArray& rawText, const QByteArray& key,
@@ -119,22 +119,22 @@ QByteArray QAESEncryption::encode(const QByteArray& rawText, const QByteArray& k
 {
     if (!Accepts(key, iv))
         return QByteArray();
-    const int rest = rawText.size() % BlockSize;
+    const int rest = rawText.size() % kBlockSize;
     const int whole = rawText.size() - rest;
-    std::uint8_t last[BlockSize];
+    std::uint8_t last[kBlockSize];
     std::copy_n(Bytes(rawText) + whole, rest, last);
     const bool padded = Pad(last, rest, m_padding);
-    QByteArray result = UninitializedArray(qint64(whole) + (padded ? BlockSize : 0));
+    QByteArray result = UninitializedArray(qint64(whole) + (padded ? kBlockSize : 0));
     if (result.isEmpty())
         return result;
 
     AesCipher::Schedule schedule;
-    AesCipher::Current().ExpandKey(Bytes(key), m_keyWords, schedule);
-    std::uint8_t chain[BlockSize];
-    std::copy_n(Bytes(iv), m_mode == ECB ? 0 : BlockSize, chain);
+    AesCipher::Current().expandKey(Bytes(key), m_keyWords, schedule);
+    std::uint8_t chain[kBlockSize];
+    std::copy_n(Bytes(iv), m_mode == ECB ? 0 : kBlockSize, chain);
     const AesCipher::Transform encrypt = Encryption(m_mode);
     m_block = reinterpret_cast<unsigned char*>(result.data());
-    encrypt(schedule, chain, Bytes(rawText), m_block, static_cast<std::size_t>(whole / BlockSize));
+    encrypt(schedule, chain, Bytes(rawText), m_block, static_cast<std::size_t>(whole / kBlockSize));
     m_block += whole;
     encrypt(schedule, chain, last, m_block, padded ? 1 : 0);
     m_block = nullptr;
@@ -146,7 +146,7 @@ QByteArray QAESEncryption::decode(const QByteArray& rawText, const QByteArray& k
 {
     if (!Accepts(key, iv))
         return QByteArray();
-    const int rest = rawText.size() % BlockSize;
+    const int rest = rawText.size() % kBlockSize;
     const int whole = rawText.size() - rest;
     const bool partial = rest > 0 && IsStreamMode(m_mode);
     QByteArray result = UninitializedArray(partial ? rawText.size() : whole);
@@ -154,17 +154,17 @@ QByteArray QAESEncryption::decode(const QByteArray& rawText, const QByteArray& k
         return result;
 
     AesCipher::Schedule schedule;
-    AesCipher::Current().ExpandKey(Bytes(key), m_keyWords, schedule);
+    AesCipher::Current().expandKey(Bytes(key), m_keyWords, schedule);
     if (!IsStreamMode(m_mode))
-        AesCipher::Current().AddDecryptionKeys(schedule);
-    std::uint8_t chain[BlockSize];
-    std::copy_n(Bytes(iv), m_mode == ECB ? 0 : BlockSize, chain);
+        AesCipher::Current().addDecryptionKeys(schedule);
+    std::uint8_t chain[kBlockSize];
+    std::copy_n(Bytes(iv), m_mode == ECB ? 0 : kBlockSize, chain);
     const AesCipher::Transform decrypt = Decryption(m_mode);
     m_block = reinterpret_cast<unsigned char*>(result.data());
-    decrypt(schedule, chain, Bytes(rawText), m_block, static_cast<std::size_t>(whole / BlockSize));
+    decrypt(schedule, chain, Bytes(rawText), m_block, static_cast<std::size_t>(whole / kBlockSize));
     if (partial) {
-        std::uint8_t last[BlockSize] = {};
-        std::uint8_t plain[BlockSize];
+        std::uint8_t last[kBlockSize] = {};
+        std::uint8_t plain[kBlockSize];
         std::copy_n(Bytes(rawText) + whole, rest, last);
         decrypt(schedule, chain, last, plain, 1);
         m_block += whole;
@@ -199,7 +199,7 @@ QByteArray QAESEncryption::expandKey(const QByteArray& key)
     if (key.size() < m_keyLength)
         return QByteArray();
     AesCipher::Schedule schedule;
-    AesCipher::Current().ExpandKey(Bytes(key), m_keyWords, schedule);
+    AesCipher::Current().expandKey(Bytes(key), m_keyWords, schedule);
     const int size = AesCipher::ScheduleSize(m_rounds);
     const int surplus = key.size() - m_keyLength;
     QByteArray result = UninitializedArray(qint64(size) + surplus);

@@ -5,7 +5,7 @@
 
 namespace {
 
-QRgb systemBorderColor = 0;
+QRgb s_systemBorderColor = 0;
 
 } // namespace
 
@@ -22,10 +22,10 @@ int gGetSystemBorder()
 
 void gInitBorderColor()
 {
-    systemBorderColor = DesktopAccentColor().value_or(systemBorderColor);
+    s_systemBorderColor = DesktopAccentColor().value_or(s_systemBorderColor);
 }
 
 QColor gGetBorderColor(bool useSystem)
 {
-    return useSystem ? QColor(systemBorderColor) : QColor(42, 52, 63, 255);
+    return useSystem ? QColor(s_systemBorderColor) : QColor(42, 52, 63, 255);
 }

@@ -25,13 +25,13 @@ inline QString FromWide(const wchar_t* text)
         return QString();
     // Qt takes a text codec for UTF-32, which costs several times the copy that nearly all text
     // needs.
-    constexpr std::uint32_t FirstSurrogate = 0xD800;
+    constexpr std::uint32_t firstSurrogate = 0xD800;
     const int length = static_cast<int>(std::wcslen(text));
     QString result(length, Qt::Uninitialized);
     QChar* const out = result.data();
     for (int i = 0; i < length; ++i) {
         const auto code = static_cast<std::make_unsigned_t<wchar_t>>(text[i]);
-        if (code >= FirstSurrogate)
+        if (code >= firstSurrogate)
             return QString::fromWCharArray(text, length);
         out[i] = QChar(static_cast<ushort>(code));
     }

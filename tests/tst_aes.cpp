@@ -103,7 +103,7 @@ private slots:
     void processorIsUsed()
     {
 #if defined(__x86_64__) && defined(__GNUC__)
-        const bool isUsed = AesCipher::Available(0) != &AesCipher::Portable;
+        const bool isUsed = AesCipher::Available(0) != &AesCipher::kPortable;
         QCOMPARE(isUsed, bool(__builtin_cpu_supports("aes")));
 #else
         QVERIFY(AesCipher::Available(0));
@@ -164,7 +164,7 @@ private slots:
             const ExactArray key(RandomArray(random, 16 + 8 * level));
             const ExactArray iv(RandomArray(random, 16));
             Crypto aes(Aes(level), Mode(mode), Crypto::PKCS7);
-            AesCipher::Use(&AesCipher::Portable);
+            AesCipher::Use(&AesCipher::kPortable);
             const QByteArray encoded = aes.encode(text, key, iv);
             const QByteArray decoded = aes.decode(text, key, iv);
             QCOMPARE(encoded.size(), size / 16 * 16 + 16);
@@ -192,21 +192,21 @@ private slots:
         constexpr std::size_t size = blocks * 16;
         QRandomGenerator random(38);
         const ExactArray text(RandomArray(random, size));
-        for (auto transform : {&Implementation::EcbEncrypt, &Implementation::EcbDecrypt,
-                               &Implementation::CbcDecrypt, &Implementation::CfbDecrypt}) {
+        for (auto transform : {&Implementation::ecbEncrypt, &Implementation::ecbDecrypt,
+                               &Implementation::cbcDecrypt, &Implementation::cfbDecrypt}) {
             const auto run = [&](const Implementation& cipher, char* out) {
                 AesCipher::Schedule schedule;
-                cipher.ExpandKey(Bytes(kCountingKey.constData()), 4, schedule);
-                cipher.AddDecryptionKeys(schedule);
+                cipher.expandKey(Bytes(kCountingKey.constData()), 4, schedule);
+                cipher.addDecryptionKeys(schedule);
                 QByteArray chain = kIv;
                 (cipher.*transform)(schedule, Bytes(chain.data()), Bytes(text.Data()), Bytes(out),
                                     blocks);
                 return chain;
             };
             std::vector<char> expected(size);
-            const QByteArray expectedChain = run(AesCipher::Portable, expected.data());
+            const QByteArray expectedChain = run(AesCipher::kPortable, expected.data());
 
-            for (int i = 0; AesCipher::Available(i) != &AesCipher::Portable; ++i) {
+            for (int i = 0; AesCipher::Available(i) != &AesCipher::kPortable; ++i) {
                 const Implementation& cipher = *AesCipher::Available(i);
                 for (int offset : {0, 8, 40, 61}) {
                     std::vector<char> buffer(size + 256, '#');

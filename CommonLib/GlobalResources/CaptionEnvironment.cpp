@@ -21,16 +21,16 @@
 
 namespace {
 
-constexpr char SourcePath[] = "CommonLib/GlobalResources";
-constexpr char ConstructorName[] = "CaptionEnvironment::CaptionEnvironment";
-constexpr char AddFontsName[] = "CaptionEnvironment::AddFonts";
-constexpr char AddSystemFontsName[] = "CaptionEnvironment::AddSystemFonts";
-constexpr char InitSystemFontName[] = "CaptionEnvironment::InitSystemFont";
+constexpr char kSourcePath[] = "CommonLib/GlobalResources";
+constexpr char kConstructorName[] = "CaptionEnvironment::CaptionEnvironment";
+constexpr char kAddFontsName[] = "CaptionEnvironment::AddFonts";
+constexpr char kAddSystemFontsName[] = "CaptionEnvironment::AddSystemFonts";
+constexpr char kInitSystemFontName[] = "CaptionEnvironment::InitSystemFont";
 
 /// What the factory's shut-down is told: that the object goes for good.
-constexpr int DeletingFlag = 1;
+constexpr int kDeletingFlag = 1;
 
-constexpr int NameCapacity = 256;
+constexpr int kNameCapacity = 256;
 
 ICaptionEnvironment* s_instance = nullptr;
 
@@ -101,13 +101,13 @@ CaptionEnvironment::CaptionEnvironment()
     BaseLog* log = GetGlobalLogInstance();
     if (!CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
                                                         INLEFactory::Iid, m_factory.putVoid())) {
-        log->LogInfo(SourcePath, ConstructorName, __LINE__, "Font Factory failed");
+        log->LogInfo(kSourcePath, kConstructorName, __LINE__, "Font Factory failed");
         return;
     }
     m_factory->Init(0);
     m_library = EngineObject<INLEFontLibrary>(m_factory.get(), &INLEFactory::GetFontLibrary);
     if (!m_library) {
-        log->LogInfo(SourcePath, ConstructorName, __LINE__, "m_pFontLibrary failed");
+        log->LogInfo(kSourcePath, kConstructorName, __LINE__, "m_pFontLibrary failed");
         return;
     }
     InitFontFolder();
@@ -117,7 +117,7 @@ CaptionEnvironment::CaptionEnvironment()
 CaptionEnvironment::~CaptionEnvironment()
 {
     if (m_factory)
-        m_factory->Shutdown(DeletingFlag);
+        m_factory->Shutdown(kDeletingFlag);
     ClearFonts();
     m_library.reset(); // before the factory that it came from
 }
@@ -155,14 +155,14 @@ void CaptionEnvironment::AddFonts(const QString& folder)
     if (!QFileInfo(folder).isDir() || !m_library)
         return;
     BaseLog* log = GetGlobalLogInstance();
-    log->LogInfo(SourcePath, AddFontsName, __LINE__, "AddFonts Fontcount:%d", m_fonts.size());
+    log->LogInfo(kSourcePath, kAddFontsName, __LINE__, "AddFonts Fontcount:%d", m_fonts.size());
     ClearFonts();
     QString completed = folder;
     if (!folder.endsWith('\\') && !folder.endsWith('/'))
         completed += QDir::separator();
     m_library->AddFontFolder(NativeWide(completed).c_str());
     InitSystemFont();
-    log->LogInfo(SourcePath, AddFontsName, __LINE__, "AddFonts Fontcount:%d", m_fonts.size());
+    log->LogInfo(kSourcePath, kAddFontsName, __LINE__, "AddFonts Fontcount:%d", m_fonts.size());
 }
 
 void CaptionEnvironment::AddSystemFonts()
@@ -171,9 +171,9 @@ void CaptionEnvironment::AddSystemFonts()
         return;
     ClearFonts();
     BaseLog* log = GetGlobalLogInstance();
-    log->LogInfo(SourcePath, AddSystemFontsName, __LINE__, "LoadSystemFonts start");
+    log->LogInfo(kSourcePath, kAddSystemFontsName, __LINE__, "LoadSystemFonts start");
     m_library->LoadSystemFonts();
-    log->LogInfo(SourcePath, AddSystemFontsName, __LINE__, "LoadSystemFonts end");
+    log->LogInfo(kSourcePath, kAddSystemFontsName, __LINE__, "LoadSystemFonts end");
     InitSystemFont();
 }
 
@@ -182,12 +182,12 @@ void CaptionEnvironment::InitSystemFont()
     const ToolkitFamilies families;
     int count = 0;
     m_library->GetFontCount(&count);
-    GetGlobalLogInstance()->LogInfo(SourcePath, InitSystemFontName, __LINE__, "Fontcount:%d",
+    GetGlobalLogInstance()->LogInfo(kSourcePath, kInitSystemFontName, __LINE__, "Fontcount:%d",
                                     count);
     QMap<QString, QString> sorted;
     for (int index = 0; index < count; ++index) {
-        std::array<wchar_t, NameCapacity> buffer{};
-        if (FAILED(m_library->GetFontName(index, buffer.data(), NameCapacity)))
+        std::array<wchar_t, kNameCapacity> buffer{};
+        if (FAILED(m_library->GetFontName(index, buffer.data(), kNameCapacity)))
             continue;
         const QString name = FromWide(buffer);
         sorted.insert(name, families.Find(name));

@@ -172,8 +172,8 @@ void FAudioStreamProcessHelper::SetEqualizerName(QString name)
 
 QString FAudioStreamProcessHelper::GetEqualizerName() const
 {
-    constexpr int Capacity = 128;
-    return EngineText<Capacity>(L'\0', GetAudioStreamProcess().get(),
+    constexpr int capacity = 128;
+    return EngineText<capacity>(L'\0', GetAudioStreamProcess().get(),
                                 &INLEAudioStreamProcess::GetEqualizerName);
 }
 

@@ -20,17 +20,17 @@
 
 namespace {
 
-constexpr char SourcePath[] = "CommonLib/NLEWraper/FPreViewRenderHelper";
-constexpr int UpdateDelay = 50;       // ms
-constexpr int AutoRenderSeconds = 60; // until a host sets its own
-constexpr int StopTimeOut = 30000;    // ms
-constexpr int EventSlice = 100;       // ms
-constexpr int MaxQuota = 100 * 1024;  // MiB
-constexpr int DiskReserve = 2 * 1024; // MiB
-constexpr float ProjectScale = 0.5f;
+constexpr char kSourcePath[] = "CommonLib/NLEWraper/FPreViewRenderHelper";
+constexpr int kUpdateDelay = 50;       // ms
+constexpr int kAutoRenderSeconds = 60; // until a host sets its own
+constexpr int kStopTimeOut = 30000;    // ms
+constexpr int kEventSlice = 100;       // ms
+constexpr int kMaxQuota = 100 * 1024;  // MiB
+constexpr int kDiskReserve = 2 * 1024; // MiB
+constexpr float kProjectScale = 0.5f;
 
 #define LOG_INFO(function, ...)                                                                    \
-    GetGlobalLogInstance()->LogInfo(SourcePath, "FPreViewRenderHelper::" function, __LINE__,       \
+    GetGlobalLogInstance()->LogInfo(kSourcePath, "FPreViewRenderHelper::" function, __LINE__,      \
                                     __VA_ARGS__)
 
 // Readers of the log look for this file's messages as they are, misspellings included: see
@@ -60,10 +60,10 @@ QList<void*> FPreViewRenderHelper::m_asynUpdateUserDatas;
 QList<void*> FPreViewRenderHelper::m_renderUserDatas;
 
 FPreViewRenderHelper::FPreViewRenderHelper(NLEComPtr<INLETimeline> timeline, QObject* parent)
-    : QObject(parent), m_timeline(std::move(timeline)), m_autoRenderSeconds(AutoRenderSeconds)
+    : QObject(parent), m_timeline(std::move(timeline)), m_autoRenderSeconds(kAutoRenderSeconds)
 {
     if (const auto* owner = qobject_cast<NLETimeline*>(parent))
-        SetCacheSize(owner->GetProjectResolution(), ProjectScale);
+        SetCacheSize(owner->GetProjectResolution(), kProjectScale);
     m_autoRenderTimer = new QTimer(this);
     connect(m_autoRenderTimer, &QTimer::timeout, this,
             &FPreViewRenderHelper::SlotAutoRenderTimeOut);
@@ -86,7 +86,7 @@ FPreViewRenderHelper::~FPreViewRenderHelper()
         m_asynUpdateUserDatas.removeOne(this);
     }
     m_autoRenderEnable = false;
-    m_autoRenderSeconds = AutoRenderSeconds;
+    m_autoRenderSeconds = kAutoRenderSeconds;
     m_autoRenderTimer->stop();
     if (IsCaching())
         StopRenderSync();
@@ -235,12 +235,12 @@ bool FPreViewRenderHelper::SetCacheDirectory(QString folder)
         if (!self)
             return false;
         const int freeSpace = static_cast<int>(gGetDiskFreeSpace(nullptr, folder));
-        const int quota = std::min(freeSpace / 2, MaxQuota);
+        const int quota = std::min(freeSpace / 2, kMaxQuota);
         // Only the folder's first character is logged. Kept: see docs/compatibility.md.
         LOG_INFO("SetCacheDirectory", "folderSize:%s forder:%s",
                  qUtf8Printable(QString::number(quota)), WideAsNarrow(folder));
         success = SUCCEEDED(
-            m_backgroundCache->SetCacheFolder(ToWide(folder).c_str(), quota, DiskReserve));
+            m_backgroundCache->SetCacheFolder(ToWide(folder).c_str(), quota, kDiskReserve));
         SetCachingState(Idle);
         if (self)
             delayedAsyncUpdate();
@@ -272,7 +272,7 @@ void FPreViewRenderHelper::SetCacheSize(QSize size, float ratio)
     }
     m_cacheWidth = size.width();
     m_cacheHeight = size.height();
-    doDelayedUpdate(UpdateDelay);
+    doDelayedUpdate(kUpdateDelay);
     LOG_INFO("SetCacheSize", "cacth width:%d,cacth height:%d", m_cacheWidth, m_cacheHeight);
 }
 
@@ -300,7 +300,7 @@ void FPreViewRenderHelper::StartRender()
         return;
     if (!EnsureCacheFolder()) {
         GetGlobalLogInstance()->LogError(
-            SourcePath, "FPreViewRenderHelper::StartRender", __LINE__,
+            kSourcePath, "FPreViewRenderHelper::StartRender", __LINE__,
             "Preview Render CacheDir is not exist, CacheDir mkpath failed!");
         SetCachingState(FolderUnwriteable);
         return;
@@ -318,7 +318,7 @@ void FPreViewRenderHelper::StartRender()
         const QPointer<FPreViewRenderHelper> self(this);
         SetCachingState(Finished);
         if (self)
-            doDelayedUpdate(UpdateDelay);
+            doDelayedUpdate(kUpdateDelay);
     }
 }
 
@@ -365,8 +365,8 @@ bool FPreViewRenderHelper::WaitForStop()
         static_cast<Qt::ConnectionType>(Qt::AutoConnection | Qt::UniqueConnection));
     QElapsedTimer waited;
     waited.start();
-    while (self && !stopped && waited.elapsed() < StopTimeOut) {
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, EventSlice);
+    while (self && !stopped && waited.elapsed() < kStopTimeOut) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kEventSlice);
         // Without events the call returns at once; the rest keeps the processor free.
         if (!stopped)
             QThread::msleep(1);
@@ -393,8 +393,8 @@ void FPreViewRenderHelper::DelRenderCache(bool flag)
 
 int FPreViewRenderHelper::AutoRenderInterval() const
 {
-    constexpr double Millisecond = 1000;
-    return ToInteger<int>(std::max(m_autoRenderSeconds, 0) * Millisecond);
+    constexpr double millisecond = 1000;
+    return ToInteger<int>(std::max(m_autoRenderSeconds, 0) * millisecond);
 }
 
 /// Stops the countdown, and starts it anew when auto-render is on and \a wanted.
@@ -422,7 +422,7 @@ void FPreViewRenderHelper::SetForceStopAutoStartRender(bool force)
     if (!self)
         return;
     m_autoRenderEnable = false;
-    m_autoRenderSeconds = AutoRenderSeconds;
+    m_autoRenderSeconds = kAutoRenderSeconds;
     m_autoRenderTimer->stop();
 }
 
@@ -444,7 +444,7 @@ void FPreViewRenderHelper::ClearUpdateCallBack(bool clear)
 
 void FPreViewRenderHelper::Update()
 {
-    doDelayedUpdate(UpdateDelay);
+    doDelayedUpdate(kUpdateDelay);
 }
 
 void FPreViewRenderHelper::UpdateSysc()
@@ -553,14 +553,14 @@ void FPreViewRenderHelper::Register(QList<void*>& helpers, void* helper)
 int FPreViewRenderHelper::OnRender(int progress, long state, long cachedFrames, long totalFrames,
                                    void* userData)
 {
-    constexpr int Complete = 100;
+    constexpr int complete = 100;
     const QMutexLocker lock(&s_asynUpdateUserDatasMutex);
     if (!m_renderUserDatas.contains(userData))
         return 0;
     auto* helper = static_cast<FPreViewRenderHelper*>(userData);
     QMetaObject::invokeMethod(
         helper, "SetCachingState", Qt::QueuedConnection,
-        Q_ARG(long, progress < Complete ? state : static_cast<long>(Finished)));
+        Q_ARG(long, progress < complete ? state : static_cast<long>(Finished)));
     return QMetaObject::invokeMethod(helper, "SetProgressInfo", Qt::QueuedConnection,
                                      Q_ARG(long, progress), Q_ARG(long, cachedFrames),
                                      Q_ARG(long, totalFrames));

@@ -7,15 +7,15 @@
 
 namespace {
 
-constexpr char SourcePath[] = "CommonLib/NLEWraper/FTimelineTransformHelper";
-constexpr char SetTransformLockName[] = "FTimelineTransformHelper::SetTransformLock";
+constexpr char kSourcePath[] = "CommonLib/NLEWraper/FTimelineTransformHelper";
+constexpr char kSetTransformLockName[] = "FTimelineTransformHelper::SetTransformLock";
 
 /// The timeline type that \a node's properties tell; 0 when they do not.
 int TimelineType(INLETimeline* node)
 {
-    constexpr int Capacity = 255;
+    constexpr int capacity = 255;
     const auto properties = EngineObject<INLEProperties>(node, &INLETimeline::GetProperties);
-    return EngineText<Capacity>(L'\0', properties.get(), &INLEProperties::GetString,
+    return EngineText<capacity>(L'\0', properties.get(), &INLEProperties::GetString,
                                 L"key_timeline_type")
         .toInt();
 }
@@ -189,10 +189,10 @@ void FTimelineTransformHelper::SetTransformLock(bool lock)
         static_cast<unsigned int>(reinterpret_cast<std::uintptr_t>(m_timeline.get()));
     BaseLog* log = GetGlobalLogInstance();
     if (TimelineType(m_timeline.get()) == ExactType_SplitScreen)
-        log->LogInfo(SourcePath, SetTransformLockName, __LINE__,
+        log->LogInfo(kSourcePath, kSetTransformLockName, __LINE__,
                      "SplitScreen m_ptimeline = %x, lock = %d", address, lock ? 1 : 0);
     if (TimelineType(Parent().get()) == ExactType_SplitScreen)
-        log->LogInfo(SourcePath, SetTransformLockName, __LINE__,
+        log->LogInfo(kSourcePath, kSetTransformLockName, __LINE__,
                      "SubSplitScreen m_ptimeline = %x, lock = %d", address, lock ? 1 : 0);
 }
 

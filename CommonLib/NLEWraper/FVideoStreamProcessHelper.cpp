@@ -75,8 +75,8 @@ void FVideoStreamProcessHelper::SetProxyEnabled(bool enabled)
 
 QString FVideoStreamProcessHelper::GetProxyPeth() const
 {
-    constexpr int Capacity = 260;
-    return EngineText<Capacity>(L'\0', GetVideoStreamProcess().get(),
+    constexpr int capacity = 260;
+    return EngineText<capacity>(L'\0', GetVideoStreamProcess().get(),
                                 &INLEVideoStreamProcess::GetProxyPath);
 }
 

@@ -47,9 +47,9 @@ void VisitClips(const NLEComPtr<INLETimelineEnumerator>& clips, Visit visit)
 
 NLEComPtr<INLETimelineEnumerator> Clips(const NLEComPtr<INLETimelineComposite>& composite)
 {
-    constexpr int Flags = 1;
+    constexpr int flags = 1;
     return EngineObject<INLETimelineEnumerator>(composite.get(),
-                                                &INLETimelineComposite::GetEnumerator, Flags);
+                                                &INLETimelineComposite::GetEnumerator, flags);
 }
 
 NLEComPtr<INLETimeline> FindCurrent(const NLEComPtr<INLETimelineEnumerator>& clips)
@@ -218,9 +218,9 @@ NLEComPtr<INLETimeline> NLETimeline::GetCurrentTimeline() const
 NLEComPtr<INLETimeline> NLETimeline::GetCurrentTimelineEx() const
 {
     // Unlike above the node itself is no answer: null says that no clip is current.
-    constexpr int Flag = 1;
+    constexpr int flag = 1;
     return FindCurrent(EngineObject<INLETimelineEnumerator>(
-        GetTimelineCompositeEx().get(), &INLETimelineCompositeEx::GetEnumerator, Flag, Flag));
+        GetTimelineCompositeEx().get(), &INLETimelineCompositeEx::GetEnumerator, flag, flag));
 }
 
 bool NLETimeline::IsClipExist(NLETimeline* clip) const

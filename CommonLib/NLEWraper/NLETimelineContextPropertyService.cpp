@@ -8,8 +8,8 @@
 namespace {
 
 // Fixed in the log.
-constexpr int BasinLine = 1180;
-constexpr int PropertyLine = 1185;
+constexpr int kBasinLine = 1180;
+constexpr int kPropertyLine = 1185;
 
 void LogMissing(int line, const char* message)
 {
@@ -42,10 +42,10 @@ NLEComPtr<INLEProperties> NLETimelineContextPropertyService::GetContextProperty(
         if (properties)
             m_basin->FillProperties(properties.get());
     } else {
-        LogMissing(BasinLine, "basin is null");
+        LogMissing(kBasinLine, "basin is null");
     }
     if (!properties)
-        LogMissing(PropertyLine, "context property is null");
+        LogMissing(kPropertyLine, "context property is null");
     return properties;
 }
 

@@ -90,7 +90,7 @@ QImage ValidCopy(INLEVideoFrame* frame, const QSize& size)
 /// Renders frame \a frame of \a node. Null on failure.
 QImage RenderFrame(INLETimeline* node, int frame, const QSize& size, bool finish)
 {
-    constexpr int OpenFlags = 1;
+    constexpr int openFlags = 1;
     const auto picture = Provider()->CreateVideoFrame(size.width(), size.height());
     if (!picture || FAILED(picture->Prepare()))
         return QImage();
@@ -98,7 +98,7 @@ QImage RenderFrame(INLETimeline* node, int frame, const QSize& size, bool finish
     if (!extractor)
         return QImage();
     QImage image;
-    if (SUCCEEDED(extractor->Open(node, OpenFlags)) &&
+    if (SUCCEEDED(extractor->Open(node, openFlags)) &&
         SUCCEEDED(extractor->Extract(frame, picture.get())))
         image = ValidCopy(picture.get(), size);
     if (finish)
@@ -130,8 +130,8 @@ QImage ExtractPicture(const NLEComPtr<INLETimeline>& node, int frame, const QSiz
 
 void LogFailInfo(const QString& filePath)
 {
-    constexpr int Line = 512; // fixed in the log
-    GetGlobalLogInstance()->LogWarn("CommonLib/NLEWraper/NLETimeline", "LogFailInfo", Line,
+    constexpr int line = 512; // fixed in the log
+    GetGlobalLogInstance()->LogWarn("CommonLib/NLEWraper/NLETimeline", "LogFailInfo", line,
                                     "Extract Thumbnail failed: %s", filePath.toUtf8().constData());
 }
 
@@ -162,8 +162,8 @@ bool NLETimeline::IsImage() const
 
 QString NLETimeline::GetFilePath() const
 {
-    constexpr int Capacity = 512;
-    return EngineText<Capacity>(L'\0', GetTimelineSource().get(), &INLETimelineSource::GetFilePath);
+    constexpr int capacity = 512;
+    return EngineText<capacity>(L'\0', GetTimelineSource().get(), &INLETimelineSource::GetFilePath);
 }
 
 void NLETimeline::SetFilePath(const QString& path)
@@ -173,9 +173,9 @@ void NLETimeline::SetFilePath(const QString& path)
 
 bool NLETimeline::Relink(const QString& path)
 {
-    constexpr int Flags = 0;
+    constexpr int flags = 0;
     const auto media = m_timeline.query<INLEMediaRelink>();
-    if (!media || FAILED(media->Relink(ToWide(path).c_str(), Flags)))
+    if (!media || FAILED(media->Relink(ToWide(path).c_str(), flags)))
         return false;
     media->Reload();
     return true;
@@ -256,8 +256,8 @@ NLEComPtr<INLETimeline> NLETimeline::NodeToRead(bool cloneFirst) const
 {
     if (!cloneFirst)
         return m_timeline;
-    constexpr bool Deep = true;
-    return EngineObject<INLETimeline>(m_timeline.get(), &INLETimeline::Clone, Deep);
+    constexpr bool deep = true;
+    return EngineObject<INLETimeline>(m_timeline.get(), &INLETimeline::Clone, deep);
 }
 
 QImage NLETimeline::GetThumbnailFromMediaInfo(int frame, int width, int height, bool cloneFirst,

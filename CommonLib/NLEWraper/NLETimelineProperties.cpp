@@ -9,12 +9,12 @@ namespace {
 
 constexpr const wchar_t* kTimelineGuid = L"Key_TimelineGuid";
 constexpr const wchar_t* kAncestralGuid = L"Key_AncestralGuid";
-constexpr double RenderScaleUnits = 100000000;
+constexpr double kRenderScaleUnits = 100000000;
 
 QString ReadGuid(INLEProperties* properties, const wchar_t* key)
 {
-    constexpr int Capacity = 256;
-    return EngineText<Capacity>(L'0', properties, &INLEProperties::GetString, key);
+    constexpr int capacity = 256;
+    return EngineText<capacity>(L'0', properties, &INLEProperties::GetString, key);
 }
 
 int ReadInt(INLEProperties* properties, const wchar_t* key)
@@ -100,8 +100,8 @@ bool NLETimeline::IsRenderScaleEnable() const
 
 void NLETimeline::SetRenderScale(float scale)
 {
-    const NLERational value{ToInteger<std::int64_t>(scale * RenderScaleUnits),
-                            static_cast<std::int64_t>(RenderScaleUnits)};
+    const NLERational value{ToInteger<std::int64_t>(scale * kRenderScaleUnits),
+                            static_cast<std::int64_t>(kRenderScaleUnits)};
     EngineSet(m_properties.get(), &INLEProperties::SetRational, NLEKey::Speed::kScale, value);
 }
 

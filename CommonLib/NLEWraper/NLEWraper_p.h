@@ -14,6 +14,9 @@ class NLEWraperPrivate : public QObject
 public:
     explicit NLEWraperPrivate(QObject* parent);
 
+private:
+    friend class NLEWraper; // reads and sets the fields
+
     PlayerMaterProvider* m_provider; ///< child of this object
     IMediaPlayerControl* m_playerControl = nullptr;
 };

@@ -15,17 +15,17 @@
 #include <limits>
 
 namespace {
-constexpr char SourcePath[] = "CommonLib/NLEWraper/PlayerMaterProviderPrivate";
-constexpr char ConstructorName[] = "PlayerMaterProviderPrivate::PlayerMaterProviderPrivate";
-constexpr char OpenCLGpuInitName[] = "PlayerMaterProviderPrivate::OpenCLGpuInit";
+constexpr char kSourcePath[] = "CommonLib/NLEWraper/PlayerMaterProviderPrivate";
+constexpr char kConstructorName[] = "PlayerMaterProviderPrivate::PlayerMaterProviderPrivate";
+constexpr char kOpenCLGpuInitName[] = "PlayerMaterProviderPrivate::OpenCLGpuInit";
 } // namespace
 
 PlayerMaterProviderPrivate::PlayerMaterProviderPrivate(QObject* parent) : QObject(parent)
 {
     // Line numbers in the log are fixed.
-    constexpr int FactoryFailedLine = 28;
-    constexpr int ModuleCheckLine = 31;
-    constexpr int NoTimelineFactoryLine = 39;
+    constexpr int factoryFailedLine = 28;
+    constexpr int moduleCheckLine = 31;
+    constexpr int noTimelineFactoryLine = 39;
 
     BaseLog* log = GetGlobalLogInstance();
     if (CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
@@ -35,11 +35,12 @@ PlayerMaterProviderPrivate::PlayerMaterProviderPrivate(QObject* parent) : QObjec
         m_timelineFactory =
             EngineObject<INLETimelineFactory>(m_factory, &INLEFactory::GetTimelineFactory);
         if (!m_timelineFactory)
-            log->LogInfo(SourcePath, ConstructorName, NoTimelineFactoryLine,
+            log->LogInfo(kSourcePath, kConstructorName, noTimelineFactoryLine,
                          "m_pNLETimelineFactory is NULL.");
     } else {
-        log->LogInfo(SourcePath, ConstructorName, FactoryFailedLine, "INLEFactory Create failed.");
-        log->LogInfo(SourcePath, ConstructorName, ModuleCheckLine, "Check NLECore Exist:%d",
+        log->LogInfo(kSourcePath, kConstructorName, factoryFailedLine,
+                     "INLEFactory Create failed.");
+        log->LogInfo(kSourcePath, kConstructorName, moduleCheckLine, "Check NLECore Exist:%d",
                      FileOperation::IsFileExist(EngineModulePath()) ? 1 : 0);
     }
     m_scratch.reset();
@@ -137,8 +138,8 @@ int PlayerMaterProviderPrivate::GetTimelineFrameRate(const NLEComPtr<INLETimelin
     NLERational rate{0, 1};
     if (const auto properties = NLEGetProperties(timeline.get()))
         properties->GetRational(NLEKey::Render::kRender_Framerate, &rate);
-    constexpr std::int64_t Highest = std::numeric_limits<int>::max();
-    return rate.den <= 0 ? 0 : static_cast<int>(std::clamp(rate.num / rate.den, -Highest, Highest));
+    constexpr std::int64_t highest = std::numeric_limits<int>::max();
+    return rate.den <= 0 ? 0 : static_cast<int>(std::clamp(rate.num / rate.den, -highest, highest));
 }
 
 void PlayerMaterProviderPrivate::SetTimelineFrameRate(const NLEComPtr<INLETimeline>& timeline,
@@ -160,15 +161,15 @@ int PlayerMaterProviderPrivate::GetTimelineLength(const NLEComPtr<INLETimeline>&
 NLEComPtr<INLEVideoFrame> PlayerMaterProviderPrivate::CreateFrame(int width, int height,
                                                                   NLEFrameMemory memory)
 {
-    // Fixed values; PoolMaximum only matters to engines that keep a pool of frames.
-    constexpr int PixelFormat = 0;
-    constexpr int PoolFlags = 0;
-    constexpr int PoolMinimum = 0;
-    constexpr int PoolMaximum = 400000;
-    constexpr int PoolReserve = 0;
+    // Fixed values; poolMaximum only matters to engines that keep a pool of frames.
+    constexpr int pixelFormat = 0;
+    constexpr int poolFlags = 0;
+    constexpr int poolMinimum = 0;
+    constexpr int poolMaximum = 400000;
+    constexpr int poolReserve = 0;
     return EngineObject<INLEVideoFrame>(m_factory, &INLEFactory::CreateVideoFrame, width, height,
-                                        PixelFormat, memory, PoolFlags, PoolMinimum, PoolMaximum,
-                                        PoolReserve);
+                                        pixelFormat, memory, poolFlags, poolMinimum, poolMaximum,
+                                        poolReserve);
 }
 
 NLEComPtr<INLEVideoFrame> PlayerMaterProviderPrivate::CreateVideoFrame(int width, int height)
@@ -251,14 +252,15 @@ NLEComPtr<INLESystemConfig> PlayerMaterProviderPrivate::GetSystemConfig()
 void PlayerMaterProviderPrivate::OpenCLGpuInit()
 {
     // Line numbers in the log are fixed.
-    constexpr int ReInitLine = 63;
-    constexpr int CreateFailedLine = 67;
+    constexpr int reInitLine = 63;
+    constexpr int createFailedLine = 67;
 
     // Only reports: nothing makes the GPU factory. Kept: see docs/compatibility.md.
     BaseLog* log = GetGlobalLogInstance();
     if (m_gpuFactory)
-        log->LogInfo(SourcePath, OpenCLGpuInitName, ReInitLine, "m_pNLEOpenCLGpuFactory->ReInit.");
+        log->LogInfo(kSourcePath, kOpenCLGpuInitName, reInitLine,
+                     "m_pNLEOpenCLGpuFactory->ReInit.");
     else
-        log->LogInfo(SourcePath, OpenCLGpuInitName, CreateFailedLine,
+        log->LogInfo(kSourcePath, kOpenCLGpuInitName, createFailedLine,
                      "m_pNLEOpenCLGpuFactory Create failed.");
 }

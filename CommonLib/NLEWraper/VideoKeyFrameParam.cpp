@@ -5,10 +5,10 @@
 
 bool VideoKeyFrameParam::operator==(const VideoKeyFrameParam& other) const
 {
-    constexpr double Tolerance = 1e-12;
+    constexpr double tolerance = 1e-12;
     const QPointF distance = position - other.position;
-    return rotateAngle == other.rotateAngle && std::abs(distance.x()) <= Tolerance &&
-           std::abs(distance.y()) <= Tolerance && time == other.time && opacity == other.opacity &&
+    return rotateAngle == other.rotateAngle && std::abs(distance.x()) <= tolerance &&
+           std::abs(distance.y()) <= tolerance && time == other.time && opacity == other.opacity &&
            qFuzzyCompare(scale.width(), other.scale.width()) &&
            qFuzzyCompare(scale.height(), other.scale.height());
 }

@@ -6,14 +6,14 @@
 namespace {
 
 /// The record's trailing number as conversions write it; changing one field keeps what was read.
-constexpr std::int32_t Interpolation = 1;
+constexpr std::int32_t kInterpolation = 1;
 /// What every read starts from.
-constexpr NLEKeyFrameRecord Preset = {0, 0, 0, 0, 1, 1, 1, Interpolation};
+constexpr NLEKeyFrameRecord kPreset = {0, 0, 0, 0, 1, 1, 1, kInterpolation};
 
 NLEKeyFrameRecord ToRecord(const VideoKeyFrameParam& param)
 {
     return {param.time,          param.rotateAngle,    param.position.x(), param.position.y(),
-            param.scale.width(), param.scale.height(), param.opacity,      Interpolation};
+            param.scale.width(), param.scale.height(), param.opacity,      kInterpolation};
 }
 
 VideoKeyFrameParam FromRecord(const NLEKeyFrameRecord& record)
@@ -33,7 +33,7 @@ int Count(INLEKeyFrameList* list)
 /// Reads key frame \a index; \a param is written on success only.
 bool Read(INLEKeyFrameList& list, int index, VideoKeyFrameParam& param)
 {
-    NLEKeyFrameRecord record = Preset;
+    NLEKeyFrameRecord record = kPreset;
     if (list.GetKeyFrame(index, &record) != S_OK) // a positive status is a failure
         return false;
     param = FromRecord(record);
@@ -120,7 +120,7 @@ bool VideoKeyFrameSetting::GetKeyFrameParam(int index, VideoKeyFrameParam& param
 VideoKeyFrameParam VideoKeyFrameSetting::GetKeyFrameParam(double time) const
 {
     const auto list = List();
-    NLEKeyFrameRecord record = Preset;
+    NLEKeyFrameRecord record = kPreset;
     if (!list || FAILED(list->GetParamAt(time, &record)))
         return VideoKeyFrameParam();
     return FromRecord(record);
@@ -161,7 +161,7 @@ template <typename Field>
 void VideoKeyFrameSetting::SetField(int index, Field VideoKeyFrameParam::*field, const Field& value)
 {
     const auto list = ListWith(index);
-    NLEKeyFrameRecord record = Preset;
+    NLEKeyFrameRecord record = kPreset;
     if (!list || list->GetKeyFrame(index, &record) != S_OK)
         return;
     VideoKeyFrameParam param = FromRecord(record);

@@ -78,7 +78,7 @@ public:
 protected:
     ~FileStream() override
     {
-        if (m_reserved > ReserveStep)
+        if (m_reserved > kReserveStep)
             m_file.resize(m_file.size()); // gives back what lies behind the end
     }
 
@@ -89,14 +89,14 @@ private:
         if (!m_canReserve || end <= m_reserved)
             return;
         m_canReserve =
-            ::fallocate(m_file.handle(), FALLOC_FL_KEEP_SIZE, m_reserved, ReserveStep) == 0;
-        m_reserved += ReserveStep;
+            ::fallocate(m_file.handle(), FALLOC_FL_KEEP_SIZE, m_reserved, kReserveStep) == 0;
+        m_reserved += kReserveStep;
     }
 
-    static constexpr qint64 ReserveStep = 64 << 20; // bytes
+    static constexpr qint64 kReserveStep = 64 << 20; // bytes
 
     QFile m_file;
-    qint64 m_reserved = ReserveStep; // smaller files gain nothing
+    qint64 m_reserved = kReserveStep; // smaller files gain nothing
     bool m_canReserve = true;
 };
 

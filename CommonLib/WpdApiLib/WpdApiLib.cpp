@@ -22,8 +22,8 @@ void* WpdApiLib::m_pUserObj = nullptr;
 
 namespace {
 
-constexpr char SourcePath[] = "CommonLib/WpdApiLib/WpdApiLib";
-constexpr char EnumerateAllDevicesName[] = "WpdApiLib::EnumerateAllDevices";
+constexpr char kSourcePath[] = "CommonLib/WpdApiLib/WpdApiLib";
+constexpr char kEnumerateAllDevicesName[] = "WpdApiLib::EnumerateAllDevices";
 
 // Plain pointers: at the end of the process nothing may be released any more, since the module that
 // made the objects may be gone.
@@ -62,7 +62,7 @@ BSTR DisplayName(IPortableDeviceManager& manager, LPCWSTR id)
 
 unsigned long LogNoDevices(int line, const char* message)
 {
-    GetGlobalLogInstance()->LogInfo(SourcePath, EnumerateAllDevicesName, line, "%s", message);
+    GetGlobalLogInstance()->LogInfo(kSourcePath, kEnumerateAllDevicesName, line, "%s", message);
     return 0;
 }
 
@@ -71,7 +71,7 @@ unsigned long LogNoDevices(int line, const char* message)
 /// What this client tells a device about itself. The name is the fixed one that devices know.
 NLEComPtr<IPortableDeviceValues> ClientInformation()
 {
-    constexpr ULONG Impersonation = 0x20000;
+    constexpr ULONG impersonation = 0x20000;
     NLEComPtr<IPortableDeviceValues> values;
     if (FAILED(CreatePortableDeviceComponent(Wpd::CLSID_PortableDeviceValues, values)))
         return nullptr;
@@ -79,18 +79,18 @@ NLEComPtr<IPortableDeviceValues> ClientInformation()
     values->SetUnsignedIntegerValue(Wpd::WPD_CLIENT_MAJOR_VERSION, 1);
     values->SetUnsignedIntegerValue(Wpd::WPD_CLIENT_MINOR_VERSION, 0);
     values->SetUnsignedIntegerValue(Wpd::WPD_CLIENT_REVISION, 2);
-    values->SetUnsignedIntegerValue(Wpd::WPD_CLIENT_SECURITY_QUALITY_OF_SERVICE, Impersonation);
+    values->SetUnsignedIntegerValue(Wpd::WPD_CLIENT_SECURITY_QUALITY_OF_SERVICE, impersonation);
     return values;
 }
 
 /// Opens \a device, read-only when it refuses more.
 HRESULT Open(IPortableDevice& device, const wchar_t* deviceId, IPortableDeviceValues* client)
 {
-    constexpr ULONG ReadOnly = 0x80000000;
+    constexpr ULONG readOnly = 0x80000000;
     const HRESULT result = device.Open(deviceId, client);
     if (result != E_ACCESSDENIED || !client)
         return result;
-    client->SetUnsignedIntegerValue(Wpd::WPD_CLIENT_DESIRED_ACCESS, ReadOnly);
+    client->SetUnsignedIntegerValue(Wpd::WPD_CLIENT_DESIRED_ACCESS, readOnly);
     return device.Open(deviceId, client);
 }
 
@@ -186,9 +186,9 @@ HRESULT WriteAll(IStream& destination, const char* data, ULONG count)
 HRESULT CopyStream(IStream& source, IStream& destination, DWORD bufferSize,
                    WpdCallbackProc callback, void* user)
 {
-    constexpr DWORD UsualBufferSize = 256 * 1024;
+    constexpr DWORD usualBufferSize = 256 * 1024;
     if (bufferSize == 0)
-        bufferSize = UsualBufferSize; // or nothing would ever be read
+        bufferSize = usualBufferSize; // or nothing would ever be read
     const std::unique_ptr<char[]> buffer(new (std::nothrow) char[bufferSize]);
     if (!buffer) {
         std::printf("! Failed to allocate %lu bytes for the temporary transfer buffer.\n",
@@ -388,7 +388,7 @@ int WpdApiLib::Cancel()
     if (SUCCEEDED(result))
         return 1;
     // With a line end inside the message. Kept: see docs/compatibility.md.
-    GetGlobalLogInstance()->LogWarn(SourcePath, "WpdApiLib::Cancel", __LINE__,
+    GetGlobalLogInstance()->LogWarn(kSourcePath, "WpdApiLib::Cancel", __LINE__,
                                     "! Failed to Cancel, hr = 0x%lx\n", ResultBits(result));
     return 0;
 }

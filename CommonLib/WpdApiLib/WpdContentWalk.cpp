@@ -9,8 +9,8 @@
 namespace {
 
 /// Objects less deep than this have their children visited unasked.
-constexpr int UnaskedDepth = 2;
-constexpr ULONG BatchSize = 10;
+constexpr int kUnaskedDepth = 2;
+constexpr ULONG kBatchSize = 10;
 
 bool Stopped()
 {
@@ -81,7 +81,7 @@ void WpdContentWalk::AddKeys()
         PROPERTYKEY key;
         const char* name;
     };
-    static constexpr Key Keys[] = {{Wpd::WPD_OBJECT_PARENT_ID, "PARENT_ID"},
+    static constexpr Key keys[] = {{Wpd::WPD_OBJECT_PARENT_ID, "PARENT_ID"},
                                    {Wpd::WPD_OBJECT_ORIGINAL_FILE_NAME, "ORIGINAL_FILE_NAME"},
                                    {Wpd::WPD_OBJECT_SIZE, "SIZE"},
                                    {Wpd::WPD_OBJECT_CONTENT_TYPE, "CONTENT_TYPE"},
@@ -89,7 +89,7 @@ void WpdContentWalk::AddKeys()
     // Without a collection the device is asked for everything it knows: slower, the same values.
     if (FAILED(CreatePortableDeviceComponent(Wpd::CLSID_PortableDeviceKeyCollection, m_keys)))
         return;
-    for (const Key& key : Keys) {
+    for (const Key& key : keys) {
         const HRESULT result = m_keys->Add(key.key);
         // "hr=" with no blank in it, also where values are read. Kept: see docs/compatibility.md.
         if (FAILED(result))
@@ -155,14 +155,14 @@ void WpdContentWalk::VisitChildren(const wchar_t* objectId, int depth, bool desc
     // Listed even where nobody visits them: a device that cannot list fails at every depth.
     ULONG fetched = 0;
     do {
-        wchar_t* ids[BatchSize] = {};
+        wchar_t* ids[kBatchSize] = {};
         fetched = 0;
-        result = children->Next(BatchSize, ids, &fetched);
+        result = children->Next(kBatchSize, ids, &fetched);
         if (FAILED(result))
             WpdApiLib::bFailed = 1; // a device that vanished has not been walked to its end
-        for (ULONG i = 0; i < std::min(fetched, BatchSize); ++i) {
+        for (ULONG i = 0; i < std::min(fetched, kBatchSize); ++i) {
             const TaskText id(ids[i]);
-            if (id && (depth < UnaskedDepth || descend))
+            if (id && (depth < kUnaskedDepth || descend))
                 Visit(id.get(), depth + 1);
         }
     } while (result == S_OK && fetched > 0 && !Stopped());

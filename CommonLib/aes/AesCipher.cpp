@@ -7,7 +7,7 @@ namespace AesCipher {
 
 namespace {
 
-std::atomic<const Implementation*> chosen{nullptr};
+std::atomic<const Implementation*> s_chosen{nullptr};
 
 } // namespace
 
@@ -16,23 +16,23 @@ const Implementation* Available(int index)
     if (const Implementation* native = Native(index))
         return native;
     const bool behindNative = index == 0 || Native(index - 1);
-    return behindNative ? &Portable : nullptr;
+    return behindNative ? &kPortable : nullptr;
 }
 
 const Implementation& Current()
 {
     // Threads that come here together for the first time all find the same.
-    const Implementation* current = chosen.load(std::memory_order_relaxed);
+    const Implementation* current = s_chosen.load(std::memory_order_relaxed);
     if (!current) {
         current = Available(0);
-        chosen.store(current, std::memory_order_relaxed);
+        s_chosen.store(current, std::memory_order_relaxed);
     }
     return *current;
 }
 
 void Use(const Implementation* implementation)
 {
-    chosen.store(implementation, std::memory_order_relaxed);
+    s_chosen.store(implementation, std::memory_order_relaxed);
 }
 
 } // namespace AesCipher

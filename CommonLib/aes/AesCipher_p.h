@@ -12,8 +12,8 @@
 /// arguments are the caller's. Nothing allocates or fails.
 namespace AesCipher {
 
-constexpr int BlockSize = 16;
-constexpr int MaxRounds = 14;
+constexpr int kBlockSize = 16;
+constexpr int kMaxRounds = 14;
 
 constexpr int RoundsFor(int keyWords)
 {
@@ -22,16 +22,16 @@ constexpr int RoundsFor(int keyWords)
 
 constexpr int ScheduleSize(int rounds)
 {
-    return (rounds + 1) * BlockSize;
+    return (rounds + 1) * kBlockSize;
 }
 
 /// The round keys in order of use, as bytes.
 struct Schedule
 {
     int rounds;
-    alignas(BlockSize) std::uint8_t encryption[ScheduleSize(MaxRounds)];
-    /// Round keys of the equivalent inverse cipher; set by AddDecryptionKeys only.
-    alignas(BlockSize) std::uint8_t decryption[ScheduleSize(MaxRounds)];
+    alignas(kBlockSize) std::uint8_t encryption[ScheduleSize(kMaxRounds)];
+    /// Round keys of the equivalent inverse cipher; set by addDecryptionKeys only.
+    alignas(kBlockSize) std::uint8_t decryption[ScheduleSize(kMaxRounds)];
 };
 
 /// Turns \a blocks blocks at \a in into as many at \a out; the two do not overlap. None is fine.
@@ -46,25 +46,25 @@ struct Implementation
 {
     const char* name;
     /// Reads \a keyWords (4, 6 or 8) times four bytes; sets the rounds and the encryption keys.
-    void (*ExpandKey)(const std::uint8_t* key, int keyWords, Schedule& schedule);
-    /// Needs the encryption keys. Only EcbDecrypt and CbcDecrypt use what it makes.
-    void (*AddDecryptionKeys)(Schedule& schedule);
-    Transform EcbEncrypt;
-    Transform EcbDecrypt;
-    Transform CbcEncrypt;
-    Transform CbcDecrypt;
-    Transform CfbEncrypt;
-    Transform CfbDecrypt;
-    Transform Ofb;
+    void (*expandKey)(const std::uint8_t* key, int keyWords, Schedule& schedule);
+    /// Needs the encryption keys. Only ecbDecrypt and cbcDecrypt use what it makes.
+    void (*addDecryptionKeys)(Schedule& schedule);
+    Transform ecbEncrypt;
+    Transform ecbDecrypt;
+    Transform cbcEncrypt;
+    Transform cbcDecrypt;
+    Transform cfbEncrypt;
+    Transform cfbDecrypt;
+    Transform ofb;
 };
 
 /// Runs everywhere.
-COMMONLIB_EXPORT extern const Implementation Portable;
+COMMONLIB_EXPORT extern const Implementation kPortable;
 
 /// The implementations on instructions of this processor, best first; null from the end on.
 const Implementation* Native(int index);
 
-/// All that this processor can run, best first, Portable last; null from the end on.
+/// All that this processor can run, best first, kPortable last; null from the end on.
 COMMONLIB_EXPORT const Implementation* Available(int index);
 
 /// What the library works with: the best one, unless a test chose another.

@@ -128,13 +128,13 @@ void Cipher(const Words& table, const Bytes& box, const std::uint8_t* keys, int 
     for (int c = 0; c < 4; ++c)
         state[c] = LoadColumn(in, c) ^ LoadColumn(keys, c);
     for (int round = 1; round < rounds; ++round) {
-        keys += BlockSize;
+        keys += kBlockSize;
         std::uint32_t next[4];
         for (int c = 0; c < 4; ++c)
             next[c] = MixedColumn<Step>(table, state, c) ^ LoadColumn(keys, c);
         std::memcpy(state, next, sizeof state);
     }
-    keys += BlockSize;
+    keys += kBlockSize;
     for (int c = 0; c < 4; ++c)
         StoreColumn(out, c, LastColumn<Step>(box, state, c) ^ LoadColumn(keys, c));
 }
@@ -151,7 +151,7 @@ void Decrypt(const Schedule& schedule, const std::uint8_t* in, std::uint8_t* out
 
 void Xor(std::uint8_t* out, const std::uint8_t* a, const std::uint8_t* b)
 {
-    for (int i = 0; i < BlockSize; ++i)
+    for (int i = 0; i < kBlockSize; ++i)
         out[i] = a[i] ^ b[i];
 }
 
@@ -200,61 +200,61 @@ void AddDecryptionKeys(Schedule& schedule)
 void EcbEncrypt(const Schedule& schedule, std::uint8_t*, const std::uint8_t* in, std::uint8_t* out,
                 std::size_t blocks)
 {
-    for (; blocks; --blocks, in += BlockSize, out += BlockSize)
+    for (; blocks; --blocks, in += kBlockSize, out += kBlockSize)
         Encrypt(schedule, in, out);
 }
 
 void EcbDecrypt(const Schedule& schedule, std::uint8_t*, const std::uint8_t* in, std::uint8_t* out,
                 std::size_t blocks)
 {
-    for (; blocks; --blocks, in += BlockSize, out += BlockSize)
+    for (; blocks; --blocks, in += kBlockSize, out += kBlockSize)
         Decrypt(schedule, in, out);
 }
 
 void CbcEncrypt(const Schedule& schedule, std::uint8_t* chain, const std::uint8_t* in,
                 std::uint8_t* out, std::size_t blocks)
 {
-    for (; blocks; --blocks, in += BlockSize, out += BlockSize) {
+    for (; blocks; --blocks, in += kBlockSize, out += kBlockSize) {
         Xor(chain, chain, in);
         Encrypt(schedule, chain, chain);
-        std::memcpy(out, chain, BlockSize);
+        std::memcpy(out, chain, kBlockSize);
     }
 }
 
 void CbcDecrypt(const Schedule& schedule, std::uint8_t* chain, const std::uint8_t* in,
                 std::uint8_t* out, std::size_t blocks)
 {
-    for (; blocks; --blocks, in += BlockSize, out += BlockSize) {
+    for (; blocks; --blocks, in += kBlockSize, out += kBlockSize) {
         Decrypt(schedule, in, out);
         Xor(out, out, chain);
-        std::memcpy(chain, in, BlockSize);
+        std::memcpy(chain, in, kBlockSize);
     }
 }
 
 void CfbEncrypt(const Schedule& schedule, std::uint8_t* chain, const std::uint8_t* in,
                 std::uint8_t* out, std::size_t blocks)
 {
-    for (; blocks; --blocks, in += BlockSize, out += BlockSize) {
+    for (; blocks; --blocks, in += kBlockSize, out += kBlockSize) {
         Encrypt(schedule, chain, chain);
         Xor(chain, chain, in);
-        std::memcpy(out, chain, BlockSize);
+        std::memcpy(out, chain, kBlockSize);
     }
 }
 
 void CfbDecrypt(const Schedule& schedule, std::uint8_t* chain, const std::uint8_t* in,
                 std::uint8_t* out, std::size_t blocks)
 {
-    for (; blocks; --blocks, in += BlockSize, out += BlockSize) {
+    for (; blocks; --blocks, in += kBlockSize, out += kBlockSize) {
         Encrypt(schedule, chain, chain);
         Xor(out, chain, in);
-        std::memcpy(chain, in, BlockSize);
+        std::memcpy(chain, in, kBlockSize);
     }
 }
 
 void Ofb(const Schedule& schedule, std::uint8_t* chain, const std::uint8_t* in, std::uint8_t* out,
          std::size_t blocks)
 {
-    for (; blocks; --blocks, in += BlockSize, out += BlockSize) {
+    for (; blocks; --blocks, in += kBlockSize, out += kBlockSize) {
         Encrypt(schedule, chain, chain);
         Xor(out, chain, in);
     }
@@ -262,8 +262,8 @@ void Ofb(const Schedule& schedule, std::uint8_t* chain, const std::uint8_t* in, 
 
 } // namespace
 
-constexpr Implementation Portable = {"portable", ExpandKey,  AddDecryptionKeys, EcbEncrypt,
-                                     EcbDecrypt, CbcEncrypt, CbcDecrypt,        CfbEncrypt,
-                                     CfbDecrypt, Ofb};
+constexpr Implementation kPortable = {"portable", ExpandKey,  AddDecryptionKeys, EcbEncrypt,
+                                      EcbDecrypt, CbcEncrypt, CbcDecrypt,        CfbEncrypt,
+                                      CfbDecrypt, Ofb};
 
 } // namespace AesCipher

@@ -88,11 +88,11 @@ List FindNative()
     List list{};
     std::size_t count = 0;
     if (vaes && Has(extended.b, kAvx512) && Has(saved, kZmm))
-        list[count++] = &Vaes512;
+        list[count++] = &kVaes512;
     if (vaes)
-        list[count++] = &Vaes256;
+        list[count++] = &kVaes256;
     if (aes)
-        list[count++] = &AesNi;
+        list[count++] = &kAesNi;
     return list;
 }
 

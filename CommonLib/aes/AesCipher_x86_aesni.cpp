@@ -3,6 +3,6 @@
 
 namespace AesCipher {
 
-constexpr Implementation AesNi = MakeImplementation<Vector128>("AES-NI");
+constexpr Implementation kAesNi = MakeImplementation<Vector128>("AES-NI");
 
 } // namespace AesCipher

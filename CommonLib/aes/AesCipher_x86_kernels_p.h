@@ -18,7 +18,7 @@ namespace {
 struct Vector128
 {
     using Type = __m128i;
-    static constexpr std::size_t Blocks = 1;
+    static constexpr std::size_t kBlocks = 1;
 
     static Type Load(const std::uint8_t* bytes)
     {
@@ -69,7 +69,7 @@ public:
     void Put(typename Vector::Type value)
     {
         Vector::Store(m_out, value);
-        m_out += Vector::Blocks * BlockSize;
+        m_out += Vector::kBlocks * kBlockSize;
     }
     /// Asks for the line that is to be written ahead bytes further on.
     void Prefetch(std::size_t ahead) const
@@ -89,7 +89,7 @@ template <class Vector, Parallel Mode, int Rounds, class Writer, std::size_t... 
 inline void Group(const typename Vector::Type (&keys)[Rounds + 1], const std::uint8_t* previous,
                   const std::uint8_t* in, Writer& writer, std::index_sequence<Index...>)
 {
-    constexpr std::size_t step = Vector::Blocks * BlockSize;
+    constexpr std::size_t step = Vector::kBlocks * kBlockSize;
     const std::uint8_t* source = Mode == Parallel::CfbDecrypt ? previous : in;
     const std::uint8_t* mask = Mode == Parallel::CfbDecrypt ? in : previous;
 
@@ -114,7 +114,7 @@ template <class Vector, int Rounds>
 inline void LoadKeys(typename Vector::Type (&keys)[Rounds + 1], const std::uint8_t* schedule)
 {
     for (int round = 0; round <= Rounds; ++round)
-        keys[round] = Vector::Repeat(schedule + std::ptrdiff_t(round) * BlockSize);
+        keys[round] = Vector::Repeat(schedule + std::ptrdiff_t(round) * kBlockSize);
 }
 
 /// Works through as many groups of Count vectors as there are, and moves on behind them.
@@ -123,7 +123,7 @@ template <class Vector, std::size_t Count, Parallel Mode, int Rounds,
 inline void Groups(const std::uint8_t* schedule, const std::uint8_t*& in, std::uint8_t*& out,
                    std::size_t& blocks)
 {
-    constexpr std::size_t step = Count * Vector::Blocks;
+    constexpr std::size_t step = Count * Vector::kBlocks;
     // The processor itself fetches ahead, but not across the end of a page.
     constexpr std::size_t ahead = 4096;
     constexpr std::size_t line = 64;
@@ -133,15 +133,15 @@ inline void Groups(const std::uint8_t* schedule, const std::uint8_t*& in, std::u
     LoadKeys<Vector, Rounds>(keys, schedule);
     Writer writer(out);
     for (; blocks >= step; blocks -= step) {
-        if constexpr (Vector::Blocks > 1 && Count == 8) {
-            for (std::size_t at = ahead; at < ahead + step * BlockSize; at += line) {
+        if constexpr (Vector::kBlocks > 1 && Count == 8) {
+            for (std::size_t at = ahead; at < ahead + step * kBlockSize; at += line) {
                 _mm_prefetch(reinterpret_cast<const char*>(in + at), _MM_HINT_T0);
                 writer.Prefetch(at);
             }
         }
-        Group<Vector, Mode, Rounds>(keys, UsesPreviousBlock(Mode) ? in - BlockSize : in, in, writer,
-                                    std::make_index_sequence<Count>());
-        in += step * BlockSize;
+        Group<Vector, Mode, Rounds>(keys, UsesPreviousBlock(Mode) ? in - kBlockSize : in, in,
+                                    writer, std::make_index_sequence<Count>());
+        in += step * kBlockSize;
     }
     out = writer.Finish();
 }
@@ -162,17 +162,17 @@ void RunParallel(const Schedule& schedule, std::uint8_t* chain, const std::uint8
         LoadKeys<Vector128, Rounds>(first, keys);
         PlainWriter<Vector128> writer(out);
         Group<Vector128, Mode, Rounds>(first, chain, in, writer, std::make_index_sequence<1>());
-        Vector128::Store(chain, Vector128::Load(in + (blocks - 1) * BlockSize));
-        in += BlockSize;
+        Vector128::Store(chain, Vector128::Load(in + (blocks - 1) * kBlockSize));
+        in += kBlockSize;
         out = writer.Finish();
         --blocks;
     }
     if constexpr (!std::is_same_v<LargeWriter, PlainWriter<Vector>>) {
-        if (blocks >= kLargeText / BlockSize && LargeWriter::Suits(out))
+        if (blocks >= kLargeText / kBlockSize && LargeWriter::Suits(out))
             Groups<Vector, 8, Mode, Rounds, LargeWriter>(keys, in, out, blocks);
     }
     Groups<Vector, 8, Mode, Rounds>(keys, in, out, blocks);
-    if constexpr (Vector::Blocks > 1)
+    if constexpr (Vector::kBlocks > 1)
         Groups<Vector, 2, Mode, Rounds>(keys, in, out, blocks);
     Groups<Vector128, 4, Mode, Rounds>(keys, in, out, blocks);
     Groups<Vector128, 1, Mode, Rounds>(keys, in, out, blocks);
@@ -204,12 +204,12 @@ void RunSerial(const Schedule& schedule, std::uint8_t* chain, const std::uint8_t
     __m128i state = _mm_xor_si128(Vector128::Load(chain), first);
     if constexpr (Mode == Serial::CbcEncrypt)
         state = _mm_xor_si128(state, Vector128::Load(in));
-    for (; blocks; --blocks, in += BlockSize, out += BlockSize) {
+    for (; blocks; --blocks, in += kBlockSize, out += kBlockSize) {
         __m128i text = _mm_setzero_si128();
         if constexpr (Mode != Serial::CbcEncrypt)
             text = Vector128::Load(in);
         else if (blocks > 1)
-            text = Vector128::Load(in + BlockSize);
+            text = Vector128::Load(in + kBlockSize);
 
         for (int round = 1; round < Rounds; ++round)
             state = _mm_aesenc_si128(state, keys[round]);
@@ -289,16 +289,16 @@ inline void ExpandKey128(const std::uint8_t* key, std::uint8_t* out)
     for (int constant : kRoundConstants) {
         const __m128i added = ScheduleWord<3, Step::RotateAndSubstitute>(words, constant);
         words = _mm_xor_si128(RunningXor(words), added);
-        Vector128::Store(out += BlockSize, words);
+        Vector128::Store(out += kBlockSize, words);
     }
 }
 
 inline void ExpandKey192(const std::uint8_t* key, std::uint8_t* out)
 {
     __m128i words = Vector128::Load(key);
-    __m128i tail = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(key + BlockSize));
+    __m128i tail = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(key + kBlockSize));
     Vector128::Store(out, words);
-    _mm_storel_epi64(reinterpret_cast<__m128i*>(out + BlockSize), tail);
+    _mm_storel_epi64(reinterpret_cast<__m128i*>(out + kBlockSize), tail);
     // Six words a turn; the last turn's surplus of two stays inside the array of the schedule.
     for (int turn = 0; turn < 8; ++turn) {
         const __m128i added =
@@ -308,25 +308,25 @@ inline void ExpandKey192(const std::uint8_t* key, std::uint8_t* out)
         tail = _mm_xor_si128(tail, _mm_shuffle_epi32(words, 0xff));
         out += 24;
         Vector128::Store(out, words);
-        _mm_storel_epi64(reinterpret_cast<__m128i*>(out + BlockSize), tail);
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(out + kBlockSize), tail);
     }
 }
 
 inline void ExpandKey256(const std::uint8_t* key, std::uint8_t* out)
 {
     __m128i even = Vector128::Load(key);
-    __m128i odd = Vector128::Load(key + BlockSize);
+    __m128i odd = Vector128::Load(key + kBlockSize);
     Vector128::Store(out, even);
-    Vector128::Store(out += BlockSize, odd);
+    Vector128::Store(out += kBlockSize, odd);
     for (int turn = 0;; ++turn) {
         __m128i added = ScheduleWord<3, Step::RotateAndSubstitute>(odd, kRoundConstants[turn]);
         even = _mm_xor_si128(RunningXor(even), added);
-        Vector128::Store(out += BlockSize, even);
+        Vector128::Store(out += kBlockSize, even);
         if (turn == 6)
             return;
         added = ScheduleWord<3, Step::Substitute>(even, 0);
         odd = _mm_xor_si128(RunningXor(odd), added);
-        Vector128::Store(out += BlockSize, odd);
+        Vector128::Store(out += kBlockSize, odd);
     }
 }
 
@@ -343,15 +343,15 @@ void ExpandKey(const std::uint8_t* key, int keyWords, Schedule& schedule)
 
 void AddDecryptionKeys(Schedule& schedule)
 {
-    const std::uint8_t* source = schedule.encryption + std::ptrdiff_t(schedule.rounds) * BlockSize;
+    const std::uint8_t* source = schedule.encryption + std::ptrdiff_t(schedule.rounds) * kBlockSize;
     std::uint8_t* target = schedule.decryption;
     Vector128::Store(target, Vector128::Load(source));
     for (int round = 1; round < schedule.rounds; ++round) {
-        source -= BlockSize;
-        target += BlockSize;
+        source -= kBlockSize;
+        target += kBlockSize;
         Vector128::Store(target, _mm_aesimc_si128(Vector128::Load(source)));
     }
-    Vector128::Store(target + BlockSize, Vector128::Load(schedule.encryption));
+    Vector128::Store(target + kBlockSize, Vector128::Load(schedule.encryption));
 }
 
 /// LargeWriter takes the place of PlainWriter for large texts where its Suits() allows.

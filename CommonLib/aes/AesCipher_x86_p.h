@@ -7,10 +7,10 @@
 namespace AesCipher {
 
 /// Needs AES-NI and SSE4.1.
-extern const Implementation AesNi;
+extern const Implementation kAesNi;
 /// Needs VAES and AVX2 as well; two blocks in a vector.
-extern const Implementation Vaes256;
+extern const Implementation kVaes256;
 /// Needs VAES and AVX-512 F and VL as well; four blocks in a vector.
-extern const Implementation Vaes512;
+extern const Implementation kVaes512;
 
 } // namespace AesCipher

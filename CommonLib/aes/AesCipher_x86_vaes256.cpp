@@ -8,7 +8,7 @@ namespace {
 struct Vector256
 {
     using Type = __m256i;
-    static constexpr std::size_t Blocks = 2;
+    static constexpr std::size_t kBlocks = 2;
 
     static Type Load(const std::uint8_t* bytes)
     {
@@ -31,6 +31,6 @@ struct Vector256
 
 } // namespace
 
-constexpr Implementation Vaes256 = MakeImplementation<Vector256>("VAES with AVX2");
+constexpr Implementation kVaes256 = MakeImplementation<Vector256>("VAES with AVX2");
 
 } // namespace AesCipher

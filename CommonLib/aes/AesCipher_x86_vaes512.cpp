@@ -8,7 +8,7 @@ namespace {
 struct Vector512
 {
     using Type = __m512i;
-    static constexpr std::size_t Blocks = 4;
+    static constexpr std::size_t kBlocks = 4;
 
     static Type Load(const std::uint8_t* bytes) { return _mm512_loadu_si512(bytes); }
     static void Store(std::uint8_t* bytes, Type value) { _mm512_storeu_si512(bytes, value); }
@@ -82,6 +82,7 @@ private:
 
 } // namespace
 
-constexpr Implementation Vaes512 = MakeImplementation<Vector512, StreamWriter>("VAES with AVX-512");
+constexpr Implementation kVaes512 =
+    MakeImplementation<Vector512, StreamWriter>("VAES with AVX-512");
 
 } // namespace AesCipher

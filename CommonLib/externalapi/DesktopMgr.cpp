@@ -33,10 +33,10 @@ int DistanceTo(const QRect& area, const QPoint& point)
 
 DesktopMgr* DesktopMgr::GetInstance()
 {
-    static QPointer<DesktopMgr> instance;
-    if (!instance)
-        instance = new DesktopMgr(QCoreApplication::instance());
-    return instance;
+    static QPointer<DesktopMgr> s_instance;
+    if (!s_instance)
+        s_instance = new DesktopMgr(QCoreApplication::instance());
+    return s_instance;
 }
 
 QWidget* DesktopMgr::MainScreen() const

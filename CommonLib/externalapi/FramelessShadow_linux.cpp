@@ -210,6 +210,6 @@ void gOpenFramelessWidgetShadow(HWND window, int /*unused*/)
 {
     if (!window || QGuiApplication::platformName() != QLatin1String("xcb"))
         return;
-    static ShadowSession session;
-    session.Ask(static_cast<xcb_window_t>(reinterpret_cast<std::uintptr_t>(window)));
+    static ShadowSession s_session;
+    s_session.Ask(static_cast<xcb_window_t>(reinterpret_cast<std::uintptr_t>(window)));
 }

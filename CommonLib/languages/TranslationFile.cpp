@@ -107,7 +107,7 @@ bool Split(Bytes file, Sections& sections)
 }
 
 /// Stands for the length of an empty translation.
-constexpr quint32 EmptyText = 0xFFFFFFFF;
+constexpr quint32 kEmptyText = 0xFFFFFFFF;
 
 /// A message is a row of tagged fields; Qt stops at any other tag.
 bool IsSoundMessage(Bytes message)
@@ -116,7 +116,7 @@ bool IsSoundMessage(Bytes message)
         switch (message.Read<uchar>()) {
         case Translation: {
             const auto length = message.Read<quint32>();
-            if (length == EmptyText)
+            if (length == kEmptyText)
                 return true; // Qt stops here
             message.Skip(length);
             break;

@@ -27,7 +27,7 @@ constexpr std::uint32_t kRotationSize = 50 * 1024 * 1024;
 
 constexpr std::string_view kLevelNames[] = {"ALL", "DEBUG", "INFO", "WARN", "ERROR", "OFF"};
 
-BaseLog* globalLog = nullptr;
+BaseLog* s_globalLog = nullptr;
 
 /// A text built in somebody's fixed buffer, cut where the buffer ends and always terminated.
 class BoundedText
@@ -80,15 +80,15 @@ std::string_view BaseName(const char* file)
 // The text changes once a second, and making it is a large part of what a line costs.
 std::string_view TimeStamp()
 {
-    thread_local std::time_t second = -1;
-    thread_local char text[kStampSize] = {};
+    thread_local std::time_t s_second = -1;
+    thread_local char s_text[kStampSize] = {};
     const std::time_t now = std::time(nullptr);
-    if (now != second) {
+    if (now != s_second) {
         const std::tm t = LogFile::LocalTime(now);
-        std::strftime(text, sizeof text, "[%Y-%m-%d %H:%M:%S]", &t);
-        second = now;
+        std::strftime(s_text, sizeof s_text, "[%Y-%m-%d %H:%M:%S]", &t);
+        s_second = now;
     }
-    return text;
+    return s_text;
 }
 
 // `result` has room for kPathSize bytes.
@@ -122,7 +122,7 @@ CBaseLog::~CBaseLog()
 {
     const std::lock_guard<std::recursive_mutex> lock(m_mutex);
     const LogFile::Handle file = m_file.load();
-    if (file != LogFile::None)
+    if (file != LogFile::kNone)
         LogFile::Close(file);
     m_message.reset();
 }
@@ -131,13 +131,13 @@ int CBaseLog::Init(const char* path, bool echo, int level)
 {
     if (!path)
         return kNoPath;
-    if (m_file.load() != LogFile::None)
+    if (m_file.load() != LogFile::kNone)
         return kAlreadyOpen;
     const std::size_t length = BoundedLength(path, sizeof m_path - 1);
     std::memset(m_path, 0, sizeof m_path);
     std::memcpy(m_path, path, length);
     const LogFile::Handle file = LogFile::Open(m_path);
-    if (file == LogFile::None || file == LogFile::Invalid)
+    if (file == LogFile::kNone || file == LogFile::kInvalid)
         return kCannotOpen;
     m_echo = echo;
     m_level = std::clamp<int>(level, LogLevelAll, LogLevelOff);
@@ -187,7 +187,7 @@ void CBaseLog::Log(int level, const char* file, const char* function, int line, 
                    va_list arguments)
 {
     // The threshold is fixed while a file is open, so neither test needs the mutex.
-    if (m_file.load(std::memory_order_acquire) == LogFile::None || level < m_level)
+    if (m_file.load(std::memory_order_acquire) == LogFile::kNone || level < m_level)
         return;
     const std::lock_guard<std::recursive_mutex> lock(m_mutex);
     const int formatted =
@@ -259,15 +259,15 @@ BaseLog* CreateLogInstance()
 
 BaseLog* GetGlobalLogInstance()
 {
-    if (!globalLog)
-        globalLog = CreateLogInstance();
-    return globalLog;
+    if (!s_globalLog)
+        s_globalLog = CreateLogInstance();
+    return s_globalLog;
 }
 
 void ReleseGlobalLogInstance()
 {
-    if (!globalLog)
+    if (!s_globalLog)
         return;
-    globalLog->Release();
-    globalLog = nullptr;
+    s_globalLog->Release();
+    s_globalLog = nullptr;
 }

@@ -46,6 +46,6 @@ private:
     /// All zero between two messages.
     std::unique_ptr<char[]> m_message;
     /// Atomic because a level operation looks at it before it takes the mutex.
-    std::atomic<LogFile::Handle> m_file{LogFile::None};
+    std::atomic<LogFile::Handle> m_file{LogFile::kNone};
     std::recursive_mutex m_mutex;
 };

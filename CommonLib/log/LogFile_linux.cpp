@@ -67,14 +67,14 @@ Handle Open(const char* path)
     // Merely opening a FIFO would wake who waits at its other end, so look before; the second look,
     // at what was opened, is the one that counts.
     if (IsOtherThanRegular(path))
-        return Invalid;
+        return kInvalid;
     const int flags = O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
     const int descriptor = MoveAboveStandardStreams(::open(path, flags, 0644));
     if (descriptor < 0)
-        return Invalid;
+        return kInvalid;
     if (!IsRegular(descriptor) || !LockAgainstOtherLogs(descriptor)) {
         ::close(descriptor);
-        return Invalid;
+        return kInvalid;
     }
     return descriptor;
 }

@@ -7,18 +7,18 @@
 
 /// What the log needs of the system.
 ///
-/// No function reports an error beyond its result, and each accepts an Invalid handle.
+/// No function reports an error beyond its result, and each accepts kInvalid.
 namespace LogFile {
 
 /// An open file of the system, opaque.
 using Handle = std::intptr_t;
 /// No file was ever opened.
-constexpr Handle None = 0;
+constexpr Handle kNone = 0;
 /// Opening failed. Counts as open for the log; everything done with it fails.
-constexpr Handle Invalid = -1;
+constexpr Handle kInvalid = -1;
 
 /// Opens \a path for reading and writing, creating it when missing, and keeps other writers of this
-/// kind away while it is open. Invalid when that fails, at once and without touching the file.
+/// kind away while it is open. kInvalid when that fails, at once and without touching the file.
 Handle Open(const char* path);
 
 void Close(Handle handle);

@@ -24,7 +24,7 @@ Handle Open(const char* path)
 void Close(Handle handle)
 {
     // -1 is also the pseudo handle of the process itself; keep it out of CloseHandle.
-    if (handle != Invalid)
+    if (handle != kInvalid)
         ::CloseHandle(Native(handle));
 }
 
@@ -32,7 +32,7 @@ std::int64_t SeekToEnd(Handle handle)
 {
     LARGE_INTEGER distance = {};
     LARGE_INTEGER end = {};
-    if (handle == Invalid || !::SetFilePointerEx(Native(handle), distance, &end, FILE_END))
+    if (handle == kInvalid || !::SetFilePointerEx(Native(handle), distance, &end, FILE_END))
         return -1;
     return end.QuadPart;
 }
@@ -40,7 +40,7 @@ std::int64_t SeekToEnd(Handle handle)
 void Write(Handle handle, std::int64_t, const char* text, std::size_t length)
 {
     DWORD written = 0;
-    if (handle != Invalid)
+    if (handle != kInvalid)
         ::WriteFile(Native(handle), text, static_cast<DWORD>(length), &written, nullptr);
 }
 
