@@ -17,24 +17,24 @@ extern "C" {
 namespace nle {
 namespace {
 
-constexpr int MaxRate = 768000;
-constexpr int MaxChannels = 64;
-constexpr int MaxSeekAttempts = 16;
-constexpr int MaxErrorsInRow = 1000;
-constexpr int SilenceBlock = 4096;
-constexpr std::int64_t EndSlackUs = 10000000;
+constexpr int kMaxRate = 768000;
+constexpr int kMaxChannels = 64;
+constexpr int kMaxSeekAttempts = 16;
+constexpr int kMaxErrorsInRow = 1000;
+constexpr int kSilenceBlock = 4096;
+constexpr std::int64_t kEndSlackUs = 10000000;
 
 // Codecs need what was before a sample to decode it: overlapping windows, a bit reservoir.
-constexpr int PrerollMs = 250;
+constexpr int kPrerollMs = 250;
 
 // Time stamps off by less than this are jitter; beyond it there is a real gap.
-constexpr int JitterMs = 10;
+constexpr int kJitterMs = 10;
 
 // Up to this distance decoding on is cheaper than a seek.
-constexpr int MaxForwardSeconds = 2;
+constexpr int kMaxForwardSeconds = 2;
 
 // The resampler's filter reaches so many samples around each one, at the lower of the two rates.
-constexpr int FilterReach = 64;
+constexpr int kFilterReach = 64;
 
 std::int64_t FloorDivide(std::int64_t a, std::int64_t b)
 {
@@ -119,7 +119,7 @@ struct AudioDecoder::Private
     {
         return rate == nativeRate
                    ? 0
-                   : FilterReach * (1 + std::max<std::int64_t>(1, rate / nativeRate));
+                   : kFilterReach * (1 + std::max<std::int64_t>(1, rate / nativeRate));
     }
 };
 
@@ -138,7 +138,7 @@ bool AudioDecoder::Private::DecodeFrame()
             return true;
         }
         if (result != AVERROR(EAGAIN)) {
-            isDrained = result == AVERROR_EOF || ++errors > MaxErrorsInRow;
+            isDrained = result == AVERROR_EOF || ++errors > kMaxErrorsInRow;
             continue;
         }
         int read = 0;
@@ -165,7 +165,7 @@ std::int64_t AudioDecoder::Private::PlaceFrame() const
     if (ticks == AV_NOPTS_VALUE)
         return hasPosition ? expected : nativeStart;
     const std::int64_t stamped = NativeOf(ticks);
-    if (hasPosition && std::abs(stamped - expected) <= nativeRate * JitterMs / 1000)
+    if (hasPosition && std::abs(stamped - expected) <= nativeRate * kJitterMs / 1000)
         return expected;
     const std::int64_t tick = av_rescale_q(1, stream->time_base, {1, nativeRate});
     const std::int64_t grid = info->Stream(streamIndex)->frameSamples;
@@ -197,12 +197,12 @@ bool AudioDecoder::Private::SeekTicks(std::int64_t ticks, bool toStart)
 // codec to have settled.
 bool AudioDecoder::Private::Seek(std::int64_t native)
 {
-    const std::int64_t preroll = std::int64_t(nativeRate) * PrerollMs / 1000;
+    const std::int64_t preroll = std::int64_t(nativeRate) * kPrerollMs / 1000;
     const std::int64_t startTicks = TicksOf(nativeStart);
     std::int64_t target = native - preroll;
     std::int64_t back = preroll;
-    for (int attempt = 1; attempt <= MaxSeekAttempts; ++attempt) {
-        const bool isLast = attempt == MaxSeekAttempts || target <= nativeStart;
+    for (int attempt = 1; attempt <= kMaxSeekAttempts; ++attempt) {
+        const bool isLast = attempt == kMaxSeekAttempts || target <= nativeStart;
         const bool hasSeeked = SeekTicks(isLast ? startTicks : TicksOf(target), isLast);
         const bool hasLanded = hasSeeked && DecodeFrame();
         if (hasLanded && (isLast || framePosition <= native - preroll / 2))
@@ -314,14 +314,14 @@ bool AudioDecoder::Private::FeedSilence(std::int64_t count)
     if (!silence) {
         silence.reset(av_frame_alloc());
         silence->format = frame->format;
-        silence->nb_samples = SilenceBlock;
+        silence->nb_samples = kSilenceBlock;
         av_channel_layout_copy(&silence->ch_layout, &frame->ch_layout);
         if (av_frame_get_buffer(silence.get(), 0) < 0)
             return false;
-        av_samples_set_silence(silence->extended_data, 0, SilenceBlock,
+        av_samples_set_silence(silence->extended_data, 0, kSilenceBlock,
                                silence->ch_layout.nb_channels, AVSampleFormat(silence->format));
     }
-    const int now = int(std::min<std::int64_t>(count, SilenceBlock));
+    const int now = int(std::min<std::int64_t>(count, kSilenceBlock));
     nativePosition += now;
     return Resample(const_cast<const std::uint8_t**>(silence->extended_data), now);
 }
@@ -384,7 +384,7 @@ int AudioDecoder::Private::Read(std::int64_t first, int count, int newRate, int 
     SetOutput(newRate, newChannels);
     // Far outside there is no need to look; the end is only an estimate until it was seen.
     const std::int64_t start = av_rescale_rnd(nativeStart, rate, nativeRate, AV_ROUND_DOWN);
-    const std::int64_t duration = info->Stream(streamIndex)->durationUs + EndSlackUs;
+    const std::int64_t duration = info->Stream(streamIndex)->durationUs + kEndSlackUs;
     const std::int64_t length = av_rescale(duration, rate, 1000000);
     const bool isPastEnd = isEndKnown && first >= CeilScale(nativeEnd, rate, nativeRate);
     const bool isOutside = isPastEnd || first >= start + length || first < start - count;
@@ -397,7 +397,7 @@ int AudioDecoder::Private::Read(std::int64_t first, int count, int newRate, int 
 
     const bool isNear =
         isPositioned && position >= readyPosition &&
-        position <= readyPosition + ReadyCount() + std::int64_t(rate) * MaxForwardSeconds;
+        position <= readyPosition + ReadyCount() + std::int64_t(rate) * kMaxForwardSeconds;
     if (!isNear && !Position(position))
         return 0;
     while (position < end) {
@@ -459,8 +459,8 @@ std::unique_ptr<AudioDecoder> AudioDecoder::Open(std::shared_ptr<const MediaInfo
 int AudioDecoder::Read(std::int64_t firstSample, int count, int sampleRate, int channels,
                        float* interleaved)
 {
-    const bool isSensible = count > 0 && sampleRate > 0 && sampleRate <= MaxRate && channels > 0 &&
-                            channels <= MaxChannels && interleaved != nullptr;
+    const bool isSensible = count > 0 && sampleRate > 0 && sampleRate <= kMaxRate && channels > 0 &&
+                            channels <= kMaxChannels && interleaved != nullptr;
     if (!isSensible)
         return -1;
     std::fill_n(interleaved, size_t(count) * size_t(channels), 0.0F);

@@ -208,8 +208,8 @@ int DecoderPool::OpenCount() const
 
 DecoderPool& Decoders()
 {
-    static DecoderPool pool;
-    return pool;
+    static DecoderPool s_pool;
+    return s_pool;
 }
 
 } // namespace nle

@@ -69,8 +69,8 @@ QStringList FontFiles::Register(const QString& path)
 
 FontFiles& Fonts()
 {
-    static FontFiles files;
-    return files;
+    static FontFiles s_files;
+    return s_files;
 }
 
 } // namespace nle

@@ -16,20 +16,20 @@ namespace nle {
 namespace {
 
 // Decoding on over so few frames is cheaper than emptying the decoder and starting anew.
-constexpr std::int64_t AlwaysForward = 8;
+constexpr std::int64_t kAlwaysForward = 8;
 
 // Up to this distance packets are read ahead in search of a key frame; beyond it a seek is cheaper.
-constexpr std::int64_t MaxReadAhead = 300;
+constexpr std::int64_t kMaxReadAhead = 300;
 
 // Without any key frame within so many packets, decoding starts with what was read.
-constexpr size_t MaxQueuedPackets = 1024;
+constexpr size_t kMaxQueuedPackets = 1024;
 
-constexpr int MaxSeekAttempts = 16;
+constexpr int kMaxSeekAttempts = 16;
 
 // So many packets and errors without a picture mean that there is none to come.
-constexpr int MaxRoundsPerPicture = 20000;
+constexpr int kMaxRoundsPerPicture = 20000;
 
-constexpr std::int64_t MinHoldFrames = 2;
+constexpr std::int64_t kMinHoldFrames = 2;
 
 // Codecs that tell from the packet alone that no other picture needs it.
 bool MarksUnreferenced(AVCodecID codec)
@@ -168,7 +168,7 @@ std::optional<std::int64_t> FrameDecoder::Private::ReadToKeyFrame(std::int64_t f
 {
     const std::int64_t lastTick = LastTickOf(frame);
     std::optional<std::int64_t> keyTicks;
-    while (queue.size() < MaxQueuedPackets) {
+    while (queue.size() < kMaxQueuedPackets) {
         PacketPtr packet = ReadPacket();
         if (!packet) {
             isInputAtEnd = true;
@@ -256,7 +256,7 @@ bool FrameDecoder::Private::DecodeNext(std::int64_t keepFrom)
             return true;
         }
         const bool isOver = result == AVERROR(EAGAIN) ? !Feed(keepFrom) : result == AVERROR_EOF;
-        isDrained = isOver || ++rounds > MaxRoundsPerPicture;
+        isDrained = isOver || ++rounds > kMaxRoundsPerPicture;
     }
     return false;
 }
@@ -313,7 +313,7 @@ bool FrameDecoder::Private::SeekAndDecode(std::int64_t frame, std::int64_t keepF
     std::int64_t ticks = LastTickOf(frame);
     std::int64_t keyLimit = ticks;
     std::int64_t back = 0;
-    for (int attempt = 1; attempt < MaxSeekAttempts && ticks > startTicks; ++attempt) {
+    for (int attempt = 1; attempt < kMaxSeekAttempts && ticks > startTicks; ++attempt) {
         Reset();
         std::optional<std::int64_t> keyTicks;
         if (av_seek_frame(file->Context(), streamIndex, ticks, AVSEEK_FLAG_BACKWARD) >= 0)
@@ -340,7 +340,7 @@ bool FrameDecoder::Private::CanContinueTo(std::int64_t frame)
     if (!current.isValid && !isUntouched)
         return false;
     const std::int64_t distance = frame - (current.isValid ? current.index : 0);
-    if (distance <= AlwaysForward)
+    if (distance <= kAlwaysForward)
         return distance >= 0;
 
     const std::int64_t lastTick = LastTickOf(frame);
@@ -354,7 +354,7 @@ bool FrameDecoder::Private::CanContinueTo(std::int64_t frame)
                               last != nullptr && last->timestamp >= lastTick;
     if (isIndexWhole)
         return true;
-    if (distance > MaxReadAhead)
+    if (distance > kMaxReadAhead)
         return false;
     if (ReadToKeyFrame(frame, lastTick)) {
         avcodec_flush_buffers(codec.get());
@@ -392,7 +392,7 @@ void FrameDecoder::Private::NoteEnd()
         return;
     const std::int64_t hold =
         av_rescale_q(PictureDuration(*current.frame), stream->time_base, FrameDuration());
-    endFrame = current.index + std::max(MinHoldFrames, hold);
+    endFrame = current.index + std::max(kMinHoldFrames, hold);
 }
 
 // ---- opening

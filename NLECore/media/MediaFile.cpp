@@ -19,21 +19,21 @@ extern "C" {
 namespace nle {
 namespace {
 
-constexpr std::chrono::seconds OpenTimeout{10};
-constexpr int MaxThreads = 4;
+constexpr std::chrono::seconds kOpenTimeout{10};
+constexpr int kMaxThreads = 4;
 
 // A lower score means that nothing but chance speaks for the format.
-constexpr int MinProbeScore = 5;
+constexpr int kMinProbeScore = 5;
 
 // Formats that are lists of other files or addresses, that run scripts, or that paint any text.
-constexpr const char* RefusedFormats[] = {
+constexpr const char* kRefusedFormats[] = {
     "applehttp", "avisynth", "concat", "dash", "ffmetadata",        "hls",    "imf",
     "lavfi",     "rtsp",     "sdp",    "tty",  "vapoursynth",       "vobsub", "rtp",
     "bin",       "xbin",     "adf",    "idf",  "webm_dash_manifest"};
 
 bool IsRefused(const AVInputFormat* format)
 {
-    return std::any_of(std::begin(RefusedFormats), std::end(RefusedFormats),
+    return std::any_of(std::begin(kRefusedFormats), std::end(kRefusedFormats),
                        [format](const char* name) { return av_match_name(name, format->name); });
 }
 
@@ -128,7 +128,7 @@ std::unique_ptr<MediaFile> MediaFile::Open(const QString& path, Streams streams,
         SetError(error, path, NotMedia(result));
         return nullptr;
     }
-    if (context->probe_score < MinProbeScore) {
+    if (context->probe_score < kMinProbeScore) {
         SetError(error, path, NotMedia(AVERROR_INVALIDDATA));
         return nullptr;
     }
@@ -188,7 +188,7 @@ MediaFile::~MediaFile()
 
 void MediaFile::LimitTime()
 {
-    m_deadline = std::chrono::steady_clock::now() + OpenTimeout;
+    m_deadline = std::chrono::steady_clock::now() + kOpenTimeout;
 }
 
 bool MediaFile::SeekToStart(int stream, std::int64_t startTicks)
@@ -244,7 +244,7 @@ CodecPtr OpenCodec(const AVStream* stream, int threads, const QString& path, QSt
         return fail(QStringLiteral("out of memory"));
     codec->pkt_timebase = stream->time_base;
     codec->thread_count =
-        threads > 0 ? threads : std::clamp(QThread::idealThreadCount(), 1, MaxThreads);
+        threads > 0 ? threads : std::clamp(QThread::idealThreadCount(), 1, kMaxThreads);
     const int result = avcodec_open2(codec.get(), decoder, nullptr);
     if (result < 0 && codec->thread_count > 1)
         return OpenCodec(stream, 1, path, error); // the system may be short of threads

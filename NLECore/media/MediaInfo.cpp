@@ -20,11 +20,11 @@ extern "C" {
 namespace nle {
 namespace {
 
-constexpr AVRational Microseconds{1, 1000000};
-constexpr NLERational StillRate = {25, 1};
+constexpr AVRational kMicroseconds{1, 1000000};
+constexpr NLERational kStillRate = {25, 1};
 
 // More packets than this behind the last entries of an index: it is not that of the whole file.
-constexpr int MaxPacketsAtEnd = 64;
+constexpr int kMaxPacketsAtEnd = 64;
 
 // Where there is no index, so many pictures tell the rate.
 constexpr std::size_t kMaxPicturesRead = 2000;
@@ -142,13 +142,13 @@ std::int64_t StartTicks(const AVStream* stream)
 
 std::int64_t StartUs(const AVStream* stream)
 {
-    return av_rescale_q(StartTicks(stream), stream->time_base, Microseconds);
+    return av_rescale_q(StartTicks(stream), stream->time_base, kMicroseconds);
 }
 
 std::int64_t DurationUs(const AVFormatContext* context, const AVStream* stream)
 {
     if (stream->duration > 0)
-        return av_rescale_q(stream->duration, stream->time_base, Microseconds);
+        return av_rescale_q(stream->duration, stream->time_base, kMicroseconds);
     const std::int64_t start = StartUs(stream);
     if (const std::int64_t end = ReadDurationTag(stream); end > start)
         return end - start;
@@ -252,7 +252,7 @@ void MeasureStream(MediaFile& file, int index, MediaStream* stream)
     const bool isCutShort = result == AVERROR_EXIT || context->pb->error == AVERROR_EXIT;
     if (isCutShort && position > 0)
         length = av_rescale(length, avio_size(context->pb), position);
-    stream->durationUs = av_rescale_q(length, source->time_base, Microseconds);
+    stream->durationUs = av_rescale_q(length, source->time_base, kMicroseconds);
 }
 
 // The stream that a player would choose: marked as default, then the largest, then the first.
@@ -279,7 +279,7 @@ int PreferredStream(const AVFormatContext* context, const MediaInfo& info, NLESt
 std::uint32_t CountFrames(std::int64_t durationUs, const NLERational& rate)
 {
     const std::int64_t count =
-        av_rescale_q(durationUs, Microseconds, {int(rate.den), int(rate.num)});
+        av_rescale_q(durationUs, kMicroseconds, {int(rate.den), int(rate.num)});
     return std::uint32_t(std::clamp<std::int64_t>(count, 0, INT32_MAX));
 }
 
@@ -307,7 +307,7 @@ std::uint32_t FindEnd(MediaFile& file, const AVStream* stream, const MediaStream
     int packets = 0;
     file.LimitTime();
     while (av_read_frame(context, packet.get()) >= 0) {
-        if (++packets > MaxPacketsAtEnd)
+        if (++packets > kMaxPacketsAtEnd)
             return 0;
         const bool isShown = packet->pts != AV_NOPTS_VALUE &&
                              (packet->flags & (AV_PKT_FLAG_DISCARD | AV_PKT_FLAG_CORRUPT)) == 0;
@@ -379,12 +379,12 @@ void ExamineRate(MediaFile& file, AVStream* stream, MediaStream* description)
 void MakeStill(MediaInfo* info)
 {
     MediaStream& stream = info->streams[size_t(info->videoStream)];
-    stream.frameRate = StillRate;
-    stream.durationUs = 1000000 * StillRate.den / StillRate.num;
+    stream.frameRate = kStillRate;
+    stream.durationUs = 1000000 * kStillRate.den / kStillRate.num;
     stream.frameCount = 1;
     info->kind = NLEMedia_Image;
     info->frameCount = 1;
-    info->frameRate = StillRate;
+    info->frameRate = kStillRate;
     info->durationUs = stream.durationUs;
 }
 
@@ -405,18 +405,18 @@ void MakeVideo(MediaFile& file, MediaInfo* info)
     info->frameCount = std::max(1U, stream.frameCount);
     info->originUs = StartUs(source);
     info->durationUs = av_rescale_q(
-        info->frameCount, {int(stream.frameRate.den), int(stream.frameRate.num)}, Microseconds);
+        info->frameCount, {int(stream.frameRate.den), int(stream.frameRate.num)}, kMicroseconds);
 }
 
 void MakeAudio(const AVFormatContext* context, MediaInfo* info)
 {
     const MediaStream& stream = info->streams[size_t(info->audioStream)];
     info->kind = NLEMedia_Audio;
-    info->frameRate = StillRate;
+    info->frameRate = kStillRate;
     info->durationUs = stream.durationUs;
     // Before time 0 some containers keep what an encoder needs to settle; it is not played.
     info->originUs = std::max<std::int64_t>(0, StartUs(context->streams[info->audioStream]));
-    info->frameCount = std::max(1U, CountFrames(info->durationUs, StillRate));
+    info->frameCount = std::max(1U, CountFrames(info->durationUs, kStillRate));
 }
 
 } // namespace

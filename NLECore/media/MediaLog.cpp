@@ -43,9 +43,9 @@ void Forward(void* context, int level, const char* format, va_list arguments)
     if (!sink)
         return;
     // A message may arrive in pieces; each thread keeps track of whether it starts a line.
-    thread_local int atLineStart = 1;
+    thread_local int s_atLineStart = 1;
     char line[1024];
-    av_log_format_line2(context, level, format, arguments, line, int(sizeof line), &atLineStart);
+    av_log_format_line2(context, level, format, arguments, line, int(sizeof line), &s_atLineStart);
     size_t length = std::strlen(line);
     while (length > 0 && (line[length - 1] == '\n' || line[length - 1] == '\r'))
         line[--length] = '\0';
@@ -73,8 +73,8 @@ void SetMediaLogSink(std::function<void(const char*)> sink)
 
 void InstallMediaLog()
 {
-    static std::once_flag once;
-    std::call_once(once, [] { av_log_set_callback(Forward); });
+    static std::once_flag s_once;
+    std::call_once(s_once, [] { av_log_set_callback(Forward); });
 }
 
 } // namespace nle

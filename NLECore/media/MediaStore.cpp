@@ -17,18 +17,18 @@ namespace {
 using namespace std::chrono;
 
 // Opening a file mostly waits for the disk, so two at a time pay on one processor as well.
-constexpr int FewestThreads = 2;
-constexpr int MostThreads = 8;
+constexpr int kFewestThreads = 2;
+constexpr int kMostThreads = 8;
 
 // Two changes so close to each other may carry the same time.
-constexpr milliseconds ClockStep{100};
+constexpr milliseconds kClockStep{100};
 
 // A file that was changed just now may be changed again without a trace in its stamp.
 bool IsFresh(const FileStamp& stamp)
 {
     const auto now = duration_cast<nanoseconds>(system_clock::now().time_since_epoch());
     const std::int64_t age = now.count() - std::max(stamp.modifiedNs, stamp.changedNs);
-    return std::abs(age) < nanoseconds(ClockStep).count();
+    return std::abs(age) < nanoseconds(kClockStep).count();
 }
 
 MediaStore::Result Probe(const QString& path)
@@ -154,7 +154,7 @@ MediaStore::Result MediaStore::Describe(const QString& path)
 std::vector<MediaStore::Result> MediaStore::DescribeAll(const QStringList& paths)
 {
     std::vector<Result> results(size_t(paths.size()));
-    const int threads = std::clamp(QThread::idealThreadCount(), FewestThreads, MostThreads);
+    const int threads = std::clamp(QThread::idealThreadCount(), kFewestThreads, kMostThreads);
     const auto describe = [&](int i) {
         try {
             results[size_t(i)] = Describe(paths[i]);

@@ -58,7 +58,7 @@ struct ScalerFreer
 };
 
 // Without a prototype of its own: whether the data is constant depends on the library's version.
-constexpr auto WriteBytes = [](void* file, auto* data, int size) {
+constexpr auto kWriteBytes = [](void* file, auto* data, int size) {
     const auto* bytes = reinterpret_cast<const char*>(data);
     try {
         return static_cast<QSaveFile*>(file)->write(bytes, size) == size ? size : AVERROR(EIO);
@@ -305,7 +305,7 @@ struct MediaWriter::Private
         format.reset(context);
         auto* buffer = static_cast<unsigned char*>(av_malloc(kBufferBytes));
         output.reset(
-            avio_alloc_context(buffer, kBufferBytes, 1, &file, nullptr, WriteBytes, &SeekByte));
+            avio_alloc_context(buffer, kBufferBytes, 1, &file, nullptr, kWriteBytes, &SeekByte));
         if (!buffer || !output) {
             av_free(output ? nullptr : buffer);
             return Fail("out of memory");

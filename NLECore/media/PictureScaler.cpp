@@ -13,10 +13,10 @@ namespace nle {
 namespace {
 
 // The scaler's filters cannot shrink much more in one go.
-constexpr int MaxShrink = 64;
+constexpr int kMaxShrink = 64;
 
 // The scaler may write up to this many bytes beyond a line whose length is no multiple of it.
-constexpr int LineAlignment = 64;
+constexpr int kLineAlignment = 64;
 
 int ColourMatrix(const AVFrame& frame)
 {
@@ -84,7 +84,7 @@ PictureScaler::~PictureScaler()
 QImage PictureScaler::Convert(const AVFrame& frame, const MediaStream& stream, const QSize& size)
 {
     const QSize upright = stream.rotation % 180 != 0 ? size.transposed() : size;
-    const QSize smallest(frame.width / MaxShrink, frame.height / MaxShrink);
+    const QSize smallest(frame.width / kMaxShrink, frame.height / kMaxShrink);
     QImage image = Scale(frame, upright.expandedTo(smallest));
     if (image.isNull())
         return image;
@@ -141,10 +141,10 @@ QImage PictureScaler::Scale(const AVFrame& frame, const QSize& size)
     if (image.isNull() || !Prepare(frame, size))
         return {};
     const int lineBytes = image.bytesPerLine();
-    const bool isAligned = lineBytes % LineAlignment == 0;
-    const int stride = (lineBytes + LineAlignment - 1) / LineAlignment * LineAlignment;
+    const bool isAligned = lineBytes % kLineAlignment == 0;
+    const int stride = (lineBytes + kLineAlignment - 1) / kLineAlignment * kLineAlignment;
     if (!isAligned)
-        m_scratch.resize(size_t(stride) * size_t(size.height()) + LineAlignment);
+        m_scratch.resize(size_t(stride) * size_t(size.height()) + kLineAlignment);
     std::uint8_t* const pixels = isAligned ? image.bits() : m_scratch.data();
     std::uint8_t* const planes[4] = {pixels, nullptr, nullptr, nullptr};
     const int strides[4] = {stride, 0, 0, 0};

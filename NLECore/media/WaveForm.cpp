@@ -7,7 +7,7 @@
 namespace nle {
 namespace {
 
-constexpr std::int64_t BlockSamples = 32768;
+constexpr std::int64_t kBlockSamples = 32768;
 
 // First sample of a bucket; sampleCount * bucket may exceed 64 bits only beyond any real length.
 std::int64_t BucketStart(std::int64_t bucket, std::int64_t sampleCount, std::int64_t buckets)
@@ -24,7 +24,7 @@ std::vector<WavePeak> ReadWaveForm(AudioDecoder& decoder, std::int64_t firstSamp
     if (sampleCount <= 0 || sampleRate <= 0 || channels <= 0 || buckets <= 0)
         return {};
     std::vector<WavePeak> peaks(size_t(buckets) * size_t(channels));
-    std::vector<float> block(size_t(BlockSamples) * size_t(channels));
+    std::vector<float> block(size_t(kBlockSamples) * size_t(channels));
     std::int64_t blockStart = 0;
     std::int64_t blockEnd = 0;
     for (int bucket = 0; bucket < buckets; ++bucket) {
@@ -34,7 +34,7 @@ std::vector<WavePeak> ReadWaveForm(AudioDecoder& decoder, std::int64_t firstSamp
         for (std::int64_t sample = start; sample < end; ++sample) {
             if (sample >= blockEnd) {
                 blockStart = sample;
-                blockEnd = std::min(sampleCount, blockStart + BlockSamples);
+                blockEnd = std::min(sampleCount, blockStart + kBlockSamples);
                 if (decoder.Read(firstSample + blockStart, int(blockEnd - blockStart), sampleRate,
                                  channels, block.data()) < 0)
                     return {};

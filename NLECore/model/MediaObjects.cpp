@@ -33,8 +33,8 @@ NLEStreamInfo ToEngine(const MediaStream& stream)
 
 MediaStore& Files()
 {
-    static MediaStore store;
-    return store;
+    static MediaStore s_store;
+    return s_store;
 }
 
 std::shared_ptr<const MediaInfo> Logged(const MediaStore::Result& result)
@@ -74,7 +74,7 @@ std::shared_ptr<const MediaInfo> OfflineMedia(const QString& path)
 std::shared_ptr<const MediaInfo> MediaInfoObject::From(IUnknown* object)
 {
     void* found = nullptr;
-    if (!object || FAILED(object->QueryInterface(ObjectId, &found)))
+    if (!object || FAILED(object->QueryInterface(kObjectId, &found)))
         return nullptr;
     NLEComPtr<MediaInfoObject> info;
     info.attach(static_cast<MediaInfoObject*>(found));
@@ -83,7 +83,7 @@ std::shared_ptr<const MediaInfo> MediaInfoObject::From(IUnknown* object)
 
 HRESULT MediaInfoObject::QueryInterface(REFIID iid, void** out)
 {
-    if (out && iid == ObjectId) {
+    if (out && iid == kObjectId) {
         *out = this;
         AddRef();
         return S_OK;

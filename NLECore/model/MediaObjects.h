@@ -27,7 +27,7 @@ class MediaInfoObject final : public ComObject<INLEMediaInfo>
 {
 public:
     /// Identifier under which an object of this engine tells its class.
-    static constexpr _GUID ObjectId = {
+    static constexpr _GUID kObjectId = {
         0x9C5B40A7, 0x52B5, 0x4A0C, {0x8D, 0x55, 0x31, 0x70, 0x9E, 0x4B, 0x77, 0x02}};
     /// The description behind an engine interface; null for another engine's object.
     static std::shared_ptr<const MediaInfo> From(IUnknown* object);

@@ -45,7 +45,7 @@ HRESULT CopyText(const std::wstring& text, wchar_t* buffer, int capacity)
 PropertyBag* PropertyBag::From(IUnknown* object)
 {
     void* bag = nullptr;
-    if (!object || FAILED(object->QueryInterface(BagId, &bag)))
+    if (!object || FAILED(object->QueryInterface(kBagId, &bag)))
         return nullptr;
     auto* result = static_cast<PropertyBag*>(bag);
     result->Release();
@@ -54,7 +54,7 @@ PropertyBag* PropertyBag::From(IUnknown* object)
 
 HRESULT PropertyBag::QueryInterface(REFIID iid, void** out)
 {
-    if (!out || iid != BagId)
+    if (!out || iid != kBagId)
         return ComObject::QueryInterface(iid, out);
     *out = this;
     AddRef();

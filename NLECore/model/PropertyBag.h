@@ -25,7 +25,7 @@ public:
     using Values = std::map<std::wstring, Value>;
 
     /// Identifier under which a bag of this engine tells its class.
-    static constexpr _GUID BagId = {
+    static constexpr _GUID kBagId = {
         0x6C1B7F04, 0x9A3E, 0x4D52, {0x8E, 0x61, 0x2F, 0x90, 0x37, 0xC4, 0xD8, 0x1B}};
     /// The bag behind an engine interface, not a new reference; null for another engine's object.
     static PropertyBag* From(IUnknown* object);

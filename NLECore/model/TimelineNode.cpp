@@ -16,8 +16,8 @@ namespace {
 
 std::uint32_t NextId()
 {
-    static std::atomic<std::uint32_t> last{0};
-    return ++last;
+    static std::atomic<std::uint32_t> s_last{0};
+    return ++s_last;
 }
 
 } // namespace
@@ -52,7 +52,7 @@ HRESULT NodeBag::Write(const std::wstring& key, Value value)
 TimelineNode* TimelineNode::From(IUnknown* object)
 {
     void* node = nullptr;
-    if (!object || FAILED(object->QueryInterface(NodeId, &node)))
+    if (!object || FAILED(object->QueryInterface(kNodeId, &node)))
         return nullptr;
     auto* result = static_cast<TimelineNode*>(node);
     result->Release();
@@ -82,7 +82,7 @@ HRESULT TimelineNode::QueryInterface(REFIID iid, void** out)
 {
     if (!out)
         return E_POINTER;
-    if (iid == NodeId)
+    if (iid == kNodeId)
         *out = this;
     else if (!(ComDetail::Offer<INLEBlendSetting>(&m_blend, iid, out) ||
                ComDetail::Offer<INLETransform>(&m_transform, iid, out) ||

@@ -40,7 +40,7 @@ class TimelineNode : public ComObject<INLETimeline, INLEPropertyHost, INLERender
 {
 public:
     /// Identifier under which a node of this engine tells its class.
-    static constexpr _GUID NodeId = {
+    static constexpr _GUID kNodeId = {
         0x1D6E1A52, 0x0C1B, 0x4F5E, {0x9B, 0x0E, 0x6A, 0x0F, 0x55, 0x2C, 0x90, 0x13}};
     /// The node behind an engine interface, not a new reference; null for another engine's object.
     static TimelineNode* From(IUnknown* object);

@@ -58,12 +58,12 @@ void ForEachFile(const QString& folder, Visit visit)
 
 std::shared_ptr<ChunkStore> ChunkStore::Of(const QString& path)
 {
-    static std::mutex mutex;
+    static std::mutex s_mutex;
     // Never destroyed: timelines may outlive the objects of the module.
-    static auto& stores = *new std::map<QString, std::weak_ptr<ChunkStore>>;
+    static auto& s_stores = *new std::map<QString, std::weak_ptr<ChunkStore>>;
     const QString folder = QDir::cleanPath(QDir(path).absolutePath());
-    const std::lock_guard<std::mutex> lock(mutex);
-    std::weak_ptr<ChunkStore>& known = stores[folder];
+    const std::lock_guard<std::mutex> lock(s_mutex);
+    std::weak_ptr<ChunkStore>& known = s_stores[folder];
     std::shared_ptr<ChunkStore> store = known.lock();
     if (!store)
         known = store = std::shared_ptr<ChunkStore>(new ChunkStore(folder));

@@ -26,11 +26,11 @@ struct PlacementSettings
 /// Place and length count where a layer stands, and not in what it shows.
 template <>
 inline constexpr auto kFields<PlacementSettings> = std::tuple(
-    Field{&PlacementSettings::range, "range", Shows::No},
-    Field{&PlacementSettings::position, "position", Shows::No},
-    Field{&PlacementSettings::level, "level", Shows::No},
-    Field{&PlacementSettings::margin, "margin", Shows::Yes, NLEMargin_Fit, NLEMargin_None},
-    Field{&PlacementSettings::enabled, "enabled", Shows::No});
+    Field{&PlacementSettings::range, "range", Shows::kNo},
+    Field{&PlacementSettings::position, "position", Shows::kNo},
+    Field{&PlacementSettings::level, "level", Shows::kNo},
+    Field{&PlacementSettings::margin, "margin", Shows::kYes, NLEMargin_Fit, NLEMargin_None},
+    Field{&PlacementSettings::enabled, "enabled", Shows::kNo});
 static_assert(kListsAllFields<PlacementSettings>);
 
 /// How the colours of a clip and of what is below it become one; numbers are part of documents.
@@ -62,9 +62,9 @@ struct BlendSettings
 };
 template <>
 inline constexpr auto kFields<BlendSettings> =
-    std::tuple(Field{&BlendSettings::enabled, "blend", Shows::Yes},
-               Field{&BlendSettings::mode, "blend", Shows::Yes, 0, kBlendModes - 1},
-               Field{&BlendSettings::alpha, "blend", Shows::Yes, 0, kOpaqueAlpha});
+    std::tuple(Field{&BlendSettings::enabled, "blend", Shows::kYes},
+               Field{&BlendSettings::mode, "blend", Shows::kYes, 0, kBlendModes - 1},
+               Field{&BlendSettings::alpha, "blend", Shows::kYes, 0, kOpaqueAlpha});
 static_assert(kListsAllFields<BlendSettings>);
 
 /// Where a clip lies on its parent, on top of what its margin mode says.
@@ -84,11 +84,11 @@ struct TransformSettings
 };
 template <>
 inline constexpr auto kFields<TransformSettings> =
-    std::tuple(Field{&TransformSettings::enabled, "transform", Shows::Yes},
-               Field{&TransformSettings::center, "transform", Shows::Yes},
-               Field{&TransformSettings::scale, "transform", Shows::Yes},
-               Field{&TransformSettings::rotation, "transform", Shows::Yes},
-               Field{&TransformSettings::lock, "transform", Shows::No});
+    std::tuple(Field{&TransformSettings::enabled, "transform", Shows::kYes},
+               Field{&TransformSettings::center, "transform", Shows::kYes},
+               Field{&TransformSettings::scale, "transform", Shows::kYes},
+               Field{&TransformSettings::rotation, "transform", Shows::kYes},
+               Field{&TransformSettings::lock, "transform", Shows::kNo});
 static_assert(kListsAllFields<TransformSettings>);
 
 /// Bands of the equaliser; each is an octave wide.
@@ -135,23 +135,23 @@ struct AudioSettings
 };
 template <>
 inline constexpr auto kFields<AudioSettings> = std::tuple(
-    Field{&AudioSettings::volumeEnabled, "sound:levels", Shows::No},
-    Field{&AudioSettings::volume, "sound:levels", Shows::No, 0.0, kMostVolume},
-    Field{&AudioSettings::mute, "sound:levels", Shows::No},
-    Field{&AudioSettings::balance, "sound:levels", Shows::No, -1.0, 1.0},
-    Field{&AudioSettings::fadeIn, "sound:fades", Shows::No},
-    Field{&AudioSettings::fadeInFrames, "sound:fades", Shows::No, 0, INT32_MAX},
-    Field{&AudioSettings::fadeOut, "sound:fades", Shows::No},
-    Field{&AudioSettings::fadeOutFrames, "sound:fades", Shows::No, 0, INT32_MAX},
-    Field{&AudioSettings::pitch, "sound:effects", Shows::No, -kMostSemitones, kMostSemitones},
-    Field{&AudioSettings::denoise, "sound:effects", Shows::No},
-    Field{&AudioSettings::denoiseLevel, "sound:effects", Shows::No, 0, kMostDenoise},
-    Field{&AudioSettings::mono, "sound:effects", Shows::No},
-    Field{&AudioSettings::equalizer, "sound:effects", Shows::No},
-    Field{&AudioSettings::equalizerGains, "sound:equalizer", Shows::No, -kMostEqualizerGain,
+    Field{&AudioSettings::volumeEnabled, "sound:levels", Shows::kNo},
+    Field{&AudioSettings::volume, "sound:levels", Shows::kNo, 0.0, kMostVolume},
+    Field{&AudioSettings::mute, "sound:levels", Shows::kNo},
+    Field{&AudioSettings::balance, "sound:levels", Shows::kNo, -1.0, 1.0},
+    Field{&AudioSettings::fadeIn, "sound:fades", Shows::kNo},
+    Field{&AudioSettings::fadeInFrames, "sound:fades", Shows::kNo, 0, INT32_MAX},
+    Field{&AudioSettings::fadeOut, "sound:fades", Shows::kNo},
+    Field{&AudioSettings::fadeOutFrames, "sound:fades", Shows::kNo, 0, INT32_MAX},
+    Field{&AudioSettings::pitch, "sound:effects", Shows::kNo, -kMostSemitones, kMostSemitones},
+    Field{&AudioSettings::denoise, "sound:effects", Shows::kNo},
+    Field{&AudioSettings::denoiseLevel, "sound:effects", Shows::kNo, 0, kMostDenoise},
+    Field{&AudioSettings::mono, "sound:effects", Shows::kNo},
+    Field{&AudioSettings::equalizer, "sound:effects", Shows::kNo},
+    Field{&AudioSettings::equalizerGains, "sound:equalizer", Shows::kNo, -kMostEqualizerGain,
           kMostEqualizerGain},
-    Field{&AudioSettings::equalizerName, "sound:equalizer-name", Shows::No},
-    Field{&AudioSettings::volumePoints, "sound:curve", Shows::No});
+    Field{&AudioSettings::equalizerName, "sound:equalizer-name", Shows::kNo},
+    Field{&AudioSettings::volumePoints, "sound:curve", Shows::kNo});
 static_assert(kListsAllFields<AudioSettings>);
 
 struct VideoSettings
@@ -164,10 +164,10 @@ struct VideoSettings
 /// Whether a proxy shows is the layer's to say.
 template <>
 inline constexpr auto kFields<VideoSettings> =
-    std::tuple(Field{&VideoSettings::alphaChannel, "alpha-channel", Shows::No},
-               Field{&VideoSettings::proxy, "proxy", Shows::No},
-               Field{&VideoSettings::proxyEnabled, "proxy-enabled", Shows::No},
-               Field{&VideoSettings::premultipliedType, "premultiplied", Shows::No});
+    std::tuple(Field{&VideoSettings::alphaChannel, "alpha-channel", Shows::kNo},
+               Field{&VideoSettings::proxy, "proxy", Shows::kNo},
+               Field{&VideoSettings::proxyEnabled, "proxy-enabled", Shows::kNo},
+               Field{&VideoSettings::premultipliedType, "premultiplied", Shows::kNo});
 static_assert(kListsAllFields<VideoSettings>);
 
 /// Mixer strips of a composite's tracks, by level.
@@ -176,10 +176,10 @@ constexpr tagMixerParam kNeutralStrip = {1, 0, 0, 0};
 /// The document property of a strip has the level behind its name.
 template <>
 inline constexpr auto kFields<tagMixerParam> =
-    std::tuple(Field{&tagMixerParam::volume, "mixer:", Shows::No, 0.0, kMostVolume},
-               Field{&tagMixerParam::balance, "mixer:", Shows::No, -1.0, 1.0},
-               Field{&tagMixerParam::mute, "mixer:", Shows::No},
-               Field{&tagMixerParam::solo, "mixer:", Shows::No});
+    std::tuple(Field{&tagMixerParam::volume, "mixer:", Shows::kNo, 0.0, kMostVolume},
+               Field{&tagMixerParam::balance, "mixer:", Shows::kNo, -1.0, 1.0},
+               Field{&tagMixerParam::mute, "mixer:", Shows::kNo},
+               Field{&tagMixerParam::solo, "mixer:", Shows::kNo});
 static_assert(kListsAllFields<tagMixerParam>);
 
 } // namespace nle

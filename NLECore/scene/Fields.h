@@ -20,8 +20,8 @@ namespace nle {
 /// Whether a field decides about pictures; then it counts in the keys of the preview cache.
 struct Shows
 {
-    static constexpr std::false_type No = {};
-    static constexpr std::true_type Yes = {};
+    static constexpr std::false_type kNo = {};
+    static constexpr std::true_type kYes = {};
 };
 
 namespace FieldDetail {

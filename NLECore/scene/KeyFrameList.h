@@ -13,14 +13,14 @@ namespace nle {
 
 template <>
 inline constexpr auto kFields<NLEKeyFrameRecord> =
-    std::tuple(Field{&NLEKeyFrameRecord::time, "key-frames", Shows::Yes},
-               Field{&NLEKeyFrameRecord::angle, "key-frames", Shows::Yes},
-               Field{&NLEKeyFrameRecord::positionX, "key-frames", Shows::Yes},
-               Field{&NLEKeyFrameRecord::positionY, "key-frames", Shows::Yes},
-               Field{&NLEKeyFrameRecord::scaleWidth, "key-frames", Shows::Yes},
-               Field{&NLEKeyFrameRecord::scaleHeight, "key-frames", Shows::Yes},
-               Field{&NLEKeyFrameRecord::opacity, "key-frames", Shows::Yes},
-               Field{&NLEKeyFrameRecord::interpolation, "key-frames", Shows::Yes});
+    std::tuple(Field{&NLEKeyFrameRecord::time, "key-frames", Shows::kYes},
+               Field{&NLEKeyFrameRecord::angle, "key-frames", Shows::kYes},
+               Field{&NLEKeyFrameRecord::positionX, "key-frames", Shows::kYes},
+               Field{&NLEKeyFrameRecord::positionY, "key-frames", Shows::kYes},
+               Field{&NLEKeyFrameRecord::scaleWidth, "key-frames", Shows::kYes},
+               Field{&NLEKeyFrameRecord::scaleHeight, "key-frames", Shows::kYes},
+               Field{&NLEKeyFrameRecord::opacity, "key-frames", Shows::kYes},
+               Field{&NLEKeyFrameRecord::interpolation, "key-frames", Shows::kYes});
 static_assert(kListsAllFields<NLEKeyFrameRecord>);
 
 /// A key frame that changes nothing.

@@ -31,8 +31,8 @@ struct RenderContext
 };
 template <>
 inline constexpr auto
-    kFields<RenderContext> = std::tuple(Field{&RenderContext::previewScale, nullptr, Shows::Yes},
-                                        Field{&RenderContext::smooth, nullptr, Shows::Yes});
+    kFields<RenderContext> = std::tuple(Field{&RenderContext::previewScale, nullptr, Shows::kYes},
+                                        Field{&RenderContext::smooth, nullptr, Shows::kYes});
 static_assert(kListsAllFields<RenderContext>);
 
 /// Immutable picture of one node and what it holds: all that a render needs, without the model.
@@ -82,17 +82,17 @@ struct Layer
 /// how it sounds, what it holds (layers with keys of their own), or count for the root alone.
 template <>
 inline constexpr auto kFields<Layer> = std::tuple(
-    Field{&Layer::kind, nullptr, Shows::Yes}, Field{&Layer::range, nullptr, Shows::No},
-    Field{&Layer::position, nullptr, Shows::No}, Field{&Layer::level, nullptr, Shows::No},
-    Field{&Layer::frameRate, nullptr, Shows::Yes}, Field{&Layer::margin, nullptr, Shows::Yes},
-    Field{&Layer::mode, nullptr, Shows::No}, Field{&Layer::size, nullptr, Shows::Yes},
-    Field{&Layer::speed, nullptr, Shows::Yes}, Field{&Layer::frozenFrame, nullptr, Shows::Yes},
-    Field{&Layer::blend, nullptr, Shows::Yes}, Field{&Layer::transform, nullptr, Shows::Yes},
-    Field{&Layer::keyFrames, nullptr, Shows::Yes}, Field{&Layer::context, nullptr, Shows::No},
-    Field{&Layer::audio, nullptr, Shows::No}, Field{&Layer::media, nullptr, Shows::Yes},
-    Field{&Layer::proxy, nullptr, Shows::Yes}, Field{&Layer::argb, nullptr, Shows::Yes},
-    Field{&Layer::text, nullptr, Shows::Yes}, Field{&Layer::family, nullptr, Shows::Yes},
-    Field{&Layer::children, nullptr, Shows::No}, Field{&Layer::mixer, nullptr, Shows::No});
+    Field{&Layer::kind, nullptr, Shows::kYes}, Field{&Layer::range, nullptr, Shows::kNo},
+    Field{&Layer::position, nullptr, Shows::kNo}, Field{&Layer::level, nullptr, Shows::kNo},
+    Field{&Layer::frameRate, nullptr, Shows::kYes}, Field{&Layer::margin, nullptr, Shows::kYes},
+    Field{&Layer::mode, nullptr, Shows::kNo}, Field{&Layer::size, nullptr, Shows::kYes},
+    Field{&Layer::speed, nullptr, Shows::kYes}, Field{&Layer::frozenFrame, nullptr, Shows::kYes},
+    Field{&Layer::blend, nullptr, Shows::kYes}, Field{&Layer::transform, nullptr, Shows::kYes},
+    Field{&Layer::keyFrames, nullptr, Shows::kYes}, Field{&Layer::context, nullptr, Shows::kNo},
+    Field{&Layer::audio, nullptr, Shows::kNo}, Field{&Layer::media, nullptr, Shows::kYes},
+    Field{&Layer::proxy, nullptr, Shows::kYes}, Field{&Layer::argb, nullptr, Shows::kYes},
+    Field{&Layer::text, nullptr, Shows::kYes}, Field{&Layer::family, nullptr, Shows::kYes},
+    Field{&Layer::children, nullptr, Shows::kNo}, Field{&Layer::mixer, nullptr, Shows::kNo});
 static_assert(kListsAllFields<Layer>);
 
 using Snapshot = std::shared_ptr<const Layer>;
