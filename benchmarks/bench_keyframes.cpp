@@ -102,15 +102,15 @@ void Rendering(int count)
         curve.frames.push_back(RecordAt(frame, count));
         peer[curve.frames.back().time] = curve.frames.back();
     }
-    constexpr int Calls = 10000;
+    constexpr int calls = 10000;
     std::mt19937 random(1);
-    std::vector<double> frames(Calls);
+    std::vector<double> frames(calls);
     for (double& frame : frames)
         frame = double(random() % unsigned(count)) + 0.5;
     char name[64];
     std::snprintf(name, sizeof name, "of %d", count);
     Compare(
-        name, Calls,
+        name, calls,
         [&] {
             for (const double frame : frames)
                 Use(curve.AtFrame(frame));

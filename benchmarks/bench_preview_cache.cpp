@@ -230,17 +230,17 @@ void CompareRendering(const char* title, const QString& media, int layers, const
 
 double FrameTime(const Node& project, int flags, const NLESize& size)
 {
-    constexpr int Count = 60;
+    constexpr int count = 60;
     const auto picture = Provider()->CreateVideoFrame(size.width, size.height);
     const auto extractor = Provider()->CreateFrameExtractor();
     picture->Prepare();
     extractor->Open(project.get(), flags);
     extractor->Extract(0, picture.get());
     return MillisecondsOf([&] {
-               for (int frame = 1; frame <= Count; ++frame)
+               for (int frame = 1; frame <= count; ++frame)
                    extractor->Extract(frame, picture.get());
            }) /
-           Count;
+           count;
 }
 
 void CompareReading(const QString& media, const QDir& folder)
@@ -282,11 +282,11 @@ void MeasureStops(const QString& media, const QDir& folder)
 
 void MeasureLargeProject(const QString& media, const QDir& folder)
 {
-    constexpr int Clips = 10000;
+    constexpr int clipCount = 10000;
     const Node project = Project();
     const Node source = Provider()->CreateMediaTimeline(media, false);
     std::vector<Node> clips;
-    for (int i = 0; i < Clips; ++i) {
+    for (int i = 0; i < clipCount; ++i) {
         Node clip;
         source->Clone(true, clip.put());
         const NLERange range = {i % 400, i % 400 + 29};
@@ -302,7 +302,7 @@ void MeasureLargeProject(const QString& media, const QDir& folder)
         updates.push_back(CostOf(RUSAGE_THREAD, [&] { cache.engine->Update(); }));
     }
     const Cost update = MedianCost(updates);
-    std::printf("%d clips: analysis after one edit %.2f ms, %.2f ms of processor\n", Clips,
+    std::printf("%d clips: analysis after one edit %.2f ms, %.2f ms of processor\n", clipCount,
                 update.wall * 1e3, update.processor * 1e3);
 
     cache.Start();
@@ -310,7 +310,7 @@ void MeasureLargeProject(const QString& media, const QDir& folder)
     QElapsedTimer timer;
     timer.start();
     while (timer.elapsed() < 3000) {
-        INLETimeline* clip = clips[edits.size() * 7 % Clips].get();
+        INLETimeline* clip = clips[edits.size() * 7 % clipCount].get();
         edits.push_back(MillisecondsOf([&] { clip->SetLevel(int(edits.size()) % 2); }));
         QThread::usleep(200);
     }

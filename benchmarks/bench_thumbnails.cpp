@@ -21,10 +21,10 @@
 
 namespace {
 
-constexpr int FrameCount = 250;
-constexpr int Rounds = 5;
-constexpr int RandomFrames = 20;
-const QSize Thumbnail(160, 90);
+constexpr int kFrameCount = 250;
+constexpr int kRounds = 5;
+constexpr int kRandomFrames = 20;
+const QSize kThumbnail(160, 90);
 
 double MillisecondsOf(const std::function<void()>& work)
 {
@@ -39,7 +39,7 @@ bool MakeClip(const QString& path, int gop)
     const QString source =
         QStringLiteral("testsrc2=size=1920x1080:rate=25,noise=alls=6:allf=t,format=yuv420p");
     const QString failure =
-        RunFfmpeg({"-f", "lavfi", "-i", source, "-frames:v", QString::number(FrameCount), "-c:v",
+        RunFfmpeg({"-f", "lavfi", "-i", source, "-frames:v", QString::number(kFrameCount), "-c:v",
                    "libx264", "-preset", "veryfast", "-bf", "3", "-g", QString::number(gop),
                    "-keyint_min", QString::number(gop), "-sc_threshold", "0", path});
     if (!failure.isEmpty())
@@ -53,7 +53,7 @@ void Compare(const char* title, int frames, const std::function<void(int)>& own,
 {
     std::vector<double> ownTimes;
     std::vector<double> peerTimes;
-    for (int round = 0; round < Rounds; ++round) {
+    for (int round = 0; round < kRounds; ++round) {
         const bool isOwnFirst = round % 2 == 0;
         if (isOwnFirst)
             ownTimes.push_back(MillisecondsOf([&] { own(round); }));
@@ -79,42 +79,42 @@ bool Run(const QString& path, int gop, int threads)
     }
     const NLETimeline timeline(clip, ExactType_Video, nullptr);
     const auto picture = [&](int frame) {
-        return timeline.GetThumbnailFromMediaInfo(frame, Thumbnail.width(), Thumbnail.height(),
+        return timeline.GetThumbnailFromMediaInfo(frame, kThumbnail.width(), kThumbnail.height(),
                                                   true, false);
     };
     const auto randomFrames = [](int round) {
         std::mt19937 generator(unsigned(round) + 1);
         std::vector<int> frames;
-        for (int i = 0; i < RandomFrames; ++i)
-            frames.push_back(int(generator() % FrameCount));
+        for (int i = 0; i < kRandomFrames; ++i)
+            frames.push_back(int(generator() % kFrameCount));
         return frames;
     };
 
     int equal = 0;
     for (int frame : randomFrames(100))
-        equal += picture(frame) == plain->At(frame, Thumbnail) ? 1 : 0;
+        equal += picture(frame) == plain->At(frame, kThumbnail) ? 1 : 0;
     std::printf("group of %d: %d of %d random pictures equal those of the peer\n", gop, equal,
-                RandomFrames);
+                kRandomFrames);
     Compare(
-        "  every frame in sequence", FrameCount,
+        "  every frame in sequence", kFrameCount,
         [&](int) {
-            for (int frame = 0; frame < FrameCount; ++frame)
+            for (int frame = 0; frame < kFrameCount; ++frame)
                 picture(frame);
         },
         [&](int) {
             plain->Rewind();
-            while (!plain->Next(Thumbnail).isNull()) {
+            while (!plain->Next(kThumbnail).isNull()) {
             }
         });
     Compare(
-        "  random frames", RandomFrames,
+        "  random frames", kRandomFrames,
         [&](int round) {
             for (int frame : randomFrames(round))
                 picture(frame);
         },
         [&](int round) {
             for (int frame : randomFrames(round))
-                plain->At(frame, Thumbnail);
+                plain->At(frame, kThumbnail);
         });
     return true;
 }

@@ -85,16 +85,16 @@ struct Project
 template <typename Library, typename Bare>
 void CompareGetter(const char* name, Library library, Bare bare)
 {
-    constexpr int Calls = 20000;
+    constexpr int calls = 20000;
     const auto repeat = [](auto call) {
         return [call] {
-            for (int i = 0; i < Calls; ++i)
+            for (int i = 0; i < calls; ++i)
                 Use(call());
         };
     };
     const Pair times = Interleaved(repeat(library), repeat(bare), 31);
-    std::printf("  %-24s %8.1f ns, bare %8.1f ns, ratio %.2f\n", name, times.first / Calls,
-                times.second / Calls, times.first / times.second);
+    std::printf("  %-24s %8.1f ns, bare %8.1f ns, ratio %.2f\n", name, times.first / calls,
+                times.second / calls, times.first / times.second);
 }
 
 /// A value that \a get writes through its last parameter.
@@ -207,18 +207,18 @@ void Edits(const Project& hundred, const Project& large)
                 hundred.clips.size(), large.clips.size());
     int value = 0;
     for (const auto& [name, edit] : edits) {
-        constexpr int Calls = 5000;
+        constexpr int calls = 5000;
         const auto repeat = [&value, edit = edit](const Project& project) {
             // A hundred clips from all over either project, so that the working set is the same.
             const size_t stride = project.clips.size() / 100;
             return [&value, &project, edit, stride] {
-                for (int i = 0; i < Calls; ++i)
+                for (int i = 0; i < calls; ++i)
                     edit(*project.clips[size_t(i) % 100 * stride], ++value);
             };
         };
         const Pair times = Interleaved(repeat(hundred), repeat(large), 31);
-        std::printf("  %-10s %.3f us, %.3f us, ratio %.2f\n", name, times.first / Calls / 1e3,
-                    times.second / Calls / 1e3, times.second / times.first);
+        std::printf("  %-10s %.3f us, %.3f us, ratio %.2f\n", name, times.first / calls / 1e3,
+                    times.second / calls / 1e3, times.second / times.first);
     }
 }
 
