@@ -11,6 +11,12 @@ constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 constexpr int kMax = std::numeric_limits<int>::max();
 constexpr int kMin = std::numeric_limits<int>::min();
+constexpr int kDaySeconds = 24 * 60 * 60;
+
+int RoundTrip(int frame, float fps)
+{
+    return gString2Frame(fps, gFrame2String(frame, fps));
+}
 
 } // namespace
 
@@ -19,97 +25,175 @@ class TestTimecode : public QObject
     Q_OBJECT
 
 private slots:
+    void frameToText_data()
+    {
+        QTest::addColumn<int>("frame");
+        QTest::addColumn<float>("fps");
+        QTest::addColumn<QString>("full");
+        QTest::addColumn<QString>("withoutFrames");
+        const auto row = [](const char* name, int frame, float fps, const char* full,
+                            const char* withoutFrames = "00:00:00") {
+            QTest::newRow(name) << frame << fps << QString(full) << QString(withoutFrames);
+        };
+        row("25, one hour", 90000, 25, "01:00:00:00", "01:00:00");
+        // Without frames a minute is cut to 1798 frames, so that the first one reads as the next.
+        row("29.97, last frame of a minute", 1798, 29.97F, "00:00:59:29");
+        row("29.97, one minute", 1799, 29.97F, "00:01:00:00", "00:01:00");
+        row("119.88, three digits of frames", 119, 119.88F, "00:00:00:119");
+        row("the last frame of all", kMax, 25, "23860:55:45:22", "23860:55:45");
+        row("a frame before the first", -25, 25, "20496382304:07:17:05", "00:00:-1");
+        row("no rate", 100, 0, "00:00:00:00");
+        row("negative rate", 100, -25, "00:00:00:00");
+        row("rate that is no number", 100, kNaN, "00:00:00:00");
+        row("infinite rate", 100, kInfinity, "00:00:00:00");
+        row("rate below its four decimals", 100, 0.00005F, "00:00:00:00");
+        row("rate without a frame in an hour", 100, 0.0002F, "138:53:20:00");
+        row("rate without a frame in a minute", 100, 0.01F, "02:46:40:00");
+        row("rate with an hour beyond 32 bits", 100, 1e7F, "00:00:00:100");
+        row("rate with an hour of 2^64", 100, 1.1529215e14F, "00:00:00:00");
+        row("first frame of all at a rate beyond bounds", kMin, 3e38F, "00:00:00:00");
+    }
     void frameToText()
     {
-        const auto check = [](int frame, float fps, const char* full,
-                              const char* withoutFrames = "00:00:00") {
-            QCOMPARE(gFrame2String(frame, fps), QString(full));
-            QCOMPARE(gFrame2StringSecond(frame, fps), QString(withoutFrames));
-        };
-        check(90000, 25, "01:00:00:00", "01:00:00");
-        // Without frames a minute is cut to 1798 frames, so that the first one reads as the next.
-        check(1798, 29.97F, "00:00:59:29");
-        check(1799, 29.97F, "00:01:00:00", "00:01:00");
-        check(119, 119.88F, "00:00:00:119");
-        check(kMax, 25, "23860:55:45:22", "23860:55:45");
-        check(-25, 25, "20496382304:07:17:05", "00:00:-1");
-        for (const float fps : {0.0F, -25.0F, kNaN, kInfinity, 0.00005F})
-            check(100, fps, "00:00:00:00");
-        check(100, 0.0002F, "138:53:20:00");      // no frame per hour
-        check(100, 0.01F, "02:46:40:00");         // no frame per minute
-        check(100, 1e7F, "00:00:00:100");         // an hour beyond 32 bits
-        check(100, 1.1529215e14F, "00:00:00:00"); // an hour of 2^64
-        check(kMin, 3e38F, "00:00:00:00");
+        QFETCH(int, frame);
+        QFETCH(float, fps);
+        QTEST(gFrame2String(frame, fps), "full");
+        QTEST(gFrame2StringSecond(frame, fps), "withoutFrames");
     }
 
+    void textToFrame_data()
+    {
+        QTest::addColumn<float>("fps");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("frame");
+        const auto row = [](const char* name, float fps, const char* text, int frame) {
+            QTest::newRow(name) << fps << QString(text) << frame;
+        };
+        row("one hour", 25, "01:00:00:00", 90000);
+        row("a second and ten frames", 25, "00:00:01:10", 35);
+        row("fields of one digit", 25, "1:2:3:04", 93079);
+        row("in single precision, in steps of 8 up here", 25, "999:59:59:999", 90000976);
+        row("white space around", 25, " \t00:00:01:10\n", 35);
+        row("a second of 29.97 is rounded up", 29.97F, "00:00:01:00", 30);
+        row("no rate counts only frames", 0, "00:00:01:10", 10);
+        row("beyond all frames", 1e6F, "999:00:00:00", -1);
+        row("before all frames", -1e6F, "999:00:00:00", -1);
+        row("rate that is no number", kNaN, "999:00:00:00", -1);
+        row("infinite rate", kInfinity, "999:00:00:00", -1);
+    }
     void textToFrame()
     {
-        const auto check = [](float fps, const QString& text, int frame) {
-            const int actual = gString2Frame(fps, text);
-            const QString line = QString("\"%1\" at %2 gives %3").arg(text).arg(fps).arg(actual);
-            QVERIFY2(actual == frame, qPrintable(line));
-        };
-        check(25, "01:00:00:00", 90000);
-        check(25, "00:00:01:10", 35);
-        check(25, "1:2:3:04", 93079);
-        check(25, "999:59:59:999", 90000976); // single precision: in steps of 8 up here
-        check(25, " \t00:00:01:10\n", 35);
-        check(29.97F, "00:00:01:00", 30); // rounded up
-        check(0, "00:00:01:10", 10);
-        for (const char* refused :
-             {"", "00:00:01:5", "00:60:00:00", "00:00:60:00", "1000:00:00:00", "00:00:00:0000",
-              "00:00:00", "00:00:00:00:00", ":00:00:00", "00::00:00", "00:00:00;00", "00:00:00,00",
-              "-1:00:00:00", "+1:00:00:00", "00:00: 1:00", "00:00:0a:00", "\u0661:00:00:00",
-              "00:00:00:00x"})
-            check(25, refused, -1);
-        for (const float fps : {kNaN, kInfinity, 1e6F, -1e6F})
-            check(fps, "999:00:00:00", -1);
+        QFETCH(float, fps);
+        QFETCH(QString, text);
+        QTEST(gString2Frame(fps, text), "frame");
+    }
+
+    void otherTextIsNoFrame_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("empty") << "";
+        QTest::newRow("frames of one digit") << "00:00:01:5";
+        QTest::newRow("60 minutes") << "00:60:00:00";
+        QTest::newRow("60 seconds") << "00:00:60:00";
+        QTest::newRow("hours of four digits") << "1000:00:00:00";
+        QTest::newRow("frames of four digits") << "00:00:00:0000";
+        QTest::newRow("three fields") << "00:00:00";
+        QTest::newRow("five fields") << "00:00:00:00:00";
+        QTest::newRow("no hours") << ":00:00:00";
+        QTest::newRow("no minutes") << "00::00:00";
+        QTest::newRow("semicolon before the frames") << "00:00:00;00";
+        QTest::newRow("comma before the frames") << "00:00:00,00";
+        QTest::newRow("minus") << "-1:00:00:00";
+        QTest::newRow("plus") << "+1:00:00:00";
+        QTest::newRow("space within") << "00:00: 1:00";
+        QTest::newRow("letter within") << "00:00:0a:00";
+        QTest::newRow("Arabic digit") << "\u0661:00:00:00";
+        QTest::newRow("letter behind") << "00:00:00:00x";
+    }
+    void otherTextIsNoFrame()
+    {
+        QFETCH(QString, text);
+        QCOMPARE(gString2Frame(25, text), -1);
     }
 
     // docs/timecode.md has the figures of all frames; here are enough of them to see a change.
-    void roundTrip()
+    void wholeRatesComeBack_data()
     {
-        const auto check = [](float fps, int firstChanged) {
-            const auto changeOf = [fps](int frame) {
-                return gString2Frame(fps, gFrame2String(frame, fps)) - frame;
-            };
-            const int end = static_cast<int>(86400 * fps);
-            const int step = end / 60000;
-            for (int frame = 0; frame < end; frame += frame < firstChanged ? 7 : step) {
-                const int change = changeOf(frame);
-                const bool mayChange = firstChanged >= 0 && frame >= firstChanged;
-                const QByteArray place = QByteArray::number(frame);
-                QVERIFY2(change == 0 || (mayChange && change == -1), place.constData());
-            }
-            if (firstChanged >= 0)
-                QCOMPARE(changeOf(firstChanged), -1);
-        };
-        for (const float fps : {24.0F, 25.0F, 30.0F, 50.0F, 60.0F})
-            check(fps, -1);
-        check(23.976F, 133859);
-        check(29.97F, 132858);
-        check(59.94F, 262718);
-        check(119.88F, 525435);
+        QTest::addColumn<float>("fps");
+        for (const int fps : {24, 25, 30, 50, 60})
+            QTest::addRow("%d", fps) << float(fps);
+    }
+    void wholeRatesComeBack()
+    {
+        QFETCH(float, fps);
+        const int end = static_cast<int>(kDaySeconds * fps);
+        for (int frame = 0; frame < end; frame += end / 60000)
+            QCOMPARE(RoundTrip(frame, fps), frame);
     }
 
+    void fractionalRatesLoseAFrameLater_data()
+    {
+        QTest::addColumn<float>("fps");
+        QTest::addColumn<int>("firstChanged");
+        QTest::newRow("23.976") << 23.976F << 133859;
+        QTest::newRow("29.97") << 29.97F << 132858;
+        QTest::newRow("59.94") << 59.94F << 262718;
+        QTest::newRow("119.88") << 119.88F << 525435;
+    }
+    void fractionalRatesLoseAFrameLater()
+    {
+        QFETCH(float, fps);
+        QFETCH(int, firstChanged);
+        for (int frame = 0; frame < firstChanged; frame += 7)
+            QCOMPARE(RoundTrip(frame, fps), frame);
+        QCOMPARE(RoundTrip(firstChanged, fps), firstChanged - 1);
+        const int end = static_cast<int>(kDaySeconds * fps);
+        for (int frame = firstChanged; frame < end; frame += end / 60000) {
+            const int lost = frame - RoundTrip(frame, fps);
+            QVERIFY2(lost == 0 || lost == 1, qPrintable(QString("frame %1").arg(frame)));
+        }
+    }
+
+    void otherRate_data()
+    {
+        QTest::addColumn<int>("frame");
+        QTest::addColumn<double>("fromFps");
+        QTest::addColumn<double>("toFps");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("25 to 30") << 100 << 25.0 << 30.0 << 120;
+        QTest::newRow("half a frame is cut off") << -7 << 2.0 << 1.0 << -3;
+        QTest::newRow("from no rate") << 100 << 0.0 << 30.0 << -1;
+        QTest::newRow("from a rate that is no number") << 100 << double(kNaN) << 30.0 << -1;
+        QTest::newRow("to an infinite rate") << 100 << 25.0 << double(kInfinity) << -1;
+        QTest::newRow("the first frame of all") << kMin << 1.0 << 1.0 << kMin;
+        QTest::newRow("low 32 bits of a larger one") << kMax << 1.0 << 2.0 << -2;
+    }
     void otherRate()
     {
-        QCOMPARE(gFrameBaseFps(100, 0, 30), -1);
-        QCOMPARE(gFrameBaseFps(100, 25, 30), 120);
-        QCOMPARE(gFrameBaseFps(-7, 2, 1), -3);
-        QCOMPARE(gFrameBaseFps(100, double(kNaN), 30), -1);
-        QCOMPARE(gFrameBaseFps(100, 25, double(kInfinity)), -1);
-        QCOMPARE(gFrameBaseFps(kMin, 1, 1), kMin);
-        QCOMPARE(gFrameBaseFps(kMax, 1, 2), -2); // the low 32 bits
+        QFETCH(int, frame);
+        QFETCH(double, fromFps);
+        QFETCH(double, toFps);
+        QTEST(gFrameBaseFps(frame, fromFps, toFps), "expected");
     }
 
     void codecNames()
     {
         QCOMPARE(gMakeFourCCString(0x34363248), QString("H264"));
         QCOMPARE(gMakeFourCCString(int(0xE9000041)), QString::fromLatin1("A\0\0\xE9", 4));
-        QVERIFY(gIsH264Coder(0x31637661));  // avc1
-        QVERIFY(gIsH264Coder(0x34363268));  // h264
-        QVERIFY(!gIsH264Coder(0x31766568)); // hev1
+    }
+
+    void h264Codecs_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<bool>("isH264");
+        QTest::newRow("avc1") << 0x31637661 << true;
+        QTest::newRow("h264") << 0x34363268 << true;
+        QTest::newRow("hev1") << 0x31766568 << false;
+    }
+    void h264Codecs()
+    {
+        QFETCH(int, code);
+        QTEST(gIsH264Coder(code), "isH264");
     }
 };
 
