@@ -83,126 +83,244 @@ private:
 private slots:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
 
-    void pathTexts()
+    void pathTexts_data()
     {
-        const auto check = [](const QString& text, const char* slashed, const char* excluded,
-                              const char* folder) {
-            const QString path = Native(text);
-            QCOMPARE(PathOperation::Slash(path), Native(slashed));
-            QCOMPARE(PathOperation::ExcludeTrailingPathDelimiter(path), Native(excluded));
-            QCOMPARE(PathOperation::ExtractFilePath(path), Native(folder));
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("slashed");
+        QTest::addColumn<QString>("excluded");
+        QTest::addColumn<QString>("folder");
+        const auto row = [](const char* name, const char* path, const char* slashed,
+                            const char* excluded, const char* folder) {
+            QTest::newRow(name) << Native(path) << Native(slashed) << Native(excluded)
+                                << Native(folder);
         };
-        check("C:\\data", "C:\\data\\", "C:\\data", "C:");
-        check("C:\\data\\", "C:\\data\\", "C:\\data", "C:\\data");
-        check("C:/a\\b", "C:/a\\b\\", "C:/a\\b", "C:/a");
-        check("b.txt", "b.txt\\", "b.txt", "");
-        check("\\", "\\\\", "\\", "");
-        check("", "\\", "", "");
+        row("no delimiter at the end", "C:\\data", "C:\\data\\", "C:\\data", "C:");
+        row("delimiter at the end", "C:\\data\\", "C:\\data\\", "C:\\data", "C:\\data");
+        row("both delimiters", "C:/a\\b", "C:/a\\b\\", "C:/a\\b", "C:/a");
+        row("name alone", "b.txt", "b.txt\\", "b.txt", "");
+        row("delimiter alone", "\\", "\\\\", "\\", "");
+        row("empty", "", "\\", "", "");
 #ifdef Q_OS_WIN
-        check("C:/data/", "C:/data/\\", "C:/data/", "C:/data");
+        row("other delimiter at the end", "C:/data/", "C:/data/\\", "C:/data/", "C:/data");
 #endif
     }
-
-    void fileNames()
+    void pathTexts()
     {
-        const auto check = [](const QString& path, const char* directory, const char* made,
-                              const char* replaced) {
-            QCOMPARE(FileOperation::GetFileDir(path), QString(directory));
-            QCOMPARE(FileOperation::MakeFileName(path, "_1"), QString(made));
-            QCOMPARE(FileOperation::RepalceSuffixName(path, ".z"), Native(replaced));
-            const QString folder = PathOperation::Slash(QFileInfo(path).absolutePath());
-            QCOMPARE(FileOperation::AppendFileNameSuffix(path, "_1"), folder + made);
-        };
-        check("/d.x/a.b.c", "/d.x/", "a_1.c", "/d.x\\a.z");
-        check("/d/a", "/d/", "a_1.", "/d\\a.z");
-        check("a.c", "./", "a_1.c", "\\a.z");
-        check("/a.c", "/", "a_1.c", "\\a.z");
+        QFETCH(QString, path);
+        QTEST(PathOperation::Slash(path), "slashed");
+        QTEST(PathOperation::ExcludeTrailingPathDelimiter(path), "excluded");
+        QTEST(PathOperation::ExtractFilePath(path), "folder");
     }
 
-    void createsAndDeletes()
+    void fileNames_data()
     {
-        QVERIFY(FileOperation::DeleteFileW(Path("a")));
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("directory");
+        QTest::addColumn<QString>("made");
+        QTest::addColumn<QString>("replaced");
+        const auto row = [](const char* name, const char* path, const char* directory,
+                            const char* made, const char* replaced) {
+            QTest::newRow(name) << QString(path) << QString(directory) << QString(made)
+                                << Native(replaced);
+        };
+        row("two dots, and one in the folder", "/d.x/a.b.c", "/d.x/", "a_1.c", "/d.x\\a.z");
+        row("no dot", "/d/a", "/d/", "a_1.", "/d\\a.z");
+        row("no folder", "a.c", "./", "a_1.c", "\\a.z");
+        row("root folder", "/a.c", "/", "a_1.c", "\\a.z");
+    }
+    void fileNames()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, made);
+        QTEST(FileOperation::GetFileDir(path), "directory");
+        QCOMPARE(FileOperation::MakeFileName(path, "_1"), made);
+        QTEST(FileOperation::RepalceSuffixName(path, ".z"), "replaced");
+        const QString folder = PathOperation::Slash(QFileInfo(path).absolutePath());
+        QCOMPARE(FileOperation::AppendFileNameSuffix(path, "_1"), folder + made);
+    }
+
+    void createsEmptyFile()
+    {
         FileOperation::CreateNewFile(Path("a"));
         QCOMPARE(Read("a"), QByteArray());
+    }
+
+    void createLeavesAnOldFile()
+    {
         Write("a", "kept");
         FileOperation::CreateNewFile(Path("a"));
         QCOMPARE(Read("a"), QByteArray("kept"));
+    }
+
+    void listExistsWhenAllOfItDoes()
+    {
+        Write("a", "");
         QVERIFY(FileOperation::IsFileExist(QStringList()));
         QVERIFY(!FileOperation::IsFileExist({Path("a"), Path("b")}));
-        QVERIFY(!FileOperation::RemoveFile(m_folder->path()));
-        for (const char* text : {"12a", "2147483648", "0x10", ""})
-            QCOMPARE(StringOperation::StrToInt(text, 7), 7);
-        QCOMPARE(StringOperation::CreateUUID(true).size(), 36);
-        QVERIFY(FileOperation::RemoveFile(Path("a")) && !FileOperation::IsFileExist(Path("a")));
     }
 
-    void copies()
+    void removesFile()
     {
-        QVERIFY(PathOperation::ForceDir(Path("to")));
+        Write("a", "");
+        QVERIFY(FileOperation::RemoveFile(Path("a")));
+        QVERIFY(!FileOperation::IsFileExist(Path("a")));
+        QVERIFY(FileOperation::DeleteFileW(Path("a"))); // nothing is there
+    }
+
+    void removesNoFolderAsFile()
+    {
+        QVERIFY(!FileOperation::RemoveFile(m_folder->path()));
+    }
+
+    void numbers_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("expected"); // 7 where there is none
+        QTest::newRow("negative") << "-12" << -12;
+        QTest::newRow("letter behind") << "12a" << 7;
+        QTest::newRow("beyond 31 bits") << "2147483648" << 7;
+        QTest::newRow("hexadecimal") << "0x10" << 7;
+        QTest::newRow("empty") << "" << 7;
+    }
+    void numbers()
+    {
+        QFETCH(QString, text);
+        QTEST(StringOperation::StrToInt(text, 7), "expected");
+    }
+
+    void identifierWithoutBraces()
+    {
+        QCOMPARE(StringOperation::CreateUUID(true).size(), QUuid().toString().size() - 2);
+    }
+
+    void copiesOverAnOldFile()
+    {
+        QVERIFY(QDir(m_folder->path()).mkdir("to"));
         Write("a", "new");
-        Write("b", "b");
         Write("to/a", "old");
-        QVERIFY(FileOperation::CopyFiles({}, Path("to")));
         QVERIFY(FileOperation::CopyFiles({Path("a")}, Path("to")));
         QCOMPARE(Read("to/a"), QByteArray("new"));
-        QVERIFY(!FileOperation::CopyFiles({Path("missing"), Path("b")}, Path("to")));
-        QVERIFY(!QFile::exists(Path("to/b")));
-        QVERIFY(!FileOperation::CopyOneFile(Path("a"), Path("to/../a")));
-        QVERIFY(!FileOperation::CopyFileW(Path("a"), m_folder->path()));
-        QCOMPARE(Read("a"), QByteArray("new"));
     }
 
-    void textFiles()
+    void copiesEmptyList()
+    {
+        QVERIFY(FileOperation::CopyFiles({}, m_folder->path()));
+    }
+
+    void copyStopsAtTheFirstFailure()
+    {
+        QVERIFY(QDir(m_folder->path()).mkdir("to"));
+        Write("b", "b");
+        QVERIFY(!FileOperation::CopyFiles({Path("missing"), Path("b")}, Path("to")));
+        QVERIFY(!QFile::exists(Path("to/b")));
+    }
+
+    void copiesNoFileOntoItself()
+    {
+        QVERIFY(QDir(m_folder->path()).mkdir("to"));
+        Write("a", "kept");
+        QVERIFY(!FileOperation::CopyOneFile(Path("a"), Path("to/../a")));
+        QVERIFY(!FileOperation::CopyFileW(Path("a"), m_folder->path()));
+        QCOMPARE(Read("a"), QByteArray("kept"));
+    }
+
+    void keepsLineEndsOfAFile()
+    {
+        const QString text = QString::fromUtf8("ä\n€\r\n");
+        FileOperation::WriteFile(Path("t"), text, true);
+        QCOMPARE(Read("t"), text.toUtf8());
+        QCOMPARE(FileOperation::ReadFile(Path("t"), true), text);
+    }
+
+    void readsEveryLineEndOfATextFile()
+    {
+        Write("t", "ä\n€\r\n");
+        QCOMPARE(FileOperation::ReadTextFile(Path("t"), true), QString::fromUtf8("ä\n€\n"));
+    }
+
+    void writesLineEndsOfTheSystem()
     {
 #ifdef Q_OS_WIN
         const QByteArray lineEnd = "\r\n";
 #else
         const QByteArray lineEnd = "\n";
 #endif
-        const QString path = Path("t");
-        FileOperation::WriteFile(path, QString::fromUtf8("ä\n€\r\n"), true);
-        QCOMPARE(Read("t"), QByteArray("ä\n€\r\n"));
-        QCOMPARE(FileOperation::ReadFile(path, true), QString::fromUtf8("ä\n€\r\n"));
-        QCOMPARE(FileOperation::ReadTextFile(path, true), QString::fromUtf8("ä\n€\n"));
-        QVERIFY(FileOperation::WriteTextFile(path, "a\n", false));
+        QVERIFY(FileOperation::WriteTextFile(Path("t"), "a\n", false));
         QCOMPARE(Read("t"), "a" + lineEnd);
+    }
+
+    void missingTextFiles()
+    {
         QVERIFY(!FileOperation::WriteTextFile(Path("no/t"), "a", true));
         QCOMPARE(FileOperation::ReadFile(Path("no"), true), QString());
     }
 
 #ifdef Q_OS_LINUX
+    void specialFiles_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("pipe") << "pipe";
+        QTest::newRow("device without end") << "/dev/zero";
+        QTest::newRow("folder") << "";
+    }
     void specialFiles()
+    {
+        QFETCH(QString, name);
+        QCOMPARE(::mkfifo(qPrintable(Path("pipe")), 0600), 0);
+        const QString path = QDir(m_folder->path()).filePath(name);
+        QVERIFY(FileOperation::IsFileExist(path));
+        QCOMPARE(FileOperation::ReadFile(path, true), QString());
+        QCOMPARE(FileOperation::ReadTextFile(path, false), QString());
+        QCOMPARE(FileOperation::CalcFileMD5(path), QString());
+        QVERIFY(!FileOperation::CopyOneFile(path, Path("copy")));
+    }
+
+    void writingToAPipeDoesNotWait()
     {
         QCOMPARE(::mkfifo(qPrintable(Path("pipe")), 0600), 0);
         FileOperation::WriteFile(Path("pipe"), "a", true);
-        for (const QString& path : {Path("pipe"), QString("/dev/zero"), m_folder->path()}) {
-            QVERIFY(FileOperation::IsFileExist(path));
-            QCOMPARE(FileOperation::ReadFile(path, true), QString());
-            QCOMPARE(FileOperation::ReadTextFile(path, false), QString());
-            QCOMPARE(FileOperation::CalcFileMD5(path), QString());
-            QVERIFY(!FileOperation::CopyOneFile(path, Path("copy")));
-        }
+    }
+
+    void readsFileOfUnknownSize()
+    {
         QCOMPARE(FileOperation::ReadFile("/proc/self/comm", true), QString("tst_operations\n"));
     }
 #endif
 
+    void hashesWholeFile_data()
+    {
+        QTest::addColumn<int>("size");       // of a file of letters "a"
+        QTest::addColumn<QString>("md5sum"); // of the program of that name
+        QTest::newRow("one byte over 10 KiB") << 10241 << "cf220cd1faa6342f6b4eae5962a8782a";
+        QTest::newRow("empty") << 0 << "d41d8cd98f00b204e9800998ecf8427e";
+    }
     void hashesWholeFile()
     {
-        // Figures of the md5sum program.
-        QCOMPARE(FileOperation::CalcFileMD5(Path("f")), QString());
-        Write("f", QByteArray(10241, 'a'));
-        QCOMPARE(FileOperation::CalcFileMD5(Path("f")), "cf220cd1faa6342f6b4eae5962a8782a");
-        Write("f", QByteArray());
-        QCOMPARE(FileOperation::CalcFileMD5(Path("f")), "d41d8cd98f00b204e9800998ecf8427e");
+        QFETCH(int, size);
+        Write("f", QByteArray(size, 'a'));
+        QTEST(FileOperation::CalcFileMD5(Path("f")), "md5sum");
     }
 
-    void forcesFolders()
+    void missingFileHasNoHash()
+    {
+        QCOMPARE(FileOperation::CalcFileMD5(Path("f")), QString());
+    }
+
+    void createsEachLevelOfAFolder()
     {
         const QString deep = Path("a") + Native("\\b\\c\\");
         QCOMPARE(PathOperation::CheckDir(deep), deep);
         QVERIFY(QFileInfo(deep).isDir());
+    }
+
+    void createsNoFolderWithoutADelimiter()
+    {
         QVERIFY(!PathOperation::ForceDir(""));
         QVERIFY(!PathOperation::ForceDir("no such folder and no delimiter"));
+    }
+
+    void createsNoFolderBelowAFile()
+    {
         Write("file", "");
         QCOMPARE(PathOperation::CheckDir(Path("file/a")), QString());
     }
@@ -259,68 +377,115 @@ private slots:
         QDir::setCurrent(m_folder->path());
         const bool result = PathOperation::RemoveDirectoryrecursive("", false, {});
         QDir::setCurrent(current);
-        QVERIFY(!result && QFile::exists(Path("a")));
+        QVERIFY(!result);
+        QVERIFY(QFile::exists(Path("a")));
     }
 
+    void choosesFolder_data()
+    {
+        QTest::addColumn<bool>("accept");
+        QTest::newRow("accepted") << true;
+        QTest::newRow("cancelled") << false;
+    }
     void choosesFolder()
     {
-        for (const bool accept : {true, false}) {
-            bool isAnswered = false;
-            QTimer timer;
-            connect(&timer, &QTimer::timeout, this, [&] {
-                isAnswered = isAnswered || AnswerDialog("Choose", m_folder->path(), accept);
-            });
-            timer.start(100);
-            QCOMPARE(PathOperation::GetUserSelectDir("Choose", 0),
-                     accept ? QDir::toNativeSeparators(m_folder->path()) : QString());
-            QVERIFY(isAnswered);
-        }
+        QFETCH(bool, accept);
+        bool isAnswered = false;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] {
+            isAnswered = isAnswered || AnswerDialog("Choose", m_folder->path(), accept);
+        });
+        timer.start(100);
+        QCOMPARE(PathOperation::GetUserSelectDir("Choose", 0),
+                 accept ? QDir::toNativeSeparators(m_folder->path()) : QString());
+        QVERIFY(isAnswered);
     }
 
-    void menuTexts()
+    void menuTextFillsItsRoom_data()
     {
-        const auto check = [](const QString& right, int room, qreal letterSpacing) {
-            QFont font;
-            font.setLetterSpacing(QFont::AbsoluteSpacing, letterSpacing);
-            const QFontMetrics metrics(font);
-            QString pad; // found one space at a time
-            while (!right.isEmpty() && letterSpacing == 0 && metrics.horizontalAdvance(pad) < room)
-                pad += ' ';
-            room += metrics.horizontalAdvance("Open") + metrics.horizontalAdvance(right);
-            const QString text = StringOperation::GetMenuStringW(font, "Open", right, room);
-            QCOMPARE(text, "Open" + pad + right);
-        };
-        check("", 500, 0);
-        for (const int room : {500, 1, 0})
-            check("Ctrl+O", room, 0);
-        check("Ctrl+O", 500, -100); // spaces without width
+        QTest::addColumn<int>("room"); // between both texts
+        QTest::newRow("many spaces") << 500;
+        QTest::newRow("one space") << 1;
+        QTest::newRow("no room") << 0;
+    }
+    void menuTextFillsItsRoom()
+    {
+        QFETCH(int, room);
+        const QFont font;
+        const QFontMetrics metrics(font);
+        QString pad; // found one space at a time
+        while (metrics.horizontalAdvance(pad) < room)
+            pad += ' ';
+        room += metrics.horizontalAdvance("Open") + metrics.horizontalAdvance("Ctrl+O");
+        QCOMPARE(StringOperation::GetMenuStringW(font, "Open", "Ctrl+O", room),
+                 "Open" + pad + "Ctrl+O");
     }
 
+    void menuTextWithoutSpaces_data()
+    {
+        QTest::addColumn<QString>("right");
+        QTest::addColumn<qreal>("letterSpacing");
+        QTest::newRow("nothing on the right") << "" << 0.0;
+        QTest::newRow("spaces have no width") << "Ctrl+O" << -100.0;
+    }
+    void menuTextWithoutSpaces()
+    {
+        QFETCH(QString, right);
+        QFETCH(qreal, letterSpacing);
+        QFont font;
+        font.setLetterSpacing(QFont::AbsoluteSpacing, letterSpacing);
+        const int width = QFontMetrics(font).horizontalAdvance("Open" + right) + 500;
+        QCOMPARE(StringOperation::GetMenuStringW(font, "Open", right, width), "Open" + right);
+    }
+
+    void wrapsWords_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("widestLine"); // the label is as wide
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("one line") << "aaa bbb"
+                                  << "aaa bbb ccc"
+                                  << "aaa bbb";
+        QTest::newRow("a word a line") << "aaa bbb ccc"
+                                       << "aaa b"
+                                       << "aaa \nbbb \nccc";
+        QTest::newRow("break of its own") << "aaa bbb\nccc"
+                                          << "aaa b"
+                                          << "aaa bbb\nccc";
+        QTest::newRow("no width") << "aa bb"
+                                  << ""
+                                  << "aa \nbb";
+    }
     void wrapsWords()
     {
-        const auto check = [](const QString& text, const char* widestLine, const char* expected) {
-            QLabel label;
-            label.resize(StringOperation::GetTextTrueLenght(label.font(), widestLine), 10);
-            if (!text.contains('\n')) {
-                QTest::ignoreMessage(QtDebugMsg, qPrintable("before: " + text));
-                QTest::ignoreMessage(QtDebugMsg, qPrintable(QString("after: ") + expected));
-            }
-            QCOMPARE(StringOperation::FormatWordWrapString(text, &label), QString(expected));
-        };
-        check("aaa bbb", "aaa bbb ccc", "aaa bbb");
-        check("aaa bbb ccc", "aaa b", "aaa \nbbb \nccc");
-        check("aaa bbb\nccc", "aaa b", "aaa bbb\nccc"); // has a break of its own
-        check("aa bb", "", "aa \nbb");
+        QFETCH(QString, text);
+        QFETCH(QString, widestLine);
+        QFETCH(QString, expected);
+        QLabel label;
+        label.resize(StringOperation::GetTextTrueLenght(label.font(), widestLine), 10);
+        if (!text.contains('\n')) {
+            QTest::ignoreMessage(QtDebugMsg, qPrintable("before: " + text));
+            QTest::ignoreMessage(QtDebugMsg, qPrintable("after: " + expected));
+        }
+        QCOMPARE(StringOperation::FormatWordWrapString(text, &label), expected);
     }
 
+    void findsByPattern_data()
+    {
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<bool>("isFound");
+        QTest::addColumn<QString>("output"); // "old" before
+        QTest::newRow("first group of the first match") << "(\\d+)px" << true << "12";
+        QTest::newRow("no group") << "px" << true << "";
+        QTest::newRow("other case") << "(\\d+)PX" << false << "old";
+        QTest::newRow("bracket without end") << "(px" << false << "old";
+    }
     void findsByPattern()
     {
-        const QString text = "w 12px h 34px";
+        QFETCH(QString, pattern);
         QString output = "old";
-        for (const char* pattern : {"(\\d+)PX", "(px"})
-            QVERIFY(!RegexOperation::RegexFindString(text, pattern, output) && output == "old");
-        QVERIFY(RegexOperation::RegexFindString(text, "(\\d+)px", output) && output == "12");
-        QVERIFY(RegexOperation::RegexFindString(text, "px", output) && output.isEmpty());
+        QTEST(RegexOperation::RegexFindString("w 12px h 34px", pattern, output), "isFound");
+        QTEST(output, "output");
     }
 };
 
