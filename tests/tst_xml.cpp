@@ -13,6 +13,7 @@
 namespace {
 
 const QString kDeclaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+constexpr int kMostLevels = 1000;
 
 void Write(const QString& path, const QByteArray& content)
 {
@@ -69,6 +70,27 @@ QString AnyText(QRandomGenerator& random)
     return AnyText(random, kept);
 }
 
+// Puts its root's attribute "a" and the pieces of its root's text into `kept`.
+QDomDocument AnyDocument(const QString& declaration, QRandomGenerator& random, QStringList& kept)
+{
+    QDomDocument document;
+    document.appendChild(document.createProcessingInstruction("xml", declaration));
+    QDomElement root = document.createElement("Root");
+    document.appendChild(root);
+    const auto text = [&] { return AnyText(random, kept); };
+    root.setAttribute("a", text());
+    root.appendChild(document.createTextNode(text()));
+    root.appendChild(document.createComment(AnyText(random)));
+    root.appendChild(document.createTextNode(text()));
+    root.appendChild(document.createTextNode(text()));
+    root.appendChild(document.createProcessingInstruction("p", AnyText(random)));
+    root.appendChild(document.createCDATASection(text()));
+    root.appendChild(document.createElement('1' + AnyText(random)));
+    root.appendChild(document.createTextNode(text()));
+    root.appendChild(document.createEntityReference('x' + AnyText(random)));
+    return document;
+}
+
 QByteArray Nested(int levels)
 {
     return QByteArray("<a>").repeated(levels) + QByteArray("</a>").repeated(levels);
@@ -83,37 +105,77 @@ class TestXml : public QObject
 private:
     QTemporaryDir m_folder;
     QString Path(const QString& name) const { return m_folder.filePath(name); }
+    static QDomElement Root(QDomDocument& document)
+    {
+        return document.appendChild(document.createElement("Root")).toElement();
+    }
 
 private slots:
-    void createEditSave()
+    void initTestCase()
+    {
+#ifdef Q_OS_LINUX
+        QCOMPARE(::mkfifo(qPrintable(Path("pipe")), 0600), 0);
+#endif
+    }
+
+    void createsEmptyDocument()
     {
         XmlOperation::CreateXmlFile(Path("new.xml"), "Root");
         QCOMPARE(Read(Path("new.xml")), kDeclaration + "<Root/>\n");
+    }
+
+    void createLeavesAnOldFile()
+    {
         Write(Path("old.xml"), "anything\r\n");
         XmlOperation::CreateXmlFile(Path("old.xml"), "Root");
         QCOMPARE(Read(Path("old.xml")), QString("anything\r\n"));
+    }
 
+    void addedElementHasATextEvenWhenEmpty()
+    {
         QDomDocument document;
-        QVERIFY(XmlOperation::OpenXmlFile(document, Path("new.xml"), QIODevice::ReadOnly));
+        const QDomElement element = XmlOperation::AddXmlElement(document, Root(document), "E", "");
+        QCOMPARE(element.childNodes().size(), 1);
+        QVERIFY(element.firstChild().isText());
+    }
+
+    void childElementIsTheFirstBelow()
+    {
+        QDomDocument document;
+        const QDomElement root = Root(document);
+        const QDomElement first = XmlOperation::AddXmlElement(document, root, "First", "");
+        XmlOperation::AddXmlElement(document, first, "Deep", "sooner");
+        XmlOperation::AddXmlElement(document, root, "Deep", "later");
+        QCOMPARE(XmlOperation::GetChildElement(root, "Deep").text(), QString("sooner"));
+        QVERIFY(XmlOperation::GetChildElement(root, "Root").isNull());
+    }
+
+    void savesIndented()
+    {
+        XmlOperation::CreateXmlFile(Path("edited.xml"), "Root");
+        QDomDocument document;
+        QVERIFY(XmlOperation::OpenXmlFile(document, Path("edited.xml"), QIODevice::ReadOnly));
         const QDomElement root = document.documentElement();
-        QDomElement first = XmlOperation::AddXmlElement(document, root, "First", "");
-        QCOMPARE(first.childNodes().size(), 1);
-        QVERIFY(first.firstChild().isText());
+        const QDomElement first = XmlOperation::AddXmlElement(document, root, "First", "");
         XmlOperation::AddXmlElement(document, first, "Deep", QString::fromUtf8("\u00fc<"));
         XmlOperation::AddXmlElement(document, root, "Deep", "later");
-        QCOMPARE(XmlOperation::GetChildElement(root, "Deep").text(), QString::fromUtf8("\u00fc<"));
-        QVERIFY(XmlOperation::GetChildElement(root, "Root").isNull());
-        XmlOperation::SaveXmlContent2File(document, Path("new.xml"));
+        XmlOperation::SaveXmlContent2File(document, Path("edited.xml"));
         // The declaration comes back from parsing with the other quotes.
-        QCOMPARE(Read(Path("new.xml")).replace("'", "\""),
+        QCOMPARE(Read(Path("edited.xml")).replace("'", "\""),
                  kDeclaration + QString::fromUtf8("<Root>\n    <First><Deep>\u00fc&lt;</Deep>\n"
                                                   "    </First>\n    <Deep>later</Deep>\n"
                                                   "</Root>\n"));
+    }
+
+    void savesNothingIntoAMissingFolder()
+    {
+        QDomDocument document;
+        Root(document);
         XmlOperation::SaveXmlContent2File(document, Path("missing/new.xml"));
         QVERIFY(!QFile::exists(Path("missing")));
     }
 
-    void setText()
+    void setTextReplacesTheOld()
     {
         QDomDocument document;
         QDomElement element = document.createElement("E");
@@ -121,41 +183,66 @@ private slots:
         XmlOperation::SetElemmentText(document, element, "two");
         QCOMPARE(element.childNodes().size(), 1);
         QCOMPARE(element.text(), QString("two"));
-        // The walk skips what follows a text that it removes.
-        element.appendChild(document.createTextNode("-three"));
+    }
+
+    // The walk skips what follows a text that it removes.
+    void setTextKeepsEverySecondOfSeveralTexts()
+    {
+        QDomDocument document;
+        QDomElement element = document.createElement("E");
+        for (const char* text : {"two", "-three"})
+            element.appendChild(document.createTextNode(text));
         element.appendChild(document.createElement("Kept"));
         XmlOperation::SetElemmentText(document, element, "-four");
         QCOMPARE(element.text(), QString("-three-four"));
         QVERIFY(!element.firstChildElement("Kept").isNull());
     }
 
-    void open()
+    void opens_data()
     {
-        const auto check = [this](const QByteArray& content, int characters) { // -1 when refused
-            Write(Path("file.xml"), content);
-            QDomDocument document("old");
-            const bool isGood = characters >= 0;
-            QCOMPARE(XmlOperation::OpenXmlFile(document, Path("file.xml"), QIODevice::ReadOnly),
-                     isGood);
-            QCOMPARE(document.isNull(), !isGood);
-            if (isGood)
-                QCOMPARE(document.documentElement().text().size(), characters);
+        constexpr int large = 100 << 20;
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<int>("characters"); // of the root's text
+        const auto row = [](const char* name, const QByteArray& content, int characters) {
+            QTest::newRow(name) << content << characters;
         };
-        check(QByteArray(""), -1);
-        check(QByteArray("<a><b></a>"), -1);
-        check(QByteArray("\x00\xff\xfe\x01", 4), -1);
-        check(QByteArray("<a:b>x</a:b>"), 1);
-        check(Nested(1000), 0);
-        check(Nested(1001), -1);
-        check(LongEntity(1000, 10), 10000);
-        check(ManyLaughs(), -1);
-        check(LongEntity(1000, 50000), -1);
-        check(LongEntity(5000, 1), 5000);
-        check(LongEntity(8, 100000), 800000);
-        check("<?xml version='1.1'?><r>1.1</r>", 3);
-        check("<r>&#x1F600;</r>", 2);
-        check("<r>\n <![CDATA[ ]]>&#x20;\n<b/> </r>", 3); // the rest is layout
-        check("<a>" + QByteArray(100 << 20, 'x') + "</a>", 100 << 20);
+        row("name with a colon", "<a:b>x</a:b>", 1);
+        row("as deep as may be", Nested(kMostLevels), 0);
+        row("long entity, named ten times", LongEntity(1000, 10), 10000);
+        row("longer entity, named once", LongEntity(5000, 1), 5000);
+        row("short entity, named often", LongEntity(8, 100000), 800000);
+        row("later version", "<?xml version='1.1'?><r>1.1</r>", 3);
+        row("character of two words", "<r>&#x1F600;</r>", 2);
+        row("white space in a section and as a reference", "<r>\n <![CDATA[ ]]>&#x20;\n<b/> </r>",
+            3); // the rest is layout
+        row("large text", "<a>" + QByteArray(large, 'x') + "</a>", large);
+    }
+    void opens()
+    {
+        QFETCH(QByteArray, content);
+        Write(Path("good.xml"), content);
+        QDomDocument document("old");
+        QVERIFY(XmlOperation::OpenXmlFile(document, Path("good.xml"), QIODevice::ReadOnly));
+        QTEST(document.documentElement().text().size(), "characters");
+    }
+
+    void refuses_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty") << QByteArray("");
+        QTest::newRow("element without end") << QByteArray("<a><b></a>");
+        QTest::newRow("binary") << QByteArray("\x00\xff\xfe\x01", 4);
+        QTest::newRow("too deep") << Nested(kMostLevels + 1);
+        QTest::newRow("entities of entities") << ManyLaughs();
+        QTest::newRow("long entity, named often") << LongEntity(1000, 50000);
+    }
+    void refuses()
+    {
+        QFETCH(QByteArray, content);
+        Write(Path("bad.xml"), content);
+        QDomDocument document("old");
+        QVERIFY(!XmlOperation::OpenXmlFile(document, Path("bad.xml"), QIODevice::ReadOnly));
+        QVERIFY(document.isNull());
     }
 
     void savesReadable_data()
@@ -174,22 +261,8 @@ private slots:
         QFETCH(QString, declaration);
         QRandomGenerator random(1);
         for (int i = 0; i < 100; ++i) {
-            QDomDocument document;
-            document.appendChild(document.createProcessingInstruction("xml", declaration));
-            QDomElement root = document.createElement("Root");
-            document.appendChild(root);
             QStringList kept;
-            const auto text = [&] { return AnyText(random, kept); };
-            root.setAttribute("a", text());
-            root.appendChild(document.createTextNode(text()));
-            root.appendChild(document.createComment(AnyText(random)));
-            root.appendChild(document.createTextNode(text()));
-            root.appendChild(document.createTextNode(text()));
-            root.appendChild(document.createProcessingInstruction("p", AnyText(random)));
-            root.appendChild(document.createCDATASection(text()));
-            root.appendChild(document.createElement('1' + AnyText(random)));
-            root.appendChild(document.createTextNode(text()));
-            root.appendChild(document.createEntityReference('x' + AnyText(random)));
+            const QDomDocument document = AnyDocument(declaration, random, kept);
             XmlOperation::SaveXmlContent2File(document, Path("any.xml"));
             QDomDocument saved;
             QVERIFY(XmlOperation::OpenXmlFile(saved, Path("any.xml"), QIODevice::ReadOnly));
@@ -204,28 +277,47 @@ private slots:
         QDomDocument document;
         const QDomElement root = document.createElement("a");
         QDomNode parent = document.appendChild(root);
-        for (int level = 0; level < 1000; ++level)
+        for (int level = 0; level < kMostLevels; ++level)
             parent = parent.appendChild(document.createElement("a"));
         XmlOperation::SaveXmlContent2File(document, Path("deep.xml"));
         QVERIFY(XmlOperation::OpenXmlFile(document, Path("deep.xml"), QIODevice::ReadOnly));
-        QCOMPARE(document.elementsByTagName("a").size(), 1000);
+        QCOMPARE(document.elementsByTagName("a").size(), kMostLevels);
     }
 
-    void openFails()
+    void opensNoSuchFile_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("missing") << Path("missing");
+        QTest::newRow("folder") << m_folder.path();
+        QTest::newRow("no path") << QString();
+#ifdef Q_OS_LINUX
+        QTest::newRow("pipe") << Path("pipe");
+        QTest::newRow("device without end") << "/dev/zero";
+#endif
+    }
+    void opensNoSuchFile()
+    {
+        QFETCH(QString, path);
+        QDomDocument document;
+        Root(document);
+        QVERIFY(!XmlOperation::OpenXmlFile(document, path, QIODevice::ReadOnly));
+        QCOMPARE(document.documentElement().tagName(), QString("Root"));
+    }
+
+    void opensNoFileOnlyToWrite()
     {
         QDomDocument document;
-        document.setContent(QString("<kept/>"));
-        QStringList none{Path("missing"), m_folder.path(), QString()};
-#ifdef Q_OS_LINUX
-        QCOMPARE(::mkfifo(qPrintable(Path("pipe")), 0600), 0);
-        XmlOperation::SaveXmlContent2File(document, Path("pipe"));
-        none << Path("pipe") << "/dev/zero";
-#endif
-        for (const QString& path : none)
-            QVERIFY(!XmlOperation::OpenXmlFile(document, path, QIODevice::ReadOnly));
-        QCOMPARE(document.documentElement().tagName(), QString("kept"));
         QVERIFY(!XmlOperation::OpenXmlFile(document, Path("new"), QIODevice::WriteOnly));
     }
+
+#ifdef Q_OS_LINUX
+    void savingToAPipeDoesNotWait()
+    {
+        QDomDocument document;
+        Root(document);
+        XmlOperation::SaveXmlContent2File(document, Path("pipe"));
+    }
+#endif
 };
 
 QTEST_GUILESS_MAIN(TestXml)
