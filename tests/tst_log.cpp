@@ -27,6 +27,8 @@ constexpr bool kSharesFiles = true;
 constexpr bool kSharesFiles = false; // a path and an open file have nothing to do with each other
 #endif
 constexpr qint64 kRotationSize = qint64(50) * 1024 * 1024;
+constexpr int kLongestLine = 2047;
+constexpr int kStampLength = sizeof("[2026-03-07 09:05:01]") - 1;
 
 struct Releaser
 {
@@ -77,6 +79,7 @@ private:
     QString m_path;
 
     QStringList Names() const { return QDir(m_folder->path()).entryList(QDir::Files); }
+
 private slots:
     void init()
     {
@@ -84,99 +87,157 @@ private slots:
         m_path = m_folder->filePath("app.log");
     }
 
-    void opensOnceAndAlone()
+    void dropsWhatComesBeforeItOpens()
     {
-        Log log(CreateLogInstance());
+        const Log log(CreateLogInstance());
         Say(log, "too early");
+        QCOMPARE(Init(log, m_path), 0);
+        QCOMPARE(Content(m_path), QByteArray());
+    }
+
+    void opensNoFileWithoutAPath()
+    {
+        const Log log(CreateLogInstance());
         QCOMPARE(log->Init(nullptr, false, 0), 1);
+    }
+
+    void opensAfterAFailure()
+    {
+        const Log log(CreateLogInstance());
         QCOMPARE(Init(log, m_folder->path()), 27);
         QCOMPARE(Names(), QStringList());
-        MakeSparse(m_path, 1);
         QCOMPARE(Init(log, m_path), 0);
+    }
+
+    void opensNoSecondFile()
+    {
+        const Log log = OpenLog(m_path);
         QCOMPARE(Init(log, m_folder->filePath("b.log")), 23);
-        QVERIFY(!OpenLog(m_path));
-        Say(log, "first");
-        QVERIFY(Content(m_path).endsWith("first - [F.cpp(1)]\r\n"));
+        Say(log, "in the first");
         QCOMPARE(Names(), QStringList("app.log"));
+        QVERIFY(Content(m_path).contains("in the first"));
+    }
+
+    void hasItsFileAlone()
+    {
+        Log log = OpenLog(m_path);
+        QVERIFY(!OpenLog(m_path));
         log.reset();
         QVERIFY(OpenLog(m_path));
     }
 
-    void writesLine()
+    void keepsWhatTheFileHolds()
     {
-        const Log log = OpenLog(m_path);
-        const auto check = [&](const QByteArray& message, const QByteArray& printedMessage,
-                               const QByteArray& file = "C.src",
-                               const QByteArray& printedFile = "C.src",
-                               const QByteArray& function = "C::F") {
-            Say(log, QByteArray(20000, 'x').constData()); // leaves nothing behind in the buffer
-            const int before = Content(m_path).size();
-            // Whole seconds, of a clock that may lag by a tick.
-            const QDateTime start = QDateTime::currentDateTime().addSecs(-2);
-            log->LogWarn(file.constData(), function.constData(), -212, "%s", message.constData());
-            const QByteArray line = Content(m_path).mid(before);
-            const QByteArray stamp = line.left(21);
-            const auto time = QDateTime::fromString(stamp, "[yyyy-MM-dd HH:mm:ss]");
-            QVERIFY2(time >= start && time <= QDateTime::currentDateTime(), stamp.constData());
-            const QByteArray whole = stamp + "-WARN- [" + function + "]:  " + printedMessage +
-                                     " - [" + printedFile + "(-212)]\r\n";
-            QCOMPARE(line, whole.left(2047));
+        MakeSparse(m_path, 1);
+        Say(OpenLog(m_path), "first");
+        QVERIFY(Content(m_path).endsWith("first - [F.cpp(1)]\r\n"));
+        QVERIFY(QFileInfo(m_path).size() > Content(m_path).size());
+    }
+
+    void writesLine_data()
+    {
+        QTest::addColumn<QByteArray>("message");
+        QTest::addColumn<QByteArray>("printedMessage");
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QByteArray>("printedFile");
+        QTest::addColumn<QByteArray>("function");
+        const auto row = [](const char* name, const QByteArray& message,
+                            const QByteArray& printedMessage, const QByteArray& file = "C.src",
+                            const QByteArray& printedFile = "C.src",
+                            const QByteArray& function = "C::F") {
+            QTest::newRow(name) << message << printedMessage << file << printedFile << function;
         };
         const auto m = [](int n) { return QByteArray(n, 'm'); };
         const QByteArray cut = m(1850) + "... Log Info Length Over Size.";
-        check("begin %", "begin %");
-        check("", "", "", "", "");
-        check(m(1900), m(1900));
-        check(m(1901), cut);
-        check(m(12000), cut);
-        check(m(1900), m(1900), m(300), m(255), m(300)); // a line over its limit
-        check(m(1900), m(1900), m(101), m(101), "F");    // the limit lies within the line end
-        check("x", "x", "C:\\src\\lib\\Foo.src", "Foo.src");
-        check("x", "x", "/src/Foo.src", "/src/Foo.src");
-        check("x", "x", "a\\" + m(300), m(253));
+        row("per cent sign", "begin %", "begin %");
+        row("all empty", "", "", "", "", "");
+        row("longest message", m(1900), m(1900));
+        row("message one byte too long", m(1901), cut);
+        row("message longer than any buffer", m(12000), cut);
+        row("line over its limit", m(1900), m(1900), m(300), m(255), m(300));
+        row("limit within the line end", m(1900), m(1900), m(101), m(101), "F");
+        row("folders before backslashes", "x", "x", "C:\\src\\lib\\Foo.src", "Foo.src");
+        row("folders before slashes", "x", "x", "/src/Foo.src", "/src/Foo.src");
+        row("path cut before its folder is", "x", "x", "a\\" + m(300), m(253));
+    }
+    void writesLine()
+    {
+        QFETCH(QByteArray, message);
+        QFETCH(QByteArray, printedMessage);
+        QFETCH(QByteArray, file);
+        QFETCH(QByteArray, printedFile);
+        QFETCH(QByteArray, function);
+        const Log log = OpenLog(m_path);
+        Say(log, QByteArray(20000, 'x').constData()); // leaves nothing behind in the buffer
+        const int before = Content(m_path).size();
+        log->LogWarn(file.constData(), function.constData(), -212, "%s", message.constData());
+        const QByteArray whole =
+            "-WARN- [" + function + "]:  " + printedMessage + " - [" + printedFile + "(-212)]\r\n";
+        QCOMPARE(Content(m_path).mid(before + kStampLength),
+                 whole.left(kLongestLine - kStampLength));
     }
 
+    void stampsLineWithTheTime()
+    {
+        // Whole seconds, of a clock that may lag by a tick.
+        const QDateTime start = QDateTime::currentDateTime().addSecs(-2);
+        Say(OpenLog(m_path), "x");
+        const QByteArray stamp = Content(m_path).left(kStampLength);
+        const auto time = QDateTime::fromString(stamp, "[yyyy-MM-dd HH:mm:ss]");
+        QVERIFY2(time >= start, stamp.constData());
+        QVERIFY2(time <= QDateTime::currentDateTime(), stamp.constData());
+    }
+
+    void keepsThreshold_data()
+    {
+        QTest::addColumn<int>("threshold");
+        QTest::addColumn<QString>("levels");
+        QTest::newRow("below all") << LogLevelAll - 3 << "DEBUG INFO WARN ERROR";
+        QTest::newRow("lowest level") << int(LogLevelDebug) << "DEBUG INFO WARN ERROR";
+        QTest::newRow("level between") << int(LogLevelWarn) << "WARN ERROR";
+        QTest::newRow("above off") << LogLevelOff + 4 << "";
+    }
     void keepsThreshold()
     {
-        const QPair<int, const char*> rows[] = {{-3, "DEBUG INFO WARN ERROR"},
-                                                {1, "DEBUG INFO WARN ERROR"},
-                                                {3, "WARN ERROR"},
-                                                {9, ""}};
-        for (const auto& row : rows) {
-            QFile::remove(m_path);
-            const Log log = OpenLog(m_path, row.first);
-            log->LogDebug("F", "F", 1, "x");
-            log->LogInfo("F", "F", 1, "x");
-            log->LogWarn("F", "F", 1, "x");
-            log->LogError("F", "F", 1, "x");
-            QStringList levels;
-            for (const QByteArray& line : Content(m_path).split('\n'))
-                levels += QString(line).section('-', 3, 3);
-            QCOMPARE(levels.join(' ').trimmed(), QString(row.second));
-        }
+        QFETCH(int, threshold);
+        const Log log = OpenLog(m_path, threshold);
+        log->LogDebug("F", "F", 1, "x");
+        log->LogInfo("F", "F", 1, "x");
+        log->LogWarn("F", "F", 1, "x");
+        log->LogError("F", "F", 1, "x");
+        QStringList levels;
+        for (const QByteArray& line : Content(m_path).split('\n'))
+            levels += QString(line).section('-', 3, 3);
+        QTEST(levels.join(' ').trimmed(), "levels");
     }
 
-    void rotates()
+    void rotatesFullFile()
     {
-        // The last size is 10 in the low 32 bits, which alone count.
-        for (const qint64 size : {kRotationSize - 1, kRotationSize, (qint64(1) << 32) + 10}) {
-            init();
-            QDir(m_folder->path()).mkdir("logs.old");
-            const QString path = m_folder->filePath("logs.old/app.log");
-            QVERIFY(MakeSparse(path, size));
-            const Log log = OpenLog(path);
-            Say(log, "x");
-            const QString rotated = Names().join('|');
-            QCOMPARE(!rotated.isEmpty(), size == kRotationSize);
-            if (rotated.isEmpty()) {
-                QVERIFY(QFileInfo(path).size() > size);
-                continue;
-            }
-            const QRegularExpression name("^logs(_\\d{4}(_\\d\\d){5})\\.tx$");
-            QVERIFY2(name.match(rotated).hasMatch(), qPrintable(rotated));
-            QCOMPARE(QFileInfo(m_folder->filePath(rotated)).size(), size);
-            QCOMPARE(Content(path).count('\n'), 1);
-        }
+        QDir(m_folder->path()).mkdir("logs.old");
+        const QString path = m_folder->filePath("logs.old/app.log");
+        QVERIFY(MakeSparse(path, kRotationSize));
+        Say(OpenLog(path), "x");
+        const QString rotated = Names().join('|');
+        // The path up to its first dot.
+        const QRegularExpression name("^logs(_\\d{4}(_\\d\\d){5})\\.tx$");
+        QVERIFY2(name.match(rotated).hasMatch(), qPrintable(rotated));
+        QCOMPARE(QFileInfo(m_folder->filePath(rotated)).size(), kRotationSize);
+        QCOMPARE(Content(path).count('\n'), 1);
+    }
+
+    void goesOnInOtherFiles_data()
+    {
+        QTest::addColumn<qint64>("size");
+        QTest::newRow("a byte less than full") << kRotationSize - 1;
+        QTest::newRow("little in the low 32 bits, which alone count") << (qint64(1) << 32) + 10;
+    }
+    void goesOnInOtherFiles()
+    {
+        QFETCH(qint64, size);
+        QVERIFY(MakeSparse(m_path, size));
+        Say(OpenLog(m_path), "x");
+        QCOMPARE(Names(), QStringList("app.log"));
+        QVERIFY(QFileInfo(m_path).size() > size);
     }
 
     void losesNothingWhenRotatingTwiceInASecond()
@@ -217,7 +278,7 @@ private slots:
             all += Content(m_folder->filePath(name));
         int next[kThreads] = {};
         for (int start = 0, end = 0; (end = all.indexOf('\n', start)) >= 0; start = end + 1) {
-            const QByteArray line = all.mid(start + 21, end - start - 20);
+            const QByteArray line = all.mid(start, end + 1 - start).mid(kStampLength);
             int i = -1, again = -1, t = -1;
             const char* format = "-INFO- [C::F]:  %d %d - [F.cpp(%d)]\r\n";
             const int fields = std::sscanf(line.constData(), format, &i, &again, &t);
