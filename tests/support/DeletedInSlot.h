@@ -15,22 +15,20 @@ using Make = std::function<QWidget*()>;
 using Step = std::function<void(QWidget*)>;
 using Steps = QVector<Step>;
 
-inline Step Press(int x)
+inline Step Press(int x, Qt::MouseButton button = Qt::LeftButton)
 {
-    return [x](QWidget* w) {
-        QTest::mousePress(w->window()->windowHandle(), Qt::LeftButton, {}, {x, 10});
-    };
+    return [=](QWidget* w) { QTest::mousePress(w->window()->windowHandle(), button, {}, {x, 10}); };
 }
 
-inline Step Move(int x)
+inline Step Move(int x, int y = 10)
 {
-    return [x](QWidget* w) { QTest::mouseMove(w->window()->windowHandle(), {x, 10}); };
+    return [=](QWidget* w) { QTest::mouseMove(w->window()->windowHandle(), {x, y}); };
 }
 
-inline Step Release(int x)
+inline Step Release(int x, Qt::MouseButton button = Qt::LeftButton)
 {
-    return [x](QWidget* w) {
-        QTest::mouseRelease(w->window()->windowHandle(), Qt::LeftButton, {}, {x, 10});
+    return [=](QWidget* w) {
+        QTest::mouseRelease(w->window()->windowHandle(), button, {}, {x, 10});
     };
 }
 
@@ -72,7 +70,8 @@ inline bool Dies(const Make& make, const Steps& steps,
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QWidget other; // for what Qt has kept of the mouse
     other.show();
-    QTest::mouseRelease(other.windowHandle(), Qt::LeftButton);
+    for (const auto button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton})
+        QTest::mouseRelease(other.windowHandle(), button);
     const bool dead = !widget;
     delete widget;
     return dead;
