@@ -12,6 +12,7 @@
 #include <climits>
 #include <functional>
 #include <limits>
+#include <memory>
 
 namespace {
 
@@ -81,19 +82,30 @@ struct Pure : PureSlider
     QString TakeLog() { return std::exchange(log, {}).trimmed(); }
 };
 
-// What a row of a table says, for a comparison that tells the row.
-template <typename... Values>
-QString Row(const char* name, Values... values)
+struct ZoomBar : ScaleUnitSlider
 {
-    QStringList texts{name};
-    (texts << ... << QString::number(values));
-    return texts.join(' ');
-}
+    static constexpr int kButton = 24; // with the gap beside it
+    QStringList log;                   // "*" while the button is down
+    ZoomBar() : ScaleUnitSlider(nullptr)
+    {
+        resize(kLength + 2 * kButton, 20);
+        show();
+        const auto note = [this](const QString& s) { log << s + (ButtonPressDown() ? "*" : ""); };
+        connect(this, &ScaleUnitSlider::startValueChanged, [note] { note("start"); });
+        connect(this, &ScaleUnitSlider::valueChanged,
+                [note](float v) { note(QString::number(double(v))); });
+        connect(this, &ScaleUnitSlider::endValueChanged, [note] { note("end"); });
+    }
+    void Click(int x) { QTest::mouseClick(windowHandle(), Qt::LeftButton, {}, {kButton + x, 10}); }
+};
 
 } // namespace
 
 Q_DECLARE_METATYPE(DeletedInSlot::Make)
 Q_DECLARE_METATYPE(DeletedInSlot::Steps)
+
+using Change = std::function<void(QWidget*)>;
+Q_DECLARE_METATYPE(Change)
 
 class TestSliders : public QObject
 {
@@ -101,120 +113,164 @@ class TestSliders : public QObject
 
     std::unique_ptr<QWidget> stage;
 
-private slots:
-    void pressAndValue()
+    static void AddChunks()
     {
-        const struct
-        {
-            const char* name;
-            float min, max;
-            bool vertical, mirrored;
-            int press;
-            float value;
-            int chunkAt;
-        } rows[] = {
-            {"half a chunk is the minimum", 0, 100, false, false, 7, 0, 0},
-            {"right of all", 0, 100, false, false, 213, 100, kTravel},
-            {"counts from the minimum", 50, 150, false, false, 57, 75, 50},
-            {"turned round", 100, 0, false, false, 57, 75, 50},
-            {"all floats", -FLT_MAX, FLT_MAX, false, false, 157, FLT_MAX / 2, 150},
-            {"mirrored", 0, 100, false, true, 213 - 57, 25, kTravel - 50},
-            {"bounds that are no numbers", kNaN, 5, false, false, 107, 50, 100},
-            {"infinite bounds", 0, kInfinity, false, false, 107, 50, 100},
+        QTest::addColumn<float>("min");
+        QTest::addColumn<float>("max");
+        QTest::addColumn<bool>("isMirrored");
+        QTest::addColumn<int>("x"); // of the press
+        QTest::addColumn<float>("value");
+        QTest::addColumn<int>("chunkAt");
+        const auto row = [](const char* name, float min, float max, bool isMirrored, int x,
+                            float value, int chunkAt) {
+            QTest::newRow(name) << min << max << isMirrored << x << value << chunkAt;
         };
-        for (const auto& row : rows) {
-            Bar bar(row.vertical ? Qt::Vertical : Qt::Horizontal);
-            bar.setRange(row.min, row.max);
-            bar.SetLeftToRight(!row.mirrored);
-            bar.ChunkAt();
-            const QString expected = Row(row.name, row.value, row.chunkAt);
-            bar.Press(row.press);
-            QCOMPARE(Row(row.name, bar.value(), bar.ChunkAt()), expected);
-            bar.Release(row.press);
-            // The other way round.
-            bar.setValue(float(bar.getRange().x()), false);
-            bar.setValue(row.value, false);
-            QCOMPARE(Row(row.name, bar.value(), bar.ChunkAt()), expected);
-        }
+        constexpr int end = kLength - 1;
+        row("half a chunk is the minimum", 0, 100, false, 7, 0, 0);
+        row("right of all", 0, 100, false, end, 100, kTravel);
+        row("counts from the minimum", 50, 150, false, 57, 75, 50);
+        row("turned round", 100, 0, false, 57, 75, 50);
+        row("all floats", -FLT_MAX, FLT_MAX, false, 157, FLT_MAX / 2, 150);
+        row("mirrored", 0, 100, true, end - 57, 25, kTravel - 50);
+        row("bounds that are no numbers", kNaN, 5, false, 107, 50, 100);
+        row("infinite bounds", 0, kInfinity, false, 107, 50, 100);
     }
 
+private slots:
+    void pressSetsTheValue_data() { AddChunks(); }
+    void pressSetsTheValue()
+    {
+        QFETCH(float, min);
+        QFETCH(float, max);
+        QFETCH(bool, isMirrored);
+        QFETCH(int, x);
+        Bar bar;
+        bar.setRange(min, max);
+        bar.SetLeftToRight(!isMirrored);
+        bar.ChunkAt();
+        bar.Press(x);
+        QTEST(bar.value(), "value");
+        QTEST(bar.ChunkAt(), "chunkAt");
+        bar.Release(x);
+    }
+
+    void valuePlacesTheChunk_data() { AddChunks(); }
+    void valuePlacesTheChunk()
+    {
+        QFETCH(float, min);
+        QFETCH(float, max);
+        QFETCH(bool, isMirrored);
+        QFETCH(float, value);
+        Bar bar;
+        bar.setRange(min, max);
+        bar.SetLeftToRight(!isMirrored);
+        bar.setValue(value, false);
+        QCOMPARE(bar.value(), value);
+        QTEST(bar.ChunkAt(), "chunkAt");
+    }
+
+    void chunkFromValue_data()
+    {
+        QTest::addColumn<double>("value");
+        QTest::addColumn<int>("chunkAt");
+        QTest::newRow("over the full length, not the travel") << 25.0 << 53 - 7;
+        QTest::newRow("infinite") << double(kInfinity) << kTravel;
+        QTest::newRow("no number") << double(kNaN) << 0;
+    }
     void chunkFromValue()
     {
+        QFETCH(double, value);
         Bar bar;
-        const QPair<double, int> rows[] = {{25, 53 - 7}, // over the full length, not the travel
-                                           {double(kInfinity), kTravel},
-                                           {double(kNaN), 0}};
-        for (const auto& [value, chunkAt] : rows) {
-            bar.CalculatePositionFromValue(value);
-            QCOMPARE(bar.ChunkAt(), chunkAt);
-            QCOMPARE(bar.value(), 0.0F); // stays
-        }
+        bar.CalculatePositionFromValue(value);
+        QTEST(bar.ChunkAt(), "chunkAt");
+        QCOMPARE(bar.value(), 0.0F); // stays
     }
 
-    void withoutRoom()
+    void withoutRoomTheValueIsTheMinimum_data()
     {
+        QTest::addColumn<QSize>("size");
+        for (const QSize size : {QSize(0, 0), QSize(10, 10), QSize(14, 1)})
+            QTest::addRow("%d x %d", size.width(), size.height()) << size;
+    }
+    void withoutRoomTheValueIsTheMinimum()
+    {
+        QFETCH(QSize, size);
         Bar bar;
-        for (const QSize size : {QSize(0, 0), QSize(10, 10), QSize(14, 1)}) {
-            bar.resize(size);
-            bar.setValue(70, false);
-            bar.CalculatePostion(QPoint(8, 8));
-            QCOMPARE(bar.value(), 0.0F);
-        }
-        bar.setRange(10, 20);
-        const std::pair<float, float> kept[] = {{15, 15}, {kNaN, 15}, {-5, 10}, {kInfinity, 20}};
-        for (const auto& [set, value] : kept) {
-            bar.setValue(set, true);
-            QCOMPARE(bar.value(), value);
-        }
-        QVERIFY(bar.log.isEmpty());
+        bar.resize(size);
+        bar.setValue(70, false);
+        bar.CalculatePostion(QPoint(8, 8));
+        QCOMPARE(bar.value(), 0.0F);
+        QCOMPARE(bar.TakeLog(), QString());
     }
 
-    // Each step is one of the actions below, such as p107, a press at 107 pixels.
+    void valueStaysInTheRange_data()
+    {
+        QTest::addColumn<float>("set");
+        QTest::addColumn<float>("value");
+        QTest::newRow("inside") << 16.0F << 16.0F;
+        QTest::newRow("no number") << kNaN << 15.0F;
+        QTest::newRow("below") << -5.0F << 10.0F;
+        QTest::newRow("infinite") << kInfinity << 20.0F;
+    }
+    void valueStaysInTheRange()
+    {
+        QFETCH(float, set);
+        Bar bar;
+        bar.setRange(10, 20);
+        bar.setValue(15, true);
+        bar.setValue(set, true);
+        QTEST(bar.value(), "value");
+        QCOMPARE(bar.TakeLog(), QString());
+    }
+
+    void signalOrder_data()
+    {
+        QTest::addColumn<QString>("steps"); // of the actions below, as p107, a press at 107 pixels
+        QTest::addColumn<QString>("log");
+        const auto row = [](const char* name, const char* steps, const char* log) {
+            QTest::newRow(name) << steps << log;
+        };
+        row("press beside the chunk", "p107 r107", "start 50 end");
+        row("press beside the chunk, quiet", "q p107 r107", "50");
+        row("drag from beside, quiet", "q p107 m57 m57 r7", "50 startDrag 25 0 endDrag");
+        row("chunk grabbed off its centre", "q p3 m103 r53", "start startDrag 50 25 end endDrag");
+        row("nothing new is not told", "v50 p107 r107", "start end");
+        row("moves without a press", "m57 =0", "");
+        row("empty range", "[5 p107 m57 r7 > w =5", "");
+        row("held against the host", "p107 v10 > w =50 r107 v10 =10", "start 50 end");
+        row("emptied while held", "p107 m57 [5 r57 [100 v70 =70", "start 50 startDrag 25");
+        row("disabled while held", "p107 m57 d e v70 r7 =70", "start 50 startDrag 25 end endDrag");
+        row("hidden while held", "p107 h v70 =70", "start 50 end");
+        row("keys, the second at the end already", "> > =100", "start 100 end");
+    }
     void signalOrder()
     {
-        const struct
-        {
-            const char *name, *steps, *log;
-        } rows[] = {
-            {"press beside the chunk", "p107 r107", "start 50 end"},
-            {"the same, quiet", "q p107 r107", "50"},
-            {"drag from beside, quiet", "q p107 m57 m57 r7", "50 startDrag 25 0 endDrag"},
-            {"chunk grabbed off its centre", "q p3 m103 r53", "start startDrag 50 25 end endDrag"},
-            {"nothing new is not told", "v50 p107 r107", "start end"},
-            {"moves without a press", "m57 =0", ""},
-            {"empty range", "[5 p107 m57 r7 > w =5", ""},
-            {"held against the host", "p107 v10 > w =50 r107 v10 =10", "start 50 end"},
-            {"emptied while held", "p107 m57 [5 r57 [100 v70 =70", "start 50 startDrag 25"},
-            {"disabled while held", "p107 m57 d e v70 r7 =70", "start 50 startDrag 25 end endDrag"},
-            {"hidden while held", "p107 h v70 =70", "start 50 end"},
-            {"keys, the second at the end already", "> > =100", "start 100 end"}};
-        for (const auto& row : rows) {
-            Bar bar;
-            const QHash<QChar, std::function<void(int)>> actions{
-                {'p', [&](int x) { bar.Press(x); }},
-                {'m', [&](int x) { bar.Move(x); }},
-                {'r', [&](int x) { bar.Release(x); }},
-                {'v', [&](int value) { bar.setValue(value, false); }},
-                {'[', [&](int max) { bar.setRange(max == 5 ? 5 : 0, max); }},
-                {'>', [&](int) { Key(&bar, Qt::Key_End); }},
-                {'w', [&](int) { Wheel(&bar, QPoint(0, 120)); }},
-                {'d', [&](int) { bar.setEnabled(false); }},
-                {'e', [&](int) { bar.setEnabled(true); }},
-                {'h', [&](int) { bar.hide(); }},
-                {'q', [&](int) { bar.SetAwaysEmitValueChangeStartEnd(false); }},
-                {'=', [&](int value) { QCOMPARE(bar.value(), float(value)); }}};
-            bool down = false;
-            for (const QString& step : QString(row.steps).split(' ')) {
-                const QChar action = step[0];
-                actions[action](step.midRef(1).toInt());
-                QCoreApplication::processEvents();
-                down = action == 'p' ? bar.CanChanged() : down && !QString("rdh").contains(action);
-                QCOMPARE(bar.ButtonPressDown(), down);
-                QCOMPARE(bar.canSeek(), bar.isEnabled());
-            }
-            QCOMPARE(row.name + bar.TakeLog(), row.name + QString(row.log));
-            QTest::mouseRelease(bar.windowHandle(), Qt::LeftButton); // for the next row
+        QFETCH(QString, steps);
+        Bar bar;
+        const QHash<QChar, std::function<void(int)>> actions{
+            {'p', [&](int x) { bar.Press(x); }},
+            {'m', [&](int x) { bar.Move(x); }},
+            {'r', [&](int x) { bar.Release(x); }},
+            {'v', [&](int value) { bar.setValue(value, false); }},
+            {'[', [&](int max) { bar.setRange(max == 5 ? 5 : 0, max); }},
+            {'>', [&](int) { Key(&bar, Qt::Key_End); }},
+            {'w', [&](int) { Wheel(&bar, QPoint(0, 120)); }},
+            {'d', [&](int) { bar.setEnabled(false); }},
+            {'e', [&](int) { bar.setEnabled(true); }},
+            {'h', [&](int) { bar.hide(); }},
+            {'q', [&](int) { bar.SetAwaysEmitValueChangeStartEnd(false); }},
+            {'=', [&](int value) { QCOMPARE(bar.value(), float(value)); }}};
+        bool down = false;
+        for (const QString& step : steps.split(' ')) {
+            const QChar action = step[0];
+            actions[action](step.midRef(1).toInt());
+            QCoreApplication::processEvents();
+            down = action == 'p' ? bar.CanChanged() : down && !QString("rdh").contains(action);
+            QCOMPARE(bar.ButtonPressDown(), down);
+            QCOMPARE(bar.canSeek(), bar.isEnabled());
         }
+        QTEST(bar.TakeLog(), "log");
+        QTest::mouseRelease(bar.windowHandle(), Qt::LeftButton); // for the next row
     }
 
     void setByItsHandler()
@@ -228,54 +284,81 @@ private slots:
         QCOMPARE(bar.TakeLog(), QString("start 50 end start 100 end"));
     }
 
-    void keysAndWheel()
+    void keysAndWheel_data()
     {
+        QTest::addColumn<bool>("isVertical");
+        QTest::addColumn<bool>("isMirrored");
+        QTest::addColumn<bool>("isTurnedRound"); // the range
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<double>("value"); // from 50
+        const auto key = [](int which) { return [which](QWidget* w) { Key(w, which); }; };
+        const auto wheel = [](int x, int y, Qt::KeyboardModifiers modifiers = {}) {
+            return [=](QWidget* w) { Wheel(w, {x, y}, modifiers); };
+        };
         const struct
         {
-            Qt::Orientation orientation;
-            bool mirrored;
-            float min, max;
-            const char* values; // after each of the steps below, from 50
-        } rows[] = {{Qt::Horizontal, false, 0, 100, "51 49 51 49 60 40 0 100 52 60 49.5 52"},
-                    {Qt::Vertical, false, 0, 100, "51 49 49 51 40 60 0 100 48 40 49.5 52"},
-                    {Qt::Horizontal, true, 0, 100, "49 51 51 49 60 40 0 100 52 60 50.5 48"},
-                    {Qt::Horizontal, false, 100, 0, "49 51 49 51 40 60 100 0 48 40 50.5 48"}};
-        const Qt::Key keys[] = {Qt::Key_Right,  Qt::Key_Left,     Qt::Key_Up,   Qt::Key_Down,
-                                Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
-        const QPoint turns[] = {{0, 240}, {0, 120}, {60, -9}, {-240, 9}}; // the second with Ctrl
+            const char* name;
+            Change change;
+            double plain, vertical, mirrored, turnedRound;
+        } rows[] = {{"right", key(Qt::Key_Right), 51, 51, 49, 49},
+                    {"left", key(Qt::Key_Left), 49, 49, 51, 51},
+                    {"up", key(Qt::Key_Up), 51, 49, 51, 49},
+                    {"down", key(Qt::Key_Down), 49, 51, 49, 51},
+                    {"page up", key(Qt::Key_PageUp), 60, 40, 60, 40},
+                    {"page down", key(Qt::Key_PageDown), 40, 60, 40, 60},
+                    {"home", key(Qt::Key_Home), 0, 0, 0, 100},
+                    {"end", key(Qt::Key_End), 100, 100, 100, 0},
+                    {"two notches", wheel(0, 240), 52, 48, 52, 48},
+                    {"a notch with Ctrl", wheel(0, 120, Qt::ControlModifier), 60, 40, 60, 40},
+                    {"half a notch across", wheel(60, -9), 49.5, 49.5, 50.5, 50.5},
+                    {"two notches across, back", wheel(-240, 9), 52, 52, 48, 48}};
         for (const auto& row : rows) {
-            Bar bar(row.orientation);
-            bar.SetLeftToRight(!row.mirrored);
-            bar.setRange(row.min, row.max);
-            QStringList seen;
-            for (int step = 0; step < 12; ++step) {
-                bar.setValue(50, false);
-                if (step < 8)
-                    Key(&bar, keys[step]);
-                else
-                    Wheel(&bar, turns[step - 8], step == 9 ? Qt::ControlModifier : Qt::NoModifier);
-                seen << QString::number(bar.value());
-                QCOMPARE(bar.TakeLog(), "start " + seen.last() + " end");
-            }
-            QCOMPARE(seen.join(' '), QString(row.values));
-            Key(&bar, Qt::Key_Right, Qt::AltModifier);
-            Key(&bar, Qt::Key_A);
-            QVERIFY(bar.log.isEmpty());
+            QTest::addRow("%s", row.name) << false << false << false << row.change << row.plain;
+            QTest::addRow("%s, vertical", row.name)
+                << true << false << false << row.change << row.vertical;
+            QTest::addRow("%s, mirrored", row.name)
+                << false << true << false << row.change << row.mirrored;
+            QTest::addRow("%s, range turned round", row.name)
+                << false << false << true << row.change << row.turnedRound;
         }
     }
+    void keysAndWheel()
+    {
+        QFETCH(bool, isVertical);
+        QFETCH(bool, isMirrored);
+        QFETCH(bool, isTurnedRound);
+        QFETCH(Change, change);
+        Bar bar(isVertical ? Qt::Vertical : Qt::Horizontal);
+        bar.SetLeftToRight(!isMirrored);
+        bar.setRange(isTurnedRound ? 100 : 0, isTurnedRound ? 0 : 100);
+        bar.setValue(50, false);
+        change(&bar);
+        QTEST(double(bar.value()), "value");
+        QCOMPARE(bar.TakeLog(), QString("start %1 end").arg(double(bar.value())));
+    }
 
-    void keyboardFocus()
+    void otherKeysDoNothing()
     {
         Bar bar;
-        for (const auto& [type, reason, shows] :
-             {std::tuple(QEvent::FocusIn, Qt::TabFocusReason, true),
-              {QEvent::FocusOut, Qt::ActiveWindowFocusReason, true}, // and back to the window
-              {QEvent::FocusIn, Qt::ActiveWindowFocusReason, true},
-              {QEvent::FocusOut, Qt::TabFocusReason, false}}) {
+        bar.setValue(50, false);
+        Key(&bar, Qt::Key_Right, Qt::AltModifier);
+        Key(&bar, Qt::Key_A);
+        QCOMPARE(bar.value(), 50.0F);
+        QCOMPARE(bar.TakeLog(), QString());
+    }
+
+    void keyboardFocusShowsUntilTheFocusIsTaken()
+    {
+        Bar bar;
+        const auto showsAfter = [&bar](QEvent::Type type, Qt::FocusReason reason) {
             QFocusEvent event(type, reason);
             QCoreApplication::sendEvent(&bar, &event);
-            QCOMPARE(bar.chunk->property("keyboardFocus").toBool(), shows);
-        }
+            return bar.chunk->property("keyboardFocus").toBool();
+        };
+        QCOMPARE(showsAfter(QEvent::FocusIn, Qt::TabFocusReason), true);
+        QCOMPARE(showsAfter(QEvent::FocusOut, Qt::ActiveWindowFocusReason), true);
+        QCOMPARE(showsAfter(QEvent::FocusIn, Qt::ActiveWindowFocusReason), true);
+        QCOMPARE(showsAfter(QEvent::FocusOut, Qt::TabFocusReason), false);
     }
 
     void deletedInSlot_data()
@@ -343,131 +426,218 @@ private slots:
             QCOMPARE(DeletedInSlot::InEachSlot(make, steps, later), deletedIn);
     }
 
+    void zoomBarSteps_data()
+    {
+        QTest::addColumn<float>("max");
+        QTest::addColumn<float>("step");
+        QTest::newRow("a tenth") << 1000.0F << 100.0F;
+        QTest::newRow("at least 10") << 50.0F << 10.0F;
+        QTest::newRow("at most 100") << 5000.0F << 100.0F;
+        QTest::newRow("whole") << 259.9F << 25.0F;
+    }
     void zoomBarSteps()
     {
-        const float rows[][2] = {{1000, 100}, {50, 10}, {5000, 100}, {259.9F, 25}}; // up to, step
-        for (const auto& [max, step] : rows) {
-            ScaleUnitSlider slider(nullptr);
-            slider.setRange(0, max);
-            slider.SetAddSubStep(0);
-            slider.setValue(0);
-            slider.Add();
-            QCOMPARE(slider.value(), step);
-            slider.Sub();
-            QCOMPARE(slider.value(), 0.0F);
-        }
-    }
-
-    void zoomBarSignals()
-    {
+        QFETCH(float, max);
         ScaleUnitSlider slider(nullptr);
-        slider.resize(kLength + 48, 20);
-        slider.show();
-        QStringList log;
-        const auto note = [&](const QString& s) {
-            log << s + (slider.ButtonPressDown() ? "*" : "");
-        };
-        connect(&slider, &ScaleUnitSlider::startValueChanged, [&] { note("start"); });
-        connect(&slider, &ScaleUnitSlider::valueChanged,
-                [&](float v) { note(QString::number(double(v))); });
-        connect(&slider, &ScaleUnitSlider::endValueChanged, [&] { note("end"); });
-        QTest::mouseClick(slider.GetZoomInButton(), Qt::LeftButton);
-        Key(slider.focusProxy(), Qt::Key_Plus);
-        QTest::mouseClick(slider.GetZoomOutButton(), Qt::LeftButton);
-        Key(slider.focusProxy(), Qt::Key_Minus);
-        slider.Sub(); // told although nothing is left
-        QCOMPARE(log.join(' '),
-                 QString("start 10* end start 20* end start 10* end start 0* end start 0* end"));
-        log.clear();
-        QTest::mouseClick(slider.windowHandle(), Qt::LeftButton, {}, {24 + 107, 10});
-        QCOMPARE(log.join(' '), QString("start* 50* end"));
-        slider.setLayoutDirection(Qt::RightToLeft);
-        log.clear();
-        QTest::mouseClick(slider.windowHandle(), Qt::LeftButton, {}, {24 + 57, 10});
-        QCOMPARE(log.join(' '), QString("start* 74.5* end"));
+        slider.setRange(0, max);
+        slider.SetAddSubStep(0);
+        slider.Add();
+        QTEST(slider.value(), "step");
+        slider.Sub();
+        QCOMPARE(slider.value(), 0.0F);
     }
 
+    void zoomBarTellsSteps_data()
+    {
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<QString>("log");
+        const auto on = [](auto act) -> Change {
+            return [act](QWidget* w) { act(static_cast<ScaleUnitSlider*>(w)); };
+        };
+        const auto click = [](QWidget* w) { QTest::mouseClick(w, Qt::LeftButton); };
+        const QString more = "start 60* end", less = "start 40* end";
+        QTest::newRow("plus button") << on([=](auto* z) { click(z->GetZoomInButton()); }) << more;
+        QTest::newRow("minus button") << on([=](auto* z) { click(z->GetZoomOutButton()); }) << less;
+        QTest::newRow("plus key") << on([](auto* z) { Key(z->focusProxy(), Qt::Key_Plus); })
+                                  << more;
+        QTest::newRow("minus key")
+            << on([](auto* z) { Key(z->focusProxy(), Qt::Key_Minus); }) << less;
+        QTest::newRow("none left, told all the same") << on([](auto* z) {
+            z->setValue(0);
+            z->Sub();
+        }) << "start 0* end";
+    }
+    void zoomBarTellsSteps()
+    {
+        QFETCH(Change, change);
+        ZoomBar slider;
+        slider.setValue(50);
+        change(&slider);
+        QTEST(slider.log.join(' '), "log");
+    }
+
+    void zoomBarTellsClicks()
+    {
+        ZoomBar slider;
+        slider.Click(107);
+        QCOMPARE(slider.log.join(' '), QString("start* 50* end"));
+    }
+
+    void mirroredZoomBarTellsClicks()
+    {
+        ZoomBar slider;
+        slider.setLayoutDirection(Qt::RightToLeft);
+        slider.Click(57);
+        QCOMPARE(slider.log.join(' '), QString("start* 74.5* end"));
+    }
+
+    void pureMouse_data()
+    {
+        QTest::addColumn<int>("min");
+        QTest::addColumn<int>("max");
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("x");
+        QTest::addColumn<int>("value");
+        QTest::addColumn<bool>("isMove");
+        const auto row = [](const char* name, int min, int max, int width, int x, int value) {
+            QTest::addRow("press, %s", name) << min << max << width << x << value << false;
+            QTest::addRow("move, %s", name) << min << max << width << x << value << true;
+        };
+        row("almost the end", 0, 100, 200, 199, 99);
+        row("whole quotient", 0, 100, 100, 29, 29);
+        row("toward zero", -50, 50, 200, 1, -49);
+        row("right of it", 0, 100, 200, 300, 100);
+        row("empty range is 0 to 100", 5, 5, 200, 100, 50);
+        row("so is a reversed one", 9, 3, 200, 100, 50);
+        row("all of int", INT_MIN, INT_MAX, 200, 150, (1 << 30) - 1);
+        row("without width", 1, 7, 0, 0, 1);
+    }
     void pureMouse()
     {
-        const struct
-        {
-            const char* name;
-            int min, max, width, x, value;
-        } rows[] = {{"almost the end", 0, 100, 200, 199, 99},
-                    {"whole quotient", 0, 100, 100, 29, 29},
-                    {"toward zero", -50, 50, 200, 1, -49},
-                    {"right of it", 0, 100, 200, 300, 100},
-                    {"empty range is 0 to 100", 5, 5, 200, 100, 50},
-                    {"so is a reversed one", 9, 3, 200, 100, 50},
-                    {"all of int", INT_MIN, INT_MAX, 200, 150, (1 << 30) - 1},
-                    {"without width", 1, 7, 0, 0, 1}};
-        for (const auto& row : rows) {
-            for (const bool moves : {false, true}) {
-                Pure slider;
-                slider.resize(row.width, 12);
-                slider.SetRange(row.min, row.max);
-                slider.SetValue(row.max);
-                slider.TakeLog();
-                for (const Qt::MouseButton button : {Qt::RightButton, Qt::LeftButton}) {
-                    QMouseEvent event(moves ? QEvent::MouseMove : QEvent::MouseButtonPress,
-                                      QPointF(row.x, 5), moves ? Qt::NoButton : button, button, {});
-                    QCoreApplication::sendEvent(&slider, &event);
-                    QVERIFY(!event.isAccepted()); // so that the parent receives it
-                }
-                const bool same = row.value == 100 && row.x == 300;
-                QCOMPARE(Row(row.name, slider.GetValue()), Row(row.name, row.value));
-                QCOMPARE(slider.TakeLog(), same ? "" : QString::number(row.value));
-            }
+        QFETCH(int, min);
+        QFETCH(int, max);
+        QFETCH(int, width);
+        QFETCH(int, x);
+        QFETCH(int, value);
+        QFETCH(bool, isMove);
+        Pure slider;
+        slider.resize(width, 12);
+        slider.SetRange(min, max);
+        slider.SetValue(max);
+        const int before = slider.GetValue();
+        slider.TakeLog();
+        for (const Qt::MouseButton button : {Qt::RightButton, Qt::LeftButton}) {
+            QCOMPARE(slider.GetValue(), before); // the right button does nothing
+            QMouseEvent event(isMove ? QEvent::MouseMove : QEvent::MouseButtonPress, QPointF(x, 5),
+                              isMove ? Qt::NoButton : button, button, {});
+            QCoreApplication::sendEvent(&slider, &event);
+            QVERIFY(!event.isAccepted()); // so that the parent receives it
         }
+        QCOMPARE(slider.GetValue(), value);
+        QCOMPARE(slider.TakeLog(), value == before ? "" : QString::number(value));
     }
 
-    void pureSignals()
+    void pureSliderTellsNewValues()
     {
         Pure slider;
         slider.SetValue(250);
         slider.SetValue(100);
-        Key(&slider, Qt::Key_Left);
-        Key(&slider, Qt::Key_PageDown);
+        QCOMPARE(slider.TakeLog(), QString("100"));
+    }
+
+    void pureSliderTellsKeys()
+    {
+        Pure slider;
+        slider.SetValue(100);
+        slider.TakeLog();
+        for (const int key : {Qt::Key_Left, Qt::Key_PageDown, Qt::Key_Right, Qt::Key_Home})
+            Key(&slider, key);
+        Key(&slider, Qt::Key_Home); // there already
+        QCOMPARE(slider.TakeLog(), QString("99 89 90 0"));
+    }
+
+    void pureSliderTellsWholeSteps()
+    {
+        Pure slider;
+        slider.SetValue(89);
+        slider.TakeLog();
         for (int i = 0; i < 4; ++i)
             Wheel(&slider, {0, 40}); // a third of a notch
+        QCOMPARE(slider.TakeLog(), QString("90"));
         Wheel(&slider, {0, -120}, Qt::ShiftModifier);
-        slider.SetRange(0, 60); // emits nothing
+        QCOMPARE(slider.TakeLog(), QString("80"));
+    }
+
+    void pureSliderKeepsItsValueWithAnotherRange()
+    {
+        Pure slider;
+        slider.SetValue(80);
+        slider.TakeLog();
+        slider.SetRange(0, 60);
         slider.SetRange(0, 9000);
+        QCOMPARE(slider.GetValue(), 80);
+        QCOMPARE(slider.TakeLog(), QString());
+    }
+
+    void keyStepsGrowWithTheRange()
+    {
+        Pure slider;
+        slider.SetRange(0, 9000);
+        slider.SetValue(80);
+        slider.TakeLog();
         Key(&slider, Qt::Key_Right);
-        Key(&slider, Qt::Key_Home);
-        Key(&slider, Qt::Key_Home);
-        QCOMPARE(slider.TakeLog(), QString("100 99 89 90 80 170 0"));
+        QCOMPARE(slider.TakeLog(), QString("170"));
+    }
+
+    void pureSliderSetByItsHandler()
+    {
+        Pure slider;
         connect(&slider, &PureSlider::sigValueChanged, &slider, [&] { slider.SetValue(3); });
         slider.SetValue(8);
         QCOMPARE(slider.GetValue(), 3);
     }
 
+    void accessibleValue_data()
+    {
+        QTest::addColumn<DeletedInSlot::Make>("make"); // at 120 of 100 to 300
+        QTest::addColumn<QByteArray>("signal");
+        QTest::addColumn<int>("step");
+        const DeletedInSlot::Make seek = [] {
+            auto* bar = new Bar;
+            bar->setRange(300, 100);
+            bar->setValue(120, false);
+            return bar;
+        };
+        const auto made = [](auto* slider, auto setRange, auto setValue) {
+            std::invoke(setRange, slider, 100, 300);
+            std::invoke(setValue, slider, 120);
+            return slider;
+        };
+        const DeletedInSlot::Make zoom = [made] {
+            return made(new ZoomBar, &ZoomBar::setRange, &ZoomBar::setValue);
+        };
+        const DeletedInSlot::Make pure = [made] {
+            return made(new Pure, &Pure::SetRange, &Pure::SetValue);
+        };
+        QTest::newRow("seek") << seek << QByteArray(SIGNAL(valueChanged(double))) << 2;
+        QTest::newRow("zoom") << zoom << QByteArray(SIGNAL(valueChanged(float))) << 2;
+        QTest::newRow("pure") << pure << QByteArray(SIGNAL(sigValueChanged(int))) << 1;
+    }
     void accessibleValue()
     {
-        Bar bar;
-        bar.setRange(300, 100);
-        bar.setValue(120, false);
-        ScaleUnitSlider zoom(nullptr);
-        zoom.setRange(100, 300);
-        zoom.setValue(120);
-        PureSlider pure(nullptr);
-        pure.SetRange(100, 300);
-        pure.SetValue(120);
-        const std::pair<QWidget*, const char*> sliders[] = {{&bar, SIGNAL(valueChanged(double))},
-                                                            {&zoom, SIGNAL(valueChanged(float))},
-                                                            {&pure, SIGNAL(sigValueChanged(int))}};
-        for (const auto& [widget, signal] : sliders) {
-            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
-            QCOMPARE(accessible->role(), QAccessible::Slider);
-            QCOMPARE(accessible->text(QAccessible::Value), QString("120"));
-            QAccessibleValueInterface* value = accessible->valueInterface();
-            QCOMPARE(value->minimumValue().toInt(), 100);
-            QCOMPARE(value->minimumStepSize().toInt(), widget == &pure ? 1 : 2);
-            QSignalSpy spy(widget, signal);
-            value->setCurrentValue(1000);
-            QCOMPARE(value->currentValue().toInt(), 300);
-            QCOMPARE(spy.size(), 1);
-        }
+        QFETCH(DeletedInSlot::Make, make);
+        QFETCH(QByteArray, signal);
+        const std::unique_ptr<QWidget> slider(make());
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(slider.get());
+        QCOMPARE(accessible->role(), QAccessible::Slider);
+        QCOMPARE(accessible->text(QAccessible::Value), QString("120"));
+        QAccessibleValueInterface* value = accessible->valueInterface();
+        QCOMPARE(value->minimumValue().toInt(), 100);
+        QTEST(value->minimumStepSize().toInt(), "step");
+        QSignalSpy spy(slider.get(), signal.constData());
+        value->setCurrentValue(1000);
+        QCOMPARE(value->currentValue().toInt(), 300);
+        QCOMPARE(spy.size(), 1);
     }
 };
 
