@@ -11,6 +11,8 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include <memory>
+
 namespace {
 
 void Send(QWidget* widget, QEvent::Type type)
@@ -62,6 +64,48 @@ struct States : BaseStateButton
     }
 };
 
+struct Tab : ImageTextButton2
+{
+    Tab() : ImageTextButton2(6, "tab", nullptr)
+    {
+        setStyleSheet("ImageTextButton2 { background: white }");
+        resize(60, 60);
+        QFont boxes("CommonLib boxes");
+        boxes.setPixelSize(10);
+        setFont(boxes);
+        SetText("HHHH");
+        SetNormalTextColor(Qt::green);
+        SetSelectedTextColor(Qt::black);
+    }
+    void SetImages()
+    {
+        QPixmap pixmap(20, 10);
+        pixmap.fill(Qt::red);
+        SetNormalImage(pixmap);
+        pixmap = QPixmap(20, 20); // 10 by 10 on a screen of twice the density
+        pixmap.setDevicePixelRatio(2);
+        pixmap.fill(Qt::blue);
+        SetSelectedImage(pixmap);
+    }
+    // Of the pixels of a colour.
+    QRect Bounds(const QColor& color)
+    {
+        const QImage mask = grab().toImage().createMaskFromColor(color.rgb(), Qt::MaskOutColor);
+        return QRegion(QBitmap::fromImage(mask)).boundingRect();
+    }
+    // Where the text is instead of in its place; rasterisers may differ in the outermost pixels.
+    QString TextOutsideOf(int top)
+    {
+        const QRect text = Bounds(Qt::green);
+        const bool isThere = qAbs(text.top() - top) < 2 && qAbs(text.height() - 7) < 2 &&
+                             qAbs(text.width() - 26) < 3 && qAbs(text.center().x() - 30) < 2;
+        QString where;
+        if (!isThere)
+            QDebug(&where) << text;
+        return where;
+    }
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(DeletedInSlot::Make)
@@ -74,46 +118,74 @@ class TestButtons : public QObject
     std::unique_ptr<QWidget> stage;
 
 private slots:
-    void baseButton()
+    void initTestCase()
+    {
+        QVERIFY(QFontDatabase::addApplicationFontFromData(TestFonts::Boxes("CommonLib boxes")) >=
+                0);
+    }
+
+    void buttonTellsPressAndClick()
+    {
+        QWidget window;
+        BaseButton button(7, "name", &window);
+        button.move(5, 6);
+        window.show();
+        QSignalSpy pressed(&button, &BaseButton::Pressed), clicked(&button, &BaseButton::Clicked);
+        QTest::mousePress(&button, Qt::LeftButton);
+        QCOMPARE(Told(pressed, button), QString("7"));
+        QCOMPARE(clicked.size(), 0);
+        QTest::mouseRelease(&button, Qt::LeftButton);
+        QCOMPARE(Told(clicked, button), QString("7"));
+        button.SetEnabled(false);
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QCOMPARE(pressed.size(), 0);
+        QCOMPARE(clicked.size(), 0);
+    }
+
+    void buttonTellsEnterAndLeave()
     {
         QWidget window;
         window.move(60, 70);
         BaseButton button(7, "name", &window);
         button.move(5, 6);
         window.show();
-        QSignalSpy clicked(&button, &BaseButton::Clicked), pressed(&button, &BaseButton::Pressed),
-            entered(&button, &BaseButton::sigEnter), left(&button, &BaseButton::sigLeave);
-        QTest::mousePress(&button, Qt::LeftButton);
-        QCOMPARE(Told(pressed, button), QString("7"));
-        QCOMPARE(clicked.size(), 0);
-        QTest::mouseRelease(&button, Qt::LeftButton);
-        QCOMPARE(Told(clicked, button), QString("7"));
+        QSignalSpy entered(&button, &BaseButton::sigEnter), left(&button, &BaseButton::sigLeave);
         entered.clear(); // of a pointer that happens to be there
         Send(&button, QEvent::Enter);
         QCOMPARE(Told(entered, button), QString("7"));
         Send(&button, QEvent::Leave);
         QCOMPARE(Told(left, button).right(1), QString("7"));
-        button.SetEnabled(false);
-        QTest::mouseClick(&button, Qt::LeftButton);
-        QCOMPARE(pressed.size() + clicked.size(), 0);
     }
 
-    void states()
+    void clicksAdvanceTheState()
     {
         States states;
         QSignalSpy spy(&states, &BaseStateButton::Clicked);
-        for (const QString id : {"11", "12", "13"}) {
-            QCOMPARE(states.Shown(), id);
-            QCOMPARE(QString::number(states.CurrentButtonId()), id);
+        for (const int id : {11, 12, 13, 11}) {
+            QCOMPARE(states.CurrentButtonId(), id);
+            QCOMPARE(states.Shown(), QString::number(id));
             QTest::mouseClick(states.windowHandle(), Qt::LeftButton, {}, {5, 5});
-            QCOMPARE(Told(spy, states), id);
+            QCOMPARE(Told(spy, states), QString::number(id));
         }
+    }
+
+    void callsChangeTheState()
+    {
+        States states;
         states.ClickCurrentButton();
-        spy.clear();
         states.resize(80, 60);
         QCOMPARE(states.Shown(), QString("12"));
         states.SetCurrentButtonId(13);
         QCOMPARE(states.Shown(), QString("13"));
+        states.Restore();
+        QCOMPARE(states.Shown(), QString("11"));
+    }
+
+    void unknownStateShowsNothing()
+    {
+        States states;
+        QSignalSpy spy(&states, &BaseStateButton::Clicked);
+        states.SetCurrentButtonId(13);
         states.SetCurrentButtonId(99);
         QCOMPARE(states.Shown(), QString());
         QCOMPARE(states.CurrentButtonId(), 13);
@@ -154,126 +226,152 @@ private slots:
         QCOMPARE(widget.log.join(' '), QString("text layout base"));
     }
 
-    void magicLabel()
+    void magicLabelIsRightAlignedInArabic_data()
     {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::addColumn<Qt::Alignment>("alignment");
+        const Qt::Alignment right = Qt::AlignRight | Qt::AlignVCenter;
+        QTest::newRow("without text") << "" << Qt::LeftToRight << right;
+        QTest::newRow("with text") << "text" << Qt::LeftToRight << right;
+        QTest::newRow("in a mirrored program")
+            << "text" << Qt::RightToLeft << (right | Qt::AlignAbsolute);
+    }
+    void magicLabelIsRightAlignedInArabic()
+    {
+        QFETCH(QString, text);
+        QFETCH(Qt::LayoutDirection, direction);
         gSetArgLang(true);
-        const MagicLabel plain(nullptr), text("text", nullptr);
-        QApplication::setLayoutDirection(Qt::RightToLeft);
-        const MagicLabel mirrored("text", nullptr);
+        QApplication::setLayoutDirection(direction);
+        const std::unique_ptr<MagicLabel> label(text.isEmpty() ? new MagicLabel(nullptr)
+                                                               : new MagicLabel(text, nullptr));
         QApplication::setLayoutDirection(Qt::LeftToRight);
         gSetArgLang(false);
-        for (const MagicLabel* label : {&plain, &text})
-            QCOMPARE(label->alignment(), Qt::AlignRight | Qt::AlignVCenter);
-        QVERIFY(QStyle::visualAlignment(Qt::RightToLeft, mirrored.alignment()) & Qt::AlignRight);
+        QTEST(label->alignment(), "alignment");
+        QVERIFY(QStyle::visualAlignment(direction, label->alignment()) & Qt::AlignRight);
     }
 
+    void imageAndText_data()
+    {
+        QTest::addColumn<int>("align");
+        QTest::addColumn<int>("height");
+        QTest::addColumn<QRect>("image");
+        QTest::addColumn<QRect>("text");
+        const auto row = [](const char* name, int align, int height, QRect image, QRect text) {
+            QTest::newRow(name) << align << height << image << text;
+        };
+        row("image at the left", 0, 40, {0, 0, 40, 40}, {39, 0, 61, 40});
+        row("above, no room for the text", 1, 40, {0, 0, 100, 100}, {0, 99, 100, 0});
+        row("at the right", 2, 40, {59, 0, 40, 40}, {0, 0, 60, 40});
+        row("above", 1, 180, {0, 0, 100, 100}, {0, 99, 100, 81});
+        row("below", 3, 180, {0, 79, 100, 100}, {0, 0, 100, 80});
+    }
     void imageAndText()
     {
-        const struct
-        {
-            int align, height;
-            QRect image, text;
-        } rows[] = {{0, 40, {0, 0, 40, 40}, {39, 0, 61, 40}},
-                    {1, 40, {0, 0, 100, 100}, {0, 99, 100, 0}}, // no room for the text
-                    {2, 40, {59, 0, 40, 40}, {0, 0, 60, 40}},
-                    {1, 180, {0, 0, 100, 100}, {0, 99, 100, 81}},
-                    {3, 180, {0, 79, 100, 100}, {0, 0, 100, 80}}};
-        for (const auto& row : rows) {
-            ImageTextButton button(5, "image", nullptr);
-            QCOMPARE(button.size(), QSize(300, 300));
-            button.setWindowFlag(Qt::FramelessWindowHint); // a frame may want a greater width
-            button.resize(100, row.height);
-            button.SetImageAlign(row.align); // laid out when it shows
-            button.show();
-            const auto* label = button.findChild<QLabel*>("ImageTextButton_Text");
-            QCOMPARE(button.findChild<BaseButton*>("image")->geometry(), row.image);
-            QCOMPARE(label->geometry(), row.text);
-            const auto across = row.align % 2 == 1 ? Qt::AlignHCenter : Qt::AlignLeft;
-            QCOMPARE(label->alignment(), across | Qt::AlignVCenter);
-        }
+        QFETCH(int, align);
+        QFETCH(int, height);
+        ImageTextButton button(5, "image", nullptr);
+        QCOMPARE(button.size(), QSize(300, 300));
+        button.setWindowFlag(Qt::FramelessWindowHint); // a frame may want a greater width
+        button.resize(100, height);
+        button.SetImageAlign(align); // laid out when it shows
+        button.show();
+        const auto* label = button.findChild<QLabel*>("ImageTextButton_Text");
+        QTEST(button.findChild<BaseButton*>("image")->geometry(), "image");
+        QTEST(label->geometry(), "text");
+        const auto across = align % 2 == 1 ? Qt::AlignHCenter : Qt::AlignLeft;
+        QCOMPARE(label->alignment(), across | Qt::AlignVCenter);
     }
 
+    void imageAndTextByMouse_data()
+    {
+        QTest::addColumn<QPoint>("pressed");
+        QTest::addColumn<QPoint>("released");
+        QTest::addColumn<QString>("clicked");
+        const QPoint image(20, 20), text(80, 20);
+        QTest::newRow("on the image") << image << image << "5";
+        QTest::newRow("on the text") << text << text << "5";
+        QTest::newRow("released beside it") << text << QPoint(80, 60) << "";
+    }
     void imageAndTextByMouse()
     {
+        QFETCH(QPoint, pressed);
+        QFETCH(QPoint, released);
         ImageTextButton button(5, "image", nullptr);
         button.setWindowFlag(Qt::FramelessWindowHint);
         button.resize(100, 40);
         button.show();
         button.SetText("Import");
         QSignalSpy clicked(&button, &ImageTextButton::Clicked);
-        for (const QPoint at : {QPoint(20, 20), QPoint(80, 20)}) { // the image, then the text
-            QTest::mouseClick(button.windowHandle(), Qt::LeftButton, {}, at);
-            QCOMPARE(Told(clicked, button), QString("5"));
-        }
-        QTest::mousePress(button.windowHandle(), Qt::LeftButton, {}, {80, 20});
-        QTest::mouseRelease(button.windowHandle(), Qt::LeftButton, {}, {80, 60});
-        QCOMPARE(clicked.size(), 0);
+        QTest::mousePress(button.windowHandle(), Qt::LeftButton, {}, pressed);
+        QTest::mouseRelease(button.windowHandle(), Qt::LeftButton, {}, released);
+        QTEST(Told(clicked, button), "clicked");
     }
 
-    void tab()
+    void tabShowsItsTextInTheMiddle()
     {
-        ImageTextButton2 tab(6, "tab", nullptr);
-        tab.setStyleSheet("ImageTextButton2 { background: white }");
-        tab.resize(60, 60);
-        const auto bounds = [&tab](const QColor& color) {
-            const QImage mask =
-                tab.grab().toImage().createMaskFromColor(color.rgb(), Qt::MaskOutColor);
-            return QRegion(QBitmap::fromImage(mask)).boundingRect();
-        };
-        // Rasterisers may differ in the outermost pixels.
-        const auto showsText = [&bounds](int top) {
-            const QRect text = bounds(Qt::green);
-            return qAbs(text.top() - top) < 2 && qAbs(text.height() - 7) < 2 &&
-                   qAbs(text.width() - 26) < 3 && qAbs(text.center().x() - 30) < 2;
-        };
-        QVERIFY(QFontDatabase::addApplicationFontFromData(TestFonts::Boxes("CommonLib boxes")) >=
-                0);
-        QFont font("CommonLib boxes");
-        font.setPixelSize(10);
-        tab.setFont(font);
-        tab.SetText("HHHH");
-        tab.SetNormalTextColor(Qt::green);
+        Tab tab;
         QCOMPARE(tab.sizeHint().height(), 46);
-        QVERIFY(showsText(30)); // without an image
-        QPixmap pixmap(20, 10);
-        pixmap.fill(Qt::red);
-        tab.SetNormalImage(pixmap);
-        pixmap = QPixmap(20, 20); // 10 by 10 on a screen of twice the density
-        pixmap.setDevicePixelRatio(2);
-        pixmap.fill(Qt::blue);
-        tab.SetSelectedImage(pixmap);
-        tab.SetSelectedTextColor(Qt::black);
-        QCOMPARE(bounds(Qt::red), QRect(20, 15, 20, 10));
-        QVERIFY(showsText(35));
-        QVERIFY(bounds(Qt::blue).isNull() && bounds(Qt::black).isNull());
+        QCOMPARE(tab.TextOutsideOf(30), QString());
+    }
 
+    void tabShowsItsImageAboveTheText()
+    {
+        Tab tab;
+        tab.SetImages();
+        QCOMPARE(tab.Bounds(Qt::red), QRect(20, 15, 20, 10));
+        QCOMPARE(tab.TextOutsideOf(35), QString());
+        QCOMPARE(tab.Bounds(Qt::blue), QRect());
+        QCOMPARE(tab.Bounds(Qt::black), QRect());
+    }
+
+    void selectedTabShowsTheOtherImageAndColour()
+    {
+        Tab tab;
+        tab.SetImages();
         QSignalSpy selected(&tab, &ImageTextButton2::sigSelected);
         tab.SetButtonState(ImageTextButton2::Selected);
         QCOMPARE(selected.size(), 0);
-        QCOMPARE(bounds(Qt::blue), QRect(25, 15, 10, 10));
-        QVERIFY(!bounds(Qt::black).isNull() && bounds(Qt::red).isNull());
-        for (const bool byKey : {false, true}) {
-            tab.SetButtonState(ImageTextButton2::Normal);
-            byKey ? QTest::keyPress(&tab, Qt::Key_Space) : QTest::mousePress(&tab, Qt::LeftButton);
-            QVERIFY(!bounds(Qt::blue).isNull());
-        }
-        QCOMPARE(Told(selected, tab), QString("66"));
+        QCOMPARE(tab.Bounds(Qt::blue), QRect(25, 15, 10, 10));
+        QCOMPARE(tab.Bounds(Qt::red), QRect());
+        QVERIFY(!tab.Bounds(Qt::black).isNull());
+    }
+
+    void userSelectsATab_data()
+    {
+        QTest::addColumn<bool>("byKey");
+        QTest::newRow("by a key") << true;
+        QTest::newRow("by the mouse") << false;
+    }
+    void userSelectsATab()
+    {
+        QFETCH(bool, byKey);
+        Tab tab;
+        tab.SetImages();
+        QSignalSpy selected(&tab, &ImageTextButton2::sigSelected);
+        byKey ? QTest::keyPress(&tab, Qt::Key_Space) : QTest::mousePress(&tab, Qt::LeftButton);
+        QVERIFY(!tab.Bounds(Qt::blue).isNull());
+        QCOMPARE(Told(selected, tab), QString("6"));
     }
 
     void accessibleNames()
     {
         BaseButton button("name", nullptr);
-        ImageTextButton2 tab(1, "tab", nullptr);
-        tab.SetText("Media");
+        Tab tab;
         const auto name = [](QWidget& widget) {
             return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
         };
-        QCOMPARE(name(tab), QString("Media"));
+        QCOMPARE(name(tab), QString("HHHH"));
         for (const char* property : {"objectName", "toolTip", "text", "accessibleName"}) {
-            button.setProperty(property, property);
+            button.setProperty(property, property); // goes before the ones before
             QCOMPARE(name(button), QString(property));
         }
+    }
 
+    void accessiblePress()
+    {
+        BaseButton button("name", nullptr);
+        Tab tab;
         QSignalSpy clicked(&button, &BaseButton::Clicked),
             selected(&tab, &ImageTextButton2::sigSelected);
         for (QWidget* widget : {static_cast<QWidget*>(&button), static_cast<QWidget*>(&tab)}) {
