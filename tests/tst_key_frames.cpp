@@ -11,8 +11,12 @@ using namespace Scripted;
 using Setting = VideoKeyFrameSetting;
 using Param = VideoKeyFrameParam;
 using Operation = QVariant (*)(Setting&);
+Q_DECLARE_METATYPE(Operation)
+Q_DECLARE_METATYPE(Param)
 
 static const Param Second = {0.5, 30, 0.25, {1, 2}, {3, 4}};
+
+static const Param Usual = {0.5, 0, 0.75, {0.25, -0.5}, {2, 2}};
 
 static QString Read(const Setting& setting, int index, Param param = {})
 {
@@ -32,6 +36,25 @@ static int Find(const Setting& setting, int frame, int count)
 struct Service : NLETimelineContextPropertyService
 {
     explicit Service(INLEBasin* basin) { m_basin = basin; }
+};
+
+/// A host's service on a basin with a bag.
+struct Context
+{
+    inline static const QString Fill = "factory.CreateProperties() basin.FillProperties(bag) bag.";
+    const NLEComPtr<Properties> bag = MakeCom<Properties>("bag");
+    const wchar_t* const keys = L"a\0b";
+    const QMap<const wchar_t*, double> two = {{keys + 2, 2}, {keys, 1}};
+    Service service{nullptr};
+
+    Context()
+    {
+        Script::Get().results["factory.CreateProperties"] = bag;
+        service = Service(MakeCom<Basin>("basin").get()); // a copy has the same basin
+        NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
+        TakeCalls();
+    }
+    QString TakeCalls() { return Script::Get().TakeCalls().join(' '); }
 };
 
 class tst_KeyFrames : public QObject
@@ -58,54 +81,81 @@ private slots:
         QCOMPARE(script.liveObjects, QStringList());
     }
 
+    void operations_data()
+    {
+        QTest::addColumn<Operation>("operation");
+        QTest::addColumn<QVariant>("value");   // of a clip with two key frames
+        QTest::addColumn<QVariant>("neutral"); // of one without a list, and of none
+        QTest::addColumn<QString>("calls");
+        const auto row = [](const char* name, const QVariant& value, const QVariant& neutral,
+                            const QString& calls, Operation operation) {
+            QTest::newRow(name) << operation << value << neutral << calls;
+        };
+        using S = Setting;
+        using V = QVariant;
+        const QString read = "GetKeyFrame(1)", unread = "0 0 1 0 1 failed";
+        const QString change = read + " SetKeyFrame(1, 0.5 %1 1)";
+        row("add", 1, -1, "AddKeyFrame(0.5 30 1 2 3 4 0.25 1)",
+            [](S& s) -> V { return s.AddKeyFrame(Second); });
+        row("delete", true, false, "DeleteKeyFrame(1)",
+            [](S& s) -> V { return s.DeleteKeyFrame(1); });
+        row("delete below the first", false, false, "",
+            [](S& s) -> V { return s.DeleteKeyFrame(-1); });
+        row("delete behind the last", false, false, "",
+            [](S& s) -> V { return s.DeleteKeyFrame(2); });
+        row("clear", 0, 0, "DeleteAll()", [](S& s) { return s.ClearAllKeyFrame(), V(0); });
+        row("count", 2, 0, "", [](S& s) -> V { return s.GetKeyFrameCount(); });
+        row("read", "0.5 30 0.25 2 4", unread, read, [](S& s) -> V { return Read(s, 1); });
+        row("read behind the last", unread, unread, "", [](S& s) -> V { return Read(s, 2); });
+        row("read at a time", "0.25 0 1 0 1", "0 0 1 0 1", "GetParamAt(0.75)",
+            [](S& s) -> V { return Read(s, -1, s.GetKeyFrameParam(0.75)); });
+        row("set", 0, 0, "SetKeyFrame(0, 0.5 30 1 2 3 4 0.25 1)",
+            [](S& s) { return s.SetKeyFrameParam(0, Second), V(0); });
+        row("set behind the last", 0, 0, "",
+            [](S& s) { return s.SetKeyFrameParam(2, Second), V(0); });
+        row("find", 1, -1, "GetKeyFrame(0) " + read,
+            [](S& s) -> V { return s.GetKeyFrameIndex(Second); });
+        row("find what is not there", -1, -1, "GetKeyFrame(0) " + read,
+            [](S& s) -> V { return s.GetKeyFrameIndex(Param()); });
+        row("find by frame", 1, -1, "FindIndex(3, 50)", [](S& s) -> V { return Find(s, 3, 50); });
+        row("position", QPointF(1, 2), QPointF(), read, [](S& s) -> V { return s.GetPosition(1); });
+        row("scale", QSizeF(3, 4), QSizeF(1, 1), read, [](S& s) -> V { return s.GetScale(1); });
+        row("angle", 30.0, 0.0, read, [](S& s) -> V { return s.GetRotateAngle(1); });
+        row("opacity", 0.25, 1.0, read, [](S& s) -> V { return s.GetOpacity(1); });
+        row("set position", 0, 0, change.arg("30 7 8 3 4 0.25"), [](S& s) {
+            return s.SetPosition(1, {7, 8}), V(0);
+        });
+        row("set scale", 0, 0, change.arg("30 1 2 7 8 0.25"), [](S& s) {
+            return s.SetScale(1, {7, 8}), V(0);
+        });
+        row("set angle", 0, 0, change.arg("-9 1 2 3 4 0.25"),
+            [](S& s) { return s.SetRotateAngle(1, -9), V(0); });
+        row("set opacity", 0, 0, change.arg("30 1 2 3 4 0.5"),
+            [](S& s) { return s.SetOpacity(1, 0.5), V(0); });
+        row("set opacity behind the last", 0, 0, "",
+            [](S& s) { return s.SetOpacity(2, 0.5), V(0); });
+        row("after the first", true, false, "", [](S& s) -> V { return s.HasNext(0); });
+        row("after the last", false, false, "", [](S& s) -> V { return s.HasNext(1); });
+        row("before the last", true, false, "", [](S& s) -> V { return s.HasPrevious(1); });
+        row("before the first", false, false, "", [](S& s) -> V { return s.HasPrevious(0); });
+        row("switch on", true, false, "SetStatus(true)",
+            [](S& s) -> V { return s.SetKeyFrameStatus(true); });
+        row("switched on", true, false, "SetStatus(true) GetStatus()",
+            [](S& s) { return s.SetKeyFrameStatus(true), V(s.GetKeyFrameStatus()); });
+    }
     void operations()
     {
-        // What a clip with key frames gives, one without a list and none; and the engine's calls.
-        const auto outcome = [this](Operation operation) -> QVariantList {
-            const Engine e;
-            Setting setting(e.node);
-            const QVariant value = operation(setting);
-            QStringList calls = script.TakeCalls();
-            calls.removeAll("keys.GetCount()");
-            setting.SetTimeline(MakeCom<Node>("lacking"));
-            const QVariant neutral = operation(setting);
-            return {value, neutral, operation(setting = Setting(nullptr)),
-                    calls.join(' ').remove("keys.")};
-        };
-#define CHECK(expression, value, neutral, calls)                                                   \
-    QCOMPARE(outcome([](Setting& s) -> QVariant { return expression; }),                           \
-             QVariantList({value, neutral, neutral, QString(calls)}))
-        const QString read = "GetKeyFrame(1)";
-        const QString change = read + " SetKeyFrame(1, 0.5 %1 1)";
-        CHECK(s.AddKeyFrame(Second), 1, -1, "AddKeyFrame(0.5 30 1 2 3 4 0.25 1)");
-        CHECK(s.DeleteKeyFrame(1), true, false, "DeleteKeyFrame(1)");
-        CHECK(s.DeleteKeyFrame(-1), false, false, "");
-        CHECK(s.DeleteKeyFrame(2), false, false, "");
-        CHECK((s.ClearAllKeyFrame(), 0), 0, 0, "DeleteAll()");
-        CHECK(s.GetKeyFrameCount(), 2, 0, "");
-        CHECK(Read(s, 1), "0.5 30 0.25 2 4", "0 0 1 0 1 failed", read);
-        CHECK(Read(s, 2), "0 0 1 0 1 failed", "0 0 1 0 1 failed", "");
-        CHECK(Read(s, -1, s.GetKeyFrameParam(0.75)), "0.25 0 1 0 1", "0 0 1 0 1",
-              "GetParamAt(0.75)");
-        CHECK((s.SetKeyFrameParam(0, Second), 0), 0, 0, "SetKeyFrame(0, 0.5 30 1 2 3 4 0.25 1)");
-        CHECK((s.SetKeyFrameParam(2, Second), 0), 0, 0, "");
-        CHECK(s.GetKeyFrameIndex(Second), 1, -1, "GetKeyFrame(0) " + read);
-        CHECK(s.GetKeyFrameIndex(Param()), -1, -1, "GetKeyFrame(0) " + read);
-        CHECK(Find(s, 3, 50), 1, -1, "FindIndex(3, 50)");
-        CHECK(s.GetPosition(1), QPointF(1, 2), QPointF(), read);
-        CHECK(s.GetScale(1), QSizeF(3, 4), QSizeF(1, 1), read);
-        CHECK(s.GetRotateAngle(1), 30.0, 0.0, read);
-        CHECK(s.GetOpacity(1), 0.25, 1.0, read);
-        CHECK((s.SetPosition(1, {7, 8}), 0), 0, 0, change.arg("30 7 8 3 4 0.25"));
-        CHECK((s.SetScale(1, {7, 8}), 0), 0, 0, change.arg("30 1 2 7 8 0.25"));
-        CHECK((s.SetRotateAngle(1, -9), 0), 0, 0, change.arg("-9 1 2 3 4 0.25"));
-        CHECK((s.SetOpacity(1, 0.5), 0), 0, 0, change.arg("30 1 2 3 4 0.5"));
-        CHECK((s.SetOpacity(2, 0.5), 0), 0, 0, "");
-        CHECK(s.HasNext(0) && !s.HasNext(1), true, false, "");
-        CHECK(s.HasPrevious(1) && !s.HasPrevious(0), true, false, "");
-        CHECK(s.SetKeyFrameStatus(true) && s.GetKeyFrameStatus(), true, false,
-              "SetStatus(true) GetStatus()");
-#undef CHECK
+        QFETCH(Operation, operation);
+        const Engine e;
+        Setting setting(e.node);
+        QTEST(operation(setting), "value");
+        QStringList calls = script.TakeCalls();
+        calls.removeAll("keys.GetCount()");
+        QTEST(calls.join(' ').remove("keys."), "calls");
+        setting.SetTimeline(MakeCom<Node>("lacking"));
+        QTEST(operation(setting), "neutral");
+        setting = Setting(nullptr);
+        QTEST(operation(setting), "neutral");
     }
 
     void failures()
@@ -116,47 +166,82 @@ private slots:
             script.statuses[QString("keys.") + operation] = S_FALSE; // no success for these
         script.statuses["keys.GetParamAt"] = script.statuses["keys.AddKeyFrame"] = E_FAIL;
         QCOMPARE(Read(setting, 1), "0 0 1 0 1 failed");
-        QVERIFY(setting.GetAllKeyFrameParams().isEmpty() && Find(setting, 1, 2) == -1);
-        QVERIFY(!setting.SetKeyFrameStatus(true) && !setting.GetKeyFrameStatus());
+        QCOMPARE(setting.GetAllKeyFrameParams().size(), 0);
+        QCOMPARE(Find(setting, 1, 2), -1);
+        QCOMPARE(setting.SetKeyFrameStatus(true), false);
+        QCOMPARE(setting.GetKeyFrameStatus(), false);
         QVERIFY(setting.GetKeyFrameParam(0.5) == Param());
         QCOMPARE(setting.AddKeyFrame(Second), -1);
     }
 
+    void equality_data()
+    {
+        QTest::addColumn<Param>("other");
+        QTest::addColumn<bool>("strict");
+        QTest::addColumn<bool>("loose");
+        const auto row = [](const char* name, bool strict, bool loose, void (*edit)(Param&)) {
+            Param other = Usual;
+            edit(other);
+            QTest::newRow(name) << other << strict << loose;
+        };
+        row("another time", false, true, [](Param& p) { p.time = 3; });
+        row("angle hardly", false, true, [](Param& p) { p.rotateAngle = 1e-13; });
+        row("angle", false, false, [](Param& p) { p.rotateAngle = 1e-11; });
+        row("opacity hardly", false, true, [](Param& p) { p.opacity += 1e-13; });
+        row("position hardly", true, true, [](Param& p) { p.position.rx() += 1e-13; });
+        row("position", false, false, [](Param& p) { p.position.ry() -= 3e-12; });
+        row("scale hardly", true, true, [](Param& p) { p.scale.rwidth() += 1e-12; });
+        row("scale", false, false, [](Param& p) { p.scale.rheight() += 1e-11; });
+        row("no number", false, false, [](Param& p) { p.position.rx() = qQNaN(); });
+    }
     void equality()
     {
-        const Param a = {0.5, 0, 0.75, {0.25, -0.5}, {2, 2}};
-        const auto check = [&](bool strict, bool loose, void (*edit)(Param&)) {
-            Param b = a;
-            edit(b);
-            return (a == b) == strict && video_keyframe_equals(nullptr, a, b) == loose;
-        };
-        QVERIFY(check(false, true, [](Param& p) { p.time = 3; }));
-        QVERIFY(check(false, true, [](Param& p) { p.rotateAngle = 1e-13; }));
-        QVERIFY(check(false, false, [](Param& p) { p.rotateAngle = 1e-11; }));
-        QVERIFY(check(false, true, [](Param& p) { p.opacity += 1e-13; }));
-        QVERIFY(check(true, true, [](Param& p) { p.position.rx() += 1e-13; }));
-        QVERIFY(check(false, false, [](Param& p) { p.position.ry() -= 3e-12; }));
-        QVERIFY(check(true, true, [](Param& p) { p.scale.rwidth() += 1e-12; }));
-        QVERIFY(check(false, false, [](Param& p) { p.scale.rheight() += 1e-11; }));
-        QVERIFY(check(false, false, [](Param& p) { p.position.rx() = qQNaN(); }));
-        QVERIFY(compare_double(0.123, 0.124, 2) && !compare_double(0.123, 0.124, 3));
-        QVERIFY(compare_double(-0.5, -1.0, 0) && !compare_double(0.49, 0.5, 0));
-        QVERIFY(!compare_double(1e300, 2e300, 2) && !compare_double(qQNaN(), 0, 2));
+        QFETCH(Param, other);
+        QTEST(Usual == other, "strict");
+        QTEST(video_keyframe_equals(nullptr, Usual, other), "loose");
     }
 
-    void framesAndPlaces()
+    void roundedEquality_data()
     {
-        const auto place = CalculateVideoKeyFramePosition;
-        const auto index = CalculateVideoKeyFrameIndex;
+        QTest::addColumn<double>("a");
+        QTest::addColumn<double>("b");
+        QTest::addColumn<int>("digits");
+        QTest::addColumn<bool>("equal");
+        QTest::newRow("equal to two digits") << 0.123 << 0.124 << 2 << true;
+        QTest::newRow("but not to three") << 0.123 << 0.124 << 3 << false;
+        QTest::newRow("halves go away from zero") << -0.5 << -1.0 << 0 << true;
+        QTest::newRow("less than a half does not") << 0.49 << 0.5 << 0 << false;
+        QTest::newRow("huge") << 1e300 << 2e300 << 2 << false;
+        QTest::newRow("no number") << qQNaN() << 0.0 << 2 << false;
+    }
+    void roundedEquality()
+    {
+        QFETCH(double, a);
+        QFETCH(double, b);
+        QFETCH(int, digits);
+        QTEST(compare_double(a, b, digits), "equal");
+    }
+
+    void placesGiveTheirFrames()
+    {
         int wrong = 0;
         for (int count = 1; count <= 10000; ++count) {
-            for (int i = 0; i < count; ++i)
-                wrong += index(place(i, count), count) != i;
+            for (int i = 0; i < count; ++i) {
+                const double place = CalculateVideoKeyFramePosition(i, count);
+                wrong += CalculateVideoKeyFrameIndex(place, count) != i;
+            }
         }
         QCOMPARE(wrong, 0);
-        QVERIFY(place(-5, 20) == -0.25 && place(3, 0) == 0);
-        QVERIFY(index(qInf(), 20) == INT_MAX && index(-1e300, 20) == INT_MIN);
-        QVERIFY(index(qQNaN(), 20) == 0 && index(0.5, -1) == 0);
+    }
+
+    void oddFramesAndPlaces()
+    {
+        QCOMPARE(CalculateVideoKeyFramePosition(-5, 20), -0.25);
+        QCOMPARE(CalculateVideoKeyFramePosition(3, 0), 0.0);
+        QCOMPARE(CalculateVideoKeyFrameIndex(qInf(), 20), INT_MAX);
+        QCOMPARE(CalculateVideoKeyFrameIndex(-1e300, 20), INT_MIN);
+        QCOMPARE(CalculateVideoKeyFrameIndex(qQNaN(), 20), 0);
+        QCOMPARE(CalculateVideoKeyFrameIndex(0.5, -1), 0);
     }
 
     void pixels()
@@ -178,37 +263,45 @@ private slots:
         QCOMPARE(ConvertFromUIToNLEPosition(nullptr, place), QPointF(0, 0));
     }
 
-    void context()
+    void contextGivesAndTakesValues()
     {
-        const auto bag = MakeCom<Properties>("bag");
-        script.results["factory.CreateProperties"] = bag;
-        Service service(nullptr);
-        service = Service(MakeCom<Basin>("basin").get()); // a copy has the same basin
-        NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
-        const auto calls = [this] { return script.TakeCalls().join(' '); };
-        const QString fill = "factory.CreateProperties() basin.FillProperties(bag) bag.";
+        Context context;
         bool flag = false;
-        calls();
-        QVERIFY(service.SetIntValue(L"i", 7));
-        QCOMPARE(calls(), fill + "SetInt(i, 7) basin.TakeProperties(bag)");
-        QVERIFY(service.GetBoolValue(L"i", flag) && flag);
-        QVERIFY(!service.GetBoolValue(L"none", flag) && flag);
+        QVERIFY(context.service.SetIntValue(L"i", 7));
+        QCOMPARE(context.TakeCalls(), Context::Fill + "SetInt(i, 7) basin.TakeProperties(bag)");
+        QVERIFY(context.service.GetBoolValue(L"i", flag));
+        QCOMPARE(flag, true);
+        QVERIFY(!context.service.GetBoolValue(L"none", flag));
+        QCOMPARE(flag, true);
+    }
 
-        const wchar_t* const keys = L"a\0b";
-        const QMap<const wchar_t*, double> pair = {{keys + 2, 2}, {keys, 1}};
-        calls();
-        QVERIFY(!service.SetDoubleValues({}) && calls().isEmpty());
-        QVERIFY(service.SetDoubleValues(pair));
-        QCOMPARE(calls(), fill + "SetDouble(a, 1) bag.SetDouble(b, 2) basin.TakeProperties(bag)");
+    void contextTakesSeveralValuesByTheirAddresses()
+    {
+        Context context;
+        QVERIFY(context.service.SetDoubleValues(context.two));
+        QCOMPARE(context.TakeCalls(), Context::Fill + "SetDouble(a, 1) bag.SetDouble(b, 2) "
+                                                      "basin.TakeProperties(bag)");
+        QVERIFY(!context.service.SetDoubleValues({}));
+        QCOMPARE(context.TakeCalls(), QString());
+    }
+
+    void contextStopsAtTheFirstFailure()
+    {
+        Context context;
         script.statuses["bag.SetDouble"] = E_FAIL;
-        QVERIFY(!service.SetDoubleValues(pair));
-        QCOMPARE(calls(), fill + "SetDouble(a, 1)");
+        QVERIFY(!context.service.SetDoubleValues(context.two));
+        QCOMPARE(context.TakeCalls(), Context::Fill + "SetDouble(a, 1)");
         script.statuses = {{"basin.TakeProperties", E_FAIL}};
-        QVERIFY(!service.SetDoubleValues(pair) && !service.SetIntValue(L"i", 1));
-        calls();
-        service.SetContextProperty(nullptr);
-        service.SetContextProperty(bag);
-        QCOMPARE(calls(), QString("basin.TakeProperties(bag)"));
+        QVERIFY(!context.service.SetDoubleValues(context.two));
+        QVERIFY(!context.service.SetIntValue(L"i", 1));
+    }
+
+    void contextTakesABag()
+    {
+        Context context;
+        context.service.SetContextProperty(nullptr);
+        context.service.SetContextProperty(context.bag);
+        QCOMPARE(context.TakeCalls(), QString("basin.TakeProperties(bag)"));
     }
 
     void contextWithoutBasin()
@@ -218,17 +311,19 @@ private slots:
         int number = 9;
         bool flag = true;
         double value = 0.5;
-        const bool any[] = {s.GetIntValue(L"k", number),    s.SetIntValue(L"k", 1),
-                            s.GetBoolValue(L"k", flag),     s.SetBoolValue(L"k", true),
-                            s.GetDoubleValue(L"k", value),  s.SetDoubleValue(L"k", 1),
-                            s.SetDoubleValues({{L"k", 1}}), s.SetDoubleValues({})};
-        QVERIFY(std::count(std::begin(any), std::end(any), true) == 0 &&
-                !s.SetProperty(MakeCom<Properties>("bag")));
-        QVERIFY(number == 9 && flag && value == 0.5);
+        const QVector<bool> any{s.GetIntValue(L"k", number),    s.SetIntValue(L"k", 1),
+                                s.GetBoolValue(L"k", flag),     s.SetBoolValue(L"k", true),
+                                s.GetDoubleValue(L"k", value),  s.SetDoubleValue(L"k", 1),
+                                s.SetDoubleValues({{L"k", 1}}), s.SetDoubleValues({})};
+        QCOMPARE(any, QVector<bool>(any.size(), false));
+        QVERIFY(!s.SetProperty(MakeCom<Properties>("bag")));
+        QCOMPARE(number, 9);
+        QCOMPARE(flag, true);
+        QCOMPARE(value, 0.5);
         const QString line = "-ERROR- [NLETimelineContextPropertyService::GetContextProperty]:  "
                              "%1 is null - [CommonLib/NLEWraper/NLETimeline(%2)]";
         QStringList expected;
-        for (size_t i = 0; i < std::size(any); ++i)
+        for (int i = 0; i < any.size(); ++i)
             expected << line.arg("basin").arg(1180) << line.arg("context property").arg(1185);
         QCOMPARE(log.Take(), expected);
     }
