@@ -217,7 +217,9 @@ private Q_SLOTS:
                                       "node.GetRenderFrameRate", "node.GetId"})
             script.statuses[operation] = E_FAIL;
         QCOMPARE(timeline.GetRange(), qMakePair(0, 0));
-        QCOMPARE(timeline.GetPlayLen() + timeline.GetTotalLength() + timeline.GetDuration(), 0);
+        QCOMPARE(timeline.GetPlayLen(), 0);
+        QCOMPARE(timeline.GetTotalLength(), 0);
+        QCOMPARE(timeline.GetDuration(), 0);
         QVERIFY(!timeline.IsFrameIn(0));
         QCOMPARE(timeline.GetRenderFrameRate(), 25.f);
         QCOMPARE(timeline.GetGuidString(), "0");
@@ -245,7 +247,8 @@ private Q_SLOTS:
         clip.SetClipPos(&clip, 6);
         clip.SetClipLevel(&clip, 2);
         QCOMPARE(clip.moves, 1);
-        QVERIFY(e->node->position == 6 && e->node->level == 2);
+        QCOMPARE(e->node->position, 6);
+        QCOMPARE(e->node->level, 2);
     }
 
     void lengths_data()
@@ -283,37 +286,59 @@ private Q_SLOTS:
         QTEST(inside, "inside");
     }
 
-    void freezeFrame()
+    void freezeFrame_data()
     {
-        NLETimeline timeline(e->node, ExactType_Video, nullptr);
-        const auto calls = [&](int frame, int count) {
-            timeline.SetFreezeFrame(frame, count);
-            return script.TakeCalls().filter("Set").join(' ');
+        QTest::addColumn<int>("frame");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<QString>("calls");
+        const auto row = [](const char* name, int frame, int count, const QString& range) {
+            const QString freeze = "bag.SetInt(kFreeze_Frame, %1) bag.SetInt(kFreeze_Enabled, 1)%2";
+            QTest::newRow(name) << frame << count << freeze.arg(QString::number(frame), range);
         };
-        const QString freeze = "bag.SetInt(kFreeze_Frame, %1) bag.SetInt(kFreeze_Enabled, 1)";
-        QCOMPARE(calls(-3, 1), freeze.arg(-3) + " node.SetRange(-3..-3)");
-        QCOMPARE(calls(5, 10), freeze.arg(5) + " node.SetRange(5..14)");
-        QCOMPARE(calls(5, 10), freeze.arg(5)); // the range stands already
-        QCOMPARE(calls(Max - 1, Max),
-                 freeze.arg(Max - 1) + " node.SetRange(2147483646..2147483647)");
-        QCOMPARE(calls(5, 0) + calls(Min, Min), QString());
+        row("one", -3, 1, " node.SetRange(-3..-3)");
+        row("ten", 5, 10, " node.SetRange(5..14)");
+        row("the range stands already", 2, 3, "");
+        row("up to the greatest", Max - 1, Max, " node.SetRange(2147483646..2147483647)");
+        QTest::newRow("none") << 5 << 0 << "";
+        QTest::newRow("fewer than none") << Min << Min << "";
     }
 
-    void tree()
+    void freezeFrame()
     {
-        Probe clip(e->lacking.get());
-        NLETimeline project(e->node, ExactType_Project, nullptr);
+        QFETCH(int, frame);
+        QFETCH(int, count);
+        e->node->range = {2, 4};
+        NLETimeline timeline(e->node, ExactType_Video, nullptr);
+        timeline.SetFreezeFrame(frame, count);
+        QTEST(script.TakeCalls().filter("Set").join(' '), "calls");
+    }
+
+    void givesItsParent()
+    {
+        NLETimeline clip(e->lacking, ExactType_Video, nullptr);
         QCOMPARE(Text(clip.GetParentTimeline().get()), "parent");
         script.statuses["lacking.GetParent"] = E_FAIL;
         QVERIFY(!clip.GetParentTimeline());
-        QVERIFY(project.GetChilds().isEmpty());
+    }
+
+    void givesItsChildren()
+    {
+        using Children = QList<NLEComPtr<INLETimeline>>;
+        NLETimeline project(e->node, ExactType_Project, nullptr);
+        QCOMPARE(project.GetChilds(), Children());
         e->composite->clips = {e->lacking, e->node, e->lacking};
         QCOMPARE(project.GetClipCount(), 3);
-        QCOMPARE(project.GetChilds(),
-                 QList<NLEComPtr<INLETimeline>>({e->lacking, e->node, e->lacking}));
+        QCOMPARE(project.GetChilds(), Children({e->lacking, e->node, e->lacking}));
         e->composite->clips.clear();
-        QVERIFY(clip.GetClipCount() == 0 && clip.GetChilds().isEmpty());
+        NLETimeline clip(e->lacking, ExactType_Video, nullptr);
+        QCOMPARE(clip.GetClipCount(), 0);
+        QCOMPARE(clip.GetChilds(), Children());
+    }
 
+    void clipsComeAndGo()
+    {
+        Probe clip(e->lacking.get());
+        NLETimeline project(e->node, ExactType_Project, nullptr);
         script.TakeCalls();
         project.AddClipSuper(&clip, 9, 4);
         project.AddClipSuper(&clip, 9, 5);
@@ -327,6 +352,12 @@ private Q_SLOTS:
                  "lacking.SetLevel(5) lacking.GetPosition() composite.AddClip(lacking) "
                  "composite.RemoveClip(lacking) composite.AddClip(lacking) "
                  "composite.RemoveClip(lacking)");
+    }
+
+    void noClipIsIgnored()
+    {
+        NLETimeline project(e->node, ExactType_Project, nullptr);
+        script.TakeCalls();
         project.AddClipSuper(nullptr, 1, 2);
         project.AddClipSuper(NLEComPtr<INLETimeline>());
         project.RemoveClip(static_cast<NLETimeline*>(nullptr));
@@ -335,15 +366,32 @@ private Q_SLOTS:
         project.SetClipRange(nullptr, 1, 2);
         project.SetClipLevel(nullptr, 1);
         QCOMPARE(script.TakeCalls(), QStringList());
+    }
+
+    void clipIsPlacedThoughNotAdded()
+    {
+        NLETimeline clip(e->lacking, ExactType_Video, nullptr);
+        NLETimeline project(e->node, ExactType_Project, nullptr);
         clip.AddClipSuper(&project, 3, 4);
         clip.RemoveClip(&project);
-        QVERIFY2(e->node->position == 3 && e->node->level == 4, "placed, though not added");
+        QCOMPARE(e->node->position, 3);
+        QCOMPARE(e->node->level, 4);
+    }
 
-        QVERIFY(!clip.IsSource() && !clip.IsEffect() && !clip.IsTransition() && project.IsSource());
+    void kinds()
+    {
+        const auto kinds = [](const NLETimeline& timeline) {
+            return QString(timeline.IsSource() ? "source " : "") +
+                   (timeline.IsEffect() ? "effect " : "") +
+                   (timeline.IsTransition() ? "transition " : "");
+        };
+        const NLETimeline clip(e->lacking, ExactType_Video, nullptr);
+        QCOMPARE(kinds(NLETimeline(e->node, ExactType_Project, nullptr)), "source ");
+        QCOMPARE(kinds(clip), "");
         e->lacking->Offer<INLETimelineEffect>(MakeCom<Kinds>("kinds"));
-        QVERIFY(clip.IsEffect() && !clip.IsTransition());
+        QCOMPARE(kinds(clip), "effect ");
         e->lacking->Offer<INLETimelineTransition>(MakeCom<Kinds>("kinds"));
-        QVERIFY(clip.IsTransition());
+        QCOMPARE(kinds(clip), "effect transition ");
     }
 
     void currentNode()
@@ -377,7 +425,7 @@ private Q_SLOTS:
         QVERIFY(script.TakeCalls().contains("composite.GetEnumerator(1)"));
     }
 
-    void project()
+    void projectSettingsChangeTheirPartOfTheProfile()
     {
         e->setting->profile = {{64, 48}, {30, 1}, 44100, 1, 8};
         NLETimeline project(e->node, ExactType_Project, nullptr);
@@ -386,18 +434,27 @@ private Q_SLOTS:
         const tagNLEProjectProfile profile = project.GetProjectProfile();
         QCOMPARE(Text(profile.frameRate), "12500000/1000000");
         QCOMPARE(Text(profile.frameSize), "-1x5");
-        QVERIFY2(profile.sampleRate == 44100 && profile.channels == 1 && profile.sampleFormat == 8,
-                 "the rest is written back as it was");
+        QCOMPARE(int(profile.sampleRate), 44100);
+        QCOMPARE(int(profile.channels), 1);
+        QCOMPARE(int(profile.sampleFormat), 8);
         QCOMPARE(project.GetProjectFps(), 12.5f);
+    }
+
+    void projectProfileThatFails()
+    {
+        NLETimeline project(e->node, ExactType_Project, nullptr);
         script.statuses["setting.GetProfile"] = E_FAIL;
-        script.TakeCalls();
         project.SetProjectFps(50);
         project.SetProjectResolution(1, 1);
         QCOMPARE(script.TakeCalls().filter("SetProfile"), QStringList());
         QCOMPARE(Text(project.GetProjectProfile().frameSize), "1920x1080");
         QCOMPARE(project.GetProjectResolution(), QSize(0, 0));
         QCOMPARE(project.GetProjectFps(), 0.f);
-        QCOMPARE(Probe(e->lacking.get()).GetProjectResolution(), QSize()); // an invalid one
+    }
+
+    void resolutionOfNoProjectIsInvalid()
+    {
+        QCOMPARE(Probe(e->lacking.get()).GetProjectResolution(), QSize());
     }
 
     void helpersLiveAsLongAsTheNode()
@@ -427,29 +484,37 @@ private Q_SLOTS:
         QCOMPARE(timeline.children().size(), 5);
     }
 
+    void onlyZeroIsSuccess_data()
+    {
+        QTest::addColumn<bool>("hasHelpers");
+        QTest::addColumn<HRESULT>("status");
+        QTest::addColumn<bool>("succeeds");
+        QTest::newRow("success") << true << S_OK << true;
+        QTest::newRow("positive") << true << S_FALSE << false;
+        QTest::newRow("failure") << true << E_FAIL << false;
+        QTest::newRow("nothing to ask") << false << S_OK << false;
+    }
+
     void onlyZeroIsSuccess()
     {
-        const auto results = [](const NLEComPtr<Node>& of) {
-            NLETimeline timeline(of, ExactType_Video, nullptr);
-            FMixerSettingDelegate strips(&timeline, nullptr);
-            const auto* helper = timeline.GetAudioStreamProcessHelper();
-            double volume = 0;
-            int level = 0;
-            tagMixerParam param{};
-            return QList<bool>{helper->GetVolume(volume), helper->GetDenoiseLevel(level),
-                               strips.GetMixerParam(3, &param), strips.SetMixerParam(4, param)};
-        };
-        const QList<bool> none{false, false, false, false};
-        QCOMPARE(results(e->lacking), none);
-        QCOMPARE(results(e->node), QList<bool>({true, true, true, true}));
-        QCOMPARE(script.TakeCalls().filter("mixer."),
-                 QStringList({"mixer.GetParam(3)", "mixer.SetParam(4)"}));
-        for (const HRESULT status : {S_FALSE, E_FAIL}) {
-            for (const char* operation :
-                 {"audio.GetVolume", "audio.GetDenoiseLevel", "mixer.GetParam", "mixer.SetParam"})
-                script.statuses[operation] = status;
-            QCOMPARE(results(e->node), none);
-        }
+        QFETCH(bool, hasHelpers);
+        QFETCH(HRESULT, status);
+        QFETCH(bool, succeeds);
+        for (const char* operation :
+             {"audio.GetVolume", "audio.GetDenoiseLevel", "mixer.GetParam", "mixer.SetParam"})
+            script.statuses[operation] = status;
+        NLETimeline timeline(hasHelpers ? e->node : e->lacking, ExactType_Video, nullptr);
+        FMixerSettingDelegate strips(&timeline, nullptr);
+        const auto* helper = timeline.GetAudioStreamProcessHelper();
+        double volume = 0;
+        int level = 0;
+        tagMixerParam param{};
+        QCOMPARE(helper->GetVolume(volume), succeeds);
+        QCOMPARE(helper->GetDenoiseLevel(level), succeeds);
+        QCOMPARE(strips.GetMixerParam(3, &param), succeeds);
+        QCOMPARE(strips.SetMixerParam(4, param), succeeds);
+        QCOMPARE(script.TakeCalls().filter("mixer.").join(' '),
+                 hasHelpers ? "mixer.GetParam(3) mixer.SetParam(4)" : "");
     }
 
     void audioObjects()
@@ -472,7 +537,8 @@ private Q_SLOTS:
         QCOMPARE(band, 7.0);
         helper.SetVolume(0.25);
         helper.SetDenoiseLevel(3);
-        QVERIFY(e->audio->volume == 0.25 && e->audio->denoiseLevel == 3);
+        QCOMPARE(e->audio->volume, 0.25);
+        QCOMPARE(e->audio->denoiseLevel, 3);
         e->audio->equalizerName = QString(300, 'x');
         QCOMPARE(helper.GetEqualizerName(), QString(127, 'x')); // cut to its buffer
     }
@@ -500,7 +566,7 @@ private Q_SLOTS:
                         reinterpret_cast<const char*>(&before) + Kept, sizeof before - Kept));
     }
 
-    void premultipliedTypeAndProxyFile()
+    void premultipliedType()
     {
         Video without(e->lacking, nullptr);
         without.SetPremultiAlphaType(2);
@@ -508,11 +574,15 @@ private Q_SLOTS:
         e->video->alphaType = 5;
         Video helper(e->node, nullptr);
         e->video->alphaType = 6;
-        QVERIFY2(helper.GetPremultiAlphaType() == 5, "as it was when the helper was made");
+        QCOMPARE(helper.GetPremultiAlphaType(), 5); // as it was when the helper was made
         helper.SetPremultiAlphaType(2);
         QCOMPARE(helper.GetPremultiAlphaType(), 2);
         QCOMPARE(e->video->alphaType, 2);
+    }
 
+    void proxyFile()
+    {
+        Video helper(e->node, nullptr);
         const QString file = QCoreApplication::applicationFilePath();
         for (const QString& path : {file, QString("/none"), QString()})
             helper.SetProxyFile(path);
@@ -552,18 +622,30 @@ private Q_SLOTS:
         QCOMPARE(helper.GetCenterPos(), normalised);
         QCOMPARE(helper.GetXYpos(), back);
         QCOMPARE(QPointF(helper.GetXpos(), helper.GetYpos()), back);
+    }
 
+    void placeWithoutRegion()
+    {
+        Placing helper(e->node, nullptr);
+        e->transform->center = {7, 8};
         script.statuses["node.GetParent"] = E_FAIL;
         NLERectF rect{};
         QVERIFY(!helper.GetRenderROD(rect));
         helper.SetXYpos({1, 1});
         helper.SetXpos(1);
         helper.SetYpos(1);
-        QCOMPARE(helper.GetCenterPos(), normalised);
+        QCOMPARE(helper.GetCenterPos(), QPointF(7, 8));
+        QCOMPARE(helper.GetXYpos(), QPointF());
+        QCOMPARE(helper.GetXpos(), 0.f);
+        QCOMPARE(helper.GetYpos(), 0.f);
+    }
+
+    void placeWithoutTransform()
+    {
         const Placing lacking(e->lacking, nullptr);
-        for (auto* without : std::initializer_list<const Placing*>{&helper, &lacking})
-            QVERIFY(without->GetXYpos() == QPointF() &&
-                    without->GetXpos() + without->GetYpos() == 0);
+        QCOMPARE(lacking.GetXYpos(), QPointF());
+        QCOMPARE(lacking.GetXpos(), 0.f);
+        QCOMPARE(lacking.GetYpos(), 0.f);
     }
 
     void renderRegion()
@@ -618,7 +700,8 @@ private Q_SLOTS:
         NLETimeline bare(nullptr, ExactType_Project, nullptr);
         FMixerSettingDelegate strips(&first, nullptr);
         tagMixerParam param{};
-        QVERIFY(strips.GetMixerParam(0, &param) && strips.GetMixerParam(0, &param));
+        QVERIFY(strips.GetMixerParam(0, &param));
+        QVERIFY(strips.GetMixerParam(0, &param));
         QCOMPARE(param.volume, 1.0);
         strips.SetTimeline(&second);
         QCOMPARE(script.TakeCalls().filter("GetInterface").join(' '),
@@ -626,7 +709,8 @@ private Q_SLOTS:
         QVERIFY(strips.GetMixerParam(0, &param));
         QCOMPARE(param.volume, 2.0);
         strips.SetTimeline(&bare);
-        QVERIFY(!strips.GetMixerParam(0, &param) && !strips.SetMixerParam(0, param));
+        QVERIFY(!strips.GetMixerParam(0, &param));
+        QVERIFY(!strips.SetMixerParam(0, param));
     }
 };
 
