@@ -46,8 +46,7 @@ private:
     Values changed;
     Values started;
     Values ended;
-    QString told;  ///< the first letter of each signal
-    int total = 0; ///< steps of all drags
+    QString told; ///< the first letter of each signal
 
     static void Send(QObject* receiver, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
                      Qt::KeyboardModifiers keys = Qt::NoModifier,
@@ -109,7 +108,6 @@ private Q_SLOTS:
         connect(helper, &Helper::sigValueChanged, this, [this](double v) {
             changed += v;
             told += 'v';
-            ++total;
         });
         connect(helper, &Helper::sigStartValueChanged, this, [this](double v) {
             started += v;
@@ -211,36 +209,64 @@ private Q_SLOTS:
         Release();
     }
 
-    void clicksReachTheWidget()
+    void pressBesideTheAreaReachesTheWidget()
     {
         helper->SetInteractiveRectangle(QRect(10, 0, 20, 40));
         Hover(QPoint(40, 10));
         Press();
-        QCOMPARE(field->presses, 1); // beside the area
+        QCOMPARE(field->presses, 1);
         Hover();
         Press();
         QCOMPARE(field->presses, 1);
+        Release();
+    }
+
+    void clickReachesTheWidget()
+    {
+        Hover();
+        Press();
+        QCOMPARE(field->presses, 0);
+        QVERIFY(!field->geometry().contains(QCursor::pos())); // parked
+        Release();
+        QCOMPARE(field->presses, 1);
+        QCOMPARE(field->clicks, 1); // although it was released elsewhere
+    }
+
+    void moveHidesThePointerAgain()
+    {
+        Hover();
+        Press();
         const QPoint parked = QCursor::pos();
-        QVERIFY(!field->geometry().contains(parked));
-        QEvent enter(QEvent::Enter), leave(QEvent::Leave);
+        QEvent leave(QEvent::Leave);
         QCoreApplication::sendEvent(field.get(), &leave);
         QCOMPARE(Cursors(), 0);
-        MoveTo(parked.x()); // hides the pointer again
+        MoveTo(parked.x());
         QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::BlankCursor);
-        const int before = field->clicks;
         Release();
-        QCOMPARE(field->presses, 2);
-        QCOMPARE(field->clicks, before + 1); // although it was released elsewhere
+        QCOMPARE(field->clicks, 1);
+    }
+
+    void clickTurnsDragsOffUntilTheFocusIsLost()
+    {
+        Hover();
+        Press();
+        Release();
         QVERIFY(!helper->GetDragEnabled());
+        QEvent enter(QEvent::Enter);
         QCoreApplication::sendEvent(field.get(), &enter);
         Press();
-        QCOMPARE(field->presses, 3);
+        QCOMPARE(field->presses, 2);
         QFocusEvent out(QEvent::FocusOut);
         QCoreApplication::sendEvent(field.get(), &out);
         QVERIFY(helper->GetDragEnabled());
         QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::SizeHorCursor);
+    }
+
+    void disabledWidgetBeginsNoDrag()
+    {
+        Hover();
         field->setEnabled(false);
-        Press(); // begins no drag
+        Press();
         QVERIFY(!QGuiApplication::overrideCursor());
         field->setEnabled(true);
         QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::SizeHorCursor);
@@ -356,10 +382,18 @@ private Q_SLOTS:
         PressElsewhere();
     }
 
+    void anySequence_data()
+    {
+        QTest::addColumn<int>("seed");
+        for (int seed = 1; seed <= 10; ++seed)
+            QTest::addRow("seed %d", seed) << seed;
+    }
+
+    // The end of a row ends what it has begun, whatever that is.
     void anySequence()
     {
-        std::mt19937 random(7);
-        total = 0;
+        QFETCH(int, seed);
+        std::mt19937 random{unsigned(seed)};
         const auto below = [&random](int count) { return int(random() % unsigned(count)); };
         const QEvent::Type crossings[] = {QEvent::Enter, QEvent::Leave, QEvent::FocusOut};
         const std::function<void()> actions[] = {
@@ -376,14 +410,9 @@ private Q_SLOTS:
                 QCoreApplication::processEvents();
             },
             [&] { MoveTo(QCursor::pos().x() + below(21) - 10); }};
-        for (int event = 0; event < 10000; ++event) {
-            if (event % 1000 == 0) { // ends the one before, whatever it does
-                cleanup();
-                init();
-            }
+        for (int event = 0; event < 2000; ++event)
             actions[std::min(below(14), 6)]();
-        }
-        QVERIFY(total > 100);
+        QVERIFY(changed.size() > 10);
     }
 
     void realPointer()

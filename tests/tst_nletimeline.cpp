@@ -97,7 +97,11 @@ private Q_SLOTS:
         timeline.reset();
         QCOMPARE(atSignal, 2u);
         QCOMPARE(References(node.get()), 1u);
+        QCOMPARE(script.TakeCalls().filter("GetProperties").size(), 2);
+    }
 
+    void anotherNodeTakesThePlace()
+    {
         NLETimeline replaced(node, ExactType_Video, nullptr);
         QCOMPARE(Text(replaced.GetPropW().get()), "bag");
         const auto other = MakeCom<Node>("other");
@@ -106,7 +110,7 @@ private Q_SLOTS:
         QCOMPARE(References(node.get()), 1u);
         QVERIFY2(!replaced.GetPropW(), "the other node has no bag");
         QCOMPARE(script.TakeCalls().filter("GetProperties").join(' ').remove(".GetProperties()"),
-                 "node node node other"); // asked once for each node that is set
+                 "node other"); // asked once for each node that is set
     }
 
     void cloneKeepsTheType()
@@ -124,21 +128,37 @@ private Q_SLOTS:
 
     void nothingWrapped()
     {
-        LogCapture log;
         NLETimeline timeline(nullptr, ExactType_Unknown, nullptr);
-        QVERIFY(!timeline.GetSrc() && !timeline.GetPropW() && !timeline.Clone());
-        QVERIFY(!timeline.HaveVideo() && !timeline.HaveAudio() && !timeline.IsImage());
+        QVERIFY(!timeline.GetSrc());
+        QVERIFY(!timeline.GetPropW());
+        QVERIFY(!timeline.Clone());
+        QVERIFY(!timeline.HaveVideo());
+        QVERIFY(!timeline.HaveAudio());
+        QVERIFY(!timeline.IsImage());
         QVERIFY(!timeline.Relink("/"));
         QCOMPARE(timeline.GetSourceSize(), QSizeF(0, 0));
         unsigned int count = 7;
         float rate = 8;
         timeline.GetMediaFrameCount(count, rate);
-        QVERIFY(count == 7 && rate == 8);
-        for (bool clone : {false, true}) {
-            QVERIFY(timeline.GetThumbnailFromStream(0, 8, 6, clone, true).isNull());
-            QVERIFY(timeline.GetThumbnailFromMediaInfo(0, 8, 6, clone, true).isNull());
-        }
-        QCOMPARE(log.Take().filter("Extract Thumbnail failed:  - ").size(), 2);
+        QCOMPARE(count, 7u);
+        QCOMPARE(rate, 8.f);
+    }
+
+    void thumbnailOfNothing_data()
+    {
+        QTest::addColumn<bool>("clone");
+        QTest::newRow("of itself") << false;
+        QTest::newRow("of a clone") << true;
+    }
+
+    void thumbnailOfNothing()
+    {
+        QFETCH(bool, clone);
+        LogCapture log;
+        NLETimeline timeline(nullptr, ExactType_Unknown, nullptr);
+        QCOMPARE(timeline.GetThumbnailFromStream(0, 8, 6, clone, true), QImage());
+        QCOMPARE(timeline.GetThumbnailFromMediaInfo(0, 8, 6, clone, true), QImage());
+        QCOMPARE(log.Take().filter("Extract Thumbnail failed:  - ").size(), 1);
     }
 
     void sourceFacts()
@@ -154,11 +174,25 @@ private Q_SLOTS:
         timeline.GetMediaFrameCount(count, rate);
         QCOMPARE(count, 100u);
         QCOMPARE(rate, 30.f);
-        QVERIFY(timeline.HaveVideo() && timeline.HaveAudio() && !timeline.IsImage());
+        QVERIFY(timeline.HaveVideo());
+        QVERIFY(timeline.HaveAudio());
+        QVERIFY(!timeline.IsImage());
+    }
+
+    void imageHasNoSound()
+    {
         info->kind = NLEMedia_Image;
         info->streams.removeFirst();
-        QVERIFY(timeline.HaveVideo() && !timeline.HaveAudio() && timeline.IsImage());
+        NLETimeline timeline(node, ExactType_Video, nullptr);
+        QVERIFY(timeline.HaveVideo());
+        QVERIFY(!timeline.HaveAudio());
+        QVERIFY(timeline.IsImage());
+    }
+
+    void longPathIsCutToItsBuffer()
+    {
         source->filePath = QString(600, 'x');
+        NLETimeline timeline(node, ExactType_Video, nullptr);
         QCOMPARE(timeline.GetFilePath(), QString(511, 'x'));
     }
 

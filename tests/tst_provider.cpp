@@ -15,6 +15,7 @@ using namespace Scripted;
 
 using Operation = std::function<bool(PlayerMaterProvider*)>;
 Q_DECLARE_METATYPE(Operation)
+Q_DECLARE_METATYPE(_GUID)
 
 static PlayerMaterProvider* Provider()
 {
@@ -27,6 +28,14 @@ class tst_Provider : public QObject
 
 private:
     Script& script = Script::Get();
+
+    NLEComPtr<Node> NodeWith(const NLEComPtr<Properties>& bag)
+    {
+        auto node = MakeCom<Node>("node");
+        node->Offer<INLEPropertyHost>(MakeCom<PropertyHost>("host"));
+        script.results["host.GetProperties"] = bag;
+        return node;
+    }
 
 private Q_SLOTS:
     void cleanup() { QCOMPARE(EndSession(), QStringList()); }
@@ -80,17 +89,26 @@ private Q_SLOTS:
         QVERIFY(!module.isLoaded());
     }
 
+    void createInstanceFailures_data()
+    {
+        QTest::addColumn<_GUID>("classId");
+        QTest::addColumn<_GUID>("iid");
+        QTest::addColumn<QString>("failing");
+        QTest::newRow("unknown class") << INLETimeline::Iid << INLEFactory::Iid << "";
+        QTest::newRow("unknown interface") << INLEFactory::ClassId << INLETimeline::Iid << "";
+        QTest::newRow("refused") << INLEFactory::ClassId << INLEFactory::Iid
+                                 << "classFactory.CreateInstance";
+    }
+
     void createInstanceFailures()
     {
-        const auto create = [](const _GUID& classId, const _GUID& iid) {
-            void* out = QCoreApplication::instance(); // anything but null
-            return CVCreateInstance::Instance()->cvCreateInstance(classId, nullptr, 0, iid, &out) ||
-                   out;
-        };
-        QVERIFY(!create(INLETimeline::Iid, INLEFactory::Iid));
-        QVERIFY(!create(INLEFactory::ClassId, INLETimeline::Iid));
-        script.statuses["classFactory.CreateInstance"] = E_FAIL;
-        QVERIFY(!create(INLEFactory::ClassId, INLEFactory::Iid));
+        QFETCH(_GUID, classId);
+        QFETCH(_GUID, iid);
+        QFETCH(QString, failing);
+        script.statuses[failing] = E_FAIL;
+        void* out = QCoreApplication::instance(); // anything but null
+        QVERIFY(!CVCreateInstance::Instance()->cvCreateInstance(classId, nullptr, 0, iid, &out));
+        QCOMPARE(out, nullptr);
     }
 
     void requests_data()
@@ -142,29 +160,43 @@ private Q_SLOTS:
         QCOMPARE(script.TakeCalls(), QStringList());
     }
 
-    void timelineProperties()
+    void frameRateIsAPropertyOfTheTimeline()
     {
-        const QString rateKey = Text(NLEKey::Render::kRender_Framerate);
-        auto bag = MakeCom<Properties>("bag");
-        auto node = MakeCom<Node>("node");
-        QCOMPARE(Provider()->GetTimelineFrameRate(node), 0);
-        node->Offer<INLEPropertyHost>(MakeCom<PropertyHost>("host"));
-        script.results["host.GetProperties"] = bag;
-
+        const QString key = Text(NLEKey::Render::kRender_Framerate);
+        const auto bag = MakeCom<Properties>("bag");
+        const auto node = NodeWith(bag);
         Provider()->SetTimelineFrameRate(node, 30);
-        QCOMPARE(Text(bag->rationals[rateKey]), "30000000/1000000");
-        bag->rationals[rateKey] = {30000, 1001};
+        QCOMPARE(Text(bag->rationals[key]), "30000000/1000000");
+        bag->rationals[key] = {30000, 1001};
         QCOMPARE(Provider()->GetTimelineFrameRate(node), 29);
-        bag->rationals[rateKey] = {25, 0};
+        bag->rationals[key] = {25, 0};
         QCOMPARE(Provider()->GetTimelineFrameRate(node), 0);
-        bag->ints[Text(NLEKey::Render::kRender_TotalFrameCount)] = 77;
-        QCOMPARE(Provider()->GetTimelineLength(node), 77);
+        QCOMPARE(References(node.get()), 1u);
+    }
 
-        NLEComPtr<INLETimeline> out; // combining gives the timeline itself
-        QVERIFY(Provider()->GetMediaCombineTimeline(node, out.put()) && out == node);
-        out.reset();
+    void frameRateOfNothing()
+    {
+        QCOMPARE(Provider()->GetTimelineFrameRate(MakeCom<Node>("node")), 0);
         Provider()->SetTimelineFrameRate(nullptr, 30);
         QCOMPARE(Provider()->GetTimelineFrameRate(nullptr), 0);
+    }
+
+    void lengthIsAPropertyOfTheTimeline()
+    {
+        const auto bag = MakeCom<Properties>("bag");
+        const auto node = NodeWith(bag);
+        bag->ints[Text(NLEKey::Render::kRender_TotalFrameCount)] = 77;
+        QCOMPARE(Provider()->GetTimelineLength(node), 77);
+        QCOMPARE(References(node.get()), 1u);
+    }
+
+    void combiningGivesTheTimelineItself()
+    {
+        const auto node = MakeCom<Node>("node");
+        NLEComPtr<INLETimeline> out;
+        QVERIFY(Provider()->GetMediaCombineTimeline(node, out.put()));
+        QCOMPARE(out.get(), node.get());
+        out.reset();
         QCOMPARE(References(node.get()), 1u);
     }
 };
