@@ -396,6 +396,8 @@ private slots:
                 QTest::addRow("large ticks of %d frames, at %g", segment.bigFrames, double(zoom))
                     << zoom << segment.bigFrames << segment.pixels - (zoom - segment.from);
         }
+        QTest::newRow("beyond the last") << 800.0F << 22500 << 10.0F;
+        QTest::newRow("nearer to the first") << 120.4F << 5 << 29.6F;
     }
     void scale()
     {
@@ -414,23 +416,12 @@ private slots:
         QCOMPARE(ruler.Position2FramesF(-shift), float(offset));
     }
 
-    void scaleOutsideTheSegments_data()
+    void zoomHalfWayToASegmentBecomesItsFirst()
     {
-        QTest::addColumn<float>("zoom");
-        QTest::addColumn<int>("frames");
-        QTest::addColumn<float>("pixels");
-        QTest::newRow("beyond the last") << 800.0F << 22500 << 10.0F;
-        QTest::newRow("nearer to the first") << 120.4F << 5 << 29.6F;
-        QTest::newRow("half way to the second") << 120.5F << 25 << 149.0F;
-    }
-    void scaleOutsideTheSegments()
-    {
-        QFETCH(float, zoom);
-        QFETCH(int, frames);
-        QFETCH(float, pixels);
         Ruler ruler;
-        ruler.SetZoom(zoom);
-        QCOMPARE(ruler.Frames2DurationF(frames), pixels);
+        ruler.SetZoom(120.5F);
+        QCOMPARE(ruler.Zoom(), 121.0F);
+        QCOMPARE(ruler.Frames2DurationF(25), 149.0F);
     }
 
     void fittingZoom_data()
@@ -1097,21 +1088,14 @@ private slots:
         QTEST(ruler.CurrentFrames(), "frame");
     }
 
-    void limitsCountTheirFrames()
-    {
-        SixPixelRuler ruler(60);
-        ruler.SetFrameRange(20, 40);
-        QCOMPARE(ruler.AvailableTotaleFrames(), 60);
-        ruler.SetIsLimitFrameRange(true);
-        QCOMPARE(ruler.AvailableTotaleFrames(), 21);
-    }
-
-    void limitsMoveTheCurrentFrame()
+    void limitsLeaveTheirFrames()
     {
         SixPixelRuler ruler(60);
         ruler.SetFrameRange(20, 40);
         ruler.SetCurrentFrames(10);
+        QCOMPARE(ruler.AvailableTotaleFrames(), 60);
         ruler.SetIsLimitFrameRange(true);
+        QCOMPARE(ruler.AvailableTotaleFrames(), 21);
         QCOMPARE(ruler.CurrentFrames(), 20);
         ruler.SetCurrentFrames(30);
         ruler.SetCurrentFrames(5);
