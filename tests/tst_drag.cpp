@@ -83,6 +83,12 @@ private:
         QCOMPARE(other.presses, 1);
         QCOMPARE(QCursor::pos(), QPoint(5, 5));
     }
+    /// What the helper shows; the last shape of all when it shows none.
+    static Qt::CursorShape Cursor()
+    {
+        const QCursor* cursor = QGuiApplication::overrideCursor();
+        return cursor ? cursor->shape() : Qt::CustomCursor;
+    }
     static int Cursors()
     {
         int count = 0;
@@ -175,7 +181,7 @@ private Q_SLOTS:
         Hover();
         const QPoint start = QCursor::pos();
         Press();
-        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::BlankCursor);
+        QCOMPARE(Cursor(), Qt::BlankCursor);
         const QPoint anchor = QCursor::pos();
         QCOMPARE(anchor, QGuiApplication::primaryScreen()->geometry().bottomRight() / 2);
         for (const int move : moves)
@@ -241,7 +247,7 @@ private Q_SLOTS:
         QCoreApplication::sendEvent(field.get(), &leave);
         QCOMPARE(Cursors(), 0);
         MoveTo(parked.x());
-        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::BlankCursor);
+        QCOMPARE(Cursor(), Qt::BlankCursor);
         Release();
         QCOMPARE(field->clicks, 1);
     }
@@ -259,7 +265,7 @@ private Q_SLOTS:
         QFocusEvent out(QEvent::FocusOut);
         QCoreApplication::sendEvent(field.get(), &out);
         QVERIFY(helper->GetDragEnabled());
-        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::SizeHorCursor);
+        QCOMPARE(Cursor(), Qt::SizeHorCursor);
     }
 
     void disabledWidgetBeginsNoDrag()
@@ -269,7 +275,7 @@ private Q_SLOTS:
         Press();
         QVERIFY(!QGuiApplication::overrideCursor());
         field->setEnabled(true);
-        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::SizeHorCursor);
+        QCOMPARE(Cursor(), Qt::SizeHorCursor);
     }
 
     void touch()
@@ -377,8 +383,7 @@ private Q_SLOTS:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY2(QRegularExpression("^(sv*e)*$").match(told).hasMatch(), qPrintable(told));
         QCOMPARE(QCursor::pos(), start);
-        const QCursor* cursor = QGuiApplication::overrideCursor();
-        QVERIFY(!cursor || cursor->shape() != Qt::BlankCursor);
+        QVERIFY(Cursor() != Qt::BlankCursor);
         PressElsewhere();
     }
 
@@ -454,9 +459,9 @@ private Q_SLOTS:
         const QPoint middle = screen.topLeft() + QPoint(80, 70);
         point({"mousemove", QString::number(middle.x()), QString::number(middle.y())});
         QTRY_VERIFY(field->underMouse());
-        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::SizeHorCursor);
+        QCOMPARE(Cursor(), Qt::SizeHorCursor);
         point({"mousedown", "1"});
-        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::BlankCursor);
+        QCOMPARE(Cursor(), Qt::BlankCursor);
         const QPoint anchor = QGuiApplication::primaryScreen()->geometry().bottomRight() / 2;
         QCOMPARE(QCursor::pos(), anchor);
         // Further than the screen is wide, in large and in small moves.
