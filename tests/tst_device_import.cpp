@@ -100,12 +100,61 @@ private:
         return QString::fromLocal8Bit(file.readAll());
     }
     QString Target() const { return m_folder.filePath("copy.bin"); }
+
+    static QString Take(wchar_t* text)
+    {
+        const QString copy = QString::fromWCharArray(text);
+        SysFreeString(text);
+        return copy;
+    }
     int Transfer(const wchar_t* id, int alternate, const QString& path)
     {
         return WpdApiLib::TransferContentFromDevice(
             id, QDir::toNativeSeparators(path).toStdWString().c_str(), alternate);
     }
     static void Open() { QCOMPARE(WpdApiLib::ChooseDevice(L"device 1", nullptr), 1); }
+
+    /// Does one step of an import; \a opened is what opening the device gave.
+    int Perform(const QString& action, const QString& failing, int opened)
+    {
+        wchar_t* ids[2] = {};
+        if (action == "list")
+            return static_cast<int>(WpdApiLib::EnumerateAllDevices(ids, nullptr));
+        if (action == "walk")
+            return WpdApiLib::EnumerateAllContent();
+        if (action == "copy")
+            return Transfer(L"clip", 0, failing == "full disk" ? "/dev/full" : Target());
+        if (action == "cancel")
+            return WpdApiLib::Cancel();
+        if (action == "delete")
+            WpdApiLib::DeleteContentFromDevice(failing == "no identifier" ? nullptr : L"clip");
+        return opened;
+    }
+    /// Opens a device with the clip of the row; a longer file stands at the target.
+    void PrepareCopy()
+    {
+        QFETCH(quint64, size);
+        QFETCH(uint, bufferSize);
+        QFETCH(uint, readLimit);
+        QFETCH(int, stopAfter);
+        DeviceScript::Get().Add(L"DEVICE", L"clip", false, size);
+        DeviceScript::Get().bufferSize = bufferSize;
+        DeviceScript::Get().readLimit = readLimit;
+        m_stopAfter = stopAfter;
+        Open();
+        QFile file(Target());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.resize(400000));
+    }
+    static void FireFromTwoThreads(const _GUID& event)
+    {
+        const auto parameters = DeviceScript::EventParameters(event);
+        const auto fire = [&] { DeviceScript::Get().listener->OnEvent(parameters.get()); };
+        std::thread first(fire);
+        std::thread second(fire);
+        first.join();
+        second.join();
+    }
     static void BuildTree()
     {
         DeviceScript& script = DeviceScript::Get();
@@ -141,25 +190,28 @@ private slots:
         QCOMPARE(Script::Get().liveObjects, QStringList());
     }
 
+    void listsNoDevices()
+    {
+        wchar_t* ids[1] = {};
+        wchar_t* names[1] = {};
+        QCOMPARE(WpdApiLib::EnumerateAllDevices(ids, names), 0ul);
+        QVERIFY(!ids[0]);
+        QVERIFY(!names[0]);
+    }
+
     void listsDevices()
     {
-        wchar_t* ids[3] = {};
-        wchar_t* names[3] = {};
-        QCOMPARE(WpdApiLib::EnumerateAllDevices(ids, names), 0ul);
-        QVERIFY(!ids[0] && !names[0]);
         DeviceScript::Get().devices = {{L"a", L"Tel\u00e9fono \U0001F4F7", L"x"},
                                        {L"b", L"", L"Camera"},
                                        {L"c", L"none", L"none"}};
+        wchar_t* ids[3] = {};
+        wchar_t* names[3] = {};
         QCOMPARE(WpdApiLib::EnumerateAllDevices(nullptr, nullptr), 3ul);
         QCOMPARE(WpdApiLib::EnumerateAllDevices(ids, names), 3ul);
-        const std::pair<const wchar_t*, const wchar_t*> expected[] = {
-            {L"a", L"Tel\u00e9fono \U0001F4F7"}, {L"b", L"Camera"}, {L"c", L""}};
-        for (int i = 0; i < 3; ++i) {
-            QVERIFY(std::wstring(ids[i]) == expected[i].first);
-            QVERIFY(std::wstring(names[i]) == expected[i].second);
-            SysFreeString(ids[i]);
-            SysFreeString(names[i]);
-        }
+        QStringList listed;
+        for (int i = 0; i < 3; ++i)
+            listed << Take(ids[i]) + ": " + Take(names[i]);
+        QCOMPARE(listed, QStringList({"a: Tel\u00e9fono \U0001F4F7", "b: Camera", "c: "}));
     }
 
     void tellsWhoAsks()
@@ -250,34 +302,23 @@ private slots:
             if (failing != "no device" && action != "list")
                 result = WpdApiLib::ChooseDevice(L"phone", nullptr);
             s_allocationToFail = failing != "memory" ? 0 : action == "list" ? 16 : 4096;
-            wchar_t* ids[2] = {};
-            if (action == "list")
-                result = static_cast<int>(WpdApiLib::EnumerateAllDevices(ids, nullptr));
-            else if (action == "walk")
-                result = WpdApiLib::EnumerateAllContent();
-            else if (action == "copy")
-                result = Transfer(L"clip", 0, failing == "full disk" ? "/dev/full" : Target());
-            else if (action == "cancel")
-                result = WpdApiLib::Cancel();
-            else if (action == "delete")
-                WpdApiLib::DeleteContentFromDevice(failing == "no identifier" ? nullptr : L"clip");
+            result = Perform(action, failing, result);
             WpdApiLib::UnregisterForEventNotifications();
         });
         QString logged = log.Take().join('|');
         logged.remove(QRegularExpression(" - \\[CommonLib/WpdApiLib/WpdApiLib\\(\\d+\\)\\]$"));
-        if (output.startsWith('-'))
-            QCOMPARE(logged, output);
-        else
-            QCOMPARE(printed, output);
+        QCOMPARE(output.startsWith('-') ? logged : printed, output);
         if (action != "delete")
             QTEST(result, "result");
-        if (action == "walk")
-            QVERIFY(WpdApiLib::bFailed == 1 - result && WpdApiLib::bCanceled == 0);
+        if (action == "walk") {
+            QCOMPARE(WpdApiLib::bFailed, 1 - result);
+            QCOMPARE(WpdApiLib::bCanceled, 0);
+        }
         QCOMPARE(Script::Get().TakeCalls().contains("content.Delete(0, clip)"),
                  action == "delete" && (failing.isEmpty() || failing == "content.Delete"));
     }
 
-    void walksTwoLevelsAndWhereAsked()
+    void walksTwoLevels()
     {
         BuildTree();
         Open();
@@ -285,135 +326,200 @@ private slots:
         QCOMPARE(m_seen, QStringList({"DEVICE", "card", "DCIM"}));
         QCOMPARE(Script::Get().TakeCalls().filter("keys.Add").join(' '),
                  QString("keys.Add3() keys.Add12() keys.Add11() keys.Add7() keys.Add19()"));
-        m_seen.clear();
-        m_details.clear();
+    }
+
+    void walksDeeperWhereAsked()
+    {
+        BuildTree();
+        Open();
         m_descendInto = {"DCIM", "100", "101"};
         QCOMPARE(WpdApiLib::EnumerateAllContent(), 1);
         QCOMPARE(m_seen, QStringList({"DEVICE", "card", "DCIM", "100", "clip.mov", "101", "deep"}));
         QCOMPARE(m_details.value(3), QString("DCIM 100 0 1 0"));
         QCOMPARE(m_details.value(4), QString("100 clip.mov 5000000000 0 4500.25"));
-        for (int calls = 0; calls < 3; ++calls) {
-            m_seen.clear();
-            m_stopAfter = calls;
-            QCOMPARE(WpdApiLib::EnumerateAllContent(), 0);
-            QCOMPARE(m_seen.size(), calls + 1);
-            QCOMPARE(WpdApiLib::bCanceled, 1);
-        }
+    }
+
+    void stopsAWalkWhenAsked_data()
+    {
+        QTest::addColumn<int>("stopAfter");
+        QTest::newRow("at the first object") << 0;
+        QTest::newRow("at the second object") << 1;
+        QTest::newRow("two levels down") << 2;
+    }
+
+    void stopsAWalkWhenAsked()
+    {
+        QFETCH(int, stopAfter);
+        BuildTree();
+        Open();
+        m_descendInto = {"DCIM", "100", "101"};
+        m_stopAfter = stopAfter;
+        QCOMPARE(WpdApiLib::EnumerateAllContent(), 0);
+        QCOMPARE(m_seen.size(), stopAfter + 1);
+        QCOMPARE(WpdApiLib::bCanceled, 1);
+
+        // The next walk knows nothing of it.
         m_stopAfter = -1;
         QCOMPARE(WpdApiLib::EnumerateAllContent(), 1);
         QCOMPARE(WpdApiLib::bCanceled, 0);
     }
 
+    void endsWhenTheDeviceVanishes_data()
+    {
+        QTest::addColumn<bool>("isWalk");
+        QTest::addColumn<int>("steps"); // that the device has to be there for
+        // Content, properties and three calls for each of four objects.
+        QTest::newRow("in a walk") << true << 2 + 3 * 4;
+        // Content, resources, stream, and a read more than the buffers that the data fills.
+        QTest::newRow("in a copy") << false << 3 + 10000 / 4096 + 2;
+    }
+
     void endsWhenTheDeviceVanishes()
     {
+        QFETCH(bool, isWalk);
+        QFETCH(int, steps);
         BuildTree();
         DeviceScript::Get().Add(L"card", L"small", false, 10000);
         Open();
-        for (const bool walking : {true, false}) {
-            int result = 0;
-            int steps = 0;
-            for (; result == 0 && steps < 100; ++steps) {
-                DeviceScript::Get().stepsUntilVanished = steps;
-                Printed([&] {
-                    result = walking ? WpdApiLib::EnumerateAllContent()
-                                     : Transfer(L"small", 0, Target());
-                });
-            }
-            // Content, properties and three calls an object; content, resources, stream, reads.
-            QCOMPARE(steps, walking ? 2 + 3 * 4 + 1 : 3 + 4 + 1);
+        int enough = -1;
+        for (int result = 0; result == 0 && enough < 100;) {
+            DeviceScript::Get().stepsUntilVanished = ++enough;
+            Printed([&] {
+                result =
+                    isWalk ? WpdApiLib::EnumerateAllContent() : Transfer(L"small", 0, Target());
+            });
         }
         DeviceScript::Get().stepsUntilVanished = -1;
+        QCOMPARE(enough, steps);
     }
 
-    void passesManyAndOddNamesOn()
+    void walksManyObjects()
     {
-        for (int i = 0; i < 20000; ++i)
+        const int count = 20000;
+        for (int i = 0; i < count; ++i)
             DeviceScript::Get().Add(L"DEVICE", std::to_wstring(i));
+        Open();
+        QCOMPARE(WpdApiLib::EnumerateAllContent(), 1);
+        QCOMPARE(m_seen.size(), 1 + count);
+        // Ten at a time and once for the end; each object is asked for children of its own.
+        QCOMPARE(Script::Get().TakeCalls().filter("enumerator.Next(10)").size(),
+                 count / 10 + 1 + count);
+    }
+
+    void passesOddNamesOn()
+    {
         const std::wstring odd = L"IMG\xDCFF.jpg"; // a byte that is not UTF-8
         DeviceScript::Get().Add(L"DEVICE", odd, false, 3);
         Open();
         QCOMPARE(WpdApiLib::EnumerateAllContent(), 1);
         QVERIFY(m_lastName == odd);
-        QCOMPARE(m_seen.size(), 1 + 20001);
-        QCOMPARE(Script::Get().TakeCalls().filter("enumerator.Next(10)").size(), 2001 + 20001);
+    }
+
+    void copies_data()
+    {
+        QTest::addColumn<quint64>("size");
+        QTest::addColumn<uint>("bufferSize");
+        QTest::addColumn<uint>("readLimit");
+        QTest::addColumn<int>("stopAfter");
+        QTest::addColumn<QVector<qint64>>("chunks"); // bytes so far, as the callback is told
+        const auto row = [](const char* name, quint64 size, uint bufferSize, uint readLimit,
+                            int stopAfter, const QVector<qint64>& chunks) {
+            QTest::newRow(name) << size << bufferSize << readLimit << stopAfter << chunks;
+        };
+        row("nothing", 0, 4096, 0, -1, {});
+        row("three buffers", 10000, 4096, 0, -1, {4096, 8192, 10000});
+        row("short reads", 10000, 8192, 4000, -1, {4000, 8000, 10000});
+        row("a device without a size of its own", 300000, 0, 0, -1, {262144, 300000});
+        row("stopped at the first buffer", 10000, 4096, 0, 0, {4096});
+        row("stopped at the last buffer", 10000, 4096, 0, 2, {4096, 8192, 10000});
+        row("stopped where space is reserved ahead", 70000000, 1 << 25, 0, 2,
+            {1 << 25, 1 << 26, 70000000});
     }
 
     void copies()
     {
-        const struct
-        {
-            quint64 size;
-            uint bufferSize, readLimit;
-            int stopAfter;
-            QVector<qint64> chunks;
-        } rows[] = {{0, 4096, 0, -1, {}},
-                    {10000, 4096, 0, -1, {4096, 8192, 10000}},
-                    {10000, 8192, 4000, -1, {4000, 8000, 10000}}, // short reads
-                    {300000, 0, 0, -1, {262144, 300000}}, // a device without a size of its own
-                    {10000, 4096, 0, 0, {4096}},
-                    {10000, 4096, 0, 2, {4096, 8192, 10000}},
-                    // space is reserved ahead
-                    {70000000, 1 << 25, 0, 2, {1 << 25, 1 << 26, 70000000}}};
-        for (const auto& row : rows) {
-            const QVector<qint64>& chunks = row.chunks;
-            const int stopAfter = row.stopAfter;
-            init();
-            DeviceScript::Get().Add(L"DEVICE", L"clip", false, row.size);
-            DeviceScript::Get().bufferSize = row.bufferSize;
-            DeviceScript::Get().readLimit = row.readLimit;
-            m_stopAfter = stopAfter;
-            Open();
-            s_buffers = 0;
-            QFile file(Target());
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(400000)); // is to be overwritten
-            file.close();
-            int result = 0;
-            const QString printed =
-                Printed([&] { result = Transfer(L"clip", stopAfter, Target()); });
-            QCOMPARE(result, stopAfter < 0 ? 1 : 0);
-            QCOMPARE(printed, stopAfter < 0 ? QString()
-                                            : "! Failed to transfer object from device, "
-                                              "hr = 0x80004005\n");
-            QCOMPARE(m_chunks, chunks);
-            QCOMPARE(s_buffers, SeesAllocations ? 1 : 0);
-            const QString resource = stopAfter == 0 ? "E81E79BE" : "C7C407BA";
-            QVERIFY(Script::Get().TakeCalls().contains("content.GetStream(clip, " + resource +
-                                                       ", 0, 0)"));
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            QByteArray expected(chunks.isEmpty() ? 0 : int(chunks.last()), 0);
-            for (int i = 0; i < expected.size(); ++i)
-                expected[i] = DeviceScript::DataAt(i);
-            QVERIFY(file.readAll() == expected);
+        QFETCH(int, stopAfter);
+        QFETCH(QVector<qint64>, chunks);
+        PrepareCopy();
+        int result = -1;
+        const QString printed = Printed([&] { result = Transfer(L"clip", 0, Target()); });
+        const bool isStopped = stopAfter >= 0;
+        QCOMPARE(result, isStopped ? 0 : 1);
+        QCOMPARE(
+            printed,
+            QString(isStopped ? "! Failed to transfer object from device, hr = 0x80004005\n" : ""));
+        QCOMPARE(m_chunks, chunks);
+        QByteArray expected(chunks.isEmpty() ? 0 : int(chunks.last()), 0);
+        for (int i = 0; i < expected.size(); ++i)
+            expected[i] = DeviceScript::DataAt(i);
+        QFile file(Target());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY(file.readAll() == expected);
+    }
+
+    void copiesThroughOneBuffer_data() { copies_data(); }
+
+    void copiesThroughOneBuffer()
+    {
+        if (!SeesAllocations)
+            QSKIP("allocations of the library are not seen here");
+        PrepareCopy();
+        s_buffers = 0;
+        Printed([&] { Transfer(L"clip", 0, Target()); });
+        QCOMPARE(s_buffers, 1);
+    }
+
 #ifdef Q_OS_LINUX
-            struct stat status = {};
-            QVERIFY(::fstat(file.handle(), &status) == 0);
-            QVERIFY(status.st_blocks * 512 < file.size() + (1 << 20));
+    void givesReservedSpaceBack_data()
+    {
+        copies_data();
+    }
+
+    void givesReservedSpaceBack()
+    {
+        PrepareCopy();
+        Printed([&] { Transfer(L"clip", 0, Target()); });
+        struct stat status = {};
+        QCOMPARE(::stat(QFile::encodeName(Target()).constData(), &status), 0);
+        const qint64 taken = status.st_blocks * 512;
+        QVERIFY2(taken < status.st_size + (1 << 20), qPrintable(QString::number(taken)));
+    }
 #endif
-            cleanup();
-        }
+
+    void asksForTheResource_data()
+    {
+        QTest::addColumn<int>("alternate");
+        QTest::addColumn<QString>("resource");
+        QTest::newRow("the content") << 0 << "E81E79BE";
+        QTest::newRow("the thumbnail") << 2 << "C7C407BA";
+        QTest::newRow("the thumbnail, by a negative number") << -1 << "C7C407BA";
+    }
+
+    void asksForTheResource()
+    {
+        QFETCH(int, alternate);
+        QFETCH(QString, resource);
+        DeviceScript::Get().Add(L"DEVICE", L"clip", false, 100);
+        Open();
+        QCOMPARE(Transfer(L"clip", alternate, Target()), 1);
+        const QStringList calls = Script::Get().TakeCalls().filter("GetStream");
+        QCOMPARE(calls, QStringList("content.GetStream(clip, " + resource + ", 0, 0)"));
     }
 
     void tellsOnceOfTheRemoval()
     {
-        const auto removed = DeviceScript::EventParameters(Wpd::WPD_EVENT_DEVICE_REMOVED);
-        const auto other = DeviceScript::EventParameters(Wpd::WPD_CONTENT_TYPE_FOLDER);
-        const auto fromThreads = [&](const NLEComPtr<IPortableDeviceValues>& event) {
-            const auto fire = [&] { DeviceScript::Get().listener->OnEvent(event.get()); };
-            std::thread first(fire);
-            std::thread second(fire);
-            first.join();
-            second.join();
-        };
         Open();
         WpdApiLib::SetCallbackProc(nullptr, nullptr); // the event object keeps its copies
-        fromThreads(other);
+        FireFromTwoThreads(Wpd::WPD_CONTENT_TYPE_FOLDER);
         QCOMPARE(m_removals.load(), 0);
-        fromThreads(removed);
+        FireFromTwoThreads(Wpd::WPD_EVENT_DEVICE_REMOVED);
         QCOMPARE(m_removals.load(), 1);
+    }
 
-        // An event in the middle of closing: none is reported afterwards.
+    void tellsOfNoRemovalAfterClosing()
+    {
+        const auto removed = DeviceScript::EventParameters(Wpd::WPD_EVENT_DEVICE_REMOVED);
         for (int round = 0; round < 200; ++round) {
-            WpdApiLib::SetCallbackProc(&Callback, this);
             Open();
             std::thread late([&] { DeviceScript::Get().listener->OnEvent(removed.get()); });
             WpdApiLib::UnregisterForEventNotifications();
@@ -421,8 +527,10 @@ private slots:
             late.join();
             QCOMPARE(m_removals.load(), told);
         }
+    }
 
-        // The callback may close the device itself.
+    void callbackMayCloseTheDevice()
+    {
         WpdApiLib::SetCallbackProc(
             [](HWND, std::uint32_t, std::uint64_t, std::int64_t, void*) -> std::int64_t {
                 WpdApiLib::UnregisterForEventNotifications();
@@ -430,6 +538,7 @@ private slots:
             },
             nullptr);
         Open();
+        const auto removed = DeviceScript::EventParameters(Wpd::WPD_EVENT_DEVICE_REMOVED);
         DeviceScript::Get().listener->OnEvent(removed.get());
         QCOMPARE(WpdApiLib::Cancel(), 0);
     }
