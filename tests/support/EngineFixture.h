@@ -4,6 +4,7 @@
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "tests/support/Deviation.h"
 #include "tests/support/TestMedia.h"
 
 #include <QTemporaryDir>
@@ -23,6 +24,8 @@ class EngineFixture
 {
 public:
     static constexpr int kSampleRate = 48000;
+    /// Loudness of the tone of test clips, a sine of the level 0.5.
+    static constexpr double kToneLoudness = 0.5 * M_SQRT1_2;
     static constexpr tagNLEProjectProfile kSmall = {{320, 180}, {25000000, 1000000}, 48000, 2, 3};
 
     EngineFixture() : provider(NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider()) {}
@@ -38,6 +41,13 @@ public:
     Node Colour(const QColor& color, const QSize& size = QSize(320, 180)) const
     {
         return provider->CreateColorTimeline(color, size, 25.0f);
+    }
+
+    Node ProjectWith(const Node& clip, int position = 0, int level = 0) const
+    {
+        Node project = Project();
+        Add(project, clip, position, level);
+        return project;
     }
 
     static HRESULT Add(const Node& composite, const Node& clip, int position = 0, int level = 0)
@@ -79,6 +89,15 @@ public:
         Node clip;
         clips->GetCurrent(clip.put());
         return clip;
+    }
+
+    /// A facility of a clip: the clip itself in another part.
+    template <typename Facility>
+    static NLEComPtr<Facility> Facet(const Node& node)
+    {
+        NLEComPtr<Facility> facility;
+        node->GetInterface(Facility::Iid, facility.putVoid(), 0, 0);
+        return facility;
     }
 
     static QByteArray Contents(const QString& path)
