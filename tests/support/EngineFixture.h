@@ -80,6 +80,12 @@ public:
         node->GetProperties(bag.put());
         return bag;
     }
+    static int ClipCount(const Node& composite)
+    {
+        int count = -1;
+        composite.query<INLETimelineComposite>()->GetClipCount(&count);
+        return count;
+    }
     static Node ClipAt(const Node& composite, int index)
     {
         NLEComPtr<INLETimelineEnumerator> clips;
