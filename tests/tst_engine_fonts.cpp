@@ -30,6 +30,22 @@ private:
     {
         return TestFonts::Write(Path(name), font);
     }
+
+    /// Fonts in files of each kind, one of them twice, and files that are none.
+    void PutFonts() const
+    {
+        const QByteArray serif = TestFonts::Serif();
+        QVERIFY(Put("b.ttf", TestFonts::Renamed(serif, "Files B")));
+        QVERIFY(Put("a.OTF", TestFonts::Renamed(serif, "Files A")));
+        QVERIFY(Put("c.ttc", TestFonts::Collection(TestFonts::Renamed(serif, "Files C1"),
+                                                   TestFonts::Renamed(serif, "Files C2"))));
+        QVERIFY(Put("d.ttf", TestFonts::Renamed(serif, "Files B")));
+        QVERIFY(Put("e.txt", serif));
+        QVERIFY(Put("f.ttf", {}));
+        QVERIFY(Put("g.ttf", "no font at all"));
+        QVERIFY(Put("h.ttf", serif.left(serif.size() / 3)));
+        QVERIFY(QDir().mkdir(Path("i.ttf")));
+    }
     QStringList Names() const
     {
         int count = -1;
@@ -67,32 +83,45 @@ private Q_SLOTS:
 
     void namesOfFiles()
     {
-        const QByteArray serif = TestFonts::Serif();
-        QVERIFY(Put("b.ttf", TestFonts::Renamed(serif, "Files B")));
-        QVERIFY(Put("a.OTF", TestFonts::Renamed(serif, "Files A")));
-        QVERIFY(Put("c.ttc", TestFonts::Collection(TestFonts::Renamed(serif, "Files C1"),
-                                                   TestFonts::Renamed(serif, "Files C2"))));
-        QVERIFY(Put("d.ttf", TestFonts::Renamed(serif, "Files B")));
-        QVERIFY(Put("e.txt", serif) && Put("f.ttf", {}) && Put("g.ttf", "no font at all"));
-        QVERIFY(Put("h.ttf", serif.left(serif.size() / 3)) && QDir().mkdir(Path("i.ttf")));
+        PutFonts();
         QCOMPARE(Scan(), S_OK);
         QCOMPARE(Names(), QStringList({"Files A", "Files B", "Files C1", "Files C2"}));
-        // Once more from the cache, and after changes.
+        // Once more from the cache.
         Restart();
         QCOMPARE(Scan(), S_OK);
         QCOMPARE(Names(), QStringList({"Files A", "Files B", "Files C1", "Files C2"}));
-        QVERIFY(Put("g.ttf", TestFonts::Renamed(serif, "Files G")) && QFile::remove(Path("a.OTF")));
+    }
+
+    void namesFollowChangesOfFiles()
+    {
+        PutFonts();
+        QCOMPARE(Scan(), S_OK);
+        QVERIFY(Put("g.ttf", TestFonts::Renamed(TestFonts::Serif(), "Files G")));
+        QVERIFY(QFile::remove(Path("a.OTF")));
         Restart();
         QCOMPARE(Scan(), S_OK);
         QCOMPARE(Names(), QStringList({"Files B", "Files C1", "Files C2", "Files G"}));
         QVERIFY(!TestFonts::Read(Path("Cache.xml")).contains("Files A"));
+    }
 
+    void nameIsCutToTheBuffer()
+    {
+        PutFonts();
+        QCOMPARE(Scan(), S_OK);
         wchar_t buffer[4];
         QCOMPARE(m_library->GetFontName(0, buffer, 4), S_OK);
         QCOMPARE(QString::fromWCharArray(buffer), QString("Fil"));
+    }
+
+    void fontsOfTheSystemComeAfterTheFiles()
+    {
+        PutFonts();
+        QCOMPARE(Scan(), S_OK);
         QCOMPARE(m_library->LoadSystemFonts(), S_OK);
-        QVERIFY(Names().contains("DejaVu Sans") && Names().first() == "Files B");
-        QCOMPARE(Names().removeDuplicates(), 0);
+        QStringList names = Names();
+        QCOMPARE(names.first(), QString("Files A"));
+        QVERIFY(names.contains("DejaVu Sans"));
+        QCOMPARE(names.removeDuplicates(), 0);
     }
 
     /// The cache is believed as long as a file looks the same; that also shows that it is used.
@@ -101,13 +130,15 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("replace");
         QTest::addColumn<QByteArray>("with");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("as written") << QByteArray("zzz") << QByteArray() << "Cache A";
-        QTest::newRow("another family")
+        QTest::newRow("as it was written") << QByteArray("zzz") << QByteArray() << "Cache A";
+        QTest::newRow("a family of another name is believed")
             << QByteArray(">Cache A<") << QByteArray(">Told<") << "Told";
-        QTest::newRow("another size")
+        QTest::newRow("a size that the file has not")
             << QByteArray("size=\"") << QByteArray("size=\"1") << "Cache A";
-        QTest::newRow("damaged") << QByteArray("</FontCache>") << QByteArray("</") << "Cache A";
-        QTest::newRow("binary") << QByteArray("<") << QByteArray("\0\xff", 2) << "Cache A";
+        QTest::newRow("a damaged end")
+            << QByteArray("</FontCache>") << QByteArray("</") << "Cache A";
+        QTest::newRow("bytes that are no text")
+            << QByteArray("<") << QByteArray("\0\xff", 2) << "Cache A";
     }
 
     void cacheFile()
@@ -122,7 +153,7 @@ private Q_SLOTS:
         Restart();
         QCOMPARE(Scan(), S_OK);
         QTEST(Names().join(','), "expected");
-        if (QTest::currentDataTag() != QByteArray("another family"))
+        if (QTest::currentDataTag() != QByteArray("a family of another name is believed"))
             QCOMPARE(TestFonts::Read(Path("Cache.xml")), written);
     }
 
@@ -130,12 +161,14 @@ private Q_SLOTS:
     {
         const QImage fallback = Text("Shown Serif");
         QVERIFY(fallback != Text("DejaVu Serif"));
-        const char* const name = "a.ttf";
-        QVERIFY(Put(name, TestFonts::Renamed(TestFonts::Serif(), "Shown Serif")));
+        QVERIFY(Put("a.ttf", TestFonts::Renamed(TestFonts::Serif(), "Shown Serif")));
         QCOMPARE(Scan(), S_OK);
         QCOMPARE(Text("Shown Serif"), Text("DejaVu Serif"));
+    }
 
-        // At a second start the cache alone knows it; Qt learns of it when a clip asks.
+    void textClipsUseThemAtASecondStart()
+    {
+        // The cache alone knows the font then; Qt learns of it when a clip asks.
         QVERIFY(Put("b.ttf", TestFonts::Renamed(TestFonts::Serif(), "Shown Later")));
         const QFileInfo file(Path("b.ttf"));
         const QString cache = "<FontCache><Font file='%1' size='%2' modified='%3'>"
