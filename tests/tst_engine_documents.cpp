@@ -89,7 +89,7 @@ private slots:
         QCOMPARE(QString::fromWCharArray(guid), "a <&> \u00fc 100% \r\x01");
         double third = 0;
         bag->GetDouble(L"d", &third);
-        QCOMPARE(third, 1.0 / 3);
+        QVERIFY(third == 1.0 / 3); // to the last digit
     }
 
     void loadedDocumentShowsTheSame_data()

@@ -105,7 +105,7 @@ class tst_Media : public QObject, private MediaFixture
         clip.rotation = rotation;
         return MakeTestClip(Path(name), clip);
     }
-    /// The row's sound: a tone from the second second on, of four.
+    /// The row's sound: four seconds, with a tone from the first on.
     Info MakeSound()
     {
         QFETCH(QString, name);
@@ -119,7 +119,8 @@ class tst_Media : public QObject, private MediaFixture
         clip.toneHz = ToneHz;
         return Make(name, clip);
     }
-    /// The whole of it in two channels, read in tenths of seconds; short of a few samples at most.
+    /// The whole of it in two channels, read in tenths of seconds; empty when more than the few
+    /// samples that a format may lack are missing.
     static std::vector<float> ReadSound(AudioDecoder& decoder)
     {
         const int block = Rate / 10;
@@ -127,7 +128,7 @@ class tst_Media : public QObject, private MediaFixture
         for (int first = 0; first < SoundFrames; first += block) {
             const int read = decoder.Read(first, block, Rate, 2, &whole[size_t(first) * 2]);
             if (read < block - 24)
-                qFatal("%d samples at %d", read, first);
+                return {};
         }
         return whole;
     }
@@ -560,6 +561,7 @@ private slots:
         const auto decoder = AudioDecoder::Open(info, info->audioStream, nullptr);
         QVERIFY(decoder);
         const std::vector<float> whole = ReadSound(*decoder);
+        QVERIFY(!whole.empty());
         int onset = 0;
         while (onset < SoundFrames && std::abs(whole[size_t(onset) * 2]) < 0.06F)
             ++onset;
@@ -574,6 +576,7 @@ private slots:
         QVERIFY(info);
         const auto decoder = AudioDecoder::Open(info, info->audioStream, nullptr);
         const std::vector<float> whole = ReadSound(*decoder);
+        QVERIFY(!whole.empty());
         // The third second, both channels by turns.
         const std::vector<float> tone(whole.begin() + 2 * 2 * Rate, whole.begin() + 2 * 3 * Rate);
         QCOMPARE(Deviation(PeakOf(tone), 0.5, 0.03), QString());
@@ -589,6 +592,7 @@ private slots:
         QVERIFY(info);
         const auto decoder = AudioDecoder::Open(info, info->audioStream, nullptr);
         const std::vector<float> whole = ReadSound(*decoder);
+        QVERIFY(!whole.empty());
         std::mt19937 generator(5);
         std::vector<float> part(2 * PartFrames);
         for (int i = 0; i < 12; ++i) {
@@ -606,6 +610,7 @@ private slots:
         QVERIFY(info);
         const auto decoder = AudioDecoder::Open(info, info->audioStream, nullptr);
         const std::vector<float> whole = ReadSound(*decoder);
+        QVERIFY(!whole.empty());
         std::vector<float> part(2 * PartFrames, 1.0F);
         QCOMPARE(decoder->Read(-5 * PartFrames, PartFrames, Rate, 2, part.data()), 0);
         QCOMPARE(PeakOf(part), 0.0F);
