@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <functional>
 #include <vector>
 
 namespace {
@@ -14,6 +15,7 @@ namespace {
 using AesCipher::Implementation;
 using Crypto = QAESEncryption;
 using Aes = Crypto::Aes;
+using MemberTransform = AesCipher::Transform Implementation::*;
 using Mode = Crypto::Mode;
 using Padding = Crypto::Padding;
 
@@ -90,7 +92,47 @@ const std::uint8_t* Bytes(const char* bytes)
     return reinterpret_cast<const std::uint8_t*>(bytes);
 }
 
+int KeySize(int level)
+{
+    return 16 + 8 * level;
+}
+
+// Calls for every mode and level, with words that name both.
+void ForEachMode(const std::function<void(const char* name, int mode, int level)>& call)
+{
+    const char* const modes[] = {"ECB", "CBC", "CFB", "OFB"};
+    for (int mode = Crypto::ECB; mode <= Crypto::OFB; ++mode) {
+        for (int level = Crypto::AES_128; level <= Crypto::AES_256; ++level) {
+            const QString name = QString("%1, %2 bits").arg(modes[mode]).arg(8 * KeySize(level));
+            call(qPrintable(name), mode, level);
+        }
+    }
+}
+
+void AddModes()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<int>("level");
+    ForEachMode(
+        [](const char* name, int mode, int level) { QTest::newRow(name) << mode << level; });
+}
+
+// Returns the chaining block that a following call needs.
+QByteArray Run(const Implementation& cipher, MemberTransform transform, const ExactArray& text,
+               char* out)
+{
+    AesCipher::Schedule schedule;
+    cipher.ExpandKey(Bytes(kCountingKey.constData()), 4, schedule);
+    cipher.AddDecryptionKeys(schedule);
+    QByteArray chain = kIv;
+    const auto blocks = std::size_t(QByteArray(text).size() / AesCipher::BlockSize);
+    (cipher.*transform)(schedule, Bytes(chain.data()), Bytes(text.Data()), Bytes(out), blocks);
+    return chain;
+}
+
 } // namespace
+
+Q_DECLARE_METATYPE(MemberTransform)
 
 /// Encryption against published vectors, and every implementation of the cipher against each other.
 class TestAes : public QObject
@@ -147,10 +189,7 @@ private slots:
 
     void implementationsAgree_data()
     {
-        QTest::addColumn<int>("level");
-        QTest::addColumn<int>("mode");
-        for (int n = 0; n < 12; ++n)
-            QTest::addRow("mode %d, %d bits", n / 3, 128 + n % 3 * 64) << n % 3 << n / 3;
+        AddModes();
     }
     // Every length over one group of the widest vectors, then some over several; odd ones too.
     void implementationsAgree()
@@ -161,7 +200,7 @@ private slots:
         QRandomGenerator random(197);
         for (int size = 0; size < 2500; size += size < 560 ? 1 : 173) {
             const ExactArray text(RandomArray(random, size));
-            const ExactArray key(RandomArray(random, 16 + 8 * level));
+            const ExactArray key(RandomArray(random, KeySize(level)));
             const ExactArray iv(RandomArray(random, 16));
             Crypto aes(Aes(level), Mode(mode), Crypto::PKCS7);
             AesCipher::Use(&AesCipher::kPortable);
@@ -184,130 +223,186 @@ private slots:
         }
     }
 
+    void largeTexts_data()
+    {
+        QTest::addColumn<MemberTransform>("transform");
+        QTest::newRow("ECB, encrypted") << &Implementation::EcbEncrypt;
+        QTest::newRow("ECB, decrypted") << &Implementation::EcbDecrypt;
+        QTest::newRow("CBC, decrypted") << &Implementation::CbcDecrypt;
+        QTest::newRow("CFB, decrypted") << &Implementation::CfbDecrypt;
+    }
     // Where results may be written in another way, which depends on how they lie in memory.
     void largeTexts()
     {
+        QFETCH(MemberTransform, transform);
         // Little or nothing is left behind whole groups, to cover up what was written there.
-        constexpr std::size_t blocks = (8 << 20) / 16 + 33;
-        constexpr std::size_t size = blocks * 16;
+        constexpr int size = (8 << 20) + 33 * AesCipher::BlockSize;
         QRandomGenerator random(38);
         const ExactArray text(RandomArray(random, size));
-        for (auto transform : {&Implementation::ecbEncrypt, &Implementation::ecbDecrypt,
-                               &Implementation::cbcDecrypt, &Implementation::cfbDecrypt}) {
-            const auto run = [&](const Implementation& cipher, char* out) {
-                AesCipher::Schedule schedule;
-                cipher.expandKey(Bytes(kCountingKey.constData()), 4, schedule);
-                cipher.addDecryptionKeys(schedule);
-                QByteArray chain = kIv;
-                (cipher.*transform)(schedule, Bytes(chain.data()), Bytes(text.Data()), Bytes(out),
-                                    blocks);
-                return chain;
-            };
-            std::vector<char> expected(size);
-            const QByteArray expectedChain = run(AesCipher::kPortable, expected.data());
+        std::vector<char> expected(size);
+        const QByteArray expectedChain = Run(AesCipher::Portable, transform, text, expected.data());
 
-            for (int i = 0; AesCipher::Available(i) != &AesCipher::kPortable; ++i) {
-                const Implementation& cipher = *AesCipher::Available(i);
-                for (int offset : {0, 8, 40, 61}) {
-                    std::vector<char> buffer(size + 256, '#');
-                    char* const out = buffer.data() + 64 - quintptr(buffer.data()) % 64 + offset;
-                    QVERIFY2(run(cipher, out) == expectedChain, cipher.name);
-                    QVERIFY2(std::equal(expected.begin(), expected.end(), out), cipher.name);
-                    // Nothing around it was touched.
-                    const auto before = std::count(buffer.data(), out, '#');
-                    const auto after = std::count(out + size, buffer.data() + buffer.size(), '#');
-                    QCOMPARE(before + after, 256);
-                }
+        for (int i = 0; AesCipher::Available(i) != &AesCipher::Portable; ++i) {
+            const Implementation& cipher = *AesCipher::Available(i);
+            for (int offset : {0, 8, 40, 61}) {
+                std::vector<char> buffer(size + 256, '#');
+                char* const out = buffer.data() + 64 - quintptr(buffer.data()) % 64 + offset;
+                QVERIFY2(Run(cipher, transform, text, out) == expectedChain, cipher.name);
+                QVERIFY2(std::equal(expected.begin(), expected.end(), out), cipher.name);
+                // Nothing around it was touched.
+                const auto before = std::count(buffer.data(), out, '#');
+                const auto after = std::count(out + size, buffer.data() + buffer.size(), '#');
+                QCOMPARE(before + after, 256);
             }
         }
     }
 
+    void keySchedule_data()
+    {
+        QTest::addColumn<int>("level");
+        QTest::addColumn<QByteArray>("lastRoundKey"); // FIPS-197, appendix A
+        QTest::newRow("128 bits") << int(Crypto::AES_128)
+                                  << FromHex("d014f9a8c9ee2589e13f0cc8b6630ca6");
+        QTest::newRow("192 bits") << int(Crypto::AES_192)
+                                  << FromHex("e98ba06f448c773c8ecc720401002202");
+        QTest::newRow("256 bits") << int(Crypto::AES_256)
+                                  << FromHex("fe4890d1e6188d0b046df344706c631e");
+    }
     void keySchedule()
     {
-        // FIPS-197, appendix A, by key size.
-        const QByteArray lastRoundKeys[] = {FromHex("d014f9a8c9ee2589e13f0cc8b6630ca6"),
-                                            FromHex("e98ba06f448c773c8ecc720401002202"),
-                                            FromHex("fe4890d1e6188d0b046df344706c631e")};
+        QFETCH(int, level);
+        QFETCH(QByteArray, lastRoundKey);
+        const QByteArray& key = kKeys38A[level];
         for (int i = 0; const Implementation* cipher = AesCipher::Available(i); ++i) {
             AesCipher::Use(cipher);
-            for (const Aes level : {Crypto::AES_128, Crypto::AES_192, Crypto::AES_256}) {
-                const QByteArray& key = kKeys38A[level];
-                const QByteArray schedule = Crypto::ExpandKey(level, Crypto::CBC, ExactArray(key));
-                QCOMPARE(schedule.size(), 16 * (11 + 2 * level));
-                QVERIFY2(schedule.startsWith(key), cipher->name);
-                QVERIFY2(schedule.endsWith(lastRoundKeys[level]), cipher->name);
-                QCOMPARE(Crypto::ExpandKey(level, Crypto::CBC, key + "xyz"), schedule + "xyz");
-            }
+            const auto expand = [level](const QByteArray& bytes) {
+                return Crypto::ExpandKey(Aes(level), Crypto::CBC, bytes);
+            };
+            const QByteArray schedule = expand(ExactArray(key));
+            QCOMPARE(schedule.size(),
+                     AesCipher::ScheduleSize(AesCipher::RoundsFor(KeySize(level) / 4)));
+            QVERIFY2(schedule.startsWith(key), cipher->name);
+            QVERIFY2(schedule.endsWith(lastRoundKey), cipher->name);
+            QCOMPARE(expand(key + "xyz"), schedule + "xyz");
         }
     }
 
-    void refusedKeysAndVectors()
+    void emptyTextStaysEmpty_data()
     {
-        const QByteArray text(20, 'a');
-        for (int n = 0; n < 12; ++n) {
-            const bool hasVector = n >= 3;
-            Crypto aes(Aes(n % 3), Mode(n / 3), Crypto::ZERO);
-            const QByteArray key = kCountingKey.left(16 + n % 3 * 8);
-            const QByteArray encoded = aes.encode(text, key, kIv);
-            QCOMPARE(encoded.size(), 32);
-            QCOMPARE(aes.encode(text, key + "surplus", kIv), encoded);
-            QVERIFY(aes.encode(QByteArray(), key, kIv).isEmpty());
-            QVERIFY(aes.decode(QByteArray(), key, kIv).isEmpty());
-            for (int length : {0, 1, key.size() - 1}) {
-                const ExactArray shorter(key.left(length));
-                QVERIFY(aes.encode(text, shorter, kIv).isEmpty());
-                QVERIFY(aes.decode(encoded, shorter, kIv).isEmpty());
-                QVERIFY(aes.expandKey(shorter).isEmpty());
-            }
-            for (int length : {0, 15, 17}) {
-                const ExactArray iv(kCountingKey.left(length));
-                QCOMPARE(aes.encode(text, key, iv), hasVector ? QByteArray() : encoded);
-                QCOMPARE(aes.decode(encoded, key, iv).isEmpty(), hasVector);
-            }
-        }
+        AddModes();
+    }
+    void emptyTextStaysEmpty()
+    {
+        QFETCH(int, mode);
+        QFETCH(int, level);
+        Crypto aes(Aes(level), Mode(mode), Crypto::ZERO);
+        QCOMPARE(aes.encode(QByteArray(), kCountingKey, kIv), QByteArray());
+        QCOMPARE(aes.decode(QByteArray(), kCountingKey, kIv), QByteArray());
     }
 
+    void keysAndVectors_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<int>("level");
+        QTest::addColumn<int>("keySize");
+        QTest::addColumn<int>("vectorSize");
+        QTest::addColumn<bool>("isRefused");
+        ForEachMode([](const char* name, int mode, int level) {
+            const auto row = [&](const char* what, int keySize, int vectorSize, bool isRefused) {
+                QTest::addRow("%s, %s", name, what)
+                    << mode << level << keySize << vectorSize << isRefused;
+            };
+            const int size = KeySize(level);
+            row("key with a surplus", size + 7, 16, false);
+            row("key a byte short", size - 1, 16, true);
+            row("key of a byte", 1, 16, true);
+            row("no key", 0, 16, true);
+            const bool hasVector = mode != Crypto::ECB;
+            row("no vector", size, 0, hasVector);
+            row("short vector", size, 15, hasVector);
+            row("long vector", size, 17, hasVector);
+        });
+    }
+    void keysAndVectors()
+    {
+        QFETCH(int, mode);
+        QFETCH(int, level);
+        QFETCH(int, keySize);
+        QFETCH(int, vectorSize);
+        QFETCH(bool, isRefused);
+        const QByteArray text(20, 'a');
+        const QByteArray goodKey = kCountingKey.left(KeySize(level));
+        Crypto aes(Aes(level), Mode(mode), Crypto::ZERO);
+        const QByteArray encoded = aes.encode(text, goodKey, kIv);
+        QCOMPARE(encoded.size(), 32);
+        const ExactArray key((goodKey + "surplus").left(keySize));
+        const ExactArray iv(kCountingKey.left(vectorSize));
+        QCOMPARE(aes.encode(text, key, iv), isRefused ? QByteArray() : encoded);
+        QCOMPARE(aes.decode(encoded, key, iv).isEmpty(), isRefused);
+        QCOMPARE(aes.expandKey(key).isEmpty(), keySize < KeySize(level));
+    }
+
+    void paddingAdded_data()
+    {
+        QTest::addColumn<int>("padding");
+        QTest::addColumn<int>("size");
+        QTest::addColumn<QByteArray>("added");
+        const auto row = [](const char* name, Padding padding, int size, const QByteArray& added) {
+            QTest::newRow(name) << int(padding) << size << added;
+        };
+        row("zeros, part of a block", Crypto::ZERO, 13, QByteArray(3, 0));
+        row("zeros, whole block", Crypto::ZERO, 16, "");
+        row("PKCS7, part of a block", Crypto::PKCS7, 19, QByteArray(13, 13));
+        row("PKCS7, whole block", Crypto::PKCS7, 16, QByteArray(16, 16));
+        row("PKCS7, no text", Crypto::PKCS7, 0, QByteArray(16, 16));
+        row("ISO, part of a block", Crypto::ISO, 13, FromHex("800000"));
+        row("ISO, room for the mark alone", Crypto::ISO, 15, FromHex("80"));
+        row("ISO, whole block", Crypto::ISO, 16, "");
+        row("ISO, no text", Crypto::ISO, 0, "");
+    }
     void paddingAdded()
     {
-        const auto check = [](Padding padding, int size, const QByteArray& added) {
-            const QByteArray text(size, 'a');
-            for (Mode mode : {Crypto::ECB, Crypto::CBC, Crypto::CFB, Crypto::OFB}) {
-                const QByteArray encoded =
-                    Crypto::Crypt(Crypto::AES_256, mode, text, kCountingKey, kIv, padding);
-                const QByteArray decoded =
-                    Crypto::Decrypt(Crypto::AES_256, mode, encoded, kCountingKey, kIv, padding);
-                QCOMPARE(decoded, text + added);
-            }
-        };
-        check(Crypto::ZERO, 13, QByteArray(3, 0));
-        check(Crypto::ZERO, 16, "");
-        check(Crypto::PKCS7, 19, QByteArray(13, 13));
-        check(Crypto::PKCS7, 16, QByteArray(16, 16));
-        check(Crypto::PKCS7, 0, QByteArray(16, 16));
-        check(Crypto::ISO, 13, FromHex("800000"));
-        check(Crypto::ISO, 15, FromHex("80"));
-        check(Crypto::ISO, 16, "");
-        check(Crypto::ISO, 0, "");
+        QFETCH(int, padding);
+        QFETCH(int, size);
+        QFETCH(QByteArray, added);
+        const QByteArray text(size, 'a');
+        for (Mode mode : {Crypto::ECB, Crypto::CBC, Crypto::CFB, Crypto::OFB}) {
+            const QByteArray encoded =
+                Crypto::Crypt(Crypto::AES_256, mode, text, kCountingKey, kIv, Padding(padding));
+            const QByteArray decoded = Crypto::Decrypt(Crypto::AES_256, mode, encoded, kCountingKey,
+                                                       kIv, Padding(padding));
+            QCOMPARE(decoded, text + added);
+        }
     }
 
+    void paddingRemoved_data()
+    {
+        QTest::addColumn<int>("padding");
+        QTest::addColumn<QByteArray>("padded"); // hexadecimal
+        QTest::addColumn<QByteArray>("text");
+        const auto row = [](const char* name, Padding padding, const char* padded,
+                            const char* text) {
+            QTest::newRow(name) << int(padding) << QByteArray(padded) << QByteArray(text);
+        };
+        row("zeros at the end", Crypto::ZERO, "0100020000", "010002");
+        row("zeros before the end", Crypto::ZERO, "0001", "0001");
+        row("zeros alone", Crypto::ZERO, "0000", "");
+        row("PKCS7 looks at the last byte only", Crypto::PKCS7, "aabb0102030405", "aabb");
+        row("PKCS7, more than there are", Crypto::PKCS7, "aabb7f", "");
+        row("PKCS7, negative", Crypto::PKCS7, "aabb80", "aabb80");
+        row("PKCS7, zero", Crypto::PKCS7, "aabb00", "aabb00");
+        row("PKCS7, no text", Crypto::PKCS7, "", "");
+        row("ISO, mark and zeros", Crypto::ISO, "aabb800000", "aabb");
+        row("ISO, two marks", Crypto::ISO, "aa8080", "aa80");
+        row("ISO, mark with text behind", Crypto::ISO, "aa80bb0000", "aa80bb0000");
+        row("ISO, no mark", Crypto::ISO, "000000", "");
+    }
     void paddingRemoved()
     {
-        const auto check = [](Padding padding, const char* padded, const char* text) {
-            const ExactArray exact(FromHex(padded));
-            QCOMPARE(Crypto::RemovePadding(exact, padding).toHex(), QByteArray(text));
-        };
-        check(Crypto::ZERO, "0100020000", "010002");
-        check(Crypto::ZERO, "0001", "0001");
-        check(Crypto::ZERO, "0000", "");
-        check(Crypto::PKCS7, "aabb0102030405", "aabb"); // the other bytes are not looked at
-        check(Crypto::PKCS7, "aabb7f", "");             // more than there are
-        check(Crypto::PKCS7, "aabb80", "aabb80");       // negative
-        check(Crypto::PKCS7, "aabb00", "aabb00");
-        check(Crypto::PKCS7, "", "");
-        check(Crypto::ISO, "aabb800000", "aabb");
-        check(Crypto::ISO, "aa8080", "aa80");
-        check(Crypto::ISO, "aa80bb0000", "aa80bb0000"); // no mark
-        check(Crypto::ISO, "000000", "");
+        QFETCH(int, padding);
+        QFETCH(QByteArray, padded);
+        const ExactArray exact(QByteArray::fromHex(padded));
+        QTEST(Crypto::RemovePadding(exact, Padding(padding)).toHex(), "text");
     }
 
     void hexadecimalText()
