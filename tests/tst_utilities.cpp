@@ -31,6 +31,8 @@
 
 namespace {
 
+const QString kConfiguration = "Corvane Video Editor/Resources/MotionKit";
+
 void Write(const QString& path, const QByteArray& content)
 {
     QFile file(path);
@@ -62,52 +64,76 @@ public slots:
 private slots:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
 
+    void fingerprint_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<quint64>("blockSize");
+        QTest::addColumn<QList<int>>("blocks"); // by their starts; none for the whole file
+        const auto row = [](const char* name, int size, quint64 blockSize,
+                            const QList<int>& blocks) {
+            QTest::newRow(name) << size << blockSize << blocks;
+        };
+        row("empty file", 0, 10, {});
+        row("blocks of no size hold nothing", 52, 0, {0});
+        row("as long as three blocks", 30, 10, {});
+        row("a byte longer than three blocks", 31, 10, {0, 10, 20});
+        row("gaps of a block", 50, 10, {0, 20, 40});
+        row("gaps rounded down to a block", 51, 10, {0, 20, 40});
+        row("large blocks", 900001, 200000, {0, 350000, 700000});
+        row("three blocks overflow", 40, std::numeric_limits<quint64>::max() / 3 + 1, {});
+    }
     void fingerprint()
     {
-        // Blocks by their starts; the whole file when there are none.
-        const auto check = [this](int size, quint64 blockSize, const QList<int>& blocks) {
-            QByteArray content(size, 0);
-            for (int i = 0; i < size; ++i)
-                content[i] = static_cast<char>(i * 31 + i / 256);
-            Write(Path("media"), content);
-            QByteArray hashed = blocks.isEmpty() ? content : QByteArray();
-            for (const int start : blocks)
-                hashed += content.mid(start, static_cast<int>(blockSize));
-            QVERIFY2(GetFileMd5(blockSize, Path("media")) == Md5(hashed),
-                     qPrintable(QString::number(size)));
+        QFETCH(int, size);
+        QFETCH(quint64, blockSize);
+        QFETCH(QList<int>, blocks);
+        QByteArray content(size, 0);
+        for (int i = 0; i < size; ++i)
+            content[i] = static_cast<char>(i * 31 + i / 256);
+        Write(Path("media"), content);
+        QByteArray hashed = blocks.isEmpty() ? content : QByteArray();
+        for (const int start : blocks)
+            hashed += content.mid(start, static_cast<int>(blockSize));
+        QCOMPARE(GetFileMd5(blockSize, Path("media")), Md5(hashed));
 
-            QFile file(Path("media"));
-            QVERIFY(file.open(QIODevice::ReadWrite));
-            const QDateTime time = QDateTime::fromMSecsSinceEpoch(1600000000123);
-            QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
-            hashed += QByteArray::number(size) + "1600000000123";
-            QCOMPARE(GetFileMd5_V2(blockSize, Path("media")), Md5(hashed));
-        };
-        check(0, 10, {});
-        check(52, 0, {0}); // nothing of it
-        check(30, 10, {});
-        check(31, 10, {0, 10, 20});
-        check(50, 10, {0, 20, 40});
-        check(51, 10, {0, 20, 40});
-        check(900001, 200000, {0, 350000, 700000});
-        check(40, std::numeric_limits<quint64>::max() / 3 + 1, {}); // three blocks overflow
+        QFile file(Path("media"));
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        const QDateTime time = QDateTime::fromMSecsSinceEpoch(1600000000123);
+        QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
+        hashed += QByteArray::number(size) + "1600000000123";
+        QCOMPARE(GetFileMd5_V2(blockSize, Path("media")), Md5(hashed));
     }
 
+    void noFile_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("missing") << "missing";
+        QTest::newRow("folder") << ".";
+        QTest::newRow("no path") << QString();
+#ifdef Q_OS_LINUX
+        QTest::newRow("pipe") << "pipe";
+        QTest::newRow("device without end") << "/dev/zero";
+#endif
+    }
     void noFile()
     {
-        QStringList none{Path("missing"), m_folder->path(), QString()};
+        QFETCH(QString, name);
 #ifdef Q_OS_LINUX
         QCOMPARE(::mkfifo(qPrintable(Path("pipe")), 0600), 0);
-        none << Path("pipe") << "/dev/zero";
-        // States a size that reading does not give, as a file does that shrinks meanwhile.
-        QCOMPARE(GetFileMd5(4096, "/sys/kernel/uevent_seqnum"), QString());
 #endif
-        for (const QString& path : none) {
-            QTest::ignoreMessage(QtDebugMsg, "file open error.");
-            QCOMPARE(GetFileMd5(10, path), QString());
-            QCOMPARE(gGetStyleSheet(nullptr, path), QString());
-        }
+        const QString path = name.isEmpty() ? name : QDir(m_folder->path()).filePath(name);
+        QTest::ignoreMessage(QtDebugMsg, "file open error.");
+        QCOMPARE(GetFileMd5(10, path), QString());
+        QCOMPARE(gGetStyleSheet(nullptr, path), QString());
     }
+
+#ifdef Q_OS_LINUX
+    // States a size that reading does not give, as a file does that shrinks meanwhile.
+    void fileShorterThanItsSize()
+    {
+        QCOMPARE(GetFileMd5(4096, "/sys/kernel/uevent_seqnum"), QString());
+    }
+#endif
 
     void command_data()
     {
@@ -151,54 +177,89 @@ private slots:
 #endif
     }
 
-    void removeDir()
+    void removesTree()
     {
         Write(Path("tree/sub/file"), "x");
         RemoveDir(nullptr, Path("tree") + QDir::separator());
         QVERIFY(!QFile::exists(Path("tree")));
-        Write(Path("outside/shown"), "x");
-        Write(Path("outside/.hidden"), "x");
-#ifdef Q_OS_WIN
-        SetFileAttributesW(Path("outside/.hidden").toStdWString().c_str(), FILE_ATTRIBUTE_HIDDEN);
-#endif
-        RemoveDir(nullptr, Path("outside"));
-        QCOMPARE(QDir(Path("outside")).entryList(QDir::Files | QDir::Hidden),
-                 QStringList(".hidden"));
-        RemoveDir(nullptr, Path("new/parent/of"));
-        QVERIFY(QFileInfo(Path("new/parent")).isDir() && !QFile::exists(Path("new/parent/of")));
     }
 
-    void removeDirKeepsToItsTree()
+    void removeLeavesHiddenFiles()
     {
-        Write(Path("outside/kept"), "x");
-        Write(Path("tree/sub/file"), "x");
-        if (!LinkFolder(Path("outside"), Path("tree/link")))
-            QSKIP("no links to folders here");
-        RemoveDir(nullptr, Path("tree"));
-        QVERIFY(!QFile::exists(Path("tree")));
-        QVERIFY(LinkFolder(Path("outside"), Path("link")));
-        QVERIFY(QDir().mkpath(Path("deep/inner")) && LinkFolder(Path("deep/inner"), Path("up")));
-        Write(Path("deep/x"), "reached by way of the link");
-        Write(Path("x"), "named by the text alone");
-        RemoveDir(nullptr, Path("up/../x"));
-#ifndef Q_OS_WIN // where ".." is a matter of the text
-        QVERIFY(!QFile::exists(Path("deep/x")) && QFile::exists(Path("x")));
+        Write(Path("tree/shown"), "x");
+        Write(Path("tree/.hidden"), "x");
+#ifdef Q_OS_WIN
+        SetFileAttributesW(Path("tree/.hidden").toStdWString().c_str(), FILE_ATTRIBUTE_HIDDEN);
 #endif
-        RemoveDir(nullptr, Path("link") + '/');
-        QVERIFY(!QFileInfo(Path("link")).isSymLink() && !QFileInfo(Path("link")).isJunction());
+        RemoveDir(nullptr, Path("tree"));
+        QCOMPARE(QDir(Path("tree")).entryList(QDir::Files | QDir::Hidden), QStringList(".hidden"));
+    }
+
+    void removeMakesTheParentOfAMissingFolder()
+    {
+        RemoveDir(nullptr, Path("new/parent/of"));
+        QVERIFY(QFileInfo(Path("new/parent")).isDir());
+        QVERIFY(!QFile::exists(Path("new/parent/of")));
+    }
+
+    void removesLinks_data()
+    {
+        QTest::addColumn<QString>("link"); // to a folder outside
+        QTest::addColumn<QString>("removed");
+        QTest::newRow("in the tree") << "tree/link"
+                                     << "tree";
+        QTest::newRow("as the tree, with a delimiter") << "tree"
+                                                       << "tree/";
+    }
+    void removesLinks()
+    {
+        QFETCH(QString, link);
+        QFETCH(QString, removed);
+        Write(Path("outside/kept"), "x");
+        QVERIFY(QDir().mkpath(QFileInfo(Path(link)).path()));
+        if (!LinkFolder(Path("outside"), Path(link)))
+            QSKIP("no links to folders here");
+        RemoveDir(nullptr, Path(removed));
+        QCOMPARE(QDir(m_folder->path())
+                     .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot),
+                 QStringList("outside"));
         QVERIFY(QFile::exists(Path("outside/kept")));
     }
 
+#ifndef Q_OS_WIN // where ".." is a matter of the text
+    void removesWhatThePathLeadsTo()
+    {
+        QVERIFY(QDir().mkpath(Path("deep/inner")));
+        QVERIFY(LinkFolder(Path("deep/inner"), Path("up")));
+        Write(Path("deep/x"), "reached by way of the link");
+        Write(Path("x"), "named by the text alone");
+        RemoveDir(nullptr, Path("up/../x"));
+        QVERIFY(!QFile::exists(Path("deep/x")));
+        QVERIFY(QFile::exists(Path("x")));
+    }
+#endif
+
+    void diskFreeSpace_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("folder") << "";
+        QTest::newRow("file") << "file";
+        QTest::newRow("folder that is not there yet") << "not/yet/there";
+    }
     void diskFreeSpace()
     {
-        const auto expected = double(QStorageInfo(m_folder->path()).bytesFree()) / 1048576;
+        QFETCH(QString, name);
         Write(Path("file"), "x");
-        for (const QString& path : {m_folder->path(), Path("file"), Path("not/yet/there")}) {
-            // Others write to the disk meanwhile.
-            const auto free = static_cast<double>(gGetDiskFreeSpace(nullptr, path));
-            QVERIFY2(qAbs(free - expected) < 0.05 * expected + 64, qPrintable(path));
-        }
-        QCOMPARE(gGetDiskFreeSpace(nullptr, QString()), quint64(2147483647));
+        const auto expected = double(QStorageInfo(m_folder->path()).bytesFree()) / (1 << 20);
+        const auto free = double(gGetDiskFreeSpace(nullptr, Path(name)));
+        const QString values = QString("%1 MiB instead of %2").arg(free).arg(expected);
+        // Others write to the disk meanwhile.
+        QVERIFY2(qAbs(free - expected) < 0.05 * expected + 64, qPrintable(values));
+    }
+
+    void noDiskHasRoomForAll()
+    {
+        QCOMPARE(gGetDiskFreeSpace(nullptr, QString()), quint64(std::numeric_limits<int>::max()));
     }
 
     void webAddress()
@@ -217,25 +278,38 @@ private slots:
         QDesktopServices::unsetUrlHandler("http");
     }
 
-    void configuration()
+    void configurationInTheNamedFolder()
     {
         qputenv("ProgramData", m_folder->path().toLocal8Bit());
-        const QString folder = Path("Corvane Video Editor/Resources/MotionKit");
-        QCOMPARE(GetConfigfileDir(), folder);
-        QVERIFY(QFileInfo(folder).isDir());
-        QCOMPARE(GetSettingFilePath(), folder + "/Settings.xml");
-        Write(GetSettingFilePath(), QByteArray(1000, 'x'));
-        CreateSettingsFile(GetSettingFilePath());
-        QCOMPARE(gGetStyleSheet(nullptr, GetSettingFilePath()),
-                 QString("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Settings/>\n"));
-        QVERIFY(!gGetStyleSheet(nullptr, ":/CommonLib/Resources/styles.qss").isEmpty());
+        const QString folder = GetConfigfileDir();
+        const QString settings = GetSettingFilePath();
         qunsetenv("ProgramData");
-        qputenv("XDG_DATA_HOME", Path("data").toLocal8Bit());
-        QVERIFY(GetConfigfileDir().endsWith("/Corvane Video Editor/Resources/MotionKit"));
-        QVERIFY(GetConfigfileDir() != folder);
+        QCOMPARE(folder, Path(kConfiguration));
+        QVERIFY(QFileInfo(folder).isDir());
+        QCOMPARE(settings, folder + "/Settings.xml");
     }
 
-    void appearanceAndRegistry()
+    void configurationInTheUsersFolder()
+    {
+        qputenv("XDG_DATA_HOME", Path("data").toLocal8Bit());
+        const QDir data(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+        QCOMPARE(GetConfigfileDir(), data.filePath(kConfiguration));
+    }
+
+    void settingsAreReplacedByEmptyOnes()
+    {
+        Write(Path("Settings.xml"), QByteArray(1000, 'x'));
+        CreateSettingsFile(Path("Settings.xml"));
+        QCOMPARE(gGetStyleSheet(nullptr, Path("Settings.xml")),
+                 QString("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Settings/>\n"));
+    }
+
+    void styleSheetOfTheLibrary()
+    {
+        QVERIFY(!gGetStyleSheet(nullptr, ":/CommonLib/Resources/styles.qss").isEmpty());
+    }
+
+    void borderColor()
     {
         QCOMPARE(gGetBorderColor(true), QColor(0, 0, 0));
 #ifdef Q_OS_WIN
@@ -247,7 +321,8 @@ private slots:
         if (SUCCEEDED(DwmGetColorizationColor(&color, &isOpaque)))
             QCOMPARE(gGetBorderColor(true).rgb(), color | 0xff000000);
 #else
-        QVERIFY(gIsAboveWin7Sys() && gGetSystemBorder() == 1);
+        QVERIFY(gIsAboveWin7Sys());
+        QCOMPARE(gGetSystemBorder(), 1);
         QPalette palette;
         palette.setColor(QPalette::Highlight, QColor(1, 2, 3, 4));
         QGuiApplication::setPalette(palette);
@@ -255,13 +330,17 @@ private slots:
         QCOMPARE(gGetBorderColor(true), QColor(1, 2, 3, 255));
 #endif
         QCOMPARE(gGetBorderColor(false), QColor(42, 52, 63, 255));
+    }
 
+    void registeredWindows()
+    {
         QWidget main, matter, player;
         gSetMainWindow(nullptr, &main);
         gSetMatterView(nullptr, &matter);
         gSetPlayerView(nullptr, &player);
         QCOMPARE(gGetMainWindow(), &main);
-        QVERIFY(gGetMatterView() == &matter && gGetPlayerView() == &player);
+        QCOMPARE(gGetMatterView(), &matter);
+        QCOMPARE(gGetPlayerView(), &player);
     }
 };
 
