@@ -81,61 +81,90 @@ private Q_SLOTS:
     void values()
     {
         QFETCH(QByteArray, content);
-        QVERIFY(Install(REAL_UTILITIES) && Write(content));
+        QVERIFY(Install(REAL_UTILITIES));
+        QVERIFY(Write(content));
         CBSUrlReader reader(nullptr);
         QTEST(reader.ReadCustomerUrl("ENG", "PID"), "expected");
         QCOMPARE(reader.ReadCustomerUrl("PID", "ENG"), QString());
     }
 
-    void unusableFiles()
+    void fileIsTooLarge()
     {
         QVERIFY(Install(REAL_UTILITIES));
         // Well-formed all through, so that only its size speaks against it.
         const QByteArray whole = Values("<Value name='PID'>x</Value>").toUtf8();
         QVERIFY(Write(whole + QByteArray(100 * 1024 * 1024 - whole.size(), ' ')));
         QCOMPARE(CBSUrlReader(nullptr).ReadCustomerUrl("ENG", "PID"), QString());
-        QVERIFY(QFile::remove(m_file) && QDir().mkdir(m_file));
+    }
+
+    void fileIsAFolder()
+    {
+        QVERIFY(Install(REAL_UTILITIES));
+        QVERIFY(QDir().mkdir(m_file));
         QCOMPARE(CBSUrlReader(nullptr).ReadCustomerUrl("ENG", "PID"), QString());
     }
 
+    void bufferIsNeverOverrun_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<int>("capacity"); // of eight characters that are there
+        QTest::addColumn<bool>("isRead");
+        for (int capacity = -1; capacity < 8; ++capacity)
+            QTest::addRow("room for %d, five needed", capacity)
+                << "four" << capacity << (capacity >= 5);
+        QTest::newRow("room for the end of an empty value") << "" << 1 << true;
+    }
     void bufferIsNeverOverrun()
     {
+        QFETCH(QString, value);
+        QFETCH(int, capacity);
+        QFETCH(bool, isRead);
+        constexpr int size = 8;
         QVERIFY(Install(REAL_UTILITIES));
-        QVERIFY(Write(Values("<Value name='PID'>four</Value><Value name='E'/>").toUtf8()));
-        const CBSUrlReader reader(nullptr);
+        QVERIFY(Write(Values(QString("<Value name='PID'>%1</Value>").arg(value)).toUtf8()));
+        const CBSUrlReader reader(nullptr); // loads the file
         const auto read =
             reinterpret_cast<ReadFunction>(QLibrary::resolve(m_module, "ReadCustomizeInfoW"));
         QVERIFY(read);
-        for (int capacity = -1; capacity < 8; ++capacity) {
-            std::vector<wchar_t> buffer(8, L'#');
-            const int found = read(L"PID", L"ENG", buffer.data(), capacity, 0, 0);
-            QCOMPARE(found != 0, capacity >= 5);
-            const QString expected = found ? QString("four") + QChar(0) + "###" : "########";
-            QCOMPARE(QString::fromWCharArray(buffer.data(), 8), expected);
-        }
-        wchar_t one = L'#';
-        QVERIFY(read(L"E", L"ENG", &one, 1, 0, 0) != 0 && one == L'\0');
+        std::vector<wchar_t> buffer(size, L'#');
+        QCOMPARE(read(L"PID", L"ENG", buffer.data(), capacity, 0, 0) != 0, isRead);
+        const QString written = isRead ? value + QChar(0) : QString();
+        QCOMPARE(QString::fromWCharArray(buffer.data(), size), written.leftJustified(size, '#'));
     }
 
-    void modules()
+    void modules_data()
     {
         const QDir plugins(QLibraryInfo::location(QLibraryInfo::PluginsPath) + "/platforms");
         const QString other = plugins.entryList({"*qminimal*"}, QDir::Files).value(0);
-        const QList<QStringList> rows = {
-            {SCRIPTED_UTILITIES, "PID", "ENG 256"},
-            {SCRIPTED_UTILITIES, "file", m_file},
-            {SCRIPTED_UTILITIES, "nothing", "0"},
-            {SCRIPTED_UTILITIES, "all characters, no end", QString(256, 'x')},
-            {SCRIPTED_UTILITIES, "failure", ""},
-            {other.isEmpty() ? other : plugins.filePath(other), "PID", ""},
-            {"", "PID", ""},
-            {m_file, "PID", ""}};
-        for (const QStringList& row : rows) {
-            cleanup();
-            QVERIFY(Write("<Customization/>") && Install(row[0]));
-            QCOMPARE(CBSUrlReader(nullptr).ReadCustomerUrl("ENG", row[1]), row[2]);
-            QVERIFY(!QLibrary(m_module).isLoaded());
-        }
+        QTest::addColumn<QString>("module");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("group and capacity") << SCRIPTED_UTILITIES << "PID"
+                                            << "ENG 256";
+        QTest::newRow("file that is read") << SCRIPTED_UTILITIES << "file" << m_file;
+        QTest::newRow("success without a value") << SCRIPTED_UTILITIES << "nothing"
+                                                 << "0";
+        QTest::newRow("value without end")
+            << SCRIPTED_UTILITIES << "all characters, no end" << QString(256, 'x');
+        QTest::newRow("failure") << SCRIPTED_UTILITIES << "failure"
+                                 << "";
+        if (!other.isEmpty())
+            QTest::newRow("another library") << plugins.filePath(other) << "PID"
+                                             << "";
+        QTest::newRow("no module") << ""
+                                   << "PID"
+                                   << "";
+        QTest::newRow("no library") << m_file << "PID"
+                                    << "";
+    }
+    void modules()
+    {
+        QFETCH(QString, module);
+        QFETCH(QString, name);
+        QVERIFY(Write("<Customization/>"));
+        QVERIFY(Install(module));
+        QTEST(CBSUrlReader(nullptr).ReadCustomerUrl("ENG", name), "expected");
+        QVERIFY(!QLibrary(m_module).isLoaded());
     }
 };
 
