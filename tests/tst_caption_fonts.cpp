@@ -53,45 +53,58 @@ private Q_SLOTS:
         QCOMPARE(EndSession(), QStringList());
     }
 
-    void start()
+    void startAsksTheEngineForItsFonts()
     {
-        QVERIFY(QDir().mkpath(m_fonts));
-        const QByteArray serif = TestFonts::Serif();
-        const char* const files[] = {"a.TTF", "b.otfx", "c.txt", "broken.ttf"};
-        const char* const families[] = {"Caption A", "Caption B", "Caption C", ""};
-        for (int i = 0; i < 4; ++i)
-            QVERIFY(TestFonts::Write(m_fonts + files[i],
-                                     i == 3 ? "no font" : TestFonts::Renamed(serif, families[i])));
+        constexpr int longestName = 256;
         LogCapture log;
-        const auto library = MakeLibrary(
-            {"caption b", "Unknown", "Caption A", "Unknown", QString(300, 'x'), "Caption C"});
+        const auto library = MakeLibrary({"B", "A", "B", QString(300, 'x')});
         ICaptionEnvironment* environment = ICaptionEnvironment::GetInstance();
         QCOMPARE(ICaptionEnvironment::GetInstance(), environment);
         QCOMPARE(Text(environment->GetFactory()), QString("factory"));
         const QString native = QDir::toNativeSeparators(m_fonts);
-        const QString setUp =
-            "module.DllGetClassObject(); classFactory.CreateInstance(null); factory.Init(0); "
-            "factory.GetFontLibrary(); fonts.SetCacheFile(" +
-            native +
-            "Cache.xml); "
-            "fonts.SetFontFolder(" +
-            native + "); fonts.GetFontCount()";
-        QCOMPARE(script.TakeCalls().join("; "),
-                 setUp + QString("; fonts.GetFontName(256)").repeated(6));
-        // Sorted; Qt's spelling where it has the font.
-        const QStringList expected = {"Caption A=Caption A", "Caption C=Caption C",
-                                      "Unknown=Unknown", "caption b=Caption B",
-                                      QString(256, 'x') + '=' + QString(256, 'x')};
-        QCOMPARE(List(environment), expected);
-        QVERIFY(!QFontDatabase().hasFamily("Caption C"));
-
-        ICaptionEnvironment::GetInstance()->Release();
-        QCOMPARE(script.TakeCalls(), QStringList("factory.Shutdown(1)"));
-        QCOMPARE(References(library.get()), 2u); // the script's and this one
-        QCOMPARE(Messages(log), QStringList("InitSystemFont: Fontcount:6"));
+        const QStringList setUp = {"module.DllGetClassObject()",
+                                   "classFactory.CreateInstance(null)",
+                                   "factory.Init(0)",
+                                   "factory.GetFontLibrary()",
+                                   "fonts.SetCacheFile(" + native + "Cache.xml)",
+                                   "fonts.SetFontFolder(" + native + ")",
+                                   "fonts.GetFontCount()"};
+        const QString name = QString("fonts.GetFontName(%1)").arg(longestName);
+        QCOMPARE(script.TakeCalls(), setUp + QStringList({name, name, name, name}));
+        const QString cut(longestName, 'x');
+        QCOMPARE(List(environment), QStringList({"A=A", "B=B", cut + '=' + cut}));
+        QCOMPARE(Messages(log), QStringList("InitSystemFont: Fontcount:4"));
     }
 
-    void addFonts()
+    void fontFilesGiveQtTheirFamilies()
+    {
+        QVERIFY(QDir().mkpath(m_fonts));
+        const QByteArray serif = TestFonts::Serif();
+        QVERIFY(TestFonts::Write(m_fonts + "a.TTF", TestFonts::Renamed(serif, "Caption A")));
+        QVERIFY(TestFonts::Write(m_fonts + "b.otfx", TestFonts::Renamed(serif, "Caption B")));
+        QVERIFY(TestFonts::Write(m_fonts + "c.txt", TestFonts::Renamed(serif, "Caption C")));
+        QVERIFY(TestFonts::Write(m_fonts + "broken.ttf", "no font"));
+        const auto library = MakeLibrary({"caption b", "Unknown", "Caption A", "Caption C"});
+        // Sorted; Qt's spelling where it has the font.
+        const QStringList expected = {"Caption A=Caption A", "Caption C=Caption C",
+                                      "Unknown=Unknown", "caption b=Caption B"};
+        QCOMPARE(List(ICaptionEnvironment::GetInstance()), expected);
+        QVERIFY(!QFontDatabase().hasFamily("Caption C"));
+    }
+
+    void releaseShutsTheEngineDown()
+    {
+        const auto library = MakeLibrary({});
+        LogCapture log;
+        ICaptionEnvironment* environment = ICaptionEnvironment::GetInstance();
+        script.TakeCalls();
+        environment->Release();
+        QCOMPARE(script.TakeCalls(), QStringList("factory.Shutdown(1)"));
+        QCOMPARE(References(library.get()), 2u); // the script's and this one
+        QCOMPARE(Messages(log), QStringList("InitSystemFont: Fontcount:0"));
+    }
+
+    void addsFontsOfAFolder()
     {
         const QTemporaryDir folder;
         const auto library = MakeLibrary({"B"});
@@ -104,22 +117,42 @@ private Q_SLOTS:
         QCOMPARE(script.TakeCalls().first(),
                  "fonts.AddFontFolder(" + QDir::toNativeSeparators(folder.path() + '/') + ')');
         QCOMPARE(List(environment), QStringList({"A=A", "B=B", "C=C"}));
+        const QStringList messages = {
+            "InitSystemFont: Fontcount:1", "AddFonts: AddFonts Fontcount:1",
+            "InitSystemFont: Fontcount:3", "AddFonts: AddFonts Fontcount:3"};
+        QCOMPARE(Messages(log), messages);
+    }
+
+    void addsNothingOfAMissingFolder()
+    {
+        const QTemporaryDir folder;
+        const auto library = MakeLibrary({"B"});
+        LogCapture log;
+        ICaptionEnvironment* environment = ICaptionEnvironment::GetInstance();
+        script.TakeCalls();
         library->names = QStringList("D");
         environment->AddFonts(folder.path() + "/missing");
         environment->AddFonts(QString());
-        QCOMPARE(environment->GetFonts()->size(), 3);
+        QCOMPARE(script.TakeCalls(), QStringList());
+        QCOMPARE(List(environment), QStringList("B=B"));
+        QCOMPARE(Messages(log), QStringList("InitSystemFont: Fontcount:1"));
+    }
+
+    void addsFontsOfTheSystem()
+    {
+        const auto library = MakeLibrary({"B"});
+        LogCapture log;
+        ICaptionEnvironment* environment = ICaptionEnvironment::GetInstance();
+        script.TakeCalls();
+        library->names = QStringList("D");
         environment->AddSystemFonts();
         const QStringList calls = {"fonts.LoadSystemFonts()", "fonts.GetFontCount()",
                                    "fonts.GetFontName(256)"};
         QCOMPARE(script.TakeCalls(), calls);
         QCOMPARE(List(environment), QStringList("D=D"));
-        const QStringList messages = {"InitSystemFont: Fontcount:1",
-                                      "AddFonts: AddFonts Fontcount:1",
-                                      "InitSystemFont: Fontcount:3",
-                                      "AddFonts: AddFonts Fontcount:3",
-                                      "AddSystemFonts: LoadSystemFonts start",
-                                      "AddSystemFonts: LoadSystemFonts end",
-                                      "InitSystemFont: Fontcount:1"};
+        const QStringList messages = {
+            "InitSystemFont: Fontcount:1", "AddSystemFonts: LoadSystemFonts start",
+            "AddSystemFonts: LoadSystemFonts end", "InitSystemFont: Fontcount:1"};
         QCOMPARE(Messages(log), messages);
     }
 
