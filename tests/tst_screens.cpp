@@ -34,9 +34,11 @@ private slots:
         firstLines = log.Take();
     }
 
-    void areaClasses()
+    void areaClasses_data()
     {
-        const auto classOf = ScreenResolution::GetScreenRangeTypeFrom;
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("height");
+        QTest::addColumn<int>("expected");
         // Both ends of every class, as areas one pixel high.
         const QVector<QPair<int, int>> ends = {
             {1, 2},        {250000, 2},   {250001, 1},   {479999, 1},   {480000, 2},
@@ -47,11 +49,17 @@ private slots:
             {4095999, 13}, {4096000, 14}, {5242879, 14}, {5242880, 15}, {6998399, 15},
             {6998400, 16}, {6998401, 0},  {7387200, 0},  {7387201, 17}, {INT_MAX, 17}};
         for (const auto& [area, type] : ends)
-            QCOMPARE(classOf(area, 1), type);
-        QCOMPARE(classOf(INT_MAX, INT_MAX), 17);
-        QCOMPARE(classOf(2560, 1440), 13);
-        QCOMPARE(classOf(0, 1080), 0);
-        QCOMPARE(classOf(-1920, -1080), 0);
+            QTest::addRow("%d pixels", area) << area << 1 << type;
+        QTest::newRow("area beyond 32 bits") << INT_MAX << INT_MAX << 17;
+        QTest::newRow("QHD") << 2560 << 1440 << 13;
+        QTest::newRow("no width") << 0 << 1080 << 0;
+        QTest::newRow("negative sides") << -1920 << -1080 << 0;
+    }
+    void areaClasses()
+    {
+        QFETCH(int, width);
+        QFETCH(int, height);
+        QTEST(ScreenResolution::GetScreenRangeTypeFrom(width, height), "expected");
     }
 
     void pixelRatios_data()
@@ -117,24 +125,35 @@ private slots:
         QCOMPARE(PixelRatioOn(1.5, 0.0, 1.0), 1.5);
     }
 
+    void physicalSides_data()
+    {
+        QTest::addColumn<int>("side");
+        for (const int side :
+             {600,  720,  768,  800,  864,  900,  1024, 1080, 1200, 1280, 1360, 1440,
+              1504, 1600, 1664, 1800, 1920, 1964, 2000, 2160, 2256, 2304, 2400, 2560,
+              2880, 3000, 3024, 3072, 3200, 3440, 3840, 4096, 4320, 5120})
+            QTest::addRow("%d pixels", side) << side;
+    }
     // Qt's logical size is rounded; the mode that it comes from is found all the same.
     void physicalSides()
     {
+        QFETCH(int, side);
         for (int percent = 100; percent <= 400; ++percent) {
             const double scale = percent / 100.0;
-            for (const int side :
-                 {600,  720,  768,  800,  864,  900,  1024, 1080, 1200, 1280, 1360, 1440,
-                  1504, 1600, 1664, 1800, 1920, 1964, 2000, 2160, 2256, 2304, 2400, 2560,
-                  2880, 3000, 3024, 3072, 3200, 3440, 3840, 4096, 4320, 5120})
-                QVERIFY2(PhysicalSide(qRound(side / scale), scale) == side,
-                         qPrintable(QString("%1 at %2").arg(side).arg(scale)));
+            const int found = PhysicalSide(qRound(side / scale), scale);
+            const QString values = QString("%1 at %2 %").arg(found).arg(percent);
+            QVERIFY2(found == side, qPrintable(values));
         }
+    }
+
+    void physicalSidesOfOddModes()
+    {
         QCOMPARE(PhysicalSide(qRound(1366 / 1.25), 1.25), 1366);
         QCOMPARE(PhysicalSide(701, 1.0), 701);
         QCOMPARE(PhysicalSide(1, 4.0), 4);
     }
 
-    void screensOfTheToolkit()
+    void screensAreThoseOfQt()
     {
         QVector<ScreenResolution::ScreenInfo> infos(7);
         QVERIFY(ScreenResolution::GetScreenInfos(infos));
@@ -153,12 +172,20 @@ private slots:
                      ScreenResolution::GetScreenRangeTypeFrom(logical.width(), logical.height()));
         }
         QCOMPARE(ScreenResolution::GetScreenRangeType(99), 0);
+    }
+
+    void whatFollowsTheClass()
+    {
         const int type = ScreenResolution::GetScreenRangeType(0);
         QVERIFY(ScreenResolution::AdapterMinimumSize(nullptr, type + 1));
         QVERIFY(!ScreenResolution::AdapterMinimumSize(nullptr, type));
-        QCOMPARE(ScreenResolution::CheckEnableHightDPIScale(), screens.size() != 1 || type > 12);
+        QCOMPARE(ScreenResolution::CheckEnableHightDPIScale(),
+                 ScreenResolution::GetScreenCount() != 1 || type > 12);
         QVERIFY(ScreenResolution::EnableHightDPIResource());
+    }
 
+    void desktopKnowsTheScreenOfAPoint()
+    {
         DesktopMgr* desktop = DesktopMgr::GetInstance();
         QCOMPARE(DesktopMgr::GetInstance(), desktop);
         QVERIFY(desktop->MainScreen());
@@ -183,11 +210,14 @@ private slots:
         const QString doubled = expected > 1 ? "_2x" : "";
         QCOMPARE(gGetResourcePathWithPixelRatio("/a.b/icon.dark.png"),
                  "/a.b/icon.dark" + doubled + ".png");
-        QVERIFY(gGetCommonLibStyles().contains("#CommonLib_TimelineRuler"));
+    }
 
+    void styleSheetReachesTheRuler()
+    {
         TimelineRuler ruler;
         ruler.setStyleSheet(gGetCommonLibStyles());
         ruler.ensurePolished();
+        QVERIFY(gGetCommonLibStyles().contains("#CommonLib_TimelineRuler"));
         QCOMPARE(ruler.GetPointerBGColor(), QColor("#4da3ff"));
     }
 
