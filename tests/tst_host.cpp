@@ -66,32 +66,42 @@ private slots:
         m_output = path("out");
     }
 
+    void wrongUsage_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::newRow("no media") << QStringList();
+        QTest::newRow("unknown option") << QStringList{"--nonsense", "a"};
+        QTest::newRow("no folder for the output") << QStringList{"--output", "/dev/null/out", "a"};
+        QTest::newRow("unknown language") << QStringList{"--language", "a", "a"};
+    }
     void wrongUsage()
     {
-        const QList<QStringList> wrong{
-            {}, {"--nonsense", "a"}, {"--output", "/dev/null/out", "a"}, {"--language", "a", "a"}};
-        for (const QStringList& arguments : wrong) {
-            const Run run = runHost(arguments);
-            QVERIFY2(run.code == 2 && !run.text.isEmpty(), qPrintable(arguments.join(' ')));
-        }
+        QFETCH(QStringList, arguments);
+        const Run run = runHost(arguments);
+        QCOMPARE(run.code, 2);
+        QVERIFY(!run.text.isEmpty());
     }
 
     void helpIsInTheChosenLanguage()
     {
         const QString english = runHost({"--help"}).text;
-        QVERIFY(english.contains("MEDIA") && english.contains("Usage:"));
+        for (const char* word : {"MEDIA", "Usage:"})
+            QVERIFY2(english.contains(word), qPrintable(english));
         if (!HAS_QT_TRANSLATIONS)
             QSKIP("built without Qt's translations");
         const QString german = runHost({"--language", "German", "--help"}).text;
+        QVERIFY(!german.isEmpty());
         for (const char* word : {"Usage", "[options]", "Options:", "Arguments:", "MEDIA"})
-            QVERIFY2(!german.isEmpty() && !german.contains(word), qPrintable(german));
+            QVERIFY2(!german.contains(word), qPrintable(german));
     }
 
     void unusableFilesAreExplained()
     {
         QVERIFY(QDir().mkpath(path("folder.mp4")));
-        QVERIFY(writeFile(path("empty.mp4"), {}) && writeFile(path("text.mp4"), "No movie.\n"));
-        QVERIFY(QDir().mkpath(m_output) && QFile::link(m_output, path("link"))); // the same log
+        QVERIFY(writeFile(path("empty.mp4"), {}));
+        QVERIFY(writeFile(path("text.mp4"), "No movie.\n"));
+        QVERIFY(QDir().mkpath(m_output));
+        QVERIFY(QFile::link(m_output, path("link"))); // the same log
         const Run run = runHost({"--output", m_output, "--log", path("link/CommonLibDemo.log"),
                                  path("missing.mp4"), path("folder.mp4"), path("empty.mp4"),
                                  path("text.mp4"), "/dev/zero"});
@@ -101,7 +111,7 @@ private slots:
               "folder.mp4: is a folder, not a media file", "text.mp4: cannot be read as media",
               "zero: is not a regular file"})
             QVERIFY2(run.text.contains(line), line);
-        QVERIFY(QDir(m_output).entryList({"*.png"}).isEmpty());
+        QCOMPARE(QDir(m_output).entryList({"*.png"}), QStringList());
         const QByteArray log = readFile(m_output + "/CommonLibDemo.log");
         QVERIFY(log.contains("empty.mp4: is empty"));
         QVERIFY(log.contains("]:  end - ["));
