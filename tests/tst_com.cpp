@@ -96,7 +96,8 @@ private slots:
             Pointer moved(std::move(pointer));
             const NLEComPtr<IBase> base(std::move(moved));
             QCOMPARE(object.references, 2u);
-            QVERIFY(base.get() == &object && moved == nullptr); // NOLINT(bugprone-use-after-move)
+            QCOMPARE(base.get(), &object);
+            QVERIFY(moved == nullptr); // NOLINT(bugprone-use-after-move)
         });
         row("assigning a pointer to itself keeps the object", [](Counted& object) {
             Pointer pointer(&object);
@@ -108,7 +109,8 @@ private slots:
             Pointer pointer;
             pointer.attach(&object);
             QCOMPARE(object.references, 1u);
-            QVERIFY(pointer.detach() == &object && pointer == nullptr);
+            QCOMPARE(pointer.detach(), &object);
+            QVERIFY(pointer == nullptr);
         });
         row("put releases what was held", [](Counted& object) {
             Pointer pointer(&object);
