@@ -95,23 +95,13 @@ private slots:
         QCOMPARE(Content(m_path), QByteArray());
     }
 
-    void opensNoFileWithoutAPath()
+    void reportsWhyItDoesNotOpen()
     {
         const Log log(CreateLogInstance());
         QCOMPARE(log->Init(nullptr, false, 0), 1);
-    }
-
-    void opensAfterAFailure()
-    {
-        const Log log(CreateLogInstance());
         QCOMPARE(Init(log, m_folder->path()), 27);
         QCOMPARE(Names(), QStringList());
         QCOMPARE(Init(log, m_path), 0);
-    }
-
-    void opensNoSecondFile()
-    {
-        const Log log = OpenLog(m_path);
         QCOMPARE(Init(log, m_folder->filePath("b.log")), 23);
         Say(log, "in the first");
         QCOMPARE(Names(), QStringList("app.log"));

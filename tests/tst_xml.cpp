@@ -118,14 +118,10 @@ private slots:
 #endif
     }
 
-    void createsEmptyDocument()
+    void createsFileUnlessItIsThere()
     {
         XmlOperation::CreateXmlFile(Path("new.xml"), "Root");
         QCOMPARE(Read(Path("new.xml")), kDeclaration + "<Root/>\n");
-    }
-
-    void createLeavesAnOldFile()
-    {
         Write(Path("old.xml"), "anything\r\n");
         XmlOperation::CreateXmlFile(Path("old.xml"), "Root");
         QCOMPARE(Read(Path("old.xml")), QString("anything\r\n"));
