@@ -18,6 +18,16 @@ int RoundTrip(int frame, float fps)
     return gString2Frame(fps, gFrame2String(frame, fps));
 }
 
+// The first of every `step`th frame that comes back as another one; `end` when all before it stay.
+int FirstChanged(float fps, int end, int step)
+{
+    for (int frame = 0; frame < end; frame += step) {
+        if (RoundTrip(frame, fps) != frame)
+            return frame;
+    }
+    return end;
+}
+
 } // namespace
 
 class TestTimecode : public QObject
@@ -127,8 +137,7 @@ private slots:
     {
         QFETCH(float, fps);
         const int end = static_cast<int>(kDaySeconds * fps);
-        for (int frame = 0; frame < end; frame += end / 60000)
-            QCOMPARE(RoundTrip(frame, fps), frame);
+        QCOMPARE(FirstChanged(fps, end, end / 60000), end);
     }
 
     void fractionalRatesLoseAFrameLater_data()
@@ -144,13 +153,13 @@ private slots:
     {
         QFETCH(float, fps);
         QFETCH(int, firstChanged);
-        for (int frame = 0; frame < firstChanged; frame += 7)
-            QCOMPARE(RoundTrip(frame, fps), frame);
+        QCOMPARE(FirstChanged(fps, firstChanged, 7), firstChanged);
         QCOMPARE(RoundTrip(firstChanged, fps), firstChanged - 1);
         const int end = static_cast<int>(kDaySeconds * fps);
         for (int frame = firstChanged; frame < end; frame += end / 60000) {
             const int lost = frame - RoundTrip(frame, fps);
-            QVERIFY2(lost == 0 || lost == 1, qPrintable(QString("frame %1").arg(frame)));
+            if (lost != 0 && lost != 1)
+                QFAIL(qPrintable(QString("frame %1 loses %2").arg(frame).arg(lost)));
         }
     }
 
