@@ -123,10 +123,10 @@ QByteArray Run(const Implementation& cipher, MemberTransform transform, const Ex
                char* out)
 {
     AesCipher::Schedule schedule;
-    cipher.ExpandKey(Bytes(kCountingKey.constData()), 4, schedule);
-    cipher.AddDecryptionKeys(schedule);
+    cipher.expandKey(Bytes(kCountingKey.constData()), 4, schedule);
+    cipher.addDecryptionKeys(schedule);
     QByteArray chain = kIv;
-    const auto blocks = std::size_t(QByteArray(text).size() / AesCipher::BlockSize);
+    const auto blocks = std::size_t(QByteArray(text).size() / AesCipher::kBlockSize);
     (cipher.*transform)(schedule, Bytes(chain.data()), Bytes(text.Data()), Bytes(out), blocks);
     return chain;
 }
@@ -227,23 +227,23 @@ private slots:
     void largeTexts_data()
     {
         QTest::addColumn<MemberTransform>("transform");
-        QTest::newRow("ECB, encrypted") << &Implementation::EcbEncrypt;
-        QTest::newRow("ECB, decrypted") << &Implementation::EcbDecrypt;
-        QTest::newRow("CBC, decrypted") << &Implementation::CbcDecrypt;
-        QTest::newRow("CFB, decrypted") << &Implementation::CfbDecrypt;
+        QTest::newRow("ECB, encrypted") << &Implementation::ecbEncrypt;
+        QTest::newRow("ECB, decrypted") << &Implementation::ecbDecrypt;
+        QTest::newRow("CBC, decrypted") << &Implementation::cbcDecrypt;
+        QTest::newRow("CFB, decrypted") << &Implementation::cfbDecrypt;
     }
     // Where results may be written in another way, which depends on how they lie in memory.
     void largeTexts()
     {
         QFETCH(MemberTransform, transform);
         // Little or nothing is left behind whole groups, to cover up what was written there.
-        constexpr int size = (8 << 20) + 33 * AesCipher::BlockSize;
+        constexpr int size = (8 << 20) + 33 * AesCipher::kBlockSize;
         QRandomGenerator random(38);
         const ExactArray text(RandomArray(random, size));
         std::vector<char> expected(size);
-        const QByteArray expectedChain = Run(AesCipher::Portable, transform, text, expected.data());
+        const QByteArray expectedChain = Run(AesCipher::kPortable, transform, text, expected.data());
 
-        for (int i = 0; AesCipher::Available(i) != &AesCipher::Portable; ++i) {
+        for (int i = 0; AesCipher::Available(i) != &AesCipher::kPortable; ++i) {
             const Implementation& cipher = *AesCipher::Available(i);
             for (int offset : {0, 8, 40, 61}) {
                 std::vector<char> buffer(size + 256, '#');
