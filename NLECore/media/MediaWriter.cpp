@@ -434,6 +434,8 @@ struct MediaWriter::Private
         return Check(code);
     }
 
+    /// Only the codec, when it is opened, and the container, with its header, tell what they take;
+    /// so each format is tried from the start.
     bool StartWithNearestSound(const AVOutputFormat* container)
     {
         if (Start(container))

@@ -73,7 +73,7 @@ std::shared_ptr<ChunkStore> ChunkStore::Of(const QString& path)
 ChunkStore::~ChunkStore()
 {
     LeaveFolder();
-    if (m_isFolderOurs)
+    if (m_guarded.isFolderOurs)
         QDir().rmdir(m_folder);
 }
 
@@ -101,18 +101,19 @@ bool ChunkStore::Prepare()
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (!IsFolderThere() && !QDir().mkpath(m_folder))
         return false;
-    m_isFolderOurs = m_isFolderOurs || QDir(m_folder).isEmpty(QDir::AllEntries | QDir::Hidden |
+    m_guarded.isFolderOurs =
+        m_guarded.isFolderOurs || QDir(m_folder).isEmpty(QDir::AllEntries | QDir::Hidden |
                                                               QDir::System | QDir::NoDotAndDotDot);
     if (!QTemporaryFile(PathOf({}) + QLatin1String(".XXXXXX")).open())
         return false;
-    m_listedState = kUnknownState;
+    m_guarded.listedState = kUnknownState;
     return true;
 }
 
 void ChunkStore::EnsureListed()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (!m_isListed || !IsFolderThere())
+    if (!m_guarded.isListed || !IsFolderThere())
         List();
 }
 
@@ -121,7 +122,8 @@ void ChunkStore::Refresh()
     const std::lock_guard<std::mutex> lock(m_mutex);
     const QFileInfo folder(m_folder);
     const std::int64_t state = folder.lastModified().toMSecsSinceEpoch();
-    if (!m_isListed || !folder.isDir() || m_listedState == kUnknownState || state != m_listedState)
+    if (!m_guarded.isListed || !folder.isDir() || m_guarded.listedState == kUnknownState ||
+        state != m_guarded.listedState)
         List();
 }
 
@@ -132,43 +134,43 @@ void ChunkStore::List()
     Claim();
     // What changes within one grain of time after this cannot be told from it.
     const std::int64_t state = QFileInfo(m_folder).lastModified().toMSecsSinceEpoch();
-    m_listedState = state + kTimeGrain < Now() ? state : kUnknownState;
+    m_guarded.listedState = state + kTimeGrain < Now() ? state : kUnknownState;
     // What has come since, or is here while another process has the claim, is not this one's.
-    const bool isOthers = m_wasListed || !m_claim;
+    const bool isOthers = m_guarded.wasListed || !m_guarded.claim;
     std::unordered_map<ContentKey, Entry, ContentKeyHash> found;
     std::int64_t used = 0;
     ForEachFile(m_folder, [&](const ContentKey& key, bool isWhole, const QDirIterator& file) {
-        if (!isWhole && m_claim && !m_wasListed)
+        if (!isWhole && m_guarded.claim && !m_guarded.wasListed)
             QFile::remove(file.filePath());
         if (!isWhole)
             return;
-        const auto known = m_entries.find(key);
+        const auto known = m_guarded.entries.find(key);
         const QFileInfo info = file.fileInfo();
         const std::int64_t written = info.lastModified().toMSecsSinceEpoch();
-        const Entry entry = known != m_entries.end()
+        const Entry entry = known != m_guarded.entries.end()
                                 ? known->second
                                 : Entry{info.size(), std::min(written, Now()), isOthers};
         found[key] = entry;
         used += entry.size;
     });
-    m_entries.swap(found);
-    m_used = used;
-    m_isListed = IsFolderThere();
-    m_wasListed = true;
+    m_guarded.entries.swap(found);
+    m_guarded.used = used;
+    m_guarded.isListed = IsFolderThere();
+    m_guarded.wasListed = true;
 }
 
 void ChunkStore::Claim()
 {
-    if (m_claim && !QFileInfo::exists(InFolder(kClaimName)))
-        m_claim.reset();
-    if (m_claim || !IsFolderThere())
+    if (m_guarded.claim && !QFileInfo::exists(InFolder(kClaimName)))
+        m_guarded.claim.reset();
+    if (m_guarded.claim || !IsFolderThere())
         return;
-    m_claim = std::make_unique<QLockFile>(InFolder(kClaimName));
-    m_claim->setStaleLockTime(0);
-    if (m_claim->tryLock(0))
+    m_guarded.claim = std::make_unique<QLockFile>(InFolder(kClaimName));
+    m_guarded.claim->setStaleLockTime(0);
+    if (m_guarded.claim->tryLock(0))
         QFile::remove(InFolder(kSharedName));
     else
-        m_claim.reset();
+        m_guarded.claim.reset();
 }
 
 /// Whether other processes may have written to the folder since it was last listed. The one that
@@ -176,29 +178,30 @@ void ChunkStore::Claim()
 /// takes the mark away before it lists; who has only now got the claim does not know.
 bool ChunkStore::IsShared()
 {
-    const bool hadClaim = m_claim != nullptr;
+    const bool hadClaim = m_guarded.claim != nullptr;
     Claim();
-    if (m_claim)
+    if (m_guarded.claim)
         return QFile::remove(InFolder(kSharedName)) || !hadClaim;
-    m_isMarked = QFile(InFolder(kSharedName)).open(QIODevice::WriteOnly) || m_isMarked;
+    m_guarded.isMarked =
+        QFile(InFolder(kSharedName)).open(QIODevice::WriteOnly) || m_guarded.isMarked;
     return true;
 }
 
 /// The mark stays for the one that has the claim; who leaves last takes it away.
 void ChunkStore::LeaveFolder()
 {
-    if (m_isMarked)
+    if (m_guarded.isMarked)
         Claim();
-    if (m_claim)
+    if (m_guarded.claim)
         QFile::remove(InFolder(kSharedName));
-    m_isMarked = false;
-    m_claim.reset();
+    m_guarded.isMarked = false;
+    m_guarded.claim.reset();
 }
 
 bool ChunkStore::Has(const ContentKey& key) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_entries.count(key) != 0;
+    return m_guarded.entries.count(key) != 0;
 }
 
 std::int64_t ChunkStore::CountFrames(const std::vector<Chunk>& chunks) const
@@ -206,7 +209,7 @@ std::int64_t ChunkStore::CountFrames(const std::vector<Chunk>& chunks) const
     const std::lock_guard<std::mutex> lock(m_mutex);
     std::int64_t frames = 0;
     for (const Chunk& chunk : chunks)
-        frames += m_entries.count(chunk.key) != 0 ? chunk.Length() : 0;
+        frames += m_guarded.entries.count(chunk.key) != 0 ? chunk.Length() : 0;
     return frames;
 }
 
@@ -222,7 +225,7 @@ ChunkStore::Reservation ChunkStore::Reserve(const CacheLimits& limits, std::int6
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     Reservation reservation(*this, FindRoom(limits, wanted, keep), wanted);
-    m_reserved += reservation.m_size;
+    m_guarded.reserved += reservation.m_size;
     return reservation;
 }
 
@@ -231,13 +234,13 @@ ChunkStore::Reservation::~Reservation()
     if (m_size == 0)
         return;
     const std::lock_guard<std::mutex> lock(m_store.m_mutex);
-    m_store.m_reserved -= m_size;
+    m_store.m_guarded.reserved -= m_size;
 }
 
 ChunkStore::Room ChunkStore::FindRoom(const CacheLimits& limits, std::int64_t wanted,
                                       const KeySet& keep)
 {
-    const std::int64_t surplus = m_used + m_reserved + wanted - limits.quota;
+    const std::int64_t surplus = m_guarded.used + m_guarded.reserved + wanted - limits.quota;
     if (surplus > 0 && !Evict(surplus, keep))
         return Room::QuotaReached;
     const std::int64_t free = FreeSpace();
@@ -251,7 +254,7 @@ bool ChunkStore::Evict(std::int64_t bytes, const KeySet& keep)
     std::vector<std::pair<std::int64_t, ContentKey>> oldest;
     std::int64_t removable = 0;
     const std::int64_t othersUntil = Now() - kOthersTime;
-    for (const auto& [key, entry] : m_entries) {
+    for (const auto& [key, entry] : m_guarded.entries) {
         const bool isOthers = entry.isOthers && entry.lastUse > othersUntil;
         if (!isOthers && keep.count(key) == 0) {
             oldest.emplace_back(entry.lastUse, key);
@@ -262,8 +265,8 @@ bool ChunkStore::Evict(std::int64_t bytes, const KeySet& keep)
         return false;
     std::sort(oldest.begin(), oldest.end(),
               [](const auto& a, const auto& b) { return a.first < b.first; });
-    const std::int64_t wanted = m_used - bytes;
-    for (auto next = oldest.begin(); m_used > wanted && next != oldest.end(); ++next)
+    const std::int64_t wanted = m_guarded.used - bytes;
+    for (auto next = oldest.begin(); m_guarded.used > wanted && next != oldest.end(); ++next)
         Drop(next->second);
     return true;
 }
@@ -274,14 +277,14 @@ ChunkStore::Room ChunkStore::Add(const ContentKey& key, Reservation reserved,
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     const std::int64_t size = std::exchange(reserved.m_size, 0);
-    m_reserved -= size;
-    Entry& entry = m_entries[key];
-    m_used += size - entry.size;
+    m_guarded.reserved -= size;
+    Entry& entry = m_guarded.entries[key];
+    m_guarded.used += size - entry.size;
     entry = {size, Now(), false};
     if (!IsShared())
         return Room::Enough;
     List();
-    const std::int64_t surplus = m_used - limits.quota;
+    const std::int64_t surplus = m_guarded.used - limits.quota;
     if (surplus <= 0 || Evict(surplus, keep))
         return Room::Enough;
     Drop(key);
@@ -294,8 +297,8 @@ std::unique_ptr<ChunkReader> ChunkStore::Read(const ContentKey& key)
         return nullptr;
     std::unique_ptr<ChunkReader> reader = ChunkReader::Open(PathOf(key), key);
     const std::lock_guard<std::mutex> lock(m_mutex);
-    const auto entry = m_entries.find(key);
-    if (entry == m_entries.end())
+    const auto entry = m_guarded.entries.find(key);
+    if (entry == m_guarded.entries.end())
         return reader;
     if (!reader) {
         Drop(key);
@@ -313,12 +316,12 @@ void ChunkStore::Remove(const ContentKey& key)
 
 void ChunkStore::Drop(const ContentKey& key)
 {
-    const auto entry = m_entries.find(key);
-    if (entry == m_entries.end())
+    const auto entry = m_guarded.entries.find(key);
+    if (entry == m_guarded.entries.end())
         return;
     QFile::remove(PathOf(key));
-    m_used -= entry->second.size;
-    m_entries.erase(entry);
+    m_guarded.used -= entry->second.size;
+    m_guarded.entries.erase(entry);
 }
 
 void ChunkStore::Clear()
@@ -326,15 +329,15 @@ void ChunkStore::Clear()
     const std::lock_guard<std::mutex> lock(m_mutex);
     // Without the claim, what is half written may be another process's.
     ForEachFile(m_folder, [this](const ContentKey&, bool isWhole, const QDirIterator& file) {
-        if (isWhole || m_claim)
+        if (isWhole || m_guarded.claim)
             QFile::remove(file.filePath());
-        m_isFolderOurs = m_isFolderOurs || isWhole;
+        m_guarded.isFolderOurs = m_guarded.isFolderOurs || isWhole;
     });
     LeaveFolder();
-    m_entries.clear();
-    m_used = 0;
-    m_isListed = false;
-    if (m_isFolderOurs)
+    m_guarded.entries.clear();
+    m_guarded.used = 0;
+    m_guarded.isListed = false;
+    if (m_guarded.isFolderOurs)
         QDir().rmdir(m_folder);
 }
 

@@ -122,16 +122,21 @@ private:
     void Drop(const ContentKey& key);
 
     const QString m_folder;
-    mutable std::mutex m_mutex; ///< guards the rest
-    std::unordered_map<ContentKey, Entry, ContentKeyHash> m_entries;
-    std::int64_t m_used = 0;
-    std::int64_t m_reserved = 0;
-    bool m_isListed = false;
-    bool m_wasListed = false; ///< ever; from then on half-written files may be this process's
-    std::int64_t m_listedState = kUnknownState; ///< the folder's time of change as of the listing
-    bool m_isFolderOurs = false;                ///< was missing or empty
-    bool m_isMarked = false;                    ///< this process has left the mark of IsShared()
-    std::unique_ptr<QLockFile> m_claim;
+    struct Guarded
+    {
+        std::unordered_map<ContentKey, Entry, ContentKeyHash> entries;
+        std::int64_t used = 0;
+        std::int64_t reserved = 0;
+        bool isListed = false;
+        bool wasListed = false; ///< ever; from then on half-written files may be this process's
+        std::int64_t listedState =
+            kUnknownState;         ///< the folder's time of change when it was listed
+        bool isFolderOurs = false; ///< was missing or empty
+        bool isMarked = false;     ///< this process has left the mark of IsShared()
+        std::unique_ptr<QLockFile> claim;
+    };
+    mutable std::mutex m_mutex; ///< guards m_guarded
+    Guarded m_guarded;
 };
 
 } // namespace nle
