@@ -91,37 +91,37 @@ MediaStore::MediaStore(int capacity) : m_capacity(std::max(1, capacity)) {}
 
 MediaStore::Answer MediaStore::Find(const QString& path, const FileStamp& stamp)
 {
-    const auto place = m_places.constFind(path);
-    if (place == m_places.constEnd() || !((*place)->stamp == stamp))
+    const auto place = m_guarded.places.constFind(path);
+    if (place == m_guarded.places.constEnd() || !((*place)->stamp == stamp))
         return {};
-    m_entries.splice(m_entries.begin(), m_entries, *place);
+    m_guarded.entries.splice(m_guarded.entries.begin(), m_guarded.entries, *place);
     return (*place)->answer;
 }
 
 std::uint64_t MediaStore::Insert(const QString& path, const FileStamp& stamp, const Answer& answer)
 {
     Remove(path);
-    m_entries.push_front({path, stamp, answer, ++m_lastNumber});
-    m_places.insert(path, m_entries.begin());
-    if (m_places.size() > m_capacity)
-        Remove(QString(m_entries.back().path));
-    return m_lastNumber;
+    m_guarded.entries.push_front({path, stamp, answer, ++m_guarded.lastNumber});
+    m_guarded.places.insert(path, m_guarded.entries.begin());
+    if (m_guarded.places.size() > m_capacity)
+        Remove(QString(m_guarded.entries.back().path));
+    return m_guarded.lastNumber;
 }
 
 void MediaStore::Remove(const QString& path)
 {
-    const auto place = m_places.find(path);
-    if (place == m_places.end())
+    const auto place = m_guarded.places.find(path);
+    if (place == m_guarded.places.end())
         return;
-    m_entries.erase(*place);
-    m_places.erase(place);
+    m_guarded.entries.erase(*place);
+    m_guarded.places.erase(place);
 }
 
 void MediaStore::Forget(const QString& path, std::uint64_t number)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    const auto place = m_places.constFind(path);
-    if (place != m_places.constEnd() && (*place)->number == number)
+    const auto place = m_guarded.places.constFind(path);
+    if (place != m_guarded.places.constEnd() && (*place)->number == number)
         Remove(path);
 }
 
@@ -171,8 +171,8 @@ std::vector<MediaStore::Result> MediaStore::DescribeAll(const QStringList& paths
 void MediaStore::Clear()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_places.clear();
-    m_entries.clear();
+    m_guarded.places.clear();
+    m_guarded.entries.clear();
 }
 
 } // namespace nle

@@ -58,11 +58,14 @@ private:
     void Forget(const QString& path, std::uint64_t number);
 
     const int m_capacity;
-    std::mutex m_mutex;
-    /// Guarded by the mutex; the one asked for last stands first.
-    Entries m_entries;
-    QHash<QString, Entries::iterator> m_places;
-    std::uint64_t m_lastNumber = 0;
+    struct Guarded
+    {
+        Entries entries; ///< the one asked for last stands first
+        QHash<QString, Entries::iterator> places;
+        std::uint64_t lastNumber = 0;
+    };
+    std::mutex m_mutex; ///< guards m_guarded
+    Guarded m_guarded;
 };
 
 } // namespace nle
