@@ -18,8 +18,8 @@ HRESULT DeviceManager::RefreshDeviceList()
     return ComGuard([&] {
         std::vector<DeviceEntry> entries = ListDevices();
         const std::lock_guard lock(m_mutex);
-        m_entries = std::move(entries);
-        m_isListed = true;
+        m_guarded.entries = std::move(entries);
+        m_guarded.isListed = true;
         return S_OK;
     });
 }
@@ -29,18 +29,18 @@ HRESULT DeviceManager::GetDevices(LPWSTR* ids, DWORD* count)
     if (!count)
         return E_POINTER;
     std::unique_lock lock(m_mutex);
-    if (!m_isListed) {
+    if (!m_guarded.isListed) {
         lock.unlock();
         if (const HRESULT result = RefreshDeviceList(); FAILED(result))
             return result;
         lock.lock();
     }
-    const auto known = static_cast<DWORD>(m_entries.size());
+    const auto known = static_cast<DWORD>(m_guarded.entries.size());
     if (!ids)
         return GiveValue(count, known);
     const DWORD given = std::min(*count, known);
     for (DWORD i = 0; i < given; ++i)
-        ids[i] = TaskText(m_entries[i].id.c_str());
+        ids[i] = TaskText(m_guarded.entries[i].id.c_str());
     *count = given;
     return given == known ? S_OK : S_FALSE;
 }
@@ -51,9 +51,9 @@ HRESULT DeviceManager::GiveText(LPCWSTR id, std::wstring DeviceEntry::*text, WCH
     if (!id || !length)
         return E_POINTER;
     const std::lock_guard lock(m_mutex);
-    const auto entry = std::find_if(m_entries.begin(), m_entries.end(),
+    const auto entry = std::find_if(m_guarded.entries.begin(), m_guarded.entries.end(),
                                     [id](const DeviceEntry& known) { return known.id == id; });
-    if (entry == m_entries.end())
+    if (entry == m_guarded.entries.end())
         return kNotFound;
     const std::wstring& value = (*entry).*text;
     const DWORD room = *length;

@@ -26,9 +26,13 @@ public:
 private:
     HRESULT GiveText(LPCWSTR id, std::wstring DeviceEntry::*text, WCHAR* buffer, DWORD* length);
 
-    std::mutex m_mutex; // guards what follows
-    bool m_isListed = false;
-    std::vector<DeviceEntry> m_entries;
+    struct Guarded
+    {
+        bool isListed = false;
+        std::vector<DeviceEntry> entries;
+    };
+    std::mutex m_mutex; // guards m_guarded
+    Guarded m_guarded;
 };
 
 } // namespace devices

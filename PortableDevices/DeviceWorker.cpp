@@ -48,6 +48,11 @@ struct DeviceWorker::State
     std::unique_ptr<DeviceSession> session; // the thread's own
     bool isOpened = false;                  // the thread's own: an operation has succeeded
 
+    std::atomic<bool> isRemoved{false};
+    std::atomic<unsigned> cancelCount{0};
+    std::thread thread;
+    std::thread::id threadId;
+
     std::mutex mutex; // guards what follows
     std::condition_variable wake;
     std::deque<Job> jobs;
@@ -62,11 +67,6 @@ struct DeviceWorker::State
     bool hasEnded = false;
     std::condition_variable ended;
     bool isAnnounced = false;
-
-    std::atomic<bool> isRemoved{false};
-    std::atomic<unsigned> cancelCount{0};
-    std::thread thread;
-    std::thread::id threadId;
 };
 
 void DeviceWorker::State::Loop()

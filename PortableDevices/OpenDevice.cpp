@@ -28,7 +28,7 @@ HRESULT OpenDevice::List(const std::wstring& parent, std::vector<std::wstring>& 
     {
         // Who walks the content asks for the children of every object.
         const std::lock_guard lock(m_mutex);
-        if (parent == m_lastFile)
+        if (parent == m_guarded.lastFile)
             return S_OK;
     }
     const auto infos = std::make_shared<std::vector<ObjectInfo>>();
@@ -43,7 +43,7 @@ HRESULT OpenDevice::List(const std::wstring& parent, std::vector<std::wstring>& 
     for (ObjectInfo& info : *infos) {
         children.push_back(info.id);
         if (info.isComplete)
-            m_known.insert_or_assign(info.id, std::move(info));
+            m_guarded.known.insert_or_assign(info.id, std::move(info));
     }
     return S_OK;
 }
@@ -51,13 +51,13 @@ HRESULT OpenDevice::List(const std::wstring& parent, std::vector<std::wstring>& 
 bool OpenDevice::TakeKnown(const std::wstring& id, ObjectInfo& info)
 {
     const std::lock_guard lock(m_mutex);
-    const auto known = m_known.find(id);
-    if (known == m_known.end())
+    const auto known = m_guarded.known.find(id);
+    if (known == m_guarded.known.end())
         return false;
     info = std::move(known->second);
-    m_known.erase(known);
+    m_guarded.known.erase(known);
     if (info.kind == ObjectKind::File)
-        m_lastFile = id;
+        m_guarded.lastFile = id;
     return true;
 }
 

@@ -28,9 +28,14 @@ private:
 
     const std::wstring m_id;
     DeviceWorker m_worker;
-    std::mutex m_mutex; // guards what follows
-    std::unordered_map<std::wstring, ObjectInfo> m_known;
-    std::wstring m_lastFile; // described last; has no children
+
+    struct Guarded
+    {
+        std::unordered_map<std::wstring, ObjectInfo> known;
+        std::wstring lastFile; // described last; has no children
+    };
+    std::mutex m_mutex; // guards m_guarded
+    Guarded m_guarded;
 };
 
 } // namespace devices

@@ -451,7 +451,7 @@ HRESULT KeyCollection::RemoveAt(const DWORD index)
 HRESULT VariantCollection::GetCount(DWORD* count)
 {
     const std::lock_guard lock(m_mutex);
-    return GiveValue(count, static_cast<DWORD>(m_values.size()));
+    return GiveValue(count, static_cast<DWORD>(m_guarded.values.size()));
 }
 
 HRESULT VariantCollection::GetAt(const DWORD index, PROPVARIANT* value)
@@ -460,7 +460,8 @@ HRESULT VariantCollection::GetAt(const DWORD index, PROPVARIANT* value)
         return E_POINTER;
     PropVariantInit(value);
     const std::lock_guard lock(m_mutex);
-    return index < m_values.size() ? PropVariantCopy(value, &m_values[index].Get()) : E_INVALIDARG;
+    return index < m_guarded.values.size() ? PropVariantCopy(value, &m_guarded.values[index].Get())
+                                           : E_INVALIDARG;
 }
 
 HRESULT VariantCollection::Add(const PROPVARIANT* value)
@@ -469,10 +470,10 @@ HRESULT VariantCollection::Add(const PROPVARIANT* value)
         if (!value)
             return E_POINTER;
         const std::lock_guard lock(m_mutex);
-        if (m_type != VT_EMPTY && value->vt != m_type)
+        if (m_guarded.type != VT_EMPTY && value->vt != m_guarded.type)
             return E_INVALIDARG;
-        m_values.emplace_back(*value);
-        m_type = value->vt;
+        m_guarded.values.emplace_back(*value);
+        m_guarded.type = value->vt;
         return S_OK;
     });
 }
@@ -480,15 +481,15 @@ HRESULT VariantCollection::Add(const PROPVARIANT* value)
 HRESULT VariantCollection::GetType(VARTYPE* type)
 {
     const std::lock_guard lock(m_mutex);
-    return GiveValue(type, m_type);
+    return GiveValue(type, m_guarded.type);
 }
 
 HRESULT VariantCollection::ChangeType(const VARTYPE type)
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_values.empty())
+    if (!m_guarded.values.empty())
         return E_NOTIMPL;
-    m_type = type;
+    m_guarded.type = type;
     return S_OK;
 }
 
@@ -496,17 +497,17 @@ HRESULT VariantCollection::Clear()
 {
     std::vector<Variant> old; // ends outside the lock, as above
     const std::lock_guard lock(m_mutex);
-    m_values.swap(old);
-    m_type = VT_EMPTY;
+    m_guarded.values.swap(old);
+    m_guarded.type = VT_EMPTY;
     return S_OK;
 }
 
 HRESULT VariantCollection::RemoveAt(const DWORD index)
 {
     const std::lock_guard lock(m_mutex);
-    if (index >= m_values.size())
+    if (index >= m_guarded.values.size())
         return E_INVALIDARG;
-    m_values.erase(m_values.begin() + index);
+    m_guarded.values.erase(m_guarded.values.begin() + index);
     return S_OK;
 }
 

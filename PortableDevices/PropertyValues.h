@@ -149,9 +149,13 @@ public:
     HRESULT RemoveAt(const DWORD index) override;
 
 private:
-    std::mutex m_mutex;
-    std::vector<Variant> m_values;
-    VARTYPE m_type = VT_EMPTY;
+    struct Guarded
+    {
+        std::vector<Variant> values;
+        VARTYPE type = VT_EMPTY;
+    };
+    std::mutex m_mutex; // guards m_guarded
+    Guarded m_guarded;
 };
 
 } // namespace devices

@@ -46,8 +46,8 @@ ResourceStream::ResourceStream(std::shared_ptr<OpenDevice> device)
 
 ResourceStream::~ResourceStream()
 {
-    if (m_step.cancellable)
-        g_cancellable_cancel(m_step.cancellable.get());
+    if (m_guarded.step.cancellable)
+        g_cancellable_cancel(m_guarded.step.cancellable.get());
     m_device->Worker().StartCleanup([source = m_source] { source->reader.reset(); });
 }
 
@@ -59,8 +59,8 @@ HRESULT ResourceStream::QueryInterface(REFIID iid, void** out)
 
 void ResourceStream::StartStep()
 {
-    m_taken = 0;
-    m_step = m_device->Worker().Start(
+    m_guarded.taken = 0;
+    m_guarded.step = m_device->Worker().Start(
         [source = m_source](DeviceSession& /*session*/, GCancellable* cancellable) {
             source->filled = 0;
             return source->reader->Read(source->buffer.data(), kTransferSize, source->filled,
@@ -70,16 +70,16 @@ void ResourceStream::StartStep()
 
 HRESULT ResourceStream::FinishStep()
 {
-    const HRESULT result = m_device->Worker().Finish(m_step);
-    m_step = {};
+    const HRESULT result = m_device->Worker().Finish(m_guarded.step);
+    m_guarded.step = {};
     return result;
 }
 
 void ResourceStream::DropStep()
 {
-    if (!m_step.result.valid())
+    if (!m_guarded.step.result.valid())
         return;
-    g_cancellable_cancel(m_step.cancellable.get());
+    g_cancellable_cancel(m_guarded.step.cancellable.get());
     FinishStep();
 }
 
@@ -93,17 +93,17 @@ HRESULT ResourceStream::ReadLocal(void* data, ULONG count, ULONG& got)
 
 HRESULT ResourceStream::ReadStep(void* data, ULONG count, ULONG& got)
 {
-    if (m_step.result.valid()) {
+    if (m_guarded.step.result.valid()) {
         if (const HRESULT result = FinishStep(); FAILED(result))
             return result;
     }
     if (const HRESULT result = m_device->Worker().ResultSince(m_cancelCount); FAILED(result))
         return result;
-    got = std::min(count, m_source->filled - m_taken);
-    std::memcpy(data, m_source->buffer.data() + m_taken, got);
-    m_taken += got;
+    got = std::min(count, m_source->filled - m_guarded.taken);
+    std::memcpy(data, m_source->buffer.data() + m_guarded.taken, got);
+    m_guarded.taken += got;
     // An empty step was the end; there is nothing more to ask for.
-    if (m_taken == m_source->filled && m_source->filled > 0)
+    if (m_guarded.taken == m_source->filled && m_source->filled > 0)
         StartStep();
     return S_OK;
 }
@@ -117,7 +117,7 @@ HRESULT ResourceStream::MoveTo(std::uint64_t position)
         });
     if (FAILED(result))
         return result;
-    m_position = position;
+    m_guarded.position = position;
     if (!m_isLocal)
         StartStep();
     return S_OK;
@@ -130,18 +130,19 @@ HRESULT ResourceStream::Read(void* data, ULONG count, ULONG* read)
     if (!data)
         return E_POINTER;
     const std::lock_guard lock(m_mutex);
-    if (SUCCEEDED(m_failure))
-        m_failure = m_device->Worker().ResultSince(m_cancelCount);
-    if (FAILED(m_failure))
-        return m_failure;
+    if (SUCCEEDED(m_guarded.failure))
+        m_guarded.failure = m_device->Worker().ResultSince(m_cancelCount);
+    if (FAILED(m_guarded.failure))
+        return m_guarded.failure;
     ULONG got = 0;
-    m_failure = ComGuard(
+    m_guarded.failure = ComGuard(
         [&] { return m_isLocal ? ReadLocal(data, count, got) : ReadStep(data, count, got); });
-    if (SUCCEEDED(m_failure) && got == 0 && count > 0 && m_position < m_promisedSize)
-        m_failure = kCutShort;
-    if (FAILED(m_failure))
-        return m_failure;
-    m_position += got;
+    if (SUCCEEDED(m_guarded.failure) && got == 0 && count > 0 &&
+        m_guarded.position < m_promisedSize)
+        m_guarded.failure = kCutShort;
+    if (FAILED(m_guarded.failure))
+        return m_guarded.failure;
+    m_guarded.position += got;
     if (read)
         *read = got;
     return got > 0 || count == 0 ? S_OK : S_FALSE;
@@ -150,21 +151,21 @@ HRESULT ResourceStream::Read(void* data, ULONG count, ULONG* read)
 HRESULT ResourceStream::Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER* position)
 {
     const std::lock_guard lock(m_mutex);
-    if (FAILED(m_failure))
-        return m_failure;
+    if (FAILED(m_guarded.failure))
+        return m_guarded.failure;
     if (origin > 1)
         return STG_E_INVALIDFUNCTION;
-    const std::int64_t base = origin == 0 ? 0 : static_cast<std::int64_t>(m_position);
+    const std::int64_t base = origin == 0 ? 0 : static_cast<std::int64_t>(m_guarded.position);
     const std::int64_t target = base + move.QuadPart;
     if (target < 0)
         return STG_E_INVALIDFUNCTION;
-    if (static_cast<std::uint64_t>(target) != m_position) {
-        m_failure = ComGuard([&] { return MoveTo(static_cast<std::uint64_t>(target)); });
-        if (FAILED(m_failure))
-            return m_failure;
+    if (static_cast<std::uint64_t>(target) != m_guarded.position) {
+        m_guarded.failure = ComGuard([&] { return moveTo(static_cast<std::uint64_t>(target)); });
+        if (FAILED(m_guarded.failure))
+            return m_guarded.failure;
     }
     if (position)
-        position->QuadPart = m_position;
+        position->QuadPart = m_guarded.position;
     return S_OK;
 }
 

@@ -65,11 +65,16 @@ private:
     // Both are set once, before the caller has the stream.
     bool m_isLocal = false;
     std::uint64_t m_promisedSize = 0;
-    std::mutex m_mutex; // guards what follows
-    DeviceWorker::Pending m_step;
-    std::uint32_t m_taken = 0; // of the buffer
-    std::uint64_t m_position = 0;
-    HRESULT m_failure = S_OK;
+
+    struct Guarded
+    {
+        DeviceWorker::Pending step;
+        std::uint32_t taken = 0; // of the buffer
+        std::uint64_t position = 0;
+        HRESULT failure = S_OK;
+    };
+    std::mutex m_mutex; // guards m_guarded
+    Guarded m_guarded;
 };
 
 } // namespace devices

@@ -178,7 +178,7 @@ void VolumeWatcher::Loop()
     AddMonitors(G_VOLUME_MONITOR_EXTENSION_POINT_NAME);
     {
         const std::lock_guard lock(m_mutex);
-        m_isReady = true;
+        m_guarded.isReady = true;
     }
     m_ready.notify_all();
     for (;;) {
@@ -213,12 +213,12 @@ std::vector<DeviceEntry> VolumeWatcher::Entries()
 {
     {
         std::unique_lock lock(m_mutex);
-        if (!m_ready.wait_for(lock, kStartLimit, [this] { return m_isReady; }))
+        if (!m_ready.wait_for(lock, kStartLimit, [this] { return m_guarded.isReady; }))
             return {};
     }
     Update();
     const std::lock_guard lock(m_mutex);
-    return m_entries;
+    return m_guarded.entries;
 }
 
 void VolumeWatcher::Update()
@@ -228,17 +228,17 @@ void VolumeWatcher::Update()
     std::vector<std::shared_ptr<OpenDevice>> watched;
     {
         const std::lock_guard lock(m_mutex);
-        if (!m_isReady)
+        if (!m_guarded.isReady)
             return;
         for (const GPtr<GVolumeMonitor>& monitor : m_monitors)
             ReadMonitor(monitor.get(), found);
-        found.swap(m_entries);
+        found.swap(m_guarded.entries);
         const auto isGone = [this](const DeviceEntry& old) {
-            return std::none_of(m_entries.begin(), m_entries.end(),
+            return std::none_of(m_guarded.entries.begin(), m_guarded.entries.end(),
                                 [&old](const DeviceEntry& entry) { return IsSame(entry, old); });
         };
         found.erase(std::partition(found.begin(), found.end(), isGone), found.end());
-        for (const std::weak_ptr<OpenDevice>& known : m_watched)
+        for (const std::weak_ptr<OpenDevice>& known : m_guarded.watched)
             watched.push_back(known.lock());
     }
     for (const std::shared_ptr<OpenDevice>& device : watched) {
@@ -252,8 +252,10 @@ void VolumeWatcher::Watch(const std::shared_ptr<OpenDevice>& device)
 {
     const std::lock_guard lock(m_mutex);
     const auto isGone = [](const std::weak_ptr<OpenDevice>& known) { return known.expired(); };
-    m_watched.erase(std::remove_if(m_watched.begin(), m_watched.end(), isGone), m_watched.end());
-    m_watched.push_back(device);
+    m_guarded.watched.erase(
+        std::remove_if(m_guarded.watched.begin(), m_guarded.watched.end(), isGone),
+        m_guarded.watched.end());
+    m_guarded.watched.push_back(device);
 }
 
 void VolumeWatcher::FollowMount(const std::string& uri)

@@ -41,12 +41,17 @@ private:
 
     const GPtr<GMainContext> m_context;
     const GPtr<GMainContext> m_mountContext;      // of the thread that follows mounts
-    std::vector<GPtr<GVolumeMonitor>> m_monitors; // complete when m_isReady
-    std::mutex m_mutex;                           // guards what follows
+    std::vector<GPtr<GVolumeMonitor>> m_monitors; // complete when it is ready
     std::condition_variable m_ready;
-    bool m_isReady = false;
-    std::vector<DeviceEntry> m_entries;
-    std::vector<std::weak_ptr<OpenDevice>> m_watched;
+
+    struct Guarded
+    {
+        bool isReady = false;
+        std::vector<DeviceEntry> entries;
+        std::vector<std::weak_ptr<OpenDevice>> watched;
+    };
+    std::mutex m_mutex; // guards m_guarded
+    Guarded m_guarded;
 };
 
 } // namespace devices
