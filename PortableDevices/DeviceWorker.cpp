@@ -187,7 +187,11 @@ DeviceWorker::DeviceWorker(std::unique_ptr<DeviceSession> session)
 
 DeviceWorker::~DeviceWorker()
 {
-    Cancel();
+    // Without memory what runs has the time that a hanging device has.
+    ComGuard([this] {
+        Cancel();
+        return S_OK;
+    });
     {
         const std::lock_guard lock(m_state->mutex);
         m_state->isStopping = true;

@@ -48,7 +48,11 @@ ResourceStream::~ResourceStream()
 {
     if (m_guarded.step.cancellable)
         g_cancellable_cancel(m_guarded.step.cancellable.get());
-    m_device->Worker().StartCleanup([source = m_source] { source->reader.reset(); });
+    // Without memory the reader ends with the last who has it.
+    ComGuard([this] {
+        m_device->Worker().StartCleanup([source = m_source] { source->reader.reset(); });
+        return S_OK;
+    });
 }
 
 HRESULT ResourceStream::QueryInterface(REFIID iid, void** out)
@@ -160,7 +164,7 @@ HRESULT ResourceStream::Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER* p
     if (target < 0)
         return STG_E_INVALIDFUNCTION;
     if (static_cast<std::uint64_t>(target) != m_guarded.position) {
-        m_guarded.failure = ComGuard([&] { return moveTo(static_cast<std::uint64_t>(target)); });
+        m_guarded.failure = ComGuard([&] { return MoveTo(static_cast<std::uint64_t>(target)); });
         if (FAILED(m_guarded.failure))
             return m_guarded.failure;
     }

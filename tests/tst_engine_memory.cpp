@@ -6,54 +6,7 @@
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
-
-#include <cstdlib>
-#include <functional>
-#include <new>
-#include <optional>
-
-namespace {
-
-/// Allocations that this thread may still make; below 0 no matter how many.
-thread_local long allowed = -1;
-
-} // namespace
-
-// The engine's module takes these, as the executable's come first.
-void* operator new(std::size_t bytes, const std::nothrow_t& /*tag*/) noexcept
-{
-    if (allowed == 0)
-        return nullptr;
-    if (allowed > 0)
-        --allowed;
-    return std::malloc(bytes > 0 ? bytes : 1);
-}
-void* operator new(std::size_t bytes)
-{
-    if (void* memory = operator new(bytes, std::nothrow))
-        return memory;
-    throw std::bad_alloc();
-}
-void* operator new[](std::size_t bytes)
-{
-    return operator new(bytes);
-}
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t /*bytes*/) noexcept
-{
-    std::free(memory);
-}
-void operator delete[](void* memory) noexcept
-{
-    std::free(memory);
-}
-void operator delete[](void* memory, std::size_t /*bytes*/) noexcept
-{
-    std::free(memory);
-}
+#include "tests/support/FailingMemory.h"
 
 Q_DECLARE_METATYPE(std::function<HRESULT()>)
 
@@ -62,20 +15,6 @@ class tst_EngineMemory : public QObject, private EngineFixture
     Q_OBJECT
 
     using Call = std::function<HRESULT()>;
-
-    /// What \a call gives after \a count allocations; empty for an exception.
-    static std::optional<HRESULT> After(long count, const Call& call, bool* ranOut)
-    {
-        std::optional<HRESULT> result;
-        allowed = count;
-        try {
-            result = call();
-        } catch (...) {
-        }
-        *ranOut = allowed == 0;
-        allowed = -1;
-        return result;
-    }
 
     const QString m_media = Path("clip.mp4");
     const std::wstring m_mediaName = m_media.toStdWString();
@@ -251,7 +190,7 @@ private slots:
         int failures = 0;
         // Further and further into the call: every allocation at first, then some.
         for (; ranOut; count += 1 + count / 10) {
-            const std::optional<HRESULT> result = After(count, call, &ranOut);
+            const std::optional<HRESULT> result = FailingMemory::After(count, call, &ranOut);
             QVERIFY2(result, qPrintable(QString("threw after %1 allocations").arg(count)));
             QVERIFY2(ranOut || SUCCEEDED(*result),
                      qPrintable(QString("%1").arg(std::uint32_t(*result), 0, 16)));

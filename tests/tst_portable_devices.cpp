@@ -3,6 +3,7 @@
 #include "CommonLib/WpdApiLib/WpdApiLib.h"
 #include "DeviceApi/DeviceResults.h"
 #include "tests/support/DeviceClient.h"
+#include "tests/support/FailingMemory.h"
 
 #include <QDir>
 #include <QFile>
@@ -21,7 +22,12 @@ namespace {
 
 constexpr qint64 kLarge = 5LL << 30;
 
+/// A call of the service, made to an open device with the file \a id on it.
+using Call = HRESULT (*)(const Device& device, LPCWSTR id);
+
 } // namespace
+
+Q_DECLARE_METATYPE(Call)
 
 class TestPortableDevices : public QObject
 {
@@ -304,6 +310,84 @@ private slots:
         QCOMPARE(device.device->Close(), S_OK);
         QCOMPARE(device.remove(id), kNotOpen);
         QVERIFY(QFile::exists(Path("card/file")));
+    }
+
+    /// Whatever allocation fails, no call throws into its caller.
+    void withoutMemory_data()
+    {
+        QTest::addColumn<Call>("call");
+        const auto row = [](const char* name, Call call) { QTest::newRow(name) << call; };
+        row("the list of devices", [](const Device&, LPCWSTR) {
+            DWORD count = 0;
+            const auto manager =
+                DeviceClient::Make<IPortableDeviceManager>(Wpd::CLSID_PortableDeviceManager);
+            return manager ? manager->GetDevices(nullptr, &count) : E_OUTOFMEMORY;
+        });
+        row("the objects of an open device", [](const Device& device, LPCWSTR) {
+            NLEComPtr<IPortableDeviceContent> content;
+            const HRESULT given = device.device->Content(content.put());
+            if (FAILED(given))
+                return given;
+            NLEComPtr<IPortableDeviceProperties> properties;
+            return content->Properties(properties.put());
+        });
+        row("the children of an object", [](const Device& device, LPCWSTR) {
+            NLEComPtr<IEnumPortableDeviceObjectIDs> children;
+            NLEComPtr<IEnumPortableDeviceObjectIDs> copy;
+            const HRESULT listed =
+                device.content->EnumObjects(0, Wpd::WPD_DEVICE_OBJECT_ID, nullptr, children.put());
+            return FAILED(listed) ? listed : children->Clone(copy.put());
+        });
+        row("the properties of an object", [](const Device& device, LPCWSTR id) {
+            NLEComPtr<IPortableDeviceKeyCollection> keys;
+            NLEComPtr<IPortableDeviceValues> values;
+            const HRESULT known = device.properties->GetSupportedProperties(id, keys.put());
+            return FAILED(known) ? known
+                                 : device.properties->GetValues(id, keys.get(), values.put());
+        });
+        row("the resources of an object", [](const Device& device, LPCWSTR id) {
+            NLEComPtr<IPortableDeviceKeyCollection> keys;
+            return device.resources->GetSupportedResources(id, keys.put());
+        });
+        row("a stream", [](const Device& device, LPCWSTR id) {
+            NLEComPtr<IStream> stream;
+            DWORD size = 0;
+            const HRESULT opened = device.resources->GetStream(id, Wpd::WPD_RESOURCE_DEFAULT,
+                                                               STGM_READ, &size, stream.put());
+            char data[8];
+            ULONG count = 0;
+            const HRESULT moved = FAILED(opened) ? opened : stream->Seek({1}, 0, nullptr);
+            return FAILED(moved) ? moved : stream->Read(data, sizeof(data), &count);
+        });
+        row("values", [](const Device&, LPCWSTR id) {
+            const auto values =
+                DeviceClient::Make<IPortableDeviceValues>(Wpd::CLSID_PortableDeviceValues);
+            return values ? values->SetStringValue(Wpd::WPD_OBJECT_NAME, id) : E_OUTOFMEMORY;
+        });
+        row("a collection of keys", [](const Device&, LPCWSTR) {
+            const auto keys = DeviceClient::Make<IPortableDeviceKeyCollection>(
+                Wpd::CLSID_PortableDeviceKeyCollection);
+            return keys ? keys->Add(Wpd::WPD_OBJECT_NAME) : E_OUTOFMEMORY;
+        });
+    }
+
+    void withoutMemory()
+    {
+        QFETCH(const Call, call);
+        Write("card/file", 100);
+        const Device device(FolderId("card"));
+        const std::wstring id = device.tree()["card/file"].id.toStdWString();
+        QVERIFY(SUCCEEDED(call(device, id.c_str()))); // the client has the module from now on
+        bool ranOut = true;
+        int failures = 0;
+        for (long count = 0; ranOut; ++count) {
+            const std::optional<HRESULT> result = FailingMemory::After(
+                count, [&] { return call(device, id.c_str()); }, &ranOut);
+            QVERIFY2(result, qPrintable(QString("threw after %1 allocations").arg(count)));
+            QVERIFY(ranOut || SUCCEEDED(*result));
+            failures += FAILED(*result) ? 1 : 0;
+        }
+        QVERIFY(failures > 0);
     }
 };
 
