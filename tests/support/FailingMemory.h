@@ -48,6 +48,10 @@ void* operator new[](std::size_t bytes)
 {
     return operator new(bytes);
 }
+void* operator new[](std::size_t bytes, const std::nothrow_t& tag) noexcept
+{
+    return operator new(bytes, tag);
+}
 void operator delete(void* memory) noexcept
 {
     std::free(memory);
