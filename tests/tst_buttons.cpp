@@ -115,7 +115,7 @@ class TestButtons : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QWidget> stage;
+    std::unique_ptr<QWidget> m_stage;
 
 private slots:
     void initTestCase()
@@ -393,10 +393,10 @@ private slots:
         QTest::addColumn<QString>("deletedIn"); // apart from after each step
         const Make button = [] { return new BaseButton("button", nullptr); };
         const Make within = [this] {
-            stage.reset(new QWidget);
-            stage->resize(400, 40);
-            stage->show();
-            return new BaseButton("button", stage.get());
+            m_stage.reset(new QWidget);
+            m_stage->resize(400, 40);
+            m_stage->show();
+            return new BaseButton("button", m_stage.get());
         };
         const Make states = [] {
             auto* widget = new BaseStateButton(1, "states", nullptr);

@@ -17,7 +17,7 @@ class tst_CaptionFonts : public QObject
     Q_OBJECT
 
 private:
-    Script& script = Script::Get();
+    Script& m_script = Script::Get();
     const QString m_fonts = QCoreApplication::applicationDirPath() + "/Fonts/";
 
     static NLEComPtr<FontLibrary> MakeLibrary(const QStringList& names)
@@ -70,7 +70,7 @@ private Q_SLOTS:
                                    "fonts.SetFontFolder(" + native + ")",
                                    "fonts.GetFontCount()"};
         const QString name = QString("fonts.GetFontName(%1)").arg(longestName);
-        QCOMPARE(script.TakeCalls(), setUp + QStringList({name, name, name, name}));
+        QCOMPARE(m_script.TakeCalls(), setUp + QStringList({name, name, name, name}));
         const QString cut(longestName, 'x');
         QCOMPARE(List(environment), QStringList({"A=A", "B=B", cut + '=' + cut}));
         QCOMPARE(Messages(log), QStringList("InitSystemFont: Fontcount:4"));
@@ -97,9 +97,9 @@ private Q_SLOTS:
         const auto library = MakeLibrary({});
         LogCapture log;
         ICaptionEnvironment* environment = ICaptionEnvironment::GetInstance();
-        script.TakeCalls();
+        m_script.TakeCalls();
         environment->Release();
-        QCOMPARE(script.TakeCalls(), QStringList("factory.Shutdown(1)"));
+        QCOMPARE(m_script.TakeCalls(), QStringList("factory.Shutdown(1)"));
         QCOMPARE(References(library.get()), 2u); // the script's and this one
         QCOMPARE(Messages(log), QStringList("InitSystemFont: Fontcount:0"));
     }
@@ -110,11 +110,11 @@ private Q_SLOTS:
         const auto library = MakeLibrary({"B"});
         LogCapture log;
         ICaptionEnvironment* environment = ICaptionEnvironment::GetInstance();
-        script.TakeCalls();
+        m_script.TakeCalls();
         library->names << "A"
                        << "C";
         environment->AddFonts(folder.path());
-        QCOMPARE(script.TakeCalls().first(),
+        QCOMPARE(m_script.TakeCalls().first(),
                  "fonts.AddFontFolder(" + QDir::toNativeSeparators(folder.path() + '/') + ')');
         QCOMPARE(List(environment), QStringList({"A=A", "B=B", "C=C"}));
         const QStringList messages = {
@@ -129,11 +129,11 @@ private Q_SLOTS:
         const auto library = MakeLibrary({"B"});
         LogCapture log;
         ICaptionEnvironment* environment = ICaptionEnvironment::GetInstance();
-        script.TakeCalls();
+        m_script.TakeCalls();
         library->names = QStringList("D");
         environment->AddFonts(folder.path() + "/missing");
         environment->AddFonts(QString());
-        QCOMPARE(script.TakeCalls(), QStringList());
+        QCOMPARE(m_script.TakeCalls(), QStringList());
         QCOMPARE(List(environment), QStringList("B=B"));
         QCOMPARE(Messages(log), QStringList("InitSystemFont: Fontcount:1"));
     }
@@ -143,12 +143,12 @@ private Q_SLOTS:
         const auto library = MakeLibrary({"B"});
         LogCapture log;
         ICaptionEnvironment* environment = ICaptionEnvironment::GetInstance();
-        script.TakeCalls();
+        m_script.TakeCalls();
         library->names = QStringList("D");
         environment->AddSystemFonts();
         const QStringList calls = {"fonts.LoadSystemFonts()", "fonts.GetFontCount()",
                                    "fonts.GetFontName(256)"};
-        QCOMPARE(script.TakeCalls(), calls);
+        QCOMPARE(m_script.TakeCalls(), calls);
         QCOMPARE(List(environment), QStringList("D=D"));
         const QStringList messages = {
             "InitSystemFont: Fontcount:1", "AddSystemFonts: LoadSystemFonts start",
@@ -176,14 +176,14 @@ private Q_SLOTS:
         QFETCH(QString, message);
         LogCapture log;
         const auto library = MakeLibrary({"A"});
-        script.statuses[failing] = E_FAIL;
+        m_script.statuses[failing] = E_FAIL;
         ICaptionEnvironment* environment = ICaptionEnvironment::GetInstance();
         QCOMPARE(environment->GetFactory() == nullptr, failing.startsWith("class"));
         if (!failing.startsWith("fonts.")) {
-            script.TakeCalls();
+            m_script.TakeCalls();
             environment->AddFonts(QDir::tempPath());
             environment->AddSystemFonts();
-            QCOMPARE(script.TakeCalls(), QStringList());
+            QCOMPARE(m_script.TakeCalls(), QStringList());
         }
         QCOMPARE(List(environment), QStringList());
         QCOMPARE(Messages(log), QStringList(message));

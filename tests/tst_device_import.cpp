@@ -23,7 +23,7 @@ namespace {
 #ifdef Q_OS_WIN
 constexpr bool SeesAllocations = false;
 #else
-constexpr bool SeesAllocations = true;
+constexpr bool kSeesAllocations = true;
 #endif
 std::size_t s_allocationToFail = 0;
 int s_buffers = 0; // that were allocated, of the size of a transfer buffer or more
@@ -279,7 +279,7 @@ private slots:
         for (const auto& step : steps) {
             const QString failing = step.failing;
             const QString output = step.output;
-            if ((failing == "memory" && !SeesAllocations) ||
+            if ((failing == "memory" && !kSeesAllocations) ||
                 (failing == "full disk" && !QFile::exists("/dev/full")))
                 continue;
             QTest::addRow("%s: %s %x", step.action, step.failing, step.status)
@@ -450,7 +450,7 @@ private slots:
             printed,
             QString(isStopped ? "! Failed to transfer object from device, hr = 0x80004005\n" : ""));
         QCOMPARE(m_chunks, chunks);
-        QCOMPARE(s_buffers, SeesAllocations ? 1 : 0);
+        QCOMPARE(s_buffers, kSeesAllocations ? 1 : 0);
         QByteArray expected(chunks.isEmpty() ? 0 : int(chunks.last()), 0);
         for (int i = 0; i < expected.size(); ++i)
             expected[i] = DeviceScript::DataAt(i);

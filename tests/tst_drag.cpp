@@ -41,12 +41,12 @@ class tst_Drag : public QObject
     Q_OBJECT
 
 private:
-    std::unique_ptr<Field> field;
-    QPointer<Helper> helper;
-    Values changed;
-    Values started;
-    Values ended;
-    QString told; ///< the first letter of each signal
+    std::unique_ptr<Field> m_field;
+    QPointer<Helper> m_helper;
+    Values m_changed;
+    Values m_started;
+    Values m_ended;
+    QString m_told; ///< the first letter of each signal
 
     static void Send(QObject* receiver, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
                      Qt::KeyboardModifiers keys = Qt::NoModifier,
@@ -58,21 +58,21 @@ private:
         QMouseEvent event(type, local, local, at, button, down, keys, source);
         QCoreApplication::sendEvent(receiver, &event);
     }
-    void Press() { Send(field.get(), QEvent::MouseButtonPress, QCursor::pos(), Qt::LeftButton); }
+    void Press() { Send(m_field.get(), QEvent::MouseButtonPress, QCursor::pos(), Qt::LeftButton); }
     void Release()
     {
-        Send(field.get(), QEvent::MouseButtonRelease, QCursor::pos(), Qt::LeftButton);
+        Send(m_field.get(), QEvent::MouseButtonRelease, QCursor::pos(), Qt::LeftButton);
     }
     /// Moves from where the pointer was parked or moved to last. Two moves are one step.
     void MoveTo(int x, Qt::KeyboardModifiers keys = Qt::NoModifier)
     {
-        Send(field.get(), QEvent::MouseMove, QPoint(x, 200), Qt::NoButton, keys);
+        Send(m_field.get(), QEvent::MouseMove, QPoint(x, 200), Qt::NoButton, keys);
     }
     /// Pointer and window system agree that it is over the field.
     void Hover(const QPoint& within = QPoint(20, 10))
     {
-        QCursor::setPos(field->mapToGlobal(within));
-        QTRY_VERIFY(field->underMouse());
+        QCursor::setPos(m_field->mapToGlobal(within));
+        QTRY_VERIFY(m_field->underMouse());
     }
     /// Who presses where no drag is possible gets through.
     static void PressElsewhere()
@@ -100,35 +100,35 @@ private:
 private Q_SLOTS:
     void init()
     {
-        field = std::make_unique<Field>();
-        field->setWindowFlag(Qt::FramelessWindowHint);
-        field->setGeometry(100, 80, 60, 40);
+        m_field = std::make_unique<Field>();
+        m_field->setWindowFlag(Qt::FramelessWindowHint);
+        m_field->setGeometry(100, 80, 60, 40);
         QCursor::setPos(5, 5);
-        field->show();
-        QVERIFY(QTest::qWaitForWindowExposed(field.get()));
-        helper = new Helper(field.get());
-        changed.clear();
-        started.clear();
-        ended.clear();
-        told.clear();
-        connect(helper, &Helper::sigValueChanged, this, [this](double v) {
-            changed += v;
-            told += 'v';
+        m_field->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_field.get()));
+        m_helper = new Helper(m_field.get());
+        m_changed.clear();
+        m_started.clear();
+        m_ended.clear();
+        m_told.clear();
+        connect(m_helper, &Helper::sigValueChanged, this, [this](double v) {
+            m_changed += v;
+            m_told += 'v';
         });
-        connect(helper, &Helper::sigStartValueChanged, this, [this](double v) {
-            started += v;
-            told += 's';
+        connect(m_helper, &Helper::sigStartValueChanged, this, [this](double v) {
+            m_started += v;
+            m_told += 's';
         });
-        connect(helper, &Helper::sigEndValueChanged, this, [this](double v) {
-            ended += v;
-            told += 'e';
+        connect(m_helper, &Helper::sigEndValueChanged, this, [this](double v) {
+            m_ended += v;
+            m_told += 'e';
         });
     }
 
     void cleanup()
     {
-        field.reset();
-        QVERIFY(!helper);
+        m_field.reset();
+        QVERIFY(!m_helper);
         QCOMPARE(Cursors(), 0);
     }
 
@@ -177,7 +177,7 @@ private Q_SLOTS:
         QFETCH(QVector<int>, moves);
         QFETCH(int, keys);
         QFETCH(Values, values);
-        setup(*helper);
+        setup(*m_helper);
         Hover();
         const QPoint start = QCursor::pos();
         Press();
@@ -186,15 +186,15 @@ private Q_SLOTS:
         QCOMPARE(anchor, QGuiApplication::primaryScreen()->geometry().bottomRight() / 2);
         for (const int move : moves)
             MoveTo(anchor.x() + move, Qt::KeyboardModifiers(keys));
-        QCOMPARE(changed, values);
-        QCOMPARE(started, values.mid(0, 1));
-        QCOMPARE(ended, Values());
+        QCOMPARE(m_changed, values);
+        QCOMPARE(m_started, values.mid(0, 1));
+        QCOMPARE(m_ended, Values());
         Release();
-        QCOMPARE(ended, Values{values.last()});
+        QCOMPARE(m_ended, Values{values.last()});
         QCOMPARE(QCursor::pos(), start);
-        QCOMPARE(field->presses, 0);
-        helper->SetValue(-3);
-        QCOMPARE(changed, values);
+        QCOMPARE(m_field->presses, 0);
+        m_helper->SetValue(-3);
+        QCOMPARE(m_changed, values);
     }
 
     void pausesEndTheGrowth()
@@ -206,24 +206,24 @@ private Q_SLOTS:
             MoveTo(x + move);
         QTest::qWait(250);
         MoveTo(x + 6);
-        QCOMPARE(changed, Values({1, 2}));
+        QCOMPARE(m_changed, Values({1, 2}));
         Release();
         Press();
         MoveTo(x + 1); // what was measured before is forgotten
         MoveTo(x + 2);
-        QCOMPARE(changed.size(), 2);
+        QCOMPARE(m_changed.size(), 2);
         Release();
     }
 
     void pressBesideTheAreaReachesTheWidget()
     {
-        helper->SetInteractiveRectangle(QRect(10, 0, 20, 40));
+        m_helper->SetInteractiveRectangle(QRect(10, 0, 20, 40));
         Hover(QPoint(40, 10));
         Press();
-        QCOMPARE(field->presses, 1);
+        QCOMPARE(m_field->presses, 1);
         Hover();
         Press();
-        QCOMPARE(field->presses, 1);
+        QCOMPARE(m_field->presses, 1);
         Release();
     }
 
@@ -231,11 +231,11 @@ private Q_SLOTS:
     {
         Hover();
         Press();
-        QCOMPARE(field->presses, 0);
-        QVERIFY(!field->geometry().contains(QCursor::pos())); // parked
+        QCOMPARE(m_field->presses, 0);
+        QVERIFY(!m_field->geometry().contains(QCursor::pos())); // parked
         Release();
-        QCOMPARE(field->presses, 1);
-        QCOMPARE(field->clicks, 1); // although it was released elsewhere
+        QCOMPARE(m_field->presses, 1);
+        QCOMPARE(m_field->clicks, 1); // although it was released elsewhere
     }
 
     void moveHidesThePointerAgain()
@@ -244,12 +244,12 @@ private Q_SLOTS:
         Press();
         const QPoint parked = QCursor::pos();
         QEvent leave(QEvent::Leave);
-        QCoreApplication::sendEvent(field.get(), &leave);
+        QCoreApplication::sendEvent(m_field.get(), &leave);
         QCOMPARE(Cursors(), 0);
         MoveTo(parked.x());
         QCOMPARE(Cursor(), Qt::BlankCursor);
         Release();
-        QCOMPARE(field->clicks, 1);
+        QCOMPARE(m_field->clicks, 1);
     }
 
     void clickTurnsDragsOffUntilTheFocusIsLost()
@@ -257,31 +257,31 @@ private Q_SLOTS:
         Hover();
         Press();
         Release();
-        QVERIFY(!helper->GetDragEnabled());
+        QVERIFY(!m_helper->GetDragEnabled());
         QEvent enter(QEvent::Enter);
-        QCoreApplication::sendEvent(field.get(), &enter);
+        QCoreApplication::sendEvent(m_field.get(), &enter);
         Press();
-        QCOMPARE(field->presses, 2);
+        QCOMPARE(m_field->presses, 2);
         QFocusEvent out(QEvent::FocusOut);
-        QCoreApplication::sendEvent(field.get(), &out);
-        QVERIFY(helper->GetDragEnabled());
+        QCoreApplication::sendEvent(m_field.get(), &out);
+        QVERIFY(m_helper->GetDragEnabled());
         QCOMPARE(Cursor(), Qt::SizeHorCursor);
     }
 
     void disabledWidgetBeginsNoDrag()
     {
         Hover();
-        field->setEnabled(false);
+        m_field->setEnabled(false);
         Press();
         QVERIFY(!QGuiApplication::overrideCursor());
-        field->setEnabled(true);
+        m_field->setEnabled(true);
         QCOMPARE(Cursor(), Qt::SizeHorCursor);
     }
 
     void touch()
     {
         const auto send = [this](QEvent::Type type, int x) {
-            Send(field.get(), type, field->mapToGlobal(QPoint(x, 10)), Qt::LeftButton, {},
+            Send(m_field.get(), type, m_field->mapToGlobal(QPoint(x, 10)), Qt::LeftButton, {},
                  Qt::MouseEventSynthesizedByQt);
         };
         const QPoint pointer = QCursor::pos();
@@ -289,24 +289,24 @@ private Q_SLOTS:
         for (const int x : {32, 24, 16, 20})
             send(QEvent::MouseMove, x);
         send(QEvent::MouseButtonRelease, 20);
-        QCOMPARE(changed, Values({-1, 0}));
+        QCOMPARE(m_changed, Values({-1, 0}));
         QCOMPARE(QCursor::pos(), pointer);
     }
 
     void editorTakesTheFocus()
     {
-        QLineEdit editor(field.get());
+        QLineEdit editor(m_field.get());
         editor.setGeometry(50, 0, 10, 10);
         editor.show();
-        connect(field.get(), &QPushButton::pressed, &editor, [&] { editor.setFocus(); });
-        field->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(field.get()));
-        field->setFocus();
+        connect(m_field.get(), &QPushButton::pressed, &editor, [&] { editor.setFocus(); });
+        m_field->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_field.get()));
+        m_field->setFocus();
         Hover();
         Press();
         Release();
         QVERIFY(editor.hasFocus());
-        QVERIFY(!helper->GetDragEnabled()); // although the field has lost the focus
+        QVERIFY(!m_helper->GetDragEnabled()); // although the field has lost the focus
     }
 
     void interrupted_data()
@@ -314,25 +314,25 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("moment");
         QTest::addColumn<Action>("interrupt");
         const std::pair<const char*, Action> ways[] = {
-            {"turned off", [this] { helper->SetDragEnabled(false); }},
+            {"turned off", [this] { m_helper->SetDragEnabled(false); }},
             {"off and on",
              [this] {
-                 helper->SetDragEnabled(false);
-                 helper->SetDragEnabled(true);
+                 m_helper->SetDragEnabled(false);
+                 m_helper->SetDragEnabled(true);
              }},
-            {"widget deleted", [this] { field.reset(); }},
-            {"widget deleted later", [this] { field.release()->deleteLater(); }},
-            {"helper deleted", [this] { delete helper; }},
-            {"helper deleted later", [this] { helper->deleteLater(); }},
+            {"widget deleted", [this] { m_field.reset(); }},
+            {"widget deleted later", [this] { m_field.release()->deleteLater(); }},
+            {"helper deleted", [this] { delete m_helper; }},
+            {"helper deleted later", [this] { m_helper->deleteLater(); }},
             {"dialog",
              [this] {
                  QMessageBox dialog;
                  QTimer::singleShot(0, &dialog, &QDialog::accept);
                  dialog.exec();
              }},
-            {"hidden", [this] { field->hide(); }},
-            {"closed", [this] { field->close(); }},
-            {"disabled", [this] { field->setEnabled(false); }},
+            {"hidden", [this] { m_field->hide(); }},
+            {"closed", [this] { m_field->close(); }},
+            {"disabled", [this] { m_field->setEnabled(false); }},
             {"another program",
              [] {
                  QApplicationStateChangeEvent event(Qt::ApplicationInactive);
@@ -341,13 +341,13 @@ private Q_SLOTS:
             {"release elsewhere",
              [this] {
                  PressElsewhere();
-                 QCursor::setPos(field->mapToGlobal({20, 10}));
+                 QCursor::setPos(m_field->mapToGlobal({20, 10}));
              }},
             {"another drag",
              [this] {
                  Release();
                  Press();
-                 QTimer::singleShot(0, field.get(), [this] { Release(); });
+                 QTimer::singleShot(0, m_field.get(), [this] { Release(); });
              }},
         };
         for (const char* moment : {"pressed", "start", "value", "moved", "end"}) {
@@ -364,24 +364,24 @@ private Q_SLOTS:
             if (moment == now)
                 std::exchange(interrupt, [] {})();
         };
-        connect(helper, &Helper::sigEndValueChanged, field.get(),
-                [this] { QVERIFY(field); }); // not told while it is being destroyed
-        connect(helper, &Helper::sigStartValueChanged, this, [&] { at("start"); });
-        connect(helper, &Helper::sigValueChanged, this, [&] { at("value"); });
-        connect(helper, &Helper::sigEndValueChanged, this, [&] { at("end"); });
+        connect(m_helper, &Helper::sigEndValueChanged, m_field.get(),
+                [this] { QVERIFY(m_field); }); // not told while it is being destroyed
+        connect(m_helper, &Helper::sigStartValueChanged, this, [&] { at("start"); });
+        connect(m_helper, &Helper::sigValueChanged, this, [&] { at("value"); });
+        connect(m_helper, &Helper::sigEndValueChanged, this, [&] { at("end"); });
         Hover();
         const QPoint start = QCursor::pos();
         Press();
         const int x = QCursor::pos().x();
         at("pressed");
-        for (int move = 2; move < 9 && field; ++move)
+        for (int move = 2; move < 9 && m_field; ++move)
             MoveTo(x + move);
         at("moved");
         if (moment == "end")
             Release(); // comes in no other case
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY2(QRegularExpression("^(sv*e)*$").match(told).hasMatch(), qPrintable(told));
+        QVERIFY2(QRegularExpression("^(sv*e)*$").match(m_told).hasMatch(), qPrintable(m_told));
         QCOMPARE(QCursor::pos(), start);
         QVERIFY(Cursor() != Qt::BlankCursor);
         PressElsewhere();
@@ -404,20 +404,20 @@ private Q_SLOTS:
         const std::function<void()> actions[] = {
             [&] { Press(); },
             [&] { Release(); },
-            [&] { field->setVisible(below(8)); },
-            [&] { field->setEnabled(below(8)); },
+            [&] { m_field->setVisible(below(8)); },
+            [&] { m_field->setEnabled(below(8)); },
             [&] {
                 QFocusEvent crossing(crossings[below(3)]);
-                QCoreApplication::sendEvent(field.get(), &crossing);
+                QCoreApplication::sendEvent(m_field.get(), &crossing);
             },
             [&] {
-                QCursor::setPos(field->mapToGlobal(QPoint(below(90), below(50))));
+                QCursor::setPos(m_field->mapToGlobal(QPoint(below(90), below(50))));
                 QCoreApplication::processEvents();
             },
             [&] { MoveTo(QCursor::pos().x() + below(21) - 10); }};
         for (int event = 0; event < 2000; ++event)
             actions[std::min(below(14), 6)]();
-        QVERIFY(changed.size() > 10);
+        QVERIFY(m_changed.size() > 10);
     }
 
     void realPointer()
@@ -449,16 +449,16 @@ private Q_SLOTS:
         // On the last of the screens, as part of a window.
         const QRect screen = QGuiApplication::screens().last()->geometry();
         QWidget panel(nullptr, Qt::FramelessWindowHint);
-        const auto leave = qScopeGuard([this] { field->setParent(nullptr); });
+        const auto leave = qScopeGuard([this] { m_field->setParent(nullptr); });
         panel.setGeometry(QRect(screen.topLeft() + QPoint(40, 40), QSize(120, 80)));
-        field->setParent(&panel);
-        field->move(10, 10);
-        field->show();
+        m_field->setParent(&panel);
+        m_field->move(10, 10);
+        m_field->show();
         panel.show();
         QVERIFY(QTest::qWaitForWindowExposed(&panel));
         const QPoint middle = screen.topLeft() + QPoint(80, 70);
         point({"mousemove", QString::number(middle.x()), QString::number(middle.y())});
-        QTRY_VERIFY(field->underMouse());
+        QTRY_VERIFY(m_field->underMouse());
         QCOMPARE(Cursor(), Qt::SizeHorCursor);
         point({"mousedown", "1"});
         QCOMPARE(Cursor(), Qt::BlankCursor);
@@ -467,14 +467,14 @@ private Q_SLOTS:
         // Further than the screen is wide, in large and in small moves.
         for (int move = 0; move < 100; ++move)
             point({"mousemove_relative", "8", "0"});
-        const int before = changed.size();
+        const int before = m_changed.size();
         QVERIFY(before > 30);
         QVERIFY(std::abs(QCursor::pos().x() - anchor.x()) < 30);
         for (int move = 0; move < 150; ++move)
             point({"mousemove_relative", "3", "0"});
-        QVERIFY(changed.size() > before + 40);
+        QVERIFY(m_changed.size() > before + 40);
         point({"mouseup", "1"});
-        QCOMPARE(ended.size(), 1);
+        QCOMPARE(m_ended.size(), 1);
         QCOMPARE(QCursor::pos(), middle);
         // Another button, of which the window gets to know while the pointer is parked beside it.
         point({"mousedown", "1"});
@@ -483,18 +483,18 @@ private Q_SLOTS:
         for (const char* action : {"mousedown", "mouseup"})
             point({action, "3"});
         point({"mouseup", "1"});
-        QCOMPARE(ended.size(), 2);
+        QCOMPARE(m_ended.size(), 2);
         const QPoint beside = middle + QPoint(0, 40);
         point({"mousemove", QString::number(beside.x()), QString::number(beside.y())});
-        QTRY_VERIFY(!field->underMouse());
+        QTRY_VERIFY(!m_field->underMouse());
         QVERIFY(!QGuiApplication::overrideCursor());
         point({"mousemove", QString::number(middle.x()), QString::number(middle.y())});
         point({"click", "1"});
-        QCOMPARE(field->presses, 1);
-        QCOMPARE(field->clicks, 1);
+        QCOMPARE(m_field->presses, 1);
+        QCOMPARE(m_field->clicks, 1);
 #ifndef Q_OS_WIN // where a pointer over no window may not tell of itself
         point({"mousemove", "1", "1"});
-        QTRY_VERIFY(!field->underMouse());
+        QTRY_VERIFY(!m_field->underMouse());
 #endif
     }
 };

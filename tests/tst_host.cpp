@@ -15,12 +15,12 @@ struct Run
     QString text;
 };
 
-QString hostProgram()
+QString HostProgram()
 {
     return QCoreApplication::applicationDirPath() + "/CommonLibDemo";
 }
 
-Run runHost(const QStringList& arguments, const QString& program = hostProgram())
+Run RunHost(const QStringList& arguments, const QString& program = HostProgram())
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("LD_LIBRARY_PATH", QCoreApplication::applicationDirPath());
@@ -33,13 +33,13 @@ Run runHost(const QStringList& arguments, const QString& program = hostProgram()
     return {ended ? process.exitCode() : -1, QString::fromUtf8(process.readAll())};
 }
 
-bool writeFile(const QString& path, const QByteArray& bytes)
+bool WriteFile(const QString& path, const QByteArray& bytes)
 {
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
-QByteArray readFile(const QString& path)
+QByteArray ReadFile(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -77,19 +77,19 @@ private slots:
     void wrongUsage()
     {
         QFETCH(QStringList, arguments);
-        const Run run = runHost(arguments);
+        const Run run = RunHost(arguments);
         QCOMPARE(run.code, 2);
         QVERIFY(!run.text.isEmpty());
     }
 
     void helpIsInTheChosenLanguage()
     {
-        const QString english = runHost({"--help"}).text;
+        const QString english = RunHost({"--help"}).text;
         for (const char* word : {"MEDIA", "Usage:"})
             QVERIFY2(english.contains(word), qPrintable(english));
         if (!HAS_QT_TRANSLATIONS)
             QSKIP("built without Qt's translations");
-        const QString german = runHost({"--language", "German", "--help"}).text;
+        const QString german = RunHost({"--language", "German", "--help"}).text;
         QVERIFY(!german.isEmpty());
         for (const char* word : {"Usage", "[options]", "Options:", "Arguments:", "MEDIA"})
             QVERIFY2(!german.contains(word), qPrintable(german));
@@ -98,11 +98,11 @@ private slots:
     void unusableFilesAreExplained()
     {
         QVERIFY(QDir().mkpath(path("folder.mp4")));
-        QVERIFY(writeFile(path("empty.mp4"), {}));
-        QVERIFY(writeFile(path("text.mp4"), "No movie.\n"));
+        QVERIFY(WriteFile(path("empty.mp4"), {}));
+        QVERIFY(WriteFile(path("text.mp4"), "No movie.\n"));
         QVERIFY(QDir().mkpath(m_output));
         QVERIFY(QFile::link(m_output, path("link"))); // the same log
-        const Run run = runHost({"--output", m_output, "--log", path("link/CommonLibDemo.log"),
+        const Run run = RunHost({"--output", m_output, "--log", path("link/CommonLibDemo.log"),
                                  path("missing.mp4"), path("folder.mp4"), path("empty.mp4"),
                                  path("text.mp4"), "/dev/zero"});
         QCOMPARE(run.code, 0);
@@ -112,7 +112,7 @@ private slots:
               "zero: is not a regular file"})
             QVERIFY2(run.text.contains(line), line);
         QCOMPARE(QDir(m_output).entryList({"*.png"}), QStringList());
-        const QByteArray log = readFile(m_output + "/CommonLibDemo.log");
+        const QByteArray log = ReadFile(m_output + "/CommonLibDemo.log");
         QVERIFY(log.contains("empty.mp4: is empty"));
         QVERIFY(log.contains("]:  end - ["));
     }
@@ -128,28 +128,28 @@ private slots:
             picture.fill(colors[index]);
             QVERIFY(picture.save(media[index]));
         }
-        const QByteArray original = readFile(media[0]);
+        const QByteArray original = ReadFile(media[0]);
         const QString log = path("elsewhere.log");
 
-        const Run run = runHost(QStringList{"--log", log, "--output", m_output} + media);
+        const Run run = RunHost(QStringList{"--log", log, "--output", m_output} + media);
         QCOMPARE(run.code, 0);
         QVERIFY2(run.text.contains("Still picture, 320 × 200"), qPrintable(run.text));
-        QCOMPARE(readFile(media[0]), original);
+        QCOMPARE(ReadFile(media[0]), original);
         for (int index = 0; index < media.size(); ++index) {
             const QImage page(m_output + QString("/a-%1.png").arg(index + 2));
             QVERIFY(!page.isNull());
             const QColor shown = page.pixelColor(page.rect().center());
             QVERIFY(qAbs(shown.hue() - colors[index].hue()) < 8);
         }
-        QVERIFY(!readFile(log).isEmpty());
-        QCOMPARE(readFile(m_output + "/CommonLibDemo.log"), readFile(log));
+        QVERIFY(!ReadFile(log).isEmpty());
+        QCOMPARE(ReadFile(m_output + "/CommonLibDemo.log"), ReadFile(log));
     }
 
     void missingEngineIsTold()
     {
         const QString alone = path("CommonLibDemo");
-        QVERIFY(QFile::copy(hostProgram(), alone));
-        const Run run = runHost({"--output", m_output, alone}, alone);
+        QVERIFY(QFile::copy(HostProgram(), alone));
+        const Run run = RunHost({"--output", m_output, alone}, alone);
         QCOMPARE(run.code, 1);
         const QString expected = "The engine is missing or does not start: " + path("NLECore.dll");
         QVERIFY2(run.text.contains(expected), qPrintable(run.text));

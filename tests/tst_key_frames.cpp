@@ -14,9 +14,9 @@ using Operation = QVariant (*)(Setting&);
 Q_DECLARE_METATYPE(Operation)
 Q_DECLARE_METATYPE(Param)
 
-static const Param Second = {0.5, 30, 0.25, {1, 2}, {3, 4}};
+static const Param kSecond = {0.5, 30, 0.25, {1, 2}, {3, 4}};
 
-static const Param Usual = {0.5, 0, 0.75, {0.25, -0.5}, {2, 2}};
+static const Param kUsual = {0.5, 0, 0.75, {0.25, -0.5}, {2, 2}};
 
 static QString Read(const Setting& setting, int index, Param param = {})
 {
@@ -41,7 +41,7 @@ struct Service : NLETimelineContextPropertyService
 /// A host's service on a basin with a bag.
 struct Context
 {
-    inline static const QString Fill = "factory.CreateProperties() basin.FillProperties(bag) bag.";
+    inline static const QString kFill = "factory.CreateProperties() basin.FillProperties(bag) bag.";
     const NLEComPtr<Properties> bag = MakeCom<Properties>("bag");
     const wchar_t* const keys = L"a\0b";
     const QMap<const wchar_t*, double> two = {{keys + 2, 2}, {keys, 1}};
@@ -61,7 +61,7 @@ class tst_KeyFrames : public QObject
 {
     Q_OBJECT
 
-    Script& script = Script::Get();
+    Script& m_script = Script::Get();
     struct Engine
     {
         NLEComPtr<Node> node = MakeCom<Node>("node");
@@ -78,7 +78,7 @@ private slots:
     void cleanup()
     {
         EndSession();
-        QCOMPARE(script.liveObjects, QStringList());
+        QCOMPARE(m_script.liveObjects, QStringList());
     }
 
     void operations_data()
@@ -96,7 +96,7 @@ private slots:
         const QString read = "GetKeyFrame(1)", unread = "0 0 1 0 1 failed";
         const QString change = read + " SetKeyFrame(1, 0.5 %1 1)";
         row("add", 1, -1, "AddKeyFrame(0.5 30 1 2 3 4 0.25 1)",
-            [](S& s) -> V { return s.AddKeyFrame(Second); });
+            [](S& s) -> V { return s.AddKeyFrame(kSecond); });
         row("delete", true, false, "DeleteKeyFrame(1)",
             [](S& s) -> V { return s.DeleteKeyFrame(1); });
         row("delete below the first", false, false, "",
@@ -110,11 +110,11 @@ private slots:
         row("read at a time", "0.25 0 1 0 1", "0 0 1 0 1", "GetParamAt(0.75)",
             [](S& s) -> V { return Read(s, -1, s.GetKeyFrameParam(0.75)); });
         row("set", 0, 0, "SetKeyFrame(0, 0.5 30 1 2 3 4 0.25 1)",
-            [](S& s) { return s.SetKeyFrameParam(0, Second), V(0); });
+            [](S& s) { return s.SetKeyFrameParam(0, kSecond), V(0); });
         row("set behind the last", 0, 0, "",
-            [](S& s) { return s.SetKeyFrameParam(2, Second), V(0); });
+            [](S& s) { return s.SetKeyFrameParam(2, kSecond), V(0); });
         row("find", 1, -1, "GetKeyFrame(0) " + read,
-            [](S& s) -> V { return s.GetKeyFrameIndex(Second); });
+            [](S& s) -> V { return s.GetKeyFrameIndex(kSecond); });
         row("find what is not there", -1, -1, "GetKeyFrame(0) " + read,
             [](S& s) -> V { return s.GetKeyFrameIndex(Param()); });
         row("find by frame", 1, -1, "FindIndex(3, 50)", [](S& s) -> V { return Find(s, 3, 50); });
@@ -149,7 +149,7 @@ private slots:
         const Engine e;
         Setting setting(e.node);
         QTEST(operation(setting), "value");
-        QStringList calls = script.TakeCalls();
+        QStringList calls = m_script.TakeCalls();
         calls.removeAll("keys.GetCount()");
         QTEST(calls.join(' ').remove("keys."), "calls");
         setting.SetTimeline(MakeCom<Node>("lacking"));
@@ -163,15 +163,15 @@ private slots:
         const Engine e;
         Setting setting(e.node);
         for (const char* operation : {"GetKeyFrame", "FindIndex", "GetStatus", "SetStatus"})
-            script.statuses[QString("keys.") + operation] = S_FALSE; // no success for these
-        script.statuses["keys.GetParamAt"] = script.statuses["keys.AddKeyFrame"] = E_FAIL;
+            m_script.statuses[QString("keys.") + operation] = S_FALSE; // no success for these
+        m_script.statuses["keys.GetParamAt"] = m_script.statuses["keys.AddKeyFrame"] = E_FAIL;
         QCOMPARE(Read(setting, 1), "0 0 1 0 1 failed");
         QCOMPARE(setting.GetAllKeyFrameParams().size(), 0);
         QCOMPARE(Find(setting, 1, 2), -1);
         QCOMPARE(setting.SetKeyFrameStatus(true), false);
         QCOMPARE(setting.GetKeyFrameStatus(), false);
         QVERIFY(setting.GetKeyFrameParam(0.5) == Param());
-        QCOMPARE(setting.AddKeyFrame(Second), -1);
+        QCOMPARE(setting.AddKeyFrame(kSecond), -1);
     }
 
     void equality_data()
@@ -180,7 +180,7 @@ private slots:
         QTest::addColumn<bool>("strict");
         QTest::addColumn<bool>("loose");
         const auto row = [](const char* name, bool strict, bool loose, void (*edit)(Param&)) {
-            Param other = Usual;
+            Param other = kUsual;
             edit(other);
             QTest::newRow(name) << other << strict << loose;
         };
@@ -197,8 +197,8 @@ private slots:
     void equality()
     {
         QFETCH(Param, other);
-        QTEST(Usual == other, "strict");
-        QTEST(video_keyframe_equals(nullptr, Usual, other), "loose");
+        QTEST(kUsual == other, "strict");
+        QTEST(video_keyframe_equals(nullptr, kUsual, other), "loose");
     }
 
     void roundedEquality_data()
@@ -251,7 +251,7 @@ private slots:
         region->region = {10, 20, 1920, 1080};
         const auto parent = MakeCom<Node>("parent");
         parent->Offer<INLERenderRegion>(region);
-        script.results["node.GetParent"] = parent;
+        m_script.results["node.GetParent"] = parent;
         const QRectF rect(10, 20, 1920, 1080);
         const QPointF place(0.25, 0.5);
         QCOMPARE(GetRenderROD(e.node.get()), rect);
@@ -268,7 +268,7 @@ private slots:
         Context context;
         bool flag = false;
         QVERIFY(context.service.SetIntValue(L"i", 7));
-        QCOMPARE(context.TakeCalls(), Context::Fill + "SetInt(i, 7) basin.TakeProperties(bag)");
+        QCOMPARE(context.TakeCalls(), Context::kFill + "SetInt(i, 7) basin.TakeProperties(bag)");
         QVERIFY(context.service.GetBoolValue(L"i", flag));
         QCOMPARE(flag, true);
         QVERIFY(!context.service.GetBoolValue(L"none", flag));
@@ -279,8 +279,8 @@ private slots:
     {
         Context context;
         QVERIFY(context.service.SetDoubleValues(context.two));
-        QCOMPARE(context.TakeCalls(), Context::Fill + "SetDouble(a, 1) bag.SetDouble(b, 2) "
-                                                      "basin.TakeProperties(bag)");
+        QCOMPARE(context.TakeCalls(), Context::kFill + "SetDouble(a, 1) bag.SetDouble(b, 2) "
+                                                       "basin.TakeProperties(bag)");
         QVERIFY(!context.service.SetDoubleValues({}));
         QCOMPARE(context.TakeCalls(), QString());
     }
@@ -288,10 +288,10 @@ private slots:
     void contextStopsAtTheFirstFailure()
     {
         Context context;
-        script.statuses["bag.SetDouble"] = E_FAIL;
+        m_script.statuses["bag.SetDouble"] = E_FAIL;
         QVERIFY(!context.service.SetDoubleValues(context.two));
-        QCOMPARE(context.TakeCalls(), Context::Fill + "SetDouble(a, 1)");
-        script.statuses = {{"basin.TakeProperties", E_FAIL}};
+        QCOMPARE(context.TakeCalls(), Context::kFill + "SetDouble(a, 1)");
+        m_script.statuses = {{"basin.TakeProperties", E_FAIL}};
         QVERIFY(!context.service.SetDoubleValues(context.two));
         QVERIFY(!context.service.SetIntValue(L"i", 1));
     }

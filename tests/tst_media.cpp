@@ -17,16 +17,16 @@ Q_DECLARE_METATYPE(TestClip)
 
 namespace {
 
-constexpr int StillNumber = 77;
-constexpr QSize StillSize(320, 180);
+constexpr int kStillNumber = 77;
+constexpr QSize kStillSize(320, 180);
 /// A half-transparent pixel of it.
-constexpr QPoint Transparent(0, 179);
-constexpr QRgb TransparentColour = qRgba(200, 100, 50, 64);
+constexpr QPoint kTransparent(0, 179);
+constexpr QRgb kTransparentColour = qRgba(200, 100, 50, 64);
 
-constexpr int Rate = 48000;
-constexpr int SoundFrames = 4 * Rate;
-constexpr int PartFrames = 1000;
-constexpr double ToneHz = 1000;
+constexpr int kRate = 48000;
+constexpr int kSoundFrames = 4 * kRate;
+constexpr int kPartFrames = 1000;
+constexpr double kToneHz = 1000;
 
 // The frame whose picture a clip shows at \a frame: the last one that was not left out.
 int ShownFrame(const TestClip& clip, int frame)
@@ -68,8 +68,8 @@ class tst_Media : public QObject, private MediaFixture
 
     Info MakeStill(const QString& suffix, const QString& name)
     {
-        QImage source = PaintFrameNumber(StillNumber, StillSize);
-        source.setPixelColor(Transparent, QColor::fromRgba(TransparentColour));
+        QImage source = PaintFrameNumber(kStillNumber, kStillSize);
+        source.setPixelColor(kTransparent, QColor::fromRgba(kTransparentColour));
         const QString made = Path("made." + suffix);
         if (!source.save(Path("source.png")))
             return Probe(name, "the picture cannot be saved");
@@ -116,17 +116,17 @@ class tst_Media : public QObject, private MediaFixture
         clip.sampleRate = sampleRate;
         clip.channels = channels;
         clip.frames = 100;
-        clip.toneHz = ToneHz;
+        clip.toneHz = kToneHz;
         return Make(name, clip);
     }
     /// The whole of it in two channels, read in tenths of seconds; empty when more than the few
     /// samples that a format may lack are missing.
     static std::vector<float> ReadSound(AudioDecoder& decoder)
     {
-        const int block = Rate / 10;
-        std::vector<float> whole(size_t(SoundFrames) * 2);
-        for (int first = 0; first < SoundFrames; first += block) {
-            const int read = decoder.Read(first, block, Rate, 2, &whole[size_t(first) * 2]);
+        const int block = kRate / 10;
+        std::vector<float> whole(size_t(kSoundFrames) * 2);
+        for (int first = 0; first < kSoundFrames; first += block) {
+            const int read = decoder.Read(first, block, kRate, 2, &whole[size_t(first) * 2]);
             if (read < block - 24)
                 return {};
         }
@@ -258,12 +258,12 @@ private slots:
         for (int i = 0; i < 30; ++i)
             frames.append(std::min(clip.frames - 1, frames.last() + int(generator() % 12)));
         for (int frame : frames) {
-            const QImage picture = decoder->Picture(frame, Thumbnail);
+            const QImage picture = decoder->Picture(frame, kThumbnail);
             QCOMPARE(picture.format(), QImage::Format_ARGB32);
             QCOMPARE(ReadFrameNumber(picture), ShownFrame(clip, frame));
         }
-        QVERIFY(decoder->Picture(clip.frames + 4000, Thumbnail).isNull());
-        QCOMPARE(ReadFrameNumber(decoder->Picture(clip.frames - 1, Thumbnail)),
+        QVERIFY(decoder->Picture(clip.frames + 4000, kThumbnail).isNull());
+        QCOMPARE(ReadFrameNumber(decoder->Picture(clip.frames - 1, kThumbnail)),
                  ShownFrame(clip, clip.frames - 1));
     }
 
@@ -278,12 +278,12 @@ private slots:
         const auto sequential = FrameDecoder::Open(info, info->videoStream, nullptr);
         const auto jumping = FrameDecoder::Open(info, info->videoStream, nullptr);
         for (int frame = 0; frame < clip.frames; ++frame) {
-            const QImage picture = sequential->Picture(frame, Thumbnail);
+            const QImage picture = sequential->Picture(frame, kThumbnail);
             QCOMPARE(ReadFrameNumber(picture), ShownFrame(clip, frame));
             if (frame % 29 == 11) // bit for bit the same after a jump
-                QCOMPARE(jumping->Picture(frame, Thumbnail), picture);
+                QCOMPARE(jumping->Picture(frame, kThumbnail), picture);
         }
-        QVERIFY(sequential->Picture(clip.frames + 40, Thumbnail).isNull());
+        QVERIFY(sequential->Picture(clip.frames + 40, kThumbnail).isNull());
     }
 
     void refused_data()
@@ -359,10 +359,10 @@ private slots:
         QCOMPARE(int(info->frameCount), clip.frames);
 
         const auto decoder = FrameDecoder::Open(info, info->videoStream, nullptr);
-        QVERIFY(decoder->Picture(clip.frames - 1, Thumbnail).isNull());
+        QVERIFY(decoder->Picture(clip.frames - 1, kThumbnail).isNull());
         int lastShown = -1;
         for (int frame = 0; frame < clip.frames; ++frame) {
-            const QImage picture = decoder->Picture(frame, Thumbnail);
+            const QImage picture = decoder->Picture(frame, kThumbnail);
             if (picture.isNull())
                 continue;
             QVERIFY(frame - lastShown <= clip.bframes + 1);
@@ -373,7 +373,7 @@ private slots:
         QVERIFY(lastShown > clip.frames * 2 / 5);
         QVERIFY(lastShown < clip.frames * 14 / 15);
         const auto other = FrameDecoder::Open(info, info->videoStream, nullptr);
-        QCOMPARE(ReadFrameNumber(other->Picture(lastShown, Thumbnail)), lastShown);
+        QCOMPARE(ReadFrameNumber(other->Picture(lastShown, kThumbnail)), lastShown);
     }
 
     void copiedPart_data()
@@ -414,7 +414,7 @@ private slots:
         const auto decoder = FrameDecoder::Open(info, info->videoStream, nullptr);
         const int count = int(info->frameCount);
         for (int frame = 0; frame < count; ++frame)
-            QVERIFY(!decoder->Picture(frame, Thumbnail).isNull());
+            QVERIFY(!decoder->Picture(frame, kThumbnail).isNull());
         QCOMPARE(decoder->Position(), count - 1);
     }
 
@@ -442,10 +442,10 @@ private slots:
         QCOMPARE(NLECommon::ToDouble(info->frameRate), 25.0);
         const auto decoder = FrameDecoder::Open(info, 0, nullptr);
         // It is shown at any time.
-        QCOMPARE(ReadFrameNumber(decoder->Picture(0, Thumbnail)), StillNumber);
-        QCOMPARE(ReadFrameNumber(decoder->Picture(1000000, Thumbnail)), StillNumber);
-        QCOMPARE(ReadFrameNumber(decoder->Picture(3, Thumbnail)), StillNumber);
-        QVERIFY(decoder->Picture(-1, Thumbnail).isNull());
+        QCOMPARE(ReadFrameNumber(decoder->Picture(0, kThumbnail)), kStillNumber);
+        QCOMPARE(ReadFrameNumber(decoder->Picture(1000000, kThumbnail)), kStillNumber);
+        QCOMPARE(ReadFrameNumber(decoder->Picture(3, kThumbnail)), kStillNumber);
+        QVERIFY(decoder->Picture(-1, kThumbnail).isNull());
         QVERIFY(decoder->Picture(0, QSize()).isNull());
     }
 
@@ -475,8 +475,8 @@ private slots:
         const auto info = MakeStill("png", "transparent.png");
         QVERIFY(info);
         QVERIFY(info->streams[0].hasAlpha);
-        const QImage picture = FrameDecoder::Open(info, 0, nullptr)->Picture(0, StillSize);
-        QCOMPARE(picture.pixel(Transparent), TransparentColour);
+        const QImage picture = FrameDecoder::Open(info, 0, nullptr)->Picture(0, kStillSize);
+        QCOMPARE(picture.pixel(kTransparent), kTransparentColour);
     }
 
     void orientation_data()
@@ -488,10 +488,10 @@ private slots:
         QTest::newRow("video turned by 180") << "180.mov" << 180 << false;
         QTest::newRow("video turned by 270") << "270.mp4" << 270 << false;
         for (int exif = 1; exif <= 8; ++exif) {
-            static constexpr int Rotations[] = {0, 0, 180, 180, 270, 90, 90, 270};
-            static constexpr bool Mirrors[] = {false, true, false, true, true, false, true, false};
+            static constexpr int rotations[] = {0, 0, 180, 180, 270, 90, 90, 270};
+            static constexpr bool mirrors[] = {false, true, false, true, true, false, true, false};
             QTest::addRow("photograph with orientation %d", exif)
-                << QString("exif%1.jpg").arg(exif) << Rotations[exif - 1] << Mirrors[exif - 1];
+                << QString("exif%1.jpg").arg(exif) << rotations[exif - 1] << mirrors[exif - 1];
         }
     }
 
@@ -519,7 +519,7 @@ private slots:
     {
         const TestClip clip = SoundClip("libmp3lame", 0.0);
         QCOMPARE(MakeTestClip(Path("plain.mp3"), clip), QString());
-        QVERIFY(PaintFrameNumber(1, Thumbnail).save(Path("cover.png")));
+        QVERIFY(PaintFrameNumber(1, kThumbnail).save(Path("cover.png")));
         QCOMPARE(
             RunFfmpeg({"-i", Path("plain.mp3"), "-i", Path("cover.png"), "-map", "0", "-map", "1",
                        "-c", "copy", "-disposition:v", "attached_pic", Path("cover.mp3")}),
@@ -563,9 +563,9 @@ private slots:
         const std::vector<float> whole = ReadSound(*decoder);
         QVERIFY(!whole.empty());
         int onset = 0;
-        while (onset < SoundFrames && std::abs(whole[size_t(onset) * 2]) < 0.06F)
+        while (onset < kSoundFrames && std::abs(whole[size_t(onset) * 2]) < 0.06F)
             ++onset;
-        QCOMPARE(Deviation(onset, Rate + delay, tolerance), QString());
+        QCOMPARE(Deviation(onset, kRate + delay, tolerance), QString());
     }
 
     void soundIsTheTone_data() { SoundRows(); }
@@ -578,9 +578,9 @@ private slots:
         const std::vector<float> whole = ReadSound(*decoder);
         QVERIFY(!whole.empty());
         // The third second, both channels by turns.
-        const std::vector<float> tone(whole.begin() + 2 * 2 * Rate, whole.begin() + 2 * 3 * Rate);
+        const std::vector<float> tone(whole.begin() + 2 * 2 * kRate, whole.begin() + 2 * 3 * kRate);
         QCOMPARE(Deviation(PeakOf(tone), 0.5, 0.03), QString());
-        const size_t period = size_t(2 * Rate / ToneHz);
+        const size_t period = size_t(2 * kRate / kToneHz);
         QVERIFY(Difference(tone.data(), &tone[period], 2) < 0.03F);
     }
 
@@ -594,10 +594,10 @@ private slots:
         const std::vector<float> whole = ReadSound(*decoder);
         QVERIFY(!whole.empty());
         std::mt19937 generator(5);
-        std::vector<float> part(2 * PartFrames);
+        std::vector<float> part(2 * kPartFrames);
         for (int i = 0; i < 12; ++i) {
-            const int first = int(generator() % unsigned(SoundFrames - PartFrames));
-            QCOMPARE(decoder->Read(first, PartFrames, Rate, 2, part.data()), PartFrames);
+            const int first = int(generator() % unsigned(kSoundFrames - kPartFrames));
+            QCOMPARE(decoder->Read(first, kPartFrames, kRate, 2, part.data()), kPartFrames);
             QVERIFY(Difference(part.data(), &whole[size_t(first) * 2], part.size()) < 0.001F);
         }
     }
@@ -611,17 +611,18 @@ private slots:
         const auto decoder = AudioDecoder::Open(info, info->audioStream, nullptr);
         const std::vector<float> whole = ReadSound(*decoder);
         QVERIFY(!whole.empty());
-        std::vector<float> part(2 * PartFrames, 1.0F);
-        QCOMPARE(decoder->Read(-5 * PartFrames, PartFrames, Rate, 2, part.data()), 0);
+        std::vector<float> part(2 * kPartFrames, 1.0F);
+        QCOMPARE(decoder->Read(-5 * kPartFrames, kPartFrames, kRate, 2, part.data()), 0);
         QCOMPARE(PeakOf(part), 0.0F);
         part.assign(part.size(), 1.0F);
-        QCOMPARE(decoder->Read(SoundFrames + Rate, PartFrames, Rate, 2, part.data()), 0);
+        QCOMPARE(decoder->Read(kSoundFrames + kRate, kPartFrames, kRate, 2, part.data()), 0);
         QCOMPARE(PeakOf(part), 0.0F);
-        QCOMPARE(decoder->Read(std::int64_t(Rate) * 1000000, PartFrames, Rate, 2, part.data()), 0);
+        QCOMPARE(decoder->Read(std::int64_t(kRate) * 1000000, kPartFrames, kRate, 2, part.data()),
+                 0);
         // Only a part lies in the stream.
-        QCOMPARE(decoder->Read(-PartFrames / 2, PartFrames, Rate, 2, part.data()), PartFrames);
-        QVERIFY(Difference(&part[PartFrames], whole.data(), PartFrames) < 0.001F);
-        QCOMPARE(decoder->Read(0, 0, Rate, 2, part.data()), -1);
+        QCOMPARE(decoder->Read(-kPartFrames / 2, kPartFrames, kRate, 2, part.data()), kPartFrames);
+        QVERIFY(Difference(&part[kPartFrames], whole.data(), kPartFrames) < 0.001F);
+        QCOMPARE(decoder->Read(0, 0, kRate, 2, part.data()), -1);
     }
 
     void joinedRecordings()
@@ -656,13 +657,13 @@ private slots:
         const auto late = Probe("late.mkv");
         QVERIFY(late);
         const auto decoder = AudioDecoder::Open(late, late->audioStream, nullptr);
-        std::vector<float> samples(Rate);
-        QCOMPARE(decoder->Read(0, Rate, Rate, 1, samples.data()), Rate);
+        std::vector<float> samples(kRate);
+        QCOMPARE(decoder->Read(0, kRate, kRate, 1, samples.data()), kRate);
         const auto onset =
             std::find_if(samples.begin(), samples.end(), [](float s) { return s > 0.1F; });
-        QCOMPARE(Deviation(int(onset - samples.begin()), Rate / 2, 99), QString());
+        QCOMPARE(Deviation(int(onset - samples.begin()), kRate / 2, 99), QString());
         const auto pictures = FrameDecoder::Open(late, late->videoStream, nullptr);
-        QCOMPARE(ReadFrameNumber(pictures->Picture(0, Thumbnail)), 0);
+        QCOMPARE(ReadFrameNumber(pictures->Picture(0, kThumbnail)), 0);
     }
 
     void wavePeaks()
@@ -672,14 +673,14 @@ private slots:
         const auto info = Make("wave.wav", clip);
         QVERIFY(info);
         const auto decoder = AudioDecoder::Open(info, 0, nullptr);
-        const std::vector<WavePeak> peaks = ReadWaveForm(*decoder, 0, 2 * Rate, Rate, 2, 10);
+        const std::vector<WavePeak> peaks = ReadWaveForm(*decoder, 0, 2 * kRate, kRate, 2, 10);
         QCOMPARE(peaks.size(), size_t(20));
         for (size_t i = 0; i < peaks.size(); ++i) {
             const double level = i < 10 ? 0 : clip.toneLevel;
             QCOMPARE(Deviation(peaks[i].max, level, 0.01), QString());
             QCOMPARE(Deviation(peaks[i].min, -level, 0.01), QString());
         }
-        QVERIFY(ReadWaveForm(*decoder, 0, 0, Rate, 2, 10).empty());
+        QVERIFY(ReadWaveForm(*decoder, 0, 0, kRate, 2, 10).empty());
     }
 };
 

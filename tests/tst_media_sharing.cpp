@@ -59,8 +59,8 @@ class tst_MediaSharing : public QObject, private MediaFixture
     {
         auto first = pool.Acquire(PoolFile(0), 0, DecodePurpose::Thumbnail, 0);
         auto second = pool.Acquire(PoolFile(0), 0, DecodePurpose::Thumbnail, 0);
-        first->Picture(10, Thumbnail);
-        second->Picture(40, Thumbnail);
+        first->Picture(10, kThumbnail);
+        second->Picture(40, kThumbnail);
         return {&*first, &*second};
     }
     FrameDecoder* Lent(DecoderPool& pool, DecodePurpose purpose, int frame) const
@@ -223,7 +223,7 @@ private slots:
                 leases.push_back(pool.Acquire(PoolFile(file), 0, DecodePurpose::Render, 0));
             QCOMPARE(pool.OpenCount(), 4);
             pool.Drop(PoolFile(2)->path);
-            QCOMPARE(ReadFrameNumber(leases[2]->Picture(5, Thumbnail)), 5);
+            QCOMPARE(ReadFrameNumber(leases[2]->Picture(5, kThumbnail)), 5);
         }
         // Without the first to come back, and without the dropped one.
         QCOMPARE(pool.OpenCount(), 2);
@@ -246,12 +246,13 @@ private slots:
         const auto info = Make("replaced.mp4", SmallClip(30));
         QVERIFY(info);
         DecoderPool pool;
-        QVERIFY(!pool.Acquire(info, 0, DecodePurpose::Render, 20)->Picture(20, Thumbnail).isNull());
+        QVERIFY(
+            !pool.Acquire(info, 0, DecodePurpose::Render, 20)->Picture(20, kThumbnail).isNull());
         QVERIFY(pool.Acquire(info, 0, DecodePurpose::Render, 20)->IsFileUnchanged());
         QCOMPARE(MakeTestClip(Path("shorter.mp4"), SmallClip(10)), QString());
         QVERIFY(QFile::remove(info->path));
         QVERIFY(QFile::rename(Path("shorter.mp4"), info->path));
-        QVERIFY(pool.Acquire(info, 0, DecodePurpose::Render, 20)->Picture(20, Thumbnail).isNull());
+        QVERIFY(pool.Acquire(info, 0, DecodePurpose::Render, 20)->Picture(20, kThumbnail).isNull());
         QVERIFY(QFile::remove(info->path));
         QString error;
         QVERIFY(!pool.Acquire(info, 0, DecodePurpose::Render, 0, &error));
@@ -272,7 +273,7 @@ private slots:
                     for (int i = 0; i < 25; ++i) {
                         const int frame = int(generator() % 100);
                         auto lease = pool.Acquire(info, 0, DecodePurpose::Thumbnail, frame);
-                        wrong += ReadFrameNumber(lease->Picture(frame, Thumbnail)) != frame;
+                        wrong += ReadFrameNumber(lease->Picture(frame, kThumbnail)) != frame;
                     }
                 });
             }

@@ -11,7 +11,7 @@ using namespace Scripted;
 
 namespace {
 
-constexpr QRgb Red = 0xFFFF0000;
+constexpr QRgb kRed = 0xFFFF0000;
 
 QImage Filled(const QSize& size, QRgb colour)
 {
@@ -28,101 +28,102 @@ class tst_NLETimeline : public QObject
     Q_OBJECT
 
 private:
-    Script& script = Script::Get();
-    NLEComPtr<Node> node;
-    NLEComPtr<Source> source;
-    NLEComPtr<MediaInfo> info;
-    NLEComPtr<Picture> picture;
-    NLEComPtr<VideoFrame> frame;
+    Script& m_script = Script::Get();
+    NLEComPtr<Node> m_node;
+    NLEComPtr<Source> m_source;
+    NLEComPtr<MediaInfo> m_info;
+    NLEComPtr<Picture> m_picture;
+    NLEComPtr<VideoFrame> m_frame;
 
 private Q_SLOTS:
     void init()
     {
-        info = MakeCom<MediaInfo>("info");
-        info->streams.resize(2);
-        info->streams[0].sampleRate = 48000;
-        info->streams[0].channels = 2;
-        info->streams[0].sampleFormat = 8;
-        info->streams[0].type = NLEStream_Audio;
-        info->streams[1].type = NLEStream_Video;
-        info->streams[1].width = 64;
-        info->streams[1].height = 48;
-        info->frameCount = 100;
-        info->rate = {30, 1};
-        source = MakeCom<Source>("source");
-        source->filePath = "/ü.mov";
-        source->videoStream = 1;
-        source->audioStream = 0;
-        node = MakeCom<Node>("node");
-        node->Offer<INLETimelineSource>(source);
-        picture = MakeCom<Picture>("picture");
-        frame = MakeCom<VideoFrame>("frame");
-        picture->image = frame->image = Filled({8, 6}, Red);
-        frame->validRect = {0, 1, 8, 4};
+        m_info = MakeCom<MediaInfo>("info");
+        m_info->streams.resize(2);
+        m_info->streams[0].sampleRate = 48000;
+        m_info->streams[0].channels = 2;
+        m_info->streams[0].sampleFormat = 8;
+        m_info->streams[0].type = NLEStream_Audio;
+        m_info->streams[1].type = NLEStream_Video;
+        m_info->streams[1].width = 64;
+        m_info->streams[1].height = 48;
+        m_info->frameCount = 100;
+        m_info->rate = {30, 1};
+        m_source = MakeCom<Source>("source");
+        m_source->filePath = "/ü.mov";
+        m_source->videoStream = 1;
+        m_source->audioStream = 0;
+        m_node = MakeCom<Node>("node");
+        m_node->Offer<INLETimelineSource>(m_source);
+        m_picture = MakeCom<Picture>("picture");
+        m_frame = MakeCom<VideoFrame>("frame");
+        m_picture->image = m_frame->image = Filled({8, 6}, kRed);
+        m_frame->validRect = {0, 1, 8, 4};
 
-        script.results["source.GetMediaInfo"] = info;
-        script.results["node.GetProperties"] = MakeCom<Properties>("bag");
-        script.results["node.Clone"] = MakeCom<Node>("clone");
-        script.results["factory.CreateThumbnailExtractor"] = MakeCom<ThumbnailExtractor>("thumbs");
-        script.results["thumbs.Extract"] = picture;
-        script.results["factory.CreateVideoFrame"] = frame;
-        script.results["factory.CreateFrameExtractor"] = MakeCom<FrameExtractor>("frames");
+        m_script.results["source.GetMediaInfo"] = m_info;
+        m_script.results["node.GetProperties"] = MakeCom<Properties>("bag");
+        m_script.results["node.Clone"] = MakeCom<Node>("clone");
+        m_script.results["factory.CreateThumbnailExtractor"] =
+            MakeCom<ThumbnailExtractor>("thumbs");
+        m_script.results["thumbs.Extract"] = m_picture;
+        m_script.results["factory.CreateVideoFrame"] = m_frame;
+        m_script.results["factory.CreateFrameExtractor"] = MakeCom<FrameExtractor>("frames");
     }
 
     void cleanup()
     {
         EndSession();
-        QCOMPARE(References(node.get()), 1u);
-        node.reset();
-        source.reset();
-        info.reset();
-        picture.reset();
-        frame.reset();
-        QCOMPARE(script.liveObjects, QStringList());
+        QCOMPARE(References(m_node.get()), 1u);
+        m_node.reset();
+        m_source.reset();
+        m_info.reset();
+        m_picture.reset();
+        m_frame.reset();
+        QCOMPARE(m_script.liveObjects, QStringList());
     }
 
     void referencesBalance()
     {
-        auto timeline = std::make_unique<NLETimeline>(node, ExactType_Video, nullptr);
+        auto timeline = std::make_unique<NLETimeline>(m_node, ExactType_Video, nullptr);
         INLETimeline* base = nullptr;
         timeline->GetTimelineBase(&base);
-        QCOMPARE(base, node.get());
-        QCOMPARE(References(node.get()), 2u);
-        QCOMPARE(timeline->GetSrc().get(), node.get());
-        timeline->SetTimelineBase(node);
-        QCOMPARE(References(node.get()), 2u);
+        QCOMPARE(base, m_node.get());
+        QCOMPARE(References(m_node.get()), 2u);
+        QCOMPARE(timeline->GetSrc().get(), m_node.get());
+        timeline->SetTimelineBase(m_node);
+        QCOMPARE(References(m_node.get()), 2u);
         ULONG atSignal = 0;
         connect(timeline.get(), &NLETimeline::sigBeforeDelete,
-                [&] { atSignal = References(node.get()); });
+                [&] { atSignal = References(m_node.get()); });
         timeline.reset();
         QCOMPARE(atSignal, 2u);
-        QCOMPARE(References(node.get()), 1u);
-        QCOMPARE(script.TakeCalls().filter("GetProperties").size(), 2);
+        QCOMPARE(References(m_node.get()), 1u);
+        QCOMPARE(m_script.TakeCalls().filter("GetProperties").size(), 2);
     }
 
     void anotherNodeTakesThePlace()
     {
-        NLETimeline replaced(node, ExactType_Video, nullptr);
+        NLETimeline replaced(m_node, ExactType_Video, nullptr);
         QCOMPARE(Text(replaced.GetPropW().get()), "bag");
         const auto other = MakeCom<Node>("other");
         replaced.SetTimelineBase(other);
         QCOMPARE(replaced.GetSrc().get(), other.get());
-        QCOMPARE(References(node.get()), 1u);
+        QCOMPARE(References(m_node.get()), 1u);
         QVERIFY2(!replaced.GetPropW(), "the other node has no bag");
-        QCOMPARE(script.TakeCalls().filter("GetProperties").join(' ').remove(".GetProperties()"),
+        QCOMPARE(m_script.TakeCalls().filter("GetProperties").join(' ').remove(".GetProperties()"),
                  "node other"); // asked once for each node that is set
     }
 
     void cloneKeepsTheType()
     {
         QObject parent;
-        const auto* timeline = new NLETimeline(node, ExactType_Text, &parent);
+        const auto* timeline = new NLETimeline(m_node, ExactType_Text, &parent);
         const std::unique_ptr<NLETimeline> clone(timeline->Clone());
-        QVERIFY(script.TakeCalls().contains("node.Clone(true)"));
+        QVERIFY(m_script.TakeCalls().contains("node.Clone(true)"));
         QCOMPARE(Text(clone->GetSrc().get()), "clone");
         QCOMPARE(clone->GetExactType(), ExactType_Text);
         QVERIFY(!clone->parent());
-        script.statuses["node.Clone"] = E_FAIL;
+        m_script.statuses["node.Clone"] = E_FAIL;
         QVERIFY(!timeline->Clone());
     }
 
@@ -165,8 +166,8 @@ private Q_SLOTS:
     {
         for (const char* operation :
              {"source.GetVideoStreamIndex", "source.GetMediaInfo", "info.GetStream"})
-            script.statuses[operation] = S_FALSE; // any positive status is a success
-        NLETimeline timeline(node, ExactType_Video, nullptr);
+            m_script.statuses[operation] = S_FALSE; // any positive status is a success
+        NLETimeline timeline(m_node, ExactType_Video, nullptr);
         QCOMPARE(timeline.GetFilePath(), "/ü.mov");
         QCOMPARE(timeline.GetSourceSize(), QSizeF(64, 48));
         unsigned int count = 0;
@@ -181,9 +182,9 @@ private Q_SLOTS:
 
     void imageHasNoSound()
     {
-        info->kind = NLEMedia_Image;
-        info->streams.removeFirst();
-        NLETimeline timeline(node, ExactType_Video, nullptr);
+        m_info->kind = NLEMedia_Image;
+        m_info->streams.removeFirst();
+        NLETimeline timeline(m_node, ExactType_Video, nullptr);
         QVERIFY(timeline.HaveVideo());
         QVERIFY(!timeline.HaveAudio());
         QVERIFY(timeline.IsImage());
@@ -191,8 +192,8 @@ private Q_SLOTS:
 
     void longPathIsCutToItsBuffer()
     {
-        source->filePath = QString(600, 'x');
-        NLETimeline timeline(node, ExactType_Video, nullptr);
+        m_source->filePath = QString(600, 'x');
+        NLETimeline timeline(m_node, ExactType_Video, nullptr);
         QCOMPARE(timeline.GetFilePath(), QString(511, 'x'));
     }
 
@@ -216,8 +217,8 @@ private Q_SLOTS:
     void sourceFactsThatFail()
     {
         QFETCH(QString, failing);
-        script.statuses[failing] = E_FAIL;
-        NLETimeline timeline(node, ExactType_Video, nullptr);
+        m_script.statuses[failing] = E_FAIL;
+        NLETimeline timeline(m_node, ExactType_Video, nullptr);
         QTEST(timeline.GetSourceSize(), "size");
         QTEST(timeline.GetSourceFramerate(), "rate");
         tagNLEProjectProfile p{{1, 2}, {3, 4}, 5, 6, 7};
@@ -229,13 +230,13 @@ private Q_SLOTS:
 
     void relink()
     {
-        node->Offer<INLEMediaRelink>(MakeCom<MediaRelink>("media"));
-        NLETimeline timeline(node, ExactType_Video, nullptr);
-        script.statuses["media.Relink"] = S_FALSE; // a success
+        m_node->Offer<INLEMediaRelink>(MakeCom<MediaRelink>("media"));
+        NLETimeline timeline(m_node, ExactType_Video, nullptr);
+        m_script.statuses["media.Relink"] = S_FALSE; // a success
         QVERIFY(timeline.Relink("/ü"));
-        script.statuses["media.Relink"] = E_FAIL;
+        m_script.statuses["media.Relink"] = E_FAIL;
         QVERIFY(!timeline.Relink("/"));
-        QCOMPARE(script.TakeCalls().filter("media."),
+        QCOMPARE(m_script.TakeCalls().filter("media."),
                  QStringList({"media.Relink(/ü, 0)", "media.Reload()", "media.Relink(/, 0)"}));
     }
 
@@ -266,14 +267,14 @@ private Q_SLOTS:
         QFETCH(QString, failing);
         QFETCH(bool, clone);
         const bool works = failing.isEmpty();
-        script.statuses[failing] = E_FAIL;
+        m_script.statuses[failing] = E_FAIL;
         LogCapture log;
-        NLETimeline timeline(node, ExactType_Video, nullptr);
+        NLETimeline timeline(m_node, ExactType_Video, nullptr);
         const QImage image =
             timeline.GetThumbnailFromMediaInfo(9, size.width(), size.height(), clone, true);
-        QCOMPARE(image, works ? Filled(size, Red) : QImage());
+        QCOMPARE(image, works ? Filled(size, kRed) : QImage());
         QCOMPARE(image.format(), works ? QImage::Format_ARGB32 : QImage::Format_Invalid);
-        QTEST(script.TakeCalls().filter("thumbs.").join(' ').remove("thumbs."), "calls");
+        QTEST(m_script.TakeCalls().filter("thumbs.").join(' ').remove("thumbs."), "calls");
         const QString line = "-WARN- [LogFailInfo]:  Extract Thumbnail failed: /ü.mov - "
                              "[CommonLib/NLEWraper/NLETimeline(512)]";
         QCOMPARE(log.Take(), works ? QStringList() : QStringList(line));
@@ -281,14 +282,14 @@ private Q_SLOTS:
 
     void thumbnailOwnsItsPixels()
     {
-        NLETimeline timeline(node, ExactType_Video, nullptr);
+        NLETimeline timeline(m_node, ExactType_Video, nullptr);
         const QImage thumbnail = timeline.GetThumbnailFromMediaInfo(0, 8, 6, false, false);
         const QImage rendered = timeline.GetThumbnailFromStream(0, 8, 6, false, false);
-        for (QImage* pixels : {&picture->image, &frame->image})
+        for (QImage* pixels : {&m_picture->image, &m_frame->image})
             memset(const_cast<uchar*>(pixels->constBits()), 0, size_t(pixels->sizeInBytes()));
-        QCOMPARE(thumbnail, Filled({8, 6}, Red));
-        QCOMPARE(rendered, Filled({8, 4}, Red));
-        QVERIFY(script.TakeCalls().filter("Finish").isEmpty());
+        QCOMPARE(thumbnail, Filled({8, 6}, kRed));
+        QCOMPARE(rendered, Filled({8, 4}, kRed));
+        QVERIFY(m_script.TakeCalls().filter("Finish").isEmpty());
     }
 
     void streamThumbnail_data()
@@ -311,16 +312,16 @@ private Q_SLOTS:
         QFETCH(QString, failing);
         QFETCH(QRect, valid);
         QFETCH(QSize, size);
-        script.statuses[failing] = E_FAIL;
-        frame->validRect = {valid.x(), valid.y(), valid.width(), valid.height()};
-        frame->image.setPixel(5, 4, 0xFF00FF00);
+        m_script.statuses[failing] = E_FAIL;
+        m_frame->validRect = {valid.x(), valid.y(), valid.width(), valid.height()};
+        m_frame->image.setPixel(5, 4, 0xFF00FF00);
         LogCapture log;
-        NLETimeline timeline(node, ExactType_Video, nullptr);
+        NLETimeline timeline(m_node, ExactType_Video, nullptr);
         const QImage image = timeline.GetThumbnailFromStream(9, 8, 6, true, true);
         QCOMPARE(image, size.isEmpty() ? Filled({8, 6}, 0)
-                                       : frame->image.copy(QRect(valid.topLeft(), size)));
+                                       : m_frame->image.copy(QRect(valid.topLeft(), size)));
         if (!size.isEmpty())
-            QCOMPARE(script.TakeCalls().filter("frames.").join(' ').remove("frames."),
+            QCOMPARE(m_script.TakeCalls().filter("frames.").join(' ').remove("frames."),
                      "Open(clone, 1) Extract(9, frame) Finish()");
         QVERIFY(timeline.GetThumbnailFromStream(9, 0, -6, false, false).isNull());
         QCOMPARE(log.Take(), QStringList());

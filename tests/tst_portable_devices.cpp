@@ -102,7 +102,7 @@ private slots:
         PutTree();
         const Device device(FolderId("card"));
         QCOMPARE(device.result, S_OK);
-        const QMap<QString, Object> tree = device.tree();
+        const QMap<QString, Object> tree = device.Tree();
         QCOMPARE(tree.keys(),
                  QStringList({"card", "card/DCIM/", "card/DCIM/100/", "card/DCIM/100/clip.mp4",
                               "card/b\ufffd.jpg", "card/large"}));
@@ -114,10 +114,10 @@ private slots:
     void identifierOutlivesTheSession()
     {
         PutTree();
-        const auto tree = Device(FolderId("card")).tree();
+        const auto tree = Device(FolderId("card")).Tree();
         const Device again(FolderId("card"));
         Object clip;
-        QCOMPARE(again.describe(tree["card/DCIM/100/clip.mp4"].id.toStdWString(), clip), S_OK);
+        QCOMPARE(again.Describe(tree["card/DCIM/100/clip.mp4"].id.toStdWString(), clip), S_OK);
         QCOMPARE(clip.size, quint64(3000000));
         QCOMPARE(clip.parent, tree["card/DCIM/100/"].id);
     }
@@ -134,15 +134,15 @@ private slots:
         QFETCH(QString, path);
         PutTree();
         const Device device(FolderId("card"));
-        const Object object = device.tree()[path];
+        const Object object = device.Tree()[path];
         quint64 total = 0;
         QByteArray hash;
-        QCOMPARE(device.read(object.id, hash, total), S_FALSE);
+        QCOMPARE(device.Read(object.id, hash, total), S_FALSE);
         QCOMPARE(total, object.size);
         if (total > 0)
             QCOMPARE(hash, Hash(path));
-        QCOMPARE(device.remove(object.id), S_OK);
-        QVERIFY(!device.tree().contains(path));
+        QCOMPARE(device.Remove(object.id), S_OK);
+        QVERIFY(!device.Tree().contains(path));
         QVERIFY(!QFile::exists(Path(path)));
     }
 
@@ -151,7 +151,7 @@ private slots:
         PutTree();
         const Device device(FolderId("card"));
         NLEComPtr<IStream> stream;
-        QCOMPARE(device.open(device.tree()["card/large"].id, stream), S_OK);
+        QCOMPARE(device.Open(device.Tree()["card/large"].id, stream), S_OK);
         QCOMPARE(stream->Seek({kLarge - 1}, 0, nullptr), S_OK);
         char data[8] = {};
         ULONG count = 0;
@@ -167,7 +167,7 @@ private slots:
             QVERIFY(QFile(Path("card/many/") + QString::number(i)).open(QIODevice::WriteOnly));
         const Device device(FolderId("card"));
         int count = 0;
-        QCOMPARE(device.walk(L"DEVICE", [&count](const Object&) { ++count; }), S_OK);
+        QCOMPARE(device.Walk(L"DEVICE", [&count](const Object&) { ++count; }), S_OK);
         QCOMPARE(count, 20003);
     }
 
@@ -191,11 +191,11 @@ private slots:
         Write("card/clip", 20 << 20);
         const Device device(FolderId("card"));
         const auto listener = MakeCom<Listener>();
-        listener->advise(device);
-        const QString id = device.tree()["card/clip"].id;
+        listener->Advise(device);
+        const QString id = device.Tree()["card/clip"].id;
         quint64 read = 0;
         QByteArray hash;
-        const HRESULT result = device.read(id, hash, read, [&](quint64 sofar) {
+        const HRESULT result = device.Read(id, hash, read, [&](quint64 sofar) {
             if (sofar != 2 << 20)
                 return true;
             QFile file(Path("card/clip"));
@@ -219,7 +219,7 @@ private slots:
         QTRY_COMPARE(listener->removals.load(), isGone ? 1 : 0);
         // Cancel ends what was under way, and nothing else.
         Object object;
-        const HRESULT after = device.describe(id.toStdWString(), object);
+        const HRESULT after = device.Describe(id.toStdWString(), object);
         QCOMPARE(after, isGone ? kDeviceGone : change == "delete" ? kNotFound : S_OK);
     }
 
@@ -239,7 +239,7 @@ private slots:
         QVERIFY(QFile::link(Path("card/b\u00fc.mp4"), Path("soft")));
         QCOMPARE(::link(path.constData(), QFile::encodeName(Path("hard")).constData()), 0);
         const QByteArray hash = Hash("card/b\u00fc.mp4");
-        const QString id = Device(FolderId("card")).tree()["card/b\u00fc.mp4"].id;
+        const QString id = Device(FolderId("card")).Tree()["card/b\u00fc.mp4"].id;
         QCOMPARE(WpdApiLib::ChooseDevice(FolderId("card").toStdWString().c_str(), nullptr), 1);
         const auto copy = [&id](const QString& to) {
             return WpdApiLib::TransferContentFromDevice(id.toStdWString().c_str(),
@@ -257,8 +257,8 @@ private slots:
         Device device(FolderId("card"));
         const auto kept = MakeCom<Listener>();
         const auto ended = MakeCom<Listener>();
-        QVERIFY(!kept->advise(device).isEmpty());
-        const QString cookie = ended->advise(device);
+        QVERIFY(!kept->Advise(device).isEmpty());
+        const QString cookie = ended->Advise(device);
         QCOMPARE(device.device->Unadvise(cookie.toStdWString().c_str()), S_OK);
         QVERIFY(QDir(Path("card")).removeRecursively());
         QTRY_COMPARE(kept->removals.load(), 1);
@@ -267,30 +267,30 @@ private slots:
         QTest::qWait(700); // longer than the service looks again
         QCOMPARE(kept->removals.load(), 1);
         QCOMPARE(ended->removals.load(), 0);
-        QVERIFY(ended->advise(device).isEmpty());
+        QVERIFY(ended->Advise(device).isEmpty());
     }
 
     void deleteRefused()
     {
         Write("card/folder/file", 1);
         const Device device(FolderId("card"));
-        const auto tree = device.tree();
-        QCOMPARE(device.remove(tree["card/folder/"].id), kNotEmpty);
-        QCOMPARE(device.remove(tree["card"].id), E_ACCESSDENIED);
-        QCOMPARE(device.remove("../../file"), kNotFound);
+        const auto tree = device.Tree();
+        QCOMPARE(device.Remove(tree["card/folder/"].id), kNotEmpty);
+        QCOMPARE(device.Remove(tree["card"].id), E_ACCESSDENIED);
+        QCOMPARE(device.Remove("../../file"), kNotFound);
     }
 
     void identifierIsNotOfAnotherFileAtThePath()
     {
         Write("card/file", 1);
         const Device device(FolderId("card"));
-        const QString id = device.tree()["card/file"].id;
+        const QString id = device.Tree()["card/file"].id;
         QVERIFY(QFile::rename(Path("card/file"), Path("card/old")));
         Write("card/file", 1);
-        QCOMPARE(device.remove(id), kNotFound);
+        QCOMPARE(device.Remove(id), kNotFound);
         quint64 total = 0;
         QByteArray hash;
-        QCOMPARE(device.read(id, hash, total), kNotFound);
+        QCOMPARE(device.Read(id, hash, total), kNotFound);
     }
 
     void fileHasNoThumbnail()
@@ -298,7 +298,7 @@ private slots:
         Write("card/file", 1);
         const Device device(FolderId("card"));
         NLEComPtr<IStream> stream;
-        QCOMPARE(device.open(device.tree()["card/file"].id, stream, Wpd::WPD_RESOURCE_THUMBNAIL),
+        QCOMPARE(device.Open(device.Tree()["card/file"].id, stream, Wpd::WPD_RESOURCE_THUMBNAIL),
                  kNoElement);
     }
 
@@ -306,9 +306,9 @@ private slots:
     {
         Write("card/file", 1);
         const Device device(FolderId("card"));
-        const QString id = device.tree()["card/file"].id;
+        const QString id = device.Tree()["card/file"].id;
         QCOMPARE(device.device->Close(), S_OK);
-        QCOMPARE(device.remove(id), kNotOpen);
+        QCOMPARE(device.Remove(id), kNotOpen);
         QVERIFY(QFile::exists(Path("card/file")));
     }
 
@@ -376,7 +376,7 @@ private slots:
         QFETCH(const Call, call);
         Write("card/file", 100);
         const Device device(FolderId("card"));
-        const std::wstring id = device.tree()["card/file"].id.toStdWString();
+        const std::wstring id = device.Tree()["card/file"].id.toStdWString();
         QVERIFY(SUCCEEDED(call(device, id.c_str()))); // the client has the module from now on
         bool ranOut = true;
         int failures = 0;

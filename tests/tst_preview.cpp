@@ -97,8 +97,8 @@ private:
     std::vector<std::thread> m_threads;
 };
 
-const QString StopLog = "StopRender %1|FPreViewRenderHelper StopRender exec start|"
-                        "StopRender %2|FPreViewRenderHelper StopRender exec end";
+const QString kStopLog = "StopRender %1|FPreViewRenderHelper StopRender exec start|"
+                         "StopRender %2|FPreViewRenderHelper StopRender exec end";
 
 } // namespace
 
@@ -110,18 +110,18 @@ class tst_Preview : public QObject
     Q_OBJECT
 
 private:
-    Script& script = Script::Get();
-    NLEComPtr<Node> node;
-    NLEComPtr<Composite> composite;
-    NLEComPtr<Cache> cache;
-    std::unique_ptr<NLETimeline> timeline;
-    std::unique_ptr<QTemporaryDir> folder;
-    std::unique_ptr<LogCapture> log;
+    Script& m_script = Script::Get();
+    NLEComPtr<Node> m_node;
+    NLEComPtr<Composite> m_composite;
+    NLEComPtr<Cache> m_cache;
+    std::unique_ptr<NLETimeline> m_timeline;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<LogCapture> m_log;
 
     Helper* Make()
     {
-        timeline = std::make_unique<NLETimeline>(node, ExactType_Project, nullptr);
-        return timeline->GetPreViewRenderHelper();
+        m_timeline = std::make_unique<NLETimeline>(m_node, ExactType_Project, nullptr);
+        return m_timeline->GetPreViewRenderHelper();
     }
     /// How a slot ends the helper.
     enum Way
@@ -135,7 +135,7 @@ private:
     Helper* MakeCaching()
     {
         Helper* helper = Make();
-        helper->SetCacheDirectory(folder->path());
+        helper->SetCacheDirectory(m_folder->path());
         helper->StartRender();
         return helper;
     }
@@ -144,23 +144,23 @@ private:
     {
         Helper* helper = MakeCaching();
         helper->SetCachingState(Helper::Finished);
-        cache->segments = {{NLERange{0, 9}, 1, 10},
-                           {NLERange{10, 19}, 2, 14},
-                           {NLERange{20, 29}, 0, 20},
-                           {NLERange{30, 39}, 1, 30}};
+        m_cache->segments = {{NLERange{0, 9}, 1, 10},
+                             {NLERange{10, 19}, 2, 14},
+                             {NLERange{20, 29}, 0, 20},
+                             {NLERange{30, 39}, 1, 30}};
         return helper;
     }
     static QTimer* Countdown(Helper* helper) { return helper->findChild<QTimer*>(); }
     QStringList Calls(const char* operation)
     {
-        return script.TakeCalls().filter(QString("cache.%1(").arg(operation));
+        return m_script.TakeCalls().filter(QString("cache.%1(").arg(operation));
     }
     /// The messages since the last time.
     QStringList Log()
     {
-        QStringList lines = log->Take();
-        log.reset(); // which ends the log of the process
-        log = std::make_unique<LogCapture>();
+        QStringList lines = m_log->Take();
+        m_log.reset(); // which ends the log of the process
+        m_log = std::make_unique<LogCapture>();
         static const QRegularExpression message(QStringLiteral("^.*\\]:  (.*) - \\[.*$"));
         return lines.replaceInStrings(message, QStringLiteral("\\1"));
     }
@@ -168,28 +168,28 @@ private:
 private Q_SLOTS:
     void init()
     {
-        folder = std::make_unique<QTemporaryDir>();
-        log = std::make_unique<LogCapture>();
-        node = MakeCom<Node>("node");
-        composite = MakeCom<Composite>("composite");
-        composite->clips = {node};
-        cache = MakeCom<Cache>("cache");
-        cache->onStop = [this] { cache->Report(9, Helper::StoppedByUser); };
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_log = std::make_unique<LogCapture>();
+        m_node = MakeCom<Node>("node");
+        m_composite = MakeCom<Composite>("composite");
+        m_composite->clips = {m_node};
+        m_cache = MakeCom<Cache>("cache");
+        m_cache->onStop = [this] { m_cache->Report(9, Helper::StoppedByUser); };
         auto setting = MakeCom<ProjectSetting>("setting");
         setting->profile.frameSize = {1081, 1921};
-        node->Offer<INLETimelineComposite>(composite);
-        node->Offer<INLEProjectSetting>(setting);
-        node->Offer<INLEBackgroundCache>(cache);
+        m_node->Offer<INLETimelineComposite>(m_composite);
+        m_node->Offer<INLEProjectSetting>(setting);
+        m_node->Offer<INLEBackgroundCache>(m_cache);
     }
 
     void cleanup()
     {
-        timeline.reset();
-        log.reset();
-        composite->clips.clear();
-        composite.reset();
-        node.reset();
-        cache.reset();
+        m_timeline.reset();
+        m_log.reset();
+        m_composite->clips.clear();
+        m_composite.reset();
+        m_node.reset();
+        m_cache.reset();
         QCOMPARE(EndSession(), QStringList());
     }
 
@@ -217,7 +217,7 @@ private Q_SLOTS:
         QFETCH(float, ratio);
         QFETCH(QSize, cached);
         Helper* helper = Make();
-        helper->SetCacheDirectory(folder->path());
+        helper->SetCacheDirectory(m_folder->path());
         Log();
         helper->SetCacheSize(size, ratio);
         QCOMPARE(Log(), QStringList(QString("cacth width:%1,cacth height:%2")
@@ -247,7 +247,7 @@ private Q_SLOTS:
         QFETCH(HRESULT, status);
         QFETCH(QList<long>, states);
         Helper* helper = Make();
-        helper->SetCacheDirectory(folder->filePath("a/b"));
+        helper->SetCacheDirectory(m_folder->filePath("a/b"));
         QTest::qWait(100);
         QCOMPARE(Calls("SetUpdateCallback").size(), 2); // the other for the size
         QList<long> seen;
@@ -255,9 +255,9 @@ private Q_SLOTS:
         connect(helper, &Helper::sigRenderStateChange, &context, [&](long s) { seen += s; });
         connect(helper, &Helper::sigRenderStateChangeInternal, &context,
                 [&](long s) { QCOMPARE(s, seen.last()); });
-        script.statuses["cache.Start"] = status;
+        m_script.statuses["cache.Start"] = status;
         helper->StartRender();
-        QVERIFY(QDir(folder->filePath("a/b")).exists());
+        QVERIFY(QDir(m_folder->filePath("a/b")).exists());
         QCOMPARE(seen, states);
         helper->StartRender();
         QTEST(Calls("Start").size(), "startsOfTwo");
@@ -268,7 +268,7 @@ private Q_SLOTS:
 
     void projectWithoutClipsDoesNotStart()
     {
-        composite->clips.clear();
+        m_composite->clips.clear();
         Helper* helper = MakeCaching();
         QCOMPARE(Calls("Start"), QStringList());
         QVERIFY(!helper->IsCaching());
@@ -281,7 +281,7 @@ private Q_SLOTS:
         QVERIFY(helper->SetCacheDirectory(QString())); // of which the free space is not known
         QCOMPARE(Calls("SetCacheFolder").join('|'), "cache.SetCacheFolder(, 102400, 2048)");
         QCOMPARE(Log().value(0), "folderSize:102400 forder:");
-        const QString path = folder->filePath(QString::fromUtf8("Ü日"));
+        const QString path = m_folder->filePath(QString::fromUtf8("Ü日"));
         helper->SetCacheDirectory(path);
         const QString line = Log().value(0);
         QVERIFY2(line.endsWith(" forder:" + path.left(1)), qPrintable(line));
@@ -290,8 +290,8 @@ private Q_SLOTS:
     void fileInPlaceOfTheFolder()
     {
         Helper* helper = Make();
-        QFile(folder->filePath("file")).open(QIODevice::WriteOnly);
-        helper->SetCacheDirectory(folder->filePath("file/in"));
+        QFile(m_folder->filePath("file")).open(QIODevice::WriteOnly);
+        helper->SetCacheDirectory(m_folder->filePath("file/in"));
         Log();
         helper->StartRender();
         QVERIFY(helper->IsFolderUnWriteable());
@@ -301,13 +301,13 @@ private Q_SLOTS:
     void refusedFolderKeepsTheOldOne()
     {
         Helper* helper = Make();
-        helper->SetCacheDirectory(folder->path());
+        helper->SetCacheDirectory(m_folder->path());
         helper->SetCachingState(Helper::FolderUnwriteable);
         Log();
-        script.statuses["cache.SetCacheFolder"] = E_FAIL;
+        m_script.statuses["cache.SetCacheFolder"] = E_FAIL;
         QVERIFY(!helper->SetCacheDirectory("x"));
-        QCOMPARE(helper->GetCacheDirectory(), folder->path());
-        QCOMPARE(Log().value(1), "SetCacheDirectory:false,dir:" + folder->path());
+        QCOMPARE(helper->GetCacheDirectory(), m_folder->path());
+        QCOMPARE(Log().value(1), "SetCacheDirectory:false,dir:" + m_folder->path());
         QVERIFY(!helper->IsFolderUnWriteable());
     }
 
@@ -321,10 +321,10 @@ private Q_SLOTS:
                 [&](long progress, long cached, long total) {
                     seen += {progress, cached, total};
                 });
-        cache->Report(50, Helper::Caching, 4);
-        cache->Report(99, Helper::LowDisk, 7);
-        cache->Report(100, Helper::Caching, 8);
-        cache->render(100, 0, 0, 0, nullptr);
+        m_cache->Report(50, Helper::Caching, 4);
+        m_cache->Report(99, Helper::LowDisk, 7);
+        m_cache->Report(100, Helper::Caching, 8);
+        m_cache->render(100, 0, 0, 0, nullptr);
         QCOMPARE(seen, QList<QList<long>>()); // only queued
         QCoreApplication::processEvents();
         QCOMPARE(seen,
@@ -357,7 +357,7 @@ private Q_SLOTS:
         Ranges needed;
         helper->GetRenderProgress(cached, needed);
         QVERIFY(helper->IsNeedRender());
-        cache->segments = {{NLERange{0, 9}, 1, 10}};
+        m_cache->segments = {{NLERange{0, 9}, 1, 10}};
         Ranges none;
         helper->GetRenderProgress(cached, none);
         QCOMPARE(none, Ranges());
@@ -397,8 +397,8 @@ private Q_SLOTS:
     void unreadableSegment()
     {
         Helper* helper = MakeCaching();
-        cache->segments = {2, {NLERange{0, 9}, 1, 10}};
-        cache->unreadable = 1;
+        m_cache->segments = {2, {NLERange{0, 9}, 1, 10}};
+        m_cache->unreadable = 1;
         Ranges cached;
         Ranges needed;
         helper->GetRenderProgress(cached, needed);
@@ -410,9 +410,9 @@ private Q_SLOTS:
     {
         Helper* helper = MakeCaching();
         helper->doDelayedUpdate(0);
-        timeline.reset(); // with an update due
+        m_timeline.reset(); // with an update due
         QVERIFY(!Helper::CheckAnsyUpdateUserData(helper));
-        cache->Report(50, Helper::Caching);
+        m_cache->Report(50, Helper::Caching);
         QCoreApplication::processEvents();
     }
 
@@ -423,7 +423,7 @@ private Q_SLOTS:
         helper->SetAutoRenderEnable(true, 5);
         Countdown(helper)->stop();
         helper->StopRenderSync();
-        QCOMPARE(Log().join('|'), StopLog.arg("succeed", "StopByUser"));
+        QCOMPARE(Log().join('|'), kStopLog.arg("succeed", "StopByUser"));
         QVERIFY(Countdown(helper)->isActive());
         helper->StopRenderSync();
         QCOMPARE(Calls("Stop").size(), 1);
@@ -434,14 +434,14 @@ private Q_SLOTS:
     {
         Helper* helper = MakeCaching();
         Log();
-        script.statuses["cache.Stop"] = E_FAIL;
-        cache->onStop = [] {};
+        m_script.statuses["cache.Stop"] = E_FAIL;
+        m_cache->onStop = [] {};
         QElapsedTimer timer;
         timer.start();
         helper->StopRenderSync();
         QVERIFY(timer.elapsed() >= 30000); // as long as it waits
         QVERIFY(helper->IsCaching());
-        QCOMPARE(Log().join('|'), StopLog.arg("failed", "timeOut"));
+        QCOMPARE(Log().join('|'), kStopLog.arg("failed", "timeOut"));
         helper->SetCachingState(Helper::Idle);
     }
 
@@ -450,7 +450,7 @@ private Q_SLOTS:
         Helper* helper = Make();
         for (int call = 0; call < 3; ++call)
             helper->Update(); // the size has asked already
-        QTRY_VERIFY(cache->update);
+        QTRY_VERIFY(m_cache->update);
         QTest::qWait(100);
         QCOMPARE(Calls("SetUpdateCallback").size(), 1);
     }
@@ -459,10 +459,10 @@ private Q_SLOTS:
     {
         Helper* helper = Make();
         QSignalSpy progress(helper, &Helper::sigRenderProgressInfo);
-        QTRY_VERIFY(cache->update);
+        QTRY_VERIFY(m_cache->update);
         QVERIFY(Helper::CheckAnsyUpdateUserData(helper));
         int answer = 0;
-        std::thread([&] { answer = cache->update(nullptr, 1, 2, 3, 4, helper); }).join();
+        std::thread([&] { answer = m_cache->update(nullptr, 1, 2, 3, 4, helper); }).join();
         QCOMPARE(answer, 1);
         QCOMPARE(progress.size(), 0);
         QTRY_COMPARE(progress.size(), 1);
@@ -483,32 +483,32 @@ private Q_SLOTS:
     void qualityAsksForAnUpdate()
     {
         Helper* helper = Make();
-        QTRY_VERIFY(cache->update);
-        script.TakeCalls();
+        QTRY_VERIFY(m_cache->update);
+        m_script.TakeCalls();
         helper->SetTimelineQuality(0.75);
-        QCOMPARE(script.TakeCalls().join(' '),
+        QCOMPARE(m_script.TakeCalls().join(' '),
                  "cache.SetQuality(750000/1000000) cache.SetUpdateCallback(true)");
     }
 
     void clearedUpdatesAreNotTold()
     {
         Helper* helper = Make();
-        QTRY_VERIFY(cache->update);
+        QTRY_VERIFY(m_cache->update);
         Calls("");
         Log();
         helper->ClearUpdateCallBack(true);
         helper->doDelayedUpdate(0);
-        QTRY_VERIFY(!cache->update);
+        QTRY_VERIFY(!m_cache->update);
         QCOMPARE(Calls("SetUpdateCallback"), QStringList("cache.SetUpdateCallback(false)"));
         QCOMPARE(Log(), QStringList("ClearUpdate......"));
-        timeline.reset();
+        m_timeline.reset();
         QVERIFY(!Helper::CheckAnsyUpdateUserData(helper));
     }
 
     void startsByItself()
     {
         Helper* helper = Make();
-        helper->SetCacheDirectory(folder->path());
+        helper->SetCacheDirectory(m_folder->path());
         QTimer* countdown = Countdown(helper);
         QSignalSpy progress(helper, &Helper::sigRenderProgressInfo);
         helper->SetAutoRenderEnable(true, 3000000);
@@ -517,7 +517,7 @@ private Q_SLOTS:
         QTRY_VERIFY(helper->IsCaching());
         helper->SetForceStopAutoStartRender(true);
         helper->UpdateSysc();
-        cache->Report(50, Helper::Caching);
+        m_cache->Report(50, Helper::Caching);
         QCoreApplication::processEvents();
         QVERIFY(!countdown->isActive());
         QCOMPARE(progress.size(), 0);
@@ -537,10 +537,10 @@ private Q_SLOTS:
     {
         Helper* helper = MakeCaching();
         Log();
-        script.statuses["cache.DeleteCache"] = E_FAIL;
+        m_script.statuses["cache.DeleteCache"] = E_FAIL;
         helper->SetAutoDeleteCaching(true);
         helper->SetCachingState(Helper::Idle);
-        timeline.reset();
+        m_timeline.reset();
         QCOMPARE(Calls("DeleteCache"), QStringList("cache.DeleteCache(true)"));
         const QStringList lines = Log();
         QVERIFY2(lines.contains("DelRenderCache:false"), qPrintable(lines.join('|')));
@@ -592,7 +592,7 @@ private Q_SLOTS:
         QFETCH(const long, state);
         QFETCH(const Operation, operate);
         QFETCH(const int, way);
-        cache->segments = {{NLERange{0, 9}, 1, 5}};
+        m_cache->segments = {{NLERange{0, 9}, 1, 5}};
         QPointer<Helper> helper;
         int ended = 0;
         const auto end = [&] {
@@ -600,7 +600,7 @@ private Q_SLOTS:
             if (way == Later)
                 helper->deleteLater();
             else if (way == WithItsWrapper)
-                timeline.reset();
+                m_timeline.reset();
             else
                 delete helper;
         };
@@ -611,10 +611,10 @@ private Q_SLOTS:
             in(&Helper::sigRenderStateChange), in(&Helper::sigRenderStateChangeInternal),
             in(&Helper::sigRenderProgressInfo), in(&Helper::sigRenderCatchDeleted)};
         for (const auto& connectEnd : signalsToEndIn) {
-            script.statuses.remove("cache.Start");
+            m_script.statuses.remove("cache.Start");
             helper = MakeCaching();
             helper->SetCachingState(state);
-            script.statuses["cache.Start"] = E_FAIL;
+            m_script.statuses["cache.Start"] = E_FAIL;
             QObject context;
             connectEnd(&context);
             const int before = ended;
@@ -622,8 +622,8 @@ private Q_SLOTS:
             QCoreApplication::processEvents();
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
             QVERIFY(ended == before || !helper);
-            if (timeline && !helper) // hands out no helper that is gone
-                QCOMPARE(timeline->GetPreViewRenderHelper()->GetCacheDirectory(), QString());
+            if (m_timeline && !helper) // hands out no helper that is gone
+                QCOMPARE(m_timeline->GetPreViewRenderHelper()->GetCacheDirectory(), QString());
         }
         QVERIFY(ended > 0);
     }

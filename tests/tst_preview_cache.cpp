@@ -78,7 +78,7 @@ class tst_PreviewCache : public QObject, private PreviewCacheFixture
     QString m_folder;
 
 private slots:
-    void initTestCase() { QCOMPARE(MakeMedia(m_media), QString()); }
+    void initTestCase() { QCOMPARE(MakeMedia(mMedia), QString()); }
     void init() { m_folder = Path(QTest::currentTestFunction()) + QTest::currentDataTag(); }
 
     void refusesBadArguments()
@@ -96,7 +96,7 @@ private slots:
     {
         const Timeline t = Make();
         Cache cache(t.project, m_folder);
-        QCOMPARE(cache.Limit(m_media + "/below", 1), S_OK);
+        QCOMPARE(cache.Limit(mMedia + "/below", 1), S_OK);
         QCOMPARE(cache.Start(), E_ACCESSDENIED);
     }
 
@@ -114,7 +114,7 @@ private slots:
 
     void mediaClipHasNoCache()
     {
-        const Node clip = Media(m_media);
+        const Node clip = Media(mMedia);
         void* out = nullptr;
         QCOMPARE(clip->GetInterface(INLEBackgroundCache::Iid, &out, 0, 0), E_NOINTERFACE);
     }
@@ -174,10 +174,10 @@ private slots:
     {
         // What was begun with one content of a file must not be found as that content.
         const Node project = Project();
-        Add(project, Trimmed(Media(m_media), 0, 49));
+        Add(project, Trimmed(Media(mMedia), 0, 49));
         Cache cache(project, m_folder);
         QCOMPARE(cache.Start({1920, 1080}), S_OK);
-        QFile file(m_media);
+        QFile file(mMedia);
         QVERIFY(file.open(QIODevice::ReadWrite));
         file.setFileTime(QDateTime::currentDateTime().addDays(-2), QFile::FileModificationTime);
         QCOMPARE(cache.End(), NLECache_Finished);
@@ -270,7 +270,7 @@ private slots:
     {
         QDir().mkpath(m_folder);
         for (const char* name : {"notes.txt", "short.nlechunk", "x.nlechunk.abcdef"})
-            QVERIFY(QFile::copy(m_media, m_folder + '/' + name));
+            QVERIFY(QFile::copy(mMedia, m_folder + '/' + name));
         const Timeline t = Make();
         const Node other = LongProject(1);
         Cache cache(t.project, m_folder);
@@ -440,7 +440,7 @@ private slots:
         QVERIFY(Save(LongProject(), document));
         const Node project = Project();
         for (int i = 0; i < 60; ++i) {
-            const Node clip = Media(m_media);
+            const Node clip = Media(mMedia);
             clip.query<INLEBlendSetting>()->SetAlpha(190 - i);
             Add(project, clip, 60 * i);
         }
@@ -463,7 +463,7 @@ private slots:
         QCOMPARE(cache.engine->DeleteCache(true), S_OK);
         QVERIFY(startOther(other, "1000"));
         const QString writing = m_folder + '/' + Files(m_folder, "*.nlechunk").front() + ".Ab12cd";
-        QVERIFY(QFile::copy(m_media, writing));
+        QVERIFY(QFile::copy(mMedia, writing));
         QCOMPARE(cache.engine->DeleteCache(true), S_OK);
         QVERIFY(QFile::exists(writing));
         other.kill();
@@ -566,18 +566,18 @@ private slots:
         const auto onUpdate = [](void*, long, long, long, long, void* last) {
             return static_cast<Last*>(last)->Release();
         };
-            Node project = LongProject(1);
-            Last last;
-            last.engine = Cache(project, m_folder).engine;
-            const auto update = [&] { return last.engine.query<INLEBackgroundCacheAsyncUpdate>(); };
-            QCOMPARE(isReport ? last.engine->Start(&kCacheSize, onReport, &last)
-                              : update()->SetUpdateCallback(onUpdate, &last),
-                     S_OK);
-            QTest::qWait(20); // the call is under way, and not dropped with the timeline
-            project.reset();
-            last.isLast.release();
-            QVERIFY(last.isReleased.tryAcquire(1, 60000));
-        }
+        Node project = LongProject(1);
+        Last last;
+        last.engine = Cache(project, m_folder).engine;
+        const auto update = [&] { return last.engine.query<INLEBackgroundCacheAsyncUpdate>(); };
+        QCOMPARE(isReport ? last.engine->Start(&kCacheSize, onReport, &last)
+                          : update()->SetUpdateCallback(onUpdate, &last),
+                 S_OK);
+        QTest::qWait(20); // the call is under way, and not dropped with the timeline
+        project.reset();
+        last.isLast.release();
+        QVERIFY(last.isReleased.tryAcquire(1, 60000));
+    }
 
     void releasedWhileRendering()
     {

@@ -29,7 +29,7 @@ class tst_PreviewCacheKeys : public QObject, private PreviewCacheFixture
 
     Kinds MakeKinds() const
     {
-        Kinds k{Project(), Trimmed(Media(m_media), 0, 9), Colour(Qt::red, QSize(64, 64)),
+        Kinds k{Project(), Trimmed(Media(mMedia), 0, 9), Colour(Qt::red, QSize(64, 64)),
                 provider->CreateTipTextTimeline("Hamburg", "DejaVu Sans"),
                 provider->CreateVirtualTimeline(0)};
         Add(k.nested, Trimmed(Colour(Qt::green, QSize(64, 64)), 0, 9));
@@ -63,7 +63,7 @@ class tst_PreviewCacheKeys : public QObject, private PreviewCacheFixture
 private slots:
     void initTestCase()
     {
-        QCOMPARE(MakeMedia(m_media), QString());
+        QCOMPARE(MakeMedia(mMedia), QString());
         QCOMPARE(MakeMedia(m_tall, {96, 160}), QString());
     }
     void init() { m_folder = Path(QTest::currentTestFunction()) + QTest::currentDataTag(); }
@@ -155,7 +155,7 @@ private slots:
         const Timeline t = Make();
         Cache cache(t.project, m_folder);
         QCOMPARE(cache.Render(), NLECache_Finished);
-        QFile file(m_media);
+        QFile file(mMedia);
         QVERIFY(file.open(QIODevice::ReadWrite));
         const QDateTime yesterday = QDateTime::currentDateTime().addDays(-1);
         QVERIFY(file.setFileTime(yesterday, QFile::FileModificationTime));

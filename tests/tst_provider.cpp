@@ -27,13 +27,13 @@ class tst_Provider : public QObject
     Q_OBJECT
 
 private:
-    Script& script = Script::Get();
+    Script& m_script = Script::Get();
 
     NLEComPtr<Node> NodeWith(const NLEComPtr<Properties>& bag)
     {
         auto node = MakeCom<Node>("node");
         node->Offer<INLEPropertyHost>(MakeCom<PropertyHost>("host"));
-        script.results["host.GetProperties"] = bag;
+        m_script.results["host.GetProperties"] = bag;
         return node;
     }
 
@@ -75,13 +75,13 @@ private Q_SLOTS:
         const QLibrary module(QCoreApplication::applicationDirPath() + "/NLECore.dll");
         QVERIFY(!module.isLoaded());
         LogCapture log;
-        script.statuses[failing] = E_FAIL;
+        m_script.statuses[failing] = E_FAIL;
         Provider();
         QVERIFY(module.isLoaded());
         const QStringList calls = {"module.DllGetClassObject()",
                                    "classFactory.CreateInstance(null)", "factory.Init(0)",
                                    "factory.GetTimelineFactory()"};
-        QCOMPARE(script.TakeCalls(), calls.mid(0, callCount));
+        QCOMPARE(m_script.TakeCalls(), calls.mid(0, callCount));
         const QStringList lines = log.Take();
         QCOMPARE(lines.isEmpty(), line.isEmpty());
         QVERIFY2(line.isEmpty() || lines.last().contains(line), qPrintable(lines.join('\n')));
@@ -105,7 +105,7 @@ private Q_SLOTS:
         QFETCH(_GUID, classId);
         QFETCH(_GUID, iid);
         QFETCH(QString, failing);
-        script.statuses[failing] = E_FAIL;
+        m_script.statuses[failing] = E_FAIL;
         void* out = QCoreApplication::instance(); // anything but null
         QVERIFY(!CVCreateInstance::Instance()->cvCreateInstance(classId, nullptr, 0, iid, &out));
         QCOMPARE(out, nullptr);
@@ -140,24 +140,24 @@ private Q_SLOTS:
         QFETCH(Operation, operation);
         const QString call = QTest::currentDataTag();
         QVERIFY2(!operation(Provider()), "without a result");
-        QCOMPARE(QDir::fromNativeSeparators(script.TakeCalls().last()), call);
+        QCOMPARE(QDir::fromNativeSeparators(m_script.TakeCalls().last()), call);
         auto result = MakeCom<Node>("result");
         result->Offer<INLEVideoFrame>(MakeCom<VideoFrame>("frame"));
-        script.results[call.section('(', 0, 0)] = result;
-        script.statuses[call.section('(', 0, 0)] = S_FALSE;
+        m_script.results[call.section('(', 0, 0)] = result;
+        m_script.statuses[call.section('(', 0, 0)] = S_FALSE;
         QVERIFY2(operation(Provider()), "a positive status is a success");
     }
 
     void missingFilesAreNotAskedFor()
     {
         Provider();
-        script.TakeCalls();
+        m_script.TakeCalls();
         QVERIFY(!Provider()->CreateMediaTimeline("/none", false));
         QVERIFY(!Provider()->CreateCodecFromFile("/none"));
         QVERIFY(!Provider()->CreateMarkBook("/none"));
         QVERIFY(!Provider()->CreateTimelineFromTemplate(QCoreApplication::applicationFilePath()));
         QVERIFY(!Provider()->CreateTimelineFromTemplate(""));
-        QCOMPARE(script.TakeCalls(), QStringList());
+        QCOMPARE(m_script.TakeCalls(), QStringList());
     }
 
     void frameRateIsAPropertyOfTheTimeline()

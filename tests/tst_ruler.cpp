@@ -32,7 +32,7 @@ const QColor kTick = Qt::red;
 const QColor kText = Qt::blue;
 
 // Set by the option --update-pictures: writes the reference pictures instead of comparing.
-bool updatePictures = false;
+bool s_updatePictures = false;
 
 // The default scale: zoom range, frames per large tick, its pixels at the range's start.
 struct Segment
@@ -337,7 +337,7 @@ class TestRuler : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QWidget> stage;
+    std::unique_ptr<QWidget> m_stage;
 
     static void AddScalesAndMargins()
     {
@@ -681,7 +681,7 @@ private slots:
             painter.drawImage(0, i * strip.height(), picture);
         }
         painter.end();
-        if (updatePictures)
+        if (s_updatePictures)
             QVERIFY(all.convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither).save(path));
         const QImage expected = QImage(path).convertToFormat(QImage::Format_RGB32);
         QCOMPARE(expected.size(), all.size());
@@ -986,10 +986,10 @@ private slots:
         const Make makers[] = {
             [] { return DoomedRuler(nullptr); },
             [this] {
-                stage = std::make_unique<QWidget>(); // mouse events go on to it
-                stage->resize(kWidth, kHeight);
-                stage->show();
-                return DoomedRuler(stage.get());
+                m_stage = std::make_unique<QWidget>(); // mouse events go on to it
+                m_stage->resize(kWidth, kHeight);
+                m_stage->show();
+                return DoomedRuler(m_stage.get());
             },
         };
         const auto on = [](const Setter& act) -> Step {
@@ -1268,7 +1268,7 @@ int main(int argc, char** argv)
     font.setHintingPreference(QFont::PreferNoHinting);
     QApplication::setFont(font);
     QStringList arguments = QCoreApplication::arguments();
-    updatePictures = arguments.removeAll("--update-pictures") > 0;
+    s_updatePictures = arguments.removeAll("--update-pictures") > 0;
     TestRuler test;
     return QTest::qExec(&test, arguments);
 }

@@ -24,14 +24,14 @@ class TestScreens : public QObject
 {
     Q_OBJECT
 
-    QStringList firstLines; // of the log, from where the ratio is found
+    QStringList m_firstLines; // of the log, from where the ratio is found
 
 private slots:
     void initTestCase()
     {
         LogCapture log;
         gGetDevicePixelRatio(nullptr);
-        firstLines = log.Take();
+        m_firstLines = log.Take();
     }
 
     void areaClasses_data()
@@ -320,7 +320,7 @@ private slots:
         const double last = FittingPixelRatio(fixed, size.width(), size.height(),
                                               [&](double r) { line(136, "ratio down to: %f", r); });
         line(149, "final fFixedRatio: %f", last);
-        QCOMPARE(firstLines, expected);
+        QCOMPARE(m_firstLines, expected);
     }
 };
 

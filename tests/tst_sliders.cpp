@@ -111,7 +111,7 @@ class TestSliders : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QWidget> stage;
+    std::unique_ptr<QWidget> m_stage;
 
     static void AddChunks()
     {
@@ -370,10 +370,10 @@ private slots:
         const Make seek = [] { return new ToolBarSlider(nullptr, Qt::Horizontal); };
         const Make zoom = [] { return new ScaleUnitSlider(nullptr); };
         const Make pure = [this] {
-            stage.reset(new QWidget); // mouse events go on to it
-            stage->resize(kLength, 20);
-            stage->show();
-            return new PureSlider(stage.get());
+            m_stage.reset(new QWidget); // mouse events go on to it
+            m_stage->resize(kLength, 20);
+            m_stage->show();
+            return new PureSlider(m_stage.get());
         };
         const Step wheel = [](QWidget* w) { Wheel(w, {0, 120}); };
         const Step key = [](QWidget* w) { Key(w, Qt::Key_End); };

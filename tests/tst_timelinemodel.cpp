@@ -21,8 +21,8 @@ using Video = FVideoStreamProcessHelper;
 
 namespace {
 
-constexpr int Min = std::numeric_limits<int>::min();
-constexpr int Max = std::numeric_limits<int>::max();
+constexpr int kMin = std::numeric_limits<int>::min();
+constexpr int kMax = std::numeric_limits<int>::max();
 
 /// Counts the calls of its hooks.
 struct Probe : NLETimeline
@@ -104,18 +104,18 @@ class tst_TimelineModel : public QObject
     Q_OBJECT
 
 private:
-    Script& script = Script::Get();
-    std::unique_ptr<Engine> e;
+    Script& m_script = Script::Get();
+    std::unique_ptr<Engine> m_e;
 
 private Q_SLOTS:
-    void init() { e = std::make_unique<Engine>(); }
+    void init() { m_e = std::make_unique<Engine>(); }
 
     void cleanup()
     {
         EndSession();
-        QCOMPARE(References(e->node.get()), 1u);
-        e.reset();
-        QCOMPARE(script.liveObjects, QStringList());
+        QCOMPARE(References(m_e->node.get()), 1u);
+        m_e.reset();
+        QCOMPARE(m_script.liveObjects, QStringList());
     }
 
     void settings_data()
@@ -191,13 +191,13 @@ private Q_SLOTS:
         const QString call = QTest::currentDataTag();
         NLETimeline nothing(nullptr, ExactType_Unknown, nullptr);
         QTEST(operation(nothing), "neutral");
-        NLETimeline other(e->lacking, ExactType_Unknown, nullptr);
+        NLETimeline other(m_e->lacking, ExactType_Unknown, nullptr);
         if (!call.startsWith("node."))
             QTEST(operation(other), "neutral");
-        script.TakeCalls();
-        NLETimeline timeline(e->node, ExactType_Video, nullptr);
+        m_script.TakeCalls();
+        NLETimeline timeline(m_e->node, ExactType_Video, nullptr);
         QTEST(operation(timeline), "value");
-        const QStringList calls = script.TakeCalls();
+        const QStringList calls = m_script.TakeCalls();
         QCOMPARE(calls.filter(".Set"), QStringList(call));
         // The interface is kept; only the video helper asks anew, for the first time when it is
         // made. The transform comes by a plain query.
@@ -209,13 +209,13 @@ private Q_SLOTS:
 
     void gettersThatFail()
     {
-        e->node->range = e->node->totalRange = {3, 9};
-        e->node->id = 4000000000u;
-        NLETimeline timeline(e->node, ExactType_Video, nullptr);
+        m_e->node->range = m_e->node->totalRange = {3, 9};
+        m_e->node->id = 4000000000u;
+        NLETimeline timeline(m_e->node, ExactType_Video, nullptr);
         QCOMPARE(timeline.GetGuidString(), "4000000000");
         for (const char* operation : {"node.GetRange", "node.GetTotalRange", "node.GetPosition",
                                       "node.GetRenderFrameRate", "node.GetId"})
-            script.statuses[operation] = E_FAIL;
+            m_script.statuses[operation] = E_FAIL;
         QCOMPARE(timeline.GetRange(), qMakePair(0, 0));
         QCOMPARE(timeline.GetPlayLen(), 0);
         QCOMPARE(timeline.GetTotalLength(), 0);
@@ -227,28 +227,28 @@ private Q_SLOTS:
 
     void onlyChangesAreSet()
     {
-        Probe clip(e->node.get());
-        e->node->range = {2, 8};
-        e->node->position = 5;
-        script.TakeCalls();
+        Probe clip(m_e->node.get());
+        m_e->node->range = {2, 8};
+        m_e->node->position = 5;
+        m_script.TakeCalls();
         clip.SetPosition(5);
         clip.SetRange(2, 8);
         clip.SetClipRange(&clip, 2, 8);
         QCOMPARE(clip.moves + clip.trims, 0);
-        QCOMPARE(script.TakeCalls().filter("Set"), QStringList());
+        QCOMPARE(m_script.TakeCalls().filter("Set"), QStringList());
         clip.SetTrimin(3);
-        clip.SetTrimout(Min);
+        clip.SetTrimout(kMin);
         QCOMPARE(
-            script.TakeCalls().join(' ').remove("node."),
+            m_script.TakeCalls().join(' ').remove("node."),
             QString("GetRange() GetRange() SetRange(3..8) GetRange() GetRange() SetRange(3..%1)")
-                .arg(Min));
+                .arg(kMin));
         clip.SetRange(qMakePair(3, 4));
         QCOMPARE(clip.trims, 3);
         clip.SetClipPos(&clip, 6);
         clip.SetClipLevel(&clip, 2);
         QCOMPARE(clip.moves, 1);
-        QCOMPARE(e->node->position, 6);
-        QCOMPARE(e->node->level, 2);
+        QCOMPARE(m_e->node->position, 6);
+        QCOMPARE(m_e->node->level, 2);
     }
 
     void lengths_data()
@@ -261,27 +261,28 @@ private Q_SLOTS:
         using B = QList<bool>;
         QTest::newRow("three") << NLERange{2, 4} << 10 << L{3, 6, 0} << B{0, 0, 0, 1, 1, 1, 0};
         QTest::newRow("empty") << NLERange{4, 3} << 10 << L{0, 0, 0} << B{0, 0, 0, 0, 0, 0, 0};
-        QTest::newRow("reversed") << NLERange{Max, Min} << 9 << L{0, 0, 0}
+        QTest::newRow("reversed") << NLERange{kMax, kMin} << 9 << L{0, 0, 0}
                                   << B{0, 0, 0, 0, 0, 0, 0};
-        QTest::newRow("all") << NLERange{Min, Max} << Min << L{Max, Max, 0}
+        QTest::newRow("all") << NLERange{kMin, kMax} << kMin << L{kMax, kMax, 0}
                              << B{1, 1, 1, 1, 1, 1, 1};
-        QTest::newRow("far out") << NLERange{0, 9} << Max << L{10, 20, 0} << B{1, 0, 0, 0, 0, 0, 0};
+        QTest::newRow("far out") << NLERange{0, 9} << kMax << L{10, 20, 0}
+                                 << B{1, 0, 0, 0, 0, 0, 0};
     }
 
     void lengths()
     {
         QFETCH(NLERange, range);
         QFETCH(int, position);
-        e->node->range = e->node->totalRange = range;
-        e->node->position = position;
-        e->node->rate = {1, 2};
-        NLETimeline timeline(e->node, ExactType_Video, nullptr);
+        m_e->node->range = m_e->node->totalRange = range;
+        m_e->node->position = position;
+        m_e->node->rate = {1, 2};
+        NLETimeline timeline(m_e->node, ExactType_Video, nullptr);
         QCOMPARE(timeline.GetTotalLength(), timeline.GetPlayLen());
         const int seconds = timeline.GetDuration();
-        e->node->rate = {1, 0};
+        m_e->node->rate = {1, 0};
         QTEST((QList<int>{timeline.GetPlayLen(), seconds, timeline.GetDuration()}), "results");
         QList<bool> inside;
-        for (int frame : {Max, Min, 9, 10, 11, 12, 13})
+        for (int frame : {kMax, kMin, 9, 10, 11, 12, 13})
             inside.append(timeline.IsFrameIn(frame));
         QTEST(inside, "inside");
     }
@@ -298,55 +299,55 @@ private Q_SLOTS:
         row("one", -3, 1, " node.SetRange(-3..-3)");
         row("ten", 5, 10, " node.SetRange(5..14)");
         row("the range stands already", 2, 3, "");
-        row("up to the greatest", Max - 1, Max, " node.SetRange(2147483646..2147483647)");
+        row("up to the greatest", kMax - 1, kMax, " node.SetRange(2147483646..2147483647)");
         QTest::newRow("none") << 5 << 0 << "";
-        QTest::newRow("fewer than none") << Min << Min << "";
+        QTest::newRow("fewer than none") << kMin << kMin << "";
     }
 
     void freezeFrame()
     {
         QFETCH(int, frame);
         QFETCH(int, count);
-        e->node->range = {2, 4};
-        NLETimeline timeline(e->node, ExactType_Video, nullptr);
+        m_e->node->range = {2, 4};
+        NLETimeline timeline(m_e->node, ExactType_Video, nullptr);
         timeline.SetFreezeFrame(frame, count);
-        QTEST(script.TakeCalls().filter("Set").join(' '), "calls");
+        QTEST(m_script.TakeCalls().filter("Set").join(' '), "calls");
     }
 
     void givesItsParent()
     {
-        NLETimeline clip(e->lacking, ExactType_Video, nullptr);
+        NLETimeline clip(m_e->lacking, ExactType_Video, nullptr);
         QCOMPARE(Text(clip.GetParentTimeline().get()), "parent");
-        script.statuses["lacking.GetParent"] = E_FAIL;
+        m_script.statuses["lacking.GetParent"] = E_FAIL;
         QVERIFY(!clip.GetParentTimeline());
     }
 
     void givesItsChildren()
     {
         using Children = QList<NLEComPtr<INLETimeline>>;
-        NLETimeline project(e->node, ExactType_Project, nullptr);
+        NLETimeline project(m_e->node, ExactType_Project, nullptr);
         QCOMPARE(project.GetChilds(), Children());
-        e->composite->clips = {e->lacking, e->node, e->lacking};
+        m_e->composite->clips = {m_e->lacking, m_e->node, m_e->lacking};
         QCOMPARE(project.GetClipCount(), 3);
-        QCOMPARE(project.GetChilds(), Children({e->lacking, e->node, e->lacking}));
-        e->composite->clips.clear();
-        NLETimeline clip(e->lacking, ExactType_Video, nullptr);
+        QCOMPARE(project.GetChilds(), Children({m_e->lacking, m_e->node, m_e->lacking}));
+        m_e->composite->clips.clear();
+        NLETimeline clip(m_e->lacking, ExactType_Video, nullptr);
         QCOMPARE(clip.GetClipCount(), 0);
         QCOMPARE(clip.GetChilds(), Children());
     }
 
     void clipsComeAndGo()
     {
-        Probe clip(e->lacking.get());
-        NLETimeline project(e->node, ExactType_Project, nullptr);
-        script.TakeCalls();
+        Probe clip(m_e->lacking.get());
+        NLETimeline project(m_e->node, ExactType_Project, nullptr);
+        m_script.TakeCalls();
         project.AddClipSuper(&clip, 9, 4);
         project.AddClipSuper(&clip, 9, 5);
         QCOMPARE(clip.moves, 1);
         project.RemoveClip(&clip);
-        project.AddClipSuper(e->lacking);
-        project.RemoveClip(e->lacking);
-        QCOMPARE(script.TakeCalls().join(' '),
+        project.AddClipSuper(m_e->lacking);
+        project.RemoveClip(m_e->lacking);
+        QCOMPARE(m_script.TakeCalls().join(' '),
                  "lacking.SetLevel(4) lacking.GetPosition() lacking.SetPosition(9) "
                  "composite.AddClip(lacking) "
                  "lacking.SetLevel(5) lacking.GetPosition() composite.AddClip(lacking) "
@@ -356,8 +357,8 @@ private Q_SLOTS:
 
     void noClipIsIgnored()
     {
-        NLETimeline project(e->node, ExactType_Project, nullptr);
-        script.TakeCalls();
+        NLETimeline project(m_e->node, ExactType_Project, nullptr);
+        m_script.TakeCalls();
         project.AddClipSuper(nullptr, 1, 2);
         project.AddClipSuper(NLEComPtr<INLETimeline>());
         project.RemoveClip(static_cast<NLETimeline*>(nullptr));
@@ -365,17 +366,17 @@ private Q_SLOTS:
         project.SetClipPos(nullptr, 1);
         project.SetClipRange(nullptr, 1, 2);
         project.SetClipLevel(nullptr, 1);
-        QCOMPARE(script.TakeCalls(), QStringList());
+        QCOMPARE(m_script.TakeCalls(), QStringList());
     }
 
     void clipIsPlacedThoughNotAdded()
     {
-        NLETimeline clip(e->lacking, ExactType_Video, nullptr);
-        NLETimeline project(e->node, ExactType_Project, nullptr);
+        NLETimeline clip(m_e->lacking, ExactType_Video, nullptr);
+        NLETimeline project(m_e->node, ExactType_Project, nullptr);
         clip.AddClipSuper(&project, 3, 4);
         clip.RemoveClip(&project);
-        QCOMPARE(e->node->position, 3);
-        QCOMPARE(e->node->level, 4);
+        QCOMPARE(m_e->node->position, 3);
+        QCOMPARE(m_e->node->level, 4);
     }
 
     void kinds()
@@ -385,18 +386,18 @@ private Q_SLOTS:
                    (timeline.IsEffect() ? "effect " : "") +
                    (timeline.IsTransition() ? "transition " : "");
         };
-        const NLETimeline clip(e->lacking, ExactType_Video, nullptr);
-        QCOMPARE(kinds(NLETimeline(e->node, ExactType_Project, nullptr)), "source ");
+        const NLETimeline clip(m_e->lacking, ExactType_Video, nullptr);
+        QCOMPARE(kinds(NLETimeline(m_e->node, ExactType_Project, nullptr)), "source ");
         QCOMPARE(kinds(clip), "");
-        e->lacking->Offer<INLETimelineEffect>(MakeCom<Kinds>("kinds"));
+        m_e->lacking->Offer<INLETimelineEffect>(MakeCom<Kinds>("kinds"));
         QCOMPARE(kinds(clip), "effect ");
-        e->lacking->Offer<INLETimelineTransition>(MakeCom<Kinds>("kinds"));
+        m_e->lacking->Offer<INLETimelineTransition>(MakeCom<Kinds>("kinds"));
         QCOMPARE(kinds(clip), "effect transition ");
     }
 
     void currentNode()
     {
-        NLETimeline project(e->node, ExactType_Project, nullptr);
+        NLETimeline project(m_e->node, ExactType_Project, nullptr);
         QVERIFY2(!project.GetCurrentTimeline(), "without the flag");
         QVector<NLEComPtr<RenderRegion>> flags;
         const auto offerFlag = [&flags](const NLEComPtr<Node>& to) {
@@ -404,31 +405,31 @@ private Q_SLOTS:
             to->Offer<INLERenderRegion>(flags.last());
             return NLEComPtr<INLETimeline>(to);
         };
-        offerFlag(e->node);
+        offerFlag(m_e->node);
         QVERIFY(!project.GetCurrentTimeline());
         flags[0]->current = true;
-        QCOMPARE(project.GetCurrentTimeline().get(), e->node.get());
+        QCOMPARE(project.GetCurrentTimeline().get(), m_e->node.get());
         QVERIFY2(!project.GetCurrentTimelineEx(), "never the node itself");
 
         for (const char* name : {"a", "b", "c"})
-            e->composite->clips.append(offerFlag(MakeCom<Node>(name)));
-        e->composite->allClips = e->composite->clips;
-        e->composite->clips.removeLast();
+            m_e->composite->clips.append(offerFlag(MakeCom<Node>(name)));
+        m_e->composite->allClips = m_e->composite->clips;
+        m_e->composite->clips.removeLast();
         QVERIFY2(!project.GetCurrentTimeline(), "not the node itself once there are clips");
         flags[3]->current = true;
         QVERIFY(!project.GetCurrentTimeline());
-        script.TakeCalls();
+        m_script.TakeCalls();
         QCOMPARE(Text(project.GetCurrentTimelineEx().get()), "c");
-        QVERIFY(script.TakeCalls().contains("composite.GetEnumerator(1, 1)"));
+        QVERIFY(m_script.TakeCalls().contains("composite.GetEnumerator(1, 1)"));
         flags[1]->current = flags[2]->current = true;
         QCOMPARE(Text(project.GetCurrentTimeline().get()), "a");
-        QVERIFY(script.TakeCalls().contains("composite.GetEnumerator(1)"));
+        QVERIFY(m_script.TakeCalls().contains("composite.GetEnumerator(1)"));
     }
 
     void projectSettingsChangeTheirPartOfTheProfile()
     {
-        e->setting->profile = {{64, 48}, {30, 1}, 44100, 1, 8};
-        NLETimeline project(e->node, ExactType_Project, nullptr);
+        m_e->setting->profile = {{64, 48}, {30, 1}, 44100, 1, 8};
+        NLETimeline project(m_e->node, ExactType_Project, nullptr);
         project.SetProjectFps(12.5f);
         project.SetProjectResolution(-1, 5);
         const tagNLEProjectProfile profile = project.GetProjectProfile();
@@ -442,11 +443,11 @@ private Q_SLOTS:
 
     void projectProfileThatFails()
     {
-        NLETimeline project(e->node, ExactType_Project, nullptr);
-        script.statuses["setting.GetProfile"] = E_FAIL;
+        NLETimeline project(m_e->node, ExactType_Project, nullptr);
+        m_script.statuses["setting.GetProfile"] = E_FAIL;
         project.SetProjectFps(50);
         project.SetProjectResolution(1, 1);
-        QCOMPARE(script.TakeCalls().filter("SetProfile"), QStringList());
+        QCOMPARE(m_script.TakeCalls().filter("SetProfile"), QStringList());
         QCOMPARE(Text(project.GetProjectProfile().frameSize), "1920x1080");
         QCOMPARE(project.GetProjectResolution(), QSize(0, 0));
         QCOMPARE(project.GetProjectFps(), 0.f);
@@ -454,12 +455,12 @@ private Q_SLOTS:
 
     void resolutionOfNoProjectIsInvalid()
     {
-        QCOMPARE(Probe(e->lacking.get()).GetProjectResolution(), QSize());
+        QCOMPARE(Probe(m_e->lacking.get()).GetProjectResolution(), QSize());
     }
 
     void helpersLiveAsLongAsTheNode()
     {
-        NLETimeline timeline(e->node, ExactType_Video, nullptr);
+        NLETimeline timeline(m_e->node, ExactType_Video, nullptr);
         QStringList deleted;
         const auto all = [&timeline] {
             return QList<QObject*>{timeline.GetTransformHelper(), timeline.GetBlendingHelper(),
@@ -476,10 +477,10 @@ private Q_SLOTS:
             names.append(name);
             connect(helper, &QObject::destroyed, [&deleted, name] { deleted.append(name); });
         }
-        QCOMPARE(References(e->node.get()), 7u);
-        timeline.SetTimelineBase(e->node);
+        QCOMPARE(References(m_e->node.get()), 7u);
+        timeline.SetTimelineBase(m_e->node);
         QCOMPARE(deleted, names); // in this order, which is not that of the fields
-        QCOMPARE(References(e->node.get()), 2u);
+        QCOMPARE(References(m_e->node.get()), 2u);
         all();
         QCOMPARE(timeline.children().size(), 5);
     }
@@ -502,8 +503,8 @@ private Q_SLOTS:
         QFETCH(bool, succeeds);
         for (const char* operation :
              {"audio.GetVolume", "audio.GetDenoiseLevel", "mixer.GetParam", "mixer.SetParam"})
-            script.statuses[operation] = status;
-        NLETimeline timeline(hasHelpers ? e->node : e->lacking, ExactType_Video, nullptr);
+            m_script.statuses[operation] = status;
+        NLETimeline timeline(hasHelpers ? m_e->node : m_e->lacking, ExactType_Video, nullptr);
         FMixerSettingDelegate strips(&timeline, nullptr);
         const auto* helper = timeline.GetAudioStreamProcessHelper();
         double volume = 0;
@@ -513,13 +514,13 @@ private Q_SLOTS:
         QCOMPARE(helper->GetDenoiseLevel(level), succeeds);
         QCOMPARE(strips.GetMixerParam(3, &param), succeeds);
         QCOMPARE(strips.SetMixerParam(4, param), succeeds);
-        QCOMPARE(script.TakeCalls().filter("mixer.").join(' '),
+        QCOMPARE(m_script.TakeCalls().filter("mixer.").join(' '),
                  hasHelpers ? "mixer.GetParam(3) mixer.SetParam(4)" : "");
     }
 
     void audioObjects()
     {
-        const Audio without(e->lacking, nullptr);
+        const Audio without(m_e->lacking, nullptr);
         auto* const untouched = reinterpret_cast<INLEKeyFrameParam*>(this);
         INLEKeyFrameParam* param = untouched;
         double band = 7;
@@ -528,7 +529,7 @@ private Q_SLOTS:
         QCOMPARE(param, untouched);
         QCOMPARE(band, 7.0);
 
-        Audio helper(e->node, nullptr);
+        Audio helper(m_e->node, nullptr);
         helper.GetVolumeKeyFrameParam(&param);
         QVERIFY(!param);
         helper.SetEqualizerParam(&band);
@@ -537,9 +538,9 @@ private Q_SLOTS:
         QCOMPARE(band, 7.0);
         helper.SetVolume(0.25);
         helper.SetDenoiseLevel(3);
-        QCOMPARE(e->audio->volume, 0.25);
-        QCOMPARE(e->audio->denoiseLevel, 3);
-        e->audio->equalizerName = QString(300, 'x');
+        QCOMPARE(m_e->audio->volume, 0.25);
+        QCOMPARE(m_e->audio->denoiseLevel, 3);
+        m_e->audio->equalizerName = QString(300, 'x');
         QCOMPARE(helper.GetEqualizerName(), QString(127, 'x')); // cut to its buffer
     }
 
@@ -550,45 +551,45 @@ private Q_SLOTS:
                                      p.nParam5, p.nParam6, p.nParam7};
             return qMakePair(numbers, p.dParam4);
         };
-        QCOMPARE(values(Video(e->lacking, nullptr).GetAlphaChannel()),
+        QCOMPARE(values(Video(m_e->lacking, nullptr).GetAlphaChannel()),
                  qMakePair(QList<int>({0, 1, 0, 0, 0, 0}), 0.0));
-        Video helper(e->node, nullptr);
-        memset(&e->video->record, 0x5A, sizeof e->video->record);
-        const NLEAlphaChannelRecord before = e->video->record;
+        Video helper(m_e->node, nullptr);
+        memset(&m_e->video->record, 0x5A, sizeof m_e->video->record);
+        const NLEAlphaChannelRecord before = m_e->video->record;
         const Video::AlphaChannelParm parm{1, -2, 3, 4.5, -5, 6, 7};
         helper.SetAlphaChannel(parm);
         QCOMPARE(values(helper.GetAlphaChannel()), values(parm));
-        const auto* fields = reinterpret_cast<const qint32*>(&e->video->record);
+        const auto* fields = reinterpret_cast<const qint32*>(&m_e->video->record);
         QCOMPARE(fields[1], -2);
         QCOMPARE(fields[6], -5);
-        constexpr int Kept = 36; // bytes from here on are the engine's
-        QVERIFY(!memcmp(reinterpret_cast<const char*>(&e->video->record) + Kept,
-                        reinterpret_cast<const char*>(&before) + Kept, sizeof before - Kept));
+        constexpr int kept = 36; // bytes from here on are the engine's
+        QVERIFY(!memcmp(reinterpret_cast<const char*>(&m_e->video->record) + kept,
+                        reinterpret_cast<const char*>(&before) + kept, sizeof before - kept));
     }
 
     void premultipliedType()
     {
-        Video without(e->lacking, nullptr);
+        Video without(m_e->lacking, nullptr);
         without.SetPremultiAlphaType(2);
         QCOMPARE(without.GetPremultiAlphaType(), 0);
-        e->video->alphaType = 5;
-        Video helper(e->node, nullptr);
-        e->video->alphaType = 6;
+        m_e->video->alphaType = 5;
+        Video helper(m_e->node, nullptr);
+        m_e->video->alphaType = 6;
         QCOMPARE(helper.GetPremultiAlphaType(), 5); // as it was when the helper was made
         helper.SetPremultiAlphaType(2);
         QCOMPARE(helper.GetPremultiAlphaType(), 2);
-        QCOMPARE(e->video->alphaType, 2);
+        QCOMPARE(m_e->video->alphaType, 2);
     }
 
     void proxyFile()
     {
-        Video helper(e->node, nullptr);
+        Video helper(m_e->node, nullptr);
         const QString file = QCoreApplication::applicationFilePath();
         for (const QString& path : {file, QString("/none"), QString()})
             helper.SetProxyFile(path);
-        QCOMPARE(script.TakeCalls().filter("SetProxyFile").join(' ').remove("video.SetProxyFile"),
+        QCOMPARE(m_script.TakeCalls().filter("SetProxyFile").join(' ').remove("video.SetProxyFile"),
                  '(' + file + ") ()"); // not what does not exist
-        e->video->proxyPath = QString(300, 'x');
+        m_e->video->proxyPath = QString(300, 'x');
         QCOMPARE(helper.GetProxyPeth(), QString(259, 'x')); // cut to its buffer
     }
 
@@ -610,14 +611,14 @@ private Q_SLOTS:
         QFETCH(QPointF, pixels);
         QFETCH(QPointF, normalised);
         const QPointF back(size.width() > 0 ? pixels.x() : 0, size.height() > 0 ? pixels.y() : 0);
-        e->region->region = {3, 4, size.width(), size.height()};
-        Placing helper(e->node, nullptr);
-        e->transform->center = {7, 8};
+        m_e->region->region = {3, 4, size.width(), size.height()};
+        Placing helper(m_e->node, nullptr);
+        m_e->transform->center = {7, 8};
         helper.SetXpos(float(pixels.x()));
         QCOMPARE(helper.GetCenterPos(), QPointF(normalised.x(), 8));
         helper.SetYpos(float(pixels.y()));
         QCOMPARE(helper.GetCenterPos(), normalised);
-        e->transform->center = {7, 8};
+        m_e->transform->center = {7, 8};
         helper.SetXYpos(pixels);
         QCOMPARE(helper.GetCenterPos(), normalised);
         QCOMPARE(helper.GetXYpos(), back);
@@ -626,9 +627,9 @@ private Q_SLOTS:
 
     void placeWithoutRegion()
     {
-        Placing helper(e->node, nullptr);
-        e->transform->center = {7, 8};
-        script.statuses["node.GetParent"] = E_FAIL;
+        Placing helper(m_e->node, nullptr);
+        m_e->transform->center = {7, 8};
+        m_script.statuses["node.GetParent"] = E_FAIL;
         NLERectF rect{};
         QVERIFY(!helper.GetRenderROD(rect));
         helper.SetXYpos({1, 1});
@@ -642,7 +643,7 @@ private Q_SLOTS:
 
     void placeWithoutTransform()
     {
-        const Placing lacking(e->lacking, nullptr);
+        const Placing lacking(m_e->lacking, nullptr);
         QCOMPARE(lacking.GetXYpos(), QPointF());
         QCOMPARE(lacking.GetXpos(), 0.f);
         QCOMPARE(lacking.GetYpos(), 0.f);
@@ -650,11 +651,11 @@ private Q_SLOTS:
 
     void renderRegion()
     {
-        Placing without(e->lacking, nullptr);
+        Placing without(m_e->lacking, nullptr);
         without.SetRenderRegion(QRectF(1, 2, 3, 4));
         QCOMPARE(without.GetRenderRegion(), QRectF(0, 0, 1, 1));
         QCOMPARE(without.GetResizeScale(), QSizeF(0, 0));
-        Placing helper(e->node, nullptr);
+        Placing helper(m_e->node, nullptr);
         helper.SetRenderRegion(QRectF(0.25, 0.125, 0.5, 0.75));
         QCOMPARE(helper.GetCenterPos(), QPointF(0.5, 0.5));
         QCOMPARE(helper.GetResizeScale(), QSizeF(0.5, 0.75));
@@ -666,22 +667,22 @@ private Q_SLOTS:
     void lock()
     {
         auto parentBag = MakeCom<Properties>("bag");
-        script.results["parent.GetProperties"] = parentBag;
+        m_script.results["parent.GetProperties"] = parentBag;
         LogCapture log;
-        Placing helper(e->node, nullptr);
+        Placing helper(m_e->node, nullptr);
         helper.SetTransformLock(true);
         QVERIFY2(!helper.GetTransformLock(), "the engine's lock is never read back");
-        e->bag->strings["key_timeline_type"] = "11";
+        m_e->bag->strings["key_timeline_type"] = "11";
         helper.SetTransformLock(false);
-        e->bag->strings["key_timeline_type"] = "11x";
+        m_e->bag->strings["key_timeline_type"] = "11x";
         parentBag->strings["key_timeline_type"] = "11";
         helper.SetTransformLock(true);
-        QCOMPARE(script.TakeCalls().filter("Lock").join(' ').remove("transform.SetLock"),
+        QCOMPARE(m_script.TakeCalls().filter("Lock").join(' ').remove("transform.SetLock"),
                  "(true) (false) (true)");
         const QString line =
             "-INFO- [FTimelineTransformHelper::SetTransformLock]:  %1 m_ptimeline = "
             "%2, lock = %3 - [CommonLib/NLEWraper/FTimelineTransformHelper(";
-        const QString address = QString::number(quint32(quintptr(e->node.get())), 16);
+        const QString address = QString::number(quint32(quintptr(m_e->node.get())), 16);
         const QRegularExpression lineNumber("\\d+\\)\\]$");
         QCOMPARE(log.Take().replaceInStrings(lineNumber, ""),
                  QStringList({line.arg("SplitScreen", address, "0"),
@@ -690,12 +691,12 @@ private Q_SLOTS:
 
     void mixerFollowsItsTimeline()
     {
-        e->mixer->param.volume = 1;
+        m_e->mixer->param.volume = 1;
         auto other = MakeCom<Node>("other");
         auto otherMixer = MakeCom<MixerSetting>("otherMixer");
         otherMixer->param.volume = 2;
         other->Offer<INLEMixerSetting>(otherMixer);
-        NLETimeline first(e->node, ExactType_Project, nullptr);
+        NLETimeline first(m_e->node, ExactType_Project, nullptr);
         NLETimeline second(other, ExactType_Project, nullptr);
         NLETimeline bare(nullptr, ExactType_Project, nullptr);
         FMixerSettingDelegate strips(&first, nullptr);
@@ -704,7 +705,7 @@ private Q_SLOTS:
         QVERIFY(strips.GetMixerParam(0, &param));
         QCOMPARE(param.volume, 1.0);
         strips.SetTimeline(&second);
-        QCOMPARE(script.TakeCalls().filter("GetInterface").join(' '),
+        QCOMPARE(m_script.TakeCalls().filter("GetInterface").join(' '),
                  "node.GetInterface(E6CC159E, 0, 0) other.GetInterface(E6CC159E, 0, 0)");
         QVERIFY(strips.GetMixerParam(0, &param));
         QCOMPARE(param.volume, 2.0);

@@ -95,25 +95,25 @@ private Q_SLOTS:
         QTest::addColumn<PtpDevice::Kind>("kind");
         for (const PtpDevice::Kind kind :
              {PtpDevice::Kind{false, true}, {false, false}, {true, true}, {true, false}})
-            QTest::addRow("%s, parts: %d", kind.name(), kind.hasPartialReads) << kind;
+            QTest::addRow("%s, parts: %d", kind.Name(), kind.hasPartialReads) << kind;
     }
     void transfer()
     {
         QFETCH(PtpDevice::Kind, kind);
         const quint64 size = kind.hasPartialReads ? 300 << 20 : 30 << 20;
         PtpDevice usb(m_testbed, kind);
-        const quint32 folder = usb.addFolder(usb.addFolder(0, "DCIM"), "100");
-        usb.add(folder, "\u00fcber.MP4", size);
-        usb.add(folder, "LARGE.MP4", 5ULL << 30);
-        const quint32 picture = usb.add(folder, "IMG.JPG", 3);
-        const quint32 locked = usb.add(folder, "LOCKED.JPG", 0, true);
+        const quint32 folder = usb.AddFolder(usb.AddFolder(0, "DCIM"), "100");
+        usb.Add(folder, "\u00fcber.MP4", size);
+        usb.Add(folder, "LARGE.MP4", 5ULL << 30);
+        const quint32 picture = usb.Add(folder, "IMG.JPG", 3);
+        const quint32 locked = usb.Add(folder, "LOCKED.JPG", 0, true);
         const QString id = WaitForDevice();
         // As a desktop does it; a camera's mount has to make way.
         QCOMPARE(QProcess::execute("gio", {"mount", id}), 0);
         const Device device(id);
         QCOMPARE(device.result, S_OK);
         QCOMPARE(QProcess::execute("gio", {"info", id}) == 0, kind.isPhone);
-        const auto tree = device.tree();
+        const auto tree = device.Tree();
         const QString top = tree.firstKey() + "/DCIM/100/";
         QCOMPARE(tree.size(), 7);
         QCOMPARE(tree[top + "\u00fcber.MP4"].size, size);
@@ -125,7 +125,7 @@ private Q_SLOTS:
         quint64 total = 0;
         int steps = 0;
         const auto count = [&steps](quint64) { return ++steps > 0; };
-        QCOMPARE(device.read(tree[top + "\u00fcber.MP4"].id, hash, total, count), S_FALSE);
+        QCOMPARE(device.Read(tree[top + "\u00fcber.MP4"].id, hash, total, count), S_FALSE);
         QCOMPARE(total, size);
         QCOMPARE(hash, HashOf(size));
         QVERIFY(steps >= int(size >> 20));
@@ -138,19 +138,19 @@ private Q_SLOTS:
         // Without parts all would have to be fetched; without the true size the end is not known.
         const Object& sought = kind.hasPartialReads ? large : tree[top + "\u00fcber.MP4"];
         const quint32 left = sought.size == 0xFFFFFFFF ? 0 : 8;
-        QCOMPARE(device.open(sought.id, stream), S_OK);
+        QCOMPARE(device.Open(sought.id, stream), S_OK);
         QCOMPARE(stream->Seek({qint64(sought.size) - 8}, 0, nullptr), S_OK);
         QCOMPARE(stream->Read(data, 100, &got), left > 0 ? S_OK : kTooLarge);
         QCOMPARE(QByteArray(data, int(got)), PtpDevice::Content(sought.size - 8, left));
-        QCOMPARE(device.open(tree[top + "IMG.JPG"].id, stream, Wpd::WPD_RESOURCE_THUMBNAIL), S_OK);
+        QCOMPARE(device.Open(tree[top + "IMG.JPG"].id, stream, Wpd::WPD_RESOURCE_THUMBNAIL), S_OK);
         QCOMPARE(stream->Read(data, 100, &got), S_OK);
         QCOMPARE(QByteArray(data, int(got)), PtpDevice::Thumbnail());
 
-        QVERIFY(FAILED(device.remove(tree[top + "LOCKED.JPG"].id)));
-        QVERIFY(usb.has(locked));
-        QVERIFY(FAILED(device.remove(tree[top].id)));
-        QCOMPARE(device.remove(tree[top + "IMG.JPG"].id), S_OK);
-        QVERIFY(!usb.has(picture));
+        QVERIFY(FAILED(device.Remove(tree[top + "LOCKED.JPG"].id)));
+        QVERIFY(usb.Has(locked));
+        QVERIFY(FAILED(device.Remove(tree[top].id)));
+        QCOMPARE(device.Remove(tree[top + "IMG.JPG"].id), S_OK);
+        QVERIFY(!usb.Has(picture));
     }
 
     void ended_data()
@@ -163,7 +163,7 @@ private Q_SLOTS:
         }
         for (const PtpDevice::Kind kind :
              {PtpDevice::Kind{false, true}, {false, false}, {true, true}, {true, false}})
-            QTest::addRow("%s, parts: %d, short", kind.name(), kind.hasPartialReads)
+            QTest::addRow("%s, parts: %d, short", kind.Name(), kind.hasPartialReads)
                 << kind << "short";
     }
     // A transfer that ends early, and what the device is good for afterwards.
@@ -172,14 +172,14 @@ private Q_SLOTS:
         QFETCH(PtpDevice::Kind, kind);
         QFETCH(QString, how);
         PtpDevice usb(m_testbed, kind);
-        usb.add(0, "A.MP4", 60 << 20);
-        usb.add(0, "B.JPG", 5);
+        usb.Add(0, "A.MP4", 60 << 20);
+        usb.Add(0, "B.JPG", 5);
         const QString id = WaitForDevice();
         const Device device(id);
         QCOMPARE(device.result, S_OK);
         const auto listener = MakeCom<Listener>();
-        listener->advise(device);
-        const auto tree = device.tree();
+        listener->Advise(device);
+        const auto tree = device.Tree();
         const QString& top = tree.firstKey();
         QByteArray hash;
         quint64 total = 0;
@@ -187,7 +187,7 @@ private Q_SLOTS:
         if (how == "short")
             usb.endsAt = 5 << 20;
         const HRESULT result =
-            device.read(tree[top + "/A.MP4"].id, hash, total, [&](quint64 sofar) {
+            device.Read(tree[top + "/A.MP4"].id, hash, total, [&](quint64 sofar) {
                 if (sofar < 4 << 20 || helper.joinable() || how == "short")
                     return true;
                 if (how == "leave")
@@ -196,7 +196,7 @@ private Q_SLOTS:
                     if (how == "cancel")
                         device.device->Cancel();
                     else
-                        usb.unplug();
+                        usb.Unplug();
                 });
                 return true;
             });
@@ -209,11 +209,11 @@ private Q_SLOTS:
             QTRY_COMPARE(listener->removals.load(), 1);
             QVERIFY(listener->isOwnThread);
             QCOMPARE(listener->deviceId, id);
-            QCOMPARE(device.read(tree[top + "/B.JPG"].id, hash, total), kDeviceGone);
+            QCOMPARE(device.Read(tree[top + "/B.JPG"].id, hash, total), kDeviceGone);
             return;
         }
         QCOMPARE(result, how == "cancel" ? kCancelled : how == "short" ? kCutShort : S_FALSE);
-        QCOMPARE(device.read(tree[top + "/B.JPG"].id, hash, total), S_FALSE);
+        QCOMPARE(device.Read(tree[top + "/B.JPG"].id, hash, total), S_FALSE);
         QCOMPARE(total, quint64(5));
         QCOMPARE(listener->removals.load(), 0);
     }
@@ -226,8 +226,8 @@ private Q_SLOTS:
         const Device device(WaitForDevice());
         QCOMPARE(device.result, S_OK);
         const auto listener = MakeCom<Listener>();
-        listener->advise(device);
-        usb.unplug();
+        listener->Advise(device);
+        usb.Unplug();
         QTRY_COMPARE(listener->removals.load(), 1);
     }
 
@@ -258,10 +258,10 @@ private Q_SLOTS:
         QFETCH(PtpDevice::Kind, kind);
         QFETCH(bool, isRead);
         PtpDevice usb(m_testbed, kind);
-        usb.add(usb.addFolder(0, "DCIM"), "A.MP4", 60 << 20);
+        usb.Add(usb.AddFolder(0, "DCIM"), "A.MP4", 60 << 20);
         auto device = std::make_unique<Device>(WaitForDevice());
         QCOMPARE(device->result, S_OK);
-        const auto walk = [&device] { return static_cast<HRESULT>(device->tree()["failed"].size); };
+        const auto walk = [&device] { return static_cast<HRESULT>(device->Tree()["failed"].size); };
         std::atomic<bool> isDone{false};
         std::thread helper;
         const auto hang = [&](quint64) {
@@ -282,7 +282,7 @@ private Q_SLOTS:
         quint64 total = 0;
         HRESULT result = S_OK;
         if (isRead) {
-            result = device->read(device->tree().last().id, hash, total, hang);
+            result = device->Read(device->Tree().last().id, hash, total, hang);
         } else {
             hang(0);
             result = walk();

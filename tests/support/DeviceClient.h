@@ -87,7 +87,7 @@ struct Device
         content->Transfer(resources.put());
     }
 
-    HRESULT describe(const std::wstring& id, Object& object) const
+    HRESULT Describe(const std::wstring& id, Object& object) const
     {
         NLEComPtr<IPortableDeviceValues> values;
         const HRESULT described = properties->GetValues(id.c_str(), nullptr, values.put());
@@ -112,10 +112,10 @@ struct Device
     }
 
     /// Visits \a id and all below it, as an importer does: children in batches of ten.
-    HRESULT walk(const std::wstring& id, const std::function<void(const Object&)>& visit) const
+    HRESULT Walk(const std::wstring& id, const std::function<void(const Object&)>& visit) const
     {
         Object object;
-        HRESULT walked = describe(id, object);
+        HRESULT walked = Describe(id, object);
         if (FAILED(walked))
             return walked;
         visit(object);
@@ -126,7 +126,7 @@ struct Device
             ULONG count = 0;
             more = children->Next(10, ids, &count);
             for (ULONG i = 0; i < count; ++i) {
-                const HRESULT below = walk(ids[i], visit);
+                const HRESULT below = Walk(ids[i], visit);
                 walked = FAILED(below) ? below : walked;
                 CoTaskMemFree(ids[i]);
             }
@@ -135,11 +135,11 @@ struct Device
     }
 
     /// Everything on the device by path, folders ended by a slash.
-    QMap<QString, Object> tree() const
+    QMap<QString, Object> Tree() const
     {
         QMap<QString, Object> objects;
         QMap<QString, QString> paths{{"DEVICE", ""}};
-        const HRESULT walked = walk(Wpd::WPD_DEVICE_OBJECT_ID, [&](const Object& object) {
+        const HRESULT walked = Walk(Wpd::WPD_DEVICE_OBJECT_ID, [&](const Object& object) {
             if (object.id == "DEVICE")
                 return;
             const QString path = paths[object.parent] + object.name;
@@ -151,7 +151,7 @@ struct Device
         return objects;
     }
 
-    HRESULT open(const QString& id, NLEComPtr<IStream>& stream,
+    HRESULT Open(const QString& id, NLEComPtr<IStream>& stream,
                  REFPROPERTYKEY resource = Wpd::WPD_RESOURCE_DEFAULT) const
     {
         DWORD size = 0;
@@ -160,12 +160,12 @@ struct Device
     }
 
     /// Reads an object to its end; \a progress sees the bytes so far and returns whether to go on.
-    HRESULT read(
+    HRESULT Read(
         const QString& id, QByteArray& hash, quint64& total,
         const std::function<bool(quint64)>& progress = [](quint64) { return true; }) const
     {
         NLEComPtr<IStream> stream;
-        HRESULT done = open(id, stream);
+        HRESULT done = Open(id, stream);
         std::vector<char> buffer(1U << 20);
         QCryptographicHash sum(QCryptographicHash::Md5);
         total = 0;
@@ -181,7 +181,7 @@ struct Device
         return done;
     }
 
-    HRESULT remove(const QString& id) const
+    HRESULT Remove(const QString& id) const
     {
         const auto ids = Make<IPortableDevicePropVariantCollection>(
             Wpd::CLSID_PortableDevicePropVariantCollection);
@@ -200,7 +200,7 @@ class Listener final : public ComObject<IPortableDeviceEventCallback>
 {
 public:
     /// Gives the cookie.
-    QString advise(const Device& device)
+    QString Advise(const Device& device)
     {
         LPWSTR cookie = nullptr;
         device.device->Advise(0, this, nullptr, &cookie);

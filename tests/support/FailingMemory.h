@@ -11,19 +11,19 @@
 namespace FailingMemory {
 
 /// Allocations that this thread may still make; below 0 no matter how many.
-inline thread_local long allowed = -1;
+inline thread_local long s_allowed = -1;
 
 /// What \a call gives after \a count allocations; empty for an exception.
 inline std::optional<HRESULT> After(long count, const std::function<HRESULT()>& call, bool* ranOut)
 {
     std::optional<HRESULT> result;
-    allowed = count;
+    s_allowed = count;
     try {
         result = call();
     } catch (...) {
     }
-    *ranOut = allowed == 0;
-    allowed = -1;
+    *ranOut = s_allowed == 0;
+    s_allowed = -1;
     return result;
 }
 
@@ -32,10 +32,10 @@ inline std::optional<HRESULT> After(long count, const std::function<HRESULT()>& 
 // Modules take these, as the executable's come first. For one source of a program.
 void* operator new(std::size_t bytes, const std::nothrow_t& /*tag*/) noexcept
 {
-    if (FailingMemory::allowed == 0)
+    if (FailingMemory::s_allowed == 0)
         return nullptr;
-    if (FailingMemory::allowed > 0)
-        --FailingMemory::allowed;
+    if (FailingMemory::s_allowed > 0)
+        --FailingMemory::s_allowed;
     return std::malloc(bytes > 0 ? bytes : 1);
 }
 void* operator new(std::size_t bytes)

@@ -14,12 +14,12 @@ class MediaFixture
 {
 public:
     using Info = std::shared_ptr<const nle::MediaInfo>;
-    inline static const QSize Thumbnail{160, 90};
+    inline static const QSize kThumbnail{160, 90};
 
     static TestClip SmallClip(int frames)
     {
         TestClip clip;
-        clip.size = Thumbnail;
+        clip.size = kThumbnail;
         clip.frames = frames;
         return clip;
     }

@@ -156,8 +156,8 @@ public:
     Timeline Make() const
     {
         Timeline t{Project(),
-                   Media(m_media),
-                   Media(m_media),
+                   Media(mMedia),
+                   Media(mMedia),
                    Colour(Qt::red, QSize(64, 64)),
                    provider->CreateVirtualTimeline(0),
                    Colour(Qt::green),
@@ -180,7 +180,7 @@ public:
     {
         Node project = Project();
         for (int i = 0; i < clips; ++i) {
-            const Node clip = Media(m_media);
+            const Node clip = Media(mMedia);
             clip.query<INLEBlendSetting>()->SetAlpha(255 - i);
             Add(project, clip, kMediaFrames * i);
         }
@@ -205,5 +205,5 @@ public:
     static constexpr int kMediaFrames = 60;
     static constexpr int kLongClips = 60;
     static constexpr int kChunksOfAClip = 2; ///< chunks are shorter than a clip
-    const QString m_media = Path("clip.mp4");
+    const QString mMedia = Path("clip.mp4");
 };

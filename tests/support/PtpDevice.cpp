@@ -95,7 +95,7 @@ static void handler_class_init(HandlerClass* type)
     type->base.handle_ioctl = [](UMockdevIoctlBase* self, UMockdevIoctlClient* client) -> gboolean {
         const std::lock_guard lock(s_handlerMutex);
         if (PtpDevice* device = reinterpret_cast<Handler*>(self)->device)
-            return device->handle(client);
+            return device->Handle(client);
         umockdev_ioctl_client_complete(client, -1, ENODEV);
         return TRUE;
     };
@@ -110,7 +110,7 @@ PtpDevice::PtpDevice(UMockdevTestbed* testbed, const Kind& kind) : m_testbed(tes
         "P: /devices/usb1/1-1\nN: bus/usb/001/002\nE: DEVNAME=/dev/bus/usb/001/002\n"
         "E: DEVTYPE=usb_device\nE: SUBSYSTEM=usb\nE: BUSNUM=001\nE: DEVNUM=002\nE: MAJOR=189\n"
         "E: MINOR=1\nE: ID_VENDOR_ENC=Maker\nE: ID_MODEL_ENC=" +
-        QByteArray(kind.name()) + "\nE: ID_SERIAL=Maker_" + kind.name() + "\n" +
+        QByteArray(kind.Name()) + "\nE: ID_SERIAL=Maker_" + kind.Name() + "\n" +
         (kind.isPhone ? "E: ID_MTP_DEVICE=1\nE: ID_MEDIA_PLAYER=1\n" : "E: ID_GPHOTO2=1\n") +
         "A: busnum=1\\n\nA: devnum=2\\n\nA: bConfigurationValue=1\\n\nA: speed=480\\n\n"
         "H: descriptors=" +
@@ -123,13 +123,13 @@ PtpDevice::PtpDevice(UMockdevTestbed* testbed, const Kind& kind) : m_testbed(tes
 
 PtpDevice::~PtpDevice()
 {
-    unplug();
+    Unplug();
     const std::lock_guard lock(s_handlerMutex);
     static_cast<Handler*>(m_handler)->device = nullptr;
     g_object_unref(m_handler);
 }
 
-void PtpDevice::unplug()
+void PtpDevice::Unplug()
 {
     {
         const std::lock_guard lock(m_mutex);
@@ -143,7 +143,7 @@ void PtpDevice::unplug()
     QFile::remove(QFile::decodeName(QByteArray(root.get()) + kNode)); // it would stay
 }
 
-quint32 PtpDevice::add(quint32 parent, const QString& name, quint64 size, bool isProtected)
+quint32 PtpDevice::Add(quint32 parent, const QString& name, quint64 size, bool isProtected)
 {
     const std::lock_guard lock(m_mutex);
     const quint32 number = m_objects.isEmpty() ? 1 : m_objects.lastKey() + 1;
@@ -151,15 +151,15 @@ quint32 PtpDevice::add(quint32 parent, const QString& name, quint64 size, bool i
     return number;
 }
 
-quint32 PtpDevice::addFolder(quint32 parent, const QString& name)
+quint32 PtpDevice::AddFolder(quint32 parent, const QString& name)
 {
-    const quint32 number = add(parent, name, 0);
+    const quint32 number = Add(parent, name, 0);
     const std::lock_guard lock(m_mutex);
     m_objects[number].isFolder = true;
     return number;
 }
 
-bool PtpDevice::has(quint32 object)
+bool PtpDevice::Has(quint32 object)
 {
     const std::lock_guard lock(m_mutex);
     return m_objects.contains(object);
@@ -188,7 +188,7 @@ QByteArray PtpDevice::deviceInfo() const
            Text(m_kind.isPhone ? "microsoft.com: 1.0; android.com: 1.0;" : "") +
            Little<quint16>(0) + Array(operations) + Array(QList<quint16>()) +
            Array(QList<quint16>()) + Array(QList<quint16>()) + Array(QList<quint16>{0x3801}) +
-           Text("Maker") + Text(m_kind.name()) + Text("1.0") + Text("0001");
+           Text("Maker") + Text(m_kind.Name()) + Text("1.0") + Text("0001");
 }
 
 QByteArray PtpDevice::objectInfo(const Object& object) const
@@ -375,7 +375,7 @@ int PtpDevice::reap(UMockdevIoctlClient* client, UMockdevIoctlData* target)
     return EAGAIN;
 }
 
-bool PtpDevice::handle(UMockdevIoctlClient* client)
+bool PtpDevice::Handle(UMockdevIoctlClient* client)
 {
     const gulong request = umockdev_ioctl_client_get_request(client);
     UMockdevIoctlData* argument = umockdev_ioctl_client_get_arg(client);

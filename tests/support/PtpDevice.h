@@ -23,7 +23,7 @@ public:
     {
         bool isPhone;
         bool hasPartialReads;
-        const char* name() const { return isPhone ? "Phone" : "Shooter"; }
+        const char* Name() const { return isPhone ? "Phone" : "Shooter"; }
     };
     struct Object
     {
@@ -39,10 +39,10 @@ public:
     ~PtpDevice();
 
     /// Adds an object below \a parent and gives its number.
-    quint32 add(quint32 parent, const QString& name, quint64 size, bool isProtected = false);
-    quint32 addFolder(quint32 parent, const QString& name);
-    bool has(quint32 object);
-    void unplug();
+    quint32 Add(quint32 parent, const QString& name, quint64 size, bool isProtected = false);
+    quint32 AddFolder(quint32 parent, const QString& name);
+    bool Has(quint32 object);
+    void Unplug();
 
     /// Bytes from \a offset on of every object: eight bytes at a time tell where they stand.
     static QByteArray Content(quint64 offset, quint32 size);
@@ -60,7 +60,7 @@ public:
     std::atomic<int> wholeReads{0}, partialReads{0};
 
     /// Answers one request to the device file; for the emulation.
-    bool handle(_UMockdevIoctlClient* client);
+    bool Handle(_UMockdevIoctlClient* client);
 
 private:
     // One transfer to the host: a header, then content of an object.

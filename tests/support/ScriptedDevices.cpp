@@ -10,8 +10,8 @@ namespace Scripted {
 
 DeviceScript& DeviceScript::Get()
 {
-    static DeviceScript script;
-    return script;
+    static DeviceScript s_script;
+    return s_script;
 }
 
 void DeviceScript::Reset()
@@ -57,11 +57,11 @@ struct Service : Object<Interfaces...>
     template <typename... Arguments>
     HRESULT Step(const char* operation, const Arguments&... arguments)
     {
-        constexpr auto NotConnected = static_cast<HRESULT>(0x8007048Fu);
+        constexpr auto notConnected = static_cast<HRESULT>(0x8007048Fu);
         int& left = DeviceScript::Get().stepsUntilVanished;
         const HRESULT status = this->Call(operation, arguments...);
         if (left == 0)
-            return NotConnected;
+            return notConnected;
         left -= left > 0 ? 1 : 0;
         return status;
     }
@@ -370,7 +370,7 @@ struct DeviceClassFactory : Object<IClassFactory>
     {
         *out = nullptr;
         const HRESULT status = Call("Create");
-        return status == S_OK ? MakeCom<Class>(name())->QueryInterface(iid, out) : status;
+        return status == S_OK ? MakeCom<Class>(Name())->QueryInterface(iid, out) : status;
     }
     NOT_SCRIPTED(LockServer(BOOL))
 };

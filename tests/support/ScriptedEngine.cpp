@@ -21,8 +21,8 @@ Named::~Named()
 
 Script& Script::Get()
 {
-    static Script script;
-    return script;
+    static Script s_script;
+    return s_script;
 }
 
 void Script::Reset()

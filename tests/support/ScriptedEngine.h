@@ -19,7 +19,7 @@ namespace Scripted {
 class Named
 {
 public:
-    const QString& name() const { return m_name; }
+    const QString& Name() const { return m_name; }
 
 protected:
     explicit Named(const QString& name);
@@ -74,7 +74,7 @@ QString Text(const T& value)
         return QString::fromWCharArray(value);
     } else if constexpr (std::is_pointer_v<T>) {
         const auto* named = dynamic_cast<const Named*>(value);
-        return named ? named->name() : QStringLiteral("null");
+        return named ? named->Name() : QStringLiteral("null");
     } else if constexpr (std::is_constructible_v<QVariant, T>) {
         return QVariant(value).toString();
     } else {
@@ -165,7 +165,7 @@ protected:
     template <typename... Arguments>
     HRESULT Call(const char* operation, const Arguments&... arguments)
     {
-        return Script::Get().Record(name() + '.' + operation,
+        return Script::Get().Record(Name() + '.' + operation,
                                     QStringList{Text(arguments)...}.join(", "));
     }
     /// As Call(); on success sets \a out.
@@ -191,7 +191,7 @@ protected:
         const HRESULT status = Call(operation, arguments...);
         if (FAILED(status))
             return status;
-        auto object = Script::Get().results.value(name() + '.' + operation).template query<T>();
+        auto object = Script::Get().results.value(Name() + '.' + operation).template query<T>();
         *out = object.detach();
         return *out ? status : E_FAIL;
     }

@@ -12,10 +12,10 @@
 namespace {
 
 // The code: 16 blocks in two rows, the number in 12 bits and a check in 4, the highest bit first.
-constexpr int CodeColumns = 8;
-constexpr int CodeRows = 2;
-constexpr int NumberBits = 12;
-constexpr int TimeoutMs = 120000;
+constexpr int kCodeColumns = 8;
+constexpr int kCodeRows = 2;
+constexpr int kNumberBits = 12;
+constexpr int kTimeoutMs = 120000;
 
 int CheckOf(int number)
 {
@@ -24,19 +24,19 @@ int CheckOf(int number)
 
 QRect BlockRect(int block, const QSize& size)
 {
-    const int column = block % CodeColumns;
-    const int row = block / CodeColumns;
+    const int column = block % kCodeColumns;
+    const int row = block / kCodeColumns;
     const int top = size.height() * row / 3;
     const int bottom = size.height() * (row + 1) / 3;
-    const int left = size.width() * column / CodeColumns;
-    const int right = size.width() * (column + 1) / CodeColumns;
+    const int left = size.width() * column / kCodeColumns;
+    const int right = size.width() * (column + 1) / kCodeColumns;
     return {left, top, right - left, bottom - top};
 }
 
 // Seven segments: top, upper right, lower right, bottom, lower left, upper left, middle.
 void PaintDigit(QPainter& painter, int digit, const QRect& box)
 {
-    static constexpr int Segments[10] = {0x3f, 0x06, 0x5b, 0x4f, 0x66,
+    static constexpr int segments[10] = {0x3f, 0x06, 0x5b, 0x4f, 0x66,
                                          0x6d, 0x7d, 0x07, 0x7f, 0x6f};
     const int t = std::max(1, box.height() / 8);
     const int half = box.height() / 2;
@@ -48,7 +48,7 @@ void PaintDigit(QPainter& painter, int digit, const QRect& box)
                             {box.x(), box.y(), t, half},
                             {box.x(), box.y() + half - t / 2, box.width(), t}};
     for (int i = 0; i < 7; ++i) {
-        if ((Segments[digit] >> i & 1) != 0)
+        if ((segments[digit] >> i & 1) != 0)
             painter.fillRect(parts[i], Qt::white);
     }
 }
@@ -134,7 +134,7 @@ QString RunFfmpeg(const QStringList& arguments, const QByteArray& input)
         return "the ffmpeg program does not start";
     process.write(input);
     process.closeWriteChannel();
-    if (!process.waitForFinished(TimeoutMs))
+    if (!process.waitForFinished(kTimeoutMs))
         return "the ffmpeg program does not end";
     if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
         return {};
@@ -177,9 +177,9 @@ QImage PaintFrameNumber(int number, const QSize& size)
     QImage picture(size, QImage::Format_ARGB32);
     picture.fill(QColor(40, 60, 140));
     QPainter painter(&picture);
-    const int code = number << (CodeColumns * CodeRows - NumberBits) | CheckOf(number);
-    for (int i = 0; i < CodeColumns * CodeRows; ++i) {
-        const bool isSet = (code >> (CodeColumns * CodeRows - 1 - i) & 1) != 0;
+    const int code = number << (kCodeColumns * kCodeRows - kNumberBits) | CheckOf(number);
+    for (int i = 0; i < kCodeColumns * kCodeRows; ++i) {
+        const bool isSet = (code >> (kCodeColumns * kCodeRows - 1 - i) & 1) != 0;
         painter.fillRect(BlockRect(i, size), isSet ? Qt::white : Qt::black);
     }
     const int digitHeight = size.height() / 4;
@@ -198,7 +198,7 @@ int ReadFrameNumber(const QImage& picture)
     if (picture.isNull())
         return -1;
     int code = 0;
-    for (int i = 0; i < CodeColumns * CodeRows; ++i) {
+    for (int i = 0; i < kCodeColumns * kCodeRows; ++i) {
         const QRect block = BlockRect(i, picture.size());
         // The middle of a block, clear of its blurred borders.
         const QRect middle = block.adjusted(block.width() / 3, block.height() / 3,
@@ -213,6 +213,6 @@ int ReadFrameNumber(const QImage& picture)
             return -1;
         code = code << 1 | (grey >= 165 ? 1 : 0);
     }
-    const int number = code >> (CodeColumns * CodeRows - NumberBits);
+    const int number = code >> (kCodeColumns * kCodeRows - kNumberBits);
     return CheckOf(number) == (code & 15) ? number : -1;
 }
