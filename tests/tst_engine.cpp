@@ -195,9 +195,9 @@ private slots:
             const bool isClip = position <= 0 && out >= in;
             QCOMPARE(shown.pixelColor(9, 9), QColor(isClip ? Qt::red : Qt::black));
         }
-                    Sound(project, 0);
-                    project->SetRenderFrameRate({1000, 1});
-                    project->SetRenderFrameRate({1, 1000});
+        Sound(project, 0);
+        project->SetRenderFrameRate({1000, 1});
+        project->SetRenderFrameRate({1, 1000});
         QVERIFY(Save(project, Path("huge.mlt")));
         QVERIFY(Load(Path("huge.mlt")));
     }
@@ -426,8 +426,8 @@ private slots:
         QCOMPARE(encoder->Open(project.get(), path.toStdWString().c_str(), nullptr), S_OK);
         int last = -1;
         const auto note = [](int percent, void* data) {
-                         *static_cast<int*>(data) = percent;
-                         return 0;
+            *static_cast<int*>(data) = percent;
+            return 0;
         };
         QCOMPARE(encoder->Encode(note, &last), S_OK);
         QCOMPARE(last, 100);
