@@ -241,7 +241,8 @@ private slots:
         QRandomGenerator random(38);
         const ExactArray text(RandomArray(random, size));
         std::vector<char> expected(size);
-        const QByteArray expectedChain = Run(AesCipher::kPortable, transform, text, expected.data());
+        const QByteArray expectedChain =
+            Run(AesCipher::kPortable, transform, text, expected.data());
 
         for (int i = 0; AesCipher::Available(i) != &AesCipher::kPortable; ++i) {
             const Implementation& cipher = *AesCipher::Available(i);

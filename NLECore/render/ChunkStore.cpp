@@ -103,7 +103,7 @@ bool ChunkStore::Prepare()
         return false;
     m_guarded.isFolderOurs =
         m_guarded.isFolderOurs || QDir(m_folder).isEmpty(QDir::AllEntries | QDir::Hidden |
-                                                              QDir::System | QDir::NoDotAndDotDot);
+                                                         QDir::System | QDir::NoDotAndDotDot);
     if (!QTemporaryFile(PathOf({}) + QLatin1String(".XXXXXX")).open())
         return false;
     m_guarded.listedState = kUnknownState;
