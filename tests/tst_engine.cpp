@@ -537,6 +537,35 @@ private slots:
             QCOMPARE(Deviation(Loudness(sound[0]), kToneLoudness, 0.05), QString());
     }
 
+    /// Players go by the size of a picture where the codec does not tell its colour matrix.
+    void encodedColoursComeBack_data()
+    {
+        QTest::addColumn<QString>("suffix");
+        QTest::addColumn<QSize>("size");
+        for (const char* suffix : {"mp4", "avi", "flv", "mpg", "ogv", "ts", "webm", "wmv"}) {
+            QTest::addRow("small, %s", suffix) << QString(suffix) << QSize(320, 180);
+            QTest::addRow("high definition, %s", suffix) << QString(suffix) << QSize(1280, 720);
+        }
+    }
+
+    void encodedColoursComeBack()
+    {
+        QFETCH(const QString, suffix);
+        QFETCH(const QSize, size);
+        const QColor colour(200, 40, 60);
+        const QString path = Path(qPrintable("colours." + suffix));
+        const NLEEncodeSettings settings = {
+            {size.width(), size.height()}, {25, 1}, {}, 2, 48000, 2, 192000};
+        const auto encoder = provider->CreateMediaEncoder();
+        const Node clip = Trimmed(Colour(colour, size), 0, 9);
+        QCOMPARE(encoder->Open(clip.get(), path.toStdWString().c_str(), &settings), S_OK);
+        QCOMPARE(encoder->Encode(nullptr, nullptr), S_OK);
+        const QColor shown = ColourAt(EngineFixture::Media(path), 0);
+        QCOMPARE(Deviation(shown.red(), colour.red(), 5), QString());
+        QCOMPARE(Deviation(shown.green(), colour.green(), 5), QString());
+        QCOMPARE(Deviation(shown.blue(), colour.blue(), 5), QString());
+    }
+
     void relinkTakesAnotherFile()
     {
         const Node clip = Media();

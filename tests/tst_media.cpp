@@ -174,9 +174,22 @@ class tst_Media : public QObject, private MediaFixture
         variable.isLeftOut = [](int frame) { return frame % 20 > 4 && frame % 20 < 13; };
         row("variable rate in MP4", "vfr.mp4", variable);
         row("variable rate in MKV", "vfr.mkv", variable);
+        variable.isLeftOut = [](int frame) { return frame > 0 && frame < 170; };
+        row("a still screen, then motion in MP4", "screen.mp4", variable);
+        variable.isLeftOut = [](int frame) { return frame % 10 > 0 && frame % 10 < 8; };
+        variable.rateNum = 60;
+        row("a grid of 60 with 18 pictures a second in MP4", "grid.mp4", variable);
+        row("a grid of 60 with 18 pictures a second in MKV", "grid.mkv", variable);
+        variable.rateNum = 20;
+        variable.bframes = 0;
+        variable.codec = "gif";
+        row("GIF of a few pictures", "few.gif", variable);
 
         TestClip other = SmallClip(120);
         other.codec = "mpeg4";
+        other.extra = QStringList{"-seekable", "0"};
+        row("AVI whose head was not written anew", "streamed.avi", other);
+        other.extra.clear();
         other.bframes = 2;
         row("AVI without times of display", "b.avi", other);
         other.codec = "mpeg2video";
@@ -429,6 +442,7 @@ private slots:
         row("PNG of another name", "png", "alpha.mp4");
         row("JPEG", "jpg", "photo %d.jpg");
         row("GIF of one picture", "gif", "one.gif");
+        row("AVIF", "avif", "one.avif");
     }
 
     void stillPicture()

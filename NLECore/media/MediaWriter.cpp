@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <new>
+#include <random>
 
 extern "C" {
 #include <libavutil/audio_fifo.h>
@@ -153,6 +154,8 @@ bool TellsColours(AVCodecID id)
 /// What a trial writes: enough for a reader to know the container by.
 constexpr int kTrialPictures = 3;
 constexpr double kTrialSeconds = 0.5;
+/// Side of the noise in a trial's pictures, in pixels.
+constexpr int kTrialNoise = 128;
 
 /// A folder beside a file, removed with what is in it.
 class TrialFolder
@@ -180,15 +183,26 @@ private:
     QTemporaryDir m_folder;
 };
 
+/// Grey with a corner of noise. Equal pictures would make some containers a still picture, and
+/// smooth ones a transport stream too short to be known for one.
+QImage TrialPicture(const QSize& size, int number)
+{
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(QColor(number * 50, number * 50, number * 50));
+    std::minstd_rand noise(unsigned(number) + 1);
+    for (int y = 0; y < std::min(kTrialNoise, size.height()); ++y) {
+        for (int x = 0; x < std::min(kTrialNoise, size.width()); ++x)
+            picture.setPixelColor(x, y, noise() % 2 == 0 ? Qt::black : Qt::white);
+    }
+    return picture;
+}
+
 bool WriteTrial(MediaWriter& writer)
 {
     const WriterSettings& settings = writer.Settings();
     if (writer.HasPicture()) {
-        QImage picture(settings.size, QImage::Format_RGB32);
         for (int i = 0; i < kTrialPictures; ++i) {
-            // Equal ones would make some containers a still picture.
-            picture.fill(QColor(i * 50, i * 50, i * 50));
-            if (!writer.WritePicture(picture))
+            if (!writer.WritePicture(TrialPicture(settings.size, i)))
                 return false;
         }
     }
