@@ -134,7 +134,7 @@ struct NLEStreamInfo
     std::int32_t width;        ///< as displayed, after rotation, in pixels
     std::int32_t height;       ///< as displayed, after rotation, in pixels
     std::int32_t rotation;     ///< clockwise degrees that the file asks for: 0, 90, 180 or 270
-    NLERational frameRate;     ///< pictures a second
+    NLERational frameRate;     ///< frames a second: the grid on which no picture is lost
     NLERational pixelAspect;   ///< width of a pixel over its height
     std::int32_t sampleRate;   ///< samples a second and channel
     std::int32_t channels;     ///< audio channels
@@ -143,6 +143,8 @@ struct NLEStreamInfo
     std::int64_t bitRate;      ///< bits a second, 0 when unknown
     std::int64_t duration;     ///< microseconds, 0 when unknown
     char codecName[32];        ///< short name of the codec, for example "h264"
+    NLERational meanFrameRate; ///< pictures a second on average; below frameRate where the pictures
+                               ///< stand at a variable rate
 };
 
 /// Memory that a video frame lives in.

@@ -21,7 +21,7 @@ namespace {
 
 // On Windows a library keeps the operators that it was linked with.
 #ifdef Q_OS_WIN
-constexpr bool SeesAllocations = false;
+constexpr bool kSeesAllocations = false;
 #else
 constexpr bool kSeesAllocations = true;
 #endif

@@ -431,6 +431,17 @@ private slots:
         QCOMPARE(decoder->Position(), count - 1);
     }
 
+    void meanRateIsToldBesideTheGrid()
+    {
+        TestClip clip = SmallClip(200);
+        clip.rateNum = 60;
+        clip.isLeftOut = [](int frame) { return frame % 10 > 0 && frame % 10 < 8; };
+        const auto info = Make("grid.mp4", clip);
+        QVERIFY(info);
+        const double mean = NLECommon::ToDouble(info->Stream(info->videoStream)->meanRate);
+        QCOMPARE(Deviation(mean, 18, 1), QString());
+    }
+
     void stillPicture_data()
     {
         QTest::addColumn<QString>("suffix"); // names the format

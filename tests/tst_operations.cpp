@@ -41,7 +41,8 @@ bool AnswerDialog(QString prompt, const QString& folder, bool accept)
 {
     const HWND dialog = FindWindowW(L"#32770", nullptr);
     EnumChildWindows(dialog, FindPrompt, reinterpret_cast<LPARAM>(&prompt));
-    if (!dialog || !prompt.isEmpty())
+    // Its folders are filled in before it shows.
+    if (!dialog || !prompt.isEmpty() || !IsWindowVisible(dialog))
         return false;
     const std::wstring path = QDir::toNativeSeparators(folder).toStdWString();
     SendMessageW(dialog, BFFM_SETSELECTIONW, TRUE, reinterpret_cast<LPARAM>(path.c_str()));

@@ -194,6 +194,8 @@ void DescribePicture(const MediaFile& file, const AVStream* stream, const QStrin
     const FrameGrid grid = DeclaredGrid(stream);
     result->frameRate = {grid.rate.num, grid.rate.den};
     result->constantRate = grid.isConstant;
+    if (IsValid(stream->avg_frame_rate))
+        result->meanRate = {stream->avg_frame_rate.num, stream->avg_frame_rate.den};
 }
 
 MediaStream Describe(const MediaFile& file, const AVStream* stream, const QString& path)

@@ -25,7 +25,10 @@ struct MediaStream
     /// The coded picture is mirrored left to right before it is turned.
     bool mirrored = false;
     bool hasAlpha = false;
+    /// The grid on which no picture is lost.
     NLERational frameRate = {0, 1};
+    /// Pictures a second on average; 0/1 when unknown.
+    NLERational meanRate = {0, 1};
     /// Width to height of one displayed pixel; 1/1 when the file does not say.
     NLERational sampleAspect = {1, 1};
     int sampleRate = 0;

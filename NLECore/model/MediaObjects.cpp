@@ -20,6 +20,7 @@ NLEStreamInfo ToEngine(const MediaStream& stream)
     info.height = stream.height;
     info.rotation = stream.rotation;
     info.frameRate = stream.frameRate;
+    info.meanFrameRate = stream.meanRate;
     info.pixelAspect = stream.sampleAspect;
     info.sampleRate = stream.sampleRate;
     info.channels = stream.channels;
