@@ -103,7 +103,7 @@ private:
 
     static QString Take(wchar_t* text)
     {
-        const QString copy = QString::fromWCharArray(text);
+        QString copy = QString::fromWCharArray(text);
         SysFreeString(text);
         return copy;
     }

@@ -23,7 +23,7 @@ constexpr std::int64_t kTimeGrain = 2000;
 
 /// How long what another process has written is not removed for new chunks, in milliseconds. Two
 /// that fill one quota would else remove each other's work for as long as they run.
-constexpr std::int64_t kOthersTime = 5 * 60 * 1000;
+constexpr std::int64_t kOthersTime = std::int64_t(5) * 60 * 1000;
 
 /// Name of a chunk, or of one that is or was being written.
 const QRegularExpression& NamePattern()
