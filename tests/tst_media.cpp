@@ -603,7 +603,8 @@ private slots:
         const std::vector<float> whole = ReadSound(*decoder);
         QVERIFY(!whole.empty());
         // The third second, both channels by turns.
-        const std::vector<float> tone(whole.begin() + 2 * 2 * kRate, whole.begin() + 2 * 3 * kRate);
+        const auto thirdSecond = whole.begin() + std::ptrdiff_t(2) * 2 * kRate;
+        const std::vector<float> tone(thirdSecond, thirdSecond + std::ptrdiff_t(2) * kRate);
         QCOMPARE(Deviation(PeakOf(tone), 0.5, 0.03), QString());
         const size_t period = size_t(2 * kRate / kToneHz);
         QVERIFY(Difference(tone.data(), &tone[period], 2) < 0.03F);
@@ -619,7 +620,7 @@ private slots:
         const std::vector<float> whole = ReadSound(*decoder);
         QVERIFY(!whole.empty());
         std::mt19937 generator(5);
-        std::vector<float> part(2 * kPartFrames);
+        std::vector<float> part(std::size_t(2) * kPartFrames);
         for (int i = 0; i < 12; ++i) {
             const int first = int(generator() % unsigned(kSoundFrames - kPartFrames));
             QCOMPARE(decoder->Read(first, kPartFrames, kRate, 2, part.data()), kPartFrames);
@@ -636,8 +637,9 @@ private slots:
         const auto decoder = AudioDecoder::Open(info, info->audioStream, nullptr);
         const std::vector<float> whole = ReadSound(*decoder);
         QVERIFY(!whole.empty());
-        std::vector<float> part(2 * kPartFrames, 1.0F);
-        QCOMPARE(decoder->Read(-5 * kPartFrames, kPartFrames, kRate, 2, part.data()), 0);
+        std::vector<float> part(std::size_t(2) * kPartFrames, 1.0F);
+        QCOMPARE(decoder->Read(std::int64_t(-5) * kPartFrames, kPartFrames, kRate, 2, part.data()),
+                 0);
         QCOMPARE(PeakOf(part), 0.0F);
         part.assign(part.size(), 1.0F);
         QCOMPARE(decoder->Read(kSoundFrames + kRate, kPartFrames, kRate, 2, part.data()), 0);
@@ -686,7 +688,7 @@ private slots:
         QCOMPARE(decoder->Read(0, kRate, kRate, 1, samples.data()), kRate);
         const auto onset =
             std::find_if(samples.begin(), samples.end(), [](float s) { return s > 0.1F; });
-        QCOMPARE(Deviation(int(onset - samples.begin()), kRate / 2, 99), QString());
+        QCOMPARE(Deviation(int(onset - samples.begin()), kRate / 2.0, 99), QString());
         const auto pictures = FrameDecoder::Open(late, late->videoStream, nullptr);
         QCOMPARE(ReadFrameNumber(pictures->Picture(0, kThumbnail)), 0);
     }
@@ -698,7 +700,8 @@ private slots:
         const auto info = Make("wave.wav", clip);
         QVERIFY(info);
         const auto decoder = AudioDecoder::Open(info, 0, nullptr);
-        const std::vector<WavePeak> peaks = ReadWaveForm(*decoder, 0, 2 * kRate, kRate, 2, 10);
+        const std::vector<WavePeak> peaks =
+            ReadWaveForm(*decoder, 0, std::int64_t(2) * kRate, kRate, 2, 10);
         QCOMPARE(peaks.size(), size_t(20));
         for (size_t i = 0; i < peaks.size(); ++i) {
             const double level = i < 10 ? 0 : clip.toneLevel;

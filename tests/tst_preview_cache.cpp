@@ -257,7 +257,7 @@ private slots:
         Cache other(second, m_folder, size >> 20);
         QCOMPARE(other.Render(), NLECache_Finished);
         const Frames cached = (cache.Needed(), cache.Stat().first);
-        QVERIFY(CountOf(cached) > 0 && CountOf(cached) < 40 * kMediaFrames);
+        QVERIFY(CountOf(cached) > 0 && CountOf(cached) < 40L * kMediaFrames);
         const auto has = [&](int frame) {
             return std::any_of(cached.begin(), cached.end(), [frame](const auto& part) {
                 return part.first <= frame && frame < part.second;
@@ -371,7 +371,7 @@ private slots:
         const QStringList names = Files(m_folder, "*.nlechunk");
         QVERIFY(QFile::remove(m_folder + '/' + names[0]));
         const long needed = CountOf(cache.Needed());
-        QVERIFY(needed > 0 && needed < 2 * kMediaFrames);
+        QVERIFY(needed > 0 && needed < 2L * kMediaFrames);
         QCOMPARE(cache.Render(), NLECache_Finished);
         QCOMPARE(cache.Needed(), Frames());
     }
@@ -426,7 +426,7 @@ private slots:
         const Node loaded = Load(project);
         Cache cache(loaded, m_folder);
         const long needed = CountOf(cache.Needed());
-        QVERIFY(needed > 0 && needed < kLongClips * kMediaFrames);
+        QVERIFY(needed > 0 && needed < long(kLongClips) * kMediaFrames);
         QCOMPARE(Files(m_folder, "*.nlechunk*"), whole);
         QVERIFY(Likeness(loaded, cache.Stat().first) >= kAlike);
         QCOMPARE(cache.Render(), NLECache_Finished);
