@@ -70,10 +70,25 @@ struct INLEDocumentSerialize : IUnknown
         0x7522CF7E, 0xAF8D, 0x48D0, {0x8B, 0x19, 0xB9, 0xD5, 0x7D, 0x04, 0x93, 0xCB}};
 
     /// Writes the timeline under a temporary name and renames it: the file is the old or the new
-    /// one.
+    /// one. The suffix chooses the format, in upper or lower case.
     virtual HRESULT Save(INLETimeline* timeline, const wchar_t* path) = 0;
-    /// Media that is missing becomes an offline clip.
+    /// Media that is missing becomes an offline clip. The suffix chooses the format, as in Save().
     virtual HRESULT Load(const wchar_t* path, INLETimeline** timeline) = 0;
+};
+
+/// What a document held that its timeline lacks, or plays otherwise than the program that wrote it.
+/// The serializers of the open engine answer it; it tells of the last document that was loaded,
+/// whether it opened or not.
+struct INLEDocumentReport : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x079D18BF, 0x0E3A, 0x4A5C, {0x82, 0x26, 0x64, 0x02, 0xC0, 0x5C, 0xB6, 0x76}};
+
+    virtual HRESULT GetRemarkCount(int* count) = 0;
+    /// The remark \a index of 0 to count - 1: \a code is an NLEDocumentRemark, the text is English
+    /// and names the part of the document; it is cut to \a capacity characters with the
+    /// terminating zero. E_INVALIDARG for an index that names none.
+    virtual HRESULT GetRemark(int index, int* code, wchar_t* text, int capacity) = 0;
 };
 
 /// Settings of the engine itself.

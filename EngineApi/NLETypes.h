@@ -115,6 +115,20 @@ enum NLEStreamType : std::int32_t
     NLEStream_Audio = 3
 };
 
+/// What a remark on a document is about; see INLEDocumentReport. Codes keep their meaning.
+enum NLEDocumentRemark : std::int32_t
+{
+    NLERemark_Effect = 1,     ///< an effect was left out
+    NLERemark_Transition = 2, ///< a transition was left out; the clips are where they were
+    NLERemark_Service = 3,    ///< a clip of an unknown kind: an empty picture keeps its place
+    NLERemark_Reversed = 4,   ///< plays backwards there, forwards here
+    NLERemark_Speed = 5,      ///< a change of speed was left out or is only close
+    NLERemark_Missing = 6,    ///< a file is not there; its clip is offline
+    NLERemark_Structure = 7,  ///< a reference to nothing, or more than can be taken
+    NLERemark_Marker = 8,     ///< markers are kept as text only
+    NLERemark_Level = 9       ///< a volume, balance or opacity is only close
+};
+
 /// Kind codes of media files.
 enum NLEMediaKind : std::int32_t
 {
