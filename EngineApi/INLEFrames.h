@@ -115,16 +115,17 @@ struct INLEMediaEncoder : IUnknown
     static constexpr _GUID Iid = {
         0x057B880A, 0x6C75, 0x49BF, {0xB2, 0x3E, 0xF4, 0x10, 0x34, 0x5B, 0x6E, 0xF3}};
 
-    /// Takes a snapshot of the timeline. The container follows from the file's suffix. \a settings
-    /// may be null. A short trial beside \a path finds out whether the file can be written, and
-    /// the nearest sample rate and channels where those asked for are not taken; a file that is
-    /// there stays as it is. E_NOTIMPL for a suffix that names no container of a single file,
-    /// E_ACCESSDENIED where no file can be made, E_INVALIDARG for settings that codec or container
-    /// do not take and when there is nothing to write. The open engine logs the reason.
+    /// Takes a snapshot of the timeline. The container follows from the file's suffix, unless
+    /// INLEEncodeOptions (INLEEncode.h) names another one. \a settings may be null. A short trial
+    /// beside \a path finds out whether the file can be written, and the nearest sample rate and
+    /// channels where those asked for are not taken; a file that is there stays as it is. E_NOTIMPL
+    /// for a suffix that names no container of a single file, E_ACCESSDENIED where no file can be
+    /// made, E_INVALIDARG for settings that codec or container do not take and when there is
+    /// nothing to write. The open engine logs the reason.
     virtual HRESULT Open(INLETimeline* timeline, const wchar_t* path,
                          const NLEEncodeSettings* settings) = 0;
-    /// Encodes on the calling thread. The file is written under a temporary name and renamed when
-    /// it is whole; until then, and after a failure, an older one stays. S_FALSE when the callback
-    /// stopped it. \a callback may be null.
+    /// Returns when the file is whole; \a callback is called on the calling thread. The file is
+    /// written under a temporary name and renamed when it is whole; until then, and after a
+    /// failure, an older one stays. S_FALSE when the callback stopped it. \a callback may be null.
     virtual HRESULT Encode(NLEProgressCallback callback, void* userData) = 0;
 };

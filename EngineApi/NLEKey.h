@@ -40,4 +40,50 @@ inline constexpr const wchar_t* kContext_SmoothScaling = L"kContext_SmoothScalin
 inline constexpr const wchar_t* kContext_BackgroundColor = L"kContext_BackgroundColor";
 } // namespace Context
 
+/// How a file is encoded; INLEEncodeOptions takes a bag of them. A key that is not set leaves the
+/// choice to the engine, which follows from container and codec.
+namespace Encode {
+/// Text: short name of the container in the catalogue, for example "mov"; else the file's suffix
+/// chooses.
+inline constexpr const wchar_t* kContainer = L"kEncode_Container";
+/// Text: short name of the codec of pictures in the catalogue, "none" for a file without pictures.
+inline constexpr const wchar_t* kVideoCodec = L"kEncode_VideoCodec";
+/// Text: short name of the codec of sound in the catalogue, "none" for a file without sound.
+inline constexpr const wchar_t* kAudioCodec = L"kEncode_AudioCodec";
+/// Integer, one of NLERateControl.
+inline constexpr const wchar_t* kRateControl = L"kEncode_RateControl";
+/// Integer: constant rate factor, 1 (best) to 51, on the scale of H.264 whatever the codec; counts
+/// where NLEEncodeSettings::quality is 0.
+inline constexpr const wchar_t* kQuality = L"kEncode_Quality";
+/// Integer, bits a second: mean rate of the pictures.
+inline constexpr const wchar_t* kVideoBitRate = L"kEncode_VideoBitRate";
+/// Integer, bits a second: highest rate of the pictures, measured over kBufferSize.
+inline constexpr const wchar_t* kMaxBitRate = L"kEncode_MaxBitRate";
+/// Integer, bits: size of the decoder's buffer that kMaxBitRate counts for; a second of it by
+/// default.
+inline constexpr const wchar_t* kBufferSize = L"kEncode_BufferSize";
+/// Text: one of the codec's profiles.
+inline constexpr const wchar_t* kProfile = L"kEncode_Profile";
+/// Text: one of the codec's presets of speed against size.
+inline constexpr const wchar_t* kSpeed = L"kEncode_Speed";
+/// Integer: frames from one key frame to the next at the most, 1 for key frames alone.
+inline constexpr const wchar_t* kGop = L"kEncode_Gop";
+/// Integer: pictures predicted from both sides between two others at the most, 0 to 16.
+inline constexpr const wchar_t* kBFrames = L"kEncode_BFrames";
+/// Text: one of the codec's pixel formats; it decides over kBitDepth and kAlpha.
+inline constexpr const wchar_t* kPixelFormat = L"kEncode_PixelFormat";
+/// Integer: bits of a component.
+inline constexpr const wchar_t* kBitDepth = L"kEncode_BitDepth";
+/// Integer 1: the file keeps what is transparent. What shows where no clip does is left out then.
+inline constexpr const wchar_t* kAlpha = L"kEncode_Alpha";
+/// Integer, an NLEFieldOrder.
+inline constexpr const wchar_t* kFieldOrder = L"kEncode_FieldOrder";
+/// Text: one of the codec's sample formats.
+inline constexpr const wchar_t* kSampleFormat = L"kEncode_SampleFormat";
+/// Integer, bits a second of the sound; counts where NLEEncodeSettings::audioBitRate is 0.
+inline constexpr const wchar_t* kAudioBitRate = L"kEncode_AudioBitRate";
+/// Integer: threads of the codec of pictures; the codec chooses by default.
+inline constexpr const wchar_t* kThreads = L"kEncode_Threads";
+} // namespace Encode
+
 } // namespace NLEKey
