@@ -38,6 +38,8 @@ inline constexpr const wchar_t* kContext_PreviewScale = L"kContext_PreviewScale"
 inline constexpr const wchar_t* kContext_SmoothScaling = L"kContext_SmoothScaling";
 /// Integer 0xAARRGGBB: background of a project that has no kRender_BackgroundColor.
 inline constexpr const wchar_t* kContext_BackgroundColor = L"kContext_BackgroundColor";
+/// Integer, 8 or 10: bits of a colour component that frames are drawn and encoded with.
+inline constexpr const wchar_t* kContext_BitDepth = L"kContext_BitDepth";
 } // namespace Context
 
 /// How a file is encoded; INLEEncodeOptions takes a bag of them. A key that is not set leaves the

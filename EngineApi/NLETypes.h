@@ -159,6 +159,11 @@ struct NLEStreamInfo
     char codecName[32];        ///< short name of the codec, for example "h264"
     NLERational meanFrameRate; ///< pictures a second on average; below frameRate where the pictures
                                ///< stand at a variable rate
+    std::int32_t transfer;     ///< transfer characteristics by ITU-T H.273; 2: the file does not say
+    std::int32_t primaries;    ///< colour primaries by ITU-T H.273; 2: the file does not say
+    std::int32_t matrix;       ///< matrix coefficients by ITU-T H.273; 2: the file does not say
+    std::int32_t colorRange;   ///< 1 limited, 2 full; 0: the file does not say
+    std::int32_t bitDepth;     ///< bits of a colour component; 0 when unknown
 };
 
 /// Memory that a video frame lives in.
