@@ -58,7 +58,8 @@ struct INLEFrameExtractor : IUnknown
     virtual HRESULT Open(INLETimeline* timeline, int flags) = 0;
     /// Renders frame \a frame into a prepared video frame and sets its valid rectangle. For a
     /// source the number counts from the file's first frame, else from the node's frame 0. E_FAIL
-    /// outside of the node's total range and when the media cannot be decoded.
+    /// outside of the node's total range, when the media cannot be decoded, and where the sound of
+    /// a source goes on after its last picture.
     virtual HRESULT Extract(int frame, INLEVideoFrame* picture) = 0;
     /// Fills an audio frame with the sound that starts at frame \a frame.
     virtual HRESULT ExtractAudio(int frame, INLEAudioFrame* sound) = 0;

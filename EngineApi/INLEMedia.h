@@ -15,8 +15,8 @@ struct INLEMediaInfo : IUnknown
     virtual HRESULT GetStreamCount(std::uint32_t* count) = 0;
     /// E_INVALIDARG past the last stream.
     virtual HRESULT GetStream(std::uint32_t index, NLEStreamInfo* stream) = 0;
-    /// Length in frames and frames a second; 1 at 25 for a still picture, and counted at 25 frames
-    /// a second for sound alone.
+    /// Frames that have a picture, and frames a second; 1 at 25 for a still picture, and counted at
+    /// 25 frames a second for sound alone. A clip is longer where the sound of the file is.
     virtual HRESULT GetFrameCountAndRate(std::uint32_t* count, NLERational* rate) = 0;
     /// Writes at most \a capacity characters with the terminating zero.
     virtual HRESULT GetFilePath(wchar_t* buffer, int capacity) = 0;

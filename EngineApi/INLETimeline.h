@@ -103,7 +103,8 @@ struct INLETimelineSource : IUnknown
     /// Points the node at another file without touching its range; fails as a relink does.
     virtual HRESULT SetFilePath(const wchar_t* path) = 0;
     virtual HRESULT GetMediaInfo(INLEMediaInfo** info) = 0;
-    /// Index of the stream that is shown or heard; NLENoStream when there is none.
+    /// Index of the stream that is shown or heard, of several that are heard the first one;
+    /// NLENoStream when there is none. The keys of NLEKey::Source choose them.
     virtual HRESULT GetVideoStreamIndex(std::uint32_t* index) = 0;
     virtual HRESULT GetAudioStreamIndex(std::uint32_t* index) = 0;
 };

@@ -30,6 +30,27 @@ inline constexpr const wchar_t* kFreeze_Enabled = L"kFreeze_Enabled";
 inline constexpr const wchar_t* kFreeze_Frame = L"kFreeze_Frame";
 } // namespace Freeze
 
+/// What of a media file a clip shows and sounds, and how its pictures are meant. Only clips of
+/// media have these keys; a value that is not accepted gives E_INVALIDARG and changes nothing. The
+/// trim range stays whatever the file's length is then.
+namespace Source {
+/// Integer: index of the video stream that shows; -1, the preset, is the file's preferred one.
+/// E_INVALIDARG when the file has no such video stream.
+inline constexpr const wchar_t* kVideoStream = L"kSource_VideoStream";
+/// Text: indexes of the audio streams that sound, with commas between them, for example "1,3"; they
+/// are summed. Empty, the preset, is the file's preferred one. E_INVALIDARG when one of them is no
+/// audio stream of the file or stands there twice.
+inline constexpr const wchar_t* kAudioStreams = L"kSource_AudioStreams";
+/// Rational, 1/16 to 16: width of a displayed pixel over its height. 1/1 shows the pixels as
+/// square, 0/1, the preset, as the file says.
+inline constexpr const wchar_t* kPixelAspect = L"kSource_PixelAspect";
+/// Integer, an NLEDeinterlacing.
+inline constexpr const wchar_t* kDeinterlacing = L"kSource_Deinterlacing";
+/// Integer: NLEField_TopFirst or NLEField_BottomFirst in place of what the file says; 0, the
+/// preset, as the file says.
+inline constexpr const wchar_t* kFieldOrder = L"kSource_FieldOrder";
+} // namespace Source
+
 /// Settings of a whole project; its context object holds them.
 namespace Context {
 /// Double, 0.05 to 1: share of the wanted size that frames are drawn at before they are enlarged.

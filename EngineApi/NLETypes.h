@@ -138,18 +138,38 @@ enum NLEMediaKind : std::int32_t
     NLEMedia_Image = 3
 };
 
+/// How the lines of a picture were taken.
+enum NLEFieldOrder : std::int32_t
+{
+    NLEField_Progressive = 0, ///< all at one time
+    NLEField_TopFirst = 1,    ///< the first line and every other one before the rest
+    NLEField_BottomFirst = 2, ///< the second line and every other one before the rest
+    NLEField_Unknown = 3
+};
+
+/// Which pictures of a clip are deinterlaced: drawn as they were at the time of their first field.
+enum NLEDeinterlacing : std::int32_t
+{
+    NLEDeinterlacing_Automatic = 0, ///< those that the file marks as interlaced
+    NLEDeinterlacing_Off = 1,
+    NLEDeinterlacing_Always = 2
+};
+
 /// Stream index that names no stream.
 constexpr std::uint32_t NLENoStream = 0xFFFFFFFFu;
 
 /// One stream of a media file. Fields of the other kind of stream are 0.
+///
+/// Width and height count the pixels that are stored. A clip shows them width * pixelAspect wide
+/// and height high, unless its settings say otherwise.
 struct NLEStreamInfo
 {
     std::int32_t type;         ///< NLEStreamType
-    std::int32_t width;        ///< as displayed, after rotation, in pixels
-    std::int32_t height;       ///< as displayed, after rotation, in pixels
+    std::int32_t width;        ///< after rotation, in stored pixels
+    std::int32_t height;       ///< after rotation, in stored pixels
     std::int32_t rotation;     ///< clockwise degrees that the file asks for: 0, 90, 180 or 270
     NLERational frameRate;     ///< frames a second: the grid on which no picture is lost
-    NLERational pixelAspect;   ///< width of a pixel over its height
+    NLERational pixelAspect;   ///< width of a pixel over its height, after rotation
     std::int32_t sampleRate;   ///< samples a second and channel
     std::int32_t channels;     ///< audio channels
     std::int32_t sampleFormat; ///< sample format, numbered as the decoder reports it
@@ -159,11 +179,12 @@ struct NLEStreamInfo
     char codecName[32];        ///< short name of the codec, for example "h264"
     NLERational meanFrameRate; ///< pictures a second on average; below frameRate where the pictures
                                ///< stand at a variable rate
-    std::int32_t transfer;     ///< transfer characteristics by ITU-T H.273; 2: the file does not say
-    std::int32_t primaries;    ///< colour primaries by ITU-T H.273; 2: the file does not say
-    std::int32_t matrix;       ///< matrix coefficients by ITU-T H.273; 2: the file does not say
-    std::int32_t colorRange;   ///< 1 limited, 2 full; 0: the file does not say
-    std::int32_t bitDepth;     ///< bits of a colour component; 0 when unknown
+    std::int32_t transfer;   ///< transfer characteristics by ITU-T H.273; 2: the file does not say
+    std::int32_t primaries;  ///< colour primaries by ITU-T H.273; 2: the file does not say
+    std::int32_t matrix;     ///< matrix coefficients by ITU-T H.273; 2: the file does not say
+    std::int32_t colorRange; ///< 1 limited, 2 full; 0: the file does not say
+    std::int32_t bitDepth;   ///< bits of a colour component; 0 when unknown
+    std::int32_t fieldOrder; ///< NLEFieldOrder
 };
 
 /// Memory that a video frame lives in.
