@@ -22,6 +22,12 @@ inline constexpr const wchar_t* kScale = L"kSpeed_Scale";
 inline constexpr const wchar_t* kEnabled = L"kSpeed_Enabled";
 } // namespace Speed
 
+namespace Sequence {
+/// Rational, frames a second: how fast the pictures of an image sequence follow each other; 25 when
+/// there is none. Of no effect on other clips.
+inline constexpr const wchar_t* kFramerate = L"kSequence_Framerate";
+} // namespace Sequence
+
 namespace Freeze {
 /// Integer 1 when the clip holds one frame.
 inline constexpr const wchar_t* kFreeze_Enabled = L"kFreeze_Enabled";
