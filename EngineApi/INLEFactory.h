@@ -53,13 +53,16 @@ struct INLETimelineFactory : IUnknown
     virtual HRESULT CreateVirtual(int type, INLETimeline** timeline) = 0;
 };
 
-/// Marks that a file carries.
+/// Marks that a file carries: chapters, tracks of a cue sheet. In order of time.
 struct INLEMarkBook : IUnknown
 {
     static constexpr _GUID Iid = {
         0x0C031E5D, 0x1431, 0x406B, {0xB8, 0x5A, 0xC5, 0x99, 0xAC, 0x27, 0x0A, 0x8B}};
 
     virtual HRESULT GetMarkCount(int* count) = 0;
+    /// \a frame is where the mark begins, counted at the file's own rate, 25 frames a second for
+    /// sound alone. \a name receives at most \a capacity characters with the terminating zero; with
+    /// a capacity of 0 only the frame is given. E_INVALIDARG for an index that names no mark.
     virtual HRESULT GetMark(int index, int* frame, wchar_t* name, int capacity) = 0;
 };
 
@@ -144,6 +147,8 @@ struct INLEFactory : IUnknown
     /// \a sampleCount samples a channel.
     virtual HRESULT CreateAudioFrame(int sampleCount, INLEAudioFrame** frame) = 0;
     virtual HRESULT CreateCodecFromFile(const wchar_t* path, INLECodec** codec) = 0;
+    /// The marks of a media file, or of the media file that a cue sheet is for. A file without
+    /// marks has an empty book; one that cannot be read has none.
     virtual HRESULT CreateMarkBook(const wchar_t* path, INLEMarkBook** book) = 0;
     virtual HRESULT CreateDocumentSerialize(INLEDocumentSerialize** serialize) = 0;
     virtual HRESULT CreateFrameExtractor(INLEFrameExtractor** extractor) = 0;

@@ -91,24 +91,61 @@ struct INLEWaveExtractor : IUnknown
     virtual HRESULT SetSource(INLEMediaInfo* info, std::uint32_t audioStream) = 0;
     /// Lowest and highest sample (-1 to 1, of all channels mixed down to one) of \a count equal
     /// steps of the span from \a start, \a length seconds long. Both arrays hold \a count values.
+    /// An engine may answer from a kept envelope (INLEWaveCache) where a step is long enough.
     virtual HRESULT Extract(double start, double length, int count, float* minima,
                             float* maxima) = 0;
     virtual HRESULT Finish() = 0;
 };
 
-/// Finds the cuts in a clip.
+/// Finds the scenes of a clip: where a cut or a dissolve leads to another picture.
 struct INLESceneSegment : IUnknown
 {
     static constexpr _GUID Iid = {
         0xC06279D2, 0x63EF, 0x4A9C, {0xAD, 0x57, 0x97, 0x8B, 0xEA, 0xA5, 0x38, 0x7C}};
 
+    /// Takes a snapshot of the node and looks from its in point on; the scene that starts there is
+    /// not reported. Opening again begins anew.
     virtual HRESULT Open(INLETimeline* timeline) = 0;
-    /// First frame of the next scene; S_FALSE when there is none.
+    /// First frame of the next scene, counted as the node's trim range is, in rising order; of a
+    /// dissolve, the frame in which the new picture outweighs the old one. S_FALSE when there is
+    /// none. Decodes on the calling thread, no further than it must; releasing the object ends the
+    /// search.
     virtual HRESULT Next(int* frame) = 0;
 };
 
 /// Reports progress in percent; a result other than 0 stops the work.
 using NLEProgressCallback = int (*)(int percent, void* userData);
+
+/// Watches a search for scenes, which may decode for minutes. Answered by scene segments.
+struct INLESceneProgress : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x4F59AABF, 0x9E3F, 0x4525, {0xB2, 0x34, 0xE2, 0x5E, 0x84, 0x46, 0x03, 0x76}};
+
+    /// \a callback is called from within Next with the part of the clip that was looked through.
+    /// Where it stops the work, Next gives S_FALSE with the frame -1, and the Next after it goes
+    /// on. Null: nobody is called.
+    virtual HRESULT SetProgress(NLEProgressCallback callback, void* userData) = 0;
+};
+
+/// Envelopes that are computed once a file and kept on disk. Answered by wave extractors; what it
+/// sets counts for all of the process.
+struct INLEWaveCache : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x0760267A, 0x24B0, 0x4F57, {0xA5, 0x14, 0xBE, 0xA9, 0x7C, 0xF5, 0xED, 0xFF}};
+
+    /// Where envelopes are kept, and the most MiB that they may fill; those used least lately go
+    /// first. An empty or null \a folder is a folder of the application's caches, 0 MiB keeps
+    /// none. E_INVALIDARG for less than 0.
+    virtual HRESULT SetCacheFolder(const wchar_t* folder, std::int64_t quota) = 0;
+    /// Whether the envelope of the source that was set is kept. E_FAIL without a source.
+    virtual HRESULT IsCached(bool* cached) = 0;
+    /// Computes the source's envelope on the calling thread and keeps it; ends at once when it is
+    /// kept already. S_FALSE when the callback stopped it: nothing is kept then. E_FAIL without a
+    /// source and when the sound cannot be read or nothing be written. \a callback may be null.
+    virtual HRESULT Compute(NLEProgressCallback callback, void* userData) = 0;
+};
 
 /// Writes a timeline to a media file.
 struct INLEMediaEncoder : IUnknown

@@ -220,6 +220,15 @@ struct NLEKeyFrameRecord
     std::int32_t interpolation; ///< 1: linear to the next key frame
 };
 
+/// One marker of a node. Its name stands beside it.
+struct NLEMarkerRecord
+{
+    std::int32_t frame; ///< first frame, counted as the node's trim range is; may lie outside of it
+    std::int32_t length; ///< frames from there on; 0 for an instant
+    std::uint32_t color; ///< 0xAARRGGBB
+};
+static_assert(sizeof(NLEMarkerRecord) == 12, "fixed binary layout");
+
 /// Mixer strip of a track.
 struct tagMixerParam
 {
