@@ -94,7 +94,16 @@ struct INLEDocumentReport : IUnknown
     virtual HRESULT GetRemark(int index, int* code, wchar_t* text, int capacity) = 0;
 };
 
-/// Settings of the engine itself.
+/// Which clips are decoded by the graphics hardware, where FFmpeg or the system can. What cannot be
+/// is decoded in software, also when the hardware fails amid a file; the log says so.
+enum NLEHardwareDecoding : std::int32_t
+{
+    NLEHardware_Never = 0,
+    NLEHardware_Asked = 1, ///< those whose INLETimelineSourceDecoder says GPU first
+    NLEHardware_All = 2
+};
+
+/// Settings of the engine itself; NLEKey::System has the keys. What is open keeps its decoder.
 struct INLESystemConfig : IUnknown
 {
     static constexpr _GUID Iid = {

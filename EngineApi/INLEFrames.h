@@ -67,6 +67,36 @@ struct INLEFrameExtractor : IUnknown
     virtual HRESULT Finish() = 0;
 };
 
+/// How near a picture comes to the frame that was asked for.
+enum NLEScrubPrecision : std::int32_t
+{
+    NLEScrub_Exact = 0, ///< the picture that Extract gives
+    NLEScrub_Near = 1   ///< one of the clips at least shows another of its frames
+};
+
+/// Pictures under a play head that is being dragged: at first one that is at hand, then the exact
+/// one. Frame extractors that offer it answer it beside their own interface, with whose snapshot,
+/// decoders and thread it works; Interrupt may be called from any thread.
+///
+/// A player keeps the frame that is wanted last. Its thread calls ExtractNear for it and shows the
+/// picture; when that is not exact and the same frame is still wanted, it calls Extract and shows
+/// that. Its GUI thread notes the frame first and then calls Interrupt whenever the play head
+/// moves, so that no picture waits for one that nobody wants any more.
+struct INLEFrameScrubber : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x2E0B5B64, 0x41D7, 0x4C0A, {0x9F, 0x3C, 0x6D, 0x52, 0xA8, 0x17, 0x0E, 0x93}};
+
+    /// As Extract, but with one decoded picture of each clip at the most. A clip shows the exact
+    /// frame when it is at hand or the next one, else what is nearest to it: the picture shown
+    /// last, one that was kept, or the key frame before. \a precision receives an
+    /// NLEScrubPrecision; it may be null. Takes back an Interrupt that found nothing to end.
+    virtual HRESULT ExtractNear(int frame, INLEVideoFrame* picture, int* precision) = 0;
+    /// Ends the Extract that is running, else the next one: it returns E_ABORT and leaves the
+    /// video frame as it was. What it had decoded is kept, so nothing is lost for the next picture.
+    virtual HRESULT Interrupt() = 0;
+};
+
 /// Reads small pictures of a media file.
 struct INLEThumbnailExtractor : IUnknown
 {

@@ -115,6 +115,8 @@ struct INLETimelineSourceDecoder : IUnknown
     static constexpr _GUID Iid = {
         0x197CAB21, 0x5D40, 0x4A95, {0x97, 0x6A, 0xF1, 0x61, 0x37, 0x1C, 0xC3, 0x77}};
 
+    /// 0, the preset: software. Any other number: the GPU first, where NLEHardwareDecoding allows
+    /// it. Frames that an extractor renders are decoded so, thumbnails never. Pictures are alike.
     virtual HRESULT GetGPUFirst(int* preference) = 0;
     virtual HRESULT SetGPUFirst(int preference) = 0;
 };

@@ -115,4 +115,14 @@ inline constexpr const wchar_t* kAudioBitRate = L"kEncode_AudioBitRate";
 inline constexpr const wchar_t* kThreads = L"kEncode_Threads";
 } // namespace Encode
 
+/// Settings of the engine itself, in the bag of INLESystemConfig. They count for the whole process
+/// at once and end with it. Other keys and values give E_INVALIDARG.
+namespace System {
+/// Integer, an NLEHardwareDecoding; preset NLEHardware_Never.
+inline constexpr const wchar_t* kHardwareDecoding = L"kSystem_HardwareDecoding";
+/// Integer, 0 to 65536: MiB of memory that decoded pictures, kept for stepping back and scrubbing,
+/// may take in all; preset 512. 0 keeps none.
+inline constexpr const wchar_t* kDecodedPictures = L"kSystem_DecodedPictures";
+} // namespace System
+
 } // namespace NLEKey
