@@ -15,14 +15,6 @@ enum NLERateControl : std::int32_t
     NLERate_Profile = 8   ///< as many as the profile says
 };
 
-/// What the lines of a frame are.
-enum NLEFieldOrder : std::int32_t
-{
-    NLEField_Progressive = 0, ///< one instant
-    NLEField_TopFirst = 1,    ///< two instants; the lines 0, 2, 4… the earlier one
-    NLEField_BottomFirst = 2  ///< two instants; the lines 1, 3, 5… the earlier one
-};
-
 /// A container that can be written. Lists in it are separated by commas; texts are ASCII.
 struct NLEContainerInfo
 {
