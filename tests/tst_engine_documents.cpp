@@ -111,6 +111,30 @@ private slots:
         QCOMPARE(shown, Frame(project, frame));
     }
 
+    void documentKeepsImageSequence()
+    {
+        QDir().mkpath(Path("shots"));
+        for (int number = 7; number < 19; ++number) {
+            const QString name = QString("shots/shot_%1.png").arg(number, 4, 10, QLatin1Char('0'));
+            QVERIFY(PaintFrameNumber(number, QSize(320, 180)).save(folder.filePath(name)));
+        }
+        const QString pattern = Path("shots/shot_%04d.png");
+        const Node clip = provider->CreateMediaTimeline(pattern, true);
+        QVERIFY(clip);
+        QCOMPARE(TotalOf(clip).out, 11);
+        QVERIFY(SUCCEEDED(BagOf(clip)->SetRational(NLEKey::Sequence::kFramerate, {12, 1})));
+        // At half the rate each picture lasts for two frames of the project, which has 25.
+        const Node project = ProjectWith(clip);
+        QCOMPARE(TotalOf(clip).out, 24);
+        QVERIFY(Save(project, Path("sequence.mlt")));
+        const Node loaded = Load(Path("sequence.mlt"));
+        QVERIFY(loaded);
+        QCOMPARE(TotalOf(ClipAt(loaded, 0)).out, 24);
+        for (const int frame : {0, 5, 10, 24})
+            QCOMPARE(ReadFrameNumber(Frame(loaded, frame)), 7 + frame * 12 / 25);
+        QVERIFY(Contents(Path("sequence.mlt")).contains("shots/shot_%04d.png"));
+    }
+
     void documentKeepsTexts_data()
     {
         QTest::addColumn<std::wstring>("text");

@@ -77,26 +77,6 @@ class tst_Media : public QObject, private MediaFixture
         QFile::remove(Path(name));
         return QFile::rename(made, Path(name)) ? Probe(name, error) : nullptr;
     }
-    /// A JPEG picture whose Exif orientation, from 1 to 8, stands before the suffix of its name.
-    QString MakePhotograph(const QString& name, int number, const QSize& size, int rotation,
-                           bool mirrored)
-    {
-        const QImage coded = PaintFrameNumber(number, size)
-                                 .transformed(QTransform().rotate(-rotation))
-                                 .mirrored(mirrored, false);
-        if (!coded.save(Path("coded.png")))
-            return "the picture cannot be saved";
-        QString error = RunFfmpeg({"-i", Path("coded.png"), "-update", "1", Path("coded.jpg")});
-        // A segment that holds nothing but the orientation, its 30th byte.
-        QByteArray exif = QByteArray::fromHex("ffe10022457869660000"
-                                              "4d4d002a00000008"
-                                              "0001"
-                                              "011200030000000100000000"
-                                              "00000000");
-        exif[29] = name.chopped(4).back().toLatin1() - '0';
-        QByteArray photograph = ReadAll(Path("coded.jpg"));
-        return Write(Path(name), photograph.insert(2, exif)) ? error : "no photograph";
-    }
     QString MakeTurnedClip(const QString& name, int number, const QSize& size, int rotation)
     {
         TestClip clip;
@@ -513,10 +493,8 @@ private slots:
         QTest::newRow("video turned by 180") << "180.mov" << 180 << false;
         QTest::newRow("video turned by 270") << "270.mp4" << 270 << false;
         for (int exif = 1; exif <= 8; ++exif) {
-            static constexpr int rotations[] = {0, 0, 180, 180, 270, 90, 90, 270};
-            static constexpr bool mirrors[] = {false, true, false, true, true, false, true, false};
             QTest::addRow("photograph with orientation %d", exif)
-                << QString("exif%1.jpg").arg(exif) << rotations[exif - 1] << mirrors[exif - 1];
+                << QString("exif%1.jpg").arg(exif) << ExifRotation(exif) << ExifMirrors(exif);
         }
     }
 
@@ -527,8 +505,10 @@ private slots:
         QFETCH(bool, mirrored);
         const QSize size(120, 200);
         const int number = 9;
-        QCOMPARE(name.endsWith("jpg") ? MakePhotograph(name, number, size, rotation, mirrored)
-                                      : MakeTurnedClip(name, number, size, rotation),
+        const int exif = name.chopped(4).back().digitValue();
+        QCOMPARE(name.endsWith("jpg")
+                     ? MakePhotograph(Path(name), PaintFrameNumber(number, size), exif)
+                     : MakeTurnedClip(name, number, size, rotation),
                  QString());
         const auto info = Probe(name);
         QVERIFY(info);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/AudioDecoder.h"
+#include "NLECore/media/JoinedMedia_p.h"
 #include "NLECore/media/MediaFile_p.h"
 
 #include <algorithm>
@@ -54,6 +55,8 @@ struct AudioDecoder::Private
 {
     std::shared_ptr<const MediaInfo> info;
     int streamIndex = -1;
+    /// What reads where there are several recordings; then nothing else is open.
+    std::unique_ptr<JoinedSound> joined;
     std::unique_ptr<MediaFile> file;
     AVStream* stream = nullptr;
     CodecPtr codec;
@@ -422,6 +425,15 @@ int AudioDecoder::Private::Read(std::int64_t first, int count, int newRate, int 
 
 bool AudioDecoder::Private::Start(QString* error)
 {
+    if (!info->parts.empty()) {
+        const MediaStream* const known = info->Stream(streamIndex);
+        if (known == nullptr || known->type != NLEStream_Audio) {
+            SetError(error, info->path, QStringLiteral(": no sound in it"));
+            return false;
+        }
+        joined = std::make_unique<JoinedSound>(info, streamIndex);
+        return true;
+    }
     file = MediaFile::OpenStream(*info, streamIndex, NLEStream_Audio, error);
     if (!file)
         return false;
@@ -464,7 +476,8 @@ int AudioDecoder::Read(std::int64_t firstSample, int count, int sampleRate, int 
     if (!isSensible)
         return -1;
     std::fill_n(interleaved, size_t(count) * size_t(channels), 0.0F);
-    return d->Read(firstSample, count, sampleRate, channels, interleaved);
+    return d->joined ? d->joined->Read(firstSample, count, sampleRate, channels, interleaved)
+                     : d->Read(firstSample, count, sampleRate, channels, interleaved);
 }
 
 const std::shared_ptr<const MediaInfo>& AudioDecoder::Info() const

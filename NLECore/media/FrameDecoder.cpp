@@ -2,6 +2,7 @@
 #include "NLECore/media/FrameDecoder.h"
 #include "NLECore/media/MediaFile_p.h"
 #include "NLECore/media/PictureScaler_p.h"
+#include "NLECore/media/PictureSource_p.h"
 
 #include <algorithm>
 #include <deque>
@@ -59,7 +60,10 @@ struct FrameDecoder::Private
     MediaStream description;
     std::int64_t startTicks = 0;
     bool canSkip = false;
-    bool isStill = false;
+    /// What gives the pictures where they are no film, and the frame asked of it last.
+    std::unique_ptr<PictureSource> source;
+    FileStamp sourceStamp;
+    int sourceFrame = -1;
     int threads = 0;
 
     /// The picture on show and the one after it, as far as they are decoded.
@@ -367,8 +371,6 @@ bool FrameDecoder::Private::CanContinueTo(std::int64_t frame)
 
 bool FrameDecoder::Private::Locate(std::int64_t frame)
 {
-    if (isStill)
-        return current.isValid || Advance(0, 0);
     frame = std::max(frame, firstFrame);
     if (frame > endFrame)
         return false;
@@ -399,6 +401,11 @@ void FrameDecoder::Private::NoteEnd()
 
 bool FrameDecoder::Private::Start(QString* error)
 {
+    if (PictureSource::Reads(*info)) {
+        sourceStamp = StampOf(info->path);
+        source = PictureSource::Open(info, streamIndex, error);
+        return source != nullptr;
+    }
     file = MediaFile::OpenStream(*info, streamIndex, NLEStream_Video, error);
     if (!file)
         return false;
@@ -410,10 +417,8 @@ bool FrameDecoder::Private::Start(QString* error)
     startTicks = description.startTicks;
     if (!file->Matches(*info) && stream->start_time != AV_NOPTS_VALUE)
         startTicks = stream->start_time;
-    isStill = info->kind == NLEMedia_Image;
     canSkip = MarksUnreferenced(stream->codecpar->codec_id);
-    if (!isStill)
-        FindFirstPicture();
+    FindFirstPicture();
     return true;
 }
 
@@ -461,7 +466,13 @@ std::unique_ptr<FrameDecoder> FrameDecoder::Open(std::shared_ptr<const MediaInfo
 
 QImage FrameDecoder::Picture(int frame, const QSize& size)
 {
-    if (frame < 0 || size.isEmpty() || !d->Locate(frame))
+    if (frame < 0 || size.isEmpty())
+        return {};
+    if (d->source) {
+        d->sourceFrame = frame;
+        return d->source->Picture(frame, size);
+    }
+    if (!d->Locate(frame))
         return {};
     return d->scaler.Convert(*d->current.frame, d->description, size);
 }
@@ -469,11 +480,14 @@ QImage FrameDecoder::Picture(int frame, const QSize& size)
 const AVFrame* FrameDecoder::Decoded(int frame)
 {
     const bool isUpright = d->description.rotation == 0 && !d->description.mirrored;
-    return isUpright && frame >= 0 && d->Locate(frame) ? d->current.frame.get() : nullptr;
+    return !d->source && isUpright && frame >= 0 && d->Locate(frame) ? d->current.frame.get()
+                                                                     : nullptr;
 }
 
 int FrameDecoder::Position() const
 {
+    if (d->source)
+        return d->sourceFrame;
     return d->current.isValid ? int(std::clamp<std::int64_t>(d->current.index, 0, INT32_MAX)) : -1;
 }
 
@@ -489,7 +503,7 @@ int FrameDecoder::StreamIndex() const
 
 bool FrameDecoder::IsFileUnchanged() const
 {
-    return StampOf(d->info->path) == d->file->Stamp();
+    return StampOf(d->info->path) == (d->source ? d->sourceStamp : d->file->Stamp());
 }
 
 } // namespace nle

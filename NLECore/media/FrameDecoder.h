@@ -37,7 +37,7 @@ public:
     QImage Picture(int frame, const QSize& size);
 
     /// The picture of \a frame as it was decoded, valid until the next call; null where Picture
-    /// gives none, and when it does not stand upright as it is.
+    /// gives none, when it does not stand upright as it is, and of what is no film.
     const AVFrame* Decoded(int frame);
 
     /// Frame number of the picture decoded last; -1 when none was yet.

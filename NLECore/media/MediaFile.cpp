@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/media/ImageSequence_p.h"
 #include "NLECore/media/MediaFile_p.h"
 #include "NLECore/media/MediaLog_p.h"
 
@@ -20,6 +21,10 @@ namespace nle {
 namespace {
 
 constexpr std::chrono::seconds kOpenTimeout{10};
+
+// Two changes so close to each other may carry the same time.
+constexpr std::chrono::milliseconds kClockStep{100};
+
 constexpr int kMaxThreads = 4;
 
 // A lower score means that nothing but chance speaks for the format.
@@ -81,7 +86,29 @@ bool DeclaresStreams(const MediaFile& file)
     return file.IsFormat("mp4") || file.IsFormat("matroska");
 }
 
+// The protocol that shows a part of another one's bytes as a whole; nothing for all of them.
+QByteArray PartPrefix(std::int64_t firstByte, std::int64_t endByte)
+{
+    return endByte > 0 ? "subfile,,start," + QByteArray::number(qint64(firstByte)) + ",end," +
+                             QByteArray::number(qint64(endByte)) + ",,:"
+                       : QByteArray();
+}
+
 } // namespace
+
+FileStamp StampOf(const QString& path)
+{
+    const FileStamp stamp = StampOfFile(path);
+    return stamp.size < 0 ? StampOfSequence(path) : stamp;
+}
+
+bool IsFresh(const FileStamp& stamp)
+{
+    using namespace std::chrono;
+    const auto now = duration_cast<nanoseconds>(system_clock::now().time_since_epoch());
+    const std::int64_t age = now.count() - std::max(stamp.modifiedNs, stamp.changedNs);
+    return std::abs(age) < nanoseconds(kClockStep).count();
+}
 
 QString AvErrorText(int error)
 {
@@ -96,7 +123,8 @@ void SetError(QString* error, const QString& path, const QString& what)
         *error = path + what;
 }
 
-std::unique_ptr<MediaFile> MediaFile::Open(const QString& path, Streams streams, QString* error)
+std::unique_ptr<MediaFile> MediaFile::Open(const QString& path, Streams streams, QString* error,
+                                           std::int64_t firstByte, std::int64_t endByte)
 {
     InstallMediaLog();
     if (!CheckRegularFile(path, error))
@@ -110,12 +138,12 @@ std::unique_ptr<MediaFile> MediaFile::Open(const QString& path, Streams streams,
     if (context == nullptr)
         return nullptr;
     context->interrupt_callback = {&MediaFile::IsLate, file.get()};
-    context->protocol_whitelist = av_strdup("file");
+    context->protocol_whitelist = av_strdup(endByte > 0 ? "file,subfile" : "file");
     context->format_whitelist = av_strdup(AllowedFormats().constData());
 
     // The protocol stands in front, so that no file name can be taken for another protocol.
-    const QByteArray url =
-        QByteArray("file:") + EncodeMediaPath(QFileInfo(path).absoluteFilePath());
+    const QByteArray url = PartPrefix(firstByte, endByte) +
+                           "file:" + EncodeMediaPath(QFileInfo(path).absoluteFilePath());
     // A file name with a number pattern in it means this one file.
     AVDictionary* options = nullptr;
     av_dict_set(&options, "pattern_type", "none", 0);
@@ -145,11 +173,13 @@ std::unique_ptr<MediaFile> MediaFile::Open(const QString& path, Streams streams,
 std::unique_ptr<MediaFile> MediaFile::OpenStream(const MediaInfo& info, int stream,
                                                  NLEStreamType type, QString* error)
 {
-    std::unique_ptr<MediaFile> file = Open(info.path, Streams::AsDeclared, error);
+    std::unique_ptr<MediaFile> file =
+        Open(info.path, Streams::AsDeclared, error, info.firstByte, info.endByte);
     if (!file)
         return nullptr;
     AVFormatContext* const context = file->Context();
-    const bool isKnown = file->Matches(info) && DeclaresStreams(*file);
+    const bool isKnown =
+        file->Matches(info) && (DeclaresStreams(*file) || info.kind == NLEMedia_Image);
     if (!isKnown) {
         file->LimitTime();
         const int result = avformat_find_stream_info(context, nullptr);

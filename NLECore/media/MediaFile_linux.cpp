@@ -20,7 +20,7 @@ QByteArray EncodeMediaPath(const QString& path)
     return QFile::encodeName(path);
 }
 
-FileStamp StampOf(const QString& path)
+FileStamp StampOfFile(const QString& path)
 {
     struct stat status = {};
     if (stat(EncodeMediaPath(path).constData(), &status) != 0 || !S_ISREG(status.st_mode))

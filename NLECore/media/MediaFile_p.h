@@ -31,8 +31,10 @@ using FramePtr = std::unique_ptr<AVFrame, AvDeleter>;
 using PacketPtr = std::unique_ptr<AVPacket, AvDeleter>;
 using ResamplerPtr = std::unique_ptr<SwrContext, AvDeleter>;
 
-/// That of the file at \a path as it is now.
-FileStamp StampOf(const QString& path);
+/// That of the file at \a path as it is now; of none where there is no regular file.
+FileStamp StampOfFile(const QString& path);
+/// A file that was changed just now may be changed again without a trace in its stamp.
+bool IsFresh(const FileStamp& stamp);
 /// The path in the bytes that the libraries expect on this system.
 QByteArray EncodeMediaPath(const QString& path);
 /// The library's own words for one of its error numbers.
@@ -51,8 +53,10 @@ public:
     };
 
     /// Opens the file at \a path. Examined reads into the data until each stream is known; it is
-    /// needed for formats that do not declare their streams, and slow. Null on failure.
-    static std::unique_ptr<MediaFile> Open(const QString& path, Streams streams, QString* error);
+    /// needed for formats that do not declare their streams, and slow. Only the bytes from
+    /// \a firstByte to before \a endByte are read, unless that is 0. Null on failure.
+    static std::unique_ptr<MediaFile> Open(const QString& path, Streams streams, QString* error,
+                                           std::int64_t firstByte = 0, std::int64_t endByte = 0);
     /// Opens the file of \a info for reading \a stream alone, which must be of \a type, Video or
     /// Audio; examined only where it must be. Null on failure.
     static std::unique_ptr<MediaFile> OpenStream(const MediaInfo& info, int stream,

@@ -42,7 +42,7 @@ QByteArray EncodeMediaPath(const QString& path)
     return path.toUtf8();
 }
 
-FileStamp StampOf(const QString& path)
+FileStamp StampOfFile(const QString& path)
 {
     const HANDLE handle = CreateFileW(SystemPath(path).c_str(), FILE_READ_ATTRIBUTES,
                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,

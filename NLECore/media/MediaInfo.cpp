@@ -2,7 +2,10 @@
 #include "NLECore/media/MediaInfo.h"
 
 #include "NLECore/media/FrameGrid_p.h"
+#include "NLECore/media/JoinedMedia_p.h"
 #include "NLECore/media/MediaFile_p.h"
+#include "NLECore/media/PictureFormats_p.h"
+#include "NLECore/media/TransportJoins_p.h"
 
 #include <QImageReader>
 
@@ -28,6 +31,9 @@ constexpr int kMaxPacketsAtEnd = 64;
 
 // Where there is no index, so many pictures tell the rate.
 constexpr std::size_t kMaxPicturesRead = 2000;
+
+// More are faults of a recorder rather than joined recordings.
+constexpr std::size_t kMostJoins = 256;
 
 struct Orientation
 {
@@ -378,18 +384,6 @@ void ExamineRate(MediaFile& file, AVStream* stream, MediaStream* description)
     description->constantRate = grid.isConstant && areAll;
 }
 
-void MakeStill(MediaInfo* info)
-{
-    MediaStream& stream = info->streams[size_t(info->videoStream)];
-    stream.frameRate = kStillRate;
-    stream.durationUs = 1000000 * kStillRate.den / kStillRate.num;
-    stream.frameCount = 1;
-    info->kind = NLEMedia_Image;
-    info->frameCount = 1;
-    info->frameRate = kStillRate;
-    info->durationUs = stream.durationUs;
-}
-
 void MakeVideo(MediaFile& file, MediaInfo* info)
 {
     const AVFormatContext* const context = file.Context();
@@ -423,15 +417,32 @@ void MakeAudio(const AVFormatContext* context, MediaInfo* info)
 
 } // namespace
 
-std::shared_ptr<const MediaInfo> ProbeMedia(const QString& path, QString* error)
+void MakeStill(MediaInfo* info)
+{
+    MediaStream& stream = info->streams[size_t(info->videoStream)];
+    stream.frameRate = kStillRate;
+    stream.durationUs = 1000000 * kStillRate.den / kStillRate.num;
+    stream.frameCount = 1;
+    info->kind = NLEMedia_Image;
+    info->frameCount = 1;
+    info->frameRate = kStillRate;
+    info->durationUs = stream.durationUs;
+}
+
+namespace {
+
+std::shared_ptr<const MediaInfo> ProbeFilm(const QString& path, std::int64_t firstByte,
+                                           std::int64_t endByte, QString* error)
 {
     const std::unique_ptr<MediaFile> file =
-        MediaFile::Open(path, MediaFile::Streams::Examined, error);
+        MediaFile::Open(path, MediaFile::Streams::Examined, error, firstByte, endByte);
     if (!file)
         return nullptr;
     const AVFormatContext* const context = file->Context();
     auto info = std::make_shared<MediaInfo>();
     info->path = path;
+    info->firstByte = firstByte;
+    info->endByte = endByte;
     info->containerName = QString::fromUtf8(context->iformat->name);
     info->stamp = file->Stamp();
     for (unsigned i = 0; i < context->nb_streams; ++i)
@@ -456,6 +467,36 @@ std::shared_ptr<const MediaInfo> ProbeMedia(const QString& path, QString* error)
         MakeStill(info.get());
     else
         MakeVideo(*file, info.get());
+    return info;
+}
+
+// Null where there are no joins, and where hardly one recording can be read.
+std::shared_ptr<const MediaInfo> ProbeJoined(const MediaInfo& whole)
+{
+    std::vector<std::int64_t> joins = FindJoins(whole.path);
+    if (joins.empty() || joins.size() > kMostJoins)
+        return nullptr;
+    joins.push_back(whole.stamp.size);
+    std::vector<std::shared_ptr<const MediaInfo>> parts;
+    std::int64_t begin = 0;
+    for (const std::int64_t end : joins) {
+        if (auto part = ProbeFilm(whole.path, begin, end, nullptr))
+            parts.push_back(std::move(part));
+        begin = end;
+    }
+    return parts.size() > 1 ? JoinMedia(std::move(parts)) : nullptr;
+}
+
+} // namespace
+
+std::shared_ptr<const MediaInfo> ProbeMedia(const QString& path, QString* error)
+{
+    if (const auto pictures = ProbePictures(path, error))
+        return *pictures;
+    std::shared_ptr<const MediaInfo> info = ProbeFilm(path, 0, 0, error);
+    const bool isTransport = info && info->containerName == QLatin1String("mpegts");
+    if (std::shared_ptr<const MediaInfo> joined = isTransport ? ProbeJoined(*info) : nullptr)
+        return joined;
     return info;
 }
 

@@ -69,6 +69,9 @@ struct FileStamp
     }
 };
 
+/// That of the file at \a path as it is now, or of the image sequence that \a path names.
+FileStamp StampOf(const QString& path);
+
 /// Plain description of a media file. Never changes once made, so threads may share it.
 struct MediaInfo
 {
@@ -93,6 +96,12 @@ struct MediaInfo
     QString containerName;
     /// That of the file when it was described; tells whether it was replaced since.
     FileStamp stamp;
+    /// The bytes of the file that hold it, from the first to before the last; 0 and 0 for all.
+    std::int64_t firstByte = 0;
+    std::int64_t endByte = 0;
+    /// Recordings with clocks of their own that were joined to one file, in their order, each of the
+    /// same path; empty for any other file.
+    std::vector<std::shared_ptr<const MediaInfo>> parts;
 
     /// The stream at \a index, or null when the index is outside the list.
     const MediaStream* Stream(int index) const

@@ -20,17 +20,6 @@ using namespace std::chrono;
 constexpr int kFewestThreads = 2;
 constexpr int kMostThreads = 8;
 
-// Two changes so close to each other may carry the same time.
-constexpr milliseconds kClockStep{100};
-
-// A file that was changed just now may be changed again without a trace in its stamp.
-bool IsFresh(const FileStamp& stamp)
-{
-    const auto now = duration_cast<nanoseconds>(system_clock::now().time_since_epoch());
-    const std::int64_t age = now.count() - std::max(stamp.modifiedNs, stamp.changedNs);
-    return std::abs(age) < nanoseconds(kClockStep).count();
-}
-
 MediaStore::Result Probe(const QString& path)
 {
     try {

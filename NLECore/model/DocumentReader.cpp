@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/DocumentReader.h"
 
+#include "NLECore/media/ImageSequence.h"
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/SettingsText.h"
@@ -249,7 +250,7 @@ void DocumentReader::DescribeMedia(const QString& root)
     for (const QString& name : MediaNames(root)) {
         const QString path = QDir::cleanPath(m_folder.absoluteFilePath(name));
         m_media[name] = OfflineMedia(path);
-        if (QFileInfo(path).isFile()) {
+        if (IsThere(path)) {
             names << name;
             paths << path;
         }

@@ -2,12 +2,12 @@
 #include "NLECore/model/SourceNodes.h"
 
 #include "Com/ComGuard.h"
+#include "EngineApi/NLEKey.h"
 #include "NLECore/media/DecoderPool.h"
 #include "NLECore/media/FontFiles.h"
+#include "NLECore/media/ImageSequence.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/scene/FrameMath.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 #include <limits>
@@ -65,7 +65,7 @@ HRESULT MediaClip::SetFilePath(const wchar_t* path)
 
 HRESULT MediaClip::GetMediaInfo(INLEMediaInfo** info)
 {
-    return GiveNew<MediaInfoObject>(info, m_media);
+    return GiveNew<MediaInfoObject>(info, PlayedMedia());
 }
 
 HRESULT MediaClip::GetVideoStreamIndex(std::uint32_t* index)
@@ -105,7 +105,7 @@ HRESULT MediaClip::Relink(const wchar_t* path, int /*flags*/)
 HRESULT MediaClip::Reload()
 {
     return ComGuard([&] {
-        if (!QFileInfo::exists(m_media->path)) {
+        if (!IsThere(m_media->path)) {
             Take(OfflineMedia(m_media->path));
             return S_OK;
         }
@@ -119,6 +119,23 @@ void MediaClip::Take(std::shared_ptr<const MediaInfo> media)
     PinRange();
     Decoders().Drop(m_media->path);
     m_media = std::move(media);
+    m_sequence.reset();
+}
+
+const std::shared_ptr<const MediaInfo>& MediaClip::PlayedMedia() const
+{
+    constexpr double slowest = 0.01; // frames a second
+    constexpr double fastest = 1000;
+    NLERational rate = {0, 1};
+    const bool isSequence = IsSequence(*m_media);
+    const bool hasRate = isSequence &&
+                         Bag().GetRational(NLEKey::Sequence::kFramerate, &rate) == S_OK &&
+                         IsRate(rate) && ToDouble(rate) >= slowest && ToDouble(rate) <= fastest;
+    if (!hasRate)
+        return m_media;
+    if (!m_sequence || ToDouble(m_sequence->frameRate) != ToDouble(rate))
+        m_sequence = std::make_shared<MediaInfo>(AtSequenceRate(*m_media, rate));
+    return m_sequence;
 }
 
 int MediaClip::TotalLength() const
@@ -126,7 +143,8 @@ int MediaClip::TotalLength() const
     if (IsStill(*m_media) || IsFrozen())
         return LongestStill(FrameRate());
     const int length = ClampToInt(std::round(
-        FrameTime{double(m_media->frameCount), RateOf(*m_media)}.NearestAt(FrameRate()) / Speed()));
+        FrameTime{double(m_media->frameCount), RateOf(*PlayedMedia())}.NearestAt(FrameRate()) /
+        Speed()));
     return m_media->frameCount > 0 ? std::max(1, length) : 0;
 }
 
@@ -146,7 +164,7 @@ NLEComPtr<TimelineNode> MediaClip::CopyContent(bool /*deep*/) const
 void MediaClip::Describe(Layer& layer) const
 {
     layer.kind = LayerKind::Media;
-    layer.media = m_media;
+    layer.media = PlayedMedia();
     const std::shared_ptr<const MediaInfo>& proxy = Video().settings.proxy;
     if (Video().settings.proxyEnabled && proxy && proxy->videoStream >= 0)
         layer.proxy = Video().settings.proxy;

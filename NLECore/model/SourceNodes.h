@@ -41,8 +41,12 @@ protected:
 
 private:
     void Take(std::shared_ptr<const MediaInfo> media);
+    /// The media as it plays: an image sequence at the rate that the clip's properties name.
+    const std::shared_ptr<const MediaInfo>& PlayedMedia() const;
 
     std::shared_ptr<const MediaInfo> m_media;
+    /// The sequence at the rate that was named last; null until then.
+    mutable std::shared_ptr<const MediaInfo> m_sequence;
     int m_gpuFirst = 0;
 };
 

@@ -3,6 +3,7 @@
 
 #include "Com/ComGuard.h"
 #include "NLECore/media/DecoderPool.h"
+#include "NLECore/media/StillPictures.h"
 #include "NLECore/media/EngineLog.h"
 #include "NLECore/media/MediaLog.h"
 #include "NLECore/model/CompositeNode.h"
@@ -137,6 +138,7 @@ HRESULT RootFactory::Shutdown(int /*flags*/)
 {
     return ComGuard([&] {
         Decoders().Clear();
+        Stills().Clear();
         ForgetFiles();
         return S_OK;
     });

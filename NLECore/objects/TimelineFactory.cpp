@@ -2,6 +2,7 @@
 #include "NLECore/objects/TimelineFactory.h"
 
 #include "Com/ComGuard.h"
+#include "NLECore/media/ImageSequence.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/SourceNodes.h"
@@ -48,7 +49,7 @@ HRESULT TimelineFactory::CreateMedia(const wchar_t* path, INLETimeline** clip)
         const QString file = QDir::fromNativeSeparators(QString::fromWCharArray(path));
         if (file.isEmpty())
             return E_INVALIDARG;
-        const auto media = QFileInfo::exists(file) ? DescribeFile(file) : OfflineMedia(file);
+        const auto media = IsThere(file) ? DescribeFile(file) : OfflineMedia(file);
         return media ? GiveNew<MediaClip>(clip, media) : E_FAIL;
     });
 }

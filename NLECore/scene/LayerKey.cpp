@@ -65,6 +65,7 @@ ContentKey LayerKeys::OfMedia(const MediaInfo& media)
         return known->second;
     ContentHash hash;
     hash.Add(media.path).Add(media.stamp.size).Add(media.stamp.modifiedNs).Add(media.videoStream);
+    hash.Add(media.frameRate.num).Add(media.frameRate.den);
     return m_media[&media] = hash.Add(OfFile(media.path)).Result();
 }
 

@@ -172,6 +172,46 @@ QString MakeTestClip(const QString& path, const TestClip& clip)
     return {};
 }
 
+int ExifRotation(int exif)
+{
+    static constexpr int rotations[] = {0, 0, 180, 180, 270, 90, 90, 270};
+    return rotations[exif - 1];
+}
+
+bool ExifMirrors(int exif)
+{
+    static constexpr bool mirrors[] = {false, true, false, true, true, false, true, false};
+    return mirrors[exif - 1];
+}
+
+QImage ExifCoded(const QImage& upright, int exif)
+{
+    return upright.transformed(QTransform().rotate(-ExifRotation(exif)))
+        .mirrored(ExifMirrors(exif), false);
+}
+
+QString MakePhotograph(const QString& path, const QImage& upright, int exif)
+{
+    if (!ExifCoded(upright, exif).save(path + ".png"))
+        return "the picture cannot be saved";
+    // The options keep the quality at its best and the colours at full size.
+    const QString error =
+        RunFfmpeg({"-i", path + ".png", "-update", "1", "-q:v", "1", "-qmin", "1", path});
+    // A segment that holds nothing but the orientation, its 30th byte.
+    QByteArray segment = QByteArray::fromHex("ffe10022457869660000"
+                                             "4d4d002a00000008"
+                                             "0001"
+                                             "011200030000000100000000"
+                                             "00000000");
+    segment[29] = char(exif);
+    QFile file(path);
+    if (!error.isEmpty() || !file.open(QIODevice::ReadWrite))
+        return error + ": no photograph";
+    const QByteArray photograph = file.readAll().insert(2, segment);
+    const bool isWritten = file.seek(0) && file.write(photograph) == photograph.size();
+    return isWritten ? QString() : "the photograph cannot be written";
+}
+
 QImage PaintFrameNumber(int number, const QSize& size)
 {
     QImage picture(size, QImage::Format_ARGB32);

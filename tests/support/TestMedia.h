@@ -46,6 +46,17 @@ QString MakeTestClip(const QString& path, const TestClip& clip);
 /// Runs the ffmpeg program. Gives an empty text on success, else what it wrote.
 QString RunFfmpeg(const QStringList& arguments, const QByteArray& input = {});
 
+/// Writes a JPEG file at \a path that an EXIF block of orientation \a exif, 1 to 8, makes the
+/// upright picture \a upright. Gives an empty text on success, else what went wrong.
+QString MakePhotograph(const QString& path, const QImage& upright, int exif);
+
+/// Clockwise turn in degrees of a picture of that EXIF orientation, and whether it is mirrored left
+/// to right before.
+int ExifRotation(int exif);
+bool ExifMirrors(int exif);
+/// What is stored under that orientation so that it shows as \a upright.
+QImage ExifCoded(const QImage& upright, int exif);
+
 /// Picture of frame \a number: a code of black and white blocks above, digits below.
 QImage PaintFrameNumber(int number, const QSize& size);
 

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/media/ColourProfile_p.h"
+
+#include "NLECore/media/EngineLog.h"
+
+namespace nle {
+
+void ConvertToSrgb(QImage* /*image*/, const QByteArray& profile, const QString& path)
+{
+    if (!profile.isEmpty())
+        qCWarning(lcEngine, "%s: this build does not read colour profiles", qUtf8Printable(path));
+}
+
+void ConvertToSrgb(QImage* /*image*/, int /*primaries*/, int /*transfer*/, const QString& /*path*/)
+{
+}
+
+} // namespace nle

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/media/StillReader_p.h"
+
+#include "NLECore/media/ColourProfile_p.h"
+#include "NLECore/media/EngineLog.h"
+#include "NLECore/media/MediaFile_p.h"
+#include "NLECore/media/PictureFormats_p.h"
+#include "NLECore/media/PictureScaler_p.h"
+
+namespace nle {
+namespace {
+
+// The first picture of the stream that can be decoded.
+FramePtr DecodeFirst(MediaFile& file, AVCodecContext* codec, int stream)
+{
+    const PacketPtr packet(av_packet_alloc());
+    FramePtr frame(av_frame_alloc());
+    if (!packet || !frame)
+        return nullptr;
+    bool isAtEnd = false;
+    while (!isAtEnd) {
+        isAtEnd = av_read_frame(file.Context(), packet.get()) < 0;
+        const bool isCut = (packet->flags & AV_PKT_FLAG_CORRUPT) != 0;
+        if (isAtEnd)
+            avcodec_send_packet(codec, nullptr);
+        else if (packet->stream_index == stream && !isCut)
+            avcodec_send_packet(codec, packet.get());
+        av_packet_unref(packet.get());
+        if (avcodec_receive_frame(codec, frame.get()) == 0)
+            return frame;
+    }
+    return nullptr;
+}
+
+QByteArray ProfileOf(const AVFrame& frame)
+{
+    const AVFrameSideData* const data = av_frame_get_side_data(&frame, AV_FRAME_DATA_ICC_PROFILE);
+    return data != nullptr ? QByteArray(reinterpret_cast<const char*>(data->data), int(data->size))
+                           : QByteArray();
+}
+
+QImage ReadCoded(const MediaInfo& info, int stream, const QSize& size, QString* error)
+{
+    const auto file = MediaFile::OpenStream(info, stream, NLEStream_Video, error);
+    if (!file)
+        return {};
+    const CodecPtr codec = OpenCodec(file->Context()->streams[stream], 0, info.path, error);
+    if (!codec)
+        return {};
+    const FramePtr frame = DecodeFirst(*file, codec.get(), stream);
+    if (!frame) {
+        SetError(error, info.path, QStringLiteral(": the picture cannot be decoded"));
+        return {};
+    }
+    PictureScaler scaler;
+    QImage picture = scaler.Convert(*frame, *info.Stream(stream), size);
+    ConvertToSrgb(&picture, ProfileOf(*frame), info.path);
+    return picture;
+}
+
+} // namespace
+
+QImage ReadStill(const MediaInfo& info, int stream, const QSize& size)
+{
+    QString error;
+    const StillFormat* const format = FormatOf(info);
+    QImage picture = format != nullptr ? format->read(info.path, size, &error)
+                                       : ReadCoded(info, stream, size, &error);
+    if (picture.isNull())
+        qCWarning(lcEngine, "%s", qUtf8Printable(error));
+    return picture;
+}
+
+QImage ScalePicture(const QImage& picture, const QSize& size)
+{
+    const FramePtr frame(av_frame_alloc());
+    if (!frame)
+        return {};
+    // The scaler only reads it.
+    frame->data[0] = const_cast<std::uint8_t*>(picture.constBits());
+    frame->linesize[0] = picture.bytesPerLine();
+    frame->width = picture.width();
+    frame->height = picture.height();
+    frame->format = AV_PIX_FMT_BGRA;
+    frame->color_range = AVCOL_RANGE_JPEG;
+    frame->colorspace = AVCOL_SPC_RGB;
+    return PictureScaler().Convert(*frame, MediaStream(), size);
+}
+
+} // namespace nle
