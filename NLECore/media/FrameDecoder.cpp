@@ -395,6 +395,10 @@ void FrameDecoder::Private::NoteEnd()
     const std::int64_t hold =
         av_rescale_q(PictureDuration(*current.frame), stream->time_base, FrameDuration());
     endFrame = current.index + std::max(kMinHoldFrames, hold);
+    // Theora writes an empty packet for a picture that is the one before; the demuxer passes over
+    // them. The length of the file counts them, also where the file was cut.
+    if (codec->codec_id == AV_CODEC_ID_THEORA)
+        endFrame = std::max(endFrame, std::int64_t(description.frameCount) - 1);
 }
 
 // ---- opening

@@ -229,14 +229,39 @@ MediaStream Describe(const MediaFile& file, const AVStream* stream, const QStrin
     return result;
 }
 
+// Time of the last tag of a Flash video (Adobe Flash Video File Format 10.1, annex E.4.1) in
+// microseconds; -1 when it cannot be read. Its size stands behind it.
+std::int64_t LastFlashTagUs(AVFormatContext* context)
+{
+    constexpr std::int64_t sizeBytes = 4;
+    constexpr std::int64_t timeAt = 4;
+    AVIOContext* const bytes = context->pb;
+    const std::int64_t position = avio_tell(bytes);
+    const std::int64_t end = avio_size(bytes) - sizeBytes;
+    std::int64_t time = -1;
+    if (end > 0 && avio_seek(bytes, end, SEEK_SET) >= 0) {
+        const std::int64_t tag = end - std::int64_t(avio_rb32(bytes));
+        if (tag > 0 && avio_seek(bytes, tag + timeAt, SEEK_SET) >= 0) {
+            time = avio_rb24(bytes);
+            time |= std::int64_t(avio_r8(bytes)) << 24;
+            time *= 1000;
+        }
+    }
+    avio_seek(bytes, position, SEEK_SET);
+    return time;
+}
+
 // Recordings that were never finished say nothing about their length, or, as an AVI whose head
-// could not be written anew, a placeholder that disagrees with itself.
+// could not be written anew, a placeholder that disagrees with itself. A Flash video that says
+// nothing is taken to end where its last tag begins.
 bool TellsLength(const MediaFile& file, int index, const MediaStream& description)
 {
     const AVStream* const stream = file.Context()->streams[index];
     const bool isContradicted = file.IsFormat("avi") && description.type == NLEStream_Video &&
                                 std::abs(stream->nb_frames - stream->duration) > 1;
-    return description.durationUs > 0 && !isContradicted;
+    const bool isGuessed =
+        file.IsFormat("flv") && file.Context()->duration == LastFlashTagUs(file.Context());
+    return description.durationUs > 0 && !isContradicted && !isGuessed;
 }
 
 // Reads the file through. Where that takes too long, the rest is taken to be like what was read.
@@ -246,16 +271,24 @@ void MeasureStream(MediaFile& file, int index, MediaStream* stream)
     const AVStream* const source = context->streams[index];
     const PacketPtr packet(av_packet_alloc());
     std::int64_t end = stream->startTicks;
+    std::int64_t steps = -1; // from one packet to the next
+    bool hasDurations = false;
     int result = 0;
     file.LimitTime();
     while ((result = av_read_frame(context, packet.get())) >= 0) {
         // Without times in the file the pictures follow each other.
         const std::int64_t time = packet->pts != AV_NOPTS_VALUE ? packet->pts : end;
-        if (packet->stream_index == index)
+        if (packet->stream_index == index) {
             end = std::max(end, time + packet->duration);
+            ++steps;
+            hasDurations = hasDurations || packet->duration > 0;
+        }
         av_packet_unref(packet.get());
     }
     std::int64_t length = end - stream->startTicks;
+    // Where no packet says how long it lasts, the last one does as the others on average.
+    if (!hasDurations && steps > 0)
+        length += length / steps;
     const std::int64_t position = avio_tell(context->pb);
     const bool isCutShort = result == AVERROR_EXIT || context->pb->error == AVERROR_EXIT;
     if (isCutShort && position > 0)

@@ -27,7 +27,9 @@ constexpr std::chrono::seconds kLongest{5};
 constexpr std::int64_t kTicksPerSecond = 90000;
 // The clock has 33 bits; a step back by more than half of that is its own turn.
 constexpr std::int64_t kHalfClock = std::int64_t(1) << 32;
-// What one stream, and what one stream against another, goes back at the most within a recording.
+// What one stream, and what one stream against another, goes back at the most within a recording
+// that has faults. A sound one never goes back, so where a table of programs comes in between, any
+// step back is a join.
 constexpr std::int64_t kStepBack = kTicksPerSecond;
 constexpr std::int64_t kStepBackOfOthers = 10 * kTicksPerSecond;
 
@@ -150,7 +152,8 @@ private:
         const std::int64_t time = *packet.time;
         const auto before = m_times.find(packet.pid);
         const bool isAnew =
-            (before != m_times.end() && StepsBack(before->second, time, kStepBack)) ||
+            (before != m_times.end() &&
+             StepsBack(before->second, time, m_table > m_lastPosition ? 0 : kStepBack)) ||
             (m_latest && StepsBack(*m_latest, time, kStepBackOfOthers));
         if (isAnew) {
             m_joins.push_back(m_table > m_lastPosition ? m_table : position);
