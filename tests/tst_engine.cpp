@@ -476,7 +476,7 @@ private slots:
                 << opened;
         };
         // Each muxer that names files by itself would leave another kind of litter.
-        for (const char* several : {"x.png", "x.JPG", "x.bmp", "x%03d.tif", "x.m3u8", "x.mpd"})
+        for (const char* several : {"x.png", "x.JPG", "x.bmp", "x%03d.bmp", "x.m3u8", "x.mpd"})
             row(several, E_NOTIMPL);
         for (const char* unknown : {"x.xyz", "x", "x.mp4."})
             row(unknown, E_NOTIMPL);

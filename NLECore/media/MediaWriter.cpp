@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/MediaWriter.h"
 
+#include "NLECore/media/EncoderSetup_p.h"
 #include "NLECore/media/FrameDecoder.h"
 #include "NLECore/media/MediaFile_p.h"
+#include "NLECore/media/PictureFeeder_p.h"
+#include "NLECore/media/PictureSequence_p.h"
 
 #include <QColor>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <array>
@@ -17,7 +19,6 @@
 extern "C" {
 #include <libavutil/audio_fifo.h>
 #include <libavutil/opt.h>
-#include <libswscale/swscale.h>
 }
 
 namespace nle {
@@ -26,9 +27,6 @@ namespace {
 
 /// Samples in a packet of codecs that take any number.
 constexpr int kFreeFrameSamples = 1024;
-
-/// Lines from which on pictures are coded by ITU-R BT.709, as high definition is.
-constexpr int kModernHeight = 720;
 
 /// Bytes that a muxer gathers before they are written.
 constexpr int kBufferBytes = 1 << 16;
@@ -52,10 +50,6 @@ struct OutputFreer
 struct FifoFreer
 {
     void operator()(AVAudioFifo* fifo) const { av_audio_fifo_free(fifo); }
-};
-struct ScalerFreer
-{
-    void operator()(SwsContext* scaler) const { sws_freeContext(scaler); }
 };
 
 // Without a prototype of its own: whether the data is constant depends on the library's version.
@@ -90,98 +84,11 @@ int RefuseFile(AVFormatContext* /*format*/, AVIOContext** /*file*/, const char* 
     return AVERROR(EPERM);
 }
 
-/// What a container is written with; None for what it does not hold.
-struct Codecs
-{
-    AVCodecID video;
-    AVCodecID audio;
-};
-
-/// Containers whose muxer would choose an older codec than what reads them today knows.
-struct BetterCodecs
-{
-    const char* container;
-    Codecs codecs;
-};
-constexpr BetterCodecs kBetterCodecs[] = {
-    {"3g2", {AV_CODEC_ID_H264, AV_CODEC_ID_AAC}},
-    {"3gp", {AV_CODEC_ID_H264, AV_CODEC_ID_AAC}},
-    {"asf", {AV_CODEC_ID_WMV2, AV_CODEC_ID_WMAV2}},
-    {"flv", {AV_CODEC_ID_H264, AV_CODEC_ID_AAC}},
-    {"matroska", {AV_CODEC_ID_H264, AV_CODEC_ID_AAC}},
-    {"mpeg", {AV_CODEC_ID_MPEG2VIDEO, AV_CODEC_ID_MP2}},
-    {"mpegts", {AV_CODEC_ID_H264, AV_CODEC_ID_AAC}},
-};
-
-/// Suffixes that promise sound alone where the container could hold more.
-constexpr const char* kSoundSuffixes[] = {"m4a", "m4b", "wma"};
-
-Codecs CodecsFor(const AVOutputFormat& container, const QString& path)
-{
-    Codecs codecs = {container.video_codec, container.audio_codec};
-    const bool holdsFilm = codecs.video != AV_CODEC_ID_NONE;
-    for (const BetterCodecs& better : kBetterCodecs) {
-        if (holdsFilm && qstrcmp(better.container, container.name) == 0)
-            codecs = better.codecs;
-    }
-    const QString suffix = QFileInfo(path).suffix();
-    for (const char* sound : kSoundSuffixes) {
-        if (suffix.compare(QLatin1String(sound), Qt::CaseInsensitive) == 0)
-            codecs.video = AV_CODEC_ID_NONE;
-    }
-    // That is the cover of what sounds.
-    if (codecs.video == AV_CODEC_ID_PNG && codecs.audio != AV_CODEC_ID_NONE)
-        codecs.video = AV_CODEC_ID_NONE;
-    return codecs;
-}
-
-/// Whether the codec's data says by which matrix its colours were coded.
-bool TellsColours(AVCodecID id)
-{
-    switch (id) {
-    case AV_CODEC_ID_AV1:
-    case AV_CODEC_ID_H264:
-    case AV_CODEC_ID_HEVC:
-    case AV_CODEC_ID_MPEG2VIDEO:
-    case AV_CODEC_ID_PRORES:
-    case AV_CODEC_ID_VP9:
-        return true;
-    default:
-        return false;
-    }
-}
-
 /// What a trial writes: enough for a reader to know the container by.
 constexpr int kTrialPictures = 3;
 constexpr double kTrialSeconds = 0.5;
 /// Side of the noise in a trial's pictures, in pixels.
 constexpr int kTrialNoise = 128;
-
-/// A folder beside a file, removed with what is in it.
-class TrialFolder
-{
-public:
-    explicit TrialFolder(const QFileInfo& file)
-        : m_folder(file.absolutePath() + QStringLiteral("/trial-XXXXXX"))
-    {
-        m_folder.setAutoRemove(false);
-    }
-    ~TrialFolder()
-    {
-        // The folder's own destructor ends the process when memory is out.
-        try {
-            m_folder.remove();
-        } catch (const std::bad_alloc&) {
-        }
-    }
-    TrialFolder(const TrialFolder&) = delete;
-    TrialFolder& operator=(const TrialFolder&) = delete;
-
-    QTemporaryDir* operator->() { return &m_folder; }
-
-private:
-    QTemporaryDir m_folder;
-};
 
 /// Grey with a corner of noise. Equal pictures would make some containers a still picture, and
 /// smooth ones a transport stream too short to be known for one.
@@ -263,13 +170,16 @@ struct MediaWriter::Private
 {
     WriterSettings settings;
     WriterError error;
+    EncodePlan plan;
     QSaveFile file;
+    std::unique_ptr<PictureSequence> sequence; ///< in place of the file
     std::unique_ptr<AVIOContext, OutputFreer> output;
     std::unique_ptr<AVFormatContext, FormatFreer> format;
     PacketPtr packet{av_packet_alloc()};
     Track video;
     Track audio;
-    std::unique_ptr<SwsContext, ScalerFreer> scaler;
+    int leadIn = 0; ///< samples at the beginning that are still to be left out
+    std::unique_ptr<PictureFeeder> feeder;
     ResamplerPtr resampler;
     std::unique_ptr<AVAudioFifo, FifoFreer> fifo;
 
@@ -290,33 +200,24 @@ struct MediaWriter::Private
         return Fail(WriterError::Kind::Settings, QString::fromLatin1(reason));
     }
 
-    const AVOutputFormat* FindContainer()
-    {
-        const QByteArray name = EncodeMediaPath(file.fileName());
-        const AVOutputFormat* container = av_guess_format(nullptr, name.constData(), nullptr);
-        const char* reason = nullptr;
-        if (!container)
-            reason = "no container goes by this suffix";
-        else if ((container->flags & AVFMT_NOFILE) != 0)
-            reason = "the container is not a single file";
-        if (!reason)
-            return container;
-        Fail(WriterError::Kind::Container, QString::fromLatin1(reason));
-        return nullptr;
-    }
-
     bool OpenFile()
     {
+        if (plan.isSequence) {
+            sequence = std::make_unique<PictureSequence>(file.fileName());
+            return sequence->Open() || Fail(WriterError::Kind::File, sequence->Error());
+        }
         return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
                Fail(WriterError::Kind::File, file.errorString());
     }
 
-    bool OpenFormat(const AVOutputFormat* container)
+    bool OpenFormat()
     {
         AVFormatContext* context = nullptr;
-        if (!Check(avformat_alloc_output_context2(&context, container, nullptr, nullptr)))
+        if (!Check(avformat_alloc_output_context2(&context, plan.muxer, nullptr, nullptr)))
             return false;
         format.reset(context);
+        if (plan.isSequence)
+            return true;
         auto* buffer = static_cast<unsigned char*>(av_malloc(kBufferBytes));
         output.reset(
             avio_alloc_context(buffer, kBufferBytes, 1, &file, nullptr, kWriteBytes, &SeekByte));
@@ -330,11 +231,8 @@ struct MediaWriter::Private
         return true;
     }
 
-    bool AddTrack(Track& track, AVCodecID id)
+    bool AddTrack(Track& track, const AVCodec* codec)
     {
-        const AVCodec* codec = avcodec_find_encoder(id);
-        if (!codec)
-            return Fail("no encoder for this container");
         track.codec.reset(avcodec_alloc_context3(codec));
         track.frame.reset(av_frame_alloc());
         track.stream = avformat_new_stream(format.get(), nullptr);
@@ -358,61 +256,48 @@ struct MediaWriter::Private
         return Check(avcodec_parameters_from_context(track.stream->codecpar, track.codec.get()));
     }
 
-    bool AddVideo(AVCodecID id)
+    bool AddVideo()
     {
-        if (!AddTrack(video, id))
+        if (!AddTrack(video, plan.video))
             return false;
         AVCodecContext* codec = video.codec.get();
-        codec->width = settings.size.width();
-        codec->height = settings.size.height();
-        codec->framerate = {int(settings.frameRate.num), int(settings.frameRate.den)};
-        av_reduce(&codec->framerate.num, &codec->framerate.den, settings.frameRate.num,
-                  settings.frameRate.den, 1001000);
-        codec->time_base = av_inv_q(codec->framerate);
-        codec->pix_fmt = codec->codec->pix_fmts ? codec->codec->pix_fmts[0] : AV_PIX_FMT_YUV420P;
-        codec->color_range = AVCOL_RANGE_MPEG;
-        // Where nothing is told, players take small pictures for those of older television.
-        const bool isModern = TellsColours(id) || codec->height >= kModernHeight;
-        codec->colorspace = isModern ? AVCOL_SPC_BT709 : AVCOL_SPC_SMPTE170M;
-        codec->color_primaries = isModern ? AVCOL_PRI_BT709 : AVCOL_PRI_SMPTE170M;
-        codec->color_trc = isModern ? AVCOL_TRC_BT709 : AVCOL_TRC_SMPTE170M;
-        if (av_opt_set_double(codec->priv_data, "crf", settings.quality, 0) < 0) {
-            codec->flags |= AV_CODEC_FLAG_QSCALE;
-            codec->global_quality = settings.quality * FF_QP2LAMBDA;
-        }
-        av_opt_set(codec->priv_data, "preset", "veryfast", 0);
+        SetUpVideo(codec, plan, settings);
         if (!StartTrack(video))
             return false;
         video.stream->avg_frame_rate = codec->framerate;
-        AVFrame* frame = video.frame.get();
-        frame->format = codec->pix_fmt;
-        frame->width = codec->width;
-        frame->height = codec->height;
-        if (!Check(av_frame_get_buffer(frame, 0)))
-            return false;
-        scaler.reset(sws_getContext(codec->width, codec->height, AV_PIX_FMT_BGRA, codec->width,
-                                    codec->height, codec->pix_fmt, SWS_BILINEAR, nullptr, nullptr,
-                                    nullptr));
-        if (!scaler)
-            return Fail("no conversion to the codec's pixels");
-        const int* matrix = sws_getCoefficients(isModern ? SWS_CS_ITU709 : SWS_CS_ITU601);
-        sws_setColorspaceDetails(scaler.get(), matrix, 1, matrix, 0, 0, 1 << 16, 1 << 16);
+        const bool isMovie =
+            qstrcmp(plan.muxer->name, "mp4") == 0 || qstrcmp(plan.muxer->name, "mov") == 0;
+        if (isMovie && codec->codec_id == AV_CODEC_ID_HEVC)
+            video.stream->codecpar->codec_tag = MKTAG('h', 'v', 'c', '1'); // else Apple plays none
+        feeder = std::make_unique<PictureFeeder>(PictureFeeder::Target{
+            settings.size, codec->pix_fmt, codec->colorspace, codec->color_trc,
+            codec->color_primaries, codec->color_range == AVCOL_RANGE_JPEG,
+            NLEFieldOrder(settings.options.fieldOrder)});
         return true;
     }
 
-    bool AddAudio(AVCodecID id)
+    bool WriteVideo(AVFrame* frame)
     {
-        if (!AddTrack(audio, id))
+        if (!frame)
+            return Fail("a picture cannot be converted to the codec's pixels");
+        frame->pts = video.next++;
+        frame->quality = video.codec->global_quality;
+        return Encode(video, frame);
+    }
+
+    bool AddAudio()
+    {
+        if (!AddTrack(audio, plan.audio))
             return false;
         AVCodecContext* codec = audio.codec.get();
-        codec->sample_rate = settings.sampleRate;
-        codec->sample_fmt =
-            codec->codec->sample_fmts ? codec->codec->sample_fmts[0] : AV_SAMPLE_FMT_FLT;
-        av_channel_layout_default(&codec->ch_layout, settings.channels);
-        codec->bit_rate = settings.audioBitRate;
-        codec->time_base = {1, settings.sampleRate};
+        SetUpAudio(codec, plan, settings);
         if (!StartTrack(audio))
             return false;
+        // Without times the container would play what the encoder puts before the sound as well, or
+        // move the pictures behind it; so the sound begins as much later.
+        const bool hasTimes = qstrcmp(plan.muxer->name, "avi") != 0;
+        leadIn = hasTimes ? 0 : codec->initial_padding;
+        audio.next = leadIn;
         SwrContext* context = nullptr;
         if (!Check(swr_alloc_set_opts2(&context, &codec->ch_layout, codec->sample_fmt,
                                        codec->sample_rate, &codec->ch_layout, AV_SAMPLE_FMT_FLT,
@@ -424,35 +309,36 @@ struct MediaWriter::Private
     }
 
     /// Opens the tracks and writes what stands before the first frame.
-    bool Start(const AVOutputFormat* container)
+    bool Start()
     {
         format.reset();
         video = {};
         audio = {};
-        if (!file.resize(0) || !file.seek(0))
+        if (!plan.isSequence && (!file.resize(0) || !file.seek(0)))
             return Fail(WriterError::Kind::File, file.errorString());
-        if (!OpenFormat(container))
+        if (!OpenFormat())
             return false;
-        const Codecs codecs = CodecsFor(*container, file.fileName());
-        const bool writesFilm = !settings.size.isEmpty() && codecs.video != AV_CODEC_ID_NONE;
-        if (writesFilm && !AddVideo(codecs.video))
+        if (!settings.size.isEmpty() && plan.video && !AddVideo())
             return false;
-        const bool writesSound = settings.hasSound && codecs.audio != AV_CODEC_ID_NONE;
-        if (writesSound && !AddAudio(codecs.audio))
+        if (settings.hasSound && plan.audio && !AddAudio())
             return false;
         if (format->nb_streams == 0)
             return Fail("nothing to write into this container");
         const int code = avformat_write_header(format.get(), nullptr);
-        if (code < 0 && output->error < 0)
+        if (code < 0 && output && output->error < 0)
             return Fail(WriterError::Kind::File, AvErrorText(output->error));
-        return Check(code);
+        if (!Check(code))
+            return false;
+        settings.settled =
+            SettledOptions(settings.options, plan, video.codec.get(), audio.codec.get());
+        return true;
     }
 
     /// Only the codec, when it is opened, and the container, with its header, tell what they take;
     /// so each format is tried from the start.
-    bool StartWithNearestSound(const AVOutputFormat* container)
+    bool StartWithNearestSound()
     {
-        if (Start(container))
+        if (Start())
             return true;
         const WriterError first = error;
         for (const SoundFormat& sound : SoundFormats(settings)) {
@@ -460,7 +346,7 @@ struct MediaWriter::Private
                 break;
             settings.sampleRate = sound.sampleRate;
             settings.channels = sound.channels;
-            if (Start(container))
+            if (Start())
                 return true;
         }
         error = first;
@@ -480,6 +366,12 @@ struct MediaWriter::Private
                 return false;
             av_packet_rescale_ts(packet.get(), track.codec->time_base, track.stream->time_base);
             packet->stream_index = track.stream->index;
+            if (plan.isSequence) {
+                const auto* data = reinterpret_cast<const char*>(packet->data);
+                if (!sequence->Append(data, packet->size))
+                    return Fail(WriterError::Kind::File, sequence->Error());
+                continue;
+            }
             if (!Check(av_interleaved_write_frame(format.get(), packet.get())))
                 return false;
         }
@@ -517,8 +409,8 @@ std::unique_ptr<MediaWriter> MediaWriter::Open(const QString& path, const Writer
                                                WriterError* error)
 {
     auto d = std::make_unique<Private>(path, settings);
-    const AVOutputFormat* container = d->FindContainer();
-    if (container && d->OpenFile() && d->StartWithNearestSound(container))
+    if (MakePlan(path, settings, &d->plan, &d->error) && d->OpenFile() &&
+        d->StartWithNearestSound())
         return std::unique_ptr<MediaWriter>(new MediaWriter(std::move(d)));
     *error = d->error;
     return nullptr;
@@ -532,18 +424,21 @@ bool MediaWriter::Try(const QString& path, WriterSettings& settings, WriterError
     };
     QSaveFile target(path);
     const QFileInfo file(path);
-    TrialFolder folder(file);
+    SideFolder folder(file, "trial");
     if (!target.open(QIODevice::WriteOnly))
         return fail(WriterError::Kind::File, target.errorString());
     if (!folder->isValid())
         return fail(WriterError::Kind::File, folder->errorString());
-    const QString trial = folder->filePath(QStringLiteral("trial.") + file.suffix());
+    const bool isSequence = PictureSequence::IsName(path);
+    const QString trial =
+        folder->filePath(isSequence ? file.fileName() : QStringLiteral("trial.") + file.suffix());
     const std::unique_ptr<MediaWriter> writer = Open(trial, settings, error);
     if (!writer)
         return false;
     if (!WriteTrial(*writer))
         return fail(WriterError::Kind::Settings, writer->Error());
-    if (!Holds(ProbeMedia(trial, nullptr), *writer))
+    const QString first = writer->IsSequence() ? PictureSequence::FileOf(trial, 0) : trial;
+    if (!Holds(ProbeMedia(first, nullptr), *writer))
         return fail(WriterError::Kind::Settings,
                     QStringLiteral("what is written so cannot be read"));
     settings = writer->Settings();
@@ -562,25 +457,29 @@ bool MediaWriter::HasPicture() const
     return d->video.codec != nullptr;
 }
 
+bool MediaWriter::IsSequence() const
+{
+    return d->plan.isSequence;
+}
+
 bool MediaWriter::HasSound() const
 {
     return d->audio.codec != nullptr;
 }
 
+bool MediaWriter::Takes(const AVFrame& decoded) const
+{
+    return d->feeder && d->feeder->Takes(decoded);
+}
+
+bool MediaWriter::WritePicture(const AVFrame& decoded)
+{
+    return d->WriteVideo(d->feeder->Feed(decoded));
+}
+
 bool MediaWriter::WritePicture(const QImage& picture)
 {
-    const QImage source = picture.convertToFormat(QImage::Format_RGB32);
-    AVFrame* frame = d->video.frame.get();
-    if (source.width() != frame->width || source.height() != frame->height)
-        return d->Fail("a picture of another size");
-    if (!d->Check(av_frame_make_writable(frame)))
-        return false;
-    const std::uint8_t* const planes[] = {source.constBits()};
-    const int strides[] = {source.bytesPerLine()};
-    sws_scale(d->scaler.get(), planes, strides, 0, source.height(), frame->data, frame->linesize);
-    frame->pts = d->video.next++;
-    frame->quality = d->video.codec->global_quality;
-    return d->Encode(d->video, frame);
+    return d->WriteVideo(d->feeder->Feed(picture));
 }
 
 bool MediaWriter::WriteSound(const float* samples, int count)
@@ -588,6 +487,12 @@ bool MediaWriter::WriteSound(const float* samples, int count)
     if (!d->audio.codec || count < 1)
         return true;
     const AVCodecContext* codec = d->audio.codec.get();
+    const int left = std::min(d->leadIn, count);
+    d->leadIn -= left;
+    samples += std::ptrdiff_t(left) * codec->ch_layout.nb_channels;
+    count -= left;
+    if (count == 0)
+        return true;
     AVFrame* frame = d->audio.frame.get();
     av_frame_unref(frame);
     frame->nb_samples = count;
@@ -611,6 +516,8 @@ bool MediaWriter::Finish()
         return false;
     if (!d->Check(av_write_trailer(d->format.get())))
         return false;
+    if (d->plan.isSequence)
+        return d->sequence->Commit() || d->Fail(WriterError::Kind::File, d->sequence->Error());
     avio_flush(d->output.get());
     if (!d->Check(d->output->error))
         return false;

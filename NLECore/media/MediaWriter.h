@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "NLECore/media/EncodeFormats.h"
 #include "NLECore/media/MediaInfo.h"
 
 #include <QImage>
@@ -8,6 +9,8 @@
 #include <QString>
 
 #include <memory>
+
+struct AVFrame;
 
 namespace nle {
 
@@ -21,6 +24,8 @@ struct WriterSettings
     int sampleRate = 48000;
     int channels = 2;
     int audioBitRate = 192000; ///< bits a second
+    EncodeOptions options;     ///< what else was asked for; quality and audioBitRate stand above
+    EncodeOptions settled;     ///< what became of it, from Open on
 };
 
 /// Why nothing is written.
@@ -36,9 +41,10 @@ struct WriterError
     QString text;
 };
 
-/// Writes one media file. The container follows from the suffix of the path, the codecs from the
-/// container. Everything is written under a temporary name beside the path and renamed by Finish:
-/// until then a file of that name stays as it was.
+/// Writes one media file, or a file of each picture. Where the settings name none, the container
+/// follows from the suffix of the path, the codecs from the container. Everything is written under
+/// a temporary name beside the path and renamed by Finish: until then a file of that name stays as
+/// it was.
 class MediaWriter
 {
 public:
@@ -59,6 +65,14 @@ public:
     /// Whether pictures are written, and sound: what the container takes of the settings.
     bool HasPicture() const;
     bool HasSound() const;
+    /// Whether each picture becomes a file.
+    bool IsSequence() const;
+    /// Whether WritePicture takes a decoded picture; else it is to come as an image. Any thread may
+    /// ask, also while another one writes.
+    bool Takes(const AVFrame& decoded) const;
+    /// Appends a picture as it was decoded: as it is where its size and format are what is written,
+    /// else converted without a detour.
+    bool WritePicture(const AVFrame& decoded);
     /// Appends a picture of the size given at the start.
     bool WritePicture(const QImage& picture);
     /// Appends \a count samples a channel, interleaved.

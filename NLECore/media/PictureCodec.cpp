@@ -8,7 +8,6 @@
 
 extern "C" {
 #include <libavutil/opt.h>
-#include <libavutil/pixdesc.h>
 #include <libswscale/swscale.h>
 }
 
@@ -131,11 +130,8 @@ QByteArray PictureEncoder::Encode(const AVFrame& decoded)
     AVFrame* frame = d->frame.get();
     bool isFullRange = decoded.color_range == AVCOL_RANGE_JPEG;
     const AVPixelFormat format = ModernFormat(AVPixelFormat(decoded.format), &isFullRange);
-    const AVPixFmtDescriptor* kind = av_pix_fmt_desc_get(format);
-    constexpr std::uint64_t unfit =
-        AV_PIX_FMT_FLAG_RGB | AV_PIX_FMT_FLAG_ALPHA | AV_PIX_FMT_FLAG_HWACCEL | AV_PIX_FMT_FLAG_PAL;
-    const bool isFit = kind && (kind->flags & unfit) == 0 && kind->nb_components == 3;
-    if (!isFit || d->traits.codec != AV_CODEC_ID_MJPEG || av_frame_make_writable(frame) < 0)
+    if (!IsPlainYuv(decoded) || d->traits.codec != AV_CODEC_ID_MJPEG ||
+        av_frame_make_writable(frame) < 0)
         return {};
     const bool isShrinking = frame->width <= decoded.width && frame->height <= decoded.height;
     d->decodedScaler.reset(

@@ -6,6 +6,7 @@
 #include <cstring>
 
 extern "C" {
+#include <libavutil/pixdesc.h>
 #include <libswscale/swscale.h>
 }
 
@@ -74,6 +75,14 @@ AVColorSpace ColoursOf(const AVFrame& frame)
     default:
         return frame.height >= 720 ? AVCOL_SPC_BT709 : AVCOL_SPC_SMPTE170M;
     }
+}
+
+bool IsPlainYuv(const AVFrame& frame)
+{
+    const AVPixFmtDescriptor* kind = av_pix_fmt_desc_get(AVPixelFormat(frame.format));
+    constexpr std::uint64_t unfit =
+        AV_PIX_FMT_FLAG_RGB | AV_PIX_FMT_FLAG_ALPHA | AV_PIX_FMT_FLAG_HWACCEL | AV_PIX_FMT_FLAG_PAL;
+    return kind && (kind->flags & unfit) == 0 && kind->nb_components == 3;
 }
 
 PictureScaler::~PictureScaler()

@@ -16,6 +16,8 @@ namespace nle {
 AVPixelFormat ModernFormat(AVPixelFormat format, bool* isFullRange);
 /// The colours of a picture; files that do not name theirs follow the usual ones for their size.
 AVColorSpace ColoursOf(const AVFrame& frame);
+/// Whether a picture is of brightness and two colour differences, without alpha.
+bool IsPlainYuv(const AVFrame& frame);
 
 /// Turns decoded pictures into upright images. Keeps its tables for the next picture of the same
 /// kind. One object serves one thread at a time.

@@ -5,11 +5,8 @@
 #include "NLECore/media/EngineLog.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/objects/TimelineFactory.h"
-#include "NLECore/render/AudioMixer.h"
-#include "NLECore/render/Composer.h"
+#include "NLECore/render/FilmWriter.h"
 #include "NLECore/scene/FrameMath.h"
-
-#include <QPainter>
 
 namespace nle {
 
@@ -54,24 +51,15 @@ HRESULT ResultOf(WriterError::Kind kind)
     return E_INVALIDARG;
 }
 
-/// A file is written at its full size, however small the preview is.
-Snapshot AtFullSize(const Snapshot& root)
+/// A file is written at its full size, however small the preview is. Where it keeps what is
+/// transparent, nothing shows where no clip does.
+Snapshot ForFile(const Snapshot& root, bool keepsAlpha)
 {
     auto copy = std::make_shared<Layer>(*root);
     copy->context.previewScale = 1;
+    if (keepsAlpha && copy->kind == LayerKind::Composite)
+        copy->argb = 0;
     return copy;
-}
-
-/// The rendered picture on a black frame.
-QImage OnFrame(const QImage& picture, const QRect& place, const QSize& size)
-{
-    if (picture.size() == size && !picture.hasAlphaChannel())
-        return picture;
-    QImage frame(size, QImage::Format_RGB32);
-    frame.fill(Qt::black);
-    if (!picture.isNull())
-        QPainter(&frame).drawImage(place.topLeft(), picture);
-    return frame;
 }
 
 } // namespace
@@ -84,7 +72,7 @@ HRESULT MediaEncoder::Open(INLETimeline* timeline, const wchar_t* path,
         const TimelineNode* node = TimelineNode::From(timeline);
         if (!node || !path)
             return E_INVALIDARG;
-        const Snapshot root = AtFullSize(node->MakeSnapshot());
+        const Snapshot root = node->MakeSnapshot();
         m_path = QString::fromWCharArray(path);
         if (!TakeSettings(*node, *root, settings ? *settings : NLEEncodeSettings{}))
             return E_INVALIDARG;
@@ -93,7 +81,7 @@ HRESULT MediaEncoder::Open(INLETimeline* timeline, const wchar_t* path,
             Warn(error.text);
             return ResultOf(error.kind);
         }
-        m_root = root;
+        m_root = ForFile(root, m_settings.settled.alpha != 0);
         return S_OK;
     });
 }
@@ -110,13 +98,15 @@ bool MediaEncoder::TakeSettings(const TimelineNode& node, const Layer& root,
     m_settings.size = EvenSize(hasSize ? wanted.frameSize : root.size);
     m_frameRate = IsRate(wanted.frameRate) ? wanted.frameRate : node.FrameRate();
     m_settings.frameRate = m_frameRate;
-    m_settings.quality = OrDefault(wanted.quality, 20);
+    m_settings.quality = OrDefault(wanted.quality, OrDefault(m_options.quality, 20));
     const auto* project = dynamic_cast<const ProjectNode*>(&node);
     const tagNLEProjectProfile& profile = project ? project->Profile() : kDefaultProfile;
     m_settings.sampleRate = OrDefault(wanted.sampleRate, profile.sampleRate);
     m_settings.channels = OrDefault(wanted.channels, profile.channels);
-    m_settings.audioBitRate = OrDefault(wanted.audioBitRate, 192000);
+    m_settings.audioBitRate =
+        OrDefault(wanted.audioBitRate, OrDefault(m_options.audioBitRate, 192000));
     m_settings.hasSound = HasSound(root);
+    m_settings.options = m_options;
     const bool isCountable = ToDouble(m_frameRate) >= kLowestRate && ToDouble(node.FrameRate()) > 0;
     const bool isAudible =
         m_settings.sampleRate <= kHighestSampleRate && m_settings.channels <= kMostChannels;
@@ -134,44 +124,38 @@ HRESULT MediaEncoder::Encode(NLEProgressCallback callback, void* userData)
             Warn(error.text);
             return E_FAIL;
         }
-        const WriterSettings& settings = writer->Settings();
-        Composer composer(m_root);
-        AudioMixer mixer(m_root, settings.sampleRate, settings.channels);
-        std::vector<float> sound;
-        const NLERational& ownRate = m_root->frameRate;
-        const auto length = std::llround(double(NLERangeLength(m_range)) * ToDouble(m_frameRate) /
-                                         ToDouble(ownRate));
-        const std::int64_t firstSample = mixer.SampleOfFrame(m_range.in);
-        const auto sampleOf = [&](std::int64_t frame) {
-            return firstSample +
-                   std::llround(double(frame) * settings.sampleRate / ToDouble(m_frameRate));
-        };
-        bool written = true;
-        for (std::int64_t done = 0; written && done < length; ++done) {
-            if (callback && callback(int(done * 100 / length), userData) != 0)
-                return S_FALSE;
-            if (writer->HasPicture()) {
-                QRect place;
-                const std::int64_t frame =
-                    m_range.in + FrameTime{double(done), m_frameRate}.ShownAt(ownRate);
-                const QImage picture = composer.Render(frame, settings.size, &place);
-                written = writer->WritePicture(OnFrame(picture, place, settings.size));
-            }
-            if (written && writer->HasSound()) {
-                const std::int64_t first = sampleOf(done);
-                const int count = int(sampleOf(done + 1) - first);
-                sound.resize(size_t(count) * size_t(settings.channels));
-                mixer.Mix(first, count, sound.data());
-                written = writer->WriteSound(sound.data(), count);
-            }
-        }
-        if (!written || !writer->Finish()) {
+        const FilmPlan film = {m_root, m_range, m_frameRate};
+        const HRESULT result = WriteFilm(film, *writer, [&](int percent) {
+            return !callback || callback(percent, userData) == 0;
+        });
+        if (result == E_OUTOFMEMORY || result == S_FALSE)
+            return result;
+        if (FAILED(result) || !writer->Finish()) {
             Warn(writer->Error());
             return E_FAIL;
         }
         if (callback)
             callback(100, userData);
         return S_OK;
+    });
+}
+
+HRESULT MediaEncoder::SetOptions(INLEProperties* options)
+{
+    return ComGuard([&] {
+        if (options)
+            return ReadOptions(options, &m_options);
+        m_options = {};
+        return S_OK;
+    });
+}
+
+HRESULT MediaEncoder::GetOptions(INLEProperties* options)
+{
+    return ComGuard([&] {
+        if (!options)
+            return E_POINTER;
+        return m_root ? WriteOptions(m_settings.settled, options) : E_FAIL;
     });
 }
 

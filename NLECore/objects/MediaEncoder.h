@@ -4,6 +4,7 @@
 #include "Com/ComObject.h"
 #include "EngineApi/INLEFrames.h"
 #include "NLECore/media/MediaWriter.h"
+#include "NLECore/objects/EncodeCatalog.h"
 #include "NLECore/scene/Layer.h"
 
 namespace nle {
@@ -11,12 +12,14 @@ namespace nle {
 class TimelineNode;
 
 /// Renders a snapshot frame by frame into a media file.
-class MediaEncoder final : public ComObject<INLEMediaEncoder>
+class MediaEncoder final : public ComObject<INLEMediaEncoder, INLEEncodeOptions, EncodeCatalog>
 {
 public:
     HRESULT Open(INLETimeline* timeline, const wchar_t* path,
                  const NLEEncodeSettings* settings) override;
     HRESULT Encode(NLEProgressCallback callback, void* userData) override;
+    HRESULT SetOptions(INLEProperties* options) override;
+    HRESULT GetOptions(INLEProperties* options) override;
 
 private:
     /// False for what no file can hold.
@@ -24,6 +27,7 @@ private:
     /// Logs why the file is not written.
     void Warn(const QString& reason) const;
 
+    EncodeOptions m_options;
     Snapshot m_root;
     QString m_path;
     NLERange m_range = {0, -1};

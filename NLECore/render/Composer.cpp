@@ -275,6 +275,8 @@ const AVFrame* Composer::PlainPicture(std::int64_t frame, const QSize& frameSize
 {
     if (m_root->context.previewScale < 1 || !m_root->context.smooth)
         return nullptr;
+    if (m_root->kind == LayerKind::Media)
+        return PlainMedia(*m_root, frame);
     const QRect place = PlaceRoot(m_root->size, frameSize);
     const Layer* sole = PlainBottom(*m_root, frame, place.size());
     const auto covers = [&](const Snapshot& child) {
@@ -282,8 +284,17 @@ const AVFrame* Composer::PlainPicture(std::int64_t frame, const QSize& frameSize
     };
     if (!sole || std::any_of(m_root->children.begin(), m_root->children.end(), covers))
         return nullptr;
+    return PlainMedia(*sole, sole->FrameAt(frame));
+}
+
+const AVFrame* Composer::PlainMedia(const Layer& layer, std::int64_t frame)
+{
+    const MediaInfo& media = *layer.ShownMedia();
+    const MediaStream* stream = media.Stream(media.videoStream);
+    if (!stream || stream->hasAlpha)
+        return nullptr;
     int wanted = 0;
-    FrameDecoder* decoder = DecoderOf(*sole, sole->FrameAt(frame), &wanted);
+    FrameDecoder* decoder = DecoderOf(layer, frame, &wanted);
     const AVFrame* picture = decoder ? decoder->Decoded(wanted) : nullptr;
     if (picture)
         DropIdleDecoders();

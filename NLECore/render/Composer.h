@@ -51,6 +51,7 @@ public:
 private:
     /// The lowest child that shows, when its media covers \a size as it is; else null.
     const Layer* PlainBottom(const Layer& composite, std::int64_t frame, const QSize& size) const;
+    const AVFrame* PlainMedia(const Layer& layer, std::int64_t frame);
     QImage Content(const Layer& layer, std::int64_t frame, const QSize& size);
     QImage MediaPicture(const Layer& layer, std::int64_t frame, const QSize& size);
     /// The layer's open decoder, or null, and the frame of its media that shows.
