@@ -5,6 +5,7 @@
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/INLEProperties.h"
 #include "Host/Console.h"
+#include "Host/ExportJob.h"
 #include "Host/HostLanguage.h"
 #include "Host/MediaJob.h"
 #include "Host/OutputFolder.h"
@@ -41,6 +42,9 @@ struct Options
     QString log;
     bool echo;
     QStringList media;
+    QString film;
+    QString preset;
+    bool listsPresets;
 };
 
 /// Opens the process's log; false when the host must work without it.
@@ -79,6 +83,11 @@ int ReportFiles(const Options& options, OutputFolder& output, Console& console)
                                                         QStringLiteral("/NLECore.dll"))));
         return Failure;
     }
+    ExportJob film(*provider, console);
+    if (options.listsPresets)
+        return film.ListPresets() ? Success : Failure;
+    if (!options.film.isEmpty())
+        return film.Run(options.media, options.film, options.preset) ? Success : Failure;
     bool written = true;
     MediaJob job(*provider, console, output);
     for (const QString& path : options.media)
@@ -133,7 +142,16 @@ int main(int argc, char* argv[])
                                      .arg(QString::fromLatin1(kLogName)),
                                  Program::tr("FILE"));
     const QCommandLineOption echo(QStringLiteral("echo"), Program::tr("Print the log as well."));
-    parser.addOptions({help, output, log, echo, HostLanguage::Option()});
+    const QCommandLineOption film(QStringLiteral("export"),
+                                  Program::tr("Write a film of all media files to this file, "
+                                              "whose suffix chooses how it is encoded."),
+                                  Program::tr("FILE"));
+    const QCommandLineOption preset(QStringLiteral("preset"),
+                                    Program::tr("Preset that the film is encoded with."),
+                                    Program::tr("NAME"));
+    const QCommandLineOption presets(QStringLiteral("presets"),
+                                     Program::tr("List the presets for films."));
+    parser.addOptions({help, output, log, echo, film, preset, presets, HostLanguage::Option()});
     parser.addPositionalArgument(Program::tr("MEDIA…"), Program::tr("Media files."));
 
     Console console;
@@ -142,7 +160,8 @@ int main(int argc, char* argv[])
         console.Print(parser.helpText());
         return Success;
     }
-    if (!understood || parser.positionalArguments().isEmpty()) {
+    const bool needsMedia = !parser.isSet(presets) && parser.positionalArguments().isEmpty();
+    if (!understood || needsMedia) {
         console.Print(understood ? Program::tr("No media file named.") : parser.errorText());
         console.Print(parser.helpText());
         return WrongUsage;
@@ -152,8 +171,9 @@ int main(int argc, char* argv[])
         return WrongUsage;
     }
 
-    Options options{parser.value(output), parser.value(log), parser.isSet(echo),
-                    parser.positionalArguments()};
+    Options options{parser.value(output),         parser.value(log),  parser.isSet(echo),
+                    parser.positionalArguments(), parser.value(film), parser.value(preset),
+                    parser.isSet(presets)};
     if (options.log.isEmpty())
         options.log = QDir(options.output).filePath(QString::fromLatin1(kLogName));
     return Run(options, console);

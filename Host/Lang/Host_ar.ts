@@ -201,6 +201,22 @@
         <source>No media file named.</source>
         <translation>لم يُذكر أي ملف وسائط.</translation>
     </message>
+    <message>
+        <source>Write a film of all media files to this file, whose suffix chooses how it is encoded.</source>
+        <translation>كتابة فيلم من جميع ملفات الوسائط إلى هذا الملف، ويحدد امتداده طريقة الترميز.</translation>
+    </message>
+    <message>
+        <source>Preset that the film is encoded with.</source>
+        <translation>الإعداد المسبق الذي يُرمَّز به الفيلم.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>List the presets for films.</source>
+        <translation>سرد الإعدادات المسبقة للأفلام.</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -238,6 +254,25 @@
     <message>
         <source>drag ends at %1</source>
         <translation>ينتهي السحب عند %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportJob</name>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>لا يوجد إعداد مسبق باسم &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>The engine has no presets.</source>
+        <translation>لا توجد إعدادات مسبقة في المحرك.</translation>
+    </message>
+    <message>
+        <source>encoded: %1 %</source>
+        <translation>تم الترميز: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 is not written; the log tells why.</source>
+        <translation>لم يُكتب %1؛ السجل يوضح السبب.</translation>
     </message>
 </context>
 <context>

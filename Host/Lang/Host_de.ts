@@ -201,6 +201,22 @@
         <source>No media file named.</source>
         <translation>Keine Mediendatei genannt.</translation>
     </message>
+    <message>
+        <source>Write a film of all media files to this file, whose suffix chooses how it is encoded.</source>
+        <translation>Einen Film aus allen Mediendateien in diese Datei schreiben; ihre Endung bestimmt, wie er kodiert wird.</translation>
+    </message>
+    <message>
+        <source>Preset that the film is encoded with.</source>
+        <translation>Vorgabe, nach der der Film kodiert wird.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAME</translation>
+    </message>
+    <message>
+        <source>List the presets for films.</source>
+        <translation>Die Vorgaben für Filme auflisten.</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -238,6 +254,25 @@
     <message>
         <source>drag ends at %1</source>
         <translation>Ziehen endet bei %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportJob</name>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>Es gibt keine Vorgabe „%1“.</translation>
+    </message>
+    <message>
+        <source>The engine has no presets.</source>
+        <translation>Die Engine hat keine Vorgaben.</translation>
+    </message>
+    <message>
+        <source>encoded: %1 %</source>
+        <translation>kodiert: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 is not written; the log tells why.</source>
+        <translation>%1 wird nicht geschrieben; das Protokoll sagt, warum.</translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,22 @@
         <source>No media file named.</source>
         <translation>No media file named.</translation>
     </message>
+    <message>
+        <source>Write a film of all media files to this file, whose suffix chooses how it is encoded.</source>
+        <translation>Write a film of all media files to this file, whose suffix chooses how it is encoded.</translation>
+    </message>
+    <message>
+        <source>Preset that the film is encoded with.</source>
+        <translation>Preset that the film is encoded with.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAME</translation>
+    </message>
+    <message>
+        <source>List the presets for films.</source>
+        <translation>List the presets for films.</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -238,6 +254,25 @@
     <message>
         <source>drag ends at %1</source>
         <translation>drag ends at %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportJob</name>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>There is no preset &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>The engine has no presets.</source>
+        <translation>The engine has no presets.</translation>
+    </message>
+    <message>
+        <source>encoded: %1 %</source>
+        <translation>encoded: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 is not written; the log tells why.</source>
+        <translation>%1 is not written; the log tells why.</translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,22 @@
         <source>No media file named.</source>
         <translation>No se ha indicado ningún archivo multimedia.</translation>
     </message>
+    <message>
+        <source>Write a film of all media files to this file, whose suffix chooses how it is encoded.</source>
+        <translation>Escribir una película con todos los archivos multimedia en este archivo, cuya extensión decide cómo se codifica.</translation>
+    </message>
+    <message>
+        <source>Preset that the film is encoded with.</source>
+        <translation>Ajuste predefinido con el que se codifica la película.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOMBRE</translation>
+    </message>
+    <message>
+        <source>List the presets for films.</source>
+        <translation>Mostrar los ajustes predefinidos para películas.</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -238,6 +254,25 @@
     <message>
         <source>drag ends at %1</source>
         <translation>el arrastre termina en %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportJob</name>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>No hay ningún ajuste predefinido «%1».</translation>
+    </message>
+    <message>
+        <source>The engine has no presets.</source>
+        <translation>El motor no tiene ajustes predefinidos.</translation>
+    </message>
+    <message>
+        <source>encoded: %1 %</source>
+        <translation>codificado: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 is not written; the log tells why.</source>
+        <translation>%1 no se escribe; el registro explica por qué.</translation>
     </message>
 </context>
 <context>

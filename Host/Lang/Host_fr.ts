@@ -201,6 +201,22 @@
         <source>No media file named.</source>
         <translation>Aucun fichier multimédia indiqué.</translation>
     </message>
+    <message>
+        <source>Write a film of all media files to this file, whose suffix chooses how it is encoded.</source>
+        <translation>Écrire un film de tous les fichiers multimédias dans ce fichier, dont l’extension choisit l’encodage.</translation>
+    </message>
+    <message>
+        <source>Preset that the film is encoded with.</source>
+        <translation>Préréglage avec lequel le film est encodé.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOM</translation>
+    </message>
+    <message>
+        <source>List the presets for films.</source>
+        <translation>Énumérer les préréglages pour les films.</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -238,6 +254,25 @@
     <message>
         <source>drag ends at %1</source>
         <translation>le glissement finit à %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportJob</name>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>Il n’y a pas de préréglage « %1 ».</translation>
+    </message>
+    <message>
+        <source>The engine has no presets.</source>
+        <translation>Le moteur n’a pas de préréglages.</translation>
+    </message>
+    <message>
+        <source>encoded: %1 %</source>
+        <translation>encodé : %1 %</translation>
+    </message>
+    <message>
+        <source>%1 is not written; the log tells why.</source>
+        <translation>%1 n’est pas écrit ; le journal dit pourquoi.</translation>
     </message>
 </context>
 <context>

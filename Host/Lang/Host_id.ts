@@ -201,6 +201,22 @@
         <source>No media file named.</source>
         <translation>Tidak ada berkas media yang disebutkan.</translation>
     </message>
+    <message>
+        <source>Write a film of all media files to this file, whose suffix chooses how it is encoded.</source>
+        <translation>Tulis film dari semua berkas media ke berkas ini; akhirannya menentukan cara pengodean.</translation>
+    </message>
+    <message>
+        <source>Preset that the film is encoded with.</source>
+        <translation>Prasetel untuk mengodekan film.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAMA</translation>
+    </message>
+    <message>
+        <source>List the presets for films.</source>
+        <translation>Tampilkan daftar prasetel untuk film.</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -238,6 +254,25 @@
     <message>
         <source>drag ends at %1</source>
         <translation>seret berakhir pada %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportJob</name>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>Tidak ada prasetel &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>The engine has no presets.</source>
+        <translation>Mesin tidak memiliki prasetel.</translation>
+    </message>
+    <message>
+        <source>encoded: %1 %</source>
+        <translation>dikodekan: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 is not written; the log tells why.</source>
+        <translation>%1 tidak ditulis; log menjelaskan alasannya.</translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,22 @@
         <source>No media file named.</source>
         <translation>Nessun file multimediale indicato.</translation>
     </message>
+    <message>
+        <source>Write a film of all media files to this file, whose suffix chooses how it is encoded.</source>
+        <translation>Scrive un filmato di tutti i file multimediali in questo file, la cui estensione sceglie la codifica.</translation>
+    </message>
+    <message>
+        <source>Preset that the film is encoded with.</source>
+        <translation>Preimpostazione con cui il filmato è codificato.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOME</translation>
+    </message>
+    <message>
+        <source>List the presets for films.</source>
+        <translation>Elenca le preimpostazioni per i filmati.</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -238,6 +254,25 @@
     <message>
         <source>drag ends at %1</source>
         <translation>il trascinamento finisce a %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportJob</name>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>Non esiste la preimpostazione «%1».</translation>
+    </message>
+    <message>
+        <source>The engine has no presets.</source>
+        <translation>Il motore non ha preimpostazioni.</translation>
+    </message>
+    <message>
+        <source>encoded: %1 %</source>
+        <translation>codificato: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 is not written; the log tells why.</source>
+        <translation>%1 non viene scritto; il registro spiega perché.</translation>
     </message>
 </context>
 <context>

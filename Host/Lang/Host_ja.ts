@@ -201,6 +201,22 @@
         <source>No media file named.</source>
         <translation>メディアファイルが指定されていません。</translation>
     </message>
+    <message>
+        <source>Write a film of all media files to this file, whose suffix chooses how it is encoded.</source>
+        <translation>すべてのメディアファイルから成る動画をこのファイルに書き込みます。拡張子でエンコード方法が決まります。</translation>
+    </message>
+    <message>
+        <source>Preset that the film is encoded with.</source>
+        <translation>動画のエンコードに使うプリセット。</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>List the presets for films.</source>
+        <translation>動画用のプリセットを一覧表示します。</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -238,6 +254,25 @@
     <message>
         <source>drag ends at %1</source>
         <translation>ドラッグ終了: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportJob</name>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>プリセット「%1」はありません。</translation>
+    </message>
+    <message>
+        <source>The engine has no presets.</source>
+        <translation>エンジンにはプリセットがありません。</translation>
+    </message>
+    <message>
+        <source>encoded: %1 %</source>
+        <translation>エンコード済み: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 is not written; the log tells why.</source>
+        <translation>%1 は書き込まれませんでした。理由はログにあります。</translation>
     </message>
 </context>
 <context>

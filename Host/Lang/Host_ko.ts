@@ -201,6 +201,22 @@
         <source>No media file named.</source>
         <translation>미디어 파일이 지정되지 않았습니다.</translation>
     </message>
+    <message>
+        <source>Write a film of all media files to this file, whose suffix chooses how it is encoded.</source>
+        <translation>모든 미디어 파일로 만든 영상을 이 파일에 씁니다. 확장자가 인코딩 방식을 정합니다.</translation>
+    </message>
+    <message>
+        <source>Preset that the film is encoded with.</source>
+        <translation>영상을 인코딩할 프리셋입니다.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>List the presets for films.</source>
+        <translation>영상용 프리셋을 나열합니다.</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -238,6 +254,25 @@
     <message>
         <source>drag ends at %1</source>
         <translation>끌기 끝: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportJob</name>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>프리셋 &quot;%1&quot;이(가) 없습니다.</translation>
+    </message>
+    <message>
+        <source>The engine has no presets.</source>
+        <translation>엔진에 프리셋이 없습니다.</translation>
+    </message>
+    <message>
+        <source>encoded: %1 %</source>
+        <translation>인코딩됨: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 is not written; the log tells why.</source>
+        <translation>%1을(를) 쓰지 못했습니다. 이유는 로그에 있습니다.</translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,22 @@
         <source>No media file named.</source>
         <translation>Geen mediabestand genoemd.</translation>
     </message>
+    <message>
+        <source>Write a film of all media files to this file, whose suffix chooses how it is encoded.</source>
+        <translation>Een film van alle mediabestanden naar dit bestand schrijven; de extensie bepaalt de codering.</translation>
+    </message>
+    <message>
+        <source>Preset that the film is encoded with.</source>
+        <translation>Voorinstelling waarmee de film wordt gecodeerd.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAAM</translation>
+    </message>
+    <message>
+        <source>List the presets for films.</source>
+        <translation>De voorinstellingen voor films tonen.</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -238,6 +254,25 @@
     <message>
         <source>drag ends at %1</source>
         <translation>slepen eindigt bij %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportJob</name>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>Er is geen voorinstelling ‘%1’.</translation>
+    </message>
+    <message>
+        <source>The engine has no presets.</source>
+        <translation>De engine heeft geen voorinstellingen.</translation>
+    </message>
+    <message>
+        <source>encoded: %1 %</source>
+        <translation>gecodeerd: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 is not written; the log tells why.</source>
+        <translation>%1 wordt niet geschreven; het logboek vertelt waarom.</translation>
     </message>
 </context>
 <context>

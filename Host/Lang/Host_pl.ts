@@ -201,6 +201,22 @@
         <source>No media file named.</source>
         <translation>Nie podano pliku multimedialnego.</translation>
     </message>
+    <message>
+        <source>Write a film of all media files to this file, whose suffix chooses how it is encoded.</source>
+        <translation>Zapisz film ze wszystkich plików multimedialnych w tym pliku; jego rozszerzenie wybiera kodowanie.</translation>
+    </message>
+    <message>
+        <source>Preset that the film is encoded with.</source>
+        <translation>Zestaw ustawień, z którym film jest kodowany.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAZWA</translation>
+    </message>
+    <message>
+        <source>List the presets for films.</source>
+        <translation>Wyświetl zestawy ustawień dla filmów.</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -238,6 +254,25 @@
     <message>
         <source>drag ends at %1</source>
         <translation>przeciąganie kończy się na %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportJob</name>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>Nie ma zestawu ustawień „%1”.</translation>
+    </message>
+    <message>
+        <source>The engine has no presets.</source>
+        <translation>Silnik nie ma zestawów ustawień.</translation>
+    </message>
+    <message>
+        <source>encoded: %1 %</source>
+        <translation>zakodowano: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 is not written; the log tells why.</source>
+        <translation>Plik %1 nie został zapisany; dziennik podaje powód.</translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,22 @@
         <source>No media file named.</source>
         <translation>Nenhum ficheiro multimédia indicado.</translation>
     </message>
+    <message>
+        <source>Write a film of all media files to this file, whose suffix chooses how it is encoded.</source>
+        <translation>Gravar um filme com todos os ficheiros multimédia neste ficheiro, cuja extensão escolhe a codificação.</translation>
+    </message>
+    <message>
+        <source>Preset that the film is encoded with.</source>
+        <translation>Predefinição com que o filme é codificado.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOME</translation>
+    </message>
+    <message>
+        <source>List the presets for films.</source>
+        <translation>Listar as predefinições para filmes.</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -238,6 +254,25 @@
     <message>
         <source>drag ends at %1</source>
         <translation>o arrasto termina em %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportJob</name>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>Não há nenhuma predefinição «%1».</translation>
+    </message>
+    <message>
+        <source>The engine has no presets.</source>
+        <translation>O motor não tem predefinições.</translation>
+    </message>
+    <message>
+        <source>encoded: %1 %</source>
+        <translation>codificado: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 is not written; the log tells why.</source>
+        <translation>%1 não é gravado; o registo diz porquê.</translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,22 @@
         <source>No media file named.</source>
         <translation>Nu a fost indicat niciun fișier media.</translation>
     </message>
+    <message>
+        <source>Write a film of all media files to this file, whose suffix chooses how it is encoded.</source>
+        <translation>Scrie un film din toate fișierele media în acest fișier, a cărui extensie alege codarea.</translation>
+    </message>
+    <message>
+        <source>Preset that the film is encoded with.</source>
+        <translation>Presetarea cu care este codat filmul.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NUME</translation>
+    </message>
+    <message>
+        <source>List the presets for films.</source>
+        <translation>Listează presetările pentru filme.</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -238,6 +254,25 @@
     <message>
         <source>drag ends at %1</source>
         <translation>tragerea se termină la %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportJob</name>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>Nu există presetarea „%1”.</translation>
+    </message>
+    <message>
+        <source>The engine has no presets.</source>
+        <translation>Motorul nu are presetări.</translation>
+    </message>
+    <message>
+        <source>encoded: %1 %</source>
+        <translation>codat: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 is not written; the log tells why.</source>
+        <translation>%1 nu este scris; jurnalul spune de ce.</translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,22 @@
         <source>No media file named.</source>
         <translation>Не указан ни один медиафайл.</translation>
     </message>
+    <message>
+        <source>Write a film of all media files to this file, whose suffix chooses how it is encoded.</source>
+        <translation>Записать фильм из всех медиафайлов в этот файл; его расширение определяет кодирование.</translation>
+    </message>
+    <message>
+        <source>Preset that the film is encoded with.</source>
+        <translation>Набор настроек, с которым кодируется фильм.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>ИМЯ</translation>
+    </message>
+    <message>
+        <source>List the presets for films.</source>
+        <translation>Перечислить наборы настроек для фильмов.</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -238,6 +254,25 @@
     <message>
         <source>drag ends at %1</source>
         <translation>перетаскивание закончено: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportJob</name>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>Набора настроек «%1» нет.</translation>
+    </message>
+    <message>
+        <source>The engine has no presets.</source>
+        <translation>У движка нет наборов настроек.</translation>
+    </message>
+    <message>
+        <source>encoded: %1 %</source>
+        <translation>закодировано: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 is not written; the log tells why.</source>
+        <translation>%1 не записан; причина указана в журнале.</translation>
     </message>
 </context>
 <context>

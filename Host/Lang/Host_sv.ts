@@ -201,6 +201,22 @@
         <source>No media file named.</source>
         <translation>Ingen mediefil angiven.</translation>
     </message>
+    <message>
+        <source>Write a film of all media files to this file, whose suffix chooses how it is encoded.</source>
+        <translation>Skriv en film av alla mediefiler till den här filen, vars ändelse bestämmer kodningen.</translation>
+    </message>
+    <message>
+        <source>Preset that the film is encoded with.</source>
+        <translation>Förinställning som filmen kodas med.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAMN</translation>
+    </message>
+    <message>
+        <source>List the presets for films.</source>
+        <translation>Lista förinställningarna för filmer.</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -238,6 +254,25 @@
     <message>
         <source>drag ends at %1</source>
         <translation>dragningen slutar vid %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportJob</name>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>Det finns ingen förinställning ”%1”.</translation>
+    </message>
+    <message>
+        <source>The engine has no presets.</source>
+        <translation>Motorn har inga förinställningar.</translation>
+    </message>
+    <message>
+        <source>encoded: %1 %</source>
+        <translation>kodat: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 is not written; the log tells why.</source>
+        <translation>%1 skrivs inte; loggen berättar varför.</translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,22 @@
         <source>No media file named.</source>
         <translation>未指定媒體檔案。</translation>
     </message>
+    <message>
+        <source>Write a film of all media files to this file, whose suffix chooses how it is encoded.</source>
+        <translation>將所有媒體檔案依次寫成影片存入此檔案，副檔名決定編碼方式。</translation>
+    </message>
+    <message>
+        <source>Preset that the film is encoded with.</source>
+        <translation>影片編碼所用的預設組合。</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>List the presets for films.</source>
+        <translation>列出影片的預設組合。</translation>
+    </message>
 </context>
 <context>
     <name>ContactSheet</name>
@@ -238,6 +254,25 @@
     <message>
         <source>drag ends at %1</source>
         <translation>拖曳止於 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportJob</name>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>沒有名為「%1」的預設組合。</translation>
+    </message>
+    <message>
+        <source>The engine has no presets.</source>
+        <translation>引擎沒有預設組合。</translation>
+    </message>
+    <message>
+        <source>encoded: %1 %</source>
+        <translation>已編碼：%1 %</translation>
+    </message>
+    <message>
+        <source>%1 is not written; the log tells why.</source>
+        <translation>未有寫入 %1；原因請見記錄檔。</translation>
     </message>
 </context>
 <context>
