@@ -7,7 +7,33 @@
 
 namespace {
 
-constexpr qint64 kLargestFile = qint64(1) << 30;
+/// Bytes; a text of Qt holds little less than 1 Gi characters.
+constexpr qint64 kLargestFile = (qint64(1) << 30) - 1024;
+
+/// Keeps what is written to it, as long as that is no more than a file may hold.
+class FileContent final : public QIODevice
+{
+public:
+    FileContent() { open(QIODevice::WriteOnly); }
+    bool IsTooLarge() const { return m_isTooLarge; }
+    const QByteArray& Bytes() const { return m_bytes; }
+
+protected:
+    qint64 readData(char* /*data*/, qint64 /*size*/) override { return -1; }
+    qint64 writeData(const char* data, qint64 size) override
+    {
+        m_isTooLarge = m_isTooLarge || m_bytes.size() + size > kLargestFile;
+        if (m_isTooLarge)
+            m_bytes.clear();
+        else
+            m_bytes.append(data, static_cast<int>(size));
+        return size; // the stream would keep what is refused
+    }
+
+private:
+    QByteArray m_bytes;
+    bool m_isTooLarge = false;
+};
 
 } // namespace
 
@@ -41,9 +67,11 @@ bool XmlOperation::OpenXmlFile(QDomDocument& document, const QString& path,
 
 void XmlOperation::SaveXmlContent2File(const QDomDocument& document, const QString& path)
 {
+    FileContent content;
+    WriteXmlDocument(document, content);
     QFile file(path);
-    if (OpenRegularFile(file, QIODevice::WriteOnly | QIODevice::Truncate))
-        WriteXmlDocument(document, file);
+    if (!content.IsTooLarge() && OpenRegularFile(file, QIODevice::WriteOnly | QIODevice::Truncate))
+        file.write(content.Bytes());
 }
 
 QDomElement XmlOperation::AddXmlElement(QDomDocument& document, QDomElement parent,

@@ -26,14 +26,16 @@ public:
     ///
     /// \param mode how to open the file; must allow reading for the call to succeed
     /// \return false, and a null \a document, when the file is not well-formed XML, is larger than
-    ///         1 GiB, has a name with two colons, is nested deeper than 1,000 levels, or could grow
-    ///         by more than 16 million characters if each reference stood for its longest entity or
-    ///         by more than two million attributes with default values, which are not read.
+    ///         1 GiB, has a name with two colons, is nested deeper than 1,000 levels, or would grow
+    ///         by more than 16 million characters through references to entities that it declares
+    ///         or by more than two million attributes with default values, which are not read.
     ///         False, and \a document as it was, when the file cannot be opened or is no regular
     ///         file
     static bool OpenXmlFile(QDomDocument& document, const QString& path, QIODevice::OpenMode mode);
 
-    /// Writes the document, replacing the file. Nothing happens when it cannot be opened.
+    /// Writes the document, replacing the file. Nothing happens when it cannot be opened, and the
+    /// file stays as it is when more than 1 GiB would be written. Takes the memory of the file
+    /// beside that of the document.
     ///
     /// OpenXmlFile() can read any file that has been written from a document with a root element:
     /// - Characters that XML cannot hold (control characters, lone surrogates, U+FFFE, U+FFFF) are

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
+#include <QTextCodec>
 #include <QtTest>
 
 #ifdef Q_OS_LINUX
@@ -37,10 +38,21 @@ QByteArray ManyLaughs()
     return (text + "]><r>&a19;</r>").toLatin1();
 }
 
+QByteArray WithEntity(int length, const QByteArray& content)
+{
+    return "<!DOCTYPE r [<!ENTITY a \"" + QByteArray(length, 'x') + "\"><!ENTITY b 'y'>]><r>" +
+           content + "</r>";
+}
+
 QByteArray LongEntity(int length, int count)
 {
-    const QByteArray text = QByteArray("&a;").repeated(count);
-    return "<!DOCTYPE r [<!ENTITY a \"" + QByteArray(length, 'x') + "\">]><r>" + text + "</r>";
+    return WithEntity(length, QByteArray("&a;").repeated(count));
+}
+
+// As UTF-16 with its mark, so that every character takes two bytes.
+QByteArray Wide(const QByteArray& content)
+{
+    return QTextCodec::codecForName("UTF-16")->fromUnicode(QString::fromLatin1(content));
 }
 
 // Text of pieces that are hard to write; adds what of it XML can hold.
@@ -207,6 +219,15 @@ private slots:
         row("long entity, named ten times", LongEntity(1000, 10), 10000);
         row("longer entity, named once", LongEntity(5000, 1), 5000);
         row("short entity, named often", LongEntity(8, 100000), 800000);
+        const auto many = [](const char* text) { return QByteArray(text).repeated(20000); };
+        row("long entity beside ampersands that refer to nothing",
+            WithEntity(1025, "&a;<![CDATA[" + many("& &a;") + "]]><!--" + many("&a;") + "--><?p " +
+                                 many("&a;") + "?>" + many("&amp;&#65;")),
+            1025 + 5 * 20000 + 2 * 20000);
+        row("long entity beside a short one, named often", WithEntity(1025, "&a;" + many("&b;")),
+            1025 + 20000);
+        row("long entity in two bytes a character", Wide(WithEntity(1025, "&a;" + many("&amp;"))),
+            1025 + 20000);
         row("later version", "<?xml version='1.1'?><r>1.1</r>", 3);
         row("character of two words", "<r>&#x1F600;</r>", 2);
         row("white space in a section and as a reference", "<r>\n <![CDATA[ ]]>&#x20;\n<b/> </r>",
@@ -230,7 +251,22 @@ private slots:
         QTest::newRow("binary") << QByteArray("\x00\xff\xfe\x01", 4);
         QTest::newRow("too deep") << Nested(kMostLevels + 1);
         QTest::newRow("entities of entities") << ManyLaughs();
-        QTest::newRow("long entity, named often") << LongEntity(1000, 50000);
+        const QByteArray often = QByteArray("&a;").repeated(50000);
+        QTest::newRow("long entity, named often") << WithEntity(1000, often);
+        QTest::newRow("long entity, named often in attributes")
+            << WithEntity(1000, "<b c='" + often + "'/>");
+        QTest::newRow("long entity, named often behind a comment")
+            << WithEntity(1000, "<!-- ' --><![CDATA[<!--]]>" + often);
+        QTest::newRow("long entity, named often, in two bytes a character")
+            << Wide(WithEntity(1000, often));
+        QTest::newRow("entity that begins a section")
+            << "<!DOCTYPE r [<!ENTITY s '<![CDATA['><!ENTITY a \"" + QByteArray(1000, 'x') +
+                   "\">]><r>&s;<!-- ]]>" + often + "--></r>";
+        QTest::newRow("long entity, named often by default")
+            << "<!DOCTYPE r [<!ENTITY a '" + QByteArray(1000, 'x') + "'><!ATTLIST r b CDATA '" +
+                   often + "'>]><r/>";
+        QTest::newRow("entity that names itself")
+            << QByteArray("<!DOCTYPE r [<!ENTITY a '&b;'><!ENTITY b '&a;'>]><r>&a;</r>");
     }
     void refuses()
     {
@@ -278,6 +314,20 @@ private slots:
         XmlOperation::SaveXmlContent2File(document, Path("deep.xml"));
         QVERIFY(XmlOperation::OpenXmlFile(document, Path("deep.xml"), QIODevice::ReadOnly));
         QCOMPARE(document.elementsByTagName("a").size(), kMostLevels);
+    }
+
+    // Short in memory: the indentation is long.
+    void savesNothingThatIsTooLarge()
+    {
+        Write(Path("huge.xml"), "<old/>");
+        QDomDocument document;
+        QDomNode parent = document.appendChild(document.createElement("a"));
+        for (int level = 1; level < kMostLevels - 1; ++level)
+            parent = parent.appendChild(document.createElement("a"));
+        for (int i = 0; i < (1 << 30) / (4 * kMostLevels); ++i)
+            parent.appendChild(document.createElement("a"));
+        XmlOperation::SaveXmlContent2File(document, Path("huge.xml"));
+        QCOMPARE(QFileInfo(Path("huge.xml")).size(), qint64(6));
     }
 
     void opensNoSuchFile_data()

@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/xml/XmlDocument_p.h"
 
+#include "CommonLib/xml/EntityLengths_p.h"
+
 #include <QDomDocumentFragment>
 #include <QRegularExpression>
+#include <QTextCodec>
 #include <QXmlStreamReader>
-
-#include <algorithm>
-#include <array>
-#include <cstring>
 
 namespace {
 
-/// Characters that all references to entities together may expand to.
-constexpr qint64 kLargestGrowth = qint64(16) << 20;
 /// Attributes that elements get by default. They are not read, but finding them takes time.
 constexpr int kMostDefaults = 2'000'000;
 constexpr int kLongestDeclaration = 256; // bytes
@@ -29,28 +26,26 @@ void TakeForVersion10(QByteArray& content)
         content[content.indexOf(match.captured(1).at(0).toLatin1(), content.indexOf('.'))] = '0';
 }
 
-bool IsPredefined(const char* reference)
+// What the reader takes for the encoding of content that has neither mark nor declaration.
+const char* FirstCodec(const QByteArray& content)
 {
-    constexpr std::array<const char*, 6> starts = {"&amp;",  "&lt;",   "&gt;",
-                                                   "&quot;", "&apos;", "&#"};
-    return std::any_of(starts.begin(), starts.end(), [reference](const char* start) {
-        return std::strncmp(reference, start, std::strlen(start)) == 0;
-    });
+    if (content.startsWith(QByteArray("<\0", 2)))
+        return "UTF-16LE";
+    return content.startsWith(QByteArray("\0<", 2)) ? "UTF-16BE" : "UTF-8";
 }
 
-// References, at most, to entities that the document declares itself.
-qint64 CountReferences(const QByteArray& content)
+// The content as the reader has it, which declares \a encoding or none; null when it is not encoded
+// so.
+QString Decoded(const QByteArray& content, const QString& encoding)
 {
-    qint64 count = 0;
-    for (int at = content.indexOf('&'); at >= 0; at = content.indexOf('&', at + 1))
-        count += IsPredefined(content.constData() + at) ? 0 : 1;
-    return count;
-}
-
-// How long any entity may become so that all references stay within what is allowed.
-int LongestEntity(qint64 references)
-{
-    return static_cast<int>(kLargestGrowth / (1 + references));
+    QTextCodec* codec = QTextCodec::codecForName(encoding.toLatin1());
+    if (encoding.isEmpty())
+        codec = QTextCodec::codecForUtfText(content, QTextCodec::codecForName(FirstCodec(content)));
+    if (!codec)
+        return QString();
+    QTextCodec::ConverterState state;
+    const QString text = codec->toUnicode(content.constData(), content.size(), &state);
+    return state.invalidChars == 0 ? text : QString();
 }
 
 // Qt's own builder drops blank sections.
@@ -58,14 +53,13 @@ class Builder
 {
 public:
     Builder(QDomDocument& document, const QByteArray& content)
-        : m_document(document)
-        , m_reader(content)
-        , m_longestEntity(LongestEntity(CountReferences(content)))
+        : m_document(document), m_reader(content), m_content(content)
     {
         m_reader.setNamespaceProcessing(false);
-        // Parameter entities are referred to in the prolog only.
-        m_reader.setEntityExpansionLimit(
-            std::min(m_longestEntity, LongestEntity(content.count('%'))));
+        // In the document type, which may refer to entities in what attributes are by default, each
+        // reference counts as the longest, and so does what only looks like one.
+        const qint64 references = content.count('%') + content.count('&');
+        m_reader.setEntityExpansionLimit(static_cast<int>(kLargestXmlGrowth / (1 + references)));
     }
 
     bool Build()
@@ -88,9 +82,8 @@ private:
             AddDeclaration();
             break;
         case QXmlStreamReader::DTD:
-            m_reader.setEntityExpansionLimit(m_longestEntity);
             SetType(m_reader.text().toString());
-            break;
+            return AllowEntities();
         case QXmlStreamReader::StartElement:
             return AddElement();
         case QXmlStreamReader::EndElement:
@@ -143,6 +136,18 @@ private:
         m_parent = m_document;
     }
 
+    // False when what follows the document type refers to more than is allowed.
+    bool AllowEntities()
+    {
+        const EntityLengths lengths(m_reader.entityDeclarations());
+        m_reader.setEntityExpansionLimit(static_cast<int>(kLargestXmlGrowth));
+        if (lengths.IsEmpty())
+            return true;
+        const QString text = Decoded(m_content, m_reader.documentEncoding().toString());
+        const auto read = static_cast<int>(m_reader.characterOffset());
+        return read <= text.size() && lengths.OfAll(text.midRef(read)) <= kLargestXmlGrowth;
+    }
+
     bool AddElement()
     {
         QDomElement element = m_document.createElement(m_reader.qualifiedName().toString());
@@ -170,7 +175,7 @@ private:
 
     QDomDocument& m_document;
     QXmlStreamReader m_reader;
-    const int m_longestEntity;
+    const QByteArray m_content;
     QDomNode m_parent;
     int m_level = 0;
     int m_defaults = 0;
