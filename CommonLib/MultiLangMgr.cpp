@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QFont>
 #include <QFontDatabase>
+#include <QPointer>
 #include <QSettings>
 #include <QTranslator>
 
@@ -76,8 +77,8 @@ MultiLangMgr* MultiLangMgr::GetInstance()
 
 void MultiLangMgr::Release()
 {
-    delete s_instance;
-    s_instance = nullptr;
+    // The end of a translator is heard of too, and who hears may come back here.
+    delete std::exchange(s_instance, nullptr);
 }
 
 bool MultiLangMgr::IsCurLanguage_Locale(Language_Locale locale)
@@ -167,11 +168,16 @@ void MultiLangMgr::Select(Language_Locale locale)
 {
     if (locale == m_curLocale)
         return;
-    RemoveCurrentLang();
+    // Who hears of a step may release the manager or select another language.
+    const QPointer<MultiLangMgr> self(this);
     const Language_Locale previous = m_curLocale;
+    RemoveCurrentLang();
+    if (!self || m_curLocale != previous)
+        return;
     m_curLocale = locale;
     LanguageChangedEvent(previous);
-    LoadCurrentLang();
+    if (self && m_curLocale == locale)
+        LoadCurrentLang();
 }
 
 QString MultiLangMgr::StoredName() const
@@ -193,31 +199,39 @@ void MultiLangMgr::StoreCurrentLang()
     settings.setValue(kProductKey, product);
 }
 
-const LanguageTranslators* MultiLangMgr::CurrentTranslators() const
+QList<QPointer<QTranslator>> MultiLangMgr::TranslatorsOfCurrent() const
 {
-    const auto found =
-        std::find_if(m_translators.begin(), m_translators.end(),
-                     [this](const LanguageTranslators* set) { return set->locale == m_curLocale; });
-    return found == m_translators.end() ? nullptr : *found;
+    QList<QPointer<QTranslator>> translators;
+    for (const LanguageTranslators* set : m_translators) {
+        if (set->locale != m_curLocale)
+            continue;
+        for (QTranslator* translator : set->translators)
+            translators.append(translator);
+    }
+    return translators;
 }
 
 void MultiLangMgr::LoadCurrentLang()
 {
     StoreCurrentLang();
-    const LanguageTranslators* set = CurrentTranslators();
-    if (!set)
-        return;
-    for (QTranslator* translator : set->translators)
-        QCoreApplication::installTranslator(translator);
+    const Language_Locale locale = m_curLocale;
+    const QPointer<MultiLangMgr> self(this);
+    for (const QPointer<QTranslator>& translator : TranslatorsOfCurrent()) {
+        if (!self || m_curLocale != locale)
+            return;
+        // It is in already when a listener went to another language and back.
+        QCoreApplication::removeTranslator(translator);
+        if (translator)
+            QCoreApplication::installTranslator(translator);
+    }
 }
 
 void MultiLangMgr::RemoveCurrentLang()
 {
-    const LanguageTranslators* set = CurrentTranslators();
-    if (!set)
-        return;
-    for (QTranslator* translator : set->translators)
-        QCoreApplication::removeTranslator(translator);
+    for (const QPointer<QTranslator>& translator : TranslatorsOfCurrent()) {
+        if (translator)
+            QCoreApplication::removeTranslator(translator);
+    }
 }
 
 void MultiLangMgr::ResetFont()
@@ -239,8 +253,12 @@ void MultiLangMgr::ResetFont(const QStringList& families)
         font.setFamily(m_curFontFamily);
     }
     font.setStyleStrategy(QFont::PreferAntialias);
+    const QPointer<MultiLangMgr> self(this);
     QApplication::setFont(font);
-    Q_EMIT sigFontFamilyChanged(m_curFontFamily);
+    if (!self)
+        return;
+    const QString family = m_curFontFamily; // a slot may release the manager
+    Q_EMIT sigFontFamilyChanged(family);
 }
 
 QStringList MultiLangMgr::GetFontFamilyList(const Language_Locale& locale) const

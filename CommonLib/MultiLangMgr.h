@@ -6,12 +6,14 @@
 
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QVector>
 
 class CBSUrlReader;
 class LanguageTranslators;
+class QTranslator;
 
 /// The language of the user interface: its translators, its font, and the choice that is kept.
 ///
@@ -25,7 +27,8 @@ class LanguageTranslators;
 /// written, is no regular file or is longer than 1 MiB stays as it is, and the language is selected
 /// all the same.
 ///
-/// Needs a QApplication. For the GUI thread only; created without a lock.
+/// Needs a QApplication. For the GUI thread only; created without a lock. Who hears of a change (a
+/// slot, a widget's event) may call Release() or select another language.
 class COMMONLIB_EXPORT MultiLangMgr : public QObject
 {
     Q_OBJECT
@@ -85,7 +88,8 @@ private:
     void RemoveCurrentLang();
     void StoreCurrentLang();
     QString StoredName() const;
-    const LanguageTranslators* CurrentTranslators() const;
+    /// Those of the current language; none when the table has no row for it.
+    QList<QPointer<QTranslator>> TranslatorsOfCurrent() const;
 
     void ResetFont();
     void ResetFont(const QStringList& families);

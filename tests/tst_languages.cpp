@@ -8,10 +8,37 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <functional>
+#include <utility>
+
 #ifdef Q_OS_UNIX
 #include <csignal>
 #include <sys/resource.h>
 #endif
+
+namespace {
+
+/// Does something at the first event of a type that it sees as a filter.
+class OnEvent : public QObject
+{
+public:
+    OnEvent(QEvent::Type type, std::function<void()> action)
+        : m_type(type), m_action(std::move(action))
+    {
+    }
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() == m_type && m_action)
+            std::exchange(m_action, nullptr)();
+        return false;
+    }
+
+private:
+    const QEvent::Type m_type;
+    std::function<void()> m_action;
+};
+
+} // namespace
 
 class tst_Languages : public QObject
 {
@@ -362,6 +389,49 @@ private Q_SLOTS:
         Manager()->SetLangLocale(QString("German"));
         MultiLangMgr::Release();
         QCOMPARE(Shown(), QString("text 0"));
+    }
+
+    void releasedOnTheWay_data()
+    {
+        QTest::addColumn<int>("event"); // of the window or the application; 0 for the signal
+        QTest::newRow("in a slot of the new font") << 0;
+        QTest::newRow("when a window hears of the new font") << int(QEvent::ApplicationFontChange);
+        QTest::newRow("when the application hears of translators") << int(QEvent::LanguageChange);
+    }
+    void releasedOnTheWay()
+    {
+        QFETCH(int, event);
+        Manager()->SetLangLocale(Language_German);
+        QWidget window;
+        OnEvent listener(QEvent::Type(event), [] { MultiLangMgr::Release(); });
+        if (event == QEvent::LanguageChange)
+            QCoreApplication::instance()->installEventFilter(&listener);
+        else if (event != 0)
+            window.installEventFilter(&listener);
+        else
+            connect(Manager(), &MultiLangMgr::sigFontFamilyChanged,
+                    [] { MultiLangMgr::Release(); });
+        QPointer<MultiLangMgr> manager(Manager());
+        manager->SetLangLocale(Language_Japanese);
+        QVERIFY(!manager);
+        QCOMPARE(Shown(), QString("text 0"));
+    }
+
+    void anotherLanguageInASlotOfTheFont()
+    {
+        Manager()->SetLangLocale(Language_German);
+        bool isFirst = true;
+        connect(Manager(), &MultiLangMgr::sigFontFamilyChanged, [&] {
+            if (!std::exchange(isFirst, false))
+                return;
+            Manager()->SetLangLocale(Language_German);
+            Manager()->SetLangLocale(Language_Japanese);
+        });
+        Manager()->SetLangLocale(Language_Japanese);
+        QCOMPARE(Shown(), QString("nihongo 0"));
+        Manager()->disconnect();
+        Manager()->SetLangLocale(Language_English);
+        QCOMPARE(Shown(), QString("text 0")); // nothing is in twice
     }
 
     void selectsLanguageWithoutTranslations()
