@@ -14,6 +14,12 @@
 #include <thread>
 #include <unistd.h>
 
+#ifdef Q_OS_LINUX
+#include <csignal>
+#include <fcntl.h>
+#include <sys/resource.h>
+#endif
+
 using Scripted::DeviceScript;
 using Scripted::Script;
 
@@ -22,8 +28,10 @@ namespace {
 // On Windows a library keeps the operators that it was linked with.
 #ifdef Q_OS_WIN
 constexpr bool kSeesAllocations = false;
+constexpr bool kHasLimits = false;
 #else
 constexpr bool kSeesAllocations = true;
+constexpr bool kHasLimits = true;
 #endif
 std::size_t s_allocationToFail = 0;
 int s_buffers = 0; // that were allocated, of the size of a transfer buffer or more
@@ -112,7 +120,25 @@ private:
         return WpdApiLib::TransferContentFromDevice(
             id, QDir::toNativeSeparators(path).toStdWString().c_str(), alternate);
     }
-    static void Open() { QCOMPARE(WpdApiLib::ChooseDevice(L"device 1", nullptr), 1); }
+    /// Where files may not become larger than the first buffer of a copy.
+    int TransferToFullDisk()
+    {
+#ifdef Q_OS_LINUX
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit small{4096, RLIM_INFINITY};
+        const rlimit all{RLIM_INFINITY, RLIM_INFINITY};
+        ::setrlimit(RLIMIT_FSIZE, &small);
+        const int result = Transfer(L"clip", 0, Target());
+        ::setrlimit(RLIMIT_FSIZE, &all);
+        return result;
+#else
+        return -1;
+#endif
+    }
+    static void Open()
+    {
+        QCOMPARE(WpdApiLib::ChooseDevice(L"device 1", nullptr), 1);
+    }
 
     /// Does one step of an import; \a opened is what opening the device gave.
     int Perform(const QString& action, const QString& failing, int opened)
@@ -123,7 +149,7 @@ private:
         if (action == "walk")
             return WpdApiLib::EnumerateAllContent();
         if (action == "copy")
-            return Transfer(L"clip", 0, failing == "full disk" ? "/dev/full" : Target());
+            return failing == "full disk" ? TransferToFullDisk() : Transfer(L"clip", 0, Target());
         if (action == "cancel")
             return WpdApiLib::Cancel();
         if (action == "delete")
@@ -168,7 +194,10 @@ private:
     }
 
 private slots:
-    void initTestCase() { Scripted::InstallDeviceService(); }
+    void initTestCase()
+    {
+        Scripted::InstallDeviceService();
+    }
     void init()
     {
         Script::Get().Reset();
@@ -264,7 +293,7 @@ private slots:
             {"copy", "content.GetStream", 0x80070490, 0, "! Failed to get IStream (representing object data on the device) from IPortableDeviceResources, hr = 0x%1\n"},
             {"copy", "stream.Read", 0x8007001F, 0, "! Failed to read 4096 bytes from the source stream, hr = 0x%1\n! Failed to transfer object from device, hr = 0x%1\n"},
             {"copy", "memory", 0, 1, "! Failed to allocate 4096 bytes for the temporary transfer buffer.\n"},
-            {"copy", "full disk", 0x80030070, 0, "! Failed to write 100 bytes of object data to the destination stream, hr = 0x%1\n! Failed to transfer object from device, hr = 0x%1\n"},
+            {"copy", "full disk", 0x80030070, 0, "! Failed to write 4096 bytes of object data to the destination stream, hr = 0x%1\n! Failed to transfer object from device, hr = 0x%1\n"},
             {"delete", "variants.Create", 0x80040154, 0, "! Failed to CoCreateInstance CLSID_PortableDevicePropVariantCollection, hr = 0x%1\n"},
             {"delete", "variants.Create", 1, 0, "! Failed to delete an object from the device because we were returned a NULL IPortableDevicePropVariantCollection interface pointer, hr = 0x80004003\n"},
             {"delete", "no identifier", 0, 0, "! Failed to delete an object from the device because we could no allocate memory for the object identifier string, hr = 0x8007000e\n"},
@@ -280,7 +309,7 @@ private slots:
             const QString failing = step.failing;
             const QString output = step.output;
             if ((failing == "memory" && !kSeesAllocations) ||
-                (failing == "full disk" && !QFile::exists("/dev/full")))
+                (failing == "full disk" && !kHasLimits))
                 continue;
             QTest::addRow("%s: %s %x", step.action, step.failing, step.status)
                 << QString(step.action) << failing << step.status << step.result
@@ -293,7 +322,7 @@ private slots:
         QFETCH(QString, failing);
         QFETCH(uint, status);
         QFETCH(QString, output);
-        DeviceScript::Get().Add(L"DEVICE", L"clip", false, 100);
+        DeviceScript::Get().Add(L"DEVICE", L"clip", false, 10000);
         DeviceScript::Get().devices = {{L"a", L"", L""}, {L"b", L"", L""}};
         Script::Get().statuses[failing] = static_cast<HRESULT>(status);
         int result = 0;
@@ -464,6 +493,33 @@ private slots:
                 file.size() + (1 << 20)); // what was reserved is given back
 #endif
     }
+
+#ifdef Q_OS_LINUX
+    void copiesIntoFilesOnly_data()
+    {
+        QTest::addColumn<QString>("target");
+        QTest::addColumn<bool>("isRead"); // at the other end
+        QTest::newRow("a pipe that nobody reads") << m_folder.filePath("pipe") << false;
+        QTest::newRow("a pipe that is read") << m_folder.filePath("pipe") << true;
+        QTest::newRow("a device") << "/dev/full" << false;
+        QTest::newRow("a folder") << m_folder.path() << false;
+    }
+    // Nor does it wait for a reader.
+    void copiesIntoFilesOnly()
+    {
+        QFETCH(QString, target);
+        QFETCH(bool, isRead);
+        const QByteArray pipe = QFile::encodeName(m_folder.filePath("pipe"));
+        QVERIFY(::mkfifo(pipe.constData(), 0600) == 0 || errno == EEXIST);
+        const int reader = isRead ? ::open(pipe.constData(), O_RDONLY | O_NONBLOCK) : -1;
+        DeviceScript::Get().Add(L"DEVICE", L"clip", false, 100);
+        Open();
+        const QString printed = Printed([&] { QCOMPARE(Transfer(L"clip", 0, target), 0); });
+        ::close(reader);
+        QCOMPARE(printed, "! Failed to create a temporary file named (" + target +
+                              ") to transfer object (clip), hr = 0x80030005\n");
+    }
+#endif
 
     void asksForTheResource_data()
     {

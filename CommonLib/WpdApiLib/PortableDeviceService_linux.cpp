@@ -10,9 +10,12 @@
 #include <QFile>
 #include <QLibrary>
 
+#include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
+#include <sys/stat.h>
 #include <system_error>
+#include <unistd.h>
 
 namespace {
 
@@ -34,10 +37,23 @@ DllGetClassObjectFunction GetClassObject()
 class FileStream final : public ComObject<IStream>
 {
 public:
+    /// False for anything but a regular file: a pipe would block, and a device is no copy.
     bool Open(const QString& path)
     {
-        m_file.setFileName(path);
-        return m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered);
+        constexpr int flags = O_WRONLY | O_CREAT | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+        constexpr mode_t everyone = 0666; // less what the process masks
+        const int descriptor = ::open(QFile::encodeName(path).constData(), flags, everyone);
+        if (descriptor < 0)
+            return false;
+        struct stat status = {};
+        // Emptied only now that it is known to be a file.
+        if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
+            ::ftruncate(descriptor, 0) == 0 &&
+            m_file.open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered,
+                        QFileDevice::AutoCloseHandle))
+            return true;
+        ::close(descriptor);
+        return false;
     }
 
     HRESULT Read(void* /*data*/, ULONG /*count*/, ULONG* /*read*/) override { return E_NOTIMPL; }
@@ -49,7 +65,8 @@ public:
             *written = done < 0 ? 0 : static_cast<ULONG>(done);
         if (done >= 0)
             return S_OK;
-        return m_file.error() == QFileDevice::ResourceError ? STG_E_MEDIUMFULL : STG_E_WRITEFAULT;
+        const bool isFull = m_file.error() == QFileDevice::ResourceError || errno == EFBIG;
+        return isFull ? STG_E_MEDIUMFULL : STG_E_WRITEFAULT;
     }
     HRESULT Seek(LARGE_INTEGER /*move*/, DWORD /*origin*/, ULARGE_INTEGER* /*position*/) override
     {
