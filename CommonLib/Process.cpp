@@ -17,7 +17,8 @@ QString excuteCmd(void* /*ignored*/, QString commandLine)
     CommandCapture command(commandLine);
     if (!command.IsStarted())
         return QString();
-    // Not cleared between reads: a short piece brings along the older bytes behind it. Intended.
+    // Not cleared between reads, so that a short piece brings along the older bytes behind it
+    // instead of standing alone. Kept: see docs/compatibility.md.
     char buffer[kBufferSize] = {};
     std::string output;
     while (command.Read(buffer, kLargestRead))

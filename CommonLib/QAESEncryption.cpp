@@ -207,7 +207,8 @@ QByteArray QAESEncryption::expandKey(const QByteArray& key)
         return result;
     char* target =
         std::copy_n(reinterpret_cast<const char*>(schedule.encryption), size, result.data());
-    // Intended: the schedule grows in front of what is behind the key.
+    // What a key has beyond its length stands behind the schedule instead of being cut off: the
+    // schedule grows in front of it. Kept: see docs/compatibility.md.
     std::copy_n(key.constData() + m_keyLength, surplus, target);
     return result;
 }

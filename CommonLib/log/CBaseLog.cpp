@@ -98,13 +98,15 @@ void MakeRotatedPath(std::string_view path, char* result)
     char suffix[64] = {};
     std::strftime(suffix, sizeof suffix, "_%Y_%m_%d_%H_%M_%S.txt", &t);
     BoundedText text(result, kPathSize);
-    // Intended: the cut is at the first dot of the whole path, even in the name of a folder.
+    // At the first dot of the whole path, even in the name of a folder, not the last of the file's
+    // name. Kept: see docs/compatibility.md.
     text.Append(path.substr(0, path.find('.')));
-    // Intended: the suffix is cut to 23 characters, so the names end in ".tx".
+    // Cut to 23 characters, so that the names end in ".tx", not ".txt". Kept: likewise.
     text.Append(std::string_view(suffix).substr(0, kStampSize - 1));
 }
 
-// Intended: only the low 32 bits of the size count.
+// Only the low 32 bits of the size count, not all of them: a file little longer than 4 GiB is not
+// rotated. Kept: see docs/compatibility.md.
 bool IsTooLarge(std::int64_t size)
 {
     return size >= 0 && static_cast<std::uint32_t>(size) >= kRotationSize;

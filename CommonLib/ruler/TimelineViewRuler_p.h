@@ -107,7 +107,7 @@ private:
     bool Tell(void (TimelineViewRuler::*signal)(Parameters...), Arguments... arguments)
     {
         const QPointer<TimelineViewRuler> self(this);
-        emit(this->*signal)(arguments...);
+        Q_EMIT(this->*signal)(arguments...);
         return !self.isNull();
     }
 
