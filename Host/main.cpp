@@ -9,7 +9,7 @@
 #include "Host/HostLanguage.h"
 #include "Host/MediaJob.h"
 #include "Host/OutputFolder.h"
-#include "Host/ToolkitMessages.h"
+#include "Host/QtMessages.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -102,7 +102,7 @@ int Run(const Options& options, Console& console)
         console.Print(Program::tr("The folder %1 cannot be made.").arg(options.output));
         return WrongUsage;
     }
-    std::optional<ToolkitMessages> messages;
+    std::optional<QtMessages> messages;
     const bool logged = StartLog(options, console);
     if (logged)
         messages.emplace();

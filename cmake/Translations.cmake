@@ -18,7 +18,7 @@ unset(qt_translations)
 
 # Folder in Lang/ and the languages of Qt that serve it, the first that there is. Qt has none for
 # Romanian, Indonesian and Swedish, and English needs none.
-set(COMMONLIB_TOOLKIT_LANGUAGES de=de esp=es fr=fr it=it pt=pt_PT,pt,pt_BR ja=ja cht=zh_TW
+set(COMMONLIB_QT_LANGUAGES de=de esp=es fr=fr it=it pt=pt_PT,pt,pt_BR ja=ja cht=zh_TW
   zhh=zh_HK,zh_TW ru=ru nl=nl ar=ar ko=ko pl=pl ro=ro id=id sv=sv)
 
 function(commonlib_require_tool tool)
@@ -54,17 +54,17 @@ function(commonlib_add_translations target name)
   add_custom_target(${target} ALL DEPENDS ${compiled})
 endfunction()
 
-# commonlib_add_toolkit_translations(TARGET [FILES…]): puts what Qt itself says (buttons of dialogs,
+# commonlib_add_qt_translations(TARGET [FILES…]): puts what Qt itself says (buttons of dialogs,
 # menus of fields, help of the command line) beside the executables as Lang/<language>/Qt.qm, for the
 # languages that Qt is translated into. FILES, <folder>/<name>_<language>.ts, add to that or replace
 # it, text by text. Without Qt's translations there is only what FILES have.
-function(commonlib_add_toolkit_translations target)
+function(commonlib_add_qt_translations target)
   if(NOT QT_TRANSLATIONS)
     message(STATUS "Qt's own translations are missing (Debian: qttranslations5-l10n): "
       "its dialogs and menus stay English in most languages")
   endif()
   set(made)
-  foreach(entry IN LISTS COMMONLIB_TOOLKIT_LANGUAGES)
+  foreach(entry IN LISTS COMMONLIB_QT_LANGUAGES)
     string(REGEX MATCH "^([^=]+)=(.+)$" entry ${entry})
     set(language ${CMAKE_MATCH_1})
     string(REPLACE "," ";" candidates ${CMAKE_MATCH_2})

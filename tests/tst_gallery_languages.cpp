@@ -49,7 +49,7 @@ private:
         return texts;
     }
     /// What Qt itself says: of \a dialog's buttons, in a field's menu, on a command line.
-    static QStringList ToolkitTexts(const QDialogButtonBox& dialog)
+    static QStringList QtTexts(const QDialogButtonBox& dialog)
     {
         QStringList texts{QCommandLineParser().helpText()};
         for (const QAbstractButton* button : dialog.buttons())
@@ -206,7 +206,7 @@ private Q_SLOTS:
     }
 #endif
 
-    void toolkitFollows_data()
+    void qtFollows_data()
     {
         QTest::addColumn<int>("language");
         int count = 0;
@@ -217,7 +217,7 @@ private Q_SLOTS:
         }
     }
 
-    void toolkitFollows()
+    void qtFollows()
     {
         QFETCH(int, language);
         if (!HAS_QT_TRANSLATIONS)
@@ -227,10 +227,10 @@ private Q_SLOTS:
         QDialogButtonBox dialog(QDialogButtonBox::Save | QDialogButtonBox::Discard |
                                 QDialogButtonBox::Cancel);
         dialog.show();
-        const QStringList english = ToolkitTexts(dialog);
+        const QStringList english = QtTexts(dialog);
         languages->SetLangLocale(Language_Locale(language));
         QCoreApplication::processEvents();
-        const QStringList texts = ToolkitTexts(dialog);
+        const QStringList texts = QtTexts(dialog);
         QCOMPARE(texts.size(), english.size());
         for (const QString& text : texts)
             QVERIFY2(!english.contains(text), qPrintable(text));

@@ -49,10 +49,10 @@ bool IsFontFile(const QFileInfo& entry)
 }
 
 /// Qt's families in two forms at the same positions.
-class ToolkitFamilies
+class QtFamilies
 {
 public:
-    ToolkitFamilies() : m_families(QFontDatabase().families())
+    QtFamilies() : m_families(QFontDatabase().families())
     {
         for (int i = 0; i < m_families.size(); ++i) {
             const QString plain = Plain(m_families[i]);
@@ -179,7 +179,7 @@ void CaptionEnvironment::AddSystemFonts()
 
 void CaptionEnvironment::InitSystemFont()
 {
-    const ToolkitFamilies families;
+    const QtFamilies families;
     int count = 0;
     m_library->GetFontCount(&count);
     GetGlobalLogInstance()->LogInfo(kSourcePath, kInitSystemFontName, __LINE__, "Fontcount:%d",

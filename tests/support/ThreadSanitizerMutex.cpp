@@ -12,7 +12,7 @@ namespace {
 
 using Operation = void (*)(QMutex*);
 
-Operation FromToolkit(const char* name)
+Operation FromQt(const char* name)
 {
     return reinterpret_cast<Operation>(dlsym(dlopen("libQt5Core.so.5", RTLD_LAZY), name));
 }
@@ -21,14 +21,14 @@ Operation FromToolkit(const char* name)
 
 void QMutex::lock() QT_MUTEX_LOCK_NOEXCEPT
 {
-    static const Operation next = FromToolkit("_ZN6QMutex4lockEv");
+    static const Operation next = FromQt("_ZN6QMutex4lockEv");
     next(this);
     __tsan_acquire(this);
 }
 
 void QMutex::unlock() noexcept
 {
-    static const Operation next = FromToolkit("_ZN6QMutex6unlockEv");
+    static const Operation next = FromQt("_ZN6QMutex6unlockEv");
     __tsan_release(this);
     next(this);
 }

@@ -5,13 +5,13 @@
 
 /// While it lives, messages of Qt and of the engine, which uses Qt's channel, go to the log instead
 /// of standard error. Needs an open log; one at a time.
-class ToolkitMessages
+class QtMessages
 {
 public:
-    ToolkitMessages();
-    ~ToolkitMessages();
-    ToolkitMessages(const ToolkitMessages&) = delete;
-    ToolkitMessages& operator=(const ToolkitMessages&) = delete;
+    QtMessages();
+    ~QtMessages();
+    QtMessages(const QtMessages&) = delete;
+    QtMessages& operator=(const QtMessages&) = delete;
 
 private:
     QtMessageHandler m_previous;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "Host/ToolkitMessages.h"
+#include "Host/QtMessages.h"
 
 #include "CommonLib/BaseLog.h"
 
@@ -28,9 +28,9 @@ void LogMessage(QtMsgType type, const QMessageLogContext& context, const QString
 
 } // namespace
 
-ToolkitMessages::ToolkitMessages() : m_previous(qInstallMessageHandler(LogMessage)) {}
+QtMessages::QtMessages() : m_previous(qInstallMessageHandler(LogMessage)) {}
 
-ToolkitMessages::~ToolkitMessages()
+QtMessages::~QtMessages()
 {
     qInstallMessageHandler(m_previous);
 }
