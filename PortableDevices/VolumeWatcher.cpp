@@ -147,14 +147,25 @@ bool IsSame(const DeviceEntry& one, const DeviceEntry& other)
 VolumeWatcher& VolumeWatcher::Instance()
 {
     static VolumeWatcher* const watcher = new VolumeWatcher;
+    watcher->Start();
     return *watcher;
 }
 
 VolumeWatcher::VolumeWatcher()
     : m_context(g_main_context_new()), m_mountContext(g_main_context_new())
 {
-    std::thread([this] { Loop(); }).detach();
-    std::thread([this] { FollowMounts(); }).detach();
+}
+
+// Not in the constructor: when the second thread cannot start, the first one has the object.
+void VolumeWatcher::Start()
+{
+    const std::lock_guard lock(m_mutex);
+    if (!m_guarded.isLooping)
+        std::thread([this] { Loop(); }).detach();
+    m_guarded.isLooping = true;
+    if (!m_guarded.isFollowing)
+        std::thread([this] { FollowMounts(); }).detach();
+    m_guarded.isFollowing = true;
 }
 
 // Apart from the rest, since a device that does not answer holds it up.

@@ -18,7 +18,8 @@ namespace devices {
 class VolumeWatcher
 {
 public:
-    /// Lives until the process ends, as does its thread.
+    /// Lives until the process ends, as do its threads. Throws std::system_error while one of them
+    /// cannot be started; the next call tries again.
     static VolumeWatcher& Instance();
 
     /// The devices that are there; nothing without a session bus or GVfs.
@@ -34,6 +35,7 @@ public:
 private:
     VolumeWatcher();
 
+    void Start();
     void Loop();
     void FollowMounts();
     void AddMonitors(const char* extensionPoint);
@@ -46,6 +48,8 @@ private:
 
     struct Guarded
     {
+        bool isLooping = false;   // the thread of m_context is there
+        bool isFollowing = false; // that of m_mountContext
         bool isReady = false;
         std::vector<DeviceEntry> entries;
         std::vector<std::weak_ptr<OpenDevice>> watched;
