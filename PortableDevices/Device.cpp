@@ -33,7 +33,13 @@ Device::~Device()
 std::shared_ptr<OpenDevice> Device::Opened()
 {
     const std::lock_guard lock(m_mutex);
-    return m_device;
+    return m_guarded.isOpen ? m_guarded.device : nullptr;
+}
+
+std::shared_ptr<OpenDevice> Device::Taken()
+{
+    const std::lock_guard lock(m_mutex);
+    return m_guarded.device;
 }
 
 HRESULT Device::Open(LPCWSTR id, IPortableDeviceValues* clientInformation)
@@ -41,7 +47,7 @@ HRESULT Device::Open(LPCWSTR id, IPortableDeviceValues* clientInformation)
     return ComGuard([&] {
         if (!id || !clientInformation)
             return E_POINTER;
-        if (Opened())
+        if (Taken())
             return kAlreadyOpen;
         const std::vector<DeviceEntry> entries = ListDevices();
         const auto entry = std::find_if(entries.begin(), entries.end(),
@@ -49,23 +55,35 @@ HRESULT Device::Open(LPCWSTR id, IPortableDeviceValues* clientInformation)
         if (entry == entries.end())
             return kNotFound;
         const auto device = std::make_shared<OpenDevice>(entry->id, MakeSession(*entry));
-        // Watched from now on: a device that goes while it opens must not stay.
-        VolumeWatcher::Instance().Watch(device);
-        const DeviceWorker::Pending opening =
-            device->Worker().Start([](DeviceSession& session, GCancellable* cancellable) {
-                return session.Open(cancellable);
-            });
-        // Until it is open, nobody else can cancel.
-        const HRESULT result =
-            device->Worker().Finish(opening, DeviceWorker::Clock::now() + kOpeningLimit);
-        if (FAILED(result))
-            return result == kCancelled ? kTimedOut : result;
+        {
+            const std::lock_guard lock(m_mutex);
+            if (m_guarded.device)
+                return kAlreadyOpen;
+            m_guarded.device = device;
+        }
+        const HRESULT result = ComGuard([&] { return Connect(device); });
         const std::lock_guard lock(m_mutex);
-        if (m_device)
-            return kAlreadyOpen;
-        m_device = device;
-        return S_OK;
+        if (m_guarded.device != device)
+            return kCancelled; // closed meanwhile
+        m_guarded.isOpen = SUCCEEDED(result);
+        if (FAILED(result))
+            m_guarded.device.reset(); // not the last reference
+        return result;
     });
+}
+
+HRESULT Device::Connect(const std::shared_ptr<OpenDevice>& device)
+{
+    // Watched from now on: a device that goes while it opens must not stay.
+    VolumeWatcher::Instance().Watch(device);
+    const DeviceWorker::Clock::time_point deadline = DeviceWorker::Clock::now() + kOpeningLimit;
+    const DeviceWorker::Pending opening =
+        device->Worker().Start([](DeviceSession& session, GCancellable* cancellable) {
+            return session.Open(cancellable);
+        });
+    const HRESULT result = device->Worker().Finish(opening, deadline);
+    const bool isLate = DeviceWorker::Clock::now() >= deadline;
+    return result == kCancelled && isLate ? kTimedOut : result;
 }
 
 HRESULT Device::Content(IPortableDeviceContent** out)
@@ -79,7 +97,7 @@ HRESULT Device::Content(IPortableDeviceContent** out)
 HRESULT Device::Cancel()
 {
     return ComGuard([&] {
-        const std::shared_ptr<OpenDevice> device = Opened();
+        const std::shared_ptr<OpenDevice> device = Taken();
         if (!device)
             return kNotOpen;
         device->Worker().Cancel();
@@ -93,7 +111,8 @@ HRESULT Device::Close()
         std::shared_ptr<OpenDevice> device;
         {
             const std::lock_guard lock(m_mutex);
-            m_device.swap(device);
+            m_guarded.device.swap(device);
+            m_guarded.isOpen = false;
         }
         if (device)
             device->Worker().Close();

@@ -13,6 +13,7 @@ namespace devices {
 class Device final : public ComObject<IPortableDevice>
 {
 public:
+    /// Gives up after 30 seconds, and within two after a Cancel() or Close() from elsewhere.
     HRESULT Open(LPCWSTR id, IPortableDeviceValues* clientInformation) override;
     HRESULT SendCommand(const DWORD flags, IPortableDeviceValues* parameters,
                         IPortableDeviceValues** results) override;
@@ -32,9 +33,17 @@ protected:
 
 private:
     std::shared_ptr<OpenDevice> Opened();
+    /// The device that is open or being opened.
+    std::shared_ptr<OpenDevice> Taken();
+    HRESULT Connect(const std::shared_ptr<OpenDevice>& device);
 
-    std::mutex m_mutex; // guards what follows
-    std::shared_ptr<OpenDevice> m_device;
+    struct Guarded
+    {
+        std::shared_ptr<OpenDevice> device;
+        bool isOpen = false; // else it is being opened
+    };
+    std::mutex m_mutex; // guards m_guarded
+    Guarded m_guarded;
 };
 
 } // namespace devices

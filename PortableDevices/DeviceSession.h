@@ -15,7 +15,7 @@ constexpr const wchar_t* kDeviceObject = L"DEVICE";
 /// Transfers go in steps of this many bytes; those of local files in steps that stay in a
 /// processor's cache.
 constexpr std::uint32_t kTransferSize = 1U << 20;
-constexpr std::uint32_t kLocalTransferSize = 1U << 17;
+constexpr std::uint32_t kLocalTransferSize = 1U << 18;
 
 enum class ObjectKind
 {
@@ -44,7 +44,7 @@ enum class Resource
     Thumbnail
 };
 
-/// One open stream of an object's data. Lives on the thread of its session, unless it is local.
+/// One open stream of an object's data. Lives on the thread of its session.
 class DataReader
 {
 public:
@@ -53,10 +53,8 @@ public:
     DataReader& operator=(const DataReader&) = delete;
     virtual ~DataReader() = default;
 
-    /// Whether the data lies in the local file system, so that reading may go on in the caller's
-    /// thread, one at a time. A local reader sees to the presence of its device itself.
-    virtual bool IsLocal() const { return false; }
-    /// A path that leads to the open local file itself as long as the reader lives; else empty.
+    /// A path that leads to the open file itself as long as the reader lives, when the data lies in
+    /// the local file system; else empty.
     virtual std::string LocalPath() const { return {}; }
     /// Reads at most \a size bytes; 0 bytes with success is the end of the data.
     virtual HRESULT Read(void* buffer, std::uint32_t size, std::uint32_t& got,

@@ -53,20 +53,24 @@ struct DeviceWorker::State
     std::thread thread;
     std::thread::id threadId;
 
-    std::mutex mutex; // guards what follows
+    struct Guarded
+    {
+        std::deque<Job> jobs;
+        GPtr<GCancellable> running; // ends what the thread is at; null while it waits
+        DeviceWorker::Clock::time_point endOfPatience; // with what runs, since it was cancelled
+        bool isClosed = false;
+        std::map<unsigned, Listener> listeners;
+        unsigned lastListener = 0;
+        unsigned calledListener = 0; // 0 when no call is under way
+        bool isStopping = false;
+        bool hasEnded = false;
+        bool isAnnounced = false;
+    };
+    std::mutex mutex; // guards `guarded`
+    Guarded guarded;
     std::condition_variable wake;
-    std::deque<Job> jobs;
-    GPtr<GCancellable> running; // ends what the thread is at; null while it waits
-    DeviceWorker::Clock::time_point endOfPatience; // with what runs, since it was cancelled
-    bool isClosed = false;
-    std::map<unsigned, Listener> listeners;
-    unsigned lastListener = 0;
-    unsigned calledListener = 0; // 0 when no call is under way
     std::condition_variable callEnded;
-    bool isStopping = false;
-    bool hasEnded = false;
     std::condition_variable ended;
-    bool isAnnounced = false;
 };
 
 void DeviceWorker::State::Loop()
@@ -75,20 +79,21 @@ void DeviceWorker::State::Loop()
     const GPtr<GMainContext> context(g_main_context_new());
     g_main_context_push_thread_default(context.get());
     std::unique_lock lock(mutex);
-    while (!isStopping || !jobs.empty()) {
+    while (!guarded.isStopping || !guarded.jobs.empty()) {
         wake.wait_for(lock, kPresenceInterval, [this] {
-            return isStopping || !jobs.empty() || (isRemoved && !isAnnounced);
+            return guarded.isStopping || !guarded.jobs.empty() ||
+                   (isRemoved && !guarded.isAnnounced);
         });
-        if (!jobs.empty()) {
-            Job job = std::move(jobs.front());
-            jobs.pop_front();
+        if (!guarded.jobs.empty()) {
+            Job job = std::move(guarded.jobs.front());
+            guarded.jobs.pop_front();
             Unlocked(lock, Share(job.cancellable.get()), [&] { Perform(job); });
         } else if (isOpened && !isRemoved) {
             Unlocked(lock, GPtr<GCancellable>(g_cancellable_new()),
                      [this] { isRemoved = session && !session->IsPresent(false); });
         }
-        if (isRemoved && !isAnnounced && !isStopping) {
-            isAnnounced = true;
+        if (isRemoved && !guarded.isAnnounced && !guarded.isStopping) {
+            guarded.isAnnounced = true;
             Unlocked(lock, GPtr<GCancellable>(g_cancellable_new()), [this] { AnnounceRemoval(); });
         }
     }
@@ -96,7 +101,7 @@ void DeviceWorker::State::Loop()
     session.reset();
     g_main_context_pop_thread_default(context.get());
     lock.lock();
-    hasEnded = true;
+    guarded.hasEnded = true;
     ended.notify_all();
 }
 
@@ -105,23 +110,23 @@ template <typename Work>
 void DeviceWorker::State::Unlocked(std::unique_lock<std::mutex>& lock,
                                    GPtr<GCancellable> cancellable, Work work)
 {
-    running = std::move(cancellable);
-    endOfPatience = {};
+    guarded.running = std::move(cancellable);
+    guarded.endOfPatience = {};
     lock.unlock();
     work();
     lock.lock();
-    running.reset();
+    guarded.running.reset();
 }
 
 // Whether what runs was cancelled long ago.
 bool DeviceWorker::State::IsStuck()
 {
     const std::lock_guard lock(mutex);
-    if (!running || !g_cancellable_is_cancelled(running.get()))
+    if (!guarded.running || !g_cancellable_is_cancelled(guarded.running.get()))
         return false;
-    if (endOfPatience == Clock::time_point())
-        endOfPatience = Clock::now() + kPatience;
-    return Clock::now() >= endOfPatience;
+    if (guarded.endOfPatience == Clock::time_point())
+        guarded.endOfPatience = Clock::now() + kPatience;
+    return Clock::now() >= guarded.endOfPatience;
 }
 
 void DeviceWorker::State::Perform(Job& job)
@@ -156,17 +161,17 @@ HRESULT DeviceWorker::State::ResultOf(const Job& job)
 void DeviceWorker::State::AnnounceRemoval()
 {
     std::unique_lock lock(mutex);
-    while (!listeners.empty() && !isStopping) {
-        const auto first = listeners.begin();
-        calledListener = first->first;
+    while (!guarded.listeners.empty() && !guarded.isStopping) {
+        const auto first = guarded.listeners.begin();
+        guarded.calledListener = first->first;
         const Listener listener = std::move(first->second);
         first->second = nullptr;
         lock.unlock();
         if (listener)
             listener();
         lock.lock();
-        listeners.erase(calledListener);
-        calledListener = 0;
+        guarded.listeners.erase(guarded.calledListener);
+        guarded.calledListener = 0;
         callEnded.notify_all();
     }
 }
@@ -174,7 +179,7 @@ void DeviceWorker::State::AnnounceRemoval()
 void DeviceWorker::State::WaitForCall(std::unique_lock<std::mutex>& lock, unsigned listener)
 {
     if (listener != 0 && std::this_thread::get_id() != threadId)
-        callEnded.wait(lock, [this, listener] { return calledListener != listener; });
+        callEnded.wait(lock, [this, listener] { return guarded.calledListener != listener; });
 }
 
 DeviceWorker::DeviceWorker(std::unique_ptr<DeviceSession> session)
@@ -194,15 +199,21 @@ DeviceWorker::~DeviceWorker()
     });
     {
         const std::lock_guard lock(m_state->mutex);
-        m_state->isStopping = true;
-        m_state->listeners.clear();
+        m_state->guarded.isStopping = true;
+        m_state->guarded.listeners.clear();
     }
     m_state->wake.notify_all();
     // The last reference to a device may be given back by a listener.
     bool hasEnded = std::this_thread::get_id() != m_state->threadId;
     if (hasEnded) {
+        // Who waited for it already has used up the patience.
+        m_state->IsStuck();
         std::unique_lock lock(m_state->mutex);
-        hasEnded = m_state->ended.wait_for(lock, kPatience, [this] { return m_state->hasEnded; });
+        const State::Guarded& guarded = m_state->guarded;
+        const bool isWaitedFor = guarded.running && guarded.endOfPatience != Clock::time_point();
+        const auto end = isWaitedFor ? guarded.endOfPatience : Clock::now() + kPatience;
+        hasEnded =
+            m_state->ended.wait_until(lock, end, [this] { return m_state->guarded.hasEnded; });
     }
     if (hasEnded)
         m_state->thread.join();
@@ -222,10 +233,10 @@ DeviceWorker::Pending DeviceWorker::Start(Task task)
     }
     {
         const std::lock_guard lock(m_state->mutex);
-        if (m_state->isClosed)
+        if (m_state->guarded.isClosed)
             job.result.set_value(kNotOpen);
         else
-            m_state->jobs.push_back(std::move(job));
+            m_state->guarded.jobs.push_back(std::move(job));
     }
     m_state->wake.notify_one();
     return pending;
@@ -264,7 +275,7 @@ void DeviceWorker::StartCleanup(std::function<void()> cleanup)
     job.cancellable.reset(g_cancellable_new());
     {
         const std::lock_guard lock(m_state->mutex);
-        m_state->jobs.push_back(std::move(job));
+        m_state->guarded.jobs.push_back(std::move(job));
     }
     m_state->wake.notify_one();
 }
@@ -275,9 +286,9 @@ void DeviceWorker::Cancel()
     {
         const std::lock_guard lock(m_state->mutex);
         ++m_state->cancelCount;
-        if (m_state->running)
-            targets.push_back(Share(m_state->running.get()));
-        for (const Job& job : m_state->jobs)
+        if (m_state->guarded.running)
+            targets.push_back(Share(m_state->guarded.running.get()));
+        for (const Job& job : m_state->guarded.jobs)
             targets.push_back(Share(job.cancellable.get()));
     }
     for (const GPtr<GCancellable>& target : targets)
@@ -301,9 +312,9 @@ void DeviceWorker::Close()
     Cancel();
     {
         std::unique_lock lock(m_state->mutex);
-        m_state->isClosed = true;
-        m_state->listeners.clear();
-        m_state->WaitForCall(lock, m_state->calledListener);
+        m_state->guarded.isClosed = true;
+        m_state->guarded.listeners.clear();
+        m_state->WaitForCall(lock, m_state->guarded.calledListener);
     }
     StartCleanup([state = m_state.get()] { state->session.reset(); });
 }
@@ -324,14 +335,14 @@ unsigned DeviceWorker::AddListener(Listener listener)
     const std::lock_guard lock(m_state->mutex);
     if (m_state->isRemoved)
         return 0;
-    m_state->listeners.emplace(++m_state->lastListener, std::move(listener));
-    return m_state->lastListener;
+    m_state->guarded.listeners.emplace(++m_state->guarded.lastListener, std::move(listener));
+    return m_state->guarded.lastListener;
 }
 
 bool DeviceWorker::RemoveListener(unsigned number)
 {
     std::unique_lock lock(m_state->mutex);
-    const bool isKnown = m_state->listeners.erase(number) > 0;
+    const bool isKnown = m_state->guarded.listeners.erase(number) > 0;
     m_state->WaitForCall(lock, number);
     return isKnown;
 }

@@ -78,12 +78,8 @@ bool MayLackPartialReads(HRESULT result)
 class LocalReader final : public DataReader
 {
 public:
-    LocalReader(GPtr<GInputStream> stream, std::shared_ptr<const LocalRoot> root)
-        : m_stream(std::move(stream)), m_root(std::move(root))
-    {
-    }
+    explicit LocalReader(GPtr<GInputStream> stream) : m_stream(std::move(stream)) {}
 
-    bool IsLocal() const override { return true; }
     std::string LocalPath() const override
     {
         return G_IS_FILE_DESCRIPTOR_BASED(m_stream.get())
@@ -94,10 +90,7 @@ public:
     HRESULT Read(void* buffer, std::uint32_t size, std::uint32_t& got,
                  GCancellable* cancellable) override
     {
-        got = 0;
-        // An open file can be read to its end after its folder has gone.
-        return m_root->IsThere() ? ReadStream(m_stream.get(), buffer, size, got, cancellable)
-                                 : kDeviceGone;
+        return ReadStream(m_stream.get(), buffer, size, got, cancellable);
     }
     HRESULT Seek(std::uint64_t position, GCancellable* cancellable) override
     {
@@ -106,7 +99,6 @@ public:
 
 private:
     const GPtr<GInputStream> m_stream;
-    const std::shared_ptr<const LocalRoot> m_root;
 };
 
 class RemoteReader final : public DataReader
@@ -222,7 +214,7 @@ FileSession::FileSession(const std::string& uri, std::wstring name, bool hasStor
 HRESULT FileSession::Open(GCancellable* cancellable)
 {
     if (g_file_is_native(m_root.get())) {
-        m_local = std::make_shared<LocalRoot>(g_file_peek_path(m_root.get()));
+        m_local = std::make_unique<LocalRoot>(g_file_peek_path(m_root.get()));
         return CheckRoot(cancellable);
     }
     const HRESULT result = OpenRemote(cancellable);
@@ -425,7 +417,7 @@ HRESULT FileSession::OpenFile(GPtr<GFile> file, std::unique_ptr<DataReader>& rea
     GPtr<GInputStream> stream(
         G_INPUT_STREAM(g_file_read(file.get(), cancellable, ErrorOut(error))));
     if (stream && m_local)
-        reader = std::make_unique<LocalReader>(std::move(stream), m_local);
+        reader = std::make_unique<LocalReader>(std::move(stream));
     else if (stream)
         reader = std::make_unique<RemoteReader>(std::move(stream), std::move(file));
     if (reader)

@@ -74,7 +74,7 @@ private:
     std::wstring m_name;
     bool m_hasStorages;
     std::string m_usbNode;
-    std::shared_ptr<const LocalRoot> m_local; // null for a root that is not local
+    std::unique_ptr<const LocalRoot> m_local; // null for a root that is not local
 };
 
 } // namespace devices

@@ -29,13 +29,12 @@ HRESULT ResourceStream::Open(std::shared_ptr<OpenDevice> device, const std::wstr
         });
     if (FAILED(result))
         return result;
-    stream->m_isLocal = source->reader->IsLocal();
     stream->m_promisedSize = source->reader->PromisedSize();
-    stepSize = stream->m_isLocal ? kLocalTransferSize : kTransferSize;
-    if (!stream->m_isLocal) {
-        source->buffer.resize(kTransferSize);
-        stream->StartStep();
-    }
+    stream->m_localPath = source->reader->LocalPath();
+    stepSize = stream->m_localPath.empty() ? kTransferSize : kLocalTransferSize;
+    stream->m_guarded.piece.buffer.resize(stepSize);
+    source->next.buffer.resize(stepSize);
+    stream->StartStep();
     return NLEComPtr<IStream>(stream).copyTo(out);
 }
 
@@ -63,11 +62,12 @@ HRESULT ResourceStream::QueryInterface(REFIID iid, void** out)
 
 void ResourceStream::StartStep()
 {
-    m_guarded.taken = 0;
     m_guarded.step = m_device->Worker().Start(
         [source = m_source](DeviceSession& /*session*/, GCancellable* cancellable) {
-            source->filled = 0;
-            return source->reader->Read(source->buffer.data(), kTransferSize, source->filled,
+            Piece& next = source->next;
+            next.filled = 0;
+            return source->reader->Read(next.buffer.data(),
+                                        static_cast<std::uint32_t>(next.buffer.size()), next.filled,
                                         cancellable);
         });
 }
@@ -87,34 +87,31 @@ void ResourceStream::DropStep()
     FinishStep();
 }
 
-HRESULT ResourceStream::ReadLocal(void* data, ULONG count, ULONG& got)
-{
-    const HRESULT result = m_source->reader->Read(data, count, got, nullptr);
-    if (result == kDeviceGone)
-        m_device->Worker().NoteRemoval();
-    return result;
-}
-
 HRESULT ResourceStream::ReadStep(void* data, ULONG count, ULONG& got)
 {
-    if (m_guarded.step.result.valid()) {
+    Piece& piece = m_guarded.piece;
+    if (m_guarded.taken == piece.filled && m_guarded.step.result.valid()) {
         if (const HRESULT result = FinishStep(); FAILED(result))
             return result;
+        std::swap(piece, m_source->next);
+        m_guarded.taken = 0;
+        // An empty step was the end; there is nothing more to ask for.
+        if (piece.filled > 0)
+            StartStep();
     }
     if (const HRESULT result = m_device->Worker().ResultSince(m_cancelCount); FAILED(result))
         return result;
-    got = std::min(count, m_source->filled - m_guarded.taken);
-    std::memcpy(data, m_source->buffer.data() + m_guarded.taken, got);
+    got = std::min(count, piece.filled - m_guarded.taken);
+    std::memcpy(data, piece.buffer.data() + m_guarded.taken, got);
     m_guarded.taken += got;
-    // An empty step was the end; there is nothing more to ask for.
-    if (m_guarded.taken == m_source->filled && m_source->filled > 0)
-        StartStep();
     return S_OK;
 }
 
 HRESULT ResourceStream::MoveTo(std::uint64_t position)
 {
     DropStep();
+    m_guarded.piece.filled = 0;
+    m_guarded.taken = 0;
     const HRESULT result = m_device->Worker().Run(
         [source = m_source, position](DeviceSession& /*session*/, GCancellable* cancellable) {
             return source->reader->Seek(position, cancellable);
@@ -122,8 +119,7 @@ HRESULT ResourceStream::MoveTo(std::uint64_t position)
     if (FAILED(result))
         return result;
     m_guarded.position = position;
-    if (!m_isLocal)
-        StartStep();
+    StartStep();
     return S_OK;
 }
 
@@ -139,8 +135,7 @@ HRESULT ResourceStream::Read(void* data, ULONG count, ULONG* read)
     if (FAILED(m_guarded.failure))
         return m_guarded.failure;
     ULONG got = 0;
-    m_guarded.failure = ComGuard(
-        [&] { return m_isLocal ? ReadLocal(data, count, got) : ReadStep(data, count, got); });
+    m_guarded.failure = ComGuard([&] { return ReadStep(data, count, got); });
     if (SUCCEEDED(m_guarded.failure) && got == 0 && count > 0 &&
         m_guarded.position < m_promisedSize)
         m_guarded.failure = kCutShort;
@@ -221,8 +216,8 @@ HRESULT ResourceStream::Stat(STATSTG* out, DWORD flags)
         *out = {};
         out->type = kStreamType;
         out->cbSize.QuadPart = m_promisedSize;
-        if (m_isLocal && !(flags & kNoName))
-            out->pwcsName = TaskText(WideText(m_source->reader->LocalPath().c_str()).c_str());
+        if (!m_localPath.empty() && !(flags & kNoName))
+            out->pwcsName = TaskText(WideText(m_localPath.c_str()).c_str());
         return S_OK;
     });
 }

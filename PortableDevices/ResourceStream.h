@@ -10,8 +10,7 @@
 namespace devices {
 
 /// Read-only stream over an object's data. The device reads the next piece while the caller writes
-/// the last one away, so each stream holds one buffer of kTransferSize beside the caller's. Data of
-/// the local file system goes straight into the caller's buffer.
+/// the last one away, so each stream holds two buffers of a step beside the caller's.
 ///
 /// Once a read has failed, every later one fails the same way.
 class ResourceStream final : public ComObject<IStream>
@@ -44,15 +43,18 @@ protected:
     ~ResourceStream() override;
 
 private:
+    struct Piece
+    {
+        std::vector<char> buffer;
+        std::uint32_t filled = 0;
+    };
     // What the device's thread works on while a step is under way.
     struct Source
     {
         std::unique_ptr<DataReader> reader;
-        std::vector<char> buffer;
-        std::uint32_t filled = 0;
+        Piece next;
     };
 
-    HRESULT ReadLocal(void* data, ULONG count, ULONG& got);
     HRESULT ReadStep(void* data, ULONG count, ULONG& got);
     HRESULT MoveTo(std::uint64_t position);
     void StartStep();
@@ -62,14 +64,15 @@ private:
     std::shared_ptr<OpenDevice> m_device;
     const std::shared_ptr<Source> m_source = std::make_shared<Source>();
     const unsigned m_cancelCount;
-    // Both are set once, before the caller has the stream.
-    bool m_isLocal = false;
+    // Set once, before the caller has the stream.
     std::uint64_t m_promisedSize = 0;
+    std::string m_localPath; // to the open file; empty for what is not local
 
     struct Guarded
     {
         DeviceWorker::Pending step;
-        std::uint32_t taken = 0; // of the buffer
+        Piece piece;             // the last one that came
+        std::uint32_t taken = 0; // of it
         std::uint64_t position = 0;
         HRESULT failure = S_OK;
     };

@@ -4,12 +4,15 @@
 #include "DeviceApi/DeviceResults.h"
 #include "tests/support/DeviceClient.h"
 #include "tests/support/FailingMemory.h"
+#include "tests/support/HangingFiles.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <pthread.h>
+#include <thread>
 #include <unistd.h>
 
 using DeviceClient::Device;
@@ -22,10 +25,20 @@ namespace {
 
 constexpr qint64 kLarge = 5LL << 30;
 
+thread_local int s_threads = 0;      // that this thread was to start
+thread_local int s_threadToFail = 0; // the number of the one that cannot; 0 for none
+
 /// A call of the service, made to an open device with the file \a id on it.
 using Call = HRESULT (*)(const Device& device, LPCWSTR id);
 
 } // namespace
+
+extern "C" Q_DECL_EXPORT int pthread_create(pthread_t* thread, const pthread_attr_t* attributes,
+                                            void* (*run)(void*), void* argument)
+{
+    static auto* const real = HangingFiles::Real<decltype(pthread_create)>("pthread_create");
+    return ++s_threads == s_threadToFail ? EAGAIN : real(thread, attributes, run, argument);
+}
 
 Q_DECLARE_METATYPE(Call)
 
@@ -85,6 +98,16 @@ private slots:
         m_folder = std::make_unique<QTemporaryDir>();
         QDir(m_folder->path()).mkpath("card");
         qputenv("COMMONLIB_DEVICE_FOLDERS", QFile::encodeName(Path("card") + ":" + Path("none")));
+    }
+
+    // The first function: afterwards the threads of the module are there.
+    void threadThatCannotStartIsTriedAgain()
+    {
+        s_threads = 0;
+        s_threadToFail = 2;
+        QVERIFY(DeviceClient::Devices().isEmpty());
+        QVERIFY(DeviceClient::Devices().contains(FolderId("card")));
+        QCOMPARE(s_threads, 3);
     }
 
     void folders()
@@ -221,6 +244,44 @@ private slots:
         Object object;
         const HRESULT after = device.Describe(id.toStdWString(), object);
         QCOMPARE(after, isGone ? kDeviceGone : change == "delete" ? kNotFound : S_OK);
+    }
+
+    void stopsAnswering_data()
+    {
+        QTest::addColumn<QString>("when");
+        for (const char* when : {"while it opens", "in a read", "in a walk"})
+            QTest::newRow(when) << when;
+    }
+    // Cancelled and closed before the storage answers again.
+    void stopsAnswering()
+    {
+        QFETCH(QString, when);
+        Write("card/clip", 20 << 20);
+        auto device = std::make_unique<Device>(when == "while it opens" ? "" : FolderId("card"));
+        const QString id = device->properties ? device->Tree()["card/clip"].id : QString();
+        NLEComPtr<IStream> stream;
+        if (when == "in a read")
+            QCOMPARE(device->Open(id, stream), S_OK);
+        const auto client =
+            DeviceClient::Make<IPortableDeviceValues>(Wpd::CLSID_PortableDeviceValues);
+        HangingFiles::Start(Path("card").toStdString());
+        std::thread helper([&] {
+            if (HangingFiles::WaitForCall())
+                device->device->Cancel();
+        });
+        HRESULT result = S_OK;
+        if (when == "while it opens")
+            result = device->device->Open(FolderId("card").toStdWString().c_str(), client.get());
+        else if (when == "in a walk")
+            result = static_cast<HRESULT>(device->Tree()["failed"].size);
+        std::vector<char> data(1 << 20);
+        for (ULONG count = 1; stream && result == S_OK;)
+            result = stream->Read(data.data(), static_cast<ULONG>(data.size()), &count);
+        helper.join();
+        stream.reset();
+        device.reset();
+        QCOMPARE(HangingFiles::End(), 0);
+        QCOMPARE(result, kCancelled);
     }
 
     void copyOntoItself_data()

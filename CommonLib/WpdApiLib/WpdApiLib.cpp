@@ -11,6 +11,7 @@
 #include <cstring>
 #include <cwchar>
 #include <memory>
+#include <mutex>
 #include <new>
 #include <utility>
 
@@ -28,8 +29,16 @@ constexpr char kEnumerateAllDevicesName[] = "WpdApiLib::EnumerateAllDevices";
 // Plain pointers: at the end of the process nothing may be released any more, since the module that
 // made the objects may be gone.
 IPortableDevice* s_device = nullptr;
+std::mutex s_cancelMutex;                 // guards s_cancellable
+IPortableDevice* s_cancellable = nullptr; // the device that is open or being opened; not owned
 WpdDeviceEvents* s_events = nullptr;
 wchar_t* s_cookie = nullptr; // task memory; null for none
+
+void SetCancellable(IPortableDevice* device)
+{
+    const std::lock_guard<std::mutex> lock(s_cancelMutex);
+    s_cancellable = device;
+}
 
 // ---- Listing
 
@@ -321,8 +330,10 @@ int WpdApiLib::ChooseDevice(const wchar_t* deviceId, HWND window)
                     ResultBits(result));
         return 0;
     }
+    SetCancellable(device.get());
     result = Open(*device, deviceId, client.get());
     if (FAILED(result)) {
+        SetCancellable(nullptr);
         std::printf("! Failed to Open the device, hr = 0x%lx\n", ResultBits(result));
         return 0;
     }
@@ -382,9 +393,14 @@ void WpdApiLib::DeleteContentFromDevice(const wchar_t* objectId)
 
 int WpdApiLib::Cancel()
 {
-    if (!s_device)
+    NLEComPtr<IPortableDevice> device;
+    {
+        const std::lock_guard<std::mutex> lock(s_cancelMutex);
+        device = s_cancellable;
+    }
+    if (!device)
         return 0;
-    const HRESULT result = s_device->Cancel();
+    const HRESULT result = device->Cancel();
     if (SUCCEEDED(result))
         return 1;
     // With a line end inside the message. Kept: see docs/compatibility.md.
@@ -397,6 +413,7 @@ void WpdApiLib::UnregisterForEventNotifications()
 {
     if (!s_device)
         return;
+    SetCancellable(nullptr);
     if (s_events)
         s_events->Close(); // before anything else: the service may be about to call
     if (s_cookie && *s_cookie) {

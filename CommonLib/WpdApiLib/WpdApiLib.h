@@ -50,7 +50,7 @@ struct WpdObjectRecord
 ///
 /// One device is open at a time in the process. All calls come from one thread, usually the GUI
 /// thread. Only WpdDeviceRemoved arrives elsewhere, and only Cancel() may be called while another
-/// thread is inside an operation, as long as no device is opened or closed meanwhile.
+/// thread is inside an operation.
 ///
 /// On Windows a thread of the host's own that calls has initialised the component library, with
 /// CoInitializeEx(); Qt does so for the GUI thread.
@@ -103,8 +103,8 @@ public:
     /// Deletes one object on the open device. A folder that holds anything stays.
     static void DeleteContentFromDevice(const wchar_t* objectId);
 
-    /// Asks the open device to cancel its pending operation. 1 on success; 0 without a device and
-    /// when it refuses, which is logged.
+    /// Asks the device that is open, or that another thread is opening, to cancel its pending
+    /// operation. 1 on success; 0 without a device and when it refuses, which is logged.
     static int Cancel();
 
     /// Ends the event registration and releases the open device. Afterwards the callback is not

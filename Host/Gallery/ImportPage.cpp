@@ -141,7 +141,7 @@ void ImportPage::Connect()
 {
     connect(m_refreshButton, &QPushButton::clicked, &m_session, &ImportSession::List);
     connect(&m_listTimer, &QTimer::timeout, this, [this] {
-        if (isVisible())
+        if (isVisible() && !std::exchange(m_isListing, true))
             m_session.List();
     });
     connect(m_deviceBox, qOverload<int>(&QComboBox::activated), this, &ImportPage::Choose);
@@ -183,8 +183,10 @@ void ImportPage::SetState(State state)
     const bool hasNotice = isWaiting || state == State::Opening || state == State::Refused;
     ShowNotice();
     m_stack->setCurrentWidget(hasNotice ? static_cast<QWidget*>(m_notice) : m_tree);
-    if (isWaiting != m_listTimer.isActive())
-        isWaiting ? m_listTimer.start() : m_listTimer.stop();
+    // A device may come at any time.
+    const bool isListed = state != State::Importing;
+    if (isListed != m_listTimer.isActive())
+        isListed ? m_listTimer.start() : m_listTimer.stop();
     m_progress->setVisible(state == State::Importing);
     m_cancelButton->setVisible(state == State::Importing);
     UpdateButtons();
@@ -269,11 +271,10 @@ void ImportPage::UpdateButtons()
 
 void ImportPage::TakeDevices(const QVector<ImportDevice>& devices)
 {
-    m_devices = devices;
-    const QSignalBlocker blocker(m_deviceBox);
-    m_deviceBox->clear();
-    for (const ImportDevice& device : devices)
-        m_deviceBox->addItem(ShownName(device.name));
+    m_isListing = false;
+    const bool isNew = devices != m_devices;
+    if (isNew)
+        ShowDevices(devices);
     const auto found =
         std::find_if(devices.begin(), devices.end(),
                      [this](const ImportDevice& device) { return device.id == m_chosen; });
@@ -287,7 +288,17 @@ void ImportPage::TakeDevices(const QVector<ImportDevice>& devices)
     else if (m_state == State::NoDevice && !devices.isEmpty())
         Choose(0);
     // The word that a device was removed stays until it is back or another is chosen.
-    UpdateButtons();
+    if (isNew)
+        UpdateButtons();
+}
+
+void ImportPage::ShowDevices(const QVector<ImportDevice>& devices)
+{
+    m_devices = devices;
+    const QSignalBlocker blocker(m_deviceBox);
+    m_deviceBox->clear();
+    for (const ImportDevice& device : devices)
+        m_deviceBox->addItem(ShownName(device.name));
 }
 
 void ImportPage::Choose(int index)

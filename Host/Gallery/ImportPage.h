@@ -57,6 +57,7 @@ private:
     void UpdateButtons();
 
     void TakeDevices(const QVector<ImportDevice>& devices);
+    void ShowDevices(const QVector<ImportDevice>& devices);
     void Choose(int index);
     void TakeContentEnd(bool isWhole);
     void StartImport();
@@ -70,7 +71,8 @@ private:
     void ChooseFolder();
 
     ImportSession m_session;
-    QTimer m_listTimer; ///< looks for devices while there is none
+    QTimer m_listTimer;       ///< looks for devices, except during an import
+    bool m_isListing = false; ///< the list that it asked for has not come yet
     State m_state = State::NoDevice;
     QVector<ImportDevice> m_devices;
     std::wstring m_chosen; ///< identifier of the device that is shown

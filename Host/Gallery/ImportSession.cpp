@@ -2,288 +2,42 @@
 #include "Host/Gallery/ImportSession.h"
 
 #include "CommonLib/WpdApiLib/WpdApiLib.h"
-#include "Host/Gallery/ComponentThread_p.h"
 
-#include <QDir>
-#include <QFile>
-#include <QImageReader>
+#include <QDeadlineTimer>
 
 namespace {
 
-constexpr int kPieceOfObjects = 200;
-constexpr int kSendEvery = 60; // ms
-constexpr QSize kThumbnail(96, 64);
-
-std::wstring NativePath(const QString& path)
-{
-    return QDir::toNativeSeparators(path).toStdWString();
-}
-
-/// \a days since 30 December 1899; 0 is no date.
-QDateTime DateOf(double days)
-{
-    constexpr double millisecondsPerDay = 24.0 * 60 * 60 * 1000;
-    if (days <= 0)
-        return QDateTime();
-    const QDateTime start(QDate(1899, 12, 30), QTime(0, 0));
-    return start.addDays(static_cast<qint64>(days))
-        .addMSecs(qRound64((days - static_cast<qint64>(days)) * millisecondsPerDay));
-}
+constexpr int kPatience = 1800;  // ms; a device of this system ends within 1,300
+constexpr int kCancelEvery = 50; // ms
 
 } // namespace
 
-ImportSession::ImportSession(QObject* parent) : QObject(parent)
+ImportSession::ImportSession(QObject* parent)
+    : QObject(parent), m_worker(new ImportWorker), m_thread(new QThread)
 {
-    qRegisterMetaType<std::wstring>("std::wstring");
-    qRegisterMetaType<QVector<ImportDevice>>("QVector<ImportDevice>");
-    qRegisterMetaType<QVector<ImportObject>>("QVector<ImportObject>");
-    qRegisterMetaType<ImportResult>("ImportResult");
-    m_context.moveToThread(&m_thread);
-    m_thread.start();
-    Queue([this] {
-        m_components = std::make_unique<ComponentThread>();
-        WpdApiLib::SetCallbackProc(&ImportSession::Callback, this);
-    });
+    const ImportWorker* worker = m_worker.get();
+    connect(worker, &ImportWorker::DevicesListed, this, &ImportSession::DevicesListed);
+    connect(worker, &ImportWorker::Opened, this, &ImportSession::Opened);
+    connect(worker, &ImportWorker::ObjectsRead, this, &ImportSession::ObjectsRead);
+    connect(worker, &ImportWorker::ContentRead, this, &ImportSession::ContentRead);
+    connect(worker, &ImportWorker::ThumbnailRead, this, &ImportSession::ThumbnailRead);
+    connect(worker, &ImportWorker::Progressed, this, &ImportSession::Progressed);
+    connect(worker, &ImportWorker::Imported, this, &ImportSession::Imported);
+    connect(worker, &ImportWorker::Removed, this, &ImportSession::Removed);
+    m_worker->moveToThread(m_thread.get());
+    m_thread->start();
 }
 
 ImportSession::~ImportSession()
 {
-    Stop();
-    Queue([this] {
-        ChooseNow(nullptr);
-        WpdApiLib::SetCallbackProc(nullptr, nullptr);
-        m_components.reset();
-        m_thread.quit();
-    });
-    m_thread.wait();
-}
-
-template <typename Work>
-void ImportSession::Queue(Work work)
-{
-    const int ticket = ++m_issued;
-    QMetaObject::invokeMethod(&m_context, [this, ticket, work] {
-        m_ticket = ticket;
-        work();
-    });
-}
-
-template <typename Work>
-auto ImportSession::WhileBusy(Work work)
-{
-    m_isBusy = true;
-    const auto result = work();
-    m_isBusy = false;
-    return result;
-}
-
-void ImportSession::List()
-{
-    Queue([this] { ListNow(); });
-}
-
-void ImportSession::Open(const std::wstring& deviceId)
-{
-    Queue([this, deviceId] { OpenNow(deviceId); });
-}
-
-void ImportSession::ReadThumbnails(const QVector<ImportPicture>& files)
-{
-    {
-        const QMutexLocker lock(&m_mutex);
-        m_thumbnails.insert(m_thumbnails.end(), files.begin(), files.end());
-    }
-    Queue([this] {
-        WhileBusy([this] {
-            while (!IsStopped() && ReadNextThumbnail()) {
-            }
-            return true;
-        });
-    });
-}
-
-void ImportSession::Import(const QVector<ImportFile>& files)
-{
-    Queue([this, files] { ImportNow(files); });
-}
-
-void ImportSession::Delete(const QVector<std::wstring>& objectIds)
-{
-    Queue([this, objectIds] {
-        WhileBusy([this, &objectIds] {
-            for (int i = 0; i < objectIds.size() && !IsStopped(); ++i)
-                WpdApiLib::DeleteContentFromDevice(objectIds[i].c_str());
-            return true;
-        });
-    });
-}
-
-void ImportSession::Close()
-{
-    Queue([this] { ChooseNow(nullptr); });
-}
-
-void ImportSession::Stop()
-{
-    m_stopped = m_issued;
-    {
-        const QMutexLocker lock(&m_mutex);
-        m_thumbnails.clear();
-    }
-    // What the device is at ends at the next chunk or object; a device that hangs has none.
-    if (m_isBusy && m_deviceMutex.tryLock()) {
+    m_worker->Stop();
+    m_worker->Quit();
+    // More than once: one may come between two operations.
+    const QDeadlineTimer end(kPatience);
+    while (!m_thread->wait(kCancelEvery) && !end.hasExpired())
         WpdApiLib::Cancel();
-        m_deviceMutex.unlock();
-    }
-}
-
-std::int64_t ImportSession::Callback(HWND /*window*/, std::uint32_t /*message*/, std::uint64_t code,
-                                     std::int64_t value, void* user)
-{
-    auto& self = *static_cast<ImportSession*>(user);
-    if (code == WpdDeviceRemoved) {
-        Q_EMIT self.Removed(); // on a thread of the service; receivers hear of it on their own
-        return 0;
-    }
-    if (code == WpdObjectRead) {
-        self.TakeObject(*reinterpret_cast<WpdObjectRecord*>(static_cast<std::intptr_t>(value)));
-        self.ReadNextThumbnail(); // one between two objects: both go on
-    } else if (self.m_isImporting) {
-        self.TakeProgress(static_cast<quint64>(value));
-    }
-    return self.IsStopped() ? 1 : 0;
-}
-
-void ImportSession::ListNow()
-{
-    // A device that is plugged in between may only show in the next list.
-    const unsigned long room = WpdApiLib::EnumerateAllDevices(nullptr, nullptr) + 16;
-    std::unique_ptr<wchar_t*[]> ids(new wchar_t*[room]());
-    std::unique_ptr<wchar_t*[]> names(new wchar_t*[room]());
-    const unsigned long count = WpdApiLib::EnumerateAllDevices(ids.get(), names.get());
-    QVector<ImportDevice> devices;
-    for (unsigned long i = 0; i < count; ++i) {
-        if (ids[i])
-            devices.append({ids[i], names[i] ? QString::fromWCharArray(names[i]) : QString()});
-        SysFreeString(ids[i]);
-        SysFreeString(names[i]);
-    }
-    Q_EMIT DevicesListed(devices);
-}
-
-bool ImportSession::ChooseNow(const wchar_t* deviceId)
-{
-    const QMutexLocker lock(&m_deviceMutex);
-    return WpdApiLib::ChooseDevice(deviceId, nullptr) != 0;
-}
-
-void ImportSession::OpenNow(const std::wstring& deviceId)
-{
-    if (IsStopped())
+    if (m_thread->isFinished())
         return;
-    const bool isOpen = ChooseNow(deviceId.c_str());
-    Q_EMIT Opened(isOpen);
-    if (!isOpen)
-        return;
-    m_objects.clear();
-    m_sent.start();
-    const bool isWhole = WhileBusy(&WpdApiLib::EnumerateAllContent) != 0;
-    if (IsStopped())
-        return; // the content of a device that nobody looks at any more
-    SendObjects();
-    Q_EMIT ContentRead(isWhole);
-}
-
-void ImportSession::TakeObject(WpdObjectRecord& record)
-{
-    record.descend = record.isFolder; // folders at every depth
-    m_objects.append({record.objectId, record.parentId,
-                      QString::fromWCharArray(record.originalFileName), record.size,
-                      record.isFolder != 0, DateOf(record.dateModified)});
-    if (m_objects.size() >= kPieceOfObjects || m_sent.elapsed() >= kSendEvery)
-        SendObjects();
-}
-
-void ImportSession::SendObjects()
-{
-    if (!m_objects.isEmpty() && !IsStopped())
-        Q_EMIT ObjectsRead(m_objects);
-    m_objects.clear();
-    m_sent.restart();
-}
-
-bool ImportSession::ReadNextThumbnail()
-{
-    ImportPicture picture;
-    {
-        const QMutexLocker lock(&m_mutex);
-        if (m_thumbnails.empty())
-            return false;
-        picture = m_thumbnails.front();
-        m_thumbnails.pop_front();
-    }
-    QImage image = ReadPicture(picture.id, false);
-    if (image.isNull() && picture.isSmallPicture)
-        image = ReadPicture(picture.id, true);
-    if (!image.isNull())
-        Q_EMIT ThumbnailRead(picture.id, image);
-    return true;
-}
-
-/// An object's small picture, or the object itself made small; null when there is none.
-QImage ImportSession::ReadPicture(const std::wstring& objectId, bool isWhole)
-{
-    const QString path = m_folder.filePath(QStringLiteral("picture"));
-    if (!WpdApiLib::TransferContentFromDevice(objectId.c_str(), NativePath(path).c_str(),
-                                              isWhole ? 0 : 1))
-        return QImage();
-    QImageReader reader(path);
-    reader.setAutoTransform(true);
-    reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size();
-    if (size.width() > kThumbnail.width() || size.height() > kThumbnail.height())
-        reader.setScaledSize(size.scaled(kThumbnail, Qt::KeepAspectRatio));
-    return reader.read();
-}
-
-void ImportSession::ImportNow(const QVector<ImportFile>& files)
-{
-    ImportResult result;
-    result.wanted = files.size();
-    m_isImporting = true;
-    m_imported = 0;
-    m_sent.start();
-    for (const ImportFile& file : files) {
-        if (IsStopped())
-            break;
-        if (ImportFileNow(file))
-            result.importedIds.append(file.id);
-        else if (!IsStopped())
-            result.failed.append(file.path);
-        m_imported += file.size;
-        Q_EMIT Progressed(m_imported);
-    }
-    m_isImporting = false;
-    result.isStopped = IsStopped();
-    Q_EMIT Imported(result);
-}
-
-bool ImportSession::ImportFileNow(const ImportFile& file)
-{
-    const std::wstring path = NativePath(file.path);
-    const auto transfer = [&] {
-        return WpdApiLib::TransferContentFromDevice(file.id.c_str(), path.c_str(), 0) != 0;
-    };
-    if (WhileBusy(transfer))
-        return true;
-    QFile::remove(file.path); // the library leaves what it has written
-    return false;
-}
-
-void ImportSession::TakeProgress(quint64 bytesOfFile)
-{
-    if (m_sent.elapsed() < kSendEvery)
-        return;
-    m_sent.restart();
-    Q_EMIT Progressed(m_imported + bytesOfFile);
+    m_worker.release();
+    m_thread.release();
 }

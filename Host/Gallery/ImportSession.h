@@ -1,153 +1,45 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "Com/ComTypes.h"
+#include "Host/Gallery/ImportWorker.h"
 
-#include <QDateTime>
-#include <QElapsedTimer>
-#include <QImage>
-#include <QMutex>
-#include <QObject>
-#include <QStringList>
-#include <QTemporaryDir>
 #include <QThread>
-#include <QVector>
-
-#include <atomic>
-#include <cstdint>
-#include <deque>
-#include <memory>
-#include <string>
-
-Q_DECLARE_METATYPE(std::wstring)
-
-class ComponentThread;
-struct WpdObjectRecord;
-
-/// A device that can be imported from.
-struct ImportDevice
-{
-    std::wstring id;
-    QString name;
-};
-
-/// A file, a folder or a storage on the open device.
-struct ImportObject
-{
-    std::wstring id;
-    std::wstring parent;
-    QString name; ///< may be empty
-    quint64 size; ///< bytes
-    bool isFolder;
-    QDateTime modified; ///< invalid when the device does not tell
-};
-
-/// A file to show a small picture of.
-struct ImportPicture
-{
-    std::wstring id;
-    bool isSmallPicture; ///< may be read whole when the device has no small picture of it
-};
-
-/// A file to import and where to.
-struct ImportFile
-{
-    std::wstring id;
-    QString path;
-    quint64 size; ///< bytes, for the progress
-};
-
-/// How an import ended.
-struct ImportResult
-{
-    int wanted = 0;
-    bool isStopped = false;
-    QVector<std::wstring> importedIds;
-    QStringList failed; ///< paths that were not written
-};
 
 /// Uses the library's device import on a thread of its own, so that a slow device never holds up
 /// the window. There may be one at a time. The operations return at once and are carried out in
-/// order; signals tell what came of them, on the thread of the receiver.
+/// order; signals tell what came of them.
 class ImportSession : public QObject
 {
     Q_OBJECT
 
 public:
     explicit ImportSession(QObject* parent = nullptr);
-    /// Stops what is under way and waits for its end.
+    /// Stops what is under way. A device that does not answer is left behind with the thread after
+    /// little more than a second.
     ~ImportSession() override;
 
-    /// Lists the devices: DevicesListed().
-    void List();
-    /// Opens a device instead of the one that is open and reads its content: Opened(),
-    /// ObjectsRead() in pieces, ContentRead().
-    void Open(const std::wstring& deviceId);
-    /// Reads small pictures of \a files, even while content is being read: ThumbnailRead() for
-    /// those that have one.
-    void ReadThumbnails(const QVector<ImportPicture>& files);
-    /// Copies \a files one after the other: Progressed(), Imported(). A file that is stopped or
-    /// fails is removed again.
-    void Import(const QVector<ImportFile>& files);
-    /// Deletes \a objectIds on the device. It does not tell what has really gone; reading its
-    /// content again does.
-    void Delete(const QVector<std::wstring>& objectIds);
-    /// Closes the open device.
-    void Close();
-    /// Stops everything that was asked for so far.
-    void Stop();
+    /// As the operations of the same names of ImportWorker.
+    void List() { m_worker->List(); }
+    void Open(const std::wstring& deviceId) { m_worker->Open(deviceId); }
+    void ReadThumbnails(const QVector<ImportPicture>& files) { m_worker->ReadThumbnails(files); }
+    void Import(const QVector<ImportFile>& files) { m_worker->Import(files); }
+    void Delete(const QVector<std::wstring>& objectIds) { m_worker->Delete(objectIds); }
+    void Close() { m_worker->Close(); }
+    void Stop() { m_worker->Stop(); }
 
 Q_SIGNALS:
+    /// As the signals of the same names of ImportWorker.
     void DevicesListed(const QVector<ImportDevice>& devices);
     void Opened(bool isOpen);
     void ObjectsRead(const QVector<ImportObject>& objects);
-    /// \a isWhole is false when the device failed in the middle or reading was stopped.
     void ContentRead(bool isWhole);
     void ThumbnailRead(const std::wstring& objectId, const QImage& image);
     void Progressed(quint64 bytes);
     void Imported(const ImportResult& result);
-    /// The open device is gone.
     void Removed();
 
 private:
-    static std::int64_t Callback(HWND window, std::uint32_t message, std::uint64_t code,
-                                 std::int64_t value, void* user);
-
-    template <typename Work>
-    void Queue(Work work);
-    template <typename Work>
-    auto WhileBusy(Work work);
-    bool IsStopped() const { return m_ticket <= m_stopped; }
-
-    // On the session's thread.
-    void ListNow();
-    bool ChooseNow(const wchar_t* deviceId);
-    void OpenNow(const std::wstring& deviceId);
-    void ImportNow(const QVector<ImportFile>& files);
-    bool ImportFileNow(const ImportFile& file);
-    void TakeObject(WpdObjectRecord& record);
-    void SendObjects();
-    void TakeProgress(quint64 bytesOfFile);
-    bool ReadNextThumbnail();
-    QImage ReadPicture(const std::wstring& objectId, bool isWhole);
-
-    QThread m_thread;
-    QObject m_context;             ///< lives on the thread; what is queued belongs to it
-    int m_issued = 0;              ///< tickets given to operations
-    std::atomic<int> m_stopped{0}; ///< operations up to this ticket are not wanted any more
-
-    QMutex m_deviceMutex;              ///< held while a device is opened or closed
-    std::atomic<bool> m_isBusy{false}; ///< a device's operation may be under way
-
-    QMutex m_mutex; ///< guards m_thumbnails
-    std::deque<ImportPicture> m_thumbnails;
-
-    // Used on the session's thread only.
-    std::unique_ptr<ComponentThread> m_components;
-    QTemporaryDir m_folder;
-    int m_ticket = 0; ///< of the operation under way
-    QVector<ImportObject> m_objects;
-    QElapsedTimer m_sent;
-    bool m_isImporting = false;
-    quint64 m_imported = 0; ///< bytes of the files before the one under way
+    // Both outlive the session when a device hangs.
+    std::unique_ptr<ImportWorker> m_worker;
+    std::unique_ptr<QThread> m_thread;
 };
