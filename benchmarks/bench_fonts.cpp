@@ -89,8 +89,8 @@ int main(int argc, char** argv)
         std::printf("only %d fonts were found\n", found);
         return 1;
     }
-    std::printf("first start %8.1f ms, Qt opening each file %8.1f ms, ratio %.2f\n", first,
-                bare, first / bare);
+    std::printf("first start %8.1f ms, Qt opening each file %8.1f ms, ratio %.2f\n", first, bare,
+                first / bare);
     std::printf("later start %8.1f ms (target: below %.0f), bare listing %8.1f ms, ratio %.2f\n",
                 Median(later), kTarget, Median(listing), Median(later) / Median(listing));
     return 0;
