@@ -17,11 +17,16 @@ std::int64_t BytesOf(const QSize& size)
     return std::int64_t(size.width()) * size.height() * kPixelBytes;
 }
 
+QSize Halved(const QSize& size)
+{
+    return QSize(size.width() / 2, size.height() / 2).expandedTo(QSize(1, 1));
+}
+
 // The picture's own size, halved until it takes no more than so many bytes.
 QSize WholeSize(QSize size, std::int64_t limit)
 {
     while (BytesOf(size) > limit)
-        size = QSize(size.width() / 2, size.height() / 2).expandedTo(QSize(1, 1));
+        size = Halved(size);
     return size;
 }
 
@@ -62,11 +67,30 @@ QImage StillPictures::Picture(const StillPicture& still, const QSize& size)
 
 QImage StillPictures::Make(const StillPicture& still, const QSize& size)
 {
-    const QSize whole = WholeSize(still.ownSize, m_shelfCapacity);
+    const QSize whole = WholeSize(still.ownSize, m_shelfCapacity / 4 * 3);
     if (!still.isKeptWhole || still.ownSize.isEmpty() || !Fits(size, whole))
         return still.read(size);
-    const QImage picture = Get(m_guarded.whole, still, whole, [&] { return still.read(whole); });
-    return picture.size() == size ? picture : ScalePicture(picture, size);
+    int halvings = 0;
+    QSize smallest = whole;
+    for (QSize half = Halved(whole); half != smallest && Fits(size, half); half = Halved(half)) {
+        smallest = half;
+        ++halvings;
+    }
+    const QImage picture = Reduced(still, whole, halvings);
+    return picture.isNull() || picture.size() == size ? picture : ScalePicture(picture, size);
+}
+
+QImage StillPictures::Reduced(const StillPicture& still, const QSize& whole, int halvings)
+{
+    QSize size = whole;
+    for (int i = 0; i < halvings; ++i)
+        size = Halved(size);
+    return Get(m_guarded.whole, still, size, [&] {
+        if (halvings == 0)
+            return still.read(size);
+        const QImage larger = Reduced(still, whole, halvings - 1);
+        return larger.isNull() ? larger : ScalePicture(larger, size);
+    });
 }
 
 QImage StillPictures::Get(Shelf& shelf, const StillPicture& still, const QSize& size,

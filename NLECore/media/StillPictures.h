@@ -40,9 +40,10 @@ struct StillPicture
 class StillPictures
 {
 public:
-    static constexpr std::int64_t kDefaultCapacity = std::int64_t(256) << 20;
+    static constexpr std::int64_t kDefaultCapacity = std::int64_t(288) << 20;
 
-    /// Keeps at most \a capacity bytes of pixels: half of them shown sizes, half whole pictures.
+    /// Keeps at most \a capacity bytes of pixels: half of them shown sizes, half whole
+    /// pictures with their halves, quarters and so on.
     explicit StillPictures(std::int64_t capacity = kDefaultCapacity);
     StillPictures(const StillPictures&) = delete;
     StillPictures& operator=(const StillPictures&) = delete;
@@ -82,6 +83,9 @@ private:
 
     static Key KeyOf(const StillPicture& still, const QSize& size);
     QImage Make(const StillPicture& still, const QSize& size);
+    /// The picture at the size \a whole, halved so many times. Each is kept, so that what moves and
+    /// zooms scales little each time.
+    QImage Reduced(const StillPicture& still, const QSize& whole, int halvings);
     QImage Get(Shelf& shelf, const StillPicture& still, const QSize& size,
                const std::function<QImage()>& make);
     /// Needs the lock.

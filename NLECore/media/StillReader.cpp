@@ -73,18 +73,8 @@ QImage ReadStill(const MediaInfo& info, int stream, const QSize& size)
 
 QImage ScalePicture(const QImage& picture, const QSize& size)
 {
-    const FramePtr frame(av_frame_alloc());
-    if (!frame)
-        return {};
-    // The scaler only reads it.
-    frame->data[0] = const_cast<std::uint8_t*>(picture.constBits());
-    frame->linesize[0] = picture.bytesPerLine();
-    frame->width = picture.width();
-    frame->height = picture.height();
-    frame->format = AV_PIX_FMT_BGRA;
-    frame->color_range = AVCOL_RANGE_JPEG;
-    frame->colorspace = AVCOL_SPC_RGB;
-    return PictureScaler().Convert(*frame, MediaStream(), size);
+    return picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+        .convertToFormat(QImage::Format_ARGB32);
 }
 
 } // namespace nle
