@@ -5,6 +5,8 @@
 #include "CommonLib/NLEWraper/NLETimeline.h"
 #include "EngineApi/INLEMedia.h"
 
+#include <QMap>
+
 namespace {
 
 QString SizeText(double width, double height)
@@ -26,6 +28,52 @@ QString CodecText(const NLEStreamInfo& stream)
     return name.isEmpty() ? MediaReport::tr("unknown codec") : name;
 }
 
+/// What the numbers of ITU-T H.273 stand for; the number itself for those that nobody writes.
+QString CodeText(int code, const QMap<int, QString>& names)
+{
+    return names.value(code, QString::number(code));
+}
+
+/// Primaries, transfer and matrix as "BT.2020/PQ/BT.2020"; "–" for what the file does not tell.
+/// Empty when it tells nothing.
+QString ColoursText(const NLEStreamInfo& stream)
+{
+    static const QString s_none = QStringLiteral("–");
+    static const QMap<int, QString> s_primaries = {
+        {0, s_none},    {1, "BT.709"},  {2, s_none},     {4, "BT.470 M"}, {5, "BT.470 BG"},
+        {6, "ST 170"},  {7, "ST 240"},  {8, "film"},     {9, "BT.2020"},  {10, "XYZ"},
+        {11, "DCI-P3"}, {12, "P3-D65"}, {22, "EBU 3213"}};
+    static const QMap<int, QString> s_transfers = {
+        {0, s_none},     {1, "BT.709"},   {2, s_none},   {4, "2.2"},     {5, "2.8"},
+        {6, "ST 170"},   {7, "ST 240"},   {8, "linear"}, {11, "xvYCC"},  {13, "sRGB"},
+        {14, "BT.2020"}, {15, "BT.2020"}, {16, "PQ"},    {17, "ST 428"}, {18, "HLG"}};
+    static const QMap<int, QString> s_matrices = {
+        {0, "RGB"},   {1, "BT.709"},    {2, s_none},        {3, s_none},
+        {4, "FCC"},   {5, "BT.470 BG"}, {6, "ST 170"},      {7, "ST 240"},
+        {8, "YCgCo"}, {9, "BT.2020"},   {10, "BT.2020 CL"}, {14, "ICtCp"}};
+    const QString none = QStringList{s_none, s_none, s_none}.join('/');
+    const QString text =
+        QStringList{CodeText(stream.primaries, s_primaries), CodeText(stream.transfer, s_transfers),
+                    CodeText(stream.matrix, s_matrices)}
+            .join('/');
+    return text == none ? QString() : text;
+}
+
+/// The codes from black to white of luma: "64–940". Empty when the file does not tell.
+QString RangeText(const NLEStreamInfo& stream)
+{
+    constexpr int black = 16;
+    constexpr int white = 235;
+    constexpr int full = 2;
+    const int shift = stream.bitDepth - 8;
+    if (shift < 0 || stream.colorRange == 0)
+        return {};
+    const bool isFull = stream.colorRange == full;
+    return QStringLiteral("%1–%2")
+        .arg(isFull ? 0 : black << shift)
+        .arg(isFull ? (1 << stream.bitDepth) - 1 : white << shift);
+}
+
 QString StreamText(const NLEStreamInfo& stream)
 {
     QStringList parts;
@@ -38,6 +86,10 @@ QString StreamText(const NLEStreamInfo& stream)
         if (stream.frameRate.num > 0 && stream.frameRate.den > 0)
             parts << MediaReport::tr("%1 fps").arg(
                 RateText(double(stream.frameRate.num) / double(stream.frameRate.den)));
+        if (stream.bitDepth > 0)
+            parts << QStringLiteral("%1 bit").arg(stream.bitDepth);
+        parts << ColoursText(stream) << RangeText(stream);
+        parts.removeAll({});
         break;
     case NLEStream_Audio:
         parts << MediaReport::tr("audio") << CodecText(stream)

@@ -49,7 +49,8 @@ struct PlainDecoder::Private
                                       AV_PIX_FMT_BGRA, SWS_BILINEAR, nullptr, nullptr, nullptr);
         if (isNew) {
             const int* const matrix = sws_getCoefficients(SWS_CS_ITU709);
-            sws_setColorspaceDetails(scaler, matrix, 0, matrix, 1, 0, 1 << 16, 1 << 16);
+            // The brightness makes up for what the quick conversion cuts off.
+            sws_setColorspaceDetails(scaler, matrix, 0, matrix, 1, 192, 1 << 16, 1 << 16);
         }
         std::uint8_t* const planes[4] = {image.bits()};
         const int strides[4] = {image.bytesPerLine()};

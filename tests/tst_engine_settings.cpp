@@ -578,6 +578,8 @@ private slots:
         QTest::newRow("a scale that is no number") << scale << qQNaN();
         QTest::newRow("a colour that is no whole number")
             << QString::fromWCharArray(Key::kContext_BackgroundColor) << 1.0;
+        QTest::newRow("a bit depth that is no whole number")
+            << QString::fromWCharArray(Key::kContext_BitDepth) << 10.0;
         QTest::newRow("a value that is no number") << "mine" << qQNaN();
     }
 

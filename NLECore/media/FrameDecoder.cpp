@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/FrameDecoder.h"
+#include "NLECore/media/ColourConverter_p.h"
 #include "NLECore/media/MediaFile_p.h"
 #include "NLECore/media/PictureScaler_p.h"
 #include "NLECore/media/PictureSource_p.h"
@@ -468,24 +469,28 @@ std::unique_ptr<FrameDecoder> FrameDecoder::Open(std::shared_ptr<const MediaInfo
     return std::unique_ptr<FrameDecoder>(new FrameDecoder(std::move(state)));
 }
 
-QImage FrameDecoder::Picture(int frame, const QSize& size)
+QImage FrameDecoder::Picture(int frame, const QSize& size, PictureDepth depth)
 {
     if (frame < 0 || size.isEmpty())
         return {};
     if (d->source) {
         d->sourceFrame = frame;
-        return d->source->Picture(frame, size);
+        const QImage picture = d->source->Picture(frame, size);
+        return depth == PictureDepth::Deep ? picture.convertToFormat(QImage::Format_RGBA64)
+                                           : picture;
     }
     if (!d->Locate(frame))
         return {};
-    return d->scaler.Convert(*d->current.frame, d->description, size);
+    return d->scaler.Convert(*d->current.frame, d->description, size, depth);
 }
 
 const AVFrame* FrameDecoder::Decoded(int frame)
 {
     const bool isUpright = d->description.rotation == 0 && !d->description.mirrored;
-    return !d->source && isUpright && frame >= 0 && d->Locate(frame) ? d->current.frame.get()
-                                                                     : nullptr;
+    if (d->source || !isUpright || frame < 0 || !d->Locate(frame))
+        return nullptr;
+    const AVFrame* const decoded = d->current.frame.get();
+    return ForeignColoursOf(*decoded, d->description) ? nullptr : decoded;
 }
 
 int FrameDecoder::Position() const

@@ -12,6 +12,13 @@ struct AVFrame;
 
 namespace nle {
 
+/// How finely the colours of a picture are kept.
+enum class PictureDepth : std::int32_t
+{
+    Usual, ///< 8 bits of a component, Format_ARGB32
+    Deep   ///< 16 bits of a component, Format_RGBA64
+};
+
 /// Exact pictures of one video stream of one file.
 ///
 /// Frame N shows the last picture whose time, in frames of the stream's rate and rounded, is not
@@ -30,14 +37,16 @@ public:
     FrameDecoder(const FrameDecoder&) = delete;
     FrameDecoder& operator=(const FrameDecoder&) = delete;
 
-    /// Picture of \a frame (from 0), scaled to \a size without regard to its aspect, upright, as
-    /// Format_ARGB32 with straight alpha. Null for a negative frame, an empty size, past the end
-    /// of the data, and when nothing could be decoded. A still picture is the same for every
-    /// frame. A picture that is damaged in the file leaves the one before it in place.
-    QImage Picture(int frame, const QSize& size);
+    /// Picture of \a frame (from 0), scaled to \a size without regard to its aspect, upright, in
+    /// the colours of a project (ITU-R BT.709) with straight alpha. Null for a negative frame, an
+    /// empty size, past the end of the data, and when nothing could be decoded. A still picture is
+    /// the same for every frame. A picture that is damaged in the file leaves the one before it in
+    /// place.
+    QImage Picture(int frame, const QSize& size, PictureDepth depth = PictureDepth::Usual);
 
     /// The picture of \a frame as it was decoded, valid until the next call; null where Picture
-    /// gives none, when it does not stand upright as it is, and of what is no film.
+    /// gives none, when it does not stand upright as it is or has other colours than a project, and
+    /// of what is no film.
     const AVFrame* Decoded(int frame);
 
     /// Frame number of the picture decoded last; -1 when none was yet.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/MediaInfo.h"
 
+#include "NLECore/media/ColourConverter_p.h"
 #include "NLECore/media/FrameGrid_p.h"
 #include "NLECore/media/JoinedMedia_p.h"
 #include "NLECore/media/MediaFile_p.h"
@@ -174,6 +175,17 @@ bool HasAlpha(const AVStream* stream)
     return format != nullptr && (format->flags & AV_PIX_FMT_FLAG_ALPHA) != 0;
 }
 
+void DescribeColours(const AVStream* stream, MediaStream* result)
+{
+    const AVCodecParameters* const codec = stream->codecpar;
+    result->hasAlpha = HasAlpha(stream);
+    result->colours = {codec->color_primaries, codec->color_trc, codec->color_space,
+                       codec->color_range};
+    if (const AVPixFmtDescriptor* format = av_pix_fmt_desc_get(AVPixelFormat(codec->format)))
+        result->bitDepth = format->comp[0].depth;
+    result->peakLuminance = PeakOf(stream);
+}
+
 void DescribePicture(const MediaFile& file, const AVStream* stream, const QString& path,
                      MediaStream* result)
 {
@@ -195,7 +207,7 @@ void DescribePicture(const MediaFile& file, const AVStream* stream, const QStrin
         std::swap(aspect.num, aspect.den);
     }
     result->sampleAspect = {aspect.num, aspect.den};
-    result->hasAlpha = HasAlpha(stream);
+    DescribeColours(stream, result);
     result->reorderDelay = codec->video_delay;
     const FrameGrid grid = DeclaredGrid(stream);
     result->frameRate = {grid.rate.num, grid.rate.den};

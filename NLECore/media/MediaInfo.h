@@ -12,6 +12,15 @@
 
 namespace nle {
 
+/// How the colours of a picture are coded. Numbers of ITU-T H.273; 2 is what is not told.
+struct ColourTags
+{
+    int primaries = 2;
+    int transfer = 2;
+    int matrix = 2;
+    int range = 0; ///< 1 limited, 2 full, 0 when it is not told
+};
+
 /// One stream of a file. Fields that do not apply to its type keep their presets.
 struct MediaStream
 {
@@ -25,6 +34,11 @@ struct MediaStream
     /// The coded picture is mirrored left to right before it is turned.
     bool mirrored = false;
     bool hasAlpha = false;
+    ColourTags colours;
+    /// Bits of a colour component; 0 when unknown.
+    int bitDepth = 0;
+    /// The brightest that the pictures hold, in cd/m², as the container tells; 0 when it does not.
+    double peakLuminance = 0;
     /// The grid on which no picture is lost.
     NLERational frameRate = {0, 1};
     /// Pictures a second on average; 0/1 when unknown.

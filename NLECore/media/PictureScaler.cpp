@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/PictureScaler_p.h"
 
+#include <QRgba64>
 #include <QTransform>
 
 #include <cstring>
@@ -19,6 +20,13 @@ constexpr int kMaxShrink = 64;
 // The scaler may write up to this many bytes beyond a line whose length is no multiple of it.
 constexpr int kLineAlignment = 64;
 
+// Colour in full resolution, without short cuts.
+constexpr int kFullColour = SWS_FULL_CHR_H_INT | SWS_FULL_CHR_H_INP | SWS_ACCURATE_RND;
+
+// Three quarters of a level of luma, in the scaler's units. The quick conversion cuts off what is
+// below a whole level, several times over. A whole level added beforehand would lift black.
+constexpr int kLostLuma = 192;
+
 int ColourMatrix(const AVFrame& frame)
 {
     switch (ColoursOf(frame)) {
@@ -33,6 +41,44 @@ int ColourMatrix(const AVFrame& frame)
         return SWS_CS_BT2020;
     default:
         return SWS_CS_ITU601;
+    }
+}
+
+bool IsRgb(AVPixelFormat format)
+{
+    const AVPixFmtDescriptor* kind = av_pix_fmt_desc_get(format);
+    return kind && (kind->flags & (AV_PIX_FMT_FLAG_RGB | AV_PIX_FMT_FLAG_PAL)) != 0;
+}
+
+/// A row of components, 16 bits each; alpha of ColourConverter::kBits, or null.
+struct Components
+{
+    std::uint16_t* red;
+    std::uint16_t* green;
+    std::uint16_t* blue;
+    const std::uint16_t* alpha;
+
+    std::uint16_t AlphaAt(int x) const
+    {
+        constexpr std::uint32_t highest = (1 << ColourConverter::kBits) - 1;
+        return alpha ? std::uint16_t((alpha[x] * std::uint32_t(UINT16_MAX) + highest / 2) / highest)
+                     : std::uint16_t(UINT16_MAX);
+    }
+};
+
+void Join(const Components& from, QRgba64* to, int count)
+{
+    for (int x = 0; x < count; ++x)
+        to[x] = qRgba64(from.red[x], from.green[x], from.blue[x], from.AlphaAt(x));
+}
+
+void Join(const Components& from, QRgb* to, int count)
+{
+    // Rounded to the nearest of 256.
+    const auto byte = [](std::uint32_t code) { return (code * 255 + (1 << 15)) >> 16; };
+    for (int x = 0; x < count; ++x) {
+        to[x] = byte(from.AlphaAt(x)) << 24 | byte(from.red[x]) << 16 | byte(from.green[x]) << 8 |
+                byte(from.blue[x]);
     }
 }
 
@@ -90,16 +136,20 @@ PictureScaler::~PictureScaler()
     sws_freeContext(m_context);
 }
 
-QImage PictureScaler::Convert(const AVFrame& frame, const MediaStream& stream, const QSize& size)
+QImage PictureScaler::Convert(const AVFrame& frame, const MediaStream& stream, const QSize& size,
+                              PictureDepth depth)
 {
     const QSize upright = stream.rotation % 180 != 0 ? size.transposed() : size;
     const QSize smallest(frame.width / kMaxShrink, frame.height / kMaxShrink);
-    QImage image = Scale(frame, upright.expandedTo(smallest));
+    const QSize scaled = upright.expandedTo(smallest);
+    const std::optional<ForeignColours> foreign = ForeignColoursOf(frame, stream);
+    QImage image =
+        foreign ? ScaleForeign(frame, scaled, depth, *foreign) : Scale(frame, scaled, depth);
     if (image.isNull())
         return image;
     if (image.size() != upright) {
         image = image.scaled(upright, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                    .convertToFormat(QImage::Format_ARGB32);
+                    .convertToFormat(image.format());
     }
     if (stream.mirrored)
         image = image.mirrored(true, false);
@@ -108,46 +158,47 @@ QImage PictureScaler::Convert(const AVFrame& frame, const MediaStream& stream, c
     return image;
 }
 
-bool PictureScaler::Prepare(const AVFrame& frame, const QSize& size)
+bool PictureScaler::Prepare(const AVFrame& frame, const QSize& size, AVPixelFormat target)
 {
     bool isFullRange = frame.color_range == AVCOL_RANGE_JPEG;
     const AVPixelFormat format = ModernFormat(AVPixelFormat(frame.format), &isFullRange);
     const bool isShrinking = size.width() <= frame.width && size.height() <= frame.height;
-    const int flags = isShrinking ? SWS_BILINEAR : SWS_BICUBIC;
-    m_context =
-        sws_getCachedContext(m_context, frame.width, frame.height, format, size.width(),
-                             size.height(), AV_PIX_FMT_BGRA, flags, nullptr, nullptr, nullptr);
+    const bool isQuick = target == AV_PIX_FMT_BGRA;
+    const int flags = (isShrinking ? SWS_BILINEAR : SWS_BICUBIC) | (isQuick ? 0 : kFullColour);
+    m_context = sws_getCachedContext(m_context, frame.width, frame.height, format, size.width(),
+                                     size.height(), target, flags, nullptr, nullptr, nullptr);
     if (m_context == nullptr)
         return false;
-    SetColours(frame, isFullRange);
+    SetColours(frame, isFullRange, isQuick && !IsRgb(format) ? kLostLuma : 0);
     return true;
 }
 
-void PictureScaler::SetColours(const AVFrame& frame, bool isFullRange)
+void PictureScaler::SetColours(const AVFrame& frame, bool isFullRange, int brightness)
 {
     const int* const wanted = sws_getCoefficients(ColourMatrix(frame));
     int* source = nullptr;
     int* target = nullptr;
     int sourceRange = 0;
     int targetRange = 0;
-    int brightness = 0;
+    int formerBrightness = 0;
     int contrast = 0;
     int saturation = 0;
     if (sws_getColorspaceDetails(m_context, &source, &sourceRange, &target, &targetRange,
-                                 &brightness, &contrast, &saturation) < 0)
+                                 &formerBrightness, &contrast, &saturation) < 0)
         return;
-    const bool isSame =
-        sourceRange == int(isFullRange) && std::memcmp(source, wanted, 4 * sizeof(int)) == 0;
+    const bool isSame = sourceRange == int(isFullRange) && formerBrightness == brightness &&
+                        std::memcmp(source, wanted, 4 * sizeof(int)) == 0;
     if (!isSame) {
         sws_setColorspaceDetails(m_context, wanted, isFullRange ? 1 : 0, wanted, targetRange,
                                  brightness, contrast, saturation);
     }
 }
 
-QImage PictureScaler::Scale(const AVFrame& frame, const QSize& size)
+QImage PictureScaler::Scale(const AVFrame& frame, const QSize& size, PictureDepth depth)
 {
-    QImage image(size, QImage::Format_ARGB32);
-    if (image.isNull() || !Prepare(frame, size))
+    const bool isDeep = depth == PictureDepth::Deep;
+    QImage image(size, isDeep ? QImage::Format_RGBA64 : QImage::Format_ARGB32);
+    if (image.isNull() || !Prepare(frame, size, isDeep ? AV_PIX_FMT_RGBA64 : AV_PIX_FMT_BGRA))
         return {};
     const int lineBytes = image.bytesPerLine();
     const bool isAligned = lineBytes % kLineAlignment == 0;
@@ -161,6 +212,57 @@ QImage PictureScaler::Scale(const AVFrame& frame, const QSize& size)
         return {};
     for (int y = 0; !isAligned && y < size.height(); ++y)
         std::memcpy(image.scanLine(y), pixels + size_t(y) * size_t(stride), size_t(lineBytes));
+    return image;
+}
+
+bool PictureScaler::ScaleApart(const AVFrame& frame, const QSize& size)
+{
+    static_assert(ColourConverter::kBits == 12);
+    const AVPixFmtDescriptor* kind = av_pix_fmt_desc_get(AVPixelFormat(frame.format));
+    const bool hasAlpha = kind && (kind->flags & AV_PIX_FMT_FLAG_ALPHA) != 0;
+    const AVPixelFormat format = hasAlpha ? AV_PIX_FMT_GBRAP12 : AV_PIX_FMT_GBRP12;
+    const bool isFit = m_apart && m_apart->format == format && m_apart->width == size.width() &&
+                       m_apart->height == size.height();
+    if (!isFit) {
+        m_apart.reset(av_frame_alloc());
+        if (!m_apart)
+            return false;
+        m_apart->format = format;
+        m_apart->width = size.width();
+        m_apart->height = size.height();
+        if (av_frame_get_buffer(m_apart.get(), kLineAlignment) < 0) {
+            m_apart.reset();
+            return false;
+        }
+    }
+    return Prepare(frame, size, format) &&
+           sws_scale(m_context, frame.data, frame.linesize, 0, frame.height, m_apart->data,
+                     m_apart->linesize) > 0;
+}
+
+QImage PictureScaler::ScaleForeign(const AVFrame& frame, const QSize& size, PictureDepth depth,
+                                   const ForeignColours& colours)
+{
+    const bool isDeep = depth == PictureDepth::Deep;
+    QImage image(size, isDeep ? QImage::Format_RGBA64 : QImage::Format_ARGB32);
+    if (image.isNull() || !ScaleApart(frame, size))
+        return {};
+    if (!m_converter || !(m_converter->Colours() == colours))
+        m_converter = std::make_unique<ColourConverter>(colours);
+    const auto row = [this](int plane, int y) {
+        std::uint8_t* const data = m_apart->data[plane];
+        return data ? reinterpret_cast<std::uint16_t*>(data + y * m_apart->linesize[plane])
+                    : nullptr;
+    };
+    for (int y = 0; y < size.height(); ++y) {
+        // The library's order of planes is green, blue, red, alpha.
+        const Components from = {row(2, y), row(0, y), row(1, y), row(3, y)};
+        m_converter->Convert(from.red, from.green, from.blue, size.width());
+        if (isDeep)
+            Join(from, reinterpret_cast<QRgba64*>(image.scanLine(y)), size.width());
+        else
+            Join(from, reinterpret_cast<QRgb*>(image.scanLine(y)), size.width());
+    }
     return image;
 }
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "NLECore/media/MediaFile_p.h"
+#include "NLECore/media/ColourConverter_p.h"
+#include "NLECore/media/FrameDecoder.h"
 
 #include <QImage>
 #include <QSize>
@@ -29,17 +30,24 @@ public:
     PictureScaler(const PictureScaler&) = delete;
     PictureScaler& operator=(const PictureScaler&) = delete;
 
-    /// \a frame mirrored and turned as \a stream says and scaled to \a size, as Format_ARGB32;
-    /// null when there is no conversion or no memory for it.
-    QImage Convert(const AVFrame& frame, const MediaStream& stream, const QSize& size);
+    /// \a frame mirrored and turned as \a stream says and scaled to \a size, in the colours of a
+    /// project; null when there is no conversion or no memory for it.
+    QImage Convert(const AVFrame& frame, const MediaStream& stream, const QSize& size,
+                   PictureDepth depth = PictureDepth::Usual);
 
 private:
-    bool Prepare(const AVFrame& frame, const QSize& size);
-    void SetColours(const AVFrame& frame, bool isFullRange);
-    QImage Scale(const AVFrame& frame, const QSize& size);
+    bool Prepare(const AVFrame& frame, const QSize& size, AVPixelFormat target);
+    void SetColours(const AVFrame& frame, bool isFullRange, int brightness);
+    QImage Scale(const AVFrame& frame, const QSize& size, PictureDepth depth);
+    QImage ScaleForeign(const AVFrame& frame, const QSize& size, PictureDepth depth,
+                        const ForeignColours& colours);
+    /// Components apart, as the converter takes them.
+    bool ScaleApart(const AVFrame& frame, const QSize& size);
 
     SwsContext* m_context = nullptr;
     std::vector<std::uint8_t> m_scratch;
+    FramePtr m_apart;
+    std::unique_ptr<const ColourConverter> m_converter;
 };
 
 } // namespace nle

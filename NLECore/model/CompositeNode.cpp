@@ -35,13 +35,16 @@ bool IsContextValue(const std::wstring& key, const PropertyBag::Value& value)
 {
     constexpr double smallestScale = 0.05;
     const double* number = std::get_if<double>(&value);
+    const int* whole = std::get_if<int>(&value);
     if (number && !std::isfinite(*number))
         return false;
     if (key == NLEKey::Context::kContext_PreviewScale)
         return number && *number >= smallestScale && *number <= 1;
+    if (key == NLEKey::Context::kContext_BitDepth)
+        return whole && (*whole == kUsualDepth || *whole == kDeepDepth);
     return (key != NLEKey::Context::kContext_BackgroundColor &&
             key != NLEKey::Context::kContext_SmoothScaling) ||
-           std::holds_alternative<int>(value);
+           whole;
 }
 
 /// Writes a value into a bag of any engine.
@@ -263,6 +266,7 @@ ProjectNode::ProjectNode(const tagNLEProjectProfile& profile)
     : ComExtension(profile.frameRate)
     , m_profile(profile)
     , m_context{{NLEKey::Context::kContext_BackgroundColor, int(0xFF000000u)},
+                {NLEKey::Context::kContext_BitDepth, kUsualDepth},
                 {NLEKey::Context::kContext_PreviewScale, 1.0},
                 {NLEKey::Context::kContext_SmoothScaling, 1}}
 {
@@ -327,7 +331,8 @@ HRESULT ProjectNode::TakeContext(const PropertyBag::Values& values)
 std::optional<RenderContext> ProjectNode::OwnContext() const
 {
     return RenderContext{std::get<double>(m_context.at(NLEKey::Context::kContext_PreviewScale)),
-                         std::get<int>(m_context.at(NLEKey::Context::kContext_SmoothScaling)) != 0};
+                         std::get<int>(m_context.at(NLEKey::Context::kContext_SmoothScaling)) != 0,
+                         std::get<int>(m_context.at(NLEKey::Context::kContext_BitDepth))};
 }
 
 std::uint32_t ProjectNode::DefaultBackground() const

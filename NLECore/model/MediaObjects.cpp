@@ -28,6 +28,13 @@ NLEStreamInfo ToEngine(const MediaStream& stream)
     info.fourCC = stream.fourcc;
     info.bitRate = stream.bitRate;
     info.duration = stream.durationUs;
+    if (stream.type == NLEStream_Video) {
+        info.transfer = stream.colours.transfer;
+        info.primaries = stream.colours.primaries;
+        info.matrix = stream.colours.matrix;
+        info.colorRange = stream.colours.range;
+        info.bitDepth = stream.bitDepth;
+    }
     stream.codecName.copy(info.codecName, sizeof(info.codecName) - 1);
     return info;
 }

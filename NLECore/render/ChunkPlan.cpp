@@ -12,7 +12,7 @@ namespace nle {
 namespace {
 
 /// Number of the way in which pictures are rendered and kept; another one makes all keys new.
-constexpr int kRenderVersion = 2;
+constexpr int kRenderVersion = 3;
 /// Quality, in thousandths, from which on colour keeps its full resolution.
 constexpr int kFineQuality = 950;
 

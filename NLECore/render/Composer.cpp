@@ -19,6 +19,8 @@ namespace {
 constexpr int kLongestSide = 8192;
 /// A place or a side beyond it shows the same as one at it, and whole numbers do not overflow.
 constexpr double kFarthestPixel = 1e6;
+/// Bits of a pixel of four components in 16 bits.
+constexpr int kDeepPixel = 64;
 /// Height of a line of text, as a share of the picture's height.
 constexpr double kTextHeight = 1.0 / 12;
 
@@ -27,16 +29,23 @@ QSizeF Scaled(NLESize size, double scale)
     return QSizeF(size.width * scale, size.height * scale);
 }
 
-QImage ColorPicture(std::uint32_t argb, const QSize& size)
+/// What layers are drawn on.
+QImage::Format CanvasFormat(const Layer& root)
 {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    return IsDeep(root.context) ? QImage::Format_RGBA64_Premultiplied
+                                : QImage::Format_ARGB32_Premultiplied;
+}
+
+QImage ColorPicture(std::uint32_t argb, const QSize& size, QImage::Format format)
+{
+    QImage image(size, format);
     image.fill(QColor::fromRgba(argb));
     return image;
 }
 
-QImage TextPicture(const Layer& layer, const QSize& size)
+QImage TextPicture(const Layer& layer, const QSize& size, QImage::Format format)
 {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    QImage image(size, format);
     image.fill(Qt::transparent);
     // Fonts belong to the GUI application; without one there is nothing to draw with.
     if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
@@ -131,7 +140,8 @@ void Draw(QPainter& painter, const QImage& picture, const Placing& placing)
 /// Without alpha the painter can copy instead of blending.
 QImage AsOpaque(QImage image)
 {
-    image.reinterpretAsFormat(QImage::Format_RGB32);
+    image.reinterpretAsFormat(image.depth() == kDeepPixel ? QImage::Format_RGBX64
+                                                          : QImage::Format_RGB32);
     return image;
 }
 
@@ -218,9 +228,9 @@ QImage Composer::Content(const Layer& layer, std::int64_t frame, const QSize& si
     case LayerKind::Media:
         return MediaPicture(layer, frame, size);
     case LayerKind::Color:
-        return ColorPicture(layer.argb, size);
+        return ColorPicture(layer.argb, size, CanvasFormat(*m_root));
     case LayerKind::Text:
-        return TextPicture(layer, size);
+        return TextPicture(layer, size, CanvasFormat(*m_root));
     case LayerKind::Composite:
         return Composite(layer, frame, size);
     }
@@ -247,7 +257,8 @@ QImage Composer::MediaPicture(const Layer& layer, std::int64_t frame, const QSiz
 {
     int wanted = 0;
     FrameDecoder* decoder = DecoderOf(layer, frame, &wanted);
-    const QImage image = decoder ? decoder->Picture(wanted, size) : QImage();
+    const PictureDepth depth = IsDeep(m_root->context) ? PictureDepth::Deep : PictureDepth::Usual;
+    const QImage image = decoder ? decoder->Picture(wanted, size, depth) : QImage();
     const bool hasAlpha = decoder && decoder->Info()->Stream(decoder->StreamIndex())->hasAlpha;
     return hasAlpha || image.isNull() ? image : AsOpaque(image);
 }
@@ -309,9 +320,9 @@ QImage Composer::Composite(const Layer& layer, std::int64_t frame, const QSize& 
     if (bottom)
         canvas = MediaPicture(*bottom, bottom->FrameAt(frame), size);
     if (canvas.isNull())
-        canvas = ColorPicture(layer.argb, size);
+        canvas = ColorPicture(layer.argb, size, CanvasFormat(*m_root));
     else
-        canvas.reinterpretAsFormat(QImage::Format_ARGB32_Premultiplied);
+        canvas.reinterpretAsFormat(CanvasFormat(*m_root));
     QPainter painter(&canvas);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, m_root->context.smooth);
     for (const Snapshot& child : layer.children) {

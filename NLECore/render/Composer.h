@@ -41,7 +41,8 @@ public:
 
     /// The picture of the root's frame \a frame, counted from its frame 0 and not from its in
     /// point, fitted into \a frameSize. \a place receives where in the frame it lies. Null when the
-    /// root has no picture or its media cannot be decoded.
+    /// root has no picture or its media cannot be decoded. A picture has 64 bits a pixel where the
+    /// root's context asks for more than 8 of a component, else 32.
     QImage Render(std::int64_t frame, const QSize& frameSize, QRect* place);
 
     /// The decoded picture that alone makes up what Render would draw, as far as it needs nothing

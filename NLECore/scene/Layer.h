@@ -28,12 +28,22 @@ struct RenderContext
 {
     double previewScale = 1; ///< share of the wanted size that pictures are drawn at, up to 1
     bool smooth = true;      ///< whether scaled and turned pictures are smoothed
+    int bitDepth = 8;        ///< of a colour component that is drawn, 8 or 10
 };
 template <>
 inline constexpr auto
     kFields<RenderContext> = std::tuple(Field{&RenderContext::previewScale, nullptr, Shows::kYes},
-                                        Field{&RenderContext::smooth, nullptr, Shows::kYes});
+                                        Field{&RenderContext::smooth, nullptr, Shows::kYes},
+                                        Field{&RenderContext::bitDepth, nullptr, Shows::kYes});
 static_assert(kListsAllFields<RenderContext>);
+
+constexpr int kUsualDepth = 8;
+constexpr int kDeepDepth = 10;
+/// Whether components are drawn with more than 8 bits.
+constexpr bool IsDeep(const RenderContext& context)
+{
+    return context.bitDepth > kUsualDepth;
+}
 
 /// Immutable picture of one node and what it holds: all that a render needs, without the model.
 ///

@@ -3,6 +3,7 @@
 
 #include "EngineApi/INLEBackgroundCache.h"
 #include "EngineApi/INLEStreamProcess.h"
+#include "EngineApi/INLETransform.h"
 #include "tests/support/EngineFixture.h"
 
 #include <mutex>
