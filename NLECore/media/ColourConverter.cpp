@@ -180,7 +180,9 @@ std::optional<ForeignColours> ForeignColoursOf(const AVFrame& frame, const Media
     const auto transfer = frame.color_trc != AVCOL_TRC_UNSPECIFIED
                               ? frame.color_trc
                               : AVColorTransferCharacteristic(stream.colours.transfer);
-    if (!IsWide(primaries) && !IsHighRange(transfer))
+    // An embedded profile goes before numbers; it is applied to the whole picture.
+    const bool hasProfile = av_frame_get_side_data(&frame, AV_FRAME_DATA_ICC_PROFILE) != nullptr;
+    if (hasProfile || (!IsWide(primaries) && !IsHighRange(transfer)))
         return {};
     ForeignColours result = {AVCOL_PRI_BT709, AVCOL_TRC_BT709, kUsualPeak};
     if (IsWide(primaries))
