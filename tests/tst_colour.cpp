@@ -302,6 +302,52 @@ private Q_SLOTS:
         QCOMPARE(Encode(Trimmed(Colour(Qt::red), 0, 9), path), QString());
         QCOMPARE(TagsOf(StreamOf(EngineFixture::Media(path))), tags);
     }
+
+    /// Levels of a gradient in a file that a project has written.
+    void projectKeepsItsDepth_data()
+    {
+        QTest::addColumn<int>("depth");
+        QTest::addColumn<bool>("isDrawn");
+        QTest::newRow("8 bits") << 8 << true;
+        QTest::newRow("10 bits, drawn") << 10 << true;
+        QTest::newRow("10 bits, the clip alone") << 10 << false;
+    }
+
+    void projectKeepsItsDepth()
+    {
+        QFETCH(const int, depth);
+        QFETCH(const bool, isDrawn);
+        constexpr QSize size(1024, 64);
+        const QString path = Path("gradient.mkv");
+        QCOMPARE(Make(path, RawInput(size), "scale=out_color_matrix=bt709,format=yuv420p10le",
+                      Tags("bt709", "bt709", "bt709"),
+                      Raw(size,
+                          [](int x) {
+                              const auto grey = quint16(x * 64);
+                              return qRgba64(grey, grey, grey, UINT16_MAX);
+                          })),
+                 QString());
+        tagNLEProjectProfile profile = kSmall;
+        profile.frameSize = {size.width(), size.height()};
+        const Node project = provider->CreateProjectTimeline(profile);
+        QVERIFY(Context(project).SetIntValue(NLEKey::Context::kContext_BitDepth, depth));
+        Add(project, EngineFixture::Media(path));
+        if (isDrawn)
+            Add(project, Trimmed(Colour(QColor(255, 0, 0, 128), QSize(8, 8)), 0, 9), 0, 1);
+        const QString written = Path("written.mkv");
+        const QString raw = Path("written.raw");
+        QCOMPARE(Encode(project, written), QString());
+        QCOMPARE(StreamOf(EngineFixture::Media(written)).bitDepth, depth);
+        QCOMPARE(RunFfmpeg({"-i", written, "-vf", "extractplanes=y", "-frames:v", "1", "-pix_fmt",
+                            "gray10le", "-f", "rawvideo", raw}),
+                 QString());
+        const QByteArray codes = Contents(raw);
+        QCOMPARE(codes.size(), size.width() * size.height() * 2);
+        std::set<QByteArray> levels;
+        for (int x = 0; x < size.width(); ++x)
+            levels.insert(codes.mid(2 * (size.width() * (size.height() - 8) + x), 2));
+        QVERIFY2((levels.size() > 400) == (depth > 8), qPrintable(QString::number(levels.size())));
+    }
 };
 
 QTEST_MAIN(tst_Colour)

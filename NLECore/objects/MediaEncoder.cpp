@@ -51,13 +51,14 @@ HRESULT ResultOf(WriterError::Kind kind)
     return E_INVALIDARG;
 }
 
-/// A file is written at its full size, however small the preview is. Where it keeps what is
-/// transparent, nothing shows where no clip does.
-Snapshot ForFile(const Snapshot& root, bool keepsAlpha)
+/// A file is written at its full size, however small the preview is, and drawn as deep as it holds.
+/// Where it keeps what is transparent, nothing shows where no clip does.
+Snapshot ForFile(const Snapshot& root, const EncodeOptions& settled)
 {
     auto copy = std::make_shared<Layer>(*root);
     copy->context.previewScale = 1;
-    if (keepsAlpha && copy->kind == LayerKind::Composite)
+    copy->context.bitDepth = settled.bitDepth > kUsualDepth ? kDeepDepth : kUsualDepth;
+    if (settled.alpha != 0 && copy->kind == LayerKind::Composite)
         copy->argb = 0;
     return copy;
 }
@@ -77,13 +78,28 @@ HRESULT MediaEncoder::Open(INLETimeline* timeline, const wchar_t* path,
         if (!TakeSettings(*node, *root, settings ? *settings : NLEEncodeSettings{}))
             return E_INVALIDARG;
         WriterError error;
-        if (!MediaWriter::Try(m_path, m_settings, &error)) {
+        if (!TryDeep(root->context) && !MediaWriter::Try(m_path, m_settings, &error)) {
             Warn(error.text);
             return ResultOf(error.kind);
         }
-        m_root = ForFile(root, m_settings.settled.alpha != 0);
+        m_root = ForFile(root, m_settings.settled);
         return S_OK;
     });
+}
+
+bool MediaEncoder::TryDeep(const RenderContext& context)
+{
+    const bool isHostsChoice =
+        m_options.bitDepth != 0 || !m_options.pixelFormat.empty() || !m_options.profile.empty();
+    if (!IsDeep(context) || isHostsChoice)
+        return false;
+    WriterSettings deep = m_settings;
+    deep.options.bitDepth = kDeepDepth;
+    WriterError error;
+    if (!MediaWriter::Try(m_path, deep, &error))
+        return false;
+    m_settings = deep;
+    return true;
 }
 
 bool MediaEncoder::TakeSettings(const TimelineNode& node, const Layer& root,

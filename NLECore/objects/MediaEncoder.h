@@ -24,6 +24,9 @@ public:
 private:
     /// False for what no file can hold.
     bool TakeSettings(const TimelineNode& node, const Layer& root, const NLEEncodeSettings& wanted);
+    /// Whether the file can be written as deep as its project is drawn; settles on it then. What
+    /// the host has chosen goes first.
+    bool TryDeep(const RenderContext& context);
     /// Logs why the file is not written.
     void Warn(const QString& reason) const;
 

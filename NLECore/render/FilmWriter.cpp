@@ -168,7 +168,8 @@ private:
         QImage picture = m_composer.Render(shown, m_size, &place);
         if (picture.size() == m_size)
             return picture;
-        QImage frame(m_size, QImage::Format_ARGB32_Premultiplied);
+        QImage frame(m_size, IsDeep(m_plan.root->context) ? QImage::Format_RGBA64_Premultiplied
+                                                          : QImage::Format_ARGB32_Premultiplied);
         frame.fill(Qt::transparent);
         if (!picture.isNull())
             QPainter(&frame).drawImage(place.topLeft(), picture);
