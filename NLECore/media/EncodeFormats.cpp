@@ -282,7 +282,7 @@ std::vector<std::string> ContainerFormat::SampleFormats(const CodecFormat& codec
 
 const std::vector<ContainerFormat>& Containers()
 {
-    static const std::vector<ContainerFormat> s_containers = [] {
+    static const std::vector<ContainerFormat> containers = [] {
         std::vector<ContainerFormat> found;
         std::copy_if(std::begin(kContainers), std::end(kContainers), std::back_inserter(found),
                      [](const ContainerFormat& container) {
@@ -292,7 +292,7 @@ const std::vector<ContainerFormat>& Containers()
                      });
         return found;
     }();
-    return s_containers;
+    return containers;
 }
 
 const ContainerFormat* FindContainer(const std::string& name)
@@ -383,7 +383,7 @@ const std::vector<EncodePreset>& EncodePresets()
             options.sampleFormat = format;
         });
     };
-    static const std::vector<EncodePreset> s_presets = {
+    static const std::vector<EncodePreset> presets = {
         {"H.264", Film("mp4", "h264", "aac")},
         {"H.264 for archives", Changed(Film("mp4", "h264", "aac"),
                                        [](EncodeOptions& options) {
@@ -438,7 +438,7 @@ const std::vector<EncodePreset>& EncodePresets()
         {"WAV 24 bits", sound("wav", "pcm", 0, "s24")},
         {"FLAC", sound("flac", "flac", 0, "s24")},
     };
-    return s_presets;
+    return presets;
 }
 
 } // namespace nle

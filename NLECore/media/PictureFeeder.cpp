@@ -253,7 +253,7 @@ AVFrame* PictureFeeder::Feed(const QImage& picture)
         std::uint8_t* planes[AV_NUM_DATA_POINTERS] = {};
         int strides[AV_NUM_DATA_POINTERS] = {};
         for (int plane = 0; plane < AV_NUM_DATA_POINTERS && frame->data[plane]; ++plane) {
-            planes[plane] = frame->data[plane] + field * frame->linesize[plane];
+            planes[plane] = frame->data[plane] + std::ptrdiff_t(field) * frame->linesize[plane];
             strides[plane] = frame->linesize[plane] * fields;
         }
         if (sws_scale(m_imageScaler.get(), rows, rowStrides, 0, lines, planes, strides) <= 0)
