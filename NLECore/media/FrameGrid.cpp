@@ -26,11 +26,6 @@ constexpr double kMeanTolerance = 0.02;
 // Share of a frame by which a picture may stand beside the grid, besides the clock's own steps.
 constexpr double kGridTolerance = 0.1;
 
-bool IsValid(AVRational value)
-{
-    return value.num > 0 && value.den > 0;
-}
-
 const AVRational* StandardRate(AVRational rate)
 {
     for (const AVRational& standard : kStandardRates) {
@@ -128,14 +123,12 @@ bool HasHoles(const AVStream* stream, AVRational rate)
     return IsValid(mean) && std::abs(av_q2d(rate) / av_q2d(mean) - 1.0) >= kMeanTolerance;
 }
 
-bool IsDoubtful(const AVStream* stream, const FrameGrid& declared)
+bool HasDoubtfulGrid(const AVStream* stream)
 {
-    const AVRational mean = stream->avg_frame_rate;
-    if (!IsValid(mean))
-        return false;
-    const bool isMean = std::abs(av_q2d(declared.rate) / av_q2d(mean) - 1.0) < kMeanTolerance;
-    return !declared.isConstant || !isMean ||
-           (StandardRate(declared.rate) == nullptr && !IsHalfWhole(declared.rate));
+    const FrameGrid declared = DeclaredGrid(stream);
+    return IsValid(stream->avg_frame_rate) &&
+           (!declared.isConstant || HasHoles(stream, declared.rate) ||
+            (StandardRate(declared.rate) == nullptr && !IsHalfWhole(declared.rate)));
 }
 
 FrameGrid FindGrid(const AVStream* stream, std::vector<std::int64_t> times)

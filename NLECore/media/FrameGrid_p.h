@@ -10,6 +10,12 @@ extern "C" {
 
 namespace nle {
 
+/// Neither unknown nor negative.
+inline bool IsValid(AVRational value)
+{
+    return value.num > 0 && value.den > 0;
+}
+
 /// Rate at which the pictures of a stream are numbered.
 struct FrameGrid
 {
@@ -26,7 +32,7 @@ bool HasHoles(const AVStream* stream, AVRational rate);
 
 /// Whether the pictures may stand on another grid than the declared one: their mean rate differs,
 /// or is none that anybody records at.
-bool IsDoubtful(const AVStream* stream, const FrameGrid& declared);
+bool HasDoubtfulGrid(const AVStream* stream);
 
 /// The rate at which the \a times of the pictures, in ticks of the stream, are whole frames: the
 /// one that libavformat found, the mean, or a usual one. Where none fits, the lowest usual rate at

@@ -42,11 +42,6 @@ struct Orientation
     bool mirrored = false;
 };
 
-bool IsValid(AVRational value)
-{
-    return value.num > 0 && value.den > 0;
-}
-
 // Quarter turns and mirrors of the matrix that maps coded to displayed positions.
 Orientation ReadDisplayMatrix(const AVStream* stream)
 {
@@ -106,7 +101,7 @@ bool HoldsOnePicture(MediaFile& file)
         av_packet_unref(packet.get());
         ++pictures;
     }
-    av_seek_frame(context, -1, 0, AVSEEK_FLAG_BACKWARD);
+    file.SeekToStart(0, 0);
     return pictures < 2;
 }
 
@@ -405,7 +400,7 @@ std::vector<std::int64_t> PictureTimes(MediaFile& file, AVStream* stream, bool* 
             times.push_back(avformat_index_get_entry(stream, entry)->timestamp);
         return times;
     }
-    av_seek_frame(file.Context(), -1, 0, AVSEEK_FLAG_BACKWARD);
+    file.SeekToStart(stream->index, StartTicks(stream));
     const PacketPtr packet(av_packet_alloc());
     file.LimitTime();
     while (times.size() < kMaxPicturesRead && av_read_frame(file.Context(), packet.get()) >= 0) {
@@ -420,7 +415,7 @@ std::vector<std::int64_t> PictureTimes(MediaFile& file, AVStream* stream, bool* 
 // A mean rate, or that of the first pictures, would lose pictures where they come closer together.
 void ExamineRate(MediaFile& file, AVStream* stream, MediaStream* description)
 {
-    if (!IsDoubtful(stream, DeclaredGrid(stream)))
+    if (!HasDoubtfulGrid(stream))
         return;
     bool areAll = false;
     const std::vector<std::int64_t> times = PictureTimes(file, stream, &areAll);
