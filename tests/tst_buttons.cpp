@@ -108,9 +108,6 @@ struct Tab : ImageTextButton2
 
 } // namespace
 
-Q_DECLARE_METATYPE(DeletedInSlot::Make)
-Q_DECLARE_METATYPE(DeletedInSlot::Steps)
-
 class TestButtons : public QObject
 {
     Q_OBJECT

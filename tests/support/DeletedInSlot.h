@@ -117,3 +117,21 @@ inline QString InEachSlot(const Make& make, const Steps& steps, bool later)
 }
 
 } // namespace DeletedInSlot
+
+Q_DECLARE_METATYPE(DeletedInSlot::Make)
+Q_DECLARE_METATYPE(DeletedInSlot::Steps)
+
+namespace DeletedInSlot {
+
+/// The test of a row with the columns "make", "steps" and "deletedIn", the slots apart from after
+/// each step.
+inline void CheckRow()
+{
+    QFETCH(const Make, make);
+    QFETCH(const Steps, steps);
+    QFETCH(const QString, deletedIn);
+    for (const bool later : {false, true})
+        QCOMPARE(InEachSlot(make, steps, later), deletedIn);
+}
+
+} // namespace DeletedInSlot
