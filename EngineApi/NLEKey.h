@@ -15,6 +15,11 @@ inline constexpr const wchar_t* kRender_BackgroundColor = L"kRender_BackgroundCo
 inline constexpr const wchar_t* kRender_Mode = L"kRender_Mode";
 } // namespace Render
 
+namespace Timeline {
+/// Text: the name under which a host knows the timeline, also when it is loaded again.
+inline constexpr const wchar_t* kGuid = L"Key_TimelineGuid";
+} // namespace Timeline
+
 namespace Speed {
 /// Rational: playing speed, 1 normal, 2 twice as fast.
 inline constexpr const wchar_t* kScale = L"kSpeed_Scale";

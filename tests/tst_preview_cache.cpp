@@ -343,6 +343,40 @@ private slots:
         QCOMPARE(Files(m_folder, "*.nlechunk"), QStringList());
     }
 
+    void namedTimelineDeletesItsEarlierVersions()
+    {
+        const auto named = [this](const wchar_t* guid) {
+            Node project = LongProject(2);
+            BagOf(project)->SetString(NLEKey::Timeline::kGuid, guid);
+            return project;
+        };
+        const Node other = named(L"other");
+        ClipAt(other, 0).query<INLEBlendSetting>()->SetAlpha(99);
+        Cache otherCache(other, m_folder);
+        QCOMPARE(otherCache.Render(), NLECache_Finished);
+        const QStringList others = Files(m_folder, "*.nlechunk");
+        {
+            const Node earlier = named(L"first");
+            ClipAt(earlier, 1).query<INLEBlendSetting>()->SetAlpha(50);
+            Cache cache(earlier, m_folder);
+            QCOMPARE(cache.Start({480, 270}), S_OK);
+            QCOMPARE(cache.End(), NLECache_Finished);
+        }
+        QVERIFY(Files(m_folder, "*.nlechunk").size() > others.size());
+        const Node loaded = named(L"first");
+        QCOMPARE(Cache(loaded, m_folder).engine->DeleteCache(false), S_OK);
+        QCOMPARE(Files(m_folder, "*.nlechunk"), others);
+    }
+
+    void folderGoesWithItsLastChunk()
+    {
+        const Node project = LongProject(1);
+        Cache(project, m_folder).Render();
+        const Node loaded = LongProject(1);
+        QCOMPARE(Cache(loaded, m_folder).engine->DeleteCache(false), S_OK);
+        QVERIFY(!QFileInfo::exists(m_folder));
+    }
+
     void emptyFolderGoesWithTheCache()
     {
         // Whoever has made it, as it was empty.
@@ -370,6 +404,7 @@ private slots:
         QCOMPARE(cache.Needed(), Frames());
         const QStringList names = Files(m_folder, "*.nlechunk");
         QVERIFY(QFile::remove(m_folder + '/' + names[0]));
+        QVERIFY(cache.Stat().second.size() > 0); // as a host sees it that asks for nothing else
         const long needed = CountOf(cache.Needed());
         QVERIFY(needed > 0 && needed < 2L * kMediaFrames);
         QCOMPARE(cache.Render(), NLECache_Finished);

@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr const wchar_t* kTimelineGuid = L"Key_TimelineGuid";
 constexpr const wchar_t* kAncestralGuid = L"Key_AncestralGuid";
 constexpr double kRenderScaleUnits = 100000000;
 
@@ -50,12 +49,13 @@ void WriteProfile(INLEProjectSetting* setting, Field tagNLEProjectProfile::*fiel
 
 void NLETimeline::SetTimelineGuid(const QString& guid)
 {
-    EngineSet(m_properties.get(), &INLEProperties::SetString, kTimelineGuid, ToWide(guid).c_str());
+    EngineSet(m_properties.get(), &INLEProperties::SetString, NLEKey::Timeline::kGuid,
+              ToWide(guid).c_str());
 }
 
 QString NLETimeline::GetTimelineGuid() const
 {
-    return ReadGuid(m_properties.get(), kTimelineGuid);
+    return ReadGuid(m_properties.get(), NLEKey::Timeline::kGuid);
 }
 
 void NLETimeline::SetAncestralGuid(const QString& guid)

@@ -253,6 +253,7 @@ void CompositeNode::Describe(Layer& layer) const
 {
     layer.kind = LayerKind::Composite;
     layer.argb = Background();
+    layer.guid = Bag().TextOrEmpty(NLEKey::Timeline::kGuid);
     layer.mixer = Mixer().settings;
     for (const NLEComPtr<TimelineNode>& clip : m_clips) {
         if (clip->IsEnabled())

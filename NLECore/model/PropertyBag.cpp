@@ -99,6 +99,13 @@ int PropertyBag::IntOr(const wchar_t* key, int preset) const
     return number ? *number : preset;
 }
 
+QString PropertyBag::TextOrEmpty(const wchar_t* key) const
+{
+    const auto found = Find(key);
+    const Text* text = found ? std::get_if<Text>(&*found) : nullptr;
+    return text ? QString::fromStdWString(**text) : QString();
+}
+
 std::optional<PropertyBag::Value> PropertyBag::Read(const std::wstring& key) const
 {
     const auto found = m_values.find(key);

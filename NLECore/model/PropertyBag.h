@@ -4,6 +4,8 @@
 #include "Com/ComObject.h"
 #include "EngineApi/INLEProperties.h"
 
+#include <QString>
+
 #include <map>
 #include <memory>
 #include <optional>
@@ -48,6 +50,8 @@ public:
     void SetAll(const Values& values) { m_values = values; }
     /// The integer under \a key, or \a preset.
     int IntOr(const wchar_t* key, int preset) const;
+    /// The text under \a key; empty when there is none.
+    QString TextOrEmpty(const wchar_t* key) const;
 
 protected:
     /// Value under \a key, if there is one.

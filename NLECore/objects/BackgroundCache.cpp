@@ -14,16 +14,19 @@ constexpr std::int64_t kMebibyte = 1 << 20;
 /// A limit beyond it is none.
 constexpr std::int64_t kMostMebibytes = std::int64_t(1) << 40;
 constexpr int kLongestSide = 16384;
-/// What is cached until a size was asked for: half of the picture, at most so large.
+/// What is cached until a size was asked for: half of the picture; when that has more pixels than
+/// this, as wide as it is, or as high as it where the picture is not wider than high.
 constexpr double kPresetScale = 0.5;
 const QSize kPresetSize(960, 540);
 
 QSize PresetSize(const NLESize& picture)
 {
     const QSize half(int(picture.width * kPresetScale), int(picture.height * kPresetScale));
-    return half.width() * half.height() <= kPresetSize.width() * kPresetSize.height()
-               ? half
-               : half.scaled(kPresetSize, Qt::KeepAspectRatio);
+    if (half.width() * half.height() <= kPresetSize.width() * kPresetSize.height())
+        return half;
+    const double shape = double(half.width()) / half.height();
+    return shape > 1 ? QSize(kPresetSize.width(), int(kPresetSize.width() / shape))
+                     : QSize(int(kPresetSize.height() * shape), kPresetSize.height());
 }
 
 } // namespace
@@ -132,6 +135,8 @@ HRESULT BackgroundCache::DeleteCache(bool all)
         }
         for (const ContentKey& key : keys)
             store->Remove(key);
+        if (const auto owner = plan ? plan->Owner() : std::nullopt)
+            store->RemoveOf(*owner);
         return S_OK;
     });
 }
@@ -164,6 +169,9 @@ void BackgroundCache::ListSegments()
     const std::shared_ptr<ChunkStore> store = Store();
     if (!plan)
         return;
+    // A run writes there all the time, and finds out by itself.
+    if (store && !(m_renderer && m_renderer->IsRunning()))
+        store->Refresh();
     for (const Chunk& chunk : plan->Chunks()) {
         const bool isCached = store && store->Has(chunk.key);
         Segment* last = m_segments.empty() ? nullptr : &m_segments.back();

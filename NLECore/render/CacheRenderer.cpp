@@ -200,7 +200,8 @@ std::optional<NLECacheState> CacheRenderer::RenderChunk(const Chunk& chunk, Work
     if (const auto full = StateOf(m_store->MakeRoom(m_limits, worker.lastSize, m_keep)))
         return full;
     const PictureCoding coding = m_plan->Coding();
-    ChunkWriter file(m_store->PathOf(chunk.key), chunk.key, coding.format, chunk.Length());
+    ChunkWriter file(m_store->PathOf(chunk.key), chunk.key, m_plan->Owner().value_or(ChunkOwner()),
+                     coding.format, chunk.Length());
     if (!file.Open())
         return FailureState(QFileDevice::OpenError, file.Size());
     for (int frame = chunk.first; frame <= chunk.last; ++frame) {

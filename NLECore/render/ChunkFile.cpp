@@ -7,9 +7,9 @@ namespace nle {
 
 namespace {
 
-constexpr quint32 kMagic = 0x4E4C4331;
-/// Key, format, count and the sum over the table.
-constexpr int kHeadSize = 32;
+constexpr quint32 kMagic = 0x4E4C4332;
+/// Key, owner, format, count and the sum over the table.
+constexpr int kHeadSize = 48;
 constexpr int kEntrySize = 16;
 constexpr int kMostPictures = 100000;
 
@@ -25,9 +25,9 @@ qint64 ContentsSize(std::size_t count)
 
 } // namespace
 
-ChunkWriter::ChunkWriter(const QString& path, const ContentKey& key, PictureFormat format,
-                         int count)
-    : m_file(path), m_key(key), m_format(format), m_entries(std::size_t(count))
+ChunkWriter::ChunkWriter(const QString& path, const ContentKey& key, const ChunkOwner& owner,
+                         PictureFormat format, int count)
+    : m_file(path), m_key(key), m_owner(owner), m_format(format), m_entries(std::size_t(count))
 {
 }
 
@@ -57,8 +57,9 @@ bool ChunkWriter::Commit()
         entries << entry.offset << entry.size << entry.checksum;
     QByteArray head;
     QDataStream fields(&head, QIODevice::WriteOnly);
-    fields << kMagic << quint64(m_key.high) << quint64(m_key.low) << qint32(m_format)
-           << qint32(m_entries.size()) << Checksum(table);
+    fields << kMagic << quint64(m_key.high) << quint64(m_key.low) << quint64(m_owner.high)
+           << quint64(m_owner.low) << qint32(m_format) << qint32(m_entries.size())
+           << Checksum(table);
     return m_file.seek(0) && m_file.write(head + table) == ContentsSize(m_entries.size()) &&
            m_file.commit();
 }
@@ -77,14 +78,17 @@ bool ChunkReader::ReadContents(const ContentKey& key)
     quint32 magic = 0;
     quint64 high = 0;
     quint64 low = 0;
+    quint64 ownerHigh = 0;
+    quint64 ownerLow = 0;
     qint32 format = 0;
     qint32 count = 0;
     quint32 checksum = 0;
-    fields >> magic >> high >> low >> format >> count >> checksum;
+    fields >> magic >> high >> low >> ownerHigh >> ownerLow >> format >> count >> checksum;
     const bool isOurs = fields.status() == QDataStream::Ok && magic == kMagic &&
                         ContentKey{high, low} == key && count > 0 && count <= kMostPictures;
     if (!isOurs)
         return false;
+    m_owner = {ownerHigh, ownerLow};
     m_format = PictureFormat(format);
     const QByteArray table = m_file.read(qint64(count) * kEntrySize);
     if (table.size() != count * kEntrySize || Checksum(table) != checksum)

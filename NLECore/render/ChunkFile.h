@@ -20,12 +20,16 @@ struct ChunkEntry
     quint32 checksum = 0;
 };
 
+/// What the files of chunks tell of the timeline that they were rendered for: its name, hashed.
+using ChunkOwner = ContentKey;
+
 /// Writes the file of one chunk: a table of contents and encoded pictures. The file gets its name,
 /// all at once and after it was synced, by Commit; without that nothing of it stays.
 class ChunkWriter
 {
 public:
-    ChunkWriter(const QString& path, const ContentKey& key, PictureFormat format, int count);
+    ChunkWriter(const QString& path, const ContentKey& key, const ChunkOwner& owner,
+                PictureFormat format, int count);
 
     /// False when the file cannot be made.
     bool Open();
@@ -40,6 +44,7 @@ public:
 private:
     QSaveFile m_file;
     const ContentKey m_key;
+    const ChunkOwner m_owner;
     const PictureFormat m_format;
     std::vector<ChunkEntry> m_entries;
     std::size_t m_written = 0;
@@ -53,6 +58,7 @@ public:
     /// Null when there is no such file, or not the whole of it, or of another content.
     static std::unique_ptr<ChunkReader> Open(const QString& path, const ContentKey& key);
 
+    const ChunkOwner& Owner() const { return m_owner; }
     PictureFormat Format() const { return m_format; }
     /// Encoded picture number \a index, from 0; empty when it is damaged.
     QByteArray Picture(int index);
@@ -62,6 +68,7 @@ private:
     bool ReadContents(const ContentKey& key);
 
     QFile m_file;
+    ChunkOwner m_owner;
     PictureFormat m_format = PictureFormat::Compact;
     std::vector<ChunkEntry> m_entries;
 };

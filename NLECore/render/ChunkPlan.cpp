@@ -180,6 +180,13 @@ KeySet ChunkPlan::Keys() const
     return keys;
 }
 
+std::optional<ContentKey> ChunkPlan::Owner() const
+{
+    if (m_root->guid.isEmpty())
+        return {};
+    return ContentHash().Add(m_root->guid).Result();
+}
+
 ContentKey ChunkPlan::CurrentKey(const Chunk& chunk) const
 {
     LayerKeys now;

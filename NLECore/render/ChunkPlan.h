@@ -4,6 +4,7 @@
 #include "NLECore/media/PictureCodec.h"
 #include "NLECore/scene/LayerKey.h"
 
+#include <optional>
 #include <unordered_map>
 #include <unordered_set>
 #include <vector>
@@ -52,6 +53,8 @@ public:
     /// Frames of all chunks.
     std::int64_t FrameCount() const { return m_frameCount; }
     KeySet Keys() const;
+    /// What stands in the files for the timeline; none where the host has no name for it.
+    std::optional<ContentKey> Owner() const;
     /// The key that \a chunk has with the media files as they are now.
     ContentKey CurrentKey(const Chunk& chunk) const;
 

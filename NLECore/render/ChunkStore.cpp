@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/render/ChunkStore.h"
 
+#include "Com/ComGuard.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
@@ -72,9 +74,12 @@ std::shared_ptr<ChunkStore> ChunkStore::Of(const QString& path)
 
 ChunkStore::~ChunkStore()
 {
-    LeaveFolder();
-    if (m_guarded.isFolderOurs)
-        QDir().rmdir(m_folder);
+    ComGuard([this] {
+        LeaveFolder();
+        if (m_guarded.isFolderOurs)
+            QDir().rmdir(m_folder);
+        return S_OK;
+    });
 }
 
 QString ChunkStore::PathOf(const ContentKey& key) const
@@ -311,7 +316,23 @@ std::unique_ptr<ChunkReader> ChunkStore::Read(const ContentKey& key)
 void ChunkStore::Remove(const ContentKey& key)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
+    m_guarded.isFolderOurs = m_guarded.isFolderOurs || m_guarded.entries.count(key) != 0;
     Drop(key);
+}
+
+void ChunkStore::RemoveOf(const ChunkOwner& owner)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    ForEachFile(m_folder, [&](const ContentKey& key, bool isWhole, const QDirIterator& file) {
+        if (!isWhole)
+            return;
+        const auto reader = ChunkReader::Open(file.filePath(), key);
+        if (!reader || reader->Owner() != owner)
+            return;
+        QFile::remove(file.filePath());
+        m_guarded.isFolderOurs = true;
+    });
+    List();
 }
 
 void ChunkStore::Drop(const ContentKey& key)

@@ -91,6 +91,8 @@ public:
     std::unique_ptr<ChunkReader> Read(const ContentKey& key);
     /// Removes a chunk.
     void Remove(const ContentKey& key);
+    /// Removes what was rendered for a timeline, whenever that was.
+    void RemoveOf(const ChunkOwner& owner);
     /// Removes all chunks and what else was made here. The folder goes as well when nothing else is
     /// in it, unless it was there for something else.
     void Clear();

@@ -75,6 +75,7 @@ struct Layer
     std::vector<std::shared_ptr<const Layer>>
         children; ///< Composite: enabled ones, lowest level first
 
+    QString guid;        ///< Composite only: the host's name for it, empty without one
     MixerSettings mixer; ///< Composite only: strips of the children's tracks, by level
 
     /// Whether the layer plays at \a frame of its parent.
@@ -102,7 +103,8 @@ inline constexpr auto kFields<Layer> = std::tuple(
     Field{&Layer::audio, nullptr, Shows::kNo}, Field{&Layer::media, nullptr, Shows::kYes},
     Field{&Layer::proxy, nullptr, Shows::kYes}, Field{&Layer::argb, nullptr, Shows::kYes},
     Field{&Layer::text, nullptr, Shows::kYes}, Field{&Layer::family, nullptr, Shows::kYes},
-    Field{&Layer::children, nullptr, Shows::kNo}, Field{&Layer::mixer, nullptr, Shows::kNo});
+    Field{&Layer::children, nullptr, Shows::kNo}, Field{&Layer::guid, nullptr, Shows::kNo},
+    Field{&Layer::mixer, nullptr, Shows::kNo});
 static_assert(kListsAllFields<Layer>);
 
 using Snapshot = std::shared_ptr<const Layer>;
