@@ -259,6 +259,10 @@ private slots:
         AddRows<tagMixerParam>([](TimelineNode & node) -> auto& {
             return node.Mixer().settings.try_emplace(3, kNeutralStrip).first->second;
         });
+        AddRows<NLEMarkerRecord>([](TimelineNode & node) -> auto& {
+            node.Markers().settings.resize(1);
+            return node.Markers().settings.front().record;
+        });
     }
 
     /// Every field survives clone and document, and makes pictures stale exactly when it shows.

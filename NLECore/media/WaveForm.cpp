@@ -9,13 +9,12 @@ namespace {
 
 constexpr std::int64_t kBlockSamples = 32768;
 
-// First sample of a bucket; sampleCount * bucket may exceed 64 bits only beyond any real length.
-std::int64_t BucketStart(std::int64_t bucket, std::int64_t sampleCount, std::int64_t buckets)
+} // namespace
+
+std::int64_t WaveBucketStart(std::int64_t bucket, std::int64_t sampleCount, std::int64_t buckets)
 {
     return sampleCount / buckets * bucket + sampleCount % buckets * bucket / buckets;
 }
-
-} // namespace
 
 std::vector<WavePeak> ReadWaveForm(AudioDecoder& decoder, std::int64_t firstSample,
                                    std::int64_t sampleCount, int sampleRate, int channels,
@@ -28,8 +27,9 @@ std::vector<WavePeak> ReadWaveForm(AudioDecoder& decoder, std::int64_t firstSamp
     std::int64_t blockStart = 0;
     std::int64_t blockEnd = 0;
     for (int bucket = 0; bucket < buckets; ++bucket) {
-        const std::int64_t start = BucketStart(bucket, sampleCount, buckets);
-        const std::int64_t end = std::max(start + 1, BucketStart(bucket + 1, sampleCount, buckets));
+        const std::int64_t start = WaveBucketStart(bucket, sampleCount, buckets);
+        const std::int64_t end =
+            std::max(start + 1, WaveBucketStart(bucket + 1, sampleCount, buckets));
         WavePeak* const peak = &peaks[size_t(bucket) * size_t(channels)];
         for (std::int64_t sample = start; sample < end; ++sample) {
             if (sample >= blockEnd) {

@@ -15,6 +15,10 @@ struct WavePeak
     float max = 0.0F;
 };
 
+/// First of \a sampleCount samples that belongs to stretch \a bucket when they are cut into
+/// \a buckets of equal length. Does not overflow for any real length.
+std::int64_t WaveBucketStart(std::int64_t bucket, std::int64_t sampleCount, std::int64_t buckets);
+
 /// Peaks of \a sampleCount sample groups from \a firstSample on, both counted at \a sampleRate,
 /// in \a buckets stretches of equal length (to the sample). The result lists, for each stretch,
 /// one peak per channel. Samples outside the stream count as silence; a stretch shorter than a

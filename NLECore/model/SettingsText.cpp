@@ -144,6 +144,13 @@ public:
         value = static_cast<Number>(ClampToInt(number));
         return true;
     }
+    bool Take(std::uint32_t& value)
+    {
+        bool ok = false;
+        if (!m_parts.isEmpty())
+            value = m_parts.takeFirst().toUInt(&ok);
+        return ok;
+    }
     bool Take(NLEPointF& point) { return Take(point.x) && Take(point.y); }
     bool Take(NLESizeF& size) { return Take(size.width) && Take(size.height); }
     bool Take(std::optional<NLERange>& range)
@@ -262,6 +269,35 @@ void ReadKeyFrames(const QString& text, KeyFrameFacet& keyFrames)
     keyFrames.Restore(curve);
 }
 
+/// The name stands last, with all its blanks.
+void AddMarkers(const MarkerList& markers, DocumentTexts& texts)
+{
+    int number = 0;
+    for (const Marker& marker : markers) {
+        const auto [prefix, text] = FieldTexts(marker.record, QDir()).front();
+        texts.emplace_back(prefix + QString::number(number++),
+                           text + QLatin1Char(' ') + FromWide(marker.name));
+    }
+}
+
+void ReadMarkers(const QHash<QString, QString>& properties, MarkerList& markers)
+{
+    const QString prefix = PropertyNames<NLEMarkerRecord>().front();
+    std::map<int, QString> texts;
+    for (auto property = properties.begin(); property != properties.end(); ++property) {
+        if (property.key().startsWith(prefix))
+            texts[property.key().mid(prefix.size()).toInt()] = property.value();
+    }
+    constexpr int numbers = kFieldCount<NLEMarkerRecord>;
+    for (const auto& [number, text] : texts) {
+        if (text.count(QLatin1Char(' ')) < numbers)
+            continue;
+        Marker marker = {{}, ToWide(text.section(QLatin1Char(' '), numbers))};
+        ReadRecord(text, marker.record);
+        PutMarker(markers, std::move(marker));
+    }
+}
+
 void ReadMixer(const QHash<QString, QString>& properties, MixerSettings& mixer)
 {
     const QString prefix = PropertyNames<tagMixerParam>().front();
@@ -287,6 +323,7 @@ DocumentTexts SettingsToText(const TimelineNode& node, const QDir& folder)
     const QString keyFrames = KeyFrameText(node.KeyFrames());
     if (!keyFrames.isEmpty())
         texts.emplace_back(PropertyNames<NLEKeyFrameRecord>().front(), keyFrames);
+    AddMarkers(node.Markers().settings, texts);
     for (const auto& [level, strip] : node.Mixer().settings) {
         const auto [prefix, text] = FieldTexts(strip, folder).front();
         texts.emplace_back(prefix + QString::number(level), text);
@@ -317,6 +354,7 @@ void SettingsFromText(const QHash<QString, QString>& properties, const FindMedia
     ReadSettings(properties, media, node.Video().settings);
     ReadKeyFrames(properties.value(PropertyNames<NLEKeyFrameRecord>().front()), node.KeyFrames());
     ReadMixer(properties, node.Mixer().settings);
+    ReadMarkers(properties, node.Markers().settings);
 }
 
 } // namespace nle

@@ -68,6 +68,7 @@ TimelineNode::TimelineNode(const NLERational& frameRate)
     , m_audio(static_cast<INLETimeline&>(*this))
     , m_video(*this)
     , m_mixer(static_cast<INLETimeline&>(*this))
+    , m_markers(static_cast<INLETimeline&>(*this))
     , m_keyFrames(*this)
     , m_keyFrameStatus(static_cast<INLETimeline&>(*this), m_keyFrames)
 {
@@ -89,6 +90,7 @@ HRESULT TimelineNode::QueryInterface(REFIID iid, void** out)
                ComDetail::Offer<INLEAudioStreamProcess>(&m_audio, iid, out) ||
                ComDetail::Offer<INLEVideoStreamProcess>(&m_video, iid, out) ||
                ComDetail::Offer<INLEMixerSetting>(&m_mixer, iid, out) ||
+               ComDetail::Offer<INLEMarkers>(&m_markers, iid, out) ||
                ComDetail::Offer<INLEKeyFrameList>(&m_keyFrames, iid, out) ||
                ComDetail::Offer<INLEKeyFrameStatus>(&m_keyFrameStatus, iid, out)))
         return ComObject::QueryInterface(iid, out);
@@ -218,6 +220,7 @@ NLEComPtr<TimelineNode> TimelineNode::Copy(bool deep) const
     copy->m_audio.settings = m_audio.settings;
     copy->m_video.settings = m_video.settings;
     copy->m_mixer.settings = m_mixer.settings;
+    copy->m_markers.settings = m_markers.settings;
     copy->m_keyFrames.Restore(*m_keyFrames.Stored());
     copy->m_keyFrames.enabled = m_keyFrames.enabled;
     return copy;
@@ -258,6 +261,7 @@ void TimelineNode::ChangeRate(const NLERational& rate)
     if (m_placement.range)
         m_placement.range = FrameSpan{*m_placement.range, old}.At(rate);
     m_keyFrames.RescaleAxis(ToDouble(rate) / ToDouble(old));
+    m_markers.Rescale(ToDouble(rate) / ToDouble(old));
     AudioSettings& sound = m_audio.settings;
     sound.fadeInFrames = FrameTime{double(sound.fadeInFrames), old}.NearestAt(rate);
     sound.fadeOutFrames = FrameTime{double(sound.fadeOutFrames), old}.NearestAt(rate);
@@ -292,6 +296,7 @@ void TimelineNode::ChangeSpeed(Change change)
     if (before == after)
         return;
     m_keyFrames.RescaleAxis(before / after);
+    m_markers.Rescale(before / after);
     if (m_placement.range)
         m_placement.range = ScaleRange(*m_placement.range, before / after);
 }

@@ -5,6 +5,7 @@
 #include "EngineApi/INLEProperties.h"
 #include "EngineApi/INLETimeline.h"
 #include "NLECore/model/KeyFrameFacets.h"
+#include "NLECore/model/MarkerFacet.h"
 #include "NLECore/model/NodeFacets.h"
 #include "NLECore/model/PropertyBag.h"
 #include "NLECore/scene/Layer.h"
@@ -104,6 +105,8 @@ public:
     AudioFacet& Audio() { return m_audio; }
     VideoFacet& Video() { return m_video; }
     MixerFacet& Mixer() { return m_mixer; }
+    MarkerFacet& Markers() { return m_markers; }
+    const MarkerFacet& Markers() const { return m_markers; }
     KeyFrameFacet& KeyFrames() { return m_keyFrames; }
     const KeyFrameFacet& KeyFrames() const { return m_keyFrames; }
     const BlendFacet& Blend() const { return m_blend; }
@@ -143,6 +146,7 @@ private:
     AudioFacet m_audio;
     VideoFacet m_video;
     MixerFacet m_mixer;
+    MarkerFacet m_markers;
     KeyFrameFacet m_keyFrames;
     KeyFrameStatusFacet m_keyFrameStatus;
 };

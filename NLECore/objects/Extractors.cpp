@@ -3,22 +3,15 @@
 
 #include "Com/ComGuard.h"
 #include "NLECore/media/DecoderPool.h"
-#include "NLECore/media/WaveForm.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/objects/Frames.h"
 
-#include <cmath>
 #include <cstring>
 
 namespace nle {
 
 namespace {
-
-/// Samples a second that an envelope is measured at: the peaks of 48,000 hide nothing that shows.
-constexpr int kWaveSampleRate = 48000;
-/// Longest span of an envelope in seconds; keeps sample numbers far from overflow.
-constexpr double kLongestWave = 1e7;
 
 /// Copies \a image into a frame of \a size at \a place; what lies around it becomes transparent.
 void CopyInto(const QImage& image, const QRect& place, NLESize size, std::uint8_t* pixels)
@@ -150,48 +143,6 @@ HRESULT ThumbnailExtractor::Finish()
         m_media.reset();
         return S_OK;
     });
-}
-
-HRESULT WaveExtractor::SetSource(INLEMediaInfo* info, std::uint32_t audioStream)
-{
-    return ComGuard([&] {
-        m_decoder.reset();
-        const std::shared_ptr<const MediaInfo> media = MediaInfoObject::From(info);
-        if (!media)
-            return E_INVALIDARG;
-        m_decoder = AudioDecoder::Open(media, int(audioStream), nullptr);
-        return m_decoder ? S_OK : E_FAIL;
-    });
-}
-
-HRESULT WaveExtractor::Extract(double start, double length, int count, float* minima, float* maxima)
-{
-    return ComGuard([&] {
-        if (!minima || !maxima)
-            return E_POINTER;
-        if (!m_decoder)
-            return E_FAIL;
-        if (count < 1 || !(std::abs(start) <= kLongestWave) ||
-            !(length > 0 && length <= kLongestWave))
-            return E_INVALIDARG;
-        // One channel: the decoder mixes down, and an envelope shows the sum of what is heard.
-        const std::vector<WavePeak> peaks =
-            ReadWaveForm(*m_decoder, std::llround(start * kWaveSampleRate),
-                         std::llround(length * kWaveSampleRate), kWaveSampleRate, 1, count);
-        if (peaks.size() != size_t(count))
-            return E_FAIL;
-        for (size_t i = 0; i < peaks.size(); ++i) {
-            minima[i] = peaks[i].min;
-            maxima[i] = peaks[i].max;
-        }
-        return S_OK;
-    });
-}
-
-HRESULT WaveExtractor::Finish()
-{
-    m_decoder.reset();
-    return S_OK;
 }
 
 } // namespace nle

@@ -46,16 +46,4 @@ private:
     int m_stream = -1;
 };
 
-/// Envelope of a media file's sound.
-class WaveExtractor final : public ComObject<INLEWaveExtractor>
-{
-public:
-    HRESULT SetSource(INLEMediaInfo* info, std::uint32_t audioStream) override;
-    HRESULT Extract(double start, double length, int count, float* minima, float* maxima) override;
-    HRESULT Finish() override;
-
-private:
-    std::unique_ptr<AudioDecoder> m_decoder;
-};
-
 } // namespace nle

@@ -15,8 +15,11 @@
 #include "NLECore/objects/Extractors.h"
 #include "NLECore/objects/FontLibrary.h"
 #include "NLECore/objects/Frames.h"
+#include "NLECore/objects/MarkBook.h"
 #include "NLECore/objects/MediaEncoder.h"
+#include "NLECore/objects/SceneSegment.h"
 #include "NLECore/objects/TimelineFactory.h"
+#include "NLECore/objects/WaveExtractor.h"
 
 namespace nle {
 
@@ -94,9 +97,12 @@ HRESULT RootFactory::CreateCodecFromFile(const wchar_t* path, INLECodec** codec)
     });
 }
 
-HRESULT RootFactory::CreateMarkBook(const wchar_t* /*path*/, INLEMarkBook** book)
+HRESULT RootFactory::CreateMarkBook(const wchar_t* path, INLEMarkBook** book)
 {
-    return Refuse(book);
+    return ComGuard([&] {
+        const HRESULT none = Refuse(book, E_FAIL);
+        return path && book ? MarkBook::Open(QString::fromWCharArray(path), book) : none;
+    });
 }
 
 HRESULT RootFactory::CreateDocumentSerialize(INLEDocumentSerialize** serialize)
@@ -121,7 +127,7 @@ HRESULT RootFactory::CreateWaveExtractor(INLEWaveExtractor** extractor)
 
 HRESULT RootFactory::CreateSceneSegment(INLESceneSegment** segment)
 {
-    return Refuse(segment);
+    return GiveNew<SceneSegment>(segment);
 }
 
 HRESULT RootFactory::CreateMediaEncoder(INLEMediaEncoder** encoder)

@@ -2,6 +2,8 @@
 #include "NLECore/scene/ClipSettings.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <utility>
 
 namespace nle {
 
@@ -17,6 +19,24 @@ bool PutVolumePoint(std::vector<VolumePoint>& curve, const VolumePoint& point)
     else
         curve.insert(place, point);
     return true;
+}
+
+bool IsValid(const Marker& marker)
+{
+    const NLEMarkerRecord& record = marker.record;
+    return IsValid(record) && std::int64_t(record.frame) + record.length - 1 <= INT32_MAX;
+}
+
+int PutMarker(MarkerList& markers, Marker marker)
+{
+    if (!IsValid(marker))
+        return -1;
+    const auto place =
+        std::upper_bound(markers.begin(), markers.end(), marker.record.frame,
+                         [](int frame, const Marker& other) { return frame < other.record.frame; });
+    const auto index = int(place - markers.begin());
+    markers.insert(place, std::move(marker));
+    return index;
 }
 
 } // namespace nle

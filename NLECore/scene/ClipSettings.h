@@ -170,6 +170,26 @@ inline constexpr auto kFields<VideoSettings> =
                Field{&VideoSettings::premultipliedType, "premultiplied", Shows::kNo});
 static_assert(kListsAllFields<VideoSettings>);
 
+/// A place of a node that somebody has named. It shows in no picture.
+struct Marker
+{
+    NLEMarkerRecord record;
+    std::wstring name;
+};
+using MarkerList = std::vector<Marker>; ///< in order of frames
+/// The document property of a marker has its number behind its name, and ends with the marker's.
+template <>
+inline constexpr auto kFields<NLEMarkerRecord> =
+    std::tuple(Field{&NLEMarkerRecord::frame, "marker:", Shows::kNo},
+               Field{&NLEMarkerRecord::length, "marker:", Shows::kNo, 0, INT32_MAX},
+               Field{&NLEMarkerRecord::color, "marker:", Shows::kNo});
+static_assert(kListsAllFields<NLEMarkerRecord>);
+/// Whether a marker lies where frames can be counted.
+bool IsValid(const Marker& marker);
+/// Puts a marker behind those of its frame and gives its place; -1, and nothing changed, for one
+/// that is not valid.
+int PutMarker(MarkerList& markers, Marker marker);
+
 /// Mixer strips of a composite's tracks, by level.
 using MixerSettings = std::map<int, tagMixerParam>;
 constexpr tagMixerParam kNeutralStrip = {1, 0, 0, 0};

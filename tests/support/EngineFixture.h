@@ -28,7 +28,10 @@ public:
     static constexpr double kToneLoudness = 0.5 * M_SQRT1_2;
     static constexpr tagNLEProjectProfile kSmall = {{320, 180}, {25000000, 1000000}, 48000, 2, 3};
 
-    EngineFixture() : provider(NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider()) {}
+    EngineFixture() : provider(NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider())
+    {
+        SetWaveFolder(Path("waves"), 100);
+    }
     ~EngineFixture()
     {
         NLEWraper::Release();
@@ -110,6 +113,15 @@ public:
     {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    /// Where envelopes of sounds are kept; \a quota in MiB.
+    HRESULT SetWaveFolder(const QString& path, int quota) const
+    {
+        const auto waves = provider->CreateWaveExtractor();
+        return waves ? waves.query<INLEWaveCache>()->SetCacheFolder(path.toStdWString().c_str(),
+                                                                    quota)
+                     : E_FAIL;
     }
 
     /// Null when the engine renders none.

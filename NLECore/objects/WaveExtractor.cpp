@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/objects/WaveExtractor.h"
+
+#include "NLECore/media/WaveStore.h"
+#include "NLECore/model/MediaObjects.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace nle {
+
+namespace {
+
+constexpr int kSampleRate = WavePyramid::kSampleRate;
+/// Longest span of an envelope in seconds; keeps sample numbers far from overflow.
+constexpr double kLongestWave = 1e7;
+/// Largest quota in MiB; more means the same.
+constexpr std::int64_t kMostQuota = std::int64_t(1) << 40;
+
+} // namespace
+
+HRESULT WaveExtractor::SetSource(INLEMediaInfo* info, std::uint32_t audioStream)
+{
+    return ComGuard([&] {
+        Finish();
+        m_media = MediaInfoObject::From(info);
+        m_stream = int(audioStream);
+        if (!m_media)
+            return E_INVALIDARG;
+        const MediaStream* stream = m_media->Stream(m_stream);
+        const bool isSound = stream && stream->type == NLEStream_Audio;
+        if (isSound && (OpenKept() || OpenDecoder()))
+            return S_OK;
+        m_media.reset();
+        return E_FAIL;
+    });
+}
+
+HRESULT WaveExtractor::Extract(double start, double length, int count, float* minima, float* maxima)
+{
+    return ComGuard([&] {
+        if (!minima || !maxima)
+            return E_POINTER;
+        if (!m_media)
+            return E_FAIL;
+        if (count < 1 || !(std::abs(start) <= kLongestWave) ||
+            !(length > 0 && length <= kLongestWave))
+            return E_INVALIDARG;
+        const std::int64_t first = std::llround(start * kSampleRate);
+        const std::int64_t samples = std::llround(length * kSampleRate);
+        std::vector<WavePeak> peaks = KeptPeaks(first, samples, count);
+        // One channel: the decoder mixes down, and an envelope shows the sum of what is heard.
+        if (peaks.empty() && OpenDecoder())
+            peaks = ReadWaveForm(*m_decoder, first, samples, kSampleRate, 1, count);
+        if (peaks.size() != size_t(count))
+            return E_FAIL;
+        for (size_t i = 0; i < peaks.size(); ++i) {
+            minima[i] = peaks[i].min;
+            maxima[i] = peaks[i].max;
+        }
+        return S_OK;
+    });
+}
+
+HRESULT WaveExtractor::Finish()
+{
+    m_decoder.reset();
+    m_kept.reset();
+    m_media.reset();
+    m_canKeep = true;
+    return S_OK;
+}
+
+HRESULT WaveExtractor::SetCacheFolder(const wchar_t* folder, std::int64_t quota)
+{
+    return ComGuard([&] {
+        if (quota < 0)
+            return E_INVALIDARG;
+        Waves().SetFolder(folder ? QString::fromWCharArray(folder) : QString(),
+                          std::min(quota, kMostQuota) << 20);
+        m_kept.reset();
+        m_canKeep = true;
+        return S_OK;
+    });
+}
+
+HRESULT WaveExtractor::IsCached(bool* cached)
+{
+    return ComGuard([&] { return m_media ? GiveValue(cached, OpenKept()) : E_FAIL; });
+}
+
+HRESULT WaveExtractor::Compute(NLEProgressCallback callback, void* userData)
+{
+    return ComGuard([&] {
+        if (!m_media)
+            return E_FAIL;
+        bool isStopped = false;
+        const auto report = [&](double done) {
+            isStopped = isStopped || (callback && callback(int(done * 100), userData) != 0);
+            return !isStopped;
+        };
+        const HRESULT result = OpenKept() ? S_OK : Keep(report);
+        if (result == S_OK)
+            report(1);
+        return isStopped && result != S_OK ? S_FALSE : result;
+    });
+}
+
+bool WaveExtractor::OpenDecoder()
+{
+    if (!m_decoder)
+        m_decoder = AudioDecoder::Open(m_media, m_stream, nullptr);
+    return m_decoder != nullptr;
+}
+
+bool WaveExtractor::OpenKept()
+{
+    m_kept = Waves().Open(*m_media, m_stream);
+    return m_kept != nullptr;
+}
+
+HRESULT WaveExtractor::Keep(const WavePyramid::Progress& progress)
+{
+    if (!Waves().IsOn() || !OpenDecoder())
+        return E_FAIL;
+    const std::optional<WavePyramid> pyramid = WavePyramid::Read(*m_decoder, progress);
+    const bool isKept = pyramid && Waves().Put(*m_media, m_stream, *pyramid) && OpenKept();
+    return isKept ? S_OK : E_FAIL;
+}
+
+std::vector<WavePeak> WaveExtractor::KeptPeaks(std::int64_t firstSample, std::int64_t sampleCount,
+                                               int count)
+{
+    if (firstSample < 0 || sampleCount / count < WaveFile::kShortestStep)
+        return {};
+    // Reading half of the sound takes about as long as reading it all.
+    const std::int64_t whole = m_media->durationUs * kSampleRate / 1000000;
+    if (!m_kept && m_canKeep && sampleCount >= whole / 2)
+        m_canKeep = Keep(nullptr) == S_OK;
+    std::vector<WavePeak> peaks;
+    if (m_kept)
+        peaks = m_kept->Peaks(firstSample, sampleCount, count);
+    if (m_kept && peaks.empty()) { // damaged since it was opened
+        m_kept.reset();
+        Waves().Drop(*m_media, m_stream);
+    }
+    return peaks;
+}
+
+} // namespace nle
