@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // Parts of the open engine that have no interface: frame arithmetic, what follows from the lists of
 // fields, and who gets room in the preview cache.
-#include "NLECore/model/DocumentReader.h"
-#include "NLECore/model/DocumentWriter.h"
+#include "NLECore/model/MltReader.h"
+#include "NLECore/model/MltWriter.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/SourceNodes.h"
 #include "NLECore/render/ChunkStore.h"
@@ -280,8 +280,8 @@ private slots:
         QVERIFY(field.cameBack(*clip, *TimelineNode::From(clone.get())));
 
         QString text;
-        DocumentWriter(text, QDir::root()).Write(*clip);
-        const NodePointer read = DocumentReader(text.toUtf8(), QDir::root()).Read();
+        MltWriter(text, QDir::root()).Write(*clip);
+        const NodePointer read = MltReader(text.toUtf8(), QDir::root()).Read();
         QVERIFY(read);
         QVERIFY2(field.cameBack(*clip, *read), qUtf8Printable(text));
     }

@@ -1,19 +1,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "NLECore/model/TimelineNode.h"
-
+#include <QHash>
 #include <QLatin1String>
+#include <QString>
 
-#include <algorithm>
-
-/// What writer and reader of documents agree on.
+/// What writers and readers of documents agree on.
 ///
-/// A document is MLT XML: a producer for each clip, a playlist for each lane of clips that do not
-/// overlap, a tractor for each composite. What MLT has no place for is kept in properties whose
-/// names begin with "nle:"; other programs ignore them. Their names and texts are encoded, so that
-/// every text comes back; a property of MLT stands as it is, and where XML cannot carry it, its
-/// text is encoded once more under "nle:exact:".
+/// What a format has no place for is kept as texts by names that begin with "nle:"; other programs
+/// ignore them. Names and texts are encoded, so that every text comes back.
 namespace nle::document {
 
 inline const QLatin1String kOwnPrefix("nle:");
@@ -29,6 +24,10 @@ inline const QLatin1String kDecoder("nle:decoder");
 inline const QLatin1String kBagPrefix("nle:bag:");
 /// Followed by the key of a project's context.
 inline const QLatin1String kContextPrefix("nle:context:");
+/// Of a filter that was written here: a sum of its properties and their names.
+inline const QLatin1String kWritten("nle:written");
+/// Of a clip: how many filters of its sound and of its picture were written with it.
+inline const QLatin1String kFilters("nle:filters");
 
 inline const QLatin1String kProject("project");
 inline const QLatin1String kComposite("composite");
@@ -37,26 +36,14 @@ inline const QLatin1String kColor("color");
 inline const QLatin1String kText("text");
 /// The empty track below all others.
 inline const QLatin1String kBackground("background");
-/// A playlist of clips that do not show: disabled ones and ones of no length.
+/// A track of clips that do not show: disabled ones and ones of no length.
 inline const QLatin1String kUnplaced("unplaced");
 
-/// Where a clip stands on a playlist: MLT has no place before frame 0.
-struct Placement
-{
-    std::int64_t position;
-    NLERange range;
-
-    friend bool operator==(const Placement& a, const Placement& b)
-    {
-        return a.position == b.position && a.range.in == b.range.in && a.range.out == b.range.out;
-    }
-};
-
-/// The part of a clip that lies at or after frame 0 of its parent.
-inline Placement VisiblePart(int position, const NLERange& range)
-{
-    const std::int64_t cut = std::max<std::int64_t>(0, -std::int64_t(position));
-    return {position + cut, {int(std::min<std::int64_t>(range.in + cut, INT32_MAX)), range.out}};
-}
-
 } // namespace nle::document
+
+namespace nle {
+
+/// Texts of a document by their names.
+using DocumentProperties = QHash<QString, QString>;
+
+} // namespace nle

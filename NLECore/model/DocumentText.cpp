@@ -2,6 +2,8 @@
 #include "NLECore/model/DocumentText.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
+#include <QUrl>
 
 #include <algorithm>
 #include <cstdint>
@@ -112,6 +114,40 @@ QString DocumentPath(const QString& path, const QDir& folder)
         return absolute;
     // A name that begins with a colon would be taken for one of Qt's resources.
     return relative.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + relative : relative;
+}
+
+bool IsRemote(const QString& name)
+{
+    // One letter before the colon is a drive.
+    static const QRegularExpression s_scheme(QStringLiteral("^[A-Za-z][A-Za-z0-9+.-]+://"));
+    return s_scheme.match(name).hasMatch() &&
+           !name.startsWith(QLatin1String("file://"), Qt::CaseInsensitive);
+}
+
+QString MediaUrl(const QString& path, const QDir& folder)
+{
+    if (IsRemote(path))
+        return path;
+    const QString name = DocumentPath(path, folder);
+    if (QFileInfo(name).isAbsolute())
+        return QString::fromLatin1(QUrl::fromLocalFile(name).toEncoded());
+    return QString::fromLatin1(QUrl::toPercentEncoding(name, "/"));
+}
+
+QString PathOfUrl(const QString& url, const QDir& folder)
+{
+    if (IsRemote(url))
+        return url;
+    if (url.startsWith(QLatin1String("file:"), Qt::CaseInsensitive)) {
+        QUrl file(url);
+        if (file.host() == QLatin1String("localhost"))
+            file.setHost(QString());
+        return file.toLocalFile();
+    }
+    const QString decoded = QUrl::fromPercentEncoding(url.toUtf8());
+    const bool isPlain = decoded != url && QFileInfo(folder.absoluteFilePath(url)).isFile() &&
+                         !QFileInfo(folder.absoluteFilePath(decoded)).isFile();
+    return isPlain ? url : decoded;
 }
 
 } // namespace nle

@@ -2,6 +2,7 @@
 #include "NLECore/model/MotionFilters.h"
 
 #include "NLECore/model/CompositeNode.h"
+#include "NLECore/model/SourceNodes.h"
 #include "NLECore/render/Composer.h"
 #include "NLECore/scene/FrameMath.h"
 
@@ -33,49 +34,113 @@ QString Number(double value)
     return QString::number(value, 'f', 3);
 }
 
-} // namespace
-
-std::vector<DocumentFilter> MotionFilters(const TimelineNode& node)
+QString Join(const QStringList& values)
 {
-    const bool isPlain = !node.KeyFrames().Curve() && node.Transform().settings.IsIdentity();
-    if (!node.Parent() || isPlain || node.PictureSize().width < 1)
-        return {};
-    const Snapshot layer = node.MakeSnapshot();
+    return values.join(QLatin1Char(';'));
+}
+
+QRect Canvas(const TimelineNode& node)
+{
     const NLESize parent = node.Parent()->PictureSize();
+    return QRect(0, 0, parent.width, parent.height);
+}
+
+/// Whether other programs put the picture to its place without being told.
+bool LiesByItself(const TimelineNode& node, const Layer& layer)
+{
+    if (layer.keyFrames || !layer.transform.IsIdentity() || layer.kind == LayerKind::Text)
+        return false;
+    const QRect canvas = Canvas(node);
+    // The framework misplaces pictures of another size in a timeline that it scales as a whole.
+    const bool isOuter = !node.Parent()->Parent();
+    const bool isFull = layer.size.width == canvas.width() && layer.size.height == canvas.height();
+    if (layer.kind == LayerKind::Media)
+        return layer.margin == NLEMargin_Fit && (isOuter || isFull);
+    return PlacePicture(layer.size, layer.margin, {canvas.width(), canvas.height()},
+                        canvas.size()) == canvas;
+}
+
+DocumentFilter PlaceFilter(const TimelineNode& node, const Layer& layer)
+{
+    const QSize canvas = Canvas(node).size();
     QStringList rects;
     QStringList turns;
-    QStringList opacities;
-    bool isOpaque = true;
-    for (const auto& [frame, key] : ByFrame(layer->keyFrames.get())) {
-        const Placing placing =
-            PlaceLayer(*layer, &key, parent, QSize(parent.width, parent.height));
+    for (const auto& [frame, key] : ByFrame(layer.keyFrames.get())) {
+        const Placing placing = PlaceLayer(layer, &key, {canvas.width(), canvas.height()}, canvas);
         const QString start = QString::number(frame) + QLatin1Char('=');
         const QRectF rect = placing.rect.normalized();
         rects << start + QStringList{Number(rect.x()), Number(rect.y()), Number(rect.width()),
                                      Number(rect.height())}
                              .join(QLatin1Char(' '));
         turns << start + Number(placing.rotation);
-        const double opacity = std::clamp(key.opacity, 0.0, 1.0);
-        opacities << start + Number(opacity);
-        isOpaque = isOpaque && opacity == 1;
     }
-    const auto join = [](const QStringList& values) { return values.join(QLatin1Char(';')); };
     const QString one = QStringLiteral("1");
-    std::vector<DocumentFilter> filters = {
-        {{QStringLiteral("mlt_service"), QStringLiteral("affine")},
-         {QStringLiteral("background"), QStringLiteral("color:#00000000")},
-         // Else the rectangle counts in pixels of the source and not in those of the profile.
-         {QStringLiteral("use_normalised"), one},
-         {QStringLiteral("transition.distort"), one},
-         {QStringLiteral("transition.repeat_off"), one},
-         {QStringLiteral("transition.mirror_off"), one},
-         {QStringLiteral("transition.rect"), join(rects)},
-         {QStringLiteral("transition.fix_rotate_x"), join(turns)}}};
-    if (!isOpaque)
-        filters.push_back({{QStringLiteral("mlt_service"), QStringLiteral("brightness")},
-                           {QStringLiteral("level"), one},
-                           {QStringLiteral("alpha"), join(opacities)}});
+    DocumentTexts texts = {
+        {QStringLiteral("mlt_service"), QStringLiteral("affine")},
+        {QStringLiteral("background"), QStringLiteral("color:#00000000")},
+        // Else the rectangle counts in pixels of the source and not in those of the profile.
+        {QStringLiteral("use_normalised"), one},
+        {QStringLiteral("transition.repeat_off"), one},
+        {QStringLiteral("transition.mirror_off"), one},
+        {QStringLiteral("transition.rect"), Join(rects)},
+        {QStringLiteral("transition.fix_rotate_x"), Join(turns)}};
+    if (layer.kind == LayerKind::Text) {
+        // The picture of a text is as large as its letters.
+        texts.emplace_back(QStringLiteral("transition.fill"), QStringLiteral("0"));
+        texts.emplace_back(QStringLiteral("transition.halign"), QStringLiteral("centre"));
+        texts.emplace_back(QStringLiteral("transition.valign"), QStringLiteral("middle"));
+    } else {
+        texts.emplace_back(QStringLiteral("transition.distort"), one);
+    }
+    return {texts, std::nullopt};
+}
+
+/// How much the layer covers; one value where that does not change.
+QStringList Opacities(const Layer& layer)
+{
+    const double whole = layer.blend.enabled ? double(layer.blend.alpha) / kOpaqueAlpha : 1;
+    QStringList opacities;
+    bool isSame = true;
+    const std::map<int, NLEKeyFrameRecord> frames = ByFrame(layer.keyFrames.get());
+    for (const auto& [frame, key] : frames) {
+        const double opacity = std::clamp(key.opacity, 0.0, 1.0) * whole;
+        opacities << QString::number(frame) + QLatin1Char('=') + Number(opacity);
+        isSame = isSame && key.opacity == frames.begin()->second.opacity;
+    }
+    if (!isSame)
+        return opacities;
+    return {opacities.front().section(QLatin1Char('='), 1)};
+}
+
+} // namespace
+
+std::vector<DocumentFilter> MotionFilters(const TimelineNode& node)
+{
+    if (!node.Parent() || node.PictureSize().width < 1 || Canvas(node).isEmpty())
+        return {};
+    const Snapshot layer = node.MakeSnapshot();
+    std::vector<DocumentFilter> filters;
+    if (!LiesByItself(node, *layer))
+        filters.push_back(PlaceFilter(node, *layer));
+    const QStringList opacities = Opacities(*layer);
+    if (opacities != QStringList{Number(1)})
+        filters.push_back({{{QStringLiteral("mlt_service"), QStringLiteral("brightness")},
+                            {QStringLiteral("level"), QStringLiteral("1")},
+                            {QStringLiteral("alpha"), Join(opacities)}},
+                           std::nullopt});
     return filters;
+}
+
+int DocumentTextSize(const TimelineNode& text)
+{
+    const TransformSettings& transform = text.Transform().settings;
+    double height = text.PictureSize().height;
+    if (text.Parent() && !Canvas(text).isEmpty())
+        height = PlacePicture(text.PictureSize(), text.Placement().margin,
+                              text.Parent()->PictureSize(), Canvas(text).size())
+                     .height();
+    const double scale = transform.enabled ? std::abs(transform.scale.height) : 1;
+    return std::max(1, ClampToInt(height * kTextHeight * scale));
 }
 
 } // namespace nle

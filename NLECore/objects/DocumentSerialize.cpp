@@ -3,8 +3,11 @@
 
 #include "Com/ComGuard.h"
 #include "NLECore/media/EngineLog.h"
-#include "NLECore/model/DocumentReader.h"
-#include "NLECore/model/DocumentWriter.h"
+#include "NLECore/model/DocumentText.h"
+#include "NLECore/model/MltReader.h"
+#include "NLECore/model/MltWriter.h"
+#include "NLECore/model/OtioReader.h"
+#include "NLECore/model/OtioWriter.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -14,10 +17,46 @@ namespace nle {
 
 namespace {
 
+/// Bytes of the largest document that is opened.
+constexpr std::int64_t kLargestDocument = 512 << 20;
+
 HRESULT Report(const QString& path, const QString& reason)
 {
     qCWarning(lcEngine, "%s: %s", qUtf8Printable(path), qUtf8Printable(reason));
     return E_FAIL;
+}
+
+bool IsOtio(const QString& path)
+{
+    return QFileInfo(path).suffix().compare(QLatin1String("otio"), Qt::CaseInsensitive) == 0;
+}
+
+QByteArray WriteDocument(const TimelineNode& node, const QString& path)
+{
+    const QDir folder = QFileInfo(path).absoluteDir();
+    if (IsOtio(path))
+        return OtioWriter(folder).Write(node);
+    QString text;
+    MltWriter(text, folder).Write(node);
+    return text.toUtf8();
+}
+
+template <typename Reader>
+NLEComPtr<TimelineNode> ReadWith(Reader reader, QString* error, DocumentRemarks* remarks)
+{
+    NLEComPtr<TimelineNode> node = reader.Read();
+    *remarks = reader.Remarks();
+    *error = reader.Error();
+    return node;
+}
+
+NLEComPtr<TimelineNode> ReadDocument(const QByteArray& text, const QString& path, QString* error,
+                                     DocumentRemarks* remarks)
+{
+    const QDir folder = QFileInfo(path).absoluteDir();
+    if (IsOtio(path))
+        return ReadWith(OtioReader(text, folder), error, remarks);
+    return ReadWith(MltReader(text, folder), error, remarks);
 }
 
 } // namespace
@@ -32,9 +71,7 @@ HRESULT DocumentSerialize::Save(INLETimeline* timeline, const wchar_t* path)
         QSaveFile file(name);
         if (!file.open(QIODevice::WriteOnly))
             return Report(name, file.errorString());
-        QString text;
-        DocumentWriter(text, QFileInfo(name).absoluteDir()).Write(*node);
-        file.write(text.toUtf8());
+        file.write(WriteDocument(*node, name));
         return file.commit() ? S_OK : Report(name, file.errorString());
     });
 }
@@ -45,18 +82,42 @@ HRESULT DocumentSerialize::Load(const wchar_t* path, INLETimeline** timeline)
         if (!path || !timeline)
             return E_POINTER;
         *timeline = nullptr;
+        m_remarks = {};
         const QString name = QString::fromWCharArray(path);
         QFile file(name);
         if (!QFileInfo(name).isFile())
             return Report(name, QStringLiteral("no such file"));
         if (!file.open(QIODevice::ReadOnly))
             return Report(name, file.errorString());
-        DocumentReader reader(file.readAll(), QFileInfo(name).absoluteDir());
-        NLEComPtr<TimelineNode> node = reader.Read();
+        if (file.size() > kLargestDocument)
+            return Report(name, QStringLiteral("larger than a document may be"));
+        QString error;
+        NLEComPtr<TimelineNode> node = ReadDocument(file.readAll(), name, &error, &m_remarks);
+        for (const DocumentRemark& remark : m_remarks.All())
+            qCInfo(lcEngine, "%s: left out or changed: %s", qUtf8Printable(name),
+                   qUtf8Printable(remark.Told()));
         if (!node)
-            return Report(name, reader.Error());
+            return Report(name, error);
         *timeline = node.detach();
         return S_OK;
+    });
+}
+
+HRESULT DocumentSerialize::GetRemarkCount(int* count)
+{
+    return GiveValue(count, int(m_remarks.All().size()));
+}
+
+HRESULT DocumentSerialize::GetRemark(int index, int* code, wchar_t* text, int capacity)
+{
+    return ComGuard([&] {
+        if (!code || !text)
+            return E_POINTER;
+        if (index < 0 || size_t(index) >= m_remarks.All().size())
+            return E_INVALIDARG;
+        const DocumentRemark& remark = m_remarks.All()[size_t(index)];
+        *code = remark.code;
+        return CopyText(ToWide(remark.Told()), text, capacity);
     });
 }
 

@@ -14,24 +14,6 @@ namespace nle {
 
 namespace {
 
-/// Gain of a curve at a time in seconds: linear between points, held outside of them, 1 without
-/// any.
-double CurveAt(const std::vector<VolumePoint>& points, double time)
-{
-    if (points.empty())
-        return 1;
-    const auto after =
-        std::upper_bound(points.begin(), points.end(), time,
-                         [](double wanted, const VolumePoint& p) { return wanted < p.time; });
-    if (after == points.begin())
-        return after->gain;
-    const auto before = after - 1;
-    if (after == points.end())
-        return before->gain;
-    const double share = (time - before->time) / (after->time - before->time);
-    return before->gain + (after->gain - before->gain) * share;
-}
-
 QString Number(double value)
 {
     return QString::number(value, 'f', 6);
@@ -171,7 +153,7 @@ void AudioMixer::ApplyGains(const Layer& layer, std::int64_t first, int count, f
         const double frame = double(first + i - inPoint) * framesPerSample;
         double gain = audio.mute ? 0 : 1;
         if (audio.volumeEnabled)
-            gain *= audio.volume * CurveAt(audio.volumePoints, frame / ToDouble(layer.frameRate));
+            gain *= audio.volume * GainAt(audio.volumePoints, frame / ToDouble(layer.frameRate));
         if (audio.fadeIn && audio.fadeInFrames > 0)
             gain *= std::clamp(frame / audio.fadeInFrames, 0.0, 1.0);
         if (audio.fadeOut && audio.fadeOutFrames > 0)

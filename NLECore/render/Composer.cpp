@@ -21,8 +21,6 @@ constexpr int kLongestSide = 8192;
 constexpr double kFarthestPixel = 1e6;
 /// Bits of a pixel of four components in 16 bits.
 constexpr int kDeepPixel = 64;
-/// Height of a line of text, as a share of the picture's height.
-constexpr double kTextHeight = 1.0 / 12;
 
 QSizeF Scaled(NLESize size, double scale)
 {

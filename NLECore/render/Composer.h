@@ -18,6 +18,9 @@ QRect PlacePicture(NLESize size, tagNLEMarginMode margin, NLESize parentSize, co
 /// Where the picture of a root of \a size lies on a frame: in the middle, as large as it fits.
 QRect PlaceRoot(NLESize size, const QSize& frameSize);
 
+/// Height of a line of text, as a share of the picture's height.
+constexpr double kTextHeight = 1.0 / 12;
+
 /// Where a layer's picture lies: an upright rectangle and what is done to it.
 struct Placing
 {

@@ -39,4 +39,20 @@ int PutMarker(MarkerList& markers, Marker marker)
     return index;
 }
 
+double GainAt(const std::vector<VolumePoint>& curve, double time)
+{
+    if (curve.empty())
+        return 1;
+    const auto after =
+        std::upper_bound(curve.begin(), curve.end(), time,
+                         [](double wanted, const VolumePoint& p) { return wanted < p.time; });
+    if (after == curve.begin())
+        return after->gain;
+    const auto before = after - 1;
+    if (after == curve.end())
+        return before->gain;
+    const double share = (time - before->time) / (after->time - before->time);
+    return before->gain + (after->gain - before->gain) * share;
+}
+
 } // namespace nle

@@ -108,6 +108,9 @@ struct VolumePoint
 /// Puts a point into a curve, in place of one at the same time. False, and nothing changed, for a
 /// time that is not finite and a gain outside of 0 to kMostVolume.
 bool PutVolumePoint(std::vector<VolumePoint>& curve, const VolumePoint& point);
+/// Gain of a curve at a time in seconds: linear between points, held outside of them, 1 without
+/// any.
+double GainAt(const std::vector<VolumePoint>& curve, double time);
 
 constexpr int kMostSemitones = 24;
 constexpr int kMostDenoise = 97;          ///< dB

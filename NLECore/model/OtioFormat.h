@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "NLECore/model/DocumentFormat.h"
+
+#include <QJsonObject>
+#include <QLatin1String>
+
+/// What writer and reader of OpenTimelineIO's JSON agree on.
+namespace nle::otio {
+
+/// Names the class of an object and its version: "Clip.1".
+inline const QLatin1String kSchema("OTIO_SCHEMA");
+/// Key in the metadata of an object under which this engine keeps what is its own: the texts of
+/// document::kOwnPrefix, without that prefix.
+inline const QLatin1String kOwn("nle");
+/// The exact text and family of a text clip.
+inline const QLatin1String kExactText("nle:exact:text");
+inline const QLatin1String kExactFamily("nle:exact:family");
+/// Kind of the track on which other programs find the sound of the track below it; not read.
+inline const QLatin1String kTwin("twin");
+
+/// Keys in the bag of a node for what it has no place for, as JSON where it is more than a text.
+inline constexpr const wchar_t* kName = L"otio:name";
+inline constexpr const wchar_t* kMetadata = L"otio:metadata";
+inline constexpr const wchar_t* kMarkers = L"otio:markers";
+/// The transition in front of the clip, and behind it.
+inline constexpr const wchar_t* kTransitionBefore = L"otio:transition-before";
+inline constexpr const wchar_t* kTransitionAfter = L"otio:transition-after";
+/// Where the time of the file begins, in seconds.
+inline constexpr const wchar_t* kMediaStart = L"otio:media-start";
+/// Integer 1: the document did not name a file.
+inline constexpr const wchar_t* kNoFile = L"otio:no-file";
+
+} // namespace nle::otio

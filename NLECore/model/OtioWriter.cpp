@@ -1,0 +1,296 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/model/OtioWriter.h"
+
+#include "EngineApi/NLEKey.h"
+#include "NLECore/model/DocumentNodes.h"
+#include "NLECore/model/DocumentText.h"
+#include "NLECore/model/OtioFormat.h"
+#include "NLECore/scene/FrameMath.h"
+
+#include <QJsonDocument>
+#include <QUrl>
+
+namespace nle {
+
+using namespace document;
+using namespace otio;
+
+namespace {
+
+QJsonObject Object(const char* schema, const QString& name)
+{
+    return {{kSchema, QLatin1String(schema)},
+            {QStringLiteral("name"), name},
+            {QStringLiteral("metadata"), QJsonObject()}};
+}
+
+/// What plays, or holds what plays.
+QJsonObject PlayingObject(const char* schema, const QString& name)
+{
+    QJsonObject object = Object(schema, name);
+    object[QStringLiteral("effects")] = QJsonArray();
+    object[QStringLiteral("markers")] = QJsonArray();
+    object[QStringLiteral("enabled")] = true;
+    object[QStringLiteral("source_range")] = QJsonValue();
+    return object;
+}
+
+/// Frames a second; a rate that only stands for one of film on television, as that one.
+double ExactRate(const NLERational& rate)
+{
+    constexpr double slower = 1000.0 / 1001;
+    constexpr double close = 1e-4;
+    const double exact = std::round(ToDouble(rate) / slower) * slower;
+    return std::abs(exact - ToDouble(rate)) < close ? exact : ToDouble(rate);
+}
+
+QJsonObject Time(double value, const NLERational& rate)
+{
+    return {{kSchema, QStringLiteral("RationalTime.1")},
+            {QStringLiteral("value"), value},
+            {QStringLiteral("rate"), ExactRate(rate)}};
+}
+
+QJsonObject Range(double start, double duration, const NLERational& rate)
+{
+    return {{kSchema, QStringLiteral("TimeRange.1")},
+            {QStringLiteral("start_time"), Time(start, rate)},
+            {QStringLiteral("duration"), Time(duration, rate)}};
+}
+
+QString BagText(const TimelineNode& node, const wchar_t* key)
+{
+    const auto& values = node.Bag().All();
+    const auto value = values.find(key);
+    const auto* text =
+        value == values.end() ? nullptr : std::get_if<PropertyBag::Text>(&value->second);
+    return text ? FromWide(**text) : QString();
+}
+
+QJsonDocument BagJson(const TimelineNode& node, const wchar_t* key)
+{
+    return QJsonDocument::fromJson(BagText(node, key).toUtf8());
+}
+
+double MediaStart(const TimelineNode& node)
+{
+    double start = 0;
+    node.Bag().GetDouble(kMediaStart, &start);
+    return IsFinite(start) ? start : 0;
+}
+
+QString NameOf(const TimelineNode& node)
+{
+    const QString kept = BagText(node, kName);
+    if (!kept.isEmpty())
+        return kept;
+    if (const auto* media = dynamic_cast<const MediaClip*>(&node))
+        return media->Media().path.section(QLatin1Char('/'), -1);
+    const auto* text = dynamic_cast<const TextClip*>(&node);
+    return text ? text->Text().section(QLatin1Char('\n'), 0, 0) : QString();
+}
+
+bool HasPicture(const TimelineNode& node)
+{
+    const auto* media = dynamic_cast<const MediaClip*>(&node);
+    return !media || media->Media().kind != NLEMedia_Audio;
+}
+
+bool HasSound(const TimelineNode& node)
+{
+    const auto* media = dynamic_cast<const MediaClip*>(&node);
+    return media ? media->Media().audioStream >= 0
+                 : dynamic_cast<const CompositeNode*>(&node) != nullptr;
+}
+
+/// The effects by which other programs know how fast the clip plays.
+QJsonArray SpeedEffects(const TimelineNode& node)
+{
+    if (!node.IsFrozen() && node.Speed() == 1)
+        return {};
+    const char* const name = node.IsFrozen() ? "FreezeFrame" : "LinearTimeWarp";
+    QJsonObject effect = Object(node.IsFrozen() ? "FreezeFrame.1" : "LinearTimeWarp.1", QString());
+    effect[QStringLiteral("effect_name")] = QLatin1String(name);
+    effect[QStringLiteral("time_scalar")] = node.IsFrozen() ? 0 : node.Speed();
+    return {effect};
+}
+
+QJsonObject GapOf(std::int64_t frames, const NLERational& rate)
+{
+    QJsonObject gap = PlayingObject("Gap.1", QString());
+    gap[QStringLiteral("source_range")] = Range(0, double(frames), rate);
+    return gap;
+}
+
+void AppendTransition(const TimelineNode& clip, const wchar_t* key, QJsonArray& children)
+{
+    const QJsonObject transition = BagJson(clip, key).object();
+    if (!transition.isEmpty())
+        children.append(transition);
+}
+
+} // namespace
+
+QByteArray OtioWriter::Write(const TimelineNode& root)
+{
+    const auto* composite = dynamic_cast<const CompositeNode*>(&root);
+    const QJsonObject document =
+        composite ? Timeline(*composite) : Item(root, root.Range(), 0, false);
+    return QJsonDocument(document).toJson();
+}
+
+QJsonObject OtioWriter::Timeline(const CompositeNode& node)
+{
+    QJsonObject timeline = Object("Timeline.1", NameOf(node));
+    timeline[QStringLiteral("metadata")] = Metadata(node, 0);
+    timeline[QStringLiteral("global_start_time")] = Time(0, node.FrameRate());
+    timeline[QStringLiteral("tracks")] = Stack(node);
+    return timeline;
+}
+
+QJsonObject OtioWriter::Stack(const CompositeNode& node)
+{
+    Orders orders;
+    for (const NLEComPtr<TimelineNode>& clip : node.Clips())
+        orders[clip.get()] = orders.size();
+    const DocumentLanes lanes = LanesOf(node);
+    QJsonArray tracks;
+    QJsonArray twins;
+    for (const DocumentLane& lane : lanes.lanes) {
+        Clips sounds;
+        bool hasPicture = false;
+        for (const auto& [position, clip] : lane.clips) {
+            hasPicture = hasPicture || HasPicture(*clip);
+            if (HasSound(*clip))
+                sounds[position] = clip;
+        }
+        const bool isSound = !hasPicture || lane.streams == NLERender_AudioOnly;
+        tracks.append(Track(lane.clips, orders, isSound, false));
+        if (!isSound && lane.streams == NLERender_All && !sounds.empty())
+            twins.append(Track(sounds, orders, true, true));
+    }
+    for (const QJsonValue twin : twins)
+        tracks.append(twin);
+    if (!lanes.unplaced.empty())
+        tracks.append(Unplaced(lanes.unplaced, orders));
+    QJsonObject stack = PlayingObject("Stack.1", NameOf(node));
+    stack[QStringLiteral("children")] = tracks;
+    const QJsonArray markers = BagJson(node, kMarkers).array();
+    stack[QStringLiteral("markers")] = markers;
+    return stack;
+}
+
+QJsonObject OtioWriter::Track(const Clips& clips, const Orders& orders, bool isSound, bool isTwin)
+{
+    QJsonArray children;
+    std::int64_t end = 0;
+    for (const auto& [position, clip] : clips) {
+        const Placement placement = VisiblePart(*clip);
+        if (position > end)
+            children.append(GapOf(position - end, clip->FrameRate()));
+        if (!isTwin)
+            AppendTransition(*clip, kTransitionBefore, children);
+        children.append(Item(*clip, placement.range, orders.value(clip), isTwin));
+        if (!isTwin)
+            AppendTransition(*clip, kTransitionAfter, children);
+        end = placement.End();
+    }
+    QJsonObject track = PlayingObject("Track.1", QString());
+    track[QStringLiteral("kind")] = isSound ? QStringLiteral("Audio") : QStringLiteral("Video");
+    track[QStringLiteral("children")] = children;
+    if (isTwin)
+        track[QStringLiteral("metadata")] =
+            QJsonObject{{kOwn, QJsonObject{{QStringLiteral("kind"), kTwin}}}};
+    return track;
+}
+
+QJsonObject OtioWriter::Unplaced(const std::vector<const TimelineNode*>& clips,
+                                 const Orders& orders)
+{
+    QJsonArray children;
+    for (const TimelineNode* clip : clips) {
+        const NLERange range = clip->Range();
+        children.append(Item(*clip, NLERangeLength(range) > 0 ? range : NLERange{0, 0},
+                             orders.value(clip), false));
+    }
+    QJsonObject track = PlayingObject("Track.1", QString());
+    track[QStringLiteral("kind")] = QStringLiteral("Video");
+    track[QStringLiteral("enabled")] = false;
+    track[QStringLiteral("children")] = children;
+    track[QStringLiteral("metadata")] =
+        QJsonObject{{kOwn, QJsonObject{{QStringLiteral("kind"), kUnplaced}}}};
+    return track;
+}
+
+QJsonObject OtioWriter::Item(const TimelineNode& node, const NLERange& range, int order,
+                             bool isTwin)
+{
+    const auto* composite = dynamic_cast<const CompositeNode*>(&node);
+    QJsonObject item = composite ? Stack(*composite) : PlayingObject("Clip.1", NameOf(node));
+    double start = range.in * node.Speed();
+    if (node.IsFrozen())
+        start = node.MakeSnapshot()->frozenFrame.value_or(0);
+    start += MediaStart(node) * ExactRate(node.FrameRate());
+    item[QStringLiteral("source_range")] =
+        Range(start, double(NLERangeLength(range)), node.FrameRate());
+    item[QStringLiteral("effects")] = SpeedEffects(node);
+    item[QStringLiteral("enabled")] = node.IsEnabled();
+    item[QStringLiteral("markers")] = BagJson(node, kMarkers).array();
+    if (!composite)
+        item[QStringLiteral("media_reference")] = MediaReference(node);
+    if (!isTwin)
+        item[QStringLiteral("metadata")] = Metadata(node, order);
+    return item;
+}
+
+QJsonObject OtioWriter::MediaReference(const TimelineNode& node)
+{
+    QJsonObject reference = Object("GeneratorReference.1", QString());
+    reference[QStringLiteral("available_range")] = QJsonValue();
+    if (const auto* color = dynamic_cast<const ColorClip*>(&node)) {
+        reference[QStringLiteral("generator_kind")] = QStringLiteral("SolidColor");
+        reference[QStringLiteral("parameters")] =
+            QJsonObject{{QStringLiteral("color"), ColorText(color->Argb())}};
+        return reference;
+    }
+    if (const auto* text = dynamic_cast<const TextClip*>(&node)) {
+        reference[QStringLiteral("generator_kind")] = QStringLiteral("Text");
+        reference[QStringLiteral("parameters")] =
+            QJsonObject{{QStringLiteral("text"), PlainText(text->Text())},
+                        {QStringLiteral("family"), PlainText(text->Family())}};
+        return reference;
+    }
+    const MediaInfo& media = static_cast<const MediaClip&>(node).Media();
+    reference[QStringLiteral("available_image_bounds")] = QJsonValue();
+    const bool hasFrames = media.frameCount > 0 && IsRate(media.frameRate);
+    if (hasFrames && media.kind != NLEMedia_Image) {
+        const double start = MediaStart(node) * ExactRate(media.frameRate);
+        reference[QStringLiteral("available_range")] =
+            Range(start, double(media.frameCount), media.frameRate);
+    }
+    const bool hasFile = node.Bag().IntOr(kNoFile, 0) == 0 || media.kind != NLEMedia_Offline;
+    reference[kSchema] =
+        hasFile ? QStringLiteral("ExternalReference.1") : QStringLiteral("MissingReference.1");
+    if (hasFile)
+        reference[QStringLiteral("target_url")] = MediaUrl(media.path, m_folder);
+    return reference;
+}
+
+QJsonObject OtioWriter::Metadata(const TimelineNode& node, int order)
+{
+    QJsonObject own;
+    const auto put = [&own](const QString& name, const QString& text) {
+        own[EncodeText(name.mid(kOwnPrefix.size()))] = EncodeText(text);
+    };
+    for (const auto& [name, text] : OwnTexts(node, order, m_folder))
+        put(name, text);
+    if (const auto* text = dynamic_cast<const TextClip*>(&node)) {
+        put(kExactText, text->Text());
+        put(kExactFamily, text->Family());
+    }
+    QJsonObject metadata = BagJson(node, kMetadata).object();
+    metadata[kOwn] = own;
+    return metadata;
+}
+
+} // namespace nle

@@ -1,0 +1,257 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// Documents of the open engine as the framework's own player shows and sounds them.
+#include "CommonLib/NLEWraper/VideoKeyFrameSetting.h"
+#include "EngineApi/INLEMixerSetting.h"
+#include "EngineApi/INLEStreamProcess.h"
+#include "EngineApi/INLETransform.h"
+#include "EngineApi/NLEKey.h"
+#include "tests/support/EngineFixture.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <functional>
+
+class tst_DocumentPlayer;
+/// Puts clips into an empty project.
+using Fill = std::function<void(const tst_DocumentPlayer&, const Node& project)>;
+Q_DECLARE_METATYPE(Fill)
+
+class tst_DocumentPlayer : public QObject, public EngineFixture
+{
+    Q_OBJECT
+
+    static constexpr NLESizeF kHalf = {0.5, 0.5};
+
+    /// What the player makes of a project's first \a frames frames, as a clip; null when it fails.
+    Node Played(const Node& project, int frames) const
+    {
+        const QString document = Path("player.mlt");
+        const QString result = Path("played.mkv");
+        QFile::remove(result);
+        if (!Save(project, document))
+            return {};
+        const QStringList arguments =
+            QStringList{document, "in=0", QString("out=%1").arg(frames - 1), "-consumer",
+                        "avformat:" + result} +
+            QString("vcodec=png pix_fmt=rgb24 acodec=pcm_s16le ar=48000 channels=2 real_time=-1")
+                .split(' ');
+        // The player's consumer now and then hangs at its start, whatever it plays.
+        for (int attempt = 0; attempt < 5; ++attempt) {
+            QProcess melt;
+            // It asks for a display before it takes Qt's other platforms.
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert("DISPLAY", ":0");
+            melt.setProcessEnvironment(environment);
+            melt.start("melt", arguments);
+            if (melt.waitForFinished(20000))
+                return EngineFixture::Media(result);
+            melt.kill();
+            melt.waitForFinished();
+        }
+        return {};
+    }
+
+    /// Mean difference of the colours of two pictures, 0 to 255.
+    static double Difference(const QImage& a, const QImage& b)
+    {
+        double sum = 0;
+        for (int y = 0; y < a.height(); ++y) {
+            for (int x = 0; x < a.width(); ++x) {
+                const QRgb first = a.pixel(x, y);
+                const QRgb second = b.pixel(x, y);
+                sum += std::abs(qRed(first) - qRed(second)) +
+                       std::abs(qGreen(first) - qGreen(second)) +
+                       std::abs(qBlue(first) - qBlue(second));
+            }
+        }
+        return sum / 3 / a.width() / a.height();
+    }
+
+    template <typename Facility, typename... Values, typename... Given>
+    static void Set(const Node& clip, HRESULT (Facility::*setter)(Values...), Given... values)
+    {
+        (clip.query<Facility>().get()->*setter)(values...);
+    }
+
+    Node Clip(const char* name = "clip.mp4") const { return EngineFixture::Media(Path(name)); }
+    /// Above all of a bright project.
+    void OnColour(const Node& project, const Node& clip) const
+    {
+        Add(project, Colour(QColor(40, 90, 160)), 0, 0);
+        Add(project, clip, 0, 1);
+    }
+
+private slots:
+    void initTestCase()
+    {
+        if (QStandardPaths::findExecutable("melt").isEmpty())
+            QSKIP("the framework's player, melt, is not installed");
+        TestClip clip;
+        clip.frames = 60;
+        clip.audioCodec = "aac";
+        QCOMPARE(MakeTestClip(Path("clip.mp4"), clip), QString());
+        clip.size = QSize(160, 160);
+        clip.audioCodec.clear();
+        QCOMPARE(MakeTestClip(Path("square.mp4"), clip), QString());
+        QVERIFY(QFile::copy(Path("square.mp4"), Path("50% of 100%25.mp4")));
+        QVERIFY(PaintFrameNumber(77, QSize(80, 45)).save(Path("still.png")));
+    }
+
+    void pictures_data()
+    {
+        using T = tst_DocumentPlayer;
+        QTest::addColumn<Fill>("fill");
+        QTest::addColumn<double>("most");
+        const auto row = [](const char* name, double most, const Fill& fill) {
+            QTest::newRow(name) << fill << most;
+        };
+        row("a clip of the project's shape", 3,
+            [](const T& t, const Node& p) { t.Add(p, t.Trimmed(t.Clip(), 7, 36)); });
+        row("another shape, smaller, a percent sign in its name", 3,
+            [](const T& t, const Node& p) { t.OnColour(p, t.Clip("50% of 100%25.mp4")); });
+        row("a small still picture", 3,
+            [](const T& t, const Node& p) { t.OnColour(p, t.Clip("still.png")); });
+        const auto margin = [&row](const char* name, tagNLEMarginMode mode) {
+            row(name, 4, [mode](const T& t, const Node& p) {
+                const Node clip = t.Clip("square.mp4");
+                clip->SetMarginMode(mode);
+                t.OnColour(p, clip);
+            });
+        };
+        margin("filling the frame", NLEMargin_Fill);
+        margin("stretched", NLEMargin_Stretch);
+        margin("pixel for pixel", NLEMargin_None);
+        row("moved, smaller and turned", 4, [](const T& t, const Node& p) {
+            const Node clip = t.Clip();
+            t.OnColour(p, clip);
+            const NLEPointF center = {0.3, 0.6};
+            Set(clip, &INLETransform::SetCenter, &center);
+            Set(clip, &INLETransform::SetScale, &kHalf);
+            Set(clip, &INLETransform::SetRotation, 30.0);
+        });
+        row("half as opaque", 3, [](const T& t, const Node& p) {
+            const Node clip = t.Clip();
+            t.OnColour(p, clip);
+            Set(clip, &INLEBlendSetting::SetAlpha, 128);
+        });
+        row("another mode of blending", 4, [](const T& t, const Node& p) {
+            const Node clip = t.Clip();
+            t.OnColour(p, clip);
+            Set(clip, &INLEBlendSetting::SetMode, 2);
+        });
+        row("twice as fast", 3, [](const T& t, const Node& p) {
+            const Node clip = t.Clip();
+            t.BagOf(clip)->SetRational(NLEKey::Speed::kScale, {2, 1});
+            t.BagOf(clip)->SetInt(NLEKey::Speed::kEnabled, 1);
+            t.Add(p, t.Trimmed(clip, 4, 29));
+        });
+        row("frozen", 3, [](const T& t, const Node& p) {
+            const Node clip = t.Clip();
+            t.BagOf(clip)->SetInt(NLEKey::Freeze::kFreeze_Frame, 33);
+            t.BagOf(clip)->SetInt(NLEKey::Freeze::kFreeze_Enabled, 1);
+            t.Add(p, t.Trimmed(clip, 0, 99));
+        });
+        row("clips of one level, of which the one that was added last covers", 3,
+            [](const T& t, const Node& p) {
+                t.Add(p, t.Colour(Qt::red), 10, 3);
+                t.Add(p, t.Trimmed(t.Clip(), 0, 40), 0, 3);
+            });
+        row("a text", 6, [](const T& t, const Node& p) {
+            t.OnColour(p, t.provider->CreateTipTextTimeline("Hello World", "DejaVu Sans"));
+        });
+        row("a small clip inside of another timeline", 3, [](const T& t, const Node& p) {
+            const Node inner = t.provider->CreateVirtualTimeline(11);
+            t.Add(inner, t.Clip("still.png"), 5);
+            t.OnColour(p, inner);
+            Set(inner, &INLETransform::SetScale, &kHalf);
+        });
+    }
+
+    void pictures()
+    {
+        QFETCH(Fill, fill);
+        QFETCH(double, most);
+        const Node project = Project();
+        fill(*this, project);
+        const Node played = Played(project, 21);
+        QVERIFY(played);
+        for (const int frame : {12, 20}) {
+            const QImage wanted = Frame(project, frame);
+            const QImage found = Frame(played, frame);
+            QVERIFY(!found.isNull() && !wanted.isNull());
+            const double difference = Difference(found, wanted);
+            QVERIFY2(difference <= most, qPrintable(QString::number(difference)));
+        }
+    }
+
+    void sounds_data()
+    {
+        using T = tst_DocumentPlayer;
+        using Sound = INLEAudioStreamProcess;
+        QTest::addColumn<Fill>("fill");
+        const auto row = [](const char* name, const std::function<void(const Node&)>& change) {
+            QTest::newRow(name) << Fill([change](const T& t, const Node& p) {
+                const Node clip = t.Trimmed(t.Clip(), 5, 44);
+                t.Add(p, clip, 3);
+                change(clip);
+            });
+        };
+        row("as it is", [](const Node&) {});
+        row("gain", [](const Node& clip) { Set(clip, &Sound::SetVolume, 0.25); });
+        row("mute", [](const Node& clip) { Set(clip, &Sound::SetMute, true); });
+        row("balance", [](const Node& clip) { Set(clip, &Sound::SetBalance, -0.5); });
+        row("fades", [](const Node& clip) {
+            Set(clip, &Sound::SetFadeInEnable, true);
+            Set(clip, &Sound::SetFadeInRange, 10);
+            Set(clip, &Sound::SetFadeOutEnable, true);
+            Set(clip, &Sound::SetFadeOutRange, 20);
+        });
+        row("a volume curve", [](const Node& clip) {
+            NLEComPtr<INLEKeyFrameParam> curve;
+            clip.query<Sound>()->GetVolumeKeyFrameParam(curve.put());
+            curve->SetPoint(0.2, 1);
+            curve->SetPoint(0.8, 0.1);
+            curve->SetPoint(1.2, 0.7);
+        });
+        row("twice as fast", [](const Node& clip) {
+            BagOf(clip)->SetRational(NLEKey::Speed::kScale, {2, 1});
+            BagOf(clip)->SetInt(NLEKey::Speed::kEnabled, 1);
+        });
+        row("frozen",
+            [](const Node& clip) { BagOf(clip)->SetInt(NLEKey::Freeze::kFreeze_Enabled, 1); });
+        row("picture alone", [](const Node& clip) {
+            BagOf(clip)->SetInt(NLEKey::Render::kRender_Mode, NLERender_VideoOnly);
+        });
+        QTest::newRow("tracks of a mixer, one of them alone")
+            << Fill([](const T& t, const Node& p) {
+                   t.Add(p, t.Clip(), 0, 4);
+                   t.Add(p, t.Clip(), 0, 5);
+                   const tagMixerParam strip = {0.5, 0.25, 0, 1};
+                   Set(p, &INLEMixerSetting::SetParam, 5, &strip);
+               });
+    }
+
+    void sounds()
+    {
+        QFETCH(Fill, fill);
+        const Node project = Project();
+        fill(*this, project);
+        const int frames = TotalOf(project).out + 1;
+        const Node played = Played(project, frames);
+        QVERIFY(played);
+        for (int frame = 1; frame < frames - 1; ++frame) {
+            const Stereo wanted = Sound(project, frame);
+            const Stereo found = Sound(played, frame);
+            for (const size_t channel : {0, 1}) {
+                const QString deviation =
+                    Deviation(Loudness(found[channel]), Loudness(wanted[channel]), 0.03);
+                QVERIFY2(deviation.isEmpty(),
+                         qPrintable(QString("frame %1: %2").arg(frame).arg(deviation)));
+            }
+        }
+    }
+};
+
+QTEST_MAIN(tst_DocumentPlayer)
+#include "tst_document_player.moc"
