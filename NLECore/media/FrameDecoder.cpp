@@ -46,6 +46,13 @@ struct DecodedPicture
     bool isValid = false;
     std::int64_t index = -1;
     std::int64_t ticks = 0;
+    /// Pictures that were decoded one after the other have numbers that do so.
+    std::int64_t number = -1;
+
+    NumberedPicture Numbered() const
+    {
+        return isValid ? NumberedPicture{frame.get(), number} : NumberedPicture{};
+    }
 };
 
 } // namespace
@@ -70,6 +77,13 @@ struct FrameDecoder::Private
     /// The picture on show and the one after it, as far as they are decoded.
     DecodedPicture current;
     DecodedPicture next;
+    /// The picture before the current one, kept for the deinterlacer once it was needed.
+    DecodedPicture previous;
+    Deinterlacer deinterlacer;
+    bool keepsPrevious = false;
+    std::int64_t lastNumber = 0;
+    /// Number of the first picture since decoding began anew.
+    std::int64_t firstNumber = 1;
     /// Packets read ahead, not yet decoded.
     std::deque<PacketPtr> queue;
     bool isInputAtEnd = false;
@@ -102,8 +116,14 @@ struct FrameDecoder::Private
     bool Feed(std::int64_t keepFrom);
     PacketPtr ReadPacket();
     std::optional<std::int64_t> ReadToKeyFrame(std::int64_t frame, std::int64_t keyLimit);
+    void Forget();
     void Reset();
     void NoteEnd();
+    void ShiftPictures();
+    const AVFrame* Shown(std::int64_t frame, const Deinterlacing& deinterlacing);
+    bool FindNeighbours(std::int64_t frame);
+    bool DecodeThrough(std::int64_t first, std::int64_t frame, std::int64_t keepFrom);
+    bool HasPrevious() const;
 
     AVRational FrameDuration() const
     {
@@ -193,15 +213,24 @@ std::optional<std::int64_t> FrameDecoder::Private::ReadToKeyFrame(std::int64_t f
     return keyTicks;
 }
 
-void FrameDecoder::Private::Reset()
+// The next picture will not be the one after the last.
+void FrameDecoder::Private::Forget()
 {
     avcodec_flush_buffers(codec.get());
+    previous.isValid = false;
     current.isValid = false;
     next.isValid = false;
+    isFromStart = false;
+    ++lastNumber;
+    firstNumber = lastNumber + 1;
+}
+
+void FrameDecoder::Private::Reset()
+{
+    Forget();
     queue.clear();
     isInputAtEnd = false;
     isDrained = false;
-    isFromStart = false;
     latestTicks = std::numeric_limits<std::int64_t>::min();
     stampedPackets = 0;
     hasCountedTimes = false;
@@ -257,6 +286,7 @@ bool FrameDecoder::Private::DecodeNext(std::int64_t keepFrom)
             next.ticks = TicksOf(*next.frame);
             next.index = IndexOf(next.ticks);
             next.isValid = true;
+            next.number = ++lastNumber;
             clockTicks = next.ticks;
             return true;
         }
@@ -264,6 +294,14 @@ bool FrameDecoder::Private::DecodeNext(std::int64_t keepFrom)
         isDrained = isOver || ++rounds > kMaxRoundsPerPicture;
     }
     return false;
+}
+
+void FrameDecoder::Private::ShiftPictures()
+{
+    if (keepsPrevious)
+        std::swap(previous, current);
+    std::swap(current, next);
+    next.isValid = false;
 }
 
 // At a constant rate the picture after this one belongs to a later frame, so it need not be decoded
@@ -296,8 +334,7 @@ bool FrameDecoder::Private::Advance(std::int64_t frame, std::int64_t keepFrom)
             return false;
         if (current.isValid && next.index > frame)
             return true;
-        std::swap(current, next);
-        next.isValid = false;
+        ShiftPictures();
         if (isTooLate) {
             firstFrame = current.index;
             return true;
@@ -361,12 +398,8 @@ bool FrameDecoder::Private::CanContinueTo(std::int64_t frame)
         return true;
     if (distance > kMaxReadAhead)
         return false;
-    if (ReadToKeyFrame(frame, lastTick)) {
-        avcodec_flush_buffers(codec.get());
-        current.isValid = false;
-        next.isValid = false;
-        isFromStart = false;
-    }
+    if (ReadToKeyFrame(frame, lastTick))
+        Forget();
     return true;
 }
 
@@ -377,9 +410,11 @@ bool FrameDecoder::Private::Locate(std::int64_t frame)
         return false;
     if (Shows(frame))
         return true;
-    bool isFound = CanContinueTo(frame) && Advance(frame, frame);
+    // Where the picture before is needed, decoding goes on from that one.
+    const std::int64_t from = keepsPrevious ? std::max(firstFrame, frame - 1) : frame;
+    bool isFound = CanContinueTo(from) && Advance(frame, from);
     if (!isFound)
-        isFound = SeekAndDecode(frame, frame);
+        isFound = SeekAndDecode(from, from) && Advance(frame, from);
     // In a gap, or at the end, the picture to show is one that was skipped on the way.
     if (isFound && skippedTo > current.index)
         isFound = SeekAndDecode(frame, skippedTo);
@@ -400,6 +435,50 @@ void FrameDecoder::Private::NoteEnd()
     // them. The length of the file counts them, also where the file was cut.
     if (codec->codec_id == AV_CODEC_ID_THEORA)
         endFrame = std::max(endFrame, std::int64_t(description.frameCount) - 1);
+}
+
+// ---- deinterlacing
+
+bool FrameDecoder::Private::HasPrevious() const
+{
+    const bool isFirst = isFromStart && current.number == firstNumber;
+    const bool isKept = previous.isValid && previous.number + 1 == current.number;
+    return current.isValid && (isFirst || (isKept && skippedTo <= previous.index));
+}
+
+bool FrameDecoder::Private::DecodeThrough(std::int64_t first, std::int64_t frame,
+                                          std::int64_t keepFrom)
+{
+    return SeekAndDecode(first, keepFrom) && Advance(frame, keepFrom) && HasPrevious();
+}
+
+// Decodes the pictures before and after the current one, which is that of the frame. Where there is
+// none before that can be decoded, the current one may be lost.
+bool FrameDecoder::Private::FindNeighbours(std::int64_t frame)
+{
+    keepsPrevious = true;
+    const std::int64_t before = current.index - 1;
+    const bool isFound = HasPrevious() || DecodeThrough(before, frame, before) ||
+                         DecodeThrough(before, frame, std::numeric_limits<std::int64_t>::min());
+    if (isFound && !next.isValid && !isDrained && !DecodeNext(frame))
+        NoteEnd();
+    return isFound;
+}
+
+const AVFrame* FrameDecoder::Private::Shown(std::int64_t frame, const Deinterlacing& deinterlacing)
+{
+    if (!Locate(frame))
+        return nullptr;
+    const bool isConcerned = Deinterlacer::Concerns(*current.frame, description,
+                                                    stream->codecpar->codec_id, deinterlacing);
+    if (!isConcerned)
+        return current.frame.get();
+    if (!FindNeighbours(frame) && !Locate(frame))
+        return nullptr;
+    const AVFrame* const drawn =
+        deinterlacer.Draw(previous.Numbered(), current.Numbered(), next.Numbered(), description,
+                          deinterlacing, threads);
+    return drawn != nullptr ? drawn : current.frame.get();
 }
 
 // ---- opening
@@ -423,6 +502,8 @@ bool FrameDecoder::Private::Start(QString* error)
     if (!file->Matches(*info) && stream->start_time != AV_NOPTS_VALUE)
         startTicks = stream->start_time;
     canSkip = MarksUnreferenced(stream->codecpar->codec_id);
+    keepsPrevious = description.fieldOrder == NLEField_TopFirst ||
+                    description.fieldOrder == NLEField_BottomFirst;
     FindFirstPicture();
     return true;
 }
@@ -443,8 +524,7 @@ void FrameDecoder::Private::FindFirstPicture()
         return;
     startTicks = next.ticks;
     next.index = 0;
-    std::swap(current, next);
-    next.isValid = false;
+    ShiftPictures();
 }
 
 // ---- the public face
@@ -469,7 +549,8 @@ std::unique_ptr<FrameDecoder> FrameDecoder::Open(std::shared_ptr<const MediaInfo
     return std::unique_ptr<FrameDecoder>(new FrameDecoder(std::move(state)));
 }
 
-QImage FrameDecoder::Picture(int frame, const QSize& size, PictureDepth depth)
+QImage FrameDecoder::Picture(int frame, const QSize& size, const Deinterlacing& deinterlacing,
+                             PictureDepth depth)
 {
     if (frame < 0 || size.isEmpty())
         return {};
@@ -479,18 +560,17 @@ QImage FrameDecoder::Picture(int frame, const QSize& size, PictureDepth depth)
         return depth == PictureDepth::Deep ? picture.convertToFormat(QImage::Format_RGBA64)
                                            : picture;
     }
-    if (!d->Locate(frame))
-        return {};
-    return d->scaler.Convert(*d->current.frame, d->description, size, depth);
+    const AVFrame* const picture = d->Shown(frame, deinterlacing);
+    return picture != nullptr ? d->scaler.Convert(*picture, d->description, size, depth) : QImage();
 }
 
-const AVFrame* FrameDecoder::Decoded(int frame)
+const AVFrame* FrameDecoder::Decoded(int frame, const Deinterlacing& deinterlacing)
 {
     const bool isUpright = d->description.rotation == 0 && !d->description.mirrored;
-    if (d->source || !isUpright || frame < 0 || !d->Locate(frame))
+    if (d->source || !isUpright || frame < 0)
         return nullptr;
-    const AVFrame* const decoded = d->current.frame.get();
-    return ForeignColoursOf(*decoded, d->description) ? nullptr : decoded;
+    const AVFrame* const shown = d->Shown(frame, deinterlacing);
+    return shown != nullptr && !ForeignColoursOf(*shown, d->description) ? shown : nullptr;
 }
 
 int FrameDecoder::Position() const

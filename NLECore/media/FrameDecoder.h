@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "NLECore/media/Deinterlacer.h"
 #include "NLECore/media/MediaInfo.h"
 
 #include <QImage>
@@ -41,13 +42,15 @@ public:
     /// the colours of a project (ITU-R BT.709) with straight alpha. Null for a negative frame, an
     /// empty size, past the end of the data, and when nothing could be decoded. A still picture is
     /// the same for every frame. A picture that is damaged in the file leaves the one before it in
-    /// place.
-    QImage Picture(int frame, const QSize& size, PictureDepth depth = PictureDepth::Usual);
+    /// place. Which pictures are deinterlaced \a deinterlacing says; frame N shows picture N then
+    /// as well.
+    QImage Picture(int frame, const QSize& size, const Deinterlacing& deinterlacing = {},
+                   PictureDepth depth = PictureDepth::Usual);
 
-    /// The picture of \a frame as it was decoded, valid until the next call; null where Picture
-    /// gives none, when it does not stand upright as it is or has other colours than a project, and
-    /// of what is no film.
-    const AVFrame* Decoded(int frame);
+    /// The picture of \a frame as it was decoded and deinterlaced, valid until the next call; null
+    /// where Picture gives none, when it does not stand upright as it is or has other colours than
+    /// a project, and of what is no film.
+    const AVFrame* Decoded(int frame, const Deinterlacing& deinterlacing = {});
 
     /// Frame number of the picture decoded last; -1 when none was yet.
     int Position() const;

@@ -2,6 +2,7 @@
 #include "NLECore/media/MediaInfo.h"
 
 #include "NLECore/media/ColourConverter_p.h"
+#include "NLECore/media/FieldOrder_p.h"
 #include "NLECore/media/FrameGrid_p.h"
 #include "NLECore/media/JoinedMedia_p.h"
 #include "NLECore/media/MediaFile_p.h"
@@ -223,6 +224,7 @@ MediaStream Describe(const MediaFile& file, const AVStream* stream, const QStrin
         result.profileName = profile;
     result.durationUs = DurationUs(file.Context(), stream);
     result.startTicks = StartTicks(stream);
+    result.startUs = StartUs(stream);
     if (result.type == NLEStream_Video)
         DescribePicture(file, stream, path, &result);
     if (result.type == NLEStream_Audio) {
@@ -431,6 +433,7 @@ void MakeVideo(MediaFile& file, MediaInfo* info)
         MediaStream& stream = info->streams[i];
         if (stream.type != NLEStream_Video)
             continue;
+        stream.fieldOrder = FindFieldOrder(file, context->streams[i], info->path);
         ExamineRate(file, context->streams[i], &stream);
         stream.frameCount = CountFrames(file, context->streams[i], stream);
     }
@@ -456,6 +459,16 @@ void MakeAudio(const AVFormatContext* context, MediaInfo* info)
 }
 
 } // namespace
+
+NLESize DisplayedSize(const MediaStream& stream, const NLERational& aspect)
+{
+    const double wanted = NLECommon::ToDouble(aspect);
+    const double pixel = wanted > 0 ? wanted : NLECommon::ToDouble(stream.sampleAspect);
+    if (!(pixel >= 1.0 / kMostPixelAspect && pixel <= kMostPixelAspect))
+        return {stream.width, stream.height};
+    const double width = std::min(std::round(stream.width * pixel), double(INT32_MAX));
+    return {std::max(1, int(width)), stream.height};
+}
 
 void MakeStill(MediaInfo* info)
 {
@@ -498,7 +511,8 @@ std::shared_ptr<const MediaInfo> ProbeFilm(const QString& path, std::int64_t fir
 
     const bool isMoving = !IsStillFormat(context) && !HoldsOnePicture(*file);
     const int main = info->videoStream >= 0 ? info->videoStream : info->audioStream;
-    if (isMoving && !TellsLength(*file, main, info->streams[size_t(main)]))
+    info->isLengthMeasured = isMoving && !TellsLength(*file, main, info->streams[size_t(main)]);
+    if (info->isLengthMeasured)
         MeasureStream(*file, main, &info->streams[size_t(main)]);
 
     if (info->videoStream < 0)

@@ -26,7 +26,7 @@ struct MediaStream
 {
     /// Attached cover pictures are NLEStream_Other.
     NLEStreamType type = NLEStream_Unknown;
-    /// Pixels as displayed, that is after the rotation; the sample aspect is not applied.
+    /// Stored pixels after the rotation; DisplayedSize() applies the sample aspect.
     int width = 0;
     int height = 0;
     /// Clockwise turn from the coded to the displayed picture: 0, 90, 180 or 270 degrees.
@@ -34,6 +34,8 @@ struct MediaStream
     /// The coded picture is mirrored left to right before it is turned.
     bool mirrored = false;
     bool hasAlpha = false;
+    /// Of the stream; single pictures of it may be another way.
+    NLEFieldOrder fieldOrder = NLEField_Progressive;
     ColourTags colours;
     /// Bits of a colour component; 0 when unknown.
     int bitDepth = 0;
@@ -57,13 +59,15 @@ struct MediaStream
     std::string codecName;
     std::string profileName;
     std::int64_t durationUs = 0;
+    /// Time of the first picture or sample in the container, in microseconds.
+    std::int64_t startUs = 0;
     /// Time stamp of the first picture or sample in ticks of the container's stream clock.
     std::int64_t startTicks = 0;
     /// Number of pictures that a decoder holds back to bring them into order of display.
     int reorderDelay = 0;
     /// Pictures stand on the grid of frameRate, so no two of them share one frame number.
     bool constantRate = false;
-    /// Frames of a video stream at frameRate, 1 for a still picture; 0 when unknown.
+    /// Frames with pictures of a video stream at frameRate, 1 for a still picture; 0 when unknown.
     std::uint32_t frameCount = 0;
 };
 
@@ -97,8 +101,12 @@ struct MediaInfo
     /// Indexes of the preferred streams in streams; -1 when there is none.
     int videoStream = -1;
     int audioStream = -1;
-    /// Number of frames at frameRate; 1 for a still picture.
+    /// Number of frames with pictures at frameRate, of frames that last as long as the sound where
+    /// there is no picture; 1 for a still picture. The sound may last longer than the pictures.
     std::uint32_t frameCount = 0;
+    /// The file does not tell its length; that of the preferred stream was measured, those of the
+    /// others are not to be relied on.
+    bool isLengthMeasured = false;
     /// Rate of the video stream; 25/1 for sound and still pictures.
     NLERational frameRate = {25, 1};
     std::int64_t durationUs = 0;
@@ -123,6 +131,15 @@ struct MediaInfo
         return index >= 0 && index < int(streams.size()) ? &streams[size_t(index)] : nullptr;
     }
 };
+
+/// Greatest width of a pixel over its height, and of its height over its width. What a file says
+/// beyond that is taken for a mistake.
+constexpr int kMostPixelAspect = 16;
+
+/// Size of a picture with square pixels that shows as \a stream is meant: with the stored height,
+/// and the width scaled by the pixels' aspect, rounded. \a aspect above 0 counts in place of what
+/// the file says.
+NLESize DisplayedSize(const MediaStream& stream, const NLERational& aspect = {0, 1});
 
 /// Opens the file at \a path, describes and closes it. Only regular local files are opened, and no
 /// format that would lead to other files or to the network. Gives null on failure; then \a error,

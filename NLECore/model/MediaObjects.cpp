@@ -22,6 +22,7 @@ NLEStreamInfo ToEngine(const MediaStream& stream)
     info.frameRate = stream.frameRate;
     info.meanFrameRate = stream.meanRate;
     info.pixelAspect = stream.sampleAspect;
+    info.fieldOrder = stream.fieldOrder;
     info.sampleRate = stream.sampleRate;
     info.channels = stream.channels;
     info.sampleFormat = stream.sampleFormat;
