@@ -208,6 +208,9 @@ private slots:
         row("speed", [play](Kinds& k) { play(k.media, {3, 1}); });
         row("freeze", [hold](Kinds& k) { hold(k.media, 30); });
         row("proxy", [proxy](Kinds& k) { proxy(k.media); });
+        row("shape of pixels", [](Kinds& k) {
+            BagOf(k.media)->SetRational(NLEKey::Source::kPixelAspect, {3, 1});
+        });
         row("key frame angle", [turn](Kinds& k) { turn(k.media, {0, 30, 0, 0, 1, 1, 1, 1}); });
         row("key frame place", [turn](Kinds& k) { turn(k.media, {0, 0, .3, .2, 1, 1, 1, 1}); });
         row("key frame scale", [turn](Kinds& k) { turn(k.media, {0, 0, 0, 0, .5, .5, 1, 1}); });

@@ -59,6 +59,10 @@ QString Other(const QString& value)
 {
     return value + QLatin1Char('x');
 }
+std::vector<int> Other(const std::vector<int>& /*value*/)
+{
+    return {3, 1};
+}
 std::vector<VolumePoint> Other(const std::vector<VolumePoint>& /*value*/)
 {
     return {{-0.5, 0.1}, {2, 16}};
@@ -103,6 +107,11 @@ TransformSettings Other(TransformSettings value)
 AudioSettings Other(AudioSettings value)
 {
     value.volume /= 2;
+    return value;
+}
+SourceSettings Other(SourceSettings value)
+{
+    value.videoStream += 1;
     return value;
 }
 RenderContext Other(RenderContext value)
@@ -256,6 +265,7 @@ private slots:
             [](TimelineNode & node) -> auto& { return node.Transform().settings; });
         AddRows<AudioSettings>([](TimelineNode & node) -> auto& { return node.Audio().settings; });
         AddRows<VideoSettings>([](TimelineNode & node) -> auto& { return node.Video().settings; });
+        AddRows<SourceSettings>([](TimelineNode & node) -> auto& { return node.Source(); });
         AddRows<tagMixerParam>([](TimelineNode & node) -> auto& {
             return node.Mixer().settings.try_emplace(3, kNeutralStrip).first->second;
         });

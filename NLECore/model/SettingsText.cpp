@@ -40,6 +40,11 @@ struct ToText
     {
         return QString::number(double(value), 'g', 17);
     }
+    QString operator()(const NLERational& value) const
+    {
+        return Join({double(value.num), double(value.den)});
+    }
+    QString operator()(const std::vector<int>& numbers) const { return Join(numbers); }
     QString operator()(const NLEPointF& point) const { return Join({point.x, point.y}); }
     QString operator()(const NLESizeF& size) const { return Join({size.width, size.height}); }
     QString operator()(const std::optional<NLERange>& range) const
@@ -150,6 +155,22 @@ public:
         if (!m_parts.isEmpty())
             value = m_parts.takeFirst().toUInt(&ok);
         return ok;
+    }
+    bool Take(NLERational& value)
+    {
+        int num = 0;
+        int den = 0;
+        if (!Take(num) || !Take(den))
+            return false;
+        value = {num, den};
+        return true;
+    }
+    bool Take(std::vector<int>& numbers)
+    {
+        numbers.clear();
+        for (int number = 0; Take(number);)
+            numbers.push_back(number);
+        return !numbers.empty();
     }
     bool Take(NLEPointF& point) { return Take(point.x) && Take(point.y); }
     bool Take(NLESizeF& size) { return Take(size.width) && Take(size.height); }
@@ -320,6 +341,7 @@ DocumentTexts SettingsToText(const TimelineNode& node, const QDir& folder)
     AddChanged(node.Transform().settings, folder, texts);
     AddChanged(node.Audio().settings, folder, texts);
     AddChanged(node.Video().settings, folder, texts);
+    AddChanged(node.Source(), folder, texts);
     const QString keyFrames = KeyFrameText(node.KeyFrames());
     if (!keyFrames.isEmpty())
         texts.emplace_back(PropertyNames<NLEKeyFrameRecord>().front(), keyFrames);
@@ -352,6 +374,7 @@ void SettingsFromText(const QHash<QString, QString>& properties, const FindMedia
     ReadSettings(properties, media, node.Transform().settings);
     ReadSettings(properties, media, node.Audio().settings);
     ReadSettings(properties, media, node.Video().settings);
+    ReadSettings(properties, media, node.Source());
     ReadKeyFrames(properties.value(PropertyNames<NLEKeyFrameRecord>().front()), node.KeyFrames());
     ReadMixer(properties, node.Mixer().settings);
     ReadMarkers(properties, node.Markers().settings);

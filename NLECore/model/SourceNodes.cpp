@@ -7,7 +7,7 @@
 #include "NLECore/media/FontFiles.h"
 #include "NLECore/media/ImageSequence.h"
 #include "NLECore/model/MediaObjects.h"
-#include "NLECore/scene/FrameMath.h"
+#include "NLECore/scene/SourceChoice.h"
 
 #include <algorithm>
 #include <limits>
@@ -70,12 +70,15 @@ HRESULT MediaClip::GetMediaInfo(INLEMediaInfo** info)
 
 HRESULT MediaClip::GetVideoStreamIndex(std::uint32_t* index)
 {
-    return GiveStream(m_media->videoStream, index);
+    return GiveStream(VideoStreamOf(*m_media, Source()), index);
 }
 
 HRESULT MediaClip::GetAudioStreamIndex(std::uint32_t* index)
 {
-    return GiveStream(m_media->audioStream, index);
+    return ComGuard([&] {
+        const std::vector<int> streams = AudioStreamsOf(*m_media, Source());
+        return GiveStream(streams.empty() ? -1 : streams.front(), index);
+    });
 }
 
 HRESULT MediaClip::GetGPUFirst(int* preference)
@@ -142,16 +145,31 @@ int MediaClip::TotalLength() const
 {
     if (IsStill(*m_media) || IsFrozen())
         return LongestStill(FrameRate());
-    const int length = ClampToInt(std::round(
-        FrameTime{double(m_media->frameCount), RateOf(*PlayedMedia())}.NearestAt(FrameRate()) /
-        Speed()));
-    return m_media->frameCount > 0 ? std::max(1, length) : 0;
+    const FrameTime end = LengthOf(*PlayedMedia(), Source());
+    const int length = ClampToInt(std::round(end.NearestAt(FrameRate()) / Speed()));
+    return end.frame > 0 ? std::max(1, length) : 0;
 }
 
 NLESize MediaClip::PictureSize() const
 {
-    const MediaStream* stream = m_media->Stream(m_media->videoStream);
-    return stream ? NLESize{stream->width, stream->height} : NLESize{0, 0};
+    return PictureSizeOf(*m_media, Source());
+}
+
+HRESULT MediaClip::ChangeSource(const SourceSettings& settings)
+{
+    // A choice that was made when the file had other streams, or was there, stays as it is.
+    const bool hasVideo =
+        settings.videoStream == Source().videoStream || HasVideoStream(*m_media, settings);
+    const bool hasAudio =
+        settings.audioStreams == Source().audioStreams || HasAudioStreams(*m_media, settings);
+    if (!hasVideo || !hasAudio)
+        return E_INVALIDARG;
+    const NLERange range = Range();
+    const int length = TotalLength();
+    Source() = settings;
+    if (TotalLength() != length)
+        return SetRange(&range);
+    return S_OK;
 }
 
 NLEComPtr<TimelineNode> MediaClip::CopyContent(bool /*deep*/) const

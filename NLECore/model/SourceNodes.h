@@ -31,6 +31,8 @@ public:
 
     int TotalLength() const override;
     NLESize PictureSize() const override;
+    bool PlaysFile() const override { return true; }
+    HRESULT ChangeSource(const SourceSettings& settings) override;
 
     const MediaInfo& Media() const { return *m_media; }
     int GpuFirst() const { return m_gpuFirst; }

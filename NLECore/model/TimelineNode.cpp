@@ -4,6 +4,7 @@
 #include "Com/ComGuard.h"
 #include "EngineApi/NLEKey.h"
 #include "NLECore/model/CompositeNode.h"
+#include "NLECore/model/SourceKeys.h"
 #include "NLECore/scene/FrameMath.h"
 
 #include <algorithm>
@@ -28,6 +29,8 @@ std::optional<PropertyBag::Value> NodeBag::Read(const std::wstring& key) const
         return m_node->FrameRate();
     if (m_node && key == NLEKey::Render::kRender_TotalFrameCount)
         return m_node->TotalLength();
+    if (m_node && m_node->PlaysFile() && IsSourceKey(key))
+        return SourceValue(m_node->Source(), key);
     return PropertyBag::Read(key);
 }
 
@@ -38,6 +41,10 @@ HRESULT NodeBag::Write(const std::wstring& key, Value value)
     if (m_node && key == NLEKey::Render::kRender_Framerate) {
         const NLERational* rate = std::get_if<NLERational>(&value);
         return rate ? m_node->SetRenderFrameRate(*rate) : E_INVALIDARG;
+    }
+    if (m_node && m_node->PlaysFile() && IsSourceKey(key)) {
+        SourceSettings settings = m_node->Source();
+        return SetSourceValue(settings, key, value) ? m_node->ChangeSource(settings) : E_INVALIDARG;
     }
     // A frozen clip has no length of its own: it goes on playing for as long as it did.
     if (m_node && key == NLEKey::Freeze::kFreeze_Enabled)
@@ -219,6 +226,7 @@ NLEComPtr<TimelineNode> TimelineNode::Copy(bool deep) const
     copy->m_transform.settings = m_transform.settings;
     copy->m_audio.settings = m_audio.settings;
     copy->m_video.settings = m_video.settings;
+    copy->m_source = m_source;
     copy->m_mixer.settings = m_mixer.settings;
     copy->m_markers.settings = m_markers.settings;
     copy->m_keyFrames.Restore(*m_keyFrames.Stored());
@@ -326,6 +334,7 @@ Snapshot TimelineNode::MakeSnapshot() const
     layer->blend = m_blend.settings;
     layer->transform = m_transform.settings;
     layer->audio = m_audio.settings;
+    layer->source = m_source;
     layer->keyFrames = m_keyFrames.Curve();
     layer->context = Context();
     Describe(*layer);

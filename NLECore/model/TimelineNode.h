@@ -104,6 +104,8 @@ public:
     TransformFacet& Transform() { return m_transform; }
     AudioFacet& Audio() { return m_audio; }
     VideoFacet& Video() { return m_video; }
+    SourceSettings& Source() { return m_source; }
+    const SourceSettings& Source() const { return m_source; }
     MixerFacet& Mixer() { return m_mixer; }
     MarkerFacet& Markers() { return m_markers; }
     const MarkerFacet& Markers() const { return m_markers; }
@@ -114,6 +116,12 @@ public:
     const AudioFacet& Audio() const { return m_audio; }
     const VideoFacet& Video() const { return m_video; }
     const MixerFacet& Mixer() const { return m_mixer; }
+
+    /// Whether the node plays a file; then the keys of NLEKey::Source are its settings.
+    virtual bool PlaysFile() const { return false; }
+    /// Takes other settings of what plays a file; E_INVALIDARG, and nothing changed, for streams
+    /// that the file has not.
+    virtual HRESULT ChangeSource(const SourceSettings& /*settings*/) { return E_NOTIMPL; }
 
     /// What every render of the project sees, if the node is one.
     virtual std::optional<RenderContext> OwnContext() const { return std::nullopt; }
@@ -137,6 +145,7 @@ private:
 
     const std::uint32_t m_id;
     PlacementSettings m_placement;
+    SourceSettings m_source;
     NLERational m_frameRate;
     bool m_current = false;
     CompositeNode* m_parent = nullptr;

@@ -121,7 +121,8 @@ HRESULT ThumbnailExtractor::Extract(int frame, NLESize wanted, INLEPicture** pic
         if (!stream || !HasFrame(*stream, frame))
             return E_FAIL;
         // Decoding straight to the wanted size is cheapest; enlarging is the caller's business.
-        QSize size(stream->width, stream->height);
+        const NLESize displayed = DisplayedSize(*stream);
+        QSize size(displayed.width, displayed.height);
         if (wanted.width > 0 && wanted.height > 0 && wanted.width <= size.width() &&
             wanted.height <= size.height())
             size = QSize(wanted.width, wanted.height);

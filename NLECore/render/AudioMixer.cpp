@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/render/AudioMixer.h"
 
-#include "NLECore/scene/FrameMath.h"
+#include "NLECore/scene/SourceChoice.h"
 
 #include <QStringList>
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <numeric>
 #include <utility>
 
@@ -133,12 +134,24 @@ void AudioMixer::DropIdleVoices(int count)
 void AudioMixer::ReadMedia(const Layer& layer, Voice& voice, std::int64_t first, int count,
                            float* samples)
 {
-    if (!std::exchange(voice.isOpened, true))
-        voice.decoder = AudioDecoder::Open(layer.media, layer.media->audioStream, nullptr);
+    if (!std::exchange(voice.isOpened, true)) {
+        for (const int stream : AudioStreamsOf(*layer.media, layer.source)) {
+            if (auto decoder = AudioDecoder::Open(layer.media, stream, nullptr))
+                voice.decoders.push_back(std::move(decoder));
+        }
+    }
     // Material that plays faster is read as if the output had fewer samples a second.
     const int rate = std::max(1, int(std::lround(m_sampleRate / layer.speed)));
-    if (voice.decoder)
-        voice.decoder->Read(first, count, rate, m_channels, samples);
+    std::vector<float> block;
+    for (const auto& decoder : voice.decoders) {
+        if (decoder == voice.decoders.front()) {
+            decoder->Read(first, count, rate, m_channels, samples);
+            continue;
+        }
+        block.resize(size_t(count) * size_t(m_channels));
+        decoder->Read(first, count, rate, m_channels, block.data());
+        std::transform(block.begin(), block.end(), samples, samples, std::plus<>());
+    }
 }
 
 void AudioMixer::ApplyGains(const Layer& layer, std::int64_t first, int count, float* samples) const

@@ -28,7 +28,7 @@ private:
     /// What is kept of one layer between reads.
     struct Voice
     {
-        std::unique_ptr<AudioDecoder> decoder;
+        std::vector<std::unique_ptr<AudioDecoder>> decoders; ///< of the streams that sound
         std::unique_ptr<AudioFilter> effects;
         bool isOpened = false; ///< also after a failure, which is not tried again
         std::int64_t idle = 0; ///< samples mixed since it was read last

@@ -235,28 +235,33 @@ QImage Composer::Content(const Layer& layer, std::int64_t frame, const QSize& si
     return {};
 }
 
-FrameDecoder* Composer::DecoderOf(const Layer& layer, std::int64_t frame, int* wanted)
+FrameDecoder* Composer::DecoderOf(const Layer& layer, const ShownStream& stream, std::int64_t frame,
+                                  int* wanted)
 {
     const std::shared_ptr<const MediaInfo>& media = layer.ShownMedia();
-    if (!media->Stream(media->videoStream))
+    if (!media->Stream(stream.index))
         return nullptr;
     // A frozen clip names a frame of its material, which plays at normal speed.
     const double played =
         layer.frozenFrame ? double(*layer.frozenFrame) : double(frame) * layer.speed;
-    *wanted = FrameTime{played, layer.frameRate}.ShownAt(media->frameRate);
+    *wanted = stream.FrameAt(FrameTime{played, layer.frameRate});
+    if (!stream.Shows(*wanted))
+        return nullptr;
     OpenDecoder& decoder = m_decoders[&layer];
     decoder.used = true;
     if (!decoder.lease)
-        decoder.lease = m_pool.Acquire(media, media->videoStream, DecodePurpose::Render, *wanted);
+        decoder.lease = m_pool.Acquire(media, stream.index, DecodePurpose::Render, *wanted);
     return decoder.lease ? &*decoder.lease : nullptr;
 }
 
 QImage Composer::MediaPicture(const Layer& layer, std::int64_t frame, const QSize& size)
 {
     int wanted = 0;
-    FrameDecoder* decoder = DecoderOf(layer, frame, &wanted);
+    const ShownStream stream = ShownStreamOf(layer);
+    FrameDecoder* decoder = DecoderOf(layer, stream, frame, &wanted);
     const PictureDepth depth = IsDeep(m_root->context) ? PictureDepth::Deep : PictureDepth::Usual;
-    const QImage image = decoder ? decoder->Picture(wanted, size, depth) : QImage();
+    const QImage image =
+        decoder ? decoder->Picture(wanted, size, stream.deinterlacing, depth) : QImage();
     const bool hasAlpha = decoder && decoder->Info()->Stream(decoder->StreamIndex())->hasAlpha;
     return hasAlpha || image.isNull() ? image : AsOpaque(image);
 }
@@ -270,8 +275,7 @@ const Layer* Composer::PlainBottom(const Layer& composite, std::int64_t frame,
     if (bottom == composite.children.end() || (*bottom)->kind != LayerKind::Media)
         return nullptr;
     const Layer& layer = **bottom;
-    const MediaInfo& media = *layer.ShownMedia();
-    const MediaStream* stream = media.Stream(media.videoStream);
+    const MediaStream* stream = layer.ShownMedia()->Stream(ShownStreamOf(layer).index);
     const Placing placing = PlaceLayer(layer, nullptr, composite.size, size);
     const bool isPlain = stream && !stream->hasAlpha && !layer.keyFrames &&
                          (!layer.blend.enabled || IsSame(layer.blend, BlendSettings())) &&
@@ -298,13 +302,13 @@ const AVFrame* Composer::PlainPicture(std::int64_t frame, const QSize& frameSize
 
 const AVFrame* Composer::PlainMedia(const Layer& layer, std::int64_t frame)
 {
-    const MediaInfo& media = *layer.ShownMedia();
-    const MediaStream* stream = media.Stream(media.videoStream);
+    const ShownStream shown = ShownStreamOf(layer);
+    const MediaStream* stream = layer.ShownMedia()->Stream(shown.index);
     if (!stream || stream->hasAlpha)
         return nullptr;
     int wanted = 0;
-    FrameDecoder* decoder = DecoderOf(layer, frame, &wanted);
-    const AVFrame* picture = decoder ? decoder->Decoded(wanted) : nullptr;
+    FrameDecoder* decoder = DecoderOf(layer, shown, frame, &wanted);
+    const AVFrame* picture = decoder ? decoder->Decoded(wanted, shown.deinterlacing) : nullptr;
     if (picture)
         DropIdleDecoders();
     return picture;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "NLECore/media/DecoderPool.h"
-#include "NLECore/scene/Layer.h"
+#include "NLECore/scene/SourceChoice.h"
 
 #include <QImage>
 #include <QRectF>
@@ -58,8 +58,9 @@ private:
     const AVFrame* PlainMedia(const Layer& layer, std::int64_t frame);
     QImage Content(const Layer& layer, std::int64_t frame, const QSize& size);
     QImage MediaPicture(const Layer& layer, std::int64_t frame, const QSize& size);
-    /// The layer's open decoder, or null, and the frame of its media that shows.
-    FrameDecoder* DecoderOf(const Layer& layer, std::int64_t frame, int* wanted);
+    /// The layer's open decoder, or null, and the frame of its stream that shows.
+    FrameDecoder* DecoderOf(const Layer& layer, const ShownStream& stream, std::int64_t frame,
+                            int* wanted);
     QImage Composite(const Layer& layer, std::int64_t frame, const QSize& size);
     void DropIdleDecoders();
 

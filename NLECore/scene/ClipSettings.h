@@ -193,6 +193,27 @@ bool IsValid(const Marker& marker);
 /// that is not valid.
 int PutMarker(MarkerList& markers, Marker marker);
 
+/// What of a file shows and sounds, and how its pictures are meant.
+struct SourceSettings
+{
+    int videoStream = -1;             ///< index; -1: the file's preferred one
+    std::vector<int> audioStreams;    ///< indexes, summed; none: the file's preferred one
+    NLERational pixelAspect = {0, 1}; ///< width over height as displayed; 0: as the file says
+    NLEDeinterlacing deinterlacing = NLEDeinterlacing_Automatic;
+    NLEFieldOrder fieldOrder = NLEField_Progressive; ///< progressive: as the file says
+};
+/// What the aspect of pixels does shows in the size of the layer.
+template <>
+inline constexpr auto kFields<SourceSettings> = std::tuple(
+    Field{&SourceSettings::videoStream, "video-stream", Shows::kYes, -1, INT32_MAX},
+    Field{&SourceSettings::audioStreams, "audio-streams", Shows::kNo},
+    Field{&SourceSettings::pixelAspect, "pixel-aspect", Shows::kNo, 0.0, double(kMostPixelAspect)},
+    Field{&SourceSettings::deinterlacing, "deinterlacing", Shows::kYes, NLEDeinterlacing_Automatic,
+          NLEDeinterlacing_Always},
+    Field{&SourceSettings::fieldOrder, "deinterlacing", Shows::kYes, NLEField_Progressive,
+          NLEField_BottomFirst});
+static_assert(kListsAllFields<SourceSettings>);
+
 /// Mixer strips of a composite's tracks, by level.
 using MixerSettings = std::map<int, tagMixerParam>;
 constexpr tagMixerParam kNeutralStrip = {1, 0, 0, 0};

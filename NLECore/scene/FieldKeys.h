@@ -49,6 +49,10 @@ inline void AddValue(ContentHash& hash, const TransformSettings& transform)
 {
     AddFields(hash, transform.IsIdentity() ? TransformSettings() : transform);
 }
+inline void AddValue(ContentHash& hash, const SourceSettings& source)
+{
+    AddFields(hash, source);
+}
 inline void AddValue(ContentHash& hash, const std::shared_ptr<const KeyFrameCurve>& curve)
 {
     hash.Add(curve != nullptr);

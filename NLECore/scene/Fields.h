@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "EngineApi/NLETypes.h"
+#include "EngineApi/NLECommon.h"
 
 #include <array>
 #include <cmath>
@@ -139,6 +139,10 @@ inline bool IsWithin(const NLESizeF& value, double lowest, double highest)
 {
     return IsWithin(value.width, lowest, highest) && IsWithin(value.height, lowest, highest);
 }
+inline bool IsWithin(const NLERational& value, double lowest, double highest)
+{
+    return value.den > 0 && IsWithin(NLECommon::ToDouble(value), lowest, highest);
+}
 template <std::size_t Count>
 bool IsWithin(const std::array<double, Count>& values, double lowest, double highest)
 {
@@ -184,6 +188,10 @@ inline bool IsSame(const NLEPointF& a, const NLEPointF& b)
 inline bool IsSame(const NLESizeF& a, const NLESizeF& b)
 {
     return a.width == b.width && a.height == b.height;
+}
+inline bool IsSame(const NLERational& a, const NLERational& b)
+{
+    return a.num == b.num && a.den == b.den;
 }
 inline bool IsSame(const std::optional<NLERange>& a, const std::optional<NLERange>& b)
 {

@@ -68,6 +68,7 @@ struct Layer
     AudioSettings audio;
 
     std::shared_ptr<const MediaInfo> media; ///< Media only
+    SourceSettings source;                  ///< Media only
     std::shared_ptr<const MediaInfo> proxy; ///< Media only: read for the picture instead, or null
     std::uint32_t argb = 0;                 ///< Color: the colour; Composite: what shows behind
     QString text;                           ///< Text only
@@ -101,9 +102,10 @@ inline constexpr auto kFields<Layer> = std::tuple(
     Field{&Layer::blend, nullptr, Shows::kYes}, Field{&Layer::transform, nullptr, Shows::kYes},
     Field{&Layer::keyFrames, nullptr, Shows::kYes}, Field{&Layer::context, nullptr, Shows::kNo},
     Field{&Layer::audio, nullptr, Shows::kNo}, Field{&Layer::media, nullptr, Shows::kYes},
-    Field{&Layer::proxy, nullptr, Shows::kYes}, Field{&Layer::argb, nullptr, Shows::kYes},
-    Field{&Layer::text, nullptr, Shows::kYes}, Field{&Layer::family, nullptr, Shows::kYes},
-    Field{&Layer::children, nullptr, Shows::kNo}, Field{&Layer::guid, nullptr, Shows::kNo},
+    Field{&Layer::source, nullptr, Shows::kYes}, Field{&Layer::proxy, nullptr, Shows::kYes},
+    Field{&Layer::argb, nullptr, Shows::kYes}, Field{&Layer::text, nullptr, Shows::kYes},
+    Field{&Layer::family, nullptr, Shows::kYes}, Field{&Layer::children, nullptr, Shows::kNo},
+    Field{&Layer::guid, nullptr, Shows::kNo},
     Field{&Layer::mixer, nullptr, Shows::kNo});
 static_assert(kListsAllFields<Layer>);
 
