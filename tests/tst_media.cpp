@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/AudioDecoder.h"
 #include "NLECore/media/FrameDecoder.h"
+#include "NLECore/media/PictureCache.h"
 #include "NLECore/media/WaveForm.h"
 #include "tests/support/Deviation.h"
 #include "tests/support/MediaFixture.h"
@@ -111,6 +112,19 @@ class tst_Media : public QObject, private MediaFixture
                 return {};
         }
         return whole;
+    }
+    std::unique_ptr<FrameDecoder> OpenPictures(const QString& name) const
+    {
+        const auto info = Probe(name);
+        return info ? FrameDecoder::Open(info, info->videoStream, nullptr) : nullptr;
+    }
+    static std::vector<QImage> AllForward(const Info& info, int frames)
+    {
+        const auto decoder = FrameDecoder::Open(info, info->videoStream, nullptr);
+        std::vector<QImage> pictures;
+        for (int frame = 0; frame < frames; ++frame)
+            pictures.push_back(decoder->Picture(frame, kThumbnail));
+        return pictures;
     }
     static void VideoRows()
     {
@@ -277,6 +291,41 @@ private slots:
                 QCOMPARE(jumping->Picture(frame, kThumbnail), picture);
         }
         QVERIFY(sequential->Picture(clip.frames + 40, kThumbnail).isNull());
+    }
+
+    void sameFramesBackward_data() { VideoRows(); }
+
+    void sameFramesBackward()
+    {
+        QFETCH(QString, name);
+        QFETCH(TestClip, clip);
+        const std::vector<QImage> forward = AllForward(Make(name, clip), clip.frames);
+        const auto decoder = OpenPictures(name);
+        QVERIFY(decoder);
+        for (int frame = clip.frames - 1; frame >= 0; --frame)
+            QCOMPARE(decoder->Picture(frame, kThumbnail), forward[size_t(frame)]);
+    }
+
+    void sameFramesToAndFro_data() { VideoRows(); }
+
+    void sameFramesToAndFro()
+    {
+        QFETCH(QString, name);
+        QFETCH(TestClip, clip);
+        const std::vector<QImage> forward = AllForward(Make(name, clip), clip.frames);
+        const auto decoder = OpenPictures(name);
+        QVERIFY(decoder);
+        const std::int64_t bound = KeptPictures().MaxBytes();
+        KeptPictures().SetMaxBytes(300000); // some ten pictures
+        std::mt19937 generator(3);
+        int frame = clip.frames - 1;
+        for (int i = 0; i < 600; ++i) {
+            const int step = int(generator() % 100);
+            const int jump = i % 40 == 0 ? step * 3 : step % 7 - 4;
+            frame = (frame + jump + clip.frames) % clip.frames;
+            QCOMPARE(decoder->Picture(frame, kThumbnail), forward[size_t(frame)]);
+        }
+        KeptPictures().SetMaxBytes(bound);
     }
 
     void refused_data()

@@ -33,7 +33,8 @@ struct DecoderPool::Shared
     bool isClosed = false;
 
     IdleList TakeSurplus(int room);
-    IdleList TakeMatching(const MediaInfo& info, int stream, DecodePurpose purpose, int wanted);
+    IdleList TakeMatching(const MediaInfo& info, int stream, DecodePurpose purpose, int wanted,
+                          bool hardware);
     /// Without memory for it the decoder is closed.
     void Keep(Idle entry) noexcept;
     bool WasDropped(const QString& path, std::uint64_t since) const;
@@ -50,19 +51,26 @@ DecoderPool::Shared::IdleList DecoderPool::Shared::TakeSurplus(int room)
     return surplus;
 }
 
-// The one closest before the wanted frame, else the one that stands the least after it.
+// The one that holds the wanted frame, else the one closest before it, else the one that stands the
+// least after it. A step back goes to the decoder that keeps pictures for the next ones.
 DecoderPool::Shared::IdleList DecoderPool::Shared::TakeMatching(const MediaInfo& info, int stream,
-                                                                DecodePurpose purpose, int wanted)
+                                                                DecodePurpose purpose, int wanted,
+                                                                bool hardware)
 {
     const auto cost = [wanted](const Idle& entry) {
         const std::int64_t distance = std::int64_t(wanted) - entry.decoder->Position();
-        return distance >= 0 ? distance : (std::int64_t(1) << 32) - distance;
+        if (distance >= 0 || entry.decoder->Holds(wanted))
+            return std::max<std::int64_t>(0, distance);
+        const bool isStep = -distance <= FrameDecoder::kStepBack;
+        return (isStep ? FrameDecoder::kStepBack : std::int64_t(1) << 32) - distance;
     };
     auto best = idle.end();
     for (auto entry = idle.begin(); entry != idle.end(); ++entry) {
         const MediaInfo& other = *entry->decoder->Info();
         const bool isSame = entry->purpose == purpose && other.path == info.path &&
-                            entry->decoder->StreamIndex() == stream && other.stamp == info.stamp;
+                            entry->decoder->StreamIndex() == stream &&
+                            entry->decoder->IsForHardware() == hardware &&
+                            other.stamp == info.stamp;
         if (isSame && (best == idle.end() || cost(*entry) < cost(*best)))
             best = entry;
     }
@@ -135,7 +143,8 @@ DecoderPool::~DecoderPool()
 }
 
 DecoderPool::Lease DecoderPool::Acquire(const std::shared_ptr<const MediaInfo>& info, int stream,
-                                        DecodePurpose purpose, int wantedFrame, QString* error)
+                                        DecodePurpose purpose, int wantedFrame, QString* error,
+                                        bool hardware)
 {
     Lease lease;
     if (!info) {
@@ -150,7 +159,7 @@ DecoderPool::Lease DecoderPool::Acquire(const std::shared_ptr<const MediaInfo>& 
         Shared::IdleList taken;
         {
             const std::lock_guard<std::mutex> lock(m_shared->mutex);
-            taken = m_shared->TakeMatching(*info, stream, purpose, wantedFrame);
+            taken = m_shared->TakeMatching(*info, stream, purpose, wantedFrame, hardware);
             isReusable = !taken.empty();
             lease.m_generation = m_shared->generation;
             if (!isReusable)
@@ -160,7 +169,7 @@ DecoderPool::Lease DecoderPool::Acquire(const std::shared_ptr<const MediaInfo>& 
         }
         surplus.clear();
         if (!isReusable)
-            lease.m_decoder = FrameDecoder::Open(info, stream, error, m_shared->threads);
+            lease.m_decoder = FrameDecoder::Open(info, stream, error, m_shared->threads, hardware);
         else if (taken.front().decoder->IsFileUnchanged())
             lease.m_decoder = std::move(taken.front().decoder);
         if (!lease.m_decoder)

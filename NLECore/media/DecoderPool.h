@@ -58,12 +58,13 @@ public:
     DecoderPool(const DecoderPool&) = delete;
     DecoderPool& operator=(const DecoderPool&) = delete;
 
-    /// Lends a decoder for \a stream of the file of \a info: the idle one that stands closest
-    /// before \a wantedFrame, else another idle one, else a new one. An idle decoder whose file
+    /// Lends a decoder for \a stream of the file of \a info: the idle one that holds \a wantedFrame
+    /// or stands closest before it, else another idle one, else a new one. With \a hardware it is
+    /// one that was opened so, see FrameDecoder::Open(). An idle decoder whose file
     /// was replaced on disk is closed instead. On failure the lease is empty and \a error, when
     /// not null, receives one English sentence.
     Lease Acquire(const std::shared_ptr<const MediaInfo>& info, int stream, DecodePurpose purpose,
-                  int wantedFrame, QString* error = nullptr);
+                  int wantedFrame, QString* error = nullptr, bool hardware = false);
 
     /// Closes the idle decoders of the file at \a path; those in use are closed when they come
     /// back.

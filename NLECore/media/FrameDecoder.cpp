@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/FrameDecoder.h"
 #include "NLECore/media/ColourConverter_p.h"
+#include "NLECore/media/EngineLog.h"
+#include "NLECore/media/HardwareDecoding_p.h"
 #include "NLECore/media/MediaFile_p.h"
+#include "NLECore/media/PictureCache.h"
 #include "NLECore/media/PictureScaler_p.h"
 #include "NLECore/media/PictureSource_p.h"
 
@@ -32,6 +35,21 @@ constexpr int kMaxSeekAttempts = 16;
 constexpr int kMaxRoundsPerPicture = 20000;
 
 constexpr std::int64_t kMinHoldFrames = 2;
+
+// Going back over so many frames at the most is stepping back; while the play head is dragged, over
+// more. Beyond it a picture is decoded for itself.
+constexpr std::int64_t kStepBack = FrameDecoder::kStepBack;
+constexpr std::int64_t kScrubBack = 250;
+
+// After a step back pictures are kept over so many frames forward as well, for going to and fro.
+constexpr std::int64_t kToAndFro = 32;
+
+// Kept pictures are given up when the decoder has moved on by so many frames.
+constexpr std::int64_t kMovedOn = 256;
+
+// A picture at hand that lies so near is shown for the wanted one where the container does not tell
+// whether a key frame lies nearer.
+constexpr std::int64_t kNearEnough = 12;
 
 // Codecs that tell from the packet alone that no other picture needs it.
 bool MarksUnreferenced(AVCodecID codec)
@@ -73,17 +91,43 @@ struct FrameDecoder::Private
     FileStamp sourceStamp;
     int sourceFrame = -1;
     int threads = 0;
+    bool wantsHardware = false;
+    bool isHardware = false;
+    bool hasHardwareFailed = false;
 
-    /// The picture on show and the one after it, as far as they are decoded.
+    /// The picture decoded last and the one after it, as far as they are decoded.
     DecodedPicture current;
     DecodedPicture next;
     /// The picture before the current one, kept for the deinterlacer once it was needed.
     DecodedPicture previous;
     Deinterlacer deinterlacer;
     bool keepsPrevious = false;
+    /// Pictures are drawn from their neighbours, so that kept ones are of no use.
+    bool isDrawing = false;
+    std::int64_t nearNumber = -1; ///< below those of decoded pictures
     std::int64_t lastNumber = 0;
     /// Number of the first picture since decoding began anew.
     std::int64_t firstNumber = 1;
+    /// The picture on show when it is another one: a kept one, or a key frame.
+    PictureCache::Picture standIn;
+    /// Frame that was shown last; -1 before the first one.
+    std::int64_t shownFrame = -1;
+    /// The key frame decoded last to stand in, and its frame.
+    PictureCache::Picture keyPicture;
+    std::int64_t keyFrame = -1;
+    /// The play head was dragged since the last seek.
+    bool isScrubbing = false;
+
+    PictureCache::Shelf kept{KeptPictures()};
+    bool hasKept = false;
+    /// Decoded pictures of these frames are kept.
+    std::int64_t keepFirst = 0;
+    std::int64_t keepLast = -1;
+    /// Last frame of which it is decided what it shows, since the last seek.
+    std::int64_t decidedTo = std::numeric_limits<std::int64_t>::min();
+    /// Ends decoding when it is set from another thread; null when nobody may.
+    const std::atomic<bool>* stop = nullptr;
+
     /// Packets read ahead, not yet decoded.
     std::deque<PacketPtr> queue;
     bool isInputAtEnd = false;
@@ -108,7 +152,18 @@ struct FrameDecoder::Private
     bool Start(QString* error);
     void FindFirstPicture();
     bool Locate(std::int64_t frame);
+    bool Decode(std::int64_t frame);
     bool SeekAndDecode(std::int64_t frame, std::int64_t keepFrom);
+    bool IsStepBack(std::int64_t frame) const;
+    void StartKeeping(std::int64_t frame);
+    void KeepCurrent();
+    void ForgetKept();
+    bool FindKept(std::int64_t frame);
+    bool LocateNear(std::int64_t frame, bool* isExact);
+    bool ShowNearest(std::int64_t frame);
+    PacketPtr ReadKey(std::int64_t frame);
+    bool DecodeKey(std::int64_t frame);
+    std::int64_t DistanceToKey(std::int64_t frame) const;
     bool Shows(std::int64_t frame) const;
     bool CanContinueTo(std::int64_t frame);
     bool Advance(std::int64_t frame, std::int64_t keepFrom);
@@ -121,9 +176,25 @@ struct FrameDecoder::Private
     void NoteEnd();
     void ShiftPictures();
     const AVFrame* Shown(std::int64_t frame, const Deinterlacing& deinterlacing);
+    const AVFrame* ShownNear(std::int64_t frame, const Deinterlacing& deinterlacing, bool* isExact);
     bool FindNeighbours(std::int64_t frame);
     bool DecodeThrough(std::int64_t first, std::int64_t frame, std::int64_t keepFrom);
     bool HasPrevious() const;
+
+    bool UseSoftware();
+    bool BringHome(AVFrame* picture);
+
+    bool IsStopped() const
+    {
+        return hasHardwareFailed || (stop != nullptr && stop->load(std::memory_order_relaxed));
+    }
+    bool IsKeeping(std::int64_t frame) const { return frame >= keepFirst && frame <= keepLast; }
+    const AVFrame* OnShow() const { return standIn ? standIn.get() : current.frame.get(); }
+    bool IsConcerned(const Deinterlacing& deinterlacing) const
+    {
+        return Deinterlacer::Concerns(*OnShow(), description, stream->codecpar->codec_id,
+                                      deinterlacing);
+    }
 
     AVRational FrameDuration() const
     {
@@ -235,6 +306,7 @@ void FrameDecoder::Private::Reset()
     stampedPackets = 0;
     hasCountedTimes = false;
     skippedTo = -1;
+    decidedTo = std::numeric_limits<std::int64_t>::min();
 }
 
 // ---- decoding
@@ -271,17 +343,21 @@ bool FrameDecoder::Private::Feed(std::int64_t keepFrom)
         skippedTo = std::max(skippedTo, index);
     if (!current.isValid && !next.isValid && ticks != AV_NOPTS_VALUE)
         clockTicks = ticks;
-    // A damaged packet loses its picture; the one before it stays in its place.
-    avcodec_send_packet(codec.get(), packet.get());
+    // A damaged packet loses its picture; the one before it stays in its place. Hardware may fail
+    // by itself.
+    const int result = avcodec_send_packet(codec.get(), packet.get());
+    hasHardwareFailed = isHardware && result < 0 && result != AVERROR(EAGAIN);
     return true;
 }
 
 bool FrameDecoder::Private::DecodeNext(std::int64_t keepFrom)
 {
     int rounds = 0;
-    while (!isDrained) {
+    while (!isDrained && !hasHardwareFailed) {
         av_frame_unref(next.frame.get());
         const int result = avcodec_receive_frame(codec.get(), next.frame.get());
+        if (result == 0 && !BringHome(next.frame.get()))
+            break;
         if (result == 0) {
             next.ticks = TicksOf(*next.frame);
             next.index = IndexOf(next.ticks);
@@ -291,6 +367,8 @@ bool FrameDecoder::Private::DecodeNext(std::int64_t keepFrom)
             return true;
         }
         const bool isOver = result == AVERROR(EAGAIN) ? !Feed(keepFrom) : result == AVERROR_EOF;
+        if (isHardware && result != AVERROR(EAGAIN) && !isOver)
+            hasHardwareFailed = true;
         isDrained = isOver || ++rounds > kMaxRoundsPerPicture;
     }
     return false;
@@ -327,6 +405,8 @@ bool FrameDecoder::Private::Shows(std::int64_t frame) const
 bool FrameDecoder::Private::Advance(std::int64_t frame, std::int64_t keepFrom)
 {
     while (!Shows(frame)) {
+        if (IsStopped())
+            return false;
         if (!next.isValid && !DecodeNext(keepFrom))
             return current.isValid;
         const bool isTooLate = !current.isValid && next.index > frame;
@@ -334,6 +414,7 @@ bool FrameDecoder::Private::Advance(std::int64_t frame, std::int64_t keepFrom)
             return false;
         if (current.isValid && next.index > frame)
             return true;
+        KeepCurrent();
         ShiftPictures();
         if (isTooLate) {
             firstFrame = current.index;
@@ -356,10 +437,15 @@ bool FrameDecoder::Private::SeekAndDecode(std::int64_t frame, std::int64_t keepF
     std::int64_t keyLimit = ticks;
     std::int64_t back = 0;
     for (int attempt = 1; attempt < kMaxSeekAttempts && ticks > startTicks; ++attempt) {
+        if (IsStopped())
+            return false;
         Reset();
         std::optional<std::int64_t> keyTicks;
         if (av_seek_frame(file->Context(), streamIndex, ticks, AVSEEK_FLAG_BACKWARD) >= 0)
             keyTicks = ReadToKeyFrame(frame, keyLimit);
+        // What comes before the key frame may lack what it was predicted from.
+        if (keyTicks && IsKeeping(frame))
+            keepFirst = std::max(keepFirst, IndexOf(*keyTicks));
         if (keyTicks && Advance(frame, keepFrom))
             return true;
         if (keyTicks) {
@@ -369,6 +455,8 @@ bool FrameDecoder::Private::SeekAndDecode(std::int64_t frame, std::int64_t keepF
         ticks -= 1 + back;
         back = back == 0 ? halfSecond : 2 * back;
     }
+    if (IsStopped())
+        return false;
     Reset();
     isFromStart = file->SeekToStart(streamIndex, startTicks);
     clockTicks = startTicks - TicksPerFrame();
@@ -405,23 +493,47 @@ bool FrameDecoder::Private::CanContinueTo(std::int64_t frame)
 
 bool FrameDecoder::Private::Locate(std::int64_t frame)
 {
+    standIn.reset();
     frame = std::max(frame, firstFrame);
     if (frame > endFrame)
         return false;
-    if (Shows(frame))
-        return true;
+    bool isFound = Shows(frame) || FindKept(frame) || Decode(frame);
+    if (hasHardwareFailed && UseSoftware()) {
+        Reset();
+        isFound = Decode(frame);
+    }
+    if (!isFound)
+        return false;
+    isScrubbing = false;
+    shownFrame = frame;
+    return frame <= endFrame;
+}
+
+bool FrameDecoder::Private::Decode(std::int64_t frame)
+{
+    const bool isBack = IsStepBack(frame) && !isDrawing;
     // Where the picture before is needed, decoding goes on from that one.
     const std::int64_t from = keepsPrevious ? std::max(firstFrame, frame - 1) : frame;
-    bool isFound = CanContinueTo(from) && Advance(frame, from);
+    const bool canContinue = CanContinueTo(from);
+    if (isBack && !canContinue)
+        StartKeeping(frame);
+    else if (hasKept && (frame > keepLast + kMovedOn || frame < keepFirst - kMovedOn))
+        ForgetKept();
+    if (!isScrubbing)
+        keyPicture.reset();
+    const std::int64_t keepFrom = IsKeeping(frame) ? std::min(keepFirst, from) : from;
+    bool isFound = canContinue && Advance(frame, keepFrom);
     if (!isFound)
-        isFound = SeekAndDecode(from, from) && Advance(frame, from);
+        isFound = SeekAndDecode(from, keepFrom) && Advance(frame, keepFrom);
     // In a gap, or at the end, the picture to show is one that was skipped on the way.
     if (isFound && skippedTo > current.index)
         isFound = SeekAndDecode(frame, skippedTo);
     if (isFound && skippedTo > current.index)
         isFound = SeekAndDecode(frame, std::numeric_limits<std::int64_t>::min());
+    if (IsStopped())
+        return false;
     NoteEnd();
-    return isFound && frame <= endFrame;
+    return isFound;
 }
 
 void FrameDecoder::Private::NoteEnd()
@@ -469,16 +581,192 @@ const AVFrame* FrameDecoder::Private::Shown(std::int64_t frame, const Deinterlac
 {
     if (!Locate(frame))
         return nullptr;
-    const bool isConcerned = Deinterlacer::Concerns(*current.frame, description,
-                                                    stream->codecpar->codec_id, deinterlacing);
-    if (!isConcerned)
-        return current.frame.get();
+    if (!IsConcerned(deinterlacing))
+        return OnShow();
+    if (!isDrawing) {
+        isDrawing = true;
+        ForgetKept();
+        if (standIn && !Locate(frame))
+            return nullptr;
+    }
     if (!FindNeighbours(frame) && !Locate(frame))
         return nullptr;
     const AVFrame* const drawn =
         deinterlacer.Draw(previous.Numbered(), current.Numbered(), next.Numbered(), description,
                           deinterlacing, threads);
     return drawn != nullptr ? drawn : current.frame.get();
+}
+
+// A picture that stands in has no neighbours to be drawn from.
+const AVFrame* FrameDecoder::Private::ShownNear(std::int64_t frame,
+                                                const Deinterlacing& deinterlacing, bool* isExact)
+{
+    if (!LocateNear(frame, isExact))
+        return nullptr;
+    if (*isExact)
+        return Shown(frame, deinterlacing);
+    if (!IsConcerned(deinterlacing))
+        return OnShow();
+    const AVFrame* const drawn =
+        deinterlacer.Draw({}, {OnShow(), --nearNumber}, {}, description, deinterlacing, threads);
+    return drawn != nullptr ? drawn : OnShow();
+}
+
+// ---- keeping pictures
+
+bool FrameDecoder::Private::IsStepBack(std::int64_t frame) const
+{
+    return frame < shownFrame && shownFrame - frame <= (isScrubbing ? kScrubBack : kStepBack);
+}
+
+// The group of the frame is decoded once, without leaving any picture out, and kept for the steps
+// to come; of a group that has no room, the last pictures before the frame.
+void FrameDecoder::Private::StartKeeping(std::int64_t frame)
+{
+    const AVFrame* const picture = current.isValid ? current.frame.get() : keyPicture.get();
+    const std::int64_t capacity = picture != nullptr ? kept.CapacityFor(*picture) : 0;
+    if (capacity < 2) {
+        keepLast = -1;
+        return;
+    }
+    keepFirst = frame - capacity + 1;
+    keepLast = frame + kToAndFro;
+    KeepCurrent();
+}
+
+// The current picture shows until the next one, as Advance() decides it. One that was passed over
+// may be missing after it when packets were skipped.
+void FrameDecoder::Private::KeepCurrent()
+{
+    if (!current.isValid)
+        return;
+    std::int64_t last = IsLastOfItsFrame(current) ? current.index : current.index - 1;
+    if (next.isValid)
+        last = std::max(last, next.index - 1);
+    else if (isDrained)
+        last = std::max(last, endFrame);
+    const std::int64_t first = std::max(current.index, decidedTo + 1);
+    decidedTo = std::max(decidedTo, last);
+    if (!IsKeeping(current.index) || current.index <= skippedTo)
+        return;
+    kept.Keep(*current.frame, first, last);
+    hasKept = true;
+}
+
+void FrameDecoder::Private::ForgetKept()
+{
+    kept.Clear();
+    hasKept = false;
+    keepLast = -1;
+}
+
+bool FrameDecoder::Private::FindKept(std::int64_t frame)
+{
+    if (hasKept)
+        standIn = kept.Find(frame);
+    return standIn != nullptr;
+}
+
+// ---- scrubbing
+
+bool FrameDecoder::Private::LocateNear(std::int64_t frame, bool* isExact)
+{
+    standIn.reset();
+    *isExact = true;
+    frame = std::max(frame, firstFrame);
+    if (frame > endFrame)
+        return false;
+    const bool isNext = current.isValid && frame == current.index + 1;
+    const bool isAfterEnd =
+        description.frameCount > 0 && frame >= std::int64_t(description.frameCount);
+    if (isNext || isAfterEnd || Shows(frame) || FindKept(frame))
+        return Locate(frame);
+    isScrubbing = true;
+    *isExact = false;
+    if (ShowNearest(frame))
+        return true;
+    *isExact = true;
+    return Locate(frame);
+}
+
+// Frames from the last key frame to the frame, where the container has an index that tells.
+std::int64_t FrameDecoder::Private::DistanceToKey(std::int64_t frame) const
+{
+    const std::int64_t lastTick = LastTickOf(frame);
+    const AVIndexEntry* const key =
+        avformat_index_get_entry_from_timestamp(stream, lastTick, AVSEEK_FLAG_BACKWARD);
+    const bool isListed = key != nullptr && (file->IsFormat("mp4") || file->IsFormat("avi") ||
+                                             file->IsFormat("matroska"));
+    return isListed ? std::max<std::int64_t>(0, frame - IndexOf(key->timestamp)) : kNearEnough;
+}
+
+bool FrameDecoder::Private::ShowNearest(std::int64_t frame)
+{
+    std::int64_t distance = std::numeric_limits<std::int64_t>::max();
+    const auto offer = [&](const PictureCache::Picture& picture, std::int64_t shown) {
+        if (picture == nullptr || std::abs(frame - shown) >= distance)
+            return;
+        distance = std::abs(frame - shown);
+        standIn = picture;
+    };
+    if (hasKept) {
+        std::int64_t shown = -1;
+        const PictureCache::Picture nearest = kept.FindNearest(frame, &shown);
+        offer(nearest, shown);
+    }
+    offer(keyPicture, keyFrame);
+    if (current.isValid)
+        offer({PictureCache::Picture(), current.frame.get()}, current.index);
+    if (distance <= DistanceToKey(frame))
+        return true;
+    return DecodeKey(frame) || standIn;
+}
+
+// Gives the packet of the last key frame that is not after the frame, else the file's first one; as
+// SeekAndDecode() finds them.
+PacketPtr FrameDecoder::Private::ReadKey(std::int64_t frame)
+{
+    const std::int64_t lastTick = LastTickOf(frame);
+    std::int64_t back = std::max<std::int64_t>(1, av_rescale_q(1, {1, 2}, stream->time_base));
+    std::int64_t ticks = lastTick;
+    bool isFound = false;
+    for (int attempt = 1; !isFound && attempt < kMaxSeekAttempts && ticks > startTicks; ++attempt) {
+        Reset();
+        isFound = av_seek_frame(file->Context(), streamIndex, ticks, AVSEEK_FLAG_BACKWARD) >= 0 &&
+                  ReadToKeyFrame(frame, lastTick);
+        ticks -= back;
+        back *= 2;
+    }
+    if (!isFound) {
+        Reset();
+        file->SeekToStart(streamIndex, startTicks);
+        ReadToKeyFrame(frame, lastTick);
+    }
+    return queue.empty() ? nullptr : std::move(queue.front());
+}
+
+// One packet and an end behind it give one picture at once, without those that the decoder's
+// threads and the order of display hold back.
+bool FrameDecoder::Private::DecodeKey(std::int64_t frame)
+{
+    const PacketPtr packet = ReadKey(frame);
+    FramePtr picture(av_frame_alloc());
+    bool isDecoded = packet && picture;
+    if (isDecoded) {
+        codec->skip_frame = AVDISCARD_DEFAULT;
+        avcodec_send_packet(codec.get(), packet.get());
+        avcodec_send_packet(codec.get(), nullptr);
+        isDecoded =
+            avcodec_receive_frame(codec.get(), picture.get()) == 0 && BringHome(picture.get());
+    }
+    if (isDecoded) {
+        const std::int64_t ticks = TicksOf(*packet);
+        keyFrame = ticks != AV_NOPTS_VALUE ? IndexOf(ticks) : 0;
+        keyPicture = std::move(picture);
+        standIn = keyPicture;
+    }
+    Reset();
+    return isDecoded;
 }
 
 // ---- opening
@@ -494,7 +782,11 @@ bool FrameDecoder::Private::Start(QString* error)
     if (!file)
         return false;
     stream = file->Context()->streams[streamIndex];
-    codec = OpenCodec(stream, threads, info->path, error);
+    if (wantsHardware)
+        codec = OpenHardwareCodec(stream, threads, info->path);
+    isHardware = codec != nullptr;
+    if (!codec)
+        codec = OpenCodec(stream, threads, info->path, error);
     if (!codec)
         return false;
     description = *info->Stream(streamIndex);
@@ -520,11 +812,35 @@ void FrameDecoder::Private::FindFirstPicture()
     if (hasDisplayTime)
         return;
     canSkip = false;
-    if (!DecodeNext(0))
+    if ((isHardware && !UseSoftware()) || !DecodeNext(0))
         return;
     startTicks = next.ticks;
     next.index = 0;
     ShiftPictures();
+}
+
+// ---- hardware
+
+// A picture that the hardware has decoded, in system memory.
+bool FrameDecoder::Private::BringHome(AVFrame* picture)
+{
+    hasHardwareFailed = isHardware && FetchPicture(picture) < 0;
+    return !hasHardwareFailed;
+}
+
+bool FrameDecoder::Private::UseSoftware()
+{
+    QString error;
+    CodecPtr software = OpenCodec(stream, threads, info->path, &error);
+    qCWarning(lcEngine, "%s: decoded in software from here on", qUtf8Printable(info->path));
+    if (!software) {
+        qCWarning(lcEngine, "%s", qUtf8Printable(error));
+        return false;
+    }
+    codec = std::move(software);
+    isHardware = false;
+    hasHardwareFailed = false;
+    return true;
 }
 
 // ---- the public face
@@ -534,7 +850,7 @@ FrameDecoder::FrameDecoder(std::unique_ptr<Private> state) : d(std::move(state))
 FrameDecoder::~FrameDecoder() = default;
 
 std::unique_ptr<FrameDecoder> FrameDecoder::Open(std::shared_ptr<const MediaInfo> info, int stream,
-                                                 QString* error, int threads)
+                                                 QString* error, int threads, bool hardware)
 {
     if (!info) {
         SetError(error, QString(), QStringLiteral("no media"));
@@ -544,13 +860,14 @@ std::unique_ptr<FrameDecoder> FrameDecoder::Open(std::shared_ptr<const MediaInfo
     state->info = std::move(info);
     state->streamIndex = stream;
     state->threads = threads;
+    state->wantsHardware = hardware;
     if (!state->Start(error))
         return nullptr;
     return std::unique_ptr<FrameDecoder>(new FrameDecoder(std::move(state)));
 }
 
 QImage FrameDecoder::Picture(int frame, const QSize& size, const Deinterlacing& deinterlacing,
-                             PictureDepth depth)
+                             PictureDepth depth, const std::atomic<bool>* stop)
 {
     if (frame < 0 || size.isEmpty())
         return {};
@@ -560,7 +877,21 @@ QImage FrameDecoder::Picture(int frame, const QSize& size, const Deinterlacing& 
         return depth == PictureDepth::Deep ? picture.convertToFormat(QImage::Format_RGBA64)
                                            : picture;
     }
+    d->stop = stop;
     const AVFrame* const picture = d->Shown(frame, deinterlacing);
+    d->stop = nullptr;
+    return picture != nullptr ? d->scaler.Convert(*picture, d->description, size, depth) : QImage();
+}
+
+QImage FrameDecoder::NearPicture(int frame, const QSize& size, bool* isExact,
+                                 const Deinterlacing& deinterlacing, PictureDepth depth)
+{
+    *isExact = true;
+    if (d->source)
+        return Picture(frame, size, deinterlacing, depth);
+    if (frame < 0 || size.isEmpty())
+        return {};
+    const AVFrame* const picture = d->ShownNear(frame, deinterlacing, isExact);
     return picture != nullptr ? d->scaler.Convert(*picture, d->description, size, depth) : QImage();
 }
 
@@ -577,7 +908,19 @@ int FrameDecoder::Position() const
 {
     if (d->source)
         return d->sourceFrame;
-    return d->current.isValid ? int(std::clamp<std::int64_t>(d->current.index, 0, INT32_MAX)) : -1;
+    const std::int64_t frame = d->standIn ? d->shownFrame : d->current.index;
+    return d->standIn || d->current.isValid ? int(std::clamp<std::int64_t>(frame, 0, INT32_MAX))
+                                            : -1;
+}
+
+bool FrameDecoder::Holds(int frame) const
+{
+    return d->Shows(frame) || (d->hasKept && d->kept.Has(frame));
+}
+
+bool FrameDecoder::IsForHardware() const
+{
+    return d->wantsHardware;
 }
 
 const std::shared_ptr<const MediaInfo>& FrameDecoder::Info() const

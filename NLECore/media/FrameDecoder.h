@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QSize>
 
+#include <atomic>
 #include <memory>
 
 struct AVFrame;
@@ -26,14 +27,23 @@ enum class PictureDepth : std::int32_t
 /// after N; so a picture holds until the next one, over gaps as well. A picture stays valid beyond
 /// the end of the data for its own duration, at least for two frames, which makes up for a frame
 /// count that was only estimated. One object serves one thread at a time.
+///
+/// A step back decodes the group of pictures once and keeps it in KeptPictures(), from where the
+/// next steps back are served. Playing forward keeps nothing, and gives up what was kept when it
+/// has left it behind.
 class FrameDecoder
 {
 public:
+    /// Going back over so many frames at the most counts as stepping back.
+    static constexpr int kStepBack = 32;
+
     /// Opens \a stream of the file of \a info. Gives null on failure; then \a error, when not
     /// null, receives one English sentence. \a threads is the number of decoding threads; 0 lets
-    /// the decoder choose.
+    /// the decoder choose. With \a hardware the graphics hardware decodes; where it cannot, and
+    /// from where it fails on, software does, without losing a picture.
     static std::unique_ptr<FrameDecoder> Open(std::shared_ptr<const MediaInfo> info, int stream,
-                                              QString* error, int threads = 0);
+                                              QString* error, int threads = 0,
+                                              bool hardware = false);
     ~FrameDecoder();
     FrameDecoder(const FrameDecoder&) = delete;
     FrameDecoder& operator=(const FrameDecoder&) = delete;
@@ -43,17 +53,29 @@ public:
     /// empty size, past the end of the data, and when nothing could be decoded. A still picture is
     /// the same for every frame. A picture that is damaged in the file leaves the one before it in
     /// place. Which pictures are deinterlaced \a deinterlacing says; frame N shows picture N then
-    /// as well.
+    /// as well. Null too when \a stop is set meanwhile; it is read while decoding and may be null.
     QImage Picture(int frame, const QSize& size, const Deinterlacing& deinterlacing = {},
-                   PictureDepth depth = PictureDepth::Usual);
+                   PictureDepth depth = PictureDepth::Usual,
+                   const std::atomic<bool>* stop = nullptr);
+
+    /// A picture for \a frame that takes no more than one decoded picture: that of Picture where it
+    /// is at hand or the next one, else the nearest one that is at hand or the key frame before.
+    /// \a isExact tells which. Null where Picture gives none.
+    QImage NearPicture(int frame, const QSize& size, bool* isExact,
+                       const Deinterlacing& deinterlacing = {},
+                       PictureDepth depth = PictureDepth::Usual);
 
     /// The picture of \a frame as it was decoded and deinterlaced, valid until the next call; null
     /// where Picture gives none, when it does not stand upright as it is or has other colours than
     /// a project, and of what is no film.
     const AVFrame* Decoded(int frame, const Deinterlacing& deinterlacing = {});
 
-    /// Frame number of the picture decoded last; -1 when none was yet.
+    /// Frame number of the picture on show; -1 when none was decoded yet.
     int Position() const;
+    /// Whether Picture gives \a frame without decoding.
+    bool Holds(int frame) const;
+    /// Whether it was opened for hardware, even if software decodes.
+    bool IsForHardware() const;
     /// The description that the decoder was opened with.
     const std::shared_ptr<const MediaInfo>& Info() const;
     /// Index of the stream being decoded.

@@ -258,6 +258,17 @@ const AVCodec* FindDecoder(const AVStream* stream)
     return avcodec_find_decoder(id);
 }
 
+CodecPtr MakeCodec(const AVStream* stream, const AVCodec* decoder, int threads)
+{
+    CodecPtr codec(avcodec_alloc_context3(decoder));
+    if (!codec || avcodec_parameters_to_context(codec.get(), stream->codecpar) < 0)
+        return nullptr;
+    codec->pkt_timebase = stream->time_base;
+    codec->thread_count =
+        threads > 0 ? threads : std::clamp(QThread::idealThreadCount(), 1, kMaxThreads);
+    return codec;
+}
+
 CodecPtr OpenCodec(const AVStream* stream, int threads, const QString& path, QString* error)
 {
     const auto fail = [&](const QString& reason) {
@@ -269,12 +280,9 @@ CodecPtr OpenCodec(const AVStream* stream, int threads, const QString& path, QSt
         return fail(QStringLiteral("no decoder for ") +
                     QString::fromUtf8(avcodec_get_name(stream->codecpar->codec_id)));
     }
-    CodecPtr codec(avcodec_alloc_context3(decoder));
-    if (!codec || avcodec_parameters_to_context(codec.get(), stream->codecpar) < 0)
+    CodecPtr codec = MakeCodec(stream, decoder, threads);
+    if (!codec)
         return fail(QStringLiteral("out of memory"));
-    codec->pkt_timebase = stream->time_base;
-    codec->thread_count =
-        threads > 0 ? threads : std::clamp(QThread::idealThreadCount(), 1, kMaxThreads);
     const int result = avcodec_open2(codec.get(), decoder, nullptr);
     if (result < 0 && codec->thread_count > 1)
         return OpenCodec(stream, 1, path, error); // the system may be short of threads

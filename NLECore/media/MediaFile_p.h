@@ -98,6 +98,8 @@ inline std::int64_t PictureDuration(const AVFrame& frame)
 /// Opens a decoder for \a stream with \a threads threads (0: chosen here). Null on failure; \a
 /// error then names the file at \a path.
 CodecPtr OpenCodec(const AVStream* stream, int threads, const QString& path, QString* error);
+/// A \a decoder set up for \a stream, not open yet; null without memory for it.
+CodecPtr MakeCodec(const AVStream* stream, const AVCodec* decoder, int threads);
 /// The decoder for a stream; null when this build of the libraries has none.
 const AVCodec* FindDecoder(const AVStream* stream);
 

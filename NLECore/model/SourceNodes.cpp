@@ -183,6 +183,7 @@ void MediaClip::Describe(Layer& layer) const
 {
     layer.kind = LayerKind::Media;
     layer.media = PlayedMedia();
+    layer.gpuFirst = m_gpuFirst != 0;
     const std::shared_ptr<const MediaInfo>& proxy = Video().settings.proxy;
     if (Video().settings.proxyEnabled && proxy && proxy->videoStream >= 0)
         layer.proxy = Video().settings.proxy;

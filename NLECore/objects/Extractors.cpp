@@ -35,6 +35,8 @@ HRESULT FrameExtractor::Open(INLETimeline* timeline, int flags)
             return E_INVALIDARG;
         const Snapshot root = node->MakeSnapshot();
         m_composer.emplace(root);
+        m_composer->SetStop(&m_isInterrupted);
+        m_isInterrupted = false;
         const auto* composite = dynamic_cast<const CompositeNode*>(node);
         if (composite && (flags & NLEOpen_Cached) != 0)
             m_cached = composite->OpenCachedFrames(root);
@@ -44,26 +46,56 @@ HRESULT FrameExtractor::Open(INLETimeline* timeline, int flags)
     });
 }
 
+template <typename Draw>
+HRESULT FrameExtractor::Fill(int frame, INLEVideoFrame* picture, Draw&& draw)
+{
+    if (!picture)
+        return E_POINTER;
+    NLESize size;
+    std::uint8_t* pixels = nullptr;
+    if (!HasFrame(frame) || FAILED(picture->GetSize(&size)) || FAILED(picture->GetData(&pixels)))
+        return E_FAIL;
+    QRect place = PlaceRoot(m_root->size, {size.width, size.height});
+    QImage image = m_cached ? m_cached->Picture(frame, place.size()) : QImage();
+    if (image.isNull())
+        image = draw(QSize(size.width, size.height), &place);
+    if (image.isNull())
+        return E_FAIL;
+    CopyInto(image.convertToFormat(kPictureFormat), place, size, pixels);
+    const NLERect valid = {place.x(), place.y(), place.width(), place.height()};
+    return picture->SetValidRect(&valid);
+}
+
 HRESULT FrameExtractor::Extract(int frame, INLEVideoFrame* picture)
 {
-    return ComGuard([&] {
-        if (!picture)
-            return E_POINTER;
-        NLESize size;
-        std::uint8_t* pixels = nullptr;
-        if (!HasFrame(frame) || FAILED(picture->GetSize(&size)) ||
-            FAILED(picture->GetData(&pixels)))
-            return E_FAIL;
-        QRect place = PlaceRoot(m_root->size, {size.width, size.height});
-        QImage image = m_cached ? m_cached->Picture(frame, place.size()) : QImage();
-        if (image.isNull())
-            image = m_composer->Render(frame, QSize(size.width, size.height), &place);
-        if (image.isNull())
-            return E_FAIL;
-        CopyInto(image.convertToFormat(kPictureFormat), place, size, pixels);
-        const NLERect valid = {place.x(), place.y(), place.width(), place.height()};
-        return picture->SetValidRect(&valid);
+    if (m_isInterrupted.exchange(false))
+        return E_ABORT;
+    const HRESULT result = ComGuard([&] {
+        return Fill(frame, picture, [&](const QSize& size, QRect* place) {
+            return m_composer->Render(frame, size, place);
+        });
     });
+    return FAILED(result) && m_isInterrupted.exchange(false) ? E_ABORT : result;
+}
+
+HRESULT FrameExtractor::ExtractNear(int frame, INLEVideoFrame* picture, int* precision)
+{
+    m_isInterrupted = false;
+    return ComGuard([&] {
+        bool isExact = true;
+        const HRESULT result = Fill(frame, picture, [&](const QSize& size, QRect* place) {
+            return m_composer->RenderNear(frame, size, place, &isExact);
+        });
+        if (precision && SUCCEEDED(result))
+            *precision = isExact ? NLEScrub_Exact : NLEScrub_Near;
+        return result;
+    });
+}
+
+HRESULT FrameExtractor::Interrupt()
+{
+    m_isInterrupted = true;
+    return S_OK;
 }
 
 HRESULT FrameExtractor::ExtractAudio(int frame, INLEAudioFrame* sound)

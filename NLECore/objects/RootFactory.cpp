@@ -5,7 +5,9 @@
 #include "NLECore/media/DecoderPool.h"
 #include "NLECore/media/StillPictures.h"
 #include "NLECore/media/EngineLog.h"
+#include "NLECore/media/HardwareDecoding.h"
 #include "NLECore/media/MediaLog.h"
+#include "NLECore/media/PictureCache.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/PropertyBag.h"
@@ -18,6 +20,7 @@
 #include "NLECore/objects/MarkBook.h"
 #include "NLECore/objects/MediaEncoder.h"
 #include "NLECore/objects/SceneSegment.h"
+#include "NLECore/objects/SystemConfig.h"
 #include "NLECore/objects/TimelineFactory.h"
 #include "NLECore/objects/WaveExtractor.h"
 
@@ -68,7 +71,7 @@ HRESULT RootFactory::GetFontLibrary(INLEFontLibrary** library)
 
 HRESULT RootFactory::GetSystemConfig(INLESystemConfig** config)
 {
-    return Refuse(config);
+    return GiveNew<SystemConfig>(config);
 }
 
 HRESULT RootFactory::CreateVideoFrame(int width, int height, int /*pixelFormat*/, int memory,
@@ -145,6 +148,8 @@ HRESULT RootFactory::Shutdown(int /*flags*/)
     return ComGuard([&] {
         Decoders().Clear();
         Stills().Clear();
+        KeptPictures().Clear();
+        ForgetDevices();
         ForgetFiles();
         return S_OK;
     });

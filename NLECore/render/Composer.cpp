@@ -2,6 +2,7 @@
 #include "NLECore/render/Composer.h"
 
 #include "NLECore/media/DecoderPool.h"
+#include "NLECore/media/HardwareDecoding.h"
 #include "NLECore/scene/FrameMath.h"
 
 #include <QFont>
@@ -207,17 +208,34 @@ Composer::Composer(Snapshot root, DecoderPool& decoders) : m_root(std::move(root
 
 QImage Composer::Render(std::int64_t frame, const QSize& frameSize, QRect* place)
 {
+    m_isNear = false;
+    return Fitted(frame, frameSize, place);
+}
+
+QImage Composer::Fitted(std::int64_t frame, const QSize& frameSize, QRect* place)
+{
     *place = PlaceRoot(m_root->size, frameSize);
     if (place->isEmpty())
         return {};
     const RenderContext& context = m_root->context;
     const QSize drawn = (QSizeF(place->size()) * context.previewScale).toSize();
     QImage image = Content(*m_root, frame, drawn.expandedTo(QSize(1, 1)));
+    if (!m_isNear && IsStopped())
+        return {};
     DropIdleDecoders();
     if (image.isNull() || image.size() == place->size())
         return image;
     return image.scaled(place->size(), Qt::IgnoreAspectRatio,
                         context.smooth ? Qt::SmoothTransformation : Qt::FastTransformation);
+}
+
+QImage Composer::RenderNear(std::int64_t frame, const QSize& frameSize, QRect* place, bool* isExact)
+{
+    m_isNear = true;
+    m_isExact = true;
+    const QImage image = Fitted(frame, frameSize, place);
+    *isExact = m_isExact;
+    return image;
 }
 
 QImage Composer::Content(const Layer& layer, std::int64_t frame, const QSize& size)
@@ -250,7 +268,8 @@ FrameDecoder* Composer::DecoderOf(const Layer& layer, const ShownStream& stream,
     OpenDecoder& decoder = m_decoders[&layer];
     decoder.used = true;
     if (!decoder.lease)
-        decoder.lease = m_pool.Acquire(media, stream.index, DecodePurpose::Render, *wanted);
+        decoder.lease = m_pool.Acquire(media, stream.index, DecodePurpose::Render, *wanted, nullptr,
+                                       IsHardwareWanted(layer.gpuFirst));
     return decoder.lease ? &*decoder.lease : nullptr;
 }
 
@@ -260,8 +279,13 @@ QImage Composer::MediaPicture(const Layer& layer, std::int64_t frame, const QSiz
     const ShownStream stream = ShownStreamOf(layer);
     FrameDecoder* decoder = DecoderOf(layer, stream, frame, &wanted);
     const PictureDepth depth = IsDeep(m_root->context) ? PictureDepth::Deep : PictureDepth::Usual;
-    const QImage image =
-        decoder ? decoder->Picture(wanted, size, stream.deinterlacing, depth) : QImage();
+    bool isExact = true;
+    QImage image;
+    if (decoder && m_isNear)
+        image = decoder->NearPicture(wanted, size, &isExact, stream.deinterlacing, depth);
+    else if (decoder && !IsStopped())
+        image = decoder->Picture(wanted, size, stream.deinterlacing, depth, m_stop);
+    m_isExact = m_isExact && isExact;
     const bool hasAlpha = decoder && decoder->Info()->Stream(decoder->StreamIndex())->hasAlpha;
     return hasAlpha || image.isNull() ? image : AsOpaque(image);
 }

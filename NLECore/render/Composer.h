@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QRectF>
 
+#include <atomic>
 #include <map>
 
 struct AVFrame;
@@ -48,6 +49,13 @@ public:
     /// root's context asks for more than 8 of a component, else 32.
     QImage Render(std::int64_t frame, const QSize& frameSize, QRect* place);
 
+    /// As Render, but with one newly decoded picture of each layer at the most: a layer whose frame
+    /// is not at hand shows one that lies near. \a isExact tells whether none did.
+    QImage RenderNear(std::int64_t frame, const QSize& frameSize, QRect* place, bool* isExact);
+
+    /// Render gives null soon after \a stop was set, by any thread. It outlives the object.
+    void SetStop(const std::atomic<bool>* stop) { m_stop = stop; }
+
     /// The decoded picture that alone makes up what Render would draw, as far as it needs nothing
     /// but scaling; else null. Valid until the next call.
     const AVFrame* PlainPicture(std::int64_t frame, const QSize& frameSize);
@@ -56,6 +64,7 @@ private:
     /// The lowest child that shows, when its media covers \a size as it is; else null.
     const Layer* PlainBottom(const Layer& composite, std::int64_t frame, const QSize& size) const;
     const AVFrame* PlainMedia(const Layer& layer, std::int64_t frame);
+    QImage Fitted(std::int64_t frame, const QSize& frameSize, QRect* place);
     QImage Content(const Layer& layer, std::int64_t frame, const QSize& size);
     QImage MediaPicture(const Layer& layer, std::int64_t frame, const QSize& size);
     /// The layer's open decoder, or null, and the frame of its stream that shows.
@@ -70,9 +79,14 @@ private:
         bool used = false;
     };
 
+    bool IsStopped() const { return m_stop && m_stop->load(std::memory_order_relaxed); }
+
     const Snapshot m_root;
     DecoderPool& m_pool;
     std::map<const Layer*, OpenDecoder> m_decoders;
+    const std::atomic<bool>* m_stop = nullptr;
+    bool m_isNear = false; ///< RenderNear draws
+    bool m_isExact = true;
 };
 
 } // namespace nle

@@ -70,6 +70,7 @@ struct Layer
     std::shared_ptr<const MediaInfo> media; ///< Media only
     SourceSettings source;                  ///< Media only
     std::shared_ptr<const MediaInfo> proxy; ///< Media only: read for the picture instead, or null
+    bool gpuFirst = false;                  ///< Media only: decoded by hardware where that is on
     std::uint32_t argb = 0;                 ///< Color: the colour; Composite: what shows behind
     QString text;                           ///< Text only
     QString family;                         ///< Text only
@@ -103,9 +104,9 @@ inline constexpr auto kFields<Layer> = std::tuple(
     Field{&Layer::keyFrames, nullptr, Shows::kYes}, Field{&Layer::context, nullptr, Shows::kNo},
     Field{&Layer::audio, nullptr, Shows::kNo}, Field{&Layer::media, nullptr, Shows::kYes},
     Field{&Layer::source, nullptr, Shows::kYes}, Field{&Layer::proxy, nullptr, Shows::kYes},
-    Field{&Layer::argb, nullptr, Shows::kYes}, Field{&Layer::text, nullptr, Shows::kYes},
-    Field{&Layer::family, nullptr, Shows::kYes}, Field{&Layer::children, nullptr, Shows::kNo},
-    Field{&Layer::guid, nullptr, Shows::kNo},
+    Field{&Layer::gpuFirst, nullptr, Shows::kNo}, Field{&Layer::argb, nullptr, Shows::kYes},
+    Field{&Layer::text, nullptr, Shows::kYes}, Field{&Layer::family, nullptr, Shows::kYes},
+    Field{&Layer::children, nullptr, Shows::kNo}, Field{&Layer::guid, nullptr, Shows::kNo},
     Field{&Layer::mixer, nullptr, Shows::kNo});
 static_assert(kListsAllFields<Layer>);
 
