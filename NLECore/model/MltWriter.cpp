@@ -195,7 +195,7 @@ QString MltWriter::WriteComposite(const CompositeNode& node, int order)
         WriteTrack(hidden, "both");
     for (int track = 1; track < tracks.size(); ++track) {
         WriteMix(track);
-        WriteBlend(track, lanes.lanes[size_t(track) - 1].blend);
+        WriteBlend(track, lanes.lanes[size_t(track) - 1].blend, node.Parent() != nullptr);
     }
     WriteCommon(node, order);
     m_xml.writeEndElement();
@@ -276,15 +276,21 @@ void MltWriter::WriteMix(int track)
     m_xml.writeEndElement();
 }
 
-void MltWriter::WriteBlend(int track, BlendMode mode)
+void MltWriter::WriteBlend(int track, BlendMode mode, bool isInner)
 {
-    // The plain one is in every build of the framework, the other one knows the modes.
+    // The two plain ones are in every build of the framework, the other one knows the modes. That
+    // for pictures as they are misplaces them in a timeline that is scaled as a whole.
     if (mode != BlendMode::Normal) {
         StartTransition("qtblend", track);
         Property(QStringLiteral("compositing"), QString::number(MltCompositing(mode)));
     } else {
-        StartTransition("composite", track);
-        Property(QStringLiteral("geometry"), QStringLiteral("0/0:100%x100%:100"));
+        StartTransition(isInner ? "affine" : "composite", track);
+        if (isInner) {
+            Property(QStringLiteral("repeat_off"), QStringLiteral("1"));
+            Property(QStringLiteral("mirror_off"), QStringLiteral("1"));
+        } else {
+            Property(QStringLiteral("geometry"), QStringLiteral("0/0:100%x100%:100"));
+        }
         Property(QStringLiteral("halign"), QStringLiteral("centre"));
         Property(QStringLiteral("valign"), QStringLiteral("middle"));
         Property(QStringLiteral("fill"), QStringLiteral("1"));

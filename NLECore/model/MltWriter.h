@@ -33,7 +33,7 @@ private:
     QString WriteUnplaced(const std::vector<const TimelineNode*>& clips, const Ids& ids);
     void WriteTrack(const QString& producer, const char* hide);
     void WriteMix(int track);
-    void WriteBlend(int track, BlendMode mode);
+    void WriteBlend(int track, BlendMode mode, bool isInner);
     void WriteFilters(const std::vector<DocumentFilter>& filters);
     void WriteProfile(const TimelineNode& root);
     /// What is the node's own, and the filters that stand for some of it.

@@ -51,11 +51,8 @@ bool LiesByItself(const TimelineNode& node, const Layer& layer)
     if (layer.keyFrames || !layer.transform.IsIdentity() || layer.kind == LayerKind::Text)
         return false;
     const QRect canvas = Canvas(node);
-    // The framework misplaces pictures of another size in a timeline that it scales as a whole.
-    const bool isOuter = !node.Parent()->Parent();
-    const bool isFull = layer.size.width == canvas.width() && layer.size.height == canvas.height();
     if (layer.kind == LayerKind::Media)
-        return layer.margin == NLEMargin_Fit && (isOuter || isFull);
+        return layer.margin == NLEMargin_Fit;
     return PlacePicture(layer.size, layer.margin, {canvas.width(), canvas.height()},
                         canvas.size()) == canvas;
 }
