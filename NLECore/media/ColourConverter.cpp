@@ -204,9 +204,9 @@ namespace {
 
 constexpr int kCodeCount = 1 << ColourConverter::kBits;
 
-/// A function of light. The values stand in equal steps within each octave from 2^kLowest on, as
+/// A function of light. The values stand in equal steps within each octave from 2^Lowest on, as
 /// close as light of that size needs; what lies beyond has the value of the end.
-template <typename Value, int kLowest, int kOctaves, int kStepBits>
+template <typename Value, int Lowest, int Octaves, int StepBits>
 class LightTable
 {
 public:
@@ -215,10 +215,10 @@ public:
     {
         for (int i = 0; i < kCount; ++i) {
             const double step = (double(i % kSteps) + 0.5) / kSteps;
-            m_values[std::size_t(i)] = Value(valueAt(std::ldexp(1 + step, kLowest + i / kSteps)));
+            m_values[std::size_t(i)] = Value(valueAt(std::ldexp(1 + step, Lowest + i / kSteps)));
         }
         m_values.front() = Value(valueAt(0.0));
-        m_values.back() = Value(valueAt(std::ldexp(1.0, kLowest + kOctaves)));
+        m_values.back() = Value(valueAt(std::ldexp(1.0, Lowest + Octaves)));
     }
 
     /// Where the value for \a light stands.
@@ -226,19 +226,19 @@ public:
     {
         constexpr int fractionBits = 23;
         constexpr std::int32_t bias = 127;
-        constexpr std::int32_t first = (bias + kLowest) << fractionBits;
-        constexpr std::int32_t last = (bias + kLowest + kOctaves) << fractionBits;
+        constexpr std::int32_t first = (bias + Lowest) << fractionBits;
+        constexpr std::int32_t last = (bias + Lowest + Octaves) << fractionBits;
         std::int32_t bits = 0;
         std::memcpy(&bits, &light, sizeof bits);
         // Light below 0 has the sign bit, and so the lowest numbers.
         bits = std::min(std::max(bits, first), last);
-        return (bits - first) >> (fractionBits - kStepBits);
+        return (bits - first) >> (fractionBits - StepBits);
     }
     Value operator[](std::int32_t index) const { return m_values[std::size_t(index)]; }
 
 private:
-    static constexpr int kSteps = 1 << kStepBits;
-    static constexpr int kCount = kOctaves * kSteps;
+    static constexpr int kSteps = 1 << StepBits;
+    static constexpr int kCount = Octaves * kSteps;
 
     std::vector<Value> m_values;
 };
