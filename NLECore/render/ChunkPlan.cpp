@@ -15,6 +15,7 @@ namespace {
 constexpr int kRenderVersion = 3;
 /// Quality, in thousandths, from which on colour keeps its full resolution.
 constexpr int kFineQuality = 950;
+constexpr int kBestQuality = 1000;
 
 bool IsOpaque(const Layer& root)
 {
@@ -51,8 +52,9 @@ PictureCoding ChunkPlan::Coding() const
     if (!IsOpaque(*m_root))
         return {PictureFormat::Exact, 0};
     const bool isFine = m_format.quality >= kFineQuality;
-    return {isFine ? PictureFormat::Fine : PictureFormat::Compact,
-            2 + (1000 - m_format.quality) / 125};
+    const int quantizer =
+        m_format.quality >= kBestQuality ? 1 : 2 + (1000 - m_format.quality) / 125;
+    return {isFine ? PictureFormat::Fine : PictureFormat::Compact, quantizer};
 }
 
 void ChunkPlan::AddSpans(const Layer& composite)
