@@ -67,9 +67,8 @@ private slots:
         QVERIFY(!provider->CreateAudioFrame(-1));
         QVERIFY(!provider->CreateColorTimeline(Qt::red, QSize(0, 9), 25.0f));
         QVERIFY(!provider->CreateColorTimeline(Qt::red, QSize(9, 9), qQNaN()));
-        QVERIFY(!provider->CreateSceneSegment());
         QVERIFY(!provider->CreateAudioFilterTimeline("x"));
-        QVERIFY(!provider->CreateMarkBook(m_media));
+        QVERIFY(!provider->CreateMarkBook("missing.mp4"));
     }
 
     void namesTheCodec()
