@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // Parts of the open engine that have no interface: frame arithmetic, what follows from the lists of
 // fields, and who gets room in the preview cache.
+#include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/MltReader.h"
 #include "NLECore/model/MltWriter.h"
-#include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/SourceNodes.h"
 #include "NLECore/render/ChunkStore.h"
 #include "NLECore/scene/FrameMath.h"

@@ -121,8 +121,8 @@ struct MediaInfo
     /// The bytes of the file that hold it, from the first to before the last; 0 and 0 for all.
     std::int64_t firstByte = 0;
     std::int64_t endByte = 0;
-    /// Recordings with clocks of their own that were joined to one file, in their order, each of the
-    /// same path; empty for any other file.
+    /// Recordings with clocks of their own that were joined to one file, in their order, each of
+    /// the same path; empty for any other file.
     std::vector<std::shared_ptr<const MediaInfo>> parts;
 
     /// The stream at \a index, or null when the index is outside the list.

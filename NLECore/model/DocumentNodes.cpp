@@ -7,7 +7,6 @@
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/scene/FrameMath.h"
 
-
 #include <algorithm>
 
 namespace nle {

@@ -3,11 +3,11 @@
 
 #include "Com/ComGuard.h"
 #include "NLECore/media/DecoderPool.h"
-#include "NLECore/media/StillPictures.h"
 #include "NLECore/media/EngineLog.h"
 #include "NLECore/media/HardwareDecoding.h"
 #include "NLECore/media/MediaLog.h"
 #include "NLECore/media/PictureCache.h"
+#include "NLECore/media/StillPictures.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/PropertyBag.h"
