@@ -351,7 +351,8 @@ private slots:
             return project;
         };
         const Node other = named(L"other");
-        ClipAt(other, 0).query<INLEBlendSetting>()->SetAlpha(99);
+        for (const int clip : {0, 1})
+            ClipAt(other, clip).query<INLEBlendSetting>()->SetAlpha(99);
         Cache otherCache(other, m_folder);
         QCOMPARE(otherCache.Render(), NLECache_Finished);
         const QStringList others = Files(m_folder, "*.nlechunk");

@@ -137,6 +137,7 @@ HRESULT BackgroundCache::DeleteCache(bool all)
             store->Remove(key);
         if (const auto owner = plan ? plan->Owner() : std::nullopt)
             store->RemoveOf(*owner);
+        store->RemoveEmptyFolder();
         return S_OK;
     });
 }

@@ -75,9 +75,7 @@ std::shared_ptr<ChunkStore> ChunkStore::Of(const QString& path)
 ChunkStore::~ChunkStore()
 {
     ComGuard([this] {
-        LeaveFolder();
-        if (m_guarded.isFolderOurs)
-            QDir().rmdir(m_folder);
+        RemoveFolder();
         return S_OK;
     });
 }
@@ -354,9 +352,21 @@ void ChunkStore::Clear()
             QFile::remove(file.filePath());
         m_guarded.isFolderOurs = m_guarded.isFolderOurs || isWhole;
     });
-    LeaveFolder();
     m_guarded.entries.clear();
     m_guarded.used = 0;
+    RemoveFolder();
+}
+
+void ChunkStore::RemoveEmptyFolder()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_guarded.entries.empty())
+        RemoveFolder();
+}
+
+void ChunkStore::RemoveFolder()
+{
+    LeaveFolder();
     m_guarded.isListed = false;
     if (m_guarded.isFolderOurs)
         QDir().rmdir(m_folder);

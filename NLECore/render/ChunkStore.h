@@ -96,6 +96,8 @@ public:
     /// Removes all chunks and what else was made here. The folder goes as well when nothing else is
     /// in it, unless it was there for something else.
     void Clear();
+    /// The same with the folder when no chunk is left.
+    void RemoveEmptyFolder();
 
     QString PathOf(const ContentKey& key) const;
     bool IsFolderThere() const;
@@ -120,6 +122,7 @@ private:
     void Claim();
     bool IsShared();
     void LeaveFolder();
+    void RemoveFolder();
     bool Evict(std::int64_t bytes, const KeySet& keep);
     void Drop(const ContentKey& key);
 
