@@ -38,23 +38,23 @@ QString CodeText(int code, const QMap<int, QString>& names)
 /// Empty when it tells nothing.
 QString ColoursText(const NLEStreamInfo& stream)
 {
-    static const QString s_none = QStringLiteral("–");
-    static const QMap<int, QString> s_primaries = {
-        {0, s_none},    {1, "BT.709"},  {2, s_none},     {4, "BT.470 M"}, {5, "BT.470 BG"},
+    static const QString unknown = QStringLiteral("–");
+    static const QMap<int, QString> primaries = {
+        {0, unknown},   {1, "BT.709"},  {2, unknown},    {4, "BT.470 M"}, {5, "BT.470 BG"},
         {6, "ST 170"},  {7, "ST 240"},  {8, "film"},     {9, "BT.2020"},  {10, "XYZ"},
         {11, "DCI-P3"}, {12, "P3-D65"}, {22, "EBU 3213"}};
-    static const QMap<int, QString> s_transfers = {
-        {0, s_none},     {1, "BT.709"},   {2, s_none},   {4, "2.2"},     {5, "2.8"},
+    static const QMap<int, QString> transfers = {
+        {0, unknown},    {1, "BT.709"},   {2, unknown},  {4, "2.2"},     {5, "2.8"},
         {6, "ST 170"},   {7, "ST 240"},   {8, "linear"}, {11, "xvYCC"},  {13, "sRGB"},
         {14, "BT.2020"}, {15, "BT.2020"}, {16, "PQ"},    {17, "ST 428"}, {18, "HLG"}};
-    static const QMap<int, QString> s_matrices = {
-        {0, "RGB"},   {1, "BT.709"},    {2, s_none},        {3, s_none},
+    static const QMap<int, QString> matrices = {
+        {0, "RGB"},   {1, "BT.709"},    {2, unknown},       {3, unknown},
         {4, "FCC"},   {5, "BT.470 BG"}, {6, "ST 170"},      {7, "ST 240"},
         {8, "YCgCo"}, {9, "BT.2020"},   {10, "BT.2020 CL"}, {14, "ICtCp"}};
-    const QString none = QStringList{s_none, s_none, s_none}.join('/');
+    const QString none = QStringList{unknown, unknown, unknown}.join('/');
     const QString text =
-        QStringList{CodeText(stream.primaries, s_primaries), CodeText(stream.transfer, s_transfers),
-                    CodeText(stream.matrix, s_matrices)}
+        QStringList{CodeText(stream.primaries, primaries), CodeText(stream.transfer, transfers),
+                    CodeText(stream.matrix, matrices)}
             .join('/');
     return text == none ? QString() : text;
 }

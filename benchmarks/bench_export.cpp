@@ -9,7 +9,7 @@
 #include "EngineApi/INLETimeline.h"
 #include "EngineApi/INLETransform.h"
 #include "TestMedia.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Cost.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -34,40 +34,6 @@ constexpr int kRounds = 3;
 PlayerMaterProvider* Provider()
 {
     return NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
-}
-
-/// Seconds, and seconds of processors, that a piece of work took.
-struct Cost
-{
-    double wall;
-    double processor;
-};
-
-Cost CostOf(int who, const std::function<void()>& work)
-{
-    const auto processor = [who] {
-        rusage usage = {};
-        getrusage(who, &usage);
-        return double(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
-               double(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
-    };
-    const double before = processor();
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return {double(timer.nsecsElapsed()) / 1e9, processor() - before};
-}
-
-/// Medians of several runs.
-Cost MedianCost(const std::vector<Cost>& costs)
-{
-    std::vector<double> wall;
-    std::vector<double> processor;
-    for (const Cost& cost : costs) {
-        wall.push_back(cost.wall);
-        processor.push_back(cost.processor);
-    }
-    return {Median(wall), Median(processor)};
 }
 
 /// What the process holds in memory, in MiB: now, or at the most since the last call.

@@ -9,7 +9,7 @@
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/INLETransform.h"
 #include "TestMedia.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Cost.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -51,38 +51,6 @@ double MillisecondsOf(const std::function<void()>& work)
     timer.start();
     work();
     return double(timer.nsecsElapsed()) / 1e6;
-}
-
-/// Seconds, and seconds of processors, that a piece of work took.
-struct Cost
-{
-    double wall;
-    double processor;
-};
-
-Cost CostOf(int who, const std::function<void()>& work)
-{
-    const auto processor = [who] {
-        rusage usage = {};
-        getrusage(who, &usage);
-        return double(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
-               double(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
-    };
-    const double before = processor();
-    const double wall = MillisecondsOf(work) / 1e3;
-    return {wall, processor() - before};
-}
-
-/// Medians of several runs.
-Cost MedianCost(const std::vector<Cost>& costs)
-{
-    std::vector<double> wall;
-    std::vector<double> processor;
-    for (const Cost& cost : costs) {
-        wall.push_back(cost.wall);
-        processor.push_back(cost.processor);
-    }
-    return {Median(wall), Median(processor)};
 }
 
 /// What the process held in memory at the most since the last call, in MiB.

@@ -38,6 +38,7 @@ ImportSession::~ImportSession()
         WpdApiLib::Cancel();
     if (m_thread->isFinished())
         return;
-    m_worker.release();
-    m_thread.release();
+    // Left behind with the device that hangs.
+    Q_UNUSED(m_worker.release())
+    Q_UNUSED(m_thread.release())
 }

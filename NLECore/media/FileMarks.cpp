@@ -72,7 +72,7 @@ std::vector<FileMark> MarksBeside(const QFileInfo& media)
     for (const QString& base : {media.completeBaseName(), media.fileName()}) {
         for (const char* suffix : {".cue", ".CUE"}) {
             const QString path = media.dir().filePath(base + QLatin1String(suffix));
-            const std::vector<FileMark> marks = MarksFor(ReadCueSheet(path), media.fileName());
+            std::vector<FileMark> marks = MarksFor(ReadCueSheet(path), media.fileName());
             if (!marks.empty())
                 return marks;
         }

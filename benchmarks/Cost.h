@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "benchmarks/Median.h"
+
+#include <QElapsedTimer>
+
+#include <functional>
+#include <vector>
+
+#include <sys/resource.h>
+
+/// Seconds, and seconds of processors, that a piece of work took.
+struct Cost
+{
+    double wall;
+    double processor;
+};
+
+/// The cost of \a work; processors are those of \a who, as getrusage() names them.
+inline Cost CostOf(int who, const std::function<void()>& work)
+{
+    const auto processor = [who] {
+        rusage usage = {};
+        getrusage(who, &usage);
+        return double(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
+               double(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
+    };
+    const double before = processor();
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return {double(timer.nsecsElapsed()) / 1e9, processor() - before};
+}
+
+/// Medians of several runs.
+inline Cost MedianCost(const std::vector<Cost>& costs)
+{
+    std::vector<double> wall;
+    std::vector<double> processor;
+    for (const Cost& cost : costs) {
+        wall.push_back(cost.wall);
+        processor.push_back(cost.processor);
+    }
+    return {Median(wall), Median(processor)};
+}
