@@ -77,10 +77,9 @@ QString ImageSequence::PathOf(int index) const
 
 std::optional<ImageSequence> FindSequence(const QString& path)
 {
-    static const QRegularExpression s_pattern(
-        QStringLiteral("\\A([^%]*)%(?:0([1-9]))?d([^%]*)\\z"));
+    static const QRegularExpression pattern(QStringLiteral("\\A([^%]*)%(?:0([1-9]))?d([^%]*)\\z"));
     const int nameAt = path.lastIndexOf(QLatin1Char('/')) + 1;
-    const QRegularExpressionMatch match = s_pattern.match(path.mid(nameAt));
+    const QRegularExpressionMatch match = pattern.match(path.mid(nameAt));
     if (!match.hasMatch() || QFileInfo::exists(path))
         return std::nullopt;
     const QString folder = nameAt > 0 ? path.left(nameAt) : QStringLiteral(".");

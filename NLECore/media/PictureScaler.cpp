@@ -251,7 +251,8 @@ QImage PictureScaler::ScaleForeign(const AVFrame& frame, const QSize& size, Pict
         m_converter = std::make_unique<ColourConverter>(colours);
     const auto row = [this](int plane, int y) {
         std::uint8_t* const data = m_apart->data[plane];
-        return data ? reinterpret_cast<std::uint16_t*>(data + y * m_apart->linesize[plane])
+        return data ? reinterpret_cast<std::uint16_t*>(data +
+                                                       std::ptrdiff_t(y) * m_apart->linesize[plane])
                     : nullptr;
     };
     for (int y = 0; y < size.height(); ++y) {
