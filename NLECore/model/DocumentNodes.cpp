@@ -158,7 +158,7 @@ QString DocumentNodes::PathOf(const QString& name) const
         return QDir::cleanPath(PathOfUrl(name, m_folder));
     if (IsRemote(name))
         return name;
-    const QString beside = QDir::cleanPath(m_folder.absoluteFilePath(name));
+    QString beside = QDir::cleanPath(m_folder.absoluteFilePath(name));
     if (m_root.isEmpty())
         return beside;
     const QString named = QDir::cleanPath(QDir(m_root).absoluteFilePath(name));

@@ -119,8 +119,8 @@ QString DocumentPath(const QString& path, const QDir& folder)
 bool IsRemote(const QString& name)
 {
     // One letter before the colon is a drive.
-    static const QRegularExpression s_scheme(QStringLiteral("^[A-Za-z][A-Za-z0-9+.-]+://"));
-    return s_scheme.match(name).hasMatch() &&
+    static const QRegularExpression schemePattern(QStringLiteral("^[A-Za-z][A-Za-z0-9+.-]+://"));
+    return schemePattern.match(name).hasMatch() &&
            !name.startsWith(QLatin1String("file://"), Qt::CaseInsensitive);
 }
 

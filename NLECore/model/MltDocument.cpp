@@ -254,9 +254,9 @@ bool ReadMlt(const QByteArray& text, MltDocument* result, QString* error)
 double MltNumber(const QString& text, double preset)
 {
     // As much of the text as is a number.
-    static const QRegularExpression s_number(
+    static const QRegularExpression numberPattern(
         QStringLiteral("^\\s*([+-]?(\\d+([.,]\\d*)?|[.,]\\d+)([eE][+-]?\\d+)?)"));
-    const QRegularExpressionMatch match = s_number.match(text);
+    const QRegularExpressionMatch match = numberPattern.match(text);
     if (!match.hasMatch())
         return preset;
     const double number = match.captured(1).replace(QLatin1Char(','), QLatin1Char('.')).toDouble();
@@ -265,8 +265,8 @@ double MltNumber(const QString& text, double preset)
 
 std::int64_t MltFrames(const QString& text, const NLERational& rate, std::int64_t preset)
 {
-    static const QRegularExpression s_separator(QStringLiteral("[:;]"));
-    QStringList parts = text.trimmed().split(s_separator);
+    static const QRegularExpression separator(QStringLiteral("[:;]"));
+    QStringList parts = text.trimmed().split(separator);
     const double fps = IsRate(rate) ? ToDouble(rate) : 25;
     if (parts.size() == 1)
         return ClampToInt(std::floor(MltNumber(text, double(preset))));

@@ -55,10 +55,11 @@ double FromDecibel(double level)
 std::vector<MltKey> MltKeys(const QString& text, const NLERational& rate, std::int64_t length)
 {
     // A letter or sign before "=" names the way to the next key frame.
-    static const QRegularExpression s_key(QStringLiteral("^\\s*(-?[0-9:.,]+)\\s*([^0-9=]?)=(.*)$"));
+    static const QRegularExpression keyPattern(
+        QStringLiteral("^\\s*(-?[0-9:.,]+)\\s*([^0-9=]?)=(.*)$"));
     std::vector<MltKey> keys;
     for (const QString& part : text.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
-        const QRegularExpressionMatch match = s_key.match(part);
+        const QRegularExpressionMatch match = keyPattern.match(part);
         if (int(keys.size()) >= kMostKeys)
             break;
         if (!match.hasMatch()) {
@@ -328,11 +329,11 @@ bool MltEffects::TakeBrightness(const MltEffect& effect)
 
 MltEffects::Rect MltEffects::ParseRect(const QString& text, double fullOpacity) const
 {
-    static const QRegularExpression s_number(QStringLiteral("(-?[0-9.]+(?:e-?[0-9]+)?)(%?)"));
+    static const QRegularExpression numberPattern(QStringLiteral("(-?[0-9.]+(?:e-?[0-9]+)?)(%?)"));
     constexpr double percent = 100;
     std::array<double, 5> values = {0, 0, double(m_canvas.width), double(m_canvas.height),
                                     fullOpacity};
-    auto numbers = s_number.globalMatch(text);
+    auto numbers = numberPattern.globalMatch(text);
     for (size_t i = 0; i < values.size() && numbers.hasNext(); ++i) {
         const QRegularExpressionMatch match = numbers.next();
         const double number = MltNumber(match.captured(1), 0);

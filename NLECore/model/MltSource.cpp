@@ -14,7 +14,7 @@ using Kind = MltSource::Kind;
 
 Kind KindOf(const QString& service)
 {
-    static const QHash<QString, Kind> s_kinds = {
+    static const QHash<QString, Kind> kinds = {
         {QString(), Kind::Media},
         {QStringLiteral("avformat"), Kind::Media},
         {QStringLiteral("avformat-novalidate"), Kind::Media},
@@ -26,7 +26,7 @@ Kind KindOf(const QString& service)
         {QStringLiteral("colour"), Kind::Color},
         {QStringLiteral("qtext"), Kind::Text},
     };
-    return s_kinds.value(service, Kind::Unknown);
+    return kinds.value(service, Kind::Unknown);
 }
 
 /// Takes "speed:" from the front of a resource.

@@ -81,7 +81,7 @@ double MediaStart(const TimelineNode& node)
 
 QString NameOf(const TimelineNode& node)
 {
-    const QString kept = BagText(node, kName);
+    QString kept = BagText(node, kName);
     if (!kept.isEmpty())
         return kept;
     if (const auto* media = dynamic_cast<const MediaClip*>(&node))
