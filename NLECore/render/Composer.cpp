@@ -233,7 +233,7 @@ QImage Composer::RenderNear(std::int64_t frame, const QSize& frameSize, QRect* p
 {
     m_isNear = true;
     m_isExact = true;
-    const QImage image = Fitted(frame, frameSize, place);
+    QImage image = Fitted(frame, frameSize, place);
     *isExact = m_isExact;
     return image;
 }
