@@ -89,13 +89,15 @@ SceneDetector::Sketch SceneDetector::Draw(const QImage& picture)
             const int luma = (77 * qRed(row[x]) + 150 * qGreen(row[x]) + 29 * qBlue(row[x])) >> 8;
             const int blue = Clamped((qBlue(row[x]) - luma) / 2 + 128);
             const int red = Clamped((qRed(row[x]) - luma) / 2 + 128);
-            const std::size_t cell = std::size_t(y * kRows / picture.height() * kColumns +
-                                                 x * kColumns / picture.width());
+            const int place =
+                y * kRows / picture.height() * kColumns + x * kColumns / picture.width();
+            const auto cell = std::size_t(place);
+            const int bin = luma / 32 * 16 + blue / 64 * 4 + red / 64;
             sums[cell][0] += luma;
             sums[cell][1] += blue;
             sums[cell][2] += red;
             ++counts[cell];
-            ++colours[std::size_t(luma / 32 * 16 + blue / 64 * 4 + red / 64)];
+            ++colours[std::size_t(bin)];
             sum += luma;
             squares += double(luma) * luma;
         }
@@ -168,9 +170,11 @@ double SceneDetector::ShareOfMotion(const Sketch& a, const Sketch& b)
     const auto difference = [&](int left, int top, int right, int down) {
         int sum = 0;
         for (int y = top; y < top + rows; ++y) {
-            for (int x = left; x < left + columns; ++x)
-                sum += std::abs(int(a.cells[std::size_t(y * kColumns + x)]) -
-                                int(b.cells[std::size_t((y + down) * kColumns + x + right)]));
+            for (int x = left; x < left + columns; ++x) {
+                const int here = y * kColumns + x;
+                const int there = here + down * kColumns + right;
+                sum += std::abs(int(a.cells[std::size_t(here)]) - int(b.cells[std::size_t(there)]));
+            }
         }
         return sum;
     };
@@ -316,8 +320,10 @@ double SceneDetector::LengthOf(const Span& span) const
     const auto& a = At(span.first).cells;
     const auto& b = At(span.last).cells;
     std::int64_t squares = 0;
-    for (std::size_t i = 0; i < a.size(); ++i)
-        squares += (int(b[i]) - int(a[i])) * (int(b[i]) - int(a[i]));
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        const std::int64_t step = int(b[i]) - int(a[i]);
+        squares += step * step;
+    }
     return double(squares);
 }
 
