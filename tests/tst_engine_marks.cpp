@@ -118,7 +118,7 @@ class tst_EngineMarks : public QObject, private EngineFixture
     /// A colour with a marker of an instant and one of a span.
     Node Marked() const
     {
-        const Node clip = Colour(Qt::red);
+        Node clip = Colour(Qt::red);
         AddMarker(clip, {50, 25, 0xFFFF8000u}, L" chorus,  twice; 100% \u00e4\n");
         AddMarker(clip, {10, 0, 0x80000001u}, L"");
         return clip;
