@@ -96,7 +96,7 @@ class tst_EngineStreams : public QObject, private EngineFixture
     /// Red and blue pictures, then three tones, each a stream.
     QString StreamsFile() const
     {
-        const QString path = Path("streams.mkv");
+        QString path = Path("streams.mkv");
         if (QFile::exists(path))
             return path;
         QStringList arguments;

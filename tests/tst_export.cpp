@@ -114,7 +114,7 @@ class tst_Export : public QObject, private EngineFixture
     /// The same to see, but painted: a second layer lies above it that nobody sees.
     Node PaintedClip(const QString& media) const
     {
-        const Node project = ProjectWith(Media(media));
+        Node project = ProjectWith(Media(media));
         const Node cover = Colour(Qt::red);
         cover.query<INLEBlendSetting>()->SetAlpha(0);
         Add(project, cover, 0, 1);
