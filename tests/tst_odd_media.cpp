@@ -80,7 +80,7 @@ private Q_SLOTS:
         const auto sound = AudioDecoder::Open(info, info->audioStream, nullptr);
         QVERIFY(sound);
         constexpr int rate = 48000;
-        std::vector<float> samples(4 * rate);
+        std::vector<float> samples(std::size_t(4) * rate);
         QVERIFY(sound->Read(0, 4 * rate, rate, 1, samples.data()) > 3.9 * rate);
         const auto loudest = [&](double from, double to) {
             return *std::max_element(samples.begin() + int(from * rate),

@@ -128,7 +128,7 @@ bool WriteHeic(const QString& path, const QImage& coded, int exif)
     int stride = 0;
     std::uint8_t* const pixels = heif_image_get_plane(image, heif_channel_interleaved, &stride);
     for (int y = 0; y < rgb.height(); ++y)
-        std::copy_n(rgb.constScanLine(y), rgb.width() * 3, pixels + y * stride);
+        std::copy_n(rgb.constScanLine(y), rgb.width() * 3, pixels + std::ptrdiff_t(y) * stride);
     heif_encoding_options* const options = heif_encoding_options_alloc();
     options->image_orientation = heif_orientation(exif);
     const bool isWritten =

@@ -405,7 +405,7 @@ private slots:
         QCOMPARE(cache.Needed(), Frames());
         const QStringList names = Files(m_folder, "*.nlechunk");
         QVERIFY(QFile::remove(m_folder + '/' + names[0]));
-        QVERIFY(cache.Stat().second.size() > 0); // as a host sees it that asks for nothing else
+        QVERIFY(!cache.Stat().second.isEmpty()); // as a host sees it that asks for nothing else
         const long needed = CountOf(cache.Needed());
         QVERIFY(needed > 0 && needed < 2L * kMediaFrames);
         QCOMPARE(cache.Render(), NLECache_Finished);
