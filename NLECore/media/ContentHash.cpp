@@ -41,4 +41,11 @@ ContentKey ContentHash::Of(const void* bytes, std::size_t size)
     return key;
 }
 
+QString ToText(const ContentKey& key)
+{
+    return QStringLiteral("%1%2")
+        .arg(key.high, 16, 16, QLatin1Char('0'))
+        .arg(key.low, 16, 16, QLatin1Char('0'));
+}
+
 } // namespace nle

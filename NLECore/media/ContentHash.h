@@ -22,6 +22,9 @@ struct ContentKey
     friend bool operator!=(const ContentKey& a, const ContentKey& b) { return !(a == b); }
 };
 
+/// The key as 32 hexadecimal digits, as names of files have it.
+QString ToText(const ContentKey& key);
+
 /// For the standard library's hashed containers.
 struct ContentKeyHash
 {

@@ -26,11 +26,7 @@ ContentKey KeyOf(const MediaInfo& media, int stream)
 
 QString PathOf(const QString& folder, const ContentKey& key)
 {
-    return QStringLiteral("%1/%2%3%4")
-        .arg(folder)
-        .arg(key.high, 16, 16, QLatin1Char('0'))
-        .arg(key.low, 16, 16, QLatin1Char('0'))
-        .arg(kSuffix);
+    return folder + QLatin1Char('/') + ToText(key) + kSuffix;
 }
 
 // Notes the use of a file in its time of change.

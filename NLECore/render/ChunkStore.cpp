@@ -82,11 +82,7 @@ ChunkStore::~ChunkStore()
 
 QString ChunkStore::PathOf(const ContentKey& key) const
 {
-    return QStringLiteral("%1/%2%3%4")
-        .arg(m_folder)
-        .arg(key.high, 16, 16, QLatin1Char('0'))
-        .arg(key.low, 16, 16, QLatin1Char('0'))
-        .arg(kSuffix);
+    return InFolder(ToText(key) + kSuffix);
 }
 
 bool ChunkStore::IsFolderThere() const
