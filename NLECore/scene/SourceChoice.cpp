@@ -45,16 +45,19 @@ double DelayOf(const MediaInfo& media, int index)
         FramesIn(media.streams[size_t(index)].startUs - media.originUs, RateOf(media, index)));
 }
 
-// A length in frames, drawn out to that of the sound where that is longer.
-double WithSound(const MediaInfo& media, const std::vector<int>& sounds, double length,
-                 const NLERational& rate)
+// A length in frames, drawn out to that of the sound where that is longer; which streams sound,
+// isHeard tells by their index.
+template <typename IsHeard>
+double WithSound(const MediaInfo& media, IsHeard isHeard, double length, const NLERational& rate)
 {
     // The sounds of joined recordings leave a rest at each of the joins.
     if (media.isLengthMeasured || !media.parts.empty())
         return length;
     double longest = length;
-    for (const int sound : sounds) {
-        const MediaStream& stream = media.streams[size_t(sound)];
+    for (int index = 0; index < int(media.streams.size()); ++index) {
+        if (!isHeard(index))
+            continue;
+        const MediaStream& stream = media.streams[size_t(index)];
         const double end = FramesIn(stream.startUs + stream.durationUs - media.originUs, rate);
         if (end >= length + FramesIn(kShortestRestUs, rate))
             longest = std::max(longest, std::round(end));
@@ -105,7 +108,11 @@ FrameTime LengthOf(const MediaInfo& media, const SourceSettings& settings)
     const auto pictures = double(PicturesOf(media, index));
     const NLERational rate = RateOf(media, index);
     const double length = pictures > 0 ? std::max(0.0, DelayOf(media, index)) + pictures : 0;
-    return {WithSound(media, AudioStreamsOf(media, settings), length, rate), rate};
+    const std::vector<int> sounds = AudioStreamsOf(media, settings);
+    const auto isHeard = [&sounds](int stream) {
+        return std::find(sounds.begin(), sounds.end(), stream) != sounds.end();
+    };
+    return {WithSound(media, isHeard, length, rate), rate};
 }
 
 int ShownStream::FrameAt(const FrameTime& time) const
@@ -128,13 +135,9 @@ ShownStream ShownStreamOf(const Layer& layer)
                          {settings.deinterlacing, settings.fieldOrder}};
     // A decoder holds the last picture a little, as some counts are estimates. Whichever streams
     // sound, the same pictures show.
-    std::vector<int> sounds;
-    for (int sound = 0; sound < int(media.streams.size()); ++sound) {
-        if (IsOfType(media, sound, NLEStream_Audio))
-            sounds.push_back(sound);
-    }
+    const auto isSound = [&media](int stream) { return IsOfType(media, stream, NLEStream_Audio); };
     if (media.kind == NLEMedia_Video &&
-        WithSound(media, sounds, double(pictures), rate) > double(pictures))
+        WithSound(media, isSound, double(pictures), rate) > double(pictures))
         shown.end = pictures;
     return shown;
 }
