@@ -116,4 +116,28 @@ HRESULT TimelineFactory::CreateVirtual(int type, INLETimeline** timeline)
     });
 }
 
+HRESULT TimelineFactory::CreateEffect(const wchar_t* /*name*/, INLETimeline** effect)
+{
+    if (!effect)
+        return E_POINTER;
+    *effect = nullptr;
+    return E_NOTIMPL;
+}
+
+HRESULT TimelineFactory::CreateTransition(const wchar_t* /*name*/, INLETimeline** transition)
+{
+    if (!transition)
+        return E_POINTER;
+    *transition = nullptr;
+    return E_NOTIMPL;
+}
+
+HRESULT TimelineFactory::CreateTitle(const wchar_t* /*name*/, INLETimeline** title)
+{
+    if (!title)
+        return E_POINTER;
+    *title = nullptr;
+    return E_NOTIMPL;
+}
+
 } // namespace nle

@@ -19,6 +19,9 @@ public:
                         INLETimeline** clip) override;
     HRESULT CreateTipText(const wchar_t* text, const wchar_t* family, INLETimeline** clip) override;
     HRESULT CreateVirtual(int type, INLETimeline** timeline) override;
+    HRESULT CreateEffect(const wchar_t* name, INLETimeline** effect) override;
+    HRESULT CreateTransition(const wchar_t* name, INLETimeline** transition) override;
+    HRESULT CreateTitle(const wchar_t* name, INLETimeline** title) override;
 };
 
 } // namespace nle

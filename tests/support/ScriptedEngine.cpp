@@ -65,6 +65,9 @@ struct TimelineFactory : Object<INLETimelineFactory>
         return Give("CreateTipText", out, text, family);
     }
     SCRIPTED_OBJECT_FROM(int, INLETimeline, CreateVirtual)
+    SCRIPTED_OBJECT_FROM(const wchar_t*, INLETimeline, CreateEffect)
+    SCRIPTED_OBJECT_FROM(const wchar_t*, INLETimeline, CreateTransition)
+    SCRIPTED_OBJECT_FROM(const wchar_t*, INLETimeline, CreateTitle)
 };
 
 struct Factory : Object<INLEFactory>
