@@ -85,6 +85,11 @@ std::shared_ptr<const KeyFrameCurve> Other(const std::shared_ptr<const KeyFrameC
     curve->frames = {kPlainKeyFrame};
     return curve;
 }
+std::vector<SharedParameters> Other(const std::vector<SharedParameters>& /*value*/)
+{
+    static const Declaration blur = {{"blur", "Blur"}, {}};
+    return {std::make_shared<ParameterValues>(blur)};
+}
 std::vector<Snapshot> Other(const std::vector<Snapshot>& /*value*/)
 {
     return {std::make_shared<Layer>()};

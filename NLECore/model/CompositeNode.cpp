@@ -162,7 +162,7 @@ HRESULT CompositeNode::AddClip(INLETimeline* clip)
 {
     return ComGuard([&] {
         TimelineNode* node = TimelineNode::From(clip);
-        if (!node || node->Parent() || IsSelfOrAncestor(node) ||
+        if (!node || !node->IsClip() || node->Parent() || IsSelfOrAncestor(node) ||
             DepthFromTop() + DepthBelow(*node) > kDeepestNesting)
             return E_INVALIDARG;
         Adopt(node);

@@ -21,18 +21,6 @@ bool IsFinite(const NLEKeyFrameRecord& r)
     return true;
 }
 
-/// The place on \a to of what is at \a time on \a from.
-double MapTime(double time, const KeyFrameAxis& from, const KeyFrameAxis& to)
-{
-    constexpr double limit = std::numeric_limits<double>::max();
-    double frame = from.FrameOf(time);
-    // A key frame on a frame stays exactly there, however often the range changes.
-    const double nearest = std::round(frame);
-    if (std::abs(frame - nearest) < 1e-6)
-        frame = nearest;
-    return std::clamp(to.TimeOf(frame), -limit, limit);
-}
-
 } // namespace
 
 KeyFrameFacet::KeyFrameFacet(TimelineNode& node)

@@ -3,6 +3,9 @@
 
 #include "NLECore/model/DocumentFormat.h"
 #include "NLECore/model/DocumentText.h"
+#include "NLECore/model/EffectNode.h"
+#include "NLECore/model/ParameterText.h"
+#include "NLECore/render/EffectKinds.h"
 #include "NLECore/scene/FrameMath.h"
 
 #include <QStringList>
@@ -331,6 +334,42 @@ void ReadMixer(const QHash<QString, QString>& properties, MixerSettings& mixer)
     }
 }
 
+/// Followed by the number of an effect; its parameters have a colon and their names behind that.
+const QString kEffectPrefix = kOwnPrefix + QLatin1String("effect:");
+/// Stands behind the name of an effect that is switched off.
+const QLatin1String kOff(" off");
+
+void AddEffects(const EffectsFacet& effects, const QDir& folder, DocumentTexts& texts)
+{
+    int number = 0;
+    for (const NLEComPtr<EffectNode>& effect : effects.All()) {
+        const QString prefix = kEffectPrefix + QString::number(number++);
+        const ParameterValues& values = *effect->Parameters().Shared();
+        texts.emplace_back(prefix, QLatin1String(values.Declared().names.name) +
+                                       (effect->IsEnabled() ? QLatin1String() : kOff));
+        AddParameterTexts(values, prefix + QLatin1Char(':'), folder, texts);
+    }
+}
+
+void ReadEffects(const QHash<QString, QString>& properties, const FindMedia& media,
+                 EffectsFacet& effects)
+{
+    QString prefix = kEffectPrefix + QLatin1Char('0');
+    for (int number = 0; properties.contains(prefix);
+         prefix = kEffectPrefix + QString::number(++number)) {
+        const QStringList words = properties.value(prefix).split(QLatin1Char(' '));
+        const EffectKind* kind = FindEffect(words.front());
+        if (!kind)
+            continue;
+        NLEComPtr<EffectNode> effect = MakeCom<EffectNode>(kind->declaration);
+        effect->SetEnabled(words.size() < 2);
+        ParameterValues values(kind->declaration);
+        ReadParameterTexts(properties, prefix + QLatin1Char(':'), media, values);
+        effect->Parameters().Restore(values);
+        effects.Adopt(effect);
+    }
+}
+
 } // namespace
 
 DocumentTexts SettingsToText(const TimelineNode& node, const QDir& folder)
@@ -345,6 +384,7 @@ DocumentTexts SettingsToText(const TimelineNode& node, const QDir& folder)
     const QString keyFrames = KeyFrameText(node.KeyFrames());
     if (!keyFrames.isEmpty())
         texts.emplace_back(PropertyNames<NLEKeyFrameRecord>().front(), keyFrames);
+    AddEffects(node.Effects(), folder, texts);
     AddMarkers(node.Markers().settings, texts);
     for (const auto& [level, strip] : node.Mixer().settings) {
         const auto [prefix, text] = FieldTexts(strip, folder).front();
@@ -376,6 +416,7 @@ void SettingsFromText(const QHash<QString, QString>& properties, const FindMedia
     ReadSettings(properties, media, node.Video().settings);
     ReadSettings(properties, media, node.Source());
     ReadKeyFrames(properties.value(PropertyNames<NLEKeyFrameRecord>().front()), node.KeyFrames());
+    ReadEffects(properties, media, node.Effects());
     ReadMixer(properties, node.Mixer().settings);
     ReadMarkers(properties, node.Markers().settings);
 }

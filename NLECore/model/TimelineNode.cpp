@@ -78,6 +78,7 @@ TimelineNode::TimelineNode(const NLERational& frameRate)
     , m_markers(static_cast<INLETimeline&>(*this))
     , m_keyFrames(*this)
     , m_keyFrameStatus(static_cast<INLETimeline&>(*this), m_keyFrames)
+    , m_effects(*this)
 {
 }
 
@@ -99,7 +100,8 @@ HRESULT TimelineNode::QueryInterface(REFIID iid, void** out)
                ComDetail::Offer<INLEMixerSetting>(&m_mixer, iid, out) ||
                ComDetail::Offer<INLEMarkers>(&m_markers, iid, out) ||
                ComDetail::Offer<INLEKeyFrameList>(&m_keyFrames, iid, out) ||
-               ComDetail::Offer<INLEKeyFrameStatus>(&m_keyFrameStatus, iid, out)))
+               ComDetail::Offer<INLEKeyFrameStatus>(&m_keyFrameStatus, iid, out) ||
+               ComDetail::Offer<INLEEffects>(&m_effects, iid, out)))
         return ComObject::QueryInterface(iid, out);
     AddRef();
     return S_OK;
@@ -231,6 +233,7 @@ NLEComPtr<TimelineNode> TimelineNode::Copy(bool deep) const
     copy->m_markers.settings = m_markers.settings;
     copy->m_keyFrames.Restore(*m_keyFrames.Stored());
     copy->m_keyFrames.enabled = m_keyFrames.enabled;
+    copy->m_effects.CopyFrom(m_effects);
     return copy;
 }
 
@@ -270,6 +273,7 @@ void TimelineNode::ChangeRate(const NLERational& rate)
         m_placement.range = FrameSpan{*m_placement.range, old}.At(rate);
     m_keyFrames.RescaleAxis(ToDouble(rate) / ToDouble(old));
     m_markers.Rescale(ToDouble(rate) / ToDouble(old));
+    m_effects.ChangeRate(rate);
     AudioSettings& sound = m_audio.settings;
     sound.fadeInFrames = FrameTime{double(sound.fadeInFrames), old}.NearestAt(rate);
     sound.fadeOutFrames = FrameTime{double(sound.fadeOutFrames), old}.NearestAt(rate);
@@ -305,6 +309,7 @@ void TimelineNode::ChangeSpeed(Change change)
         return;
     m_keyFrames.RescaleAxis(before / after);
     m_markers.Rescale(before / after);
+    m_effects.RescaleAxis(before / after);
     if (m_placement.range)
         m_placement.range = ScaleRange(*m_placement.range, before / after);
 }
@@ -336,6 +341,7 @@ Snapshot TimelineNode::MakeSnapshot() const
     layer->audio = m_audio.settings;
     layer->source = m_source;
     layer->keyFrames = m_keyFrames.Curve();
+    layer->effects = m_effects.Shown();
     layer->context = Context();
     Describe(*layer);
     return layer;

@@ -4,6 +4,7 @@
 #include "Com/ComObject.h"
 #include "EngineApi/INLEProperties.h"
 #include "EngineApi/INLETimeline.h"
+#include "NLECore/model/EffectsFacet.h"
 #include "NLECore/model/KeyFrameFacets.h"
 #include "NLECore/model/MarkerFacet.h"
 #include "NLECore/model/NodeFacets.h"
@@ -94,6 +95,8 @@ public:
     bool IsFrozen() const;
     /// Whether speed and freeze apply: to what plays material, not to what holds clips.
     virtual bool PlaysMaterial() const { return true; }
+    /// Whether a composite can hold it.
+    virtual bool IsClip() const { return true; }
     /// Changes what the speed depends on and keeps the material that the trim range shows.
     template <typename Change>
     void ChangeSpeed(Change change);
@@ -109,6 +112,8 @@ public:
     MixerFacet& Mixer() { return m_mixer; }
     MarkerFacet& Markers() { return m_markers; }
     const MarkerFacet& Markers() const { return m_markers; }
+    EffectsFacet& Effects() { return m_effects; }
+    const EffectsFacet& Effects() const { return m_effects; }
     KeyFrameFacet& KeyFrames() { return m_keyFrames; }
     const KeyFrameFacet& KeyFrames() const { return m_keyFrames; }
     const BlendFacet& Blend() const { return m_blend; }
@@ -158,6 +163,7 @@ private:
     MarkerFacet m_markers;
     KeyFrameFacet m_keyFrames;
     KeyFrameStatusFacet m_keyFrameStatus;
+    EffectsFacet m_effects;
 };
 
 } // namespace nle

@@ -4,9 +4,12 @@
 #include "Com/ComGuard.h"
 #include "NLECore/media/ImageSequence.h"
 #include "NLECore/model/CompositeNode.h"
+#include "NLECore/model/DocumentText.h"
+#include "NLECore/model/EffectNode.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/SourceNodes.h"
 #include "NLECore/objects/DocumentSerialize.h"
+#include "NLECore/render/EffectKinds.h"
 #include "NLECore/scene/FrameMath.h"
 
 #include <QDir>
@@ -20,6 +23,32 @@ const QString kTemplateDocument = QStringLiteral("Template.mlt");
 
 /// Frames a second beyond which nothing is counted.
 constexpr float kHighestRate = 1e6F;
+
+/// What there is of a kind; none of a kind that there is not.
+std::vector<NameRow> NamesOf(int kind)
+{
+    std::vector<NameRow> names;
+    if (kind == NLECatalog_Effect) {
+        for (const EffectKind& effect : EffectKinds())
+            names.push_back(effect.declaration.names);
+    }
+    return names;
+}
+
+bool IsCatalog(int kind)
+{
+    return kind >= NLECatalog_Effect && kind <= NLECatalog_AudioFilter;
+}
+
+/// The name at \a index of the catalogue \a kind, as \a give gives it.
+template <typename Give>
+HRESULT WithName(int kind, int index, Give give)
+{
+    return ComGuard([&] {
+        const std::vector<NameRow> names = NamesOf(kind);
+        return index >= 0 && index < int(names.size()) ? give(names[size_t(index)]) : E_INVALIDARG;
+    });
+}
 
 } // namespace
 
@@ -116,12 +145,15 @@ HRESULT TimelineFactory::CreateVirtual(int type, INLETimeline** timeline)
     });
 }
 
-HRESULT TimelineFactory::CreateEffect(const wchar_t* /*name*/, INLETimeline** effect)
+HRESULT TimelineFactory::CreateEffect(const wchar_t* name, INLETimeline** effect)
 {
-    if (!effect)
-        return E_POINTER;
-    *effect = nullptr;
-    return E_NOTIMPL;
+    return ComGuard([&] {
+        if (!name || !effect)
+            return E_POINTER;
+        *effect = nullptr;
+        const EffectKind* kind = FindEffect(QString::fromWCharArray(name));
+        return kind ? GiveNew<EffectNode>(effect, kind->declaration) : E_INVALIDARG;
+    });
 }
 
 HRESULT TimelineFactory::CreateTransition(const wchar_t* /*name*/, INLETimeline** transition)
@@ -138,6 +170,27 @@ HRESULT TimelineFactory::CreateTitle(const wchar_t* /*name*/, INLETimeline** tit
         return E_POINTER;
     *title = nullptr;
     return E_NOTIMPL;
+}
+
+HRESULT TimelineFactory::GetCount(int kind, int* count)
+{
+    return ComGuard([&] {
+        return IsCatalog(kind) ? GiveValue(count, int(NamesOf(kind).size())) : E_INVALIDARG;
+    });
+}
+
+HRESULT TimelineFactory::GetName(int kind, int index, wchar_t* name, int capacity)
+{
+    return WithName(kind, index, [=](const NameRow& names) {
+        return CopyText(ToWide(QString::fromLatin1(names.name)), name, capacity);
+    });
+}
+
+HRESULT TimelineFactory::GetTitle(int kind, int index, wchar_t* title, int capacity)
+{
+    return WithName(kind, index, [=](const NameRow& names) {
+        return CopyText(ToWide(Translated(names.title)), title, capacity);
+    });
 }
 
 } // namespace nle

@@ -2,12 +2,13 @@
 #pragma once
 
 #include "Com/ComObject.h"
+#include "EngineApi/INLEEffects.h"
 #include "EngineApi/INLEFactory.h"
 
 namespace nle {
 
 /// Makes the nodes of the open engine's model.
-class TimelineFactory final : public ComObject<INLETimelineFactory>
+class TimelineFactory final : public ComObject<INLETimelineFactory, INLEEffectCatalog>
 {
 public:
     HRESULT GetDefaultProfile(tagNLEProjectProfile* profile) override;
@@ -22,6 +23,10 @@ public:
     HRESULT CreateEffect(const wchar_t* name, INLETimeline** effect) override;
     HRESULT CreateTransition(const wchar_t* name, INLETimeline** transition) override;
     HRESULT CreateTitle(const wchar_t* name, INLETimeline** title) override;
+
+    HRESULT GetCount(int kind, int* count) override;
+    HRESULT GetName(int kind, int index, wchar_t* name, int capacity) override;
+    HRESULT GetTitle(int kind, int index, wchar_t* title, int capacity) override;
 };
 
 } // namespace nle

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/render/ChunkPlan.h"
 
+#include "NLECore/render/EffectChain.h"
 #include "NLECore/scene/FieldKeys.h"
 
 #include <algorithm>
@@ -19,7 +20,7 @@ constexpr int kBestQuality = 1000;
 
 bool IsOpaque(const Layer& root)
 {
-    return root.argb >> 24 == 0xFF;
+    return root.argb >> 24 == 0xFF && !MakeTransparent(root.effects);
 }
 
 std::int64_t FloorToGrid(std::int64_t frame, std::int64_t anchor)
@@ -136,6 +137,9 @@ ContentKey ChunkPlan::KeyOf(const Chunk& chunk, LayerKeys& layers) const
 {
     ContentHash hash;
     hash.Add(m_rootKey).Add(chunk.Length());
+    for (const SharedParameters& effect : m_root->effects)
+        layers.AddParameters(hash, *effect);
+    LayerKeys::AddFrames(hash, *m_root, chunk.first, chunk.last);
     AddChildren(hash, *m_root, chunk.first, chunk.last, layers);
     return hash.Result();
 }
@@ -161,6 +165,7 @@ void ChunkPlan::AddChildren(ContentHash& hash, const Layer& composite, std::int6
         const std::int64_t toContent = layer.range.in - shown->begin;
         hash.Add(layers.Of(layer)).Add(begin - first).Add(end - first);
         hash.Add(begin + toContent);
+        LayerKeys::AddFrames(hash, layer, begin + toContent, end + toContent);
         if (layer.kind == LayerKind::Composite)
             AddChildren(hash, layer, begin + toContent, end + toContent, layers);
     }

@@ -120,19 +120,24 @@ QSize DecodeSize(const QRectF& rect)
     return QSize(side(rect.width()), side(rect.height()));
 }
 
-void Draw(QPainter& painter, const QImage& picture, const Placing& placing)
+/// Draws a picture so that what it is the picture of fills the place.
+void Draw(QPainter& painter, const DrawnPicture& picture, const Placing& placing)
 {
     const QRectF& rect = placing.rect;
     const QRect whole = rect.toRect();
-    if (placing.rotation == 0 && rect == QRectF(whole) && picture.size() == whole.size()) {
-        painter.drawImage(whole.topLeft(), picture);
+    const QMargins& margins = picture.margins;
+    const QSize size = picture.image.rect().marginsRemoved(margins).size();
+    if (placing.rotation == 0 && rect == QRectF(whole) && size == whole.size()) {
+        painter.drawImage(whole.topLeft() - QPoint(margins.left(), margins.top()), picture.image);
         return;
     }
     painter.save();
     painter.translate(rect.center());
     painter.rotate(placing.rotation);
-    painter.scale(rect.width() / picture.width(), rect.height() / picture.height());
-    painter.drawImage(QPointF(-picture.width() / 2.0, -picture.height() / 2.0), picture);
+    painter.scale(rect.width() / size.width(), rect.height() / size.height());
+    painter.drawImage(
+        QPointF(-size.width() / 2.0 - margins.left(), -size.height() / 2.0 - margins.top()),
+        picture.image);
     painter.restore();
 }
 
@@ -219,7 +224,7 @@ QImage Composer::Fitted(std::int64_t frame, const QSize& frameSize, QRect* place
         return {};
     const RenderContext& context = m_root->context;
     const QSize drawn = (QSizeF(place->size()) * context.previewScale).toSize();
-    QImage image = Content(*m_root, frame, drawn.expandedTo(QSize(1, 1)));
+    QImage image = Content(*m_root, frame, drawn.expandedTo(QSize(1, 1))).Inner();
     if (!m_isNear && IsStopped())
         return {};
     DropIdleDecoders();
@@ -238,7 +243,18 @@ QImage Composer::RenderNear(std::int64_t frame, const QSize& frameSize, QRect* p
     return image;
 }
 
-QImage Composer::Content(const Layer& layer, std::int64_t frame, const QSize& size)
+DrawnPicture Composer::Content(const Layer& layer, std::int64_t frame, const QSize& size)
+{
+    QImage image = PlainContent(layer, frame, size);
+    if (layer.effects.empty())
+        return {std::move(image), {}};
+    const QPointF scale(double(size.width()) / std::max(layer.size.width, 1),
+                        double(size.height()) / std::max(layer.size.height, 1));
+    const EffectChain chain = {layer.effects, double(frame), scale, {}};
+    return chain.Apply(std::move(image), CanvasFormat(*m_root));
+}
+
+QImage Composer::PlainContent(const Layer& layer, std::int64_t frame, const QSize& size)
 {
     switch (layer.kind) {
     case LayerKind::Media:
@@ -301,16 +317,16 @@ const Layer* Composer::PlainBottom(const Layer& composite, std::int64_t frame,
     const Layer& layer = **bottom;
     const MediaStream* stream = layer.ShownMedia()->Stream(ShownStreamOf(layer).index);
     const Placing placing = PlaceLayer(layer, nullptr, composite.size, size);
-    const bool isPlain = stream && !stream->hasAlpha && !layer.keyFrames &&
-                         (!layer.blend.enabled || IsSame(layer.blend, BlendSettings())) &&
-                         placing.rotation == 0 &&
-                         placing.rect == QRectF(QPointF(0, 0), QSizeF(size));
+    const bool isPlain =
+        stream && !stream->hasAlpha && !layer.keyFrames && !MakeTransparent(layer.effects) &&
+        (!layer.blend.enabled || IsSame(layer.blend, BlendSettings())) && placing.rotation == 0 &&
+        placing.rect == QRectF(QPointF(0, 0), QSizeF(size));
     return isPlain ? &layer : nullptr;
 }
 
 const AVFrame* Composer::PlainPicture(std::int64_t frame, const QSize& frameSize)
 {
-    if (m_root->context.previewScale < 1 || !m_root->context.smooth)
+    if (m_root->context.previewScale < 1 || !m_root->context.smooth || !m_root->effects.empty())
         return nullptr;
     if (m_root->kind == LayerKind::Media)
         return PlainMedia(*m_root, frame);
@@ -319,7 +335,8 @@ const AVFrame* Composer::PlainPicture(std::int64_t frame, const QSize& frameSize
     const auto covers = [&](const Snapshot& child) {
         return child.get() != sole && IsShown(*child, frame);
     };
-    if (!sole || std::any_of(m_root->children.begin(), m_root->children.end(), covers))
+    if (!sole || !sole->effects.empty() ||
+        std::any_of(m_root->children.begin(), m_root->children.end(), covers))
         return nullptr;
     return PlainMedia(*sole, sole->FrameAt(frame));
 }
@@ -344,7 +361,7 @@ QImage Composer::Composite(const Layer& layer, std::int64_t frame, const QSize& 
     const Layer* bottom = PlainBottom(layer, frame, size);
     QImage canvas;
     if (bottom)
-        canvas = MediaPicture(*bottom, bottom->FrameAt(frame), size);
+        canvas = Content(*bottom, bottom->FrameAt(frame), size).Inner();
     if (canvas.isNull())
         canvas = ColorPicture(layer.argb, size, CanvasFormat(*m_root));
     else
@@ -364,8 +381,8 @@ QImage Composer::Composite(const Layer& layer, std::int64_t frame, const QSize& 
         const double opacity = key ? std::clamp(key->opacity, 0.0, 1.0) : 1;
         if (opacity == 0)
             continue;
-        const QImage picture = Content(*child, childFrame, DecodeSize(placing.rect));
-        if (picture.isNull())
+        const DrawnPicture picture = Content(*child, childFrame, DecodeSize(placing.rect));
+        if (picture.image.isNull())
             continue;
         const BlendSettings blend = child->blend.enabled ? child->blend : BlendSettings();
         painter.setCompositionMode(PainterMode(blend.mode));

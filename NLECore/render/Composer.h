@@ -2,6 +2,7 @@
 #pragma once
 
 #include "NLECore/media/DecoderPool.h"
+#include "NLECore/render/EffectChain.h"
 #include "NLECore/scene/SourceChoice.h"
 
 #include <QImage>
@@ -61,11 +62,13 @@ public:
     const AVFrame* PlainPicture(std::int64_t frame, const QSize& frameSize);
 
 private:
-    /// The lowest child that shows, when its media covers \a size as it is; else null.
+    /// The lowest child that shows, when its media covers all of \a size; else null.
     const Layer* PlainBottom(const Layer& composite, std::int64_t frame, const QSize& size) const;
     const AVFrame* PlainMedia(const Layer& layer, std::int64_t frame);
     QImage Fitted(std::int64_t frame, const QSize& frameSize, QRect* place);
-    QImage Content(const Layer& layer, std::int64_t frame, const QSize& size);
+    /// What the layer shows, with its effects; \a size is that of its own picture.
+    DrawnPicture Content(const Layer& layer, std::int64_t frame, const QSize& size);
+    QImage PlainContent(const Layer& layer, std::int64_t frame, const QSize& size);
     QImage MediaPicture(const Layer& layer, std::int64_t frame, const QSize& size);
     /// The layer's open decoder, or null, and the frame of its stream that shows.
     FrameDecoder* DecoderOf(const Layer& layer, const ShownStream& stream, std::int64_t frame,

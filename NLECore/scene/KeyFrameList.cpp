@@ -121,6 +121,17 @@ std::vector<NLEKeyFrameRecord> KeyFrameList::All() const
     return all;
 }
 
+double MapTime(double time, const KeyFrameAxis& from, const KeyFrameAxis& to)
+{
+    constexpr double limit = std::numeric_limits<double>::max();
+    double frame = from.FrameOf(time);
+    // A key frame on a frame stays exactly there, however often the range changes.
+    const double nearest = std::round(frame);
+    if (std::abs(frame - nearest) < 1e-6)
+        frame = nearest;
+    return std::clamp(to.TimeOf(frame), -limit, limit);
+}
+
 NLEKeyFrameRecord KeyFrameCurve::AtFrame(double frame) const
 {
     const double time = axis.TimeOf(frame);

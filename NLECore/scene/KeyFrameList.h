@@ -112,6 +112,9 @@ private:
     double LengthOrOne() const { return length > 0 ? length : 1; }
 };
 
+/// The time on \a to of what is at \a time on \a from.
+double MapTime(double time, const KeyFrameAxis& from, const KeyFrameAxis& to);
+
 /// What the key frames of a clip do to its picture, immutable, for rendering.
 struct KeyFrameCurve
 {

@@ -5,6 +5,7 @@
 #include "NLECore/media/MediaInfo.h"
 #include "NLECore/scene/ClipSettings.h"
 #include "NLECore/scene/KeyFrameList.h"
+#include "NLECore/scene/Parameters.h"
 
 #include <QString>
 
@@ -64,6 +65,7 @@ struct Layer
     BlendSettings blend;
     TransformSettings transform;
     std::shared_ptr<const KeyFrameCurve> keyFrames; ///< null: none apply
+    std::vector<SharedParameters> effects;          ///< those that apply, in their order
     RenderContext context; ///< of the outermost project; that of the rendered layer counts
     AudioSettings audio;
 
@@ -101,13 +103,13 @@ inline constexpr auto kFields<Layer> = std::tuple(
     Field{&Layer::mode, nullptr, Shows::kNo}, Field{&Layer::size, nullptr, Shows::kYes},
     Field{&Layer::speed, nullptr, Shows::kYes}, Field{&Layer::frozenFrame, nullptr, Shows::kYes},
     Field{&Layer::blend, nullptr, Shows::kYes}, Field{&Layer::transform, nullptr, Shows::kYes},
-    Field{&Layer::keyFrames, nullptr, Shows::kYes}, Field{&Layer::context, nullptr, Shows::kNo},
-    Field{&Layer::audio, nullptr, Shows::kNo}, Field{&Layer::media, nullptr, Shows::kYes},
-    Field{&Layer::source, nullptr, Shows::kYes}, Field{&Layer::proxy, nullptr, Shows::kYes},
-    Field{&Layer::gpuFirst, nullptr, Shows::kNo}, Field{&Layer::argb, nullptr, Shows::kYes},
-    Field{&Layer::text, nullptr, Shows::kYes}, Field{&Layer::family, nullptr, Shows::kYes},
-    Field{&Layer::children, nullptr, Shows::kNo}, Field{&Layer::guid, nullptr, Shows::kNo},
-    Field{&Layer::mixer, nullptr, Shows::kNo});
+    Field{&Layer::keyFrames, nullptr, Shows::kYes}, Field{&Layer::effects, nullptr, Shows::kYes},
+    Field{&Layer::context, nullptr, Shows::kNo}, Field{&Layer::audio, nullptr, Shows::kNo},
+    Field{&Layer::media, nullptr, Shows::kYes}, Field{&Layer::source, nullptr, Shows::kYes},
+    Field{&Layer::proxy, nullptr, Shows::kYes}, Field{&Layer::gpuFirst, nullptr, Shows::kNo},
+    Field{&Layer::argb, nullptr, Shows::kYes}, Field{&Layer::text, nullptr, Shows::kYes},
+    Field{&Layer::family, nullptr, Shows::kYes}, Field{&Layer::children, nullptr, Shows::kNo},
+    Field{&Layer::guid, nullptr, Shows::kNo}, Field{&Layer::mixer, nullptr, Shows::kNo});
 static_assert(kListsAllFields<Layer>);
 
 using Snapshot = std::shared_ptr<const Layer>;

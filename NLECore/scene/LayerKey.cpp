@@ -53,9 +53,44 @@ void LayerKeys::AddField(ContentHash& hash, const Layer& layer, const Value& val
     if constexpr (std::is_same_v<Value, std::shared_ptr<const MediaInfo>>) {
         if (value && &value == &layer.ShownMedia())
             hash.Add(OfMedia(*value));
+    } else if constexpr (std::is_same_v<Value, std::vector<SharedParameters>>) {
+        for (const SharedParameters& values : value)
+            AddParameters(hash, *values);
     } else {
         AddValue(hash, value);
     }
+}
+
+void LayerKeys::AddParameters(ContentHash& hash, const ParameterValues& values)
+{
+    hash.Add(QString::fromLatin1(values.Declared().names.name));
+    int index = 0;
+    for (const ParameterRow& row : values.Declared().parameters) {
+        const QString text = QString::fromStdWString(values.Text(index));
+        const bool isAnimated = !values.Keys(index).empty();
+        hash.Add(isAnimated).Add(isAnimated ? 0 : values.Number(index)).Add(text);
+        if (row.kind == NLEParameter_File && !text.isEmpty())
+            hash.Add(OfFile(text));
+        ++index;
+    }
+}
+
+void LayerKeys::AddParameterFrames(ContentHash& hash, const ParameterValues& values,
+                                   std::int64_t first, std::int64_t last)
+{
+    for (int index = 0; index < int(values.Declared().parameters.size()); ++index) {
+        if (values.Keys(index).empty())
+            continue;
+        for (std::int64_t frame = first; frame <= last; ++frame)
+            hash.Add(values.NumberAtFrame(index, double(frame)));
+    }
+}
+
+void LayerKeys::AddFrames(ContentHash& hash, const Layer& layer, std::int64_t first,
+                          std::int64_t last)
+{
+    for (const SharedParameters& values : layer.effects)
+        AddParameterFrames(hash, *values, first, last);
 }
 
 ContentKey LayerKeys::OfMedia(const MediaInfo& media)

@@ -20,7 +20,17 @@ bool HasPicture(const Layer& layer);
 class LayerKeys
 {
 public:
+    /// Values with key frames count by their being there: AddFrames() tells the rest.
     ContentKey Of(const Layer& layer);
+    /// Adds what key frames of effects make of the layer's frames \a first to \a last, counted as
+    /// its trim range is.
+    static void AddFrames(ContentHash& hash, const Layer& layer, std::int64_t first,
+                          std::int64_t last);
+    /// Adds the values that have no key frames, and which ones have some.
+    void AddParameters(ContentHash& hash, const ParameterValues& values);
+    /// Adds what the key frames make of the frames \a first to \a last.
+    static void AddParameterFrames(ContentHash& hash, const ParameterValues& values,
+                                   std::int64_t first, std::int64_t last);
 
 private:
     template <typename Value>

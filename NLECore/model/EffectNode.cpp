@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/model/EffectNode.h"
+
+#include "Com/ComGuard.h"
+
+namespace nle {
+
+EffectNode::EffectNode(const Declaration& declaration) : ComExtension(declaration) {}
+
+EffectNode* EffectNode::From(IUnknown* object)
+{
+    return dynamic_cast<EffectNode*>(TimelineNode::From(object));
+}
+
+HRESULT EffectNode::GetEffectName(wchar_t* buffer, int capacity)
+{
+    return ComGuard([&] {
+        return CopyText(QString::fromLatin1(Parameters().Declared().names.name).toStdWString(),
+                        buffer, capacity);
+    });
+}
+
+NLEComPtr<TimelineNode> EffectNode::CopyContent(bool /*deep*/) const
+{
+    NLEComPtr<EffectNode> copy = MakeCom<EffectNode>(Parameters().Declared());
+    copy->Parameters().Restore(*Parameters().Shared());
+    return copy;
+}
+
+} // namespace nle

@@ -1,0 +1,251 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/model/ParameterFacet.h"
+
+#include "Com/ComGuard.h"
+#include "NLECore/model/DocumentText.h"
+#include "NLECore/model/TimelineNode.h"
+
+#include <cmath>
+
+namespace nle {
+
+namespace {
+
+HRESULT GiveText(const char* text, wchar_t* buffer, int capacity)
+{
+    return CopyText(QString::fromLatin1(text).toStdWString(), buffer, capacity);
+}
+
+HRESULT GiveTitle(const char* title, wchar_t* buffer, int capacity)
+{
+    return CopyText(ToWide(Translated(title)), buffer, capacity);
+}
+
+} // namespace
+
+/// A parameter by its name; \a row is null where there is none.
+struct ParameterFacet::Found
+{
+    int index;
+    const ParameterRow* row;
+
+    bool IsNumber() const { return row && !row->IsText(); }
+    bool IsText() const { return row && row->IsText(); }
+    bool IsAnimated() const { return row && row->canAnimate; }
+};
+
+ParameterFacet::ParameterFacet(IUnknown& node, const TimelineNode* owner,
+                               const Declaration& declaration)
+    : NodeFacet(node), m_owner(owner), m_values(declaration)
+{
+}
+
+ParameterFacet::Found ParameterFacet::Find(const wchar_t* name) const
+{
+    const int index = name ? Declared().IndexOf(QString::fromWCharArray(name)) : -1;
+    return {index, index < 0 ? nullptr : &m_values.Row(index)};
+}
+
+void ParameterFacet::FollowRange()
+{
+    if (m_owner)
+        m_values.FollowAxis(KeyFrameAxis::Of(m_owner->Range()));
+}
+
+void ParameterFacet::SetOwner(const TimelineNode* owner)
+{
+    FollowRange();
+    m_owner = owner;
+    if (m_owner)
+        m_values.SetAxis(KeyFrameAxis::Of(m_owner->Range()));
+    m_shared.reset();
+}
+
+void ParameterFacet::Join(const TimelineNode* owner)
+{
+    m_owner = owner;
+    m_shared.reset();
+}
+
+SharedParameters ParameterFacet::Shared() const
+{
+    if (!m_shared || (m_owner && m_shared->Axis().length == 0)) {
+        auto shared = std::make_shared<ParameterValues>(m_values);
+        if (m_owner && shared->Axis().length == 0)
+            shared->SetAxis(KeyFrameAxis::Of(m_owner->Range()));
+        m_shared = std::move(shared);
+    }
+    return m_shared;
+}
+
+void ParameterFacet::Restore(const ParameterValues& values)
+{
+    m_values = values;
+    m_shared.reset();
+}
+
+void ParameterFacet::RescaleAxis(double factor)
+{
+    m_values.RescaleAxis(factor);
+    m_shared.reset();
+}
+
+HRESULT ParameterFacet::GetParameterCount(int* count)
+{
+    return GiveValue(count, int(Declared().parameters.size()));
+}
+
+HRESULT ParameterFacet::GetParameter(int index, NLEParameterRecord* record, wchar_t* name,
+                                     int capacity)
+{
+    return ComGuard([&] {
+        if (!record)
+            return E_POINTER;
+        if (!Has(index))
+            return E_INVALIDARG;
+        *record = m_values.Row(index).Record();
+        return capacity == 0 ? S_OK : GiveText(m_values.Row(index).names.name, name, capacity);
+    });
+}
+
+HRESULT ParameterFacet::GetParameterTitle(int index, wchar_t* title, int capacity)
+{
+    return ComGuard([&] {
+        return Has(index) ? GiveTitle(m_values.Row(index).names.title, title, capacity)
+                          : E_INVALIDARG;
+    });
+}
+
+const NameRow* ParameterFacet::ChoiceAt(int index, int choice) const
+{
+    if (!Has(index) || choice < 0 || choice >= int(m_values.Row(index).choices.size()))
+        return nullptr;
+    return &m_values.Row(index).choices[size_t(choice)];
+}
+
+HRESULT ParameterFacet::GetChoice(int index, int choice, wchar_t* name, int capacity)
+{
+    return ComGuard([&] {
+        const NameRow* row = ChoiceAt(index, choice);
+        return row ? GiveText(row->name, name, capacity) : E_INVALIDARG;
+    });
+}
+
+HRESULT ParameterFacet::GetChoiceTitle(int index, int choice, wchar_t* title, int capacity)
+{
+    return ComGuard([&] {
+        const NameRow* row = ChoiceAt(index, choice);
+        return row ? GiveTitle(row->title, title, capacity) : E_INVALIDARG;
+    });
+}
+
+HRESULT ParameterFacet::GetNumber(const wchar_t* name, double* value)
+{
+    return ComGuard([&] {
+        const Found found = Find(name);
+        return found.IsNumber() ? GiveValue(value, m_values.Number(found.index)) : E_INVALIDARG;
+    });
+}
+
+HRESULT ParameterFacet::SetNumber(const wchar_t* name, double value)
+{
+    return ComGuard([&] {
+        const Found found = Find(name);
+        if (!found.row || !m_values.SetNumber(found.index, value))
+            return E_INVALIDARG;
+        m_shared.reset();
+        return S_OK;
+    });
+}
+
+HRESULT ParameterFacet::GetText(const wchar_t* name, wchar_t* text, int capacity)
+{
+    return ComGuard([&] {
+        const Found found = Find(name);
+        return found.IsText() ? CopyText(m_values.Text(found.index), text, capacity) : E_INVALIDARG;
+    });
+}
+
+HRESULT ParameterFacet::SetText(const wchar_t* name, const wchar_t* text)
+{
+    return ComGuard([&] {
+        if (!text)
+            return E_POINTER;
+        const Found found = Find(name);
+        if (!found.IsText())
+            return E_INVALIDARG;
+        std::wstring own = text;
+        if (!own.empty() && found.row->accepts && !found.row->accepts(own))
+            return E_FAIL;
+        m_values.SetText(found.index, std::move(own));
+        m_shared.reset();
+        return S_OK;
+    });
+}
+
+HRESULT ParameterFacet::GetKeyFrameCount(const wchar_t* name, int* count)
+{
+    return ComGuard([&] {
+        const Found found = Find(name);
+        return found.IsAnimated() ? GiveValue(count, int(m_values.Keys(found.index).size()))
+                                  : E_INVALIDARG;
+    });
+}
+
+HRESULT ParameterFacet::GetKeyFrame(const wchar_t* name, int index, NLEParameterKeyFrame* key)
+{
+    return ComGuard([&] {
+        const Found found = Find(name);
+        if (!found.IsAnimated() || index < 0 || index >= int(m_values.Keys(found.index).size()))
+            return E_INVALIDARG;
+        FollowRange();
+        const ParameterKey& own = m_values.Keys(found.index)[size_t(index)];
+        return GiveValue(key, NLEParameterKeyFrame{own.time, own.value, own.interpolation, 0});
+    });
+}
+
+HRESULT ParameterFacet::PutKeyFrame(const wchar_t* name, const NLEParameterKeyFrame* key,
+                                    int* index)
+{
+    return ComGuard([&] {
+        if (!key)
+            return E_POINTER;
+        const Found found = Find(name);
+        if (!found.row)
+            return E_INVALIDARG;
+        FollowRange();
+        const int place = m_values.PutKey(
+            found.index,
+            {key->time, key->value, static_cast<NLEParameterInterpolation>(key->interpolation)});
+        if (place < 0)
+            return E_INVALIDARG;
+        m_shared.reset();
+        if (index)
+            *index = place;
+        return S_OK;
+    });
+}
+
+HRESULT ParameterFacet::DeleteKeyFrame(const wchar_t* name, int index)
+{
+    return ComGuard([&] {
+        const Found found = Find(name);
+        if (!found.row || !m_values.EraseKey(found.index, index))
+            return E_INVALIDARG;
+        m_shared.reset();
+        return S_OK;
+    });
+}
+
+HRESULT ParameterFacet::GetNumberAt(const wchar_t* name, double time, double* value)
+{
+    return ComGuard([&] {
+        const Found found = Find(name);
+        if (!found.IsNumber() || !std::isfinite(time))
+            return E_INVALIDARG;
+        FollowRange();
+        return GiveValue(value, m_values.NumberAtTime(found.index, time));
+    });
+}
+
+} // namespace nle

@@ -1,0 +1,602 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/render/ColorEffects_p.h"
+
+#include "NLECore/media/CubeTable.h"
+#include "NLECore/render/ToneCurve_p.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace nle {
+
+namespace {
+
+using Color = std::array<float, 3>;
+
+/// Shares of red, green and blue in the light of a pixel, ITU-R BT.709.
+constexpr Color kLuma = {0.2126F, 0.7152F, 0.0722F};
+/// Display gamma by which steps of light become steps of code values.
+constexpr double kGamma = 2.2;
+
+QString Text(double value)
+{
+    return QString::number(value, 'g', 9);
+}
+
+QString Service(const char* name)
+{
+    return QString::fromLatin1(name);
+}
+
+/// An effect on each component of the colour alone.
+template <typename Function>
+RowEffect OnComponents(Function function)
+{
+    return [function](const EffectRow& row) {
+        for (float* plane : row.colors) {
+            for (int x = 0; x < row.width; ++x)
+                plane[x] = function(plane[x]);
+        }
+    };
+}
+
+/// An effect on the colours as a whole.
+template <typename Function>
+RowEffect OnColors(Function function)
+{
+    return [function](const EffectRow& row) {
+        float* red = row.colors[0];
+        float* green = row.colors[1];
+        float* blue = row.colors[2];
+        for (int x = 0; x < row.width; ++x)
+            function(red[x], green[x], blue[x]);
+    };
+}
+
+float Luma(float red, float green, float blue)
+{
+    return kLuma[0] * red + kLuma[1] * green + kLuma[2] * blue;
+}
+
+// ---- Exposure
+
+RowEffect Exposure(const ParametersAt& values, const EffectFrame& /*frame*/)
+{
+    const auto black = float(values.Number("black"));
+    const float scale = 1 / (float(std::exp2(-values.Number("exposure") / kGamma)) - black);
+    if (black == 0 && scale == 1)
+        return {};
+    return OnComponents([=](float value) { return (value - black) * scale; });
+}
+
+MltTexts MltExposure(const ParametersAt& values, const QPointF& /*scale*/)
+{
+    return {{QStringLiteral("mlt_service"), Service("avfilter.exposure")},
+            {QStringLiteral("av.exposure"), Text(values.Number("exposure") / kGamma)},
+            {QStringLiteral("av.black"), Text(values.Number("black"))}};
+}
+
+// ---- Contrast
+
+RowEffect Contrast(const ParametersAt& values, const EffectFrame& /*frame*/)
+{
+    const auto contrast = float(values.Number("contrast"));
+    const auto brightness = float(values.Number("brightness"));
+    const auto pivot = float(values.Number("pivot"));
+    if (contrast == 1 && brightness == 0)
+        return {};
+    const float offset = pivot - pivot * contrast + brightness;
+    return OnComponents([=](float value) { return value * contrast + offset; });
+}
+
+MltTexts MltContrast(const ParametersAt& values, const QPointF& /*scale*/)
+{
+    const QString pivot = Text(values.Number("pivot"));
+    const QString formula =
+        QStringLiteral("clip(((val/maxval-%1)*%2+%1+%3)*maxval,0,maxval)")
+            .arg(pivot, Text(values.Number("contrast")), Text(values.Number("brightness")));
+    return {{QStringLiteral("mlt_service"), Service("avfilter.lutrgb")},
+            {QStringLiteral("av.r"), formula},
+            {QStringLiteral("av.g"), formula},
+            {QStringLiteral("av.b"), formula}};
+}
+
+// ---- Saturation
+
+RowEffect Saturation(const ParametersAt& values, const EffectFrame& /*frame*/)
+{
+    const auto saturation = float(values.Number("saturation"));
+    if (saturation == 1)
+        return {};
+    return OnColors([=](float& red, float& green, float& blue) {
+        const float grey = Luma(red, green, blue) * (1 - saturation);
+        red = red * saturation + grey;
+        green = green * saturation + grey;
+        blue = blue * saturation + grey;
+    });
+}
+
+MltTexts MltSaturation(const ParametersAt& values, const QPointF& /*scale*/)
+{
+    return {{QStringLiteral("mlt_service"), Service("avfilter.eq")},
+            {QStringLiteral("av.saturation"), Text(values.Number("saturation"))}};
+}
+
+// ---- White balance
+
+/// The colour of the light of a black body, by the usual fit to its table.
+Color BlackBody(double kelvin)
+{
+    constexpr double daylight = 66; // hundreds of kelvins
+    constexpr double darkest = 19;
+    const double hundreds = kelvin / 100;
+    const auto share = [](double value) { return float(std::clamp(value, 0.0, 1.0)); };
+    Color color = {1, 1, 1};
+    if (hundreds > daylight) {
+        color[0] = share(1.292936186062745 * std::pow(hundreds - 60, -0.1332047592));
+        color[1] = share(1.129890860895294 * std::pow(hundreds - 60, -0.0755148492));
+    } else {
+        color[1] = share(0.390081578769020 * std::log(hundreds) - 0.631841443788627);
+        color[2] = hundreds > darkest
+                       ? share(0.543206789110196 * std::log(hundreds - 10) - 1.196254089140000)
+                       : 0;
+    }
+    return color;
+}
+
+/// What the components are multiplied with. White keeps its light.
+Color BalanceGains(const ParametersAt& values)
+{
+    constexpr double neutral = 6500;
+    constexpr double tintSteps = 4; // the part of a doubling that all of the tint is
+    const Color wanted = BlackBody(values.Number("temperature"));
+    const Color white = BlackBody(neutral);
+    Color gains;
+    for (std::size_t i = 0; i < gains.size(); ++i)
+        gains[i] = wanted[i] / white[i];
+    gains[1] *= float(std::exp2(-values.Number("tint") / tintSteps));
+    const float light = Luma(gains[0], gains[1], gains[2]);
+    for (float& gain : gains)
+        gain /= light;
+    return gains;
+}
+
+RowEffect WhiteBalance(const ParametersAt& values, const EffectFrame& /*frame*/)
+{
+    const Color gains = BalanceGains(values);
+    if (gains == Color{1, 1, 1})
+        return {};
+    return [gains](const EffectRow& row) {
+        for (std::size_t i = 0; i < gains.size(); ++i) {
+            const float gain = gains[i];
+            float* plane = row.colors[i];
+            for (int x = 0; x < row.width; ++x)
+                plane[x] *= gain;
+        }
+    };
+}
+
+MltTexts MltWhiteBalance(const ParametersAt& values, const QPointF& /*scale*/)
+{
+    const Color gains = BalanceGains(values);
+    return {{QStringLiteral("mlt_service"), Service("avfilter.colorchannelmixer")},
+            {QStringLiteral("av.rr"), Text(double(gains[0]))},
+            {QStringLiteral("av.gg"), Text(double(gains[1]))},
+            {QStringLiteral("av.bb"), Text(double(gains[2]))}};
+}
+
+// ---- Curves
+
+constexpr std::array<const char*, 3> kCurveNames = {"red", "green", "blue"};
+
+bool IsCurve(const std::wstring& text)
+{
+    return ToneCurve::Parse(QString::fromStdWString(text)).has_value();
+}
+
+RowEffect Curves(const ParametersAt& values, const EffectFrame& /*frame*/)
+{
+    const auto curveOf = [&values](const char* name) {
+        return ToneCurve::Parse(values.Text(name)).value_or(ToneCurve());
+    };
+    const ToneCurve master = curveOf("master");
+    std::array<ToneCurve, kCurveNames.size()> curves;
+    bool isPlain = master.IsPlain();
+    for (std::size_t i = 0; i < curves.size(); ++i) {
+        curves[i] = curveOf(kCurveNames[i]);
+        isPlain = isPlain && curves[i].IsPlain();
+        curves[i].Join(master);
+    }
+    if (isPlain)
+        return {};
+    return [curves](const EffectRow& row) {
+        for (std::size_t i = 0; i < curves.size(); ++i)
+            curves[i].Apply(row.colors[i], row.width);
+    };
+}
+
+MltTexts MltCurves(const ParametersAt& values, const QPointF& /*scale*/)
+{
+    MltTexts texts = {{QStringLiteral("mlt_service"), Service("avfilter.curves")}};
+    for (const char* name : {"master", "red", "green", "blue"}) {
+        const QString curve = values.Text(name);
+        if (!curve.isEmpty())
+            texts.emplace_back(QLatin1String("av.") + QLatin1String(name), curve);
+    }
+    return texts.size() > 1 ? texts : MltTexts();
+}
+
+// ---- Three-dimensional tables
+
+bool IsCubeFile(const std::wstring& path)
+{
+    return CubeTable::Open(QString::fromStdWString(path)) != nullptr;
+}
+
+RowEffect Lookup(const ParametersAt& values, const EffectFrame& /*frame*/)
+{
+    const auto amount = float(values.Number("amount"));
+    const QString path = values.Text("file");
+    const std::shared_ptr<const CubeTable> table =
+        amount == 0 || path.isEmpty() ? nullptr : CubeTable::Open(path);
+    if (!table)
+        return {};
+    return OnColors([=](float& red, float& green, float& blue) {
+        const CubeTable::Color color = table->At(red, green, blue);
+        red += (color[0] - red) * amount;
+        green += (color[1] - green) * amount;
+        blue += (color[2] - blue) * amount;
+    });
+}
+
+MltTexts MltLookup(const ParametersAt& values, const QPointF& /*scale*/)
+{
+    const QString path = values.Text("file");
+    if (path.isEmpty() || values.Number("amount") != 1)
+        return {};
+    return {{QStringLiteral("mlt_service"), Service("avfilter.lut3d")},
+            {QStringLiteral("av.file"), path}};
+}
+
+// ---- Chroma key
+
+/// Colour differences of ITU-R BT.709, as shares of the range that video has for them.
+struct Chroma
+{
+    float u, v;
+
+    static Chroma Of(float red, float green, float blue)
+    {
+        constexpr float range = 224.0F / 255.0F;
+        const float luma = Luma(red, green, blue);
+        return {(blue - luma) * (range / 1.8556F), (red - luma) * (range / 1.5748F)};
+    }
+    float Length() const { return std::sqrt(u * u + v * v); }
+};
+
+Chroma KeyChroma(const ParametersAt& values)
+{
+    constexpr float most = 255;
+    const QRgb key = values.Color("color");
+    return Chroma::Of(float(qRed(key)) / most, float(qGreen(key)) / most, float(qBlue(key)) / most);
+}
+
+RowEffect ChromaKey(const ParametersAt& values, const EffectFrame& /*frame*/)
+{
+    constexpr float diagonal = 1.41421356F;
+    constexpr float hardest = 1e-4F;
+    const Chroma key = KeyChroma(values);
+    const auto tolerance = float(values.Number("tolerance"));
+    const float softness = std::max(float(values.Number("softness")), hardest);
+    const auto spill = float(values.Number("spill"));
+    const float length = std::max(key.Length(), hardest);
+    const Chroma direction = {key.u / length, key.v / length};
+    return [=](const EffectRow& row) {
+        for (int x = 0; x < row.width; ++x) {
+            const Chroma own = Chroma::Of(row.colors[0][x], row.colors[1][x], row.colors[2][x]);
+            const Chroma off = {own.u - key.u, own.v - key.v};
+            const float covers = (off.Length() / diagonal - tolerance) / softness;
+            row.alpha[x] *= std::min(std::max(covers, 0.0F), 1.0F);
+            // What of the colour is that of the key goes, its light stays.
+            const float share = std::max(own.u * direction.u + own.v * direction.v, 0.0F) * spill;
+            constexpr float range = 224.0F / 255.0F;
+            const float blue = share * direction.u * (1.8556F / range);
+            const float red = share * direction.v * (1.5748F / range);
+            row.colors[0][x] -= red;
+            row.colors[2][x] -= blue;
+            row.colors[1][x] += (kLuma[0] * red + kLuma[2] * blue) / kLuma[1];
+        }
+    };
+}
+
+MltTexts MltChromaKey(const ParametersAt& values, const QPointF& /*scale*/)
+{
+    constexpr float middle = 128;
+    constexpr float most = 255;
+    const Chroma key = KeyChroma(values);
+    const auto byte = [=](float share) {
+        return QStringLiteral("%1").arg(qBound(0, qRound(share * most + middle), int(most)), 2, 16,
+                                        QLatin1Char('0'));
+    };
+    return {{QStringLiteral("mlt_service"), Service("avfilter.chromakey")},
+            {QStringLiteral("av.color"), QLatin1String("0x80") + byte(key.u) + byte(key.v)},
+            {QStringLiteral("av.yuv"), QStringLiteral("1")},
+            {QStringLiteral("av.similarity"), Text(values.Number("tolerance"))},
+            {QStringLiteral("av.blend"), Text(values.Number("softness"))}};
+}
+
+// ---- Crop
+
+/// How much of each place from 0 to \a length shows between two edges, the soft part inside.
+std::vector<float> EdgeShares(int length, double low, double high, double softness)
+{
+    std::vector<float> shares(std::size_t(std::max(length, 0)));
+    const double soft = std::max(softness, 1.0);
+    for (int i = 0; i < length; ++i) {
+        // Without softness an edge between two pixels shows a part of the pixel.
+        const double middle = i + 0.5;
+        const double inside = std::min(middle - low * length, (1 - high) * length - middle);
+        const double offset = softness < 1 ? 0.5 : 0;
+        shares[std::size_t(i)] = float(std::clamp(inside / soft + offset, 0.0, 1.0));
+    }
+    return shares;
+}
+
+RowEffect Crop(const ParametersAt& values, const EffectFrame& frame)
+{
+    const double left = values.Number("left");
+    const double right = values.Number("right");
+    const double top = values.Number("top");
+    const double bottom = values.Number("bottom");
+    if (left == 0 && right == 0 && top == 0 && bottom == 0)
+        return {};
+    const QRect inner = frame.inner;
+    const double soft = values.Number("softness");
+    // An edge that is not cropped stays sharp: it lies far outside.
+    const auto edge = [](double share) { return share > 0 ? share : -1.0; };
+    const auto across = EdgeShares(inner.width(), edge(left), edge(right), soft * frame.scale.x());
+    const auto down = EdgeShares(inner.height(), edge(top), edge(bottom), soft * frame.scale.y());
+    return [=](const EffectRow& row) {
+        const int y = row.y - inner.top();
+        const float share = y >= 0 && y < inner.height() ? down[std::size_t(y)] : 0;
+        for (int x = 0; x < row.width; ++x) {
+            const int place = x - inner.left();
+            const bool isInside = place >= 0 && place < inner.width();
+            row.alpha[x] *= isInside ? across[std::size_t(place)] * share : 0.0F;
+        }
+    };
+}
+
+MltTexts MltCrop(const ParametersAt& values, const QPointF& /*scale*/)
+{
+    const auto percent = [](double share) { return Text(share * 100) + QLatin1Char('%'); };
+    const double left = values.Number("left");
+    const double top = values.Number("top");
+    const QStringList rect = {percent(left), percent(top),
+                              percent(std::max(0.0, 1 - left - values.Number("right"))),
+                              percent(std::max(0.0, 1 - top - values.Number("bottom")))};
+    return {{QStringLiteral("mlt_service"), Service("qtcrop")},
+            {QStringLiteral("rect"), rect.join(QLatin1Char(' '))},
+            {QStringLiteral("color"), QStringLiteral("#00000000")}};
+}
+
+// ---- Vignette
+
+/// Light at a squared distance from the centre, of 0 to 1.
+class Falloff
+{
+public:
+    explicit Falloff(double angle)
+    {
+        for (int i = 0; i <= kSteps + 1; ++i) {
+            const double light = std::cos(angle * std::sqrt(std::min(double(i) / kSteps, 1.0)));
+            m_light[std::size_t(i)] = float(light * light * light * light);
+        }
+    }
+    float At(float square) const
+    {
+        if (square > 1)
+            return 0;
+        const float place = square * kSteps;
+        const int step = int(place);
+        const float share = place - float(step);
+        return m_light[std::size_t(step)] * (1 - share) + m_light[std::size_t(step) + 1] * share;
+    }
+
+private:
+    static constexpr int kSteps = 1024;
+    std::array<float, kSteps + 2> m_light;
+};
+
+constexpr double kRightAngle = 1.57079632679489662;
+
+RowEffect Vignette(const ParametersAt& values, const EffectFrame& frame)
+{
+    const double amount = values.Number("amount");
+    if (amount == 0)
+        return {};
+    const QRectF inner = frame.inner;
+    const float unit = float(2 / std::hypot(inner.width(), inner.height()));
+    const float centerX = float(inner.left() + values.Number("x") * inner.width());
+    const float centerY = float(inner.top() + values.Number("y") * inner.height());
+    const Falloff falloff(amount * kRightAngle);
+    return [=](const EffectRow& row) {
+        const float down = (float(row.y) - centerY) * unit;
+        for (int x = 0; x < row.width; ++x) {
+            const float across = (float(x) - centerX) * unit;
+            const float light = falloff.At(across * across + down * down);
+            for (float* plane : row.colors)
+                plane[x] *= light;
+        }
+    };
+}
+
+MltTexts MltVignette(const ParametersAt& values, const QPointF& /*scale*/)
+{
+    return {{QStringLiteral("mlt_service"), Service("avfilter.vignette")},
+            {QStringLiteral("av.angle"), Text(values.Number("amount") * kRightAngle)},
+            {QStringLiteral("av.x0"), Text(values.Number("x")) + QLatin1String("*w")},
+            {QStringLiteral("av.y0"), Text(values.Number("y")) + QLatin1String("*h")}};
+}
+
+// ---- Black and white
+
+constexpr std::array<const char*, 3> kColorNames = {"red", "green", "blue"};
+
+RowEffect BlackAndWhite(const ParametersAt& values, const EffectFrame& /*frame*/)
+{
+    const auto amount = float(values.Number("amount"));
+    if (amount == 0)
+        return {};
+    Color weights;
+    for (std::size_t i = 0; i < weights.size(); ++i)
+        weights[i] = float(values.Number(kColorNames[i]));
+    return OnColors([=](float& red, float& green, float& blue) {
+        const float grey = (weights[0] * red + weights[1] * green + weights[2] * blue) * amount;
+        red = red * (1 - amount) + grey;
+        green = green * (1 - amount) + grey;
+        blue = blue * (1 - amount) + grey;
+    });
+}
+
+MltTexts MltBlackAndWhite(const ParametersAt& values, const QPointF& /*scale*/)
+{
+    const double amount = values.Number("amount");
+    MltTexts texts = {{QStringLiteral("mlt_service"), Service("avfilter.colorchannelmixer")}};
+    for (const char* to : kColorNames) {
+        for (const char* from : kColorNames) {
+            const double own = to == from ? 1 - amount : 0;
+            texts.emplace_back(QLatin1String("av.") + QLatin1Char(*to) + QLatin1Char(*from),
+                               Text(own + amount * values.Number(from)));
+        }
+    }
+    return texts;
+}
+
+} // namespace
+
+EffectKind ExposureEffect()
+{
+    return {{{"exposure", "Exposure"},
+             {NumberRow({"exposure", "Exposure"}, NLEUnit_Stops, -5, 5, 0),
+              NumberRow({"black", "Black level"}, NLEUnit_Share, -0.1, 0.1, 0)}},
+            false,
+            Exposure,
+            nullptr,
+            MltExposure};
+}
+
+EffectKind ContrastEffect()
+{
+    return {{{"contrast", "Contrast"},
+             {NumberRow({"contrast", "Contrast"}, NLEUnit_Share, 0, 4, 1),
+              NumberRow({"brightness", "Brightness"}, NLEUnit_Share, -1, 1, 0),
+              NumberRow({"pivot", "Pivot"}, NLEUnit_Share, 0, 1, 0.5)}},
+            false,
+            Contrast,
+            nullptr,
+            MltContrast};
+}
+
+EffectKind SaturationEffect()
+{
+    return {{{"saturation", "Saturation"},
+             {NumberRow({"saturation", "Saturation"}, NLEUnit_Share, 0, 3, 1)}},
+            false,
+            Saturation,
+            nullptr,
+            MltSaturation};
+}
+
+EffectKind WhiteBalanceEffect()
+{
+    return {{{"white-balance", "White balance"},
+             {NumberRow({"temperature", "Temperature"}, NLEUnit_Kelvin, 2000, 12000, 6500),
+              NumberRow({"tint", "Tint"}, NLEUnit_Share, -1, 1, 0)}},
+            false,
+            WhiteBalance,
+            nullptr,
+            MltWhiteBalance};
+}
+
+EffectKind CurvesEffect()
+{
+    const auto row = [](NameRow names) {
+        ParameterRow curve = TextRow(names, {});
+        curve.accepts = IsCurve;
+        return curve;
+    };
+    return {{{"curves", "Curves"},
+             {row({"master", "Master"}), row({"red", "Red"}), row({"green", "Green"}),
+              row({"blue", "Blue"})}},
+            false,
+            Curves,
+            nullptr,
+            MltCurves};
+}
+
+EffectKind LookupEffect()
+{
+    return {{{"lut", "Lookup table"},
+             {FileRow({"file", "File"}, IsCubeFile),
+              NumberRow({"amount", "Amount"}, NLEUnit_Share, 0, 1, 1)}},
+            false,
+            Lookup,
+            nullptr,
+            MltLookup};
+}
+
+EffectKind ChromaKeyEffect()
+{
+    constexpr std::uint32_t green = 0xFF00FF00;
+    return {{{"chroma-key", "Chroma key"},
+             {ColorRow({"color", "Colour"}, green),
+              NumberRow({"tolerance", "Tolerance"}, NLEUnit_Share, 0.01, 1, 0.15),
+              NumberRow({"softness", "Softness"}, NLEUnit_Share, 0, 1, 0.05),
+              NumberRow({"spill", "Spill removal"}, NLEUnit_Share, 0, 1, 0)}},
+            true,
+            ChromaKey,
+            nullptr,
+            MltChromaKey};
+}
+
+EffectKind CropEffect()
+{
+    return {{{"crop", "Crop"},
+             {NumberRow({"left", "Left"}, NLEUnit_Share, 0, 1, 0),
+              NumberRow({"top", "Top"}, NLEUnit_Share, 0, 1, 0),
+              NumberRow({"right", "Right"}, NLEUnit_Share, 0, 1, 0),
+              NumberRow({"bottom", "Bottom"}, NLEUnit_Share, 0, 1, 0),
+              NumberRow({"softness", "Softness"}, NLEUnit_Pixels, 0, 500, 0)}},
+            true,
+            Crop,
+            nullptr,
+            MltCrop};
+}
+
+EffectKind VignetteEffect()
+{
+    return {{{"vignette", "Vignette"},
+             {NumberRow({"amount", "Amount"}, NLEUnit_Share, 0, 1, 0.4),
+              NumberRow({"x", "Centre across"}, NLEUnit_Share, 0, 1, 0.5),
+              NumberRow({"y", "Centre down"}, NLEUnit_Share, 0, 1, 0.5)}},
+            false,
+            Vignette,
+            nullptr,
+            MltVignette};
+}
+
+EffectKind BlackAndWhiteEffect()
+{
+    return {{{"black-and-white", "Black and white"},
+             {NumberRow({"amount", "Amount"}, NLEUnit_Share, 0, 1, 1),
+              NumberRow({"red", "Red"}, NLEUnit_Share, -1, 2, 0.2126),
+              NumberRow({"green", "Green"}, NLEUnit_Share, -1, 2, 0.7152),
+              NumberRow({"blue", "Blue"}, NLEUnit_Share, -1, 2, 0.0722)}},
+            false,
+            BlackAndWhite,
+            nullptr,
+            MltBlackAndWhite};
+}
+
+} // namespace nle

@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/render/EffectPicture.h"
+
+#include <QRgba64>
+#include <QSemaphore>
+#include <QThreadPool>
+
+#include <algorithm>
+#include <atomic>
+#include <new>
+
+namespace nle {
+
+namespace {
+
+constexpr int kUsualMost = 0xFF;
+constexpr int kDeepMost = 0xFFFF;
+
+/// Bits of the components of a pixel of 32 and of 64 bits: red, green, blue, alpha.
+constexpr std::array<int, 4> kUsualShifts = {16, 8, 0, 24};
+constexpr std::array<int, 4> kDeepShifts = {0, 16, 32, 48};
+
+bool HasAlpha(const QImage& image)
+{
+    return image.hasAlphaChannel();
+}
+
+bool IsDeepImage(const QImage& image)
+{
+    constexpr int deepPixel = 64;
+    return image.depth() == deepPixel;
+}
+
+template <typename Pixel>
+void ReadPlane(const Pixel* pixels, int shift, int most, float* plane, int width)
+{
+    const float unit = 1.0F / float(most);
+    for (int x = 0; x < width; ++x)
+        plane[x] = float(int((pixels[x] >> shift) & Pixel(most))) * unit;
+}
+
+/// The component as the format holds it.
+template <typename Pixel>
+Pixel Packed(float value, int most, int shift)
+{
+    const float within = std::min(std::max(value, 0.0F), 1.0F);
+    return Pixel(int(within * float(most) + 0.5F)) << shift;
+}
+
+template <typename Pixel>
+void WritePixels(const EffectRow& row, const std::array<int, 4>& shifts, int most, bool hasAlpha,
+                 Pixel* pixels)
+{
+    const float* red = row.colors[0];
+    const float* green = row.colors[1];
+    const float* blue = row.colors[2];
+    if (!hasAlpha) {
+        const Pixel opaque = Pixel(most) << shifts[3];
+        for (int x = 0; x < row.width; ++x)
+            pixels[x] = opaque | Packed<Pixel>(red[x], most, shifts[0]) |
+                        Packed<Pixel>(green[x], most, shifts[1]) |
+                        Packed<Pixel>(blue[x], most, shifts[2]);
+        return;
+    }
+    for (int x = 0; x < row.width; ++x) {
+        const float alpha = std::min(std::max(row.alpha[x], 0.0F), 1.0F);
+        const auto multiplied = [alpha](float value) {
+            return std::min(std::max(value, 0.0F), 1.0F) * alpha;
+        };
+        pixels[x] = Packed<Pixel>(alpha, most, shifts[3]) |
+                    Packed<Pixel>(multiplied(red[x]), most, shifts[0]) |
+                    Packed<Pixel>(multiplied(green[x]), most, shifts[1]) |
+                    Packed<Pixel>(multiplied(blue[x]), most, shifts[2]);
+    }
+}
+
+template <typename Pixel>
+void ReadPixels(const Pixel* pixels, const std::array<int, 4>& shifts, int most,
+                const EffectRow& row)
+{
+    for (std::size_t color = 0; color < row.colors.size(); ++color)
+        ReadPlane(pixels, shifts[color], most, row.colors[color], row.width);
+    ReadPlane(pixels, shifts[3], most, row.alpha, row.width);
+}
+
+/// Bands that several threads take one after the other.
+class SharedBands
+{
+public:
+    SharedBands(int count, int size, const std::function<void(int, int)>& work)
+        : m_count(count), m_size(size), m_work(work)
+    {
+    }
+
+    void Run()
+    {
+        try {
+            while (!m_failed) {
+                const int first = m_next.fetch_add(1) * m_size;
+                if (first >= m_count)
+                    return;
+                m_work(first, std::min(first + m_size, m_count));
+            }
+        } catch (const std::bad_alloc&) {
+            m_failed = true;
+        }
+    }
+    bool HasFailed() const { return m_failed; }
+
+private:
+    const int m_count;
+    const int m_size;
+    const std::function<void(int, int)>& m_work;
+    std::atomic<int> m_next{0};
+    std::atomic<bool> m_failed{false};
+};
+
+} // namespace
+
+void ForBands(int count, const Bands& bands, const std::function<void(int first, int end)>& work)
+{
+    SharedBands shared(count, bands.size, work);
+    QSemaphore done;
+    int helpers = 0;
+    QThreadPool& pool = *QThreadPool::globalInstance();
+    const int most = bands.isParallel ? std::min(pool.maxThreadCount(), count / bands.size) - 1 : 0;
+    while (helpers < most && pool.tryStart([&] {
+        shared.Run();
+        done.release();
+    }))
+        ++helpers;
+    shared.Run();
+    done.acquire(helpers);
+    if (shared.HasFailed())
+        throw std::bad_alloc();
+}
+
+EffectPicture::EffectPicture(const QSize& size)
+    : m_size(size)
+    , m_data(
+          new float[std::size_t(kPlanes) * std::size_t(size.width()) * std::size_t(size.height())])
+{
+}
+
+void ReadRow(const QImage& image, const EffectRow& row)
+{
+    const uchar* line = image.constScanLine(row.y);
+    if (IsDeepImage(image))
+        ReadPixels(reinterpret_cast<const quint64*>(line), kDeepShifts, kDeepMost, row);
+    else
+        ReadPixels(reinterpret_cast<const quint32*>(line), kUsualShifts, kUsualMost, row);
+    if (HasAlpha(image))
+        Divide(row);
+    else
+        std::fill(row.alpha, row.alpha + row.width, 1.0F);
+}
+
+void WriteRow(const EffectRow& row, QImage& image)
+{
+    // Not scanLine(): it asks whether the pixels are shared, which threads must not do.
+    auto* line = const_cast<uchar*>(image.constScanLine(row.y));
+    if (IsDeepImage(image))
+        WritePixels(row, kDeepShifts, kDeepMost, HasAlpha(image), reinterpret_cast<quint64*>(line));
+    else
+        WritePixels(row, kUsualShifts, kUsualMost, HasAlpha(image),
+                    reinterpret_cast<quint32*>(line));
+}
+
+void Multiply(const EffectRow& row)
+{
+    for (float* plane : row.colors) {
+        for (int x = 0; x < row.width; ++x)
+            plane[x] *= row.alpha[x];
+    }
+}
+
+void Divide(const EffectRow& row)
+{
+    for (float* plane : row.colors) {
+        for (int x = 0; x < row.width; ++x)
+            plane[x] = row.alpha[x] > 0 ? plane[x] / row.alpha[x] : 0.0F;
+    }
+}
+
+} // namespace nle

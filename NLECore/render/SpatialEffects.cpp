@@ -1,0 +1,394 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/render/SpatialEffects_p.h"
+
+#include "NLECore/render/SoftPicture_p.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace nle {
+
+namespace {
+
+constexpr int kAlpha = 3;
+
+QString Text(double value)
+{
+    return QString::number(value, 'g', 9);
+}
+
+QString Service(const char* name)
+{
+    return QString::fromLatin1(name);
+}
+
+/// A copy of the planes \a first to \a last; the others are not filled.
+EffectPicture CopyOf(const EffectPicture& picture, int first, int last, const Bands& bands)
+{
+    EffectPicture copy(picture.Size());
+    ForBands(picture.Height(), bands, [&](int from, int to) {
+        for (int plane = first; plane <= last; ++plane)
+            std::copy(picture.Row(plane, from),
+                      picture.Row(plane, from) + (to - from) * picture.Width(),
+                      copy.Row(plane, from));
+    });
+    return copy;
+}
+
+// ---- Blur
+
+void Blur(const ParametersAt& values, EffectFrame& frame, EffectPicture& picture)
+{
+    const double size = values.Number("size");
+    const int last = frame.hasAlpha ? kAlpha : kAlpha - 1;
+    Soften(picture, 0, last, size * frame.scale.x(), size * frame.scale.y(), frame.bands);
+}
+
+MltTexts MltBlur(const ParametersAt& values, const QPointF& scale)
+{
+    return {{QStringLiteral("mlt_service"), Service("avfilter.gblur")},
+            {QStringLiteral("av.sigma"), Text(values.Number("size") * scale.x())},
+            {QStringLiteral("av.sigmaV"), Text(values.Number("size") * scale.y())},
+            {QStringLiteral("av.steps"), QStringLiteral("3")}};
+}
+
+// ---- Sharpen
+
+void Sharpen(const ParametersAt& values, EffectFrame& frame, EffectPicture& picture)
+{
+    const auto amount = float(values.Number("amount"));
+    if (amount == 0)
+        return;
+    const double size = values.Number("size");
+    EffectPicture soft = CopyOf(picture, 0, kAlpha - 1, frame.bands);
+    Soften(soft, 0, kAlpha - 1, size * frame.scale.x(), size * frame.scale.y(), frame.bands);
+    ForBands(picture.Height(), frame.bands, [&](int from, int to) {
+        const int count = (to - from) * picture.Width();
+        for (int plane = 0; plane < kAlpha; ++plane) {
+            float* own = picture.Row(plane, from);
+            const float* other = soft.Row(plane, from);
+            for (int i = 0; i < count; ++i)
+                own[i] += (own[i] - other[i]) * amount;
+        }
+    });
+}
+
+MltTexts MltSharpen(const ParametersAt& values, const QPointF& scale)
+{
+    // Its matrix of weights is as wide as a Gaussian of a quarter of its side.
+    constexpr int narrowest = 3;
+    constexpr int widest = 23;
+    const int side = std::clamp(2 * int(std::lround(values.Number("size") * scale.x() * 2)) - 1,
+                                narrowest, widest);
+    return {{QStringLiteral("mlt_service"), Service("avfilter.unsharp")},
+            {QStringLiteral("av.lx"), QString::number(side)},
+            {QStringLiteral("av.ly"), QString::number(side)},
+            {QStringLiteral("av.la"), Text(std::min(values.Number("amount"), 5.0))},
+            {QStringLiteral("av.ca"), QStringLiteral("0")}};
+}
+
+// ---- Mirror
+
+void Mirror(const ParametersAt& values, EffectFrame& frame, EffectPicture& picture)
+{
+    if (values.Switch("horizontal")) {
+        ForBands(picture.Height(), frame.bands, [&](int from, int to) {
+            for (int plane = 0; plane < EffectPicture::kPlanes; ++plane) {
+                for (int y = from; y < to; ++y)
+                    std::reverse(picture.Row(plane, y), picture.Row(plane, y) + picture.Width());
+            }
+        });
+        frame.inner.moveLeft(picture.Width() - 1 - frame.inner.right());
+    }
+    if (values.Switch("vertical")) {
+        ForBands(picture.Height() / 2, frame.bands, [&](int from, int to) {
+            for (int plane = 0; plane < EffectPicture::kPlanes; ++plane) {
+                for (int y = from; y < to; ++y)
+                    std::swap_ranges(picture.Row(plane, y), picture.Row(plane, y) + picture.Width(),
+                                     picture.Row(plane, picture.Height() - 1 - y));
+            }
+        });
+        frame.inner.moveTop(picture.Height() - 1 - frame.inner.bottom());
+    }
+}
+
+MltTexts MltMirror(const ParametersAt& values, const QPointF& /*scale*/)
+{
+    const bool across = values.Switch("horizontal");
+    if (across && values.Switch("vertical"))
+        return {{QStringLiteral("mlt_service"), Service("avfilter.rotate")},
+                {QStringLiteral("av.angle"), QStringLiteral("PI")}};
+    if (!across && !values.Switch("vertical"))
+        return {};
+    return {{QStringLiteral("mlt_service"), Service(across ? "avfilter.hflip" : "avfilter.vflip")}};
+}
+
+// ---- Noise reduction
+
+/// A mean of the pixels around, of which those count that are nearly alike.
+class Denoiser
+{
+public:
+    Denoiser(const EffectPicture& from, EffectPicture& to, double strength, int step)
+        : m_from(from), m_to(to), m_sharpness(float(1 / (strength * strength))), m_step(step)
+    {
+    }
+
+    void Row(int y, std::vector<float>& sums) const
+    {
+        const int width = m_from.Width();
+        sums.assign(std::size_t(width) * 4, 0);
+        for (int down = -kReach; down <= kReach; ++down) {
+            const int line = std::clamp(y + down * m_step, 0, m_from.Height() - 1);
+            for (int across = -kReach; across <= kReach; ++across)
+                AddNeighbour(y, line, across * m_step, sums.data());
+        }
+        const float* weights = sums.data() + std::size_t(width) * 3;
+        for (int plane = 0; plane < kAlpha; ++plane) {
+            const float* sum = sums.data() + std::size_t(width) * std::size_t(plane);
+            float* to = m_to.Row(plane, y);
+            for (int x = 0; x < width; ++x)
+                to[x] = sum[x] / weights[x];
+        }
+    }
+
+private:
+    static constexpr int kReach = 2; ///< steps to each side
+
+    float Weight(float red, float green, float blue) const
+    {
+        const float off = (red * red + green * green + blue * blue) * m_sharpness;
+        const float near = std::max(1 - off, 0.0F);
+        return near * near;
+    }
+    void AddPixels(const std::array<const float*, 3>& own, const std::array<const float*, 3>& other,
+                   int first, int end, int shift, float* sums) const
+    {
+        const int width = m_from.Width();
+        float* red = sums;
+        float* green = sums + width;
+        float* blue = green + width;
+        float* weights = blue + width;
+        for (int x = first; x < end; ++x) {
+            const float r = other[0][x + shift];
+            const float g = other[1][x + shift];
+            const float b = other[2][x + shift];
+            const float weight = Weight(r - own[0][x], g - own[1][x], b - own[2][x]);
+            red[x] += r * weight;
+            green[x] += g * weight;
+            blue[x] += b * weight;
+            weights[x] += weight;
+        }
+    }
+    void AddNeighbour(int y, int line, int shift, float* sums) const
+    {
+        const int width = m_from.Width();
+        const auto rows = [this](int at) {
+            return std::array<const float*, 3>{m_from.Row(0, at), m_from.Row(1, at),
+                                               m_from.Row(2, at)};
+        };
+        const int first = std::clamp(-shift, 0, width);
+        const int end = std::clamp(width - shift, first, width);
+        AddPixels(rows(y), rows(line), first, end, shift, sums);
+        // Beyond the sides the last pixel stands.
+        for (int x = 0; x < first; ++x)
+            AddPixels(rows(y), rows(line), x, x + 1, -x, sums);
+        for (int x = end; x < width; ++x)
+            AddPixels(rows(y), rows(line), x, x + 1, width - 1 - x, sums);
+    }
+
+    const EffectPicture& m_from;
+    EffectPicture& m_to;
+    const float m_sharpness;
+    const int m_step;
+};
+
+/// The difference of colours that strength 1 takes for noise.
+constexpr double kMostNoise = 0.5;
+
+void ReduceNoise(const ParametersAt& values, EffectFrame& frame, EffectPicture& picture)
+{
+    constexpr int farthest = 8;
+    const double strength = values.Number("strength") * kMostNoise;
+    if (strength == 0)
+        return;
+    const int step =
+        std::clamp(int(std::lround(frame.Drawn(values.Number("size")) / 2)), 1, farthest);
+    const EffectPicture from = CopyOf(picture, 0, kAlpha, frame.bands);
+    const Denoiser denoiser(from, picture, strength, step);
+    ForBands(picture.Height(), frame.bands, [&](int first, int end) {
+        std::vector<float> sums;
+        for (int y = first; y < end; ++y)
+            denoiser.Row(y, sums);
+    });
+}
+
+MltTexts MltReduceNoise(const ParametersAt& values, const QPointF& scale)
+{
+    const double strength = values.Number("strength") * kMostNoise;
+    return {{QStringLiteral("mlt_service"), Service("avfilter.bilateral")},
+            {QStringLiteral("av.sigmaS"), Text(std::max(values.Number("size") * scale.x(), 0.1))},
+            {QStringLiteral("av.sigmaR"), Text(std::clamp(strength / 3, 0.001, 1.0))},
+            {QStringLiteral("av.planes"), QStringLiteral("7")}};
+}
+
+// ---- Drop shadow
+
+/// A shadow of the picture's alpha, moved and blurred, on a canvas that has room for both.
+class Shadow
+{
+public:
+    Shadow(const ParametersAt& values, const EffectFrame& frame)
+        : m_x(int(std::lround(values.Number("x") * frame.scale.x())))
+        , m_y(int(std::lround(values.Number("y") * frame.scale.y())))
+        , m_softX(values.Number("blur") * frame.scale.x())
+        , m_softY(values.Number("blur") * frame.scale.y())
+        , m_color(values.Color("color"))
+        , m_opacity(float(values.Number("opacity")))
+    {
+    }
+
+    bool Shows() const { return m_opacity > 0 && qAlpha(m_color) > 0; }
+
+    void Draw(EffectFrame& frame, EffectPicture& picture) const
+    {
+        constexpr double reach = 3; // deviations
+        const int wide = int(std::ceil(m_softX * reach));
+        const int high = int(std::ceil(m_softY * reach));
+        const QMargins room(std::max(wide - m_x, 0), std::max(high - m_y, 0),
+                            std::max(wide + m_x, 0), std::max(high + m_y, 0));
+        EffectPicture canvas(QRect(QPoint(), picture.Size()).marginsAdded(room).size());
+        PutAlpha(picture, QPoint(room.left() + m_x, room.top() + m_y), frame.bands, canvas);
+        Soften(canvas, kAlpha, kAlpha, m_softX, m_softY, frame.bands);
+        PutPicture(picture, QPoint(room.left(), room.top()), frame.bands, canvas);
+        frame.inner.translate(room.left(), room.top());
+        picture = std::move(canvas);
+    }
+
+private:
+    /// The alpha of the picture at \a place, nothing around it.
+    static void PutAlpha(const EffectPicture& picture, const QPoint& place, const Bands& bands,
+                         EffectPicture& canvas)
+    {
+        ForBands(canvas.Height(), bands, [&](int from, int to) {
+            for (int y = from; y < to; ++y) {
+                float* row = canvas.Row(kAlpha, y);
+                std::fill(row, row + canvas.Width(), 0.0F);
+                const int line = y - place.y();
+                if (line >= 0 && line < picture.Height())
+                    std::copy(picture.Row(kAlpha, line),
+                              picture.Row(kAlpha, line) + picture.Width(), row + place.x());
+            }
+        });
+    }
+    /// The shadow in its colour with the picture over it.
+    void PutPicture(const EffectPicture& picture, const QPoint& place, const Bands& bands,
+                    EffectPicture& canvas) const
+    {
+        constexpr float most = 255;
+        const std::array<float, 3> color = {float(qRed(m_color)) / most,
+                                            float(qGreen(m_color)) / most,
+                                            float(qBlue(m_color)) / most};
+        const float opacity = m_opacity * float(qAlpha(m_color)) / most;
+        ForBands(canvas.Height(), bands, [&](int from, int to) {
+            for (int y = from; y < to; ++y) {
+                float* alpha = canvas.Row(kAlpha, y);
+                for (int x = 0; x < canvas.Width(); ++x)
+                    alpha[x] *= opacity;
+                const int line = y - place.y();
+                const bool isInside = line >= 0 && line < picture.Height();
+                for (int plane = 0; plane < kAlpha; ++plane) {
+                    float* row = canvas.Row(plane, y);
+                    for (int x = 0; x < canvas.Width(); ++x)
+                        row[x] = alpha[x] * color[std::size_t(plane)];
+                    if (isInside)
+                        Cover(picture, plane, line, row + place.x());
+                }
+                if (isInside)
+                    Cover(picture, kAlpha, line, alpha + place.x());
+            }
+        });
+    }
+    static void Cover(const EffectPicture& picture, int plane, int line, float* row)
+    {
+        const float* own = picture.Row(plane, line);
+        const float* alpha = picture.Row(kAlpha, line);
+        for (int x = 0; x < picture.Width(); ++x)
+            row[x] = own[x] + row[x] * (1 - alpha[x]);
+    }
+
+    const int m_x;
+    const int m_y;
+    const double m_softX;
+    const double m_softY;
+    const QRgb m_color;
+    const float m_opacity;
+};
+
+void DropShadow(const ParametersAt& values, EffectFrame& frame, EffectPicture& picture)
+{
+    const Shadow shadow(values, frame);
+    if (shadow.Shows())
+        shadow.Draw(frame, picture);
+}
+
+} // namespace
+
+EffectKind BlurEffect()
+{
+    return {{{"blur", "Blur"}, {NumberRow({"size", "Size"}, NLEUnit_Pixels, 0, 200, 8)}},
+            false,
+            nullptr,
+            Blur,
+            MltBlur};
+}
+
+EffectKind SharpenEffect()
+{
+    return {{{"sharpen", "Sharpen"},
+             {NumberRow({"amount", "Amount"}, NLEUnit_Share, 0, 5, 1),
+              NumberRow({"size", "Size"}, NLEUnit_Pixels, 0.2, 50, 2)}},
+            false,
+            nullptr,
+            Sharpen,
+            MltSharpen};
+}
+
+EffectKind MirrorEffect()
+{
+    return {{{"mirror", "Mirror"},
+             {SwitchRow({"horizontal", "Left and right"}, true),
+              SwitchRow({"vertical", "Top and bottom"}, false)}},
+            false,
+            nullptr,
+            Mirror,
+            MltMirror};
+}
+
+EffectKind NoiseReductionEffect()
+{
+    return {{{"noise-reduction", "Noise reduction"},
+             {NumberRow({"strength", "Strength"}, NLEUnit_Share, 0, 1, 0.2),
+              NumberRow({"size", "Size"}, NLEUnit_Pixels, 1, 16, 2)}},
+            false,
+            nullptr,
+            ReduceNoise,
+            MltReduceNoise};
+}
+
+EffectKind DropShadowEffect()
+{
+    constexpr std::uint32_t black = 0xFF000000;
+    return {{{"drop-shadow", "Drop shadow"},
+             {NumberRow({"x", "Offset across"}, NLEUnit_Pixels, -500, 500, 8),
+              NumberRow({"y", "Offset down"}, NLEUnit_Pixels, -500, 500, 8),
+              NumberRow({"blur", "Blur"}, NLEUnit_Pixels, 0, 200, 6),
+              ColorRow({"color", "Colour"}, black),
+              NumberRow({"opacity", "Opacity"}, NLEUnit_Share, 0, 1, 0.6)}},
+            true,
+            nullptr,
+            DropShadow,
+            nullptr};
+}
+
+} // namespace nle
