@@ -56,6 +56,14 @@ public:
     /// A path that leads to the open file itself as long as the reader lives, when the data lies in
     /// the local file system; else empty.
     virtual std::string LocalPath() const { return {}; }
+    /// Reads at most \a size bytes from \a position on, as far as the system holds them in memory,
+    /// and never waits for a device. Any thread, also beside a Read(), which it moves nowhere.
+    /// Gives what was read; 0 tells nothing.
+    virtual std::uint32_t ReadHeld(void* /*buffer*/, std::uint32_t /*size*/,
+                                   std::uint64_t /*position*/) const
+    {
+        return 0;
+    }
     /// Reads at most \a size bytes; 0 bytes with success is the end of the data.
     virtual HRESULT Read(void* buffer, std::uint32_t size, std::uint32_t& got,
                          GCancellable* cancellable) = 0;

@@ -12,6 +12,7 @@
 #include <linux/usbdevice_fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
+#include <sys/uio.h>
 #include <unistd.h>
 
 namespace devices {
@@ -78,14 +79,23 @@ bool MayLackPartialReads(HRESULT result)
 class LocalReader final : public DataReader
 {
 public:
-    explicit LocalReader(GPtr<GInputStream> stream) : m_stream(std::move(stream)) {}
+    explicit LocalReader(GPtr<GInputStream> stream)
+        : m_stream(std::move(stream))
+        , m_file(G_IS_FILE_DESCRIPTOR_BASED(m_stream.get())
+                     ? g_file_descriptor_based_get_fd(G_FILE_DESCRIPTOR_BASED(m_stream.get()))
+                     : -1)
+    {
+    }
 
     std::string LocalPath() const override
     {
-        return G_IS_FILE_DESCRIPTOR_BASED(m_stream.get())
-                   ? "/proc/self/fd/" + std::to_string(g_file_descriptor_based_get_fd(
-                                            G_FILE_DESCRIPTOR_BASED(m_stream.get())))
-                   : std::string();
+        return m_file < 0 ? std::string() : "/proc/self/fd/" + std::to_string(m_file);
+    }
+    std::uint32_t ReadHeld(void* buffer, std::uint32_t size, std::uint64_t position) const override
+    {
+        const iovec target = {buffer, size};
+        const ssize_t count = preadv2(m_file, &target, 1, static_cast<off_t>(position), RWF_NOWAIT);
+        return count > 0 ? static_cast<std::uint32_t>(count) : 0;
     }
     HRESULT Read(void* buffer, std::uint32_t size, std::uint32_t& got,
                  GCancellable* cancellable) override
@@ -99,6 +109,7 @@ public:
 
 private:
     const GPtr<GInputStream> m_stream;
+    const int m_file; // of the stream; -1 when it has none
 };
 
 class RemoteReader final : public DataReader

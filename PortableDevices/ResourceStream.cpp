@@ -14,6 +14,8 @@ namespace {
 // Of Stat().
 constexpr DWORD kStreamType = 2;
 constexpr DWORD kNoName = 1;
+/// Bytes that are read from memory between two questions to the device.
+constexpr ULONG kAskEvery = 1U << 20;
 
 } // namespace
 
@@ -34,7 +36,7 @@ HRESULT ResourceStream::Open(std::shared_ptr<OpenDevice> device, const std::wstr
     stepSize = stream->m_localPath.empty() ? kTransferSize : kLocalTransferSize;
     stream->m_guarded.piece.buffer.resize(stepSize);
     source->next.buffer.resize(stepSize);
-    stream->StartStep();
+    stream->StartStepUnlessHeld();
     return NLEComPtr<IStream>(stream).copyTo(out);
 }
 
@@ -60,16 +62,35 @@ HRESULT ResourceStream::QueryInterface(REFIID iid, void** out)
     return ComObject::QueryInterface(isBase ? InterfaceId<IStream>() : iid, out);
 }
 
+bool ResourceStream::IsHeld(std::uint64_t position) const
+{
+    char byte = 0;
+    return m_source->reader->ReadHeld(&byte, 1, position) > 0;
+}
+
 void ResourceStream::StartStep()
 {
-    m_guarded.step = m_device->Worker().Start(
-        [source = m_source](DeviceSession& /*session*/, GCancellable* cancellable) {
+    m_guarded.step =
+        m_device->Worker().Start([source = m_source, position = m_guarded.PieceEnd()](
+                                     DeviceSession& /*session*/, GCancellable* cancellable) {
             Piece& next = source->next;
             next.filled = 0;
-            return source->reader->Read(next.buffer.data(),
-                                        static_cast<std::uint32_t>(next.buffer.size()), next.filled,
-                                        cancellable);
+            HRESULT result = S_OK;
+            if (source->position != position) // the caller has read on by itself
+                result = source->reader->Seek(position, cancellable);
+            if (SUCCEEDED(result))
+                result = source->reader->Read(next.buffer.data(),
+                                              static_cast<std::uint32_t>(next.buffer.size()),
+                                              next.filled, cancellable);
+            source->position = position + next.filled;
+            return result;
         });
+}
+
+void ResourceStream::StartStepUnlessHeld()
+{
+    if (!IsHeld(m_guarded.PieceEnd()))
+        StartStep();
 }
 
 HRESULT ResourceStream::FinishStep()
@@ -87,23 +108,56 @@ void ResourceStream::DropStep()
     FinishStep();
 }
 
+HRESULT ResourceStream::TakeStep()
+{
+    if (const HRESULT result = FinishStep(); FAILED(result))
+        return result;
+    std::swap(m_guarded.piece, m_source->next);
+    m_guarded.taken = 0;
+    m_guarded.isAtEnd = m_guarded.piece.filled == 0;
+    if (!m_guarded.isAtEnd)
+        StartStepUnlessHeld();
+    return S_OK;
+}
+
+// The answer has time until the next question.
+HRESULT ResourceStream::ReadHeld(void* data, ULONG count, ULONG& got)
+{
+    DeviceWorker& worker = m_device->Worker();
+    if (m_guarded.unasked >= kAskEvery) {
+        m_guarded.unasked = 0;
+        if (m_guarded.question.result.valid()) {
+            if (const HRESULT result = worker.Finish(m_guarded.question); FAILED(result))
+                return result;
+        }
+        m_guarded.question =
+            worker.Start([](DeviceSession& /*session*/, GCancellable* /*unused*/) { return S_OK; });
+    }
+    got = m_source->reader->ReadHeld(data, count, m_guarded.position);
+    m_guarded.unasked += got;
+    return S_OK;
+}
+
 HRESULT ResourceStream::ReadStep(void* data, ULONG count, ULONG& got)
 {
     Piece& piece = m_guarded.piece;
-    if (m_guarded.taken == piece.filled && m_guarded.step.result.valid()) {
-        if (const HRESULT result = FinishStep(); FAILED(result))
-            return result;
-        std::swap(piece, m_source->next);
-        m_guarded.taken = 0;
-        // An empty step was the end; there is nothing more to ask for.
-        if (piece.filled > 0)
+    if (m_guarded.taken == piece.filled && !m_guarded.isAtEnd) {
+        const bool isUnderWay = m_guarded.step.result.valid();
+        HRESULT result = isUnderWay ? S_OK : ReadHeld(data, count, got);
+        if (SUCCEEDED(result) && !isUnderWay && got == 0)
             StartStep();
+        if (SUCCEEDED(result) && got == 0)
+            result = TakeStep();
+        if (FAILED(result))
+            return result;
     }
     if (const HRESULT result = m_device->Worker().ResultSince(m_cancelCount); FAILED(result))
         return result;
-    got = std::min(count, piece.filled - m_guarded.taken);
-    std::memcpy(data, piece.buffer.data() + m_guarded.taken, got);
-    m_guarded.taken += got;
+    if (got == 0) {
+        got = std::min(count, piece.filled - m_guarded.taken);
+        std::memcpy(data, piece.buffer.data() + m_guarded.taken, got);
+        m_guarded.taken += got;
+    }
     return S_OK;
 }
 
@@ -114,12 +168,14 @@ HRESULT ResourceStream::MoveTo(std::uint64_t position)
     m_guarded.taken = 0;
     const HRESULT result = m_device->Worker().Run(
         [source = m_source, position](DeviceSession& /*session*/, GCancellable* cancellable) {
+            source->position = position;
             return source->reader->Seek(position, cancellable);
         });
     if (FAILED(result))
         return result;
     m_guarded.position = position;
-    StartStep();
+    m_guarded.isAtEnd = false;
+    StartStepUnlessHeld();
     return S_OK;
 }
 

@@ -10,7 +10,9 @@
 namespace devices {
 
 /// Read-only stream over an object's data. The device reads the next piece while the caller writes
-/// the last one away, so each stream holds two buffers of a step beside the caller's.
+/// the last one away, so each stream holds two buffers of a step beside the caller's. What the
+/// system holds in memory, of a local file, the caller reads itself, while the device is asked now
+/// and then whether it is still there.
 ///
 /// Once a read has failed, every later one fails the same way.
 class ResourceStream final : public ComObject<IStream>
@@ -52,13 +54,19 @@ private:
     struct Source
     {
         std::unique_ptr<DataReader> reader;
+        std::uint64_t position = 0; // where the reader stands
         Piece next;
     };
 
+    HRESULT ReadHeld(void* data, ULONG count, ULONG& got);
     HRESULT ReadStep(void* data, ULONG count, ULONG& got);
     HRESULT MoveTo(std::uint64_t position);
+    bool IsHeld(std::uint64_t position) const;
+    // The step reads what follows the piece.
     void StartStep();
+    void StartStepUnlessHeld();
     HRESULT FinishStep();
+    HRESULT TakeStep();
     void DropStep();
 
     std::shared_ptr<OpenDevice> m_device;
@@ -71,10 +79,15 @@ private:
     struct Guarded
     {
         DeviceWorker::Pending step;
-        Piece piece;             // the last one that came
-        std::uint32_t taken = 0; // of it
+        DeviceWorker::Pending question; // whether the device is still there
+        ULONG unasked = 0;              // bytes that were held since the last question
+        Piece piece;                    // the last one that came
+        std::uint32_t taken = 0;        // of it
         std::uint64_t position = 0;
+        bool isAtEnd = false; // an empty step was the end; there is nothing more to ask for
         HRESULT failure = S_OK;
+
+        std::uint64_t PieceEnd() const { return position + (piece.filled - taken); }
     };
     std::mutex m_mutex; // guards m_guarded
     Guarded m_guarded;
