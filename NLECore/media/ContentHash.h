@@ -2,10 +2,10 @@
 #pragma once
 
 #include <QString>
+#include <QVarLengthArray>
 
 #include <cstdint>
 #include <type_traits>
-#include <vector>
 
 namespace nle {
 
@@ -36,8 +36,6 @@ struct ContentKeyHash
 class ContentHash
 {
 public:
-    ContentHash() { m_bytes.reserve(kUsualSize); }
-
     /// Numbers and enumerations only: records have gaps of unknown content.
     template <typename T>
     ContentHash& Add(T value)
@@ -48,20 +46,19 @@ public:
     ContentHash& Add(const ContentKey& key) { return Add(key.high).Add(key.low); }
     ContentHash& Add(const QString& text);
 
-    ContentKey Result() const { return Of(m_bytes.data(), m_bytes.size()); }
+    ContentKey Result() const { return Of(m_bytes.constData(), std::size_t(m_bytes.size())); }
     static ContentKey Of(const void* bytes, std::size_t size);
 
 private:
-    static constexpr std::size_t kUsualSize = 256;
+    static constexpr int kUsualSize = 512;
 
     ContentHash& AddBytes(const void* bytes, std::size_t size)
     {
-        const auto* first = static_cast<const std::uint8_t*>(bytes);
-        m_bytes.insert(m_bytes.end(), first, first + size);
+        m_bytes.append(static_cast<const std::uint8_t*>(bytes), int(size));
         return *this;
     }
 
-    std::vector<std::uint8_t> m_bytes;
+    QVarLengthArray<std::uint8_t, kUsualSize> m_bytes;
 };
 
 } // namespace nle

@@ -257,7 +257,7 @@ void CompositeNode::Describe(Layer& layer) const
     layer.mixer = Mixer().settings;
     for (const NLEComPtr<TimelineNode>& clip : m_clips) {
         if (clip->IsEnabled())
-            layer.children.push_back(clip->MakeSnapshot());
+            layer.children.push_back(clip->MakeLayer());
     }
     std::stable_sort(layer.children.begin(), layer.children.end(),
                      [](const Snapshot& a, const Snapshot& b) { return a->level < b->level; });

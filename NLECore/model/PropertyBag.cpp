@@ -106,7 +106,7 @@ QString PropertyBag::TextOrEmpty(const wchar_t* key) const
     return text ? QString::fromStdWString(**text) : QString();
 }
 
-std::optional<PropertyBag::Value> PropertyBag::Read(const std::wstring& key) const
+std::optional<PropertyBag::Value> PropertyBag::Read(std::wstring_view key) const
 {
     const auto found = m_values.find(key);
     if (found == m_values.end())
@@ -114,9 +114,9 @@ std::optional<PropertyBag::Value> PropertyBag::Read(const std::wstring& key) con
     return found->second;
 }
 
-HRESULT PropertyBag::Write(const std::wstring& key, Value value)
+HRESULT PropertyBag::Write(std::wstring_view key, Value value)
 {
-    m_values[key] = std::move(value);
+    m_values.insert_or_assign(std::wstring(key), std::move(value));
     return S_OK;
 }
 

@@ -6,10 +6,12 @@
 
 #include <QString>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 
 namespace nle {
@@ -24,7 +26,7 @@ public:
     /// Shared, as copying a variant must not fail: libstdc++ ends in undefined behaviour then.
     using Text = std::shared_ptr<const std::wstring>;
     using Value = std::variant<int, double, NLERational, Text>;
-    using Values = std::map<std::wstring, Value>;
+    using Values = std::map<std::wstring, Value, std::less<>>;
 
     /// Identifier under which a bag of this engine tells its class.
     static constexpr _GUID kBagId = {
@@ -55,8 +57,8 @@ public:
 
 protected:
     /// Value under \a key, if there is one.
-    virtual std::optional<Value> Read(const std::wstring& key) const;
-    virtual HRESULT Write(const std::wstring& key, Value value);
+    virtual std::optional<Value> Read(std::wstring_view key) const;
+    virtual HRESULT Write(std::wstring_view key, Value value);
 
 private:
     template <typename Wanted>

@@ -58,13 +58,13 @@ bool SetAspect(SourceSettings& settings, const PropertyBag::Value& value)
 
 } // namespace
 
-bool IsSourceKey(const std::wstring& key)
+bool IsSourceKey(std::wstring_view key)
 {
     return key == kVideoStream || key == kAudioStreams || key == kPixelAspect ||
            key == kDeinterlacing || key == kFieldOrder;
 }
 
-PropertyBag::Value SourceValue(const SourceSettings& settings, const std::wstring& key)
+PropertyBag::Value SourceValue(const SourceSettings& settings, std::wstring_view key)
 {
     if (key == kAudioStreams)
         return StreamsText(settings.audioStreams);
@@ -75,7 +75,7 @@ PropertyBag::Value SourceValue(const SourceSettings& settings, const std::wstrin
     return key == kFieldOrder ? int(settings.fieldOrder) : settings.videoStream;
 }
 
-bool SetSourceValue(SourceSettings& settings, const std::wstring& key,
+bool SetSourceValue(SourceSettings& settings, std::wstring_view key,
                     const PropertyBag::Value& value)
 {
     if (key == kAudioStreams)

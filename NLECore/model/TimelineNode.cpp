@@ -23,7 +23,7 @@ std::uint32_t NextId()
 
 } // namespace
 
-std::optional<PropertyBag::Value> NodeBag::Read(const std::wstring& key) const
+std::optional<PropertyBag::Value> NodeBag::Read(std::wstring_view key) const
 {
     if (m_node && key == NLEKey::Render::kRender_Framerate)
         return m_node->FrameRate();
@@ -34,7 +34,7 @@ std::optional<PropertyBag::Value> NodeBag::Read(const std::wstring& key) const
     return PropertyBag::Read(key);
 }
 
-HRESULT NodeBag::Write(const std::wstring& key, Value value)
+HRESULT NodeBag::Write(std::wstring_view key, Value value)
 {
     if (m_node && key == NLEKey::Render::kRender_TotalFrameCount)
         return E_ACCESSDENIED;
@@ -324,6 +324,13 @@ RenderContext TimelineNode::Context() const
 
 Snapshot TimelineNode::MakeSnapshot() const
 {
+    const std::shared_ptr<Layer> root = MakeLayer();
+    root->context = Context();
+    return root;
+}
+
+std::shared_ptr<Layer> TimelineNode::MakeLayer() const
+{
     auto layer = std::make_shared<Layer>();
     layer->range = Range();
     layer->position = m_placement.position;
@@ -342,7 +349,6 @@ Snapshot TimelineNode::MakeSnapshot() const
     layer->source = m_source;
     layer->keyFrames = m_keyFrames.Curve();
     layer->effects = m_effects.Shown();
-    layer->context = Context();
     Describe(*layer);
     return layer;
 }

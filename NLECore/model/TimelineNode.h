@@ -28,8 +28,8 @@ public:
     void Detach() { m_node = nullptr; }
 
 protected:
-    std::optional<Value> Read(const std::wstring& key) const override;
-    HRESULT Write(const std::wstring& key, Value value) override;
+    std::optional<Value> Read(std::wstring_view key) const override;
+    HRESULT Write(std::wstring_view key, Value value) override;
 
 private:
     TimelineNode* m_node;
@@ -80,6 +80,8 @@ public:
     NLEComPtr<TimelineNode> Copy(bool deep) const;
     /// Everything that a render needs of the node.
     Snapshot MakeSnapshot() const;
+    /// The snapshot of a node that is held by the one that is rendered: without a context.
+    std::shared_ptr<Layer> MakeLayer() const;
 
     /// The trim range; all frames as long as none was set.
     NLERange Range() const;

@@ -17,7 +17,7 @@ constexpr int kMostMebibytes = 65536;
 class SystemBag final : public PropertyBag
 {
 protected:
-    std::optional<Value> Read(const std::wstring& key) const override
+    std::optional<Value> Read(std::wstring_view key) const override
     {
         if (key == NLEKey::System::kHardwareDecoding)
             return int(HardwareDecoding());
@@ -25,7 +25,7 @@ protected:
             return int(KeptPictures().MaxBytes() / kMebibyte);
         return std::nullopt;
     }
-    HRESULT Write(const std::wstring& key, Value value) override
+    HRESULT Write(std::wstring_view key, Value value) override
     {
         const int* const number = std::get_if<int>(&value);
         const auto isUpTo = [number](int most) {
