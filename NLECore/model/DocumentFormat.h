@@ -20,7 +20,6 @@ inline const QLatin1String kRange("nle:range");
 inline const QLatin1String kRate("nle:rate");
 inline const QLatin1String kSize("nle:size");
 inline const QLatin1String kAudio("nle:audio");
-inline const QLatin1String kDecoder("nle:decoder");
 inline const QLatin1String kBagPrefix("nle:bag:");
 /// Followed by the key of a project's context.
 inline const QLatin1String kContextPrefix("nle:context:");

@@ -120,9 +120,6 @@ DocumentTexts OwnTexts(const TimelineNode& node, int order, const QDir& folder)
         texts.emplace_back(
             kSize,
             QStringLiteral("%1 %2").arg(node.PictureSize().width).arg(node.PictureSize().height));
-    const auto* media = dynamic_cast<const MediaClip*>(&node);
-    if (media && media->GpuFirst() != 0)
-        texts.emplace_back(kDecoder, QString::number(media->GpuFirst()));
     for (auto& text : SettingsToText(node, folder))
         texts.push_back(std::move(text));
     AddValues(node.Bag().All(), kBagPrefix, texts);
@@ -214,7 +211,6 @@ NLEComPtr<TimelineNode> DocumentNodes::MakeMedia(const QString& name,
 {
     NLEComPtr<MediaClip> clip = MakeCom<MediaClip>(MediaOf(name));
     clip->ChangeRate(profile.frameRate);
-    clip->SetGPUFirst(properties.value(kDecoder).toInt());
     Apply(properties, *clip);
     return clip;
 }

@@ -83,12 +83,12 @@ HRESULT MediaClip::GetAudioStreamIndex(std::uint32_t* index)
 
 HRESULT MediaClip::GetGPUFirst(int* preference)
 {
-    return GiveValue(preference, m_gpuFirst);
+    return GiveValue(preference, Source().gpuFirst);
 }
 
 HRESULT MediaClip::SetGPUFirst(int preference)
 {
-    m_gpuFirst = preference;
+    Source().gpuFirst = preference;
     return S_OK;
 }
 
@@ -174,16 +174,13 @@ HRESULT MediaClip::ChangeSource(const SourceSettings& settings)
 
 NLEComPtr<TimelineNode> MediaClip::CopyContent(bool /*deep*/) const
 {
-    NLEComPtr<MediaClip> copy = MakeCom<MediaClip>(m_media);
-    copy->m_gpuFirst = m_gpuFirst;
-    return copy;
+    return MakeCom<MediaClip>(m_media);
 }
 
 void MediaClip::Describe(Layer& layer) const
 {
     layer.kind = LayerKind::Media;
     layer.media = PlayedMedia();
-    layer.gpuFirst = m_gpuFirst != 0;
     const std::shared_ptr<const MediaInfo>& proxy = Video().settings.proxy;
     if (Video().settings.proxyEnabled && proxy && proxy->videoStream >= 0)
         layer.proxy = Video().settings.proxy;

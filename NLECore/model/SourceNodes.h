@@ -35,7 +35,6 @@ public:
     HRESULT ChangeSource(const SourceSettings& settings) override;
 
     const MediaInfo& Media() const { return *m_media; }
-    int GpuFirst() const { return m_gpuFirst; }
 
 protected:
     NLEComPtr<TimelineNode> CopyContent(bool deep) const override;
@@ -49,7 +48,6 @@ private:
     std::shared_ptr<const MediaInfo> m_media;
     /// The sequence at the rate that was named last; null until then.
     mutable std::shared_ptr<const MediaInfo> m_sequence;
-    int m_gpuFirst = 0;
 };
 
 /// A clip that is drawn, not read: as long as anybody wants it.

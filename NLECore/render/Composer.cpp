@@ -285,7 +285,7 @@ FrameDecoder* Composer::DecoderOf(const Layer& layer, const ShownStream& stream,
     decoder.used = true;
     if (!decoder.lease)
         decoder.lease = m_pool.Acquire(media, stream.index, DecodePurpose::Render, *wanted, nullptr,
-                                       IsHardwareWanted(layer.gpuFirst));
+                                       IsHardwareWanted(layer.source.gpuFirst != 0));
     return decoder.lease ? &*decoder.lease : nullptr;
 }
 

@@ -201,6 +201,7 @@ struct SourceSettings
     NLERational pixelAspect = {0, 1}; ///< width over height as displayed; 0: as the file says
     NLEDeinterlacing deinterlacing = NLEDeinterlacing_Automatic;
     NLEFieldOrder fieldOrder = NLEField_Progressive; ///< progressive: as the file says
+    int gpuFirst = 0; ///< not 0: decoded by hardware where that is on
 };
 /// What the aspect of pixels does shows in the size of the layer.
 template <>
@@ -211,7 +212,8 @@ inline constexpr auto kFields<SourceSettings> = std::tuple(
     Field{&SourceSettings::deinterlacing, "deinterlacing", Shows::kYes, NLEDeinterlacing_Automatic,
           NLEDeinterlacing_Always},
     Field{&SourceSettings::fieldOrder, "deinterlacing", Shows::kYes, NLEField_Progressive,
-          NLEField_BottomFirst});
+          NLEField_BottomFirst},
+    Field{&SourceSettings::gpuFirst, "decoder", Shows::kNo});
 static_assert(kListsAllFields<SourceSettings>);
 
 /// Mixer strips of a composite's tracks, by level.

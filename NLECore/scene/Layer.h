@@ -66,13 +66,12 @@ struct Layer
     TransformSettings transform;
     std::shared_ptr<const KeyFrameCurve> keyFrames; ///< null: none apply
     std::vector<SharedParameters> effects;          ///< those that apply, in their order
-    RenderContext context; ///< of the outermost project; that of the rendered layer counts
+    RenderContext context; ///< the outermost project's; of the rendered layer alone
     AudioSettings audio;
 
     std::shared_ptr<const MediaInfo> media; ///< Media only
     SourceSettings source;                  ///< Media only
     std::shared_ptr<const MediaInfo> proxy; ///< Media only: read for the picture instead, or null
-    bool gpuFirst = false;                  ///< Media only: decoded by hardware where that is on
     std::uint32_t argb = 0;                 ///< Color: the colour; Composite: what shows behind
     QString text;                           ///< Text only
     QString family;                         ///< Text only
@@ -106,10 +105,10 @@ inline constexpr auto kFields<Layer> = std::tuple(
     Field{&Layer::keyFrames, nullptr, Shows::kYes}, Field{&Layer::effects, nullptr, Shows::kYes},
     Field{&Layer::context, nullptr, Shows::kNo}, Field{&Layer::audio, nullptr, Shows::kNo},
     Field{&Layer::media, nullptr, Shows::kYes}, Field{&Layer::source, nullptr, Shows::kYes},
-    Field{&Layer::proxy, nullptr, Shows::kYes}, Field{&Layer::gpuFirst, nullptr, Shows::kNo},
-    Field{&Layer::argb, nullptr, Shows::kYes}, Field{&Layer::text, nullptr, Shows::kYes},
-    Field{&Layer::family, nullptr, Shows::kYes}, Field{&Layer::children, nullptr, Shows::kNo},
-    Field{&Layer::guid, nullptr, Shows::kNo}, Field{&Layer::mixer, nullptr, Shows::kNo});
+    Field{&Layer::proxy, nullptr, Shows::kYes}, Field{&Layer::argb, nullptr, Shows::kYes},
+    Field{&Layer::text, nullptr, Shows::kYes}, Field{&Layer::family, nullptr, Shows::kYes},
+    Field{&Layer::children, nullptr, Shows::kNo}, Field{&Layer::guid, nullptr, Shows::kNo},
+    Field{&Layer::mixer, nullptr, Shows::kNo});
 static_assert(kListsAllFields<Layer>);
 
 using Snapshot = std::shared_ptr<const Layer>;
