@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // OpenTimelineIO's documents: what the open engine writes and reads.
 #include "CommonLib/NLEWraper/VideoKeyFrameSetting.h"
+#include "EngineApi/INLEMarkers.h"
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
@@ -225,7 +226,7 @@ private slots:
                        File("clip.mp4") + ",'effects':[{'OTIO_SCHEMA':"
                                           "'LinearTimeWarp.1','time_scalar':-1}]")),
             {"0: 10-13"}, {NLERemark_Reversed});
-        row("an effect and markers",
+        row("an effect and a marker without a time",
             Track(Item("Clip.1", Range(3, 6),
                        red + ",'effects':[{'OTIO_SCHEMA':'Effect.1'}],"
                              "'markers':[{'OTIO_SCHEMA':'Marker.2'}]")),
@@ -307,6 +308,56 @@ private slots:
         QCOMPARE(clip["metadata"].toObject()["lab"].toObject()["roll"].toArray().size(), 2);
         QCOMPARE(clip["markers"].toArray()[0].toObject()["color"].toString(), QString("RED"));
         QCOMPARE(items[1].toObject()["transition_type"].toString(), QString("SMPTE_Dissolve"));
+    }
+
+    static QStringList MarkersOf(const Node& node)
+    {
+        const auto markers = node.query<INLEMarkers>();
+        QStringList result;
+        NLEMarkerRecord record = {};
+        wchar_t name[20] = L"";
+        for (int i = 0; markers->GetMarker(i, &record, name, 20) == S_OK; ++i)
+            result << QString("%1+%2 %3 %4")
+                          .arg(record.frame)
+                          .arg(record.length)
+                          .arg(record.color, 8, 16)
+                          .arg(QString::fromWCharArray(name));
+        return result;
+    }
+    static QByteArray Marker(const QByteArray& range, const QByteArray& more)
+    {
+        return "{'OTIO_SCHEMA':'Marker.2','marked_range':" + range + "," + more + "}";
+    }
+
+    void markersOfAnotherProgram()
+    {
+        // At double speed, of a file whose time begins at a second.
+        const QByteArray onClip =
+            Marker(Range(32, 6), "'name':'cut','color':'GREEN','comment':'!'");
+        const QByteArray warp = "'effects':[{'OTIO_SCHEMA':'LinearTimeWarp.1','time_scalar':2}],";
+        QByteArray track =
+            Track(Item("Clip.1", Range(28, 10),
+                       warp + File("clip.mp4", Range(24, 60)) + ",'markers':[" + onClip + "]"));
+        track.chop(1);
+        track += ",'markers':[" + Marker(Range(12, 0), "'name':'act 2','color':'?'") + "]}";
+        const Node project = Parse(Timeline(track));
+        QCOMPARE(Remarks(), QList<int>());
+        QCOMPARE(MarkersOf(project), QStringList("12+0 ffff0000 act 2"));
+        const Node clip = ClipAt(project, 0);
+        QCOMPARE(MarkersOf(clip), QStringList("4+3 ff00ff00 cut"));
+
+        QVERIFY(Save(project, Path("markers.otio")));
+        QVERIFY(Contents(Path("markers.otio")).contains("\"comment\": \"!\""));
+        const NLEMarkerRecord moved = {5, 3, 0x8000E000};
+        QCOMPARE(clip.query<INLEMarkers>()->SetMarker(0, &moved, nullptr, nullptr), S_OK);
+        QVERIFY(Save(project, Path("markers.otio")));
+        const QByteArray text = Contents(Path("markers.otio"));
+        QVERIFY(!text.contains("\"comment\": \"!\""));
+        QCOMPARE(MarkersOf(ClipAt(Load(Path("markers.otio")), 0)),
+                 QStringList("5+3 8000e000 cut"));
+        // The other program gives it another colour.
+        const Node edited = Parse(QByteArray(text).replace("GREEN", "BLUE"));
+        QCOMPARE(MarkersOf(ClipAt(edited, 0)), QStringList("5+3 ff0000ff cut"));
     }
 
     void placeOfAnotherProgramHolds()

@@ -6,6 +6,8 @@
 #include <QJsonObject>
 #include <QLatin1String>
 
+#include <optional>
+
 /// What writer and reader of OpenTimelineIO's JSON agree on.
 namespace nle::otio {
 
@@ -31,5 +33,14 @@ inline constexpr const wchar_t* kTransitionAfter = L"otio:transition-after";
 inline constexpr const wchar_t* kMediaStart = L"otio:media-start";
 /// Integer 1: the document did not name a file.
 inline constexpr const wchar_t* kNoFile = L"otio:no-file";
+
+/// The longest time that is counted with, in seconds.
+constexpr double kLongest = 1e8;
+
+/// A RationalTime and a TimeRange in units of 1 / \a rate seconds.
+QJsonObject Time(double value, double rate);
+QJsonObject TimeRange(double start, double duration, double rate);
+/// A RationalTime in seconds; none when it is no time.
+std::optional<double> Seconds(const QJsonObject& time);
 
 } // namespace nle::otio

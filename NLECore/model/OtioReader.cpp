@@ -3,6 +3,7 @@
 
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/OtioFormat.h"
+#include "NLECore/model/OtioMarkers.h"
 #include "NLECore/scene/FrameMath.h"
 
 #include <QColor>
@@ -19,8 +20,6 @@ namespace {
 
 /// Objects that may lie one inside of the other; reading recurses.
 constexpr int kDeepest = 200;
-/// The longest time that is counted with, in seconds.
-constexpr double kLongest = 1e8;
 
 QJsonObject Child(const QJsonObject& object, const char* name)
 {
@@ -56,16 +55,6 @@ bool IsTransition(const QJsonObject& object)
 bool IsEnabled(const QJsonObject& object)
 {
     return object.value(QLatin1String("enabled")).toBool(true);
-}
-
-/// A RationalTime in seconds; none when it is no time.
-std::optional<double> Seconds(const QJsonObject& time)
-{
-    const double rate = time.value(QLatin1String("rate")).toDouble();
-    const QJsonValue value = time.value(QLatin1String("value"));
-    if (!value.isDouble() || !(rate > 0))
-        return std::nullopt;
-    return std::clamp(value.toDouble() / rate, -kLongest, kLongest);
 }
 
 double RateOf(const QJsonObject& time)
@@ -148,6 +137,36 @@ QString NameOf(const QJsonObject& object)
 {
     const QString name = Text(object, "name");
     return name.isEmpty() ? object.value(kSchema).toString() : name;
+}
+
+/// Where the file's time begins, in seconds, as the node's bag has it.
+double KeptStart(const TimelineNode& node)
+{
+    double start = 0;
+    node.Bag().GetDouble(kMediaStart, &start);
+    return IsFinite(start) ? start : 0;
+}
+
+/// Whether a track has the time of the stack that it lies in.
+bool IsPlainTrack(const QJsonObject& object)
+{
+    return IsTrack(object) && Child(object, "source_range").isEmpty();
+}
+
+/// The markers of an item, those of its plain tracks as well.
+QJsonArray MarkersIn(const QJsonObject& item)
+{
+    QJsonArray markers = List(item, "markers");
+    if (IsTrack(item))
+        return markers;
+    for (const QJsonValue child : List(item, "children")) {
+        const QJsonObject track = child.toObject();
+        if (!IsPlainTrack(track))
+            continue;
+        for (const QJsonValue marker : List(track, "markers"))
+            markers.append(marker);
+    }
+    return markers;
 }
 
 /// Walks all that \a value holds.
@@ -396,7 +415,7 @@ void OtioReader::ReadTracks(const QJsonArray& tracks, std::vector<PlacedNode>& c
 void OtioReader::PlaceTrack(const QJsonObject& track, const Target& target)
 {
     // A part of a track is a picture of its own.
-    if (!Child(track, "source_range").isEmpty()) {
+    if (!IsPlainTrack(track)) {
         PlaceItem(track, 0, SpanOf(track).duration, target);
         return;
     }
@@ -404,9 +423,6 @@ void OtioReader::PlaceTrack(const QJsonObject& track, const Target& target)
         m_nodes.remarks.Add(
             NLERemark_Effect,
             QStringLiteral("effect %1 of track %2").arg(NameOf(effect.toObject()), NameOf(track)));
-    if (!List(track, "markers").isEmpty())
-        m_nodes.remarks.Add(NLERemark_Marker,
-                            QStringLiteral("markers of track %1 are left out").arg(NameOf(track)));
     ReadTrack(track, target);
 }
 
@@ -500,12 +516,8 @@ NLERange OtioReader::RangeOf(const QJsonObject& item, const TimelineNode& node, 
 {
     const double speed = node.PlaysMaterial() ? node.Speed() : 1;
     double in = std::round(SpanOf(item).start * Fps() / speed);
-    if (isOwn) {
-        double start = 0;
-        node.Bag().GetDouble(kMediaStart, &start);
-        const bool isNamed = !Child(ReferenceOf(item), "available_range").isEmpty();
-        in -= isNamed || !IsFinite(start) ? 0 : std::round(start * Fps() / speed);
-    }
+    if (isOwn && Child(ReferenceOf(item), "available_range").isEmpty())
+        in -= std::round(KeptStart(node) * Fps() / speed);
     // The start of a frozen clip is the frame that shows.
     if (node.IsFrozen())
         in = isOwn ? VisiblePart(node).range.in : 0;
@@ -544,18 +556,34 @@ void OtioReader::KeepTexts(const QJsonObject& item, bool isOwn, TimelineNode& no
     const QString name = Text(item, "name");
     QJsonObject metadata = Child(item, "metadata");
     metadata.remove(kOwn);
-    const QJsonArray markers = List(item, "markers");
     if (!name.isEmpty() && !isOwn)
         SetText(name, kName, node);
     if (!metadata.isEmpty())
         SetText(JsonText(QJsonDocument(metadata)), kMetadata, node);
-    if (markers.isEmpty())
+    if (Schema(item) != QLatin1String("Timeline"))
+        TakeMarkers(item, isOwn, node);
+}
+
+void OtioReader::TakeMarkers(const QJsonObject& item, bool isOwn, TimelineNode& node)
+{
+    const QJsonArray markers = MarkersIn(item);
+    const QJsonObject available = Child(ReferenceOf(item), "available_range");
+    const double start =
+        available.isEmpty() ? KeptStart(node) : Seconds(Child(available, "start_time")).value_or(0);
+    const OtioMarkers format(Fps() / node.Speed(), start);
+    MarkerList& own = node.Markers().settings;
+    const QJsonArray kept =
+        QJsonDocument::fromJson(node.Bag().TextOrEmpty(kMarkers).toUtf8()).array();
+    // The exact ones hold as long as nobody has changed what other programs see.
+    if (isOwn && format.IsSame(markers, format.Write(own, kept)))
         return;
-    SetText(JsonText(QJsonDocument(markers)), kMarkers, node);
-    if (!isOwn)
-        m_nodes.remarks.Add(
-            NLERemark_Marker,
-            QStringLiteral("%1 markers of %2").arg(markers.size()).arg(NameOf(item)));
+    own = format.Read(markers);
+    if (!markers.isEmpty())
+        SetText(JsonText(QJsonDocument(markers)), kMarkers, node);
+    if (own.size() < size_t(markers.size()))
+        m_nodes.remarks.Add(NLERemark_Marker, QStringLiteral("%1 markers of %2 without a time")
+                                                  .arg(markers.size() - int(own.size()))
+                                                  .arg(NameOf(item)));
 }
 
 } // namespace nle

@@ -12,8 +12,8 @@ namespace nle {
 /// Reads a node from OpenTimelineIO's JSON, written here or by another program.
 ///
 /// Of a foreign document the clips, gaps and nested stacks of its tracks are taken, with linear
-/// changes of speed; names, metadata, markers and transitions are kept as text for the next
-/// writing. What is left out is remarked.
+/// changes of speed, and the markers, those of tracks as their composite's; names, metadata and
+/// transitions are kept as text for the next writing. What is left out is remarked.
 class OtioReader
 {
 public:
@@ -64,6 +64,7 @@ private:
     void TakeEffects(const QJsonObject& item, bool isOwn, TimelineNode& node);
     /// Keeps what other programs wrote and the node has no place for.
     void KeepTexts(const QJsonObject& item, bool isOwn, TimelineNode& node);
+    void TakeMarkers(const QJsonObject& item, bool isOwn, TimelineNode& node);
     Span SpanOf(const QJsonObject& item) const;
     NLERange RangeOf(const QJsonObject& item, const TimelineNode& node, bool isOwn,
                      std::int64_t length) const;

@@ -5,6 +5,7 @@
 #include "NLECore/model/DocumentNodes.h"
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/OtioFormat.h"
+#include "NLECore/model/OtioMarkers.h"
 #include "NLECore/scene/FrameMath.h"
 
 #include <QJsonDocument>
@@ -44,18 +45,9 @@ double ExactRate(const NLERational& rate)
     return std::abs(exact - ToDouble(rate)) < close ? exact : ToDouble(rate);
 }
 
-QJsonObject Time(double value, const NLERational& rate)
-{
-    return {{kSchema, QStringLiteral("RationalTime.1")},
-            {QStringLiteral("value"), value},
-            {QStringLiteral("rate"), ExactRate(rate)}};
-}
-
 QJsonObject Range(double start, double duration, const NLERational& rate)
 {
-    return {{kSchema, QStringLiteral("TimeRange.1")},
-            {QStringLiteral("start_time"), Time(start, rate)},
-            {QStringLiteral("duration"), Time(duration, rate)}};
+    return TimeRange(start, duration, ExactRate(rate));
 }
 
 QString BagText(const TimelineNode& node, const wchar_t* key)
@@ -77,6 +69,12 @@ double MediaStart(const TimelineNode& node)
     double start = 0;
     node.Bag().GetDouble(kMediaStart, &start);
     return IsFinite(start) ? start : 0;
+}
+
+QJsonArray MarkersOf(const TimelineNode& node)
+{
+    return OtioMarkers(ExactRate(node.FrameRate()) / node.Speed(), MediaStart(node))
+        .Write(node.Markers().settings, BagJson(node, kMarkers).array());
 }
 
 QString NameOf(const TimelineNode& node)
@@ -143,7 +141,7 @@ QJsonObject OtioWriter::Timeline(const CompositeNode& node)
 {
     QJsonObject timeline = Object("Timeline.1", NameOf(node));
     timeline[QStringLiteral("metadata")] = Metadata(node, 0);
-    timeline[QStringLiteral("global_start_time")] = Time(0, node.FrameRate());
+    timeline[QStringLiteral("global_start_time")] = Time(0, ExactRate(node.FrameRate()));
     timeline[QStringLiteral("tracks")] = Stack(node);
     return timeline;
 }
@@ -175,8 +173,7 @@ QJsonObject OtioWriter::Stack(const CompositeNode& node)
         tracks.append(Unplaced(lanes.unplaced, orders));
     QJsonObject stack = PlayingObject("Stack.1", NameOf(node));
     stack[QStringLiteral("children")] = tracks;
-    const QJsonArray markers = BagJson(node, kMarkers).array();
-    stack[QStringLiteral("markers")] = markers;
+    stack[QStringLiteral("markers")] = MarkersOf(node);
     return stack;
 }
 
@@ -235,7 +232,7 @@ QJsonObject OtioWriter::Item(const TimelineNode& node, const NLERange& range, in
         Range(start, double(NLERangeLength(range)), node.FrameRate());
     item[QStringLiteral("effects")] = SpeedEffects(node);
     item[QStringLiteral("enabled")] = node.IsEnabled();
-    item[QStringLiteral("markers")] = BagJson(node, kMarkers).array();
+    item[QStringLiteral("markers")] = MarkersOf(node);
     if (!composite)
         item[QStringLiteral("media_reference")] = MediaReference(node);
     if (!isTwin)
