@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // Documents of the open engine as the framework's own player shows and sounds them.
 #include "CommonLib/NLEWraper/VideoKeyFrameSetting.h"
+#include "EngineApi/INLEEffects.h"
 #include "EngineApi/INLEMixerSetting.h"
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/INLETransform.h"
@@ -161,6 +162,55 @@ private slots:
             });
         row("a text", 6, [](const T& t, const Node& p) {
             t.OnColour(p, t.provider->CreateTipTextTimeline("Hello World", "DejaVu Sans"));
+        });
+        const auto effect = [&row](const char* name, double most, const char* kind,
+                                   const std::vector<std::pair<const wchar_t*, double>>& numbers) {
+            row(name, most, [=](const T& t, const Node& p) {
+                const Node clip = t.Clip();
+                t.OnColour(p, clip);
+                const Node made = t.AddEffect(clip, kind);
+                for (const auto& [parameter, number] : numbers)
+                    Set(made, &INLEParameters::SetNumber, parameter, number);
+            });
+        };
+        effect("exposure", 4, "exposure", {{L"exposure", -1.5}});
+        effect("contrast", 4, "contrast", {{L"contrast", 0.5}, {L"brightness", 0.2}});
+        effect("saturation", 4, "saturation", {{L"saturation", 0}});
+        effect("white balance", 4, "white-balance", {{L"temperature", 3000}});
+        effect("black and white", 4, "black-and-white", {{L"red", 0.5}});
+        effect("vignette", 6, "vignette", {{L"amount", 0.7}});
+        effect("blur", 4, "blur", {{L"size", 6}});
+        effect("sharpen", 8, "sharpen", {});
+        effect("noise reduction", 4, "noise-reduction", {});
+        effect("crop", 4, "crop", {{L"left", 0.25}, {L"bottom", 0.3}});
+        effect("mirror", 4, "mirror", {{L"vertical", 1}});
+        row("chroma key", 5, [](const T& t, const Node& p) {
+            t.OnColour(p, t.Colour(QColor(20, 230, 40)));
+            const Node clip = t.Colour(QColor(200, 120, 80));
+            t.Add(p, clip, 0, 2);
+            Set(clip, &INLETransform::SetScale, &kHalf);
+            for (const int index : {1, 2})
+                t.AddEffect(t.ClipAt(p, index), "chroma-key");
+        });
+        row("curves", 4, [](const T& t, const Node& p) {
+            const Node clip = t.Clip();
+            t.OnColour(p, clip);
+            Set(t.AddEffect(clip, "curves"), &INLEParameters::SetText, L"master",
+                L"0/0.2 0.5/0.4 1/0.9");
+        });
+        row("a blur that grows, on a clip that is moved", 5, [](const T& t, const Node& p) {
+            const Node clip = t.Trimmed(t.Clip(), 5, 44);
+            t.OnColour(p, clip);
+            Set(clip, &INLETransform::SetScale, &kHalf);
+            const Node blur = t.AddEffect(clip, "blur");
+            for (const double time : {0.0, 0.5}) {
+                const NLEParameterKeyFrame key = {time, time * 24, NLEInterpolation_Smooth, 0};
+                Set(blur, &INLEParameters::PutKeyFrame, L"size", &key, nullptr);
+            }
+        });
+        row("an effect of the whole project", 4, [](const T& t, const Node& p) {
+            t.OnColour(p, t.Clip("square.mp4"));
+            Set(t.AddEffect(p, "exposure"), &INLEParameters::SetNumber, L"exposure", -1.0);
         });
         row("a small clip inside of another timeline", 3, [](const T& t, const Node& p) {
             const Node inner = t.provider->CreateVirtualTimeline(11);

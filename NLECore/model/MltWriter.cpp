@@ -3,6 +3,7 @@
 
 #include "NLECore/model/DocumentNodes.h"
 #include "NLECore/model/DocumentText.h"
+#include "NLECore/model/EffectFilters.h"
 #include "NLECore/model/MltEffects.h"
 #include "NLECore/model/MltSource.h"
 #include "NLECore/model/MotionFilters.h"
@@ -156,6 +157,8 @@ void MltWriter::WriteCommon(const TimelineNode& node, int order)
     if (!sounds.empty() || !pictures.empty())
         Property(kFilters, QStringLiteral("%1 %2").arg(sounds.size()).arg(pictures.size()));
     WriteFilters(sounds);
+    // What is done to a picture before it comes to its place.
+    WriteFilters(EffectFilters(node));
     WriteFilters(pictures);
 }
 

@@ -311,18 +311,14 @@ RowEffect ChromaKey(const ParametersAt& values, const EffectFrame& /*frame*/)
 
 MltTexts MltChromaKey(const ParametersAt& values, const QPointF& /*scale*/)
 {
-    constexpr float middle = 128;
-    constexpr float most = 255;
-    const Chroma key = KeyChroma(values);
-    const auto byte = [=](float share) {
-        return QStringLiteral("%1").arg(qBound(0, qRound(share * most + middle), int(most)), 2, 16,
-                                        QLatin1Char('0'));
-    };
-    return {{QStringLiteral("mlt_service"), Service("avfilter.chromakey")},
-            {QStringLiteral("av.color"), QLatin1String("0x80") + byte(key.u) + byte(key.v)},
-            {QStringLiteral("av.yuv"), QStringLiteral("1")},
-            {QStringLiteral("av.similarity"), Text(values.Number("tolerance"))},
-            {QStringLiteral("av.blend"), Text(values.Number("softness"))}};
+    // Its edge is hard, where half of the soft one shows; it counts in 200ths of a component.
+    constexpr double steps = 255.0 / 200.0;
+    const double middle = values.Number("tolerance") + values.Number("softness") / 2;
+    const QRgb key = values.Color("color");
+    return {{QStringLiteral("mlt_service"), Service("chroma")},
+            {QStringLiteral("key"),
+             QStringLiteral("0x%1ff").arg(key & 0xFFFFFF, 6, 16, QLatin1Char('0'))},
+            {QStringLiteral("variance"), Text(std::min(middle * steps, 1.0))}};
 }
 
 // ---- Crop

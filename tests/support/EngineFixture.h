@@ -4,6 +4,7 @@
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "EngineApi/INLEEffects.h"
 #include "tests/support/Deviation.h"
 #include "tests/support/TestMedia.h"
 
@@ -39,6 +40,32 @@ public:
     }
 
     QString Path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
+    /// The engine's own maker of nodes.
+    static NLEComPtr<INLETimelineFactory> Nodes()
+    {
+        NLEComPtr<INLEFactory> factory;
+        NLEComPtr<INLETimelineFactory> nodes;
+        CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
+                                                       INLEFactory::Iid, factory.putVoid());
+        if (factory)
+            factory->GetTimelineFactory(nodes.put());
+        return nodes;
+    }
+    /// A new effect; null for a name that there is not.
+    static Node Effect(const char* name)
+    {
+        Node effect;
+        Nodes()->CreateEffect(QString(name).toStdWString().c_str(), effect.put());
+        return effect;
+    }
+    /// A new effect that \a node carries as its last one.
+    static Node AddEffect(const Node& node, const char* name)
+    {
+        Node effect = Effect(name);
+        Facet<INLEEffects>(node)->AddEffect(effect.get(), -1);
+        return effect;
+    }
+
     Node Project() const { return provider->CreateProjectTimeline(kSmall); }
     Node Media(const QString& path) const { return provider->CreateMediaTimeline(path, false); }
     Node Colour(const QColor& color, const QSize& size = QSize(320, 180)) const

@@ -1,0 +1,336 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// Effects as a host meets them: the catalogue, their parameters, and what keeps them.
+#include "EngineApi/INLETransform.h"
+#include "EngineApi/NLEKey.h"
+#include "tests/support/EngineFixture.h"
+
+#include <QTranslator>
+
+#include <limits>
+
+namespace {
+
+constexpr int kCapacity = 64;
+
+/// The text that a call with a buffer gives; null when it fails.
+template <typename Call>
+QString TextOf(Call call)
+{
+    std::array<wchar_t, kCapacity> buffer = {};
+    return call(buffer.data(), kCapacity) == S_OK ? QString::fromWCharArray(buffer.data())
+                                                  : QString();
+}
+
+QString NameOf(const Node& effect)
+{
+    return TextOf([&](wchar_t* text, int capacity) {
+        return effect.query<INLETimelineEffect>()->GetEffectName(text, capacity);
+    });
+}
+
+NLEComPtr<INLEParameters> ParametersOf(const Node& effect)
+{
+    return effect.query<INLEParameters>();
+}
+
+double NumberOf(const Node& effect, const wchar_t* name)
+{
+    double number = -12345;
+    ParametersOf(effect)->GetNumber(name, &number);
+    return number;
+}
+
+Node EffectAt(const Node& clip, int index)
+{
+    Node effect;
+    clip.query<INLEEffects>()->GetEffect(index, effect.put());
+    return effect;
+}
+
+QStringList EffectsOf(const Node& clip)
+{
+    QStringList names;
+    int count = 0;
+    clip.query<INLEEffects>()->GetCount(&count);
+    for (int index = 0; index < count; ++index)
+        names << NameOf(EffectAt(clip, index));
+    return names;
+}
+
+/// Words in capitals, as if they were another language.
+class Capitals : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* text, const char* /*comment*/,
+                      int /*number*/) const override
+    {
+        return qstrcmp(context, "NLECore") == 0 ? QString(text).toUpper() : QString();
+    }
+};
+
+} // namespace
+
+class tst_EngineEffects : public QObject, public EngineFixture
+{
+    Q_OBJECT
+
+    /// A project whose clip has two effects, one of them with key frames and one that is off.
+    Node EffectProject() const
+    {
+        const Node clip = Trimmed(Colour(QColor(120, 80, 40)), 5, 44);
+        const Node project = ProjectWith(clip);
+        const Node exposure = AddEffect(clip, "exposure");
+        for (const auto& [time, value] : {std::pair(0.1, -1.0), {0.7, 2.5}}) {
+            const NLEParameterKeyFrame key = {time, value, NLEInterpolation_Smooth, 0};
+            ParametersOf(exposure)->PutKeyFrame(L"exposure", &key, nullptr);
+        }
+        ParametersOf(exposure)->SetNumber(L"black", 0.0123456789);
+        const Node curves = AddEffect(clip, "curves");
+        ParametersOf(curves)->SetText(L"master", L"0/0.25 1/0.75");
+        AddEffect(clip, "black-and-white")->SetEnabled(false);
+        ParametersOf(AddEffect(project, "blur"))->SetNumber(L"size", 3);
+        return project;
+    }
+
+    void compareEffects(const Node& found, const Node& wanted)
+    {
+        QCOMPARE(EffectsOf(found), QStringList{"blur"});
+        QCOMPARE(NumberOf(EffectAt(found, 0), L"size"), 3.0);
+        const Node clip = ClipAt(found, 0);
+        QCOMPARE(EffectsOf(clip), QStringList({"exposure", "curves", "black-and-white"}));
+        bool isOn = true;
+        EffectAt(clip, 2)->GetEnabled(&isOn);
+        QVERIFY(!isOn);
+        const auto exposure = ParametersOf(EffectAt(clip, 0));
+        NLEParameterKeyFrame key = {};
+        QCOMPARE(exposure->GetKeyFrame(L"exposure", 1, &key), S_OK);
+        QVERIFY(std::abs(key.time - 0.7) < 1e-12);
+        QCOMPARE(key.interpolation, std::int32_t(NLEInterpolation_Smooth));
+        QCOMPARE(NumberOf(EffectAt(clip, 0), L"black"), 0.0123456789);
+        for (const int frame : {0, 12, 30})
+            QCOMPARE(Frame(found, frame), Frame(wanted, frame));
+    }
+
+private slots:
+    void catalogue()
+    {
+        const auto catalogue = Nodes().query<INLEEffectCatalog>();
+        int count = 0;
+        QCOMPARE(catalogue->GetCount(NLECatalog_Effect, &count), S_OK);
+        QStringList names;
+        for (int index = 0; index < count; ++index) {
+            names << TextOf([&](wchar_t* text, int capacity) {
+                return catalogue->GetName(NLECatalog_Effect, index, text, capacity);
+            });
+            const Node effect = Effect(names.back().toLatin1().constData());
+            QCOMPARE(NameOf(effect), names.back());
+        }
+        for (const char* name : {"exposure", "contrast", "saturation", "white-balance", "curves",
+                                 "lut", "blur", "sharpen", "chroma-key", "crop", "mirror",
+                                 "vignette", "noise-reduction", "black-and-white", "drop-shadow"})
+            QVERIFY2(names.removeAll(name) == 1, name);
+        Node effect;
+        QCOMPARE(Nodes()->CreateEffect(L"no such effect", effect.put()), E_INVALIDARG);
+        QVERIFY(!effect);
+        QCOMPARE(catalogue->GetName(NLECatalog_Effect, count, nullptr, 0), E_INVALIDARG);
+        QCOMPARE(catalogue->GetCount(77, &count), E_INVALIDARG);
+    }
+
+    void titlesAreTranslated()
+    {
+        const auto catalogue = Nodes().query<INLEEffectCatalog>();
+        const auto title = [&](wchar_t* text, int capacity) {
+            return catalogue->GetTitle(NLECatalog_Effect, 0, text, capacity);
+        };
+        const auto parameter = [](wchar_t* text, int capacity) {
+            return ParametersOf(Effect("exposure"))->GetParameterTitle(1, text, capacity);
+        };
+        QCOMPARE(TextOf(title), QString("Exposure"));
+        Capitals capitals;
+        QCoreApplication::installTranslator(&capitals);
+        QCOMPARE(TextOf(title), QString("EXPOSURE"));
+        QCOMPARE(TextOf(parameter), QString("BLACK LEVEL"));
+        QCoreApplication::removeTranslator(&capitals);
+    }
+
+    /// Every number of every effect: the ends of its range are taken, what lies beyond is not.
+    void refusedNumbers()
+    {
+        const auto catalogue = Nodes().query<INLEEffectCatalog>();
+        int effects = 0;
+        catalogue->GetCount(NLECatalog_Effect, &effects);
+        int numbers = 0;
+        for (int index = 0; index < effects; ++index) {
+            const QString kind = TextOf([&](wchar_t* text, int capacity) {
+                return catalogue->GetName(NLECatalog_Effect, index, text, capacity);
+            });
+            const auto parameters = ParametersOf(Effect(kind.toLatin1().constData()));
+            int count = 0;
+            parameters->GetParameterCount(&count);
+            for (int parameter = 0; parameter < count; ++parameter) {
+                NLEParameterRecord record = {};
+                std::array<wchar_t, kCapacity> name = {};
+                QCOMPARE(parameters->GetParameter(parameter, &record, name.data(), kCapacity),
+                         S_OK);
+                double value = -1;
+                if (record.kind == NLEParameter_Text || record.kind == NLEParameter_File) {
+                    QCOMPARE(parameters->GetNumber(name.data(), &value), E_INVALIDARG);
+                    continue;
+                }
+                ++numbers;
+                QCOMPARE(parameters->GetNumber(name.data(), &value), S_OK);
+                QCOMPARE(value, record.preset);
+                for (const double end : {record.lowest, record.highest})
+                    QCOMPARE(parameters->SetNumber(name.data(), end), S_OK);
+                for (const double beyond : {record.lowest - 0.001, record.highest + 0.001,
+                                            std::numeric_limits<double>::quiet_NaN(),
+                                            std::numeric_limits<double>::infinity()}) {
+                    const NLEParameterKeyFrame key = {0.5, beyond, 1, 0};
+                    QCOMPARE(parameters->SetNumber(name.data(), beyond), E_INVALIDARG);
+                    QCOMPARE(parameters->PutKeyFrame(name.data(), &key, nullptr), E_INVALIDARG);
+                }
+                QCOMPARE(parameters->GetNumber(name.data(), &value), S_OK);
+                QCOMPARE(value, record.highest);
+            }
+        }
+        QVERIFY(numbers > 30);
+    }
+
+    void refusedCalls()
+    {
+        const auto mirror = ParametersOf(Effect("mirror"));
+        const NLEParameterKeyFrame key = {0.5, 1, 1, 0};
+        QCOMPARE(mirror->PutKeyFrame(L"horizontal", &key, nullptr), E_INVALIDARG);
+        QCOMPARE(mirror->SetNumber(L"horizontal", 0.5), E_INVALIDARG);
+        QCOMPARE(mirror->SetNumber(L"diagonal", 1), E_INVALIDARG);
+        QCOMPARE(mirror->SetNumber(nullptr, 1), E_INVALIDARG);
+        const auto blur = ParametersOf(Effect("blur"));
+        const NLEParameterKeyFrame odd = {0.5, 1, 3, 0};
+        QCOMPARE(blur->PutKeyFrame(L"size", &odd, nullptr), E_INVALIDARG);
+        QCOMPARE(blur->DeleteKeyFrame(L"size", 0), E_INVALIDARG);
+        const auto curves = ParametersOf(Effect("curves"));
+        QCOMPARE(curves->SetText(L"master", L"0/0 0/1"), E_FAIL);
+        QCOMPARE(curves->SetText(L"master", L"0/0 1/1"), S_OK);
+        const auto table = ParametersOf(Effect("lut"));
+        QCOMPARE(table->SetText(L"file", Path("missing.cube").toStdWString().c_str()), E_FAIL);
+    }
+
+    void clipsCarryEffects()
+    {
+        const Node clip = Colour(Qt::red);
+        const Node other = Colour(Qt::blue);
+        const auto effects = clip.query<INLEEffects>();
+        const Node blur = AddEffect(clip, "blur");
+        AddEffect(clip, "crop");
+        QCOMPARE(effects->AddEffect(Effect("mirror").get(), 0), S_OK);
+        QCOMPARE(EffectsOf(clip), QStringList({"mirror", "blur", "crop"}));
+        QCOMPARE(effects->MoveEffect(0, 2), S_OK);
+        QCOMPARE(EffectsOf(clip), QStringList({"blur", "crop", "mirror"}));
+        QCOMPARE(effects->MoveEffect(2, 1), S_OK);
+        QCOMPARE(EffectsOf(clip), QStringList({"blur", "mirror", "crop"}));
+        QCOMPARE(effects->MoveEffect(0, 3), E_INVALIDARG);
+        QCOMPARE(effects->AddEffect(blur.get(), -1), E_INVALIDARG);
+        QCOMPARE(other.query<INLEEffects>()->AddEffect(blur.get(), -1), E_INVALIDARG);
+        QCOMPARE(other.query<INLEEffects>()->RemoveEffect(blur.get()), E_INVALIDARG);
+        QCOMPARE(effects->AddEffect(other.get(), -1), E_INVALIDARG);
+        QCOMPARE(Project().query<INLETimelineComposite>()->AddClip(Effect("blur").get()),
+                 E_INVALIDARG);
+        QCOMPARE(effects->RemoveEffect(blur.get()), S_OK);
+        QCOMPARE(other.query<INLEEffects>()->AddEffect(blur.get(), -1), S_OK);
+        QVERIFY(!clip.query<INLETimelineEffect>() && !clip.query<INLEParameters>());
+        QVERIFY(!blur.query<INLEEffects>() && !blur.query<INLEBlendSetting>());
+    }
+
+    /// The effect outlives its clip and can go to another one.
+    void effectWithoutItsClip()
+    {
+        const Node effect = Effect("blur");
+        {
+            const Node clip = Colour(Qt::red);
+            QCOMPARE(clip.query<INLEEffects>()->AddEffect(effect.get(), -1), S_OK);
+        }
+        QCOMPARE(TotalOf(effect).out, -1);
+        QCOMPARE(Colour(Qt::red).query<INLEEffects>()->AddEffect(effect.get(), -1), S_OK);
+    }
+
+    void clones()
+    {
+        const Node project = EffectProject();
+        Node copy;
+        QCOMPARE(project->Clone(true, copy.put()), S_OK);
+        compareEffects(copy, project);
+        // A change of the copy is its own.
+        ParametersOf(EffectAt(ClipAt(copy, 0), 0))->DeleteKeyFrame(L"exposure", 1);
+        QVERIFY(Frame(copy, 30) != Frame(project, 30));
+    }
+
+    void documents_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("MLT") << "effects.mlt";
+        QTest::newRow("OpenTimelineIO") << "effects.otio";
+    }
+    void documents()
+    {
+        QFETCH(QString, name);
+        const Node project = EffectProject();
+        QVERIFY(Save(project, folder.filePath(name)));
+        compareEffects(Load(folder.filePath(name)), project);
+    }
+
+    /// A table of colours is named relative to the document; one that has gone changes nothing.
+    void documentsWithTables()
+    {
+        QVERIFY(QDir(folder.path()).mkpath("film/tables"));
+        QByteArray text = "LUT_3D_SIZE 2\n";
+        for (int entry = 0; entry < 8; ++entry)
+            text += "0 0.5 1\n";
+        QFile file(Path("film/tables/blue.cube"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) > 0);
+        file.close();
+        const Node clip = Colour(Qt::red);
+        const Node project = ProjectWith(clip);
+        QCOMPARE(ParametersOf(AddEffect(clip, "lut"))
+                     ->SetText(L"file", file.fileName().toStdWString().c_str()),
+                 S_OK);
+        QCOMPARE(Frame(project, 0).pixel(9, 9), qRgb(0, 128, 255));
+        QVERIFY(Save(project, Path("film/film.mlt")));
+        QVERIFY(QFile::rename(Path("film"), Path("moved")));
+        QCOMPARE(Frame(Load(Path("moved/film.mlt")), 0).pixel(9, 9), qRgb(0, 128, 255));
+        QVERIFY(QFile::remove(Path("moved/tables/blue.cube")));
+        QCOMPARE(Frame(Load(Path("moved/film.mlt")), 0).pixel(9, 9), qRgb(255, 0, 0));
+    }
+
+    /// A single clip of a project goes to the encoder as it was decoded, but not with an effect.
+    void encodedWithItsEffect()
+    {
+        TestClip made;
+        made.frames = 10;
+        QCOMPARE(MakeTestClip(Path("clip.mp4"), made), QString());
+        const Node clip = Media(Path("clip.mp4"));
+        const Node project = ProjectWith(clip);
+        ParametersOf(AddEffect(clip, "exposure"))->SetNumber(L"exposure", -5);
+        const auto encoder = provider->CreateMediaEncoder();
+        NLEEncodeSettings settings = {};
+        settings.frameSize = {320, 180};
+        QCOMPARE(encoder->Open(project.get(), Path("film.mp4").toStdWString().c_str(), &settings),
+                 S_OK);
+        QCOMPARE(encoder->Encode(nullptr, nullptr), S_OK);
+        const QImage found = Frame(Media(Path("film.mp4")), 4);
+        const QImage bright = Frame(Media(Path("clip.mp4")), 4);
+        const auto lightest = [](const QImage& picture) {
+            int most = 0;
+            for (int y = 0; y < picture.height(); ++y) {
+                for (int x = 0; x < picture.width(); ++x)
+                    most = std::max(most, qGray(picture.pixel(x, y)));
+            }
+            return most;
+        };
+        QVERIFY(lightest(bright) > 200);
+        QVERIFY(lightest(found) < 80);
+    }
+};
+
+QTEST_MAIN(tst_EngineEffects)
+#include "tst_engine_effects.moc"
