@@ -136,7 +136,7 @@ enum NLECatalogKind : std::int32_t
 {
     NLECatalog_Effect = 0,     ///< INLETimelineFactory::CreateEffect
     NLECatalog_Transition = 1, ///< INLETimelineFactory::CreateTransition
-    NLECatalog_Title = 2,      ///< INLETimelineFactory::CreateTitle
+    NLECatalog_Title = 2,      ///< nothing yet: titles are made of their text
     NLECatalog_AudioFilter = 3 ///< INLETimelineFactory::CreateAudioFilter
 };
 

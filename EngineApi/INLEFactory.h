@@ -51,11 +51,12 @@ struct INLETimelineFactory : IUnknown
                                   INLETimeline** clip) = 0;
     /// An empty composite; \a type becomes its timeline type.
     virtual HRESULT CreateVirtual(int type, INLETimeline** timeline) = 0;
-    /// An effect, a transition, a title by its name in INLEEffectCatalog, with all parameters at
-    /// their presets; E_INVALIDARG for a name that is not there.
+    /// An effect or a transition by its name in INLEEffectCatalog, with all parameters at their
+    /// presets; E_INVALIDARG for a name that is not there.
     virtual HRESULT CreateEffect(const wchar_t* name, INLETimeline** effect) = 0;
     virtual HRESULT CreateTransition(const wchar_t* name, INLETimeline** transition) = 0;
-    virtual HRESULT CreateTitle(const wchar_t* name, INLETimeline** title) = 0;
+    /// A title of \a text, all else at its preset; INLETitle and INLEParameters change it.
+    virtual HRESULT CreateTitle(const wchar_t* text, INLETimeline** title) = 0;
 };
 
 /// Marks that a file carries: chapters, tracks of a cue sheet. In order of time.

@@ -8,6 +8,7 @@
 #include "NLECore/render/ChunkStore.h"
 #include "NLECore/scene/FrameMath.h"
 #include "NLECore/scene/LayerKey.h"
+#include "NLECore/scene/Title.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -84,6 +85,10 @@ std::shared_ptr<const KeyFrameCurve> Other(const std::shared_ptr<const KeyFrameC
     auto curve = std::make_shared<KeyFrameCurve>();
     curve->frames = {kPlainKeyFrame};
     return curve;
+}
+SharedParameters Other(const SharedParameters& /*value*/)
+{
+    return std::make_shared<ParameterValues>(TitleDeclaration());
 }
 std::vector<SharedParameters> Other(const std::vector<SharedParameters>& /*value*/)
 {

@@ -21,6 +21,8 @@ inline const QLatin1String kRate("nle:rate");
 inline const QLatin1String kSize("nle:size");
 inline const QLatin1String kAudio("nle:audio");
 inline const QLatin1String kBagPrefix("nle:bag:");
+/// Followed by the name of a title's parameter.
+inline const QLatin1String kTitlePrefix("nle:title:");
 /// Followed by the key of a project's context.
 inline const QLatin1String kContextPrefix("nle:context:");
 /// Of a filter that was written here: a sum of its properties and their names.
@@ -33,6 +35,7 @@ inline const QLatin1String kComposite("composite");
 inline const QLatin1String kMedia("media");
 inline const QLatin1String kColor("color");
 inline const QLatin1String kText("text");
+inline const QLatin1String kTitle("title");
 /// The empty track below all others.
 inline const QLatin1String kBackground("background");
 /// A track of clips that do not show: disabled ones and ones of no length.

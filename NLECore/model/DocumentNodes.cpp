@@ -5,7 +5,10 @@
 #include "NLECore/media/ImageSequence.h"
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/MediaObjects.h"
+#include "NLECore/model/ParameterText.h"
+#include "NLECore/model/TitleClip.h"
 #include "NLECore/scene/FrameMath.h"
+#include "NLECore/scene/Title.h"
 
 #include <algorithm>
 
@@ -77,6 +80,8 @@ QLatin1String KindOf(const TimelineNode& node)
         return kComposite;
     if (dynamic_cast<const ColorClip*>(&node))
         return kColor;
+    if (dynamic_cast<const TitleClip*>(&node))
+        return kTitle;
     return dynamic_cast<const TextClip*>(&node) ? kText : kMedia;
 }
 
@@ -122,6 +127,8 @@ DocumentTexts OwnTexts(const TimelineNode& node, int order, const QDir& folder)
             QStringLiteral("%1 %2").arg(node.PictureSize().width).arg(node.PictureSize().height));
     for (auto& text : SettingsToText(node, folder))
         texts.push_back(std::move(text));
+    if (const auto* title = dynamic_cast<const TitleClip*>(&node))
+        AddParameterTexts(*title->Parameters().Shared(), kTitlePrefix, folder, texts);
     AddValues(node.Bag().All(), kBagPrefix, texts);
     if (const auto* project = dynamic_cast<const ProjectNode*>(&node)) {
         texts.emplace_back(kAudio, QStringLiteral("%1 %2 %3")
@@ -226,9 +233,24 @@ NLEComPtr<TimelineNode> DocumentNodes::MakeColor(std::uint32_t argb,
 NLEComPtr<TimelineNode> DocumentNodes::MakeText(const QString& text, const QString& family,
                                                 const DocumentProperties& properties)
 {
+    if (properties.value(kKind) == kTitle)
+        return MakeTitle(text, family, properties);
     NLEComPtr<TextClip> clip =
         MakeCom<TextClip>(text, family, SizeOf(properties), profile.frameRate);
     Apply(properties, *clip);
+    return clip;
+}
+
+NLEComPtr<TimelineNode> DocumentNodes::MakeTitle(const QString& text, const QString& family,
+                                                 const DocumentProperties& properties)
+{
+    NLEComPtr<TitleClip> clip = MakeCom<TitleClip>(SizeOf(properties), profile.frameRate);
+    Apply(properties, *clip);
+    ParameterValues values = *clip->Parameters().Shared();
+    ReadParameterTexts(properties, kTitlePrefix, nullptr, values);
+    values.SetText(TitleTextIndex(), ToWide(text));
+    values.SetText(TitleFontIndex(), ToWide(family));
+    clip->Parameters().Restore(values);
     return clip;
 }
 

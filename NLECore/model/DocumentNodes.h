@@ -55,6 +55,9 @@ public:
     NLEComPtr<TimelineNode> MakeColor(std::uint32_t argb, const DocumentProperties& properties);
     NLEComPtr<TimelineNode> MakeText(const QString& text, const QString& family,
                                      const DocumentProperties& properties);
+    /// A title with what \a properties keep of it, and the text and font that the document says.
+    NLEComPtr<TimelineNode> MakeTitle(const QString& text, const QString& family,
+                                      const DocumentProperties& properties);
     /// The outermost one of a document without \a properties of this engine is a project.
     NLEComPtr<CompositeNode> MakeComposite(const DocumentProperties& properties, bool isRoot);
     /// Puts clips into \a composite in the order that they were saved in, and its own settings.

@@ -8,6 +8,8 @@
 #include "NLECore/model/MltSource.h"
 #include "NLECore/model/MotionFilters.h"
 #include "NLECore/model/SoundFilters.h"
+#include "NLECore/model/TitleClip.h"
+#include "NLECore/scene/Title.h"
 
 #include <QLocale>
 
@@ -29,6 +31,9 @@ std::int64_t ServiceLength(const TimelineNode& node)
 {
     return std::max<std::int64_t>({1, node.TotalLength(), std::int64_t(node.Range().out) + 1});
 }
+
+/// In the order of TitleAlignment.
+constexpr const char* kAlignments[] = {"left", "center", "right"};
 
 /// What of a track is off when only \a streams of its clips play; null: nothing.
 const char* HiddenPart(NLERenderMode streams)
@@ -108,6 +113,8 @@ QString MltWriter::WriteProducer(const TimelineNode& node, int order)
         Property(QStringLiteral("resource"), ColorText(color->Argb()));
     } else if (const auto* text = dynamic_cast<const TextClip*>(&node)) {
         WriteText(*text);
+    } else if (const auto* title = dynamic_cast<const TitleClip*>(&node)) {
+        WriteTitle(*title);
     }
     WriteCommon(node, order);
     m_xml.writeEndElement();
@@ -123,6 +130,32 @@ void MltWriter::WriteText(const TextClip& clip)
     Property(QStringLiteral("align"), QStringLiteral("center"));
     Property(QStringLiteral("fgcolour"), QStringLiteral("#ffffffff"));
     Property(QStringLiteral("bgcolour"), QStringLiteral("#00000000"));
+}
+
+void MltWriter::WriteTitle(const TitleClip& clip)
+{
+    constexpr double boldWeight = 700;
+    constexpr double usualWeight = 400;
+    const Snapshot layer = clip.MakeSnapshot();
+    const TitleLook look = MomentOf(*layer, layer->range.in).look;
+    const int size = DocumentTextSize(clip);
+    const auto number = [this](const char* name, double value) {
+        Property(QLatin1String(name), QString::number(std::lround(value)));
+    };
+    Property(QStringLiteral("mlt_service"), QStringLiteral("qtext"));
+    Property(QStringLiteral("text"), clip.Text());
+    Property(QStringLiteral("family"), clip.Font());
+    number("size", size);
+    number("weight", look.bold ? boldWeight : usualWeight);
+    Property(QStringLiteral("style"),
+             look.italic ? QStringLiteral("italic") : QStringLiteral("normal"));
+    Property(QStringLiteral("align"), QLatin1String(kAlignments[size_t(look.alignment)]));
+    Property(QStringLiteral("fgcolour"), ColorText(look.color));
+    // There half of it covers the letters.
+    number("outline", 2 * look.outline * size);
+    Property(QStringLiteral("olcolour"), ColorText(look.outlineColor));
+    number("pad", look.boxColor >> 24 != 0 ? look.boxPadding * size : 0);
+    Property(QStringLiteral("bgcolour"), ColorText(look.boxColor));
 }
 
 void MltWriter::WriteMedia(const MediaClip& clip)

@@ -10,6 +10,8 @@
 
 namespace nle {
 
+class TitleClip;
+
 /// Writes one node and what it holds as MLT XML: a producer for each clip, a playlist for each lane
 /// of clips that do not overlap, a tractor for each composite. What a filter or service of the
 /// framework can show or sound is written as such, for other programs only.
@@ -40,6 +42,7 @@ private:
     void WriteCommon(const TimelineNode& node, int order);
     void WriteMedia(const MediaClip& clip);
     void WriteText(const TextClip& clip);
+    void WriteTitle(const TitleClip& clip);
     /// A service of \a length frames; returns its id.
     QString StartService(const char* element, std::int64_t length);
     void StartTransition(const char* service, int track);

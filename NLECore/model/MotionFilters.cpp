@@ -29,6 +29,10 @@ std::map<int, NLEKeyFrameRecord> ByFrame(const KeyFrameCurve* curve)
     return result;
 }
 
+/// Names of alignments, in the order of TitleAlignment and of TitlePlace.
+constexpr const char* kAcross[] = {"left", "centre", "right"};
+constexpr const char* kDown[] = {"top", "middle", "bottom"};
+
 QString Number(double value)
 {
     return QString::number(value, 'f', 3);
@@ -45,10 +49,56 @@ QRect Canvas(const TimelineNode& node)
     return QRect(0, 0, parent.width, parent.height);
 }
 
+/// The frames between which the layer changes evenly.
+std::map<int, NLEKeyFrameRecord> FramesOf(const Layer& layer)
+{
+    std::map<int, NLEKeyFrameRecord> frames = ByFrame(layer.keyFrames.get());
+    if (layer.kind != LayerKind::Title)
+        return frames;
+    for (const double point : TurningPoints(layer)) {
+        const int frame = std::max(0, ClampToInt(std::round(point)));
+        frames.emplace(frame, layer.keyFrames ? layer.keyFrames->AtFrame(frame) : kPlainKeyFrame);
+    }
+    return frames;
+}
+
+bool IsText(const Layer& layer)
+{
+    return layer.kind == LayerKind::Text || layer.kind == LayerKind::Title;
+}
+
+/// The part of a picture that the lines of a title lie in, with the padding of their box, moved as
+/// the title has.
+QRectF TitleArea(TitlePainter& painter, const Layer& layer, int frame, const QSize& picture)
+{
+    const TitleMoment moment = MomentOf(layer, frame);
+    const TitleLook& look = moment.look;
+    const bool hasBox = look.boxColor >> 24 != 0;
+    const double pad = hasBox ? look.boxPadding * look.size * picture.height() : 0;
+    const double marginX = picture.width() * look.margin - pad;
+    const double marginY = picture.height() * look.margin - pad;
+    return QRectF(QPointF(0, 0), picture)
+        .adjusted(marginX, marginY, -marginX, -marginY)
+        .translated(painter.Move(moment, layer.size, picture));
+}
+
+/// Where a part of a picture lies that is \a size large and placed as \a whole.
+Placing PlacePart(const Placing& whole, const QRectF& part, const QSizeF& size)
+{
+    const double scaleX = whole.rect.width() / size.width();
+    const double scaleY = whole.rect.height() / size.height();
+    const QPointF away = part.center() - QPointF(size.width() / 2, size.height() / 2);
+    const QPointF turned =
+        QTransform().rotate(whole.rotation).map(QPointF(away.x() * scaleX, away.y() * scaleY));
+    const QSizeF partSize(part.width() * scaleX, part.height() * scaleY);
+    const QPointF half(partSize.width() / 2, partSize.height() / 2);
+    return {QRectF(whole.rect.center() + turned - half, partSize), whole.rotation};
+}
+
 /// Whether other programs put the picture to its place without being told.
 bool LiesByItself(const TimelineNode& node, const Layer& layer)
 {
-    if (layer.keyFrames || !layer.transform.IsIdentity() || layer.kind == LayerKind::Text)
+    if (layer.keyFrames || !layer.transform.IsIdentity() || IsText(layer))
         return false;
     const QRect canvas = Canvas(node);
     if (layer.kind == LayerKind::Media)
@@ -60,10 +110,13 @@ bool LiesByItself(const TimelineNode& node, const Layer& layer)
 DocumentFilter PlaceFilter(const TimelineNode& node, const Layer& layer)
 {
     const QSize canvas = Canvas(node).size();
+    TitlePainter painter;
     QStringList rects;
     QStringList turns;
-    for (const auto& [frame, key] : ByFrame(layer.keyFrames.get())) {
-        const Placing placing = PlaceLayer(layer, &key, {canvas.width(), canvas.height()}, canvas);
+    for (const auto& [frame, key] : FramesOf(layer)) {
+        Placing placing = PlaceLayer(layer, &key, {canvas.width(), canvas.height()}, canvas);
+        if (layer.kind == LayerKind::Title)
+            placing = PlacePart(placing, TitleArea(painter, layer, frame, canvas), canvas);
         const QString start = QString::number(frame) + QLatin1Char('=');
         const QRectF rect = placing.rect.normalized();
         rects << start + QStringList{Number(rect.x()), Number(rect.y()), Number(rect.width()),
@@ -81,11 +134,15 @@ DocumentFilter PlaceFilter(const TimelineNode& node, const Layer& layer)
         {QStringLiteral("transition.mirror_off"), one},
         {QStringLiteral("transition.rect"), Join(rects)},
         {QStringLiteral("transition.fix_rotate_x"), Join(turns)}};
-    if (layer.kind == LayerKind::Text) {
+    if (IsText(layer)) {
         // The picture of a text is as large as its letters.
+        const bool isTitle = layer.kind == LayerKind::Title;
+        const TitleLook look = isTitle ? MomentOf(layer, layer.range.in).look : TitleLook();
         texts.emplace_back(QStringLiteral("transition.fill"), QStringLiteral("0"));
-        texts.emplace_back(QStringLiteral("transition.halign"), QStringLiteral("centre"));
-        texts.emplace_back(QStringLiteral("transition.valign"), QStringLiteral("middle"));
+        texts.emplace_back(QStringLiteral("transition.halign"),
+                           QLatin1String(kAcross[size_t(look.alignment)]));
+        texts.emplace_back(QStringLiteral("transition.valign"),
+                           QLatin1String(kDown[size_t(look.place)]));
     } else {
         texts.emplace_back(QStringLiteral("transition.distort"), one);
     }
@@ -98,11 +155,14 @@ QStringList Opacities(const Layer& layer)
     const double whole = layer.blend.enabled ? double(layer.blend.alpha) / kOpaqueAlpha : 1;
     QStringList opacities;
     bool isSame = true;
-    const std::map<int, NLEKeyFrameRecord> frames = ByFrame(layer.keyFrames.get());
-    for (const auto& [frame, key] : frames) {
-        const double opacity = std::clamp(key.opacity, 0.0, 1.0) * whole;
+    std::optional<double> before;
+    for (const auto& [frame, key] : FramesOf(layer)) {
+        double opacity = std::clamp(key.opacity, 0.0, 1.0) * whole;
+        if (layer.kind == LayerKind::Title)
+            opacity *= MomentOf(layer, frame).opacity;
         opacities << QString::number(frame) + QLatin1Char('=') + Number(opacity);
-        isSame = isSame && key.opacity == frames.begin()->second.opacity;
+        isSame = isSame && (!before || *before == opacity);
+        before = opacity;
     }
     if (!isSame)
         return opacities;
@@ -137,7 +197,10 @@ int DocumentTextSize(const TimelineNode& text)
                               text.Parent()->PictureSize(), Canvas(text).size())
                      .height();
     const double scale = transform.enabled ? std::abs(transform.scale.height) : 1;
-    return std::max(1, ClampToInt(height * kTextHeight * scale));
+    const Snapshot layer = text.MakeSnapshot();
+    const double share =
+        layer->kind == LayerKind::Title ? MomentOf(*layer, layer->range.in).look.size : kTextHeight;
+    return std::max(1, ClampToInt(height * share * scale));
 }
 
 } // namespace nle

@@ -6,6 +6,7 @@
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/OtioFormat.h"
 #include "NLECore/model/OtioMarkers.h"
+#include "NLECore/model/TitleClip.h"
 #include "NLECore/scene/FrameMath.h"
 
 #include <QJsonDocument>
@@ -84,8 +85,8 @@ QString NameOf(const TimelineNode& node)
         return kept;
     if (const auto* media = dynamic_cast<const MediaClip*>(&node))
         return media->Media().path.section(QLatin1Char('/'), -1);
-    const auto* text = dynamic_cast<const TextClip*>(&node);
-    return text ? text->Text().section(QLatin1Char('\n'), 0, 0) : QString();
+    const auto text = TextOf(node);
+    return text ? text->text.section(QLatin1Char('\n'), 0, 0) : QString();
 }
 
 bool HasPicture(const TimelineNode& node)
@@ -250,11 +251,11 @@ QJsonObject OtioWriter::MediaReference(const TimelineNode& node)
             QJsonObject{{QStringLiteral("color"), ColorText(color->Argb())}};
         return reference;
     }
-    if (const auto* text = dynamic_cast<const TextClip*>(&node)) {
+    if (const auto text = TextOf(node)) {
         reference[QStringLiteral("generator_kind")] = QStringLiteral("Text");
         reference[QStringLiteral("parameters")] =
-            QJsonObject{{QStringLiteral("text"), PlainText(text->Text())},
-                        {QStringLiteral("family"), PlainText(text->Family())}};
+            QJsonObject{{QStringLiteral("text"), PlainText(text->text)},
+                        {QStringLiteral("family"), PlainText(text->family)}};
         return reference;
     }
     const MediaInfo& media = static_cast<const MediaClip&>(node).Media();
@@ -281,9 +282,9 @@ QJsonObject OtioWriter::Metadata(const TimelineNode& node, int order)
     };
     for (const auto& [name, text] : OwnTexts(node, order, m_folder))
         put(name, text);
-    if (const auto* text = dynamic_cast<const TextClip*>(&node)) {
-        put(kExactText, text->Text());
-        put(kExactFamily, text->Family());
+    if (const auto text = TextOf(node)) {
+        put(kExactText, text->text);
+        put(kExactFamily, text->family);
     }
     QJsonObject metadata = BagJson(node, kMetadata).object();
     metadata[kOwn] = own;

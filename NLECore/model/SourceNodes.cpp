@@ -199,8 +199,19 @@ int GeneratedClip::TotalLength() const
 }
 
 ColorClip::ColorClip(std::uint32_t argb, NLESize size, const NLERational& frameRate)
-    : GeneratedClip(frameRate, size), m_argb(argb)
+    : ComExtension(frameRate, size), m_argb(argb)
 {
+}
+
+HRESULT ColorClip::GetColor(std::uint32_t* argb)
+{
+    return GiveValue(argb, m_argb);
+}
+
+HRESULT ColorClip::SetColor(std::uint32_t argb)
+{
+    m_argb = argb;
+    return S_OK;
 }
 
 NLEComPtr<TimelineNode> ColorClip::CopyContent(bool /*deep*/) const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "EngineApi/INLETitle.h"
 #include "NLECore/model/TimelineNode.h"
 
 namespace nle {
@@ -65,10 +66,13 @@ private:
 };
 
 /// A plain colour.
-class ColorClip final : public GeneratedClip
+class ColorClip final : public ComExtension<GeneratedClip, INLEColorClip>
 {
 public:
     ColorClip(std::uint32_t argb, NLESize size, const NLERational& frameRate);
+
+    HRESULT GetColor(std::uint32_t* argb) override;
+    HRESULT SetColor(std::uint32_t argb) override;
 
     std::uint32_t Argb() const { return m_argb; }
 
@@ -77,7 +81,7 @@ protected:
     void Describe(Layer& layer) const override;
 
 private:
-    const std::uint32_t m_argb;
+    std::uint32_t m_argb;
 };
 
 /// White text in the middle of a transparent picture.

@@ -274,6 +274,7 @@ void TimelineNode::ChangeRate(const NLERational& rate)
     m_keyFrames.RescaleAxis(ToDouble(rate) / ToDouble(old));
     m_markers.Rescale(ToDouble(rate) / ToDouble(old));
     m_effects.ChangeRate(rate);
+    RescaleTimes(ToDouble(rate) / ToDouble(old));
     AudioSettings& sound = m_audio.settings;
     sound.fadeInFrames = FrameTime{double(sound.fadeInFrames), old}.NearestAt(rate);
     sound.fadeOutFrames = FrameTime{double(sound.fadeOutFrames), old}.NearestAt(rate);
@@ -310,6 +311,7 @@ void TimelineNode::ChangeSpeed(Change change)
     m_keyFrames.RescaleAxis(before / after);
     m_markers.Rescale(before / after);
     m_effects.RescaleAxis(before / after);
+    RescaleTimes(before / after);
     if (m_placement.range)
         m_placement.range = ScaleRange(*m_placement.range, before / after);
 }

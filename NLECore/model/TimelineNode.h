@@ -145,6 +145,8 @@ protected:
     virtual NLEComPtr<TimelineNode> CopyContent(bool deep) const = 0;
     /// Adds what the node shows to \a layer, whose common fields are filled.
     virtual void Describe(Layer& layer) const = 0;
+    /// The same material is counted in \a factor times as many frames from now on.
+    virtual void RescaleTimes(double /*factor*/) {}
 
 private:
     /// The outermost project's.

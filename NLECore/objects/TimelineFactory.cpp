@@ -8,6 +8,7 @@
 #include "NLECore/model/EffectNode.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/SourceNodes.h"
+#include "NLECore/model/TitleClip.h"
 #include "NLECore/objects/DocumentSerialize.h"
 #include "NLECore/render/EffectKinds.h"
 #include "NLECore/scene/FrameMath.h"
@@ -164,12 +165,19 @@ HRESULT TimelineFactory::CreateTransition(const wchar_t* /*name*/, INLETimeline*
     return E_NOTIMPL;
 }
 
-HRESULT TimelineFactory::CreateTitle(const wchar_t* /*name*/, INLETimeline** title)
+HRESULT TimelineFactory::CreateTitle(const wchar_t* text, INLETimeline** title)
 {
-    if (!title)
-        return E_POINTER;
-    *title = nullptr;
-    return E_NOTIMPL;
+    return ComGuard([&] {
+        if (!text || !title)
+            return E_POINTER;
+        *title = nullptr;
+        NLEComPtr<TitleClip> clip =
+            MakeCom<TitleClip>(kDefaultProfile.frameSize, kDefaultProfile.frameRate);
+        const HRESULT set = clip->SetText(text);
+        if (SUCCEEDED(set))
+            *title = clip.detach();
+        return set;
+    });
 }
 
 HRESULT TimelineFactory::GetCount(int kind, int* count)

@@ -22,7 +22,7 @@ public:
     HRESULT CreateVirtual(int type, INLETimeline** timeline) override;
     HRESULT CreateEffect(const wchar_t* name, INLETimeline** effect) override;
     HRESULT CreateTransition(const wchar_t* name, INLETimeline** transition) override;
-    HRESULT CreateTitle(const wchar_t* name, INLETimeline** title) override;
+    HRESULT CreateTitle(const wchar_t* text, INLETimeline** title) override;
 
     HRESULT GetCount(int kind, int* count) override;
     HRESULT GetName(int kind, int index, wchar_t* name, int capacity) override;

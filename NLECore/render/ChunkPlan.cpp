@@ -164,7 +164,8 @@ void ChunkPlan::AddChildren(ContentHash& hash, const Layer& composite, std::int6
         const std::int64_t end = std::min(shown->end - 1, last);
         const std::int64_t toContent = layer.range.in - shown->begin;
         hash.Add(layers.Of(layer)).Add(begin - first).Add(end - first);
-        hash.Add(begin + toContent);
+        if (LayerKeys::CountsFrames(layer))
+            hash.Add(begin + toContent);
         LayerKeys::AddFrames(hash, layer, begin + toContent, end + toContent);
         if (layer.kind == LayerKind::Composite)
             AddChildren(hash, layer, begin + toContent, end + toContent, layers);

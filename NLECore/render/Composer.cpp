@@ -141,6 +141,27 @@ void Draw(QPainter& painter, const DrawnPicture& picture, const Placing& placing
     painter.restore();
 }
 
+QImage Faded(QImage image, double opacity)
+{
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.fillRect(image.rect(), QColor::fromRgbF(0, 0, 0, opacity));
+    painter.end();
+    return image;
+}
+
+/// What no layer has used since the last call goes.
+template <typename Kept>
+void DropUnused(std::map<const Layer*, Kept>& kept)
+{
+    for (auto one = kept.begin(); one != kept.end();) {
+        if (std::exchange(one->second.used, false))
+            ++one;
+        else
+            one = kept.erase(one);
+    }
+}
+
 /// Without alpha the painter can copy instead of blending.
 QImage AsOpaque(QImage image)
 {
@@ -227,7 +248,7 @@ QImage Composer::Fitted(std::int64_t frame, const QSize& frameSize, QRect* place
     QImage image = Content(*m_root, frame, drawn.expandedTo(QSize(1, 1))).Inner();
     if (!m_isNear && IsStopped())
         return {};
-    DropIdleDecoders();
+    DropIdle();
     if (image.isNull() || image.size() == place->size())
         return image;
     return image.scaled(place->size(), Qt::IgnoreAspectRatio,
@@ -245,6 +266,9 @@ QImage Composer::RenderNear(std::int64_t frame, const QSize& frameSize, QRect* p
 
 DrawnPicture Composer::Content(const Layer& layer, std::int64_t frame, const QSize& size)
 {
+    // The rest of a title's picture is empty.
+    if (layer.kind == LayerKind::Title && layer.effects.empty())
+        return Title(layer, frame, size);
     QImage image = PlainContent(layer, frame, size);
     if (layer.effects.empty())
         return {std::move(image), {}};
@@ -263,10 +287,28 @@ QImage Composer::PlainContent(const Layer& layer, std::int64_t frame, const QSiz
         return ColorPicture(layer.argb, size, CanvasFormat(*m_root));
     case LayerKind::Text:
         return TextPicture(layer, size, CanvasFormat(*m_root));
+    case LayerKind::Title:
+        return Title(layer, frame, size).Inner();
     case LayerKind::Composite:
         return Composite(layer, frame, size);
     }
     return {};
+}
+
+DrawnPicture Composer::Title(const Layer& layer, std::int64_t frame, const QSize& size)
+{
+    OpenTitle& title = m_titles[&layer];
+    title.used = true;
+    const TitleMoment moment = MomentOf(layer, frame);
+    TitleShot shot = title.painter.Draw(moment, layer.size, size, CanvasFormat(*m_root));
+    if (shot.image.isNull() || moment.opacity == 0)
+        shot = {ColorPicture(0, QSize(1, 1), CanvasFormat(*m_root)), QPoint(0, 0)};
+    else if (moment.opacity < 1)
+        shot.image = Faded(std::move(shot.image), moment.opacity);
+    const QSize after = size - shot.image.size();
+    const QPoint& corner = shot.corner;
+    return {shot.image, QMargins(-corner.x(), -corner.y(), corner.x() - after.width(),
+                                 corner.y() - after.height())};
 }
 
 FrameDecoder* Composer::DecoderOf(const Layer& layer, const ShownStream& stream, std::int64_t frame,
@@ -351,7 +393,7 @@ const AVFrame* Composer::PlainMedia(const Layer& layer, std::int64_t frame)
     FrameDecoder* decoder = DecoderOf(layer, shown, frame, &wanted);
     const AVFrame* picture = decoder ? decoder->Decoded(wanted, shown.deinterlacing) : nullptr;
     if (picture)
-        DropIdleDecoders();
+        DropIdle();
     return picture;
 }
 
@@ -392,14 +434,10 @@ QImage Composer::Composite(const Layer& layer, std::int64_t frame, const QSize& 
     return canvas;
 }
 
-void Composer::DropIdleDecoders()
+void Composer::DropIdle()
 {
-    for (auto decoder = m_decoders.begin(); decoder != m_decoders.end();) {
-        if (std::exchange(decoder->second.used, false))
-            ++decoder;
-        else
-            decoder = m_decoders.erase(decoder);
-    }
+    DropUnused(m_decoders);
+    DropUnused(m_titles);
 }
 
 } // namespace nle

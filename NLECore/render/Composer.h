@@ -3,6 +3,7 @@
 
 #include "NLECore/media/DecoderPool.h"
 #include "NLECore/render/EffectChain.h"
+#include "NLECore/render/TitlePicture.h"
 #include "NLECore/scene/SourceChoice.h"
 
 #include <QImage>
@@ -36,7 +37,7 @@ Placing PlaceLayer(const Layer& layer, const NLEKeyFrameRecord* key, NLESize par
                    const QSize& canvas);
 
 /// Draws frames of a snapshot. One object serves one thread; it keeps the decoders of the layers
-/// that are playing.
+/// that are playing and the titles that show.
 class Composer
 {
 public:
@@ -74,11 +75,19 @@ private:
     FrameDecoder* DecoderOf(const Layer& layer, const ShownStream& stream, std::int64_t frame,
                             int* wanted);
     QImage Composite(const Layer& layer, std::int64_t frame, const QSize& size);
-    void DropIdleDecoders();
+    /// The part of a title's picture that something shows in; margins below 0 are the rest.
+    DrawnPicture Title(const Layer& layer, std::int64_t frame, const QSize& size);
+    void DropIdle();
 
     struct OpenDecoder
     {
         DecoderPool::Lease lease;
+        bool used = false;
+    };
+
+    struct OpenTitle
+    {
+        TitlePainter painter;
         bool used = false;
     };
 
@@ -87,6 +96,7 @@ private:
     const Snapshot m_root;
     DecoderPool& m_pool;
     std::map<const Layer*, OpenDecoder> m_decoders;
+    std::map<const Layer*, OpenTitle> m_titles;
     const std::atomic<bool>* m_stop = nullptr;
     bool m_isNear = false; ///< RenderNear draws
     bool m_isExact = true;

@@ -61,6 +61,12 @@ inline void AddValue(ContentHash& hash, const std::shared_ptr<const KeyFrameCurv
 }
 
 template <typename Settings>
+std::enable_if_t<kFieldCount<Settings> != 0> AddValue(ContentHash& hash, const Settings& settings)
+{
+    AddFields(hash, settings);
+}
+
+template <typename Settings>
 void AddFields(ContentHash& hash, const Settings& settings)
 {
     ForEachField<Settings>([&](const auto& field) {

@@ -21,6 +21,7 @@ enum class LayerKind
     Media,
     Color,
     Text,
+    Title,
     Composite
 };
 
@@ -74,7 +75,8 @@ struct Layer
     std::shared_ptr<const MediaInfo> proxy; ///< Media only: read for the picture instead, or null
     std::uint32_t argb = 0;                 ///< Color: the colour; Composite: what shows behind
     QString text;                           ///< Text only
-    QString family;                         ///< Text only
+    QString family;                         ///< Text and Title
+    SharedParameters title;                 ///< Title only
     std::vector<std::shared_ptr<const Layer>>
         children; ///< Composite: enabled ones, lowest level first
 
@@ -107,8 +109,8 @@ inline constexpr auto kFields<Layer> = std::tuple(
     Field{&Layer::media, nullptr, Shows::kYes}, Field{&Layer::source, nullptr, Shows::kYes},
     Field{&Layer::proxy, nullptr, Shows::kYes}, Field{&Layer::argb, nullptr, Shows::kYes},
     Field{&Layer::text, nullptr, Shows::kYes}, Field{&Layer::family, nullptr, Shows::kYes},
-    Field{&Layer::children, nullptr, Shows::kNo}, Field{&Layer::guid, nullptr, Shows::kNo},
-    Field{&Layer::mixer, nullptr, Shows::kNo});
+    Field{&Layer::title, nullptr, Shows::kNo}, Field{&Layer::children, nullptr, Shows::kNo},
+    Field{&Layer::guid, nullptr, Shows::kNo}, Field{&Layer::mixer, nullptr, Shows::kNo});
 static_assert(kListsAllFields<Layer>);
 
 using Snapshot = std::shared_ptr<const Layer>;

@@ -2,6 +2,7 @@
 #include "NLECore/scene/LayerKey.h"
 
 #include "NLECore/scene/FieldKeys.h"
+#include "NLECore/scene/Title.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -24,6 +25,7 @@ bool HasPicture(const Layer& layer)
                            [](const Snapshot& child) { return HasPicture(*child); });
     case LayerKind::Color:
     case LayerKind::Text:
+    case LayerKind::Title:
         break;
     }
     return true;
@@ -39,11 +41,16 @@ ContentKey LayerKeys::Of(const Layer& layer)
         if constexpr (std::decay_t<decltype(field)>::kShows)
             AddField(hash, layer, layer.*field.member);
     });
-    if (layer.kind == LayerKind::Text) {
+    if (layer.kind == LayerKind::Text || layer.kind == LayerKind::Title) {
         const bool canDraw = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
         hash.Add(canDraw);
     }
     return m_layers[&layer] = hash.Result();
+}
+
+bool LayerKeys::CountsFrames(const Layer& layer)
+{
+    return layer.kind != LayerKind::Title || layer.keyFrames;
 }
 
 // Of media and proxy only the one that shows counts.
@@ -91,6 +98,22 @@ void LayerKeys::AddFrames(ContentHash& hash, const Layer& layer, std::int64_t fi
 {
     for (const SharedParameters& values : layer.effects)
         AddParameterFrames(hash, *values, first, last);
+    if (layer.kind == LayerKind::Title)
+        AddMoments(hash, layer, first, last);
+}
+
+void LayerKeys::AddMoments(ContentHash& hash, const Layer& layer, std::int64_t first,
+                           std::int64_t last)
+{
+    ContentKey before;
+    for (std::int64_t frame = first; frame <= last; ++frame) {
+        ContentHash moment;
+        AddFields(moment, MomentOf(layer, frame));
+        const ContentKey now = moment.Result();
+        if (frame == first || now != before)
+            hash.Add(frame - first).Add(now);
+        before = now;
+    }
 }
 
 ContentKey LayerKeys::OfMedia(const MediaInfo& media)

@@ -22,8 +22,10 @@ class LayerKeys
 public:
     /// Values with key frames count by their being there: AddFrames() tells the rest.
     ContentKey Of(const Layer& layer);
+    /// Whether the numbers of its frames have to count beside the layer's key and AddFrames().
+    static bool CountsFrames(const Layer& layer);
     /// Adds what key frames of effects make of the layer's frames \a first to \a last, counted as
-    /// its trim range is.
+    /// its trim range is, and of a title what shows in each.
     static void AddFrames(ContentHash& hash, const Layer& layer, std::int64_t first,
                           std::int64_t last);
     /// Adds the values that have no key frames, and which ones have some.
@@ -33,6 +35,8 @@ public:
                                    std::int64_t first, std::int64_t last);
 
 private:
+    static void AddMoments(ContentHash& hash, const Layer& layer, std::int64_t first,
+                           std::int64_t last);
     template <typename Value>
     void AddField(ContentHash& hash, const Layer& layer, const Value& value);
     ContentKey OfMedia(const MediaInfo& media);
