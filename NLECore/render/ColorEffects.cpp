@@ -263,13 +263,17 @@ MltTexts MltLookup(const ParametersAt& values, const QPointF& /*scale*/)
 /// Colour differences of ITU-R BT.709, as shares of the range that video has for them.
 struct Chroma
 {
+    static constexpr float kRange = 224.0F / 255.0F;
+    /// What a difference of one is of blue and of red.
+    static constexpr float kBlueSteps = 1.8556F / kRange;
+    static constexpr float kRedSteps = 1.5748F / kRange;
+
     float u, v;
 
     static Chroma Of(float red, float green, float blue)
     {
-        constexpr float range = 224.0F / 255.0F;
         const float luma = Luma(red, green, blue);
-        return {(blue - luma) * (range / 1.8556F), (red - luma) * (range / 1.5748F)};
+        return {(blue - luma) / kBlueSteps, (red - luma) / kRedSteps};
     }
     float Length() const { return std::sqrt(u * u + v * v); }
 };
@@ -292,19 +296,22 @@ RowEffect ChromaKey(const ParametersAt& values, const EffectFrame& /*frame*/)
     const float length = std::max(key.Length(), hardest);
     const Chroma direction = {key.u / length, key.v / length};
     return [=](const EffectRow& row) {
+        float* red = row.colors[0];
+        float* green = row.colors[1];
+        float* blue = row.colors[2];
+        float* alpha = row.alpha;
         for (int x = 0; x < row.width; ++x) {
-            const Chroma own = Chroma::Of(row.colors[0][x], row.colors[1][x], row.colors[2][x]);
+            const Chroma own = Chroma::Of(red[x], green[x], blue[x]);
             const Chroma off = {own.u - key.u, own.v - key.v};
             const float covers = (off.Length() / diagonal - tolerance) / softness;
-            row.alpha[x] *= std::min(std::max(covers, 0.0F), 1.0F);
+            alpha[x] *= std::min(std::max(covers, 0.0F), 1.0F);
             // What of the colour is that of the key goes, its light stays.
             const float share = std::max(own.u * direction.u + own.v * direction.v, 0.0F) * spill;
-            constexpr float range = 224.0F / 255.0F;
-            const float blue = share * direction.u * (1.8556F / range);
-            const float red = share * direction.v * (1.5748F / range);
-            row.colors[0][x] -= red;
-            row.colors[2][x] -= blue;
-            row.colors[1][x] += (kLuma[0] * red + kLuma[2] * blue) / kLuma[1];
+            const float lessRed = share * direction.v * Chroma::kRedSteps;
+            const float lessBlue = share * direction.u * Chroma::kBlueSteps;
+            red[x] -= lessRed;
+            blue[x] -= lessBlue;
+            green[x] += (kLuma[0] * lessRed + kLuma[2] * lessBlue) / kLuma[1];
         }
     };
 }
@@ -378,31 +385,17 @@ MltTexts MltCrop(const ParametersAt& values, const QPointF& /*scale*/)
 
 // ---- Vignette
 
-/// Light at a squared distance from the centre, of 0 to 1.
-class Falloff
+/// Cosine to the fourth power of an angle from 0 to a right one, given by its square.
+float FourthCosine(float square)
 {
-public:
-    explicit Falloff(double angle)
-    {
-        for (int i = 0; i <= kSteps + 1; ++i) {
-            const double light = std::cos(angle * std::sqrt(std::min(double(i) / kSteps, 1.0)));
-            m_light[std::size_t(i)] = float(light * light * light * light);
-        }
-    }
-    float At(float square) const
-    {
-        if (square > 1)
-            return 0;
-        const float place = square * kSteps;
-        const int step = int(place);
-        const float share = place - float(step);
-        return m_light[std::size_t(step)] * (1 - share) + m_light[std::size_t(step) + 1] * share;
-    }
-
-private:
-    static constexpr int kSteps = 1024;
-    std::array<float, kSteps + 2> m_light;
-};
+    // The series of the cosine, which is as exact as a float here.
+    const float cosine =
+        1 + square * (-1.0F / 2 +
+                      square * (1.0F / 24 +
+                                square * (-1.0F / 720 +
+                                          square * (1.0F / 40320 + square * (-1.0F / 3628800)))));
+    return cosine * cosine * cosine * cosine;
+}
 
 constexpr double kRightAngle = 1.57079632679489662;
 
@@ -415,14 +408,20 @@ RowEffect Vignette(const ParametersAt& values, const EffectFrame& frame)
     const float unit = float(2 / std::hypot(inner.width(), inner.height()));
     const float centerX = float(inner.left() + values.Number("x") * inner.width());
     const float centerY = float(inner.top() + values.Number("y") * inner.height());
-    const Falloff falloff(amount * kRightAngle);
+    const auto angle = float(amount * kRightAngle);
     return [=](const EffectRow& row) {
+        float* red = row.colors[0];
+        float* green = row.colors[1];
+        float* blue = row.colors[2];
         const float down = (float(row.y) - centerY) * unit;
         for (int x = 0; x < row.width; ++x) {
             const float across = (float(x) - centerX) * unit;
-            const float light = falloff.At(across * across + down * down);
-            for (float* plane : row.colors)
-                plane[x] *= light;
+            const float square = across * across + down * down;
+            const float inside = FourthCosine(square * angle * angle);
+            const float light = square > 1 ? 0.0F : inside;
+            red[x] *= light;
+            green[x] *= light;
+            blue[x] *= light;
         }
     };
 }

@@ -54,16 +54,18 @@ void WritePixels(const EffectRow& row, const std::array<int, 4>& shifts, int mos
     const float* red = row.colors[0];
     const float* green = row.colors[1];
     const float* blue = row.colors[2];
+    const float* alphas = row.alpha;
+    const int width = row.width; // a pixel could lie in the one that is read each time
     if (!hasAlpha) {
         const Pixel opaque = Pixel(most) << shifts[3];
-        for (int x = 0; x < row.width; ++x)
+        for (int x = 0; x < width; ++x)
             pixels[x] = opaque | Packed<Pixel>(red[x], most, shifts[0]) |
                         Packed<Pixel>(green[x], most, shifts[1]) |
                         Packed<Pixel>(blue[x], most, shifts[2]);
         return;
     }
-    for (int x = 0; x < row.width; ++x) {
-        const float alpha = std::min(std::max(row.alpha[x], 0.0F), 1.0F);
+    for (int x = 0; x < width; ++x) {
+        const float alpha = std::min(std::max(alphas[x], 0.0F), 1.0F);
         const auto multiplied = [alpha](float value) {
             return std::min(std::max(value, 0.0F), 1.0F) * alpha;
         };

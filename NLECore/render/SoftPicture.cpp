@@ -48,6 +48,7 @@ public:
 
 private:
     static constexpr int kPasses = 3;
+    static constexpr int kPlaces = 32; ///< that are weighed at a time
 
     void FindWeights(double deviation)
     {
@@ -84,16 +85,27 @@ private:
     void Weigh(const float* from, float* to) const
     {
         const int radius = int(m_weights.size() / 2);
-        for (int place = 0; place < m_length; ++place) {
-            std::array<float, kLanes> sum = {};
+        for (int first = 0; first < m_length; first += kPlaces) {
+            const int count = std::min(kPlaces, m_length - first);
+            const bool isInside = first >= radius && first + kPlaces + radius <= m_length;
+            std::array<float, std::size_t(kPlaces)* kLanes> sum = {};
             for (int i = -radius; i <= radius; ++i) {
                 const float weight = m_weights[std::size_t(i + radius)];
-                const float* source = At(from, place + i);
-                for (int lane = 0; lane < kLanes; ++lane)
-                    sum[std::size_t(lane)] += source[lane] * weight;
+                if (isInside) {
+                    AddWeighed(At(from, first + i), weight, sum.data(), sum.size());
+                    continue;
+                }
+                for (int place = 0; place < count; ++place)
+                    AddWeighed(At(from, first + place + i), weight, sum.data() + place * kLanes,
+                               kLanes);
             }
-            std::copy(sum.begin(), sum.end(), to + std::size_t(place) * kLanes);
+            std::copy_n(sum.begin(), count * kLanes, to + std::size_t(first) * kLanes);
         }
+    }
+    static void AddWeighed(const float* values, float weight, float* sum, std::size_t count)
+    {
+        for (std::size_t i = 0; i < count; ++i)
+            sum[i] += values[i] * weight;
     }
     void Mean(const float* from, float* to) const
     {
@@ -123,21 +135,34 @@ private:
     float m_outer = 0;
 };
 
-/// Rows from \a first on as lines side by side.
+/// Rows from \a first to \a end side by side. Back and forth in squares, which stay at hand.
+template <typename Move>
+void ForSquares(int width, int first, int end, Move move)
+{
+    for (int from = 0; from < width; from += kLanes) {
+        const int to = std::min(from + kLanes, width);
+        for (int y = first; y < end; ++y)
+            move(y, from, to);
+    }
+}
+
 void BlurRows(EffectPicture& picture, int plane, int first, int end, const LineBlur& blur,
               Lanes& line, Lanes& spare)
 {
-    for (int y = first; y < end; ++y) {
+    const auto lanes = [&line, first](int y) { return line.data() + (y - first); };
+    ForSquares(picture.Width(), first, end, [&](int y, int from, int to) {
         const float* row = picture.Row(plane, y);
-        for (int x = 0; x < picture.Width(); ++x)
-            line[std::size_t(x) * kLanes + std::size_t(y - first)] = row[x];
-    }
+        float* lane = lanes(y);
+        for (int x = from; x < to; ++x)
+            lane[std::size_t(x) * kLanes] = row[x];
+    });
     blur.Run(line, spare);
-    for (int y = first; y < end; ++y) {
+    ForSquares(picture.Width(), first, end, [&](int y, int from, int to) {
         float* row = picture.Row(plane, y);
-        for (int x = 0; x < picture.Width(); ++x)
-            row[x] = line[std::size_t(x) * kLanes + std::size_t(y - first)];
-    }
+        const float* lane = lanes(y);
+        for (int x = from; x < to; ++x)
+            row[x] = lane[std::size_t(x) * kLanes];
+    });
 }
 
 void BlurColumns(EffectPicture& picture, int plane, int first, int end, const LineBlur& blur,

@@ -134,73 +134,89 @@ public:
     {
     }
 
-    void Row(int y, std::vector<float>& sums) const
+    void Row(int y)
     {
-        const int width = m_from.Width();
-        sums.assign(std::size_t(width) * 4, 0);
-        for (int down = -kReach; down <= kReach; ++down) {
-            const int line = std::clamp(y + down * m_step, 0, m_from.Height() - 1);
-            for (int across = -kReach; across <= kReach; ++across)
-                AddNeighbour(y, line, across * m_step, sums.data());
-        }
-        const float* weights = sums.data() + std::size_t(width) * 3;
-        for (int plane = 0; plane < kAlpha; ++plane) {
-            const float* sum = sums.data() + std::size_t(width) * std::size_t(plane);
-            float* to = m_to.Row(plane, y);
-            for (int x = 0; x < width; ++x)
-                to[x] = sum[x] / weights[x];
-        }
+        for (int line = -kReach; line <= kReach; ++line)
+            Widen(std::clamp(y + line * m_step, 0, m_from.Height() - 1), line + kReach);
+        for (int first = 0; first < m_from.Width(); first += kBlock)
+            Block(y, first, std::min(kBlock, m_from.Width() - first));
     }
 
 private:
     static constexpr int kReach = 2; ///< steps to each side
+    static constexpr int kLines = 2 * kReach + 1;
+    static constexpr int kBlock = 64; ///< pixels that are done at a time
+    using Values = std::array<float, kBlock>;
 
-    float Weight(float red, float green, float blue) const
+    float* Wide(int line, int plane)
     {
-        const float off = (red * red + green * green + blue * blue) * m_sharpness;
-        const float near = std::max(1 - off, 0.0F);
-        return near * near;
+        const int width = m_from.Width() + 2 * kReach * m_step + kBlock;
+        m_wide.resize(std::size_t(kLines * kAlpha) * std::size_t(width));
+        return m_wide.data() + std::size_t(line * kAlpha + plane) * std::size_t(width);
     }
-    void AddPixels(const std::array<const float*, 3>& own, const std::array<const float*, 3>& other,
-                   int first, int end, int shift, float* sums) const
+    /// A row that goes on beyond its sides as it is there.
+    void Widen(int y, int line)
     {
-        const int width = m_from.Width();
-        float* red = sums;
-        float* green = sums + width;
-        float* blue = green + width;
-        float* weights = blue + width;
-        for (int x = first; x < end; ++x) {
-            const float r = other[0][x + shift];
-            const float g = other[1][x + shift];
-            const float b = other[2][x + shift];
-            const float weight = Weight(r - own[0][x], g - own[1][x], b - own[2][x]);
-            red[x] += r * weight;
-            green[x] += g * weight;
-            blue[x] += b * weight;
-            weights[x] += weight;
+        const int reach = kReach * m_step;
+        for (int plane = 0; plane < kAlpha; ++plane) {
+            const float* row = m_from.Row(plane, y);
+            const int width = m_from.Width();
+            float* wide = Wide(line, plane);
+            std::fill(wide, wide + reach, row[0]);
+            std::copy(row, row + width, wide + reach);
+            std::fill(wide + reach + width, wide + reach + width + reach + kBlock, row[width - 1]);
         }
     }
-    void AddNeighbour(int y, int line, int shift, float* sums) const
+    void Block(int y, int first, int count)
     {
-        const int width = m_from.Width();
-        const auto rows = [this](int at) {
-            return std::array<const float*, 3>{m_from.Row(0, at), m_from.Row(1, at),
-                                               m_from.Row(2, at)};
-        };
-        const int first = std::clamp(-shift, 0, width);
-        const int end = std::clamp(width - shift, first, width);
-        AddPixels(rows(y), rows(line), first, end, shift, sums);
-        // Beyond the sides the last pixel stands.
-        for (int x = 0; x < first; ++x)
-            AddPixels(rows(y), rows(line), x, x + 1, -x, sums);
-        for (int x = end; x < width; ++x)
-            AddPixels(rows(y), rows(line), x, x + 1, width - 1 - x, sums);
+        std::array<Values, kAlpha> own;
+        std::array<Values, kAlpha> sums = {};
+        Values weights = {};
+        const int reach = kReach * m_step;
+        for (int plane = 0; plane < kAlpha; ++plane)
+            std::copy_n(Wide(kReach, plane) + reach + first, kBlock,
+                        own[std::size_t(plane)].begin());
+        for (int line = 0; line < kLines; ++line) {
+            for (int across = -kReach; across <= kReach; ++across) {
+                const int place = reach + first + across * m_step;
+                AddNeighbours({Wide(line, 0) + place, Wide(line, 1) + place, Wide(line, 2) + place},
+                              own, sums, weights);
+            }
+        }
+        for (int plane = 0; plane < kAlpha; ++plane) {
+            float* to = m_to.Row(plane, y) + first;
+            const Values& sum = sums[std::size_t(plane)];
+            for (int x = 0; x < count; ++x)
+                to[x] = sum[std::size_t(x)] / weights[std::size_t(x)];
+        }
+    }
+    void AddNeighbours(const std::array<const float*, kAlpha>& other,
+                       const std::array<Values, kAlpha>& own, std::array<Values, kAlpha>& sums,
+                       Values& weights) const
+    {
+        // Copies, so that nothing that is read can be what is written.
+        std::array<Values, kAlpha> near;
+        for (std::size_t plane = 0; plane < near.size(); ++plane)
+            std::copy_n(other[plane], kBlock, near[plane].begin());
+        for (std::size_t x = 0; x < kBlock; ++x) {
+            const float red = near[0][x] - own[0][x];
+            const float green = near[1][x] - own[1][x];
+            const float blue = near[2][x] - own[2][x];
+            const float off = (red * red + green * green + blue * blue) * m_sharpness;
+            const float like = std::max(1 - off, 0.0F);
+            const float weight = like * like;
+            weights[x] += weight;
+            sums[0][x] += near[0][x] * weight;
+            sums[1][x] += near[1][x] * weight;
+            sums[2][x] += near[2][x] * weight;
+        }
     }
 
     const EffectPicture& m_from;
     EffectPicture& m_to;
     const float m_sharpness;
     const int m_step;
+    std::vector<float> m_wide;
 };
 
 /// The difference of colours that strength 1 takes for noise.
@@ -214,12 +230,11 @@ void ReduceNoise(const ParametersAt& values, EffectFrame& frame, EffectPicture& 
         return;
     const int step =
         std::clamp(int(std::lround(frame.Drawn(values.Number("size")) / 2)), 1, farthest);
-    const EffectPicture from = CopyOf(picture, 0, kAlpha, frame.bands);
-    const Denoiser denoiser(from, picture, strength, step);
+    const EffectPicture from = CopyOf(picture, 0, kAlpha - 1, frame.bands);
     ForBands(picture.Height(), frame.bands, [&](int first, int end) {
-        std::vector<float> sums;
+        Denoiser denoiser(from, picture, strength, step);
         for (int y = first; y < end; ++y)
-            denoiser.Row(y, sums);
+            denoiser.Row(y);
     });
 }
 
