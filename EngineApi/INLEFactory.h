@@ -9,6 +9,7 @@ struct INLECodec;
 struct INLEFrameExtractor;
 struct INLEMediaEncoder;
 struct INLEProperties;
+struct INLEProxyMaker;
 struct INLESceneSegment;
 struct INLEThumbnailExtractor;
 struct INLETimeline;
@@ -174,4 +175,5 @@ struct INLEFactory : IUnknown
     virtual HRESULT CreateProperties(INLEProperties** properties) = 0;
     /// Closes what the engine keeps open. Objects that are still held stay valid.
     virtual HRESULT Shutdown(int flags) = 0;
+    virtual HRESULT CreateProxyMaker(INLEProxyMaker** maker) = 0;
 };

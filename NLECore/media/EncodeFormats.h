@@ -35,6 +35,7 @@ struct EncodeOptions
     int fieldOrder = NLEField_Progressive;
     int audioBitRate = 0;
     int threads = 0;
+    int proxies = 0; ///< 1: pictures come from proxies where clips have them switched on
 };
 
 /// The name of a codec that stands for none.

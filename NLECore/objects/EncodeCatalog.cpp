@@ -56,6 +56,7 @@ constexpr NumberKey kNumberKeys[] = {
     {Key::kFieldOrder, &EncodeOptions::fieldOrder, 0, NLEField_BottomFirst},
     {Key::kAudioBitRate, &EncodeOptions::audioBitRate, 0, kMost},
     {Key::kThreads, &EncodeOptions::threads, 0, 64},
+    {Key::kProxies, &EncodeOptions::proxies, 0, 1},
 };
 
 /// Copies as much of \a text as there is room for.

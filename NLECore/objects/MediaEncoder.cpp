@@ -7,6 +7,7 @@
 #include "NLECore/objects/TimelineFactory.h"
 #include "NLECore/render/FilmWriter.h"
 #include "NLECore/scene/FrameMath.h"
+#include "NLECore/scene/SourceChoice.h"
 
 namespace nle {
 
@@ -53,9 +54,9 @@ HRESULT ResultOf(WriterError::Kind kind)
 
 /// A file is written at its full size, however small the preview is, and drawn as deep as it holds.
 /// Where it keeps what is transparent, nothing shows where no clip does.
-Snapshot ForFile(const Snapshot& root, const EncodeOptions& settled)
+Snapshot ForFile(const Snapshot& root, const EncodeOptions& settled, bool withProxies)
 {
-    auto copy = std::make_shared<Layer>(*root);
+    auto copy = std::make_shared<Layer>(withProxies ? *root : *WithoutProxies(root));
     copy->context.previewScale = 1;
     copy->context.bitDepth = settled.bitDepth > kUsualDepth ? kDeepDepth : kUsualDepth;
     if (settled.alpha != 0 && copy->kind == LayerKind::Composite)
@@ -82,7 +83,7 @@ HRESULT MediaEncoder::Open(INLETimeline* timeline, const wchar_t* path,
             Warn(error.text);
             return ResultOf(error.kind);
         }
-        m_root = ForFile(root, m_settings.settled);
+        m_root = ForFile(root, m_settings.settled, m_options.proxies != 0);
         return S_OK;
     });
 }

@@ -19,6 +19,7 @@
 #include "NLECore/objects/Frames.h"
 #include "NLECore/objects/MarkBook.h"
 #include "NLECore/objects/MediaEncoder.h"
+#include "NLECore/objects/ProxyMaker.h"
 #include "NLECore/objects/SceneSegment.h"
 #include "NLECore/objects/SystemConfig.h"
 #include "NLECore/objects/TimelineFactory.h"
@@ -141,6 +142,11 @@ HRESULT RootFactory::CreateMediaEncoder(INLEMediaEncoder** encoder)
 HRESULT RootFactory::CreateProperties(INLEProperties** properties)
 {
     return GiveNew<PropertyBag>(properties);
+}
+
+HRESULT RootFactory::CreateProxyMaker(INLEProxyMaker** maker)
+{
+    return GiveNew<ProxyMaker>(maker);
 }
 
 HRESULT RootFactory::Shutdown(int /*flags*/)

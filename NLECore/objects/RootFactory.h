@@ -30,6 +30,7 @@ public:
     HRESULT CreateMediaEncoder(INLEMediaEncoder** encoder) override;
     HRESULT CreateProperties(INLEProperties** properties) override;
     HRESULT Shutdown(int flags) override;
+    HRESULT CreateProxyMaker(INLEProxyMaker** maker) override;
 };
 
 } // namespace nle

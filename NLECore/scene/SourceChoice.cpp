@@ -115,6 +115,20 @@ FrameTime LengthOf(const MediaInfo& media, const SourceSettings& settings)
     return {WithSound(media, isHeard, length, rate), rate};
 }
 
+Snapshot WithoutProxies(const Snapshot& layer)
+{
+    std::vector<Snapshot> children;
+    children.reserve(layer->children.size());
+    for (const Snapshot& child : layer->children)
+        children.push_back(WithoutProxies(child));
+    if (!layer->proxy && children == layer->children)
+        return layer;
+    auto copy = std::make_shared<Layer>(*layer);
+    copy->proxy.reset();
+    copy->children = std::move(children);
+    return copy;
+}
+
 int ShownStream::FrameAt(const FrameTime& time) const
 {
     return ClampToInt(double(time.ShownAt(frameRate)) - delay);

@@ -25,6 +25,9 @@ NLESize PictureSizeOf(const MediaInfo& media, const SourceSettings& settings);
 /// second and more after the last picture counts; a shorter rest is what codecs and cuts leave.
 FrameTime LengthOf(const MediaInfo& media, const SourceSettings& settings);
 
+/// What shows of a layer without proxies; the layer itself when there are none in it.
+Snapshot WithoutProxies(const Snapshot& layer);
+
 /// The stream that a layer of media reads its pictures from, of the proxy where there is one.
 struct ShownStream
 {

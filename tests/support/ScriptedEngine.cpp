@@ -5,6 +5,7 @@
 #include "EngineApi/INLEFrames.h"
 #include "EngineApi/INLEMedia.h"
 #include "EngineApi/INLEProperties.h"
+#include "EngineApi/INLEProxies.h"
 #include "EngineApi/INLETimeline.h"
 
 namespace Scripted {
@@ -103,6 +104,7 @@ struct Factory : Object<INLEFactory>
     SCRIPTED_OBJECT(INLEMediaEncoder, CreateMediaEncoder)
     SCRIPTED_OBJECT(INLEProperties, CreateProperties)
     HRESULT Shutdown(int flags) override { return Call("Shutdown", flags); }
+    SCRIPTED_OBJECT(INLEProxyMaker, CreateProxyMaker)
 };
 
 struct ClassFactory : Object<IClassFactory>

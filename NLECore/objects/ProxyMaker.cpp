@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "NLECore/objects/ProxyMaker.h"
+
+#include "Com/ComGuard.h"
+#include "NLECore/media/EngineLog.h"
+#include "NLECore/media/MediaWriter.h"
+#include "NLECore/media/ProxyStore.h"
+#include "NLECore/model/MediaObjects.h"
+#include "NLECore/model/PropertyBag.h"
+#include "NLECore/model/SourceNodes.h"
+#include "NLECore/render/FilmWriter.h"
+#include "NLECore/render/ThreadPriority_p.h"
+#include "NLECore/scene/SourceChoice.h"
+
+#include <algorithm>
+
+namespace nle {
+
+namespace {
+
+constexpr int kLeastHeight = 64;
+constexpr int kMostHeight = 2160;
+/// Constant rate factor: small, and good enough to judge a cut.
+constexpr int kQuality = 26;
+/// Frames from one key frame to the next, so that steps and jumps are quick.
+constexpr int kGroup = 12;
+
+int Even(double length)
+{
+    return std::max(2, int(length / 2 + 0.5) * 2);
+}
+
+WriterSettings SettingsFor(const Layer& clip, int height, bool hasAlpha)
+{
+    WriterSettings settings;
+    settings.size = {Even(double(clip.size.width) * height / clip.size.height), Even(height)};
+    settings.frameRate = clip.frameRate;
+    settings.quality = kQuality;
+    settings.options.audioCodec = kNoCodec;
+    settings.options.threads = 1;
+    if (hasAlpha) {
+        settings.options.videoCodec = "prores";
+        settings.options.alpha = 1;
+    } else {
+        settings.options.videoCodec = "h264";
+        settings.options.speed = "superfast";
+        settings.options.gop = kGroup;
+        settings.options.bFrames = 0;
+    }
+    return settings;
+}
+
+} // namespace
+
+ProxyMaker::~ProxyMaker()
+{
+    const std::lock_guard<std::mutex> lock(m_state->mutex);
+    for (const std::shared_ptr<Job>& job : m_state->jobs) {
+        job->isSilent = true;
+        job->isCancelled = true;
+    }
+}
+
+int ProxyMaker::State::Height()
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    return height;
+}
+
+void ProxyMaker::State::Forget(const std::shared_ptr<Job>& job)
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    jobs.erase(std::remove(jobs.begin(), jobs.end(), job), jobs.end());
+}
+
+HRESULT ProxyMaker::SetFolder(const wchar_t* folder, std::int64_t quota)
+{
+    return ComGuard([&] {
+        constexpr std::int64_t mebibyte = 1 << 20;
+        if (quota < 0 || quota > INT64_MAX / mebibyte)
+            return E_INVALIDARG;
+        Proxies().SetFolder(folder ? QString::fromWCharArray(folder) : QString(), quota * mebibyte);
+        return S_OK;
+    });
+}
+
+HRESULT ProxyMaker::SetHeight(int height)
+{
+    if (height < kLeastHeight || height > kMostHeight)
+        return E_INVALIDARG;
+    const std::lock_guard<std::mutex> lock(m_state->mutex);
+    m_state->height = height;
+    return S_OK;
+}
+
+HRESULT ProxyMaker::Find(const wchar_t* file, wchar_t* proxy, int capacity)
+{
+    return ComGuard([&] {
+        if (!file || !proxy || capacity < 1)
+            return E_INVALIDARG;
+        const QString found = Proxies().Find(QString::fromWCharArray(file), m_state->Height());
+        const HRESULT result = CopyText(found.toStdWString(), proxy, capacity);
+        return SUCCEEDED(result) && found.isEmpty() ? S_FALSE : result;
+    });
+}
+
+HRESULT ProxyMaker::Make(const wchar_t* file, NLEProxyCallback callback, void* userData)
+{
+    return ComGuard([&] {
+        if (!file)
+            return E_INVALIDARG;
+        const auto job = std::make_shared<Job>();
+        job->path = QString::fromWCharArray(file);
+        job->name = file;
+        job->callback = callback;
+        job->userData = userData;
+        {
+            const std::lock_guard<std::mutex> lock(m_state->mutex);
+            job->height = m_state->height;
+            m_state->jobs.push_back(job);
+        }
+        const bool isPosted = m_thread.Post([state = m_state, job] {
+            LowerThreadPriority();
+            const HRESULT result = ComGuard([&] { return Work(*job); });
+            state->Forget(job);
+            job->Tell(result, result == S_OK ? 100 : 0);
+        });
+        if (!isPosted)
+            m_state->Forget(job);
+        return isPosted ? S_OK : E_OUTOFMEMORY;
+    });
+}
+
+HRESULT ProxyMaker::Cancel(const wchar_t* file)
+{
+    bool isFound = false;
+    const std::lock_guard<std::mutex> lock(m_state->mutex);
+    for (const std::shared_ptr<Job>& job : m_state->jobs) {
+        if (file && job->name != file)
+            continue;
+        job->isCancelled = true;
+        isFound = true;
+    }
+    return isFound ? S_OK : S_FALSE;
+}
+
+void ProxyMaker::Job::Tell(HRESULT state, int percent) const
+{
+    if (callback && !isSilent)
+        callback(name.c_str(), state, percent, userData);
+}
+
+HRESULT ProxyMaker::Work(const Job& job)
+{
+    if (job.isCancelled)
+        return E_ABORT;
+    if (!Proxies().Find(job.path, job.height).isEmpty())
+        return S_OK;
+    const std::shared_ptr<const MediaInfo> media = DescribeFile(job.path);
+    if (!media || media->kind != NLEMedia_Video)
+        return E_INVALIDARG;
+    const NLEComPtr<MediaClip> clip = MakeCom<MediaClip>(media);
+    FilmPlan film = {clip->MakeSnapshot(), clip->Range(), clip->FrameRate()};
+    // Sound may go on after the last picture.
+    const ShownStream shown = ShownStreamOf(*film.root);
+    if (shown.end)
+        film.range.out = std::min(film.range.out,
+                                  ClampToInt(double(*shown.end) + std::max(0.0, shown.delay)) - 1);
+    if (film.root->size.height <= job.height)
+        return E_INVALIDARG;
+    const MediaStream* stream = media->Stream(media->videoStream);
+    const bool hasAlpha = stream && stream->hasAlpha;
+    const QString path = Proxies().Prepare(job.path, job.height, hasAlpha);
+    if (path.isEmpty())
+        return E_ACCESSDENIED;
+    WriterError error;
+    const std::unique_ptr<MediaWriter> writer =
+        MediaWriter::Open(path, SettingsFor(*film.root, job.height, hasAlpha), &error);
+    if (!writer) {
+        qCWarning(lcEngine, "no proxy of %s: %s", qUtf8Printable(job.path),
+                  qUtf8Printable(error.text));
+        return error.kind == WriterError::Kind::File ? E_ACCESSDENIED : E_FAIL;
+    }
+    const HRESULT result = WriteFilm(film, *writer, [&job](int percent) {
+        job.Tell(S_FALSE, percent);
+        return !job.isCancelled;
+    });
+    if (result != S_OK)
+        return result == S_FALSE ? E_ABORT : result;
+    if (!writer->Finish()) {
+        qCWarning(lcEngine, "no proxy of %s: %s", qUtf8Printable(job.path),
+                  qUtf8Printable(writer->Error()));
+        return E_FAIL;
+    }
+    return Proxies().Keep(path) ? S_OK : E_ACCESSDENIED;
+}
+
+} // namespace nle
