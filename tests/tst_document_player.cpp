@@ -218,6 +218,53 @@ private slots:
             t.OnColour(p, inner);
             Set(inner, &INLETransform::SetScale, &kHalf);
         });
+        const auto transition = [&row](const char* title, const char* name, double most,
+                                       const Fill& change) {
+            row(title, most, [name, change](const T& t, const Node& p) {
+                t.Add(p, t.Trimmed(t.Colour(QColor(40, 90, 160)), 0, 24));
+                t.Add(p, t.Trimmed(t.Clip(), 5, 40), 7);
+                const Node node = t.Transition(name);
+                change(t, node);
+                t.Add(p, t.Trimmed(node, 0, 17), 7);
+            });
+        };
+        const auto number = [](const wchar_t* name, double value) {
+            return Fill([name, value](const T&, const Node& node) {
+                Set(node, &INLEParameters::SetNumber, name, value);
+            });
+        };
+        const Fill plain = [](const T&, const Node&) {};
+        transition("a dissolve", "dissolve", 3, plain);
+        transition("a wipe", "wipe", 4, plain);
+        transition("a soft wipe to the upper left", "wipe", 4,
+                   [number](const T& t, const Node& node) {
+                       number(L"direction", 7)(t, node);
+                       number(L"softness", 0.4)(t, node);
+                   });
+        transition("a wipe to the upper right", "wipe", 4, number(L"direction", 6));
+        transition("a wipe up", "wipe", 4, number(L"direction", 3));
+        transition("a circle", "circle", 4, plain);
+        transition("a circle that shuts", "circle", 4, number(L"reverse", 1));
+        transition("a clock, whose hand goes a little otherwise", "clock", 8, plain);
+        transition("barn doors", "barn-doors", 4, plain);
+        transition("barn doors that shut vertically", "barn-doors", 4,
+                   [number](const T& t, const Node& node) {
+                       number(L"direction", 1)(t, node);
+                       number(L"reverse", 1)(t, node);
+                   });
+        row("a dissolve of which the first clip lies above", 3, [](const T& t, const Node& p) {
+            t.Add(p, t.Trimmed(t.Clip(), 5, 40), 7);
+            t.Add(p, t.Trimmed(t.Colour(QColor(40, 90, 160)), 0, 24));
+            t.Add(p, t.Trimmed(t.Transition("dissolve"), 0, 17), 7);
+        });
+        row("a clip alone that comes", 3, [](const T& t, const Node& p) {
+            t.OnColour(p, t.Clip());
+            t.Add(p, t.Trimmed(t.Transition("dissolve"), 0, 24), 0, 1);
+        });
+        row("a clip alone that goes", 3, [](const T& t, const Node& p) {
+            t.OnColour(p, t.Trimmed(t.Clip(), 0, 24));
+            t.Add(p, t.Trimmed(t.Transition("dissolve"), 0, 24), 0, 1);
+        });
     }
 
     void pictures()
@@ -275,6 +322,20 @@ private slots:
         row("picture alone", [](const Node& clip) {
             BagOf(clip)->SetInt(NLEKey::Render::kRender_Mode, NLERender_VideoOnly);
         });
+        const auto faded = [](const char* name, int choice, bool isAlone) {
+            QTest::newRow(name) << Fill([choice, isAlone](const T& t, const Node& p) {
+                if (!isAlone)
+                    t.Add(p, t.Trimmed(t.Clip(), 0, 29));
+                t.Add(p, t.Trimmed(t.Clip(), 0, 39), 10);
+                const Node node = t.Transition("dissolve");
+                Set(node, &INLEParameters::SetNumber, L"sound", double(choice));
+                t.Add(p, t.Trimmed(node, 0, 19), 10);
+            });
+        };
+        faded("a dissolve", 0, false);
+        faded("a dissolve with equal power", 1, false);
+        faded("a dissolve without a fade", 2, false);
+        faded("a clip alone that comes", 0, true);
         QTest::newRow("tracks of a mixer, one of them alone")
             << Fill([](const T& t, const Node& p) {
                    t.Add(p, t.Clip(), 0, 4);

@@ -99,6 +99,10 @@ std::vector<Snapshot> Other(const std::vector<Snapshot>& /*value*/)
 {
     return {std::make_shared<Layer>()};
 }
+std::vector<LayerTransition> Other(const std::vector<LayerTransition>& /*value*/)
+{
+    return {LayerTransition()};
+}
 MixerSettings Other(const MixerSettings& /*value*/)
 {
     return {{1, {0.5, 0, 0, 0}}};

@@ -3,6 +3,7 @@
 
 #include "Com/ComGuard.h"
 #include "EngineApi/NLEKey.h"
+#include "NLECore/model/TransitionNode.h"
 #include "NLECore/render/CachedFrames.h"
 #include "NLECore/scene/FrameMath.h"
 
@@ -208,8 +209,10 @@ int CompositeNode::DepthFromTop() const
 int CompositeNode::TotalLength() const
 {
     std::int64_t end = 0;
-    for (const NLEComPtr<TimelineNode>& clip : m_clips)
-        end = std::max(end, clip->Position() + NLERangeLength(clip->Range()));
+    for (const NLEComPtr<TimelineNode>& clip : m_clips) {
+        if (!clip->IsTransition())
+            end = std::max(end, clip->Position() + NLERangeLength(clip->Range()));
+    }
     return int(std::min<std::int64_t>(end, std::numeric_limits<int>::max()));
 }
 
@@ -255,12 +258,26 @@ void CompositeNode::Describe(Layer& layer) const
     layer.argb = Background();
     layer.guid = Bag().TextOrEmpty(NLEKey::Timeline::kGuid);
     layer.mixer = Mixer().settings;
+    for (const TimelineNode* clip : PlayingClips())
+        layer.children.push_back(clip->MakeLayer());
     for (const NLEComPtr<TimelineNode>& clip : m_clips) {
-        if (clip->IsEnabled())
-            layer.children.push_back(clip->MakeLayer());
+        if (clip->IsTransition() && clip->IsEnabled())
+            layer.transitions.push_back(static_cast<const TransitionNode&>(*clip).AsLayer());
     }
-    std::stable_sort(layer.children.begin(), layer.children.end(),
-                     [](const Snapshot& a, const Snapshot& b) { return a->level < b->level; });
+    FindTransitionClips(layer);
+}
+
+std::vector<const TimelineNode*> CompositeNode::PlayingClips() const
+{
+    std::vector<const TimelineNode*> clips;
+    for (const NLEComPtr<TimelineNode>& clip : m_clips) {
+        if (clip->IsEnabled() && !clip->IsTransition())
+            clips.push_back(clip.get());
+    }
+    std::stable_sort(clips.begin(), clips.end(), [](const TimelineNode* a, const TimelineNode* b) {
+        return a->Level() < b->Level();
+    });
+    return clips;
 }
 
 ProjectNode::ProjectNode(const tagNLEProjectProfile& profile)

@@ -42,7 +42,10 @@ public:
 
     /// What shows where no clip does, 0xAARRGGBB.
     std::uint32_t Background() const;
+    /// All that was added: clips and transitions.
     const std::vector<NLEComPtr<TimelineNode>>& Clips() const { return m_clips; }
+    /// The clips that can show and sound, in the order of the children of a snapshot.
+    std::vector<const TimelineNode*> PlayingClips() const;
     /// Reads frames of \a snapshot, one of this node, from the background cache; null when there is
     /// none.
     std::unique_ptr<CachedFrames> OpenCachedFrames(const Snapshot& snapshot) const;

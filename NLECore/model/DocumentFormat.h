@@ -23,6 +23,10 @@ inline const QLatin1String kAudio("nle:audio");
 inline const QLatin1String kBagPrefix("nle:bag:");
 /// Followed by the name of a title's parameter.
 inline const QLatin1String kTitlePrefix("nle:title:");
+/// Name of a transition.
+inline const QLatin1String kTransitionName("nle:transition");
+/// Followed by the name of a parameter.
+inline const QLatin1String kParameterPrefix("nle:parameter:");
 /// Followed by the key of a project's context.
 inline const QLatin1String kContextPrefix("nle:context:");
 /// Of a filter that was written here: a sum of its properties and their names.
@@ -36,6 +40,7 @@ inline const QLatin1String kMedia("media");
 inline const QLatin1String kColor("color");
 inline const QLatin1String kText("text");
 inline const QLatin1String kTitle("title");
+inline const QLatin1String kTransition("transition");
 /// The empty track below all others.
 inline const QLatin1String kBackground("background");
 /// A track of clips that do not show: disabled ones and ones of no length.

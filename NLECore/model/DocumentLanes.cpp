@@ -53,7 +53,8 @@ DocumentLanes LanesOf(const CompositeNode& composite)
     std::map<int, std::vector<DocumentLane>> levels;
     for (const NLEComPtr<TimelineNode>& clip : composite.Clips()) {
         const Placement placement = VisiblePart(*clip);
-        if (clip->IsEnabled() && NLERangeLength(placement.range) > 0)
+        const bool isShown = clip->IsEnabled() && !clip->IsTransition();
+        if (isShown && NLERangeLength(placement.range) > 0)
             LaneFor(*clip, placement, levels[clip->Level()]).clips[placement.position] = clip.get();
         else
             result.unplaced.push_back(clip.get());

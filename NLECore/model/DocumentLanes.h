@@ -40,7 +40,7 @@ struct DocumentLane
 struct DocumentLanes
 {
     std::vector<DocumentLane> lanes; ///< the lowest first
-    /// Clips that do not show: disabled ones and ones of no visible length.
+    /// What does not show: disabled clips, ones of no visible length, transitions.
     std::vector<const TimelineNode*> unplaced;
 };
 

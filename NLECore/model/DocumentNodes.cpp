@@ -7,6 +7,7 @@
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/ParameterText.h"
 #include "NLECore/model/TitleClip.h"
+#include "NLECore/model/TransitionNode.h"
 #include "NLECore/scene/FrameMath.h"
 #include "NLECore/scene/Title.h"
 
@@ -76,6 +77,8 @@ QLatin1String KindOf(const TimelineNode& node)
 {
     if (dynamic_cast<const ProjectNode*>(&node))
         return kProject;
+    if (node.IsTransition())
+        return kTransition;
     if (dynamic_cast<const CompositeNode*>(&node))
         return kComposite;
     if (dynamic_cast<const ColorClip*>(&node))
@@ -121,7 +124,7 @@ DocumentTexts OwnTexts(const TimelineNode& node, int order, const QDir& folder)
     DocumentTexts texts = {{kKind, kind}, {kOrder, QString::number(order)}};
     texts.emplace_back(kRate, RateText(node.FrameRate()));
     // A file says itself how large it is.
-    if (kind != kMedia)
+    if (kind != kMedia && kind != kTransition)
         texts.emplace_back(
             kSize,
             QStringLiteral("%1 %2").arg(node.PictureSize().width).arg(node.PictureSize().height));
@@ -130,6 +133,11 @@ DocumentTexts OwnTexts(const TimelineNode& node, int order, const QDir& folder)
     if (const auto* title = dynamic_cast<const TitleClip*>(&node))
         AddParameterTexts(*title->Parameters().Shared(), kTitlePrefix, folder, texts);
     AddValues(node.Bag().All(), kBagPrefix, texts);
+    if (node.IsTransition()) {
+        const auto values = static_cast<const TransitionNode&>(node).Parameters().Shared();
+        texts.emplace_back(kTransitionName, QLatin1String(values->Declared().names.name));
+        AddParameterTexts(*values, kParameterPrefix, folder, texts);
+    }
     if (const auto* project = dynamic_cast<const ProjectNode*>(&node)) {
         texts.emplace_back(kAudio, QStringLiteral("%1 %2 %3")
                                        .arg(project->Profile().sampleRate)
@@ -252,6 +260,27 @@ NLEComPtr<TimelineNode> DocumentNodes::MakeTitle(const QString& text, const QStr
     values.SetText(TitleFontIndex(), ToWide(family));
     clip->Parameters().Restore(values);
     return clip;
+}
+
+bool DocumentNodes::IsTransition(const DocumentProperties& properties)
+{
+    return properties.value(kKind) == kTransition;
+}
+
+NLEComPtr<TimelineNode> DocumentNodes::MakeTransition(const DocumentProperties& properties)
+{
+    const QString name = properties.value(kTransitionName);
+    const Declaration* declaration = FindTransition(name);
+    if (!declaration)
+        remarks.Add(NLERemark_Transition, QStringLiteral("unknown transition %1").arg(name));
+    NLEComPtr<TransitionNode> node =
+        MakeCom<TransitionNode>(declaration ? *declaration : TransitionDeclarations().front());
+    node->ChangeRate(profile.frameRate);
+    Apply(properties, *node);
+    ParameterValues values = *node->Parameters().Shared();
+    ReadParameterTexts(properties, kParameterPrefix, nullptr, values);
+    node->Parameters().Restore(values);
+    return node;
 }
 
 NLEComPtr<CompositeNode> DocumentNodes::MakeComposite(const DocumentProperties& properties,

@@ -58,6 +58,10 @@ public:
     /// A title with what \a properties keep of it, and the text and font that the document says.
     NLEComPtr<TimelineNode> MakeTitle(const QString& text, const QString& family,
                                       const DocumentProperties& properties);
+    /// Whether \a properties are those of a transition.
+    static bool IsTransition(const DocumentProperties& properties);
+    /// One of an unknown name becomes a dissolve, with a remark.
+    NLEComPtr<TimelineNode> MakeTransition(const DocumentProperties& properties);
     /// The outermost one of a document without \a properties of this engine is a project.
     NLEComPtr<CompositeNode> MakeComposite(const DocumentProperties& properties, bool isRoot);
     /// Puts clips into \a composite in the order that they were saved in, and its own settings.

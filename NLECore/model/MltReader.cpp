@@ -4,6 +4,8 @@
 #include "EngineApi/NLEKey.h"
 #include "NLECore/model/DocumentFilter.h"
 #include "NLECore/model/MltEffects.h"
+#include "NLECore/model/MltTransitions.h"
+#include "NLECore/model/TransitionNode.h"
 #include "NLECore/scene/FrameMath.h"
 
 #include <QFileInfo>
@@ -170,10 +172,48 @@ void FadeSound(TimelineNode& node, const NLERange& range)
     }
 }
 
+std::int64_t End(const TimelineNode& node)
+{
+    return node.Position() + NLERangeLength(node.Range());
+}
+
 bool Contains(const TimelineNode& node, const NLERange& range)
 {
-    return node.Position() <= range.in &&
-           node.Position() + NLERangeLength(node.Range()) > range.out;
+    return node.Position() <= range.in && End(node) > range.out;
+}
+
+bool IsLuma(const MltEffect& transition)
+{
+    return IsText(transition, "mlt_service", "luma");
+}
+
+/// The transition that shows a `luma`, whichever of its clips comes; null for another pattern.
+NLEComPtr<TimelineNode> TransitionOfMlt(const MltEffect& luma)
+{
+    if (IsDissolve(luma))
+        return MakeCom<TransitionNode>(*FindTransition(QStringLiteral("dissolve")));
+    const auto isSet = [&luma](const char* name) {
+        return MltNumber(Value(luma.properties, name), 0) != 0;
+    };
+    const QString name =
+        Value(luma.properties, "resource").section(QLatin1Char('/'), -1).remove(QLatin1Char('%'));
+    std::optional<ParameterValues> wipe = WipeOfMlt(name, isSet("invert") != isSet("reverse"));
+    if (!wipe)
+        return nullptr;
+    wipe->SetNumber(wipe->Declared().IndexOf(QLatin1String(TransitionParameter::kSoftness)),
+                    std::clamp(MltNumber(Value(luma.properties, "softness"), 0), 0.0, 1.0));
+    NLEComPtr<TransitionNode> node = MakeCom<TransitionNode>(wipe->Declared());
+    node->Parameters().Restore(*wipe);
+    return node;
+}
+
+void SetCrossFade(CrossFade fade, TimelineNode& transition)
+{
+    auto& parameters = static_cast<TransitionNode&>(transition).Parameters();
+    ParameterValues values = *parameters.Shared();
+    values.SetNumber(values.Declared().IndexOf(QLatin1String(TransitionParameter::kSound)),
+                     double(fade));
+    parameters.Restore(values);
 }
 
 } // namespace
@@ -335,6 +375,8 @@ NLEComPtr<TimelineNode> MltReader::Make(int index, bool isRoot)
 
 NLEComPtr<TimelineNode> MltReader::MakeProducer(const MltService& service)
 {
+    if (DocumentNodes::IsTransition(service.properties))
+        return m_nodes.MakeTransition(service.properties);
     const MltSource source = SourceOf(service);
     switch (source.kind) {
     case MltSource::Kind::Media:
@@ -406,7 +448,7 @@ NLEComPtr<TimelineNode> MltReader::MakeComposite(const MltService& service, bool
                           {clips, int(i), int(i), item.hide});
         }
     }
-    TakeTransitions(service, clips.data(), clips.data() + clips.size());
+    TakeTransitions(service, 0, clips);
     m_nodes.Fill(*node, clips, service.properties);
     if (isRoot)
         TakeFilters(service, nullptr, *node);
@@ -435,8 +477,7 @@ void MltReader::ReadTrack(const MltItem& item, bool isLowest, CompositeNode& nod
             const MltService& playlist = m_document.services[size_t(inner.service)];
             ReadPlaylist(playlist, track);
         }
-        TakeTransitions(service, track.clips.data() + before,
-                        track.clips.data() + track.clips.size());
+        TakeTransitions(service, before, track.clips);
         for (size_t i = before; i < track.clips.size(); ++i)
             track.clips[i].track = index;
     } else {
@@ -549,19 +590,82 @@ void MltReader::TakeStrip(const std::vector<MltEffect>& filters, const QString& 
     }
 }
 
-void MltReader::TakeTransitions(const MltService& service, const PlacedNode* first,
-                                const PlacedNode* last)
+void MltReader::TakeTransitions(const MltService& service, size_t first,
+                                std::vector<PlacedNode>& clips)
 {
-    for (const MltEffect& transition : service.transitions) {
-        if (service.IsOwn() || transition.IsOff())
+    if (service.IsOwn())
+        return;
+    const size_t end = clips.size();
+    std::vector<Found> made;
+    const auto isMade = [&made](const Found& found) {
+        return std::any_of(made.begin(), made.end(),
+                           [&found](const Found& one) { return one == found; });
+    };
+    for (const MltEffect& luma : service.transitions) {
+        const Found found = FoundOf(luma);
+        const NLEComPtr<TimelineNode> node =
+            MakeTransition(luma, found, clips.data() + first, clips.data() + end);
+        if (!node)
             continue;
-        if (!TakeTransition(transition, first, last))
+        const bool isHeard = std::any_of(
+            service.transitions.begin(), service.transitions.end(), [&](const MltEffect& other) {
+                return IsCrossfade(other) && !other.IsOff() && FoundOf(other) == found;
+            });
+        SetCrossFade(isHeard ? CrossFade::Linear : CrossFade::None, *node);
+        clips.push_back({node, INT32_MAX, found.upper});
+        made.push_back(found);
+    }
+    for (const MltEffect& transition : service.transitions) {
+        const bool isShown =
+            (IsLuma(transition) || IsCrossfade(transition)) && isMade(FoundOf(transition));
+        if (transition.IsOff() || isShown)
+            continue;
+        if (!TakeTransition(transition, clips.data() + first, clips.data() + end))
             m_nodes.remarks.Add(NLERemark_Transition,
                                 QStringLiteral("transition %1 at frame %2 of %3")
                                     .arg(transition.Service())
                                     .arg(Frames(Value(transition.properties, "in"), 0))
                                     .arg(NameOf(service)));
     }
+}
+
+MltReader::Found MltReader::FoundOf(const MltEffect& transition) const
+{
+    const DocumentProperties& properties = transition.properties;
+    return {{ClampToInt(double(Frames(Value(properties, "in"), 0))),
+             ClampToInt(double(Frames(Value(properties, "out"), 0)))},
+            int(MltNumber(Value(properties, "a_track"), -1)),
+            int(MltNumber(Value(properties, "b_track"), -1))};
+}
+
+NLEComPtr<TimelineNode> MltReader::MakeTransition(const MltEffect& luma, const Found& found,
+                                                  const PlacedNode* first, const PlacedNode* last)
+{
+    if (!IsLuma(luma) || luma.IsOff())
+        return nullptr;
+    const auto clipOn = [&](int track) {
+        const PlacedNode* clip = std::find_if(first, last, [&](const PlacedNode& one) {
+            return one.track == track && Contains(*one.node, found.range);
+        });
+        return clip == last ? nullptr : clip->node.get();
+    };
+    const TimelineNode* a = clipOn(found.lower);
+    const TimelineNode* b = clipOn(found.upper);
+    if (!a || !b || a->Level() != b->Level())
+        return nullptr;
+    if (a->Position() > b->Position())
+        std::swap(a, b);
+    if (End(*a) != std::int64_t(found.range.out) + 1 || b->Position() != found.range.in)
+        return nullptr;
+    NLEComPtr<TimelineNode> node = TransitionOfMlt(luma);
+    if (!node)
+        return nullptr;
+    node->ChangeRate(m_nodes.profile.frameRate);
+    const NLERange range = {0, found.range.out - found.range.in};
+    node->SetRange(&range);
+    node->SetPosition(found.range.in);
+    node->SetLevel(a->Level());
+    return node;
 }
 
 bool MltReader::TakeTransition(const MltEffect& transition, const PlacedNode* first,

@@ -56,12 +56,29 @@ private:
     void TakeFilters(const MltService& service, const MltItem* item, TimelineNode& node);
     void TakeStrip(const std::vector<MltEffect>& filters, const QString& name, int level,
                    CompositeNode& node);
-    /// Transitions between the clips from \a first to before \a last.
-    void TakeTransitions(const MltService& service, const PlacedNode* first,
-                         const PlacedNode* last);
+    /// A transition between clips of one level, which overlap where it is.
+    struct Found
+    {
+        NLERange range; ///< of the parent
+        int lower;      ///< tracks
+        int upper;
+
+        friend bool operator==(const Found& a, const Found& b)
+        {
+            return a.range.in == b.range.in && a.range.out == b.range.out && a.lower == b.lower &&
+                   a.upper == b.upper;
+        }
+    };
+
+    /// Transitions between the clips from the place \a first on; they are added to \a clips.
+    void TakeTransitions(const MltService& service, size_t first, std::vector<PlacedNode>& clips);
     /// False when there is nothing here that shows it.
     bool TakeTransition(const MltEffect& transition, const PlacedNode* first,
                         const PlacedNode* last);
+    /// The transition that shows a `luma` between clips of one level; null where it is another one.
+    NLEComPtr<TimelineNode> MakeTransition(const MltEffect& luma, const Found& found,
+                                           const PlacedNode* first, const PlacedNode* last);
+    Found FoundOf(const MltEffect& transition) const;
     /// Whether a tractor is a track of playlists and not a picture of its own.
     bool IsTrack(const MltService& service) const;
     bool IsBlack(const MltService& service) const;

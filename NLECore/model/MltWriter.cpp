@@ -35,6 +35,17 @@ std::int64_t ServiceLength(const TimelineNode& node)
 /// In the order of TitleAlignment.
 constexpr const char* kAlignments[] = {"left", "center", "right"};
 
+/// The filters of the tracks of a level.
+std::vector<DocumentFilter> StripFilters(int level, const MixerSettings& mixer)
+{
+    const auto strip = mixer.find(level);
+    const bool isSolo = strip != mixer.end() && strip->second.solo != 0;
+    const bool anySolo = std::any_of(mixer.begin(), mixer.end(),
+                                     [](const auto& other) { return other.second.solo != 0; });
+    return nle::StripFilters(strip == mixer.end() ? kNeutralStrip : strip->second,
+                             anySolo && !isSolo);
+}
+
 /// What of a track is off when only \a streams of its clips play; null: nothing.
 const char* HiddenPart(NLERenderMode streams)
 {
@@ -115,6 +126,10 @@ QString MltWriter::WriteProducer(const TimelineNode& node, int order)
         WriteText(*text);
     } else if (const auto* title = dynamic_cast<const TitleClip*>(&node)) {
         WriteTitle(*title);
+    } else if (node.IsTransition()) {
+        // Other programs find nothing to show in its place.
+        Property(QStringLiteral("mlt_service"), QStringLiteral("color"));
+        Property(QStringLiteral("resource"), ColorText(0));
     }
     WriteCommon(node, order);
     m_xml.writeEndElement();
@@ -199,15 +214,20 @@ void MltWriter::WriteFilters(const std::vector<DocumentFilter>& filters)
 {
     for (const DocumentFilter& filter : filters) {
         m_xml.writeStartElement(QStringLiteral("filter"));
-        if (filter.range) {
-            m_xml.writeAttribute(QStringLiteral("in"), QString::number(filter.range->in));
-            m_xml.writeAttribute(QStringLiteral("out"), QString::number(filter.range->out));
-        }
-        for (const auto& [name, value] : filter.properties)
-            Property(name, value);
-        Property(kWritten, FilterSum(filter));
+        WriteEffect(filter);
         m_xml.writeEndElement();
     }
+}
+
+void MltWriter::WriteEffect(const DocumentFilter& effect)
+{
+    if (effect.range) {
+        m_xml.writeAttribute(QStringLiteral("in"), QString::number(effect.range->in));
+        m_xml.writeAttribute(QStringLiteral("out"), QString::number(effect.range->out));
+    }
+    for (const auto& [name, value] : effect.properties)
+        Property(name, value);
+    Property(kWritten, FilterSum(effect));
 }
 
 QString MltWriter::WriteComposite(const CompositeNode& node, int order)
@@ -219,8 +239,14 @@ QString MltWriter::WriteComposite(const CompositeNode& node, int order)
         ids[clip.get()] = WriteNode(*clip, clipOrder++);
     const DocumentLanes lanes = LanesOf(node);
     QStringList tracks = {WriteBackground(node)};
-    for (const DocumentLane& lane : lanes.lanes)
-        tracks << WriteLane(lane, ids, node.Mixer().settings);
+    MltTransitions transitions = TransitionsInMlt(node, lanes);
+    for (int lane = 0; lane < int(lanes.lanes.size()); ++lane) {
+        std::vector<DocumentFilter> filters =
+            StripFilters(lanes.lanes[size_t(lane)].level, node.Mixer().settings);
+        for (DocumentFilter& filter : transitions.onLanes[lane])
+            filters.push_back(std::move(filter));
+        tracks << WriteLane(lanes.lanes[size_t(lane)], ids, filters);
+    }
     const QString hidden = lanes.unplaced.empty() ? QString() : WriteUnplaced(lanes.unplaced, ids);
 
     QString id = StartService("tractor", std::max(1, node.TotalLength()));
@@ -229,6 +255,9 @@ QString MltWriter::WriteComposite(const CompositeNode& node, int order)
                    track > 0 ? HiddenPart(lanes.lanes[size_t(track) - 1].streams) : nullptr);
     if (!hidden.isEmpty())
         WriteTrack(hidden, "both");
+    // What is between two tracks becomes a part of the first before that goes into the whole.
+    for (const MltBetween& between : transitions.between)
+        WriteBetween(between);
     for (int track = 1; track < tracks.size(); ++track) {
         WriteMix(track);
         WriteBlend(track, lanes.lanes[size_t(track) - 1].blend, node.Parent() != nullptr);
@@ -249,7 +278,8 @@ QString MltWriter::WriteBackground(const CompositeNode& node)
     return id;
 }
 
-QString MltWriter::WriteLane(const DocumentLane& lane, const Ids& ids, const MixerSettings& mixer)
+QString MltWriter::WriteLane(const DocumentLane& lane, const Ids& ids,
+                             const std::vector<DocumentFilter>& filters)
 {
     QString id = NewId("playlist");
     m_xml.writeStartElement(QStringLiteral("playlist"));
@@ -264,12 +294,7 @@ QString MltWriter::WriteLane(const DocumentLane& lane, const Ids& ids, const Mix
         EntryOf(ids.value(clip), placement.range);
         end = placement.End();
     }
-    const auto strip = mixer.find(lane.level);
-    const bool isSolo = strip != mixer.end() && strip->second.solo != 0;
-    const bool anySolo = std::any_of(mixer.begin(), mixer.end(),
-                                     [](const auto& other) { return other.second.solo != 0; });
-    WriteFilters(
-        StripFilters(strip == mixer.end() ? kNeutralStrip : strip->second, anySolo && !isSolo));
+    WriteFilters(filters);
     m_xml.writeEndElement();
     return id;
 }
@@ -303,6 +328,16 @@ void MltWriter::StartTransition(const char* service, int track)
     Property(QStringLiteral("a_track"), QStringLiteral("0"));
     Property(QStringLiteral("b_track"), QString::number(track));
     Property(QStringLiteral("always_active"), QStringLiteral("1"));
+}
+
+void MltWriter::WriteBetween(const MltBetween& between)
+{
+    m_xml.writeStartElement(QStringLiteral("transition"));
+    WriteEffect(between.effect);
+    // The background is the first track.
+    Property(QStringLiteral("a_track"), QString::number(between.from + 1));
+    Property(QStringLiteral("b_track"), QString::number(between.to + 1));
+    m_xml.writeEndElement();
 }
 
 void MltWriter::WriteMix(int track)

@@ -3,6 +3,7 @@
 
 #include "NLECore/model/DocumentFilter.h"
 #include "NLECore/model/DocumentLanes.h"
+#include "NLECore/model/MltTransitions.h"
 #include "NLECore/model/SourceNodes.h"
 
 #include <QDir>
@@ -31,12 +32,17 @@ private:
     QString WriteComposite(const CompositeNode& node, int order);
     QString WriteProducer(const TimelineNode& node, int order);
     QString WriteBackground(const CompositeNode& node);
-    QString WriteLane(const DocumentLane& lane, const Ids& ids, const MixerSettings& mixer);
+    /// \a filters are those of the whole lane.
+    QString WriteLane(const DocumentLane& lane, const Ids& ids,
+                      const std::vector<DocumentFilter>& filters);
     QString WriteUnplaced(const std::vector<const TimelineNode*>& clips, const Ids& ids);
     void WriteTrack(const QString& producer, const char* hide);
     void WriteMix(int track);
     void WriteBlend(int track, BlendMode mode, bool isInner);
+    void WriteBetween(const MltBetween& between);
     void WriteFilters(const std::vector<DocumentFilter>& filters);
+    /// The rest of a started element that stands for something of the node.
+    void WriteEffect(const DocumentFilter& effect);
     void WriteProfile(const TimelineNode& root);
     /// What is the node's own, and the filters that stand for some of it.
     void WriteCommon(const TimelineNode& node, int order);

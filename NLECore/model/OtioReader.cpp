@@ -305,6 +305,8 @@ NLEComPtr<TimelineNode> OtioReader::MakeItem(const QJsonObject& item)
 NLEComPtr<TimelineNode> OtioReader::MakeClip(const QJsonObject& clip,
                                              const DocumentProperties& properties)
 {
+    if (DocumentNodes::IsTransition(properties))
+        return m_nodes.MakeTransition(properties);
     const QJsonObject reference = ReferenceOf(clip);
     const QString schema = Schema(reference);
     if (schema == QLatin1String("GeneratorReference"))

@@ -251,6 +251,13 @@ QJsonObject OtioWriter::MediaReference(const TimelineNode& node)
             QJsonObject{{QStringLiteral("color"), ColorText(color->Argb())}};
         return reference;
     }
+    if (node.IsTransition()) {
+        // Other programs find nothing to show in its place.
+        reference[QStringLiteral("generator_kind")] = QStringLiteral("SolidColor");
+        reference[QStringLiteral("parameters")] =
+            QJsonObject{{QStringLiteral("color"), ColorText(0)}};
+        return reference;
+    }
     if (const auto text = TextOf(node)) {
         reference[QStringLiteral("generator_kind")] = QStringLiteral("Text");
         reference[QStringLiteral("parameters")] =

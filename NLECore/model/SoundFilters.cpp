@@ -114,4 +114,19 @@ std::vector<DocumentFilter> StripFilters(const tagMixerParam& strip, bool isSile
     return filters;
 }
 
+DocumentFilter FadeFilter(CrossFade fade, bool comes, const NLERange& range)
+{
+    const auto frames = int(NLERangeLength(range));
+    const int step = std::max(1, frames / kMostKeys);
+    QStringList keys;
+    // The framework goes in each frame from the gain of the one before to its own.
+    for (int frame = 0; frame < frames; frame += step) {
+        const double gain = CrossFadeGain(fade, comes, (frame + 1.0) / frames);
+        keys << QString::number(frame) + QLatin1Char('=') + Decibel(gain);
+    }
+    DocumentFilter filter = Volume({{QStringLiteral("level"), keys.join(QLatin1Char(';'))}});
+    filter.range = range;
+    return filter;
+}
+
 } // namespace nle

@@ -3,6 +3,7 @@
 
 #include "NLECore/model/DocumentFilter.h"
 #include "NLECore/scene/ClipSettings.h"
+#include "NLECore/scene/Transition.h"
 
 namespace nle {
 
@@ -14,5 +15,7 @@ class TimelineNode;
 std::vector<DocumentFilter> SoundFilters(const TimelineNode& node);
 /// The same for a mixer strip; \a isSilent where others play alone.
 std::vector<DocumentFilter> StripFilters(const tagMixerParam& strip, bool isSilent);
+/// The same for the frames \a range of a track, on which a sound comes or goes.
+DocumentFilter FadeFilter(CrossFade fade, bool comes, const NLERange& range);
 
 } // namespace nle

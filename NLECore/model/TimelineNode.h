@@ -124,6 +124,9 @@ public:
     const VideoFacet& Video() const { return m_video; }
     const MixerFacet& Mixer() const { return m_mixer; }
 
+    /// Whether the node is a TransitionNode: it stands among the clips of a composite and is none.
+    virtual bool IsTransition() const { return false; }
+
     /// Whether the node plays a file; then the keys of NLEKey::Source are its settings.
     virtual bool PlaysFile() const { return false; }
     /// Takes other settings of what plays a file; E_INVALIDARG, and nothing changed, for streams

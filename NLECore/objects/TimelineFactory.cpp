@@ -9,6 +9,7 @@
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/SourceNodes.h"
 #include "NLECore/model/TitleClip.h"
+#include "NLECore/model/TransitionNode.h"
 #include "NLECore/objects/DocumentSerialize.h"
 #include "NLECore/render/EffectKinds.h"
 #include "NLECore/scene/FrameMath.h"
@@ -32,6 +33,9 @@ std::vector<NameRow> NamesOf(int kind)
     if (kind == NLECatalog_Effect) {
         for (const EffectKind& effect : EffectKinds())
             names.push_back(effect.declaration.names);
+    } else if (kind == NLECatalog_Transition) {
+        for (const Declaration& transition : TransitionDeclarations())
+            names.push_back(transition.names);
     }
     return names;
 }
@@ -157,12 +161,15 @@ HRESULT TimelineFactory::CreateEffect(const wchar_t* name, INLETimeline** effect
     });
 }
 
-HRESULT TimelineFactory::CreateTransition(const wchar_t* /*name*/, INLETimeline** transition)
+HRESULT TimelineFactory::CreateTransition(const wchar_t* name, INLETimeline** transition)
 {
-    if (!transition)
-        return E_POINTER;
-    *transition = nullptr;
-    return E_NOTIMPL;
+    return ComGuard([&] {
+        if (!name || !transition)
+            return E_POINTER;
+        *transition = nullptr;
+        const Declaration* declaration = FindTransition(QString::fromWCharArray(name));
+        return declaration ? GiveNew<TransitionNode>(transition, *declaration) : E_INVALIDARG;
+    });
 }
 
 HRESULT TimelineFactory::CreateTitle(const wchar_t* text, INLETimeline** title)

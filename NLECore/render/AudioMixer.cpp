@@ -91,13 +91,14 @@ void AudioMixer::RenderContent(const Layer& layer, std::int64_t first, int count
         return;
     if (layer.kind == LayerKind::Media && layer.media->audioStream >= 0)
         ReadMedia(layer, m_voices[&layer], first, count, samples);
-    for (const Snapshot& child : layer.children)
-        AddChild(layer, *child, first, count, samples);
+    for (int child = 0; child < int(layer.children.size()); ++child)
+        AddChild(layer, child, first, count, samples);
 }
 
-void AudioMixer::AddChild(const Layer& parent, const Layer& child, std::int64_t first, int count,
+void AudioMixer::AddChild(const Layer& parent, int index, std::int64_t first, int count,
                           float* samples)
 {
+    const Layer& child = *parent.children[size_t(index)];
     const auto found = parent.mixer.find(child.level);
     const tagMixerParam strip = found == parent.mixer.end() ? kNeutralStrip : found->second;
     const bool anySolo = std::any_of(parent.mixer.begin(), parent.mixer.end(),
@@ -115,10 +116,32 @@ void AudioMixer::AddChild(const Layer& parent, const Layer& child, std::int64_t 
     std::vector<float> block(size_t(length) * size_t(m_channels));
     const std::int64_t inPoint = SampleOfFrame(child.range.in, child.frameRate);
     Render(child, from - start + inPoint, length, block.data());
+    ApplyTransitions(parent, index, from, length, block.data());
     ApplyBalance(strip.balance, length, block.data());
     float* out = samples + (from - first) * m_channels;
     for (size_t i = 0; i < block.size(); ++i)
         out[i] += float(block[i] * strip.volume);
+}
+
+void AudioMixer::ApplyTransitions(const Layer& parent, int child, std::int64_t first, int count,
+                                  float* samples) const
+{
+    for (const LayerTransition& transition : parent.transitions) {
+        const std::int64_t start = SampleOfFrame(transition.position, parent.frameRate);
+        const std::int64_t end = SampleOfFrame(transition.End(), parent.frameRate);
+        if (!transition.sounds.Has(child) || start >= first + count || end <= first)
+            continue;
+        const auto kind =
+            CrossFade(transition.At(transition.position).Whole(TransitionParameter::kSound));
+        const bool comes = child == transition.sounds.to;
+        const std::int64_t last = std::min(end, first + count);
+        for (std::int64_t at = std::max(start, first); at < last; ++at) {
+            const double progress = double(at - start) / double(end - start);
+            const auto gain = float(CrossFadeGain(kind, comes, progress));
+            float* const sample = samples + (at - first) * m_channels;
+            std::for_each(sample, sample + m_channels, [gain](float& value) { value *= gain; });
+        }
+    }
 }
 
 void AudioMixer::DropIdleVoices(int count)

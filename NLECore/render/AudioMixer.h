@@ -37,8 +37,12 @@ private:
     /// The layer's own samples with its settings, from its frame 0 on.
     void Render(const Layer& layer, std::int64_t first, int count, float* samples);
     void RenderContent(const Layer& layer, std::int64_t first, int count, float* samples);
-    void AddChild(const Layer& parent, const Layer& child, std::int64_t first, int count,
-                  float* samples);
+    /// The child at the place \a index.
+    void AddChild(const Layer& parent, int index, std::int64_t first, int count, float* samples);
+    /// Lets a child fade as the transitions of its parent say. \a first counts from frame 0 of the
+    /// parent.
+    void ApplyTransitions(const Layer& parent, int child, std::int64_t first, int count,
+                          float* samples) const;
     /// Gives up what has not been read for a second, after \a count samples were mixed.
     void DropIdleVoices(int count);
     void ReadMedia(const Layer& layer, Voice& voice, std::int64_t first, int count, float* samples);

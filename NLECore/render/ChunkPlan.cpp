@@ -18,6 +18,26 @@ constexpr int kRenderVersion = 3;
 constexpr int kFineQuality = 950;
 constexpr int kBestQuality = 1000;
 
+/// Stands before a transition, so that keys of composites without any are as they always were.
+constexpr std::uint32_t kTransitionMark = 0x74726E73u;
+
+/// What decides about the pictures of a transition at frames of its composite.
+void AddLook(ContentHash& hash, const LayerTransition& transition, std::int64_t first,
+             std::int64_t last)
+{
+    const ParameterValues& values = *transition.parameters;
+    const std::int64_t toOwn = transition.range.in - transition.position;
+    hash.Add(QString::fromLatin1(values.Declared().names.name));
+    for (int index = 0; index < int(values.Declared().parameters.size()); ++index) {
+        if (!ShowsInPicture(values.Row(index)))
+            continue;
+        const bool isAnimated = !values.Keys(index).empty();
+        hash.Add(isAnimated).Add(isAnimated ? 0 : values.Number(index));
+        for (std::int64_t frame = first; isAnimated && frame <= last; ++frame)
+            hash.Add(values.NumberAtFrame(index, double(frame + toOwn)));
+    }
+}
+
 bool IsOpaque(const Layer& root)
 {
     return root.argb >> 24 == 0xFF && !MakeTransparent(root.effects);
@@ -169,6 +189,33 @@ void ChunkPlan::AddChildren(ContentHash& hash, const Layer& composite, std::int6
         LayerKeys::AddFrames(hash, layer, begin + toContent, end + toContent);
         if (layer.kind == LayerKind::Composite)
             AddChildren(hash, layer, begin + toContent, end + toContent, layers);
+    }
+    AddTransitions(hash, composite, showing, first, last);
+}
+
+void ChunkPlan::AddTransitions(ContentHash& hash, const Layer& composite,
+                               const std::vector<const Span*>& showing, std::int64_t first,
+                               std::int64_t last)
+{
+    const auto placeOf = [&showing](int child) {
+        const auto found = std::find_if(showing.begin(), showing.end(), [child](const Span* span) {
+            return span->order == child + 1;
+        });
+        return child >= 0 && found != showing.end() ? int(found - showing.begin()) : -1;
+    };
+    for (const LayerTransition& transition : composite.transitions) {
+        if (transition.position > last)
+            break;
+        const LayerTransition::Clips& clips = transition.pictures;
+        const int from = placeOf(clips.from);
+        const int to = placeOf(clips.to);
+        if (transition.End() <= first || (from < 0 && to < 0))
+            continue;
+        // A clip that takes part counts where it does not show as well.
+        hash.Add(kTransitionMark).Add(from).Add(to).Add(clips.from >= 0).Add(clips.to >= 0);
+        hash.Add(transition.position - first).Add(NLERangeLength(transition.range));
+        AddLook(hash, transition, std::max(transition.position, first),
+                std::min(transition.End() - 1, last));
     }
 }
 

@@ -90,6 +90,11 @@ private:
     ContentKey KeyOf(const Chunk& chunk, LayerKeys& layers) const;
     void AddChildren(ContentHash& hash, const Layer& composite, std::int64_t first,
                      std::int64_t last, LayerKeys& layers) const;
+    /// The transitions of a composite that change frames of it from \a first to \a last, in which
+    /// \a showing, the lowest first, show.
+    static void AddTransitions(ContentHash& hash, const Layer& composite,
+                               const std::vector<const Span*>& showing, std::int64_t first,
+                               std::int64_t last);
 
     const Snapshot m_root;
     const CacheFormat m_format;

@@ -111,6 +111,20 @@ bool IsShown(const Layer& layer, std::int64_t frame)
     return layer.PlaysAt(frame) && layer.mode != NLERender_AudioOnly;
 }
 
+/// Whether there is a child at the place \a child, and it shows.
+bool IsShownAt(const Layer& composite, int child, std::int64_t frame)
+{
+    return child >= 0 && IsShown(*composite.children[size_t(child)], frame);
+}
+
+/// The place of the higher one of the clips of a transition that show.
+int HighestShown(const Layer& composite, const LayerTransition::Clips& clips, std::int64_t frame)
+{
+    const int from = IsShownAt(composite, clips.from, frame) ? clips.from : -1;
+    const int to = IsShownAt(composite, clips.to, frame) ? clips.to : -1;
+    return std::max(from, to);
+}
+
 /// Size to ask a decoder for, for a picture that will be drawn as large as \a rect.
 QSize DecodeSize(const QRectF& rect)
 {
@@ -160,6 +174,13 @@ void DropUnused(std::map<const Layer*, Kept>& kept)
         else
             one = kept.erase(one);
     }
+}
+
+QImage WithColor(QImage canvas, QRgb argb)
+{
+    QPainter painter(&canvas);
+    painter.fillRect(canvas.rect(), QColor::fromRgba(argb));
+    return canvas;
 }
 
 /// Without alpha the painter can copy instead of blending.
@@ -348,22 +369,35 @@ QImage Composer::MediaPicture(const Layer& layer, std::int64_t frame, const QSiz
     return hasAlpha || image.isNull() ? image : AsOpaque(image);
 }
 
+const LayerTransition* Composer::TransitionOf(const Layer& composite, int child, std::int64_t frame)
+{
+    const auto found = std::find_if(
+        composite.transitions.begin(), composite.transitions.end(),
+        [&](const LayerTransition& one) { return one.PlaysAt(frame) && one.pictures.Has(child); });
+    return found == composite.transitions.end() ? nullptr : &*found;
+}
+
+bool Composer::CoversPlainly(const Layer& composite, const Layer& child, const QSize& size)
+{
+    if (child.kind != LayerKind::Media)
+        return false;
+    const MediaStream* stream = child.ShownMedia()->Stream(ShownStreamOf(child).index);
+    const Placing placing = PlaceLayer(child, nullptr, composite.size, size);
+    return stream && !stream->hasAlpha && !child.keyFrames && !MakeTransparent(child.effects) &&
+           (!child.blend.enabled || IsSame(child.blend, BlendSettings())) &&
+           placing.rotation == 0 && placing.rect == QRectF(QPointF(0, 0), QSizeF(size));
+}
+
 const Layer* Composer::PlainBottom(const Layer& composite, std::int64_t frame,
                                    const QSize& size) const
 {
     const auto bottom =
         std::find_if(composite.children.begin(), composite.children.end(),
                      [frame](const Snapshot& child) { return IsShown(*child, frame); });
-    if (bottom == composite.children.end() || (*bottom)->kind != LayerKind::Media)
+    if (bottom == composite.children.end() ||
+        TransitionOf(composite, int(bottom - composite.children.begin()), frame))
         return nullptr;
-    const Layer& layer = **bottom;
-    const MediaStream* stream = layer.ShownMedia()->Stream(ShownStreamOf(layer).index);
-    const Placing placing = PlaceLayer(layer, nullptr, composite.size, size);
-    const bool isPlain =
-        stream && !stream->hasAlpha && !layer.keyFrames && !MakeTransparent(layer.effects) &&
-        (!layer.blend.enabled || IsSame(layer.blend, BlendSettings())) && placing.rotation == 0 &&
-        placing.rect == QRectF(QPointF(0, 0), QSizeF(size));
-    return isPlain ? &layer : nullptr;
+    return CoversPlainly(composite, **bottom, size) ? bottom->get() : nullptr;
 }
 
 const AVFrame* Composer::PlainPicture(std::int64_t frame, const QSize& frameSize)
@@ -408,30 +442,121 @@ QImage Composer::Composite(const Layer& layer, std::int64_t frame, const QSize& 
         canvas = ColorPicture(layer.argb, size, CanvasFormat(*m_root));
     else
         canvas.reinterpretAsFormat(CanvasFormat(*m_root));
-    QPainter painter(&canvas);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, m_root->context.smooth);
-    for (const Snapshot& child : layer.children) {
-        if (child.get() == bottom || !IsShown(*child, frame))
+    for (int index = 0; index < int(layer.children.size()); ++index) {
+        const Layer& child = *layer.children[size_t(index)];
+        if (&child == bottom || !IsShown(child, frame))
             continue;
-        const std::int64_t childFrame = child->FrameAt(frame);
-        std::optional<NLEKeyFrameRecord> key;
-        if (child->keyFrames)
-            key = child->keyFrames->AtFrame(double(childFrame));
-        const Placing placing = PlaceLayer(*child, key ? &*key : nullptr, layer.size, size);
-        if (placing.rect.width() == 0 || placing.rect.height() == 0)
-            continue;
-        const double opacity = key ? std::clamp(key->opacity, 0.0, 1.0) : 1;
-        if (opacity == 0)
-            continue;
-        const DrawnPicture picture = Content(*child, childFrame, DecodeSize(placing.rect));
-        if (picture.image.isNull())
-            continue;
-        const BlendSettings blend = child->blend.enabled ? child->blend : BlendSettings();
-        painter.setCompositionMode(PainterMode(blend.mode));
-        painter.setOpacity(opacity * blend.alpha / kOpaqueAlpha);
-        Draw(painter, picture, placing);
+        const LayerTransition* transition = TransitionOf(layer, index, frame);
+        if (!transition)
+            DrawChild({layer, child, frame}, QTransform(), canvas);
+        else if (index == HighestShown(layer, transition->pictures, frame))
+            DrawTransition(layer, *transition, frame, canvas);
     }
     return canvas;
+}
+
+void Composer::DrawChild(const Shown& shown, const QTransform& motion, QImage& canvas)
+{
+    const Layer& child = shown.child;
+    const std::int64_t frame = child.FrameAt(shown.frame);
+    std::optional<NLEKeyFrameRecord> key;
+    if (child.keyFrames)
+        key = child.keyFrames->AtFrame(double(frame));
+    const Placing placing =
+        PlaceLayer(child, key ? &*key : nullptr, shown.composite.size, canvas.size());
+    if (placing.rect.width() == 0 || placing.rect.height() == 0)
+        return;
+    const double opacity = key ? std::clamp(key->opacity, 0.0, 1.0) : 1;
+    if (opacity == 0)
+        return;
+    const DrawnPicture picture = Content(child, frame, DecodeSize(placing.rect));
+    if (picture.image.isNull())
+        return;
+    QPainter painter(&canvas);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, m_root->context.smooth);
+    const BlendSettings blend = child.blend.enabled ? child.blend : BlendSettings();
+    painter.setCompositionMode(PainterMode(blend.mode));
+    painter.setOpacity(opacity * blend.alpha / kOpaqueAlpha);
+    painter.setTransform(motion);
+    Draw(painter, picture, placing);
+}
+
+QImage Composer::WithChild(const Shown& shown, const QImage& below)
+{
+    if (CoversPlainly(shown.composite, shown.child, below.size())) {
+        QImage picture =
+            Content(shown.child, shown.child.FrameAt(shown.frame), below.size()).Inner();
+        picture.reinterpretAsFormat(below.format());
+        if (!picture.isNull())
+            return picture;
+    }
+    QImage canvas = below;
+    DrawChild(shown, QTransform(), canvas);
+    return canvas;
+}
+
+void Composer::DrawTransition(const Layer& composite, const LayerTransition& transition,
+                              std::int64_t frame, QImage& canvas)
+{
+    const auto shown = [&](int child) -> std::optional<Shown> {
+        if (!IsShownAt(composite, child, frame))
+            return std::nullopt;
+        return Shown{composite, *composite.children[size_t(child)], frame};
+    };
+    const std::optional<Shown> from = shown(transition.pictures.from);
+    const std::optional<Shown> to = shown(transition.pictures.to);
+    const auto draw =
+        MixesPictures(transition.Kind()) ? &Composer::MixChildren : &Composer::MoveChildren;
+    (this->*draw)(from ? &*from : nullptr, to ? &*to : nullptr, transition, frame, canvas);
+}
+
+void Composer::MixChildren(const Shown* from, const Shown* to, const LayerTransition& transition,
+                           std::int64_t frame, QImage& canvas)
+{
+    const TransitionKind kind = transition.Kind();
+    const ParametersAt parameters = transition.At(frame);
+    MixWeights weights;
+    weights.progress = transition.ProgressAt(frame);
+    const auto picture = [&](const Shown* shown) {
+        return shown ? WithChild(*shown, canvas) : canvas;
+    };
+    QImage first;
+    QImage second;
+    if (kind == TransitionKind::Dip) {
+        const DipStep step = DipStepAt(transition.pictures, weights.progress);
+        weights.progress = step.progress;
+        const QImage color = WithColor(canvas, parameters.Color(TransitionParameter::kColor));
+        first = step.comes ? color : picture(from);
+        second = step.comes ? picture(to) : color;
+    } else {
+        first = picture(from);
+        second = picture(to);
+    }
+    if (IsWipe(kind)) {
+        weights.softness = parameters.Number(TransitionParameter::kSoftness);
+        weights.pattern = &PatternOf(kind, parameters, canvas.size());
+    }
+    MixRows(first, second, weights, 0, first.height());
+    canvas = first;
+}
+
+void Composer::MoveChildren(const Shown* from, const Shown* to, const LayerTransition& transition,
+                            std::int64_t frame, QImage& canvas)
+{
+    const bool isAlone = transition.pictures.to < 0;
+    const TransitionMotion motion = MotionAt(transition, isAlone, frame, canvas.size());
+    if (from && motion.from.isInvertible())
+        DrawChild(*from, motion.from, canvas);
+    if (to && motion.to.isInvertible())
+        DrawChild(*to, motion.to, canvas);
+}
+
+const WipePattern& Composer::PatternOf(TransitionKind kind, const ParametersAt& parameters,
+                                       const QSize& size)
+{
+    if (!m_pattern || !m_pattern->Is(kind, parameters, size))
+        m_pattern.emplace(kind, parameters, size);
+    return *m_pattern;
 }
 
 void Composer::DropIdle()

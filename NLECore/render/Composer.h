@@ -4,13 +4,16 @@
 #include "NLECore/media/DecoderPool.h"
 #include "NLECore/render/EffectChain.h"
 #include "NLECore/render/TitlePicture.h"
+#include "NLECore/render/TransitionMix.h"
 #include "NLECore/scene/SourceChoice.h"
 
 #include <QImage>
 #include <QRectF>
+#include <QTransform>
 
 #include <atomic>
 #include <map>
+#include <optional>
 
 struct AVFrame;
 
@@ -63,6 +66,18 @@ public:
     const AVFrame* PlainPicture(std::int64_t frame, const QSize& frameSize);
 
 private:
+    /// One child of a composite at one frame of it.
+    struct Shown
+    {
+        const Layer& composite;
+        const Layer& child;
+        std::int64_t frame; ///< of the composite
+    };
+    /// The transition of pictures that the child at the place \a child takes part in; else null.
+    static const LayerTransition* TransitionOf(const Layer& composite, int child,
+                                               std::int64_t frame);
+    /// Whether the child's media covers all of \a size.
+    static bool CoversPlainly(const Layer& composite, const Layer& child, const QSize& size);
     /// The lowest child that shows, when its media covers all of \a size; else null.
     const Layer* PlainBottom(const Layer& composite, std::int64_t frame, const QSize& size) const;
     const AVFrame* PlainMedia(const Layer& layer, std::int64_t frame);
@@ -78,6 +93,20 @@ private:
     /// The part of a title's picture that something shows in; margins below 0 are the rest.
     DrawnPicture Title(const Layer& layer, std::int64_t frame, const QSize& size);
     void DropIdle();
+    /// Draws a child where it lies, moved by \a motion.
+    void DrawChild(const Shown& shown, const QTransform& motion, QImage& canvas);
+    /// \a below with a child drawn on it.
+    QImage WithChild(const Shown& shown, const QImage& below);
+    /// Draws the clips that take part in a transition and show, on what is below them.
+    void DrawTransition(const Layer& composite, const LayerTransition& transition,
+                        std::int64_t frame, QImage& canvas);
+    /// Null \a from and \a to do not show.
+    void MixChildren(const Shown* from, const Shown* to, const LayerTransition& transition,
+                     std::int64_t frame, QImage& canvas);
+    void MoveChildren(const Shown* from, const Shown* to, const LayerTransition& transition,
+                      std::int64_t frame, QImage& canvas);
+    const WipePattern& PatternOf(TransitionKind kind, const ParametersAt& parameters,
+                                 const QSize& size);
 
     struct OpenDecoder
     {
@@ -97,6 +126,7 @@ private:
     DecoderPool& m_pool;
     std::map<const Layer*, OpenDecoder> m_decoders;
     std::map<const Layer*, OpenTitle> m_titles;
+    std::optional<WipePattern> m_pattern; ///< the one that was drawn last
     const std::atomic<bool>* m_stop = nullptr;
     bool m_isNear = false; ///< RenderNear draws
     bool m_isExact = true;

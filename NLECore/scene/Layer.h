@@ -5,7 +5,7 @@
 #include "NLECore/media/MediaInfo.h"
 #include "NLECore/scene/ClipSettings.h"
 #include "NLECore/scene/KeyFrameList.h"
-#include "NLECore/scene/Parameters.h"
+#include "NLECore/scene/Transition.h"
 
 #include <QString>
 
@@ -78,7 +78,8 @@ struct Layer
     QString family;                         ///< Text and Title
     SharedParameters title;                 ///< Title only
     std::vector<std::shared_ptr<const Layer>>
-        children; ///< Composite: enabled ones, lowest level first
+        children;                             ///< Composite: enabled ones, lowest level first
+    std::vector<LayerTransition> transitions; ///< Composite: between children, by position
 
     QString guid;        ///< Composite only: the host's name for it, empty without one
     MixerSettings mixer; ///< Composite only: strips of the children's tracks, by level
@@ -110,7 +111,8 @@ inline constexpr auto kFields<Layer> = std::tuple(
     Field{&Layer::proxy, nullptr, Shows::kYes}, Field{&Layer::argb, nullptr, Shows::kYes},
     Field{&Layer::text, nullptr, Shows::kYes}, Field{&Layer::family, nullptr, Shows::kYes},
     Field{&Layer::title, nullptr, Shows::kNo}, Field{&Layer::children, nullptr, Shows::kNo},
-    Field{&Layer::guid, nullptr, Shows::kNo}, Field{&Layer::mixer, nullptr, Shows::kNo});
+    Field{&Layer::transitions, nullptr, Shows::kNo}, Field{&Layer::guid, nullptr, Shows::kNo},
+    Field{&Layer::mixer, nullptr, Shows::kNo});
 static_assert(kListsAllFields<Layer>);
 
 using Snapshot = std::shared_ptr<const Layer>;

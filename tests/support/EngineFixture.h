@@ -58,6 +58,13 @@ public:
         Nodes()->CreateEffect(QString(name).toStdWString().c_str(), effect.put());
         return effect;
     }
+    /// A new transition; null for a name that there is not.
+    static Node Transition(const char* name)
+    {
+        Node transition;
+        Nodes()->CreateTransition(QString(name).toStdWString().c_str(), transition.put());
+        return transition;
+    }
     /// A new effect that \a node carries as its last one.
     static Node AddEffect(const Node& node, const char* name)
     {
