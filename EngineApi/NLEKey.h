@@ -118,7 +118,8 @@ inline constexpr const wchar_t* kSampleFormat = L"kEncode_SampleFormat";
 inline constexpr const wchar_t* kAudioBitRate = L"kEncode_AudioBitRate";
 /// Integer: threads of the codec of pictures; the codec chooses by default.
 inline constexpr const wchar_t* kThreads = L"kEncode_Threads";
-/// Integer 1: pictures come from the proxies of clips that have them enabled; else from their media.
+/// Integer 1: pictures come from the proxies of clips that have them enabled; else from their
+/// media.
 inline constexpr const wchar_t* kProxies = L"kEncode_Proxies";
 } // namespace Encode
 

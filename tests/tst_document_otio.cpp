@@ -353,8 +353,7 @@ private slots:
         QVERIFY(Save(project, Path("markers.otio")));
         const QByteArray text = Contents(Path("markers.otio"));
         QVERIFY(!text.contains("\"comment\": \"!\""));
-        QCOMPARE(MarkersOf(ClipAt(Load(Path("markers.otio")), 0)),
-                 QStringList("5+3 8000e000 cut"));
+        QCOMPARE(MarkersOf(ClipAt(Load(Path("markers.otio")), 0)), QStringList("5+3 8000e000 cut"));
         // The other program gives it another colour.
         const Node edited = Parse(QByteArray(text).replace("GREEN", "BLUE"));
         QCOMPARE(MarkersOf(ClipAt(edited, 0)), QStringList("5+3 ff0000ff cut"));
