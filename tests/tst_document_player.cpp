@@ -2,8 +2,10 @@
 // Documents of the open engine as the framework's own player shows and sounds them.
 #include "CommonLib/NLEWraper/VideoKeyFrameSetting.h"
 #include "EngineApi/INLEEffects.h"
+#include "EngineApi/INLEFactory.h"
 #include "EngineApi/INLEMixerSetting.h"
 #include "EngineApi/INLEStreamProcess.h"
+#include "EngineApi/INLETitle.h"
 #include "EngineApi/INLETransform.h"
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
@@ -77,6 +79,18 @@ class tst_DocumentPlayer : public QObject, public EngineFixture
         (clip.query<Facility>().get()->*setter)(values...);
     }
 
+    static Node Title(const wchar_t* text, const wchar_t* font)
+    {
+        NLEComPtr<INLEFactory> factory;
+        NLEComPtr<INLETimelineFactory> timelines;
+        Node title;
+        CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
+                                                       INLEFactory::Iid, factory.putVoid());
+        factory->GetTimelineFactory(timelines.put());
+        timelines->CreateTitle(text, title.put());
+        title.query<INLETitle>()->SetFont(font);
+        return title;
+    }
     Node Clip(const char* name = "clip.mp4") const { return EngineFixture::Media(Path(name)); }
     /// Above all of a bright project.
     void OnColour(const Node& project, const Node& clip) const
@@ -160,9 +174,28 @@ private slots:
                 t.Add(p, t.Colour(Qt::red), 10, 3);
                 t.Add(p, t.Trimmed(t.Clip(), 0, 40), 0, 3);
             });
-        row("a text", 6, [](const T& t, const Node& p) {
+        row("a text", 4.3, [](const T& t, const Node& p) {
             t.OnColour(p, t.provider->CreateTipTextTimeline("Hello World", "DejaVu Sans"));
         });
+        const auto title = [&row](const char* name, double most,
+                                  const std::vector<std::pair<const wchar_t*, double>>& numbers) {
+            row(name, most, [numbers](const T& t, const Node& p) {
+                const Node clip = t.Title(L"Hello World\nagain", L"DejaVu Sans");
+                t.Trimmed(clip, 0, 39);
+                for (const auto& [key, number] : numbers)
+                    clip.query<INLEParameters>()->SetNumber(key, number);
+                t.OnColour(p, clip);
+            });
+        };
+        title("a title", 4.3, {});
+        title("a title at the bottom left, shifted", 4.3,
+              {{L"alignment", 0}, {L"place", 2}, {L"x", 0.1}, {L"y", -0.2}});
+        title("a title at the top right in a box", 5.5,
+              {{L"alignment", 2}, {L"place", 0}, {L"box-color", 0xC0102030u}});
+        title("a title with a coloured outline", 7.5,
+              {{L"size", 0.15}, {L"outline", 0.04}, {L"outline-color", 0xFFC02010u}});
+        title("a title half faded in", 4, {{L"fade-in", 0.96}});
+        title("a title that rolls up", 4.3, {{L"roll", 1}});
         const auto effect = [&row](const char* name, double most, const char* kind,
                                    const std::vector<std::pair<const wchar_t*, double>>& numbers) {
             row(name, most, [=](const T& t, const Node& p) {

@@ -46,6 +46,12 @@ std::vector<DocumentFilter> StripFilters(int level, const MixerSettings& mixer)
                              anySolo && !isSolo);
 }
 
+bool HoldsTexts(const DocumentLane& lane)
+{
+    return std::all_of(lane.clips.begin(), lane.clips.end(),
+                       [](const auto& clip) { return TextOf(*clip.second).has_value(); });
+}
+
 /// What of a track is off when only \a streams of its clips play; null: nothing.
 const char* HiddenPart(NLERenderMode streams)
 {
@@ -166,8 +172,8 @@ void MltWriter::WriteTitle(const TitleClip& clip)
              look.italic ? QStringLiteral("italic") : QStringLiteral("normal"));
     Property(QStringLiteral("align"), QLatin1String(kAlignments[size_t(look.alignment)]));
     Property(QStringLiteral("fgcolour"), ColorText(look.color));
-    // There half of it covers the letters.
-    number("outline", 2 * look.outline * size);
+    // There it lies over the letters, half of it within them.
+    number("outline", look.outline * size);
     Property(QStringLiteral("olcolour"), ColorText(look.outlineColor));
     number("pad", look.boxColor >> 24 != 0 ? look.boxPadding * size : 0);
     Property(QStringLiteral("bgcolour"), ColorText(look.boxColor));
@@ -260,7 +266,7 @@ QString MltWriter::WriteComposite(const CompositeNode& node, int order)
         WriteBetween(between);
     for (int track = 1; track < tracks.size(); ++track) {
         WriteMix(track);
-        WriteBlend(track, lanes.lanes[size_t(track) - 1].blend, node.Parent() != nullptr);
+        WriteBlend(track, lanes.lanes[size_t(track) - 1], node.Parent() != nullptr);
     }
     WriteCommon(node, order);
     m_xml.writeEndElement();
@@ -347,10 +353,11 @@ void MltWriter::WriteMix(int track)
     m_xml.writeEndElement();
 }
 
-void MltWriter::WriteBlend(int track, BlendMode mode, bool isInner)
+void MltWriter::WriteBlend(int track, const DocumentLane& lane, bool isInner)
 {
     // The two plain ones are in every build of the framework, the other one knows the modes. That
     // for pictures as they are misplaces them in a timeline that is scaled as a whole.
+    const BlendMode mode = lane.blend;
     if (mode != BlendMode::Normal) {
         StartTransition("qtblend", track);
         Property(QStringLiteral("compositing"), QString::number(MltCompositing(mode)));
@@ -361,6 +368,9 @@ void MltWriter::WriteBlend(int track, BlendMode mode, bool isInner)
             Property(QStringLiteral("mirror_off"), QStringLiteral("1"));
         } else {
             Property(QStringLiteral("geometry"), QStringLiteral("0/0:100%x100%:100"));
+            // Else a text, whose filter gives a whole picture, is placed once more by its letters.
+            if (HoldsTexts(lane))
+                Property(QStringLiteral("distort"), QStringLiteral("1"));
         }
         Property(QStringLiteral("halign"), QStringLiteral("centre"));
         Property(QStringLiteral("valign"), QStringLiteral("middle"));

@@ -38,7 +38,7 @@ private:
     QString WriteUnplaced(const std::vector<const TimelineNode*>& clips, const Ids& ids);
     void WriteTrack(const QString& producer, const char* hide);
     void WriteMix(int track);
-    void WriteBlend(int track, BlendMode mode, bool isInner);
+    void WriteBlend(int track, const DocumentLane& lane, bool isInner);
     void WriteBetween(const MltBetween& between);
     void WriteFilters(const std::vector<DocumentFilter>& filters);
     /// The rest of a started element that stands for something of the node.

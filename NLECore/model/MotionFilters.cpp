@@ -29,9 +29,8 @@ std::map<int, NLEKeyFrameRecord> ByFrame(const KeyFrameCurve* curve)
     return result;
 }
 
-/// Names of alignments, in the order of TitleAlignment and of TitlePlace.
+/// Names of alignments, in the order of TitleAlignment.
 constexpr const char* kAcross[] = {"left", "centre", "right"};
-constexpr const char* kDown[] = {"top", "middle", "bottom"};
 
 QString Number(double value)
 {
@@ -67,19 +66,32 @@ bool IsText(const Layer& layer)
     return layer.kind == LayerKind::Text || layer.kind == LayerKind::Title;
 }
 
-/// The part of a picture that the lines of a title lie in, with the padding of their box, moved as
-/// the title has.
-QRectF TitleArea(TitlePainter& painter, const Layer& layer, int frame, const QSize& picture)
+/// A text clip as the title that looks like it.
+TitleMoment TextMoment(const Layer& layer, int frame)
 {
-    const TitleMoment moment = MomentOf(layer, frame);
+    if (layer.kind == LayerKind::Title)
+        return MomentOf(layer, frame);
+    TitleMoment moment;
+    moment.look.text = layer.text;
+    moment.look.family = layer.family;
+    moment.look.size = kTextHeight;
+    return moment;
+}
+
+/// The part of a picture at whose top the lines of a text lie, with the padding of their box.
+QRectF TextArea(TitlePainter& painter, const Layer& layer, int frame, const QSize& picture)
+{
+    const TitleMoment moment = TextMoment(layer, frame);
     const TitleLook& look = moment.look;
     const bool hasBox = look.boxColor >> 24 != 0;
     const double pad = hasBox ? look.boxPadding * look.size * picture.height() : 0;
-    const double marginX = picture.width() * look.margin - pad;
-    const double marginY = picture.height() * look.margin - pad;
-    return QRectF(QPointF(0, 0), picture)
-        .adjusted(marginX, marginY, -marginX, -marginY)
-        .translated(painter.Move(moment, layer.size, picture));
+    const QRectF lines = painter.Lines(moment, layer.size, picture);
+    const double margin = picture.width() * look.margin;
+    const double sides[] = {margin, (picture.width() - lines.width()) / 2,
+                            picture.width() - margin - lines.width()};
+    const double moved = lines.isEmpty() ? 0 : lines.x() - sides[size_t(look.alignment)];
+    return QRectF(margin - pad + moved, lines.y() - pad, picture.width() - 2 * (margin - pad),
+                  picture.height());
 }
 
 /// Where a part of a picture lies that is \a size large and placed as \a whole.
@@ -115,8 +127,8 @@ DocumentFilter PlaceFilter(const TimelineNode& node, const Layer& layer)
     QStringList turns;
     for (const auto& [frame, key] : FramesOf(layer)) {
         Placing placing = PlaceLayer(layer, &key, {canvas.width(), canvas.height()}, canvas);
-        if (layer.kind == LayerKind::Title)
-            placing = PlacePart(placing, TitleArea(painter, layer, frame, canvas), canvas);
+        if (IsText(layer))
+            placing = PlacePart(placing, TextArea(painter, layer, frame, canvas), canvas);
         const QString start = QString::number(frame) + QLatin1Char('=');
         const QRectF rect = placing.rect.normalized();
         rects << start + QStringList{Number(rect.x()), Number(rect.y()), Number(rect.width()),
@@ -136,13 +148,11 @@ DocumentFilter PlaceFilter(const TimelineNode& node, const Layer& layer)
         {QStringLiteral("transition.fix_rotate_x"), Join(turns)}};
     if (IsText(layer)) {
         // The picture of a text is as large as its letters.
-        const bool isTitle = layer.kind == LayerKind::Title;
-        const TitleLook look = isTitle ? MomentOf(layer, layer.range.in).look : TitleLook();
+        const TitleLook look = TextMoment(layer, layer.range.in).look;
         texts.emplace_back(QStringLiteral("transition.fill"), QStringLiteral("0"));
         texts.emplace_back(QStringLiteral("transition.halign"),
                            QLatin1String(kAcross[size_t(look.alignment)]));
-        texts.emplace_back(QStringLiteral("transition.valign"),
-                           QLatin1String(kDown[size_t(look.place)]));
+        texts.emplace_back(QStringLiteral("transition.valign"), QStringLiteral("top"));
     } else {
         texts.emplace_back(QStringLiteral("transition.distort"), one);
     }

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <iterator>
 #include <vector>
 
 namespace nle {
@@ -33,47 +35,82 @@ struct Box
     double Weight() const { return 2.0 * radius + 1 + 2 * share; }
 };
 
-/// Means of the \a count values that are \a step apart from one another; beyond them is nothing.
-void Soften(float* values, int count, int step, const Box& box, std::vector<float>& line)
+/// Numbers in rows.
+struct Plane
 {
-    const int margin = box.radius + 1;
-    line.assign(std::size_t(count) + 2 * std::size_t(margin), 0.0F);
-    float* const middle = line.data() + margin;
-    for (int i = 0; i < count; ++i)
-        middle[i] = values[std::ptrdiff_t(i) * step];
-    double sum = 0;
-    for (int i = -box.radius; i <= box.radius && i < count; ++i)
-        sum += middle[i];
-    const double weight = 1 / box.Weight();
-    for (int i = 0; i < count; ++i) {
-        const double outer = double(middle[i - margin]) + double(middle[i + margin]);
-        values[std::ptrdiff_t(i) * step] = float((sum + box.share * outer) * weight);
-        sum += double(middle[i + margin]) - double(middle[i - box.radius]);
+    int width;
+    int height;
+    std::vector<float> values;
+
+    const float* Row(int y) const { return values.data() + std::ptrdiff_t(y) * width; }
+    float* Row(int y) { return values.data() + std::ptrdiff_t(y) * width; }
+};
+
+/// Means along the columns; beyond the plane is nothing. A row at a time, so that the processor
+/// takes many columns at once.
+Plane Softened(const Plane& plane, const Box& box)
+{
+    const std::size_t width = std::size_t(plane.width);
+    Plane result = {plane.width, plane.height, std::vector<float>(plane.values.size())};
+    const std::vector<float> nothing(width, 0.0F);
+    const auto row = [&](int y) {
+        return y >= 0 && y < plane.height ? plane.Row(y) : nothing.data();
+    };
+    std::vector<float> sums(width, 0.0F);
+    for (int y = 0; y <= box.radius; ++y)
+        std::transform(sums.begin(), sums.end(), row(y), sums.begin(), std::plus<float>());
+    const auto weight = float(1 / box.Weight());
+    const auto share = float(box.share);
+    for (int y = 0; y < plane.height; ++y) {
+        const float* before = row(y - box.radius - 1);
+        const float* leaving = row(y - box.radius);
+        const float* after = row(y + box.radius + 1);
+        float* mean = result.Row(y);
+        float* sum = sums.data();
+        for (std::size_t x = 0; x < width; ++x) {
+            mean[x] = (sum[x] + share * (before[x] + after[x])) * weight;
+            sum[x] += after[x] - leaving[x];
+        }
     }
+    return result;
 }
 
-std::vector<float> AlphaOf(const QImage& shape)
+Plane Transposed(const Plane& plane)
 {
-    std::vector<float> alpha;
-    alpha.reserve(std::size_t(shape.width()) * std::size_t(shape.height()));
+    constexpr int block = 16; // so that what is read and written stays in the cache
+    Plane result = {plane.height, plane.width, std::vector<float>(plane.values.size())};
+    for (int top = 0; top < plane.height; top += block) {
+        for (int x = 0; x < plane.width; ++x) {
+            const int end = std::min(top + block, plane.height);
+            for (int y = top; y < end; ++y)
+                result.Row(x)[y] = plane.Row(y)[x];
+        }
+    }
+    return result;
+}
+
+Plane AlphaOf(const QImage& shape)
+{
+    Plane alpha = {shape.width(), shape.height(), {}};
+    alpha.values.reserve(std::size_t(shape.width()) * std::size_t(shape.height()));
     for (int y = 0; y < shape.height(); ++y) {
         const auto* pixels = reinterpret_cast<const QRgb*>(shape.constScanLine(y));
-        std::transform(pixels, pixels + shape.width(), std::back_inserter(alpha),
+        std::transform(pixels, pixels + shape.width(), std::back_inserter(alpha.values),
                        [](QRgb pixel) { return float(qAlpha(pixel)) / 255; });
     }
     return alpha;
 }
 
-QImage Colored(const std::vector<float>& alpha, const QSize& size, QRgb color)
+QImage Colored(const Plane& alpha, QRgb color)
 {
-    QImage image(size, QImage::Format_RGBA64_Premultiplied);
+    QImage image(alpha.width, alpha.height, QImage::Format_RGBA64_Premultiplied);
     const QRgba64 opaque = QColor::fromRgba(color | 0xFF000000u).rgba64();
     const double whole = qAlpha(color) / 255.0;
-    const float* share = alpha.data();
-    for (int y = 0; y < size.height(); ++y) {
+    for (int y = 0; y < alpha.height; ++y) {
+        const float* shares = alpha.Row(y);
         auto* pixels = reinterpret_cast<QRgba64*>(image.scanLine(y));
-        for (int x = 0; x < size.width(); ++x) {
-            const double part = std::clamp(double(*share++) * whole, 0.0, 1.0);
+        for (int x = 0; x < alpha.width; ++x) {
+            const double part = std::clamp(double(shares[x]) * whole, 0.0, 1.0);
             const auto level = [part](int component) { return quint16(component * part + 0.5); };
             pixels[x] = QRgba64::fromRgba64(level(opaque.red()), level(opaque.green()),
                                             level(opaque.blue()), level(0xFFFF));
@@ -86,19 +123,14 @@ QImage Colored(const std::vector<float>& alpha, const QSize& size, QRgb color)
 
 QImage SoftShadow(const QImage& shape, double deviationX, double deviationY, QRgb color)
 {
-    std::vector<float> alpha = AlphaOf(shape);
-    const int width = shape.width();
-    const int height = shape.height();
-    const Box across = Box::Of(deviationX);
-    const Box along = Box::Of(deviationY);
-    std::vector<float> line;
-    for (int pass = 0; pass < kPasses; ++pass) {
-        for (int y = 0; deviationX > 0 && y < height; ++y)
-            Soften(alpha.data() + std::ptrdiff_t(y) * width, width, 1, across, line);
-        for (int x = 0; deviationY > 0 && x < width; ++x)
-            Soften(alpha.data() + x, height, width, along, line);
+    Plane alpha = AlphaOf(shape);
+    for (const double deviation : {deviationY, deviationX}) {
+        const Box box = Box::Of(deviation);
+        for (int pass = 0; deviation > 0 && pass < kPasses; ++pass)
+            alpha = Softened(alpha, box);
+        alpha = Transposed(alpha);
     }
-    return Colored(alpha, shape.size(), color);
+    return Colored(alpha, color);
 }
 
 } // namespace nle

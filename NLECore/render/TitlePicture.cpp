@@ -19,6 +19,8 @@ namespace {
 constexpr int kLaidSize = 256;
 /// A line of this width is never broken.
 constexpr double kEndless = 1e7;
+/// A piece of a line goes on to the end of a word with so many elements.
+constexpr int kPieceElements = 1000;
 /// Shadows and outlines end within so many standard deviations.
 constexpr double kShadowReach = 3;
 
@@ -108,6 +110,13 @@ bool IsVisible(std::uint32_t argb)
     return argb >> 24 != 0;
 }
 
+QImage Canvas(const QSize& size, QImage::Format format)
+{
+    QImage canvas(size, format);
+    canvas.fill(Qt::transparent);
+    return canvas;
+}
+
 bool IsHorizontal(TitleRoll roll)
 {
     return roll == TitleRoll::Left || roll == TitleRoll::Right;
@@ -131,6 +140,7 @@ TitleLayout::TitleLayout(const TitleLook& look, NLESize picture) : m_look(look),
 void TitleLayout::LayOut(double width)
 {
     const QFont font = FontOf(m_look);
+    Shapes shapes;
     double top = 0;
     for (const QString& paragraph : m_look.text.split(QLatin1Char('\n'))) {
         QTextLayout layout(paragraph, font);
@@ -149,27 +159,35 @@ void TitleLayout::LayOut(double width)
             const QTextLine line = layout.lineAt(i);
             // Behind the last letter there is nothing to be apart from.
             Line laid = {line.naturalTextRect().adjusted(0, 0, -last, 0), {}, {}, {}};
-            laid.letters.setFillRule(Qt::WindingFill);
             for (const QGlyphRun& run : line.glyphRuns())
-                AddRun(run, laid);
+                AddRun(run, shapes, laid);
             m_lines.push_back(std::move(laid));
         }
     }
 }
 
-void TitleLayout::AddRun(const QGlyphRun& run, Line& line)
+void TitleLayout::AddRun(const QGlyphRun& run, Shapes& shapes, Line& line)
 {
     const QRawFont font = run.rawFont();
     const QVector<quint32> glyphs = run.glyphIndexes();
     const QVector<QPointF> places = run.positions();
     QVector<quint32> shapeless;
     QVector<QPointF> shapelessPlaces;
+    QHash<quint32, QPainterPath>& known = shapes[font];
     for (int i = 0; i < glyphs.size(); ++i) {
-        const QPainterPath shape = font.pathForGlyph(glyphs[i]);
+        if (!known.contains(glyphs[i]))
+            known.insert(glyphs[i], font.pathForGlyph(glyphs[i]));
+        const QPainterPath& shape = known[glyphs[i]];
         const QRectF around = font.boundingRect(glyphs[i]).translated(places[i]);
+        const bool isBlank = shape.isEmpty() && around.isEmpty();
+        if (line.letters.empty() ||
+            (isBlank && line.letters.back().elementCount() > kPieceElements)) {
+            line.letters.emplace_back();
+            line.letters.back().setFillRule(Qt::WindingFill);
+        }
         if (!shape.isEmpty()) {
-            line.letters.addPath(shape.translated(places[i]));
-        } else if (!around.isEmpty()) {
+            line.letters.back().addPath(shape.translated(places[i]));
+        } else if (!isBlank) {
             shapeless.append(glyphs[i]);
             shapelessPlaces.append(places[i]);
             line.ink |= around;
@@ -192,8 +210,11 @@ void TitleLayout::Align()
         const double left = (width - line.text.width()) * ShareBefore(int(m_look.alignment));
         const double shift = left - line.text.x();
         line.text.translate(shift, 0);
-        line.letters.translate(shift, 0);
-        line.ink = line.ink.translated(shift, 0) | line.letters.boundingRect();
+        line.ink.translate(shift, 0);
+        for (QPainterPath& piece : line.letters) {
+            piece.translate(shift, 0);
+            line.ink |= piece.boundingRect();
+        }
         for (QGlyphRun& run : line.pictures) {
             QVector<QPointF> places = run.positions();
             for (QPointF& place : places)
@@ -247,72 +268,102 @@ QRect TitleLayout::Bounds(const QSize& size) const
 
 QImage TitleLayout::Draw(const QRect& part, const QSize& size, QImage::Format format) const
 {
-    QImage image(part.size(), format);
-    image.fill(Qt::transparent);
+    const QTransform toPixels = ToPixels(size);
+    const QMargins margins = ShadowMargins(toPixels);
+    const QRect around = part.marginsAdded(margins);
+    QImage lines = Canvas(around.size(), format);
+    {
+        QPainter painter(&lines);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter.setTransform(toPixels * QTransform::fromTranslate(-around.x(), -around.y()));
+        DrawLines(painter, toPixels.inverted().mapRect(QRectF(around)));
+    }
+    if (m_box.isEmpty() && !IsVisible(m_look.shadowColor))
+        return lines;
+    QImage image = Canvas(part.size(), format);
     QPainter painter(&image);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    const QTransform toPart = ToPixels(size) * QTransform::fromTranslate(-part.x(), -part.y());
-    painter.setTransform(toPart);
-    if (!m_box.isEmpty()) {
-        const double radius = m_look.boxRadius * kLaidSize;
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor::fromRgba(m_look.boxColor));
-        painter.drawRoundedRect(m_box, radius, radius);
-    }
-    if (IsVisible(m_look.shadowColor)) {
-        painter.resetTransform();
-        DrawShadow(painter, part, size);
-        painter.setTransform(toPart);
-    }
-    DrawLines(painter, toPart.inverted().mapRect(QRectF(image.rect())));
+    if (!m_box.isEmpty())
+        DrawBox(painter, toPixels * QTransform::fromTranslate(-part.x(), -part.y()));
+    if (IsVisible(m_look.shadowColor))
+        DrawShadow(painter, lines, margins, toPixels);
+    painter.drawImage(-margins.left(), -margins.top(), lines);
     return image;
+}
+
+void TitleLayout::DrawBox(QPainter& painter, const QTransform& transform) const
+{
+    const double radius = m_look.boxRadius * kLaidSize;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromRgba(m_look.boxColor));
+    painter.setTransform(transform);
+    painter.drawRoundedRect(m_box, radius, radius);
+    painter.resetTransform();
 }
 
 void TitleLayout::DrawLines(QPainter& painter, const QRectF& part) const
 {
-    const double outline = m_look.outline * kLaidSize;
-    const bool hasOutline = outline > 0 && IsVisible(m_look.outlineColor);
-    const QPen pen(QColor::fromRgba(m_look.outlineColor), 2 * outline, Qt::SolidLine, Qt::RoundCap,
-                   Qt::RoundJoin);
+    // No outline covers letters that were drawn before.
+    if (m_look.outline > 0 && IsVisible(m_look.outlineColor))
+        DrawOutlines(painter, part);
     const QColor color = QColor::fromRgba(m_look.color);
-    const auto forEachLine = [&](const auto& draw) {
-        for (const Line& line : m_lines) {
-            if (line.ink.adjusted(-outline, -outline, outline, outline).intersects(part))
-                draw(line);
-        }
-    };
-    // No line's outline covers letters of the one before.
-    if (hasOutline)
-        forEachLine([&](const Line& line) { painter.strokePath(line.letters, pen); });
     painter.setPen(color);
-    forEachLine([&](const Line& line) {
-        painter.fillPath(line.letters, color);
+    for (const Line& line : m_lines) {
+        for (const QPainterPath& piece : line.letters) {
+            if (piece.controlPointRect().intersects(part))
+                painter.fillPath(piece, color);
+        }
         for (const QGlyphRun& run : line.pictures)
             painter.drawGlyphRun(QPointF(0, 0), run);
-    });
+    }
 }
 
-void TitleLayout::DrawShadow(QPainter& painter, const QRect& part, const QSize& size) const
+void TitleLayout::DrawOutlines(QPainter& painter, const QRectF& part) const
 {
-    const QTransform toPixels = ToPixels(size);
+    // In pixels: the fine steps of curves as large as they were laid out take long to stroke.
+    const QTransform toPixels = painter.transform();
+    const double outline = m_look.outline * kLaidSize;
+    const double width = 2 * outline * std::sqrt(toPixels.m11() * toPixels.m22());
+    const QPen pen(QColor::fromRgba(m_look.outlineColor), width, Qt::SolidLine, Qt::RoundCap,
+                   Qt::RoundJoin);
+    painter.resetTransform();
+    for (const Line& line : m_lines) {
+        for (const QPainterPath& piece : line.letters) {
+            const QRectF reach =
+                piece.controlPointRect().adjusted(-outline, -outline, outline, outline);
+            if (reach.intersects(part))
+                painter.strokePath(toPixels.map(piece), pen);
+        }
+    }
+    painter.setTransform(toPixels);
+}
+
+QPoint TitleLayout::ShadowShift(const QTransform& toPixels) const
+{
+    return QPoint(qRound(m_look.shadow.x * kLaidSize * toPixels.m11()),
+                  qRound(m_look.shadow.y * kLaidSize * toPixels.m22()));
+}
+
+QMargins TitleLayout::ShadowMargins(const QTransform& toPixels) const
+{
+    if (!IsVisible(m_look.shadowColor))
+        return {};
+    const double reach = m_look.shadowBlur * kLaidSize * kShadowReach;
+    const int x = int(std::ceil(reach * toPixels.m11())) + 1;
+    const int y = int(std::ceil(reach * toPixels.m22())) + 1;
+    const QPoint shift = ShadowShift(toPixels);
+    return QMargins(std::max(0, x + shift.x()), std::max(0, y + shift.y()),
+                    std::max(0, x - shift.x()), std::max(0, y - shift.y()));
+}
+
+void TitleLayout::DrawShadow(QPainter& painter, const QImage& lines, const QMargins& margins,
+                             const QTransform& toPixels) const
+{
     const double deviation = m_look.shadowBlur * kLaidSize;
-    const double deviationX = deviation * toPixels.m11();
-    const double deviationY = deviation * toPixels.m22();
-    const int marginX = int(std::ceil(deviationX * kShadowReach)) + 1;
-    const int marginY = int(std::ceil(deviationY * kShadowReach)) + 1;
-    const QRect around = part.adjusted(-marginX, -marginY, marginX, marginY);
-    QImage shape(around.size(), QImage::Format_ARGB32_Premultiplied);
-    shape.fill(Qt::transparent);
-    QPainter shapePainter(&shape);
-    shapePainter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    const QTransform toShape =
-        QTransform::fromTranslate(m_look.shadow.x * kLaidSize, m_look.shadow.y * kLaidSize) *
-        toPixels * QTransform::fromTranslate(-around.x(), -around.y());
-    shapePainter.setTransform(toShape);
-    DrawLines(shapePainter, toShape.inverted().mapRect(QRectF(shape.rect())));
-    shapePainter.end();
-    painter.drawImage(-marginX, -marginY,
-                      SoftShadow(shape, deviationX, deviationY, m_look.shadowColor));
+    const QImage shape = lines.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    painter.drawImage(ShadowShift(toPixels) - QPoint(margins.left(), margins.top()),
+                      SoftShadow(shape, deviation * toPixels.m11(), deviation * toPixels.m22(),
+                                 m_look.shadowColor));
 }
 
 void TitlePainter::LayOut(const TitleLook& look, NLESize picture, const QSize& size)
@@ -337,10 +388,10 @@ QRect TitlePainter::Place(const TitleMoment& moment, NLESize picture, const QSiz
     return m_bounds.isEmpty() ? QRect() : m_bounds.translated(Moved(moment));
 }
 
-QPoint TitlePainter::Move(const TitleMoment& moment, NLESize picture, const QSize& size)
+QRectF TitlePainter::Lines(const TitleMoment& moment, NLESize picture, const QSize& size)
 {
     LayOut(moment.look, picture, size);
-    return Moved(moment);
+    return m_bounds.isEmpty() ? QRectF() : m_layout->Lines(size).translated(Moved(moment));
 }
 
 TitleShot TitlePainter::Draw(const TitleMoment& moment, NLESize picture, const QSize& size,
@@ -395,18 +446,22 @@ QPoint TitlePainter::Moved(const TitleMoment& moment) const
     return QPoint(qRound(x), qRound(y));
 }
 
-// The title is cut into pieces as large as the picture; a few of them show.
+// A title that stands is one piece where the picture has room for it. One that rolls has several,
+// so that what comes next takes little time.
 std::vector<QRect> TitlePainter::PlacesOf(const QRect& shown) const
 {
+    constexpr int pieces = 4;
+    const bool rolls = m_look.roll != TitleRoll::None;
+    const bool isHorizontal = IsHorizontal(m_look.roll);
+    const int width = rolls && isHorizontal ? m_size.width() / pieces + 1 : m_size.width();
+    const int height = rolls && !isHorizontal ? m_size.height() / pieces + 1 : m_size.height();
     const auto first = [](int from, int start, int side) {
         return start + (from - start) / side * side;
     };
     std::vector<QRect> places;
-    for (int y = first(shown.y(), m_bounds.y(), m_size.height()); y <= shown.bottom();
-         y += m_size.height()) {
-        for (int x = first(shown.x(), m_bounds.x(), m_size.width()); x <= shown.right();
-             x += m_size.width())
-            places.push_back(QRect(QPoint(x, y), m_size) & m_bounds);
+    for (int y = first(shown.y(), m_bounds.y(), height); y <= shown.bottom(); y += height) {
+        for (int x = first(shown.x(), m_bounds.x(), width); x <= shown.right(); x += width)
+            places.push_back(QRect(x, y, width, height) & m_bounds);
     }
     return places;
 }

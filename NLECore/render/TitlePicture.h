@@ -4,8 +4,10 @@
 #include "NLECore/scene/Title.h"
 
 #include <QGlyphRun>
+#include <QHash>
 #include <QImage>
 #include <QPainterPath>
+#include <QRawFont>
 #include <QRect>
 #include <QTransform>
 
@@ -29,6 +31,8 @@ public:
     /// The pixels with anything in them, of a picture that is drawn \a size large; they may lie
     /// outside of it.
     QRect Bounds(const QSize& size) const;
+    /// Where its lines lie then, as high as the font is and without anything around them.
+    QRectF Lines(const QSize& size) const { return ToPixels(size).mapRect(m_block); }
     /// What lies in the pixels \a part of a picture that is drawn \a size large.
     QImage Draw(const QRect& part, const QSize& size, QImage::Format format) const;
 
@@ -36,21 +40,30 @@ private:
     // All in units of the letters that were laid out, from the corner of the block of lines.
     struct Line
     {
-        QRectF text; ///< as wide as the letters run, as high as the font
-        QPainterPath letters;
-        std::vector<QGlyphRun> pictures; ///< signs that have no shape, such as coloured ones
-        QRectF ink;                      ///< of both, before outline and shadow
+        QRectF text;                       ///< as wide as the letters run, as high as the font
+        std::vector<QPainterPath> letters; ///< a few words each, so that not all need be drawn
+        std::vector<QGlyphRun> pictures;   ///< signs that have no shape, such as coloured ones
+        QRectF ink;                        ///< of both, before outline and shadow
     };
 
+    /// Shapes of the glyphs of each font that were asked for.
+    using Shapes = QHash<QRawFont, QHash<quint32, QPainterPath>>;
+
     void LayOut(double width);
-    static void AddRun(const QGlyphRun& run, Line& line);
+    static void AddRun(const QGlyphRun& run, Shapes& shapes, Line& line);
     void Align();
     QTransform ToPixels(const QSize& size) const;
     /// How far outline and shadow reach beyond the ink.
     QMarginsF Reach() const;
     /// Letters and their outlines, as far as they lie in \a part.
     void DrawLines(QPainter& painter, const QRectF& part) const;
-    void DrawShadow(QPainter& painter, const QRect& part, const QSize& size) const;
+    void DrawOutlines(QPainter& painter, const QRectF& part) const;
+    void DrawBox(QPainter& painter, const QTransform& transform) const;
+    QPoint ShadowShift(const QTransform& toPixels) const;
+    /// Pixels that have to be drawn around a part because their shadows fall into it.
+    QMargins ShadowMargins(const QTransform& toPixels) const;
+    void DrawShadow(QPainter& painter, const QImage& lines, const QMargins& margins,
+                    const QTransform& toPixels) const;
 
     const TitleLook m_look;
     const NLESize m_picture;
@@ -77,8 +90,8 @@ public:
                    QImage::Format format);
     /// Where all of it lies then, also outside of the picture.
     QRect Place(const TitleMoment& moment, NLESize picture, const QSize& size);
-    /// How far it has moved then from where it stands, in pixels.
-    QPoint Move(const TitleMoment& moment, NLESize picture, const QSize& size);
+    /// Where its lines lie then, as high as the font is; empty without any.
+    QRectF Lines(const TitleMoment& moment, NLESize picture, const QSize& size);
 
 private:
     /// A part of the title as it was drawn.
