@@ -29,8 +29,8 @@ namespace {
 
 using Node = NLEComPtr<INLETimeline>;
 
-constexpr int kFrames = 300;
-constexpr int kRounds = 5;
+constexpr int kFrames = 200;
+constexpr int kRounds = 3;
 constexpr NLESize kSize = {960, 540};
 
 PlayerMaterProvider* Provider()
@@ -140,6 +140,7 @@ void CompareDissolve(const QString& first, const QString& second, const QDir& fo
     std::printf("  melt %.0f frames a second, ratio %.2f; %.1f ms of processor, ratio %.2f\n",
                 kFrames / peer.wall, peer.wall / mine.wall, peer.processor * 1e3 / kFrames,
                 peer.processor / mine.processor);
+    std::fflush(stdout);
 }
 
 /// Milliseconds a frame.

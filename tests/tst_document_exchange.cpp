@@ -367,6 +367,40 @@ private slots:
         QCOMPARE(Remarks(), QList<int>());
     }
 
+    void wipesOfOneTrack()
+    {
+        const Node project = Parse(Mlt(
+            "<producer id='r' mlt_service='color' resource='red'/>"
+            "<producer id='g' mlt_service='color' resource='blue'/>"
+            "<playlist id='1'><entry producer='r' out='29'/></playlist>"
+            "<playlist id='2'><blank length='20'/><entry producer='g' out='39'/></playlist>"
+            "<tractor id='t'><track producer='1'/><track producer='2'/>"
+            "<transition mlt_service='luma' resource='/lumas/HD/luma01.pgm' invert='1' "
+            "softness='0.25' a_track='0' b_track='1' in='20' out='29'/>"
+            "<transition mlt_service='mix' start='-1' a_track='0' b_track='1' in='20' "
+            "out='29'/></tractor><tractor><track producer='t'/><track producer='t'/></tractor>"));
+        QVERIFY(project);
+        Node wipe;
+        for (int index = 0; index < ClipCount(project); ++index) {
+            if (ClipAt(project, index).query<INLETimelineTransition>())
+                wipe = ClipAt(project, index);
+        }
+        QVERIFY(wipe);
+        const auto valueOf = [&wipe](const wchar_t* name) {
+            double value = -1;
+            wipe.query<INLEParameters>()->GetNumber(name, &value);
+            return value;
+        };
+        QCOMPARE(valueOf(L"direction"), 1.0);
+        QCOMPARE(valueOf(L"softness"), 0.25);
+        QCOMPARE(valueOf(L"sound"), 0.0);
+        QCOMPARE(RangeOf(wipe).out, 9);
+        const QImage picture = Frame(project, 25);
+        QCOMPARE(picture.pixelColor(10, 90), QColor(Qt::red));
+        QCOMPARE(picture.pixelColor(310, 90), QColor(Qt::blue));
+        QCOMPARE(Remarks(), QList<int>());
+    }
+
     void leftOut_data()
     {
         QTest::addColumn<QByteArray>("document");

@@ -290,6 +290,13 @@ private slots:
             t.Add(p, t.Trimmed(t.Colour(QColor(40, 90, 160)), 0, 24));
             t.Add(p, t.Trimmed(t.Transition("dissolve"), 0, 17), 7);
         });
+        row("one dissolve after the other", 4, [](const T& t, const Node& p) {
+            t.Add(p, t.Trimmed(t.Colour(QColor(40, 90, 160)), 0, 5));
+            t.Add(p, t.Trimmed(t.Clip(), 5, 21), 3);
+            t.Add(p, t.Trimmed(t.Colour(QColor(120, 120, 120)), 0, 30), 10);
+            t.Add(p, t.Trimmed(t.Transition("dissolve"), 0, 2), 3);
+            t.Add(p, t.Trimmed(t.Transition("dissolve"), 0, 9), 10);
+        });
         row("a clip alone that comes", 3, [](const T& t, const Node& p) {
             t.OnColour(p, t.Clip());
             t.Add(p, t.Trimmed(t.Transition("dissolve"), 0, 24), 0, 1);

@@ -8,6 +8,10 @@
 #include "NLECore/render/TransitionMix.h"
 #include "tests/support/PreviewCacheFixture.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include <functional>
 #include <random>
 
@@ -497,6 +501,47 @@ private slots:
         keptOff->GetLevel(&level);
         QVERIFY(keptOff.query<INLETimelineTransition>());
         QVERIFY(!isEnabled && position == 7 && level == 3);
+    }
+
+    void meetsOnTracksOfOtherPrograms()
+    {
+        const Pair pair = MakePair("dissolve");
+        const Node third = Trimmed(Colour(Qt::white), 0, 39);
+        Add(pair.project, third, 50);
+        Add(pair.project, Trimmed(Transition("push"), 0, 9), 50);
+        const QString path = Path("meeting.otio");
+        QVERIFY(Save(pair.project, path));
+        QJsonObject document = QJsonDocument::fromJson(Contents(path)).object();
+        const QJsonArray tracks = document["tracks"].toObject()["children"].toArray();
+        QStringList items;
+        for (const QJsonValue value : tracks[0].toObject()["children"].toArray()) {
+            const QJsonObject item = value.toObject();
+            items
+                << item["OTIO_SCHEMA"].toString().left(4) +
+                       QString::number(
+                           item["source_range"].toObject()["duration"].toObject()["value"].toInt() +
+                           item["in_offset"].toObject()["value"].toInt());
+        }
+        QCOMPARE(items, QStringList({"Clip30", "Tran10", "Clip25", "Tran5", "Clip35"}));
+        QCOMPARE(tracks.size(), 2); // and the one of transitions
+
+        const Node kept = Load(path);
+        QCOMPARE(ClipCount(kept), 5);
+        for (const int frame : {10, 30, 45, 55, 80})
+            QCOMPARE(Frame(kept, frame), Frame(pair.project, frame));
+
+        // Without what is this engine's own.
+        QFile file(path);
+        QByteArray text = Contents(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(text.replace("\"nle\"", "\"other\""));
+        file.close();
+        const Node foreign = Load(path);
+        QVERIFY(foreign);
+        for (const int frame : {10, 25, 30, 45})
+            QVERIFY(Error(Frame(foreign, frame),
+                          {{QPoint(160, 90), Frame(pair.project, frame).pixelColor(160, 90)}}) <=
+                    1);
     }
 
     void editsTouchWhatTheyChange_data()

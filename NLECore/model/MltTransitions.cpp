@@ -62,7 +62,7 @@ public:
     {
         for (int lane = 0; lane < int(lanes.lanes.size()); ++lane) {
             for (const auto& [position, clip] : lanes.lanes[size_t(lane)].clips)
-                m_lanes[clip] = lane;
+                m_lanes[clip.node] = lane;
         }
     }
 
@@ -89,8 +89,8 @@ private:
     void AddPicture(const LayerTransition& transition, int from, int to)
     {
         const bool isDissolve = transition.Kind() == TransitionKind::Dissolve;
-        const std::optional<MltPattern> pattern = PatternInMlt(*transition.parameters);
-        if (from >= 0 && to >= 0 && (isDissolve || pattern)) {
+        if (from >= 0 && to >= 0 && HasLuma(*transition.parameters)) {
+            const std::optional<MltPattern> pattern = PatternInMlt(*transition.parameters);
             DocumentFilter luma = Effect("luma", m_range);
             luma.properties.emplace_back(QStringLiteral("progressive"), QStringLiteral("1"));
             if (pattern)
@@ -172,6 +172,12 @@ std::optional<ParameterValues> WipeOfMlt(const QString& pattern, bool isInverted
         return values;
     }
     return std::nullopt;
+}
+
+bool HasLuma(const ParameterValues& transition)
+{
+    return TransitionKindOf(transition.Declared()) == TransitionKind::Dissolve ||
+           PatternInMlt(transition);
 }
 
 MltTransitions TransitionsInMlt(const CompositeNode& composite, const DocumentLanes& lanes)

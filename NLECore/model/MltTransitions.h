@@ -37,6 +37,8 @@ struct MltPattern
 /// wipe.
 std::optional<MltPattern> PatternInMlt(const ParameterValues& transition);
 
+/// Whether MLT has a transition of pictures for one between two clips.
+bool HasLuma(const ParameterValues& transition);
 /// The wipe that a pattern of the framework shows, all else at its preset; none for another name.
 std::optional<ParameterValues> WipeOfMlt(const QString& pattern, bool isInverted);
 

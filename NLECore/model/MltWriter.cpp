@@ -49,7 +49,7 @@ std::vector<DocumentFilter> StripFilters(int level, const MixerSettings& mixer)
 bool HoldsTexts(const DocumentLane& lane)
 {
     return std::all_of(lane.clips.begin(), lane.clips.end(),
-                       [](const auto& clip) { return TextOf(*clip.second).has_value(); });
+                       [](const auto& clip) { return TextOf(*clip.second.node).has_value(); });
 }
 
 /// What of a track is off when only \a streams of its clips play; null: nothing.
@@ -243,7 +243,9 @@ QString MltWriter::WriteComposite(const CompositeNode& node, int order)
     int clipOrder = 0;
     for (const NLEComPtr<TimelineNode>& clip : node.Clips())
         ids[clip.get()] = WriteNode(*clip, clipOrder++);
-    const DocumentLanes lanes = LanesOf(node);
+    const LaneJoins joins =
+        JoinsOf(node, [](const LaneJoin& join) { return HasLuma(*join.transition); });
+    const DocumentLanes lanes = LanesOf(node, joins, JoinedClips::Overlap);
     QStringList tracks = {WriteBackground(node)};
     MltTransitions transitions = TransitionsInMlt(node, lanes);
     for (int lane = 0; lane < int(lanes.lanes.size()); ++lane) {
@@ -292,12 +294,12 @@ QString MltWriter::WriteLane(const DocumentLane& lane, const Ids& ids,
     m_xml.writeAttribute(QStringLiteral("id"), id);
     std::int64_t end = 0;
     for (const auto& [position, clip] : lane.clips) {
-        const Placement placement = VisiblePart(*clip);
+        const Placement& placement = clip.placement;
         if (position > end) {
             m_xml.writeEmptyElement(QStringLiteral("blank"));
             m_xml.writeAttribute(QStringLiteral("length"), QString::number(position - end));
         }
-        EntryOf(ids.value(clip), placement.range);
+        EntryOf(ids.value(clip.node), placement.range);
         end = placement.End();
     }
     WriteFilters(filters);

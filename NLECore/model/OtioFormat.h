@@ -22,6 +22,9 @@ inline const QLatin1String kExactFamily("nle:exact:family");
 /// Kind of the track on which other programs find the sound of the track below it; not read.
 inline const QLatin1String kTwin("twin");
 
+/// The type of a transition that mixes the pictures.
+inline const QLatin1String kDissolve("SMPTE_Dissolve");
+
 /// Keys in the bag of a node for what it has no place for, as JSON where it is more than a text.
 inline constexpr const wchar_t* kName = L"otio:name";
 inline constexpr const wchar_t* kMetadata = L"otio:metadata";

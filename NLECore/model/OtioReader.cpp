@@ -4,6 +4,7 @@
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/OtioFormat.h"
 #include "NLECore/model/OtioMarkers.h"
+#include "NLECore/model/TransitionNode.h"
 #include "NLECore/scene/FrameMath.h"
 
 #include <QColor>
@@ -433,19 +434,24 @@ void OtioReader::ReadTrack(const QJsonObject& track, Target target)
     double position = 0;
     QJsonObject transition;
     TimelineNode* last = nullptr;
-    const auto keep = [](const QJsonObject& kept, const wchar_t* key, TimelineNode* node) {
+    const auto leave = [&](const QJsonObject& left) {
+        if (!left.isEmpty())
+            m_nodes.remarks.Add(NLERemark_Transition,
+                                QStringLiteral("transition %1 at frame %2 of %3")
+                                    .arg(NameOf(left))
+                                    .arg(std::llround(position * Fps()))
+                                    .arg(NameOf(track)));
+    };
+    const auto keep = [&leave](const QJsonObject& kept, const wchar_t* key, TimelineNode* node) {
+        leave(kept);
         if (node && !kept.isEmpty())
             SetText(JsonText(QJsonDocument(kept)), key, *node);
     };
     for (const QJsonValue value : List(track, "children")) {
         const QJsonObject item = value.toObject();
         if (IsTransition(item)) {
+            leave(transition);
             transition = item;
-            m_nodes.remarks.Add(NLERemark_Transition,
-                                QStringLiteral("transition %1 at frame %2 of %3")
-                                    .arg(NameOf(item))
-                                    .arg(std::llround(position * Fps()))
-                                    .arg(NameOf(track)));
             continue;
         }
         const double end = std::min(position + SpanOf(item).duration, kLongest);
@@ -455,13 +461,54 @@ void OtioReader::ReadTrack(const QJsonObject& track, Target target)
         } else {
             const size_t before = target.clips.size();
             PlaceItem(item, position, end, target);
-            last = target.clips.size() > before ? target.clips.back().node.get() : nullptr;
-            keep(transition, kTransitionBefore, last);
+            TimelineNode* placed =
+                target.clips.size() > before ? target.clips.back().node.get() : nullptr;
+            const bool isJoined =
+                !transition.isEmpty() && last && placed && Join(transition, *last, *placed, target);
+            if (!isJoined)
+                keep(transition, kTransitionBefore, placed);
+            last = placed;
         }
         transition = {};
         position = end;
     }
     keep(transition, kTransitionAfter, last);
+}
+
+bool OtioReader::Join(const QJsonObject& transition, TimelineNode& before, TimelineNode& after,
+                      const Target& target)
+{
+    const auto frames = [&](const char* name) {
+        return std::llround(Seconds(Child(transition, name)).value_or(0) * Fps());
+    };
+    const std::int64_t head = frames("in_offset");
+    const std::int64_t tail = frames("out_offset");
+    const bool isOwn = PropertiesOf(transition).value(kKind) == kTwin;
+    NLERange first = before.Range();
+    NLERange second = after.Range();
+    const bool isWhole = head >= 0 && tail >= 0 && head + tail > 0 &&
+                         head <= NLERangeLength(first) && tail <= NLERangeLength(second) &&
+                         second.in - head >= 0 &&
+                         (isOwn || (first.out + tail < before.TotalLength() && target.isEnabled &&
+                                    Text(transition, "transition_type") == kDissolve));
+    if (!isWhole)
+        return false;
+    first.out = ClampToInt(double(first.out + tail));
+    second.in = ClampToInt(double(second.in - head));
+    before.SetRange(&first);
+    after.SetRange(&second);
+    after.SetPosition(ClampToInt(double(after.Position() - head)));
+    if (isOwn)
+        return true;
+    NLEComPtr<TransitionNode> node =
+        MakeCom<TransitionNode>(*FindTransition(QStringLiteral("dissolve")));
+    node->ChangeRate(m_nodes.profile.frameRate);
+    const NLERange range = {0, ClampToInt(double(head + tail - 1))};
+    node->SetRange(&range);
+    node->SetPosition(after.Position());
+    node->SetLevel(after.Level());
+    target.clips.push_back({node, INT32_MAX, target.level});
+    return true;
 }
 
 void OtioReader::PlaceItem(const QJsonObject& item, double position, double end,

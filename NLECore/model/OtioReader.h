@@ -60,6 +60,11 @@ private:
     void ReadTracks(const QJsonArray& tracks, std::vector<PlacedNode>& clips);
     void ReadTrack(const QJsonObject& track, Target target);
     void PlaceItem(const QJsonObject& item, double position, double end, const Target& target);
+    /// Lets clips that meet at \a cut overlap where a transition is, which it adds unless it stands
+    /// elsewhere in the document. False where it is none of ours or the clips have no more
+    /// material.
+    bool Join(const QJsonObject& transition, TimelineNode& before, TimelineNode& after,
+              const Target& target);
     void PlaceTrack(const QJsonObject& track, const Target& target);
     void TakeEffects(const QJsonObject& item, bool isOwn, TimelineNode& node);
     /// Keeps what other programs wrote and the node has no place for.

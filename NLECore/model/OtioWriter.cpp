@@ -121,6 +121,48 @@ QJsonObject GapOf(std::int64_t frames, const NLERational& rate)
     return gap;
 }
 
+/// Clips that meet on one track where a transition leads from one to the other.
+LaneJoins JoinsOnTracks(const CompositeNode& node)
+{
+    // What is frozen shows one frame wherever it is cut.
+    const auto canMeet = [](const LaneJoin& join) {
+        return !join.from->IsFrozen() && !join.to->IsFrozen() && join.length > 1;
+    };
+    LaneJoins joins = JoinsOf(node, canMeet);
+    for (bool isDone = false; !isDone;) {
+        const DocumentLanes lanes = LanesOf(node, joins, JoinedClips::Meet);
+        const auto parted = std::remove_if(joins.begin(), joins.end(), [&](const LaneJoin& join) {
+            return std::none_of(
+                lanes.lanes.begin(), lanes.lanes.end(), [&join](const DocumentLane& lane) {
+                    const auto to = lane.clips.find(join.Cut());
+                    return to != lane.clips.end() && to->second.node == join.to &&
+                           to != lane.clips.begin() && std::prev(to)->second.node == join.from;
+                });
+        });
+        isDone = parted == joins.end();
+        joins.erase(parted, joins.end());
+    }
+    return joins;
+}
+
+QJsonObject TransitionOf(const LaneJoin& join)
+{
+    const double rate = ExactRate(join.from->FrameRate());
+    const bool isDissolve =
+        TransitionKindOf(join.transition->Declared()) == TransitionKind::Dissolve;
+    QJsonObject transition =
+        Object("Transition.1", QLatin1String(join.transition->Declared().names.name));
+    transition[QStringLiteral("transition_type")] =
+        isDissolve ? kDissolve : QStringLiteral("Custom_Transition");
+    transition[QStringLiteral("in_offset")] = Time(double(join.Cut() - join.position), rate);
+    transition[QStringLiteral("out_offset")] =
+        Time(double(join.position + join.length - join.Cut()), rate);
+    // The transition itself stands among what does not play.
+    transition[QStringLiteral("metadata")] =
+        QJsonObject{{kOwn, QJsonObject{{QStringLiteral("kind"), kTwin}}}};
+    return transition;
+}
+
 void AppendTransition(const TimelineNode& clip, const wchar_t* key, QJsonArray& children)
 {
     const QJsonObject transition = BagJson(clip, key).object();
@@ -152,21 +194,22 @@ QJsonObject OtioWriter::Stack(const CompositeNode& node)
     Orders orders;
     for (const NLEComPtr<TimelineNode>& clip : node.Clips())
         orders[clip.get()] = orders.size();
-    const DocumentLanes lanes = LanesOf(node);
+    const LaneJoins joins = JoinsOnTracks(node);
+    const DocumentLanes lanes = LanesOf(node, joins, JoinedClips::Meet);
     QJsonArray tracks;
     QJsonArray twins;
     for (const DocumentLane& lane : lanes.lanes) {
         Clips sounds;
         bool hasPicture = false;
         for (const auto& [position, clip] : lane.clips) {
-            hasPicture = hasPicture || HasPicture(*clip);
-            if (HasSound(*clip))
+            hasPicture = hasPicture || HasPicture(*clip.node);
+            if (HasSound(*clip.node))
                 sounds[position] = clip;
         }
         const bool isSound = !hasPicture || lane.streams == NLERender_AudioOnly;
-        tracks.append(Track(lane.clips, orders, isSound, false));
+        tracks.append(Track(lane.clips, joins, orders, isSound, false));
         if (!isSound && lane.streams == NLERender_All && !sounds.empty())
-            twins.append(Track(sounds, orders, true, true));
+            twins.append(Track(sounds, joins, orders, true, true));
     }
     for (const QJsonValue twin : twins)
         tracks.append(twin);
@@ -178,20 +221,28 @@ QJsonObject OtioWriter::Stack(const CompositeNode& node)
     return stack;
 }
 
-QJsonObject OtioWriter::Track(const Clips& clips, const Orders& orders, bool isSound, bool isTwin)
+QJsonObject OtioWriter::Track(const Clips& clips, const LaneJoins& joins, const Orders& orders,
+                              bool isSound, bool isTwin)
 {
     QJsonArray children;
     std::int64_t end = 0;
-    for (const auto& [position, clip] : clips) {
-        const Placement placement = VisiblePart(*clip);
+    const TimelineNode* before = nullptr;
+    for (const auto& [position, placed] : clips) {
+        const TimelineNode& clip = *placed.node;
         if (position > end)
-            children.append(GapOf(position - end, clip->FrameRate()));
+            children.append(GapOf(position - end, clip.FrameRate()));
+        const auto join = std::find_if(joins.begin(), joins.end(), [&](const LaneJoin& one) {
+            return one.from == before && one.to == &clip;
+        });
+        if (join != joins.end())
+            children.append(TransitionOf(*join));
+        else if (!isTwin)
+            AppendTransition(clip, kTransitionBefore, children);
+        children.append(Item(clip, placed.placement.range, orders.value(&clip), isTwin));
         if (!isTwin)
-            AppendTransition(*clip, kTransitionBefore, children);
-        children.append(Item(*clip, placement.range, orders.value(clip), isTwin));
-        if (!isTwin)
-            AppendTransition(*clip, kTransitionAfter, children);
-        end = placement.End();
+            AppendTransition(clip, kTransitionAfter, children);
+        end = placed.placement.End();
+        before = &clip;
     }
     QJsonObject track = PlayingObject("Track.1", QString());
     track[QStringLiteral("kind")] = isSound ? QStringLiteral("Audio") : QStringLiteral("Video");

@@ -23,11 +23,13 @@ public:
 
 private:
     using Orders = QHash<const TimelineNode*, int>;
-    using Clips = std::map<std::int64_t, const TimelineNode*>;
+    using Clips = std::map<std::int64_t, LaneClip>;
 
     QJsonObject Timeline(const CompositeNode& node);
     QJsonObject Stack(const CompositeNode& node);
-    QJsonObject Track(const Clips& clips, const Orders& orders, bool isSound, bool isTwin);
+    /// \a joins are those of the clips that meet.
+    QJsonObject Track(const Clips& clips, const LaneJoins& joins, const Orders& orders,
+                      bool isSound, bool isTwin);
     QJsonObject Unplaced(const std::vector<const TimelineNode*>& clips, const Orders& orders);
     /// A node on a track, with the part of it that shows.
     QJsonObject Item(const TimelineNode& node, const NLERange& range, int order, bool isTwin);
