@@ -295,6 +295,7 @@ private slots:
         const QRectF plain = LinesAt({center, middle}, 3);
         row("in the middle", "aaa", {}, plain);
         row("top left", "aaa", {{L"alignment", 0}, {L"place", 0}}, LinesAt({left, top}, 3));
+        row("bottom left", "aaa", {{L"alignment", 0}, {L"place", 2}}, LinesAt({left, bottom}, 3));
         row("bottom right", "aaa", {{L"alignment", 2}, {L"place", 2}}, LinesAt({right, bottom}, 3));
         row("without a margin", "aaa", {{L"alignment", 0}, {L"place", 0}, {L"margin", 0}},
             LinesAt({0, 0}, 3));
@@ -620,6 +621,19 @@ private slots:
         const QPointF middle(kWidth / 2, kHeight / 2);
         const QRectF turned(middle - (plain.bottomRight() - middle) / 2, plain.size() / 2);
         QCOMPARE(Difference(Ink(Shown(title)), turned, 1.5), QString());
+    }
+
+    void effectsApplyToTheWholePicture()
+    {
+        const Numbers left = {{L"alignment", 0}, {L"fade-in", 0.4}};
+        const Node title = Title("aaa", left);
+        Node mirror;
+        QCOMPARE(m_factory->CreateEffect(L"mirror", mirror.put()), S_OK);
+        QCOMPARE(title.query<INLEEffects>()->AddEffect(mirror.get(), -1), S_OK);
+        const QRectF plain = Ink(Shown(Title("aaa", left), 10));
+        const QRectF mirrored(kWidth - 1 - plain.right(), plain.top(), plain.width(),
+                              plain.height());
+        QCOMPARE(Difference(Ink(Shown(title, 10)), mirrored, 1), QString());
     }
 
     void numbersCanBeAnimated()
