@@ -78,6 +78,16 @@ TitleMoment TextMoment(const Layer& layer, int frame)
     return moment;
 }
 
+/// Where lines are about that no font was there to lay out.
+double UsualTop(const TitleLook& look, const QSize& picture)
+{
+    constexpr double lineHeight = 1.2; // in sizes
+    const double block =
+        (look.text.count(QLatin1Char('\n')) + 1) * lineHeight * look.size * picture.height();
+    const double margin = look.margin * picture.height();
+    return margin + (picture.height() - 2 * margin - block) * int(look.place) / 2;
+}
+
 /// The part of a picture at whose top the lines of a text lie, with the padding of their box.
 QRectF TextArea(TitlePainter& painter, const Layer& layer, int frame, const QSize& picture)
 {
@@ -90,7 +100,8 @@ QRectF TextArea(TitlePainter& painter, const Layer& layer, int frame, const QSiz
     const double sides[] = {margin, (picture.width() - lines.width()) / 2,
                             picture.width() - margin - lines.width()};
     const double moved = lines.isEmpty() ? 0 : lines.x() - sides[size_t(look.alignment)];
-    return QRectF(margin - pad + moved, lines.y() - pad, picture.width() - 2 * (margin - pad),
+    const double top = lines.isEmpty() ? UsualTop(look, picture) : lines.y();
+    return QRectF(margin - pad + moved, top - pad, picture.width() - 2 * (margin - pad),
                   picture.height());
 }
 
