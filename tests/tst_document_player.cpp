@@ -251,9 +251,9 @@ private slots:
             t.OnColour(p, inner);
             Set(inner, &INLETransform::SetScale, &kHalf);
         });
-        const auto transition = [&row](const char* title, const char* name, double most,
+        const auto transition = [&row](const char* heading, const char* name, double most,
                                        const Fill& change) {
-            row(title, most, [name, change](const T& t, const Node& p) {
+            row(heading, most, [name, change](const T& t, const Node& p) {
                 t.Add(p, t.Trimmed(t.Colour(QColor(40, 90, 160)), 0, 24));
                 t.Add(p, t.Trimmed(t.Clip(), 5, 40), 7);
                 const Node node = t.Transition(name);

@@ -3,6 +3,7 @@
 
 #include "NLECore/render/SoftShadow.h"
 
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QRawFont>
@@ -99,6 +100,17 @@ QTextOption OptionOf(const TitleLook& look)
     return option;
 }
 
+/// Lays a text out for nothing. Fonts that lend letters to others count in full only once they were
+/// used: without this, the first layout in a process may differ from the next.
+void LendLetters(const QString& text, const QFont& font, const QTextOption& option)
+{
+    QTextLayout layout(text, font);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
+}
+
 /// Share of what is left over that comes before.
 double ShareBefore(int alignment)
 {
@@ -140,9 +152,12 @@ TitleLayout::TitleLayout(const TitleLook& look, NLESize picture) : m_look(look),
 void TitleLayout::LayOut(double width)
 {
     const QFont font = FontOf(m_look);
+    // Lines are as high as the font says; what another one lends may be higher.
+    const QFontMetricsF metrics(font);
     Shapes shapes;
     double top = 0;
     for (const QString& paragraph : m_look.text.split(QLatin1Char('\n'))) {
+        LendLetters(paragraph, font, OptionOf(m_look));
         QTextLayout layout(paragraph, font);
         layout.setTextOption(OptionOf(m_look));
         const auto spaced = Spacing(paragraph, font, m_look.letterSpacing);
@@ -151,14 +166,16 @@ void TitleLayout::LayOut(double width)
         layout.beginLayout();
         for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
             line.setLineWidth(width);
-            line.setPosition(QPointF(0, top));
-            top += line.height() * m_look.lineSpacing;
+            line.setPosition(QPointF(0, top + metrics.ascent() - line.ascent()));
+            top += metrics.height() * m_look.lineSpacing;
         }
         layout.endLayout();
         for (int i = 0; i < layout.lineCount(); ++i) {
             const QTextLine line = layout.lineAt(i);
             // Behind the last letter there is nothing to be apart from.
-            Line laid = {line.naturalTextRect().adjusted(0, 0, -last, 0), {}, {}, {}};
+            const QRectF text = line.naturalTextRect();
+            const double above = line.y() + line.ascent() - metrics.ascent();
+            Line laid = {{text.x(), above, text.width() - last, metrics.height()}, {}, {}, {}};
             for (const QGlyphRun& run : line.glyphRuns())
                 AddRun(run, shapes, laid);
             m_lines.push_back(std::move(laid));
