@@ -8,6 +8,10 @@
 
 #include <limits>
 
+/// Numbers of parameters by their names.
+using Numbers = std::vector<std::pair<const wchar_t*, double>>;
+Q_DECLARE_METATYPE(Numbers)
+
 namespace {
 
 constexpr int kCapacity = 64;
@@ -130,6 +134,9 @@ private slots:
                                  "lut", "blur", "sharpen", "chroma-key", "crop", "mirror",
                                  "vignette", "noise-reduction", "black-and-white", "drop-shadow"})
             QVERIFY2(names.removeAll(name) == 1, name);
+        QCOMPARE(catalogue->GetCount(NLECatalog_AudioFilter, &count), S_OK);
+        QCOMPARE(count, 7);
+        QCOMPARE(catalogue->GetCount(NLECatalog_Effect, &count), S_OK);
         Node effect;
         QCOMPARE(Nodes()->CreateEffect(L"no such effect", effect.put()), E_INVALIDARG);
         QVERIFY(!effect);
@@ -300,6 +307,93 @@ private slots:
         QCOMPARE(Frame(Load(Path("moved/film.mlt")), 0).pixel(9, 9), qRgb(0, 128, 255));
         QVERIFY(QFile::remove(Path("moved/tables/blue.cube")));
         QCOMPARE(Frame(Load(Path("moved/film.mlt")), 0).pixel(9, 9), qRgb(255, 0, 0));
+    }
+
+    void soundsOfEffects_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<double>("hertz");
+        QTest::addColumn<Numbers>("numbers");
+        QTest::addColumn<double>("lowest");
+        QTest::addColumn<double>("highest");
+        // Gains of a tone of half of full scale: its peak is at -6 dB, its loudness at -9.
+        const auto row = [](const char* name, double hertz, const Numbers& numbers, double lowest,
+                            double highest) {
+            QTest::addRow("%s at %g Hz", name, hertz)
+                << QByteArray(name) << hertz << numbers << lowest << highest;
+        };
+        row("compressor", 440, {{L"threshold", -21}, {L"ratio", 4}}, 0.27, 0.45);
+        row("limiter", 440, {{L"limit", -12}}, 0.47, 0.51);
+        row("gate", 440, {{L"threshold", -3}, {L"range", 20}}, 0.09, 0.13);
+        row("gate", 440, {{L"threshold", -20}}, 0.99, 1.01);
+        row("high-pass", 440, {{L"frequency", 4000}}, 0.01, 0.014);
+        row("high-pass", 440, {{L"frequency", 44}}, 0.98, 1.02);
+        row("low-pass", 440, {{L"frequency", 110}}, 0.055, 0.068);
+        row("echo", 440, {{L"delay", 500}, {L"level", -6}, {L"repeats", 1}}, 1.48, 1.52);
+    }
+    /// Alone, copied and from a document, read on from the start or in its middle.
+    void soundsOfEffects()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(double, hertz);
+        QFETCH(Numbers, numbers);
+        QFETCH(double, lowest);
+        QFETCH(double, highest);
+        TestClip made;
+        made.codec.clear();
+        made.audioCodec = "pcm_s16le";
+        made.toneHz = hertz;
+        made.frames = 100;
+        QCOMPARE(MakeTestClip(Path("tone.wav"), made), QString());
+        const Node clip = Media(Path("tone.wav"));
+        const Node project = ProjectWith(clip);
+        constexpr int frame = 60;
+        const double before = Loudness(Sound(project, frame)[0]);
+        QVERIFY(std::abs(before - kToneLoudness) < 0.01);
+        Node filter;
+        QCOMPARE(Nodes()->CreateAudioFilter(QString::fromLatin1(name).toStdWString().c_str(),
+                                            filter.put()),
+                 S_OK);
+        QCOMPARE(NameOf(filter), QString::fromLatin1(name));
+        for (const auto& [parameter, number] : numbers)
+            QCOMPARE(ParametersOf(filter)->SetNumber(parameter, number), S_OK);
+        QCOMPARE(clip.query<INLEEffects>()->AddEffect(filter.get(), -1), S_OK);
+        Node copy;
+        QCOMPARE(project->Clone(true, copy.put()), S_OK);
+        QVERIFY(Save(project, Path("sound.mlt")));
+        for (const Node& node : {project, copy, Load(Path("sound.mlt"))}) {
+            const double gain = Loudness(Sound(node, frame)[0]) / before;
+            QVERIFY2(gain >= lowest && gain <= highest, qPrintable(QString::number(gain)));
+        }
+        filter->SetEnabled(false);
+        QCOMPARE(Loudness(Sound(project, frame)[0]), before);
+    }
+
+    /// A tone that begins goes on in its reverb's reflections, which come later.
+    void reverb()
+    {
+        TestClip made;
+        made.codec.clear();
+        made.audioCodec = "pcm_s16le";
+        made.toneStart = 1;
+        made.frames = 75;
+        QCOMPARE(MakeTestClip(Path("late.wav"), made), QString());
+        const Node clip = Media(Path("late.wav"));
+        const Node project = ProjectWith(clip);
+        const Stereo plain = Sound(project, 25);
+        const Stereo plainLater = Sound(project, 40);
+        Node filter;
+        QCOMPARE(Nodes()->CreateAudioFilter(L"reverb", filter.put()), S_OK);
+        ParametersOf(filter)->SetNumber(L"delay", 100);
+        QCOMPARE(clip.query<INLEEffects>()->AddEffect(filter.get(), -1), S_OK);
+        const auto difference = [](const Stereo& a, const Stereo& b) {
+            double most = 0;
+            for (size_t i = 0; i < a[0].size(); ++i)
+                most = std::max(most, std::abs(a[0][i] - b[0][i]));
+            return most;
+        };
+        QVERIFY(difference(Sound(project, 25), plain) < 0.001);
+        QVERIFY(difference(Sound(project, 40), plainLater) > 0.02);
     }
 
     /// A single clip of a project goes to the encoder as it was decoded, but not with an effect.

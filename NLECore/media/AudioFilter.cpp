@@ -20,8 +20,6 @@ namespace {
 
 /// Samples that go into the filters at a time.
 constexpr int kBlock = 1024;
-/// What the filters hear before the first sample that counts, in parts of a second.
-constexpr int kLeadInDivisor = 4;
 /// Blocks after which filters that give nothing are given up.
 constexpr int kMostSilentBlocks = 200;
 
@@ -36,6 +34,7 @@ struct AudioFilter::Private
     QByteArray description;
     int sampleRate = 0;
     int channels = 0;
+    std::int64_t leadIn = 0; ///< samples
     std::unique_ptr<AVFilterGraph, GraphFreer> graph;
     AVFilterContext* input = nullptr;
     AVFilterContext* output = nullptr;
@@ -86,7 +85,7 @@ bool AudioFilter::Private::Start(std::int64_t first)
 {
     ready.clear();
     // Before sample 0 there is nothing to hear.
-    nextInput = std::min(first, std::max<std::int64_t>(0, first - sampleRate / kLeadInDivisor));
+    nextInput = std::min(first, std::max<std::int64_t>(0, first - leadIn));
     nextOutput = nextInput;
     return Build();
 }
@@ -115,12 +114,13 @@ void AudioFilter::Private::Drain()
     }
 }
 
-AudioFilter::AudioFilter(const QByteArray& description, int sampleRate, int channels)
+AudioFilter::AudioFilter(const QByteArray& description, int sampleRate, int channels, double leadIn)
     : d(std::make_unique<Private>())
 {
     d->description = description;
     d->sampleRate = sampleRate;
     d->channels = channels;
+    d->leadIn = std::llround(leadIn * sampleRate);
 }
 
 AudioFilter::~AudioFilter() = default;

@@ -12,15 +12,20 @@ namespace nle {
 /// A chain of libavfilter's sound filters over samples that are asked for by position.
 ///
 /// The filters remember what went before; reads that follow each other continue, another start
-/// begins them anew with a quarter of a second of lead-in.
+/// begins them anew with a lead-in.
 class AudioFilter
 {
 public:
     /// Writes \a count samples a channel from sample \a first on, interleaved.
     using Source = std::function<void(std::int64_t first, int count, float* samples)>;
 
+    /// Seconds of lead-in that are enough for filters without a long memory.
+    static constexpr double kLeadIn = 0.25;
+
     /// \a description is the chain in libavfilter's notation, for example "equalizer=f=500:g=3".
-    AudioFilter(const QByteArray& description, int sampleRate, int channels);
+    /// \a leadIn is in seconds.
+    AudioFilter(const QByteArray& description, int sampleRate, int channels,
+                double leadIn = kLeadIn);
     ~AudioFilter();
     AudioFilter(const AudioFilter&) = delete;
     AudioFilter& operator=(const AudioFilter&) = delete;

@@ -5,6 +5,7 @@
 #include "NLECore/model/EffectNode.h"
 #include "NLECore/render/Composer.h"
 #include "NLECore/render/EffectKinds.h"
+#include "NLECore/render/SoundKinds.h"
 #include "NLECore/scene/FrameMath.h"
 
 #include <QStringList>
@@ -88,6 +89,19 @@ bool IsOneFilter(const std::map<int, MltTexts>& byFrame)
     return std::all_of(byFrame.begin(), byFrame.end(), isLike);
 }
 
+/// The same filter of libavfilter, under the name that the framework gives it.
+DocumentFilter HeardFilter(const ParameterValues& values)
+{
+    const SoundFilter sound = SoundOf(values)->filter(ParametersAt(values, 0));
+    DocumentFilter filter;
+    filter.properties.emplace_back(QStringLiteral("mlt_service"),
+                                   QLatin1String("avfilter.") + QLatin1String(sound.name));
+    for (const auto& [option, value] : sound.options)
+        filter.properties.emplace_back(QLatin1String("av.") + QLatin1String(option),
+                                       QLatin1String(value));
+    return filter;
+}
+
 } // namespace
 
 std::vector<DocumentFilter> EffectFilters(const TimelineNode& node)
@@ -103,6 +117,8 @@ std::vector<DocumentFilter> EffectFilters(const TimelineNode& node)
         if (IsOneFilter(byFrame))
             filters.push_back(Joined(byFrame));
     }
+    for (const SharedParameters& values : node.Effects().Heard())
+        filters.push_back(HeardFilter(*values));
     return filters;
 }
 

@@ -2,10 +2,15 @@
 #include "NLECore/model/EffectNode.h"
 
 #include "Com/ComGuard.h"
+#include "NLECore/render/EffectKinds.h"
+#include "NLECore/render/SoundKinds.h"
 
 namespace nle {
 
-EffectNode::EffectNode(const Declaration& declaration) : ComExtension(declaration) {}
+EffectNode::EffectNode(const Declaration& declaration)
+    : ComExtension(declaration), m_isOfSound(SoundOf(*Parameters().Shared()) != nullptr)
+{
+}
 
 EffectNode* EffectNode::From(IUnknown* object)
 {
@@ -25,6 +30,14 @@ NLEComPtr<TimelineNode> EffectNode::CopyContent(bool /*deep*/) const
     NLEComPtr<EffectNode> copy = MakeCom<EffectNode>(Parameters().Declared());
     copy->Parameters().Restore(*Parameters().Shared());
     return copy;
+}
+
+const Declaration* FindDeclaration(const QString& name)
+{
+    if (const EffectKind* kind = FindEffect(name))
+        return &kind->declaration;
+    const SoundKind* sound = FindSound(name);
+    return sound ? &sound->declaration : nullptr;
 }
 
 } // namespace nle

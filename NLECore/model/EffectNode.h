@@ -5,7 +5,8 @@
 
 namespace nle {
 
-/// An effect of a clip: what its declaration says, switched by the node's own switch.
+/// An effect of a clip, on its pictures or its sound: what its declaration says, switched by the
+/// node's own switch.
 class EffectNode final : public ComExtension<AttachedNode, INLETimelineEffect>
 {
 public:
@@ -16,8 +17,16 @@ public:
 
     HRESULT GetEffectName(wchar_t* buffer, int capacity) override;
 
+    bool IsOfSound() const { return m_isOfSound; }
+
 protected:
     NLEComPtr<TimelineNode> CopyContent(bool deep) const override;
+
+private:
+    const bool m_isOfSound;
 };
+
+/// What an effect is that has this name, of pictures or of sound; null for none.
+const Declaration* FindDeclaration(const QString& name);
 
 } // namespace nle

@@ -91,10 +91,20 @@ std::vector<SharedParameters> EffectsFacet::Shown() const
 {
     std::vector<SharedParameters> shown;
     for (const NLEComPtr<EffectNode>& effect : m_effects) {
-        if (effect->IsEnabled())
+        if (effect->IsEnabled() && !effect->IsOfSound())
             shown.push_back(effect->Parameters().Shared());
     }
     return shown;
+}
+
+std::vector<SharedParameters> EffectsFacet::Heard() const
+{
+    std::vector<SharedParameters> heard;
+    for (const NLEComPtr<EffectNode>& effect : m_effects) {
+        if (effect->IsEnabled() && effect->IsOfSound())
+            heard.push_back(effect->Parameters().Shared());
+    }
+    return heard;
 }
 
 void EffectsFacet::ChangeRate(const NLERational& rate)

@@ -30,8 +30,9 @@ public:
     /// Adds copies of the effects of another clip, with their switches and the frames of their key
     /// frames.
     void CopyFrom(const EffectsFacet& other);
-    /// The values of those that are switched on.
+    /// The values of those of pictures, and of those of sound, that are switched on.
     std::vector<SharedParameters> Shown() const;
+    std::vector<SharedParameters> Heard() const;
 
     /// Counts at the clip's rate from now on.
     void ChangeRate(const NLERational& rate);

@@ -5,7 +5,6 @@
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/EffectNode.h"
 #include "NLECore/model/ParameterText.h"
-#include "NLECore/render/EffectKinds.h"
 #include "NLECore/scene/FrameMath.h"
 
 #include <QStringList>
@@ -358,12 +357,12 @@ void ReadEffects(const QHash<QString, QString>& properties, const FindMedia& med
     for (int number = 0; properties.contains(prefix);
          prefix = kEffectPrefix + QString::number(++number)) {
         const QStringList words = properties.value(prefix).split(QLatin1Char(' '));
-        const EffectKind* kind = FindEffect(words.front());
-        if (!kind)
+        const Declaration* declaration = FindDeclaration(words.front());
+        if (!declaration)
             continue;
-        NLEComPtr<EffectNode> effect = MakeCom<EffectNode>(kind->declaration);
+        NLEComPtr<EffectNode> effect = MakeCom<EffectNode>(*declaration);
         effect->SetEnabled(words.size() < 2);
-        ParameterValues values(kind->declaration);
+        ParameterValues values(*declaration);
         ReadParameterTexts(properties, prefix + QLatin1Char(':'), media, values);
         effect->Parameters().Restore(values);
         effects.Adopt(effect);

@@ -351,6 +351,7 @@ std::shared_ptr<Layer> TimelineNode::MakeLayer() const
     layer->source = m_source;
     layer->keyFrames = m_keyFrames.Curve();
     layer->effects = m_effects.Shown();
+    layer->soundEffects = m_effects.Heard();
     Describe(*layer);
     return layer;
 }

@@ -12,6 +12,7 @@
 #include "NLECore/model/TransitionNode.h"
 #include "NLECore/objects/DocumentSerialize.h"
 #include "NLECore/render/EffectKinds.h"
+#include "NLECore/render/SoundKinds.h"
 #include "NLECore/scene/FrameMath.h"
 
 #include <QDir>
@@ -36,6 +37,10 @@ std::vector<NameRow> NamesOf(int kind)
     } else if (kind == NLECatalog_Transition) {
         for (const Declaration& transition : TransitionDeclarations())
             names.push_back(transition.names);
+    }
+    if (kind == NLECatalog_AudioFilter) {
+        for (const SoundKind& sound : SoundKinds())
+            names.push_back(sound.declaration.names);
     }
     return names;
 }
@@ -99,12 +104,15 @@ HRESULT TimelineFactory::CreateFromTemplate(const wchar_t* folder, INLETimeline*
     });
 }
 
-HRESULT TimelineFactory::CreateAudioFilter(const wchar_t* /*name*/, INLETimeline** filter)
+HRESULT TimelineFactory::CreateAudioFilter(const wchar_t* name, INLETimeline** filter)
 {
-    if (!filter)
-        return E_POINTER;
-    *filter = nullptr;
-    return E_NOTIMPL;
+    return ComGuard([&] {
+        if (!name || !filter)
+            return E_POINTER;
+        *filter = nullptr;
+        const SoundKind* kind = FindSound(QString::fromWCharArray(name));
+        return kind ? GiveNew<EffectNode>(filter, kind->declaration) : E_INVALIDARG;
+    });
 }
 
 HRESULT TimelineFactory::CreateColor(std::uint32_t argb, NLESize size, float frameRate,

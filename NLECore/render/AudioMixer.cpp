@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/render/AudioMixer.h"
 
+#include "NLECore/render/SoundKinds.h"
 #include "NLECore/scene/SourceChoice.h"
 
 #include <QStringList>
@@ -20,9 +21,11 @@ QString Number(double value)
     return QString::number(value, 'f', 6);
 }
 
-/// Pitch, denoise and equaliser as a chain of filters; empty when none is wanted.
-QByteArray DescribeEffects(const AudioSettings& settings)
+/// Pitch, denoise, equaliser and the layer's effects as a chain of filters; empty when none is
+/// wanted.
+QByteArray DescribeEffects(const Layer& layer)
 {
+    const AudioSettings& settings = layer.audio;
     QStringList filters;
     if (settings.pitch != 0)
         filters << QStringLiteral("rubberband=pitch=") + Number(std::exp2(settings.pitch / 12.0));
@@ -34,7 +37,21 @@ QByteArray DescribeEffects(const AudioSettings& settings)
                            .arg(Number(kEqualizerBands[band]),
                                 Number(settings.equalizerGains[band]));
     }
+    for (const SharedParameters& values : layer.soundEffects)
+        filters << QString::fromLatin1(SoundOf(*values)->filter(ParametersAt(*values, 0)).Text());
     return filters.join(QLatin1Char(',')).toLatin1();
+}
+
+/// Seconds that the filters have to hear before what counts.
+double LeadIn(const Layer& layer)
+{
+    double seconds = AudioFilter::kLeadIn;
+    for (const SharedParameters& values : layer.soundEffects) {
+        const SoundKind& kind = *SoundOf(*values);
+        if (kind.tail)
+            seconds = std::max(seconds, kind.tail(ParametersAt(*values, 0)));
+    }
+    return seconds;
 }
 
 } // namespace
@@ -72,9 +89,10 @@ void AudioMixer::Render(const Layer& layer, std::int64_t first, int count, float
     Voice& voice = entry->second;
     voice.idle = 0;
     if (isNew) {
-        const QByteArray effects = DescribeEffects(layer.audio);
+        const QByteArray effects = DescribeEffects(layer);
         if (!effects.isEmpty())
-            voice.effects = std::make_unique<AudioFilter>(effects, m_sampleRate, m_channels);
+            voice.effects =
+                std::make_unique<AudioFilter>(effects, m_sampleRate, m_channels, LeadIn(layer));
     }
     if (voice.effects)
         voice.effects->Read(first, count, content, samples);

@@ -67,6 +67,7 @@ struct Layer
     TransformSettings transform;
     std::shared_ptr<const KeyFrameCurve> keyFrames; ///< null: none apply
     std::vector<SharedParameters> effects;          ///< those that apply, in their order
+    std::vector<SharedParameters> soundEffects;     ///< the same of its sound
     RenderContext context; ///< the outermost project's; of the rendered layer alone
     AudioSettings audio;
 
@@ -106,13 +107,13 @@ inline constexpr auto kFields<Layer> = std::tuple(
     Field{&Layer::speed, nullptr, Shows::kYes}, Field{&Layer::frozenFrame, nullptr, Shows::kYes},
     Field{&Layer::blend, nullptr, Shows::kYes}, Field{&Layer::transform, nullptr, Shows::kYes},
     Field{&Layer::keyFrames, nullptr, Shows::kYes}, Field{&Layer::effects, nullptr, Shows::kYes},
-    Field{&Layer::context, nullptr, Shows::kNo}, Field{&Layer::audio, nullptr, Shows::kNo},
-    Field{&Layer::media, nullptr, Shows::kYes}, Field{&Layer::source, nullptr, Shows::kYes},
-    Field{&Layer::proxy, nullptr, Shows::kYes}, Field{&Layer::argb, nullptr, Shows::kYes},
-    Field{&Layer::text, nullptr, Shows::kYes}, Field{&Layer::family, nullptr, Shows::kYes},
-    Field{&Layer::title, nullptr, Shows::kNo}, Field{&Layer::children, nullptr, Shows::kNo},
-    Field{&Layer::transitions, nullptr, Shows::kNo}, Field{&Layer::guid, nullptr, Shows::kNo},
-    Field{&Layer::mixer, nullptr, Shows::kNo});
+    Field{&Layer::soundEffects, nullptr, Shows::kNo}, Field{&Layer::context, nullptr, Shows::kNo},
+    Field{&Layer::audio, nullptr, Shows::kNo}, Field{&Layer::media, nullptr, Shows::kYes},
+    Field{&Layer::source, nullptr, Shows::kYes}, Field{&Layer::proxy, nullptr, Shows::kYes},
+    Field{&Layer::argb, nullptr, Shows::kYes}, Field{&Layer::text, nullptr, Shows::kYes},
+    Field{&Layer::family, nullptr, Shows::kYes}, Field{&Layer::title, nullptr, Shows::kNo},
+    Field{&Layer::children, nullptr, Shows::kNo}, Field{&Layer::transitions, nullptr, Shows::kNo},
+    Field{&Layer::guid, nullptr, Shows::kNo}, Field{&Layer::mixer, nullptr, Shows::kNo});
 static_assert(kListsAllFields<Layer>);
 
 using Snapshot = std::shared_ptr<const Layer>;
