@@ -44,18 +44,24 @@ struct KnownTable
     std::weak_ptr<const CubeTable> table;
 };
 
+struct KnownTables
+{
+    std::mutex mutex; ///< guards the rest
+    std::map<QString, KnownTable> byPath;
+    /// A few stay open between the frames that use them.
+    std::array<std::shared_ptr<const CubeTable>, 4> latest;
+    std::size_t next = 0;
+};
+
 } // namespace
 
 std::shared_ptr<const CubeTable> CubeTable::Open(const QString& path)
 {
-    static std::mutex mutex;
-    static std::map<QString, KnownTable> known;
-    // A few stay open between the frames that use them.
-    static std::array<std::shared_ptr<const CubeTable>, 4> latest;
-    static std::size_t next = 0;
+    // Never destroyed: threads that render may outlive the module's objects.
+    static auto& s_known = *new KnownTables;
     const QFileInfo info(path);
-    const std::lock_guard<std::mutex> lock(mutex);
-    KnownTable& entry = known[path];
+    const std::lock_guard<std::mutex> lock(s_known.mutex);
+    KnownTable& entry = s_known.byPath[path];
     const bool isKnown = entry.modified == info.lastModified() && entry.size == info.size();
     if (auto table = entry.table.lock(); isKnown && (table || !entry.isTable))
         return table;
@@ -65,7 +71,7 @@ std::shared_ptr<const CubeTable> CubeTable::Open(const QString& path)
         table = Parse(file.readAll());
     entry = {info.lastModified(), info.size(), table != nullptr, table};
     if (table)
-        latest[next++ % latest.size()] = table;
+        s_known.latest[s_known.next++ % s_known.latest.size()] = table;
     else
         qCWarning(lcEngine) << path << "holds no table of colours";
     return table;
