@@ -85,10 +85,6 @@ private slots:
             return m_nodes->CreateVirtual(1234567890, node.put());
         });
         row("a text in a bag", [=] { return bag->SetString(m_long.c_str(), m_long.c_str()); });
-        row("a number from a bag", [=] {
-            NLERational rate;
-            return bag->GetRational(NLEKey::Render::kRender_Framerate, &rate);
-        });
         row("a range that follows the speed", [=] {
             NLERange range;
             return clip->GetTotalRange(&range);

@@ -493,7 +493,7 @@ private slots:
         QCOMPARE(cache.Render(), 2L);
         QTRY_COMPARE_WITH_TIMEOUT(other.state(), QProcess::NotRunning, 60000);
         QCOMPARE(other.exitCode(), 2);
-        QVERIFY(SizeOf(m_folder) <= 1 << 20);
+        QTRY_VERIFY(SizeOf(m_folder) <= 1 << 20); // a thread may be adding its last chunk
 
         // What another process is writing stays.
         QCOMPARE(cache.engine->DeleteCache(true), S_OK);
