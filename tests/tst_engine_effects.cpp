@@ -83,7 +83,7 @@ class tst_EngineEffects : public QObject, public EngineFixture
     Node EffectProject() const
     {
         const Node clip = Trimmed(Colour(QColor(120, 80, 40)), 5, 44);
-        const Node project = ProjectWith(clip);
+        Node project = ProjectWith(clip);
         const Node exposure = AddEffect(clip, "exposure");
         for (const auto& [time, value] : {std::pair(0.1, -1.0), {0.7, 2.5}}) {
             const NLEParameterKeyFrame key = {time, value, NLEInterpolation_Smooth, 0};

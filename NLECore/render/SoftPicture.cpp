@@ -85,19 +85,20 @@ private:
     void Weigh(const float* from, float* to) const
     {
         const int radius = int(m_weights.size() / 2);
+        const float* const middle = m_weights.data() + radius;
         for (int first = 0; first < m_length; first += kPlaces) {
             const int count = std::min(kPlaces, m_length - first);
             const bool isInside = first >= radius && first + kPlaces + radius <= m_length;
             std::array<float, std::size_t(kPlaces)* kLanes> sum = {};
             for (int i = -radius; i <= radius; ++i) {
-                const float weight = m_weights[std::size_t(i + radius)];
+                const float weight = middle[i];
                 if (isInside) {
                     AddWeighed(At(from, first + i), weight, sum.data(), sum.size());
                     continue;
                 }
                 for (int place = 0; place < count; ++place)
-                    AddWeighed(At(from, first + place + i), weight, sum.data() + place * kLanes,
-                               kLanes);
+                    AddWeighed(At(from, first + place + i), weight,
+                               sum.data() + std::ptrdiff_t(place) * kLanes, kLanes);
             }
             std::copy_n(sum.begin(), count * kLanes, to + std::size_t(first) * kLanes);
         }

@@ -29,7 +29,7 @@ EffectPicture CopyOf(const EffectPicture& picture, int first, int last, const Ba
     ForBands(picture.Height(), bands, [&](int from, int to) {
         for (int plane = first; plane <= last; ++plane)
             std::copy(picture.Row(plane, from),
-                      picture.Row(plane, from) + (to - from) * picture.Width(),
+                      picture.Row(plane, from) + std::ptrdiff_t(to - from) * picture.Width(),
                       copy.Row(plane, from));
     });
     return copy;
