@@ -8,6 +8,7 @@ struct INLEAudioFrame;
 struct INLECodec;
 struct INLEFrameExtractor;
 struct INLEMediaEncoder;
+struct INLEPlayer;
 struct INLEProperties;
 struct INLEProxyMaker;
 struct INLESceneSegment;
@@ -176,4 +177,5 @@ struct INLEFactory : IUnknown
     /// Closes what the engine keeps open. Objects that are still held stay valid.
     virtual HRESULT Shutdown(int flags) = 0;
     virtual HRESULT CreateProxyMaker(INLEProxyMaker** maker) = 0;
+    virtual HRESULT CreatePlayer(INLEPlayer** player) = 0;
 };

@@ -149,6 +149,11 @@ HRESULT RootFactory::CreateProxyMaker(INLEProxyMaker** maker)
     return GiveNew<ProxyMaker>(maker);
 }
 
+HRESULT RootFactory::CreatePlayer(INLEPlayer** player)
+{
+    return Refuse(player);
+}
+
 HRESULT RootFactory::Shutdown(int /*flags*/)
 {
     return ComGuard([&] {

@@ -31,6 +31,7 @@ public:
     HRESULT CreateProperties(INLEProperties** properties) override;
     HRESULT Shutdown(int flags) override;
     HRESULT CreateProxyMaker(INLEProxyMaker** maker) override;
+    HRESULT CreatePlayer(INLEPlayer** player) override;
 };
 
 } // namespace nle

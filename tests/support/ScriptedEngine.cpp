@@ -4,6 +4,7 @@
 #include "EngineApi/INLEFactory.h"
 #include "EngineApi/INLEFrames.h"
 #include "EngineApi/INLEMedia.h"
+#include "EngineApi/INLEPlayer.h"
 #include "EngineApi/INLEProperties.h"
 #include "EngineApi/INLEProxies.h"
 #include "EngineApi/INLETimeline.h"
@@ -105,6 +106,7 @@ struct Factory : Object<INLEFactory>
     SCRIPTED_OBJECT(INLEProperties, CreateProperties)
     HRESULT Shutdown(int flags) override { return Call("Shutdown", flags); }
     SCRIPTED_OBJECT(INLEProxyMaker, CreateProxyMaker)
+    SCRIPTED_OBJECT(INLEPlayer, CreatePlayer)
 };
 
 struct ClassFactory : Object<IClassFactory>
