@@ -11,6 +11,7 @@
 
 #ifndef Q_OS_WIN
 #include <csignal>
+#include <sched.h>
 #include <sys/resource.h>
 #endif
 
@@ -490,6 +491,30 @@ private slots:
         };
         QCOMPARE(encoder->Encode(note, &watch), S_OK);
         QVERIFY(isSame);
+    }
+
+    /// An encoder that may, of AV1 above all, makes the threads it meets real-time ones.
+    void threadsStayPlain()
+    {
+#ifdef Q_OS_WIN
+        QSKIP("no such encoder");
+#else
+        const Encoder encoder = provider->CreateMediaEncoder();
+        const auto options = encoder.query<INLEEncodeOptions>();
+        QCOMPARE(options->SetOptions(Options({"VideoCodec=av1"}).get()), S_OK);
+        const std::wstring path = Path("plain.mkv").toStdWString();
+        QCOMPARE(encoder->Open(OneClip().get(), path.c_str(), nullptr), S_OK);
+        QStringList raised;
+        const auto note = [](int, void* data) {
+            for (const QString& thread :
+                 QDir("/proc/self/task").entryList(QDir::NoDotAndDotDot | QDir::Dirs))
+                if (sched_getscheduler(thread.toInt()) == SCHED_FIFO)
+                    *static_cast<QStringList*>(data) += thread;
+            return 0;
+        };
+        QCOMPARE(encoder->Encode(note, &raised), S_OK);
+        QCOMPARE(raised, QStringList());
+#endif
     }
 
     void fullDiskEndsIt()

@@ -6,6 +6,7 @@
 #include "NLECore/media/MediaFile_p.h"
 #include "NLECore/media/PictureFeeder_p.h"
 #include "NLECore/media/PictureSequence_p.h"
+#include "NLECore/media/PlainThreads_p.h"
 
 #include <QColor>
 #include <QFileInfo>
@@ -245,6 +246,7 @@ struct MediaWriter::Private
 
     bool StartTrack(Track& track)
     {
+        const PlainThreads plain;
         const int code = avcodec_open2(track.codec.get(), nullptr, nullptr);
         if (code < 0) {
             return Fail(WriterError::Kind::Settings,
