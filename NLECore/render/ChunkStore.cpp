@@ -270,7 +270,8 @@ bool ChunkStore::Evict(std::int64_t bytes, const KeySet& keep)
     return true;
 }
 
-// Who adds last sees what all have added, so the quota holds whenever nobody is adding.
+// Who adds last sees what all have added, so the quota holds whenever nobody is adding. What another
+// thread has listed meanwhile counts as well: it was not known when the room was reserved.
 ChunkStore::Room ChunkStore::Add(const ContentKey& key, Reservation reserved,
                                  const CacheLimits& limits, const KeySet& keep)
 {
@@ -280,9 +281,8 @@ ChunkStore::Room ChunkStore::Add(const ContentKey& key, Reservation reserved,
     Entry& entry = m_guarded.entries[key];
     m_guarded.used += size - entry.size;
     entry = {size, Now(), false};
-    if (!IsShared())
-        return Room::Enough;
-    List();
+    if (IsShared())
+        List();
     const std::int64_t surplus = m_guarded.used - limits.quota;
     if (surplus <= 0 || Evict(surplus, keep))
         return Room::Enough;
