@@ -14,14 +14,18 @@ const QLatin1String kSuffix(".mp4");
 /// Of a film that keeps what is transparent.
 const QLatin1String kAlphaSuffix(".mov");
 
-/// The key of a file's content: its size, and pieces of it from the first to the last byte. Reading
-/// all of a film would take longer than a user waits.
-std::optional<ContentKey> KeyOf(const QString& path, int height)
+} // namespace
+
+ProxyStore::ProxyStore() : m_files("proxies", {kSuffix, kAlphaSuffix}, kUsualQuota) {}
+
+// The size of the file, and pieces of it from the first to the last byte: reading all of a film
+// would take longer than a user waits.
+std::optional<ContentKey> ProxyStore::KeyOf(const QString& path, int height) const
 {
     constexpr int pieces = 16;
     constexpr qint64 pieceSize = 64 << 10;
     QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    if (!m_files.IsOn() || !QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     const qint64 size = file.size();
     const qint64 last = std::max<qint64>(0, size - pieceSize);
@@ -35,15 +39,10 @@ std::optional<ContentKey> KeyOf(const QString& path, int height)
     return ContentHash().Add(content).Add(size).Add(height).Result();
 }
 
-} // namespace
-
-ProxyStore::ProxyStore() : m_files("proxies", {kSuffix, kAlphaSuffix}, kUsualQuota) {}
-
-QString ProxyStore::Find(const QString& path, int height) const
+QString ProxyStore::Find(const ContentKey& key) const
 {
-    const auto key = m_files.IsOn() ? KeyOf(path, height) : std::nullopt;
     for (const QLatin1String suffix : {kSuffix, kAlphaSuffix}) {
-        QString proxy = key ? m_files.PathOf(*key, suffix) : QString();
+        QString proxy = m_files.PathOf(key, suffix);
         if (QFileInfo(proxy).isFile()) {
             KeptFiles::NoteUse(proxy);
             return proxy;
@@ -52,10 +51,9 @@ QString ProxyStore::Find(const QString& path, int height) const
     return {};
 }
 
-QString ProxyStore::Prepare(const QString& path, int height, bool hasAlpha) const
+QString ProxyStore::Prepare(const ContentKey& key, bool hasAlpha) const
 {
-    const auto key = m_files.Prepare() ? KeyOf(path, height) : std::nullopt;
-    return key ? m_files.PathOf(*key, hasAlpha ? kAlphaSuffix : kSuffix) : QString();
+    return m_files.Prepare() ? m_files.PathOf(key, hasAlpha ? kAlphaSuffix : kSuffix) : QString();
 }
 
 ProxyStore& Proxies()

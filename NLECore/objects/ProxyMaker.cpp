@@ -98,7 +98,8 @@ HRESULT ProxyMaker::Find(const wchar_t* file, wchar_t* proxy, int capacity)
     return ComGuard([&] {
         if (!file || !proxy || capacity < 1)
             return E_INVALIDARG;
-        const QString found = Proxies().Find(QString::fromWCharArray(file), m_state->Height());
+        const auto key = Proxies().KeyOf(QString::fromWCharArray(file), m_state->Height());
+        const QString found = key ? Proxies().Find(*key) : QString();
         const HRESULT result = CopyText(found.toStdWString(), proxy, capacity);
         return SUCCEEDED(result) && found.isEmpty() ? S_FALSE : result;
     });
@@ -154,7 +155,8 @@ HRESULT ProxyMaker::Work(const Job& job)
 {
     if (job.isCancelled)
         return E_ABORT;
-    if (!Proxies().Find(job.path, job.height).isEmpty())
+    const auto key = Proxies().KeyOf(job.path, job.height);
+    if (key && !Proxies().Find(*key).isEmpty())
         return S_OK;
     const std::shared_ptr<const MediaInfo> media = DescribeFile(job.path);
     if (!media || media->kind != NLEMedia_Video)
@@ -170,7 +172,7 @@ HRESULT ProxyMaker::Work(const Job& job)
         return E_INVALIDARG;
     const MediaStream* stream = media->Stream(media->videoStream);
     const bool hasAlpha = stream && stream->hasAlpha;
-    const QString path = Proxies().Prepare(job.path, job.height, hasAlpha);
+    const QString path = key ? Proxies().Prepare(*key, hasAlpha) : QString();
     if (path.isEmpty())
         return E_ACCESSDENIED;
     WriterError error;
