@@ -2,7 +2,9 @@
 #pragma once
 
 #include "NLECore/model/DocumentFormat.h"
+#include "NLECore/model/TimelineNode.h"
 
+#include <QJsonDocument>
 #include <QJsonObject>
 #include <QLatin1String>
 
@@ -45,5 +47,11 @@ QJsonObject Time(double value, double rate);
 QJsonObject TimeRange(double start, double duration, double rate);
 /// A RationalTime in seconds; none when it is no time.
 std::optional<double> Seconds(const QJsonObject& time);
+
+/// What the bag of a node keeps under one of the keys above; empty where there is nothing.
+QString KeptText(const TimelineNode& node, const wchar_t* key);
+QJsonDocument KeptJson(const TimelineNode& node, const wchar_t* key);
+/// kMediaStart of a node, 0 where it keeps none.
+double MediaStart(const TimelineNode& node);
 
 } // namespace nle::otio

@@ -140,14 +140,6 @@ QString NameOf(const QJsonObject& object)
     return name.isEmpty() ? object.value(kSchema).toString() : name;
 }
 
-/// Where the file's time begins, in seconds, as the node's bag has it.
-double KeptStart(const TimelineNode& node)
-{
-    double start = 0;
-    node.Bag().GetDouble(kMediaStart, &start);
-    return IsFinite(start) ? start : 0;
-}
-
 /// Whether a track has the time of the stack that it lies in.
 bool IsPlainTrack(const QJsonObject& object)
 {
@@ -566,7 +558,7 @@ NLERange OtioReader::RangeOf(const QJsonObject& item, const TimelineNode& node, 
     const double speed = node.PlaysMaterial() ? node.Speed() : 1;
     double in = std::round(SpanOf(item).start * Fps() / speed);
     if (isOwn && Child(ReferenceOf(item), "available_range").isEmpty())
-        in -= std::round(KeptStart(node) * Fps() / speed);
+        in -= std::round(MediaStart(node) * Fps() / speed);
     // The start of a frozen clip is the frame that shows.
     if (node.IsFrozen())
         in = isOwn ? VisiblePart(node).range.in : 0;
@@ -618,11 +610,10 @@ void OtioReader::TakeMarkers(const QJsonObject& item, bool isOwn, TimelineNode& 
     const QJsonArray markers = MarkersIn(item);
     const QJsonObject available = Child(ReferenceOf(item), "available_range");
     const double start =
-        available.isEmpty() ? KeptStart(node) : Seconds(Child(available, "start_time")).value_or(0);
+        available.isEmpty() ? MediaStart(node) : Seconds(Child(available, "start_time")).value_or(0);
     const OtioMarkers format(Fps() / node.Speed(), start);
     MarkerList& own = node.Markers().settings;
-    const QJsonArray kept =
-        QJsonDocument::fromJson(node.Bag().TextOrEmpty(kMarkers).toUtf8()).array();
+    const QJsonArray kept = KeptJson(node, kMarkers).array();
     // The exact ones hold as long as nobody has changed what other programs see.
     if (isOwn && format.IsSame(markers, format.Write(own, kept)))
         return;

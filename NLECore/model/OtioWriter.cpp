@@ -51,36 +51,15 @@ QJsonObject Range(double start, double duration, const NLERational& rate)
     return TimeRange(start, duration, ExactRate(rate));
 }
 
-QString BagText(const TimelineNode& node, const wchar_t* key)
-{
-    const auto& values = node.Bag().All();
-    const auto value = values.find(key);
-    const auto* text =
-        value == values.end() ? nullptr : std::get_if<PropertyBag::Text>(&value->second);
-    return text ? FromWide(**text) : QString();
-}
-
-QJsonDocument BagJson(const TimelineNode& node, const wchar_t* key)
-{
-    return QJsonDocument::fromJson(BagText(node, key).toUtf8());
-}
-
-double MediaStart(const TimelineNode& node)
-{
-    double start = 0;
-    node.Bag().GetDouble(kMediaStart, &start);
-    return IsFinite(start) ? start : 0;
-}
-
 QJsonArray MarkersOf(const TimelineNode& node)
 {
     return OtioMarkers(ExactRate(node.FrameRate()) / node.Speed(), MediaStart(node))
-        .Write(node.Markers().settings, BagJson(node, kMarkers).array());
+        .Write(node.Markers().settings, KeptJson(node, kMarkers).array());
 }
 
 QString NameOf(const TimelineNode& node)
 {
-    QString kept = BagText(node, kName);
+    QString kept = KeptText(node, kName);
     if (!kept.isEmpty())
         return kept;
     if (const auto* media = dynamic_cast<const MediaClip*>(&node))
@@ -165,7 +144,7 @@ QJsonObject TransitionOf(const LaneJoin& join)
 
 void AppendTransition(const TimelineNode& clip, const wchar_t* key, QJsonArray& children)
 {
-    const QJsonObject transition = BagJson(clip, key).object();
+    const QJsonObject transition = KeptJson(clip, key).object();
     if (!transition.isEmpty())
         children.append(transition);
 }
@@ -344,7 +323,7 @@ QJsonObject OtioWriter::Metadata(const TimelineNode& node, int order)
         put(kExactText, text->text);
         put(kExactFamily, text->family);
     }
-    QJsonObject metadata = BagJson(node, kMetadata).object();
+    QJsonObject metadata = KeptJson(node, kMetadata).object();
     metadata[kOwn] = own;
     return metadata;
 }
