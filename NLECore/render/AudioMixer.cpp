@@ -145,9 +145,11 @@ void AudioMixer::ApplyTransitions(const Layer& parent, int child, std::int64_t f
                                   float* samples) const
 {
     for (const LayerTransition& transition : parent.transitions) {
+        if (!transition.sounds.Has(child))
+            continue;
         const std::int64_t start = SampleOfFrame(transition.position, parent.frameRate);
         const std::int64_t end = SampleOfFrame(transition.End(), parent.frameRate);
-        if (!transition.sounds.Has(child) || start >= first + count || end <= first)
+        if (start >= first + count || end <= first)
             continue;
         const auto kind =
             CrossFade(transition.At(transition.position).Whole(TransitionParameter::kSound));

@@ -203,9 +203,9 @@ void ChunkPlan::AddTransitions(ContentHash& hash, const Layer& composite,
         });
         return child >= 0 && found != showing.end() ? int(found - showing.begin()) : -1;
     };
-    for (const LayerTransition& transition : composite.transitions) {
-        if (transition.position > last)
-            break;
+    for (auto next = FirstFrom(composite.transitions, first);
+         next != composite.transitions.end() && next->position <= last; ++next) {
+        const LayerTransition& transition = *next;
         const LayerTransition::Clips& clips = transition.pictures;
         const int from = placeOf(clips.from);
         const int to = placeOf(clips.to);

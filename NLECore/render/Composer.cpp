@@ -371,10 +371,13 @@ QImage Composer::MediaPicture(const Layer& layer, std::int64_t frame, const QSiz
 
 const LayerTransition* Composer::TransitionOf(const Layer& composite, int child, std::int64_t frame)
 {
-    const auto found = std::find_if(
-        composite.transitions.begin(), composite.transitions.end(),
-        [&](const LayerTransition& one) { return one.PlaysAt(frame) && one.pictures.Has(child); });
-    return found == composite.transitions.end() ? nullptr : &*found;
+    const auto end = composite.transitions.end();
+    for (auto one = FirstFrom(composite.transitions, frame); one != end && one->position <= frame;
+         ++one) {
+        if (one->PlaysAt(frame) && one->pictures.Has(child))
+            return &*one;
+    }
+    return nullptr;
 }
 
 bool Composer::CoversPlainly(const Layer& composite, const Layer& child, const QSize& size)

@@ -236,6 +236,14 @@ bool ShowsInPicture(const ParameterRow& row)
     return QLatin1String(row.names.name) != QLatin1String(kSound);
 }
 
+std::vector<LayerTransition>::const_iterator
+FirstFrom(const std::vector<LayerTransition>& transitions, std::int64_t frame)
+{
+    return std::partition_point(
+        transitions.begin(), transitions.end(),
+        [frame](const LayerTransition& one) { return one.furthestEnd <= frame; });
+}
+
 double CrossFadeGain(CrossFade kind, bool comes, double progress)
 {
     const double share = std::clamp(comes ? progress : 1 - progress, 0.0, 1.0);
@@ -260,7 +268,9 @@ void FindTransitionClips(Layer& composite)
         [](const LayerTransition& a, const LayerTransition& b) { return a.position < b.position; });
     Levels pictures = LevelsOf(composite, HasPicture);
     Levels sounds = LevelsOf(composite, HasSound);
+    std::int64_t furthestEnd = std::numeric_limits<std::int64_t>::min();
     for (LayerTransition& transition : transitions) {
+        transition.furthestEnd = furthestEnd = std::max(furthestEnd, transition.End());
         transition.pictures =
             pictures[transition.level].Take(transition.position, transition.End());
         transition.sounds = sounds[transition.level].Take(transition.position, transition.End());

@@ -95,6 +95,7 @@ struct LayerTransition
     SharedParameters parameters;
     Clips pictures;
     Clips sounds;
+    std::int64_t furthestEnd = 0; ///< of this one and those before it on the composite
 
     std::int64_t End() const { return position + NLERangeLength(range); }
     bool PlaysAt(std::int64_t frame) const { return frame >= position && frame < End(); }
@@ -111,6 +112,10 @@ struct LayerTransition
         return ParametersAt(*parameters, double(frame - position + range.in));
     }
 };
+
+/// The first of a composite's transitions that does not lie, with all before it, before \a frame.
+std::vector<LayerTransition>::const_iterator
+FirstFrom(const std::vector<LayerTransition>& transitions, std::int64_t frame);
 
 /// Gain of the clip that goes, or of the one that comes, when \a progress of the way is gone.
 double CrossFadeGain(CrossFade kind, bool comes, double progress);
