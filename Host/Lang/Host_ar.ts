@@ -581,6 +581,13 @@
     </message>
 </context>
 <context>
+    <name>LevelMeter</name>
+    <message>
+        <source>Level meter</source>
+        <translation>مقياس المستوى</translation>
+    </message>
+</context>
+<context>
     <name>MediaJob</name>
     <message>
         <source>does not exist</source>
@@ -726,6 +733,13 @@
     <message>
         <source>sample rates: %1</source>
         <translation>معدلات أخذ العينات: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureView</name>
+    <message>
+        <source>Picture</source>
+        <translation>الصورة</translation>
     </message>
 </context>
 <context>

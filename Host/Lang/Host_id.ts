@@ -576,6 +576,13 @@
     </message>
 </context>
 <context>
+    <name>LevelMeter</name>
+    <message>
+        <source>Level meter</source>
+        <translation>Pengukur level</translation>
+    </message>
+</context>
+<context>
     <name>MediaJob</name>
     <message>
         <source>does not exist</source>
@@ -711,6 +718,13 @@
     <message>
         <source>sample rates: %1</source>
         <translation>laju sampel: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureView</name>
+    <message>
+        <source>Picture</source>
+        <translation>Gambar</translation>
     </message>
 </context>
 <context>

@@ -576,6 +576,13 @@
     </message>
 </context>
 <context>
+    <name>LevelMeter</name>
+    <message>
+        <source>Level meter</source>
+        <translation>레벨 미터</translation>
+    </message>
+</context>
+<context>
     <name>MediaJob</name>
     <message>
         <source>does not exist</source>
@@ -711,6 +718,13 @@
     <message>
         <source>sample rates: %1</source>
         <translation>샘플링 레이트: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureView</name>
+    <message>
+        <source>Picture</source>
+        <translation>화면</translation>
     </message>
 </context>
 <context>

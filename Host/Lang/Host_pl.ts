@@ -578,6 +578,13 @@
     </message>
 </context>
 <context>
+    <name>LevelMeter</name>
+    <message>
+        <source>Level meter</source>
+        <translation>Wskaźnik poziomu</translation>
+    </message>
+</context>
+<context>
     <name>MediaJob</name>
     <message>
         <source>does not exist</source>
@@ -717,6 +724,13 @@
     <message>
         <source>sample rates: %1</source>
         <translation>częstotliwości próbkowania: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureView</name>
+    <message>
+        <source>Picture</source>
+        <translation>Obraz</translation>
     </message>
 </context>
 <context>

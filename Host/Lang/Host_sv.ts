@@ -577,6 +577,13 @@
     </message>
 </context>
 <context>
+    <name>LevelMeter</name>
+    <message>
+        <source>Level meter</source>
+        <translation>Nivåmätare</translation>
+    </message>
+</context>
+<context>
     <name>MediaJob</name>
     <message>
         <source>does not exist</source>
@@ -714,6 +721,13 @@
     <message>
         <source>sample rates: %1</source>
         <translation>samplingsfrekvenser: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureView</name>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
     </message>
 </context>
 <context>
