@@ -26,7 +26,7 @@ enum NLEPlayerSource : std::int32_t
 };
 
 /// Channels of sound that a player has at the most; it plays two.
-constexpr int NLEPlayerMostChannels = 8;
+constexpr int kNLEPlayerChannels = 8;
 
 /// How a second of playing went. Counts are pictures but for the last ones.
 struct NLEPlayerReport
@@ -46,12 +46,12 @@ struct NLEPlayerReport
 /// the player's volume and mute do not change them.
 struct NLEPlayerLevels
 {
-    std::int32_t frame;                ///< of the node: when these samples are heard
-    std::int32_t channels;             ///< entries of the arrays that count
-    float peak[NLEPlayerMostChannels]; ///< highest magnitude; falls by 20 dB a second
-    float hold[NLEPlayerMostChannels]; ///< highest peak of the last 1.5 seconds, then falls as well
-    float rms[NLEPlayerMostChannels];  ///< root of the mean square of 300 ms
-    std::int32_t clipped[NLEPlayerMostChannels]; ///< samples beyond full scale since ResetClipping
+    std::int32_t frame;             ///< of the node: when these samples are heard
+    std::int32_t channels;          ///< entries of the arrays that count
+    float peak[kNLEPlayerChannels]; ///< highest magnitude; falls by 20 dB a second
+    float hold[kNLEPlayerChannels]; ///< highest peak of the last 1.5 seconds, then falls as well
+    float rms[kNLEPlayerChannels];  ///< root of the mean square of 300 ms
+    std::int32_t clipped[kNLEPlayerChannels]; ///< samples beyond full scale since ResetClipping
 };
 
 /// Hears of a player. All calls come from one thread of the player, one at a time, never from

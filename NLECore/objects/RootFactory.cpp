@@ -19,6 +19,7 @@
 #include "NLECore/objects/Frames.h"
 #include "NLECore/objects/MarkBook.h"
 #include "NLECore/objects/MediaEncoder.h"
+#include "NLECore/objects/Player.h"
 #include "NLECore/objects/ProxyMaker.h"
 #include "NLECore/objects/SceneSegment.h"
 #include "NLECore/objects/SystemConfig.h"
@@ -151,7 +152,7 @@ HRESULT RootFactory::CreateProxyMaker(INLEProxyMaker** maker)
 
 HRESULT RootFactory::CreatePlayer(INLEPlayer** player)
 {
-    return Refuse(player);
+    return GiveNew<Player>(player);
 }
 
 HRESULT RootFactory::Shutdown(int /*flags*/)
