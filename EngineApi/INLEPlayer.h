@@ -119,7 +119,7 @@ struct INLEPlayer : IUnknown
     /// the loop, it pauses at the last frame that was shown; playing from there begins at the other
     /// end.
     virtual HRESULT Play(double rate) = 0;
-    /// Stops at the frame on show.
+    /// Stops at the position.
     virtual HRESULT Pause() = 0;
     /// Goes to a frame and shows it as soon as it is decoded. Playing goes on from there; while
     /// paused nothing sounds.
