@@ -5,6 +5,7 @@
 #include "Host/Gallery/DragPage.h"
 #include "Host/Gallery/ImportPage.h"
 #include "Host/Gallery/LanguagePage.h"
+#include "Host/Gallery/PlayerPage.h"
 #include "Host/Gallery/RulerPage.h"
 #include "Host/Gallery/SliderPage.h"
 
@@ -27,6 +28,10 @@ const QVector<GalleryPage>& GalleryPages()
          QT_TRANSLATE_NOOP("Gallery", "Drag the play head; the wheel scrolls, with Ctrl it zooms; "
                                       "a double click fits all."),
          Make<RulerPage>},
+        {"player", QT_TRANSLATE_NOOP("Gallery", "Player"),
+         QT_TRANSLATE_NOOP("Gallery", "Open a file and play it; K plays and pauses, comma and full "
+                                      "stop step a frame."),
+         Make<PlayerPage>},
         {"sliders", QT_TRANSLATE_NOOP("Gallery", "Sliders"),
          QT_TRANSLATE_NOOP("Gallery", "Drag, use the wheel, or the arrow keys."), Make<SliderPage>},
         {"buttons", QT_TRANSLATE_NOOP("Gallery", "Buttons and labels"),

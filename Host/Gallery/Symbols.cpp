@@ -72,6 +72,14 @@ QPainterPath Shape(Symbol symbol)
     case Symbol::Stop:
         path.addRoundedRect(5, 5, 14, 14, 1, 1);
         return path;
+    case Symbol::StepBack:
+        path.addRect(17, 4, 3, 16);
+        path.addPath(Polygon({{14, 4}, {4, 12}, {14, 20}}));
+        return path;
+    case Symbol::StepForward:
+        path.addRect(4, 4, 3, 16);
+        path.addPath(Polygon({{10, 4}, {20, 12}, {10, 20}}));
+        return path;
     case Symbol::Film:
         return Film();
     case Symbol::Music:

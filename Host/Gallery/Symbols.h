@@ -11,6 +11,8 @@ enum class Symbol
     Play,
     Pause,
     Stop,
+    StepBack,
+    StepForward,
     Film,
     Music,
     Title,

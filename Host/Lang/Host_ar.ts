@@ -349,6 +349,14 @@
         <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
         <translation>اسحب رقمًا، ومع Shift أسرع، ومع Ctrl أبطأ؛ والنقرة تتيح تحريره.</translation>
     </message>
+    <message>
+        <source>Player</source>
+        <translation>المشغّل</translation>
+    </message>
+    <message>
+        <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
+        <translation>افتح ملفًا وشغّله؛ المفتاح K يشغّل ويوقف مؤقتًا، والفاصلة والنقطة تنتقلان إطارًا واحدًا.</translation>
+    </message>
 </context>
 <context>
     <name>GalleryWindow</name>
@@ -740,6 +748,81 @@
     <message>
         <source>Picture</source>
         <translation>الصورة</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPage</name>
+    <message>
+        <source>Nothing is open.</source>
+        <translation>لا شيء مفتوح.</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>الموضع</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>إطار إلى الخلف</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>إطار إلى الأمام</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>السرعة</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>تكرار</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>فتح…</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>كتم</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>مستوى الصوت</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>المناطق الآمنة</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>ملاءمة</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>ملء</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>حجم الصورة</translation>
+    </message>
+    <message>
+        <source>Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms</source>
+        <translation>الثانية الأخيرة: عُرض %1، أُسقط %2، تأخّر %3، من الذاكرة المؤقتة %4، الانحراف %5 م.ث</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played.</source>
+        <translation>لا يمكن تشغيل %1.</translation>
+    </message>
+    <message>
+        <source>Ready: %1</source>
+        <translation>جاهز: %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>إيقاف مؤقت</translation>
     </message>
 </context>
 <context>

@@ -349,6 +349,14 @@
         <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
         <translation>Ziehen Sie an einer Zahl, mit Umschalt schneller, mit Strg langsamer; ein Klick bearbeitet sie.</translation>
     </message>
+    <message>
+        <source>Player</source>
+        <translation>Player</translation>
+    </message>
+    <message>
+        <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
+        <translation>Eine Datei öffnen und abspielen; K startet und hält an, Komma und Punkt gehen ein Bild weiter.</translation>
+    </message>
 </context>
 <context>
     <name>GalleryWindow</name>
@@ -728,6 +736,81 @@
     <message>
         <source>Picture</source>
         <translation>Bild</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPage</name>
+    <message>
+        <source>Nothing is open.</source>
+        <translation>Nichts ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>Ein Bild zurück</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>Ein Bild vor</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Schleife</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Öffnen…</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Stumm</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>Sichere Bereiche</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Ausfüllen</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>Größe des Bildes</translation>
+    </message>
+    <message>
+        <source>Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms</source>
+        <translation>Letzte Sekunde: %1 gezeigt, %2 ausgelassen, %3 verspätet, %4 aus dem Cache, Abweichung %5 ms</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played.</source>
+        <translation>%1 kann nicht abgespielt werden.</translation>
+    </message>
+    <message>
+        <source>Ready: %1</source>
+        <translation>Bereit: %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
     </message>
 </context>
 <context>

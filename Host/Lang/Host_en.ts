@@ -349,6 +349,14 @@
         <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
         <translation>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</translation>
     </message>
+    <message>
+        <source>Player</source>
+        <translation>Player</translation>
+    </message>
+    <message>
+        <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
+        <translation>Open a file and play it; K plays and pauses, comma and full stop step a frame.</translation>
+    </message>
 </context>
 <context>
     <name>GalleryWindow</name>
@@ -728,6 +736,81 @@
     <message>
         <source>Picture</source>
         <translation>Picture</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPage</name>
+    <message>
+        <source>Nothing is open.</source>
+        <translation>Nothing is open.</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>Back one frame</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Play</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>Forward one frame</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Speed</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Loop</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Open…</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Mute</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>Safe areas</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Fit</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Fill</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>Size of the picture</translation>
+    </message>
+    <message>
+        <source>Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms</source>
+        <translation>Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played.</source>
+        <translation>%1 cannot be played.</translation>
+    </message>
+    <message>
+        <source>Ready: %1</source>
+        <translation>Ready: %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
     </message>
 </context>
 <context>

@@ -349,6 +349,14 @@
         <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
         <translation>Arrastre un número: con Mayús, más rápido; con Ctrl, más despacio; un clic lo edita.</translation>
     </message>
+    <message>
+        <source>Player</source>
+        <translation>Reproductor</translation>
+    </message>
+    <message>
+        <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
+        <translation>Abra un archivo y reprodúzcalo; K reproduce y pausa, la coma y el punto avanzan un fotograma.</translation>
+    </message>
 </context>
 <context>
     <name>GalleryWindow</name>
@@ -728,6 +736,81 @@
     <message>
         <source>Picture</source>
         <translation>Imagen</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPage</name>
+    <message>
+        <source>Nothing is open.</source>
+        <translation>No hay nada abierto.</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>Retroceder un fotograma</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>Avanzar un fotograma</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Bucle</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Abrir…</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Silencio</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>Áreas seguras</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Ajustar</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Llenar</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>Tamaño de la imagen</translation>
+    </message>
+    <message>
+        <source>Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms</source>
+        <translation>Último segundo: %1 mostrados, %2 omitidos, %3 tarde, %4 de la caché, desfase %5 ms</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played.</source>
+        <translation>%1 no se puede reproducir.</translation>
+    </message>
+    <message>
+        <source>Ready: %1</source>
+        <translation>Listo: %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
     </message>
 </context>
 <context>

@@ -349,6 +349,14 @@
         <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
         <translation>Faites glisser un nombre, plus vite avec Maj, plus lentement avec Ctrl ; un clic le modifie.</translation>
     </message>
+    <message>
+        <source>Player</source>
+        <translation>Lecteur</translation>
+    </message>
+    <message>
+        <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
+        <translation>Ouvrez un fichier et lisez-le ; K lit et met en pause, la virgule et le point avancent d’une image.</translation>
+    </message>
 </context>
 <context>
     <name>GalleryWindow</name>
@@ -728,6 +736,81 @@
     <message>
         <source>Picture</source>
         <translation>Image</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPage</name>
+    <message>
+        <source>Nothing is open.</source>
+        <translation>Rien n’est ouvert.</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>Reculer d’une image</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>Avancer d’une image</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Boucle</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Ouvrir…</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Muet</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>Zones de sécurité</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Ajuster</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Remplir</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>Taille de l’image</translation>
+    </message>
+    <message>
+        <source>Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms</source>
+        <translation>Dernière seconde : %1 affichées, %2 sautées, %3 en retard, %4 du cache, décalage %5 ms</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played.</source>
+        <translation>%1 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>Ready: %1</source>
+        <translation>Prêt : %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
     </message>
 </context>
 <context>

@@ -349,6 +349,14 @@
         <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
         <translation>Seret angka, dengan Shift lebih cepat, dengan Ctrl lebih lambat; klik untuk menyunting.</translation>
     </message>
+    <message>
+        <source>Player</source>
+        <translation>Pemutar</translation>
+    </message>
+    <message>
+        <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
+        <translation>Buka berkas lalu putar; K memutar dan menjeda, koma dan titik bergeser satu bingkai.</translation>
+    </message>
 </context>
 <context>
     <name>GalleryWindow</name>
@@ -725,6 +733,81 @@
     <message>
         <source>Picture</source>
         <translation>Gambar</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPage</name>
+    <message>
+        <source>Nothing is open.</source>
+        <translation>Tidak ada yang terbuka.</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posisi</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>Mundur satu bingkai</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Putar</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>Maju satu bingkai</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Kecepatan</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Ulangi</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Buka…</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Bisukan</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>Area aman</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Paskan</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Penuhi</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>Ukuran gambar</translation>
+    </message>
+    <message>
+        <source>Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms</source>
+        <translation>Detik terakhir: %1 tampil, %2 dibuang, %3 terlambat, %4 dari cache, selisih %5 md</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played.</source>
+        <translation>%1 tidak dapat diputar.</translation>
+    </message>
+    <message>
+        <source>Ready: %1</source>
+        <translation>Siap: %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Jeda</translation>
     </message>
 </context>
 <context>

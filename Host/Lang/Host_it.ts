@@ -349,6 +349,14 @@
         <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
         <translation>Trascina un numero, con Maiusc più veloce, con Ctrl più lento; un clic lo modifica.</translation>
     </message>
+    <message>
+        <source>Player</source>
+        <translation>Lettore</translation>
+    </message>
+    <message>
+        <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
+        <translation>Aprire un file e riprodurlo; K avvia e mette in pausa, virgola e punto spostano di un fotogramma.</translation>
+    </message>
 </context>
 <context>
     <name>GalleryWindow</name>
@@ -728,6 +736,81 @@
     <message>
         <source>Picture</source>
         <translation>Immagine</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPage</name>
+    <message>
+        <source>Nothing is open.</source>
+        <translation>Non c’è nulla di aperto.</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posizione</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>Indietro di un fotogramma</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Riproduci</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>Avanti di un fotogramma</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Ciclo</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Apri…</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Muto</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>Aree sicure</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Adatta</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Riempi</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>Dimensione dell’immagine</translation>
+    </message>
+    <message>
+        <source>Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms</source>
+        <translation>Ultimo secondo: %1 mostrati, %2 saltati, %3 in ritardo, %4 dalla cache, scarto %5 ms</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played.</source>
+        <translation>Impossibile riprodurre %1.</translation>
+    </message>
+    <message>
+        <source>Ready: %1</source>
+        <translation>Pronto: %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
     </message>
 </context>
 <context>

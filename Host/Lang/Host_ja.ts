@@ -349,6 +349,14 @@
         <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
         <translation>数値をドラッグします。Shift で速く、Ctrl で遅く。クリックで編集します。</translation>
     </message>
+    <message>
+        <source>Player</source>
+        <translation>プレーヤー</translation>
+    </message>
+    <message>
+        <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
+        <translation>ファイルを開いて再生します。Kで再生と一時停止、コンマとピリオドで1フレームずつ移動します。</translation>
+    </message>
 </context>
 <context>
     <name>GalleryWindow</name>
@@ -725,6 +733,81 @@
     <message>
         <source>Picture</source>
         <translation>映像</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPage</name>
+    <message>
+        <source>Nothing is open.</source>
+        <translation>何も開かれていません。</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>1フレーム戻る</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>1フレーム進む</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>ループ</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>開く…</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>ミュート</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>セーフエリア</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>全体表示</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>全面表示</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>映像の大きさ</translation>
+    </message>
+    <message>
+        <source>Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms</source>
+        <translation>直前の1秒: 表示 %1、破棄 %2、遅延 %3、キャッシュ %4、ずれ %5 ms</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played.</source>
+        <translation>%1 は再生できません。</translation>
+    </message>
+    <message>
+        <source>Ready: %1</source>
+        <translation>準備完了: %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
     </message>
 </context>
 <context>

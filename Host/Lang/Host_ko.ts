@@ -349,6 +349,14 @@
         <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
         <translation>숫자를 끌어 보세요. Shift는 빠르게, Ctrl은 느리게, 클릭하면 편집합니다.</translation>
     </message>
+    <message>
+        <source>Player</source>
+        <translation>플레이어</translation>
+    </message>
+    <message>
+        <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
+        <translation>파일을 열어 재생합니다. K로 재생하고 일시 정지하며, 쉼표와 마침표로 한 프레임씩 이동합니다.</translation>
+    </message>
 </context>
 <context>
     <name>GalleryWindow</name>
@@ -725,6 +733,81 @@
     <message>
         <source>Picture</source>
         <translation>화면</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPage</name>
+    <message>
+        <source>Nothing is open.</source>
+        <translation>열린 파일이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>위치</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>한 프레임 뒤로</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>재생</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>한 프레임 앞으로</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>속도</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>반복</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>열기…</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>음소거</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>음량</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>안전 영역</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>맞춤</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>채우기</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>화면 크기</translation>
+    </message>
+    <message>
+        <source>Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms</source>
+        <translation>지난 1초: 표시 %1, 누락 %2, 지연 %3, 캐시 %4, 차이 %5 ms</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played.</source>
+        <translation>%1 파일을 재생할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Ready: %1</source>
+        <translation>준비됨: %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>일시 정지</translation>
     </message>
 </context>
 <context>

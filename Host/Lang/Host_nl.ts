@@ -349,6 +349,14 @@
         <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
         <translation>Sleep aan een getal, met Shift sneller, met Ctrl langzamer; een klik bewerkt het.</translation>
     </message>
+    <message>
+        <source>Player</source>
+        <translation>Speler</translation>
+    </message>
+    <message>
+        <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
+        <translation>Open een bestand en speel het af; K speelt en pauzeert, komma en punt gaan één beeld verder.</translation>
+    </message>
 </context>
 <context>
     <name>GalleryWindow</name>
@@ -728,6 +736,81 @@
     <message>
         <source>Picture</source>
         <translation>Beeld</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPage</name>
+    <message>
+        <source>Nothing is open.</source>
+        <translation>Er is niets geopend.</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Positie</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>Eén beeld terug</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Afspelen</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>Eén beeld vooruit</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Snelheid</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Herhalen</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Openen…</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Dempen</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>Veilige zones</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Passend</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Vullend</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>Grootte van het beeld</translation>
+    </message>
+    <message>
+        <source>Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms</source>
+        <translation>Laatste seconde: %1 getoond, %2 overgeslagen, %3 te laat, %4 uit de cache, afwijking %5 ms</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played.</source>
+        <translation>%1 kan niet worden afgespeeld.</translation>
+    </message>
+    <message>
+        <source>Ready: %1</source>
+        <translation>Gereed: %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pauze</translation>
     </message>
 </context>
 <context>

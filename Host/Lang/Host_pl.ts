@@ -349,6 +349,14 @@
         <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
         <translation>Przeciągaj liczbę, z Shift szybciej, z Ctrl wolniej; kliknięcie ją edytuje.</translation>
     </message>
+    <message>
+        <source>Player</source>
+        <translation>Odtwarzacz</translation>
+    </message>
+    <message>
+        <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
+        <translation>Otwórz plik i odtwórz go; K odtwarza i wstrzymuje, przecinek i kropka przesuwają o klatkę.</translation>
+    </message>
 </context>
 <context>
     <name>GalleryWindow</name>
@@ -731,6 +739,81 @@
     <message>
         <source>Picture</source>
         <translation>Obraz</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPage</name>
+    <message>
+        <source>Nothing is open.</source>
+        <translation>Nic nie jest otwarte.</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Pozycja</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>Jedna klatka wstecz</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Odtwórz</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>Jedna klatka naprzód</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Prędkość</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Pętla</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Otwórz…</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Wycisz</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Głośność</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>Obszary bezpieczne</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Dopasuj</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Wypełnij</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>Wielkość obrazu</translation>
+    </message>
+    <message>
+        <source>Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms</source>
+        <translation>Ostatnia sekunda: pokazane %1, pominięte %2, spóźnione %3, z pamięci podręcznej %4, odchyłka %5 ms</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played.</source>
+        <translation>Nie można odtworzyć %1.</translation>
+    </message>
+    <message>
+        <source>Ready: %1</source>
+        <translation>Gotowe: %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Wstrzymaj</translation>
     </message>
 </context>
 <context>

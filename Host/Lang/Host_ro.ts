@@ -349,6 +349,14 @@
         <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
         <translation>Trageți de un număr, cu Shift mai repede, cu Ctrl mai încet; un clic îl editează.</translation>
     </message>
+    <message>
+        <source>Player</source>
+        <translation>Player</translation>
+    </message>
+    <message>
+        <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
+        <translation>Deschideți un fișier și redați-l; K redă și pune pe pauză, virgula și punctul avansează un cadru.</translation>
+    </message>
 </context>
 <context>
     <name>GalleryWindow</name>
@@ -731,6 +739,81 @@
     <message>
         <source>Picture</source>
         <translation>Imagine</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPage</name>
+    <message>
+        <source>Nothing is open.</source>
+        <translation>Nimic nu este deschis.</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Poziție</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>Înapoi cu un cadru</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Redă</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>Înainte cu un cadru</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Viteză</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Buclă</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Deschide…</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Fără sunet</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volum</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>Zone sigure</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Încadrare</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Umplere</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>Dimensiunea imaginii</translation>
+    </message>
+    <message>
+        <source>Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms</source>
+        <translation>Ultima secundă: %1 afișate, %2 omise, %3 întârziate, %4 din cache, abatere %5 ms</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played.</source>
+        <translation>%1 nu poate fi redat.</translation>
+    </message>
+    <message>
+        <source>Ready: %1</source>
+        <translation>Gata: %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pauză</translation>
     </message>
 </context>
 <context>

@@ -349,6 +349,14 @@
         <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
         <translation>Тяните число: с Shift быстрее, с Ctrl медленнее; щелчок — правка.</translation>
     </message>
+    <message>
+        <source>Player</source>
+        <translation>Плеер</translation>
+    </message>
+    <message>
+        <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
+        <translation>Откройте файл и воспроизведите его; K — пуск и пауза, запятая и точка — на кадр назад и вперёд.</translation>
+    </message>
 </context>
 <context>
     <name>GalleryWindow</name>
@@ -731,6 +739,81 @@
     <message>
         <source>Picture</source>
         <translation>Изображение</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPage</name>
+    <message>
+        <source>Nothing is open.</source>
+        <translation>Ничего не открыто.</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Позиция</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>На кадр назад</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Воспроизвести</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>На кадр вперёд</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Скорость</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Повтор</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Открыть…</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Без звука</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Громкость</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>Безопасные зоны</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Вписать</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Заполнить</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>Размер изображения</translation>
+    </message>
+    <message>
+        <source>Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms</source>
+        <translation>Последняя секунда: показано %1, пропущено %2, с опозданием %3, из кэша %4, расхождение %5 мс</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played.</source>
+        <translation>%1 нельзя воспроизвести.</translation>
+    </message>
+    <message>
+        <source>Ready: %1</source>
+        <translation>Готово: %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Пауза</translation>
     </message>
 </context>
 <context>

@@ -349,6 +349,14 @@
         <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
         <translation>Dra i ett tal, med Skift snabbare, med Ctrl långsammare; ett klick redigerar det.</translation>
     </message>
+    <message>
+        <source>Player</source>
+        <translation>Spelare</translation>
+    </message>
+    <message>
+        <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
+        <translation>Öppna en fil och spela den; K spelar och pausar, komma och punkt stegar en bildruta.</translation>
+    </message>
 </context>
 <context>
     <name>GalleryWindow</name>
@@ -728,6 +736,81 @@
     <message>
         <source>Picture</source>
         <translation>Bild</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPage</name>
+    <message>
+        <source>Nothing is open.</source>
+        <translation>Ingenting är öppet.</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>En bildruta bakåt</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Spela</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>En bildruta framåt</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Hastighet</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Slinga</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Öppna…</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Tyst</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volym</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>Säkra områden</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Anpassa</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Fyll</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>Bildens storlek</translation>
+    </message>
+    <message>
+        <source>Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms</source>
+        <translation>Senaste sekunden: %1 visade, %2 överhoppade, %3 sena, %4 från cachen, avvikelse %5 ms</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played.</source>
+        <translation>%1 kan inte spelas.</translation>
+    </message>
+    <message>
+        <source>Ready: %1</source>
+        <translation>Klar: %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
     </message>
 </context>
 <context>

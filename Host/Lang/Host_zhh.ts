@@ -349,6 +349,14 @@
         <source>Drag on a number, with Shift faster, with Ctrl slower; a click edits it.</source>
         <translation>拖曳數字，按住 Shift 較快，按住 Ctrl 較慢；點擊可編輯。</translation>
     </message>
+    <message>
+        <source>Player</source>
+        <translation>播放器</translation>
+    </message>
+    <message>
+        <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
+        <translation>開啟檔案並播放；K 播放或暫停，逗號和句號逐格移動。</translation>
+    </message>
 </context>
 <context>
     <name>GalleryWindow</name>
@@ -725,6 +733,81 @@
     <message>
         <source>Picture</source>
         <translation>畫面</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPage</name>
+    <message>
+        <source>Nothing is open.</source>
+        <translation>沒有開啟任何檔案。</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>後退一格</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>前進一格</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>循環</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>開啟…</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>靜音</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>安全區域</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>符合大小</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>填滿</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>畫面大小</translation>
+    </message>
+    <message>
+        <source>Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms</source>
+        <translation>前一秒：顯示 %1、捨棄 %2、延遲 %3、快取 %4、偏差 %5 ms</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played.</source>
+        <translation>無法播放 %1。</translation>
+    </message>
+    <message>
+        <source>Ready: %1</source>
+        <translation>就緒：%1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暫停</translation>
     </message>
 </context>
 <context>

@@ -390,6 +390,7 @@ void LevelMeter::PaintScale(QPainter& painter, const MeterLayout& layout) const
     constexpr double numberShade = 0.65;
     constexpr double tickShade = 0.35;
     painter.setFont(NumberFont(font()));
+    painter.setLayoutDirection(Qt::LeftToRight); // the minus goes before the number everywhere
     const QFontMetrics metrics(painter.font());
     painter.setPen(Mixed(palette(), numberShade));
     for (const int value : layout.Values(metrics)) {

@@ -82,8 +82,8 @@ QRectF MeterLayout::Mark(int channel) const
 
 QVector<int> MeterLayout::Values(const QFontMetrics& font) const
 {
-    // Half as much between them as they take, so that none runs into the next.
-    const double wanted = 1.5 * (isUpright ? font.height() : NumberWidth(font, int(minimum)));
+    // With room between them, so that none runs into the next.
+    const double wanted = isUpright ? 1.5 * font.height() : 2.0 * NumberWidth(font, int(minimum));
     const auto* step = std::find_if(std::begin(kSteps), std::end(kSteps) - 1, [&](int decibels) {
         return decibels * Length() / (maximum - minimum) >= wanted;
     });
