@@ -12,7 +12,7 @@ template <typename T>
 HRESULT GiveValue(T* out, const T& value)
 {
     if (!out)
-        return E_POINTER;
+        return ComFailure(E_POINTER);
     *out = value;
     return S_OK;
 }
@@ -106,7 +106,7 @@ template <typename Class, typename Interface, typename... Arguments>
 HRESULT GiveNew(Interface** out, Arguments&&... arguments) noexcept
 {
     if (!out)
-        return E_POINTER;
+        return ComFailure(E_POINTER);
     *out = nullptr;
     return ComGuard([&] {
         *out = MakeCom<Class>(std::forward<Arguments>(arguments)...).detach();

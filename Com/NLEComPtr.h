@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "Com/ComGuard.h"
 #include "Com/ComTypes.h"
 
 #include <cstddef>
@@ -88,7 +89,7 @@ public:
     HRESULT copyTo(T** out) const noexcept
     {
         if (!out)
-            return E_POINTER;
+            return ComFailure(E_POINTER);
         retain();
         *out = m_object;
         return S_OK;

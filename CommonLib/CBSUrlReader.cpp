@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/CBSUrlReader.h"
 
+#include "CommonLib/ModuleErrors_p.h"
 #include "CommonLib/PathOperation.h"
 #include "CommonLib/WideText_p.h"
 
@@ -46,7 +47,9 @@ bool CBSUrlReader::LoadUtilitiesLib()
     if (m_module)
         return true;
     auto module = std::make_unique<QLibrary>(PathOperation::MakeWorkPath("CVUtilities.dll"));
-    if (module->load())
+    const bool isLoaded = module->load();
+    NoteModule(*module);
+    if (isLoaded)
         m_module = std::move(module);
     return m_module != nullptr;
 }

@@ -17,6 +17,7 @@
 #include "CommonLib/ImageTextButton2.h"
 #include "CommonLib/LangConstInfo.h"
 #include "CommonLib/MagicLabel.h"
+#include "CommonLib/ModuleErrors.h"
 #include "CommonLib/MultiLangMgr.h"
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/FAudioStreamProcessHelper.h"

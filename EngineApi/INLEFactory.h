@@ -11,6 +11,7 @@ struct INLEMediaEncoder;
 struct INLEPlayer;
 struct INLEProperties;
 struct INLEProxyMaker;
+struct INLEReasons;
 struct INLESceneSegment;
 struct INLEThumbnailExtractor;
 struct INLETimeline;
@@ -178,4 +179,6 @@ struct INLEFactory : IUnknown
     virtual HRESULT Shutdown(int flags) = 0;
     virtual HRESULT CreateProxyMaker(INLEProxyMaker** maker) = 0;
     virtual HRESULT CreatePlayer(INLEPlayer** player) = 0;
+    /// Why calls fail.
+    virtual HRESULT GetReasons(INLEReasons** reasons) = 0;
 };

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/ModuleErrors.h"
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
@@ -38,12 +39,17 @@ private Q_SLOTS:
             "-INFO- [PlayerMaterProviderPrivate::OpenCLGpuInit]:  m_pNLEOpenCLGpuFactory Create "
             "failed. - [CommonLib/NLEWraper/PlayerMaterProviderPrivate(67)]"};
         QCOMPARE(log.Take(), expected);
+        QVERIFY2(ModuleLoadError("NLECore.dll").contains("NLECore.dll"),
+                 qPrintable(ModuleLoadError("NLECore.dll")));
     }
 
     void noDevicesWithoutTheirService()
     {
         QCOMPARE(WpdApiLib::EnumerateAllDevices(nullptr, nullptr), 0ul);
         QCOMPARE(WpdApiLib::ChooseDevice(L"phone", nullptr), 0);
+        if (QSysInfo::kernelType() == "linux")
+            QVERIFY(!ModuleLoadError("PortableDevices.dll").isEmpty());
+        QCOMPARE(ModuleLoadError("CVUtilities.dll"), QString()); // nobody asked for it
     }
 
     void unusableModule()
@@ -55,6 +61,11 @@ private Q_SLOTS:
         NLEWraper::GetInstance(nullptr);
         QVERIFY(module.remove());
         QVERIFY(log.Take().last().contains("Check NLECore Exist:1"));
+        const QString unusable = ModuleLoadError("NLECore.dll");
+        NLEWraper::Release();
+        NLEWraper::GetInstance(nullptr);
+        const QString missing = ModuleLoadError("NLECore.dll");
+        QVERIFY2(unusable.contains("NLECore.dll") && unusable != missing, qPrintable(unusable));
     }
 };
 

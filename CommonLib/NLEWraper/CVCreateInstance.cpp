@@ -2,6 +2,7 @@
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 
 #include "Com/ClassFactory.h"
+#include "CommonLib/ModuleErrors_p.h"
 #include "CommonLib/NLEWraper/EngineModule_p.h"
 
 #include <QLibrary>
@@ -36,7 +37,9 @@ bool CVCreateInstance::Load()
     if (m_module)
         return true;
     auto module = std::make_unique<QLibrary>(EngineModulePath());
-    if (!module->load())
+    const bool isLoaded = module->load();
+    NoteModule(*module);
+    if (!isLoaded)
         return false;
     m_module = std::move(module);
     return true;

@@ -3,6 +3,7 @@
 
 #include "Com/ClassFactory.h"
 #include "Com/ComObject.h"
+#include "CommonLib/ModuleErrors_p.h"
 #include "CommonLib/WideText_p.h"
 #include "CommonLib/WpdApiLib/WpdReport_p.h"
 
@@ -28,6 +29,7 @@ DllGetClassObjectFunction GetClassObject()
                         QStringLiteral("/PortableDevices.dll"));
         s_function =
             reinterpret_cast<DllGetClassObjectFunction>(module.resolve("DllGetClassObject"));
+        NoteModule(module);
     }
     return s_function;
 }

@@ -7,6 +7,7 @@
 #include "NLECore/media/PictureFeeder_p.h"
 #include "NLECore/media/PictureSequence_p.h"
 #include "NLECore/media/PlainThreads_p.h"
+#include "NLECore/media/Reasons.h"
 
 #include <QColor>
 #include <QFileInfo>
@@ -188,12 +189,18 @@ struct MediaWriter::Private
 
     bool Check(int code)
     {
-        return code >= 0 || Fail(WriterError::Kind::Settings, AvErrorText(code));
+        return code >= 0 || Fail(WriterError::Kind::Settings, AvErrorText(code), IsFull(code));
     }
 
-    bool Fail(WriterError::Kind kind, const QString& reason)
+    /// Whether a call that gave \a code failed as there is no more room.
+    bool IsFull(int code) const
     {
-        error = {kind, reason};
+        return code == AVERROR(ENOSPC) || file.error() == QFileDevice::ResourceError;
+    }
+
+    bool Fail(WriterError::Kind kind, const QString& reason, bool isFull = false)
+    {
+        error = {kind, reason, isFull};
         return false;
     }
     bool Fail(const char* reason)
@@ -438,7 +445,7 @@ bool MediaWriter::Try(const QString& path, WriterSettings& settings, WriterError
     if (!writer)
         return false;
     if (!WriteTrial(*writer))
-        return fail(WriterError::Kind::Settings, writer->Error());
+        return fail(WriterError::Kind::Settings, writer->Error().text);
     const QString first = writer->IsSequence() ? PictureSequence::FileOf(trial, 0) : trial;
     if (!Holds(ProbeMedia(first, nullptr), *writer))
         return fail(WriterError::Kind::Settings,
@@ -523,12 +530,25 @@ bool MediaWriter::Finish()
     avio_flush(d->output.get());
     if (!d->Check(d->output->error))
         return false;
-    return d->file.commit() || d->Fail(WriterError::Kind::File, d->file.errorString());
+    return d->file.commit() ||
+           d->Fail(WriterError::Kind::File, d->file.errorString(), d->IsFull(0));
 }
 
-QString MediaWriter::Error() const
+const WriterError& MediaWriter::Error() const
 {
-    return d->error.text;
+    return d->error;
+}
+
+HRESULT RefuseWriting(HRESULT result, const QString& path, const WriterError& error)
+{
+    NLEReason reason = NLEReason_SettingsRefused;
+    if (error.isFull)
+        reason = NLEReason_DiskFull;
+    else if (error.kind == WriterError::Kind::File)
+        reason = NLEReason_NotWritable;
+    else if (error.kind == WriterError::Kind::Container)
+        reason = NLEReason_NoContainer;
+    return Refuse(result, reason, path + QStringLiteral(": ") + error.text);
 }
 
 } // namespace nle

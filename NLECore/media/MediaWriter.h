@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "Com/ComTypes.h"
 #include "NLECore/media/EncodeFormats.h"
 #include "NLECore/media/MediaInfo.h"
 
@@ -39,7 +40,11 @@ struct WriterError
     };
     Kind kind = Kind::Settings;
     QString text;
+    bool isFull = false; ///< the disk is
 };
+
+/// Gives \a result, for a call that does not write \a path.
+HRESULT RefuseWriting(HRESULT result, const QString& path, const WriterError& error);
 
 /// Writes one media file, or a file of each picture. Where the settings name none, the container
 /// follows from the suffix of the path, the codecs from the container. Everything is written under
@@ -80,7 +85,7 @@ public:
     /// Writes what is left and gives the file its name.
     bool Finish();
     /// What went wrong last.
-    QString Error() const;
+    const WriterError& Error() const;
 
 private:
     struct Private;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/AttachedNode.h"
 
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/scene/FrameMath.h"
 
@@ -24,7 +25,7 @@ HRESULT AttachedNode::QueryInterface(REFIID iid, void** out)
         iid == InterfaceId<INLEPropertyHost>())
         return TimelineNode::QueryInterface(iid, out);
     if (!out)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     *out = nullptr;
     return E_NOINTERFACE;
 }
@@ -32,7 +33,7 @@ HRESULT AttachedNode::QueryInterface(REFIID iid, void** out)
 HRESULT AttachedNode::SetRenderFrameRate(NLERational rate)
 {
     if (m_owner && ToDouble(rate) != ToDouble(m_owner->FrameRate()))
-        return E_INVALIDARG;
+        return Refuse(E_INVALIDARG);
     return TimelineNode::SetRenderFrameRate(rate);
 }
 

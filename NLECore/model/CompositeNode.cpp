@@ -3,6 +3,7 @@
 
 #include "Com/ComGuard.h"
 #include "EngineApi/NLEKey.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/TransitionNode.h"
 #include "NLECore/render/CachedFrames.h"
 #include "NLECore/scene/FrameMath.h"
@@ -79,10 +80,10 @@ public:
     HRESULT GetCurrent(INLETimeline** clip) override
     {
         if (!clip)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         *clip = nullptr;
         if (m_index >= m_clips.size())
-            return E_FAIL;
+            return Refuse(E_FAIL, NLEReason_NothingThere);
         return NLEComPtr<INLETimeline>(m_clips[m_index]).copyTo(clip);
     }
 
@@ -165,7 +166,7 @@ HRESULT CompositeNode::AddClip(INLETimeline* clip)
         TimelineNode* node = TimelineNode::From(clip);
         if (!node || !node->IsClip() || node->Parent() || IsSelfOrAncestor(node) ||
             DepthFromTop() + DepthBelow(*node) > kDeepestNesting)
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG, NLEReason_WrongObject);
         Adopt(node);
         node->ChangeRate(FrameRate());
         return S_OK;
@@ -176,7 +177,7 @@ HRESULT CompositeNode::RemoveClip(INLETimeline* clip)
 {
     TimelineNode* node = TimelineNode::From(clip);
     if (!node || node->Parent() != this)
-        return E_INVALIDARG;
+        return Refuse(E_INVALIDARG, NLEReason_WrongObject);
     const auto found = std::find(m_clips.begin(), m_clips.end(), NLEComPtr<TimelineNode>(node));
     node->SetParent(nullptr);
     m_clips.erase(found);
@@ -303,9 +304,9 @@ HRESULT ProjectNode::GetProfile(tagNLEProjectProfile* profile)
 HRESULT ProjectNode::SetProfile(const tagNLEProjectProfile* profile)
 {
     if (!profile)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     if (!IsValid(*profile))
-        return E_INVALIDARG;
+        return Refuse(E_INVALIDARG);
     m_profile = *profile;
     ChangeRate(profile->frameRate);
     return S_OK;
@@ -314,7 +315,7 @@ HRESULT ProjectNode::SetProfile(const tagNLEProjectProfile* profile)
 HRESULT ProjectNode::FillProperties(INLEProperties* properties)
 {
     if (!properties)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     for (const auto& [key, value] : m_context) {
         const HRESULT result = std::visit(WriteValue{*properties, key.c_str()}, value);
         if (FAILED(result))
@@ -327,9 +328,9 @@ HRESULT ProjectNode::TakeProperties(INLEProperties* properties)
 {
     return ComGuard([&] {
         if (!properties)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         const PropertyBag* bag = PropertyBag::From(properties);
-        return bag ? TakeContext(bag->All()) : E_INVALIDARG;
+        return bag ? TakeContext(bag->All()) : Refuse(E_INVALIDARG, NLEReason_WrongObject);
     });
 }
 
@@ -337,7 +338,7 @@ HRESULT ProjectNode::TakeContext(const PropertyBag::Values& values)
 {
     for (const auto& [key, value] : values) {
         if (!IsContextValue(key, value))
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG, NLEReason_OutOfRange, QString::fromStdWString(key));
     }
     PropertyBag::Values context = m_context;
     for (const auto& [key, value] : values)

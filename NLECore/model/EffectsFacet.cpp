@@ -2,6 +2,7 @@
 #include "NLECore/model/EffectsFacet.h"
 
 #include "Com/ComGuard.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/EffectNode.h"
 
 #include <algorithm>
@@ -27,10 +28,10 @@ HRESULT EffectsFacet::GetCount(int* count)
 HRESULT EffectsFacet::GetEffect(int index, INLETimeline** effect)
 {
     if (!effect)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     *effect = nullptr;
     if (!Has(index))
-        return E_INVALIDARG;
+        return RefuseIndex(index, std::int64_t(m_effects.size()));
     return NLEComPtr<INLETimeline>(m_effects[size_t(index)]).copyTo(effect);
 }
 
@@ -38,8 +39,10 @@ HRESULT EffectsFacet::AddEffect(INLETimeline* effect, int index)
 {
     return ComGuard([&] {
         EffectNode* node = EffectNode::From(effect);
-        if (!node || node->Owner() || index < -1 || index > int(m_effects.size()))
-            return E_INVALIDARG;
+        if (!node || node->Owner())
+            return Refuse(E_INVALIDARG, NLEReason_WrongObject);
+        if (index < -1 || index > int(m_effects.size()))
+            return RefuseIndex(index, std::int64_t(m_effects.size()));
         m_effects.insert(index < 0 ? m_effects.end() : m_effects.begin() + index,
                          NLEComPtr<EffectNode>(node));
         node->SetOwner(&m_owner);
@@ -56,7 +59,7 @@ HRESULT EffectsFacet::RemoveEffect(INLETimeline* effect)
                              return own.get() == node;
                          });
         if (found == m_effects.end())
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG, NLEReason_WrongObject);
         (*found)->SetOwner(nullptr);
         m_effects.erase(found);
         return S_OK;
@@ -66,7 +69,7 @@ HRESULT EffectsFacet::RemoveEffect(INLETimeline* effect)
 HRESULT EffectsFacet::MoveEffect(int from, int to)
 {
     if (!Has(from) || !Has(to))
-        return E_INVALIDARG;
+        return RefuseIndex(Has(from) ? to : from, std::int64_t(m_effects.size()));
     const auto first = m_effects.begin();
     if (from < to)
         std::rotate(first + from, first + from + 1, first + to + 1);

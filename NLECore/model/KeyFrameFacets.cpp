@@ -3,6 +3,7 @@
 
 #include "Com/ComGuard.h"
 #include "EngineApi/NLECommon.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/TimelineNode.h"
 
 #include <cmath>
@@ -48,7 +49,7 @@ HRESULT KeyFrameFacet::GetKeyFrame(int index, NLEKeyFrameRecord* record)
 {
     return ComGuard([&] {
         if (!Has(index))
-            return E_INVALIDARG;
+            return RefuseIndex(index, m_frames.Count());
         FollowRange();
         return GiveValue(record, m_frames.At(index));
     });
@@ -58,16 +59,18 @@ HRESULT KeyFrameFacet::SetKeyFrame(int index, const NLEKeyFrameRecord* record)
 {
     return ComGuard([&] {
         if (!record)
-            return E_POINTER;
-        if (!Has(index) || !IsFinite(*record))
-            return E_INVALIDARG;
+            return Refuse(E_POINTER);
+        if (!Has(index))
+            return RefuseIndex(index, m_frames.Count());
+        if (!IsFinite(*record))
+            return Refuse(E_INVALIDARG);
         FollowRange();
         if (m_frames.At(index).time != record->time) {
             const int count = m_frames.Count();
             const int other =
                 m_frames.First([=](const NLEKeyFrameRecord& r) { return r.time >= record->time; });
             if (other < count && m_frames.At(other).time == record->time)
-                return E_INVALIDARG;
+                return Refuse(E_INVALIDARG);
             const int placed = m_frames.Put(*record);
             m_frames.Erase(placed <= index ? index + 1 : index);
         } else {
@@ -82,9 +85,9 @@ HRESULT KeyFrameFacet::AddKeyFrame(const NLEKeyFrameRecord* record, int* index)
 {
     return ComGuard([&] {
         if (!record || !index)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         if (!IsFinite(*record))
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG);
         FollowRange();
         *index = m_frames.Put(*record);
         Changed();
@@ -95,7 +98,7 @@ HRESULT KeyFrameFacet::AddKeyFrame(const NLEKeyFrameRecord* record, int* index)
 HRESULT KeyFrameFacet::DeleteKeyFrame(int index)
 {
     if (!Has(index))
-        return E_INVALIDARG;
+        return RefuseIndex(index, m_frames.Count());
     m_frames.Erase(index);
     Changed();
     return S_OK;
@@ -112,9 +115,9 @@ HRESULT KeyFrameFacet::GetParamAt(double time, NLEKeyFrameRecord* record)
 {
     return ComGuard([&] {
         if (!std::isfinite(time))
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG);
         if (m_frames.Count() == 0)
-            return E_FAIL;
+            return Refuse(E_FAIL, NLEReason_NothingThere);
         FollowRange();
         return GiveValue(record, m_frames.ValueAt(time));
     });
@@ -124,7 +127,7 @@ HRESULT KeyFrameFacet::FindIndex(int frame, int frameCount, int* index)
 {
     return ComGuard([&] {
         if (frameCount < 1)
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG);
         FollowRange();
         const auto frameOf = [frameCount](const NLEKeyFrameRecord& record) {
             return NLECommon::KeyFrame::CaculateKeyFrameIndex(record.time, frameCount);
@@ -132,7 +135,7 @@ HRESULT KeyFrameFacet::FindIndex(int frame, int frameCount, int* index)
         const int found = m_frames.First(
             [&](const NLEKeyFrameRecord& record) { return frameOf(record) >= frame; });
         if (!Has(found) || frameOf(m_frames.At(found)) != frame)
-            return E_FAIL;
+            return Refuse(E_FAIL, NLEReason_NothingThere);
         return GiveValue(index, found);
     });
 }

@@ -3,6 +3,7 @@
 
 #include "Com/ComGuard.h"
 #include "Com/ComObject.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/PropertyBag.h"
 #include "NLECore/scene/FrameMath.h"
 
@@ -19,9 +20,9 @@ HRESULT MarkerFacet::GetCount(int* count)
 HRESULT MarkerFacet::GetMarker(int index, NLEMarkerRecord* record, wchar_t* name, int capacity)
 {
     if (!record)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     if (!Has(index))
-        return E_INVALIDARG;
+        return RefuseIndex(index, std::int64_t(settings.size()));
     const Marker& marker = settings[size_t(index)];
     *record = marker.record;
     return capacity == 0 ? S_OK : CopyText(marker.name, name, capacity);
@@ -31,10 +32,10 @@ HRESULT MarkerFacet::AddMarker(const NLEMarkerRecord* record, const wchar_t* nam
 {
     return ComGuard([&] {
         if (!record || !index)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         const int place = PutMarker(settings, {*record, name ? name : L""});
         if (place < 0)
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG);
         *index = place;
         return S_OK;
     });
@@ -45,9 +46,9 @@ HRESULT MarkerFacet::SetMarker(int index, const NLEMarkerRecord* record, const w
 {
     return ComGuard([&] {
         if (!record)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         if (!Has(index))
-            return E_INVALIDARG;
+            return RefuseIndex(index, std::int64_t(settings.size()));
         const Marker& old = settings[size_t(index)];
         Marker marker = {*record, name ? name : old.name};
         int place = index;
@@ -64,14 +65,14 @@ HRESULT MarkerFacet::SetMarker(int index, const NLEMarkerRecord* record, const w
         }
         if (place >= 0 && newIndex)
             *newIndex = place;
-        return place < 0 ? E_INVALIDARG : S_OK;
+        return place < 0 ? Refuse(E_INVALIDARG) : S_OK;
     });
 }
 
 HRESULT MarkerFacet::DeleteMarker(int index)
 {
     if (!Has(index))
-        return E_INVALIDARG;
+        return RefuseIndex(index, std::int64_t(settings.size()));
     settings.erase(settings.begin() + index);
     return S_OK;
 }

@@ -3,8 +3,12 @@
 
 #include "Com/ComGuard.h"
 #include "NLECore/media/EngineLog.h"
+#include "NLECore/media/ImageSequence.h"
 #include "NLECore/media/MediaStore.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/PropertyBag.h"
+
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -46,10 +50,22 @@ MediaStore& Files()
     return s_store;
 }
 
-std::shared_ptr<const MediaInfo> Logged(const MediaStore::Result& result)
+/// Why a file gives no media.
+NLEReason ReasonFor(const QString& path)
 {
-    if (!result.info)
+    const QFileInfo file(path);
+    if (!IsThere(path))
+        return NLEReason_FileMissing;
+    const bool isFilm = file.isFile() && file.isReadable() && file.size() > 0;
+    return isFilm || !file.exists() ? NLEReason_FileUnsupported : NLEReason_FileUnreadable;
+}
+
+std::shared_ptr<const MediaInfo> Logged(const QString& path, const MediaStore::Result& result)
+{
+    if (!result.info) {
         qCWarning(lcEngine, "%s", qUtf8Printable(result.error));
+        NoteReason(ReasonFor(path), result.error);
+    }
     return result.info;
 }
 
@@ -57,14 +73,15 @@ std::shared_ptr<const MediaInfo> Logged(const MediaStore::Result& result)
 
 std::shared_ptr<const MediaInfo> DescribeFile(const QString& path)
 {
-    return Logged(Files().Describe(path));
+    return Logged(path, Files().Describe(path));
 }
 
 std::vector<std::shared_ptr<const MediaInfo>> DescribeFiles(const QStringList& paths)
 {
+    const std::vector<MediaStore::Result> results = Files().DescribeAll(paths);
     std::vector<std::shared_ptr<const MediaInfo>> infos;
-    for (const MediaStore::Result& result : Files().DescribeAll(paths))
-        infos.push_back(Logged(result));
+    for (int i = 0; i < paths.size(); ++i)
+        infos.push_back(Logged(paths[i], results[size_t(i)]));
     return infos;
 }
 
@@ -113,9 +130,9 @@ HRESULT MediaInfoObject::GetStreamCount(std::uint32_t* count)
 HRESULT MediaInfoObject::GetStream(std::uint32_t index, NLEStreamInfo* stream)
 {
     if (!stream)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     if (index >= m_media->streams.size())
-        return E_INVALIDARG;
+        return RefuseIndex(index, std::int64_t(m_media->streams.size()));
     *stream = ToEngine(m_media->streams[index]);
     return S_OK;
 }
@@ -123,7 +140,7 @@ HRESULT MediaInfoObject::GetStream(std::uint32_t index, NLEStreamInfo* stream)
 HRESULT MediaInfoObject::GetFrameCountAndRate(std::uint32_t* count, NLERational* rate)
 {
     if (!count || !rate)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     *count = m_media->frameCount;
     *rate = m_media->frameRate;
     return S_OK;

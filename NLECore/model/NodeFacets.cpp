@@ -2,6 +2,7 @@
 #include "NLECore/model/NodeFacets.h"
 
 #include "Com/ComGuard.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/PropertyBag.h"
 #include "NLECore/model/TimelineNode.h"
@@ -17,7 +18,17 @@ namespace {
 template <auto Member, typename Settings, typename Value>
 HRESULT Take(Settings& settings, const Value& value)
 {
-    return SetField<Member>(settings, value) ? S_OK : E_INVALIDARG;
+    if (SetField<Member>(settings, value))
+        return S_OK;
+    HRESULT result = E_INVALIDARG;
+    ForEachField<Settings>([&](const auto& field) {
+        if constexpr (std::is_same_v<std::remove_const_t<decltype(field.member)>,
+                                     std::remove_const_t<decltype(Member)>>) {
+            if (field.member == Member)
+                result = RefuseRange(field.property, double(field.lowest), double(field.highest));
+        }
+    });
+    return result;
 }
 
 } // namespace
@@ -65,7 +76,7 @@ HRESULT TransformFacet::GetEnable(bool* enable)
 HRESULT TransformFacet::SetCenter(const NLEPointF* center)
 {
     if (!center)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     return Take<&TransformSettings::center>(settings, *center);
 }
 
@@ -77,7 +88,7 @@ HRESULT TransformFacet::GetCenter(NLEPointF* center)
 HRESULT TransformFacet::SetScale(const NLESizeF* scale)
 {
     if (!scale)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     return Take<&TransformSettings::scale>(settings, *scale);
 }
 
@@ -112,9 +123,9 @@ public:
     HRESULT GetPoint(int index, double* time, double* value) override
     {
         if (!time || !value)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         if (index < 0 || index >= int(Points().size()))
-            return E_INVALIDARG;
+            return RefuseIndex(index, std::int64_t(Points().size()));
         *time = Points()[size_t(index)].time;
         *value = Points()[size_t(index)].gain;
         return S_OK;
@@ -123,7 +134,8 @@ public:
     HRESULT SetPoint(double time, double value) override
     {
         return ComGuard([&] {
-            return PutVolumePoint(Points(), {time, value}) ? S_OK : E_INVALIDARG;
+            return PutVolumePoint(Points(), {time, value}) ? S_OK
+                                                           : RefuseRange("volume", 0, kMostVolume);
         });
     }
 
@@ -277,7 +289,8 @@ HRESULT AudioFacet::GetEqualizerEnable(bool* enable)
 HRESULT AudioFacet::SetEqualizerName(const wchar_t* name)
 {
     return ComGuard([&] {
-        return name ? Take<&AudioSettings::equalizerName>(settings, std::wstring(name)) : E_POINTER;
+        return name ? Take<&AudioSettings::equalizerName>(settings, std::wstring(name))
+                    : Refuse(E_POINTER);
     });
 }
 
@@ -289,7 +302,7 @@ HRESULT AudioFacet::GetEqualizerName(wchar_t* buffer, int capacity)
 HRESULT AudioFacet::SetEqualizerParam(const double* params)
 {
     if (!params)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     auto gains = settings.equalizerGains;
     std::copy_n(params, gains.size(), gains.begin());
     return Take<&AudioSettings::equalizerGains>(settings, gains);
@@ -298,7 +311,7 @@ HRESULT AudioFacet::SetEqualizerParam(const double* params)
 HRESULT AudioFacet::GetEqualizerParam(double* params)
 {
     if (!params)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     std::copy(settings.equalizerGains.begin(), settings.equalizerGains.end(), params);
     return S_OK;
 }
@@ -308,7 +321,7 @@ VideoFacet::VideoFacet(TimelineNode& node) : NodeFacet(static_cast<INLETimeline&
 HRESULT VideoFacet::GetAlphaChannel(NLEAlphaChannelRecord* record)
 {
     if (!record)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     if (settings.alphaChannel) {
         *record = *settings.alphaChannel;
     } else {
@@ -322,7 +335,7 @@ HRESULT VideoFacet::SetAlphaChannel(const NLEAlphaChannelRecord* record)
 {
     return ComGuard([&] {
         if (!record)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         settings.alphaChannel = std::make_shared<NLEAlphaChannelRecord>(*record);
         return S_OK;
     });
@@ -332,12 +345,14 @@ HRESULT VideoFacet::SetProxyFile(const wchar_t* path)
 {
     return ComGuard([&] {
         if (!path)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         std::shared_ptr<const MediaInfo> proxy;
         if (*path != L'\0') {
             proxy = DescribeFile(QString::fromWCharArray(path));
-            if (!proxy || proxy->videoStream < 0)
-                return E_FAIL;
+            if (!proxy)
+                return Refuse(E_FAIL);
+            if (proxy->videoStream < 0)
+                return Refuse(E_FAIL, NLEReason_NothingThere, proxy->path);
         }
         return Take<&VideoSettings::proxy>(settings, proxy);
     });
@@ -381,9 +396,9 @@ HRESULT MixerFacet::SetParam(int index, const tagMixerParam* param)
 {
     return ComGuard([&] {
         if (!param)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         if (!IsValid(*param))
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG);
         settings[index] = *param;
         return S_OK;
     });

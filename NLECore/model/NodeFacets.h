@@ -5,6 +5,7 @@
 #include "EngineApi/INLEMixerSetting.h"
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/INLETransform.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/scene/ClipSettings.h"
 
 namespace nle {
@@ -63,8 +64,8 @@ public:
     HRESULT GetScale(NLESizeF* scale) override;
     HRESULT SetRotation(double degrees) override;
     HRESULT GetRotation(double* degrees) override;
-    HRESULT Reserved1() override { return E_NOTIMPL; }
-    HRESULT Reserved2() override { return E_NOTIMPL; }
+    HRESULT Reserved1() override { return Refuse(E_NOTIMPL); }
+    HRESULT Reserved2() override { return Refuse(E_NOTIMPL); }
     HRESULT SetLock(bool lock) override;
 
     TransformSettings settings;
@@ -127,16 +128,16 @@ public:
 
     HRESULT GetAlphaChannel(NLEAlphaChannelRecord* record) override;
     HRESULT SetAlphaChannel(const NLEAlphaChannelRecord* record) override;
-    HRESULT Reserved1() override { return E_NOTIMPL; }
-    HRESULT Reserved2() override { return E_NOTIMPL; }
-    HRESULT Reserved3() override { return E_NOTIMPL; }
-    HRESULT Reserved4() override { return E_NOTIMPL; }
-    HRESULT Reserved5() override { return E_NOTIMPL; }
-    HRESULT Reserved6() override { return E_NOTIMPL; }
-    HRESULT Reserved7() override { return E_NOTIMPL; }
-    HRESULT Reserved8() override { return E_NOTIMPL; }
-    HRESULT Reserved9() override { return E_NOTIMPL; }
-    HRESULT Reserved10() override { return E_NOTIMPL; }
+    HRESULT Reserved1() override { return Refuse(E_NOTIMPL); }
+    HRESULT Reserved2() override { return Refuse(E_NOTIMPL); }
+    HRESULT Reserved3() override { return Refuse(E_NOTIMPL); }
+    HRESULT Reserved4() override { return Refuse(E_NOTIMPL); }
+    HRESULT Reserved5() override { return Refuse(E_NOTIMPL); }
+    HRESULT Reserved6() override { return Refuse(E_NOTIMPL); }
+    HRESULT Reserved7() override { return Refuse(E_NOTIMPL); }
+    HRESULT Reserved8() override { return Refuse(E_NOTIMPL); }
+    HRESULT Reserved9() override { return Refuse(E_NOTIMPL); }
+    HRESULT Reserved10() override { return Refuse(E_NOTIMPL); }
     /// An empty path takes the proxy away; E_FAIL when the file has no picture.
     HRESULT SetProxyFile(const wchar_t* path) override;
     HRESULT GetProxyPath(wchar_t* buffer, int capacity) override;

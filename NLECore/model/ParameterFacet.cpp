@@ -2,8 +2,11 @@
 #include "NLECore/model/ParameterFacet.h"
 
 #include "Com/ComGuard.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/TimelineNode.h"
+
+#include <QFileInfo>
 
 #include <cmath>
 
@@ -19,6 +22,33 @@ HRESULT GiveText(const char* text, wchar_t* buffer, int capacity)
 HRESULT GiveTitle(const char* title, wchar_t* buffer, int capacity)
 {
     return CopyText(ToWide(Translated(title)), buffer, capacity);
+}
+
+/// There is no parameter of this name, or none of the kind that the call is for.
+HRESULT NoName(const wchar_t* name)
+{
+    return Refuse(E_INVALIDARG, NLEReason_UnknownName,
+                  name ? QString::fromWCharArray(name) : QString());
+}
+
+HRESULT NoIndex(int index)
+{
+    return Refuse(E_INVALIDARG, NLEReason_UnknownIndex, QString::number(index));
+}
+
+HRESULT OutOfRange(const ParameterRow& row)
+{
+    return RefuseRange(row.names.name, row.lowest, row.highest);
+}
+
+HRESULT NotAccepted(const ParameterRow& row, const std::wstring& text)
+{
+    const QString words = QString::fromStdWString(text);
+    if (row.kind != NLEParameter_File)
+        return Refuse(E_FAIL, NLEReason_InvalidArgument, words);
+    return Refuse(E_FAIL,
+                  QFileInfo::exists(words) ? NLEReason_FileUnsupported : NLEReason_FileMissing,
+                  words);
 }
 
 } // namespace
@@ -100,9 +130,9 @@ HRESULT ParameterFacet::GetParameter(int index, NLEParameterRecord* record, wcha
 {
     return ComGuard([&] {
         if (!record)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         if (!Has(index))
-            return E_INVALIDARG;
+            return NoIndex(index);
         *record = m_values.Row(index).Record();
         return capacity == 0 ? S_OK : GiveText(m_values.Row(index).names.name, name, capacity);
     });
@@ -112,7 +142,7 @@ HRESULT ParameterFacet::GetParameterTitle(int index, wchar_t* title, int capacit
 {
     return ComGuard([&] {
         return Has(index) ? GiveTitle(m_values.Row(index).names.title, title, capacity)
-                          : E_INVALIDARG;
+                          : NoIndex(index);
     });
 }
 
@@ -127,7 +157,7 @@ HRESULT ParameterFacet::GetChoice(int index, int choice, wchar_t* name, int capa
 {
     return ComGuard([&] {
         const NameRow* row = ChoiceAt(index, choice);
-        return row ? GiveText(row->name, name, capacity) : E_INVALIDARG;
+        return row ? GiveText(row->name, name, capacity) : NoIndex(Has(index) ? choice : index);
     });
 }
 
@@ -135,7 +165,7 @@ HRESULT ParameterFacet::GetChoiceTitle(int index, int choice, wchar_t* title, in
 {
     return ComGuard([&] {
         const NameRow* row = ChoiceAt(index, choice);
-        return row ? GiveTitle(row->title, title, capacity) : E_INVALIDARG;
+        return row ? GiveTitle(row->title, title, capacity) : NoIndex(Has(index) ? choice : index);
     });
 }
 
@@ -143,7 +173,7 @@ HRESULT ParameterFacet::GetNumber(const wchar_t* name, double* value)
 {
     return ComGuard([&] {
         const Found found = Find(name);
-        return found.IsNumber() ? GiveValue(value, m_values.Number(found.index)) : E_INVALIDARG;
+        return found.IsNumber() ? GiveValue(value, m_values.Number(found.index)) : NoName(name);
     });
 }
 
@@ -151,8 +181,10 @@ HRESULT ParameterFacet::SetNumber(const wchar_t* name, double value)
 {
     return ComGuard([&] {
         const Found found = Find(name);
-        if (!found.row || !m_values.SetNumber(found.index, value))
-            return E_INVALIDARG;
+        if (!found.row)
+            return NoName(name);
+        if (!m_values.SetNumber(found.index, value))
+            return OutOfRange(*found.row);
         m_shared.reset();
         return S_OK;
     });
@@ -162,7 +194,7 @@ HRESULT ParameterFacet::GetText(const wchar_t* name, wchar_t* text, int capacity
 {
     return ComGuard([&] {
         const Found found = Find(name);
-        return found.IsText() ? CopyText(m_values.Text(found.index), text, capacity) : E_INVALIDARG;
+        return found.IsText() ? CopyText(m_values.Text(found.index), text, capacity) : NoName(name);
     });
 }
 
@@ -170,13 +202,13 @@ HRESULT ParameterFacet::SetText(const wchar_t* name, const wchar_t* text)
 {
     return ComGuard([&] {
         if (!text)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         const Found found = Find(name);
         if (!found.IsText())
-            return E_INVALIDARG;
+            return NoName(name);
         std::wstring own = text;
         if (!own.empty() && found.row->accepts && !found.row->accepts(own))
-            return E_FAIL;
+            return NotAccepted(*found.row, own);
         m_values.SetText(found.index, std::move(own));
         m_shared.reset();
         return S_OK;
@@ -188,7 +220,7 @@ HRESULT ParameterFacet::GetKeyFrameCount(const wchar_t* name, int* count)
     return ComGuard([&] {
         const Found found = Find(name);
         return found.IsAnimated() ? GiveValue(count, int(m_values.Keys(found.index).size()))
-                                  : E_INVALIDARG;
+                                  : NoName(name);
     });
 }
 
@@ -196,8 +228,10 @@ HRESULT ParameterFacet::GetKeyFrame(const wchar_t* name, int index, NLEParameter
 {
     return ComGuard([&] {
         const Found found = Find(name);
-        if (!found.IsAnimated() || index < 0 || index >= int(m_values.Keys(found.index).size()))
-            return E_INVALIDARG;
+        if (!found.IsAnimated())
+            return NoName(name);
+        if (index < 0 || index >= int(m_values.Keys(found.index).size()))
+            return NoIndex(index);
         FollowRange();
         const ParameterKey& own = m_values.Keys(found.index)[size_t(index)];
         return GiveValue(key, NLEParameterKeyFrame{own.time, own.value, own.interpolation, 0});
@@ -209,16 +243,16 @@ HRESULT ParameterFacet::PutKeyFrame(const wchar_t* name, const NLEParameterKeyFr
 {
     return ComGuard([&] {
         if (!key)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         const Found found = Find(name);
-        if (!found.row)
-            return E_INVALIDARG;
+        if (!found.IsAnimated())
+            return NoName(name);
         FollowRange();
         const int place = m_values.PutKey(
             found.index,
             {key->time, key->value, static_cast<NLEParameterInterpolation>(key->interpolation)});
         if (place < 0)
-            return E_INVALIDARG;
+            return OutOfRange(*found.row);
         m_shared.reset();
         if (index)
             *index = place;
@@ -230,8 +264,10 @@ HRESULT ParameterFacet::DeleteKeyFrame(const wchar_t* name, int index)
 {
     return ComGuard([&] {
         const Found found = Find(name);
-        if (!found.row || !m_values.EraseKey(found.index, index))
-            return E_INVALIDARG;
+        if (!found.row)
+            return NoName(name);
+        if (!m_values.EraseKey(found.index, index))
+            return NoIndex(index);
         m_shared.reset();
         return S_OK;
     });
@@ -241,8 +277,10 @@ HRESULT ParameterFacet::GetNumberAt(const wchar_t* name, double time, double* va
 {
     return ComGuard([&] {
         const Found found = Find(name);
-        if (!found.IsNumber() || !std::isfinite(time))
-            return E_INVALIDARG;
+        if (!found.IsNumber())
+            return NoName(name);
+        if (!std::isfinite(time))
+            return Refuse(E_INVALIDARG);
         FollowRange();
         return GiveValue(value, m_values.NumberAtTime(found.index, time));
     });

@@ -2,6 +2,7 @@
 #include "NLECore/model/PropertyBag.h"
 
 #include "Com/ComGuard.h"
+#include "NLECore/media/Reasons.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,6 +10,11 @@
 namespace nle {
 
 namespace {
+
+HRESULT NoValue(const wchar_t* key)
+{
+    return Refuse(E_FAIL, NLEReason_NoValue, key ? QString::fromWCharArray(key) : QString());
+}
 
 /// A value as \a Wanted, if it is one. Numbers stand for one another: as a whole one, what fits,
 /// without its fraction.
@@ -33,9 +39,9 @@ std::optional<Wanted> ValueAs(const PropertyBag::Value& value)
 HRESULT CopyText(const std::wstring& text, wchar_t* buffer, int capacity)
 {
     if (!buffer)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     if (capacity < 1)
-        return E_INVALIDARG;
+        return Refuse(E_INVALIDARG);
     const size_t length = std::min(text.size(), size_t(capacity) - 1);
     std::copy_n(text.data(), length, buffer);
     buffer[length] = L'\0';
@@ -81,14 +87,14 @@ HRESULT PropertyBag::GetString(const wchar_t* key, wchar_t* buffer, int capacity
     return ComGuard([&] {
         const auto found = Find(key);
         const Text* text = found ? std::get_if<Text>(&*found) : nullptr;
-        return text ? CopyText(**text, buffer, capacity) : E_FAIL;
+        return text ? CopyText(**text, buffer, capacity) : NoValue(key);
     });
 }
 
 HRESULT PropertyBag::SetString(const wchar_t* key, const wchar_t* value)
 {
     return ComGuard([&] {
-        return value ? Store(key, std::make_shared<const std::wstring>(value)) : E_POINTER;
+        return value ? Store(key, std::make_shared<const std::wstring>(value)) : Refuse(E_POINTER);
     });
 }
 
@@ -125,16 +131,16 @@ HRESULT PropertyBag::Give(const wchar_t* key, Wanted* value) const
 {
     return ComGuard([&] {
         if (!value)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         const auto found = Find(key);
         const auto wanted = found ? ValueAs<Wanted>(*found) : std::nullopt;
-        return wanted ? GiveValue(value, *wanted) : E_FAIL;
+        return wanted ? GiveValue(value, *wanted) : NoValue(key);
     });
 }
 
 HRESULT PropertyBag::Store(const wchar_t* key, Value value)
 {
-    return ComGuard([&] { return key ? Write(key, std::move(value)) : E_POINTER; });
+    return ComGuard([&] { return key ? Write(key, std::move(value)) : Refuse(E_POINTER); });
 }
 
 std::optional<PropertyBag::Value> PropertyBag::Find(const wchar_t* key) const

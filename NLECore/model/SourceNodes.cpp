@@ -6,6 +6,7 @@
 #include "NLECore/media/DecoderPool.h"
 #include "NLECore/media/FontFiles.h"
 #include "NLECore/media/ImageSequence.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/scene/SourceChoice.h"
 
@@ -96,10 +97,10 @@ HRESULT MediaClip::Relink(const wchar_t* path, int /*flags*/)
 {
     return ComGuard([&] {
         if (!path)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         std::shared_ptr<const MediaInfo> media = DescribeFile(QString::fromWCharArray(path));
         if (!media)
-            return E_FAIL;
+            return Refuse(E_FAIL);
         Take(std::move(media));
         return S_OK;
     });
@@ -163,7 +164,7 @@ HRESULT MediaClip::ChangeSource(const SourceSettings& settings)
     const bool hasAudio =
         settings.audioStreams == Source().audioStreams || HasAudioStreams(*m_media, settings);
     if (!hasVideo || !hasAudio)
-        return E_INVALIDARG;
+        return Refuse(E_INVALIDARG);
     const NLERange range = Range();
     const int length = TotalLength();
     Source() = settings;

@@ -3,6 +3,7 @@
 
 #include "Com/ComGuard.h"
 #include "EngineApi/NLEKey.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/model/SourceKeys.h"
 #include "NLECore/scene/FrameMath.h"
@@ -21,6 +22,11 @@ std::uint32_t NextId()
     return ++s_last;
 }
 
+QString Named(std::wstring_view key)
+{
+    return QString::fromWCharArray(key.data(), int(key.size()));
+}
+
 } // namespace
 
 std::optional<PropertyBag::Value> NodeBag::Read(std::wstring_view key) const
@@ -37,14 +43,16 @@ std::optional<PropertyBag::Value> NodeBag::Read(std::wstring_view key) const
 HRESULT NodeBag::Write(std::wstring_view key, Value value)
 {
     if (m_node && key == NLEKey::Render::kRender_TotalFrameCount)
-        return E_ACCESSDENIED;
+        return Refuse(E_ACCESSDENIED, NLEReason_ReadOnly, Named(key));
     if (m_node && key == NLEKey::Render::kRender_Framerate) {
         const NLERational* rate = std::get_if<NLERational>(&value);
-        return rate ? m_node->SetRenderFrameRate(*rate) : E_INVALIDARG;
+        return rate ? m_node->SetRenderFrameRate(*rate) : Refuse(E_INVALIDARG);
     }
     if (m_node && m_node->PlaysFile() && IsSourceKey(key)) {
         SourceSettings settings = m_node->Source();
-        return SetSourceValue(settings, key, value) ? m_node->ChangeSource(settings) : E_INVALIDARG;
+        return SetSourceValue(settings, key, value)
+                   ? m_node->ChangeSource(settings)
+                   : Refuse(E_INVALIDARG, NLEReason_OutOfRange, Named(key));
     }
     // A frozen clip has no length of its own: it goes on playing for as long as it did.
     if (m_node && key == NLEKey::Freeze::kFreeze_Enabled)
@@ -90,7 +98,7 @@ TimelineNode::~TimelineNode()
 HRESULT TimelineNode::QueryInterface(REFIID iid, void** out)
 {
     if (!out)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     if (iid == kNodeId)
         *out = this;
     else if (!(ComDetail::Offer<INLEBlendSetting>(&m_blend, iid, out) ||
@@ -120,7 +128,7 @@ HRESULT TimelineNode::GetId(std::uint32_t* id)
 HRESULT TimelineNode::GetParent(INLETimeline** parent)
 {
     if (!parent)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     *parent = m_parent;
     if (m_parent)
         m_parent->AddRef();
@@ -135,7 +143,7 @@ HRESULT TimelineNode::GetProperties(INLEProperties** properties)
 HRESULT TimelineNode::SetRange(const NLERange* range)
 {
     if (!range)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     m_placement.range = *range;
     return S_OK;
 }
@@ -154,7 +162,7 @@ HRESULT TimelineNode::SetRenderFrameRate(NLERational rate)
 {
     // A clip counts as its composite does.
     if (!IsRate(rate) || (m_parent && ToDouble(rate) != ToDouble(m_parent->FrameRate())))
-        return E_INVALIDARG;
+        return Refuse(E_INVALIDARG);
     ChangeRate(rate);
     return S_OK;
 }
@@ -188,7 +196,7 @@ HRESULT TimelineNode::GetPosition(int* position)
 
 HRESULT TimelineNode::SetMarginMode(tagNLEMarginMode mode)
 {
-    return SetField<&PlacementSettings::margin>(m_placement, mode) ? S_OK : E_INVALIDARG;
+    return SetField<&PlacementSettings::margin>(m_placement, mode) ? S_OK : Refuse(E_INVALIDARG);
 }
 
 HRESULT TimelineNode::GetMarginMode(tagNLEMarginMode* mode)
@@ -211,7 +219,7 @@ HRESULT TimelineNode::Clone(bool deep, INLETimeline** clone)
 {
     return ComGuard([&] {
         if (!clone)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         *clone = nullptr;
         *clone = Copy(deep).detach();
         return S_OK;

@@ -4,6 +4,7 @@
 #include "Com/ComObject.h"
 #include "EngineApi/INLEProperties.h"
 #include "EngineApi/INLETimeline.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/EffectsFacet.h"
 #include "NLECore/model/KeyFrameFacets.h"
 #include "NLECore/model/MarkerFacet.h"
@@ -131,7 +132,7 @@ public:
     virtual bool PlaysFile() const { return false; }
     /// Takes other settings of what plays a file; E_INVALIDARG, and nothing changed, for streams
     /// that the file has not.
-    virtual HRESULT ChangeSource(const SourceSettings& /*settings*/) { return E_NOTIMPL; }
+    virtual HRESULT ChangeSource(const SourceSettings& /*settings*/) { return Refuse(E_NOTIMPL); }
 
     /// What every render of the project sees, if the node is one.
     virtual std::optional<RenderContext> OwnContext() const { return std::nullopt; }

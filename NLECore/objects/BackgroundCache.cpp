@@ -2,6 +2,7 @@
 #include "NLECore/objects/BackgroundCache.h"
 
 #include "Com/ComGuard.h"
+#include "NLECore/media/Reasons.h"
 
 #include <algorithm>
 #include <cmath>
@@ -37,7 +38,7 @@ HRESULT BackgroundCache::SetCacheFolder(const wchar_t* folder, std::int64_t quot
 {
     return ComGuard([&] {
         if (!folder || *folder == L'\0' || quota < 0 || reserve < 0)
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG);
         EndRendering();
         m_limits = {std::min(quota, kMostMebibytes) * kMebibyte, reserve * kMebibyte};
         const auto store = ChunkStore::Of(QString::fromWCharArray(folder));
@@ -55,21 +56,23 @@ HRESULT BackgroundCache::Start(const NLESize* resolution, NLERenderCallback call
     return ComGuard([&] {
         const std::shared_ptr<ChunkStore> store = Store();
         const auto isSide = [](int length) { return length > 0 && length <= kLongestSide; };
-        if (!store || !resolution || !isSide(resolution->width) || !isSide(resolution->height))
-            return E_INVALIDARG;
+        if (!store)
+            return Refuse(E_INVALIDARG, NLEReason_WrongState, QStringLiteral("no cache folder"));
+        if (!resolution || !isSide(resolution->width) || !isSide(resolution->height))
+            return RefuseRange("resolution", 1, kLongestSide);
         const Listener listener(callback, userData);
         if (JoinRun(listener))
             return S_FALSE;
         EndRendering();
         if (!store->Prepare())
-            return E_ACCESSDENIED;
+            return Refuse(E_ACCESSDENIED, NLEReason_NotWritable, store->Folder());
         {
             const std::lock_guard<std::mutex> lock(m_mutex);
             m_guarded.size = QSize(resolution->width, resolution->height);
         }
         const Plan plan = Analyse(TakeSnapshot());
         if (!plan || store->CountFrames(plan->Chunks()) == plan->FrameCount())
-            return E_FAIL;
+            return Refuse(E_FAIL, NLEReason_NothingThere);
         {
             const std::lock_guard<std::mutex> lock(m_mutex);
             m_guarded.former.merge(plan->Keys());
@@ -79,7 +82,7 @@ HRESULT BackgroundCache::Start(const NLESize* resolution, NLERenderCallback call
             m_renderer = CacheRenderer::Start(
                 plan, store, m_limits,
                 [this](const CacheRenderer::Progress& progress) { Report(progress); });
-        return m_renderer ? S_OK : E_OUTOFMEMORY;
+        return m_renderer ? S_OK : Refuse(E_OUTOFMEMORY);
     });
 }
 
@@ -122,7 +125,7 @@ HRESULT BackgroundCache::DeleteCache(bool all)
         EndRendering();
         const std::shared_ptr<ChunkStore> store = Store();
         if (!store)
-            return E_FAIL;
+            return Refuse(E_FAIL, NLEReason_WrongState, QStringLiteral("no cache folder"));
         if (all) {
             store->Clear();
             return S_OK;
@@ -150,7 +153,7 @@ HRESULT BackgroundCache::Update()
             root = TakeSnapshot();
         else if (const Plan plan = CurrentPlan())
             root = plan->Root();
-        return Analyse(root) ? S_OK : E_FAIL;
+        return Analyse(root) ? S_OK : Refuse(E_FAIL, NLEReason_NothingThere);
     });
 }
 
@@ -188,9 +191,9 @@ void BackgroundCache::ListSegments()
 HRESULT BackgroundCache::GetStat(int index, NLERange* range, long* valid, int* cachedTo)
 {
     if (!range || !valid || !cachedTo)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     if (index < 0 || index >= int(m_segments.size()))
-        return E_INVALIDARG;
+        return RefuseIndex(index, std::int64_t(m_segments.size()));
     const Segment& segment = m_segments[std::size_t(index)];
     *range = segment.range;
     *valid = 1;
@@ -209,7 +212,7 @@ HRESULT BackgroundCache::SetUpdateCallback(NLEUpdateCallback callback, void* use
             Plan plan;
             const HRESULT result = ComGuard([&] {
                 plan = Analyse(root);
-                return plan ? S_OK : E_FAIL;
+                return plan ? S_OK : Refuse(E_FAIL, NLEReason_NothingThere);
             });
             const bool isEmpty = !plan || plan->Chunks().empty();
             callback(static_cast<INLEBackgroundCache*>(this), result,
@@ -217,14 +220,14 @@ HRESULT BackgroundCache::SetUpdateCallback(NLEUpdateCallback callback, void* use
                      isEmpty ? -1 : plan->Chunks().back().last,
                      isEmpty ? 0 : long(plan->FrameCount()), userData);
         });
-        return isPosted ? S_OK : E_OUTOFMEMORY;
+        return isPosted ? S_OK : Refuse(E_OUTOFMEMORY);
     });
 }
 
 HRESULT BackgroundCache::SetQuality(NLERational quality)
 {
     if (quality.den <= 0 || quality.num < 0 || quality.num > quality.den)
-        return E_INVALIDARG;
+        return RefuseRange("quality", 0, 1);
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_guarded.quality = int(std::lround(double(quality.num) / double(quality.den) * 1000));
     return S_OK;

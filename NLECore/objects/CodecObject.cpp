@@ -2,6 +2,7 @@
 #include "NLECore/objects/CodecObject.h"
 
 #include "Com/ComGuard.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/PropertyBag.h"
 
@@ -33,7 +34,7 @@ HRESULT CodecObject::GetCodecName(std::uint32_t stream, wchar_t* buffer, int cap
 {
     return ComGuard([&] {
         if (stream >= m_media->streams.size())
-            return E_INVALIDARG;
+            return RefuseIndex(stream, std::int64_t(m_media->streams.size()));
         return CopyText(Widen(m_media->streams[stream].codecName), buffer, capacity);
     });
 }
@@ -42,7 +43,7 @@ HRESULT CodecObject::GetProfileName(std::uint32_t stream, wchar_t* buffer, int c
 {
     return ComGuard([&] {
         if (stream >= m_media->streams.size())
-            return E_INVALIDARG;
+            return RefuseIndex(stream, std::int64_t(m_media->streams.size()));
         return CopyText(Widen(m_media->streams[stream].profileName), buffer, capacity);
     });
 }

@@ -3,6 +3,7 @@
 
 #include "Com/ComGuard.h"
 #include "NLECore/media/EngineLog.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/MltReader.h"
 #include "NLECore/model/MltWriter.h"
@@ -20,10 +21,15 @@ namespace {
 /// Bytes of the largest document that is opened.
 constexpr std::int64_t kLargestDocument = 512 << 20;
 
-HRESULT Report(const QString& path, const QString& reason)
+HRESULT Report(NLEReason reason, const QString& path, const QString& words)
 {
-    qCWarning(lcEngine, "%s: %s", qUtf8Printable(path), qUtf8Printable(reason));
-    return E_FAIL;
+    return Refuse(E_FAIL, reason, path + QStringLiteral(": ") + words);
+}
+
+HRESULT NotWritten(const QString& path, const QFileDevice& file)
+{
+    const bool isFull = file.error() == QFileDevice::ResourceError;
+    return Report(isFull ? NLEReason_DiskFull : NLEReason_NotWritable, path, file.errorString());
 }
 
 bool IsOtio(const QString& path)
@@ -66,13 +72,13 @@ HRESULT DocumentSerialize::Save(INLETimeline* timeline, const wchar_t* path)
     return ComGuard([&] {
         const TimelineNode* node = TimelineNode::From(timeline);
         if (!node || !path)
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG, path ? NLEReason_WrongObject : NLEReason_NullPointer);
         const QString name = QString::fromWCharArray(path);
         QSaveFile file(name);
         if (!file.open(QIODevice::WriteOnly))
-            return Report(name, file.errorString());
+            return NotWritten(name, file);
         file.write(WriteDocument(*node, name));
-        return file.commit() ? S_OK : Report(name, file.errorString());
+        return file.commit() ? S_OK : NotWritten(name, file);
     });
 }
 
@@ -80,24 +86,25 @@ HRESULT DocumentSerialize::Load(const wchar_t* path, INLETimeline** timeline)
 {
     return ComGuard([&] {
         if (!path || !timeline)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         *timeline = nullptr;
         m_remarks = {};
         const QString name = QString::fromWCharArray(path);
         QFile file(name);
         if (!QFileInfo(name).isFile())
-            return Report(name, QStringLiteral("no such file"));
+            return Refuse(E_FAIL, NLEReason_FileMissing, name);
         if (!file.open(QIODevice::ReadOnly))
-            return Report(name, file.errorString());
+            return Report(NLEReason_FileUnreadable, name, file.errorString());
         if (file.size() > kLargestDocument)
-            return Report(name, QStringLiteral("larger than a document may be"));
+            return Report(NLEReason_FileUnsupported, name,
+                          QStringLiteral("larger than a document may be"));
         QString error;
         NLEComPtr<TimelineNode> node = ReadDocument(file.readAll(), name, &error, &m_remarks);
         for (const DocumentRemark& remark : m_remarks.All())
             qCInfo(lcEngine, "%s: left out or changed: %s", qUtf8Printable(name),
                    qUtf8Printable(remark.Told()));
         if (!node)
-            return Report(name, error);
+            return Report(NLEReason_FileUnsupported, name, error);
         *timeline = node.detach();
         return S_OK;
     });
@@ -112,9 +119,9 @@ HRESULT DocumentSerialize::GetRemark(int index, int* code, wchar_t* text, int ca
 {
     return ComGuard([&] {
         if (!code || !text)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         if (index < 0 || size_t(index) >= m_remarks.All().size())
-            return E_INVALIDARG;
+            return RefuseIndex(index, std::int64_t(m_remarks.All().size()));
         const DocumentRemark& remark = m_remarks.All()[size_t(index)];
         *code = remark.code;
         return CopyText(ToWide(remark.Told()), text, capacity);

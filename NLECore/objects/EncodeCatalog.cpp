@@ -4,6 +4,7 @@
 #include "Com/ComObject.h"
 #include "EngineApi/NLEKey.h"
 #include "NLECore/media/MediaWriter.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/PropertyBag.h"
 #include "NLECore/scene/FrameMath.h"
 
@@ -19,6 +20,8 @@ namespace Key = NLEKey::Encode;
 
 /// Longest name in a bag, with its terminating zero.
 constexpr int kNameLength = 64;
+
+const QString kNotInCatalogue = QStringLiteral("a setting that the catalogue does not have");
 
 struct TextKey
 {
@@ -183,7 +186,7 @@ HRESULT ReadOptions(INLEProperties* bag, EncodeOptions* options)
             read.*entry.field = QString::fromWCharArray(text).toStdString();
     }
     if (!ReadNumbers(bag, &read) || !IsKnown(read))
-        return E_INVALIDARG;
+        return Refuse(E_INVALIDARG, NLEReason_SettingsRefused, kNotInCatalogue);
     *options = std::move(read);
     return S_OK;
 }
@@ -214,9 +217,9 @@ HRESULT EncodeCatalog::GetContainer(int index, NLEContainerInfo* info)
 {
     return ComGuard([&] {
         if (!info)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         if (index < 0 || index >= int(Containers().size()))
-            return E_INVALIDARG;
+            return RefuseIndex(index, std::int64_t(Containers().size()));
         const ContainerFormat& container = Containers()[std::size_t(index)];
         *info = {};
         Put(container.name, info->name);
@@ -233,7 +236,9 @@ HRESULT EncodeCatalog::GetCodecCount(const char* container, int type, int* count
         int found = 0;
         while (CodecAt(container, type, found))
             ++found;
-        return container && FindContainer(container) ? GiveValue(count, found) : E_INVALIDARG;
+        return container && FindContainer(container)
+                   ? GiveValue(count, found)
+                   : Refuse(E_INVALIDARG, NLEReason_UnknownName, QLatin1String(container));
     });
 }
 
@@ -242,9 +247,9 @@ HRESULT EncodeCatalog::GetCodec(const char* container, int type, int index, NLEC
     return ComGuard([&] {
         const CodecFormat* codec = CodecAt(container, type, index);
         if (!info)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         if (!codec)
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG, NLEReason_UnknownIndex, QString::number(index));
         Describe(*FindContainer(container), *codec, info);
         return S_OK;
     });
@@ -259,7 +264,7 @@ HRESULT EncodeCatalog::GetPresetName(int index, wchar_t* buffer, int capacity)
 {
     return ComGuard([&] {
         if (index < 0 || index >= int(EncodePresets().size()))
-            return E_INVALIDARG;
+            return RefuseIndex(index, std::int64_t(EncodePresets().size()));
         const QString name = QLatin1String(EncodePresets()[std::size_t(index)].name);
         return CopyText(name.toStdWString(), buffer, capacity);
     });
@@ -269,13 +274,13 @@ HRESULT EncodeCatalog::GetPreset(const wchar_t* name, INLEProperties* options)
 {
     return ComGuard([&] {
         if (!name || !options)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         const QString wanted = QString::fromWCharArray(name);
         for (const EncodePreset& preset : EncodePresets()) {
             if (wanted == QLatin1String(preset.name))
                 return WriteOptions(preset.options, options);
         }
-        return E_INVALIDARG;
+        return Refuse(E_INVALIDARG, NLEReason_UnknownName, wanted);
     });
 }
 
@@ -284,16 +289,17 @@ HRESULT EncodeCatalog::Check(INLEProperties* options, const NLEEncodeSettings* s
 {
     return ComGuard([&] {
         if (!options)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         EncodeOptions wanted;
         QString complaint;
         if (ReadOptions(options, &wanted) == S_OK)
             complaint = TryOut(wanted, settings ? *settings : NLEEncodeSettings{});
         else
-            complaint = QStringLiteral("a setting that the catalogue does not have");
+            complaint = kNotInCatalogue;
         if (reason && capacity > 0)
             CopyText(complaint.toStdWString(), reason, capacity);
-        return complaint.isEmpty() ? S_OK : E_INVALIDARG;
+        return complaint.isEmpty() ? S_OK
+                                   : Refuse(E_INVALIDARG, NLEReason_SettingsRefused, complaint);
     });
 }
 

@@ -3,6 +3,7 @@
 
 #include "Com/ComGuard.h"
 #include "NLECore/media/DecoderPool.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/objects/Frames.h"
@@ -12,6 +13,11 @@
 namespace nle {
 
 namespace {
+
+HRESULT NoFrame(int frame)
+{
+    return Refuse(E_FAIL, NLEReason_NothingThere, QString::number(frame));
+}
 
 /// Copies \a image into a frame of \a size at \a place; what lies around it becomes transparent.
 void CopyInto(const QImage& image, const QRect& place, NLESize size, std::uint8_t* pixels)
@@ -32,7 +38,7 @@ HRESULT FrameExtractor::Open(INLETimeline* timeline, int flags)
         Finish();
         const TimelineNode* node = TimelineNode::From(timeline);
         if (!node)
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG, NLEReason_WrongObject);
         const Snapshot root = node->MakeSnapshot();
         m_composer.emplace(root);
         m_composer->SetStop(&m_isInterrupted);
@@ -50,17 +56,19 @@ template <typename Draw>
 HRESULT FrameExtractor::Fill(int frame, INLEVideoFrame* picture, Draw&& draw)
 {
     if (!picture)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     NLESize size;
     std::uint8_t* pixels = nullptr;
-    if (!HasFrame(frame) || FAILED(picture->GetSize(&size)) || FAILED(picture->GetData(&pixels)))
-        return E_FAIL;
+    if (!HasFrame(frame))
+        return NoFrame(frame);
+    if (FAILED(picture->GetSize(&size)) || FAILED(picture->GetData(&pixels)))
+        return Refuse(E_FAIL, NLEReason_WrongObject);
     QRect place = PlaceRoot(m_root->size, {size.width, size.height});
     QImage image = m_cached ? m_cached->Picture(frame, place.size()) : QImage();
     if (image.isNull())
         image = draw(QSize(size.width, size.height), &place);
     if (image.isNull())
-        return E_FAIL;
+        return NoFrame(frame);
     CopyInto(image.convertToFormat(kPictureFormat), place, size, pixels);
     const NLERect valid = {place.x(), place.y(), place.width(), place.height()};
     return picture->SetValidRect(&valid);
@@ -69,13 +77,13 @@ HRESULT FrameExtractor::Fill(int frame, INLEVideoFrame* picture, Draw&& draw)
 HRESULT FrameExtractor::Extract(int frame, INLEVideoFrame* picture)
 {
     if (m_isInterrupted.exchange(false))
-        return E_ABORT;
+        return Refuse(E_ABORT);
     const HRESULT result = ComGuard([&] {
         return Fill(frame, picture, [&](const QSize& size, QRect* place) {
             return m_composer->Render(frame, size, place);
         });
     });
-    return FAILED(result) && m_isInterrupted.exchange(false) ? E_ABORT : result;
+    return FAILED(result) && m_isInterrupted.exchange(false) ? Refuse(E_ABORT) : result;
 }
 
 HRESULT FrameExtractor::ExtractNear(int frame, INLEVideoFrame* picture, int* precision)
@@ -102,15 +110,16 @@ HRESULT FrameExtractor::ExtractAudio(int frame, INLEAudioFrame* sound)
 {
     return ComGuard([&] {
         if (!sound)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         int count = 0;
         int sampleRate = 0;
         int channels = 0;
         float* samples = nullptr;
-        if (!HasFrame(frame) || FAILED(sound->GetSampleCount(&count)) ||
-            FAILED(sound->GetSampleRate(&sampleRate)) || FAILED(sound->GetChannels(&channels)) ||
-            FAILED(sound->GetData(&samples)))
-            return E_FAIL;
+        if (!HasFrame(frame))
+            return NoFrame(frame);
+        if (FAILED(sound->GetSampleCount(&count)) || FAILED(sound->GetSampleRate(&sampleRate)) ||
+            FAILED(sound->GetChannels(&channels)) || FAILED(sound->GetData(&samples)))
+            return Refuse(E_FAIL, NLEReason_WrongObject);
         if (!m_mixer)
             m_mixer = std::make_unique<AudioMixer>(m_root, sampleRate, channels);
         m_mixer->Mix(m_mixer->SampleOfFrame(frame), count, samples);
@@ -133,7 +142,11 @@ HRESULT ThumbnailExtractor::SetSource(INLEMediaInfo* info, std::uint32_t videoSt
     m_media = MediaInfoObject::From(info);
     m_stream = int(videoStream);
     const MediaStream* stream = m_media ? m_media->Stream(m_stream) : nullptr;
-    return stream && stream->type == NLEStream_Video ? S_OK : E_INVALIDARG;
+    if (!m_media)
+        return Refuse(E_INVALIDARG, NLEReason_WrongObject);
+    return stream && stream->type == NLEStream_Video
+               ? S_OK
+               : RefuseIndex(videoStream, std::int64_t(m_media->streams.size()));
 }
 
 bool ThumbnailExtractor::HasFrame(const MediaStream& stream, int frame) const
@@ -147,11 +160,13 @@ HRESULT ThumbnailExtractor::Extract(int frame, NLESize wanted, INLEPicture** pic
 {
     return ComGuard([&] {
         if (!picture)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         *picture = nullptr;
         const MediaStream* stream = m_media ? m_media->Stream(m_stream) : nullptr;
-        if (!stream || !HasFrame(*stream, frame))
-            return E_FAIL;
+        if (!stream)
+            return Refuse(E_FAIL, NLEReason_WrongState);
+        if (!HasFrame(*stream, frame))
+            return NoFrame(frame);
         // Decoding straight to the wanted size is cheapest; enlarging is the caller's business.
         const NLESize displayed = DisplayedSize(*stream);
         QSize size(displayed.width, displayed.height);
@@ -162,7 +177,7 @@ HRESULT ThumbnailExtractor::Extract(int frame, NLESize wanted, INLEPicture** pic
             Decoders().Acquire(m_media, m_stream, DecodePurpose::Thumbnail, frame);
         const QImage image = decoder ? decoder->Picture(frame, size) : QImage();
         if (image.isNull())
-            return E_FAIL;
+            return NoFrame(frame);
         *picture = MakeCom<Picture>(image).detach();
         return S_OK;
     });

@@ -3,6 +3,7 @@
 
 #include "Com/ComGuard.h"
 #include "NLECore/media/FontFiles.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/PropertyBag.h"
 
 #include <QFileInfo>
@@ -17,7 +18,7 @@ HRESULT FontLibrary::SetCacheFile(const wchar_t* path)
 {
     return ComGuard([&] {
         if (!path)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         Fonts().SetCacheFile(QString::fromWCharArray(path));
         return S_OK;
     });
@@ -34,10 +35,10 @@ HRESULT FontLibrary::AddFontFolder(const wchar_t* folder)
 {
     return ComGuard([&] {
         if (!folder)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         const QString path = QString::fromWCharArray(folder);
         if (!QFileInfo(path).isDir())
-            return E_FAIL;
+            return Refuse(E_FAIL, NLEReason_FileMissing, path);
         Add(Fonts().Scan(path));
         return S_OK;
     });
@@ -47,7 +48,7 @@ HRESULT FontLibrary::LoadSystemFonts()
 {
     return ComGuard([&] {
         if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
-            return E_FAIL;
+            return Refuse(E_FAIL, NLEReason_WrongState, QStringLiteral("no QGuiApplication"));
         const QFontDatabase database;
         QStringList families = database.families();
         families.erase(std::remove_if(families.begin(), families.end(),
@@ -69,7 +70,7 @@ HRESULT FontLibrary::GetFontName(int index, wchar_t* buffer, int capacity)
 {
     return ComGuard([&] {
         if (index < 0 || index >= m_names.size())
-            return E_INVALIDARG;
+            return RefuseIndex(index, m_names.size());
         return CopyText(m_names[index].toStdWString(), buffer, capacity);
     });
 }

@@ -2,6 +2,7 @@
 #include "NLECore/objects/Frames.h"
 
 #include "Com/ComGuard.h"
+#include "NLECore/media/Reasons.h"
 
 namespace nle {
 
@@ -29,7 +30,7 @@ HRESULT VideoFrame::Prepare()
     return ComGuard([&] {
         m_image = QImage(m_size.width, m_size.height, kPictureFormat);
         if (m_image.isNull())
-            return E_OUTOFMEMORY;
+            return Refuse(E_OUTOFMEMORY);
         m_image.fill(Qt::transparent);
         return S_OK;
     });
@@ -48,10 +49,10 @@ HRESULT VideoFrame::GetValidRect(NLERect* rect)
 HRESULT VideoFrame::SetValidRect(const NLERect* rect)
 {
     if (!rect)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     if (rect->x < 0 || rect->y < 0 || rect->width < 0 || rect->height < 0 ||
         rect->width > m_size.width - rect->x || rect->height > m_size.height - rect->y)
-        return E_INVALIDARG;
+        return Refuse(E_INVALIDARG);
     m_valid = *rect;
     return S_OK;
 }
@@ -59,9 +60,9 @@ HRESULT VideoFrame::SetValidRect(const NLERect* rect)
 HRESULT VideoFrame::GetData(std::uint8_t** pixels)
 {
     if (!pixels)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     *pixels = m_image.isNull() ? nullptr : m_image.bits();
-    return *pixels ? S_OK : E_FAIL;
+    return *pixels ? S_OK : Refuse(E_FAIL, NLEReason_WrongState);
 }
 
 HRESULT VideoFrame::GetMemory(int* memory)

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/objects/MarkBook.h"
 
-#include "NLECore/media/EngineLog.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/PropertyBag.h"
 #include "NLECore/scene/FrameMath.h"
+
+#include <QFileInfo>
 
 namespace nle {
 
@@ -17,8 +19,9 @@ HRESULT OpenCueSheet(const QString& path, INLEMarkBook** book)
 {
     const std::vector<CueFile> sheet = ReadCueSheet(path);
     if (sheet.empty()) {
-        qCWarning(lcEngine, "%s: no cue sheet", qPrintable(path));
-        return E_FAIL;
+        const bool isThere = QFileInfo::exists(path);
+        return Refuse(E_FAIL, isThere ? NLEReason_FileUnsupported : NLEReason_FileMissing,
+                      path + QStringLiteral(": no cue sheet"));
     }
     const QString file = MediaOfCueSheet(path, sheet.front());
     const auto media = file.isEmpty() ? nullptr : DescribeFile(file);
@@ -32,7 +35,7 @@ HRESULT MarkBook::Open(const QString& path, INLEMarkBook** book)
     if (IsCueSheet(path))
         return OpenCueSheet(path, book);
     const auto media = DescribeFile(path);
-    return media ? GiveNew<MarkBook>(book, ReadMarks(*media), media->frameRate) : E_FAIL;
+    return media ? GiveNew<MarkBook>(book, ReadMarks(*media), media->frameRate) : Refuse(E_FAIL);
 }
 
 HRESULT MarkBook::GetMarkCount(int* count)
@@ -44,9 +47,9 @@ HRESULT MarkBook::GetMark(int index, int* frame, wchar_t* name, int capacity)
 {
     return ComGuard([&] {
         if (!frame)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         if (index < 0 || index >= int(m_marks.size()))
-            return E_INVALIDARG;
+            return RefuseIndex(index, std::int64_t(m_marks.size()));
         const FileMark& mark = m_marks[size_t(index)];
         constexpr NLERational microseconds = {1000000, 1};
         *frame = FrameTime{double(mark.timeUs), microseconds}.NearestAt(m_rate);

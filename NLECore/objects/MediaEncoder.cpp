@@ -2,7 +2,7 @@
 #include "NLECore/objects/MediaEncoder.h"
 
 #include "Com/ComGuard.h"
-#include "NLECore/media/EngineLog.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/objects/TimelineFactory.h"
 #include "NLECore/render/FilmWriter.h"
@@ -43,13 +43,13 @@ HRESULT ResultOf(WriterError::Kind kind)
 {
     switch (kind) {
     case WriterError::Kind::Container:
-        return E_NOTIMPL;
+        return Refuse(E_NOTIMPL);
     case WriterError::Kind::File:
-        return E_ACCESSDENIED;
+        return Refuse(E_ACCESSDENIED);
     case WriterError::Kind::Settings:
         break;
     }
-    return E_INVALIDARG;
+    return Refuse(E_INVALIDARG);
 }
 
 /// A file is written at its full size, however small the preview is, and drawn as deep as it holds.
@@ -73,15 +73,14 @@ HRESULT MediaEncoder::Open(INLETimeline* timeline, const wchar_t* path,
         m_root.reset();
         const TimelineNode* node = TimelineNode::From(timeline);
         if (!node || !path)
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG, path ? NLEReason_WrongObject : NLEReason_NullPointer);
         const Snapshot root = node->MakeSnapshot();
         m_path = QString::fromWCharArray(path);
         if (!TakeSettings(*node, *root, settings ? *settings : NLEEncodeSettings{}))
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG, NLEReason_NothingThere, m_path);
         WriterError error;
         if (!TryDeep(root->context) && !MediaWriter::Try(m_path, m_settings, &error)) {
-            Warn(error.text);
-            return ResultOf(error.kind);
+            return RefuseWriting(ResultOf(error.kind), m_path, error);
         }
         m_root = ForFile(root, m_settings.settled, m_options.proxies != 0);
         return S_OK;
@@ -134,12 +133,11 @@ HRESULT MediaEncoder::Encode(NLEProgressCallback callback, void* userData)
 {
     return ComGuard([&] {
         if (!m_root)
-            return E_FAIL;
+            return Refuse(E_FAIL, NLEReason_WrongState);
         WriterError error;
         const std::unique_ptr<MediaWriter> writer = MediaWriter::Open(m_path, m_settings, &error);
         if (!writer) {
-            Warn(error.text);
-            return E_FAIL;
+            return RefuseWriting(E_FAIL, m_path, error);
         }
         const FilmPlan film = {m_root, m_range, m_frameRate};
         const HRESULT result = WriteFilm(film, *writer, [&](int percent) {
@@ -148,8 +146,7 @@ HRESULT MediaEncoder::Encode(NLEProgressCallback callback, void* userData)
         if (result == E_OUTOFMEMORY || result == S_FALSE)
             return result;
         if (FAILED(result) || !writer->Finish()) {
-            Warn(writer->Error());
-            return E_FAIL;
+            return RefuseWriting(E_FAIL, m_path, writer->Error());
         }
         if (callback)
             callback(100, userData);
@@ -171,14 +168,10 @@ HRESULT MediaEncoder::GetOptions(INLEProperties* options)
 {
     return ComGuard([&] {
         if (!options)
-            return E_POINTER;
-        return m_root ? WriteOptions(m_settings.settled, options) : E_FAIL;
+            return Refuse(E_POINTER);
+        return m_root ? WriteOptions(m_settings.settled, options)
+                      : Refuse(E_FAIL, NLEReason_WrongState);
     });
-}
-
-void MediaEncoder::Warn(const QString& reason) const
-{
-    qCWarning(lcEngine, "%s is not written: %s", qUtf8Printable(m_path), qUtf8Printable(reason));
 }
 
 } // namespace nle

@@ -27,8 +27,6 @@ private:
     /// Whether the file can be written as deep as its project is drawn; settles on it then. What
     /// the host has chosen goes first.
     bool TryDeep(const RenderContext& context);
-    /// Logs why the file is not written.
-    void Warn(const QString& reason) const;
 
     EncodeOptions m_options;
     Snapshot m_root;

@@ -2,9 +2,9 @@
 #include "NLECore/objects/ProxyMaker.h"
 
 #include "Com/ComGuard.h"
-#include "NLECore/media/EngineLog.h"
 #include "NLECore/media/MediaWriter.h"
 #include "NLECore/media/ProxyStore.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/PropertyBag.h"
 #include "NLECore/model/SourceNodes.h"
@@ -78,7 +78,7 @@ HRESULT ProxyMaker::SetFolder(const wchar_t* folder, std::int64_t quota)
     return ComGuard([&] {
         constexpr std::int64_t mebibyte = 1 << 20;
         if (quota < 0 || quota > INT64_MAX / mebibyte)
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG);
         Proxies().SetFolder(folder ? QString::fromWCharArray(folder) : QString(), quota * mebibyte);
         return S_OK;
     });
@@ -87,7 +87,7 @@ HRESULT ProxyMaker::SetFolder(const wchar_t* folder, std::int64_t quota)
 HRESULT ProxyMaker::SetHeight(int height)
 {
     if (height < kLeastHeight || height > kMostHeight)
-        return E_INVALIDARG;
+        return RefuseRange("height", kLeastHeight, kMostHeight);
     const std::lock_guard<std::mutex> lock(m_state->mutex);
     m_state->height = height;
     return S_OK;
@@ -97,7 +97,7 @@ HRESULT ProxyMaker::Find(const wchar_t* file, wchar_t* proxy, int capacity)
 {
     return ComGuard([&] {
         if (!file || !proxy || capacity < 1)
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG);
         const auto key = Proxies().KeyOf(QString::fromWCharArray(file), m_state->Height());
         const QString found = key ? Proxies().Find(*key) : QString();
         const HRESULT result = CopyText(found.toStdWString(), proxy, capacity);
@@ -109,7 +109,7 @@ HRESULT ProxyMaker::Make(const wchar_t* file, NLEProxyCallback callback, void* u
 {
     return ComGuard([&] {
         if (!file)
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG);
         const auto job = std::make_shared<Job>();
         job->path = QString::fromWCharArray(file);
         job->name = file;
@@ -128,7 +128,7 @@ HRESULT ProxyMaker::Make(const wchar_t* file, NLEProxyCallback callback, void* u
         });
         if (!isPosted)
             m_state->Forget(job);
-        return isPosted ? S_OK : E_OUTOFMEMORY;
+        return isPosted ? S_OK : Refuse(E_OUTOFMEMORY);
     });
 }
 
@@ -154,13 +154,15 @@ void ProxyMaker::Job::Tell(HRESULT state, int percent) const
 HRESULT ProxyMaker::Work(const Job& job)
 {
     if (job.isCancelled)
-        return E_ABORT;
+        return Refuse(E_ABORT);
     const auto key = Proxies().KeyOf(job.path, job.height);
     if (key && !Proxies().Find(*key).isEmpty())
         return S_OK;
     const std::shared_ptr<const MediaInfo> media = DescribeFile(job.path);
-    if (!media || media->kind != NLEMedia_Video)
-        return E_INVALIDARG;
+    if (!media)
+        return Refuse(E_INVALIDARG);
+    if (media->kind != NLEMedia_Video)
+        return Refuse(E_INVALIDARG, NLEReason_NothingThere, job.path);
     const NLEComPtr<MediaClip> clip = MakeCom<MediaClip>(media);
     FilmPlan film = {clip->MakeSnapshot(), clip->Range(), clip->FrameRate()};
     // Sound may go on after the last picture.
@@ -169,32 +171,30 @@ HRESULT ProxyMaker::Work(const Job& job)
         film.range.out = std::min(film.range.out,
                                   ClampToInt(double(*shown.end) + std::max(0.0, shown.delay)) - 1);
     if (film.root->size.height <= job.height)
-        return E_INVALIDARG;
+        return RefuseRange("height", kLeastHeight, film.root->size.height - 1);
     const MediaStream* stream = media->Stream(media->videoStream);
     const bool hasAlpha = stream && stream->hasAlpha;
     const QString path = key ? Proxies().Prepare(*key, hasAlpha) : QString();
     if (path.isEmpty())
-        return E_ACCESSDENIED;
+        return Refuse(E_ACCESSDENIED, NLEReason_NotWritable,
+                      QStringLiteral("no folder for proxies"));
     WriterError error;
     const std::unique_ptr<MediaWriter> writer =
         MediaWriter::Open(path, SettingsFor(*film.root, job.height, hasAlpha), &error);
     if (!writer) {
-        qCWarning(lcEngine, "no proxy of %s: %s", qUtf8Printable(job.path),
-                  qUtf8Printable(error.text));
-        return error.kind == WriterError::Kind::File ? E_ACCESSDENIED : E_FAIL;
+        const bool isFile = error.kind == WriterError::Kind::File;
+        return RefuseWriting(isFile ? E_ACCESSDENIED : E_FAIL, job.path, error);
     }
     const HRESULT result = WriteFilm(film, *writer, [&job](int percent) {
         job.Tell(S_FALSE, percent);
         return !job.isCancelled;
     });
     if (result != S_OK)
-        return result == S_FALSE ? E_ABORT : result;
+        return result == S_FALSE ? Refuse(E_ABORT) : result;
     if (!writer->Finish()) {
-        qCWarning(lcEngine, "no proxy of %s: %s", qUtf8Printable(job.path),
-                  qUtf8Printable(writer->Error()));
-        return E_FAIL;
+        return RefuseWriting(E_FAIL, job.path, writer->Error());
     }
-    return Proxies().Keep(path) ? S_OK : E_ACCESSDENIED;
+    return Proxies().Keep(path) ? S_OK : Refuse(E_ACCESSDENIED, NLEReason_NotWritable, path);
 }
 
 } // namespace nle

@@ -7,6 +7,7 @@
 #include "NLECore/media/HardwareDecoding.h"
 #include "NLECore/media/MediaLog.h"
 #include "NLECore/media/PictureCache.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/media/StillPictures.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/model/MediaObjects.h"
@@ -21,6 +22,7 @@
 #include "NLECore/objects/MediaEncoder.h"
 #include "NLECore/objects/Player.h"
 #include "NLECore/objects/ProxyMaker.h"
+#include "NLECore/objects/ReasonBook.h"
 #include "NLECore/objects/SceneSegment.h"
 #include "NLECore/objects/SystemConfig.h"
 #include "NLECore/objects/TimelineFactory.h"
@@ -35,13 +37,13 @@ constexpr int kLongestSide = 16384;
 /// Most samples of an audio frame: ten minutes.
 constexpr int kMostSamples = 600 * AudioFrame::kSampleRate;
 
+/// Whether a result can be given; there is none yet then.
 template <typename Interface>
-HRESULT Refuse(Interface** out, HRESULT reason = E_NOTIMPL)
+bool Empties(Interface** out)
 {
-    if (!out)
-        return E_POINTER;
-    *out = nullptr;
-    return reason;
+    if (out)
+        *out = nullptr;
+    return out != nullptr;
 }
 
 } // namespace
@@ -80,33 +82,43 @@ HRESULT RootFactory::CreateVideoFrame(int width, int height, int /*pixelFormat*/
                                       int /*poolFlags*/, int /*poolMinimum*/, int /*poolMaximum*/,
                                       int /*poolReserve*/, INLEVideoFrame** frame)
 {
+    if (!Empties(frame))
+        return Refuse(E_POINTER);
     if (memory != NLEMemory_System)
-        return Refuse(frame);
+        return Refuse(E_NOTIMPL);
     if (width < 1 || height < 1 || width > kLongestSide || height > kLongestSide)
-        return Refuse(frame, E_INVALIDARG);
+        return RefuseRange("size", 1, kLongestSide);
     return GiveNew<VideoFrame>(frame, NLESize{width, height});
 }
 
 HRESULT RootFactory::CreateAudioFrame(int sampleCount, INLEAudioFrame** frame)
 {
+    if (!Empties(frame))
+        return Refuse(E_POINTER);
     if (sampleCount < 1 || sampleCount > kMostSamples)
-        return Refuse(frame, E_INVALIDARG);
+        return RefuseRange("sampleCount", 1, kMostSamples);
     return GiveNew<AudioFrame>(frame, sampleCount);
 }
 
 HRESULT RootFactory::CreateCodecFromFile(const wchar_t* path, INLECodec** codec)
 {
     return ComGuard([&] {
-        const auto media = path ? DescribeFile(QString::fromWCharArray(path)) : nullptr;
-        return media ? GiveNew<CodecObject>(codec, media) : Refuse(codec, E_FAIL);
+        if (!Empties(codec))
+            return Refuse(E_POINTER);
+        if (!path)
+            return Refuse(E_FAIL, NLEReason_NullPointer);
+        const auto media = DescribeFile(QString::fromWCharArray(path));
+        return media ? GiveNew<CodecObject>(codec, media) : Refuse(E_FAIL);
     });
 }
 
 HRESULT RootFactory::CreateMarkBook(const wchar_t* path, INLEMarkBook** book)
 {
     return ComGuard([&] {
-        const HRESULT none = Refuse(book, E_FAIL);
-        return path && book ? MarkBook::Open(QString::fromWCharArray(path), book) : none;
+        if (!Empties(book))
+            return Refuse(E_POINTER);
+        return path ? MarkBook::Open(QString::fromWCharArray(path), book)
+                    : Refuse(E_FAIL, NLEReason_NullPointer);
     });
 }
 
@@ -153,6 +165,11 @@ HRESULT RootFactory::CreateProxyMaker(INLEProxyMaker** maker)
 HRESULT RootFactory::CreatePlayer(INLEPlayer** player)
 {
     return GiveNew<Player>(player);
+}
+
+HRESULT RootFactory::GetReasons(INLEReasons** reasons)
+{
+    return GiveNew<ReasonBook>(reasons);
 }
 
 HRESULT RootFactory::Shutdown(int /*flags*/)

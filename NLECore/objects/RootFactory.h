@@ -32,6 +32,7 @@ public:
     HRESULT Shutdown(int flags) override;
     HRESULT CreateProxyMaker(INLEProxyMaker** maker) override;
     HRESULT CreatePlayer(INLEPlayer** player) override;
+    HRESULT GetReasons(INLEReasons** reasons) override;
 };
 
 } // namespace nle

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/objects/SceneSegment.h"
 
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/TimelineNode.h"
 #include "NLECore/scene/FrameMath.h"
 
@@ -28,7 +29,7 @@ HRESULT SceneSegment::Open(INLETimeline* timeline)
         m_detector.reset();
         const TimelineNode* node = TimelineNode::From(timeline);
         if (!node)
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG, NLEReason_WrongObject);
         const Snapshot root = node->MakeSnapshot();
         const NLERange range = {std::max(0, root->range.in),
                                 std::min(root->range.out, node->TotalLength() - 1)};
@@ -45,9 +46,9 @@ HRESULT SceneSegment::Next(int* frame)
 {
     return ComGuard([&] {
         if (!frame)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         if (!m_detector)
-            return E_FAIL;
+            return Refuse(E_FAIL, NLEReason_WrongState);
         std::optional<int> scene = m_detector->Take();
         for (; !scene && m_next <= m_range.out; scene = m_detector->Take()) {
             if (!Report()) {

@@ -4,6 +4,7 @@
 #include "EngineApi/NLEKey.h"
 #include "NLECore/media/HardwareDecoding.h"
 #include "NLECore/media/PictureCache.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/PropertyBag.h"
 
 namespace nle {
@@ -36,7 +37,8 @@ protected:
         else if (key == NLEKey::System::kDecodedPictures && isUpTo(kMostMebibytes))
             KeptPictures().SetMaxBytes(*number * kMebibyte);
         else
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG, NLEReason_OutOfRange,
+                          QString::fromWCharArray(key.data(), int(key.size())));
         return S_OK;
     }
 };

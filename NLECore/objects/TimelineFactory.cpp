@@ -3,6 +3,7 @@
 
 #include "Com/ComGuard.h"
 #include "NLECore/media/ImageSequence.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/EffectNode.h"
@@ -45,6 +46,11 @@ std::vector<NameRow> NamesOf(int kind)
     return names;
 }
 
+HRESULT NoName(const wchar_t* name)
+{
+    return Refuse(E_INVALIDARG, NLEReason_UnknownName, QString::fromWCharArray(name));
+}
+
 bool IsCatalog(int kind)
 {
     return kind >= NLECatalog_Effect && kind <= NLECatalog_AudioFilter;
@@ -56,7 +62,9 @@ HRESULT WithName(int kind, int index, Give give)
 {
     return ComGuard([&] {
         const std::vector<NameRow> names = NamesOf(kind);
-        return index >= 0 && index < int(names.size()) ? give(names[size_t(index)]) : E_INVALIDARG;
+        return index >= 0 && index < int(names.size())
+                   ? give(names[size_t(index)])
+                   : RefuseIndex(index, std::int64_t(names.size()));
     });
 }
 
@@ -71,10 +79,10 @@ HRESULT TimelineFactory::CreateProject(const tagNLEProjectProfile* profile, INLE
 {
     return ComGuard([&] {
         if (!profile || !project)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         *project = nullptr;
         if (!ProjectNode::IsValid(*profile))
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG);
         return GiveNew<ProjectNode>(project, *profile);
     });
 }
@@ -83,13 +91,13 @@ HRESULT TimelineFactory::CreateMedia(const wchar_t* path, INLETimeline** clip)
 {
     return ComGuard([&] {
         if (!path || !clip)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         *clip = nullptr;
         const QString file = QDir::fromNativeSeparators(QString::fromWCharArray(path));
         if (file.isEmpty())
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG);
         const auto media = IsThere(file) ? DescribeFile(file) : OfflineMedia(file);
-        return media ? GiveNew<MediaClip>(clip, media) : E_FAIL;
+        return media ? GiveNew<MediaClip>(clip, media) : Refuse(E_FAIL);
     });
 }
 
@@ -97,7 +105,7 @@ HRESULT TimelineFactory::CreateFromTemplate(const wchar_t* folder, INLETimeline*
 {
     return ComGuard([&] {
         if (!folder || !project)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         const QDir directory(QString::fromWCharArray(folder));
         DocumentSerialize document;
         return document.Load(directory.filePath(kTemplateDocument).toStdWString().c_str(), project);
@@ -108,10 +116,10 @@ HRESULT TimelineFactory::CreateAudioFilter(const wchar_t* name, INLETimeline** f
 {
     return ComGuard([&] {
         if (!name || !filter)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         *filter = nullptr;
         const SoundKind* kind = FindSound(QString::fromWCharArray(name));
-        return kind ? GiveNew<EffectNode>(filter, kind->declaration) : E_INVALIDARG;
+        return kind ? GiveNew<EffectNode>(filter, kind->declaration) : NoName(name);
     });
 }
 
@@ -120,11 +128,11 @@ HRESULT TimelineFactory::CreateColor(std::uint32_t argb, NLESize size, float fra
 {
     return ComGuard([&] {
         if (!clip)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         *clip = nullptr;
         const NLERational rate = NLECommon::RateToRational(frameRate);
         if (size.width < 1 || size.height < 1 || !IsRate(rate) || frameRate > kHighestRate)
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG);
         return GiveNew<ColorClip>(clip, argb, size, rate);
     });
 }
@@ -134,7 +142,7 @@ HRESULT TimelineFactory::CreateTipText(const wchar_t* text, const wchar_t* famil
 {
     return ComGuard([&] {
         if (!text || !family || !clip)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         *clip = nullptr;
         return GiveNew<TextClip>(clip, QString::fromWCharArray(text),
                                  QString::fromWCharArray(family), kDefaultProfile.frameSize,
@@ -146,7 +154,7 @@ HRESULT TimelineFactory::CreateVirtual(int type, INLETimeline** timeline)
 {
     return ComGuard([&] {
         if (!timeline)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         *timeline = nullptr;
         NLEComPtr<CompositeNode> node = MakeCom<CompositeNode>(kDefaultProfile.frameRate);
         const HRESULT named =
@@ -162,10 +170,10 @@ HRESULT TimelineFactory::CreateEffect(const wchar_t* name, INLETimeline** effect
 {
     return ComGuard([&] {
         if (!name || !effect)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         *effect = nullptr;
         const EffectKind* kind = FindEffect(QString::fromWCharArray(name));
-        return kind ? GiveNew<EffectNode>(effect, kind->declaration) : E_INVALIDARG;
+        return kind ? GiveNew<EffectNode>(effect, kind->declaration) : NoName(name);
     });
 }
 
@@ -173,10 +181,10 @@ HRESULT TimelineFactory::CreateTransition(const wchar_t* name, INLETimeline** tr
 {
     return ComGuard([&] {
         if (!name || !transition)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         *transition = nullptr;
         const Declaration* declaration = FindTransition(QString::fromWCharArray(name));
-        return declaration ? GiveNew<TransitionNode>(transition, *declaration) : E_INVALIDARG;
+        return declaration ? GiveNew<TransitionNode>(transition, *declaration) : NoName(name);
     });
 }
 
@@ -184,7 +192,7 @@ HRESULT TimelineFactory::CreateTitle(const wchar_t* text, INLETimeline** title)
 {
     return ComGuard([&] {
         if (!text || !title)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         *title = nullptr;
         NLEComPtr<TitleClip> clip =
             MakeCom<TitleClip>(kDefaultProfile.frameSize, kDefaultProfile.frameRate);
@@ -198,7 +206,8 @@ HRESULT TimelineFactory::CreateTitle(const wchar_t* text, INLETimeline** title)
 HRESULT TimelineFactory::GetCount(int kind, int* count)
 {
     return ComGuard([&] {
-        return IsCatalog(kind) ? GiveValue(count, int(NamesOf(kind).size())) : E_INVALIDARG;
+        return IsCatalog(kind) ? GiveValue(count, int(NamesOf(kind).size()))
+                               : RefuseIndex(kind, NLECatalog_AudioFilter + 1);
     });
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/objects/WaveExtractor.h"
 
+#include "NLECore/media/Reasons.h"
 #include "NLECore/media/WaveStore.h"
 #include "NLECore/model/MediaObjects.h"
 
@@ -26,13 +27,16 @@ HRESULT WaveExtractor::SetSource(INLEMediaInfo* info, std::uint32_t audioStream)
         m_media = MediaInfoObject::From(info);
         m_stream = int(audioStream);
         if (!m_media)
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG, NLEReason_WrongObject);
         const MediaStream* stream = m_media->Stream(m_stream);
         const bool isSound = stream && stream->type == NLEStream_Audio;
         if (isSound && (OpenKept() || OpenDecoder()))
             return S_OK;
+        const auto count = std::int64_t(m_media->streams.size());
+        const QString path = m_media->path;
         m_media.reset();
-        return E_FAIL;
+        return stream ? Refuse(E_FAIL, NLEReason_FileUnsupported, path)
+                      : Refuse(E_FAIL, NLEReason_UnknownIndex, QString::number(count));
     });
 }
 
@@ -40,12 +44,12 @@ HRESULT WaveExtractor::Extract(double start, double length, int count, float* mi
 {
     return ComGuard([&] {
         if (!minima || !maxima)
-            return E_POINTER;
+            return Refuse(E_POINTER);
         if (!m_media)
-            return E_FAIL;
+            return Refuse(E_FAIL, NLEReason_WrongState);
         if (count < 1 || !(std::abs(start) <= kLongestWave) ||
             !(length > 0 && length <= kLongestWave))
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG);
         const std::int64_t first = std::llround(start * kSampleRate);
         const std::int64_t samples = std::llround(length * kSampleRate);
         std::vector<WavePeak> peaks = KeptPeaks(first, samples, count);
@@ -53,7 +57,7 @@ HRESULT WaveExtractor::Extract(double start, double length, int count, float* mi
         if (peaks.empty() && OpenDecoder())
             peaks = ReadWaveForm(*m_decoder, first, samples, kSampleRate, 1, count);
         if (peaks.size() != size_t(count))
-            return E_FAIL;
+            return Refuse(E_FAIL, NLEReason_NothingThere);
         for (size_t i = 0; i < peaks.size(); ++i) {
             minima[i] = peaks[i].min;
             maxima[i] = peaks[i].max;
@@ -75,7 +79,7 @@ HRESULT WaveExtractor::SetCacheFolder(const wchar_t* folder, std::int64_t quota)
 {
     return ComGuard([&] {
         if (quota < 0)
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG);
         Waves().SetFolder(folder ? QString::fromWCharArray(folder) : QString(),
                           std::min(quota, kMostQuota) << 20);
         m_kept.reset();
@@ -86,14 +90,16 @@ HRESULT WaveExtractor::SetCacheFolder(const wchar_t* folder, std::int64_t quota)
 
 HRESULT WaveExtractor::IsCached(bool* cached)
 {
-    return ComGuard([&] { return m_media ? GiveValue(cached, OpenKept()) : E_FAIL; });
+    return ComGuard([&] {
+        return m_media ? GiveValue(cached, OpenKept()) : Refuse(E_FAIL, NLEReason_WrongState);
+    });
 }
 
 HRESULT WaveExtractor::Compute(NLEProgressCallback callback, void* userData)
 {
     return ComGuard([&] {
         if (!m_media)
-            return E_FAIL;
+            return Refuse(E_FAIL, NLEReason_WrongState);
         bool isStopped = false;
         const auto report = [&](double done) {
             isStopped = isStopped || (callback && callback(int(done * 100), userData) != 0);
@@ -121,11 +127,13 @@ bool WaveExtractor::OpenKept()
 
 HRESULT WaveExtractor::Keep(const WavePyramid::Progress& progress)
 {
-    if (!Waves().IsOn() || !OpenDecoder())
-        return E_FAIL;
+    if (!Waves().IsOn())
+        return Refuse(E_FAIL, NLEReason_WrongState, QStringLiteral("no cache"));
+    if (!OpenDecoder())
+        return Refuse(E_FAIL, NLEReason_FileUnsupported, m_media->path);
     const std::optional<WavePyramid> pyramid = WavePyramid::Read(*m_decoder, progress);
     const bool isKept = pyramid && Waves().Put(*m_media, m_stream, *pyramid) && OpenKept();
-    return isKept ? S_OK : E_FAIL;
+    return isKept ? S_OK : Refuse(E_FAIL, NLEReason_NotWritable);
 }
 
 std::vector<WavePeak> WaveExtractor::KeptPeaks(std::int64_t firstSample, std::int64_t sampleCount,

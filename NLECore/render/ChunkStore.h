@@ -99,6 +99,7 @@ public:
     /// The same with the folder when no chunk is left.
     void RemoveEmptyFolder();
 
+    const QString& Folder() const { return m_folder; }
     QString PathOf(const ContentKey& key) const;
     bool IsFolderThere() const;
     /// Bytes that the disk has left; below 0 when that is not known.

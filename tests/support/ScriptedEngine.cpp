@@ -7,6 +7,7 @@
 #include "EngineApi/INLEPlayer.h"
 #include "EngineApi/INLEProperties.h"
 #include "EngineApi/INLEProxies.h"
+#include "EngineApi/INLEReasons.h"
 #include "EngineApi/INLETimeline.h"
 
 namespace Scripted {
@@ -107,6 +108,7 @@ struct Factory : Object<INLEFactory>
     HRESULT Shutdown(int flags) override { return Call("Shutdown", flags); }
     SCRIPTED_OBJECT(INLEProxyMaker, CreateProxyMaker)
     SCRIPTED_OBJECT(INLEPlayer, CreatePlayer)
+    SCRIPTED_OBJECT(INLEReasons, GetReasons)
 };
 
 struct ClassFactory : Object<IClassFactory>
