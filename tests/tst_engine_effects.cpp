@@ -329,6 +329,9 @@ private slots:
         row("high-pass", 440, {{L"frequency", 4000}}, 0.01, 0.014);
         row("high-pass", 440, {{L"frequency", 44}}, 0.98, 1.02);
         row("low-pass", 440, {{L"frequency", 110}}, 0.055, 0.068);
+        row("de-esser", 440, {}, 0.97, 1.03);
+        row("de-esser", 8000, {{L"depth", 0}}, 0.97, 1.03);
+        row("de-esser", 8000, {}, 0.05, 0.5);
         row("echo", 440, {{L"delay", 500}, {L"level", -6}, {L"repeats", 1}}, 1.48, 1.52);
     }
     /// Alone, copied and from a document, read on from the start or in its middle.

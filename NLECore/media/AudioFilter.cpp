@@ -29,9 +29,23 @@ struct GraphFreer
 };
 } // namespace
 
+QByteArray SoundFilter::Text() const
+{
+    QByteArray text = name;
+    char separator = '=';
+    for (const auto& [option, value] : options) {
+        text += separator + option + '=' + value;
+        separator = ':';
+    }
+    return text;
+}
+
 struct AudioFilter::Private
 {
     QByteArray description;
+    Automation filterAt; ///< null for a chain that stays as it is
+    SoundFilter current; ///< as it is automated
+    int block = kBlock;  ///< samples that go into the filters at a time
     int sampleRate = 0;
     int channels = 0;
     std::int64_t leadIn = 0; ///< samples
@@ -45,6 +59,7 @@ struct AudioFilter::Private
 
     bool Build();
     bool Start(std::int64_t first);
+    void Automate();
     bool Feed(const Source& source);
     void Drain();
 };
@@ -86,22 +101,42 @@ bool AudioFilter::Private::Start(std::int64_t first)
     ready.clear();
     // Before sample 0 there is nothing to hear.
     nextInput = std::min(first, std::max<std::int64_t>(0, first - leadIn));
+    if (filterAt) {
+        // Down to the border of a block, also below 0.
+        nextInput -= (nextInput % block + block) % block;
+        current = filterAt(nextInput);
+        description = current.Text();
+    }
     nextOutput = nextInput;
     return Build();
 }
 
+void AudioFilter::Private::Automate()
+{
+    SoundFilter next = filterAt(nextInput);
+    for (std::size_t i = 0; i < next.options.size(); ++i) {
+        const auto& [option, value] = next.options[i];
+        if (value != current.options[i].second)
+            avfilter_graph_send_command(graph.get(), next.name.constData(), option.constData(),
+                                        value.constData(), nullptr, 0, 0);
+    }
+    current = std::move(next);
+}
+
 bool AudioFilter::Private::Feed(const Source& source)
 {
+    if (filterAt)
+        Automate();
     av_frame_unref(frame.get());
     frame->format = AV_SAMPLE_FMT_FLT;
     frame->sample_rate = sampleRate;
-    frame->nb_samples = kBlock;
+    frame->nb_samples = block;
     frame->pts = nextInput;
     av_channel_layout_default(&frame->ch_layout, channels);
     if (av_frame_get_buffer(frame.get(), 0) < 0)
         return false;
-    source(nextInput, kBlock, reinterpret_cast<float*>(frame->data[0]));
-    nextInput += kBlock;
+    source(nextInput, block, reinterpret_cast<float*>(frame->data[0]));
+    nextInput += block;
     return av_buffersrc_add_frame(input, frame.get()) >= 0;
 }
 
@@ -121,6 +156,13 @@ AudioFilter::AudioFilter(const QByteArray& description, int sampleRate, int chan
     d->sampleRate = sampleRate;
     d->channels = channels;
     d->leadIn = std::llround(leadIn * sampleRate);
+}
+
+AudioFilter::AudioFilter(Automation filterAt, int sampleRate, int channels, double leadIn)
+    : AudioFilter(QByteArray(), sampleRate, channels, leadIn)
+{
+    d->filterAt = std::move(filterAt);
+    d->block = BlockLength(sampleRate);
 }
 
 AudioFilter::~AudioFilter() = default;

@@ -6,8 +6,20 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace nle {
+
+/// One of libavfilter's filters of sound, with options by name.
+struct SoundFilter
+{
+    QByteArray name;
+    std::vector<std::pair<QByteArray, QByteArray>> options;
+
+    /// As libavfilter reads it.
+    QByteArray Text() const;
+};
 
 /// A chain of libavfilter's sound filters over samples that are asked for by position.
 ///
@@ -26,9 +38,17 @@ public:
     /// \a leadIn is in seconds.
     AudioFilter(const QByteArray& description, int sampleRate, int channels,
                 double leadIn = kLeadIn);
+    /// One filter whose options change: \a filterAt gives it as it is from a sample on, with the
+    /// same options in the same order, and is asked at whole multiples of BlockLength(). Wherever
+    /// reading begins, each sample is filtered with the same options.
+    using Automation = std::function<SoundFilter(std::int64_t sample)>;
+    AudioFilter(Automation filterAt, int sampleRate, int channels, double leadIn = kLeadIn);
     ~AudioFilter();
     AudioFilter(const AudioFilter&) = delete;
     AudioFilter& operator=(const AudioFilter&) = delete;
+
+    /// Samples for which options stay as they are: ten milliseconds.
+    static int BlockLength(int sampleRate) { return sampleRate < 100 ? 1 : sampleRate / 100; }
 
     /// As Source, filtered; a chain that libavfilter refuses lets everything pass unchanged.
     void Read(std::int64_t first, int count, const Source& source, float* samples);

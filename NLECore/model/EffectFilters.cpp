@@ -90,16 +90,15 @@ bool IsOneFilter(const std::map<int, MltTexts>& byFrame)
 }
 
 /// The same filter of libavfilter, under the name that the framework gives it.
-DocumentFilter HeardFilter(const ParameterValues& values)
+MltTexts HeardTexts(const ParametersAt& values, const SoundKind& kind)
 {
-    const SoundFilter sound = SoundOf(values)->filter(ParametersAt(values, 0));
-    DocumentFilter filter;
-    filter.properties.emplace_back(QStringLiteral("mlt_service"),
-                                   QLatin1String("avfilter.") + QLatin1String(sound.name));
+    const SoundFilter sound = kind.filter(values);
+    MltTexts texts;
+    texts.emplace_back(QStringLiteral("mlt_service"),
+                       QLatin1String("avfilter.") + QLatin1String(sound.name));
     for (const auto& [option, value] : sound.options)
-        filter.properties.emplace_back(QLatin1String("av.") + QLatin1String(option),
-                                       QLatin1String(value));
-    return filter;
+        texts.emplace_back(QLatin1String("av.") + QLatin1String(option), QLatin1String(value));
+    return texts;
 }
 
 } // namespace
@@ -117,8 +116,12 @@ std::vector<DocumentFilter> EffectFilters(const TimelineNode& node)
         if (IsOneFilter(byFrame))
             filters.push_back(Joined(byFrame));
     }
-    for (const SharedParameters& values : node.Effects().Heard())
-        filters.push_back(HeardFilter(*values));
+    for (const SharedParameters& values : node.Effects().Heard()) {
+        std::map<int, MltTexts> byFrame;
+        for (const int frame : FramesOf(*values))
+            byFrame[frame] = HeardTexts(ParametersAt(*values, frame), *SoundOf(*values));
+        filters.push_back(Joined(byFrame));
+    }
     return filters;
 }
 

@@ -8,8 +8,19 @@
 namespace nle {
 
 EffectNode::EffectNode(const Declaration& declaration)
-    : ComExtension(declaration), m_isOfSound(SoundOf(*Parameters().Shared()) != nullptr)
+    : ComExtension(declaration)
+    , m_isOfSound(SoundOf(*Parameters().Shared()) != nullptr)
+    , m_loudness(*this)
 {
+}
+
+HRESULT EffectNode::QueryInterface(REFIID iid, void** out)
+{
+    if (!out || !IsLoudness(Parameters().Declared()) ||
+        !ComDetail::Offer<INLELoudness>(&m_loudness, iid, out))
+        return ComExtension::QueryInterface(iid, out);
+    AddRef();
+    return S_OK;
 }
 
 EffectNode* EffectNode::From(IUnknown* object)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "NLECore/model/AttachedNode.h"
+#include "NLECore/model/LoudnessFacet.h"
 
 namespace nle {
 
@@ -15,6 +16,7 @@ public:
     /// The effect behind a node, not a new reference; null for another one.
     static EffectNode* From(IUnknown* object);
 
+    HRESULT QueryInterface(REFIID iid, void** out) override;
     HRESULT GetEffectName(wchar_t* buffer, int capacity) override;
 
     bool IsOfSound() const { return m_isOfSound; }
@@ -24,6 +26,7 @@ protected:
 
 private:
     const bool m_isOfSound;
+    LoudnessFacet m_loudness; ///< answered by the effect that it is for
 };
 
 /// What an effect is that has this name, of pictures or of sound; null for none.

@@ -21,11 +21,9 @@ QString Number(double value)
     return QString::number(value, 'f', 6);
 }
 
-/// Pitch, denoise, equaliser and the layer's effects as a chain of filters; empty when none is
-/// wanted.
-QByteArray DescribeEffects(const Layer& layer)
+/// Pitch, denoise and equaliser as a chain of filters.
+QStringList DescribeSettings(const AudioSettings& settings)
 {
-    const AudioSettings& settings = layer.audio;
     QStringList filters;
     if (settings.pitch != 0)
         filters << QStringLiteral("rubberband=pitch=") + Number(std::exp2(settings.pitch / 12.0));
@@ -37,21 +35,15 @@ QByteArray DescribeEffects(const Layer& layer)
                            .arg(Number(kEqualizerBands[band]),
                                 Number(settings.equalizerGains[band]));
     }
-    for (const SharedParameters& values : layer.soundEffects)
-        filters << QString::fromLatin1(SoundOf(*values)->filter(ParametersAt(*values, 0)).Text());
-    return filters.join(QLatin1Char(',')).toLatin1();
+    return filters;
 }
 
-/// Seconds that the filters have to hear before what counts.
-double LeadIn(const Layer& layer)
+/// Seconds that an effect has to hear before what counts.
+double LeadIn(const ParameterValues& values)
 {
-    double seconds = AudioFilter::kLeadIn;
-    for (const SharedParameters& values : layer.soundEffects) {
-        const SoundKind& kind = *SoundOf(*values);
-        if (kind.tail)
-            seconds = std::max(seconds, kind.tail(ParametersAt(*values, 0)));
-    }
-    return seconds;
+    const SoundKind& kind = *SoundOf(values);
+    const double tail = kind.tail ? kind.tail(ParametersAt(values, 0)) : 0;
+    return std::max(AudioFilter::kLeadIn, tail);
 }
 
 } // namespace
@@ -88,17 +80,52 @@ void AudioMixer::Render(const Layer& layer, std::int64_t first, int count, float
     const auto [entry, isNew] = m_voices.try_emplace(&layer);
     Voice& voice = entry->second;
     voice.idle = 0;
-    if (isNew) {
-        const QByteArray effects = DescribeEffects(layer);
-        if (!effects.isEmpty())
-            voice.effects =
-                std::make_unique<AudioFilter>(effects, m_sampleRate, m_channels, LeadIn(layer));
+    if (isNew)
+        voice.effects = MakeEffects(layer);
+    AudioFilter::Source source = content;
+    for (const auto& effect : voice.effects) {
+        source = [&effect, before = std::move(source)](std::int64_t start, int length, float* out) {
+            effect->Read(start, length, before, out);
+        };
     }
-    if (voice.effects)
-        voice.effects->Read(first, count, content, samples);
-    else
-        content(first, count, samples);
+    source(first, count, samples);
     ApplyGains(layer, first, count, samples);
+}
+
+std::vector<std::unique_ptr<AudioFilter>> AudioMixer::MakeEffects(const Layer& layer) const
+{
+    std::vector<std::unique_ptr<AudioFilter>> effects;
+    QStringList chain = DescribeSettings(layer.audio);
+    double leadIn = AudioFilter::kLeadIn;
+    const auto close = [&] {
+        if (!chain.isEmpty())
+            effects.push_back(std::make_unique<AudioFilter>(chain.join(QLatin1Char(',')).toLatin1(),
+                                                            m_sampleRate, m_channels, leadIn));
+        chain.clear();
+        leadIn = AudioFilter::kLeadIn;
+    };
+    for (const SharedParameters& values : layer.soundEffects) {
+        if (values->IsAnimated()) {
+            close();
+            effects.push_back(MakeAnimated(layer, values));
+            continue;
+        }
+        chain << QString::fromLatin1(SoundOf(*values)->filter(ParametersAt(*values, 0)).Text());
+        leadIn = std::max(leadIn, LeadIn(*values));
+    }
+    close();
+    return effects;
+}
+
+std::unique_ptr<AudioFilter> AudioMixer::MakeAnimated(const Layer& layer,
+                                                      const SharedParameters& values) const
+{
+    const double framesPerSample = ToDouble(layer.frameRate) / m_sampleRate;
+    const auto filterAt = [values, framesPerSample,
+                           filter = SoundOf(*values)->filter](std::int64_t sample) {
+        return filter(ParametersAt(*values, double(sample) * framesPerSample));
+    };
+    return std::make_unique<AudioFilter>(filterAt, m_sampleRate, m_channels, LeadIn(*values));
 }
 
 void AudioMixer::RenderContent(const Layer& layer, std::int64_t first, int count, float* samples)

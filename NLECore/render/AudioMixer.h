@@ -29,11 +29,17 @@ private:
     struct Voice
     {
         std::vector<std::unique_ptr<AudioDecoder>> decoders; ///< of the streams that sound
-        std::unique_ptr<AudioFilter> effects;
+        std::vector<std::unique_ptr<AudioFilter>> effects;   ///< in the order of the sound
         bool isOpened = false; ///< also after a failure, which is not tried again
         std::int64_t idle = 0; ///< samples mixed since it was read last
     };
 
+    /// The filters that a layer's sound goes through. Those without key frames that follow each
+    /// other are one.
+    std::vector<std::unique_ptr<AudioFilter>> MakeEffects(const Layer& layer) const;
+    /// One whose key frames decide, each for a block of samples.
+    std::unique_ptr<AudioFilter> MakeAnimated(const Layer& layer,
+                                              const SharedParameters& values) const;
     /// The layer's own samples with its settings, from its frame 0 on.
     void Render(const Layer& layer, std::int64_t first, int count, float* samples);
     void RenderContent(const Layer& layer, std::int64_t first, int count, float* samples);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/render/SoundKinds.h"
 
+#include "NLECore/media/LoudnessMeter.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -25,10 +27,19 @@ QByteArray FactorText(const ParametersAt& values, const char* name)
     return Text(Factor(values.Number(name)));
 }
 
-// Without key frames: filters of sound remember what they have heard.
+// Without key frames: what decides how far back a filter has to have heard, and what the filter
+// does not take while it runs.
 ParameterRow Row(NameRow names, NLEParameterUnit unit, double lowest, double highest, double preset)
 {
     return NumberRow(names, unit, lowest, highest, preset).Constant();
+}
+
+/// Seconds that a dynamics filter needs to forget what it has heard.
+double Release(const ParametersAt& values)
+{
+    constexpr double milliseconds = 1000;
+    constexpr double times = 4;
+    return times * (values.Number("attack") + values.Number("release")) / milliseconds;
 }
 
 SoundFilter Compressor(const ParametersAt& values)
@@ -145,62 +156,124 @@ SoundFilter LowPass(const ParametersAt& values)
 
 std::vector<ParameterRow> PassRows(double frequency)
 {
-    return {Row({"frequency", "Frequency"}, NLEUnit_Hertz, 20, 20000, frequency),
-            Row({"resonance", "Resonance"}, NLEUnit_None, 0.1, 10, 0.707)};
+    return {NumberRow({"frequency", QT_TRANSLATE_NOOP("NLECore", "Frequency")}, NLEUnit_Hertz, 20,
+                      20000, frequency),
+            NumberRow({"resonance", QT_TRANSLATE_NOOP("NLECore", "Resonance")}, NLEUnit_None, 0.1,
+                      10, 0.707)};
+}
+
+SoundFilter DeEsser(const ParametersAt& values)
+{
+    return {"deesser",
+            {{"i", Text(values.Number("amount"))},
+             {"m", Text(1 - values.Number("depth"))},
+             {"f", Text(values.Number("frequency"))}}};
+}
+
+/// The gain that brings what was measured to the target, and no peak over the ceiling.
+SoundFilter Normalisation(const ParametersAt& values)
+{
+    const double loudness = values.Number(LoudnessParameter::kIntegrated);
+    const double peak = values.Number(LoudnessParameter::kTruePeak);
+    const double gain = loudness <= Loudness::kSilent ? 0
+                                                      : std::min(values.Number("target") - loudness,
+                                                                 values.Number("ceiling") - peak);
+    return {"volume", {{"volume", Text(Factor(gain))}}};
+}
+
+std::vector<ParameterRow> NormalisationRows()
+{
+    return {
+        Row({"target", QT_TRANSLATE_NOOP("NLECore", "Target loudness")}, NLEUnit_Decibels, -70, -5,
+            -23),
+        Row({"ceiling", QT_TRANSLATE_NOOP("NLECore", "Highest true peak")}, NLEUnit_Decibels, -20,
+            0, -1),
+        Row({LoudnessParameter::kIntegrated, QT_TRANSLATE_NOOP("NLECore", "Measured loudness")},
+            NLEUnit_Decibels, Loudness::kSilent, 40, Loudness::kSilent),
+        Row({LoudnessParameter::kRange, QT_TRANSLATE_NOOP("NLECore", "Measured loudness range")},
+            NLEUnit_Decibels, 0, 120, 0),
+        Row({LoudnessParameter::kTruePeak, QT_TRANSLATE_NOOP("NLECore", "Measured true peak")},
+            NLEUnit_Decibels, Loudness::kNoPeak, 40, Loudness::kNoPeak)};
 }
 
 } // namespace
 
-QByteArray SoundFilter::Text() const
-{
-    QByteArray text = name;
-    char separator = '=';
-    for (const auto& [option, value] : options) {
-        text += separator + option + '=' + value;
-        separator = ':';
-    }
-    return text;
-}
-
 const std::vector<SoundKind>& SoundKinds()
 {
     const auto attack = [](double preset) {
-        return Row({"attack", "Attack"}, NLEUnit_Milliseconds, 0.1, 80, preset);
+        return Row({"attack", QT_TRANSLATE_NOOP("NLECore", "Attack")}, NLEUnit_Milliseconds, 0.1,
+                   80, preset);
     };
     const auto release = [](double preset) {
-        return Row({"release", "Release"}, NLEUnit_Milliseconds, 1, 1000, preset);
+        return Row({"release", QT_TRANSLATE_NOOP("NLECore", "Release")}, NLEUnit_Milliseconds, 1,
+                   1000, preset);
+    };
+    const auto threshold = [](double lowest, double preset) {
+        return NumberRow({"threshold", QT_TRANSLATE_NOOP("NLECore", "Threshold")}, NLEUnit_Decibels,
+                         lowest, 0, preset);
+    };
+    const auto share = [](NameRow names, double preset) {
+        return Row(names, NLEUnit_Share, 0, 1, preset);
     };
     static const std::vector<SoundKind> kinds = {
-        {{{"compressor", "Compressor"},
-          {Row({"threshold", "Threshold"}, NLEUnit_Decibels, -60, 0, -18),
-           Row({"ratio", "Ratio"}, NLEUnit_None, 1, 20, 3), attack(20), release(250),
-           Row({"makeup", "Make-up gain"}, NLEUnit_Decibels, 0, 36, 0)}},
+        {{{"compressor", QT_TRANSLATE_NOOP("NLECore", "Compressor")},
+          {threshold(-60, -18),
+           NumberRow({"ratio", QT_TRANSLATE_NOOP("NLECore", "Ratio")}, NLEUnit_None, 1, 20, 3),
+           attack(20), release(250),
+           NumberRow({"makeup", QT_TRANSLATE_NOOP("NLECore", "Make-up gain")}, NLEUnit_Decibels, 0,
+                     36, 0)}},
          Compressor,
-         nullptr},
-        {{{"limiter", "Limiter"},
-          {Row({"limit", "Limit"}, NLEUnit_Decibels, -24, 0, -1), attack(5), release(50)}},
+         Release},
+        {{{"limiter", QT_TRANSLATE_NOOP("NLECore", "Limiter")},
+          {NumberRow({"limit", QT_TRANSLATE_NOOP("NLECore", "Limit")}, NLEUnit_Decibels, -24, 0,
+                     -1),
+           attack(5), release(50)}},
          Limiter,
-         nullptr},
-        {{{"gate", "Noise gate"},
-          {Row({"threshold", "Threshold"}, NLEUnit_Decibels, -90, 0, -40),
-           Row({"range", "Reduction"}, NLEUnit_Decibels, 0, 90, 24), attack(20), release(250)}},
+         Release},
+        {{{"gate", QT_TRANSLATE_NOOP("NLECore", "Noise gate")},
+          {threshold(-90, -40),
+           NumberRow({"range", QT_TRANSLATE_NOOP("NLECore", "Reduction")}, NLEUnit_Decibels, 0, 90,
+                     24),
+           attack(20), release(250)}},
          Gate,
-         nullptr},
-        {{{"reverb", "Reverb"},
-          {Row({"time", "Time"}, NLEUnit_Seconds, 0.1, 5, 1.2),
-           Row({"delay", "First reflection"}, NLEUnit_Milliseconds, 1, 200, 20),
-           Row({"mix", "Mix"}, NLEUnit_Share, 0, 1, 0.3)}},
+         Release},
+        {{{"reverb", QT_TRANSLATE_NOOP("NLECore", "Reverb")},
+          {Row({"time", QT_TRANSLATE_NOOP("NLECore", "Time")}, NLEUnit_Seconds, 0.1, 5, 1.2),
+           Row({"delay", QT_TRANSLATE_NOOP("NLECore", "First reflection")}, NLEUnit_Milliseconds, 1,
+               200, 20),
+           share({"mix", QT_TRANSLATE_NOOP("NLECore", "Mix")}, 0.3)}},
          Reverb,
          ReverbTail},
-        {{{"echo", "Echo"},
-          {Row({"delay", "Delay"}, NLEUnit_Milliseconds, 1, 2000, 350),
-           Row({"level", "Level"}, NLEUnit_Decibels, -60, -1, -8),
-           WholeRow({"repeats", "Repeats"}, NLEUnit_None, 1, 10, 3).Constant()}},
+        {{{"echo", QT_TRANSLATE_NOOP("NLECore", "Echo")},
+          {Row({"delay", QT_TRANSLATE_NOOP("NLECore", "Delay")}, NLEUnit_Milliseconds, 1, 2000,
+               350),
+           Row({"level", QT_TRANSLATE_NOOP("NLECore", "Level")}, NLEUnit_Decibels, -60, -1, -8),
+           WholeRow({"repeats", QT_TRANSLATE_NOOP("NLECore", "Repeats")}, NLEUnit_None, 1, 10, 3)
+               .Constant()}},
          Echo,
          EchoTail},
-        {{{"high-pass", "High pass"}, PassRows(100)}, HighPass, nullptr},
-        {{{"low-pass", "Low pass"}, PassRows(8000)}, LowPass, nullptr}};
+        {{{"high-pass", QT_TRANSLATE_NOOP("NLECore", "High pass")}, PassRows(100)},
+         HighPass,
+         nullptr},
+        {{{"low-pass", QT_TRANSLATE_NOOP("NLECore", "Low pass")}, PassRows(8000)},
+         LowPass,
+         nullptr},
+        {{{"de-esser", QT_TRANSLATE_NOOP("NLECore", "De-esser")},
+          {share({"amount", QT_TRANSLATE_NOOP("NLECore", "Amount")}, 0.5),
+           share({"depth", QT_TRANSLATE_NOOP("NLECore", "Depth")}, 0.5),
+           share({"frequency", QT_TRANSLATE_NOOP("NLECore", "Frequency")}, 0.5)}},
+         DeEsser,
+         nullptr},
+        {{{"loudness", QT_TRANSLATE_NOOP("NLECore", "Loudness normalisation")},
+          NormalisationRows()},
+         Normalisation,
+         nullptr}};
     return kinds;
+}
+
+bool IsLoudness(const Declaration& declaration)
+{
+    return declaration.IndexOf(QLatin1String(LoudnessParameter::kIntegrated)) >= 0;
 }
 
 const SoundKind* FindSound(const QString& name)
