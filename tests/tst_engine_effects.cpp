@@ -135,7 +135,7 @@ private slots:
                                  "vignette", "noise-reduction", "black-and-white", "drop-shadow"})
             QVERIFY2(names.removeAll(name) == 1, name);
         QCOMPARE(catalogue->GetCount(NLECatalog_AudioFilter, &count), S_OK);
-        QCOMPARE(count, 7);
+        QCOMPARE(count, 9);
         QCOMPARE(catalogue->GetCount(NLECatalog_Effect, &count), S_OK);
         Node effect;
         QCOMPARE(Nodes()->CreateEffect(L"no such effect", effect.put()), E_INVALIDARG);

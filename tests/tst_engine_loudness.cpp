@@ -15,12 +15,14 @@ namespace {
 struct Told
 {
     std::atomic<HRESULT> state{S_FALSE};
-    std::atomic<int> calls{0};
+
+    INLELoudness* cancelled = nullptr; ///< when it is told for the first time
 
     static void Take(HRESULT state, int /*percent*/, void* data)
     {
         auto* told = static_cast<Told*>(data);
-        ++told->calls;
+        if (told->cancelled)
+            told->cancelled->Cancel();
         told->state = state;
     }
 };
@@ -78,7 +80,7 @@ class tst_EngineLoudness : public QObject, private EngineFixture
         effect.query<INLELoudness>()->GetResult(&record);
         return record;
     }
-    Node Tone(const char* name, double level, int frames = 75) const
+    Node Tone(const char* name, double level) const
     {
         TestClip made;
         made.codec.clear();
@@ -86,7 +88,7 @@ class tst_EngineLoudness : public QObject, private EngineFixture
         made.toneHz = 1000;
         made.toneLevel = level;
         made.toneStart = 1;
-        made.frames = frames;
+        made.frames = 75;
         return MakeTestClip(Path(name), made).isEmpty() ? Media(Path(name)) : Node();
     }
     /// From frame 0 on, read without a jump.
@@ -153,17 +155,17 @@ private slots:
         Node copy;
         QCOMPARE(project->Clone(true, copy.put()), S_OK);
         QVERIFY(Save(project, Path("loud.mlt")));
-        for (const Node& node : {project, copy, Load(Path("loud.mlt"))}) {
-            const auto encoder = provider->CreateMediaEncoder();
-            const NLEEncodeSettings settings = {};
-            const std::wstring path = Path("out.wav").toStdWString();
-            QCOMPARE(encoder->Open(node.get(), path.c_str(), &settings), S_OK);
-            QCOMPARE(encoder->Encode(nullptr, nullptr), S_OK);
-            const Measured written = MeasureFile(Path("out.wav"));
-            QVERIFY2(std::abs(written.integrated - wanted) < 0.5,
-                     qPrintable(QString::number(written.integrated)));
-            QVERIFY(written.truePeak < ceiling + 0.2);
-        }
+        for (const Node& node : {copy, Load(Path("loud.mlt"))})
+            QVERIFY(Furthest(Sound(project, 40), Sound(node, 40)) < 1e-5);
+        const auto encoder = provider->CreateMediaEncoder();
+        const NLEEncodeSettings settings = {};
+        const std::wstring path = Path("out.wav").toStdWString();
+        QCOMPARE(encoder->Open(project.get(), path.c_str(), &settings), S_OK);
+        QCOMPARE(encoder->Encode(nullptr, nullptr), S_OK);
+        const Measured written = MeasureFile(Path("out.wav"));
+        QVERIFY2(std::abs(written.integrated - wanted) < 0.5,
+                 qPrintable(QString::number(written.integrated)));
+        QVERIFY(written.truePeak < ceiling + 0.2);
     }
 
     void onlyWhatItMeasuresAndWhenItCan()
@@ -189,14 +191,12 @@ private slots:
 
     void cancelled()
     {
-        const Node clip = Tone("long.wav", 0.5, 25 * 600);
-        QVERIFY(clip);
+        const Node clip = Tone("tone.wav", 0.5);
         const Node effect = Carried(clip, L"loudness");
-        Told told;
         const auto meter = effect.query<INLELoudness>();
+        Told told;
+        told.cancelled = meter.get();
         QCOMPARE(meter->Measure(Told::Take, &told), S_OK);
-        QTRY_VERIFY_WITH_TIMEOUT(told.calls > 0, 60000);
-        QCOMPARE(meter->Cancel(), S_OK);
         QTRY_COMPARE_WITH_TIMEOUT(HRESULT(told.state), E_ABORT, 60000);
         QCOMPARE(meter->Apply(), S_FALSE);
     }

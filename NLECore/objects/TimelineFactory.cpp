@@ -46,9 +46,29 @@ std::vector<NameRow> NamesOf(int kind)
     return names;
 }
 
-HRESULT NoName(const wchar_t* name)
+const Declaration& DeclarationOf(const Declaration& declaration)
 {
-    return Refuse(E_INVALIDARG, NLEReason_UnknownName, QString::fromWCharArray(name));
+    return declaration;
+}
+template <typename Kind>
+const Declaration& DeclarationOf(const Kind& kind)
+{
+    return kind.declaration;
+}
+
+/// A new node of what \a find has under \a name.
+template <typename NodeClass, typename Find>
+HRESULT CreateNamed(const wchar_t* name, INLETimeline** node, Find find)
+{
+    return ComGuard([&] {
+        if (!name || !node)
+            return Refuse(E_POINTER);
+        *node = nullptr;
+        const QString wanted = QString::fromWCharArray(name);
+        const auto* kind = find(wanted);
+        return kind ? GiveNew<NodeClass>(node, DeclarationOf(*kind))
+                    : Refuse(E_INVALIDARG, NLEReason_UnknownName, wanted);
+    });
 }
 
 bool IsCatalog(int kind)
@@ -114,13 +134,7 @@ HRESULT TimelineFactory::CreateFromTemplate(const wchar_t* folder, INLETimeline*
 
 HRESULT TimelineFactory::CreateAudioFilter(const wchar_t* name, INLETimeline** filter)
 {
-    return ComGuard([&] {
-        if (!name || !filter)
-            return Refuse(E_POINTER);
-        *filter = nullptr;
-        const SoundKind* kind = FindSound(QString::fromWCharArray(name));
-        return kind ? GiveNew<EffectNode>(filter, kind->declaration) : NoName(name);
-    });
+    return CreateNamed<EffectNode>(name, filter, FindSound);
 }
 
 HRESULT TimelineFactory::CreateColor(std::uint32_t argb, NLESize size, float frameRate,
@@ -168,24 +182,12 @@ HRESULT TimelineFactory::CreateVirtual(int type, INLETimeline** timeline)
 
 HRESULT TimelineFactory::CreateEffect(const wchar_t* name, INLETimeline** effect)
 {
-    return ComGuard([&] {
-        if (!name || !effect)
-            return Refuse(E_POINTER);
-        *effect = nullptr;
-        const EffectKind* kind = FindEffect(QString::fromWCharArray(name));
-        return kind ? GiveNew<EffectNode>(effect, kind->declaration) : NoName(name);
-    });
+    return CreateNamed<EffectNode>(name, effect, FindEffect);
 }
 
 HRESULT TimelineFactory::CreateTransition(const wchar_t* name, INLETimeline** transition)
 {
-    return ComGuard([&] {
-        if (!name || !transition)
-            return Refuse(E_POINTER);
-        *transition = nullptr;
-        const Declaration* declaration = FindTransition(QString::fromWCharArray(name));
-        return declaration ? GiveNew<TransitionNode>(transition, *declaration) : NoName(name);
-    });
+    return CreateNamed<TransitionNode>(name, transition, FindTransition);
 }
 
 HRESULT TimelineFactory::CreateTitle(const wchar_t* text, INLETimeline** title)

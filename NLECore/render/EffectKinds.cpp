@@ -3,6 +3,7 @@
 
 #include "NLECore/render/ColorEffects_p.h"
 #include "NLECore/render/SpatialEffects_p.h"
+#include "NLECore/scene/FindNamed.h"
 
 #include <algorithm>
 
@@ -20,11 +21,7 @@ const std::vector<EffectKind>& EffectKinds()
 
 const EffectKind* FindEffect(const QString& name)
 {
-    const auto found =
-        std::find_if(EffectKinds().begin(), EffectKinds().end(), [&name](const EffectKind& kind) {
-            return name == QLatin1String(kind.declaration.names.name);
-        });
-    return found == EffectKinds().end() ? nullptr : &*found;
+    return FindNamed(EffectKinds(), name);
 }
 
 const EffectKind& KindOf(const ParameterValues& values)

@@ -2,6 +2,7 @@
 #include "NLECore/render/SoundKinds.h"
 
 #include "NLECore/media/LoudnessMeter.h"
+#include "NLECore/scene/FindNamed.h"
 
 #include <algorithm>
 #include <cmath>
@@ -278,11 +279,7 @@ bool IsLoudness(const Declaration& declaration)
 
 const SoundKind* FindSound(const QString& name)
 {
-    const auto found =
-        std::find_if(SoundKinds().begin(), SoundKinds().end(), [&name](const SoundKind& kind) {
-            return name == QLatin1String(kind.declaration.names.name);
-        });
-    return found == SoundKinds().end() ? nullptr : &*found;
+    return FindNamed(SoundKinds(), name);
 }
 
 const SoundKind* SoundOf(const ParameterValues& values)

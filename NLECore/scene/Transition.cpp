@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/scene/Transition.h"
 
+#include "NLECore/scene/FindNamed.h"
 #include "NLECore/scene/Layer.h"
 #include "NLECore/scene/LayerKey.h"
 
@@ -219,11 +220,7 @@ const std::vector<Declaration>& TransitionDeclarations()
 
 const Declaration* FindTransition(const QString& name)
 {
-    const std::vector<Declaration>& all = TransitionDeclarations();
-    const auto found = std::find_if(all.begin(), all.end(), [&name](const Declaration& one) {
-        return name == QLatin1String(one.names.name);
-    });
-    return found == all.end() ? nullptr : &*found;
+    return FindNamed(TransitionDeclarations(), name);
 }
 
 TransitionKind TransitionKindOf(const Declaration& declaration)
