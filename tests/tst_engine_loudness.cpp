@@ -104,8 +104,8 @@ class tst_EngineLoudness : public QObject, private EngineFixture
             extractor->ExtractAudio(i, sound.get());
         sound->GetData(&data);
         for (int i = 0; i < samples; ++i) {
-            result[0].push_back(data[2 * i]);
-            result[1].push_back(data[2 * i + 1]);
+            result[0].push_back(data[size_t(i) * 2]);
+            result[1].push_back(data[size_t(i) * 2 + 1]);
         }
         return result;
     }

@@ -2,6 +2,7 @@
 #include "NLECore/objects/Player.h"
 
 #include "Com/ComGuard.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/model/PropertyBag.h"
 #include "NLECore/render/TaskThread.h"
@@ -28,7 +29,7 @@ HRESULT PlayedFrame::GetValidRect(NLERect* rect)
 
 HRESULT PlayedFrame::SetValidRect(const NLERect* rect)
 {
-    return rect ? E_NOTIMPL : E_POINTER;
+    return rect ? Refuse(E_NOTIMPL) : Refuse(E_POINTER);
 }
 
 HRESULT PlayedFrame::GetData(std::uint8_t** pixels)
@@ -133,7 +134,7 @@ HRESULT Player::Open(INLETimeline* timeline)
         TimelineNode* node = TimelineNode::From(timeline);
         SharedScene scene = node ? SceneOf(*node) : nullptr;
         if (!scene)
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG);
         m_core->loop.Open(std::move(scene));
         m_node = NLEComPtr<TimelineNode>(node);
         return S_OK;
@@ -144,11 +145,11 @@ HRESULT Player::Refresh()
 {
     return ComGuard([&] {
         if (!m_node)
-            return E_FAIL;
+            return Refuse(E_FAIL, NLEReason_WrongState);
         SharedScene scene = SceneOf(*m_node);
         if (!scene)
-            return E_FAIL;
-        return m_core->loop.Refresh(std::move(scene)) ? S_OK : E_FAIL;
+            return Refuse(E_FAIL, NLEReason_WrongState);
+        return m_core->loop.Refresh(std::move(scene)) ? S_OK : Refuse(E_FAIL, NLEReason_WrongState);
     });
 }
 
@@ -200,7 +201,7 @@ HRESULT Player::GetState(int* state)
 HRESULT Player::GetPosition(int* frame)
 {
     const int position = m_core->loop.Position();
-    return position < 0 ? E_FAIL : GiveValue(frame, position);
+    return position < 0 ? Refuse(E_FAIL, NLEReason_WrongState) : GiveValue(frame, position);
 }
 
 HRESULT Player::GetRate(double* rate)
@@ -211,7 +212,7 @@ HRESULT Player::GetRate(double* rate)
 HRESULT Player::GetLength(int* frames)
 {
     const int length = m_core->loop.Length();
-    return length < 0 ? E_FAIL : GiveValue(frames, length);
+    return length < 0 ? Refuse(E_FAIL, NLEReason_WrongState) : GiveValue(frames, length);
 }
 
 HRESULT Player::SetPictureSize(int width, int height)
@@ -219,7 +220,7 @@ HRESULT Player::SetPictureSize(int width, int height)
     const auto isSide = [](int length) { return length > 0 && length <= kLongestSide; };
     const bool isPreset = width == 0 && height == 0;
     if (!isPreset && !(isSide(width) && isSide(height)))
-        return E_INVALIDARG;
+        return Refuse(E_INVALIDARG);
     return ComGuard([&] {
         m_core->loop.SetPictureSize(isPreset ? QSize() : QSize(width, height));
         return S_OK;
@@ -229,7 +230,7 @@ HRESULT Player::SetPictureSize(int width, int height)
 HRESULT Player::SetVolume(double volume)
 {
     if (!(volume >= 0 && volume <= kLoudest))
-        return E_INVALIDARG;
+        return Refuse(E_INVALIDARG);
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_guarded.volume = volume;
     ApplyVolume();
@@ -277,7 +278,7 @@ HRESULT Player::GetSoundDeviceName(int index, wchar_t* name, int capacity)
     return ComGuard([&] {
         const std::lock_guard<std::mutex> lock(m_mutex);
         if (index < 0 || index >= m_guarded.devices.size())
-            return E_INVALIDARG;
+            return Refuse(E_INVALIDARG);
         return CopyText(m_guarded.devices[index].toStdWString(), name, capacity);
     });
 }
@@ -303,7 +304,7 @@ HRESULT Player::GetSoundDevice(wchar_t* name, int capacity)
 HRESULT Player::SetSoundOffset(int milliseconds)
 {
     if (milliseconds < -kMostOffset || milliseconds > kMostOffset)
-        return E_INVALIDARG;
+        return Refuse(E_INVALIDARG);
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_guarded.offset = milliseconds;
     m_core->loop.SetSoundOffset(milliseconds);
@@ -319,14 +320,14 @@ HRESULT Player::GetSoundOffset(int* milliseconds)
 HRESULT Player::GetReport(NLEPlayerReport* report)
 {
     if (!report)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     return m_core->loop.LastSecond(report) ? S_OK : S_FALSE;
 }
 
 HRESULT Player::GetTotals(NLEPlayerReport* report)
 {
     if (!report)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     m_core->loop.Totals(report);
     return S_OK;
 }
@@ -334,7 +335,7 @@ HRESULT Player::GetTotals(NLEPlayerReport* report)
 HRESULT Player::GetLevels(NLEPlayerLevels* levels)
 {
     if (!levels)
-        return E_POINTER;
+        return Refuse(E_POINTER);
     return ComGuard([&] {
         m_core->loop.Levels(levels);
         return S_OK;
