@@ -270,8 +270,8 @@ bool ChunkStore::Evict(std::int64_t bytes, const KeySet& keep)
     return true;
 }
 
-// Who adds last sees what all have added, so the quota holds whenever nobody is adding. What another
-// thread has listed meanwhile counts as well: it was not known when the room was reserved.
+// Who adds last sees what all have added, so the quota holds whenever nobody is adding. What
+// another thread has listed meanwhile counts as well: it was not known when the room was reserved.
 ChunkStore::Room ChunkStore::Add(const ContentKey& key, Reservation reserved,
                                  const CacheLimits& limits, const KeySet& keep)
 {
