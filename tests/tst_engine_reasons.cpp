@@ -140,15 +140,15 @@ private slots:
             "a setting beyond its range",
             [=] { return Facet<INLEAudioStreamProcess>(clip)->SetPitch(25); }, NLEReason_OutOfRange,
             "-24 to 24");
-        row("a parameter that there is not", Setting(blur, L"sise", 1), NLEReason_UnknownName,
-            "sise");
+        row("a parameter that there is not", Setting(blur, L"szie", 1), NLEReason_UnknownName,
+            "szie");
         row(
             "an effect that there is not",
             [] {
                 Node effect;
-                return Nodes()->CreateEffect(L"blurr", effect.put());
+                return Nodes()->CreateEffect(L"blurx", effect.put());
             },
-            NLEReason_UnknownName, "blurr");
+            NLEReason_UnknownName, "blurx");
         row(
             "a table of colours that is not there",
             [=] { return lut.query<INLEParameters>()->SetText(L"file", L"/none/a.cube"); },

@@ -197,8 +197,8 @@ private slots:
             const Screening screening = Screen(project);
             if (isPlaying)
                 screening.player->Play(1);
-            const size_t atLeast = isPlaying ? 5 : 1;
-            QTRY_VERIFY_WITH_TIMEOUT(screening.spy->Pictures().size() >= atLeast, kPatience);
+            const size_t wanted = isPlaying ? 5 : 1;
+            QTRY_VERIFY_WITH_TIMEOUT(screening.spy->Pictures().size() >= wanted, kPatience);
             Facet<INLEColorClip>(colour)->SetColor(kBlue);
             sound->SetEnabled(false);
             QCOMPARE(screening.player->Refresh(), S_OK);

@@ -609,8 +609,8 @@ void OtioReader::TakeMarkers(const QJsonObject& item, bool isOwn, TimelineNode& 
 {
     const QJsonArray markers = MarkersIn(item);
     const QJsonObject available = Child(ReferenceOf(item), "available_range");
-    const double start =
-        available.isEmpty() ? MediaStart(node) : Seconds(Child(available, "start_time")).value_or(0);
+    const double start = available.isEmpty() ? MediaStart(node)
+                                             : Seconds(Child(available, "start_time")).value_or(0);
     const OtioMarkers format(Fps() / node.Speed(), start);
     MarkerList& own = node.Markers().settings;
     const QJsonArray kept = KeptJson(node, kMarkers).array();
