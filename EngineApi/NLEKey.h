@@ -131,6 +131,16 @@ inline constexpr const wchar_t* kHardwareDecoding = L"kSystem_HardwareDecoding";
 /// Integer, 0 to 65536: MiB of memory that decoded pictures, kept for stepping back and scrubbing,
 /// may take in all; preset 512. 0 keeps none.
 inline constexpr const wchar_t* kDecodedPictures = L"kSystem_DecodedPictures";
+/// Integer, 0 to 64: threads that a decoder, the preview cache and the opening of files may have
+/// each, of what is opened or started from then on; preset 0, as many as the system has processors.
+inline constexpr const wchar_t* kThreads = L"kSystem_Threads";
+/// Text: folder of the preview cache of timelines for which INLEBackgroundCache::SetCacheFolder was
+/// not called before their cache was first asked for; empty, the preset, for none.
+inline constexpr const wchar_t* kCacheFolder = L"kSystem_CacheFolder";
+/// Integers from 0 on: MiB that chunks in that folder may fill, preset 10240, and MiB to leave free
+/// on its disk, preset 1024.
+inline constexpr const wchar_t* kCacheQuota = L"kSystem_CacheQuota";
+inline constexpr const wchar_t* kCacheReserve = L"kSystem_CacheReserve";
 } // namespace System
 
 } // namespace NLEKey

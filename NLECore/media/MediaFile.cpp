@@ -2,9 +2,9 @@
 #include "NLECore/media/ImageSequence_p.h"
 #include "NLECore/media/MediaFile_p.h"
 #include "NLECore/media/MediaLog_p.h"
+#include "NLECore/media/WorkThreads.h"
 
 #include <QFileInfo>
-#include <QThread>
 
 #include <algorithm>
 #include <cstring>
@@ -264,8 +264,7 @@ CodecPtr MakeCodec(const AVStream* stream, const AVCodec* decoder, int threads)
     if (!codec || avcodec_parameters_to_context(codec.get(), stream->codecpar) < 0)
         return nullptr;
     codec->pkt_timebase = stream->time_base;
-    codec->thread_count =
-        threads > 0 ? threads : std::clamp(QThread::idealThreadCount(), 1, kMaxThreads);
+    codec->thread_count = threads > 0 ? threads : WorkThreads(kMaxThreads);
     return codec;
 }
 

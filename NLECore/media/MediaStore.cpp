@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/MediaStore.h"
 #include "NLECore/media/MediaFile_p.h"
-
-#include <QThread>
+#include "NLECore/media/WorkThreads.h"
 
 #include <algorithm>
 #include <atomic>
@@ -143,7 +142,7 @@ MediaStore::Result MediaStore::Describe(const QString& path)
 std::vector<MediaStore::Result> MediaStore::DescribeAll(const QStringList& paths)
 {
     std::vector<Result> results(size_t(paths.size()));
-    const int threads = std::clamp(QThread::idealThreadCount(), kFewestThreads, kMostThreads);
+    const int threads = std::max(WorkThreads(kMostThreads), kFewestThreads);
     const auto describe = [&](int i) {
         try {
             results[size_t(i)] = Describe(paths[i]);

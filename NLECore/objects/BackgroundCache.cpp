@@ -3,6 +3,7 @@
 
 #include "Com/ComGuard.h"
 #include "NLECore/media/Reasons.h"
+#include "NLECore/render/CacheDefaults.h"
 
 #include <algorithm>
 #include <cmath>
@@ -31,6 +32,16 @@ QSize PresetSize(const NLESize& picture)
 }
 
 } // namespace
+
+BackgroundCache::BackgroundCache(std::function<Snapshot()> takeSnapshot)
+    : m_takeSnapshot(std::move(takeSnapshot))
+{
+    const CacheDefaults defaults = DefaultCache();
+    if (defaults.folder.isEmpty())
+        return;
+    m_limits = {defaults.quota * kMebibyte, defaults.reserve * kMebibyte};
+    m_guarded.store = ChunkStore::Of(defaults.folder);
+}
 
 BackgroundCache::~BackgroundCache() = default;
 

@@ -20,10 +20,8 @@ class BackgroundCache final
                        INLEBackgroundCacheQualitySet>
 {
 public:
-    explicit BackgroundCache(std::function<Snapshot()> takeSnapshot)
-        : m_takeSnapshot(std::move(takeSnapshot))
-    {
-    }
+    /// Starts with the folder and the limits of DefaultCache().
+    explicit BackgroundCache(std::function<Snapshot()> takeSnapshot);
 
     /// Ends a render that is running. E_INVALIDARG for no name and for numbers below 0.
     HRESULT SetCacheFolder(const wchar_t* folder, std::int64_t quota, int reserve) override;

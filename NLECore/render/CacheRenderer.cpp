@@ -3,11 +3,10 @@
 
 #include "Com/ComGuard.h"
 #include "NLECore/media/EngineLog.h"
+#include "NLECore/media/WorkThreads.h"
 #include "NLECore/render/Composer.h"
 #include "NLECore/render/TaskThread.h"
 #include "NLECore/render/ThreadPriority_p.h"
-
-#include <QThread>
 
 #include <algorithm>
 
@@ -21,11 +20,6 @@ constexpr int kMostThreads = 4;
 constexpr int kDecoderThreads = 1;
 /// Decoders that a thread holds while one clip ends and the next begins.
 constexpr int kDecodersPerThread = 2;
-
-int ThreadCount()
-{
-    return std::clamp(QThread::idealThreadCount(), 1, kMostThreads);
-}
 
 /// The state that a lack of room ends a run with.
 std::optional<NLECacheState> StateOf(ChunkStore::Room room)
@@ -68,7 +62,8 @@ CacheRenderer::CacheRenderer(std::shared_ptr<const ChunkPlan> plan,
     , m_limits(limits)
     , m_report(std::move(report))
     , m_keep(m_plan->Keys())
-    , m_decoders(kDecodersPerThread * ThreadCount(), kDecoderThreads)
+    , m_threadCount(WorkThreads(kMostThreads))
+    , m_decoders(kDecodersPerThread * m_threadCount, kDecoderThreads)
 {
     KeySet seen;
     const std::vector<Chunk>& chunks = m_plan->Chunks();
@@ -83,8 +78,8 @@ CacheRenderer::CacheRenderer(std::shared_ptr<const ChunkPlan> plan,
 bool CacheRenderer::StartThreads()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_threads.reserve(std::size_t(ThreadCount()));
-    for (int number = 0; number < ThreadCount(); ++number) {
+    m_threads.reserve(std::size_t(m_threadCount));
+    for (int number = 0; number < m_threadCount; ++number) {
         std::thread thread = StartThread([this, number] { Run(number); });
         if (thread.joinable())
             m_threads.push_back(std::move(thread));
@@ -129,7 +124,7 @@ void CacheRenderer::RenderChunks(int number)
                   PictureEncoder::Open(place.size(), m_plan->Coding()), 0};
     // The threads begin apart, so that each finds chunks that follow one another.
     const std::int64_t count = std::int64_t(m_plan->Chunks().size());
-    int last = int(count * number / ThreadCount()) - 1;
+    int last = int(count * number / m_threadCount) - 1;
     for (std::optional<int> next = Take(last); next; next = Take(last)) {
         last = *next;
         if (const auto failure = RenderChunk(m_plan->Chunks()[std::size_t(last)], worker))

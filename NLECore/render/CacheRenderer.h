@@ -72,6 +72,7 @@ private:
     const CacheLimits m_limits;
     const Report m_report;
     const KeySet m_keep;
+    const int m_threadCount;
     DecoderPool m_decoders;
     std::atomic<bool> m_isEnding{false};
 
