@@ -285,14 +285,14 @@ private Q_SLOTS:
         QFETCH(Drawing, drawing);
         if (drawing == Drawing::OpenGL && FindGraphicsCard() == GraphicsCard::None)
             QSKIP("no OpenGL here");
-        View view({64, 64}, drawing);
+        View view({64, 76}, drawing); // bars: the squares count from the picture's corner
         const QColor red(255, 0, 0);
         QColor veil(red);
         veil.setAlpha(64);
         view.ShowPicture(Filled({16, 16}, veil));
         const QImage checkered = view.Seen();
         const int side = qRound(kCheckerSide * view.devicePixelRatioF());
-        const QPoint first(side / 2, side / 2);
+        const QPoint first = view.Placement().Target().topLeft() + QPoint(side / 2, side / 2);
         VERIFY_COLOR(checkered.pixel(first), Mixed(red, 64 / 255.0, QColor(kCheckerLight)));
         VERIFY_COLOR(checkered.pixel(first + QPoint(side, 0)),
                      Mixed(red, 64 / 255.0, QColor(kCheckerDark)));
