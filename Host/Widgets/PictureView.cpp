@@ -6,7 +6,6 @@
 #include "Host/Widgets/PictureGlSurface.h"
 
 #include <QEvent>
-#include <QMutexLocker>
 #include <QPainter>
 #include <QPointer>
 #include <QThread>
@@ -47,7 +46,7 @@ void PictureView::ShowPicture(QImage picture)
         picture = picture.convertToFormat(QImage::Format_ARGB32);
     bool wasWaiting = false;
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard lock(m_mutex);
         m_guarded.picture.swap(picture);
         wasWaiting = std::exchange(m_guarded.isWaiting, true);
         m_guarded.replaced += wasWaiting ? 1 : 0;
@@ -63,7 +62,7 @@ void PictureView::TakeWaiting()
 {
     QImage picture;
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard lock(m_mutex);
         if (!std::exchange(m_guarded.isWaiting, false))
             return;
         picture.swap(m_guarded.picture);
@@ -81,7 +80,7 @@ void PictureView::TakeWaiting()
 
 std::int64_t PictureView::ReplacedPictures() const
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     return m_guarded.replaced;
 }
 

@@ -5,10 +5,10 @@
 #include "EngineApi/INLEFrames.h"
 #include "Host/Widgets/PicturePainter.h"
 
-#include <QMutex>
 #include <QWidget>
 
 #include <cstdint>
+#include <mutex>
 
 class PictureGlSurface;
 
@@ -114,7 +114,7 @@ private:
         bool isWaiting = false; ///< the picture is to be shown; it may be null
         std::int64_t replaced = 0;
     };
-    mutable QMutex m_mutex;
+    mutable std::mutex m_mutex;
     Guarded m_guarded;
 
     PictureScene m_scene;          ///< its placement is the one that was reported last

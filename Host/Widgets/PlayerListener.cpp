@@ -3,8 +3,6 @@
 
 #include "Com/ComGuard.h"
 
-#include <QMutexLocker>
-
 #include <utility>
 
 PlayerListener::PlayerListener(std::function<void()> wake)
@@ -14,7 +12,7 @@ PlayerListener::PlayerListener(std::function<void()> wake)
 
 PlayerNews PlayerListener::Take()
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     m_guarded.isAwake = false;
     return std::exchange(m_guarded.news, {});
 }
@@ -22,7 +20,7 @@ PlayerNews PlayerListener::Take()
 void PlayerListener::Silence()
 {
     PlayerNews dropped; // frames end outside of the lock
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     m_guarded.wake = nullptr;
     std::swap(dropped, m_guarded.news);
 }
@@ -31,7 +29,7 @@ template <typename Change>
 HRESULT PlayerListener::Note(Change change)
 {
     return ComGuard([&] {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard lock(m_mutex);
         if (!m_guarded.wake)
             return S_OK;
         change(m_guarded.news);

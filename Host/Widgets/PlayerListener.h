@@ -5,9 +5,8 @@
 #include "EngineApi/INLEFrames.h"
 #include "EngineApi/INLEPlayer.h"
 
-#include <QMutex>
-
 #include <functional>
+#include <mutex>
 #include <optional>
 
 /// What a player's thread has told and nobody has heard yet: the newest of each.
@@ -53,6 +52,6 @@ private:
         std::function<void()> wake; ///< null: silenced
         bool isAwake = false;
     };
-    QMutex m_mutex;
+    std::mutex m_mutex;
     Guarded m_guarded;
 };
