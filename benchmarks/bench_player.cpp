@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// The player with 1080p30 H.264 and sound: what is dropped and how far pictures are from the sound,
+// and what a second costs beside the melt program playing the same file; how soon a sought picture
+// shows, beside FFmpeg's libraries used in the plain way; how soon sound is heard.
+//
+// bench_player [SECONDS]: plays as long, 60 at first. Sound goes where SDL_AUDIODRIVER says, else
+// nowhere, in real time.
+#include "Com/ComObject.h"
+#include "CommonLib/NLEWraper/CVCreateInstance.h"
+#include "CommonLib/NLEWraper/NLEWraper.h"
+#include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "EngineApi/INLEFactory.h"
+#include "EngineApi/INLEPlayer.h"
+#include "TestMedia.h"
+#include "benchmarks/Cost.h"
+#include "benchmarks/PlainDecoder.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <condition_variable>
+#include <cstdio>
+#include <mutex>
+#include <random>
+
+namespace {
+
+constexpr int kUsualSeconds = 60;
+constexpr int kFrameRate = 30;
+constexpr int kSought = 60;
+constexpr int kPressed = 15;
+const QSize kSize(1920, 1080);
+
+QString MakeFilm(const QString& path, int seconds)
+{
+    return RunFfmpeg({"-f",        "lavfi",
+                      "-i",        "testsrc2=size=1920x1080:rate=30,format=yuv420p",
+                      "-f",        "lavfi",
+                      "-i",        "sine=frequency=440:sample_rate=48000",
+                      "-t",        QString::number(seconds),
+                      "-c:v",      "libx264",
+                      "-preset",   "veryfast",
+                      "-g",        "60",
+                      "-c:a",      "aac",
+                      "-shortest", path});
+}
+
+/// Waits for pictures.
+class Viewer final : public ComObject<INLEPlayerListener>
+{
+public:
+    HRESULT PictureDue(int frame, int /*source*/, INLEVideoFrame* /*picture*/) override
+    {
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            m_frame = frame;
+        }
+        m_changed.notify_all();
+        return S_OK;
+    }
+    HRESULT StateChanged(int /*state*/) override { return S_OK; }
+    HRESULT DeviceChanged() override { return S_OK; }
+    HRESULT SecondPlayed(const NLEPlayerReport* /*report*/) override { return S_OK; }
+
+    void Await(int frame)
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_changed.wait(lock, [=] { return m_frame == frame; });
+    }
+
+private:
+    std::mutex m_mutex; ///< guards m_frame
+    std::condition_variable m_changed;
+    int m_frame = -1;
+};
+
+NLEComPtr<INLEPlayer> NewPlayer()
+{
+    NLEComPtr<INLEFactory> factory;
+    NLEComPtr<INLEPlayer> player;
+    CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
+                                                   INLEFactory::Iid, factory.putVoid());
+    if (factory)
+        factory->CreatePlayer(player.put());
+    return player;
+}
+
+double Milliseconds(const std::function<void()>& work)
+{
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return double(timer.nsecsElapsed()) / 1e6;
+}
+
+void Melt(const QString& path, int seconds)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("SDL_VIDEODRIVER"), QStringLiteral("dummy"));
+    process.setProcessEnvironment(environment);
+    process.start("melt", {"-silent", path, "out=" + QString::number(seconds * kFrameRate - 1),
+                           "-consumer", "sdl2", "terminate_on_pause=1"});
+    process.waitForFinished(-1);
+}
+
+void ComparePlaying(INLEPlayer& player, Viewer& viewer, const QString& path, int seconds)
+{
+    player.Seek(0);
+    viewer.Await(0);
+    NLEPlayerReport before = {};
+    NLEPlayerReport report = {};
+    player.GetTotals(&before);
+    const Cost own = CostOf(RUSAGE_SELF, [&] {
+        player.Play(1);
+        QThread::sleep(static_cast<unsigned long>(seconds));
+        player.Pause();
+    });
+    player.GetTotals(&report);
+    std::printf("  played %d s         shown %d  dropped %d  late %d  underruns %d\n", seconds,
+                report.shown - before.shown, report.dropped - before.dropped,
+                report.late - before.late, report.underruns - before.underruns);
+    std::printf("  pictures to sound   mean %.2f ms  furthest %.2f ms\n", report.drift,
+                report.furthestDrift);
+    const Cost melt = CostOf(RUSAGE_CHILDREN, [&] { Melt(path, seconds); });
+    std::printf("  processors          own %.2f  melt %.2f s a second  ratio %.2f\n",
+                own.processor / own.wall, melt.processor / melt.wall,
+                own.processor / own.wall / (melt.processor / melt.wall));
+}
+
+void CompareSeeking(INLEPlayer& player, Viewer& viewer, const QString& path, int seconds)
+{
+    const auto plain = PlainDecoder::Open(path, 0);
+    std::vector<double> own;
+    std::vector<double> peer;
+    std::mt19937 generator(1);
+    for (int i = 0; plain && i < kSought; ++i) {
+        const int frame = int(generator() % unsigned(seconds * kFrameRate));
+        own.push_back(Milliseconds([&] {
+            player.Seek(frame);
+            viewer.Await(frame);
+        }));
+        // Nothing is rendered ahead while the peer has the processors.
+        QThread::msleep(300);
+        peer.push_back(Milliseconds([&] { plain->At(frame, kSize); }));
+    }
+    if (!own.empty())
+        std::printf("  seek to shown       own %.1f ms  FFmpeg %.1f ms  ratio %.2f\n", Median(own),
+                    Median(peer), Median(own) / Median(peer));
+}
+
+void MeasureStart(INLEPlayer& player)
+{
+    std::vector<double> starts;
+    for (int i = 0; i < kPressed; ++i) {
+        // Silence goes by, so that all levels are 0.
+        QThread::msleep(1000);
+        starts.push_back(Milliseconds([&] {
+            player.Play(1);
+            for (NLEPlayerLevels levels = {}; levels.rms[0] == 0; player.GetLevels(&levels))
+                QThread::usleep(500);
+        }));
+        player.Pause();
+    }
+    std::printf("  play to sound       %.1f ms, at most %.1f\n", Median(starts),
+                *std::max_element(starts.begin(), starts.end()));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (!qEnvironmentVariableIsSet("SDL_AUDIODRIVER")) {
+        qputenv("SDL_AUDIODRIVER", "disk");
+        qputenv("SDL_DISKAUDIOFILE", "/dev/null");
+    }
+    const QCoreApplication application(argc, argv);
+    const int seconds = argc > 1 ? std::max(std::atoi(argv[1]), 1) : kUsualSeconds;
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("film.mp4");
+    const QString failure = MakeFilm(path, seconds + 2);
+    auto* const provider = NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
+    const auto clip = provider->CreateMediaTimeline(path, false);
+    NLEComPtr<INLEPlayer> player = NewPlayer();
+    if (!failure.isEmpty() || !clip || !player) {
+        std::fprintf(stderr, "nothing can be played: %s\n", qPrintable(failure));
+        return 1;
+    }
+    const NLEComPtr<Viewer> viewer = MakeCom<Viewer>();
+    player->SetListener(viewer.get());
+    player->Open(clip.get());
+    viewer->Await(0);
+    std::printf("1080p30 H.264 with sound, beside melt and FFmpeg:\n");
+    ComparePlaying(*player, *viewer, path, seconds);
+    CompareSeeking(*player, *viewer, path, seconds);
+    MeasureStart(*player);
+    player->SetListener(nullptr);
+    player->Close();
+    player.reset();
+    NLEWraper::Release();
+    CVCreateInstance::Instance()->Release();
+    return 0;
+}
