@@ -140,8 +140,8 @@ private slots:
             "a setting beyond its range",
             [=] { return Facet<INLEAudioStreamProcess>(clip)->SetPitch(25); }, NLEReason_OutOfRange,
             "-24 to 24");
-        row("a parameter that there is not", Setting(blur, L"szie", 1), NLEReason_UnknownName,
-            "szie");
+        row("a parameter that there is not", Setting(blur, L"sizex", 1), NLEReason_UnknownName,
+            "sizex");
         row(
             "an effect that there is not",
             [] {
