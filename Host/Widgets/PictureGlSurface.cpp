@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Widgets/PictureGlSurface.h"
 
+#include "Host/Widgets/PictureSurface.h"
+
 #include <QOpenGLContext>
 #include <QPainter>
 #include <QVector2D>
@@ -90,6 +92,11 @@ std::unique_ptr<QOpenGLShaderProgram> MakeProgram()
 }
 
 } // namespace
+
+QWidget* MakeGlSurface(std::function<PictureScene()> scene, QWidget* parent)
+{
+    return new PictureGlSurface(std::move(scene), parent);
+}
 
 PictureGlSurface::PictureGlSurface(MakeScene scene, QWidget* parent)
     : QOpenGLWidget(parent), m_scene(std::move(scene))

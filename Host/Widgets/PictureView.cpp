@@ -3,7 +3,7 @@
 
 #include "Host/Widgets/FramePicture.h"
 #include "Host/Widgets/GraphicsCard.h"
-#include "Host/Widgets/PictureGlSurface.h"
+#include "Host/Widgets/PictureSurface.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -136,8 +136,8 @@ void PictureView::ChooseSurface()
         m_drawing == Drawing::OpenGL ? card != GraphicsCard::None : card == GraphicsCard::Hardware;
     if (wanted == UsesOpenGL())
         return;
-    delete std::exchange(
-        m_surface, wanted ? new PictureGlSurface([this] { return TakeScene(); }, this) : nullptr);
+    delete std::exchange(m_surface,
+                         wanted ? MakeGlSurface([this] { return TakeScene(); }, this) : nullptr);
     if (m_surface) {
         m_surface->setGeometry(rect());
         m_surface->lower(); // below what a host laid over the view

@@ -10,8 +10,6 @@
 #include <cstdint>
 #include <mutex>
 
-class PictureGlSurface;
-
 /// Shows pictures as they come from the engine: fitted, filling or pixel for pixel, at any ratio of
 /// device pixels.
 ///
@@ -125,5 +123,5 @@ private:
     QString m_defaultName;
 
     PicturePainter m_painter;
-    PictureGlSurface* m_surface = nullptr; ///< covers the view; null where the painter draws
+    QWidget* m_surface = nullptr; ///< covers the view; null where the painter draws
 };
