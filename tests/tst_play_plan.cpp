@@ -155,6 +155,26 @@ private slots:
         QCOMPARE(queue.Heard(start + 90ms), std::int64_t(30 * 48));
     }
 
+    // Devices ask a little too early, each time, and still play what they have.
+    void allIsHeardInTheEnd()
+    {
+        SoundQueue queue;
+        queue.SetLatency(2);
+        queue.Hold(false);
+        queue.SetWhole(true);
+        queue.Write(Counted(0, kBlock + 100).data(), kBlock + 100);
+        std::vector<float> taken(size_t(kBlock) * SoundQueue::kChannels);
+        SoundQueue::Clock::time_point now{};
+        for (int block = 0; block < 3; ++block)
+            queue.Take(taken.data(), kBlock, now += 21ms);
+        QCOMPARE(queue.Heard(now + 2ms), std::int64_t(kBlock + 96));
+        QCOMPARE(queue.Heard(now + 20ms), std::int64_t(kBlock + 100));
+        queue.Write(Counted(kBlock + 100, kBlock).data(), kBlock);
+        queue.Take(taken.data(), kBlock, now += 21ms);
+        QCOMPARE(queue.Heard(now + 20ms), std::int64_t(kBlock + 100));
+        QCOMPARE(queue.Heard(now + 25ms), std::int64_t(25 * 48 + 100));
+    }
+
     void gainIsReachedWithoutAJump()
     {
         SoundQueue queue;

@@ -25,6 +25,8 @@ void SoundQueue::Take(float* samples, int count, Clock::time_point now)
     if (!isHeld && given < count && !m_isWhole)
         ++m_underruns;
     Tell(first, count, given, now);
+    m_silence =
+        given == count ? 0 : std::min((given > 0 ? 0 : m_silence) + count - given, kCapacity);
     m_next = first + given;
 }
 
@@ -34,6 +36,7 @@ void SoundQueue::Tell(std::int64_t first, int wanted, int given, Clock::time_poi
     m_block.first = first;
     m_block.wanted = wanted;
     m_block.given = given;
+    m_block.silence = m_silence;
     m_block.time = now.time_since_epoch().count();
     ++m_block.version;
 }
@@ -64,8 +67,11 @@ std::int64_t SoundQueue::Heard(Clock::time_point now) const
         const std::int64_t first = m_block.first;
         const Clock::time_point time{Clock::duration(m_block.time)};
         const double seconds = std::chrono::duration<double>(now - time).count();
+        const auto passed = std::int64_t(seconds * kRate);
         const auto ahead = std::int64_t(m_latency - 1) * m_block.wanted;
-        heard = std::min(first + m_block.given, first - ahead + std::int64_t(seconds * kRate));
+        const std::int64_t unheard = std::max<std::int64_t>(ahead - m_block.silence, 0);
+        heard = passed < ahead ? std::min(first, first - unheard + passed)
+                               : std::min(first + m_block.given, first - ahead + passed);
     } while (version % 2 != 0 || version != m_block.version);
     std::int64_t furthest = m_heard;
     while (furthest < heard && !m_heard.compare_exchange_weak(furthest, heard)) {

@@ -64,7 +64,9 @@ private:
     std::atomic<float> m_gain{1};
     std::atomic<int> m_latency{1};
     std::atomic<int> m_underruns{0};
-    float m_lastGain = 1; ///< the device's thread only
+    // The device's thread only.
+    float m_lastGain = 1;
+    int m_silence = 0; ///< samples of silence that it got last, up to kCapacity
 
     /// The block that was taken last. Odd versions are being written.
     struct
@@ -73,6 +75,7 @@ private:
         std::atomic<std::int64_t> first{0};
         std::atomic<int> wanted{0};
         std::atomic<int> given{0};
+        std::atomic<int> silence{0}; ///< samples that it got before
         std::atomic<Clock::rep> time{0};
     } m_block;
     mutable std::atomic<std::int64_t> m_heard{0}; ///< the furthest that Heard() gave
