@@ -15,6 +15,12 @@ constexpr int kLongestSide = 16384;
 constexpr double kLoudest = 4;
 constexpr int kMostOffset = 1000;
 
+/// What the loop answers to what needs a node.
+HRESULT OfNode(HRESULT result)
+{
+    return result == E_FAIL ? Refuse(E_FAIL, NLEReason_WrongState) : result;
+}
+
 } // namespace
 
 HRESULT PlayedFrame::GetSize(NLESize* size)
@@ -165,32 +171,32 @@ HRESULT Player::Close()
 
 HRESULT Player::Play(double rate)
 {
-    return ComGuard([&] { return m_core->loop.Play(rate); });
+    return ComGuard([&] { return OfNode(m_core->loop.Play(rate)); });
 }
 
 HRESULT Player::Pause()
 {
-    return ComGuard([&] { return m_core->loop.Pause(); });
+    return ComGuard([&] { return OfNode(m_core->loop.Pause()); });
 }
 
 HRESULT Player::Seek(int frame)
 {
-    return ComGuard([&] { return m_core->loop.Seek(frame); });
+    return ComGuard([&] { return OfNode(m_core->loop.Seek(frame)); });
 }
 
 HRESULT Player::Step(int frames)
 {
-    return ComGuard([&] { return m_core->loop.Step(frames); });
+    return ComGuard([&] { return OfNode(m_core->loop.Step(frames)); });
 }
 
 HRESULT Player::Scrub(int frame)
 {
-    return ComGuard([&] { return m_core->loop.Scrub(frame); });
+    return ComGuard([&] { return OfNode(m_core->loop.Scrub(frame)); });
 }
 
 HRESULT Player::SetLoop(int first, int last, bool on)
 {
-    return ComGuard([&] { return m_core->loop.SetLoop({first, last}, on); });
+    return ComGuard([&] { return OfNode(m_core->loop.SetLoop({first, last}, on)); });
 }
 
 HRESULT Player::GetState(int* state)

@@ -89,9 +89,7 @@ void PlaySound::Read(int count, float* samples)
 {
     const std::int64_t first = m_next;
     m_next += count;
-    const HRESULT result = ComGuard([&] {
-        if (!m_plan.IsSounding())
-            return E_FAIL;
+    const auto read = [&] {
         if (!m_tempo)
             ReadMaterial(first, count, samples);
         else
@@ -100,8 +98,8 @@ void PlaySound::Read(int count, float* samples)
                 [this](std::int64_t at, int wanted, float* out) { ReadMaterial(at, wanted, out); },
                 samples);
         return S_OK;
-    });
-    if (FAILED(result))
+    };
+    if (!m_plan.IsSounding() || FAILED(ComGuard(read)))
         std::fill_n(samples, size_t(count) * SoundQueue::kChannels, 0.0f);
 }
 
