@@ -88,7 +88,8 @@ struct INLEPlayerListener : IUnknown
 /// that edits: what is seen and heard is always one snapshot as a whole, and the new one shows
 /// within 100 ms while playing.
 ///
-/// Open, Refresh and Close are for the thread that edits, everything else for any thread. Calls do
+/// Open, Refresh and Close are for the thread that edits, and so is the last reference while a node
+/// is open; everything else for any thread. Calls do
 /// not wait for rendering; only the last reference, Close and SetListener wait for the frame that
 /// is being drawn or the call of the listener that is running. Frames are counted as in
 /// INLEFrameExtractor::Extract, from 0 to the node's length - 1; those beyond become the nearest.

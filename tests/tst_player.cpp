@@ -6,7 +6,8 @@
 #include "tests/support/PreviewCacheFixture.h"
 
 #include <QRandomGenerator>
-#include <QSemaphore>
+
+#include <thread>
 
 namespace {
 
@@ -432,17 +433,18 @@ private slots:
     {
         NLEComPtr<INLEPlayer> player = NewPlayer();
         const NLEComPtr<PlayerSpy> spy = MakeCom<PlayerSpy>();
-        QSemaphore handedOver;
+        std::atomic<bool> isHandedOver{false};
         std::atomic<int> calls{0};
         spy->onState = [&](int) {
-            handedOver.acquire();
+            while (!isHandedOver)
+                std::this_thread::yield();
             player->SetListener(nullptr);
             player.reset();
             ++calls;
         };
         player->SetListener(spy.get());
         player->Open(ProjectWith(Film()).get());
-        handedOver.release();
+        isHandedOver = true;
         const auto isOnlyOurs = [&] {
             spy->AddRef();
             return spy->Release() == 1;
