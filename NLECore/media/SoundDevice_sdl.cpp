@@ -28,6 +28,7 @@ struct Sdl
     decltype(&SDL_SetHint) setHint = nullptr;
     int (*initSubSystem)(Uint32) = nullptr;
     void (*quitSubSystem)(Uint32) = nullptr;
+    void (*cleanThread)() = nullptr; ///< what SDL keeps for the calling thread
     decltype(&SDL_OpenAudioDevice) open = nullptr;
     decltype(&SDL_CloseAudioDevice) close = nullptr;
     decltype(&SDL_PauseAudioDevice) pause = nullptr;
@@ -58,6 +59,7 @@ Sdl::Sdl() : library(QStringLiteral("SDL2-2.0"), 0)
     Resolve(setHint, "SDL_SetHint");
     Resolve(initSubSystem, "SDL_InitSubSystem");
     Resolve(quitSubSystem, "SDL_QuitSubSystem");
+    Resolve(cleanThread, "SDL_TLSCleanup");
     Resolve(open, "SDL_OpenAudioDevice");
     Resolve(close, "SDL_CloseAudioDevice");
     Resolve(pause, "SDL_PauseAudioDevice");
@@ -85,6 +87,7 @@ public:
     {
         const std::lock_guard<std::mutex> lock(Mutex());
         sdl.quitSubSystem(kInitAudio);
+        sdl.cleanThread();
     }
 
     QStringList Names() const override
@@ -181,6 +184,7 @@ std::shared_ptr<SoundSystem> SoundSystem::Start()
     if (sdl->initSubSystem(kInitAudio) == 0)
         return std::make_shared<SdlSystem>(*sdl);
     qCWarning(lcEngine, "no sound: %s", sdl->getError());
+    sdl->cleanThread();
     return nullptr;
 }
 
