@@ -89,10 +89,10 @@ struct INLEPlayerListener : IUnknown
 /// within 100 ms while playing.
 ///
 /// Open, Refresh and Close are for the thread that edits, and so is the last reference while a node
-/// is open; everything else for any thread. Calls do
-/// not wait for rendering; only the last reference, Close and SetListener wait for the frame that
-/// is being drawn or the call of the listener that is running. Frames are counted as in
-/// INLEFrameExtractor::Extract, from 0 to the node's length - 1; those beyond become the nearest.
+/// is open; everything else for any thread. Calls do not wait for rendering; only the last
+/// reference, Close and SetListener wait for the frame that is being drawn or the call of the
+/// listener that is running. Frames are counted as in INLEFrameExtractor::Extract, from 0 to the
+/// node's length - 1; those beyond become the nearest.
 /// Without a node E_FAIL is the answer where one is needed.
 struct INLEPlayer : IUnknown
 {
