@@ -179,12 +179,15 @@ private slots:
     {
         SoundQueue queue;
         queue.Hold(false);
-        const std::vector<float> ones(size_t(2) * kBlock * SoundQueue::kChannels, 1.0f);
-        queue.Write(ones.data(), 2 * kBlock);
-        std::vector<float> taken(ones.size() / 2);
+        const std::vector<float> ones(size_t(3) * kBlock * SoundQueue::kChannels, 1.0f);
+        queue.Write(ones.data(), 3 * kBlock);
+        std::vector<float> taken(ones.size() / 3);
+        queue.SetGain(0.5f);
+        queue.Take(taken.data(), kBlock, {});
+        QCOMPARE(taken.front(), 0.5f); // there was no sound before
         queue.SetGain(0);
         queue.Take(taken.data(), kBlock, {});
-        QVERIFY(taken[0] > 0.99f);
+        QVERIFY(taken[0] > 0.49f);
         QVERIFY(std::is_sorted(taken.rbegin(), taken.rend()));
         QCOMPARE(taken.back(), 0.0f);
         queue.Take(taken.data(), kBlock, {});

@@ -13,6 +13,8 @@ void SoundQueue::Take(float* samples, int count, Clock::time_point now)
     const bool isHeld = m_isHeld;
     const int given = isHeld ? 0 : int(std::min<std::int64_t>(count, m_end - first));
     const float gain = m_gain;
+    if (m_silence > 0)
+        m_lastGain = gain;
     const float step = given > 0 ? (gain - m_lastGain) / float(given) : 0;
     for (int i = 0; i < given; ++i) {
         const auto place = size_t(first + i) % kCapacity * kChannels;

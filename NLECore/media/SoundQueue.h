@@ -41,7 +41,7 @@ public:
     void Hold(bool isHeld) { m_isHeld = isHeld; }
     /// No more is written, so that an empty queue is no underrun.
     void SetWhole(bool isWhole) { m_isWhole = isWhole; }
-    /// Linear; reached within the next block.
+    /// Linear; reached within the next block, without a jump while there is sound.
     void SetGain(float gain) { m_gain = gain; }
     /// Blocks that the device holds before the one that it takes is heard, that one included.
     void SetLatency(int blocks) { m_latency = blocks; }
@@ -66,7 +66,7 @@ private:
     std::atomic<int> m_underruns{0};
     // The device's thread only.
     float m_lastGain = 1;
-    int m_silence = 0; ///< samples of silence that it got last, up to kCapacity
+    int m_silence = kCapacity; ///< samples of silence that it got last, up to kCapacity
 
     /// The block that was taken last. Odd versions are being written.
     struct
