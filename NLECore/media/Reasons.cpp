@@ -221,7 +221,11 @@ const char* TitleOf(int reason)
 
 void WatchCalls() noexcept
 {
-    s_comCallWatch = {Begin, End};
+    // Once: from then on threads read it.
+    [[maybe_unused]] static const bool isWatching = [] {
+        s_comCallWatch = {Begin, End};
+        return true;
+    }();
 }
 
 } // namespace nle
