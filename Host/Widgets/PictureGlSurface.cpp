@@ -108,6 +108,9 @@ PictureGlSurface::PictureGlSurface(MakeScene scene, QWidget* parent)
 PictureGlSurface::~PictureGlSurface()
 {
     ReleaseGl();
+    // The base class ends the context when this is no longer an object of this class.
+    if (context())
+        disconnect(context(), nullptr, this, nullptr);
 }
 
 void PictureGlSurface::ReleaseGl()
