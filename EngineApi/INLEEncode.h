@@ -67,6 +67,14 @@ struct INLEEncodeCatalog : IUnknown
     /// \a capacity characters with the terminating zero, then tells why, in English.
     virtual HRESULT Check(INLEProperties* options, const NLEEncodeSettings* settings,
                           wchar_t* reason, int capacity) = 0;
+
+    /// What the container, codec or preset of an index is called for people, in the language that
+    /// the host has installed a translator for (context "NLECore"), cut to \a capacity characters
+    /// with the terminating zero.
+    virtual HRESULT GetContainerTitle(int index, wchar_t* title, int capacity) = 0;
+    virtual HRESULT GetCodecTitle(const char* container, int type, int index, wchar_t* title,
+                                  int capacity) = 0;
+    virtual HRESULT GetPresetTitle(int index, wchar_t* title, int capacity) = 0;
 };
 
 /// How a media encoder is to encode. Media encoders answer it.

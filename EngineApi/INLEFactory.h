@@ -6,6 +6,7 @@
 
 struct INLEAudioFrame;
 struct INLECodec;
+struct INLEEditing;
 struct INLEFrameExtractor;
 struct INLEMediaEncoder;
 struct INLEPlayer;
@@ -101,6 +102,9 @@ struct INLEDocumentReport : IUnknown
     /// and names the part of the document; it is cut to \a capacity characters with the
     /// terminating zero. E_INVALIDARG for an index that names none.
     virtual HRESULT GetRemark(int index, int* code, wchar_t* text, int capacity) = 0;
+    /// What remarks of a code are called for people, as INLEReasons::GetTitle. E_INVALIDARG for a
+    /// number that is no NLEDocumentRemark.
+    virtual HRESULT GetRemarkTitle(int code, wchar_t* title, int capacity) = 0;
 };
 
 /// Which clips are decoded by the graphics hardware, where FFmpeg or the system can. What cannot be
@@ -158,7 +162,8 @@ struct INLEFactory : IUnknown
     virtual HRESULT GetFontLibrary(INLEFontLibrary** library) = 0;
     virtual HRESULT GetSystemConfig(INLESystemConfig** config) = 0;
     /// \a memory is an NLEFrameMemory; the arguments after it size the frame pool of engines that
-    /// have one. \a pixelFormat 0 is 32 bits a pixel.
+    /// have one. \a pixelFormat 0 is 32 bits a pixel. E_FAIL for NLEMemory_OpenCL where there is no
+    /// OpenCL or no device of its.
     virtual HRESULT CreateVideoFrame(int width, int height, int pixelFormat, int memory,
                                      int poolFlags, int poolMinimum, int poolMaximum,
                                      int poolReserve, INLEVideoFrame** frame) = 0;
@@ -181,4 +186,7 @@ struct INLEFactory : IUnknown
     virtual HRESULT CreatePlayer(INLEPlayer** player) = 0;
     /// Why calls fail.
     virtual HRESULT GetReasons(INLEReasons** reasons) = 0;
+    /// Edits the clips of a composite, with one history for each: while it is held by somebody, the
+    /// same object comes again. E_INVALIDARG for a node that holds no clips.
+    virtual HRESULT CreateEditing(INLETimeline* composite, INLEEditing** editing) = 0;
 };

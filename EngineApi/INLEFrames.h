@@ -20,10 +20,58 @@ struct INLEVideoFrame : IUnknown
     /// The part of the frame that holds the picture; the rest is margin.
     virtual HRESULT GetValidRect(NLERect* rect) = 0;
     virtual HRESULT SetValidRect(const NLERect* rect) = 0;
-    /// The pixels, owned by the frame; E_FAIL before Prepare.
+    /// The pixels, owned by the frame; E_FAIL before Prepare. Those of NLEMemory_OpenCL are mapped
+    /// to be read and written, as INLEOpenCLFrame says.
     virtual HRESULT GetData(std::uint8_t** pixels) = 0;
     /// An NLEFrameMemory.
     virtual HRESULT GetMemory(int* memory) = 0;
+};
+
+/// What a mapping of pixels is for; flags that add up.
+enum NLEMapFlags : std::int32_t
+{
+    NLEMap_Read = 1,
+    NLEMap_Write = 2 ///< alone: every pixel is written, what was there is not fetched
+};
+
+/// The device's side of a video frame in memory of an OpenCL device; frames of NLEMemory_OpenCL
+/// answer it.
+///
+/// The pixels are a buffer of 4 * width * height bytes: rows without gaps, each pixel blue, green,
+/// red, alpha (CL_BGRA, CL_UNORM_INT8), not premultiplied. They are in one hand at a time. Mapped,
+/// they are the host's, at the address that Map or GetData gave; else they are the device's. A new
+/// frame is the device's, and so is one that an extractor has filled: its pixels are there when
+/// Extract returns, for any queue of the context.
+///
+/// All frames of a process share one context and one queue, in order, of OpenCL 1.2 or later. The
+/// handles are the engine's; they stay valid while the frame is held and its pixels are not
+/// prepared again, and longer for a host that retains them (clRetainMemObject and the like).
+/// OpenCL's functions are those of the system's library, libOpenCL.so.1 or OpenCL.dll. A frame is
+/// for one thread at a time, as others are.
+struct INLEOpenCLFrame : IUnknown
+{
+    static constexpr _GUID Iid = {
+        0x0E4B64D2, 0x93A7, 0x4E0C, {0xB1, 0x5D, 0x28, 0xF6, 0x7A, 0xC3, 0x91, 0x0B}};
+
+    /// The cl_mem; ends a mapping first. E_FAIL before Prepare.
+    virtual HRESULT GetBuffer(void** buffer) = 0;
+    /// The cl_context.
+    virtual HRESULT GetContext(void** context) = 0;
+    /// The cl_command_queue.
+    virtual HRESULT GetQueue(void** queue) = 0;
+    /// The cl_device_id.
+    virtual HRESULT GetDevice(void** device) = 0;
+    /// What the device is called, cut to \a capacity characters with the terminating zero.
+    virtual HRESULT GetDeviceName(wchar_t* name, int capacity) = 0;
+    /// Gives the pixels to the host, after what the queue has still to do; \a flags are of
+    /// NLEMapFlags. No copy is made where the device shares the host's memory. The address holds
+    /// until the next call of Map, Unmap, GetBuffer or Prepare, until an extractor fills the frame,
+    /// and no longer than the frame; GetData maps for both, and keeps such a mapping. E_FAIL before
+    /// Prepare and when the device fails, E_INVALIDARG for other flags.
+    virtual HRESULT Map(int flags, std::uint8_t** pixels) = 0;
+    /// Gives the pixels back to the device and waits until they are there. S_FALSE when they are
+    /// not mapped.
+    virtual HRESULT Unmap() = 0;
 };
 
 /// A block of sound: interleaved 32-bit floats, -1 to 1, 48,000 samples a second, two channels.

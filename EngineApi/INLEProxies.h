@@ -12,11 +12,11 @@
 /// that Make() had, valid during the call.
 using NLEProxyCallback = void (*)(const wchar_t* file, HRESULT state, int percent, void* userData);
 
-/// Makes proxies: films without sound of fewer lines, which stand for a media file while a project
-/// is edited. They are kept in a folder and found again by what the media file holds, wherever it
-/// lies. Whether one is used is said at the clip (SetProxyFile and SetProxyEnabled of
-/// INLEVideoStreamProcess); media encoders leave it out unless NLEKey::Encode::kProxies asks for
-/// it.
+/// Makes proxies: films without sound of fewer lines, which stand for a media file or an image
+/// sequence, named by its pattern, while a project is edited. They are kept in a folder and found
+/// again by what the media holds, wherever it lies. Whether one is used is said at the clip
+/// (SetProxyFile and SetProxyEnabled of INLEVideoStreamProcess); media encoders leave it out unless
+/// NLEKey::Encode::kProxies asks for it.
 ///
 /// For any thread. Files are worked on one after the other. The last reference cancels what waits
 /// and ends what is being made; no call comes afterwards.

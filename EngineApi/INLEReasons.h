@@ -30,7 +30,13 @@ enum NLEReason : std::int32_t
     NLEReason_NotWritable = 18,     ///< no file or folder can be made there; "path: words"
     NLEReason_DiskFull = 19,        ///< "path: words"
     NLEReason_NoContainer = 20,     ///< none that is written goes by that name; "path: words"
-    NLEReason_SettingsRefused = 21  ///< container or codec does not take them; "path: words"
+    NLEReason_SettingsRefused = 21, ///< container or codec does not take them; "path: words"
+    NLEReason_NoDevice = 22,        ///< no device of this kind works here; "what is missing"
+    NLEReason_LevelLocked = 23,     ///< an edit would change what stands on it; "the level"
+    NLEReason_ClipsOverlap = 24,    ///< two clips would play at one time; "first to last frame"
+    NLEReason_NoMaterial = 25,      ///< a clip would play beyond its ends; "first to last frame"
+    NLEReason_ClipTooShort = 26,    ///< a clip would have no frame left
+    NLEReason_WithinTransition = 27 ///< a cut where two clips go over into each other; "the frame"
 };
 
 /// Tells why calls of the engine failed. Each thread has its own last failure: the last call on

@@ -41,6 +41,15 @@ inline constexpr const wchar_t* kFreeze_Enabled = L"kFreeze_Enabled";
 inline constexpr const wchar_t* kFreeze_Frame = L"kFreeze_Frame";
 } // namespace Freeze
 
+/// What INLEEditing keeps of the clips of a composite. For reading only.
+namespace Editing {
+/// Text, of a clip: the numbers of the groups that it is in, the outermost first, with blanks
+/// between them.
+inline constexpr const wchar_t* kGroups = L"kEditing_Groups";
+/// Text, of a composite: its locked levels, with blanks between them.
+inline constexpr const wchar_t* kLockedLevels = L"kEditing_LockedLevels";
+} // namespace Editing
+
 /// What of a media file a clip shows and sounds, and how its pictures are meant. Only clips of
 /// media have these keys; a value that is not accepted gives E_INVALIDARG and changes nothing. The
 /// trim range stays whatever the file's length is then.

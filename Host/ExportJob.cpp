@@ -89,8 +89,14 @@ bool ExportJob::ListPresets()
     }
     for (int index = 0; index < count; ++index) {
         wchar_t name[kLongestName] = L"";
-        if (catalog->GetPresetName(index, name, kLongestName) == S_OK)
-            m_console.Print(QString::fromWCharArray(name));
+        wchar_t title[kLongestName] = L"";
+        if (catalog->GetPresetName(index, name, kLongestName) != S_OK)
+            continue;
+        QString line = QString::fromWCharArray(name);
+        if (catalog->GetPresetTitle(index, title, kLongestName) == S_OK &&
+            line != QString::fromWCharArray(title))
+            line += QStringLiteral(" (%1)").arg(QString::fromWCharArray(title));
+        m_console.Print(line);
     }
     return true;
 }

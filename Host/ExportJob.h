@@ -23,7 +23,8 @@ public:
     /// Writes \a media to \a path as \a preset says; for an empty one the suffix of the path
     /// chooses. Prints how it goes; false when nothing was written.
     bool Run(const QStringList& media, const QString& path, const QString& preset);
-    /// Prints the names of the presets; false when the engine has none.
+    /// Prints the names of the presets, with what they are called in the language of the texts;
+    /// false when the engine has none.
     bool ListPresets();
 
 private:

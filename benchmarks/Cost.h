@@ -4,6 +4,7 @@
 #include "benchmarks/Median.h"
 
 #include <QElapsedTimer>
+#include <QFile>
 
 #include <functional>
 #include <vector>
@@ -43,4 +44,21 @@ inline Cost MedianCost(const std::vector<Cost>& costs)
         processor.push_back(cost.processor);
     }
     return {Median(wall), Median(processor)};
+}
+
+/// What the process holds in memory, in MiB: now, or at the most since the last call.
+inline double Memory(const char* field)
+{
+    QFile status("/proc/self/status");
+    double value = 0;
+    if (status.open(QIODevice::ReadOnly)) {
+        for (const QByteArray& line : status.readAll().split('\n')) {
+            if (line.startsWith(field))
+                value = line.mid(int(qstrlen(field))).simplified().split(' ').front().toDouble();
+        }
+    }
+    QFile reset("/proc/self/clear_refs");
+    if (reset.open(QIODevice::WriteOnly))
+        reset.write("5");
+    return value / 1024;
 }

@@ -36,23 +36,6 @@ PlayerMaterProvider* Provider()
     return NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
 }
 
-/// What the process holds in memory, in MiB: now, or at the most since the last call.
-double Memory(const char* field)
-{
-    QFile status("/proc/self/status");
-    double value = 0;
-    if (status.open(QIODevice::ReadOnly)) {
-        for (const QByteArray& line : status.readAll().split('\n')) {
-            if (line.startsWith(field))
-                value = line.mid(int(qstrlen(field))).simplified().split(' ').front().toDouble();
-        }
-    }
-    QFile reset("/proc/self/clear_refs");
-    if (reset.open(QIODevice::WriteOnly))
-        reset.write("5");
-    return value / 1024;
-}
-
 void Add(const Node& project, const Node& clip, int level)
 {
     clip->SetLevel(level);

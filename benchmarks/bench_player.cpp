@@ -3,8 +3,9 @@
 // and what a second costs beside the melt program playing the same file; how soon a sought picture
 // shows, beside FFmpeg's libraries used in the plain way; how soon sound is heard.
 //
-// bench_player [SECONDS]: plays as long, 60 at first. Sound goes where SDL_AUDIODRIVER says, else
-// nowhere, in real time.
+// bench_player [SECONDS [LINES]]: plays as long, 60 at first, a film of as many lines, 1080 at
+// first; an hour tells whether memory is flat. Sound goes where SDL_AUDIODRIVER says, else nowhere,
+// in real time.
 #include "Com/ComObject.h"
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/NLEWraper.h"
@@ -31,20 +32,23 @@ constexpr int kUsualSeconds = 60;
 constexpr int kFrameRate = 30;
 constexpr int kSought = 60;
 constexpr int kPressed = 15;
-const QSize kSize(1920, 1080);
+constexpr int kUsualLines = 1080;
 
-QString MakeFilm(const QString& path, int seconds)
+/// A minute, over and over.
+QString MakeFilm(const QString& path, const QSize& size, int seconds)
 {
-    return RunFfmpeg({"-f",        "lavfi",
-                      "-i",        "testsrc2=size=1920x1080:rate=30,format=yuv420p",
-                      "-f",        "lavfi",
-                      "-i",        "sine=frequency=440:sample_rate=48000",
-                      "-t",        QString::number(seconds),
-                      "-c:v",      "libx264",
-                      "-preset",   "veryfast",
-                      "-g",        "60",
-                      "-c:a",      "aac",
-                      "-shortest", path});
+    const QString minute = path + ".minute.mp4";
+    const QString picture =
+        QString("testsrc2=size=%1x%2:rate=30,format=yuv420p").arg(size.width()).arg(size.height());
+    const QString failure =
+        RunFfmpeg({"-f",      "lavfi",    "-i",        picture,
+                   "-f",      "lavfi",    "-i",        "sine=frequency=440:sample_rate=48000",
+                   "-t",      "60",       "-c:v",      "libx264",
+                   "-preset", "veryfast", "-g",        "60",
+                   "-c:a",    "aac",      "-shortest", minute});
+    return failure.isEmpty() ? RunFfmpeg({"-stream_loop", "-1", "-i", minute, "-c", "copy", "-t",
+                                          QString::number(seconds), path})
+                             : failure;
 }
 
 /// Waits for pictures.
@@ -113,9 +117,15 @@ void ComparePlaying(INLEPlayer& player, Viewer& viewer, const QString& path, int
     NLEPlayerReport before = {};
     NLEPlayerReport report = {};
     player.GetTotals(&before);
+    double early = 0;
+    double late = 0;
     const Cost own = CostOf(RUSAGE_SELF, [&] {
+        const auto tenth = static_cast<unsigned long>(seconds) * 100;
         player.Play(1);
-        QThread::sleep(static_cast<unsigned long>(seconds));
+        QThread::msleep(tenth);
+        early = Memory("VmRSS:");
+        QThread::msleep(tenth * 9);
+        late = Memory("VmRSS:");
         player.Pause();
     });
     player.GetTotals(&report);
@@ -124,13 +134,16 @@ void ComparePlaying(INLEPlayer& player, Viewer& viewer, const QString& path, int
                 report.late - before.late, report.underruns - before.underruns);
     std::printf("  pictures to sound   mean %.2f ms  furthest %.2f ms\n", report.drift,
                 report.furthestDrift);
+    std::printf("  memory              %.1f MiB after a tenth  %.1f at the end\n", early, late);
+    std::fflush(stdout);
     const Cost melt = CostOf(RUSAGE_CHILDREN, [&] { Melt(path, seconds); });
     std::printf("  processors          own %.2f  melt %.2f s a second  ratio %.2f\n",
                 own.processor / own.wall, melt.processor / melt.wall,
                 own.processor / own.wall / (melt.processor / melt.wall));
 }
 
-void CompareSeeking(INLEPlayer& player, Viewer& viewer, const QString& path, int seconds)
+void CompareSeeking(INLEPlayer& player, Viewer& viewer, const QString& path, const QSize& size,
+                    int seconds)
 {
     const auto plain = PlainDecoder::Open(path, 0);
     std::vector<double> own;
@@ -144,7 +157,7 @@ void CompareSeeking(INLEPlayer& player, Viewer& viewer, const QString& path, int
         }));
         // Nothing is rendered ahead while the peer has the processors.
         QThread::msleep(300);
-        peer.push_back(Milliseconds([&] { plain->At(frame, kSize); }));
+        peer.push_back(Milliseconds([&] { plain->At(frame, size); }));
     }
     if (!own.empty())
         std::printf("  seek to shown       own %.1f ms  FFmpeg %.1f ms  ratio %.2f\n", Median(own),
@@ -178,9 +191,11 @@ int main(int argc, char** argv)
     }
     const QCoreApplication application(argc, argv);
     const int seconds = argc > 1 ? std::max(std::atoi(argv[1]), 1) : kUsualSeconds;
+    const int lines = argc > 2 ? std::max(std::atoi(argv[2]), 1) / 2 * 2 : kUsualLines;
+    const QSize size(lines * 16 / 9 / 2 * 2, lines);
     const QTemporaryDir folder;
     const QString path = folder.filePath("film.mp4");
-    const QString failure = MakeFilm(path, seconds + 2);
+    const QString failure = MakeFilm(path, size, seconds + 2);
     auto* const provider = NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
     const auto clip = provider->CreateMediaTimeline(path, false);
     NLEComPtr<INLEPlayer> player = NewPlayer();
@@ -192,9 +207,9 @@ int main(int argc, char** argv)
     player->SetListener(viewer.get());
     player->Open(clip.get());
     viewer->Await(0);
-    std::printf("1080p30 H.264 with sound, beside melt and FFmpeg:\n");
+    std::printf("%d lines, 30 a second, H.264 with sound, beside melt and FFmpeg:\n", lines);
     ComparePlaying(*player, *viewer, path, seconds);
-    CompareSeeking(*player, *viewer, path, seconds);
+    CompareSeeking(*player, *viewer, path, size, seconds);
     MeasureStart(*player);
     player->SetListener(nullptr);
     player->Close();

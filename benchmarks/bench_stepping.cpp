@@ -25,6 +25,7 @@ constexpr int kSteps = 270;
 constexpr int kRounds = 3;
 constexpr int kDragged = 30;
 constexpr int kPresetMebibytes = 512;
+constexpr int kShortestGroup = 25;
 const QSize kPreview(960, 540);
 
 double MillisecondsOf(const std::function<void()>& work)
@@ -131,7 +132,7 @@ int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
     const QTemporaryDir folder;
-    for (const int group : {25, 120, 250}) {
+    for (const int group : {kShortestGroup, 120, 250}) {
         const QString path = folder.filePath(QStringLiteral("group%1.mp4").arg(group));
         const QString failure = MakeClip(path, group);
         if (!failure.isEmpty() || !PlayHead(path).IsOpen()) {
@@ -140,7 +141,10 @@ int main(int argc, char** argv)
             return 1;
         }
         std::printf("group of %d\n", group);
-        for (const int mebibytes : {0, 256, kPresetMebibytes})
+        // Without kept pictures a step back decodes its whole group: minutes in the longer ones.
+        if (group == kShortestGroup)
+            CompareSteps(path, 0);
+        for (const int mebibytes : {256, kPresetMebibytes})
             CompareSteps(path, mebibytes);
         CompareDragging(path);
     }

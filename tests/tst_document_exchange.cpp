@@ -225,6 +225,59 @@ private slots:
         QCOMPARE(Remarks(), remarks);
     }
 
+    void streams_data()
+    {
+        QTest::addColumn<QByteArray>("indexes");
+        QTest::addColumn<QByteArray>("track");
+        QTest::addColumn<QString>("plays"); // video stream, audio streams, NLERenderMode
+        const auto row = [](const char* name, const QByteArray& indexes, const QString& plays,
+                            const QByteArray& track = {}) {
+            QTest::newRow(name) << indexes << track << plays;
+        };
+        row("by their indexes", "video_index='1' audio_index='3'", "1 (3) 0");
+        row("by their places among others", "vstream='1' astream='1'", "1 (3) 0");
+        row("the preferred ones", "video_index='0' audio_index='2'", "-1 () 0");
+        row("none that the file has", "video_index='2' audio_index='9' astream='1'", "-1 () 0");
+        row("all sounds", "audio_index='all'", "-1 (2,3) 0");
+        row("no picture", "video_index='-1' audio_index='3'", "-1 (3) 2");
+        row("no sound", "video_index='1' astream='-1'", "1 () 1");
+        row("neither", "audio_index='-1'", "off", "hide='video'");
+    }
+
+    void streams()
+    {
+        QFETCH(QByteArray, indexes);
+        QFETCH(QByteArray, track);
+        QFETCH(QString, plays);
+        if (!QFile::exists(Path("streams.mkv")))
+            QCOMPARE(RunFfmpeg({"-i", Path("clip.mp4"), "-map", "0:v", "-map", "0:v", "-map", "0:a",
+                                "-map", "0:a", "-c", "copy", Path("streams.mkv")}),
+                     QString());
+        const auto played = [](const Node& project) {
+            const Node clip = ClipAt(project, 0);
+            bool isEnabled = false;
+            int video = -2;
+            int mode = NLERender_All;
+            wchar_t audio[20] = L"?";
+            clip->GetEnabled(&isEnabled);
+            BagOf(clip)->GetInt(NLEKey::Source::kVideoStream, &video);
+            BagOf(clip)->GetString(NLEKey::Source::kAudioStreams, audio, 20);
+            BagOf(clip)->GetInt(NLEKey::Render::kRender_Mode, &mode);
+            const QString streams = QString("%1 (%2) %3").arg(video);
+            return isEnabled ? streams.arg(QString::fromWCharArray(audio)).arg(mode) : "off";
+        };
+        const Node project = Parse(
+            Mlt("<playlist id='t'><entry out='9'><producer resource='streams.mkv' " + indexes +
+                "/></entry></playlist><tractor><track producer='t' " + track + "/></tractor>"));
+        QCOMPARE(played(project), plays);
+        QVERIFY(Save(project, Path("streams.mlt")));
+        const QByteArray saved = Contents(Path("streams.mlt"));
+        QCOMPARE(played(Parse(saved)), plays);
+        // As another program chooses another stream.
+        const QByteArray edited = QByteArray(saved).replace("audio_index\">3", "audio_index\">2");
+        QCOMPARE(played(Parse(edited)), QString(plays).replace("(3)", "()"));
+    }
+
     void files_data()
     {
         QTest::addColumn<QByteArray>("root");

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // The open engine, judged by what it shows: trees of clips, pixels, samples and encoded files.
+#include "EngineApi/INLEEditing.h"
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
@@ -61,7 +62,7 @@ private slots:
 
     void offersNoMoreThanItHas()
     {
-        QVERIFY(!provider->CreateVideoFrameOpencl(16, 16));
+        QVERIFY(!provider->CreateVideoFrameOpencl(0, 16));
         QVERIFY(!provider->CreateVideoFrame(0, 16));
         QVERIFY(!provider->CreateVideoFrame(1 << 20, 16));
         QVERIFY(!provider->CreateAudioFrame(-1));
@@ -93,6 +94,37 @@ private slots:
         QCOMPARE(innerComposite->RemoveClip(project.get()), E_INVALIDARG);
         QCOMPARE(composite->RemoveClip(inner.get()), S_OK);
         QCOMPARE(composite->RemoveClip(inner.get()), E_INVALIDARG);
+    }
+
+    /// One history for a composite; groups and locks are there when it is opened again.
+    void editsAreKeptInDocuments()
+    {
+        NLEComPtr<INLEFactory> factory;
+        CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
+                                                       INLEFactory::Iid, factory.putVoid());
+        const auto editingOf = [&](const Node& node) {
+            NLEComPtr<INLEEditing> editing;
+            factory->CreateEditing(node.get(), editing.put());
+            return editing;
+        };
+        const Node project = Project();
+        const auto editing = editingOf(project);
+        QCOMPARE(editingOf(project), editing);
+        QVERIFY(!editingOf(Colour(Qt::red)));
+        const Node clips[] = {Colour(Qt::red), Colour(Qt::blue)};
+        INLETimeline* const both[] = {clips[0].get(), clips[1].get()};
+        for (int i = 0; i < 2; ++i)
+            QCOMPARE(editing->Place(both[i], 10, i, 0), S_OK);
+        QCOMPARE(editing->Group(both, 2), S_OK);
+        QCOMPARE(editing->SetLevelLocked(3, true), S_OK);
+        QVERIFY(Save(project, Path("edited.mlt")));
+        const Node loaded = Load(Path("edited.mlt"));
+        const auto again = editingOf(loaded);
+        QCOMPARE(again->Move(ClipAt(loaded, 0).get(), 20, 0, 0), S_OK);
+        int position = -1;
+        ClipAt(loaded, 1)->GetPosition(&position);
+        QCOMPARE(position, 20);
+        QCOMPARE(again->Move(ClipAt(loaded, 0).get(), 20, 3, 0), E_ACCESSDENIED);
     }
 
     void clipKnowsItsParent()
@@ -544,6 +576,7 @@ private slots:
             QTest::addRow("small, %s", suffix) << QString(suffix) << QSize(320, 180);
             QTest::addRow("high definition, %s", suffix) << QString(suffix) << QSize(1280, 720);
         }
+        QTest::newRow("a palette") << QString("gif") << QSize(320, 180);
     }
 
     void encodedColoursComeBack()

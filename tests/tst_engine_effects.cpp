@@ -4,8 +4,6 @@
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
 
-#include <QTranslator>
-
 #include <limits>
 
 /// Numbers of parameters by their names.
@@ -16,18 +14,9 @@ namespace {
 
 constexpr int kCapacity = 64;
 
-/// The text that a call with a buffer gives; null when it fails.
-template <typename Call>
-QString TextOf(Call call)
-{
-    std::array<wchar_t, kCapacity> buffer = {};
-    return call(buffer.data(), kCapacity) == S_OK ? QString::fromWCharArray(buffer.data())
-                                                  : QString();
-}
-
 QString NameOf(const Node& effect)
 {
-    return TextOf([&](wchar_t* text, int capacity) {
+    return EngineFixture::TextOf([&](wchar_t* text, int capacity) {
         return effect.query<INLETimelineEffect>()->GetEffectName(text, capacity);
     });
 }
@@ -60,18 +49,6 @@ QStringList EffectsOf(const Node& clip)
         names << NameOf(EffectAt(clip, index));
     return names;
 }
-
-/// Words in capitals, as if they were another language.
-class Capitals : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char* context, const char* text, const char* /*comment*/,
-                      int /*number*/) const override
-    {
-        return qstrcmp(context, "NLECore") == 0 ? QString(text).toUpper() : QString();
-    }
-};
 
 } // namespace
 
@@ -142,23 +119,6 @@ private slots:
         QVERIFY(!effect);
         QCOMPARE(catalogue->GetName(NLECatalog_Effect, count, nullptr, 0), E_INVALIDARG);
         QCOMPARE(catalogue->GetCount(77, &count), E_INVALIDARG);
-    }
-
-    void titlesAreTranslated()
-    {
-        const auto catalogue = Nodes().query<INLEEffectCatalog>();
-        const auto title = [&](wchar_t* text, int capacity) {
-            return catalogue->GetTitle(NLECatalog_Effect, 0, text, capacity);
-        };
-        const auto parameter = [](wchar_t* text, int capacity) {
-            return ParametersOf(Effect("exposure"))->GetParameterTitle(1, text, capacity);
-        };
-        QCOMPARE(TextOf(title), QString("Exposure"));
-        Capitals capitals;
-        QCoreApplication::installTranslator(&capitals);
-        QCOMPARE(TextOf(title), QString("EXPOSURE"));
-        QCOMPARE(TextOf(parameter), QString("BLACK LEVEL"));
-        QCoreApplication::removeTranslator(&capitals);
     }
 
     /// Every number of every effect: the ends of its range are taken, what lies beyond is not.

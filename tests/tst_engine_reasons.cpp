@@ -7,9 +7,12 @@
 #include "EngineApi/INLEProxies.h"
 #include "EngineApi/INLEReasons.h"
 #include "EngineApi/INLEStreamProcess.h"
+#include "EngineApi/INLESystemFile.h"
 #include "EngineApi/INLETransform.h"
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
+#include "tests/support/FailingMemory.h"
+#include "tests/support/FullDisk.h"
 
 #include <QThread>
 
@@ -83,12 +86,33 @@ class tst_EngineReasons : public QObject, private EngineFixture
                                                   codec.put());
         };
     }
+    /// The call on a disk without room.
+    static Call OnFullDisk(const Call& call)
+    {
+        return [call] {
+            FullDisk::s_isFull = true;
+            const HRESULT result = call();
+            FullDisk::s_isFull = false;
+            return result;
+        };
+    }
     Call Encoding(const QString& name, const Node& node) const
     {
         return [=] {
             return provider->CreateMediaEncoder()->Open(
                 node.get(), folder.filePath(name).toStdWString().c_str(), nullptr);
         };
+    }
+
+    /// Reads the sound of the file at \a path.
+    NLEComPtr<INLEWaveExtractor> SoundOf(const QString& path) const
+    {
+        const auto codec = provider->CreateCodecFromFile(path);
+        NLEComPtr<INLEMediaInfo> info;
+        codec->GetMediaInfo(info.put());
+        auto waves = provider->CreateWaveExtractor();
+        waves->SetSource(info.get(), 1);
+        return waves;
     }
 
     NLEComPtr<INLEFactory> m_factory;
@@ -103,6 +127,11 @@ private slots:
         QFile text(Path("text.txt"));
         QVERIFY(text.open(QIODevice::WriteOnly) && text.write("no media") > 0);
         QVERIFY(QDir(folder.path()).mkdir("folder.mp4"));
+        TestClip clip;
+        clip.audioCodec = "aac";
+        QCOMPARE(MakeTestClip(Path("sound.mp4"), clip), QString());
+        // Where OpenCL looks for drivers, when it is first used.
+        QVERIFY(qputenv("OCL_ICD_VENDORS", QFile::encodeName(Path("folder.mp4"))));
     }
 
     void cleanupTestCase()
@@ -195,10 +224,19 @@ private slots:
             "memory that the engine has no frames in",
             [=] {
                 NLEComPtr<INLEVideoFrame> frame;
-                return m_factory->CreateVideoFrame(2, 2, 0, NLEMemory_OpenCL, 0, 0, 0, 0,
+                return m_factory->CreateVideoFrame(2, 2, 0, NLEMemory_OpenCL + 1, 0, 0, 0, 0,
                                                    frame.put());
             },
             NLEReason_NotOffered);
+        row(
+            "a device that there is not",
+            [=] {
+                NLEComPtr<INLEVideoFrame> frame;
+                const HRESULT result =
+                    m_factory->CreateVideoFrame(2, 2, 0, NLEMemory_OpenCL, 0, 0, 0, 0, frame.put());
+                return frame ? S_OK : result;
+            },
+            NLEReason_NoDevice, "OpenCL");
         row(
             "a frame of no size",
             [=] {
@@ -272,6 +310,62 @@ private slots:
         row("a film of no container", Encoding("film.none", clip), NLEReason_NoContainer,
             "film.none");
         row("a film of nothing", Encoding("film.mp4", project), NLEReason_NothingThere);
+        row("a film on a full disk", OnFullDisk(Encoding("full.mp4", clip)), NLEReason_DiskFull,
+            "full.mp4");
+        row("pictures on a full disk", OnFullDisk(Encoding("full_%d.png", clip)),
+            NLEReason_DiskFull, "full_%d.png");
+        row(
+            "a film, when the disk fills",
+            [=] {
+                const auto encoder = provider->CreateMediaEncoder();
+                const QString film = Path("fills.mp4");
+                const HRESULT opened =
+                    encoder->Open(clip.get(), film.toStdWString().c_str(), nullptr);
+                return FAILED(opened)
+                           ? S_OK
+                           : OnFullDisk([&] { return encoder->Encode(nullptr, nullptr); })();
+            },
+            NLEReason_DiskFull, "fills.mp4");
+        row("a document on a full disk", OnFullDisk([=] {
+                return provider->CreateDocumentSerialize()->Save(
+                    project.get(), Path("full.mlt").toStdWString().c_str());
+            }),
+            NLEReason_DiskFull, "full.mlt");
+        row("settings on a full disk", OnFullDisk([=] {
+                return provider->GetSystemConfig().query<INLESystemFile>()->Save(
+                    Path("full.json").toStdWString().c_str());
+            }),
+            NLEReason_DiskFull, "full.json");
+        row("an envelope on a full disk", OnFullDisk([=] {
+                return SoundOf(Path("sound.mp4")).query<INLEWaveCache>()->Compute(nullptr, nullptr);
+            }),
+            NLEReason_DiskFull, "waves");
+        row(
+            "an interrupted picture",
+            [=] {
+                const auto extractor = provider->CreateFrameExtractor();
+                const auto frame = provider->CreateVideoFrame(32, 18);
+                frame->Prepare();
+                extractor->Open(clip.get(), NLEOpen_Render);
+                extractor.query<INLEFrameScrubber>()->Interrupt();
+                return extractor->Extract(0, frame.get());
+            },
+            NLEReason_Cancelled);
+        row(
+            "a frame that there is no memory for",
+            [=] {
+                NLEComPtr<INLEVideoFrame> frame;
+                bool ranOut = false;
+                return FailingMemory::After(
+                           0,
+                           [&] {
+                               return m_factory->CreateVideoFrame(32, 18, 0, NLEMemory_System, 0, 0,
+                                                                  0, 0, frame.put());
+                           },
+                           &ranOut)
+                    .value_or(S_OK);
+            },
+            NLEReason_OutOfMemory);
         row(
             "a codec that there is not",
             [=] {
@@ -339,25 +433,50 @@ private slots:
         QCOMPARE(Last().reason, int(NLEReason_NullPointer));
     }
 
+    void whatFailsInTheBackgroundIsToldThere_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<bool>("isFull");
+        QTest::addColumn<int>("reason");
+        QTest::newRow("a file that is missing")
+            << "none.mp4" << false << int(NLEReason_FileMissing);
+        QTest::newRow("a full disk") << "sound.mp4" << true << int(NLEReason_DiskFull);
+        QTest::newRow("cancelled") << "sound.mp4" << false << int(NLEReason_Cancelled);
+    }
     void whatFailsInTheBackgroundIsToldThere()
     {
+        QFETCH(QString, file);
+        QFETCH(bool, isFull);
+        QFETCH(int, reason);
         struct Told
         {
             tst_EngineReasons* self;
+            INLEProxyMaker* maker;
+            bool isFull;
             Failure failure;
             std::atomic<bool> isDone{false};
-        } told{this, {}, {}};
+        };
         NLEComPtr<INLEProxyMaker> maker;
         QCOMPARE(m_factory->CreateProxyMaker(maker.put()), S_OK);
-        const auto take = [](const wchar_t*, HRESULT, int, void* data) {
+        maker->SetFolder(folder.filePath("proxies").toStdWString().c_str(), 100);
+        maker->SetHeight(64);
+        Told told{this, maker.get(), isFull, {}, {}};
+        const auto take = [](const wchar_t*, HRESULT state, int, void* data) {
             auto* to = static_cast<Told*>(data);
+            if (state == S_FALSE) {
+                FullDisk::s_isFull = to->isFull;
+                if (!to->isFull)
+                    to->maker->Cancel(nullptr);
+                return;
+            }
+            FullDisk::s_isFull = false;
             to->failure = to->self->Last();
             to->isDone = true;
         };
         m_reasons->Forget();
-        QCOMPARE(maker->Make(Path("none.mp4").toStdWString().c_str(), take, &told), S_OK);
+        QCOMPARE(maker->Make(folder.filePath(file).toStdWString().c_str(), take, &told), S_OK);
         QTRY_VERIFY_WITH_TIMEOUT(told.isDone, 60000);
-        QCOMPARE(told.failure.reason, int(NLEReason_FileMissing));
+        QCOMPARE(told.failure.reason, reason);
         QCOMPARE(Last().reason, int(NLEReason_None));
     }
 

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/TestMedia.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -143,6 +145,31 @@ private slots:
         }
         QVERIFY(!ReadFile(log).isEmpty());
         QCOMPARE(ReadFile(m_output + "/CommonLibDemo.log"), ReadFile(log));
+    }
+
+    void filmOfSeveralFiles()
+    {
+        TestClip clip;
+        clip.size = QSize(160, 90);
+        for (const int frames : {6, 9}) {
+            clip.frames = frames;
+            QCOMPARE(MakeTestClip(path(QString("%1.mp4").arg(frames)), clip), QString());
+        }
+        const QString film = path("film.mov");
+        const auto write = [&](const QString& preset) {
+            return RunHost({"--output", m_output, "--export", film, "--preset", preset,
+                            path("6.mp4"), path("9.mp4")});
+        };
+        QVERIFY(write("Zelluloid").text.contains("no preset \"Zelluloid\""));
+        QVERIFY(!QFile::exists(film));
+        QCOMPARE(write("ProRes 422 LT").code, 0);
+        const QString told = RunHost({"--output", m_output, film}).text;
+        QVERIFY2(told.contains("video, prores, 160 × 90, 25 fps"), qPrintable(told));
+        QCOMPARE(RunFfmpeg({"-i", film, path("%d.png")}), QString());
+        for (int i = 0; i < 15; ++i)
+            QCOMPARE(ReadFrameNumber(QImage(path(QString("%1.png").arg(i + 1)))),
+                     i < 6 ? i : i - 6);
+        QVERIFY(!QFile::exists(path("16.png")));
     }
 
     void missingEngineIsTold()

@@ -5,6 +5,7 @@
 
 #include <QtTest>
 
+#include <array>
 #include <cmath>
 #include <random>
 
@@ -162,8 +163,10 @@ private slots:
         QTest::addColumn<int>("mode");
         QTest::addColumn<int>("order");
         QTest::addColumn<QString>("filter");
-        const auto row = [](const char* title, int mode, int order, const char* filter) {
-            QTest::newRow(title) << mode << order << QString(filter);
+        QTest::addColumn<QString>("name");
+        const auto row = [](const char* title, int mode, int order, const char* filter,
+                            const char* name = "unmarked.mp4") {
+            QTest::newRow(title) << mode << order << QString(filter) << QString(name);
         };
         row("what does not say that it is", NLEDeinterlacing_Automatic, 0, "null");
         row("always, top first", NLEDeinterlacing_Always, NLEField_TopFirst,
@@ -172,6 +175,9 @@ private slots:
             "bwdif=send_frame:bff:all");
         row("always, the usual order", NLEDeinterlacing_Always, 0, "bwdif=send_frame:tff:all");
         row("never", NLEDeinterlacing_Off, NLEField_TopFirst, "null");
+        row("numbered pictures", NLEDeinterlacing_Automatic, 0, "null", "%d.png");
+        row("numbered pictures, always", NLEDeinterlacing_Always, NLEField_BottomFirst,
+            "bwdif=send_frame:bff:all", "%d.png");
     }
 
     void settings()
@@ -179,10 +185,11 @@ private slots:
         QFETCH(int, mode);
         QFETCH(int, order);
         QFETCH(QString, filter);
-        const QString name = "unmarked.mp4";
-        if (!QFile::exists(Path(name)))
+        QFETCH(QString, name);
+        const bool isFilm = name == "unmarked.mp4";
+        if (!QFile::exists(Path(isFilm ? name : "1.png")))
             QCOMPARE(MakeMoving(name, kSmall, "tinterlace=interleave_top,setfield=prog",
-                                "-c:v libx264 -crf 12 -g 8"),
+                                isFilm ? "-c:v libx264 -crf 12 -g 8" : "-c:v png"),
                      QString());
         const auto info = Probe(name);
         QVERIFY(info);
@@ -192,6 +199,41 @@ private slots:
             const QImage drawn =
                 decoder->Picture(frame, kSmall, {NLEDeinterlacing(mode), NLEFieldOrder(order)});
             QVERIFY2(Difference(drawn, wanted[frame]) < 1, qPrintable(QString::number(frame)));
+        }
+    }
+
+    void joinedRecordings_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<int>("order");
+        QTest::newRow("those that say so") << int(NLEDeinterlacing_Automatic) << 0;
+        QTest::newRow("none") << int(NLEDeinterlacing_Off) << 0;
+        QTest::newRow("bottom first") << int(NLEDeinterlacing_Always) << int(NLEField_BottomFirst);
+    }
+
+    void joinedRecordings()
+    {
+        QFETCH(int, mode);
+        QFETCH(int, order);
+        const Deinterlacing wanted = {NLEDeinterlacing(mode), NLEFieldOrder(order)};
+        const QString encoder = "-c:v libx264 -crf 12 -bf 2 -g 8";
+        if (!QFile::exists(Path("joined.ts"))) {
+            QCOMPARE(MakeMoving("one.ts", kSmall, "tinterlace=interleave_top,setfield=tff",
+                                encoder + " -flags +ildct+ilme -top 1"),
+                     QString());
+            QCOMPARE(MakeMoving("two.ts", kSmall, "", encoder), QString());
+            QVERIFY(Write(Path("joined.ts"), ReadAll(Path("one.ts")) + ReadAll(Path("two.ts"))));
+        }
+        const auto info = Probe("joined.ts");
+        QVERIFY(info);
+        QCOMPARE(int(info->parts.size()), 2);
+        const auto joined = FrameDecoder::Open(info, info->videoStream, nullptr);
+        const std::array parts = {Probe("one.ts"), Probe("two.ts")};
+        for (const int frame : {0, kFrames + 5, 9, kFrames - 1, kFrames, kFrames - 1, 8, 7}) {
+            const auto alone = FrameDecoder::Open(parts[size_t(frame / kFrames)], 0, nullptr);
+            for (const PictureDepth depth : {PictureDepth::Usual, PictureDepth::Deep})
+                QCOMPARE(joined->Picture(frame, kSmall, wanted, depth),
+                         alone->Picture(frame % kFrames, kSmall, wanted, depth));
         }
     }
 

@@ -19,6 +19,10 @@
 #ifdef NLECORE_WITH_HEIF
 #include <libheif/heif.h>
 #endif
+#ifdef NLECORE_WITH_TURBOJPEG
+#include <lcms2.h>
+#include <turbojpeg.h>
+#endif
 
 using namespace nle;
 
@@ -65,13 +69,11 @@ QByteArray LittleEndian(quint32 value, int bytes)
     return text.left(bytes);
 }
 
-/// An uncompressed TIFF (Revision 6.0) of \a picture with a colour profile.
-QByteArray Tiff(const QImage& picture, const QByteArray& profile)
+/// An uncompressed TIFF (Revision 6.0) of \a pixels of RGB or inks with a colour profile.
+QByteArray Tiff(const QSize& size, const QByteArray& pixels, const QByteArray& profile)
 {
-    const QImage rgb = picture.convertToFormat(QImage::Format_RGB888);
-    QByteArray pixels;
-    for (int y = 0; y < rgb.height(); ++y)
-        pixels.append(reinterpret_cast<const char*>(rgb.constScanLine(y)), rgb.width() * 3);
+    const int samples = pixels.size() / (size.width() * size.height());
+    const quint32 colours = samples == 4 ? 5 : 2;
     constexpr quint32 word = 3;
     constexpr quint32 number = 4;
     constexpr quint32 bytes = 7;
@@ -79,19 +81,20 @@ QByteArray Tiff(const QImage& picture, const QByteArray& profile)
     const quint32 profileAt = pixelsAt + quint32(pixels.size());
     const quint32 bitsAt = profileAt + quint32(profile.size() + profile.size() % 2);
     const std::vector<std::array<quint32, 4>> tags = {
-        {256, number, 1, quint32(rgb.width())},
-        {257, number, 1, quint32(rgb.height())},
-        {258, word, 3, bitsAt},
+        {256, number, 1, quint32(size.width())},
+        {257, number, 1, quint32(size.height())},
+        {258, word, quint32(samples), bitsAt},
         {259, word, 1, 1},
-        {262, word, 1, 2},
+        {262, word, 1, colours},
         {273, number, 1, pixelsAt},
-        {277, word, 1, 3},
-        {278, number, 1, quint32(rgb.height())},
+        {277, word, 1, quint32(samples)},
+        {278, number, 1, quint32(size.height())},
         {279, number, 1, quint32(pixels.size())},
         {34675, bytes, quint32(profile.size()), profileAt}};
-    QByteArray file = "II*" + QByteArray(1, '\0') + LittleEndian(bitsAt + 6, 4) + pixels + profile;
+    QByteArray file = "II*" + QByteArray(1, '\0') + LittleEndian(bitsAt + quint32(samples) * 2, 4) +
+                      pixels + profile;
     file += QByteArray(profile.size() % 2, '\0');
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < samples; ++i)
         file += LittleEndian(8, 2);
     file += LittleEndian(quint32(tags.size()), 2);
     for (const auto& [tag, type, count, value] : tags)
@@ -111,6 +114,60 @@ QByteArray WithProfile(const QByteArray& webp, const QSize& size, const QByteArr
                       QByteArray(profile.size() % 2, '\0') + webp.mid(12);
     return "RIFF" + LittleEndian(quint32(body.size()), 4) + body;
 }
+
+#ifdef NLECORE_WITH_TURBOJPEG
+/// A profile of inks that are darker than those that nobody described.
+QByteArray InkProfile()
+{
+    const auto sample = [](const cmsUInt16Number ink[], cmsUInt16Number out[], void*) {
+        const double left = 1 - 0.9 * ink[3] / UINT16_MAX;
+        const auto share = [&](int i) { return double(ink[i]) / UINT16_MAX; };
+        const cmsCIELab lab = {
+            100 * (1 - 0.4 * share(0)) * (1 - 0.5 * share(1)) * (1 - 0.1 * share(2)) * left,
+            (50 * share(1) - 30 * share(0)) * left, (60 * share(2) - 35 * share(0)) * left};
+        cmsFloat2LabEncoded(out, &lab);
+        return cmsInt32Number(1);
+    };
+    const cmsHPROFILE profile = cmsCreateProfilePlaceholder(nullptr);
+    cmsSetProfileVersion(profile, 4.3);
+    cmsSetDeviceClass(profile, cmsSigOutputClass);
+    cmsSetColorSpace(profile, cmsSigCmykData);
+    cmsSetPCS(profile, cmsSigLabData);
+    cmsPipeline* const pipeline = cmsPipelineAlloc(nullptr, 4, 3);
+    cmsStage* const table = cmsStageAllocCLut16bit(nullptr, 7, 4, 3, nullptr);
+    cmsStageSampleCLut16bit(table, sample, nullptr, 0);
+    for (cmsStage* stage : {cmsStageAllocToneCurves(nullptr, 4, nullptr), table,
+                            cmsStageAllocToneCurves(nullptr, 3, nullptr)})
+        cmsPipelineInsertStage(pipeline, cmsAT_END, stage);
+    cmsWriteTag(profile, cmsSigAToB0Tag, pipeline);
+    cmsWriteTag(profile, cmsSigMediaWhitePointTag, cmsD50_XYZ());
+    cmsUInt32Number size = 0;
+    cmsSaveProfileToMem(profile, nullptr, &size);
+    QByteArray bytes(int(size), '\0');
+    cmsSaveProfileToMem(profile, bytes.data(), &size);
+    cmsPipelineFree(pipeline);
+    cmsCloseProfile(profile);
+    return bytes;
+}
+
+/// As Adobe's programs write it, with a profile of one segment.
+QByteArray InkJpeg(QByteArray pixels, const QByteArray& profile)
+{
+    std::transform(pixels.begin(), pixels.end(), pixels.begin(), [](char c) { return ~c; });
+    unsigned char* bytes = nullptr;
+    unsigned long size = 0;
+    const tjhandle encoder = tjInitCompress();
+    tjCompress2(encoder, reinterpret_cast<const unsigned char*>(pixels.constData()), kSize.width(),
+                0, kSize.height(), TJPF_CMYK, &bytes, &size, TJSAMP_444, 100, 0);
+    const QByteArray jpeg(reinterpret_cast<const char*>(bytes), int(size));
+    tjFree(bytes);
+    tjDestroy(encoder);
+    QByteArray segment = QByteArray("ICC_PROFILE\0\1\1", 14) + profile;
+    char length[2];
+    qToBigEndian(quint16(segment.size() + 2), length);
+    return jpeg.left(2) + "\xff\xe2" + QByteArray(length, 2) + segment + jpeg.mid(2);
+}
+#endif
 
 #ifdef NLECORE_WITH_HEIF
 /// A HEIC picture that is turned and mirrored as an orientation of Exif says.
@@ -296,6 +353,49 @@ private Q_SLOTS:
         QVERIFY2(worst <= 8, qPrintable(QString::number(worst)));
     }
 
+    // By numbers of ITU-T H.273.
+    void avifOfOtherLight_data()
+    {
+        QTest::addColumn<QString>("primaries");
+        QTest::addColumn<QString>("transfer");
+        QTest::addColumn<QString>("matrix");
+        QTest::newRow("PQ") << "bt2020"
+                            << "smpte2084"
+                            << "bt2020nc";
+        QTest::newRow("HLG") << "bt2020"
+                             << "arib-std-b67"
+                             << "bt2020nc";
+        QTest::newRow("BT.709") << "bt709"
+                                << "bt709"
+                                << "bt709";
+        QTest::newRow("BT.601") << "smpte170m"
+                                << "smpte170m"
+                                << "smpte170m";
+    }
+
+    void avifOfOtherLight()
+    {
+#ifndef NLECORE_WITH_HEIF
+        QSKIP("this build has no libheif");
+#endif
+        QFETCH(QString, primaries);
+        QFETCH(QString, transfer);
+        QFETCH(QString, matrix);
+        QVERIFY(Colours().save(Path("codes.png")));
+        // A film of the same codes.
+        for (const QStringList& target :
+             {QStringList{"libsvtav1", Path("a.avif")}, QStringList{"libx264", Path("a.mkv")}})
+            QCOMPARE(RunFfmpeg({"-i", Path("codes.png"), "-vf",
+                                "scale=out_color_matrix=" + QString(matrix).remove("nc") +
+                                    ":out_range=tv,format=yuv420p10",
+                                "-c:v", target[0], "-crf", "5", "-colorspace", matrix,
+                                "-color_primaries", primaries, "-color_trc", transfer, target[1]}),
+                     QString());
+        QCOMPARE(Probe("a.avif")->kind, NLEMedia_Image);
+        const int worst = WorstOf(Shown("a.avif", kSize), Shown("a.mkv", kSize));
+        QVERIFY2(worst <= 8, qPrintable(QString::number(worst)));
+    }
+
     void heifOrientation_data()
     {
         QTest::addColumn<int>("exif");
@@ -356,7 +456,10 @@ private Q_SLOTS:
         QVERIFY(wide.save(Path("p3.png")) && wide.save(Path("p3.jpg"), nullptr, 100));
         const QByteArray profile = wide.colorSpace().iccProfile();
         if (name == "p3.tif") {
-            QVERIFY(Write(Path(name), Tiff(wide, profile)));
+            const QImage rgb = wide.convertToFormat(QImage::Format_RGB888);
+            const QByteArray pixels(reinterpret_cast<const char*>(rgb.constBits()),
+                                    int(rgb.sizeInBytes()));
+            QVERIFY(Write(Path(name), Tiff(kSize, pixels, profile)));
         } else if (name == "p3.webp") {
             QCOMPARE(RunFfmpeg({"-i", Path("p3.png"), "-lossless", "1", Path("plain.webp")}),
                      QString());
@@ -369,6 +472,46 @@ private Q_SLOTS:
         }
         const int worst = WorstOf(Shown(name, kSize), source);
         QVERIFY2(worst <= 8, qPrintable(QString::number(worst)));
+    }
+
+    void printingInks_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("TIFF") << "inks.tif";
+        QTest::newRow("JPEG of Adobe's programs") << "inks.jpg";
+    }
+
+    void printingInks()
+    {
+#if !defined(NLECORE_WITH_TURBOJPEG) || !defined(NLECORE_WITH_TIFF)
+        QSKIP("this build has no libturbojpeg or no libtiff");
+#else
+        QFETCH(QString, name);
+        const QByteArray quarters[] = {"\x20\xd0\xe0\x08", "\xc0\x20\xe8\x10", "\xe0\xa0\x08\x18",
+                                       "\x30\x28\x20\x80"};
+        QByteArray pixels;
+        for (int i = 0; i < kSize.width() * kSize.height(); ++i)
+            pixels += quarters[i / kSize.width() * 2 / kSize.height() * 2 +
+                               i % kSize.width() * 2 / kSize.width()];
+        const QByteArray profile = InkProfile();
+        QVERIFY(Write(Path(name), name == "inks.tif" ? Tiff(kSize, pixels, profile)
+                                                     : InkJpeg(pixels, profile)));
+        QImage wanted(kSize, QImage::Format_RGB32);
+        const cmsHPROFILE inks =
+            cmsOpenProfileFromMem(profile.constData(), cmsUInt32Number(profile.size()));
+        const cmsHPROFILE screen = cmsCreate_sRGBProfile();
+        const cmsHTRANSFORM transform =
+            cmsCreateTransform(inks, TYPE_CMYK_8, screen, TYPE_BGRA_8, INTENT_RELATIVE_COLORIMETRIC,
+                               cmsFLAGS_BLACKPOINTCOMPENSATION);
+        wanted.fill(Qt::black);
+        cmsDoTransform(transform, pixels.constData(), wanted.bits(),
+                       cmsUInt32Number(pixels.size() / 4));
+        cmsDeleteTransform(transform);
+        cmsCloseProfile(inks);
+        cmsCloseProfile(screen);
+        const int worst = WorstOf(Shown(name, kSize), wanted);
+        QVERIFY2(worst <= 4, qPrintable(QString::number(worst)));
+#endif
     }
 
     void drawing_data()

@@ -7,7 +7,11 @@
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
 
+#include <QLockFile>
+#include <QProcess>
 #include <QSemaphore>
+
+#include <cstdlib>
 
 class tst_Proxies : public QObject, private EngineFixture
 {
@@ -133,6 +137,68 @@ private slots:
                 file.write("\x7F", 1) == 1);
         file.close();
         QCOMPARE(Find(maker, moved), QString());
+    }
+
+    void standsForAnImageSequence()
+    {
+        QDir(folder.path()).mkdir("shots");
+        for (int i = 0; i < 12; ++i)
+            QVERIFY(PaintFrameNumber(i, QSize(320, 180))
+                        .save(Path("shots/shot_%1.png").arg(i + 5, 4, 10, QChar('0'))));
+        const QString pattern = Path("shots/shot_%04d.png");
+        const Maker maker = NewMaker(Path("of-shots"));
+        Listener listener;
+        QCOMPARE(Make(maker, pattern, listener), S_OK);
+        const QString proxy = Find(maker, pattern);
+        QCOMPARE(TotalOf(Media(proxy)).out, 11);
+
+        // One frame for each picture, whatever rate they are played at.
+        const Node clip = provider->CreateMediaTimeline(pattern, true);
+        BagOf(clip)->SetRational(NLEKey::Sequence::kFramerate, {10, 1});
+        const Node project = ProjectWith(clip);
+        const auto video = Facet<INLEVideoStreamProcess>(clip);
+        for (const bool isEnabled : {false, true}) {
+            video->SetProxyFile(isEnabled ? proxy.toStdWString().c_str() : L"");
+            video->SetProxyEnabled(isEnabled);
+            for (const int frame : {0, 3, 14, 29})
+                QCOMPARE(ReadFrameNumber(Frame(project, frame)), frame * 10 / 25);
+        }
+
+        QVERIFY(QDir().rename(Path("shots"), Path("moved shots")));
+        const QString moved = Path("moved shots/shot_%04d.png");
+        QCOMPARE(Find(maker, moved), proxy);
+        QVERIFY(PaintFrameNumber(99, QSize(320, 180)).save(Path("moved shots/shot_0009.png")));
+        QCOMPARE(Find(maker, moved), QString());
+    }
+
+    void whatAProcessLeftWhenItEndedGoes()
+    {
+        const char* const inChild = "TST_PROXIES_FOLDER";
+        if (qEnvironmentVariableIsSet(inChild)) {
+            Listener listener;
+            listener.onProgress = [] { std::_Exit(0); };
+            Make(NewMaker(qEnvironmentVariable(inChild)), m_media, listener);
+            return;
+        }
+        const QDir kept(Path("left"));
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(inChild, kept.path());
+        environment.insert("TMPDIR", folder.path()); // it cannot remove its own folder
+        QProcess child;
+        child.setProcessEnvironment(environment);
+        child.start(QCoreApplication::applicationFilePath(), {"whatAProcessLeftWhenItEndedGoes"});
+        QVERIFY(child.waitForFinished(60000));
+        const QString ended = kept.entryList({"*.lock"}).value(0).left(32);
+        QVERIFY(!ended.isEmpty());
+        const QString living(32, 'a');
+        QLockFile lock(kept.filePath(living + ".lock"));
+        QVERIFY(lock.lock());
+        // Not every system lets unfinished files have names.
+        for (const QString& key : {ended, living})
+            QVERIFY(QFile(kept.filePath(key + ".mp4.AbC123")).open(QIODevice::WriteOnly));
+        QCOMPARE(Find(NewMaker(kept.path()), m_media), QString());
+        QCOMPARE(kept.entryList(QDir::Files),
+                 (QStringList{living + ".lock", living + ".mp4.AbC123"}));
     }
 
     void refused_data()

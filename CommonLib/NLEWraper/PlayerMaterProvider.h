@@ -58,7 +58,7 @@ public:
 
     /// A frame in system memory; size in pixels.
     NLEComPtr<INLEVideoFrame> CreateVideoFrame(int width, int height);
-    /// A frame in OpenCL memory; size in pixels.
+    /// A frame in OpenCL memory; size in pixels. Null as well where there is no OpenCL device.
     NLEComPtr<INLEVideoFrame> CreateVideoFrameOpencl(int width, int height);
     /// \a sampleCount samples a channel.
     NLEComPtr<INLEAudioFrame> CreateAudioFrame(int sampleCount);

@@ -848,7 +848,7 @@
     <name>SliderPage</name>
     <message>
         <source>Seek bar</source>
-        <translation>شريط التنقل</translation>
+        <translation>شريط موضع التشغيل</translation>
     </message>
     <message>
         <source>Normal</source>

@@ -833,7 +833,7 @@
     <name>SliderPage</name>
     <message>
         <source>Seek bar</source>
-        <translation>搜尋列</translation>
+        <translation>播放進度列</translation>
     </message>
     <message>
         <source>Normal</source>

@@ -724,7 +724,7 @@
     </message>
     <message>
         <source>stream %1: %2</source>
-        <translation>Strom %1: %2</translation>
+        <translation>Stream %1: %2</translation>
     </message>
     <message>
         <source>sample rates: %1</source>
@@ -836,7 +836,7 @@
     <name>SliderPage</name>
     <message>
         <source>Seek bar</source>
-        <translation>Suchleiste</translation>
+        <translation>Wiedergabeleiste</translation>
     </message>
     <message>
         <source>Normal</source>

@@ -774,7 +774,7 @@
     </message>
     <message>
         <source>Mute</source>
-        <translation>Silencio</translation>
+        <translation>Silenciar</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -782,7 +782,7 @@
     </message>
     <message>
         <source>Safe areas</source>
-        <translation>Áreas seguras</translation>
+        <translation>Zonas seguras</translation>
     </message>
     <message>
         <source>Fit</source>
@@ -790,7 +790,7 @@
     </message>
     <message>
         <source>Fill</source>
-        <translation>Llenar</translation>
+        <translation>Rellenar</translation>
     </message>
     <message>
         <source>Size of the picture</source>
@@ -836,7 +836,7 @@
     <name>SliderPage</name>
     <message>
         <source>Seek bar</source>
-        <translation>Barra de búsqueda</translation>
+        <translation>Barra de reproducción</translation>
     </message>
     <message>
         <source>Normal</source>

@@ -833,7 +833,7 @@
     <name>SliderPage</name>
     <message>
         <source>Seek bar</source>
-        <translation>Bilah pencarian</translation>
+        <translation>Bilah pemutaran</translation>
     </message>
     <message>
         <source>Normal</source>

@@ -179,7 +179,7 @@
     </message>
     <message>
         <source>Log file, by default %1 among the results.</source>
-        <translation>File di registro, in mancanza %1 tra i risultati.</translation>
+        <translation>File di registro, per impostazione predefinita %1 tra i risultati.</translation>
     </message>
     <message>
         <source>FILE</source>
@@ -355,7 +355,7 @@
     </message>
     <message>
         <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
-        <translation>Aprire un file e riprodurlo; K avvia e mette in pausa, virgola e punto spostano di un fotogramma.</translation>
+        <translation>Apri un file e riproducilo; K avvia e mette in pausa, virgola e punto spostano di un fotogramma.</translation>
     </message>
 </context>
 <context>
@@ -774,7 +774,7 @@
     </message>
     <message>
         <source>Mute</source>
-        <translation>Muto</translation>
+        <translation>Disattiva audio</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -836,7 +836,7 @@
     <name>SliderPage</name>
     <message>
         <source>Seek bar</source>
-        <translation>Barra di ricerca</translation>
+        <translation>Barra di riproduzione</translation>
     </message>
     <message>
         <source>Normal</source>

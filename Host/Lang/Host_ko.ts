@@ -101,7 +101,7 @@
     </message>
     <message>
         <source>Titles</source>
-        <translation>자막</translation>
+        <translation>타이틀</translation>
     </message>
     <message>
         <source>Effects</source>
@@ -163,7 +163,7 @@
     </message>
     <message>
         <source>Tells what media files are and writes a contact sheet of each.</source>
-        <translation>미디어 파일의 정보를 보여 주고 각각의 밀착 인화지를 저장합니다.</translation>
+        <translation>미디어 파일의 정보를 보여 주고 각각의 썸네일 모음을 저장합니다.</translation>
     </message>
     <message>
         <source>Print this help.</source>
@@ -222,7 +222,7 @@
     <name>ContactSheet</name>
     <message>
         <source>no picture</source>
-        <translation>그림 없음</translation>
+        <translation>화면 없음</translation>
     </message>
 </context>
 <context>
@@ -630,7 +630,7 @@
     </message>
     <message>
         <source>picture %1 of %2: frame %3, %4</source>
-        <translation>그림 %1/%2: 프레임 %3, %4</translation>
+        <translation>이미지 %1/%2: 프레임 %3, %4</translation>
     </message>
     <message>
         <source>%1, not decoded</source>
@@ -638,11 +638,11 @@
     </message>
     <message>
         <source>none of its pictures can be decoded</source>
-        <translation>디코딩할 수 있는 그림이 없습니다</translation>
+        <translation>디코딩할 수 있는 이미지가 없습니다</translation>
     </message>
     <message>
         <source>%1 of %2 pictures cannot be decoded; the file may be damaged</source>
-        <translation>그림 %2개 중 %1개를 디코딩할 수 없습니다. 파일이 손상되었을 수 있습니다</translation>
+        <translation>이미지 %2개 중 %1개를 디코딩할 수 없습니다. 파일이 손상되었을 수 있습니다</translation>
     </message>
     <message>
         <source>wave form: part %1 of %2</source>

@@ -355,7 +355,7 @@
     </message>
     <message>
         <source>Open a file and play it; K plays and pauses, comma and full stop step a frame.</source>
-        <translation>Open een bestand en speel het af; K speelt en pauzeert, komma en punt gaan één beeld verder.</translation>
+        <translation>Open een bestand en speel het af; K speelt en pauzeert, komma en punt gaan één frame terug of vooruit.</translation>
     </message>
 </context>
 <context>
@@ -750,7 +750,7 @@
     </message>
     <message>
         <source>Back one frame</source>
-        <translation>Eén beeld terug</translation>
+        <translation>Eén frame terug</translation>
     </message>
     <message>
         <source>Play</source>
@@ -758,7 +758,7 @@
     </message>
     <message>
         <source>Forward one frame</source>
-        <translation>Eén beeld vooruit</translation>
+        <translation>Eén frame vooruit</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -836,7 +836,7 @@
     <name>SliderPage</name>
     <message>
         <source>Seek bar</source>
-        <translation>Zoekbalk</translation>
+        <translation>Afspeelbalk</translation>
     </message>
     <message>
         <source>Normal</source>

@@ -155,7 +155,7 @@
     </message>
     <message>
         <source>The engine is missing or does not start: %1</source>
-        <translation>Brak silnika lub się nie uruchamia: %1</translation>
+        <translation>Brak silnika lub nie można go uruchomić: %1</translation>
     </message>
     <message>
         <source>The folder %1 cannot be made.</source>

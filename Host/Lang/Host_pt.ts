@@ -836,7 +836,7 @@
     <name>SliderPage</name>
     <message>
         <source>Seek bar</source>
-        <translation>Barra de procura</translation>
+        <translation>Barra de reprodução</translation>
     </message>
     <message>
         <source>Normal</source>

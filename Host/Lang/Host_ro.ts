@@ -839,7 +839,7 @@
     <name>SliderPage</name>
     <message>
         <source>Seek bar</source>
-        <translation>Bară de căutare</translation>
+        <translation>Bară de redare</translation>
     </message>
     <message>
         <source>Normal</source>

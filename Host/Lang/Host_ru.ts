@@ -163,7 +163,7 @@
     </message>
     <message>
         <source>Tells what media files are and writes a contact sheet of each.</source>
-        <translation>Описывает медиафайлы и создаёт контрольный лист для каждого.</translation>
+        <translation>Описывает медиафайлы и создаёт контактный лист для каждого.</translation>
     </message>
     <message>
         <source>Print this help.</source>

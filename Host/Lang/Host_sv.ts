@@ -836,7 +836,7 @@
     <name>SliderPage</name>
     <message>
         <source>Seek bar</source>
-        <translation>Sökreglage</translation>
+        <translation>Uppspelningsreglage</translation>
     </message>
     <message>
         <source>Normal</source>

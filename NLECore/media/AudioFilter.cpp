@@ -1,18 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/AudioFilter.h"
 
-#include "NLECore/media/MediaFile_p.h"
+#include "NLECore/media/FilterGraph_p.h"
 
 #include <algorithm>
 #include <cmath>
 #include <vector>
-
-extern "C" {
-#include <libavfilter/avfilter.h>
-#include <libavfilter/buffersink.h>
-#include <libavfilter/buffersrc.h>
-#include <libavutil/channel_layout.h>
-}
 
 namespace nle {
 
@@ -23,10 +16,6 @@ constexpr int kBlock = 1024;
 /// Blocks after which filters that give nothing are given up.
 constexpr int kMostSilentBlocks = 200;
 
-struct GraphFreer
-{
-    void operator()(AVFilterGraph* graph) const { avfilter_graph_free(&graph); }
-};
 } // namespace
 
 QByteArray SoundFilter::Text() const
@@ -49,9 +38,7 @@ struct AudioFilter::Private
     int sampleRate = 0;
     int channels = 0;
     std::int64_t leadIn = 0; ///< samples
-    std::unique_ptr<AVFilterGraph, GraphFreer> graph;
-    AVFilterContext* input = nullptr;
-    AVFilterContext* output = nullptr;
+    FilterGraph graph;
     FramePtr frame{av_frame_alloc()};
     std::int64_t nextInput = 0;
     std::int64_t nextOutput = -1;
@@ -66,34 +53,10 @@ struct AudioFilter::Private
 
 bool AudioFilter::Private::Build()
 {
-    graph.reset(avfilter_graph_alloc());
-    AVChannelLayout layout;
-    av_channel_layout_default(&layout, channels);
-    char layoutName[64] = {};
-    av_channel_layout_describe(&layout, layoutName, sizeof(layoutName));
-    const QByteArray layoutText(layoutName);
-    const QByteArray format = QStringLiteral("sample_rate=%1:sample_fmt=flt:channel_layout=%2")
-                                  .arg(sampleRate)
-                                  .arg(QLatin1String(layoutText))
-                                  .toLatin1();
-    const QByteArray whole =
-        "abuffer@in=time_base=1/" + QByteArray::number(sampleRate) + ":" + format + "," +
-        description + ",aformat=sample_fmts=flt:sample_rates=" + QByteArray::number(sampleRate) +
-        ":channel_layouts=" + layoutText + ",abuffersink@out";
-    AVFilterInOut* inputs = nullptr;
-    AVFilterInOut* outputs = nullptr;
-    const bool parsed =
-        graph && avfilter_graph_parse2(graph.get(), whole.constData(), &inputs, &outputs) >= 0 &&
-        avfilter_graph_config(graph.get(), nullptr) >= 0;
-    avfilter_inout_free(&inputs);
-    avfilter_inout_free(&outputs);
-    if (!parsed) {
-        graph.reset();
-        return false;
-    }
-    input = avfilter_graph_get_filter(graph.get(), "abuffer@in");
-    output = avfilter_graph_get_filter(graph.get(), "abuffersink@out");
-    return input && output;
+    const QByteArray format =
+        ",aformat=sample_fmts=flt:sample_rates=" + QByteArray::number(sampleRate) +
+        ":channel_layouts=" + ChannelLayoutName(channels);
+    return graph.BuildSound(description + format, sampleRate, channels);
 }
 
 bool AudioFilter::Private::Start(std::int64_t first)
@@ -117,8 +80,7 @@ void AudioFilter::Private::Automate()
     for (std::size_t i = 0; i < next.options.size(); ++i) {
         const auto& [option, value] = next.options[i];
         if (value != current.options[i].second)
-            avfilter_graph_send_command(graph.get(), next.name.constData(), option.constData(),
-                                        value.constData(), nullptr, 0, 0);
+            graph.Change(next.name, option, value);
     }
     current = std::move(next);
 }
@@ -128,24 +90,19 @@ bool AudioFilter::Private::Feed(const Source& source)
     if (filterAt)
         Automate();
     av_frame_unref(frame.get());
-    frame->format = AV_SAMPLE_FMT_FLT;
-    frame->sample_rate = sampleRate;
-    frame->nb_samples = block;
-    frame->pts = nextInput;
-    av_channel_layout_default(&frame->ch_layout, channels);
-    if (av_frame_get_buffer(frame.get(), 0) < 0)
+    if (!AllocateSound(*frame, sampleRate, channels, block))
         return false;
+    frame->pts = nextInput;
     source(nextInput, block, reinterpret_cast<float*>(frame->data[0]));
     nextInput += block;
-    return av_buffersrc_add_frame(input, frame.get()) >= 0;
+    return graph.Add(frame.get());
 }
 
 void AudioFilter::Private::Drain()
 {
-    while (av_buffersink_get_frame(output, frame.get()) >= 0) {
+    while (graph.Take(*frame)) {
         const auto* samples = reinterpret_cast<const float*>(frame->data[0]);
         ready.insert(ready.end(), samples, samples + size_t(frame->nb_samples) * size_t(channels));
-        av_frame_unref(frame.get());
     }
 }
 

@@ -133,11 +133,6 @@ QMatrix4x4 ToXyz(AVColorPrimaries primaries)
 
 // ---- what a picture tells
 
-bool IsHighRange(AVColorTransferCharacteristic transfer)
-{
-    return transfer == AVCOL_TRC_SMPTE2084 || transfer == AVCOL_TRC_ARIB_STD_B67;
-}
-
 bool IsWide(AVColorPrimaries primaries)
 {
     return primaries == AVCOL_PRI_BT2020 || primaries == AVCOL_PRI_SMPTE431 ||
@@ -166,6 +161,11 @@ double PeakOf(const AVFrame& frame)
 
 } // namespace
 
+bool IsHighRange(AVColorTransferCharacteristic transfer)
+{
+    return transfer == AVCOL_TRC_SMPTE2084 || transfer == AVCOL_TRC_ARIB_STD_B67;
+}
+
 double PeakOf(const AVStream* stream)
 {
     return Peak(av_stream_get_side_data(stream, AV_PKT_DATA_CONTENT_LIGHT_LEVEL, nullptr),
@@ -182,7 +182,16 @@ std::optional<ForeignColours> ForeignColoursOf(const AVFrame& frame, const Media
                               : AVColorTransferCharacteristic(stream.colours.transfer);
     // An embedded profile goes before numbers; it is applied to the whole picture.
     const bool hasProfile = av_frame_get_side_data(&frame, AV_FRAME_DATA_ICC_PROFILE) != nullptr;
-    if (hasProfile || (!IsWide(primaries) && !IsHighRange(transfer)))
+    if (hasProfile)
+        return {};
+    return ForeignColoursOf(primaries, transfer,
+                            stream.peakLuminance > 0 ? stream.peakLuminance : PeakOf(frame));
+}
+
+std::optional<ForeignColours> ForeignColoursOf(AVColorPrimaries primaries,
+                                               AVColorTransferCharacteristic transfer, double peak)
+{
+    if (!IsWide(primaries) && !IsHighRange(transfer))
         return {};
     ForeignColours result = {AVCOL_PRI_BT709, AVCOL_TRC_BT709, kUsualPeak};
     if (IsWide(primaries))
@@ -191,10 +200,8 @@ std::optional<ForeignColours> ForeignColoursOf(const AVFrame& frame, const Media
         result.primaries = AVCOL_PRI_BT2020;
     if (IsHighRange(transfer) || transfer == AVCOL_TRC_IEC61966_2_1)
         result.transfer = transfer;
-    if (transfer == AVCOL_TRC_SMPTE2084) {
-        const double told = stream.peakLuminance > 0 ? stream.peakLuminance : PeakOf(frame);
-        result.peak = std::clamp(told > 0 ? told : kUsualPeak, kWhite, kHighestPeak);
-    }
+    if (transfer == AVCOL_TRC_SMPTE2084)
+        result.peak = std::clamp(peak > 0 ? peak : kUsualPeak, kWhite, kHighestPeak);
     return result;
 }
 

@@ -32,6 +32,13 @@ struct ForeignColours
 /// converted; none when the picture shows as it is.
 std::optional<ForeignColours> ForeignColoursOf(const AVFrame& frame, const MediaStream& stream);
 
+/// Those of numbers of ITU-T H.273, of pictures that hold light up to \a peak, in cd/m²; a peak of
+/// 0 is not known. None when they show as they are.
+std::optional<ForeignColours> ForeignColoursOf(AVColorPrimaries primaries,
+                                               AVColorTransferCharacteristic transfer, double peak);
+/// Whether a transfer is one of high dynamic range: SMPTE ST 2084 or HLG.
+bool IsHighRange(AVColorTransferCharacteristic transfer);
+
 /// The brightest that the pictures of a stream hold, in cd/m², as its container tells: the content
 /// light level, else the peak of the display it was made on; 0 when it does not.
 double PeakOf(const AVStream* stream);

@@ -32,18 +32,22 @@ struct TransformDeleter
 };
 using TransformPtr = std::unique_ptr<void, TransformDeleter>;
 
-TransformPtr MakeTransform(const ProfilePtr& source, cmsUInt32Number format)
+ProfilePtr OpenProfile(const QByteArray& profile)
+{
+    return ProfilePtr(cmsOpenProfileFromMem(profile.constData(), cmsUInt32Number(profile.size())));
+}
+
+TransformPtr MakeTransform(const ProfilePtr& source, cmsUInt32Number format, cmsUInt32Number flags)
 {
     const ProfilePtr target(cmsCreate_sRGBProfile());
     return TransformPtr(target ? cmsCreateTransform(source.get(), format, target.get(), kPixels,
-                                                    INTENT_RELATIVE_COLORIMETRIC,
-                                                    format == kPixels ? kFlags : 0)
+                                                    INTENT_RELATIVE_COLORIMETRIC, flags)
                                : nullptr);
 }
 
 bool ConvertColours(QImage* image, const ProfilePtr& source)
 {
-    const TransformPtr transform = MakeTransform(source, kPixels);
+    const TransformPtr transform = MakeTransform(source, kPixels, kFlags);
     if (!transform)
         return false;
     for (int y = 0; y < image->height(); ++y) {
@@ -56,7 +60,7 @@ bool ConvertColours(QImage* image, const ProfilePtr& source)
 // Grey pictures were decoded to three equal components.
 bool ConvertGreys(QImage* image, const ProfilePtr& source)
 {
-    const TransformPtr transform = MakeTransform(source, TYPE_GRAY_8);
+    const TransformPtr transform = MakeTransform(source, TYPE_GRAY_8, 0);
     if (!transform)
         return false;
     std::array<std::uint8_t, kGreys> greys{};
@@ -110,8 +114,7 @@ void ConvertToSrgb(QImage* image, const QByteArray& profile, const QString& path
 {
     if (profile.isEmpty() || image->isNull())
         return;
-    const ProfilePtr source(
-        cmsOpenProfileFromMem(profile.constData(), cmsUInt32Number(profile.size())));
+    const ProfilePtr source = OpenProfile(profile);
     if (source && IsSrgb(source))
         return;
     const cmsColorSpaceSignature space =
@@ -122,15 +125,39 @@ void ConvertToSrgb(QImage* image, const QByteArray& profile, const QString& path
         qCWarning(lcEngine, "%s: its colour profile cannot be used", qUtf8Printable(path));
 }
 
-void ConvertToSrgb(QImage* image, int primaries, int transfer, const QString& path)
+void ConvertToSrgb(QImage* image, int primaries, const QString& path)
 {
-    constexpr int pq = 16;
-    constexpr int hlg = 18;
-    if (image->isNull() || transfer == pq || transfer == hlg)
+    if (image->isNull())
         return;
     const ProfilePtr source = MakeProfile(primaries);
     if (source && !ConvertColours(image, source))
         qCWarning(lcEngine, "%s: its colours cannot be converted", qUtf8Printable(path));
+}
+
+bool IsOfInks(const QByteArray& profile)
+{
+    const ProfilePtr source = OpenProfile(profile);
+    return source && cmsGetColorSpace(source.get()) == cmsSigCmykData;
+}
+
+QImage FromInks(const InkPicture& picture, const QByteArray& profile)
+{
+    constexpr int inks = 4;
+    const ProfilePtr source = OpenProfile(profile);
+    const TransformPtr transform =
+        source ? MakeTransform(source, picture.isInverted ? TYPE_CMYK_8_REV : TYPE_CMYK_8,
+                               cmsFLAGS_BLACKPOINTCOMPENSATION)
+               : nullptr;
+    QImage image(transform ? picture.size : QSize(), QImage::Format_ARGB32);
+    if (image.isNull())
+        return image;
+    image.fill(Qt::black); // for the alpha, which stays
+    for (int y = 0; y < image.height(); ++y) {
+        const std::uint8_t* const line =
+            picture.inks.data() + std::ptrdiff_t(y) * image.width() * inks;
+        cmsDoTransform(transform.get(), line, image.scanLine(y), cmsUInt32Number(image.width()));
+    }
+    return image;
 }
 
 } // namespace nle

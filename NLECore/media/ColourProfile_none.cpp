@@ -11,8 +11,16 @@ void ConvertToSrgb(QImage* /*image*/, const QByteArray& profile, const QString& 
         qCWarning(lcEngine, "%s: this build does not read colour profiles", qUtf8Printable(path));
 }
 
-void ConvertToSrgb(QImage* /*image*/, int /*primaries*/, int /*transfer*/, const QString& /*path*/)
+void ConvertToSrgb(QImage* /*image*/, int /*primaries*/, const QString& /*path*/) {}
+
+bool IsOfInks(const QByteArray& /*profile*/)
 {
+    return false;
+}
+
+QImage FromInks(const InkPicture& /*picture*/, const QByteArray& /*profile*/)
+{
+    return {};
 }
 
 } // namespace nle

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "NLECore/media/InkPictures_p.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QString>
@@ -13,8 +15,13 @@ namespace nle {
 /// is, and so does a build without the library. What fails is logged with \a path.
 void ConvertToSrgb(QImage* image, const QByteArray& profile, const QString& path);
 
-/// The same for colours that are coded by \a primaries and \a transfer of ITU-T H.273. Only a
-/// transfer of standard dynamic range is changed.
-void ConvertToSrgb(QImage* image, int primaries, int transfer, const QString& path);
+/// The same for colours of standard dynamic range that are coded by \a primaries of ITU-T H.273.
+void ConvertToSrgb(QImage* image, int primaries, const QString& path);
+
+/// Whether \a profile is one of cyan, magenta, yellow and black.
+bool IsOfInks(const QByteArray& profile);
+/// \a picture in the colours of sRGB, as Format_ARGB32, by a profile that is one of its inks and in
+/// the same way; null when it cannot be converted.
+QImage FromInks(const InkPicture& picture, const QByteArray& profile);
 
 } // namespace nle

@@ -2,23 +2,13 @@
 #include "NLECore/media/Deinterlacer.h"
 
 #include "NLECore/media/FieldOrder_p.h"
+#include "NLECore/media/FilterGraph_p.h"
 
 #include <deque>
-
-extern "C" {
-#include <libavfilter/avfilter.h>
-#include <libavfilter/buffersink.h>
-#include <libavfilter/buffersrc.h>
-}
 
 namespace nle {
 
 namespace {
-
-struct GraphFreer
-{
-    void operator()(AVFilterGraph* graph) const { avfilter_graph_free(&graph); }
-};
 
 bool AreAlike(const AVFrame& a, const AVFrame& b)
 {
@@ -37,9 +27,7 @@ bool IsTopFirst(const AVFrame& frame, const MediaStream& stream, NLEFieldOrder w
 
 struct Deinterlacer::Private
 {
-    std::unique_ptr<AVFilterGraph, GraphFreer> graph;
-    AVFilterContext* input = nullptr;
-    AVFilterContext* output = nullptr;
+    FilterGraph graph;
     FramePtr drawn{av_frame_alloc()};
     std::int64_t drawnNumber = -1;
     /// What went into the filter and did not come out yet.
@@ -55,31 +43,12 @@ struct Deinterlacer::Private
 
 bool Deinterlacer::Private::Build(const AVFrame& like, int threads)
 {
-    const QByteArray description =
-        QStringLiteral("buffer@in=video_size=%1x%2:pix_fmt=%3:time_base=1/1,"
-                       "bwdif=mode=send_frame:parity=auto:deint=all,buffersink@out")
-            .arg(like.width)
-            .arg(like.height)
-            .arg(like.format)
-            .toLatin1();
-    graph.reset(avfilter_graph_alloc());
-    if (graph)
-        graph->nb_threads = threads;
-    AVFilterInOut* inputs = nullptr;
-    AVFilterInOut* outputs = nullptr;
-    const bool isBuilt =
-        graph &&
-        avfilter_graph_parse2(graph.get(), description.constData(), &inputs, &outputs) >= 0 &&
-        avfilter_graph_config(graph.get(), nullptr) >= 0;
-    avfilter_inout_free(&inputs);
-    avfilter_inout_free(&outputs);
-    if (!isBuilt) {
-        graph.reset();
-        return false;
-    }
-    input = avfilter_graph_get_filter(graph.get(), "buffer@in");
-    output = avfilter_graph_get_filter(graph.get(), "buffersink@out");
-    return input && output;
+    const QByteArray options = QStringLiteral("video_size=%1x%2:pix_fmt=%3:time_base=1/1")
+                                   .arg(like.width)
+                                   .arg(like.height)
+                                   .arg(like.format)
+                                   .toLatin1();
+    return graph.BuildPictures(options, "bwdif=mode=send_frame:parity=auto:deint=all", threads);
 }
 
 bool Deinterlacer::Private::Feed(const NumberedPicture& picture, const MediaStream& stream)
@@ -90,7 +59,7 @@ bool Deinterlacer::Private::Feed(const NumberedPicture& picture, const MediaStre
     frame->pts = picture.number;
     frame->repeat_pict = 0;
     MarkFields(frame.get(), IsTopFirst(*picture.frame, stream, order));
-    if (av_buffersrc_add_frame(input, frame.get()) < 0)
+    if (!graph.Add(frame.get()))
         return false;
     waiting.push_back(picture.number);
     return true;
@@ -111,8 +80,7 @@ bool Deinterlacer::Private::Take(std::int64_t number)
 {
     drawnNumber = -1;
     while (!waiting.empty()) {
-        av_frame_unref(drawn.get());
-        if (av_buffersink_get_frame(output, drawn.get()) < 0)
+        if (!graph.Take(*drawn))
             return false;
         const std::int64_t taken = waiting.front();
         waiting.pop_front();
@@ -146,22 +114,21 @@ const AVFrame* Deinterlacer::Draw(const NumberedPicture& previous, const Numbere
     if (d->order != wanted.order) {
         d->order = wanted.order;
         d->drawnNumber = -1;
-        d->graph.reset();
+        d->graph.Clear();
     }
     if (d->drawnNumber == picture.number)
         return d->drawn.get();
     const bool continues = d->graph && !d->waiting.empty() && d->waiting.back() == picture.number;
     if (!continues && !d->Start(previous, picture, stream, threads)) {
-        d->graph.reset();
+        d->graph.Clear();
         return nullptr;
     }
     const bool hasNext = next.frame && AreAlike(*next.frame, *picture.frame);
-    const bool isFed =
-        hasNext ? d->Feed(next, stream) : av_buffersrc_add_frame(d->input, nullptr) >= 0;
+    const bool isFed = hasNext ? d->Feed(next, stream) : d->graph.Add(nullptr);
     const bool isDrawn = isFed && d->Take(picture.number);
     // After its end the filter takes nothing more.
     if (!isDrawn || !hasNext)
-        d->graph.reset();
+        d->graph.Clear();
     return isDrawn ? d->drawn.get() : nullptr;
 }
 

@@ -49,23 +49,23 @@ constexpr CodecFormat kCodecs[] = {
      "rgb24,rgba,rgb48be,rgba64be", ""},
     {"tiff", "TIFF", NLEStream_Video, "tiff", NLERate_Lossless, false, "", "",
      "rgb24,rgba,rgb48le,rgba64le", ""},
-    {"v210", "Uncompressed 4:2:2, 10 bits", NLEStream_Video, "v210", NLERate_Lossless, false, "",
-     "", "yuv422p10le", ""},
+    {"v210", QT_TRANSLATE_NOOP("NLECore", "Uncompressed 4:2:2, 10 bits"), NLEStream_Video, "v210",
+     NLERate_Lossless, false, "", "", "yuv422p10le", ""},
     {"mjpeg", "Motion JPEG", NLEStream_Video, "mjpeg", kFree, false, "", "",
      "yuvj420p,yuvj422p,yuvj444p", ""},
     {"mpeg2video", "MPEG-2", NLEStream_Video, "mpeg2video", kFree, true, "", "", "yuv420p,yuv422p",
      ""},
-    {"mpeg4", "MPEG-4 part 2", NLEStream_Video, "mpeg4", kFree, true, "", "", "yuv420p", ""},
+    {"mpeg4", "MPEG-4 Part 2", NLEStream_Video, "mpeg4", kFree, true, "", "", "yuv420p", ""},
     {"theora", "Theora", NLEStream_Video, "libtheora", kFree, false, "", "",
      "yuv420p,yuv422p,yuv444p", ""},
     {"wmv2", "Windows Media Video 8", NLEStream_Video, "wmv2", kFree, false, "", "", "yuv420p", ""},
-    {"gif", "GIF", NLEStream_Video, "gif", NLERate_Profile, false, "", "", "rgb8", ""},
+    {"gif", "GIF", NLEStream_Video, "gif", NLERate_Profile, false, "", "", "pal8", ""},
 
     {"aac", "AAC", NLEStream_Audio, "aac", 0, false, "", "", "", ""},
     {"opus", "Opus", NLEStream_Audio, "libopus", 0, false, "", "", "", ""},
     {"vorbis", "Vorbis", NLEStream_Audio, "libvorbis", 0, false, "", "", "", ""},
     {"mp3", "MP3", NLEStream_Audio, "libmp3lame", 0, false, "", "", "", ""},
-    {"mp2", "MPEG-1 layer II", NLEStream_Audio, "mp2", 0, false, "", "", "", ""},
+    {"mp2", "MPEG-1 Layer II", NLEStream_Audio, "mp2", 0, false, "", "", "", ""},
     {"ac3", "Dolby Digital", NLEStream_Audio, "ac3", 0, false, "", "", "", ""},
     {"wmav2", "Windows Media Audio 2", NLEStream_Audio, "wmav2", 0, false, "", "", "", ""},
     {"flac", "FLAC", NLEStream_Audio, "flac", 0, false, "", "", "", "s16,s24"},
@@ -85,28 +85,30 @@ constexpr ContainerFormat kContainers[] = {
      "aac,opus,flac,pcm,vorbis,mp3,ac3", false},
     {"webm", "WebM", "webm", "webm", "vp9,av1,vp8", "opus,vorbis", false},
     {"mxf", "MXF", "mxf", "mxf", "mpeg2video,dnxhr,h264", "pcm", false},
-    {"ts", "MPEG transport stream", "ts,m2ts,mts,m2t", "mpegts", "h264,hevc,mpeg2video",
-     "aac,ac3,mp2,mp3", false},
-    {"mpg", "MPEG program stream", "mpg,mpeg", "mpeg", "mpeg2video", "mp2,ac3", false},
+    {"ts", QT_TRANSLATE_NOOP("NLECore", "MPEG transport stream"), "ts,m2ts,mts,m2t", "mpegts",
+     "h264,hevc,mpeg2video", "aac,ac3,mp2,mp3", false},
+    {"mpg", QT_TRANSLATE_NOOP("NLECore", "MPEG program stream"), "mpg,mpeg", "mpeg", "mpeg2video",
+     "mp2,ac3", false},
     {"avi", "AVI", "avi", "avi", "h264,mpeg4,mjpeg,ffv1", "mp3,pcm,ac3", false},
     {"wmv", "Windows Media", "wmv,asf", "asf", "wmv2", "wmav2", false},
     {"flv", "Flash Video", "flv", "flv", "h264", "aac,mp3", false},
     {"3gp", "3GPP", "3gp", "3gp", "h264", "aac", false},
     {"3g2", "3GPP2", "3g2", "3g2", "h264", "aac", false},
     {"ogv", "Ogg", "ogv", "ogv", "theora", "vorbis,opus,flac", false},
-    {"gif", "Animated GIF", "gif", "gif", "gif", "", false},
-    {"png", "PNG sequence", "png", "null", "png", "", true},
-    {"tif", "TIFF sequence", "tif,tiff", "null", "tiff", "", true},
-    {"jpg", "JPEG sequence", "jpg,jpeg", "null", "mjpeg", "", true},
+    {"gif", QT_TRANSLATE_NOOP("NLECore", "Animated GIF"), "gif", "gif", "gif", "", false},
+    {"png", QT_TRANSLATE_NOOP("NLECore", "PNG sequence"), "png", "null", "png", "", true},
+    {"tif", QT_TRANSLATE_NOOP("NLECore", "TIFF sequence"), "tif,tiff", "null", "tiff", "", true},
+    {"jpg", QT_TRANSLATE_NOOP("NLECore", "JPEG sequence"), "jpg,jpeg", "null", "mjpeg", "", true},
     {"wav", "WAV", "wav", "wav", "", "pcm", false},
     {"aiff", "AIFF", "aiff,aif", "aiff", "", "pcm", false},
     {"mp3", "MP3", "mp3", "mp3", "", "mp3", false},
-    {"m4a", "MPEG-4 sound", "m4a,m4b", "ipod", "", "aac,alac", false},
+    {"m4a", QT_TRANSLATE_NOOP("NLECore", "MPEG-4 sound"), "m4a,m4b", "ipod", "", "aac,alac", false},
     {"aac", "AAC", "aac", "adts", "", "aac", false},
     {"flac", "FLAC", "flac", "flac", "", "flac", false},
-    {"ogg", "Ogg sound", "ogg,oga", "ogg", "", "vorbis,opus,flac", false},
+    {"ogg", QT_TRANSLATE_NOOP("NLECore", "Ogg sound"), "ogg,oga", "ogg", "", "vorbis,opus,flac",
+     false},
     {"opus", "Opus", "opus", "opus", "", "opus", false},
-    {"wma", "Windows Media sound", "wma", "asf", "", "wmav2", false},
+    {"wma", QT_TRANSLATE_NOOP("NLECore", "Windows Media sound"), "wma", "asf", "", "wmav2", false},
 };
 
 /// Profiles that stand for pixels of their own.
@@ -237,7 +239,9 @@ std::vector<std::string> SplitNames(const char* names)
 bool HasAlpha(const std::string& pixelFormat)
 {
     const AVPixFmtDescriptor* kind = av_pix_fmt_desc_get(PixelFormatOf(pixelFormat));
-    return kind && (kind->flags & AV_PIX_FMT_FLAG_ALPHA) != 0;
+    // Colours of a palette are there or not, which is no alpha of a film.
+    constexpr std::uint64_t both = AV_PIX_FMT_FLAG_ALPHA | AV_PIX_FMT_FLAG_PAL;
+    return kind && (kind->flags & both) == AV_PIX_FMT_FLAG_ALPHA;
 }
 
 int DepthOf(const std::string& pixelFormat)
@@ -376,6 +380,17 @@ const std::vector<EncodePreset>& EncodePresets()
         options.alpha = 1;
         return options;
     };
+    const auto forArchives = [](EncodeOptions options) {
+        options.speed = "slow";
+        options.quality = 16;
+        options.audioBitRate = 320000;
+        return options;
+    };
+    const auto lossless = [](EncodeOptions options) {
+        options.rateControl = NLERate_Lossless;
+        options.pixelFormat = "yuv444p";
+        return options;
+    };
     const auto sound = [](const char* container, const char* audio, int bitRate,
                           const char* format) {
         return Changed(Film(container, kNoCodec, audio), [&](EncodeOptions& options) {
@@ -385,31 +400,25 @@ const std::vector<EncodePreset>& EncodePresets()
     };
     static const std::vector<EncodePreset> presets = {
         {"H.264", Film("mp4", "h264", "aac")},
-        {"H.264 for archives", Changed(Film("mp4", "h264", "aac"),
-                                       [](EncodeOptions& options) {
-                                           options.speed = "slow";
-                                           options.quality = 16;
-                                           options.audioBitRate = 320000;
-                                       })},
-        {"H.264 for streaming", Changed(Film("mp4", "h264", "aac"),
-                                        [](EncodeOptions& options) {
-                                            options.rateControl = NLERate_Bitrate;
-                                            options.videoBitRate = 8000000;
-                                            options.maxBitRate = 10000000;
-                                            options.bufferSize = 16000000;
-                                            options.gop = 50;
-                                        })},
-        {"H.264 lossless", Changed(Film("mkv", "h264", "flac"),
-                                   [](EncodeOptions& options) {
-                                       options.rateControl = NLERate_Lossless;
-                                       options.pixelFormat = "yuv444p";
-                                   })},
+        {QT_TRANSLATE_NOOP("NLECore", "H.264 for archives"),
+         forArchives(Film("mp4", "h264", "aac"))},
+        {QT_TRANSLATE_NOOP("NLECore", "H.264 for streaming"),
+         Changed(Film("mp4", "h264", "aac"),
+                 [](EncodeOptions& options) {
+                     options.rateControl = NLERate_Bitrate;
+                     options.videoBitRate = 8000000;
+                     options.maxBitRate = 10000000;
+                     options.bufferSize = 16000000;
+                     options.gop = 50;
+                 })},
+        {QT_TRANSLATE_NOOP("NLECore", "H.264 lossless"), lossless(Film("mkv", "h264", "flac"))},
         {"H.265", Film("mp4", "hevc", "aac")},
-        {"H.265 10 bits", Changed(Film("mp4", "hevc", "aac"),
-                                  [](EncodeOptions& options) { options.bitDepth = 10; })},
+        {QT_TRANSLATE_NOOP("NLECore", "H.265 10 bits"),
+         Changed(Film("mp4", "hevc", "aac"),
+                 [](EncodeOptions& options) { options.bitDepth = 10; })},
         {"AV1", Film("webm", "av1", "opus")},
         {"VP9", Film("webm", "vp9", "opus")},
-        {"VP9 with alpha", transparent(Film("webm", "vp9", "opus"))},
+        {QT_TRANSLATE_NOOP("NLECore", "VP9 with alpha"), transparent(Film("webm", "vp9", "opus"))},
         {"ProRes 422 Proxy", profiled("mov", "prores", "pcm", "proxy")},
         {"ProRes 422 LT", profiled("mov", "prores", "pcm", "lt")},
         {"ProRes 422", profiled("mov", "prores", "pcm", "standard")},
@@ -420,22 +429,24 @@ const std::vector<EncodePreset>& EncodePresets()
         {"FFV1", Film("mkv", "ffv1", "flac")},
         {"QuickTime Animation", transparent(Film("mov", "qtrle", "pcm"))},
         {"QuickTime PNG", transparent(Film("mov", "png", "pcm"))},
-        {"PNG sequence", transparent(Film("png", "png", kNoCodec))},
-        {"TIFF sequence 16 bits", Changed(Film("tif", "tiff", kNoCodec),
-                                          [](EncodeOptions& options) { options.bitDepth = 16; })},
-        {"MPEG-2 interlaced", Changed(Film("mpg", "mpeg2video", "mp2"),
-                                      [](EncodeOptions& options) {
-                                          options.rateControl = NLERate_Bitrate;
-                                          options.videoBitRate = 8000000;
-                                          options.maxBitRate = 9000000;
-                                          options.bufferSize = 1835008; // as players of discs have
-                                          options.fieldOrder = NLEField_TopFirst;
-                                          options.bFrames = 2;
-                                      })},
+        {QT_TRANSLATE_NOOP("NLECore", "PNG sequence"), transparent(Film("png", "png", kNoCodec))},
+        {QT_TRANSLATE_NOOP("NLECore", "TIFF sequence 16 bits"),
+         Changed(Film("tif", "tiff", kNoCodec),
+                 [](EncodeOptions& options) { options.bitDepth = 16; })},
+        {QT_TRANSLATE_NOOP("NLECore", "MPEG-2 interlaced"),
+         Changed(Film("mpg", "mpeg2video", "mp2"),
+                 [](EncodeOptions& options) {
+                     options.rateControl = NLERate_Bitrate;
+                     options.videoBitRate = 8000000;
+                     options.maxBitRate = 9000000;
+                     options.bufferSize = 1835008; // as players of discs have
+                     options.fieldOrder = NLEField_TopFirst;
+                     options.bFrames = 2;
+                 })},
         {"MP3", sound("mp3", "mp3", 320000, "")},
         {"AAC", sound("m4a", "aac", 256000, "")},
         {"WAV", sound("wav", "pcm", 0, "s16")},
-        {"WAV 24 bits", sound("wav", "pcm", 0, "s24")},
+        {QT_TRANSLATE_NOOP("NLECore", "WAV 24 bits"), sound("wav", "pcm", 0, "s24")},
         {"FLAC", sound("flac", "flac", 0, "s24")},
     };
     return presets;

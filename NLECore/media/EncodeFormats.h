@@ -104,7 +104,7 @@ int DepthOf(const std::string& pixelFormat);
 /// against it.
 QString ComplaintAbout(const EncodeOptions& options, const ContainerFormat& container);
 
-/// Settings that belong together, under a name.
+/// Settings that belong together, under a name, which is its title in English too.
 struct EncodePreset
 {
     const char* name;

@@ -49,7 +49,7 @@ bool TellsColours(AVCodecID id)
 bool IsRgb(AVPixelFormat format)
 {
     const AVPixFmtDescriptor* kind = av_pix_fmt_desc_get(format);
-    return kind && (kind->flags & AV_PIX_FMT_FLAG_RGB) != 0;
+    return kind && (kind->flags & (AV_PIX_FMT_FLAG_RGB | AV_PIX_FMT_FLAG_PAL)) != 0;
 }
 
 void SetColours(AVCodecContext* codec)

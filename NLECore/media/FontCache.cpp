@@ -93,7 +93,7 @@ void FontCache::Save()
     }
     xml.writeEndDocument();
     // On a full disk the file stays as it was.
-    if (!xml.hasError() && file.commit())
+    if (!xml.hasError() && file.flush() && file.commit())
         m_changed = false;
 }
 

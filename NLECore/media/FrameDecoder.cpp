@@ -873,7 +873,7 @@ QImage FrameDecoder::Picture(int frame, const QSize& size, const Deinterlacing& 
         return {};
     if (d->source) {
         d->sourceFrame = frame;
-        const QImage picture = d->source->Picture(frame, size);
+        const QImage picture = d->source->Picture(frame, size, deinterlacing, depth);
         return depth == PictureDepth::Deep ? picture.convertToFormat(QImage::Format_RGBA64)
                                            : picture;
     }

@@ -44,14 +44,18 @@ public:
     {
     }
 
-    QImage Picture(int frame, const QSize& size) override
+    QImage Picture(int frame, const QSize& size, const Deinterlacing& deinterlacing,
+                   PictureDepth depth) override
     {
         std::int64_t local = frame;
         for (int i = 0; i < int(m_info->parts.size()); ++i) {
             const std::int64_t count = FramesOf(*m_info->parts[size_t(i)], m_info->frameRate);
             const bool isLast = i + 1 == int(m_info->parts.size());
-            if (local < count || isLast)
-                return OpenPart(i) ? m_decoder->Picture(OwnFrame(i, local), size) : QImage();
+            if (local < count || isLast) {
+                return OpenPart(i)
+                           ? m_decoder->Picture(OwnFrame(i, local), size, deinterlacing, depth)
+                           : QImage();
+            }
             local -= count;
         }
         return {};

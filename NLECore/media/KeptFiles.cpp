@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QLockFile>
 #include <QRegularExpression>
 #include <QStandardPaths>
 
@@ -14,14 +15,25 @@ namespace {
 /// How long a file that is being written may take, in seconds; older ones were left behind.
 constexpr int kLongestWrite = 3600;
 
-/// Files that were named here, and those that become one: then their own part is not empty.
+const QLatin1String kLockSuffix(".lock");
+
+/// Files that were named here, and those that become one: then their own part is not empty. The key
+/// is the first part.
 QRegularExpression NamePattern(const QStringList& suffixes)
 {
     QStringList escaped;
     for (const QString& suffix : suffixes)
         escaped << QRegularExpression::escape(suffix);
-    return QRegularExpression(QStringLiteral("^[0-9a-f]{32}(?:%1)(\\.[A-Za-z0-9]{6})?$")
+    return QRegularExpression(QStringLiteral("^([0-9a-f]{32})(?:%1)(\\.[A-Za-z0-9]{6})?$")
                                   .arg(escaped.join(QLatin1Char('|'))));
+}
+
+std::unique_ptr<QLockFile> NewLock(const QString& folder, const QString& key)
+{
+    auto lock = std::make_unique<QLockFile>(folder + QLatin1Char('/') + key + kLockSuffix);
+    // It is nobody's only when its process has ended, however long that works.
+    lock->setStaleLockTime(0);
+    return lock;
 }
 
 } // namespace
@@ -78,7 +90,7 @@ bool KeptFiles::MakeRoomFor(const QString& path) const
         const QRegularExpressionMatch name = pattern.match(file.fileName());
         if (!name.hasMatch() || file.filePath() == path)
             continue;
-        const bool isWhole = name.captured(1).isEmpty();
+        const bool isWhole = name.captured(2).isEmpty();
         used += file.size();
         if (isWhole ? used > place.quota : file.lastModified() < oldest) {
             QFile::remove(file.filePath());
@@ -86,6 +98,30 @@ bool KeptFiles::MakeRoomFor(const QString& path) const
         }
     }
     return true;
+}
+
+std::unique_ptr<QLockFile> KeptFiles::LockOf(const ContentKey& key) const
+{
+    const QString folder = Current().folder;
+    return folder.isEmpty() ? nullptr : NewLock(folder, ToText(key));
+}
+
+void KeptFiles::RemoveLeftovers() const
+{
+    const QString folder = Current().folder;
+    if (folder.isEmpty())
+        return;
+    // The lock of a process that has ended is one as well, and goes when it is taken and given
+    // back.
+    const QRegularExpression pattern = NamePattern(m_suffixes + QStringList(kLockSuffix));
+    for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files)) {
+        const QRegularExpressionMatch name = pattern.match(file.fileName());
+        const bool isLock = file.fileName().endsWith(kLockSuffix);
+        if (!name.hasMatch() || (name.captured(2).isEmpty() && !isLock))
+            continue;
+        if (NewLock(folder, name.captured(1))->tryLock(0) && !isLock)
+            QFile::remove(file.filePath());
+    }
 }
 
 void KeptFiles::NoteUse(const QString& path)

@@ -7,7 +7,10 @@
 #include <QStringList>
 
 #include <cstdint>
+#include <memory>
 #include <mutex>
+
+class QLockFile;
 
 namespace nle {
 
@@ -30,6 +33,12 @@ public:
     bool Prepare() const;
     /// Removes others until the quota holds. False, and it is gone, when \a path alone is larger.
     bool MakeRoomFor(const QString& path) const;
+    /// A lock, still open, to be held while the file of a key is written for longer than a moment:
+    /// then no other process writes it, and RemoveLeftovers() leaves it. Null when nothing is kept.
+    std::unique_ptr<QLockFile> LockOf(const ContentKey& key) const;
+    /// Removes what was left half written by processes that have ended. Only for files that are
+    /// written under a lock.
+    void RemoveLeftovers() const;
     /// Notes the use of a file in its time of change.
     static void NoteUse(const QString& path);
 

@@ -1,20 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/LoudnessMeter.h"
 
-#include "NLECore/media/MediaFile_p.h"
+#include "NLECore/media/FilterGraph_p.h"
 
 #include <QByteArray>
 
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-
-extern "C" {
-#include <libavfilter/avfilter.h>
-#include <libavfilter/buffersink.h>
-#include <libavfilter/buffersrc.h>
-#include <libavutil/channel_layout.h>
-}
 
 namespace nle {
 
@@ -23,77 +16,42 @@ namespace {
 /// Samples for each, between which a peak may stand.
 constexpr int kOversampling = 4;
 
-struct GraphFreer
-{
-    void operator()(AVFilterGraph* graph) const { avfilter_graph_free(&graph); }
-};
-
-/// One filter of libavfilter that sound goes into.
+/// Filters that sound goes into.
 class Measuring
 {
 public:
-    bool Build(const QByteArray& filter, int sampleRate, int channels)
+    bool Build(const QByteArray& filters, int sampleRate, int channels)
     {
         m_sampleRate = sampleRate;
         m_channels = channels;
-        m_graph.reset(avfilter_graph_alloc());
-        AVChannelLayout layout;
-        av_channel_layout_default(&layout, channels);
-        char name[64] = {};
-        av_channel_layout_describe(&layout, name, sizeof(name));
-        const QByteArray rate = QByteArray::number(sampleRate);
-        const QByteArray whole = "abuffer@in=time_base=1/" + rate + ":sample_rate=" + rate +
-                                 ":sample_fmt=flt:channel_layout=" + QByteArray(name) + "," +
-                                 filter + ",abuffersink@out";
-        AVFilterInOut* inputs = nullptr;
-        AVFilterInOut* outputs = nullptr;
-        const bool isParsed =
-            m_graph &&
-            avfilter_graph_parse2(m_graph.get(), whole.constData(), &inputs, &outputs) >= 0 &&
-            avfilter_graph_config(m_graph.get(), nullptr) >= 0;
-        avfilter_inout_free(&inputs);
-        avfilter_inout_free(&outputs);
-        m_input = isParsed ? avfilter_graph_get_filter(m_graph.get(), "abuffer@in") : nullptr;
-        m_output = isParsed ? avfilter_graph_get_filter(m_graph.get(), "abuffersink@out") : nullptr;
-        return m_input && m_output;
+        return m_graph.BuildSound(filters, sampleRate, channels);
     }
 
     /// Gives what comes out to \a take; null \a samples end the sound.
     template <typename Take>
     bool Add(const float* samples, int count, Take take)
     {
-        FramePtr frame(av_frame_alloc());
-        if (!m_input || !frame)
+        const FramePtr frame(av_frame_alloc());
+        if (!frame || (samples && !Fill(*frame, samples, count)) ||
+            !m_graph.Add(samples ? frame.get() : nullptr))
             return false;
-        if (samples && !Fill(*frame, samples, count))
-            return false;
-        if (av_buffersrc_add_frame(m_input, samples ? frame.get() : nullptr) < 0)
-            return false;
-        while (av_buffersink_get_frame(m_output, frame.get()) >= 0) {
+        while (m_graph.Take(*frame))
             take(*frame);
-            av_frame_unref(frame.get());
-        }
         return true;
     }
 
 private:
     bool Fill(AVFrame& frame, const float* samples, int count)
     {
-        frame.format = AV_SAMPLE_FMT_FLT;
-        frame.sample_rate = m_sampleRate;
-        frame.nb_samples = count;
+        if (!AllocateSound(frame, m_sampleRate, m_channels, count))
+            return false;
         frame.pts = m_next;
         m_next += count;
-        av_channel_layout_default(&frame.ch_layout, m_channels);
-        if (av_frame_get_buffer(&frame, 0) < 0)
-            return false;
         std::memcpy(frame.data[0], samples, std::size_t(count) * std::size_t(m_channels) * 4);
         return true;
     }
 
-    std::unique_ptr<AVFilterGraph, GraphFreer> m_graph;
-    AVFilterContext* m_input = nullptr;
-    AVFilterContext* m_output = nullptr;
+    FilterGraph m_graph;
     int m_sampleRate = 0;
     int m_channels = 0;
     std::int64_t m_next = 0;

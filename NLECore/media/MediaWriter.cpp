@@ -2,6 +2,7 @@
 #include "NLECore/media/MediaWriter.h"
 
 #include "NLECore/media/EncoderSetup_p.h"
+#include "NLECore/media/FilterGraph_p.h"
 #include "NLECore/media/FrameDecoder.h"
 #include "NLECore/media/MediaFile_p.h"
 #include "NLECore/media/PictureFeeder_p.h"
@@ -36,6 +37,11 @@ constexpr int kBufferBytes = 1 << 16;
 /// Rates that sound is given where the one asked for is not taken, in samples a second.
 constexpr std::array kUsualRates = {8000,  11025, 12000, 16000, 22050, 24000,
                                     32000, 44100, 48000, 88200, 96000, 192000};
+
+/// All 256 colours go to what is opaque; the pattern of the dither stands still.
+constexpr const char* kPaletteFilters =
+    "split[colours][picture];[colours]palettegen=stats_mode=single:reserve_transparent=0[palette];"
+    "[picture][palette]paletteuse=new=1:dither=bayer:bayer_scale=3";
 
 struct FormatFreer
 {
@@ -182,6 +188,8 @@ struct MediaWriter::Private
     Track audio;
     int leadIn = 0; ///< samples at the beginning that are still to be left out
     std::unique_ptr<PictureFeeder> feeder;
+    FilterGraph palettes; ///< chooses the colours of each picture, for a codec of few
+    FramePtr paletted{av_frame_alloc()};
     ResamplerPtr resampler;
     std::unique_ptr<AVAudioFifo, FifoFreer> fifo;
 
@@ -189,7 +197,11 @@ struct MediaWriter::Private
 
     bool Check(int code)
     {
-        return code >= 0 || Fail(WriterError::Kind::Settings, AvErrorText(code), IsFull(code));
+        if (code >= 0)
+            return true;
+        const bool isFull = IsFull(code);
+        return Fail(isFull ? WriterError::Kind::File : WriterError::Kind::Settings,
+                    AvErrorText(isFull ? AVERROR(ENOSPC) : code), isFull);
     }
 
     /// Whether a call that gave \a code failed as there is no more room.
@@ -203,6 +215,10 @@ struct MediaWriter::Private
         error = {kind, reason, isFull};
         return false;
     }
+    bool FailSequence()
+    {
+        return Fail(WriterError::Kind::File, sequence->Error(), sequence->IsDiskFull());
+    }
     bool Fail(const char* reason)
     {
         return Fail(WriterError::Kind::Settings, QString::fromLatin1(reason));
@@ -212,7 +228,7 @@ struct MediaWriter::Private
     {
         if (plan.isSequence) {
             sequence = std::make_unique<PictureSequence>(file.fileName());
-            return sequence->Open() || Fail(WriterError::Kind::File, sequence->Error());
+            return sequence->Open() || FailSequence();
         }
         return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
                Fail(WriterError::Kind::File, file.errorString());
@@ -278,11 +294,25 @@ struct MediaWriter::Private
             qstrcmp(plan.muxer->name, "mp4") == 0 || qstrcmp(plan.muxer->name, "mov") == 0;
         if (isMovie && codec->codec_id == AV_CODEC_ID_HEVC)
             video.stream->codecpar->codec_tag = MKTAG('h', 'v', 'c', '1'); // else Apple plays none
+        const bool hasPalettes = codec->pix_fmt == AV_PIX_FMT_PAL8;
         feeder = std::make_unique<PictureFeeder>(PictureFeeder::Target{
-            settings.size, codec->pix_fmt, codec->colorspace, codec->color_trc,
-            codec->color_primaries, codec->color_range == AVCOL_RANGE_JPEG,
+            settings.size, hasPalettes ? AV_PIX_FMT_0RGB32 : codec->pix_fmt, codec->colorspace,
+            codec->color_trc, codec->color_primaries, codec->color_range == AVCOL_RANGE_JPEG,
             NLEFieldOrder(settings.options.fieldOrder)});
-        return true;
+        return !hasPalettes || BuildPalettes(*codec) || Fail("no filter for palettes");
+    }
+
+    /// Each picture has a palette of its own: that of a whole film would need all of its pictures
+    /// before the first one can be written.
+    bool BuildPalettes(const AVCodecContext& codec)
+    {
+        const QString options = QStringLiteral("video_size=%1x%2:pix_fmt=%3:time_base=%4/%5")
+                                    .arg(codec.width)
+                                    .arg(codec.height)
+                                    .arg(AV_PIX_FMT_0RGB32)
+                                    .arg(codec.time_base.num)
+                                    .arg(codec.time_base.den);
+        return palettes.BuildPictures(options.toLatin1(), kPaletteFilters, codec.thread_count);
     }
 
     bool WriteVideo(AVFrame* frame)
@@ -291,7 +321,20 @@ struct MediaWriter::Private
             return Fail("a picture cannot be converted to the codec's pixels");
         frame->pts = video.next++;
         frame->quality = video.codec->global_quality;
-        return Encode(video, frame);
+        return palettes ? EncodePaletted(frame) : Encode(video, frame);
+    }
+
+    /// Encodes \a frame by a palette, or what the filter holds back when it is null.
+    bool EncodePaletted(const AVFrame* frame)
+    {
+        const FramePtr shared(frame ? av_frame_clone(frame) : nullptr);
+        if (!paletted || !palettes.Add(shared.get()))
+            return Fail("a picture finds no palette");
+        while (palettes.Take(*paletted)) {
+            if (!Encode(video, paletted.get()))
+                return false;
+        }
+        return true;
     }
 
     bool AddAudio()
@@ -335,7 +378,7 @@ struct MediaWriter::Private
             return Fail("nothing to write into this container");
         const int code = avformat_write_header(format.get(), nullptr);
         if (code < 0 && output && output->error < 0)
-            return Fail(WriterError::Kind::File, AvErrorText(output->error));
+            return Fail(WriterError::Kind::File, AvErrorText(output->error), IsFull(code));
         if (!Check(code))
             return false;
         settings.settled =
@@ -378,7 +421,7 @@ struct MediaWriter::Private
             if (plan.isSequence) {
                 const auto* data = reinterpret_cast<const char*>(packet->data);
                 if (!sequence->Append(data, packet->size))
-                    return Fail(WriterError::Kind::File, sequence->Error());
+                    return FailSequence();
                 continue;
             }
             if (!Check(av_interleaved_write_frame(format.get(), packet.get())))
@@ -444,8 +487,10 @@ bool MediaWriter::Try(const QString& path, WriterSettings& settings, WriterError
     const std::unique_ptr<MediaWriter> writer = Open(trial, settings, error);
     if (!writer)
         return false;
-    if (!WriteTrial(*writer))
-        return fail(WriterError::Kind::Settings, writer->Error().text);
+    if (!WriteTrial(*writer)) {
+        *error = writer->Error();
+        return false;
+    }
     const QString first = writer->IsSequence() ? PictureSequence::FileOf(trial, 0) : trial;
     if (!Holds(ProbeMedia(first, nullptr), *writer))
         return fail(WriterError::Kind::Settings,
@@ -521,12 +566,14 @@ bool MediaWriter::Finish()
 {
     if (d->audio.codec && !(d->DrainSound(true) && d->Encode(d->audio, nullptr)))
         return false;
+    if (d->palettes && !d->EncodePaletted(nullptr))
+        return false;
     if (d->video.codec && !d->Encode(d->video, nullptr))
         return false;
     if (!d->Check(av_write_trailer(d->format.get())))
         return false;
     if (d->plan.isSequence)
-        return d->sequence->Commit() || d->Fail(WriterError::Kind::File, d->sequence->Error());
+        return d->sequence->Commit() || d->FailSequence();
     avio_flush(d->output.get());
     if (!d->Check(d->output->error))
         return false;
@@ -541,6 +588,8 @@ const WriterError& MediaWriter::Error() const
 
 HRESULT RefuseWriting(HRESULT result, const QString& path, const WriterError& error)
 {
+    if (error.text.isEmpty()) // what was to be written is not there
+        return Refuse(result, NLEReason_Unknown, path);
     NLEReason reason = NLEReason_SettingsRefused;
     if (error.isFull)
         reason = NLEReason_DiskFull;

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/PictureScaler_p.h"
 
+#include "NLECore/media/WorkThreads.h"
+
 #include <QRgba64>
 #include <QTransform>
 
 #include <cstring>
 
 extern "C" {
+#include <libavutil/opt.h>
 #include <libavutil/pixdesc.h>
 #include <libswscale/swscale.h>
 }
@@ -26,6 +29,10 @@ constexpr int kFullColour = SWS_FULL_CHR_H_INT | SWS_FULL_CHR_H_INP | SWS_ACCURA
 // Three quarters of a level of luma, in the scaler's units. The quick conversion cuts off what is
 // below a whole level, several times over. A whole level added beforehand would lift black.
 constexpr int kLostLuma = 192;
+
+// Pixels from which several threads are worth their waking.
+constexpr std::int64_t kLargePicture = std::int64_t(640) * 480;
+constexpr int kMostThreads = 4;
 
 int ColourMatrix(const AVFrame& frame)
 {
@@ -82,6 +89,23 @@ void Join(const Components& from, QRgb* to, int count)
     }
 }
 
+/// A frame whose pixels are \a pixels, which stay their owner's; null without memory.
+FramePtr FrameOver(std::uint8_t* pixels, int stride, const QSize& size, bool isDeep)
+{
+    const auto keep = [](void*, std::uint8_t*) {};
+    FramePtr frame(av_frame_alloc());
+    if (!frame)
+        return nullptr;
+    frame->format = isDeep ? AV_PIX_FMT_RGBA64 : AV_PIX_FMT_BGRA;
+    frame->width = size.width();
+    frame->height = size.height();
+    frame->data[0] = pixels;
+    frame->linesize[0] = stride;
+    const size_t bytes = size_t(stride) * size_t(size.height());
+    frame->buf[0] = av_buffer_create(pixels, bytes, keep, nullptr, 0);
+    return frame->buf[0] ? std::move(frame) : nullptr;
+}
+
 } // namespace
 
 AVPixelFormat ModernFormat(AVPixelFormat format, bool* isFullRange)
@@ -131,9 +155,50 @@ bool IsPlainYuv(const AVFrame& frame)
     return kind && (kind->flags & unfit) == 0 && kind->nb_components == 3;
 }
 
-PictureScaler::~PictureScaler()
+QImage Upright(QImage picture, const MediaStream& stream)
 {
-    sws_freeContext(m_context);
+    if (stream.mirrored)
+        picture = picture.mirrored(true, false);
+    return stream.rotation != 0 ? picture.transformed(QTransform().rotate(stream.rotation))
+                                : picture;
+}
+
+QImage ConvertForeign(const QImage& picture, const ForeignColours& colours)
+{
+    QImage image(picture.size(), QImage::Format_ARGB32);
+    if (image.isNull())
+        return image;
+    const ColourConverter converter(colours);
+    const auto width = size_t(picture.width());
+    std::vector<std::uint16_t> codes(4 * width);
+    std::uint16_t* const alpha = codes.data() + 3 * width;
+    const Components row = {codes.data(), codes.data() + width, codes.data() + 2 * width, alpha};
+    const auto code = [](std::uint32_t component) {
+        return std::uint16_t((component * ColourConverter::kHighest + UINT16_MAX / 2) / UINT16_MAX);
+    };
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* const from = reinterpret_cast<const QRgba64*>(picture.constScanLine(y));
+        for (size_t x = 0; x < width; ++x) {
+            row.red[x] = code(from[x].red());
+            row.green[x] = code(from[x].green());
+            row.blue[x] = code(from[x].blue());
+            alpha[x] = std::uint16_t(from[x].alpha() >> (16 - ColourConverter::kBits));
+        }
+        converter.Convert(row.red, row.green, row.blue, picture.width());
+        Join(row, reinterpret_cast<QRgb*>(image.scanLine(y)), picture.width());
+    }
+    return image;
+}
+
+bool PictureScaler::Shape::operator==(const Shape& other) const
+{
+    return sourceSize == other.sourceSize && source == other.source &&
+           targetSize == other.targetSize && target == other.target;
+}
+
+void PictureScaler::ContextFreer::operator()(SwsContext* context) const
+{
+    sws_freeContext(context);
 }
 
 QImage PictureScaler::Convert(const AVFrame& frame, const MediaStream& stream, const QSize& size,
@@ -151,25 +216,47 @@ QImage PictureScaler::Convert(const AVFrame& frame, const MediaStream& stream, c
         image = image.scaled(upright, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                     .convertToFormat(image.format());
     }
-    if (stream.mirrored)
-        image = image.mirrored(true, false);
-    if (stream.rotation != 0)
-        image = image.transformed(QTransform().rotate(stream.rotation));
-    return image;
+    return Upright(image, stream);
+}
+
+PictureScaler::ContextPtr PictureScaler::MakeContext(const Shape& shape)
+{
+    const QSize& from = shape.sourceSize;
+    const QSize& to = shape.targetSize;
+    const bool isShrinking = to.width() <= from.width() && to.height() <= from.height();
+    const bool isQuick = shape.target == AV_PIX_FMT_BGRA;
+    const bool isLarge = from.width() * std::int64_t(from.height()) >= kLargePicture;
+    const std::pair<const char*, std::int64_t> options[] = {
+        {"srcw", from.width()},
+        {"srch", from.height()},
+        {"src_format", shape.source},
+        {"dstw", to.width()},
+        {"dsth", to.height()},
+        {"dst_format", shape.target},
+        {"sws_flags", (isShrinking ? SWS_BILINEAR : SWS_BICUBIC) | (isQuick ? 0 : kFullColour)},
+        {"threads", isLarge ? WorkThreads(kMostThreads) : 1},
+    };
+    ContextPtr context(sws_alloc_context());
+    for (const auto& [name, value] : options) {
+        if (!context || av_opt_set_int(context.get(), name, value, 0) < 0)
+            return nullptr;
+    }
+    return sws_init_context(context.get(), nullptr, nullptr) < 0 ? nullptr : std::move(context);
 }
 
 bool PictureScaler::Prepare(const AVFrame& frame, const QSize& size, AVPixelFormat target)
 {
     bool isFullRange = frame.color_range == AVCOL_RANGE_JPEG;
     const AVPixelFormat format = ModernFormat(AVPixelFormat(frame.format), &isFullRange);
-    const bool isShrinking = size.width() <= frame.width && size.height() <= frame.height;
-    const bool isQuick = target == AV_PIX_FMT_BGRA;
-    const int flags = (isShrinking ? SWS_BILINEAR : SWS_BICUBIC) | (isQuick ? 0 : kFullColour);
-    m_context = sws_getCachedContext(m_context, frame.width, frame.height, format, size.width(),
-                                     size.height(), target, flags, nullptr, nullptr, nullptr);
-    if (m_context == nullptr)
+    const Shape shape = {{frame.width, frame.height}, format, size, target};
+    if (!m_context || !(shape == m_shape)) {
+        m_context = MakeContext(shape);
+        m_shape = shape;
+    }
+    if (!m_context)
         return false;
-    SetColours(frame, isFullRange, isQuick && !IsRgb(format) ? kLostLuma : 0);
+    const bool losesLuma = target == AV_PIX_FMT_BGRA && !IsRgb(format);
+    SetColours(frame, isFullRange, losesLuma ? kLostLuma : 0);
     return true;
 }
 
@@ -183,13 +270,13 @@ void PictureScaler::SetColours(const AVFrame& frame, bool isFullRange, int brigh
     int formerBrightness = 0;
     int contrast = 0;
     int saturation = 0;
-    if (sws_getColorspaceDetails(m_context, &source, &sourceRange, &target, &targetRange,
+    if (sws_getColorspaceDetails(m_context.get(), &source, &sourceRange, &target, &targetRange,
                                  &formerBrightness, &contrast, &saturation) < 0)
         return;
     const bool isSame = sourceRange == int(isFullRange) && formerBrightness == brightness &&
                         std::memcmp(source, wanted, 4 * sizeof(int)) == 0;
     if (!isSame) {
-        sws_setColorspaceDetails(m_context, wanted, isFullRange ? 1 : 0, wanted, targetRange,
+        sws_setColorspaceDetails(m_context.get(), wanted, isFullRange ? 1 : 0, wanted, targetRange,
                                  brightness, contrast, saturation);
     }
 }
@@ -206,9 +293,8 @@ QImage PictureScaler::Scale(const AVFrame& frame, const QSize& size, PictureDept
     if (!isAligned)
         m_scratch.resize(size_t(stride) * size_t(size.height()) + kLineAlignment);
     std::uint8_t* const pixels = isAligned ? image.bits() : m_scratch.data();
-    std::uint8_t* const planes[4] = {pixels, nullptr, nullptr, nullptr};
-    const int strides[4] = {stride, 0, 0, 0};
-    if (sws_scale(m_context, frame.data, frame.linesize, 0, frame.height, planes, strides) <= 0)
+    const FramePtr target = FrameOver(pixels, stride, size, isDeep);
+    if (!target || sws_scale_frame(m_context.get(), target.get(), &frame) < 0)
         return {};
     for (int y = 0; !isAligned && y < size.height(); ++y)
         std::memcpy(image.scanLine(y), pixels + size_t(y) * size_t(stride), size_t(lineBytes));
@@ -236,8 +322,7 @@ bool PictureScaler::ScaleApart(const AVFrame& frame, const QSize& size)
         }
     }
     return Prepare(frame, size, format) &&
-           sws_scale(m_context, frame.data, frame.linesize, 0, frame.height, m_apart->data,
-                     m_apart->linesize) > 0;
+           sws_scale_frame(m_context.get(), m_apart.get(), &frame) >= 0;
 }
 
 QImage PictureScaler::ScaleForeign(const AVFrame& frame, const QSize& size, PictureDepth depth,

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QSize>
 
+#include <memory>
 #include <vector>
 
 struct SwsContext;
@@ -20,22 +21,38 @@ AVColorSpace ColoursOf(const AVFrame& frame);
 /// Whether a picture is of brightness and two colour differences, without alpha.
 bool IsPlainYuv(const AVFrame& frame);
 
+/// \a picture mirrored and turned as \a stream says.
+QImage Upright(QImage picture, const MediaStream& stream);
+/// \a picture, of Format_RGBA64 in \a colours, as Format_ARGB32 in those of a project.
+QImage ConvertForeign(const QImage& picture, const ForeignColours& colours);
+
 /// Turns decoded pictures into upright images. Keeps its tables for the next picture of the same
-/// kind. One object serves one thread at a time.
+/// kind. One object serves one thread at a time; large pictures it scales in bands side by side.
 class PictureScaler
 {
 public:
-    PictureScaler() = default;
-    ~PictureScaler();
-    PictureScaler(const PictureScaler&) = delete;
-    PictureScaler& operator=(const PictureScaler&) = delete;
-
     /// \a frame mirrored and turned as \a stream says and scaled to \a size, in the colours of a
     /// project; null when there is no conversion or no memory for it.
     QImage Convert(const AVFrame& frame, const MediaStream& stream, const QSize& size,
                    PictureDepth depth = PictureDepth::Usual);
 
 private:
+    /// What the context was made for.
+    struct Shape
+    {
+        QSize sourceSize;
+        AVPixelFormat source = AV_PIX_FMT_NONE;
+        QSize targetSize;
+        AVPixelFormat target = AV_PIX_FMT_NONE;
+        bool operator==(const Shape& other) const;
+    };
+    struct ContextFreer
+    {
+        void operator()(SwsContext* context) const;
+    };
+    using ContextPtr = std::unique_ptr<SwsContext, ContextFreer>;
+
+    static ContextPtr MakeContext(const Shape& shape);
     bool Prepare(const AVFrame& frame, const QSize& size, AVPixelFormat target);
     void SetColours(const AVFrame& frame, bool isFullRange, int brightness);
     QImage Scale(const AVFrame& frame, const QSize& size, PictureDepth depth);
@@ -44,7 +61,8 @@ private:
     /// Components apart, as the converter takes them.
     bool ScaleApart(const AVFrame& frame, const QSize& size);
 
-    SwsContext* m_context = nullptr;
+    ContextPtr m_context;
+    Shape m_shape;
     std::vector<std::uint8_t> m_scratch;
     FramePtr m_apart;
     std::unique_ptr<const ColourConverter> m_converter;

@@ -35,9 +35,10 @@ QString PictureSequence::FileOf(const QString& path, int number)
 
 PictureSequence::PictureSequence(const QString& path) : m_path(path) {}
 
-bool PictureSequence::Fail(const QString& reason)
+bool PictureSequence::Fail(const QFileDevice& file)
 {
-    m_error = reason;
+    m_error = file.errorString();
+    m_isDiskFull = file.error() == QFileDevice::ResourceError;
     return false;
 }
 
@@ -46,17 +47,16 @@ bool PictureSequence::Open()
     const QFileInfo file(m_path);
     m_folder = std::make_unique<SideFolder>(file, "sequence");
     m_count = 0;
-    if (!(*m_folder)->isValid())
-        return Fail((*m_folder)->errorString());
+    m_error = (*m_folder)->errorString();
     m_inside = (*m_folder)->filePath(file.fileName());
-    return true;
+    return (*m_folder)->isValid();
 }
 
 bool PictureSequence::Append(const char* data, int size)
 {
     QFile file(FileOf(m_inside, m_count));
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(data, size) != size)
-        return Fail(file.errorString());
+        return Fail(file);
     ++m_count;
     return true;
 }
@@ -68,7 +68,7 @@ bool PictureSequence::Commit()
         QFile::remove(target);
         QFile file(FileOf(m_inside, number));
         if (!file.rename(target))
-            return Fail(file.errorString());
+            return Fail(file);
     }
     return true;
 }

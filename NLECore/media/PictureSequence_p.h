@@ -31,14 +31,16 @@ public:
     bool Commit();
     /// What went wrong last.
     const QString& Error() const { return m_error; }
+    bool IsDiskFull() const { return m_isDiskFull; }
 
 private:
-    bool Fail(const QString& reason);
+    bool Fail(const QFileDevice& file);
 
     const QString m_path;
     std::unique_ptr<SideFolder> m_folder;
     QString m_inside; ///< the path of the pictures until they are moved
     QString m_error;
+    bool m_isDiskFull = false;
     int m_count = 0;
 };
 

@@ -5,6 +5,7 @@
 #include "NLECore/media/JoinedMedia_p.h"
 #include "NLECore/media/MediaFile_p.h"
 #include "NLECore/media/PictureFormats_p.h"
+#include "NLECore/media/PictureScaler_p.h"
 #include "NLECore/media/StillPictures.h"
 #include "NLECore/media/StillReader_p.h"
 
@@ -33,7 +34,8 @@ public:
     }
 
     // The picture on show stays at hand, however many others pass through the cache.
-    QImage Picture(int /*frame*/, const QSize& size) override
+    QImage Picture(int /*frame*/, const QSize& size, const Deinterlacing& /*deinterlacing*/,
+                   PictureDepth /*depth*/) override
     {
         if (m_shown.size() != size)
             m_shown = Stills().Picture(m_still, size);
@@ -54,9 +56,19 @@ public:
     {
     }
 
-    QImage Picture(int frame, const QSize& size) override
+    // Stills do not tell that they are of two fields.
+    QImage Picture(int frame, const QSize& size, const Deinterlacing& deinterlacing,
+                   PictureDepth /*depth*/) override
     {
-        if (frame >= m_sequence.count)
+        const bool isDrawn = deinterlacing.mode == NLEDeinterlacing_Always;
+        QImage picture = isDrawn ? Drawn(frame, size, deinterlacing) : QImage();
+        return picture.isNull() ? Read(frame, size) : picture;
+    }
+
+private:
+    QImage Read(int frame, const QSize& size) const
+    {
+        if (frame < 0 || frame >= m_sequence.count)
             return {};
         auto info = std::make_shared<MediaInfo>(DescribePictureOf(*m_info, m_sequence, frame));
         StillPicture still = StillOf(info, m_info->videoStream);
@@ -64,9 +76,49 @@ public:
         return Stills().Picture(still, size);
     }
 
-private:
+    /// A picture with its lines as they are in the file.
+    struct Whole
+    {
+        QImage image;
+        FramePtr frame; ///< of the image's pixels
+        int number;
+
+        NumberedPicture Numbered() const { return {frame.get(), number}; }
+    };
+    Whole WholeOf(int frame) const
+    {
+        const MediaStream& stream = *m_info->Stream(m_info->videoStream);
+        Whole whole = {Read(frame, QSize(stream.width, stream.height)), nullptr, frame};
+        if (whole.image.isNull())
+            return whole;
+        whole.frame.reset(av_frame_alloc());
+        if (AVFrame* const view = whole.frame.get()) {
+            view->format = AV_PIX_FMT_RGB32;
+            view->width = whole.image.width();
+            view->height = whole.image.height();
+            view->data[0] = const_cast<std::uint8_t*>(whole.image.constBits());
+            view->linesize[0] = whole.image.bytesPerLine();
+        }
+        return whole;
+    }
+
+    QImage Drawn(int frame, const QSize& size, const Deinterlacing& deinterlacing)
+    {
+        const Whole picture = WholeOf(frame);
+        if (!picture.frame)
+            return {};
+        const Whole previous = WholeOf(frame - 1);
+        const Whole next = WholeOf(frame + 1);
+        const MediaStream upright;
+        const AVFrame* const drawn = m_deinterlacer.Draw(
+            previous.Numbered(), picture.Numbered(), next.Numbered(), upright, deinterlacing, 0);
+        return drawn != nullptr ? m_scaler.Convert(*drawn, upright, size) : QImage();
+    }
+
     const std::shared_ptr<const MediaInfo> m_info;
     const ImageSequence m_sequence;
+    Deinterlacer m_deinterlacer;
+    PictureScaler m_scaler;
 };
 
 } // namespace

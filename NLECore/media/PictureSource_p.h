@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "NLECore/media/MediaInfo.h"
+#include "NLECore/media/FrameDecoder.h"
 
 #include <QImage>
 #include <QSize>
@@ -24,9 +24,11 @@ public:
     /// Whether \a info describes what is read here and not as a film.
     static bool Reads(const MediaInfo& info);
 
-    /// Picture of \a frame (from 0) at \a size, which is not empty, upright, as Format_ARGB32 with
-    /// straight alpha; null past the end and when it cannot be read.
-    virtual QImage Picture(int frame, const QSize& size) = 0;
+    /// Picture of \a frame (from 0) at \a size, which is not empty, upright, with straight alpha;
+    /// null past the end and when it cannot be read. What has no more than 8 bits of a component,
+    /// and no fields, is the same for every \a deinterlacing and \a depth, as Format_ARGB32.
+    virtual QImage Picture(int frame, const QSize& size, const Deinterlacing& deinterlacing,
+                           PictureDepth depth) = 0;
 };
 
 } // namespace nle

@@ -5,6 +5,8 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include <cstdint>
+
 namespace nle {
 
 namespace {
@@ -30,15 +32,15 @@ PlainThreads::PlainThreads()
     if (!own.Read() || (own.words[0].effective & kNiceBit) == 0)
         return;
     own.words[0].effective &= ~kNiceBit;
-    m_taken = own.Write() ? kNiceBit : 0;
+    m_hasTaken = own.Write();
 }
 
 PlainThreads::~PlainThreads()
 {
     Capabilities own;
-    if (m_taken == 0 || !own.Read())
+    if (!m_hasTaken || !own.Read())
         return;
-    own.words[0].effective |= m_taken;
+    own.words[0].effective |= kNiceBit;
     own.Write();
 }
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <cstdint>
-
 namespace nle {
 
 /// While it is there, the calling thread cannot be made a real-time one, nor can those that it
@@ -17,7 +15,7 @@ public:
     PlainThreads& operator=(const PlainThreads&) = delete;
 
 private:
-    std::uint32_t m_taken = 0; ///< what this has taken from the thread and gives back
+    bool m_hasTaken = false; ///< from the thread what makes others real-time; gives it back
 };
 
 } // namespace nle

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/ProxyStore.h"
 
+#include "NLECore/media/ImageSequence_p.h"
+
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 
 #include <algorithm>
 
@@ -14,33 +17,62 @@ const QLatin1String kSuffix(".mp4");
 /// Of a film that keeps what is transparent.
 const QLatin1String kAlphaSuffix(".mov");
 
+/// What of a file is read: pieces from the first to the last byte.
+struct Sample
+{
+    int pieces;
+    qint64 pieceSize;
+};
+// Reading all of a film would take longer than a user waits.
+constexpr Sample kOfFilm = {16, 64 << 10};
+constexpr Sample kOfPicture = {4, 1 << 10};
+
+/// Adds pieces of the file and its size; false when it cannot be read.
+bool AddFile(const QString& path, const Sample& sample, ContentHash* hash)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return false;
+    const qint64 size = file.size();
+    const qint64 last = std::max<qint64>(0, size - sample.pieceSize);
+    QByteArray bytes;
+    for (int i = 0; i < sample.pieces; ++i) {
+        if (!file.seek(last / (sample.pieces - 1) * i))
+            return false;
+        bytes += file.read(sample.pieceSize);
+    }
+    hash->Add(ContentHash::Of(bytes.constData(), std::size_t(bytes.size()))).Add(size);
+    return true;
+}
+
 } // namespace
 
 ProxyStore::ProxyStore() : m_files("proxies", {kSuffix, kAlphaSuffix}, kUsualQuota) {}
 
-// The size of the file, and pieces of it from the first to the last byte: reading all of a film
-// would take longer than a user waits.
+void ProxyStore::SetFolder(const QString& folder, std::int64_t quota)
+{
+    m_files.SetFolder(folder, quota);
+    m_isTidy = false;
+}
+
 std::optional<ContentKey> ProxyStore::KeyOf(const QString& path, int height) const
 {
-    constexpr int pieces = 16;
-    constexpr qint64 pieceSize = 64 << 10;
-    QFile file(path);
-    if (!m_files.IsOn() || !QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    if (!m_files.IsOn())
         return std::nullopt;
-    const qint64 size = file.size();
-    const qint64 last = std::max<qint64>(0, size - pieceSize);
-    QByteArray bytes;
-    for (int i = 0; i < pieces; ++i) {
-        if (!file.seek(last / (pieces - 1) * i))
+    ContentHash hash;
+    const std::optional<ImageSequence> sequence = FindSequence(path);
+    if (!sequence && !AddFile(path, kOfFilm, &hash))
+        return std::nullopt;
+    for (int i = 0; sequence && i < sequence->count; ++i) {
+        if (!AddFile(sequence->PathOf(i), kOfPicture, &hash))
             return std::nullopt;
-        bytes += file.read(pieceSize);
     }
-    const ContentKey content = ContentHash::Of(bytes.constData(), std::size_t(bytes.size()));
-    return ContentHash().Add(content).Add(size).Add(height).Result();
+    return hash.Add(height).Result();
 }
 
 QString ProxyStore::Find(const ContentKey& key) const
 {
+    Tidy();
     for (const QLatin1String suffix : {kSuffix, kAlphaSuffix}) {
         QString proxy = m_files.PathOf(key, suffix);
         if (QFileInfo(proxy).isFile()) {
@@ -51,9 +83,20 @@ QString ProxyStore::Find(const ContentKey& key) const
     return {};
 }
 
-QString ProxyStore::Prepare(const ContentKey& key, bool hasAlpha) const
+std::unique_ptr<QLockFile> ProxyStore::LockOf(const ContentKey& key) const
 {
-    return m_files.Prepare() ? m_files.PathOf(key, hasAlpha ? kAlphaSuffix : kSuffix) : QString();
+    return m_files.Prepare() ? m_files.LockOf(key) : nullptr;
+}
+
+QString ProxyStore::PathOf(const ContentKey& key, bool hasAlpha) const
+{
+    return m_files.PathOf(key, hasAlpha ? kAlphaSuffix : kSuffix);
+}
+
+void ProxyStore::Tidy() const
+{
+    if (!m_isTidy.exchange(true))
+        m_files.RemoveLeftovers();
 }
 
 ProxyStore& Proxies()

@@ -4,6 +4,7 @@
 #include "Com/ComGuard.h"
 #include "NLECore/media/EngineLog.h"
 
+#include <QFileDevice>
 #include <QtGlobal>
 
 #include <algorithm>
@@ -64,7 +65,16 @@ constexpr Row kRows[] = {
     {NLEReason_NoContainer,
      QT_TRANSLATE_NOOP("NLECore", "There is no format of this name to write"), Level::Warning},
     {NLEReason_SettingsRefused,
-     QT_TRANSLATE_NOOP("NLECore", "The format does not take these settings"), Level::Warning}};
+     QT_TRANSLATE_NOOP("NLECore", "The format does not take these settings"), Level::Warning},
+    {NLEReason_NoDevice, QT_TRANSLATE_NOOP("NLECore", "There is no such device"), Level::Warning},
+    {NLEReason_LevelLocked, QT_TRANSLATE_NOOP("NLECore", "The track is locked"), Level::Debug},
+    {NLEReason_ClipsOverlap, QT_TRANSLATE_NOOP("NLECore", "Clips would overlap"), Level::Debug},
+    {NLEReason_NoMaterial, QT_TRANSLATE_NOOP("NLECore", "The clip has no more material"),
+     Level::Debug},
+    {NLEReason_ClipTooShort, QT_TRANSLATE_NOOP("NLECore", "Nothing would be left of the clip"),
+     Level::Debug},
+    {NLEReason_WithinTransition, QT_TRANSLATE_NOOP("NLECore", "A transition cannot be cut"),
+     Level::Debug}};
 
 /// Null for a number that is no NLEReason.
 const Row* RowOf(int reason)
@@ -131,7 +141,8 @@ void Begin() noexcept
 
 void Keep(LastFailure& failure, const char* words) noexcept
 {
-    const std::size_t length = words ? std::min<std::size_t>(std::strlen(words), 511) : 0;
+    const std::size_t length =
+        words ? std::min<std::size_t>(std::strlen(words), LastFailure::kMostWords - 1) : 0;
     std::copy_n(words, length, failure.words);
     failure.words[length] = L'\0';
 }
@@ -206,6 +217,13 @@ HRESULT RefuseRange(const char* name, double lowest, double highest) noexcept
     } catch (...) {
         return Refuse(E_INVALIDARG, NLEReason_OutOfRange);
     }
+}
+
+HRESULT RefuseWriting(HRESULT result, const QString& path, const QFileDevice& file)
+{
+    const bool isFull = file.error() == QFileDevice::ResourceError;
+    return Refuse(result, isFull ? NLEReason_DiskFull : NLEReason_NotWritable,
+                  path + QStringLiteral(": ") + file.errorString());
 }
 
 LastFailure& LastFailureOfThread() noexcept

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+class QFileDevice;
+
 /// Why calls of the engine fail. One way for all: whatever refuses a call gives its result through
 /// Refuse(), and ComGuard, which hears of the end of every call, keeps and logs the last reason of
 /// a call that failed, or one that follows from the result. Nothing here throws or has to have
@@ -24,6 +26,9 @@ void NoteReason(NLEReason reason, const QString& words) noexcept;
 HRESULT RefuseIndex(std::int64_t index, std::int64_t count) noexcept;
 /// A number \a name outside of its range.
 HRESULT RefuseRange(const char* name, double lowest, double highest) noexcept;
+
+/// Gives \a result, for a file at \a path that \a file does not write.
+HRESULT RefuseWriting(HRESULT result, const QString& path, const QFileDevice& file);
 
 /// The last failure of a call on this thread.
 struct LastFailure

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/EngineLog.h"
+#include "NLECore/media/RuntimeLibrary_p.h"
 #include "NLECore/media/SoundDevice.h"
-
-#include <QLibrary>
 
 #include <SDL_audio.h>
 #include <SDL_error.h>
@@ -20,10 +19,8 @@ constexpr int kBlock = 1024;
 constexpr Uint32 kInitAudio = 0x10;
 
 /// SDL, found when it is first needed and kept then.
-struct Sdl
+struct Sdl : RuntimeLibrary
 {
-    QLibrary library;
-    bool isThere = true;
     decltype(&SDL_GetError) getError = nullptr;
     decltype(&SDL_SetHint) setHint = nullptr;
     int (*initSubSystem)(Uint32) = nullptr;
@@ -41,17 +38,9 @@ struct Sdl
     Sdl();
     /// Null when there is no SDL on this computer.
     static const Sdl* Get();
-
-private:
-    template <typename Function>
-    void Resolve(Function& function, const char* symbol)
-    {
-        function = reinterpret_cast<Function>(library.resolve(symbol));
-        isThere = isThere && function;
-    }
 };
 
-Sdl::Sdl() : library(QStringLiteral("SDL2-2.0"), 0)
+Sdl::Sdl() : RuntimeLibrary(QStringLiteral("SDL2-2.0"), 0)
 {
     if (!library.load())
         library.setFileName(QStringLiteral("SDL2"));

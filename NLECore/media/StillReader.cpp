@@ -3,6 +3,7 @@
 
 #include "NLECore/media/ColourProfile_p.h"
 #include "NLECore/media/EngineLog.h"
+#include "NLECore/media/InkPictures_p.h"
 #include "NLECore/media/MediaFile_p.h"
 #include "NLECore/media/PictureFormats_p.h"
 #include "NLECore/media/PictureScaler_p.h"
@@ -39,6 +40,29 @@ QByteArray ProfileOf(const AVFrame& frame)
                            : QByteArray();
 }
 
+std::optional<InkPicture> ReadInks([[maybe_unused]] const MediaInfo& info,
+                                   [[maybe_unused]] const MediaStream& stream)
+{
+#ifdef NLECORE_WITH_TURBOJPEG
+    if (stream.codecName == "mjpeg")
+        return ReadInkJpeg(info.path);
+#endif
+#ifdef NLECORE_WITH_TIFF
+    if (stream.codecName == "tiff")
+        return ReadInkTiff(info.path);
+#endif
+    return std::nullopt;
+}
+
+/// The picture at its own size by the profile of its inks; null when it has none.
+QImage ReadPrinted(const MediaInfo& info, const MediaStream& stream, const QByteArray& profile)
+{
+    if (!IsOfInks(profile))
+        return {};
+    const std::optional<InkPicture> inks = ReadInks(info, stream);
+    return inks ? Upright(FromInks(*inks, profile), stream) : QImage();
+}
+
 QImage ReadCoded(const MediaInfo& info, int stream, const QSize& size, QString* error)
 {
     const auto file = MediaFile::OpenStream(info, stream, NLEStream_Video, error);
@@ -52,9 +76,14 @@ QImage ReadCoded(const MediaInfo& info, int stream, const QSize& size, QString* 
         SetError(error, info.path, QStringLiteral(": the picture cannot be decoded"));
         return {};
     }
+    const MediaStream& description = *info.Stream(stream);
+    const QByteArray profile = ProfileOf(*frame);
+    const QImage printed = ReadPrinted(info, description, profile);
+    if (!printed.isNull())
+        return ScalePicture(printed, size);
     PictureScaler scaler;
-    QImage picture = scaler.Convert(*frame, *info.Stream(stream), size);
-    ConvertToSrgb(&picture, ProfileOf(*frame), info.path);
+    QImage picture = scaler.Convert(*frame, description, size);
+    ConvertToSrgb(&picture, profile, info.path);
     return picture;
 }
 

@@ -2,6 +2,7 @@
 #include "NLECore/media/WavePyramid.h"
 
 #include "NLECore/media/AudioDecoder.h"
+#include "NLECore/media/Reasons.h"
 
 #include <QDataStream>
 #include <QSaveFile>
@@ -158,8 +159,12 @@ bool WriteWaveFile(const QString& path, const ContentKey& key, const WavePyramid
     fields << kMagic << quint64(key.high) << quint64(key.low) << qint64(pyramid.SampleCount())
            << quint32(Checksum(sums.constData(), std::size_t(sums.size())));
     QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(head + sums) == kHeadSize + sums.size() &&
-           file.write(data) == data.size() && file.commit();
+    const bool isWritten = file.open(QIODevice::WriteOnly) &&
+                           file.write(head + sums) == kHeadSize + sums.size() &&
+                           file.write(data) == data.size() && file.flush() && file.commit();
+    if (!isWritten)
+        RefuseWriting(E_FAIL, path, file);
+    return isWritten;
 }
 
 std::unique_ptr<WaveFile> WaveFile::Open(const QString& path, const ContentKey& key)

@@ -2,6 +2,7 @@
 #include "NLECore/media/WaveStore.h"
 
 #include "NLECore/media/MediaFile_p.h"
+#include "NLECore/media/Reasons.h"
 
 #include <QFile>
 
@@ -42,10 +43,14 @@ void WaveStore::Drop(const MediaInfo& media, int stream)
 
 bool WaveStore::Put(const MediaInfo& media, int stream, const WavePyramid& pyramid)
 {
-    if (!m_files.Prepare() || !(StampOf(media.path) == media.stamp))
-        return false;
     const ContentKey key = KeyOf(media, stream);
     const QString path = m_files.PathOf(key, kSuffix);
+    if (!m_files.Prepare()) {
+        Refuse(E_FAIL, NLEReason_NotWritable, path);
+        return false;
+    }
+    if (!(StampOf(media.path) == media.stamp))
+        return false;
     return WriteWaveFile(path, key, pyramid) && m_files.MakeRoomFor(path);
 }
 

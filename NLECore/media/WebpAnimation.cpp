@@ -138,7 +138,8 @@ public:
         return m_decoder != nullptr;
     }
 
-    QImage Picture(int frame, const QSize& size) override
+    QImage Picture(int frame, const QSize& size, const Deinterlacing& /*deinterlacing*/,
+                   PictureDepth /*depth*/) override
     {
         if (frame >= m_frameCount)
             return {};

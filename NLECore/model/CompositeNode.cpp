@@ -105,6 +105,12 @@ void AppendRecursively(const CompositeNode& from, std::vector<NLEComPtr<Timeline
 
 MakeCompositeCache CompositeNode::s_makeCache = nullptr;
 
+HRESULT GiveEnumerator(std::vector<NLEComPtr<TimelineNode>> nodes,
+                       INLETimelineEnumerator** enumerator)
+{
+    return GiveNew<Enumerator>(enumerator, std::move(nodes));
+}
+
 const tagNLEProjectProfile kDefaultProfile = {
     kDefaultSize, {25000000, 1000000}, 48000, 2, kSampleFormatFloat};
 
@@ -117,7 +123,7 @@ CompositeNode::~CompositeNode()
 {
     if (m_cache)
         m_cache->Detach();
-    for (const NLEComPtr<TimelineNode>& clip : m_clips)
+    for (const auto& [order, clip] : m_clips)
         clip->SetParent(nullptr);
 }
 
@@ -144,7 +150,7 @@ HRESULT CompositeNode::GetClipCount(int* count)
 
 HRESULT CompositeNode::GetEnumerator(int /*flags*/, INLETimelineEnumerator** enumerator)
 {
-    return GiveNew<Enumerator>(enumerator, m_clips);
+    return GetEnumerator(0, 1, enumerator);
 }
 
 HRESULT CompositeNode::GetEnumerator(int recursive, int /*flags*/,
@@ -155,8 +161,8 @@ HRESULT CompositeNode::GetEnumerator(int recursive, int /*flags*/,
         if (recursive)
             AppendRecursively(*this, clips);
         else
-            clips = m_clips;
-        return GiveNew<Enumerator>(enumerator, std::move(clips));
+            clips = Clips();
+        return GiveEnumerator(std::move(clips), enumerator);
     });
 }
 
@@ -164,8 +170,7 @@ HRESULT CompositeNode::AddClip(INLETimeline* clip)
 {
     return ComGuard([&] {
         TimelineNode* node = TimelineNode::From(clip);
-        if (!node || !node->IsClip() || node->Parent() || IsSelfOrAncestor(node) ||
-            DepthFromTop() + DepthBelow(*node) > kDeepestNesting)
+        if (!node || !CanAdopt(*node))
             return Refuse(E_INVALIDARG, NLEReason_WrongObject);
         Adopt(node);
         node->ChangeRate(FrameRate());
@@ -178,16 +183,60 @@ HRESULT CompositeNode::RemoveClip(INLETimeline* clip)
     TimelineNode* node = TimelineNode::From(clip);
     if (!node || node->Parent() != this)
         return Refuse(E_INVALIDARG, NLEReason_WrongObject);
-    const auto found = std::find(m_clips.begin(), m_clips.end(), NLEComPtr<TimelineNode>(node));
-    node->SetParent(nullptr);
-    m_clips.erase(found);
-    return S_OK;
+    return ComGuard([&] {
+        Drop(*node);
+        return S_OK;
+    });
 }
 
-void CompositeNode::Adopt(const NLEComPtr<TimelineNode>& clip)
+std::vector<NLEComPtr<TimelineNode>> CompositeNode::Clips() const
 {
-    m_clips.push_back(clip);
-    clip->SetParent(this);
+    std::vector<NLEComPtr<TimelineNode>> clips;
+    clips.reserve(m_clips.size());
+    for (const auto& [order, clip] : m_clips)
+        clips.push_back(clip);
+    return clips;
+}
+
+bool CompositeNode::CanAdopt(const TimelineNode& node) const
+{
+    return node.IsClip() && !node.Parent() && !IsSelfOrAncestor(&node) &&
+           DepthFromTop() + DepthBelow(node) <= kDeepestNesting;
+}
+
+void CompositeNode::Restore(const NLEComPtr<TimelineNode>& clip, std::uint64_t order)
+{
+    m_clips[order] = clip;
+    clip->SetParent(this, order);
+    ClipPlaced(*clip);
+}
+
+void CompositeNode::Drop(TimelineNode& clip)
+{
+    if (m_watch)
+        m_watch->ClipGoes(clip);
+    const auto found = m_clips.find(clip.Order());
+    const NLEComPtr<TimelineNode> kept = found->second;
+    m_clips.erase(found);
+    clip.SetParent(nullptr);
+    Grew();
+}
+
+void CompositeNode::ClipPlaced(TimelineNode& clip)
+{
+    if (m_watch)
+        m_watch->ClipPlaced(clip);
+    Grew();
+}
+
+void CompositeNode::Grew()
+{
+    CompositeNode* parent = Parent();
+    if (!parent || Placement().range)
+        return;
+    if (parent->m_watch)
+        parent->m_watch->ClipGrew(*this);
+    parent->Grew();
 }
 
 bool CompositeNode::IsSelfOrAncestor(const TimelineNode* node) const
@@ -210,7 +259,7 @@ int CompositeNode::DepthFromTop() const
 int CompositeNode::TotalLength() const
 {
     std::int64_t end = 0;
-    for (const NLEComPtr<TimelineNode>& clip : m_clips) {
+    for (const auto& [order, clip] : m_clips) {
         if (!clip->IsTransition())
             end = std::max(end, clip->Position() + NLERangeLength(clip->Range()));
     }
@@ -226,7 +275,7 @@ void CompositeNode::ChangeRate(const NLERational& rate)
 {
     const NLERational old = FrameRate();
     TimelineNode::ChangeRate(rate);
-    for (const NLEComPtr<TimelineNode>& clip : m_clips) {
+    for (const auto& [order, clip] : m_clips) {
         clip->SetPosition(FrameTime{double(clip->Position()), old}.NearestAt(rate));
         clip->ChangeRate(rate);
     }
@@ -243,7 +292,7 @@ NLEComPtr<TimelineNode> CompositeNode::CopyContent(bool deep) const
 
 void CompositeNode::CopyClipsTo(CompositeNode& copy) const
 {
-    for (const NLEComPtr<TimelineNode>& clip : m_clips)
+    for (const auto& [order, clip] : m_clips)
         copy.Adopt(clip->Copy(true));
 }
 
@@ -261,7 +310,7 @@ void CompositeNode::Describe(Layer& layer) const
     layer.mixer = Mixer().settings;
     for (const TimelineNode* clip : PlayingClips())
         layer.children.push_back(clip->MakeLayer());
-    for (const NLEComPtr<TimelineNode>& clip : m_clips) {
+    for (const auto& [order, clip] : m_clips) {
         if (clip->IsTransition() && clip->IsEnabled())
             layer.transitions.push_back(static_cast<const TransitionNode&>(*clip).AsLayer());
     }
@@ -271,7 +320,7 @@ void CompositeNode::Describe(Layer& layer) const
 std::vector<const TimelineNode*> CompositeNode::PlayingClips() const
 {
     std::vector<const TimelineNode*> clips;
-    for (const NLEComPtr<TimelineNode>& clip : m_clips) {
+    for (const auto& [order, clip] : m_clips) {
         if (clip->IsEnabled() && !clip->IsTransition())
             clips.push_back(clip.get());
     }

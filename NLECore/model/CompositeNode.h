@@ -5,15 +5,35 @@
 #include "NLECore/model/CompositeCache.h"
 #include "NLECore/model/TimelineNode.h"
 
+#include <cstdint>
+#include <map>
 #include <vector>
 
 namespace nle {
+
+/// Hears what becomes of the clips of a composite.
+struct ClipWatch
+{
+    /// A clip has come, or its position, level or trim range is another one.
+    virtual void ClipPlaced(TimelineNode& clip) = 0;
+    /// A clip without a trim range of its own may be shorter or longer: what it holds has changed.
+    virtual void ClipGrew(TimelineNode& clip) = 0;
+    /// A clip is about to go.
+    virtual void ClipGoes(TimelineNode& clip) = 0;
+
+protected:
+    ~ClipWatch() = default;
+};
 
 /// Composites that may lie one inside of the other; everything that walks the tree recurses.
 constexpr int kDeepestNesting = 64;
 
 /// 1920 × 1080, 25 frames a second, 48,000 stereo samples a second as 32-bit floats.
 extern const tagNLEProjectProfile kDefaultProfile;
+
+/// Gives what walks \a nodes, which it holds.
+HRESULT GiveEnumerator(std::vector<NLEComPtr<TimelineNode>> nodes,
+                       INLETimelineEnumerator** enumerator);
 
 /// A node that holds clips. Without a size of its own it takes its parent's.
 class CompositeNode
@@ -43,14 +63,28 @@ public:
     /// What shows where no clip does, 0xAARRGGBB.
     std::uint32_t Background() const;
     /// All that was added: clips and transitions.
-    const std::vector<NLEComPtr<TimelineNode>>& Clips() const { return m_clips; }
+    std::vector<NLEComPtr<TimelineNode>> Clips() const;
     /// The clips that can show and sound, in the order of the children of a snapshot.
     std::vector<const TimelineNode*> PlayingClips() const;
     /// Reads frames of \a snapshot, one of this node, from the background cache; null when there is
     /// none.
     std::unique_ptr<CachedFrames> OpenCachedFrames(const Snapshot& snapshot) const;
+    /// Whether AddClip() takes a node.
+    bool CanAdopt(const TimelineNode& node) const;
     /// Adds a node that has no parent, as it stands.
-    void Adopt(const NLEComPtr<TimelineNode>& clip);
+    void Adopt(const NLEComPtr<TimelineNode>& clip) { Restore(clip, NewOrder()); }
+    /// A place behind all that there were.
+    std::uint64_t NewOrder() { return ++m_lastOrder; }
+    /// Adds a node that has no parent in a free place among the clips, as it stands.
+    void Restore(const NLEComPtr<TimelineNode>& clip, std::uint64_t order);
+    /// Lets a clip of this composite go; its TimelineNode::Order() leads back.
+    void Drop(TimelineNode& clip);
+
+    /// Who hears of the clips, not owned; null for nobody.
+    ClipWatch* Watch() const { return m_watch; }
+    void SetWatch(ClipWatch* watch) { m_watch = watch; }
+    /// A clip of this composite has another place.
+    void ClipPlaced(TimelineNode& clip);
 
 protected:
     ~CompositeNode() override;
@@ -65,12 +99,17 @@ private:
     bool IsSelfOrAncestor(const TimelineNode* node) const;
     /// Composites above this one and itself.
     int DepthFromTop() const;
+    /// What this composite holds may be shorter or longer.
+    void Grew();
 
     NLESize m_size;
     static MakeCompositeCache s_makeCache;
     NLEComPtr<CompositeCache> m_cache;
 
-    std::vector<NLEComPtr<TimelineNode>> m_clips;
+    /// By their places, so that one that comes back stands where it stood.
+    std::map<std::uint64_t, NLEComPtr<TimelineNode>> m_clips;
+    std::uint64_t m_lastOrder = 0;
+    ClipWatch* m_watch = nullptr;
 };
 
 /// A project: a composite with a picture and sound format, and the context of all that it holds.

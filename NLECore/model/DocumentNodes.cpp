@@ -359,6 +359,9 @@ void DocumentNodes::SetPlaying(const std::optional<int>& frozen, double speed, c
 
 void DocumentNodes::Hide(bool picture, bool sound, TimelineNode& node)
 {
+    const int mode = node.Bag().IntOr(NLEKey::Render::kRender_Mode, NLERender_All);
+    picture = picture || mode == NLERender_AudioOnly;
+    sound = sound || mode == NLERender_VideoOnly;
     if (picture && sound)
         node.SetEnabled(false);
     else if (picture || sound)

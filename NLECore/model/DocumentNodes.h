@@ -78,7 +78,8 @@ public:
     void SetPlaying(const std::optional<int>& frozen, double speed, const QString& name,
                     TimelineNode& node);
     static bool IsSameSpeed(double a, double b);
-    /// Leaves out the picture or the sound of a clip, or both, as a track of a document says.
+    /// Leaves out the picture or the sound of a clip, or both, as a track of a document says,
+    /// beside what is left out of it already.
     static void Hide(bool picture, bool sound, TimelineNode& node);
 
     /// Frame rate and size of the document.

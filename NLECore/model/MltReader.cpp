@@ -397,9 +397,10 @@ NLEComPtr<TimelineNode> MltReader::MakeProducer(const MltService& service)
 NLEComPtr<TimelineNode> MltReader::MakeMedia(const MltSource& source, const MltService& service)
 {
     NLEComPtr<TimelineNode> node = m_nodes.MakeMedia(source.resource, service.properties);
+    auto& clip = static_cast<MediaClip&>(*node);
+    TakeStreams(service, clip);
     if (service.IsOwn()) {
         // The clip's own values hold unless the document plays otherwise than it was written.
-        const auto& clip = static_cast<const MediaClip&>(*node);
         const MltSource written = SourceOf(clip, QDir());
         const bool isSame = written.frozen == source.frozen &&
                             DocumentNodes::IsSameSpeed(written.speed, source.speed);
@@ -419,6 +420,17 @@ NLEComPtr<TimelineNode> MltReader::MakeMedia(const MltSource& source, const MltS
                 QStringLiteral("effect %1 of %2").arg(link.Service(), NameOf(service)));
     }
     return node;
+}
+
+// Those that were chosen here hold unless another program has chosen others.
+void MltReader::TakeStreams(const MltService& service, MediaClip& clip)
+{
+    const MltStreams found = StreamsOf(service.properties, clip.Media());
+    if (service.IsOwn() && found == StreamsOf(IndexesOf(clip), clip.Media()))
+        return;
+    clip.Source().videoStream = found.video;
+    clip.Source().audioStreams = found.audio;
+    DocumentNodes::Hide(found.isHidden, found.isSilent, clip);
 }
 
 void MltReader::KeepPitch(const QString& name, TimelineNode& node)

@@ -47,6 +47,7 @@ private:
     NLEComPtr<TimelineNode> Make(int index, bool isRoot);
     NLEComPtr<TimelineNode> MakeProducer(const MltService& service);
     NLEComPtr<TimelineNode> MakeMedia(const MltSource& source, const MltService& service);
+    static void TakeStreams(const MltService& service, MediaClip& clip);
     void KeepPitch(const QString& name, TimelineNode& node);
     NLEComPtr<TimelineNode> MakeComposite(const MltService& service, bool isRoot);
     void ReadTrack(const MltItem& item, bool isLowest, CompositeNode& node, Track track);

@@ -3,8 +3,11 @@
 
 #include "EngineApi/NLEKey.h"
 #include "NLECore/model/DocumentText.h"
+#include "NLECore/scene/SourceChoice.h"
 
 #include <QColor>
+
+#include <algorithm>
 
 namespace nle {
 
@@ -42,6 +45,45 @@ void TakeSpeed(MltSource& source, const DocumentProperties& properties)
     const double named = MltNumber(properties.value(QStringLiteral("warp_speed")), 1);
     source.speed = colon > 0 && isNumber ? speed : named;
     source.keepsPitch = MltNumber(properties.value(QStringLiteral("warp_pitch")), 0) != 0;
+}
+
+const QString kVideoIndex = QStringLiteral("video_index");
+const QString kAudioIndex = QStringLiteral("audio_index");
+
+std::vector<int> StreamsOfType(const MediaInfo& media, NLEStreamType type)
+{
+    std::vector<int> streams;
+    for (int index = 0; index < int(media.streams.size()); ++index) {
+        if (media.streams[size_t(index)].type == type)
+            streams.push_back(index);
+    }
+    return streams;
+}
+
+/// A whole number; none for what is not.
+std::optional<int> IndexIn(const DocumentProperties& properties, const QString& name)
+{
+    bool isNumber = false;
+    const int index = properties.value(name).trimmed().toInt(&isNumber);
+    return isNumber ? std::optional<int>(index) : std::nullopt;
+}
+
+/// The stream that is chosen by its index, or by its \a place among \a streams; below 0 for none
+/// of them, no value where none is named.
+std::optional<int> StreamAt(std::optional<int> index, std::optional<int> place,
+                            const std::vector<int>& streams)
+{
+    if (index || !place || *place < 0)
+        return index ? index : place;
+    return *place < int(streams.size()) ? std::optional<int>(streams[size_t(*place)])
+                                        : std::nullopt;
+}
+
+/// Whether the framework plays all streams of sound together.
+bool AreAll(const DocumentProperties& properties)
+{
+    return properties.value(kAudioIndex) == QLatin1String("all") ||
+           IndexIn(properties, kAudioIndex) == INT32_MAX;
 }
 
 } // namespace
@@ -92,6 +134,46 @@ MltSource SourceOf(const MediaClip& clip, const QDir& folder)
         source.speed = clip.Speed();
     }
     return source;
+}
+
+MltStreams StreamsOf(const DocumentProperties& properties, const MediaInfo& media)
+{
+    MltStreams streams;
+    if (media.kind == NLEMedia_Image)
+        return streams;
+    const std::vector<int> sounds = StreamsOfType(media, NLEStream_Audio);
+    const std::optional<int> video =
+        StreamAt(IndexIn(properties, kVideoIndex), IndexIn(properties, QStringLiteral("vstream")),
+                 StreamsOfType(media, NLEStream_Video));
+    const std::optional<int> audio = StreamAt(
+        IndexIn(properties, kAudioIndex), IndexIn(properties, QStringLiteral("astream")), sounds);
+    SourceSettings chosen;
+    chosen.videoStream = video.value_or(-1);
+    if (AreAll(properties))
+        chosen.audioStreams = sounds;
+    else if (audio && *audio >= 0)
+        chosen.audioStreams = {*audio};
+    // Of a file that is not there nobody knows which it has.
+    const bool isKnown = media.kind != NLEMedia_Offline;
+    const bool isPreferred = chosen.audioStreams == std::vector<int>{media.audioStream};
+    if (!isKnown || (HasVideoStream(media, chosen) && chosen.videoStream != media.videoStream))
+        streams.video = std::max(chosen.videoStream, -1);
+    if (!isKnown || (HasAudioStreams(media, chosen) && !isPreferred))
+        streams.audio = chosen.audioStreams;
+    streams.isHidden = video && *video < 0;
+    streams.isSilent = audio && *audio < 0;
+    return streams;
+}
+
+DocumentProperties IndexesOf(const MediaClip& clip)
+{
+    const SourceSettings& settings = clip.Source();
+    DocumentProperties indexes;
+    if (settings.videoStream >= 0)
+        indexes[kVideoIndex] = QString::number(settings.videoStream);
+    if (!settings.audioStreams.empty())
+        indexes[kAudioIndex] = QString::number(settings.audioStreams.front());
+    return indexes;
 }
 
 std::uint32_t ParseMltColor(const QString& text)

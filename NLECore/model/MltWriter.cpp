@@ -195,11 +195,11 @@ void MltWriter::WriteMedia(const MediaClip& clip)
     if (source.frozen)
         Property(QStringLiteral("frame"), QString::number(*source.frozen));
     // Other programs show and sound one stream of each type.
-    const SourceSettings& settings = clip.Source();
-    if (settings.videoStream >= 0)
-        Property(QStringLiteral("video_index"), QString::number(settings.videoStream));
-    if (!settings.audioStreams.empty())
-        Property(QStringLiteral("audio_index"), QString::number(settings.audioStreams.front()));
+    const DocumentProperties indexes = IndexesOf(clip);
+    for (const QString& name : {QStringLiteral("video_index"), QStringLiteral("audio_index")}) {
+        if (indexes.contains(name))
+            Property(name, indexes.value(name));
+    }
 }
 
 void MltWriter::WriteCommon(const TimelineNode& node, int order)

@@ -19,11 +19,6 @@ HRESULT GiveText(const char* text, wchar_t* buffer, int capacity)
     return CopyText(QString::fromLatin1(text).toStdWString(), buffer, capacity);
 }
 
-HRESULT GiveTitle(const char* title, wchar_t* buffer, int capacity)
-{
-    return CopyText(ToWide(Translated(title)), buffer, capacity);
-}
-
 /// There is no parameter of this name, or none of the kind that the call is for.
 HRESULT NoName(const wchar_t* name)
 {
@@ -52,6 +47,11 @@ HRESULT NotAccepted(const ParameterRow& row, const std::wstring& text)
 }
 
 } // namespace
+
+HRESULT GiveTitle(const char* title, wchar_t* buffer, int capacity)
+{
+    return CopyText(ToWide(Translated(title)), buffer, capacity);
+}
 
 /// A parameter by its name; \a row is null where there is none.
 struct ParameterFacet::Found

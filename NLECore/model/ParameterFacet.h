@@ -6,6 +6,10 @@
 
 namespace nle {
 
+/// Copies what \a title is in the language of the application into a caller's buffer, as
+/// CopyText().
+HRESULT GiveTitle(const char* title, wchar_t* buffer, int capacity);
+
 /// The parameters of a node. Key frames follow the trim range of the clip that owns them as those
 /// of its picture do (see KeyFrameFacet).
 class ParameterFacet final : public NodeFacet<INLEParameters>

@@ -98,6 +98,20 @@ HRESULT PropertyBag::SetString(const wchar_t* key, const wchar_t* value)
     });
 }
 
+std::optional<PropertyBag::Value> PropertyBag::Exchange(const std::wstring& key,
+                                                        std::optional<Value> value)
+{
+    std::optional<Value> old;
+    const auto found = m_values.find(key);
+    if (found != m_values.end())
+        old = found->second;
+    if (value)
+        m_values.insert_or_assign(key, std::move(*value));
+    else if (old)
+        m_values.erase(found);
+    return old;
+}
+
 int PropertyBag::IntOr(const wchar_t* key, int preset) const
 {
     const auto found = Find(key);
@@ -110,6 +124,24 @@ QString PropertyBag::TextOrEmpty(const wchar_t* key) const
     const auto found = Find(key);
     const Text* text = found ? std::get_if<Text>(&*found) : nullptr;
     return text ? QString::fromStdWString(**text) : QString();
+}
+
+std::vector<int> PropertyBag::NumbersIn(const wchar_t* key) const
+{
+    std::vector<int> numbers;
+    for (const QString& word : TextOrEmpty(key).split(QLatin1Char(' '), Qt::SkipEmptyParts))
+        numbers.push_back(word.toInt());
+    return numbers;
+}
+
+std::optional<PropertyBag::Value> PropertyBag::ValueOf(const std::vector<int>& numbers)
+{
+    if (numbers.empty())
+        return std::nullopt;
+    QStringList words;
+    for (const int number : numbers)
+        words << QString::number(number);
+    return std::make_shared<const std::wstring>(words.join(QLatin1Char(' ')).toStdWString());
 }
 
 std::optional<PropertyBag::Value> PropertyBag::Read(std::wstring_view key) const

@@ -5,6 +5,7 @@
 #include "EngineApi/INLEProperties.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <map>
@@ -13,6 +14,7 @@
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 namespace nle {
 
@@ -50,10 +52,16 @@ public:
 
     const Values& All() const { return m_values; }
     void SetAll(const Values& values) { m_values = values; }
+    /// Sets a plain value, or takes it out, and gives what was there. Live keys are none.
+    std::optional<Value> Exchange(const std::wstring& key, std::optional<Value> value);
     /// The integer under \a key, or \a preset.
     int IntOr(const wchar_t* key, int preset) const;
     /// The text under \a key; empty when there is none.
     QString TextOrEmpty(const wchar_t* key) const;
+    /// The whole numbers in the text under \a key, as ValueOf() has them; 0 for what is none.
+    std::vector<int> NumbersIn(const wchar_t* key) const;
+    /// Numbers as a text, with blanks between them; nothing for none.
+    static std::optional<Value> ValueOf(const std::vector<int>& numbers);
 
 protected:
     /// Value under \a key, if there is one.

@@ -29,6 +29,13 @@ QString Named(std::wstring_view key)
 
 } // namespace
 
+bool operator==(const ClipPlace& a, const ClipPlace& b)
+{
+    const bool hasRange = bool(a.range);
+    return a.position == b.position && a.level == b.level && hasRange == bool(b.range) &&
+           (!hasRange || (a.range->in == b.range->in && a.range->out == b.range->out));
+}
+
 std::optional<PropertyBag::Value> NodeBag::Read(std::wstring_view key) const
 {
     if (m_node && key == NLEKey::Render::kRender_Framerate)
@@ -144,7 +151,7 @@ HRESULT TimelineNode::SetRange(const NLERange* range)
 {
     if (!range)
         return Refuse(E_POINTER);
-    m_placement.range = *range;
+    Replace([&] { m_placement.range = *range; });
     return S_OK;
 }
 
@@ -174,7 +181,7 @@ HRESULT TimelineNode::GetRenderFrameRate(NLERational* rate)
 
 HRESULT TimelineNode::SetLevel(int level)
 {
-    m_placement.level = level;
+    Replace([&] { m_placement.level = level; });
     return S_OK;
 }
 
@@ -185,7 +192,7 @@ HRESULT TimelineNode::GetLevel(int* level)
 
 HRESULT TimelineNode::SetPosition(int position)
 {
-    m_placement.position = position;
+    Replace([&] { m_placement.position = position; });
     return S_OK;
 }
 
@@ -267,6 +274,29 @@ NLERange TimelineNode::Range() const
     return m_placement.range ? *m_placement.range : NLERange{0, TotalLength() - 1};
 }
 
+ClipPlace TimelineNode::Place() const
+{
+    return {m_placement.position, m_placement.level, m_placement.range};
+}
+
+void TimelineNode::SetPlace(const ClipPlace& place)
+{
+    Replace([&] {
+        m_placement.position = place.position;
+        m_placement.level = place.level;
+        m_placement.range = place.range;
+    });
+}
+
+template <typename Change>
+void TimelineNode::Replace(Change change)
+{
+    const ClipPlace before = Place();
+    change();
+    if (m_parent && !(before == Place()))
+        m_parent->ClipPlaced(*this);
+}
+
 void TimelineNode::PinRange()
 {
     m_placement.range = Range();
@@ -278,7 +308,7 @@ void TimelineNode::ChangeRate(const NLERational& rate)
     if (ToDouble(old) == ToDouble(rate))
         return;
     if (m_placement.range)
-        m_placement.range = FrameSpan{*m_placement.range, old}.At(rate);
+        Replace([&] { m_placement.range = FrameSpan{*m_placement.range, old}.At(rate); });
     m_keyFrames.RescaleAxis(ToDouble(rate) / ToDouble(old));
     m_markers.Rescale(ToDouble(rate) / ToDouble(old));
     m_effects.ChangeRate(rate);
@@ -321,7 +351,9 @@ void TimelineNode::ChangeSpeed(Change change)
     m_effects.RescaleAxis(before / after);
     RescaleTimes(before / after);
     if (m_placement.range)
-        m_placement.range = ScaleRange(*m_placement.range, before / after);
+        Replace([&] { m_placement.range = ScaleRange(*m_placement.range, before / after); });
+    else if (m_parent)
+        m_parent->ClipPlaced(*this);
 }
 
 RenderContext TimelineNode::Context() const

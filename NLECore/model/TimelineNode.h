@@ -17,6 +17,16 @@ namespace nle {
 class CompositeNode;
 class TimelineNode;
 
+/// Where a clip stands on its composite, and what of it plays there.
+struct ClipPlace
+{
+    int position;                  ///< first frame on the composite
+    int level;                     ///< higher covers lower
+    std::optional<NLERange> range; ///< the trim range; none: all frames
+
+    friend bool operator==(const ClipPlace& a, const ClipPlace& b);
+};
+
 /// Key under which a node's timeline type is kept, as text.
 inline constexpr const wchar_t* kTimelineTypeKey = L"key_timeline_type";
 
@@ -89,6 +99,8 @@ public:
     /// Makes the range that plays now the node's own, whatever becomes of its length.
     void PinRange();
     const NLERational& FrameRate() const { return m_frameRate; }
+    ClipPlace Place() const;
+    void SetPlace(const ClipPlace& place);
     int Position() const { return m_placement.position; }
     int Level() const { return m_placement.level; }
     bool IsEnabled() const { return m_placement.enabled; }
@@ -137,7 +149,15 @@ public:
     /// What every render of the project sees, if the node is one.
     virtual std::optional<RenderContext> OwnContext() const { return std::nullopt; }
     CompositeNode* Parent() const { return m_parent; }
-    void SetParent(CompositeNode* parent) { m_parent = parent; }
+    /// That of GetId().
+    std::uint32_t Id() const { return m_id; }
+    /// Place among the clips of the parent; see CompositeNode::Restore.
+    std::uint64_t Order() const { return m_order; }
+    void SetParent(CompositeNode* parent, std::uint64_t order = 0)
+    {
+        m_parent = parent;
+        m_order = order;
+    }
     /// Counts ranges at \a rate from now on, keeping the instants of in and out point.
     virtual void ChangeRate(const NLERational& rate);
 
@@ -155,6 +175,9 @@ protected:
 private:
     /// The outermost project's.
     RenderContext Context() const;
+    /// Does \a change, and tells the composite if the clip has another place then.
+    template <typename Change>
+    void Replace(Change change);
 
     const std::uint32_t m_id;
     PlacementSettings m_placement;
@@ -162,6 +185,7 @@ private:
     NLERational m_frameRate;
     bool m_current = false;
     CompositeNode* m_parent = nullptr;
+    std::uint64_t m_order = 0;
     NLEComPtr<NodeBag> m_bag;
     BlendFacet m_blend;
     TransformFacet m_transform;

@@ -9,10 +9,13 @@
 #include "NLECore/model/MltWriter.h"
 #include "NLECore/model/OtioReader.h"
 #include "NLECore/model/OtioWriter.h"
+#include "NLECore/model/ParameterFacet.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+
+#include <iterator>
 
 namespace nle {
 
@@ -21,15 +24,22 @@ namespace {
 /// Bytes of the largest document that is opened.
 constexpr std::int64_t kLargestDocument = 512 << 20;
 
+/// What remarks are about, from NLERemark_Effect on.
+constexpr const char* kRemarkTitles[] = {
+    QT_TRANSLATE_NOOP("NLECore", "An effect was left out"),
+    QT_TRANSLATE_NOOP("NLECore", "A transition was left out"),
+    QT_TRANSLATE_NOOP("NLECore", "A clip of an unknown kind shows an empty picture"),
+    QT_TRANSLATE_NOOP("NLECore", "A clip that plays backwards plays forwards"),
+    QT_TRANSLATE_NOOP("NLECore", "A change of speed was left out or is only close"),
+    QT_TRANSLATE_NOOP("NLECore", "A file is missing; its clip is offline"),
+    QT_TRANSLATE_NOOP("NLECore", "A part of the document cannot be used"),
+    QT_TRANSLATE_NOOP("NLECore", "Markers are kept as text only"),
+    QT_TRANSLATE_NOOP("NLECore", "A volume, balance or opacity is only close")};
+static_assert(std::size(kRemarkTitles) == NLERemark_Level);
+
 HRESULT Report(NLEReason reason, const QString& path, const QString& words)
 {
     return Refuse(E_FAIL, reason, path + QStringLiteral(": ") + words);
-}
-
-HRESULT NotWritten(const QString& path, const QFileDevice& file)
-{
-    const bool isFull = file.error() == QFileDevice::ResourceError;
-    return Report(isFull ? NLEReason_DiskFull : NLEReason_NotWritable, path, file.errorString());
 }
 
 bool IsOtio(const QString& path)
@@ -76,9 +86,10 @@ HRESULT DocumentSerialize::Save(INLETimeline* timeline, const wchar_t* path)
         const QString name = QString::fromWCharArray(path);
         QSaveFile file(name);
         if (!file.open(QIODevice::WriteOnly))
-            return NotWritten(name, file);
+            return RefuseWriting(E_FAIL, name, file);
         file.write(WriteDocument(*node, name));
-        return file.commit() ? S_OK : NotWritten(name, file);
+        // commit() alone does not tell when the last that was gathered cannot be written.
+        return file.flush() && file.commit() ? S_OK : RefuseWriting(E_FAIL, name, file);
     });
 }
 
@@ -125,6 +136,15 @@ HRESULT DocumentSerialize::GetRemark(int index, int* code, wchar_t* text, int ca
         const DocumentRemark& remark = m_remarks.All()[size_t(index)];
         *code = remark.code;
         return CopyText(ToWide(remark.Told()), text, capacity);
+    });
+}
+
+HRESULT DocumentSerialize::GetRemarkTitle(int code, wchar_t* title, int capacity)
+{
+    return ComGuard([&] {
+        return code >= NLERemark_Effect && code <= NLERemark_Level
+                   ? GiveTitle(kRemarkTitles[code - NLERemark_Effect], title, capacity)
+                   : Refuse(E_INVALIDARG, NLEReason_UnknownIndex, QString::number(code));
     });
 }
 

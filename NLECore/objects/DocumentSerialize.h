@@ -17,6 +17,7 @@ public:
 
     HRESULT GetRemarkCount(int* count) override;
     HRESULT GetRemark(int index, int* code, wchar_t* text, int capacity) override;
+    HRESULT GetRemarkTitle(int code, wchar_t* title, int capacity) override;
 
 private:
     DocumentRemarks m_remarks;

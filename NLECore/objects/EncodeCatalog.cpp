@@ -5,6 +5,7 @@
 #include "EngineApi/NLEKey.h"
 #include "NLECore/media/MediaWriter.h"
 #include "NLECore/media/Reasons.h"
+#include "NLECore/model/ParameterFacet.h"
 #include "NLECore/model/PropertyBag.h"
 #include "NLECore/scene/FrameMath.h"
 
@@ -161,18 +162,32 @@ WriterSettings SettingsFor(const EncodeOptions& options, const NLEEncodeSettings
     return settings;
 }
 
-/// Why a short film cannot be written so; empty when it can.
-QString TryOut(const EncodeOptions& options, const NLEEncodeSettings& wanted)
+/// Why a short film cannot be written so; without words when it can.
+WriterError TryOut(const EncodeOptions& options, const NLEEncodeSettings& wanted)
 {
+    WriterError error;
     const ContainerFormat* container = FindContainer(options.container);
-    if (!container)
-        return QStringLiteral("no container");
+    if (!container) {
+        error.text = QStringLiteral("no container");
+        return error;
+    }
     const std::string suffix = SplitNames(container->suffixes).front();
     const QString name = QLatin1String(container->isSequence ? "check_%04d." : "check.") +
                          QString::fromStdString(suffix);
     WriterSettings settings = SettingsFor(options, wanted);
-    WriterError error;
-    return MediaWriter::Try(QDir::temp().filePath(name), settings, &error) ? QString() : error.text;
+    const bool isWritten = MediaWriter::Try(QDir::temp().filePath(name), settings, &error);
+    return isWritten ? WriterError() : error;
+}
+
+/// What \a give makes of the row at \a index.
+template <typename Row, typename Give>
+HRESULT WithRow(const std::vector<Row>& rows, int index, Give give)
+{
+    return ComGuard([&] {
+        return index >= 0 && index < int(rows.size())
+                   ? give(rows[std::size_t(index)])
+                   : RefuseIndex(index, std::int64_t(rows.size()));
+    });
 }
 
 } // namespace
@@ -215,12 +230,9 @@ HRESULT EncodeCatalog::GetContainerCount(int* count)
 
 HRESULT EncodeCatalog::GetContainer(int index, NLEContainerInfo* info)
 {
-    return ComGuard([&] {
+    return WithRow(Containers(), index, [=](const ContainerFormat& container) {
         if (!info)
             return Refuse(E_POINTER);
-        if (index < 0 || index >= int(Containers().size()))
-            return RefuseIndex(index, std::int64_t(Containers().size()));
-        const ContainerFormat& container = Containers()[std::size_t(index)];
         *info = {};
         Put(container.name, info->name);
         Put(container.title, info->title);
@@ -262,11 +274,8 @@ HRESULT EncodeCatalog::GetPresetCount(int* count)
 
 HRESULT EncodeCatalog::GetPresetName(int index, wchar_t* buffer, int capacity)
 {
-    return ComGuard([&] {
-        if (index < 0 || index >= int(EncodePresets().size()))
-            return RefuseIndex(index, std::int64_t(EncodePresets().size()));
-        const QString name = QLatin1String(EncodePresets()[std::size_t(index)].name);
-        return CopyText(name.toStdWString(), buffer, capacity);
+    return WithRow(EncodePresets(), index, [=](const EncodePreset& preset) {
+        return CopyText(QString::fromLatin1(preset.name).toStdWString(), buffer, capacity);
     });
 }
 
@@ -291,15 +300,41 @@ HRESULT EncodeCatalog::Check(INLEProperties* options, const NLEEncodeSettings* s
         if (!options)
             return Refuse(E_POINTER);
         EncodeOptions wanted;
-        QString complaint;
+        WriterError error;
         if (ReadOptions(options, &wanted) == S_OK)
-            complaint = TryOut(wanted, settings ? *settings : NLEEncodeSettings{});
+            error = TryOut(wanted, settings ? *settings : NLEEncodeSettings{});
         else
-            complaint = kNotInCatalogue;
+            error.text = kNotInCatalogue;
         if (reason && capacity > 0)
-            CopyText(complaint.toStdWString(), reason, capacity);
-        return complaint.isEmpty() ? S_OK
-                                   : Refuse(E_INVALIDARG, NLEReason_SettingsRefused, complaint);
+            CopyText(error.text.toStdWString(), reason, capacity);
+        if (error.text.isEmpty())
+            return S_OK;
+        return Refuse(E_INVALIDARG, error.isFull ? NLEReason_DiskFull : NLEReason_SettingsRefused,
+                      error.text);
+    });
+}
+
+HRESULT EncodeCatalog::GetContainerTitle(int index, wchar_t* title, int capacity)
+{
+    return WithRow(Containers(), index, [=](const ContainerFormat& container) {
+        return GiveTitle(container.title, title, capacity);
+    });
+}
+
+HRESULT EncodeCatalog::GetCodecTitle(const char* container, int type, int index, wchar_t* title,
+                                     int capacity)
+{
+    return ComGuard([&] {
+        const CodecFormat* codec = CodecAt(container, type, index);
+        return codec ? GiveTitle(codec->title, title, capacity)
+                     : Refuse(E_INVALIDARG, NLEReason_UnknownIndex, QString::number(index));
+    });
+}
+
+HRESULT EncodeCatalog::GetPresetTitle(int index, wchar_t* title, int capacity)
+{
+    return WithRow(EncodePresets(), index, [=](const EncodePreset& preset) {
+        return GiveTitle(preset.name, title, capacity);
     });
 }
 

@@ -26,6 +26,10 @@ public:
     HRESULT GetPreset(const wchar_t* name, INLEProperties* options) override;
     HRESULT Check(INLEProperties* options, const NLEEncodeSettings* settings, wchar_t* reason,
                   int capacity) override;
+    HRESULT GetContainerTitle(int index, wchar_t* title, int capacity) override;
+    HRESULT GetCodecTitle(const char* container, int type, int index, wchar_t* title,
+                          int capacity) override;
+    HRESULT GetPresetTitle(int index, wchar_t* title, int capacity) override;
 
 protected:
     ~EncodeCatalog() = default;

@@ -30,6 +30,20 @@ void CopyInto(const QImage& image, const QRect& place, NLESize size, std::uint8_
     }
 }
 
+/// Calls \a write with the pixels of \a frame, all of which it sets.
+template <typename Write>
+HRESULT WritePixels(INLEVideoFrame& frame, Write&& write)
+{
+    NLEComPtr<INLEOpenCLFrame> onDevice;
+    frame.QueryInterface(INLEOpenCLFrame::Iid, onDevice.putVoid());
+    std::uint8_t* pixels = nullptr;
+    const HRESULT result = onDevice ? onDevice->Map(NLEMap_Write, &pixels) : frame.GetData(&pixels);
+    if (FAILED(result))
+        return onDevice ? Refuse(result) : Refuse(E_FAIL, NLEReason_WrongObject);
+    write(pixels);
+    return onDevice ? onDevice->Unmap() : S_OK;
+}
+
 } // namespace
 
 HRESULT FrameExtractor::Open(INLETimeline* timeline, int flags)
@@ -58,10 +72,9 @@ HRESULT FrameExtractor::Fill(int frame, INLEVideoFrame* picture, Draw&& draw)
     if (!picture)
         return Refuse(E_POINTER);
     NLESize size;
-    std::uint8_t* pixels = nullptr;
     if (!HasFrame(frame))
         return NoFrame(frame);
-    if (FAILED(picture->GetSize(&size)) || FAILED(picture->GetData(&pixels)))
+    if (FAILED(picture->GetSize(&size)))
         return Refuse(E_FAIL, NLEReason_WrongObject);
     QRect place = PlaceRoot(m_root->size, {size.width, size.height});
     QImage image = m_cached ? m_cached->Picture(frame, place.size()) : QImage();
@@ -69,7 +82,11 @@ HRESULT FrameExtractor::Fill(int frame, INLEVideoFrame* picture, Draw&& draw)
         image = draw(QSize(size.width, size.height), &place);
     if (image.isNull())
         return NoFrame(frame);
-    CopyInto(image.convertToFormat(kPictureFormat), place, size, pixels);
+    image = image.convertToFormat(kPictureFormat);
+    const HRESULT result =
+        WritePixels(*picture, [&](std::uint8_t* pixels) { CopyInto(image, place, size, pixels); });
+    if (FAILED(result))
+        return result;
     const NLERect valid = {place.x(), place.y(), place.width(), place.height()};
     return picture->SetValidRect(&valid);
 }

@@ -23,30 +23,17 @@ HRESULT Picture::GetData(const std::uint8_t** pixels)
     return GiveValue(pixels, m_image.constBits());
 }
 
-VideoFrame::VideoFrame(NLESize size) : m_size(size), m_valid{0, 0, size.width, size.height} {}
-
-HRESULT VideoFrame::Prepare()
-{
-    return ComGuard([&] {
-        m_image = QImage(m_size.width, m_size.height, kPictureFormat);
-        if (m_image.isNull())
-            return Refuse(E_OUTOFMEMORY);
-        m_image.fill(Qt::transparent);
-        return S_OK;
-    });
-}
-
-HRESULT VideoFrame::GetSize(NLESize* size)
+HRESULT SizedFrame::GetSize(NLESize* size)
 {
     return GiveValue(size, m_size);
 }
 
-HRESULT VideoFrame::GetValidRect(NLERect* rect)
+HRESULT SizedFrame::GetValidRect(NLERect* rect)
 {
     return GiveValue(rect, m_valid);
 }
 
-HRESULT VideoFrame::SetValidRect(const NLERect* rect)
+HRESULT SizedFrame::SetValidRect(const NLERect* rect)
 {
     if (!rect)
         return Refuse(E_POINTER);
@@ -55,6 +42,17 @@ HRESULT VideoFrame::SetValidRect(const NLERect* rect)
         return Refuse(E_INVALIDARG);
     m_valid = *rect;
     return S_OK;
+}
+
+HRESULT VideoFrame::Prepare()
+{
+    return ComGuard([&] {
+        m_image = QImage(Size().width, Size().height, kPictureFormat);
+        if (m_image.isNull())
+            return Refuse(E_OUTOFMEMORY);
+        m_image.fill(Qt::transparent);
+        return S_OK;
+    });
 }
 
 HRESULT VideoFrame::GetData(std::uint8_t** pixels)

@@ -28,22 +28,35 @@ private:
     const QImage m_image;
 };
 
-/// A video frame in system memory.
-class VideoFrame final : public ComObject<INLEVideoFrame>
+/// A video frame, whatever memory its pixels are in.
+class SizedFrame : public ComObject<INLEVideoFrame>
 {
 public:
-    explicit VideoFrame(NLESize size);
+    explicit SizedFrame(NLESize size) : m_size(size), m_valid{0, 0, size.width, size.height} {}
 
-    HRESULT Prepare() override;
     HRESULT GetSize(NLESize* size) override;
     HRESULT GetValidRect(NLERect* rect) override;
     HRESULT SetValidRect(const NLERect* rect) override;
-    HRESULT GetData(std::uint8_t** pixels) override;
-    HRESULT GetMemory(int* memory) override;
+
+protected:
+    NLESize Size() const { return m_size; }
 
 private:
     const NLESize m_size;
     NLERect m_valid;
+};
+
+/// A video frame in system memory.
+class VideoFrame final : public SizedFrame
+{
+public:
+    using SizedFrame::SizedFrame;
+
+    HRESULT Prepare() override;
+    HRESULT GetData(std::uint8_t** pixels) override;
+    HRESULT GetMemory(int* memory) override;
+
+private:
     QImage m_image;
 };
 

@@ -15,10 +15,15 @@ constexpr int kLongestSide = 16384;
 constexpr double kLoudest = 4;
 constexpr int kMostOffset = 1000;
 
+HRESULT NoNode()
+{
+    return Refuse(E_FAIL, NLEReason_WrongState);
+}
+
 /// What the loop answers to what needs a node.
 HRESULT OfNode(HRESULT result)
 {
-    return result == E_FAIL ? Refuse(E_FAIL, NLEReason_WrongState) : result;
+    return result == E_FAIL ? NoNode() : result;
 }
 
 } // namespace
@@ -150,12 +155,8 @@ HRESULT Player::Open(INLETimeline* timeline)
 HRESULT Player::Refresh()
 {
     return ComGuard([&] {
-        if (!m_node)
-            return Refuse(E_FAIL, NLEReason_WrongState);
-        SharedScene scene = SceneOf(*m_node);
-        if (!scene)
-            return Refuse(E_FAIL, NLEReason_WrongState);
-        return m_core->loop.Refresh(std::move(scene)) ? S_OK : Refuse(E_FAIL, NLEReason_WrongState);
+        SharedScene scene = m_node ? SceneOf(*m_node) : nullptr;
+        return scene && m_core->loop.Refresh(std::move(scene)) ? S_OK : NoNode();
     });
 }
 
@@ -207,7 +208,7 @@ HRESULT Player::GetState(int* state)
 HRESULT Player::GetPosition(int* frame)
 {
     const int position = m_core->loop.Position();
-    return position < 0 ? Refuse(E_FAIL, NLEReason_WrongState) : GiveValue(frame, position);
+    return position < 0 ? NoNode() : GiveValue(frame, position);
 }
 
 HRESULT Player::GetRate(double* rate)
@@ -218,7 +219,7 @@ HRESULT Player::GetRate(double* rate)
 HRESULT Player::GetLength(int* frames)
 {
     const int length = m_core->loop.Length();
-    return length < 0 ? Refuse(E_FAIL, NLEReason_WrongState) : GiveValue(frames, length);
+    return length < 0 ? NoNode() : GiveValue(frames, length);
 }
 
 HRESULT Player::SetPictureSize(int width, int height)

@@ -2,15 +2,15 @@
 #include "NLECore/objects/ProxyMaker.h"
 
 #include "Com/ComGuard.h"
-#include "NLECore/media/MediaWriter.h"
 #include "NLECore/media/ProxyStore.h"
 #include "NLECore/media/Reasons.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/PropertyBag.h"
 #include "NLECore/model/SourceNodes.h"
-#include "NLECore/render/FilmWriter.h"
 #include "NLECore/render/ThreadPriority_p.h"
 #include "NLECore/scene/SourceChoice.h"
+
+#include <QLockFile>
 
 #include <algorithm>
 
@@ -172,28 +172,52 @@ HRESULT ProxyMaker::Work(const Job& job)
                                   ClampToInt(double(*shown.end) + std::max(0.0, shown.delay)) - 1);
     if (film.root->size.height <= job.height)
         return RefuseRange("height", kLeastHeight, film.root->size.height - 1);
-    const MediaStream* stream = media->Stream(media->videoStream);
-    const bool hasAlpha = stream && stream->hasAlpha;
-    const QString path = key ? Proxies().Prepare(*key, hasAlpha) : QString();
-    if (path.isEmpty())
+    const std::unique_ptr<QLockFile> lock = key ? Proxies().LockOf(*key) : nullptr;
+    if (!lock)
         return Refuse(E_ACCESSDENIED, NLEReason_NotWritable,
                       QStringLiteral("no folder for proxies"));
+    const HRESULT result = Take(*lock, job);
+    // Whoever held the lock may have made it.
+    if (result != S_OK || !Proxies().Find(*key).isEmpty())
+        return result;
+    const MediaStream* stream = media->Stream(media->videoStream);
+    const bool hasAlpha = stream && stream->hasAlpha;
+    return Write(film, SettingsFor(*film.root, job.height, hasAlpha),
+                 Proxies().PathOf(*key, hasAlpha), job);
+}
+
+HRESULT ProxyMaker::Take(QLockFile& lock, const Job& job)
+{
+    constexpr int patience = 100; // milliseconds
+    while (!lock.tryLock(patience)) {
+        if (lock.error() != QLockFile::LockFailedError)
+            return Refuse(E_ACCESSDENIED, NLEReason_NotWritable,
+                          QStringLiteral("no file in the folder for proxies"));
+        if (job.isCancelled)
+            return Refuse(E_ABORT);
+    }
+    return S_OK;
+}
+
+HRESULT ProxyMaker::Write(const FilmPlan& film, const WriterSettings& settings, const QString& path,
+                          const Job& job)
+{
     WriterError error;
-    const std::unique_ptr<MediaWriter> writer =
-        MediaWriter::Open(path, SettingsFor(*film.root, job.height, hasAlpha), &error);
+    const std::unique_ptr<MediaWriter> writer = MediaWriter::Open(path, settings, &error);
     if (!writer) {
         const bool isFile = error.kind == WriterError::Kind::File;
-        return RefuseWriting(isFile ? E_ACCESSDENIED : E_FAIL, job.path, error);
+        return RefuseWriting(isFile ? E_ACCESSDENIED : E_FAIL, path, error);
     }
     const HRESULT result = WriteFilm(film, *writer, [&job](int percent) {
         job.Tell(S_FALSE, percent);
         return !job.isCancelled;
     });
-    if (result != S_OK)
-        return result == S_FALSE ? Refuse(E_ABORT) : result;
-    if (!writer->Finish()) {
-        return RefuseWriting(E_FAIL, job.path, writer->Error());
-    }
+    if (result == S_FALSE)
+        return Refuse(E_ABORT);
+    if (result == E_OUTOFMEMORY)
+        return result;
+    if (FAILED(result) || !writer->Finish())
+        return RefuseWriting(E_FAIL, path, writer->Error());
     return Proxies().Keep(path) ? S_OK : Refuse(E_ACCESSDENIED, NLEReason_NotWritable, path);
 }
 

@@ -3,6 +3,7 @@
 
 #include "Com/ComObject.h"
 #include "EngineApi/INLEProxies.h"
+#include "NLECore/render/FilmWriter.h"
 #include "NLECore/render/TaskThread.h"
 
 #include <QString>
@@ -11,6 +12,8 @@
 #include <memory>
 #include <mutex>
 #include <vector>
+
+class QLockFile;
 
 namespace nle {
 
@@ -56,6 +59,10 @@ private:
     };
 
     static HRESULT Work(const Job& job);
+    /// Waits until no other maker or process makes the proxy that \a lock is of.
+    static HRESULT Take(QLockFile& lock, const Job& job);
+    static HRESULT Write(const FilmPlan& film, const WriterSettings& settings, const QString& path,
+                         const Job& job);
 
     const std::shared_ptr<State> m_state = std::make_shared<State>();
     TaskThread m_thread;

@@ -10,6 +10,7 @@
 #include "NLECore/media/Reasons.h"
 #include "NLECore/media/StillPictures.h"
 #include "NLECore/model/CompositeNode.h"
+#include "NLECore/model/Editing.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/PropertyBag.h"
 #include "NLECore/objects/BackgroundCache.h"
@@ -20,6 +21,7 @@
 #include "NLECore/objects/Frames.h"
 #include "NLECore/objects/MarkBook.h"
 #include "NLECore/objects/MediaEncoder.h"
+#include "NLECore/objects/OpenCLFrame.h"
 #include "NLECore/objects/Player.h"
 #include "NLECore/objects/ProxyMaker.h"
 #include "NLECore/objects/ReasonBook.h"
@@ -84,11 +86,18 @@ HRESULT RootFactory::CreateVideoFrame(int width, int height, int /*pixelFormat*/
 {
     if (!Empties(frame))
         return Refuse(E_POINTER);
-    if (memory != NLEMemory_System)
+    if (memory != NLEMemory_System && memory != NLEMemory_OpenCL)
         return Refuse(E_NOTIMPL);
     if (width < 1 || height < 1 || width > kLongestSide || height > kLongestSide)
         return RefuseRange("size", 1, kLongestSide);
-    return GiveNew<VideoFrame>(frame, NLESize{width, height});
+    if (memory == NLEMemory_System)
+        return GiveNew<VideoFrame>(frame, NLESize{width, height});
+    return ComGuard([&] {
+        QString complaint;
+        auto device = OpenCLDevice::Get(&complaint);
+        return device ? GiveNew<OpenCLFrame>(frame, NLESize{width, height}, std::move(device))
+                      : Refuse(E_FAIL, NLEReason_NoDevice, complaint);
+    });
 }
 
 HRESULT RootFactory::CreateAudioFrame(int sampleCount, INLEAudioFrame** frame)
@@ -172,6 +181,19 @@ HRESULT RootFactory::GetReasons(INLEReasons** reasons)
     return GiveNew<ReasonBook>(reasons);
 }
 
+HRESULT RootFactory::CreateEditing(INLETimeline* composite, INLEEditing** editing)
+{
+    return ComGuard([&] {
+        if (!Empties(editing))
+            return Refuse(E_POINTER);
+        auto* node = dynamic_cast<CompositeNode*>(TimelineNode::From(composite));
+        if (!node)
+            return Refuse(E_INVALIDARG, NLEReason_WrongObject);
+        *editing = Editing::Of(*node).detach();
+        return S_OK;
+    });
+}
+
 HRESULT RootFactory::Shutdown(int /*flags*/)
 {
     return ComGuard([&] {
@@ -179,6 +201,7 @@ HRESULT RootFactory::Shutdown(int /*flags*/)
         Stills().Clear();
         KeptPictures().Clear();
         ForgetDevices();
+        OpenCLDevice::Forget();
         ForgetFiles();
         return S_OK;
     });

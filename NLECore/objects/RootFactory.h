@@ -33,6 +33,7 @@ public:
     HRESULT CreateProxyMaker(INLEProxyMaker** maker) override;
     HRESULT CreatePlayer(INLEPlayer** player) override;
     HRESULT GetReasons(INLEReasons** reasons) override;
+    HRESULT CreateEditing(INLETimeline* composite, INLEEditing** editing) override;
 };
 
 } // namespace nle

@@ -16,6 +16,7 @@
 #include <QSaveFile>
 
 #include <cmath>
+#include <utility>
 
 namespace nle {
 
@@ -40,6 +41,14 @@ struct NumberSetting
     void (*set)(int value);
 };
 
+template <auto Member, typename Value>
+void SetInDefaultCache(Value value)
+{
+    CacheDefaults defaults = DefaultCache();
+    defaults.*Member = std::move(value);
+    SetDefaultCache(defaults);
+}
+
 const NumberSetting kNumbers[] = {
     {Key::kHardwareDecoding, NLEHardware_All, [] { return int(HardwareDecoding()); },
      [](int value) { SetHardwareDecoding(NLEHardwareDecoding(value)); }},
@@ -48,24 +57,9 @@ const NumberSetting kNumbers[] = {
      [](int value) { KeptPictures().SetMaxBytes(value * kMebibyte); }},
     {Key::kThreads, kMostThreads, AllowedThreads, SetAllowedThreads},
     {Key::kCacheQuota, kMostOnDisk, [] { return DefaultCache().quota; },
-     [](int value) {
-         CacheDefaults defaults = DefaultCache();
-         defaults.quota = value;
-         SetDefaultCache(defaults);
-     }},
+     SetInDefaultCache<&CacheDefaults::quota>},
     {Key::kCacheReserve, kMostOnDisk, [] { return DefaultCache().reserve; },
-     [](int value) {
-         CacheDefaults defaults = DefaultCache();
-         defaults.reserve = value;
-         SetDefaultCache(defaults);
-     }}};
-
-void SetCacheFolder(const QString& folder)
-{
-    CacheDefaults defaults = DefaultCache();
-    defaults.folder = folder;
-    SetDefaultCache(defaults);
-}
+     SetInDefaultCache<&CacheDefaults::reserve>}};
 
 const NumberSetting* NumberOf(std::wstring_view key)
 {
@@ -97,7 +91,7 @@ protected:
     {
         const Text* text = std::get_if<Text>(&value);
         if (key == Key::kCacheFolder && text) {
-            SetCacheFolder(FromWide(**text));
+            SetInDefaultCache<&CacheDefaults::folder>(FromWide(**text));
             return S_OK;
         }
         const NumberSetting* setting = NumberOf(key);
@@ -146,7 +140,7 @@ void TakeSettings(const QJsonObject& all)
     }
     const QJsonValue folder = all.value(Name(Key::kCacheFolder));
     if (folder.isString())
-        SetCacheFolder(folder.toString());
+        SetInDefaultCache<&CacheDefaults::folder>(folder.toString());
 }
 
 } // namespace
@@ -164,10 +158,8 @@ HRESULT SystemConfig::Save(const wchar_t* path)
         QSaveFile file(Name(path));
         const bool isWritten = file.open(QIODevice::WriteOnly) &&
                                file.write(QJsonDocument(AllSettings()).toJson()) >= 0 &&
-                               file.commit();
-        return isWritten ? S_OK
-                         : Refuse(E_FAIL, NLEReason_NotWritable,
-                                  Name(path) + QStringLiteral(": ") + file.errorString());
+                               file.flush() && file.commit();
+        return isWritten ? S_OK : RefuseWriting(E_FAIL, Name(path), file);
     });
 }
 

@@ -222,9 +222,8 @@ HRESULT TimelineFactory::GetName(int kind, int index, wchar_t* name, int capacit
 
 HRESULT TimelineFactory::GetTitle(int kind, int index, wchar_t* title, int capacity)
 {
-    return WithName(kind, index, [=](const NameRow& names) {
-        return CopyText(ToWide(Translated(names.title)), title, capacity);
-    });
+    return WithName(kind, index,
+                    [=](const NameRow& names) { return GiveTitle(names.title, title, capacity); });
 }
 
 } // namespace nle

@@ -132,8 +132,9 @@ HRESULT WaveExtractor::Keep(const WavePyramid::Progress& progress)
     if (!OpenDecoder())
         return Refuse(E_FAIL, NLEReason_FileUnsupported, m_media->path);
     const std::optional<WavePyramid> pyramid = WavePyramid::Read(*m_decoder, progress);
-    const bool isKept = pyramid && Waves().Put(*m_media, m_stream, *pyramid) && OpenKept();
-    return isKept ? S_OK : Refuse(E_FAIL, NLEReason_NotWritable);
+    if (!pyramid)
+        return Refuse(E_FAIL, NLEReason_FileUnsupported, m_media->path);
+    return Waves().Put(*m_media, m_stream, *pyramid) && OpenKept() ? S_OK : Refuse(E_FAIL);
 }
 
 std::vector<WavePeak> WaveExtractor::KeptPeaks(std::int64_t firstSample, std::int64_t sampleCount,

@@ -66,10 +66,7 @@ std::int64_t AudioMixer::SampleOfFrame(std::int64_t frame) const
 
 std::int64_t AudioMixer::SampleOfFrame(std::int64_t frame, const NLERational& rate) const
 {
-    // Far from overflow in what is computed of it.
-    constexpr double farthest = 1e15;
-    return std::llround(
-        std::clamp(double(frame) * m_sampleRate / ToDouble(rate), -farthest, farthest));
+    return nle::SampleOfFrame(frame, rate, m_sampleRate);
 }
 
 void AudioMixer::Render(const Layer& layer, std::int64_t first, int count, float* samples)

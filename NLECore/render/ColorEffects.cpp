@@ -4,6 +4,8 @@
 #include "NLECore/media/CubeTable.h"
 #include "NLECore/render/ToneCurve_p.h"
 
+#include <QtGlobal>
+
 #include <algorithm>
 #include <cmath>
 
@@ -472,9 +474,11 @@ MltTexts MltBlackAndWhite(const ParametersAt& values, const QPointF& /*scale*/)
 
 EffectKind ExposureEffect()
 {
-    return {{{"exposure", "Exposure"},
-             {NumberRow({"exposure", "Exposure"}, NLEUnit_Stops, -5, 5, 0),
-              NumberRow({"black", "Black level"}, NLEUnit_Share, -0.1, 0.1, 0)}},
+    return {{{"exposure", QT_TRANSLATE_NOOP("NLECore", "Exposure")},
+             {NumberRow({"exposure", QT_TRANSLATE_NOOP("NLECore", "Exposure")}, NLEUnit_Stops, -5,
+                        5, 0),
+              NumberRow({"black", QT_TRANSLATE_NOOP("NLECore", "Black level")}, NLEUnit_Share, -0.1,
+                        0.1, 0)}},
             false,
             Exposure,
             nullptr,
@@ -483,20 +487,23 @@ EffectKind ExposureEffect()
 
 EffectKind ContrastEffect()
 {
-    return {{{"contrast", "Contrast"},
-             {NumberRow({"contrast", "Contrast"}, NLEUnit_Share, 0, 4, 1),
-              NumberRow({"brightness", "Brightness"}, NLEUnit_Share, -1, 1, 0),
-              NumberRow({"pivot", "Pivot"}, NLEUnit_Share, 0, 1, 0.5)}},
-            false,
-            Contrast,
-            nullptr,
-            MltContrast};
+    return {
+        {{"contrast", QT_TRANSLATE_NOOP("NLECore", "Contrast")},
+         {NumberRow({"contrast", QT_TRANSLATE_NOOP("NLECore", "Contrast")}, NLEUnit_Share, 0, 4, 1),
+          NumberRow({"brightness", QT_TRANSLATE_NOOP("NLECore", "Brightness")}, NLEUnit_Share, -1,
+                    1, 0),
+          NumberRow({"pivot", QT_TRANSLATE_NOOP("NLECore", "Pivot")}, NLEUnit_Share, 0, 1, 0.5)}},
+        false,
+        Contrast,
+        nullptr,
+        MltContrast};
 }
 
 EffectKind SaturationEffect()
 {
-    return {{{"saturation", "Saturation"},
-             {NumberRow({"saturation", "Saturation"}, NLEUnit_Share, 0, 3, 1)}},
+    return {{{"saturation", QT_TRANSLATE_NOOP("NLECore", "Saturation")},
+             {NumberRow({"saturation", QT_TRANSLATE_NOOP("NLECore", "Saturation")}, NLEUnit_Share,
+                        0, 3, 1)}},
             false,
             Saturation,
             nullptr,
@@ -505,9 +512,10 @@ EffectKind SaturationEffect()
 
 EffectKind WhiteBalanceEffect()
 {
-    return {{{"white-balance", "White balance"},
-             {NumberRow({"temperature", "Temperature"}, NLEUnit_Kelvin, 2000, 12000, 6500),
-              NumberRow({"tint", "Tint"}, NLEUnit_Share, -1, 1, 0)}},
+    return {{{"white-balance", QT_TRANSLATE_NOOP("NLECore", "White balance")},
+             {NumberRow({"temperature", QT_TRANSLATE_NOOP("NLECore", "Temperature")},
+                        NLEUnit_Kelvin, 2000, 12000, 6500),
+              NumberRow({"tint", QT_TRANSLATE_NOOP("NLECore", "Tint")}, NLEUnit_Share, -1, 1, 0)}},
             false,
             WhiteBalance,
             nullptr,
@@ -521,9 +529,11 @@ EffectKind CurvesEffect()
         curve.accepts = IsCurve;
         return curve;
     };
-    return {{{"curves", "Curves"},
-             {row({"master", "Master"}), row({"red", "Red"}), row({"green", "Green"}),
-              row({"blue", "Blue"})}},
+    return {{{"curves", QT_TRANSLATE_NOOP("NLECore", "Curves")},
+             {row({"master", QT_TRANSLATE_NOOP("NLECore", "Master")}),
+              row({"red", QT_TRANSLATE_NOOP("NLECore", "Red")}),
+              row({"green", QT_TRANSLATE_NOOP("NLECore", "Green")}),
+              row({"blue", QT_TRANSLATE_NOOP("NLECore", "Blue")})}},
             false,
             Curves,
             nullptr,
@@ -532,23 +542,27 @@ EffectKind CurvesEffect()
 
 EffectKind LookupEffect()
 {
-    return {{{"lut", "Lookup table"},
-             {FileRow({"file", "File"}, IsCubeFile),
-              NumberRow({"amount", "Amount"}, NLEUnit_Share, 0, 1, 1)}},
-            false,
-            Lookup,
-            nullptr,
-            MltLookup};
+    return {
+        {{"lut", QT_TRANSLATE_NOOP("NLECore", "Lookup table")},
+         {FileRow({"file", QT_TRANSLATE_NOOP("NLECore", "File")}, IsCubeFile),
+          NumberRow({"amount", QT_TRANSLATE_NOOP("NLECore", "Amount")}, NLEUnit_Share, 0, 1, 1)}},
+        false,
+        Lookup,
+        nullptr,
+        MltLookup};
 }
 
 EffectKind ChromaKeyEffect()
 {
     constexpr std::uint32_t green = 0xFF00FF00;
-    return {{{"chroma-key", "Chroma key"},
-             {ColorRow({"color", "Colour"}, green),
-              NumberRow({"tolerance", "Tolerance"}, NLEUnit_Share, 0.01, 1, 0.15),
-              NumberRow({"softness", "Softness"}, NLEUnit_Share, 0, 1, 0.05),
-              NumberRow({"spill", "Spill removal"}, NLEUnit_Share, 0, 1, 0)}},
+    return {{{"chroma-key", QT_TRANSLATE_NOOP("NLECore", "Chroma key")},
+             {ColorRow({"color", QT_TRANSLATE_NOOP("NLECore", "Colour")}, green),
+              NumberRow({"tolerance", QT_TRANSLATE_NOOP("NLECore", "Tolerance")}, NLEUnit_Share,
+                        0.01, 1, 0.15),
+              NumberRow({"softness", QT_TRANSLATE_NOOP("NLECore", "Softness")}, NLEUnit_Share, 0, 1,
+                        0.05),
+              NumberRow({"spill", QT_TRANSLATE_NOOP("NLECore", "Spill removal")}, NLEUnit_Share, 0,
+                        1, 0)}},
             true,
             ChromaKey,
             nullptr,
@@ -557,12 +571,13 @@ EffectKind ChromaKeyEffect()
 
 EffectKind CropEffect()
 {
-    return {{{"crop", "Crop"},
-             {NumberRow({"left", "Left"}, NLEUnit_Share, 0, 1, 0),
-              NumberRow({"top", "Top"}, NLEUnit_Share, 0, 1, 0),
-              NumberRow({"right", "Right"}, NLEUnit_Share, 0, 1, 0),
-              NumberRow({"bottom", "Bottom"}, NLEUnit_Share, 0, 1, 0),
-              NumberRow({"softness", "Softness"}, NLEUnit_Pixels, 0, 500, 0)}},
+    return {{{"crop", QT_TRANSLATE_NOOP("NLECore", "Crop")},
+             {NumberRow({"left", QT_TRANSLATE_NOOP("NLECore", "Left")}, NLEUnit_Share, 0, 1, 0),
+              NumberRow({"top", QT_TRANSLATE_NOOP("NLECore", "Top")}, NLEUnit_Share, 0, 1, 0),
+              NumberRow({"right", QT_TRANSLATE_NOOP("NLECore", "Right")}, NLEUnit_Share, 0, 1, 0),
+              NumberRow({"bottom", QT_TRANSLATE_NOOP("NLECore", "Bottom")}, NLEUnit_Share, 0, 1, 0),
+              NumberRow({"softness", QT_TRANSLATE_NOOP("NLECore", "Softness")}, NLEUnit_Pixels, 0,
+                        500, 0)}},
             true,
             Crop,
             nullptr,
@@ -571,27 +586,29 @@ EffectKind CropEffect()
 
 EffectKind VignetteEffect()
 {
-    return {{{"vignette", "Vignette"},
-             {NumberRow({"amount", "Amount"}, NLEUnit_Share, 0, 1, 0.4),
-              NumberRow({"x", "Centre across"}, NLEUnit_Share, 0, 1, 0.5),
-              NumberRow({"y", "Centre down"}, NLEUnit_Share, 0, 1, 0.5)}},
-            false,
-            Vignette,
-            nullptr,
-            MltVignette};
+    return {
+        {{"vignette", QT_TRANSLATE_NOOP("NLECore", "Vignette")},
+         {NumberRow({"amount", QT_TRANSLATE_NOOP("NLECore", "Amount")}, NLEUnit_Share, 0, 1, 0.4),
+          NumberRow({"x", QT_TRANSLATE_NOOP("NLECore", "Centre across")}, NLEUnit_Share, 0, 1, 0.5),
+          NumberRow({"y", QT_TRANSLATE_NOOP("NLECore", "Centre down")}, NLEUnit_Share, 0, 1, 0.5)}},
+        false,
+        Vignette,
+        nullptr,
+        MltVignette};
 }
 
 EffectKind BlackAndWhiteEffect()
 {
-    return {{{"black-and-white", "Black and white"},
-             {NumberRow({"amount", "Amount"}, NLEUnit_Share, 0, 1, 1),
-              NumberRow({"red", "Red"}, NLEUnit_Share, -1, 2, 0.2126),
-              NumberRow({"green", "Green"}, NLEUnit_Share, -1, 2, 0.7152),
-              NumberRow({"blue", "Blue"}, NLEUnit_Share, -1, 2, 0.0722)}},
-            false,
-            BlackAndWhite,
-            nullptr,
-            MltBlackAndWhite};
+    return {
+        {{"black-and-white", QT_TRANSLATE_NOOP("NLECore", "Black and white")},
+         {NumberRow({"amount", QT_TRANSLATE_NOOP("NLECore", "Amount")}, NLEUnit_Share, 0, 1, 1),
+          NumberRow({"red", QT_TRANSLATE_NOOP("NLECore", "Red")}, NLEUnit_Share, -1, 2, 0.2126),
+          NumberRow({"green", QT_TRANSLATE_NOOP("NLECore", "Green")}, NLEUnit_Share, -1, 2, 0.7152),
+          NumberRow({"blue", QT_TRANSLATE_NOOP("NLECore", "Blue")}, NLEUnit_Share, -1, 2, 0.0722)}},
+        false,
+        BlackAndWhite,
+        nullptr,
+        MltBlackAndWhite};
 }
 
 } // namespace nle

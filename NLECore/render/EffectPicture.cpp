@@ -144,6 +144,17 @@ EffectPicture::EffectPicture(const QSize& size)
 {
 }
 
+void CopyPlanes(const EffectPicture& from, EffectPicture& to, int first, int last,
+                const Bands& bands)
+{
+    ForBands(from.Height(), bands, [&](int top, int end) {
+        for (int plane = first; plane <= last; ++plane)
+            std::copy(from.Row(plane, top),
+                      from.Row(plane, top) + std::ptrdiff_t(end - top) * from.Width(),
+                      to.Row(plane, top));
+    });
+}
+
 void ReadRow(const QImage& image, const EffectRow& row)
 {
     const uchar* line = image.constScanLine(row.y);

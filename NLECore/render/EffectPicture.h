@@ -50,6 +50,10 @@ private:
     std::unique_ptr<float[]> m_data;
 };
 
+/// Copies planes \a first to \a last between pictures of one size.
+void CopyPlanes(const EffectPicture& from, EffectPicture& to, int first, int last,
+                const Bands& bands);
+
 /// A row of a picture for effects that look at one pixel alone. Colours are not multiplied.
 struct EffectRow
 {

@@ -123,8 +123,8 @@ public:
 private:
     std::int64_t SampleOf(std::int64_t number) const
     {
-        const double rate = m_writer.Settings().sampleRate;
-        return m_firstSample + std::llround(double(number) * rate / ToDouble(m_plan.frameRate));
+        return m_firstSample +
+               SampleOfFrame(number, m_plan.frameRate, m_writer.Settings().sampleRate);
     }
 
     /// The frame of the root that shows at a place of the film.
@@ -257,7 +257,7 @@ HRESULT WriteFilm(const FilmPlan& plan, MediaWriter& writer,
     FrameQueue queue(WaitingFrames(writer.Settings()));
     MakingThread thread(maker, queue);
     if (!thread.IsStarted())
-        return E_FAIL;
+        return E_OUTOFMEMORY;
     const std::int64_t count = maker.Count();
     for (std::int64_t done = 0; done < count; ++done) {
         if (!goesOn(int(done * 100 / count)))

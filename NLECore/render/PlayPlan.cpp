@@ -32,7 +32,7 @@ PlayPlan::PlayPlan(const Terms& terms)
 
 std::int64_t PlayPlan::MaterialOf(std::int64_t frame, const NLERational& rate)
 {
-    return std::llround(double(frame) * SoundQueue::kRate / ToDouble(rate));
+    return SampleOfFrame(frame, rate, SoundQueue::kRate);
 }
 
 int PlayPlan::FrameOf(std::int64_t material, const NLERational& rate)

@@ -11,61 +11,21 @@ namespace {
 
 /// Rows or columns that are blurred side by side, so that one step works on all of them.
 constexpr int kLanes = 16;
-/// Deviations up to which each pixel is weighed; beyond three means one after the other do it, at
-/// the same cost whatever the size.
+/// Deviations up to which each pixel is weighed; beyond it three means one after the other do it,
+/// at the same cost whatever the size.
 constexpr double kMostWeighed = 3;
 /// Below it nothing is seen.
 constexpr double kLeastDeviation = 0.05;
 
 using Lanes = std::vector<float>; ///< kLanes numbers for each place along the line
 
-/// One blur of lines of \a length places.
-class LineBlur
+/// Three means one after the other, at the same cost whatever the size.
+class BoxBlur
 {
 public:
-    LineBlur(double deviation, int length) : m_length(length)
+    BoxBlur(double deviation, int length) : m_length(length)
     {
-        if (deviation <= kMostWeighed)
-            FindWeights(deviation);
-        else
-            FindBox(deviation);
-    }
-
-    /// Blurs \a line; \a spare has the same size.
-    void Run(Lanes& line, Lanes& spare) const
-    {
-        if (!m_weights.empty()) {
-            Weigh(line.data(), spare.data());
-            line.swap(spare);
-            return;
-        }
-        constexpr int passes = kPasses;
-        for (int pass = 0; pass < passes; ++pass) {
-            Mean(line.data(), spare.data());
-            line.swap(spare);
-        }
-    }
-
-private:
-    static constexpr int kPasses = 3;
-    static constexpr int kPlaces = 32; ///< that are weighed at a time
-
-    void FindWeights(double deviation)
-    {
-        constexpr double reach = 3.5; // deviations
-        const int radius = int(std::ceil(deviation * reach));
-        double sum = 0;
-        for (int i = -radius; i <= radius; ++i) {
-            const double weight = std::exp(-i * i / (2 * deviation * deviation));
-            m_weights.push_back(float(weight));
-            sum += weight;
-        }
-        for (float& weight : m_weights)
-            weight = float(double(weight) / sum);
-    }
-    /// The box, with a part of a pixel at both ends, of which kPasses have the deviation.
-    void FindBox(double deviation)
-    {
+        // The box, with a part of a pixel at both ends, of which kPasses have the deviation.
         const double variance = deviation * deviation / kPasses;
         m_radius = int((std::sqrt(12 * variance + 1) - 1) / 2);
         const double next = double(m_radius + 1) * (m_radius + 1);
@@ -77,36 +37,22 @@ private:
         m_outer = float(part / width);
     }
 
+    /// Blurs \a line; \a spare has the same size.
+    void Run(Lanes& line, Lanes& spare) const
+    {
+        constexpr int passes = kPasses;
+        for (int pass = 0; pass < passes; ++pass) {
+            Mean(line.data(), spare.data());
+            line.swap(spare);
+        }
+    }
+
+private:
+    static constexpr int kPasses = 3;
+
     const float* At(const float* line, int place) const
     {
         return line + std::size_t(std::clamp(place, 0, m_length - 1)) * kLanes;
-    }
-
-    void Weigh(const float* from, float* to) const
-    {
-        const int radius = int(m_weights.size() / 2);
-        const float* const middle = m_weights.data() + radius;
-        for (int first = 0; first < m_length; first += kPlaces) {
-            const int count = std::min(kPlaces, m_length - first);
-            const bool isInside = first >= radius && first + kPlaces + radius <= m_length;
-            std::array<float, std::size_t(kPlaces)* kLanes> sum = {};
-            for (int i = -radius; i <= radius; ++i) {
-                const float weight = middle[i];
-                if (isInside) {
-                    AddWeighed(At(from, first + i), weight, sum.data(), sum.size());
-                    continue;
-                }
-                for (int place = 0; place < count; ++place)
-                    AddWeighed(At(from, first + place + i), weight,
-                               sum.data() + std::ptrdiff_t(place) * kLanes, kLanes);
-            }
-            std::copy_n(sum.begin(), count * kLanes, to + std::size_t(first) * kLanes);
-        }
-    }
-    static void AddWeighed(const float* values, float weight, float* sum, std::size_t count)
-    {
-        for (std::size_t i = 0; i < count; ++i)
-            sum[i] += values[i] * weight;
     }
     void Mean(const float* from, float* to) const
     {
@@ -130,7 +76,6 @@ private:
     }
 
     const int m_length;
-    std::vector<float> m_weights; ///< empty: the box counts
     int m_radius = 0;
     float m_inner = 1;
     float m_outer = 0;
@@ -147,7 +92,7 @@ void ForSquares(int width, int first, int end, Move move)
     }
 }
 
-void BlurRows(EffectPicture& picture, int plane, int first, int end, const LineBlur& blur,
+void BlurRows(EffectPicture& picture, int plane, int first, int end, const BoxBlur& blur,
               Lanes& line, Lanes& spare)
 {
     const auto lanes = [&line, first](int y) { return line.data() + (y - first); };
@@ -166,7 +111,7 @@ void BlurRows(EffectPicture& picture, int plane, int first, int end, const LineB
     });
 }
 
-void BlurColumns(EffectPicture& picture, int plane, int first, int end, const LineBlur& blur,
+void BlurColumns(EffectPicture& picture, int plane, int first, int end, const BoxBlur& blur,
                  Lanes& line, Lanes& spare)
 {
     for (int y = 0; y < picture.Height(); ++y) {
@@ -196,25 +141,117 @@ void ForLanes(int lines, int length, int first, int last, const Bands& bands, Wo
     });
 }
 
+/// Weights of the pixels around, the middle one first; those on both sides are alike.
+class WeighedBlur
+{
+public:
+    WeighedBlur(double across, double down) : m_across(WeightsOf(across)), m_down(WeightsOf(down))
+    {
+    }
+
+    /// Rows \a first to \a end of a plane.
+    void Run(const EffectPicture& from, EffectPicture& to, int plane, int first, int end) const
+    {
+        const int radius = int(m_down.size()) - 1;
+        const int width = from.Width();
+        const int count = end - first + 2 * radius;
+        std::vector<float> wide(std::size_t(width) + 2 * m_across.size() + kBlock);
+        std::vector<float> rows(std::size_t(count) * std::size_t(width));
+        const auto row = [&](int y) { return rows.data() + std::ptrdiff_t(y) * width; };
+        for (int y = 0; y < count; ++y)
+            Across(from.Row(plane, std::clamp(first - radius + y, 0, from.Height() - 1)), width,
+                   wide.data(), row(y));
+        for (int y = first; y < end; ++y) {
+            const int middle = y - first + radius;
+            Weigh(m_down, width, to.Row(plane, y), [&](int side) { return row(middle + side); });
+        }
+    }
+
+private:
+    using Weights = std::vector<float>;
+    static constexpr int kBlock = 64; ///< pixels that are weighed at a time
+
+    static Weights WeightsOf(double deviation)
+    {
+        constexpr double reach = 3.5; // deviations
+        const int radius = deviation > kLeastDeviation ? int(std::ceil(deviation * reach)) : 0;
+        std::vector<double> weights = {1};
+        double sum = 1;
+        for (int i = 1; i <= radius; ++i) {
+            weights.push_back(std::exp(-i * i / (2 * deviation * deviation)));
+            sum += 2 * weights.back();
+        }
+        Weights shares;
+        for (const double weight : weights)
+            shares.push_back(float(weight / sum));
+        return shares;
+    }
+    /// \a wide has room for a row that goes on beyond its sides as it is there.
+    void Across(const float* row, int width, float* wide, float* to) const
+    {
+        const int radius = int(m_across.size()) - 1;
+        std::fill_n(wide, radius, row[0]);
+        std::copy_n(row, width, wide + radius);
+        std::fill_n(wide + radius + width, radius, row[width - 1]);
+        Weigh(m_across, width, to, [&](int side) { return wide + radius + side; });
+    }
+    /// \a at gives where the values on a side begin that count for the pixels of \a to.
+    template <typename At>
+    static void Weigh(const Weights& weights, int width, float* to, At at)
+    {
+        for (int first = 0; first < width; first += kBlock) {
+            const int count = std::min(kBlock, width - first);
+            std::array<float, kBlock> sum;
+            const float* const middle = at(0) + first;
+            for (int x = 0; x < count; ++x)
+                sum[std::size_t(x)] = middle[x] * weights[0];
+            for (int side = 1; side < int(weights.size()); ++side)
+                AddBoth(at(-side) + first, at(side) + first, weights[std::size_t(side)], count,
+                        sum.data());
+            std::copy_n(sum.begin(), count, to + first);
+        }
+    }
+    static void AddBoth(const float* before, const float* after, float weight, int count,
+                        float* sum)
+    {
+        for (int x = 0; x < count; ++x)
+            sum[x] += (before[x] + after[x]) * weight;
+    }
+
+    const Weights m_across;
+    const Weights m_down;
+};
+
 } // namespace
 
-void Soften(EffectPicture& picture, int first, int last, double across, double down,
-            const Bands& bands)
+EffectPicture Softened(const EffectPicture& picture, int first, int last, double across,
+                       double down, const Bands& bands)
 {
+    EffectPicture soft(picture.Size());
+    if (std::max(across, down) <= kMostWeighed) {
+        const WeighedBlur blur(across, down);
+        ForBands(picture.Height(), bands, [&](int top, int end) {
+            for (int plane = first; plane <= last; ++plane)
+                blur.Run(picture, soft, plane, top, end);
+        });
+        return soft;
+    }
+    CopyPlanes(picture, soft, first, last, bands);
     if (across > kLeastDeviation) {
-        const LineBlur blur(across, picture.Width());
+        const BoxBlur blur(across, picture.Width());
         ForLanes(picture.Height(), picture.Width(), first, last, bands,
                  [&](int plane, int from, int to, Lanes& line, Lanes& spare) {
-                     BlurRows(picture, plane, from, to, blur, line, spare);
+                     BlurRows(soft, plane, from, to, blur, line, spare);
                  });
     }
     if (down > kLeastDeviation) {
-        const LineBlur blur(down, picture.Height());
+        const BoxBlur blur(down, picture.Height());
         ForLanes(picture.Width(), picture.Height(), first, last, bands,
                  [&](int plane, int from, int to, Lanes& line, Lanes& spare) {
-                     BlurColumns(picture, plane, from, to, blur, line, spare);
+                     BlurColumns(soft, plane, from, to, blur, line, spare);
                  });
     }
+    return soft;
 }
 
 } // namespace nle

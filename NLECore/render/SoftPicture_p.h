@@ -5,9 +5,10 @@
 
 namespace nle {
 
-/// Blurs planes \a first to \a last of \a picture as a Gaussian does whose standard deviations are
-/// \a across and \a down pixels. Beyond the sides the picture goes on as it is there.
-void Soften(EffectPicture& picture, int first, int last, double across, double down,
-            const Bands& bands);
+/// Planes \a first to \a last of \a picture, blurred as a Gaussian does whose standard deviations
+/// are \a across and \a down pixels; the other planes are not filled. Beyond the sides the picture
+/// goes on as it is there.
+EffectPicture Softened(const EffectPicture& picture, int first, int last, double across,
+                       double down, const Bands& bands);
 
 } // namespace nle

@@ -3,6 +3,8 @@
 
 #include "NLECore/render/SoftPicture_p.h"
 
+#include <QtGlobal>
+
 #include <algorithm>
 #include <cmath>
 
@@ -22,26 +24,17 @@ QString Service(const char* name)
     return QString::fromLatin1(name);
 }
 
-/// A copy of the planes \a first to \a last; the others are not filled.
-EffectPicture CopyOf(const EffectPicture& picture, int first, int last, const Bands& bands)
-{
-    EffectPicture copy(picture.Size());
-    ForBands(picture.Height(), bands, [&](int from, int to) {
-        for (int plane = first; plane <= last; ++plane)
-            std::copy(picture.Row(plane, from),
-                      picture.Row(plane, from) + std::ptrdiff_t(to - from) * picture.Width(),
-                      copy.Row(plane, from));
-    });
-    return copy;
-}
-
 // ---- Blur
 
 void Blur(const ParametersAt& values, EffectFrame& frame, EffectPicture& picture)
 {
     const double size = values.Number("size");
     const int last = frame.hasAlpha ? kAlpha : kAlpha - 1;
-    Soften(picture, 0, last, size * frame.scale.x(), size * frame.scale.y(), frame.bands);
+    EffectPicture soft =
+        Softened(picture, 0, last, size * frame.scale.x(), size * frame.scale.y(), frame.bands);
+    if (!frame.hasAlpha)
+        CopyPlanes(picture, soft, kAlpha, kAlpha, frame.bands);
+    picture = std::move(soft);
 }
 
 MltTexts MltBlur(const ParametersAt& values, const QPointF& scale)
@@ -60,8 +53,8 @@ void Sharpen(const ParametersAt& values, EffectFrame& frame, EffectPicture& pict
     if (amount == 0)
         return;
     const double size = values.Number("size");
-    EffectPicture soft = CopyOf(picture, 0, kAlpha - 1, frame.bands);
-    Soften(soft, 0, kAlpha - 1, size * frame.scale.x(), size * frame.scale.y(), frame.bands);
+    const EffectPicture soft = Softened(picture, 0, kAlpha - 1, size * frame.scale.x(),
+                                        size * frame.scale.y(), frame.bands);
     ForBands(picture.Height(), frame.bands, [&](int from, int to) {
         const int count = (to - from) * picture.Width();
         for (int plane = 0; plane < kAlpha; ++plane) {
@@ -125,79 +118,89 @@ MltTexts MltMirror(const ParametersAt& values, const QPointF& /*scale*/)
 
 // ---- Noise reduction
 
-/// A mean of the pixels around, of which those count that are nearly alike.
+/// A mean of the pixels beside, of which those count that are nearly alike. Along rows first and
+/// then along columns, as Pham and van Vliet do ("Separable bilateral filtering for fast video
+/// preprocessing", 2005).
 class Denoiser
 {
 public:
-    Denoiser(const EffectPicture& from, EffectPicture& to, double strength, int step)
-        : m_from(from), m_to(to), m_sharpness(float(1 / (strength * strength))), m_step(step)
+    Denoiser(double strength, int step)
+        : m_sharpness(float(1 / (strength * strength))), m_step(step)
     {
     }
 
-    void Row(int y)
+    void Across(const EffectPicture& from, EffectPicture& to, int y)
     {
-        for (int line = -kReach; line <= kReach; ++line)
-            Widen(std::clamp(y + line * m_step, 0, m_from.Height() - 1), line + kReach);
-        for (int first = 0; first < m_from.Width(); first += kBlock)
-            Block(y, first, std::min(kBlock, m_from.Width() - first));
+        const int reach = kReach * m_step;
+        const int width = from.Width() + 2 * reach + kBlock;
+        m_wide.resize(std::size_t(kAlpha) * std::size_t(width));
+        Around around;
+        for (int plane = 0; plane < kAlpha; ++plane) {
+            float* wide = m_wide.data() + std::ptrdiff_t(plane) * width;
+            Widen(from.Row(plane, y), from.Width(), wide);
+            for (int side = 0; side < kSides; ++side)
+                around[std::size_t(side)][std::size_t(plane)] =
+                    wide + std::ptrdiff_t(side) * m_step;
+        }
+        Row(around, to, y);
+    }
+    void Down(const EffectPicture& from, EffectPicture& to, int y) const
+    {
+        Around around;
+        for (int side = 0; side < kSides; ++side) {
+            const int line = std::clamp(y + (side - kReach) * m_step, 0, from.Height() - 1);
+            for (int plane = 0; plane < kAlpha; ++plane)
+                around[std::size_t(side)][std::size_t(plane)] = from.Row(plane, line);
+        }
+        Row(around, to, y);
     }
 
 private:
     static constexpr int kReach = 2; ///< steps to each side
-    static constexpr int kLines = 2 * kReach + 1;
+    static constexpr int kSides = 2 * kReach + 1;
     static constexpr int kBlock = 64; ///< pixels that are done at a time
     using Values = std::array<float, kBlock>;
+    using Colors = std::array<const float*, kAlpha>;
+    using Around = std::array<Colors, kSides>;
 
-    float* Wide(int line, int plane)
-    {
-        const int width = m_from.Width() + 2 * kReach * m_step + kBlock;
-        m_wide.resize(std::size_t(kLines * kAlpha) * std::size_t(width));
-        return m_wide.data() + std::size_t(line * kAlpha + plane) * std::size_t(width);
-    }
     /// A row that goes on beyond its sides as it is there.
-    void Widen(int y, int line)
+    void Widen(const float* row, int width, float* wide) const
     {
         const int reach = kReach * m_step;
-        for (int plane = 0; plane < kAlpha; ++plane) {
-            const float* row = m_from.Row(plane, y);
-            const int width = m_from.Width();
-            float* wide = Wide(line, plane);
-            std::fill(wide, wide + reach, row[0]);
-            std::copy(row, row + width, wide + reach);
-            std::fill(wide + reach + width, wide + reach + width + reach + kBlock, row[width - 1]);
-        }
+        std::fill_n(wide, reach, row[0]);
+        std::copy_n(row, width, wide + reach);
+        std::fill_n(wide + reach + width, reach + kBlock, row[width - 1]);
     }
-    void Block(int y, int first, int count)
+    void Row(const Around& around, EffectPicture& to, int y) const
     {
-        std::array<Values, kAlpha> own;
-        std::array<Values, kAlpha> sums = {};
-        Values weights = {};
-        const int reach = kReach * m_step;
-        for (int plane = 0; plane < kAlpha; ++plane)
-            std::copy_n(Wide(kReach, plane) + reach + first, kBlock,
-                        own[std::size_t(plane)].begin());
-        for (int line = 0; line < kLines; ++line) {
-            for (int across = -kReach; across <= kReach; ++across) {
-                const int place = reach + first + across * m_step;
-                AddNeighbours({Wide(line, 0) + place, Wide(line, 1) + place, Wide(line, 2) + place},
-                              own, sums, weights);
+        for (int first = 0; first < to.Width(); first += kBlock) {
+            const int count = std::min(kBlock, to.Width() - first);
+            std::array<Values, kAlpha> own = {};
+            std::array<Values, kAlpha> sums = {};
+            Values weights = {};
+            Take(around[kReach], first, count, own);
+            for (const Colors& colors : around) {
+                // Copies, so that nothing that is read can be what is written.
+                std::array<Values, kAlpha> near = {};
+                Take(colors, first, count, near);
+                Add(near, own, sums, weights);
+            }
+            for (int plane = 0; plane < kAlpha; ++plane) {
+                float* row = to.Row(plane, y) + first;
+                const Values& sum = sums[std::size_t(plane)];
+                for (int x = 0; x < count; ++x)
+                    row[x] = sum[std::size_t(x)] / weights[std::size_t(x)];
             }
         }
-        for (int plane = 0; plane < kAlpha; ++plane) {
-            float* to = m_to.Row(plane, y) + first;
-            const Values& sum = sums[std::size_t(plane)];
-            for (int x = 0; x < count; ++x)
-                to[x] = sum[std::size_t(x)] / weights[std::size_t(x)];
-        }
     }
-    void AddNeighbours(const std::array<const float*, kAlpha>& other,
-                       const std::array<Values, kAlpha>& own, std::array<Values, kAlpha>& sums,
-                       Values& weights) const
+    static void Take(const Colors& colors, int first, int count, std::array<Values, kAlpha>& values)
     {
-        // Copies, so that nothing that is read can be what is written.
-        std::array<Values, kAlpha> near;
-        for (std::size_t plane = 0; plane < near.size(); ++plane)
-            std::copy_n(other[plane], kBlock, near[plane].begin());
+        for (std::size_t plane = 0; plane < values.size(); ++plane)
+            std::copy_n(colors[plane] + first, count, values[plane].begin());
+    }
+    void Add(const std::array<Values, kAlpha>& near, const std::array<Values, kAlpha>& own,
+             std::array<Values, kAlpha>& sums, Values& weights) const
+    {
         for (std::size_t x = 0; x < kBlock; ++x) {
             const float red = near[0][x] - own[0][x];
             const float green = near[1][x] - own[1][x];
@@ -212,8 +215,6 @@ private:
         }
     }
 
-    const EffectPicture& m_from;
-    EffectPicture& m_to;
     const float m_sharpness;
     const int m_step;
     std::vector<float> m_wide;
@@ -230,11 +231,16 @@ void ReduceNoise(const ParametersAt& values, EffectFrame& frame, EffectPicture& 
         return;
     const int step =
         std::clamp(int(std::lround(frame.Drawn(values.Number("size")) / 2)), 1, farthest);
-    const EffectPicture from = CopyOf(picture, 0, kAlpha - 1, frame.bands);
+    EffectPicture across(picture.Size());
     ForBands(picture.Height(), frame.bands, [&](int first, int end) {
-        Denoiser denoiser(from, picture, strength, step);
+        Denoiser denoiser(strength, step);
         for (int y = first; y < end; ++y)
-            denoiser.Row(y);
+            denoiser.Across(picture, across, y);
+    });
+    ForBands(picture.Height(), frame.bands, [&](int first, int end) {
+        const Denoiser denoiser(strength, step);
+        for (int y = first; y < end; ++y)
+            denoiser.Down(across, picture, y);
     });
 }
 
@@ -274,7 +280,7 @@ public:
                             std::max(wide + m_x, 0), std::max(high + m_y, 0));
         EffectPicture canvas(QRect(QPoint(), picture.Size()).marginsAdded(room).size());
         PutAlpha(picture, QPoint(room.left() + m_x, room.top() + m_y), frame.bands, canvas);
-        Soften(canvas, kAlpha, kAlpha, m_softX, m_softY, frame.bands);
+        canvas = Softened(canvas, kAlpha, kAlpha, m_softX, m_softY, frame.bands);
         PutPicture(picture, QPoint(room.left(), room.top()), frame.bands, canvas);
         frame.inner.translate(room.left(), room.top());
         picture = std::move(canvas);
@@ -351,29 +357,32 @@ void DropShadow(const ParametersAt& values, EffectFrame& frame, EffectPicture& p
 
 EffectKind BlurEffect()
 {
-    return {{{"blur", "Blur"}, {NumberRow({"size", "Size"}, NLEUnit_Pixels, 0, 200, 8)}},
-            false,
-            nullptr,
-            Blur,
-            MltBlur};
+    return {
+        {{"blur", QT_TRANSLATE_NOOP("NLECore", "Blur")},
+         {NumberRow({"size", QT_TRANSLATE_NOOP("NLECore", "Size")}, NLEUnit_Pixels, 0, 200, 8)}},
+        false,
+        nullptr,
+        Blur,
+        MltBlur};
 }
 
 EffectKind SharpenEffect()
 {
-    return {{{"sharpen", "Sharpen"},
-             {NumberRow({"amount", "Amount"}, NLEUnit_Share, 0, 5, 1),
-              NumberRow({"size", "Size"}, NLEUnit_Pixels, 0.2, 50, 2)}},
-            false,
-            nullptr,
-            Sharpen,
-            MltSharpen};
+    return {
+        {{"sharpen", QT_TRANSLATE_NOOP("NLECore", "Sharpen")},
+         {NumberRow({"amount", QT_TRANSLATE_NOOP("NLECore", "Amount")}, NLEUnit_Share, 0, 5, 1),
+          NumberRow({"size", QT_TRANSLATE_NOOP("NLECore", "Size")}, NLEUnit_Pixels, 0.2, 50, 2)}},
+        false,
+        nullptr,
+        Sharpen,
+        MltSharpen};
 }
 
 EffectKind MirrorEffect()
 {
-    return {{{"mirror", "Mirror"},
-             {SwitchRow({"horizontal", "Left and right"}, true),
-              SwitchRow({"vertical", "Top and bottom"}, false)}},
+    return {{{"mirror", QT_TRANSLATE_NOOP("NLECore", "Mirror")},
+             {SwitchRow({"horizontal", QT_TRANSLATE_NOOP("NLECore", "Left and right")}, true),
+              SwitchRow({"vertical", QT_TRANSLATE_NOOP("NLECore", "Top and bottom")}, false)}},
             false,
             nullptr,
             Mirror,
@@ -382,9 +391,10 @@ EffectKind MirrorEffect()
 
 EffectKind NoiseReductionEffect()
 {
-    return {{{"noise-reduction", "Noise reduction"},
-             {NumberRow({"strength", "Strength"}, NLEUnit_Share, 0, 1, 0.2),
-              NumberRow({"size", "Size"}, NLEUnit_Pixels, 1, 16, 2)}},
+    return {{{"noise-reduction", QT_TRANSLATE_NOOP("NLECore", "Noise reduction")},
+             {NumberRow({"strength", QT_TRANSLATE_NOOP("NLECore", "Strength")}, NLEUnit_Share, 0, 1,
+                        0.2),
+              NumberRow({"size", QT_TRANSLATE_NOOP("NLECore", "Size")}, NLEUnit_Pixels, 1, 16, 2)}},
             false,
             nullptr,
             ReduceNoise,
@@ -394,12 +404,15 @@ EffectKind NoiseReductionEffect()
 EffectKind DropShadowEffect()
 {
     constexpr std::uint32_t black = 0xFF000000;
-    return {{{"drop-shadow", "Drop shadow"},
-             {NumberRow({"x", "Offset across"}, NLEUnit_Pixels, -500, 500, 8),
-              NumberRow({"y", "Offset down"}, NLEUnit_Pixels, -500, 500, 8),
-              NumberRow({"blur", "Blur"}, NLEUnit_Pixels, 0, 200, 6),
-              ColorRow({"color", "Colour"}, black),
-              NumberRow({"opacity", "Opacity"}, NLEUnit_Share, 0, 1, 0.6)}},
+    return {{{"drop-shadow", QT_TRANSLATE_NOOP("NLECore", "Drop shadow")},
+             {NumberRow({"x", QT_TRANSLATE_NOOP("NLECore", "Offset across")}, NLEUnit_Pixels, -500,
+                        500, 8),
+              NumberRow({"y", QT_TRANSLATE_NOOP("NLECore", "Offset down")}, NLEUnit_Pixels, -500,
+                        500, 8),
+              NumberRow({"blur", QT_TRANSLATE_NOOP("NLECore", "Blur")}, NLEUnit_Pixels, 0, 200, 6),
+              ColorRow({"color", QT_TRANSLATE_NOOP("NLECore", "Colour")}, black),
+              NumberRow({"opacity", QT_TRANSLATE_NOOP("NLECore", "Opacity")}, NLEUnit_Share, 0, 1,
+                        0.6)}},
             true,
             nullptr,
             DropShadow,

@@ -46,6 +46,15 @@ private:
     }
 };
 
+/// The sample that plays when \a frame begins, of sound of \a sampleRate.
+inline std::int64_t SampleOfFrame(std::int64_t frame, const NLERational& frameRate, int sampleRate)
+{
+    // Far from overflow in what is computed of it.
+    constexpr double farthest = 1e15;
+    return std::llround(
+        std::clamp(double(frame) * sampleRate / ToDouble(frameRate), -farthest, farthest));
+}
+
 /// \a range with both ends at \a factor times their place; what is not empty keeps at least one
 /// frame.
 inline NLERange ScaleRange(const NLERange& range, double factor)

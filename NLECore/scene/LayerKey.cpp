@@ -2,6 +2,7 @@
 #include "NLECore/scene/LayerKey.h"
 
 #include "NLECore/scene/FieldKeys.h"
+#include "NLECore/scene/SourceChoice.h"
 #include "NLECore/scene/Title.h"
 
 #include <QDateTime>
@@ -58,8 +59,10 @@ template <typename Value>
 void LayerKeys::AddField(ContentHash& hash, const Layer& layer, const Value& value)
 {
     if constexpr (std::is_same_v<Value, std::shared_ptr<const MediaInfo>>) {
-        if (value && &value == &layer.ShownMedia())
-            hash.Add(OfMedia(*value));
+        if (value && &value == &layer.ShownMedia()) {
+            const NLERational rate = ShownStreamOf(layer).frameRate;
+            hash.Add(OfMedia(*value)).Add(rate.num).Add(rate.den);
+        }
     } else if constexpr (std::is_same_v<Value, std::vector<SharedParameters>>) {
         for (const SharedParameters& values : value)
             AddParameters(hash, *values);
@@ -123,7 +126,6 @@ ContentKey LayerKeys::OfMedia(const MediaInfo& media)
         return known->second;
     ContentHash hash;
     hash.Add(media.path).Add(media.stamp.size).Add(media.stamp.modifiedNs).Add(media.videoStream);
-    hash.Add(media.frameRate.num).Add(media.frameRate.den);
     return m_media[&media] = hash.Add(OfFile(media.path)).Result();
 }
 

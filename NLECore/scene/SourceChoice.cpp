@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/scene/SourceChoice.h"
 
+#include "NLECore/media/ImageSequence.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -63,6 +65,15 @@ double WithSound(const MediaInfo& media, IsHeard isHeard, double length, const N
             longest = std::max(longest, std::round(end));
     }
     return longest;
+}
+
+/// Whether the layer's proxy has a frame for each picture of an image sequence, which the clip may
+/// play at another rate than the proxy was made with.
+bool IsFrameForFrame(const Layer& layer)
+{
+    return layer.proxy && IsSequence(*layer.media) &&
+           PicturesOf(*layer.proxy, layer.proxy->videoStream) ==
+               PicturesOf(*layer.media, layer.media->videoStream);
 }
 
 } // namespace
@@ -140,7 +151,8 @@ ShownStream ShownStreamOf(const Layer& layer)
     // What is chosen is of the clip's own file.
     const SourceSettings settings = layer.proxy ? SourceSettings() : layer.source;
     const int index = VideoStreamOf(media, settings);
-    const NLERational rate = RateOf(media, index);
+    const NLERational rate = IsFrameForFrame(layer) ? RateOf(*layer.media, layer.media->videoStream)
+                                                    : RateOf(media, index);
     const std::int64_t pictures = PicturesOf(media, index);
     ShownStream shown = {index,
                          rate,

@@ -40,8 +40,8 @@ ParameterRow ReverseRow()
 ParameterRow DirectionRow()
 {
     return ChoiceRow({kDirection, QT_TRANSLATE_NOOP("NLECore", "Direction")},
-                     {{"right", QT_TRANSLATE_NOOP("NLECore", "Right")},
-                      {"left", QT_TRANSLATE_NOOP("NLECore", "Left")},
+                     {{"right", QT_TRANSLATE_NOOP("NLECore", "To the right")},
+                      {"left", QT_TRANSLATE_NOOP("NLECore", "To the left")},
                       {"down", QT_TRANSLATE_NOOP("NLECore", "Down")},
                       {"up", QT_TRANSLATE_NOOP("NLECore", "Up")},
                       {"down-right", QT_TRANSLATE_NOOP("NLECore", "Down right")},

@@ -51,6 +51,15 @@ public:
             factory->GetTimelineFactory(nodes.put());
         return nodes;
     }
+    /// The text that a call with a buffer gives; null when it fails.
+    template <typename Call>
+    static QString TextOf(Call call)
+    {
+        std::array<wchar_t, 256> buffer = {};
+        return call(buffer.data(), int(buffer.size())) == S_OK
+                   ? QString::fromWCharArray(buffer.data())
+                   : QString();
+    }
     /// A new effect; null for a name that there is not.
     static Node Effect(const char* name)
     {

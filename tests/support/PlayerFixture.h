@@ -199,7 +199,8 @@ public:
     {
         const QByteArray bytes = Contents(path);
         std::vector<float> samples(size_t(bytes.size()) / sizeof(float));
-        std::memcpy(samples.data(), bytes.constData(), samples.size() * sizeof(float));
+        if (!samples.empty())
+            std::memcpy(samples.data(), bytes.constData(), samples.size() * sizeof(float));
         return samples;
     }
     /// Lets SDL write sound into \a path in real time.

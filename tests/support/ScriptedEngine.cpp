@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "tests/support/ScriptedEngine.h"
 
+#include "EngineApi/INLEEditing.h"
 #include "EngineApi/INLEFactory.h"
 #include "EngineApi/INLEFrames.h"
 #include "EngineApi/INLEMedia.h"
@@ -109,6 +110,7 @@ struct Factory : Object<INLEFactory>
     SCRIPTED_OBJECT(INLEProxyMaker, CreateProxyMaker)
     SCRIPTED_OBJECT(INLEPlayer, CreatePlayer)
     SCRIPTED_OBJECT(INLEReasons, GetReasons)
+    SCRIPTED_OBJECT_FROM(INLETimeline*, INLEEditing, CreateEditing)
 };
 
 struct ClassFactory : Object<IClassFactory>
