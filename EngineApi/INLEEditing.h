@@ -73,7 +73,8 @@ struct INLEEditing : IUnknown
     virtual HRESULT SetMostSteps(int most) = 0;
     /// Empties the history.
     virtual HRESULT ForgetSteps() = 0;
-    /// The clips and transitions that the last edit, undo or redo has changed, added or removed.
+    /// The clips and transitions that the last edit, undo or redo, or the step that has just ended,
+    /// has changed, added or removed.
     virtual HRESULT GetChanged(INLETimelineEnumerator** clips) = 0;
 
     // ---- One clip and its group

@@ -594,10 +594,24 @@ private slots:
         QCOMPARE(Fault(p), QString());
     }
 
+    void changedClipsAreTold_data()
+    {
+        QTest::addColumn<bool>("hasTwo");
+        QTest::addColumn<QString>("changed");
+        QTest::newRow("of an edit") << false << "A~";
+        QTest::newRow("of a step of two") << true << "A~C";
+    }
+
     void changedClipsAreTold()
     {
+        QFETCH(bool, hasTwo);
+        QFETCH(QString, changed);
         EditedProject p("A0+10@20 B6+10@20 ~6+4 C30+5@0");
+        p.editing->BeginStep();
         p.editing->Trim(p.Find('A'), kEnd, 8, 0);
+        if (hasTwo)
+            p.editing->Slip(p.Find('C'), 1, 0);
+        p.editing->EndStep();
         for (const bool isUndone : {false, true}) {
             if (isUndone)
                 p.editing->Undo();
@@ -609,7 +623,7 @@ private slots:
                 letters << TimelineNode::From(clip.get())->Bag().TextOrEmpty(L"letter");
                 walk->Next();
             }
-            QCOMPARE(letters.join(""), QString("A~"));
+            QCOMPARE(letters.join(""), changed);
         }
     }
 

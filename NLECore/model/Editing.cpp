@@ -52,6 +52,7 @@ HRESULT Editing::EndStep()
         m_open.reset();
         if (step.IsEmpty())
             return S_FALSE;
+        m_changed = step.Nodes(m_timeline.Composite());
         m_history.Add(std::move(step));
         return S_OK;
     });

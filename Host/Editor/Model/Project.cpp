@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Editor/Model/Project.h"
+
+#include "CommonLib/NLEWraper/NLETimeline.h"
+#include "CommonLib/NLEWraper/NLEWraper.h"
+#include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "Host/Editor/Model/Reasons.h"
+
+#include <QFileInfo>
+
+#include <array>
+#include <utility>
+
+namespace {
+
+PlayerMaterProvider& Provider()
+{
+    return *NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
+}
+
+/// Remarks that \a serializer made on what it has loaded; engines may make none.
+QStringList RemarksOf(const NLEComPtr<INLEDocumentSerialize>& serializer)
+{
+    QStringList remarks;
+    const NLEComPtr<INLEDocumentReport> report = serializer.query<INLEDocumentReport>();
+    int count = 0;
+    if (!report || FAILED(report->GetRemarkCount(&count)))
+        return remarks;
+    for (int index = 0; index < count; ++index) {
+        std::array<wchar_t, 256> text = {};
+        std::array<wchar_t, 256> title = {};
+        int code = 0;
+        report->GetRemark(index, &code, text.data(), int(text.size()));
+        report->GetRemarkTitle(code, title.data(), int(title.size()));
+        remarks << QStringLiteral("%1: %2").arg(QString::fromWCharArray(title.data()),
+                                                QString::fromWCharArray(text.data()));
+    }
+    return remarks;
+}
+
+} // namespace
+
+Project::Project(QObject* parent)
+    : QObject(parent)
+    , m_factory(EngineFactory())
+    , m_steps(m_factory, nullptr)
+{
+    connect(&m_steps, &ProjectSteps::ClipsChanged, this, &Project::ClipsChanged);
+    connect(&m_steps, &ProjectSteps::NodeChanged, this, &Project::NodeChanged);
+    connect(&m_steps, &ProjectSteps::Refused, this, &Project::Refused);
+    connect(&Steps(), &QUndoStack::indexChanged, this, &Project::TellModified);
+    connect(&Steps(), &QUndoStack::cleanChanged, this, &Project::TellModified);
+    Adopt(Provider().CreateProjectTimeline(), {}, {});
+}
+
+Project::~Project()
+{
+    Steps().disconnect(this);
+}
+
+bool Project::IsUsable() const
+{
+    return m_steps.Editing() != nullptr;
+}
+
+double Project::FrameRate() const
+{
+    NLERational rate = {0, 1};
+    const bool isKnown = m_node->GetRenderFrameRate(&rate) == S_OK && rate.num > 0 && rate.den > 0;
+    return isKnown ? double(rate.num) / double(rate.den) : 25;
+}
+
+int Project::Length() const
+{
+    return m_timeline->GetPlayLen();
+}
+
+// ---- Steps
+
+bool Project::Edit(const QString& text, const EditCall& edit)
+{
+    return m_steps.Edit(text, edit);
+}
+
+void Project::BeginDrag(const QString& text)
+{
+    m_steps.BeginDrag(text);
+}
+
+bool Project::Drag(const EditCall& edit)
+{
+    return m_steps.Drag(edit);
+}
+
+void Project::EndDrag()
+{
+    m_steps.EndDrag();
+}
+
+void Project::CancelDrag()
+{
+    m_steps.CancelDrag();
+}
+
+bool Project::Change(const QString& text, const NLEComPtr<INLETimeline>& node, ChangeCall redo,
+                     ChangeCall undo, int merge)
+{
+    return m_steps.Change(text, node, std::move(redo), std::move(undo), merge);
+}
+
+// ---- File
+
+bool Project::New(const tagNLEProjectProfile& profile)
+{
+    const Reasons reasons(m_factory);
+    const QString action = tr("The project cannot be made");
+    const NLEComPtr<INLETimeline> node = Provider().CreateProjectTimeline(profile);
+    if (!node)
+        return Refuse(reasons.Of(action));
+    m_remarks.clear();
+    return Adopt(node, action, {});
+}
+
+bool Project::Open(const QString& path)
+{
+    const NLEComPtr<INLETimeline> node = Load(path);
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    return node && Adopt(node, tr("%1 cannot be opened").arg(path), absolute);
+}
+
+bool Project::Recover(const QString& document, const QString& path)
+{
+    const NLEComPtr<INLETimeline> node = Load(document);
+    if (!node || !Adopt(node, tr("%1 cannot be opened").arg(document), path))
+        return false;
+    Steps().resetClean();
+    return true;
+}
+
+NLEComPtr<INLETimeline> Project::Load(const QString& path)
+{
+    const Reasons reasons(m_factory);
+    const NLEComPtr<INLEDocumentSerialize> serializer = Provider().CreateDocumentSerialize();
+    NLEComPtr<INLETimeline> node;
+    const std::wstring file = path.toStdWString();
+    if (!serializer || FAILED(serializer->Load(file.c_str(), node.put()))) {
+        node.forget();
+        Refuse(reasons.Of(tr("%1 cannot be opened").arg(QFileInfo(path).fileName())));
+        return nullptr;
+    }
+    m_remarks = RemarksOf(serializer);
+    return node;
+}
+
+/// \a action is what to say when the node cannot be a project.
+bool Project::Adopt(const NLEComPtr<INLETimeline>& node, const QString& action, const QString& path)
+{
+    const Reasons reasons(m_factory);
+    NLEComPtr<INLEEditing> editing;
+    if (!m_factory || !node || FAILED(m_factory->CreateEditing(node.get(), editing.put()))) {
+        editing.forget();
+        return Refuse(reasons.Of(action));
+    }
+    // What still shows the former one lets go of it in the signal.
+    const NLEComPtr<INLETimeline> former = std::exchange(m_node, node);
+    const std::unique_ptr<NLETimeline> formerTimeline =
+        std::exchange(m_timeline, std::make_unique<NLETimeline>(node, ExactType_Project, nullptr));
+    m_steps.Begin(std::move(editing));
+    Q_EMIT Replaced();
+    SetPath(path);
+    TellModified();
+    return true;
+}
+
+bool Project::Save()
+{
+    return !m_path.isEmpty() && SaveAs(m_path);
+}
+
+bool Project::SaveAs(const QString& path)
+{
+    if (!Write(path))
+        return false;
+    Steps().setClean();
+    SetPath(QFileInfo(path).absoluteFilePath());
+    return true;
+}
+
+bool Project::SaveCopy(const QString& path)
+{
+    return Write(path);
+}
+
+bool Project::Write(const QString& path)
+{
+    EndDrag();
+    const Reasons reasons(m_factory);
+    const NLEComPtr<INLEDocumentSerialize> serializer = Provider().CreateDocumentSerialize();
+    if (serializer && SUCCEEDED(serializer->Save(m_node.get(), path.toStdWString().c_str())))
+        return true;
+    return Refuse(reasons.Of(tr("%1 cannot be saved").arg(QFileInfo(path).fileName())));
+}
+
+bool Project::Refuse(const QString& reason)
+{
+    Q_EMIT Refused(reason);
+    return false;
+}
+
+void Project::SetPath(const QString& path)
+{
+    if (m_path == path)
+        return;
+    m_path = path;
+    Q_EMIT PathChanged();
+}
+
+void Project::TellModified()
+{
+    if (m_steps.IsForgetting() || IsModified() == m_toldModified)
+        return;
+    m_toldModified = IsModified();
+    Q_EMIT ModifiedChanged(m_toldModified);
+}

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "Com/NLEComPtr.h"
+#include "EngineApi/INLEFactory.h"
+#include "EngineApi/INLEReasons.h"
+
+#include <QString>
+
+/// The engine's factory; null without an engine. Starts the engine.
+NLEComPtr<INLEFactory> EngineFactory();
+
+/// Why calls of this thread fail, for people. Forgets at its construction what failed before.
+class Reasons
+{
+public:
+    /// Null as without an engine.
+    explicit Reasons(const NLEComPtr<INLEFactory>& factory);
+
+    /// \a action and, after a colon, why it failed; \a action alone when nobody can say.
+    QString Of(const QString& action) const;
+
+private:
+    NLEComPtr<INLEReasons> m_reasons;
+};
