@@ -6,8 +6,8 @@
 #include "CommonLib/ImageTextButton.h"
 #include "CommonLib/ImageTextButton2.h"
 #include "CommonLib/MagicLabel.h"
-#include "Host/Gallery/KeepTranslated.h"
-#include "Host/Gallery/Symbols.h"
+#include "Host/Widgets/KeepTranslated.h"
+#include "Host/Widgets/Symbols.h"
 
 #include <QCoreApplication>
 #include <QGridLayout>

@@ -2,7 +2,7 @@
 #include "Host/Gallery/DragPage.h"
 
 #include "CommonLib/IDragValueChangedHelper.h"
-#include "Host/Gallery/KeepTranslated.h"
+#include "Host/Widgets/KeepTranslated.h"
 
 #include <QDoubleSpinBox>
 #include <QFormLayout>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Gallery/GalleryWindow.h"
 
-#include "Host/Gallery/KeepTranslated.h"
 #include "Host/Gallery/Pages.h"
+#include "Host/Widgets/KeepTranslated.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>

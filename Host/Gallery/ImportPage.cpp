@@ -4,7 +4,7 @@
 #include "CommonLib/StringOperation.h"
 #include "Host/Gallery/ImportTarget.h"
 #include "Host/Gallery/ImportTree.h"
-#include "Host/Gallery/KeepTranslated.h"
+#include "Host/Widgets/KeepTranslated.h"
 
 #include <QCheckBox>
 #include <QComboBox>

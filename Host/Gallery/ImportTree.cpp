@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Gallery/ImportTree.h"
 
-#include "Host/Gallery/KeepTranslated.h"
+#include "Host/Widgets/KeepTranslated.h"
 
 #include <QFileInfo>
 #include <QHeaderView>

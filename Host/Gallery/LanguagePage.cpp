@@ -2,8 +2,8 @@
 #include "Host/Gallery/LanguagePage.h"
 
 #include "CommonLib/MultiLangMgr.h"
-#include "Host/Gallery/KeepTranslated.h"
 #include "Host/HostLanguage.h"
+#include "Host/Widgets/KeepTranslated.h"
 
 #include <QComboBox>
 #include <QEvent>

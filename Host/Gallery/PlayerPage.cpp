@@ -6,12 +6,12 @@
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "CommonLib/ToolBarSlider.h"
-#include "Host/Gallery/KeepTranslated.h"
-#include "Host/Gallery/Symbols.h"
 #include "Host/Gallery/TestCard.h"
+#include "Host/Widgets/KeepTranslated.h"
 #include "Host/Widgets/LevelMeter.h"
 #include "Host/Widgets/MediaPlayer.h"
 #include "Host/Widgets/PictureView.h"
+#include "Host/Widgets/Symbols.h"
 
 #include <QComboBox>
 #include <QFileDialog>

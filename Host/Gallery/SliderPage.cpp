@@ -5,7 +5,7 @@
 #include "CommonLib/PureSlider.h"
 #include "CommonLib/ScaleUnitSlider.h"
 #include "CommonLib/ToolBarSlider.h"
-#include "Host/Gallery/KeepTranslated.h"
+#include "Host/Widgets/KeepTranslated.h"
 
 #include <QGridLayout>
 #include <QLabel>

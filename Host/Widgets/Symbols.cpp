@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "Host/Gallery/Symbols.h"
+#include "Host/Widgets/Symbols.h"
 
 #include <QIconEngine>
 #include <QPainter>

@@ -5,7 +5,7 @@
 #include <QIcon>
 #include <QPixmap>
 
-/// The pictures of the gallery's buttons, painted so that they are sharp at any scale.
+/// The pictures of buttons, painted so that they are sharp at any scale.
 enum class Symbol
 {
     Play,

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "Host/Gallery/KeepTranslated.h"
+#include "Host/Widgets/KeepTranslated.h"
 
 #include <QEvent>
 #include <QWidget>
