@@ -29,6 +29,7 @@
 #include "NLECore/objects/SystemConfig.h"
 #include "NLECore/objects/TimelineFactory.h"
 #include "NLECore/objects/WaveExtractor.h"
+#include "NLECore/render/EffectPicture.h"
 
 namespace nle {
 
@@ -200,6 +201,7 @@ HRESULT RootFactory::Shutdown(int /*flags*/)
         Decoders().Clear();
         Stills().Clear();
         KeptPictures().Clear();
+        EffectPicture::FreeSpare();
         ForgetDevices();
         OpenCLDevice::Forget();
         ForgetFiles();

@@ -7,7 +7,9 @@
 
 #include <algorithm>
 #include <atomic>
+#include <mutex>
 #include <new>
+#include <vector>
 
 namespace nle {
 
@@ -117,6 +119,63 @@ private:
     std::atomic<bool> m_failed{false};
 };
 
+/// Memory of pictures that have ended. That the system hands out fresh pages costs more than most
+/// effects do.
+class SpareMemory
+{
+public:
+    std::unique_ptr<float[]> Take(std::size_t count)
+    {
+        {
+            const std::lock_guard lock(m_mutex);
+            const auto found = std::find_if(m_spares.rbegin(), m_spares.rend(),
+                                            [=](const Spare& one) { return one.count == count; });
+            if (found != m_spares.rend()) {
+                std::unique_ptr<float[]> data = std::move(found->data);
+                m_spares.erase(std::next(found).base());
+                return data;
+            }
+        }
+        return std::unique_ptr<float[]>(new float[count]); // not cleared
+    }
+    /// The oldest make room.
+    void Leave(std::unique_ptr<float[]> data, std::size_t count)
+    {
+        if (count < kLeast || count > kMost)
+            return;
+        const std::lock_guard lock(m_mutex);
+        m_spares.push_back({std::move(data), count});
+        std::size_t sum = 0;
+        auto kept = m_spares.end();
+        while (kept != m_spares.begin() && sum + std::prev(kept)->count <= kMost)
+            sum += (--kept)->count;
+        m_spares.erase(m_spares.begin(), kept);
+    }
+    void Free()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_spares.clear();
+    }
+
+private:
+    struct Spare
+    {
+        std::unique_ptr<float[]> data;
+        std::size_t count;
+    };
+    static constexpr std::size_t kLeast = (std::size_t(256) << 10) / sizeof(float); ///< of one
+    static constexpr std::size_t kMost = (std::size_t(128) << 20) / sizeof(float);  ///< in all
+
+    std::mutex m_mutex;
+    std::vector<Spare> m_spares; ///< the oldest first
+};
+
+SpareMemory& Spares()
+{
+    static SpareMemory s_spares;
+    return s_spares;
+}
+
 } // namespace
 
 void ForBands(int count, const Bands& bands, const std::function<void(int first, int end)>& work)
@@ -137,11 +196,26 @@ void ForBands(int count, const Bands& bands, const std::function<void(int first,
         throw std::bad_alloc();
 }
 
-EffectPicture::EffectPicture(const QSize& size)
-    : m_size(size)
-    , m_data(
-          new float[std::size_t(kPlanes) * std::size_t(size.width()) * std::size_t(size.height())])
+EffectPicture::EffectPicture(const QSize& size) : m_size(size)
 {
+    const Leave leave = {std::size_t(kPlanes) * std::size_t(size.width()) *
+                         std::size_t(size.height())};
+    m_data = Planes(Spares().Take(leave.count).release(), leave);
+}
+
+void EffectPicture::Leave::operator()(float* data) const noexcept
+{
+    std::unique_ptr<float[]> owned(data);
+    try {
+        Spares().Leave(std::move(owned), count);
+    } catch (const std::bad_alloc&) {
+        return; // it is freed
+    }
+}
+
+void EffectPicture::FreeSpare()
+{
+    Spares().Free();
 }
 
 void CopyPlanes(const EffectPicture& from, EffectPicture& to, int first, int last,

@@ -45,9 +45,21 @@ public:
         return const_cast<EffectPicture*>(this)->Row(plane, y);
     }
 
+    /// Frees what pictures that have ended have left for the next ones.
+    static void FreeSpare();
+
 private:
+    /// Leaves the memory for the next picture of the same size.
+    struct Leave
+    {
+        std::size_t count;
+        void operator()(float* data) const noexcept;
+    };
+
+    using Planes = std::unique_ptr<float[], Leave>;
+
     QSize m_size;
-    std::unique_ptr<float[]> m_data;
+    Planes m_data;
 };
 
 /// Copies planes \a first to \a last between pictures of one size.
