@@ -79,11 +79,13 @@ void SetKeptMebibytes(int mebibytes)
 
 void CompareSteps(const QString& path, int mebibytes)
 {
-    SetKeptMebibytes(mebibytes);
     std::vector<double> forward;
     std::vector<double> backward;
     double longest = 0;
     for (int round = 0; round < kRounds; ++round) {
+        // Nothing is kept of the round before: both ways are through what was not seen yet.
+        SetKeptMebibytes(0);
+        SetKeptMebibytes(mebibytes);
         PlayHead head(path);
         const int first = kFrameCount - kSteps;
         head.Show(first - 1);
