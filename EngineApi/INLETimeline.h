@@ -121,13 +121,21 @@ struct INLETimelineSourceDecoder : IUnknown
     virtual HRESULT SetGPUFirst(int preference) = 0;
 };
 
+/// How a source is pointed at another file; flags that add up.
+enum NLERelinkFlags : std::int32_t
+{
+    NLERelink_AllowMissing =
+        1 ///< a file that is not there is taken too: the source is offline then
+};
+
 /// Points a source at a moved file.
 struct INLEMediaRelink : IUnknown
 {
     static constexpr _GUID Iid = {
         0xFBAE0F33, 0x7F86, 0x462B, {0x82, 0xD9, 0x44, 0xBD, 0xE1, 0x84, 0x9F, 0xD6}};
 
-    /// Takes the file when the engine can read it; else fails and the source keeps its media.
+    /// Takes the file when the engine can read it; else fails and the source keeps its media. \a
+    /// flags are of NLERelinkFlags.
     virtual HRESULT Relink(const wchar_t* path, int flags) = 0;
     /// Reads the media's description again and drops what was cached of it.
     virtual HRESULT Reload() = 0;

@@ -605,8 +605,14 @@ private slots:
         QVERIFY(QFile::copy(m_media, moved));
         QVERIFY(FAILED(relink->Relink(Path("none.mp4").toStdWString().c_str(), 0)));
         QCOMPARE(ReadFrameNumber(Frame(clip, 3)), 3);
+        const int last = RangeOf(clip).out;
+        const std::wstring missing = Path("none.mp4").toStdWString();
+        QCOMPARE(relink->Relink(missing.c_str(), NLERelink_AllowMissing), S_OK);
+        QVERIFY(Frame(clip, 3).isNull());
+        QCOMPARE(RangeOf(clip).out, last);
         QCOMPARE(relink->Relink(moved.toStdWString().c_str(), 0), S_OK);
         QCOMPARE(relink->Reload(), S_OK);
+        QCOMPARE(ReadFrameNumber(Frame(clip, 3)), 3);
         wchar_t path[512] = L"";
         clip.query<INLETimelineSource>()->GetFilePath(path, 512);
         QCOMPARE(QString::fromWCharArray(path), moved);

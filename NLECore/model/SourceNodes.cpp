@@ -93,12 +93,15 @@ HRESULT MediaClip::SetGPUFirst(int preference)
     return S_OK;
 }
 
-HRESULT MediaClip::Relink(const wchar_t* path, int /*flags*/)
+HRESULT MediaClip::Relink(const wchar_t* path, int flags)
 {
     return ComGuard([&] {
         if (!path)
             return Refuse(E_POINTER);
-        std::shared_ptr<const MediaInfo> media = DescribeFile(QString::fromWCharArray(path));
+        const QString file = QString::fromWCharArray(path);
+        const bool isOffline = (flags & NLERelink_AllowMissing) != 0 && !IsThere(file);
+        std::shared_ptr<const MediaInfo> media =
+            isOffline ? OfflineMedia(file) : DescribeFile(file);
         if (!media)
             return Refuse(E_FAIL);
         Take(std::move(media));
