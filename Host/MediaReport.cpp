@@ -4,6 +4,7 @@
 #include "CommonLib/GlobalUtils.h"
 #include "CommonLib/NLEWraper/NLETimeline.h"
 #include "EngineApi/INLEMedia.h"
+#include "EngineApi/NLECommon.h"
 
 #include <QMap>
 
@@ -129,6 +130,22 @@ MediaReport::MediaReport(NLETimeline& timeline)
     , streams(ReadStreams(timeline.GetTimelineMediaInfo().get()))
 {
     timeline.GetMediaFrameCount(frames, rate);
+}
+
+MediaReport::MediaReport(INLEMediaInfo* info)
+    : image(false), video(false), audio(false), rate(0), frames(0), streams(ReadStreams(info))
+{
+    int kind = NLEMedia_Offline;
+    NLERational exactRate = {0, 1};
+    if (info && SUCCEEDED(info->GetKind(&kind)) &&
+        SUCCEEDED(info->GetFrameCountAndRate(&frames, &exactRate)))
+        rate = float(NLECommon::ToDouble(exactRate));
+    image = kind == NLEMedia_Image;
+    audio = FirstStream(NLEStream_Audio) != NLENoStream;
+    const std::uint32_t picture = FirstStream(NLEStream_Video);
+    video = picture != NLENoStream;
+    if (video)
+        size = QSizeF(streams[int(picture)].width, streams[int(picture)].height);
 }
 
 std::uint32_t MediaReport::FirstStream(NLEStreamType type) const

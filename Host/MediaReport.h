@@ -10,14 +10,19 @@
 #include <QVector>
 
 class NLETimeline;
+struct INLEMediaInfo;
 
-/// What a media file is, as asked from the timeline object that wraps it.
+/// What a media file is.
 struct MediaReport
 {
     Q_DECLARE_TR_FUNCTIONS(MediaReport)
 
 public:
+    /// As asked from the timeline object that wraps it.
     explicit MediaReport(NLETimeline& timeline);
+    /// As the engine describes it, for any thread; of nothing at all for null. The size is that of
+    /// the first picture stream, and no sample rates are known.
+    explicit MediaReport(INLEMediaInfo* info);
 
     /// First stream of a type; NLENoStream when there is none.
     std::uint32_t FirstStream(NLEStreamType type) const;
