@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-// The import page of the gallery; folders stand for devices.
-#include "Host/Gallery/ImportPage.h"
+// The import page; folders stand for devices.
+#include "Host/Import/ImportPage.h"
 #include "tests/support/HangingFiles.h"
 
 #include <QCheckBox>

@@ -3,11 +3,11 @@
 
 #include "Host/Gallery/ButtonPage.h"
 #include "Host/Gallery/DragPage.h"
-#include "Host/Gallery/ImportPage.h"
 #include "Host/Gallery/LanguagePage.h"
 #include "Host/Gallery/PlayerPage.h"
 #include "Host/Gallery/RulerPage.h"
 #include "Host/Gallery/SliderPage.h"
+#include "Host/Import/ImportPage.h"
 
 #include <QCoreApplication>
 

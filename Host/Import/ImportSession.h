@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "Host/Gallery/ImportWorker.h"
+#include "Host/Import/ImportWorker.h"
 
 #include <QThread>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "Host/Gallery/ImportWorker.h"
+#include "Host/Import/ImportWorker.h"
 
 #include "CommonLib/WpdApiLib/WpdApiLib.h"
-#include "Host/Gallery/ComponentThread_p.h"
+#include "Host/Import/ComponentThread_p.h"
 
 #include <QDir>
 #include <QFile>
@@ -256,10 +256,12 @@ void ImportWorker::ImportNow(const QVector<ImportFile>& files)
     for (const ImportFile& file : files) {
         if (IsStopped())
             break;
-        if (ImportFileNow(file))
+        if (ImportFileNow(file)) {
             result.importedIds.append(file.id);
-        else if (!IsStopped())
+            result.imported.append(file.path);
+        } else if (!IsStopped()) {
             result.failed.append(file.path);
+        }
         m_imported += file.size;
         Q_EMIT Progressed(m_imported);
     }

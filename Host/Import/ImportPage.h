@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "Host/Gallery/ImportSession.h"
+#include "Host/Import/ImportSession.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -25,6 +25,10 @@ class ImportPage : public QWidget
 
 public:
     explicit ImportPage(QWidget* parent = nullptr);
+
+Q_SIGNALS:
+    /// Files have come, of an import that was stopped too; their \a paths.
+    void Imported(const QStringList& paths);
 
 protected:
     void showEvent(QShowEvent* event) override;

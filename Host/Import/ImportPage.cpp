@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "Host/Gallery/ImportPage.h"
+#include "Host/Import/ImportPage.h"
 
 #include "CommonLib/StringOperation.h"
-#include "Host/Gallery/ImportTarget.h"
-#include "Host/Gallery/ImportTree.h"
+#include "Host/Import/ImportTarget.h"
+#include "Host/Import/ImportTree.h"
 #include "Host/Widgets/KeepTranslated.h"
 
 #include <QCheckBox>
@@ -405,6 +405,8 @@ void ImportPage::TakeResult(const ImportResult& result)
     };
     m_idleText = m_lastResult;
     Say(m_lastResult);
+    if (!result.imported.isEmpty())
+        Q_EMIT Imported(result.imported);
     if (m_state != State::Importing)
         return;
     const QVector<std::wstring> left = NotImported(result);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "Host/Gallery/ImportTree.h"
+#include "Host/Import/ImportTree.h"
 
 #include "Host/Widgets/KeepTranslated.h"
 

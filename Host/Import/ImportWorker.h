@@ -67,7 +67,8 @@ struct ImportResult
     int wanted = 0;
     bool isStopped = false;
     QVector<std::wstring> importedIds;
-    QStringList failed; ///< paths that were not written
+    QStringList imported; ///< paths, in the order of importedIds
+    QStringList failed;   ///< paths that were not written
 };
 
 /// Uses the library's device import on the thread that it lives on, which starts after it was moved

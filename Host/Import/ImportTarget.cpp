@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "Host/Gallery/ImportTarget.h"
+#include "Host/Import/ImportTarget.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "Host/Gallery/ComponentThread_p.h"
+#include "Host/Import/ComponentThread_p.h"
 
 // Component objects ask nothing of a thread here.
 ComponentThread::ComponentThread() {}

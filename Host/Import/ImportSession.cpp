@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "Host/Gallery/ImportSession.h"
+#include "Host/Import/ImportSession.h"
 
 #include "CommonLib/WpdApiLib/WpdApiLib.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "Host/Gallery/ImportSession.h"
+#include "Host/Import/ImportSession.h"
 
 #include <QTimer>
 #include <QTreeWidget>
