@@ -11,6 +11,8 @@
 #include "Host/Widgets/LevelMeter.h"
 #include "Host/Widgets/MediaPlayer.h"
 #include "Host/Widgets/PictureView.h"
+#include "Host/Widgets/PlayerScreen.h"
+#include "Host/Widgets/SeekBar.h"
 #include "Host/Widgets/Symbols.h"
 
 #include <QComboBox>
@@ -79,9 +81,8 @@ QPushButton* AddSwitch(QHBoxLayout& row, const char* text, QWidget* parent)
 
 PlayerPage::PlayerPage(QWidget* parent)
     : QWidget(parent)
-    , m_view(new PictureView(this))
-    , m_meter(new LevelMeter(Qt::Vertical, this))
-    , m_seek(new ToolBarSlider(this, Qt::Horizontal))
+    , m_screen(new PlayerScreen(this))
+    , m_seek(new SeekBar(this))
     , m_volume(new ToolBarSlider(this, Qt::Horizontal))
     , m_time(new QLabel(this))
     , m_report(new QLabel(this))
@@ -90,12 +91,12 @@ PlayerPage::PlayerPage(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(kGap);
-    layout->addWidget(MakeScreen(), 1);
+    layout->addWidget(m_screen, 1);
     layout->addWidget(MakePositionRow());
     layout->addWidget(MakeButtonRow());
     layout->addWidget(MakePictureRow());
-    m_view->ShowPicture(PaintTestCard());
-    m_view->SetSafeAreas(true);
+    View()->ShowPicture(PaintTestCard());
+    View()->SetSafeAreas(true);
     Report([] { return tr("Nothing is open."); });
     KeepTranslated(this, [this] {
         m_report->setText(m_reportText());
@@ -104,13 +105,9 @@ PlayerPage::PlayerPage(QWidget* parent)
     ShowPosition(0);
 }
 
-QWidget* PlayerPage::MakeScreen()
+PictureView* PlayerPage::View() const
 {
-    auto* box = new QWidget(this);
-    QHBoxLayout* row = MakeRow(box);
-    row->addWidget(m_view, 1);
-    row->addWidget(m_meter);
-    return box;
+    return m_screen->View();
 }
 
 QWidget* PlayerPage::MakePositionRow()
@@ -118,12 +115,10 @@ QWidget* PlayerPage::MakePositionRow()
     auto* box = new QWidget(this);
     box->setLayoutDirection(Qt::LeftToRight); // as time runs, whatever way text does
     QHBoxLayout* row = MakeRow(box);
-    m_seek->setMinimumHeight(kSliderHeight);
-    m_seek->setRange(0, 0);
     Name(m_seek, QT_TR_NOOP("Position"));
     row->addWidget(m_seek, 1);
     row->addWidget(m_time);
-    ConnectSlider();
+    connect(m_seek, &SeekBar::FrameChosen, this, &PlayerPage::ShowPosition);
     return box;
 }
 
@@ -200,7 +195,7 @@ QWidget* PlayerPage::MakePictureRow()
     row->addWidget(m_report, 1);
     QPushButton* safe = AddSwitch(*row, QT_TR_NOOP("Safe areas"), this);
     safe->setChecked(true);
-    connect(safe, &QPushButton::toggled, m_view, &PictureView::SetSafeAreas);
+    connect(safe, &QPushButton::toggled, View(), &PictureView::SetSafeAreas);
     auto* scale = new QComboBox(this);
     scale->addItems({QString(), QString(), QStringLiteral("1:1")});
     KeepTranslated(scale, [scale] {
@@ -209,41 +204,18 @@ QWidget* PlayerPage::MakePictureRow()
     });
     Name(scale, QT_TR_NOOP("Size of the picture"));
     connect(scale, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-            [this](int index) { m_view->SetScale(kScales[index]); });
+            [this](int index) { View()->SetScale(kScales[index]); });
     row->addWidget(scale);
     return box;
-}
-
-void PlayerPage::ConnectSlider()
-{
-    connect(m_seek, &ToolBarSlider::startValueChanged, this,
-            [this] { m_wasPlaying = m_player && m_player->IsPlaying(); });
-    connect(m_seek, &ToolBarSlider::startDrag, this, [this] { m_isDragging = true; });
-    connect(m_seek, &ToolBarSlider::endDrag, this, [this] { m_isDragging = false; });
-    connect(m_seek, &ToolBarSlider::valueChanged, this, [this](double value) {
-        const int frame = qRound(value);
-        ShowPosition(frame);
-        if (m_player)
-            m_isDragging ? m_player->Scrub(frame) : m_player->Seek(frame);
-    });
-    connect(m_seek, &ToolBarSlider::endValueChanged, this, [this] {
-        if (m_wasPlaying && !m_player->IsPlaying())
-            m_player->Play(ChosenRate());
-    });
 }
 
 void PlayerPage::MakePlayer()
 {
     m_player = new MediaPlayer(this);
-    connect(m_player, &MediaPlayer::PictureReady, m_view,
-            [this](const NLEComPtr<INLEVideoFrame>& picture) {
-                if (!m_view->ShowFrame(picture))
-                    m_view->ShowPicture({});
-            });
+    m_screen->SetPlayer(m_player);
+    m_seek->SetPlayer(m_player);
     connect(m_player, &MediaPlayer::PositionChanged, this, &PlayerPage::ShowPosition);
     connect(m_player, &MediaPlayer::StateChanged, this, &PlayerPage::ShowState);
-    connect(m_player, &MediaPlayer::LevelsChanged, m_meter, &LevelMeter::SetLevels);
-    connect(m_meter, &LevelMeter::ClippingCleared, m_player, &MediaPlayer::ResetClipping);
     connect(m_player, &MediaPlayer::SecondPlayed, this, [this](const NLEPlayerReport& report) {
         Report([report] {
             return tr("Last second: %1 shown, %2 dropped, %3 late, %4 cached, drift %5 ms")
@@ -272,7 +244,6 @@ bool PlayerPage::Open(const QString& path)
     }
     const float fps = NLETimeline(clip, ExactType_Unknown, nullptr).GetRenderFrameRate();
     m_fps = fps > 0 ? fps : m_fps;
-    m_seek->setRange(0, float(qMax(0, m_player->Length() - 1)));
     if (m_loop->isChecked())
         m_player->SetLoop(0, m_player->Length() - 1);
     ShowPosition(0);
@@ -322,7 +293,6 @@ void PlayerPage::ShowState()
 
 void PlayerPage::ShowPosition(int frame)
 {
-    m_seek->setValue(float(frame), false);
     const int length = m_player ? m_player->Length() : 0;
     m_time->setText(
         QStringLiteral("%1 / %2").arg(gFrame2String(frame, m_fps), gFrame2String(length, m_fps)));
@@ -338,5 +308,5 @@ void PlayerPage::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
     if (!m_player)
-        m_meter->SetLevels(SampleLevels());
+        m_screen->Meter()->SetLevels(SampleLevels());
 }

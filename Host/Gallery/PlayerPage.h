@@ -7,13 +7,14 @@
 
 #include <functional>
 
-class LevelMeter;
 class MediaPlayer;
 class PictureView;
+class PlayerScreen;
 class QComboBox;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class SeekBar;
 class ToolBarSlider;
 
 /// Plays a file: the picture with its scales and safe areas, the meter, and what moves through
@@ -31,7 +32,7 @@ public:
 
     /// Owned by the page; the player is null before anything was opened.
     MediaPlayer* Player() const { return m_player; }
-    PictureView* View() const { return m_view; }
+    PictureView* View() const;
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -39,13 +40,11 @@ protected:
 private:
     QPushButton* AddButton(QHBoxLayout& row, const char* text, QIcon icon, const char* keys,
                            void (PlayerPage::*act)());
-    QWidget* MakeScreen();
     QWidget* MakePositionRow();
     QWidget* MakeButtonRow();
     QWidget* MakePictureRow();
     void AddSound(QHBoxLayout& row);
     void MakePlayer();
-    void ConnectSlider();
 
     void ChooseFile();
     void TogglePlay();
@@ -57,9 +56,8 @@ private:
     double ChosenRate() const;
 
     MediaPlayer* m_player = nullptr;
-    PictureView* m_view;
-    LevelMeter* m_meter;
-    ToolBarSlider* m_seek;
+    PlayerScreen* m_screen;
+    SeekBar* m_seek;
     ToolBarSlider* m_volume;
     QLabel* m_time;
     QLabel* m_report;
@@ -70,6 +68,4 @@ private:
 
     std::function<QString()> m_reportText;
     float m_fps = 25;
-    bool m_wasPlaying = false; ///< when the user took the play head
-    bool m_isDragging = false;
 };

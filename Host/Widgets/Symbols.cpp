@@ -59,6 +59,52 @@ QPainterPath Star()
     return path;
 }
 
+/// A frame of lines of \a width, whose outer edge is \a rect.
+QPainterPath Frame(const QRectF& rect, double width)
+{
+    QPainterPath path;
+    path.setFillRule(Qt::OddEvenFill);
+    path.addRect(rect);
+    path.addRect(rect.adjusted(width, width, -width, -width));
+    return path;
+}
+
+/// A bracket that opens to the right, or to the left.
+QPainterPath Bracket(bool opensRight)
+{
+    QPainterPath path;
+    path.addRect(opensRight ? 6 : 15, 4, 3, 16);
+    path.addRect(opensRight ? 9 : 10, 4, 5, 2.5);
+    path.addRect(opensRight ? 9 : 10, 17.5, 5, 2.5);
+    return path;
+}
+
+QPainterPath Loop()
+{
+    QPainterPath path = Frame({3, 7, 18, 12}, 2.5);
+    path.setFillRule(Qt::WindingFill);
+    path = path.subtracted(Polygon({{9, 6}, {15, 6}, {15, 10}, {9, 10}}));
+    return path.united(Polygon({{9, 3}, {16, 8.25}, {9, 13}}));
+}
+
+QPainterPath Corners()
+{
+    QPainterPath path = Frame({3, 4, 18, 16}, 2.5);
+    QPainterPath cross;
+    cross.setFillRule(Qt::WindingFill);
+    cross.addRect(9, 3, 6, 18);
+    cross.addRect(2, 10, 20, 4);
+    return path.subtracted(cross);
+}
+
+QPainterPath Speaker()
+{
+    QPainterPath path = Polygon({{3, 9}, {7, 9}, {12, 4}, {12, 20}, {7, 15}, {3, 15}});
+    path.addRect(14.5, 9, 2, 6);
+    path.addRect(18.5, 6, 2, 12);
+    return path;
+}
+
 QPainterPath Shape(Symbol symbol)
 {
     QPainterPath path;
@@ -95,6 +141,22 @@ QPainterPath Shape(Symbol symbol)
         path.addRect(11, 3, 2, 9);
         path.addPath(Polygon({{6.5, 10}, {17.5, 10}, {12, 16}}));
         return path;
+    case Symbol::InPoint:
+        return Bracket(true);
+    case Symbol::OutPoint:
+        return Bracket(false);
+    case Symbol::Marker:
+        return Polygon({{6, 3}, {18, 3}, {18, 14}, {12, 21}, {6, 14}});
+    case Symbol::Loop:
+        return Loop();
+    case Symbol::FullScreen:
+        return Corners();
+    case Symbol::SafeAreas:
+        path = Frame({2, 4, 20, 16}, 1.5);
+        path.addPath(Frame({6, 7.5, 12, 9}, 1.5));
+        return path;
+    case Symbol::Sound:
+        return Speaker();
     }
     return path;
 }

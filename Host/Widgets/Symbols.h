@@ -17,7 +17,14 @@ enum class Symbol
     Music,
     Title,
     Star,
-    Import
+    Import,
+    InPoint,
+    OutPoint,
+    Marker,
+    Loop,
+    FullScreen,
+    SafeAreas,
+    Sound
 };
 
 /// Drawn anew for every size; dimmed on a disabled widget.

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Editor/Player/Transport.h"
+
+#include "Host/Editor/Model/Project.h"
+#include "Host/Editor/Player/ProjectMarkers.h"
+#include "Host/Widgets/MediaPlayer.h"
+
+#include <utility>
+
+namespace {
+
+constexpr double kFastest = 8;
+constexpr std::uint32_t kMarkerColor = 0xFFE0A030;
+
+} // namespace
+
+Transport::Transport(Project& project, MediaPlayer& player, QObject* parent)
+    : QObject(parent), m_project(project), m_player(player)
+{
+    m_update.setSingleShot(true);
+    m_update.setInterval(0);
+    connect(&m_update, &QTimer::timeout, this, &Transport::Update);
+    const auto update = [this] { m_update.start(); };
+    connect(&project, &Project::Replaced, this, &Transport::OpenLater);
+    connect(&project, &Project::ClipsChanged, this, update);
+    connect(&project, &Project::NodeChanged, this, update);
+    connect(&player, &MediaPlayer::LengthChanged, this, &Transport::ApplyLoop);
+    m_update.start(); // not now, for a window is to show first
+}
+
+void Transport::OpenLater()
+{
+    m_player.Close();
+    m_isStale = true;
+    ClearPoints();
+    m_update.start();
+}
+
+void Transport::Update()
+{
+    if (std::exchange(m_isStale, false))
+        m_player.Open(m_project.Node());
+    else
+        m_player.Refresh();
+}
+
+int Transport::Last() const
+{
+    return qMax(0, m_player.Length() - 1);
+}
+
+void Transport::TogglePlay()
+{
+    if (m_player.IsPlaying())
+        return Pause();
+    if (m_player.Position() >= Last())
+        GoToBegin();
+    m_player.Play(1);
+}
+
+void Transport::Pause()
+{
+    m_player.Pause();
+}
+
+void Transport::Hurry(int direction)
+{
+    const double rate = m_player.IsPlaying() ? m_player.Rate() * direction : 0;
+    m_player.Play(direction * (rate > 0 ? qMin(kFastest, 2 * rate) : 1));
+}
+
+void Transport::StepForward()
+{
+    m_player.Step(1);
+}
+
+void Transport::StepBack()
+{
+    m_player.Step(-1);
+}
+
+void Transport::GoToBegin()
+{
+    GoTo(0);
+}
+
+void Transport::GoToEnd()
+{
+    GoTo(Last());
+}
+
+void Transport::GoTo(int frame)
+{
+    m_player.Seek(qBound(0, frame, Last()));
+}
+
+void Transport::SetInPoint()
+{
+    const int here = m_player.Position();
+    SetPoints(here, m_out < here ? kNoPoint : m_out);
+}
+
+void Transport::SetOutPoint()
+{
+    const int here = m_player.Position();
+    SetPoints(m_in > here ? kNoPoint : m_in, here);
+}
+
+void Transport::SetPoints(int in, int out)
+{
+    if (in == m_in && out == m_out)
+        return;
+    m_in = in;
+    m_out = out;
+    ApplyLoop();
+    Q_EMIT PointsChanged();
+}
+
+void Transport::GoToInPoint()
+{
+    GoTo(m_in == kNoPoint ? 0 : m_in);
+}
+
+void Transport::GoToOutPoint()
+{
+    GoTo(m_out == kNoPoint ? Last() : m_out);
+}
+
+void Transport::SetLooping(bool on)
+{
+    m_isLooping = on;
+    ApplyLoop();
+}
+
+void Transport::ApplyLoop()
+{
+    if (!m_player.IsOpen())
+        return;
+    const int first = m_in == kNoPoint ? 0 : m_in;
+    const int last = m_out == kNoPoint ? Last() : qMin(m_out, Last());
+    if (m_isLooping && first < last)
+        m_player.SetLoop(first, last);
+    else
+        m_player.ClearLoop();
+}
+
+void Transport::ToggleMarker()
+{
+    const NLEMarkerRecord marker = {m_player.Position(), 0, kMarkerColor};
+    const NLEComPtr<INLETimeline> node = m_project.Node();
+    const auto add = [node, marker] { return AddMarker(node, marker); };
+    const auto remove = [node, marker] { return RemoveMarker(node, marker.frame); };
+    if (MarkerFrames(node).contains(marker.frame))
+        m_project.Change(tr("Remove marker"), node, remove, add);
+    else
+        m_project.Change(tr("Set marker"), node, add, remove);
+}
