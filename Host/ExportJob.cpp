@@ -8,14 +8,13 @@
 #include "EngineApi/INLEProperties.h"
 #include "EngineApi/INLETimeline.h"
 #include "Host/Console.h"
+#include "Host/EncodePresets.h"
 #include "Host/MediaJob.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 namespace {
-
-constexpr int kLongestName = 128;
 
 /// The format of a clip's pictures; full high definition, 25 of them a second, where it has none.
 tagNLEProjectProfile ProfileOf(const NLEComPtr<INLETimeline>& clip)
@@ -68,11 +67,9 @@ bool ExportJob::TakePreset(const NLEComPtr<INLEMediaEncoder>& encoder, const QSt
 {
     if (preset.isEmpty())
         return true;
-    const auto catalog = encoder.query<INLEEncodeCatalog>();
     const auto options = encoder.query<INLEEncodeOptions>();
-    const NLEComPtr<INLEProperties> settings = m_provider.CreateNLEProperties();
-    if (catalog && options &&
-        catalog->GetPreset(preset.toStdWString().c_str(), settings.get()) == S_OK)
+    const auto settings = EncodePresets::Settings(m_provider, encoder, preset);
+    if (options && settings)
         return options->SetOptions(settings.get()) == S_OK;
     m_console.Print(tr("There is no preset \"%1\".").arg(preset));
     return false;
@@ -81,24 +78,14 @@ bool ExportJob::TakePreset(const NLEComPtr<INLEMediaEncoder>& encoder, const QSt
 bool ExportJob::ListPresets()
 {
     const NLEComPtr<INLEMediaEncoder> encoder = m_provider.CreateMediaEncoder();
-    const auto catalog = encoder ? encoder.query<INLEEncodeCatalog>() : nullptr;
-    int count = 0;
-    if (!catalog || catalog->GetPresetCount(&count) != S_OK || count == 0) {
+    const auto presets = EncodePresets::All(encoder);
+    if (presets.isEmpty())
         m_console.Print(tr("The engine has no presets."));
-        return false;
-    }
-    for (int index = 0; index < count; ++index) {
-        wchar_t name[kLongestName] = L"";
-        wchar_t title[kLongestName] = L"";
-        if (catalog->GetPresetName(index, name, kLongestName) != S_OK)
-            continue;
-        QString line = QString::fromWCharArray(name);
-        if (catalog->GetPresetTitle(index, title, kLongestName) == S_OK &&
-            line != QString::fromWCharArray(title))
-            line += QStringLiteral(" (%1)").arg(QString::fromWCharArray(title));
-        m_console.Print(line);
-    }
-    return true;
+    for (const EncodePresets::Preset& preset : presets)
+        m_console.Print(preset.name == preset.title
+                            ? preset.name
+                            : QStringLiteral("%1 (%2)").arg(preset.name, preset.title));
+    return !presets.isEmpty();
 }
 
 bool ExportJob::Run(const QStringList& media, const QString& path, const QString& preset)

@@ -1,0 +1,318 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Editor/Export/ExportDialog.h"
+
+#include "CommonLib/NLEWraper/NLETimeline.h"
+#include "CommonLib/NLEWraper/NLEWraper.h"
+#include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "EngineApi/NLECommon.h"
+#include "EngineApi/NLEKey.h"
+#include "Host/Editor/Export/ExportCheck.h"
+#include "Host/Editor/Export/ExportQueue.h"
+#include "Host/Editor/Export/ExportQueueView.h"
+#include "Host/Editor/Export/StillPicture.h"
+#include "Host/Editor/Model/Project.h"
+#include "Host/EncodePresets.h"
+#include "Host/Widgets/MediaPlayer.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QStandardPaths>
+#include <QToolButton>
+
+namespace {
+
+constexpr int kLongestSide = 16384;
+constexpr int kFrameLimit = 2147483647;
+constexpr int kQueueHeight = 220;
+constexpr int kWidth = 560;
+constexpr int kPathWidth = 260;
+const char* const kUsualPreset = "H.264";
+constexpr NLERational kRates[] = {{24000, 1001}, {24, 1}, {25, 1},       {30000, 1001},
+                                  {30, 1},       {50, 1}, {60000, 1001}, {60, 1}};
+constexpr int kSampleRates[] = {44100, 48000, 96000};
+
+PlayerMaterProvider& Provider()
+{
+    return *NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
+}
+
+/// A row of widgets for a form, which runs as the language does.
+QWidget* MakeRow(std::initializer_list<QWidget*> widgets)
+{
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (QWidget* widget : widgets)
+        layout->addWidget(widget);
+    layout->addStretch();
+    return row;
+}
+
+/// Two numbers of which the first is always at the left.
+QWidget* MakePair(QWidget* first, const QString& between, QWidget* second)
+{
+    QWidget* pair = MakeRow({first, new QLabel(between), second});
+    pair->setLayoutDirection(Qt::LeftToRight);
+    return pair;
+}
+
+QString HardwareNote()
+{
+    int decoding = NLEHardware_Never;
+    NLEComPtr<INLEProperties> settings;
+    const auto config = Provider().GetSystemConfig();
+    if (config && config->GetProperties(settings.put()) == S_OK)
+        settings->GetInt(NLEKey::System::kHardwareDecoding, &decoding);
+    return decoding == NLEHardware_Never
+               ? ExportDialog::tr("The processor encodes and decodes.")
+               : ExportDialog::tr("The processor encodes; the graphics hardware helps to decode.");
+}
+
+QString WithSuffix(const QString& path, const QString& suffix)
+{
+    const QFileInfo file(path);
+    return suffix.isEmpty() ? path : file.dir().filePath(file.completeBaseName() + '.' + suffix);
+}
+
+} // namespace
+
+ExportDialog::ExportDialog(Project& project, MediaPlayer& player, ExportQueue& queue,
+                           QWidget* parent)
+    : QDialog(parent)
+    , m_project(project)
+    , m_player(player)
+    , m_queue(queue)
+    , m_encoder(Provider().CreateMediaEncoder())
+    , m_check(new ExportCheck(this))
+    , m_preset(new QComboBox(this))
+    , m_path(new QLineEdit(this))
+    , m_complaint(new QLabel(this))
+    , m_add(new QPushButton(tr("Add to the queue"), this))
+{
+    setWindowTitle(tr("Export"));
+    auto* column = new QVBoxLayout(this);
+    auto* form = new QFormLayout;
+    column->addLayout(form);
+    AddPresets(*form);
+    AddFile(*form);
+    AddFormat(*form);
+    AddRange(*form);
+    AddNotes(*form);
+    column->addWidget(MakeButtons());
+    auto* films = new QScrollArea(this);
+    films->setWidget(new ExportQueueView(queue));
+    films->setWidgetResizable(true);
+    films->setMinimumHeight(kQueueHeight);
+    films->setAccessibleName(tr("Films"));
+    column->addWidget(films, 1);
+    resize(kWidth, sizeHint().height());
+    connect(m_check, &ExportCheck::Told, this, &ExportDialog::ShowComplaint);
+    connect(&project, &Project::Replaced, this, &ExportDialog::TakeProject);
+    TakeProject();
+    TakePreset();
+}
+
+void ExportDialog::AddPresets(QFormLayout& form)
+{
+    for (const EncodePresets::Preset& preset : EncodePresets::All(m_encoder))
+        m_preset->addItem(preset.title, preset.name);
+    form.addRow(tr("Preset"), m_preset);
+    connect(m_preset, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &ExportDialog::TakePreset);
+}
+
+void ExportDialog::AddFile(QFormLayout& form)
+{
+    const QDir films(QStandardPaths::writableLocation(QStandardPaths::MoviesLocation));
+    m_path->setText(QDir::toNativeSeparators(films.filePath(tr("film"))));
+    m_path->setMinimumWidth(kPathWidth);
+    m_path->setLayoutDirection(Qt::LeftToRight); // as paths are
+    auto* pick = new QToolButton(this);
+    pick->setText(QStringLiteral("…"));
+    pick->setAccessibleName(tr("Choose a file"));
+    auto* row = new QWidget(this);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_path, 1);
+    layout->addWidget(pick);
+    form.addRow(tr("File"), row);
+    m_path->setAccessibleName(tr("File"));
+    connect(pick, &QToolButton::clicked, this, &ExportDialog::PickFile);
+}
+
+void ExportDialog::AddFormat(QFormLayout& form)
+{
+    m_width = MakeFrame(tr("Width"));
+    m_height = MakeFrame(tr("Height"));
+    for (QSpinBox* side : {m_width, m_height})
+        side->setRange(2, kLongestSide);
+    m_rate = new QComboBox(this);
+    m_rate->addItem(tr("As the project"));
+    for (const NLERational& rate : kRates)
+        m_rate->addItem(tr("%1 fps").arg(QLocale().toString(NLECommon::ToDouble(rate), 'g', 5)),
+                        QVariant::fromValue(QSize(int(rate.num), int(rate.den))));
+    m_sampleRate = new QComboBox(this);
+    m_sampleRate->addItem(tr("As the project"), 0);
+    for (const int rate : kSampleRates)
+        m_sampleRate->addItem(tr("%1 Hz").arg(rate), rate);
+    form.addRow(tr("Size"), MakePair(m_width, QStringLiteral("×"), m_height));
+    form.addRow(tr("Frame rate"), m_rate);
+    form.addRow(tr("Sound"), m_sampleRate);
+    for (QComboBox* box : {m_rate, m_sampleRate})
+        connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+                &ExportDialog::Check);
+}
+
+QSpinBox* ExportDialog::MakeFrame(const QString& name)
+{
+    auto* box = new QSpinBox(this);
+    box->setRange(0, kFrameLimit);
+    box->setAccessibleName(name);
+    box->setToolTip(name);
+    connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, &ExportDialog::Check);
+    return box;
+}
+
+void ExportDialog::AddRange(QFormLayout& form)
+{
+    m_all = new QRadioButton(tr("All"), this);
+    m_part = new QRadioButton(tr("Frames"), this);
+    m_first = MakeFrame(tr("In point"));
+    m_last = MakeFrame(tr("Out point"));
+    m_all->setChecked(true);
+    for (QSpinBox* box : {m_first, m_last}) {
+        box->setEnabled(false);
+        connect(m_part, &QRadioButton::toggled, box, &QWidget::setEnabled);
+    }
+    // The engine takes frame 0 alone for all of it.
+    connect(m_first, QOverload<int>::of(&QSpinBox::valueChanged), m_last,
+            [this](int first) { m_last->setMinimum(qMax(first, 1)); });
+    m_last->setMinimum(1);
+    auto* row = MakeRow({m_all, m_part, MakePair(m_first, QStringLiteral("–"), m_last)});
+    form.addRow(tr("Range"), row);
+}
+
+void ExportDialog::AddNotes(QFormLayout& form)
+{
+    auto* hardware = new QLabel(HardwareNote(), this);
+    hardware->setObjectName(QStringLiteral("CommonLib_Hint"));
+    form.addRow(tr("Hardware"), hardware);
+    m_complaint->setWordWrap(true);
+    m_complaint->setStyleSheet(QStringLiteral("color: #ff8f7a"));
+    form.addRow(m_complaint);
+}
+
+QWidget* ExportDialog::MakeButtons()
+{
+    auto* still = new QPushButton(tr("Still picture…"), this);
+    auto* close = new QPushButton(tr("Close"), this);
+    still->setToolTip(tr("Writes the frame under the play head"));
+    still->setAutoDefault(false);
+    close->setAutoDefault(false);
+    m_add->setDefault(true);
+    connect(m_add, &QPushButton::clicked, this, &ExportDialog::AddToQueue);
+    connect(still, &QPushButton::clicked, this, &ExportDialog::AskForStill);
+    connect(close, &QPushButton::clicked, this, &QDialog::close);
+    return MakeRow({m_add, still, close});
+}
+
+void ExportDialog::TakeProject()
+{
+    const QSize size = m_project.Timeline()->GetProjectResolution();
+    m_width->setValue(size.width());
+    m_height->setValue(size.height());
+    m_first->setValue(0);
+    m_last->setValue(qMax(m_project.Length() - 1, 0));
+    m_all->setChecked(true);
+}
+
+void ExportDialog::SetRange(int first, int last)
+{
+    m_part->setChecked(true);
+    m_first->setValue(first);
+    m_last->setValue(last);
+}
+
+void ExportDialog::SetPath(const QString& path)
+{
+    m_path->setText(QDir::toNativeSeparators(path));
+}
+
+void ExportDialog::TakePreset()
+{
+    const auto settings =
+        EncodePresets::Settings(Provider(), m_encoder, m_preset->currentData().toString());
+    if (settings)
+        SetPath(WithSuffix(QDir::fromNativeSeparators(m_path->text()),
+                           EncodePresets::Suffix(m_encoder, settings)));
+    Check();
+}
+
+void ExportDialog::PickFile()
+{
+    const QString path = QFileDialog::getSaveFileName(this, tr("Export"), m_path->text());
+    if (!path.isEmpty())
+        SetPath(path);
+}
+
+ExportOrder ExportDialog::Order() const
+{
+    const tagNLEProjectProfile profile = m_project.Timeline()->GetProjectProfile();
+    ExportOrder order;
+    order.path = QDir::fromNativeSeparators(m_path->text());
+    order.preset = m_preset->currentData().toString();
+    order.settings.frameSize = {m_width->value(), m_height->value()};
+    const QSize rate = m_rate->currentData().toSize();
+    order.settings.frameRate =
+        rate.isEmpty() ? profile.frameRate : NLERational{rate.width(), rate.height()};
+    const int sampleRate = m_sampleRate->currentData().toInt();
+    order.settings.sampleRate = sampleRate > 0 ? sampleRate : profile.sampleRate;
+    order.settings.channels = profile.channels;
+    if (m_part->isChecked())
+        order.settings.range = {m_first->value(), m_last->value()};
+    return order;
+}
+
+void ExportDialog::Check()
+{
+    // Not before all widgets are there.
+    if (!m_last || m_preset->count() == 0)
+        return;
+    m_check->Ask(Order());
+}
+
+void ExportDialog::ShowComplaint(const QString& complaint)
+{
+    m_complaint->setText(complaint);
+    m_add->setEnabled(complaint.isEmpty());
+}
+
+void ExportDialog::AddToQueue()
+{
+    if (m_queue.Add(m_project.Node(), Order()) == 0)
+        m_complaint->setText(tr("The project cannot be copied."));
+}
+
+void ExportDialog::AskForStill()
+{
+    const QString path = QFileDialog::getSaveFileName(
+        this, tr("Still picture"),
+        QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) +
+            tr("/frame %1.png").arg(m_player.Position()),
+        tr("Pictures (*.png *.jpg *.tif *.bmp)"));
+    if (path.isEmpty())
+        return;
+    const QString complaint = StillPicture::Save(m_project.Node(), m_player.Position(), path);
+    if (!complaint.isEmpty())
+        QMessageBox::warning(this, tr("Still picture"), complaint);
+}
