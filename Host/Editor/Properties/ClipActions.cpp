@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Editor/Properties/ClipActions.h"
+
+#include "CommonLib/NLEWraper/NLETimeline.h"
+#include "Host/Editor/Model/Project.h"
+#include "Host/Editor/Model/Selection.h"
+#include "Host/Editor/Properties/EngineCatalog.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+QString Tr(const char* text)
+{
+    return QCoreApplication::translate("ClipActions", text);
+}
+
+/// First frame and the one behind the last on the project.
+struct Span
+{
+    int begin;
+    int end;
+};
+
+Span SpanOf(INLETimeline& clip)
+{
+    int position = 0;
+    NLERange range = {};
+    clip.GetPosition(&position);
+    clip.GetRange(&range);
+    return {position, position + int(NLERangeLength(range))};
+}
+
+int LevelOf(INLETimeline& clip)
+{
+    int level = 0;
+    clip.GetLevel(&level);
+    return level;
+}
+
+/// The lowest level above all that plays within \a span.
+int FreeLevel(const Project& project, const Span& span)
+{
+    int level = 0;
+    const NLETimeline node(project.Node(), ExactType_Project, nullptr);
+    for (const auto& clip : node.GetChilds()) {
+        const Span other = SpanOf(*clip);
+        if (other.begin < span.end && span.begin < other.end)
+            level = std::max(level, LevelOf(*clip) + 1);
+    }
+    return level;
+}
+
+/// The longest transition that the engine takes, half as long each time. The last refusal stands.
+HRESULT PutTransition(INLEEditing& editing, INLETimeline* transition, INLETimeline* clip,
+                      NLEClipEdge edge, int frames)
+{
+    HRESULT result = E_FAIL;
+    for (int length = frames; length > 0 && FAILED(result); length /= 2)
+        result = editing.AddTransition(transition, clip, edge, length);
+    return result;
+}
+
+NLEComPtr<INLEEffects> EffectsOf(const NLEComPtr<INLETimeline>& clip)
+{
+    NLEComPtr<INLEEffects> effects;
+    if (FAILED(clip->GetInterface(INLEEffects::Iid, effects.putVoid(), 0, 0)))
+        effects.forget();
+    return effects;
+}
+
+NLEComPtr<INLETimeline> EffectAt(const NLEComPtr<INLETimeline>& clip, int index)
+{
+    NLEComPtr<INLETimeline> effect;
+    if (const auto effects = EffectsOf(clip))
+        effects->GetEffect(index, effect.put());
+    return effect;
+}
+
+NLEComPtr<INLETimeline> AtSpeed(const NLEComPtr<INLETimeline>& clip, double speed)
+{
+    NLEComPtr<INLETimeline> copy;
+    if (FAILED(clip->Clone(true, copy.put())))
+        return {};
+    NLETimeline wrapper(copy, ExactType_Unknown, nullptr);
+    wrapper.SetRenderScale(float(speed));
+    wrapper.SetRenderScaleEnable(speed != 1);
+    return copy;
+}
+
+} // namespace
+
+bool ClipActions::AddTransition(Project& project, Selection& selection,
+                                const NLEComPtr<INLETimeline>& clip, const QString& name,
+                                NLEClipEdge edge)
+{
+    const auto transition = EngineCatalog::Make(NLECatalog_Transition, name);
+    const int second = std::max(int(std::lround(project.FrameRate())), 1);
+    if (!transition || !project.Edit(Tr(QT_TRANSLATE_NOOP("ClipActions", "Add transition")),
+                                     [&](INLEEditing& editing) {
+                                         return PutTransition(editing, transition.get(), clip.get(),
+                                                              edge, second);
+                                     }))
+        return false;
+    selection.Set({transition});
+    return true;
+}
+
+bool ClipActions::AddTitle(Project& project, Selection& selection, const QString& text, int frame)
+{
+    const auto title = EngineCatalog::MakeTitle(text);
+    if (!title)
+        return false;
+    const Span own = SpanOf(*title);
+    const int level = FreeLevel(project, {frame, frame + own.end - own.begin});
+    if (!project.Edit(Tr(QT_TRANSLATE_NOOP("ClipActions", "Add title")), [&](INLEEditing& editing) {
+            return editing.Place(title.get(), frame, level, 0);
+        }))
+        return false;
+    selection.Set({title});
+    return true;
+}
+
+bool ClipActions::SetSpeed(Project& project, Selection& selection,
+                           const NLEComPtr<INLETimeline>& clip, double speed)
+{
+    const auto copy = AtSpeed(clip, speed);
+    const int begin = SpanOf(*clip).begin;
+    const int level = LevelOf(*clip);
+    // The history knows nodes that come and go; a speed that changes under it would empty it.
+    const auto replace = [&](INLEEditing& editing) {
+        const HRESULT removed = editing.Delete(clip.get(), NLEEdit_Alone);
+        return FAILED(removed) ? removed : editing.Place(copy.get(), begin, level, 0);
+    };
+    if (!copy || !project.Edit(Tr(QT_TRANSLATE_NOOP("ClipActions", "Change speed")), replace))
+        return false;
+    selection.Set({copy});
+    return true;
+}
+
+bool ClipActions::AddEffect(Project& project, const NLEComPtr<INLETimeline>& clip,
+                            NLECatalogKind kind, const QString& name)
+{
+    const auto effect = EngineCatalog::Make(kind, name);
+    const auto effects = EffectsOf(clip);
+    if (!effect || !effects)
+        return false;
+    return project.Change(
+        Tr(QT_TRANSLATE_NOOP("ClipActions", "Add effect")), clip,
+        [effects, effect] { return effects->AddEffect(effect.get(), -1) == S_OK; },
+        [effects, effect] { return effects->RemoveEffect(effect.get()) == S_OK; });
+}
+
+bool ClipActions::RemoveEffect(Project& project, const NLEComPtr<INLETimeline>& clip, int index)
+{
+    const auto effects = EffectsOf(clip);
+    const auto effect = EffectAt(clip, index);
+    return effect && project.Change(
+                         Tr(QT_TRANSLATE_NOOP("ClipActions", "Remove effect")), clip,
+                         [=] { return effects->RemoveEffect(effect.get()) == S_OK; },
+                         [=] { return effects->AddEffect(effect.get(), index) == S_OK; });
+}
+
+bool ClipActions::MoveEffect(Project& project, const NLEComPtr<INLETimeline>& clip, int index,
+                             int to)
+{
+    const auto effects = EffectsOf(clip);
+    return effects && project.Change(
+                          Tr(QT_TRANSLATE_NOOP("ClipActions", "Move effect")), clip,
+                          [=] { return effects->MoveEffect(index, to) == S_OK; },
+                          [=] { return effects->MoveEffect(to, index) == S_OK; });
+}
+
+bool ClipActions::EnableEffect(Project& project, const NLEComPtr<INLETimeline>& clip, int index,
+                               bool enable)
+{
+    const auto effect = EffectAt(clip, index);
+    return effect && project.Change(
+                         Tr(QT_TRANSLATE_NOOP("ClipActions", "Switch effect")), clip,
+                         [=] { return effect->SetEnabled(enable) == S_OK; },
+                         [=] { return effect->SetEnabled(!enable) == S_OK; });
+}

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "Com/ComTypes.h"
+
+#include <QString>
+
+#include <array>
+
+/// The text that a call with a buffer and its capacity gives; empty when it fails. Longer texts are
+/// cut to \a Capacity characters with the terminating zero.
+template <int Capacity = 256, typename Call>
+QString EngineText(Call call)
+{
+    std::array<wchar_t, Capacity> buffer = {};
+    return call(buffer.data(), Capacity) == S_OK ? QString::fromWCharArray(buffer.data())
+                                                 : QString();
+}

@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Editor/Properties/PropertiesPanel.h"
+
+#include "CommonLib/NLEWraper/NLETimeline.h"
+#include "EngineApi/INLETitle.h"
+#include "Host/Editor/Model/Project.h"
+#include "Host/Editor/Model/Selection.h"
+#include "Host/Editor/Properties/ClipActions.h"
+#include "Host/Editor/Properties/ClipFields.h"
+#include "Host/Editor/Properties/EffectsSection.h"
+#include "Host/Editor/Properties/EngineCatalog.h"
+#include "Host/Editor/Properties/EngineText.h"
+#include "Host/Editor/Properties/ParameterFields.h"
+#include "Host/Editor/Properties/ProjectFields.h"
+#include "Host/Editor/Properties/PropertyForm.h"
+#include "Host/Editor/Properties/PropertySection.h"
+#include "Host/Editor/Properties/SpeedSection.h"
+#include "Host/Editor/Properties/TransitionSection.h"
+#include "Host/Widgets/MediaPlayer.h"
+
+#include <QFileInfo>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace {
+
+constexpr int kMargin = 8;
+constexpr int kGap = 10;
+constexpr int kNarrowest = 340;
+
+} // namespace
+
+PropertiesPanel::PropertiesPanel(Project& project, Selection& selection, MediaPlayer& player,
+                                 QWidget* parent)
+    : QWidget(parent)
+    , m_project(project)
+    , m_selection(selection)
+    , m_player(player)
+    , m_title(new QLabel(this))
+    , m_scroll(new QScrollArea(this))
+{
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(kMargin, kMargin, 0, 0);
+    m_title->setObjectName(QStringLiteral("CommonLib_Title"));
+    column->addWidget(m_title);
+    column->addWidget(m_scroll, 1);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setMinimumWidth(kNarrowest);
+    setAccessibleName(tr("Properties"));
+    connect(&selection, &Selection::Changed, this, &PropertiesPanel::Rebuild);
+    connect(&project, &Project::Replaced, this, &PropertiesPanel::Rebuild);
+    connect(&project, &Project::NodeChanged, this, &PropertiesPanel::RefreshIfShown);
+    connect(&project, &Project::ClipsChanged, this, &PropertiesPanel::RefreshIfPlaced);
+    connect(&player, &MediaPlayer::PositionChanged, this, &PropertiesPanel::Refresh);
+    Rebuild();
+}
+
+void PropertiesPanel::Rebuild()
+{
+    m_refreshes.clear();
+    m_levels.clear();
+    m_node = m_selection.Current();
+    const bool isProject = !m_node;
+    if (isProject)
+        m_node = m_project.Node();
+    // What was clicked may be in the content that goes.
+    if (m_content) {
+        m_scroll->takeWidget();
+        m_content->hide();
+        m_content->deleteLater();
+    }
+    m_content = new QWidget;
+    m_column = new QVBoxLayout(m_content);
+    m_column->setContentsMargins(0, 0, kMargin, kMargin);
+    m_column->setSpacing(kGap);
+    m_title->setText(isProject ? tr("Project") : Title());
+    if (!m_node)
+        return m_scroll->setWidget(m_content);
+    if (isProject)
+        AddProjectSections();
+    else if (m_node.query<INLETimelineTransition>())
+        AddTransitionSections();
+    else
+        AddClipSections();
+    m_column->addStretch();
+    m_scroll->setWidget(m_content);
+    // It scrolls up and down alone.
+    m_scroll->setMinimumWidth(m_content->minimumSizeHint().width() +
+                              m_scroll->verticalScrollBar()->sizeHint().width());
+}
+
+QString PropertiesPanel::Title() const
+{
+    if (const auto transition = m_node.query<INLETimelineTransition>())
+        return EngineCatalog::TitleOf(NLECatalog_Transition,
+                                      EngineText([&](wchar_t* text, int capacity) {
+                                          return transition->GetTransitionName(text, capacity);
+                                      }));
+    if (m_node.query<INLETitle>())
+        return tr("Title");
+    if (m_node.query<INLEColorClip>())
+        return tr("Colour");
+    const NLETimeline wrapper(m_node, ExactType_Unknown, nullptr);
+    const QString file = QFileInfo(wrapper.GetFilePath()).fileName();
+    return file.isEmpty() ? tr("Clip") : file;
+}
+
+bool PropertiesPanel::HasSound() const
+{
+    const NLETimeline wrapper(m_node, ExactType_Unknown, nullptr);
+    return wrapper.HaveAudio() || m_node.query<INLETimelineComposite>();
+}
+
+void PropertiesPanel::AddSection(const QString& title, QWidget* content,
+                                 std::function<void()> refresh)
+{
+    m_column->addWidget(new PropertySection(title, content, m_content));
+    if (refresh)
+        m_refreshes.append(std::move(refresh));
+}
+
+void PropertiesPanel::AddFields(const QString& title, const QVector<PropertyField>& fields)
+{
+    if (fields.isEmpty())
+        return;
+    auto* form = new PropertyForm({m_project, m_selection, m_player, m_node}, fields, m_content);
+    AddSection(title, form, [form] { form->Refresh(); });
+}
+
+void PropertiesPanel::AddProjectSections()
+{
+    AddTitleButton();
+    AddFields(tr("Format"), ProjectFields::Format(m_node));
+    AddFields(tr("Drawing"), ProjectFields::Drawing(m_node));
+    AddMixer();
+    auto* effects = new EffectsSection({m_project, m_selection, m_player, m_node}, m_content);
+    AddSection(tr("Effects"), effects, [effects] { effects->Refresh(); });
+}
+
+void PropertiesPanel::AddTitleButton()
+{
+    auto* add = new QPushButton(tr("Add title"), m_content);
+    m_column->addWidget(add);
+    connect(add, &QPushButton::clicked, this, [this] {
+        ClipActions::AddTitle(m_project, m_selection, tr("Title"), m_player.Position());
+    });
+}
+
+void PropertiesPanel::AddMixer()
+{
+    m_levels = ProjectFields::MixedLevels(m_node);
+    for (const int level : qAsConst(m_levels))
+        AddFields(tr("Mixer, level %1").arg(level), ProjectFields::Strip(m_node, level));
+}
+
+void PropertiesPanel::AddTransitionSections()
+{
+    AddFields(tr("Transition"),
+              ParameterFields(m_node, m_node, [this] { return m_player.Position(); }));
+}
+
+void PropertiesPanel::AddClipSections()
+{
+    const PropertyScope scope = {m_project, m_selection, m_player, m_node};
+    AddFields(tr("Title"), ParameterFields(m_node, m_node, [this] { return m_player.Position(); }));
+    AddFields(tr("Colour"), ClipFields::Color(m_node));
+    AddFields(tr("Placement"), ClipFields::Placement(m_node));
+    AddFields(tr("Blending"), ClipFields::Blending(m_node));
+    if (!m_node.query<INLETimelineComposite>()) {
+        auto* speed = new SpeedSection(scope, m_content);
+        AddSection(tr("Speed"), speed, [speed] { speed->Refresh(); });
+    }
+    if (HasSound())
+        AddFields(tr("Sound"), ClipFields::Sound(m_node));
+    auto* effects = new EffectsSection(scope, m_content);
+    AddSection(tr("Effects"), effects, [effects] { effects->Refresh(); });
+    AddSection(tr("Transitions"), new TransitionSection(scope, m_content), {});
+}
+
+void PropertiesPanel::RefreshIfShown(const NLEComPtr<INLETimeline>& node)
+{
+    if (node == m_node)
+        Refresh();
+}
+
+void PropertiesPanel::RefreshIfPlaced(const QVector<NLEComPtr<INLETimeline>>& clips)
+{
+    const bool isProject = m_node && m_node == m_project.Node();
+    // The rate is fixed by the first clip, and the mixer has a strip for each level that has some.
+    if (isProject && ProjectFields::MixedLevels(m_node) != m_levels)
+        Rebuild();
+    else if (clips.contains(m_node))
+        Refresh();
+}
+
+void PropertiesPanel::Refresh()
+{
+    for (const auto& refresh : qAsConst(m_refreshes))
+        refresh();
+}

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Editor/Properties/SpeedSection.h"
+
+#include "CommonLib/NLEWraper/NLETimeline.h"
+#include "Host/Editor/Properties/ClipActions.h"
+#include "Host/Widgets/NumberEdit.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+
+namespace {
+
+constexpr int kNameWidth = 104;
+constexpr int kGap = 6;
+constexpr int kButtonSide = 20;
+constexpr double kUsual = 100; // per cent
+constexpr double kSlowest = 10;
+constexpr double kFastest = 1000;
+
+double SpeedOf(const NLEComPtr<INLETimeline>& clip)
+{
+    const NLETimeline wrapper(clip, ExactType_Unknown, nullptr);
+    return wrapper.IsRenderScaleEnable() ? double(wrapper.GetRenderScale()) * kUsual : kUsual;
+}
+
+} // namespace
+
+SpeedSection::SpeedSection(const PropertyScope& scope, QWidget* parent)
+    : QWidget(parent)
+    , m_scope(scope)
+    , m_speed(new NumberEdit({kSlowest, kFastest, 1, 1, tr(" %"), true}, this))
+    , m_reset(new QToolButton(this))
+{
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(kGap);
+    auto* name = new QLabel(tr("Speed"), this);
+    name->setFixedWidth(kNameWidth);
+    name->setBuddy(m_speed);
+    m_speed->SetTitle(name->text());
+    m_reset->setText(QStringLiteral("↺"));
+    m_reset->setToolTip(tr("Back to the preset"));
+    m_reset->setAccessibleName(QStringLiteral("%1: %2").arg(name->text(), m_reset->toolTip()));
+    m_reset->setFixedSize(kButtonSide, kButtonSide);
+    m_reset->setStyleSheet(QStringLiteral("padding: 0"));
+    row->addWidget(name);
+    row->addWidget(m_speed, 1);
+    row->addWidget(m_reset);
+    connect(m_speed, &NumberEdit::Changed, this, [this](double percent) {
+        if (!m_speed->IsHeld())
+            Apply(percent);
+    });
+    connect(m_speed, &NumberEdit::Ended, this, [this] { Apply(m_speed->Value()); });
+    connect(m_reset, &QToolButton::clicked, this, [this] { Apply(kUsual); });
+    Refresh();
+}
+
+void SpeedSection::Refresh()
+{
+    m_speed->SetValue(SpeedOf(m_scope.node));
+    m_reset->setEnabled(m_speed->Value() != kUsual);
+}
+
+void SpeedSection::Apply(double percent)
+{
+    if (qFuzzyCompare(percent, SpeedOf(m_scope.node)))
+        return;
+    if (!ClipActions::SetSpeed(m_scope.project, m_scope.selection, m_scope.node, percent / kUsual))
+        Refresh();
+}
