@@ -46,7 +46,7 @@ NLEComPtr<INLEProperties> EncodePresets::Settings(PlayerMaterProvider& provider,
                                                   const QString& name)
 {
     const auto catalog = encoder.query<INLEEncodeCatalog>();
-    const NLEComPtr<INLEProperties> settings = provider.CreateNLEProperties();
+    NLEComPtr<INLEProperties> settings = provider.CreateNLEProperties();
     if (catalog && settings &&
         catalog->GetPreset(name.toStdWString().c_str(), settings.get()) == S_OK)
         return settings;

@@ -206,6 +206,10 @@ private Q_SLOTS:
         dialog.SetPath(m_engine.Path("ordered"));
         auto* preset = dialog.findChild<QComboBox*>(); // the first one
         preset->setCurrentIndex(preset->findData("ProRes 422"));
+        dialog.SetRange(7, 3);
+        QCOMPARE(dialog.Order().settings.range.in, 3);
+        dialog.SetRange(3, 700);
+        QCOMPARE(dialog.Order().settings.range.out, kLength - 1);
         dialog.SetRange(3, 7);
         const ExportOrder order = dialog.Order();
         QCOMPARE(order.path, m_engine.Path("ordered.mov"));

@@ -13,6 +13,7 @@
 #include "Host/Editor/Model/Project.h"
 #include "Host/EncodePresets.h"
 #include "Host/Widgets/MediaPlayer.h"
+#include "Host/Widgets/TimecodeEdit.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -29,10 +30,11 @@
 #include <QStandardPaths>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kLongestSide = 16384;
-constexpr int kFrameLimit = 2147483647;
 constexpr int kQueueHeight = 220;
 constexpr int kWidth = 560;
 constexpr int kPathWidth = 260;
@@ -82,6 +84,15 @@ QString WithSuffix(const QString& path, const QString& suffix)
 {
     const QFileInfo file(path);
     return suffix.isEmpty() ? path : file.dir().filePath(file.completeBaseName() + '.' + suffix);
+}
+
+/// From the one to the other, whichever is first, as far as \a length frames go. The engine takes
+/// frame 0 alone for all of it, so that two frames are the least from there.
+NLERange RangeOf(int in, int out, int length)
+{
+    const int end = std::max(length - 1, 0);
+    const auto [first, last] = std::minmax({std::min(in, end), std::min(out, end)});
+    return {first, std::max(last, 1)};
 }
 
 } // namespace
@@ -152,10 +163,8 @@ void ExportDialog::AddFile(QFormLayout& form)
 
 void ExportDialog::AddFormat(QFormLayout& form)
 {
-    m_width = MakeFrame(tr("Width"));
-    m_height = MakeFrame(tr("Height"));
-    for (QSpinBox* side : {m_width, m_height})
-        side->setRange(2, kLongestSide);
+    m_width = MakeSide(tr("Width"));
+    m_height = MakeSide(tr("Height"));
     m_rate = new QComboBox(this);
     m_rate->addItem(tr("As the project"));
     for (const NLERational& rate : kRates)
@@ -173,31 +182,35 @@ void ExportDialog::AddFormat(QFormLayout& form)
                 &ExportDialog::Check);
 }
 
-QSpinBox* ExportDialog::MakeFrame(const QString& name)
+QSpinBox* ExportDialog::MakeSide(const QString& name)
 {
     auto* box = new QSpinBox(this);
-    box->setRange(0, kFrameLimit);
+    box->setRange(2, kLongestSide);
     box->setAccessibleName(name);
     box->setToolTip(name);
     connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, &ExportDialog::Check);
     return box;
 }
 
+TimecodeEdit* ExportDialog::MakePoint(const QString& name)
+{
+    auto* point = new TimecodeEdit(this);
+    point->setAccessibleName(name);
+    point->setToolTip(name);
+    return point;
+}
+
 void ExportDialog::AddRange(QFormLayout& form)
 {
     m_all = new QRadioButton(tr("All"), this);
-    m_part = new QRadioButton(tr("Frames"), this);
-    m_first = MakeFrame(tr("In point"));
-    m_last = MakeFrame(tr("Out point"));
+    m_part = new QRadioButton(tr("From in to out"), this);
+    m_first = MakePoint(tr("In point"));
+    m_last = MakePoint(tr("Out point"));
     m_all->setChecked(true);
-    for (QSpinBox* box : {m_first, m_last}) {
+    for (TimecodeEdit* box : {m_first, m_last}) {
         box->setEnabled(false);
         connect(m_part, &QRadioButton::toggled, box, &QWidget::setEnabled);
     }
-    // The engine takes frame 0 alone for all of it.
-    connect(m_first, QOverload<int>::of(&QSpinBox::valueChanged), m_last,
-            [this](int first) { m_last->setMinimum(qMax(first, 1)); });
-    m_last->setMinimum(1);
     auto* row = MakeRow({m_all, m_part, MakePair(m_first, QStringLiteral("–"), m_last)});
     form.addRow(tr("Range"), row);
 }
@@ -231,16 +244,18 @@ void ExportDialog::TakeProject()
     const QSize size = m_project.Timeline()->GetProjectResolution();
     m_width->setValue(size.width());
     m_height->setValue(size.height());
-    m_first->setValue(0);
-    m_last->setValue(qMax(m_project.Length() - 1, 0));
+    for (TimecodeEdit* point : {m_first, m_last})
+        point->SetFrameRate(m_project.FrameRate());
+    m_first->SetFrame(0);
+    m_last->SetFrame(qMax(m_project.Length() - 1, 0));
     m_all->setChecked(true);
 }
 
 void ExportDialog::SetRange(int first, int last)
 {
     m_part->setChecked(true);
-    m_first->setValue(first);
-    m_last->setValue(last);
+    m_first->SetFrame(first);
+    m_last->SetFrame(last);
 }
 
 void ExportDialog::SetPath(const QString& path)
@@ -279,7 +294,7 @@ ExportOrder ExportDialog::Order() const
     order.settings.sampleRate = sampleRate > 0 ? sampleRate : profile.sampleRate;
     order.settings.channels = profile.channels;
     if (m_part->isChecked())
-        order.settings.range = {m_first->value(), m_last->value()};
+        order.settings.range = RangeOf(m_first->Frame(), m_last->Frame(), m_project.Length());
     return order;
 }
 

@@ -18,6 +18,7 @@ class QLineEdit;
 class QPushButton;
 class QRadioButton;
 class QSpinBox;
+class TimecodeEdit;
 
 /// Asks how the project is to be written and puts it into a queue, whose films it shows below. The
 /// project may be edited meanwhile.
@@ -31,7 +32,8 @@ public:
     ExportDialog(Project& project, MediaPlayer& player, ExportQueue& queue,
                  QWidget* parent = nullptr);
 
-    /// Frames of the project from the first to the last one; without a call all of it.
+    /// Frames of the project from the first to the last one, as in and out point are; without a
+    /// call all of it.
     void SetRange(int first, int last);
     void SetPath(const QString& path);
     /// What is chosen now.
@@ -48,7 +50,8 @@ private:
     void AddRange(QFormLayout& form);
     void AddNotes(QFormLayout& form);
     QWidget* MakeButtons();
-    QSpinBox* MakeFrame(const QString& name);
+    QSpinBox* MakeSide(const QString& name);
+    TimecodeEdit* MakePoint(const QString& name);
     void TakeProject();
     void TakePreset();
     void PickFile();
@@ -69,8 +72,8 @@ private:
     QComboBox* m_sampleRate = nullptr;
     QRadioButton* m_all = nullptr;
     QRadioButton* m_part = nullptr;
-    QSpinBox* m_first = nullptr;
-    QSpinBox* m_last = nullptr;
+    TimecodeEdit* m_first = nullptr;
+    TimecodeEdit* m_last = nullptr;
     QLabel* m_complaint;
     QPushButton* m_add;
 };

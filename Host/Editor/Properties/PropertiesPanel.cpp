@@ -18,6 +18,7 @@
 #include "Host/Editor/Properties/TransitionSection.h"
 #include "Host/Widgets/MediaPlayer.h"
 
+#include <QEvent>
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
@@ -53,7 +54,6 @@ PropertiesPanel::PropertiesPanel(Project& project, Selection& selection, MediaPl
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setMinimumWidth(kNarrowest);
-    setAccessibleName(tr("Properties"));
     connect(&selection, &Selection::Changed, this, &PropertiesPanel::Rebuild);
     connect(&project, &Project::Replaced, this, &PropertiesPanel::Rebuild);
     connect(&project, &Project::NodeChanged, this, &PropertiesPanel::RefreshIfShown);
@@ -62,8 +62,17 @@ PropertiesPanel::PropertiesPanel(Project& project, Selection& selection, MediaPl
     Rebuild();
 }
 
+void PropertiesPanel::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    // The engine's titles are in another language then, too.
+    if (event->type() == QEvent::LanguageChange && m_content)
+        Rebuild();
+}
+
 void PropertiesPanel::Rebuild()
 {
+    setAccessibleName(tr("Properties"));
     m_refreshes.clear();
     m_levels.clear();
     m_node = m_selection.Current();

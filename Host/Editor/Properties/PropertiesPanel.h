@@ -28,6 +28,9 @@ public:
     PropertiesPanel(Project& project, Selection& selection, MediaPlayer& player,
                     QWidget* parent = nullptr);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     /// Builds the sections for what is selected now.
     void Rebuild();
