@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Editor/Timeline/ClipSet.h"
+
+#include <algorithm>
+
+ClipSet ClipSets::GroupOf(INLEEditing& editing, INLETimeline* clip)
+{
+    const NLEComPtr<INLETimeline> alone(clip);
+    if (alone.query<INLETimelineTransition>())
+        return {alone};
+    ClipSet group;
+    NLEComPtr<INLETimelineEnumerator> walk;
+    bool isEmpty = true;
+    if (FAILED(editing.GetGroup(clip, walk.put())) || !walk || FAILED(walk->IsEmpty(&isEmpty)) ||
+        isEmpty)
+        return {alone};
+    do {
+        NLEComPtr<INLETimeline> member;
+        if (SUCCEEDED(walk->GetCurrent(member.put())) && member)
+            group << member;
+    } while (walk->Next() == S_OK);
+    return group;
+}
+
+bool ClipSets::IsOneGroup(INLEEditing& editing, const ClipSet& clips)
+{
+    if (clips.isEmpty())
+        return true;
+    const ClipSet group = GroupOf(editing, clips.front().get());
+    return std::all_of(clips.begin(), clips.end(),
+                       [&](const auto& clip) { return group.contains(clip); });
+}
+
+bool ClipSets::IsHeld(INLETimeline& clip)
+{
+    NLEComPtr<INLETimeline> parent;
+    return SUCCEEDED(clip.GetParent(parent.put())) && parent;
+}
+
+QVector<INLETimeline*> ClipSets::Pointers(const ClipSet& clips)
+{
+    QVector<INLETimeline*> pointers;
+    for (const auto& clip : clips)
+        pointers << clip.get();
+    return pointers;
+}

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Editor/Timeline/LevelHeaders.h"
+
+#include "Host/Editor/Timeline/LevelHeader.h"
+#include "Host/Editor/Timeline/LevelLayout.h"
+#include "Host/Editor/Timeline/TimelineGeometry.h"
+#include "Host/Editor/Timeline/TimelineModel.h"
+
+LevelHeaders::LevelHeaders(const LevelLayout& levels, const TimelineModel& model, QWidget* parent)
+    : QWidget(parent), m_levels(levels), m_model(model), m_area(new QWidget(this))
+{
+    setFixedWidth(kWidth);
+    connect(&model, &TimelineModel::LocksChanged, this, &LevelHeaders::SetLocks);
+}
+
+LevelHeader* LevelHeaders::Make(int level)
+{
+    auto* header = new LevelHeader(level, m_area);
+    header->SetLocked(m_model.IsLocked(level));
+    connect(header, &LevelHeader::LockAsked, this, [this, level](bool locked) {
+        Q_EMIT LockAsked(level, locked);
+        SetLocks(); // as it is, should that be refused
+    });
+    connect(header, &LevelHeader::HeightAsked, this,
+            [this, level](int pixels) { Q_EMIT HeightAsked(level, pixels); });
+    return header;
+}
+
+void LevelHeaders::SetLocks()
+{
+    for (int level = 0; level < m_headers.size(); ++level)
+        m_headers[level]->SetLocked(m_model.IsLocked(level));
+}
+
+void LevelHeaders::Arrange(int scrolled)
+{
+    m_scrolled = scrolled;
+    constexpr int strip = TimelineGeometry::kStripHeight;
+    m_area->setGeometry(0, strip, width(), height() - strip);
+    while (m_headers.size() > m_levels.Count())
+        delete m_headers.takeLast();
+    while (m_headers.size() < m_levels.Count())
+        m_headers << Make(m_headers.size());
+    // The tab key goes down the levels.
+    for (int level = m_headers.size() - 1; level >= 0; --level) {
+        m_headers[level]->setGeometry(0, m_levels.Top(level) - scrolled, width(),
+                                      m_levels.Height(level));
+        m_headers[level]->show();
+    }
+}
+
+void LevelHeaders::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    Arrange(m_scrolled);
+}

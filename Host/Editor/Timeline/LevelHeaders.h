@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QVector>
+#include <QWidget>
+
+class LevelHeader;
+class LevelLayout;
+class TimelineModel;
+
+/// The heads of all levels, beside a timeline view and scrolling with it.
+class LevelHeaders : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kWidth = 120;
+
+    /// \a levels and \a model outlive the headers.
+    LevelHeaders(const LevelLayout& levels, const TimelineModel& model, QWidget* parent = nullptr);
+
+    /// Follows the layout. \a scrolled pixels of it are above the view.
+    void Arrange(int scrolled);
+
+Q_SIGNALS:
+    void LockAsked(int level, bool locked);
+    void HeightAsked(int level, int pixels);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void SetLocks();
+    LevelHeader* Make(int level);
+
+    const LevelLayout& m_levels;
+    const TimelineModel& m_model;
+    QWidget* m_area; ///< below the height of the view's strip
+    QVector<LevelHeader*> m_headers;
+    int m_scrolled = 0;
+};
