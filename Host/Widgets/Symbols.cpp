@@ -79,12 +79,16 @@ QPainterPath Bracket(bool opensRight)
     return path;
 }
 
+/// Three quarters of a ring that end in an arrow.
 QPainterPath Loop()
 {
-    QPainterPath path = Frame({3, 7, 18, 12}, 2.5);
-    path.setFillRule(Qt::WindingFill);
-    path = path.subtracted(Polygon({{9, 6}, {15, 6}, {15, 10}, {9, 10}}));
-    return path.united(Polygon({{9, 3}, {16, 8.25}, {9, 13}}));
+    QPainterPath path;
+    path.addEllipse(QPointF(12, 13), 8, 8);
+    QPainterPath hole;
+    hole.addEllipse(QPointF(12, 13), 5.5, 5.5);
+    hole.addRect(12, 3, 10, 10);
+    hole.setFillRule(Qt::WindingFill);
+    return path.subtracted(hole).united(Polygon({{12, 1.75}, {18, 6.25}, {12, 10.75}}));
 }
 
 QPainterPath Corners()

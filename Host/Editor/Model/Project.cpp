@@ -41,9 +41,7 @@ QStringList RemarksOf(const NLEComPtr<INLEDocumentSerialize>& serializer)
 } // namespace
 
 Project::Project(QObject* parent)
-    : QObject(parent)
-    , m_factory(EngineFactory())
-    , m_steps(m_factory, nullptr)
+    : QObject(parent), m_factory(EngineFactory()), m_steps(m_factory, nullptr)
 {
     connect(&m_steps, &ProjectSteps::ClipsChanged, this, &Project::ClipsChanged);
     connect(&m_steps, &ProjectSteps::NodeChanged, this, &Project::NodeChanged);

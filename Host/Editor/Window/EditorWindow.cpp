@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Editor/Window/EditorWindow.h"
+
+#include "Host/Editor/Export/ExportDialog.h"
+#include "Host/Editor/Export/ExportQueue.h"
+#include "Host/Editor/Player/PlayerPanel.h"
+#include "Host/Editor/Player/Transport.h"
+#include "Host/Editor/Properties/PropertiesPanel.h"
+#include "Host/Editor/Window/AboutBox.h"
+#include "Host/Editor/Window/FileCommands.h"
+#include "Host/Editor/Window/FocusedKeys.h"
+#include "Host/Editor/Window/LanguageMenu.h"
+#include "Host/Editor/Window/LogView.h"
+#include "Host/Editor/Window/ShortcutList.h"
+#include "Host/Widgets/KeepTranslated.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSettings>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QUndoStack>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kMessageTime = 10000; // milliseconds
+const char kGeometry[] = "window/geometry";
+const char kState[] = "window/state";
+
+} // namespace
+
+EditorWindow::EditorWindow(const Paths& paths)
+    : m_selection(m_project)
+    , m_autosave(m_project, paths.autosave)
+    , m_files(new FileCommands(m_project, *this))
+    , m_playerPanel(new PlayerPanel(m_project, m_player, this))
+    , m_films(new ExportQueue(this))
+{
+    qApp->installEventFilter(new FocusedKeys(this));
+    setCentralWidget(m_playerPanel);
+    AddPanels(paths);
+    AddMenus();
+    AddToolBar();
+    connect(&m_project, &Project::Refused, this,
+            [this](const QString& reason) { statusBar()->showMessage(reason, kMessageTime); });
+    connect(&m_project, &Project::ModifiedChanged, this, &QWidget::setWindowModified);
+    connect(&m_project, &Project::PathChanged, this, &EditorWindow::ShowTitle);
+    connect(&m_project, &Project::Replaced, this, &EditorWindow::ShowRemarks);
+    KeepTranslated(this, [this] { ShowTitle(); });
+    const QSettings settings;
+    restoreGeometry(settings.value(QLatin1String(kGeometry)).toByteArray());
+    restoreState(settings.value(QLatin1String(kState)).toByteArray());
+    m_playerPanel->setFocus();
+}
+
+EditorWindow::~EditorWindow()
+{
+    m_project.disconnect(this);
+    // Panels know the project and the player.
+    for (QDockWidget* dock : findChildren<QDockWidget*>())
+        delete dock;
+    delete m_export;
+    delete m_playerPanel;
+}
+
+// ---- Panels
+
+QDockWidget* EditorWindow::AddPanel(Qt::DockWidgetArea area, const char* title, const char* name,
+                                    QWidget* panel)
+{
+    auto* dock = new QDockWidget(this);
+    dock->setObjectName(QLatin1String(name));
+    dock->setWidget(panel);
+    KeepTranslated(dock, [dock, title] { dock->setWindowTitle(tr(title)); });
+    addDockWidget(area, dock);
+    m_panelSwitches << dock->toggleViewAction();
+    return dock;
+}
+
+void EditorWindow::AddPanels(const Paths& paths)
+{
+    setDockNestingEnabled(true);
+    setCorner(Qt::BottomLeftCorner, Qt::BottomDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::BottomDockWidgetArea);
+    AddPanel(Qt::RightDockWidgetArea, QT_TR_NOOP("Properties"), "properties",
+             new PropertiesPanel(m_project, m_selection, m_player, this));
+    AddPanel(Qt::BottomDockWidgetArea, QT_TR_NOOP("Log"), "log", new LogView(paths.log, this))
+        ->hide();
+}
+
+// ---- Menus
+
+QMenu* EditorWindow::AddMenu(const char* title, const QList<QAction*>& actions)
+{
+    auto* menu = new QMenu(this);
+    KeepTranslated(menu, [menu, title] { menu->setTitle(tr(title)); });
+    for (QAction* action : actions)
+        action ? menu->addAction(action) : void(menu->addSeparator());
+    menuBar()->addMenu(menu);
+    return menu;
+}
+
+QAction* EditorWindow::AddAction(const char* text, const QKeySequence& keys,
+                                 const std::function<void()>& act)
+{
+    auto* action = new QAction(this);
+    action->setShortcut(keys);
+    KeepTranslated(this, [action, text] { action->setText(tr(text)); });
+    connect(action, &QAction::triggered, this, act);
+    return action;
+}
+
+/// Undo or redo, with the name of the step.
+QAction* EditorWindow::AddStep(const char* text, const QKeySequence& keys, bool isUndo)
+{
+    QUndoStack& steps = m_project.Steps();
+    auto* action = new QAction(this);
+    action->setShortcut(keys);
+    const auto show = [action, text, isUndo, &steps] {
+        const QString step = isUndo ? steps.undoText() : steps.redoText();
+        action->setText(step.isEmpty() ? tr(text) : QStringLiteral("%1: %2").arg(tr(text), step));
+        action->setEnabled(isUndo ? steps.canUndo() : steps.canRedo());
+    };
+    KeepTranslated(this, show);
+    connect(&steps, isUndo ? &QUndoStack::canUndoChanged : &QUndoStack::canRedoChanged, action,
+            show);
+    connect(&steps, isUndo ? &QUndoStack::undoTextChanged : &QUndoStack::redoTextChanged, action,
+            show);
+    connect(action, &QAction::triggered, &steps, isUndo ? &QUndoStack::undo : &QUndoStack::redo);
+    return action;
+}
+
+void EditorWindow::AddMenus()
+{
+    QMenu* file = AddMenu(QT_TR_NOOP("File"), m_files->Actions());
+    file->addSeparator();
+    file->addAction(AddAction(QT_TR_NOOP("Export…"), QKeySequence(Qt::CTRL + Qt::Key_E),
+                              [this] { ShowExport(); }));
+    file->addSeparator();
+    file->addAction(
+        AddAction(QT_TR_NOOP("Quit"), QKeySequence(Qt::CTRL + Qt::Key_Q), [this] { close(); }));
+    m_undo = AddStep(QT_TR_NOOP("Undo"), QKeySequence::Undo, true);
+    m_redo = AddStep(QT_TR_NOOP("Redo"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z), false);
+    QMenu* edit = AddMenu(QT_TR_NOOP("Edit"), {m_undo, m_redo, nullptr});
+    edit->addAction(AddAction(QT_TR_NOOP("Lift from in to out point"),
+                              QKeySequence(Qt::Key_Semicolon),
+                              [this] { CutRange(tr("Lift"), &INLEEditing::Lift); }));
+    edit->addAction(AddAction(QT_TR_NOOP("Extract from in to out point"),
+                              QKeySequence(Qt::SHIFT + Qt::Key_Semicolon),
+                              [this] { CutRange(tr("Extract"), &INLEEditing::Extract); }));
+    AddMenu(QT_TR_NOOP("Play"), m_playerPanel->Actions());
+    QMenu* view = AddMenu(QT_TR_NOOP("View"), m_panelSwitches);
+    view->addSeparator();
+    view->addMenu(new LanguageMenu(this));
+    AddMenu(QT_TR_NOOP("Help"),
+            {AddAction(QT_TR_NOOP("Keyboard shortcuts"), QKeySequence::HelpContents,
+                       [this] { ShortcutList(this).exec(); }),
+             AddAction(QT_TR_NOOP("About"), {}, [this] { ShowAbout(this); })});
+}
+
+void EditorWindow::AddToolBar()
+{
+    auto* bar = new QToolBar(this);
+    bar->setObjectName(QStringLiteral("toolbar"));
+    bar->setMovable(false);
+    KeepTranslated(bar, [bar] { bar->setWindowTitle(tr("Tool bar")); });
+    for (QAction* action : m_files->Actions()) {
+        if (action && !action->menu())
+            bar->addAction(action);
+    }
+    bar->addSeparator();
+    bar->addActions({m_undo, m_redo});
+    addToolBar(bar);
+}
+
+// ---- What is shown
+
+void EditorWindow::ShowTitle()
+{
+    const QString path = m_project.Path();
+    const QString name = path.isEmpty() ? tr("Untitled") : QFileInfo(path).fileName();
+    setWindowTitle(QStringLiteral("%1[*] – CommonLib Editor").arg(name));
+}
+
+void EditorWindow::ShowRemarks()
+{
+    const QStringList remarks = m_project.Remarks();
+    if (!remarks.isEmpty())
+        statusBar()->showMessage(
+            tr("%n remark(s) on the file, in the log", nullptr, remarks.size()), kMessageTime);
+}
+
+// ---- Edits of the range between in and out point
+
+void EditorWindow::ShowExport()
+{
+    if (!m_export)
+        m_export = new ExportDialog(m_project, m_player, *m_films, this);
+    const Transport& playing = m_playerPanel->Playing();
+    if (playing.InPoint() != Transport::kNoPoint && playing.OutPoint() != Transport::kNoPoint)
+        m_export->SetRange(playing.InPoint(), playing.OutPoint());
+    m_export->show();
+    m_export->raise();
+    m_export->activateWindow();
+}
+
+void EditorWindow::CutRange(const QString& text, HRESULT (INLEEditing::*edit)(int, int, int))
+{
+    const int in = m_playerPanel->Playing().InPoint();
+    const int out = m_playerPanel->Playing().OutPoint();
+    if (in == Transport::kNoPoint || out == Transport::kNoPoint)
+        return statusBar()->showMessage(tr("Set an in and an out point first."), kMessageTime);
+    m_project.Edit(text, [&](INLEEditing& editing) {
+        return (editing.*edit)(in, out + 1, NLEEdit_AllLevels);
+    });
+}
+
+// ---- Beginning and end
+
+void EditorWindow::OfferRecovery()
+{
+    QVector<Autosave::Leftover> leftovers = m_autosave.Leftovers();
+    std::sort(leftovers.begin(), leftovers.end(),
+              [](const auto& a, const auto& b) { return a.when > b.when; });
+    for (const Autosave::Leftover& leftover : leftovers) {
+        const QString name =
+            leftover.path.isEmpty() ? tr("Untitled") : QFileInfo(leftover.path).fileName();
+        QMessageBox box(
+            QMessageBox::Question, tr("Recovery"),
+            tr("The editor has ended unexpectedly. Changes of %1 until %2 can be opened.")
+                .arg(name, QLocale().toString(leftover.when, QLocale::ShortFormat)),
+            QMessageBox::Open | QMessageBox::Discard | QMessageBox::Cancel, this);
+        const int answer = box.exec();
+        if (answer == QMessageBox::Discard)
+            Autosave::Discard(leftover);
+        // Others are asked for at the next start.
+        if (answer == QMessageBox::Open && m_autosave.Recover(leftover))
+            return;
+    }
+}
+
+void EditorWindow::closeEvent(QCloseEvent* event)
+{
+    if (!m_files->MayLeave())
+        return event->ignore();
+    QSettings settings;
+    settings.setValue(QLatin1String(kGeometry), saveGeometry());
+    settings.setValue(QLatin1String(kState), saveState());
+    event->accept();
+}
+
+void EditorWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        setLocale(QLocale()); // the language's; what is in the window takes it over
+    QMainWindow::changeEvent(event);
+}

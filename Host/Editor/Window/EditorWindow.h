@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "Host/Editor/Model/Autosave.h"
+#include "Host/Editor/Model/Project.h"
+#include "Host/Editor/Model/Selection.h"
+#include "Host/Widgets/MediaPlayer.h"
+
+#include <QMainWindow>
+
+#include <functional>
+
+class ExportDialog;
+class ExportQueue;
+class FileCommands;
+class PlayerPanel;
+
+/// The editor: one project, the panels that show it in docks around the player, menus.
+class EditorWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    struct Paths
+    {
+        QString autosave; ///< folder of what is not saved yet
+        QString log;      ///< file that the log view shows
+    };
+
+    /// Not without an engine.
+    explicit EditorWindow(const Paths& paths);
+    ~EditorWindow() override;
+
+    Project& Shown() { return m_project; }
+    FileCommands& Files() { return *m_files; }
+    /// Asks for what runs that crashed have left, the newest first.
+    void OfferRecovery();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    QDockWidget* AddPanel(Qt::DockWidgetArea area, const char* title, const char* name,
+                          QWidget* panel);
+    QMenu* AddMenu(const char* title, const QList<QAction*>& actions);
+    QAction* AddAction(const char* text, const QKeySequence& keys,
+                       const std::function<void()>& act);
+    void AddPanels(const Paths& paths);
+    void AddMenus();
+    void AddToolBar();
+    QAction* AddStep(const char* text, const QKeySequence& keys, bool isUndo);
+    void ShowTitle();
+    void ShowRemarks();
+    void ShowExport();
+    void CutRange(const QString& text, HRESULT (INLEEditing::*edit)(int, int, int));
+
+    Project m_project;
+    Selection m_selection;
+    MediaPlayer m_player;
+    Autosave m_autosave;
+    FileCommands* m_files;
+    PlayerPanel* m_playerPanel;
+    ExportQueue* m_films;
+    ExportDialog* m_export = nullptr; ///< null before it is asked for
+    QAction* m_undo = nullptr;
+    QAction* m_redo = nullptr;
+    QList<QAction*> m_panelSwitches;
+};
