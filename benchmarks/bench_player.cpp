@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // The player with 1080p30 H.264 and sound: what is dropped and how far pictures are from the sound,
 // and what a second costs beside the melt program playing the same file; how soon a sought picture
-// shows, beside FFmpeg's libraries used in the plain way; how soon sound is heard.
+// shows, beside FFmpeg's libraries used in the plain way; how soon sound is heard; how soon an edit
+// shows in mid-play.
 //
 // bench_player [SECONDS [LINES]]: plays as long, 60 at first, a film of as many lines, 1080 at
 // first; an hour tells whether memory is flat. Sound goes where SDL_AUDIODRIVER says, else nowhere,
@@ -12,6 +13,8 @@
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/INLEFactory.h"
 #include "EngineApi/INLEPlayer.h"
+#include "EngineApi/INLETitle.h"
+#include "EngineApi/INLETransform.h"
 #include "TestMedia.h"
 #include "benchmarks/Cost.h"
 #include "benchmarks/PlainDecoder.h"
@@ -32,6 +35,7 @@ constexpr int kUsualSeconds = 60;
 constexpr int kFrameRate = 30;
 constexpr int kSought = 60;
 constexpr int kPressed = 15;
+constexpr int kEdits = 40;
 constexpr int kUsualLines = 1080;
 
 /// A minute, over and over.
@@ -55,11 +59,14 @@ QString MakeFilm(const QString& path, const QSize& size, int seconds)
 class Viewer final : public ComObject<INLEPlayerListener>
 {
 public:
-    HRESULT PictureDue(int frame, int /*source*/, INLEVideoFrame* /*picture*/) override
+    HRESULT PictureDue(int frame, int /*source*/, INLEVideoFrame* picture) override
     {
+        std::uint8_t* pixels = nullptr;
+        const bool hasPixels = picture != nullptr && picture->GetData(&pixels) == S_OK;
         {
             const std::lock_guard<std::mutex> lock(m_mutex);
             m_frame = frame;
+            m_corner = hasPixels ? *reinterpret_cast<const QRgb*>(pixels) : 0;
         }
         m_changed.notify_all();
         return S_OK;
@@ -73,11 +80,18 @@ public:
         std::unique_lock<std::mutex> lock(m_mutex);
         m_changed.wait(lock, [=] { return m_frame == frame; });
     }
+    /// Waits for a picture with that colour in its corner.
+    void AwaitCorner(QRgb color)
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_changed.wait(lock, [=] { return m_corner == color; });
+    }
 
 private:
-    std::mutex m_mutex; ///< guards m_frame
+    std::mutex m_mutex; ///< guards what is shown
     std::condition_variable m_changed;
     int m_frame = -1;
+    QRgb m_corner = 0;
 };
 
 NLEComPtr<INLEPlayer> NewPlayer()
@@ -181,6 +195,42 @@ void MeasureStart(INLEPlayer& player)
                 *std::max_element(starts.begin(), starts.end()));
 }
 
+/// A corner of another colour over the film, again and again.
+void MeasureEdits(INLEPlayer& player, Viewer& viewer, const NLEComPtr<INLETimeline>& film,
+                  const QSize& size)
+{
+    auto* const provider = NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
+    const auto project = provider->CreateProjectTimeline(
+        {{size.width(), size.height()}, {kFrameRate, 1}, 48000, 2, 3});
+    const auto corner = provider->CreateColorTimeline(Qt::red, size, float(kFrameRate));
+    const NLEPointF place = {0.1F, 0.1F};
+    const NLESizeF scale = {0.2F, 0.2F};
+    corner.query<INLETransform>()->SetCenter(&place);
+    corner.query<INLETransform>()->SetScale(&scale);
+    corner->SetLevel(1);
+    const auto composite = project.query<INLETimelineComposite>();
+    composite->AddClip(film.get());
+    composite->AddClip(corner.get());
+    NLERange range = {};
+    film->GetRange(&range);
+    corner->SetRange(&range);
+    player.Open(project.get());
+    player.Play(1);
+    std::vector<double> edits;
+    for (int i = 0; i < kEdits; ++i) {
+        QThread::msleep(300);
+        const QRgb color = i % 2 == 0 ? qRgb(0, 0, 255) : qRgb(255, 0, 0);
+        edits.push_back(Milliseconds([&] {
+            corner.query<INLEColorClip>()->SetColor(color);
+            player.Refresh();
+            viewer.AwaitCorner(color);
+        }));
+    }
+    player.Pause();
+    std::printf("  edit to picture     %.1f ms, at most %.1f\n", Median(edits),
+                *std::max_element(edits.begin(), edits.end()));
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -211,6 +261,7 @@ int main(int argc, char** argv)
     ComparePlaying(*player, *viewer, path, seconds);
     CompareSeeking(*player, *viewer, path, size, seconds);
     MeasureStart(*player);
+    MeasureEdits(*player, *viewer, clip, size);
     player->SetListener(nullptr);
     player->Close();
     player.reset();

@@ -184,6 +184,18 @@ QImage WithColor(QImage canvas, QRgb argb)
 }
 
 /// Without alpha the painter can copy instead of blending.
+/// The frame of the stream that a layer of media shows at \a frame of it; none where it shows none.
+std::optional<int> ShownFrameOf(const Layer& layer, const ShownStream& stream, std::int64_t frame)
+{
+    if (!layer.ShownMedia()->Stream(stream.index))
+        return {};
+    // A frozen clip names a frame of its material, which plays at normal speed.
+    const double played =
+        layer.frozenFrame ? double(*layer.frozenFrame) : double(frame) * layer.speed;
+    const int wanted = stream.FrameAt(FrameTime{played, layer.frameRate});
+    return stream.Shows(wanted) ? std::optional<int>(wanted) : std::nullopt;
+}
+
 QImage AsOpaque(QImage image)
 {
     image.reinterpretAsFormat(image.depth() == kDeepPixel ? QImage::Format_RGBX64
@@ -332,41 +344,45 @@ DrawnPicture Composer::Title(const Layer& layer, std::int64_t frame, const QSize
                                  corner.y() - after.height())};
 }
 
-FrameDecoder* Composer::DecoderOf(const Layer& layer, const ShownStream& stream, std::int64_t frame,
-                                  int* wanted)
+FrameDecoder* Composer::DecoderOf(const Layer& layer, int stream, int wanted)
 {
-    const std::shared_ptr<const MediaInfo>& media = layer.ShownMedia();
-    if (!media->Stream(stream.index))
-        return nullptr;
-    // A frozen clip names a frame of its material, which plays at normal speed.
-    const double played =
-        layer.frozenFrame ? double(*layer.frozenFrame) : double(frame) * layer.speed;
-    *wanted = stream.FrameAt(FrameTime{played, layer.frameRate});
-    if (!stream.Shows(*wanted))
-        return nullptr;
     OpenDecoder& decoder = m_decoders[&layer];
     decoder.used = true;
     if (!decoder.lease)
-        decoder.lease = m_pool.Acquire(media, stream.index, DecodePurpose::Render, *wanted, nullptr,
-                                       IsHardwareWanted(layer.source.gpuFirst != 0));
+        decoder.lease = m_pool.Acquire(layer.ShownMedia(), stream, DecodePurpose::Render, wanted,
+                                       nullptr, IsHardwareWanted(layer.source.gpuFirst != 0));
     return decoder.lease ? &*decoder.lease : nullptr;
 }
 
 QImage Composer::MediaPicture(const Layer& layer, std::int64_t frame, const QSize& size)
 {
-    int wanted = 0;
     const ShownStream stream = ShownStreamOf(layer);
-    FrameDecoder* decoder = DecoderOf(layer, stream, frame, &wanted);
+    const std::optional<int> wanted = ShownFrameOf(layer, stream, frame);
+    if (!wanted)
+        return {};
     const PictureDepth depth = IsDeep(m_root->context) ? PictureDepth::Deep : PictureDepth::Usual;
+    const PictureTrail::Key key = {layer.ShownMedia(),   stream.index, *wanted, size,
+                                   stream.deinterlacing, depth};
+    QImage image = m_trail ? m_trail->Find(key) : QImage();
+    if (image.isNull())
+        image = DecodedPicture(layer, key);
+    const bool hasAlpha = key.media->Stream(stream.index)->hasAlpha;
+    return hasAlpha || image.isNull() ? image : AsOpaque(image);
+}
+
+QImage Composer::DecodedPicture(const Layer& layer, const PictureTrail::Key& key)
+{
+    FrameDecoder* decoder = DecoderOf(layer, key.stream, key.frame);
     bool isExact = true;
     QImage image;
     if (decoder && m_isNear)
-        image = decoder->NearPicture(wanted, size, &isExact, stream.deinterlacing, depth);
+        image = decoder->NearPicture(key.frame, key.size, &isExact, key.deinterlacing, key.depth);
     else if (decoder && !IsStopped())
-        image = decoder->Picture(wanted, size, stream.deinterlacing, depth, m_stop);
+        image = decoder->Picture(key.frame, key.size, key.deinterlacing, key.depth, m_stop);
     m_isExact = m_isExact && isExact;
-    const bool hasAlpha = decoder && decoder->Info()->Stream(decoder->StreamIndex())->hasAlpha;
-    return hasAlpha || image.isNull() ? image : AsOpaque(image);
+    if (m_trail && isExact && !image.isNull())
+        m_trail->Add(key, image);
+    return image;
 }
 
 const LayerTransition* Composer::TransitionOf(const Layer& composite, int child, std::int64_t frame)
@@ -426,9 +442,9 @@ const AVFrame* Composer::PlainMedia(const Layer& layer, std::int64_t frame)
     const MediaStream* stream = layer.ShownMedia()->Stream(shown.index);
     if (!stream || stream->hasAlpha)
         return nullptr;
-    int wanted = 0;
-    FrameDecoder* decoder = DecoderOf(layer, shown, frame, &wanted);
-    const AVFrame* picture = decoder ? decoder->Decoded(wanted, shown.deinterlacing) : nullptr;
+    const std::optional<int> wanted = ShownFrameOf(layer, shown, frame);
+    FrameDecoder* decoder = wanted ? DecoderOf(layer, shown.index, *wanted) : nullptr;
+    const AVFrame* picture = decoder ? decoder->Decoded(*wanted, shown.deinterlacing) : nullptr;
     if (picture)
         DropIdle();
     return picture;

@@ -3,6 +3,7 @@
 
 #include "NLECore/media/DecoderPool.h"
 #include "NLECore/render/EffectChain.h"
+#include "NLECore/render/PictureTrail.h"
 #include "NLECore/render/TitlePicture.h"
 #include "NLECore/render/TransitionMix.h"
 #include "NLECore/scene/SourceChoice.h"
@@ -61,6 +62,10 @@ public:
     /// Render gives null soon after \a stop was set, by any thread. It outlives the object.
     void SetStop(const std::atomic<bool>* stop) { m_stop = stop; }
 
+    /// Pictures that Render would decode are taken from \a trail where they are, and left there
+    /// for the next composer. It outlives the object.
+    void SetTrail(PictureTrail* trail) { m_trail = trail; }
+
     /// The decoded picture that alone makes up what Render would draw, as far as it needs nothing
     /// but scaling; else null. Valid until the next call.
     const AVFrame* PlainPicture(std::int64_t frame, const QSize& frameSize);
@@ -86,9 +91,9 @@ private:
     DrawnPicture Content(const Layer& layer, std::int64_t frame, const QSize& size);
     QImage PlainContent(const Layer& layer, std::int64_t frame, const QSize& size);
     QImage MediaPicture(const Layer& layer, std::int64_t frame, const QSize& size);
-    /// The layer's open decoder, or null, and the frame of its stream that shows.
-    FrameDecoder* DecoderOf(const Layer& layer, const ShownStream& stream, std::int64_t frame,
-                            int* wanted);
+    QImage DecodedPicture(const Layer& layer, const PictureTrail::Key& key);
+    /// The layer's open decoder, or null, for the frame \a wanted of the stream.
+    FrameDecoder* DecoderOf(const Layer& layer, int stream, int wanted);
     QImage Composite(const Layer& layer, std::int64_t frame, const QSize& size);
     /// The part of a title's picture that something shows in; margins below 0 are the rest.
     DrawnPicture Title(const Layer& layer, std::int64_t frame, const QSize& size);
@@ -128,6 +133,7 @@ private:
     std::map<const Layer*, OpenTitle> m_titles;
     std::optional<WipePattern> m_pattern; ///< the one that was drawn last
     const std::atomic<bool>* m_stop = nullptr;
+    PictureTrail* m_trail = nullptr;
     bool m_isNear = false; ///< RenderNear draws
     bool m_isExact = true;
 };

@@ -27,16 +27,20 @@ void PlayComposer::SetScene(const SharedScene& scene)
     // Its decoders go back first, so that the next composer takes them on where they stand.
     m_composer.reset();
     m_scene = scene;
-    if (!scene)
+    if (!scene) {
+        m_trail = {};
         return;
+    }
     m_composer.emplace(scene->root);
     m_composer->SetStop(&m_stop);
+    m_composer->SetTrail(&m_trail);
 }
 
 template <typename Draw>
 PlayPicture PlayComposer::Make(int frame, const QSize& size, Draw&& draw)
 {
     PlayPicture picture{frame, NLEPlayerSource_Rendered, {}, m_scene, size};
+    m_trail.BeginFrame();
     ComGuard([&] {
         QRect place = PlaceRoot(m_scene->root->size, size);
         if (m_scene->cached)

@@ -54,6 +54,7 @@ private:
 
     const std::atomic<bool>& m_stop;
     SharedScene m_scene;
+    PictureTrail m_trail;
     std::optional<Composer> m_composer;
 };
 
