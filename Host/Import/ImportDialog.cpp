@@ -3,6 +3,7 @@
 
 #include "Host/Import/ImportPage.h"
 
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -16,6 +17,9 @@ ImportDialog::ImportDialog(QWidget* parent) : QDialog(parent)
     auto* page = new ImportPage(this);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(page);
+    // Only the page's own one, when it can import; a dialog makes any button one.
+    for (auto* button : page->findChildren<QPushButton*>())
+        button->setAutoDefault(false);
     connect(page, &ImportPage::Imported, this, &ImportDialog::Imported);
     resize(kSize);
 }

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Editor/Bin/BinEntries.h"
+
+#include "Com/NLEComPtr.h"
+#include "EngineApi/INLEProperties.h"
+#include "EngineApi/INLETimeline.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <vector>
+
+namespace {
+
+/// Text: an array of objects in JSON.
+constexpr const wchar_t* kKey = L"kEditor_Bin";
+constexpr int kShortest = 4096;
+constexpr int kLongest = 1 << 26; // characters, of some hundred thousand files
+
+NLEComPtr<INLEProperties> BagOf(INLETimeline& project)
+{
+    NLEComPtr<INLEProperties> bag;
+    if (FAILED(project.GetProperties(bag.put())))
+        bag.forget();
+    return bag;
+}
+
+/// A getter cuts what is longer than its buffer.
+QString ReadText(INLEProperties& bag)
+{
+    for (int capacity = kShortest; capacity <= kLongest; capacity *= 4) {
+        std::vector<wchar_t> buffer(std::size_t(capacity), L'\0');
+        if (FAILED(bag.GetString(kKey, buffer.data(), capacity)))
+            return {};
+        QString text = QString::fromWCharArray(buffer.data());
+        if (int(wcslen(buffer.data())) < capacity - 1)
+            return text;
+    }
+    return {};
+}
+
+QJsonObject ToJson(const BinEntry& entry)
+{
+    QJsonObject object{{"path", entry.path}};
+    if (!entry.proxy.isEmpty())
+        object["proxy"] = entry.proxy;
+    if (NLERangeLength(entry.marks) > 0) {
+        object["in"] = entry.marks.in;
+        object["out"] = entry.marks.out;
+    }
+    return object;
+}
+
+BinEntry FromJson(const QJsonObject& object)
+{
+    return {
+        object["path"].toString(),
+        object["proxy"].toString(),
+        {object["in"].toInt(BinEntry::kNoMarks.in), object["out"].toInt(BinEntry::kNoMarks.out)}};
+}
+
+} // namespace
+
+BinEntries ReadBinEntries(INLETimeline& project)
+{
+    BinEntries entries;
+    const NLEComPtr<INLEProperties> bag = BagOf(project);
+    if (!bag)
+        return entries;
+    const QJsonArray array = QJsonDocument::fromJson(ReadText(*bag).toUtf8()).array();
+    for (const QJsonValue& value : array) {
+        const BinEntry entry = FromJson(value.toObject());
+        if (!entry.path.isEmpty())
+            entries.append(entry);
+    }
+    return entries;
+}
+
+bool WriteBinEntries(INLETimeline& project, const BinEntries& entries)
+{
+    const NLEComPtr<INLEProperties> bag = BagOf(project);
+    if (!bag)
+        return false;
+    QJsonArray array;
+    for (const BinEntry& entry : entries)
+        array.append(ToJson(entry));
+    const QByteArray text = QJsonDocument(array).toJson(QJsonDocument::Compact);
+    return SUCCEEDED(bag->SetString(kKey, QString::fromUtf8(text).toStdWString().c_str()));
+}

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Editor/Bin/MediaDescriber.h"
+
+#include "CommonLib/NLEWraper/NLEWraper.h"
+#include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "Host/Editor/Bin/ProxyJobs.h"
+
+#include <array>
+
+namespace {
+
+constexpr int kThreads = 2;
+
+PlayerMaterProvider& Provider()
+{
+    return *NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
+}
+
+QString FindProxy(INLEProxyMaker& proxies, const QString& path)
+{
+    std::array<wchar_t, 4096> found{};
+    if (proxies.Find(path.toStdWString().c_str(), found.data(), int(found.size())) != S_OK)
+        return {};
+    return QString::fromWCharArray(found.data());
+}
+
+NLEComPtr<INLEMediaInfo> InfoOf(const NLEComPtr<INLETimeline>& clip)
+{
+    NLEComPtr<INLEMediaInfo> info;
+    const auto source = clip.query<INLETimelineSource>();
+    if (!source || FAILED(source->GetMediaInfo(info.put())))
+        info.forget();
+    return info;
+}
+
+} // namespace
+
+MediaDescriber::MediaDescriber(QObject* parent) : QObject(parent), m_proxies(MakeProxyMaker())
+{
+    Provider(); // is made on this thread
+    m_threads.setMaxThreadCount(kThreads);
+}
+
+MediaDescriber::~MediaDescriber()
+{
+    m_threads.clear();
+    m_threads.waitForDone();
+}
+
+void MediaDescriber::Describe(const QString& path)
+{
+    if (m_asked.contains(path))
+        return;
+    m_asked.insert(path);
+    m_threads.start([this, path] {
+        const MediaDescription description = Read(path);
+        QMetaObject::invokeMethod(this, [this, description] {
+            m_asked.remove(description.path);
+            Q_EMIT Described(description);
+        });
+    });
+}
+
+MediaDescription MediaDescriber::Read(const QString& path) const
+{
+    using State = MediaDescription::State;
+    MediaDescription description;
+    description.path = path;
+    description.state = State::Unreadable;
+    const NLEComPtr<INLETimeline> clip = Provider().CreateMediaTimeline(path, true);
+    if (!clip)
+        return description;
+    const NLEComPtr<INLEMediaInfo> info = InfoOf(clip);
+    int kind = NLEMedia_Offline;
+    if (!info || FAILED(info->GetKind(&kind)))
+        return description;
+    description.state = kind == NLEMedia_Offline ? State::Offline : State::Ready;
+    if (description.state == State::Offline)
+        return description;
+    description.info = info;
+    description.report = std::make_shared<MediaReport>(info.get());
+    if (m_proxies && kind == NLEMedia_Video)
+        description.proxy = FindProxy(*m_proxies, path);
+    return description;
+}
