@@ -6,6 +6,8 @@
 #include "Host/Editor/Player/PlayerPanel.h"
 #include "Host/Editor/Player/Transport.h"
 #include "Host/Editor/Properties/PropertiesPanel.h"
+#include "Host/Editor/Timeline/TimelinePanel.h"
+#include "Host/Editor/Timeline/TimelineView.h"
 #include "Host/Editor/Window/AboutBox.h"
 #include "Host/Editor/Window/FileCommands.h"
 #include "Host/Editor/Window/FocusedKeys.h"
@@ -30,9 +32,29 @@
 
 namespace {
 
+constexpr QSize kSize(1280, 800);
+constexpr int kTimelineHeight = 280;
+constexpr int kPropertiesWidth = 330;
 constexpr int kMessageTime = 10000; // milliseconds
 const char kGeometry[] = "window/geometry";
 const char kState[] = "window/state";
+
+/// Takes keys that \a kept have from \a others: what two actions want, none gets.
+void KeepKeys(const QList<QAction*>& kept, const QList<QAction*>& others)
+{
+    QList<QKeySequence> taken;
+    for (const QAction* action : kept) {
+        if (action)
+            taken += action->shortcuts();
+    }
+    for (QAction* action : others) {
+        QList<QKeySequence> keys = action->shortcuts();
+        keys.erase(std::remove_if(keys.begin(), keys.end(),
+                                  [&](const QKeySequence& key) { return taken.contains(key); }),
+                   keys.end());
+        action->setShortcuts(keys);
+    }
+}
 
 } // namespace
 
@@ -41,9 +63,11 @@ EditorWindow::EditorWindow(const Paths& paths)
     , m_autosave(m_project, paths.autosave)
     , m_files(new FileCommands(m_project, *this))
     , m_playerPanel(new PlayerPanel(m_project, m_player, this))
+    , m_timeline(new TimelinePanel(m_project, m_selection, m_player, this))
     , m_films(new ExportQueue(this))
 {
     qApp->installEventFilter(new FocusedKeys(this));
+    resize(kSize);
     setCentralWidget(m_playerPanel);
     AddPanels(paths);
     AddMenus();
@@ -57,7 +81,7 @@ EditorWindow::EditorWindow(const Paths& paths)
     const QSettings settings;
     restoreGeometry(settings.value(QLatin1String(kGeometry)).toByteArray());
     restoreState(settings.value(QLatin1String(kState)).toByteArray());
-    m_playerPanel->setFocus();
+    m_timeline->View()->setFocus();
 }
 
 EditorWindow::~EditorWindow()
@@ -89,10 +113,17 @@ void EditorWindow::AddPanels(const Paths& paths)
     setDockNestingEnabled(true);
     setCorner(Qt::BottomLeftCorner, Qt::BottomDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::BottomDockWidgetArea);
-    AddPanel(Qt::RightDockWidgetArea, QT_TR_NOOP("Properties"), "properties",
-             new PropertiesPanel(m_project, m_selection, m_player, this));
-    AddPanel(Qt::BottomDockWidgetArea, QT_TR_NOOP("Log"), "log", new LogView(paths.log, this))
-        ->hide();
+    QDockWidget* properties =
+        AddPanel(Qt::RightDockWidgetArea, QT_TR_NOOP("Properties"), "properties",
+                 new PropertiesPanel(m_project, m_selection, m_player, this));
+    QDockWidget* timeline =
+        AddPanel(Qt::BottomDockWidgetArea, QT_TR_NOOP("Timeline"), "timeline", m_timeline);
+    QDockWidget* log =
+        AddPanel(Qt::BottomDockWidgetArea, QT_TR_NOOP("Log"), "log", new LogView(paths.log, this));
+    tabifyDockWidget(timeline, log);
+    log->hide();
+    resizeDocks({timeline}, {kTimelineHeight}, Qt::Vertical);
+    resizeDocks({properties}, {kPropertiesWidth}, Qt::Horizontal);
 }
 
 // ---- Menus
@@ -139,7 +170,7 @@ QAction* EditorWindow::AddStep(const char* text, const QKeySequence& keys, bool 
 
 void EditorWindow::AddMenus()
 {
-    QMenu* file = AddMenu(QT_TR_NOOP("File"), m_files->Actions());
+    QMenu* file = AddMenu(QT_TR_NOOP("&File"), m_files->Actions());
     file->addSeparator();
     file->addAction(AddAction(QT_TR_NOOP("Export…"), QKeySequence(Qt::CTRL + Qt::Key_E),
                               [this] { ShowExport(); }));
@@ -148,18 +179,20 @@ void EditorWindow::AddMenus()
         AddAction(QT_TR_NOOP("Quit"), QKeySequence(Qt::CTRL + Qt::Key_Q), [this] { close(); }));
     m_undo = AddStep(QT_TR_NOOP("Undo"), QKeySequence::Undo, true);
     m_redo = AddStep(QT_TR_NOOP("Redo"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z), false);
-    QMenu* edit = AddMenu(QT_TR_NOOP("Edit"), {m_undo, m_redo, nullptr});
+    QMenu* edit = AddMenu(QT_TR_NOOP("&Edit"), {m_undo, m_redo, nullptr});
     edit->addAction(AddAction(QT_TR_NOOP("Lift from in to out point"),
                               QKeySequence(Qt::Key_Semicolon),
                               [this] { CutRange(tr("Lift"), &INLEEditing::Lift); }));
     edit->addAction(AddAction(QT_TR_NOOP("Extract from in to out point"),
                               QKeySequence(Qt::SHIFT + Qt::Key_Semicolon),
                               [this] { CutRange(tr("Extract"), &INLEEditing::Extract); }));
-    AddMenu(QT_TR_NOOP("Play"), m_playerPanel->Actions());
-    QMenu* view = AddMenu(QT_TR_NOOP("View"), m_panelSwitches);
+    AddMenu(QT_TR_NOOP("&Timeline"), m_timeline->Actions());
+    AddMenu(QT_TR_NOOP("&Play"), m_playerPanel->Actions());
+    KeepKeys(m_playerPanel->Actions(), m_timeline->Actions());
+    QMenu* view = AddMenu(QT_TR_NOOP("&View"), m_panelSwitches);
     view->addSeparator();
     view->addMenu(new LanguageMenu(this));
-    AddMenu(QT_TR_NOOP("Help"),
+    AddMenu(QT_TR_NOOP("&Help"),
             {AddAction(QT_TR_NOOP("Keyboard shortcuts"), QKeySequence::HelpContents,
                        [this] { ShortcutList(this).exec(); }),
              AddAction(QT_TR_NOOP("About"), {}, [this] { ShowAbout(this); })});

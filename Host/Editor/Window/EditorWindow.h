@@ -14,6 +14,7 @@ class ExportDialog;
 class ExportQueue;
 class FileCommands;
 class PlayerPanel;
+class TimelinePanel;
 
 /// The editor: one project, the panels that show it in docks around the player, menus.
 class EditorWindow : public QMainWindow
@@ -61,6 +62,7 @@ private:
     Autosave m_autosave;
     FileCommands* m_files;
     PlayerPanel* m_playerPanel;
+    TimelinePanel* m_timeline;
     ExportQueue* m_films;
     ExportDialog* m_export = nullptr; ///< null before it is asked for
     QAction* m_undo = nullptr;
