@@ -6,6 +6,7 @@
 #include "Host/Editor/Properties/ClipActions.h"
 #include "Host/Editor/Properties/ClipFields.h"
 #include "Host/Editor/Properties/EngineCatalog.h"
+#include "Host/Editor/Properties/MovementKeys.h"
 #include "Host/Editor/Properties/ParameterFields.h"
 #include "Host/Editor/Properties/ParameterKeys.h"
 #include "Host/Editor/Properties/ProjectFields.h"
@@ -172,6 +173,8 @@ class tst_EditorProperties : public QObject
             fields.removeAt(2); // fixed by the clip
             return fields;
         }
+        if (name == "movement")
+            return MovementFields(std::make_shared<MovementKeys>(clip), still);
         if (name == "title")
             return ParameterFields(EngineCatalog::MakeTitle("Text"), clip, still);
         return ParameterFields(EngineCatalog::Make(NLECatalog_Effect, name), clip, still);
@@ -195,8 +198,8 @@ private Q_SLOTS:
     void aFieldChangesItsOwnValueAlone_data()
     {
         QTest::addColumn<QString>("section");
-        for (const char* section :
-             {"placement", "blending", "sound", "colour", "drawing", "mixer", "format", "title"})
+        for (const char* section : {"placement", "blending", "sound", "colour", "drawing", "mixer",
+                                    "format", "title", "movement"})
             QTest::addRow("%s", section) << section;
         for (const auto& entry : EngineCatalog::Entries(NLECatalog_Effect))
             QTest::addRow("effect %s", qPrintable(entry.name)) << entry.name;
@@ -327,6 +330,34 @@ private Q_SLOTS:
         QCOMPARE(keys.Behind(10).value_or(-1), 60);
         QVERIFY(!keys.Behind(60));
         QCOMPARE(keys.Nearest(5), 10);
+    }
+
+    void aMovementIsChangedAtThePlayHead()
+    {
+        const Node clip = m_editor->Place(Film(), 10);
+        const auto keys = std::make_shared<MovementKeys>(clip);
+        int playHead = 10;
+        const Fields fields = MovementFields(keys, [&] { return playHead; });
+        QVERIFY(keys->Toggle(playHead).redo());
+        playHead = 35;
+        for (const PropertyField& field : fields)
+            QVERIFY(field.change(field.highest).redo());
+        for (const int frame : {22, 35, 60})
+            QCOMPARE(keys->IsAt(frame), frame == 35);
+        playHead = 10;
+        for (const PropertyField& field : fields)
+            QCOMPARE(field.value().toDouble(), field.preset.toDouble());
+        playHead = 35;
+        for (const PropertyField& field : fields)
+            QCOMPARE(field.value().toDouble(), field.highest);
+        VideoKeyFrameParam param = keys->ValueAt(35);
+        QCOMPARE(param.position, QPointF(2, 2));
+        const PropertyChange removal = keys->Toggle(35);
+        QVERIFY(removal.redo());
+        QVERIFY(!keys->IsAt(35) && keys->IsAt(10));
+        QVERIFY(removal.undo());
+        QCOMPARE(keys->Behind(10).value_or(-1), 35);
+        QCOMPARE(keys->ValueAt(35), param);
     }
 
     void effectsAreAddedMovedSwitchedAndRemoved()

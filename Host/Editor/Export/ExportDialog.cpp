@@ -63,7 +63,11 @@ QWidget* MakeRow(std::initializer_list<QWidget*> widgets)
 /// Two numbers of which the first is always at the left.
 QWidget* MakePair(QWidget* first, const QString& between, QWidget* second)
 {
-    QWidget* pair = MakeRow({first, new QLabel(between), second});
+    auto* pair = new QWidget;
+    auto* layout = new QHBoxLayout(pair);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (QWidget* widget : {first, static_cast<QWidget*>(new QLabel(between)), second})
+        layout->addWidget(widget);
     pair->setLayoutDirection(Qt::LeftToRight);
     return pair;
 }
@@ -174,7 +178,7 @@ void ExportDialog::AddFormat(QFormLayout& form)
     m_sampleRate->addItem(tr("As the project"), 0);
     for (const int rate : kSampleRates)
         m_sampleRate->addItem(tr("%1 Hz").arg(rate), rate);
-    form.addRow(tr("Size"), MakePair(m_width, QStringLiteral("×"), m_height));
+    form.addRow(tr("Size"), MakeRow({MakePair(m_width, QStringLiteral("×"), m_height)}));
     form.addRow(tr("Frame rate"), m_rate);
     form.addRow(tr("Sound"), m_sampleRate);
     for (QComboBox* box : {m_rate, m_sampleRate})

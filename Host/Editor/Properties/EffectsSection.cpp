@@ -6,7 +6,6 @@
 #include "Host/Editor/Properties/EngineText.h"
 #include "Host/Editor/Properties/ParameterFields.h"
 #include "Host/Editor/Properties/PropertyForm.h"
-#include "Host/Widgets/MediaPlayer.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -136,8 +135,8 @@ EffectsSection::Card EffectsSection::MakeCard(const NLEComPtr<INLETimeline>& eff
     for (QToolButton* button : {up, down, remove})
         head->addWidget(button);
     column->addLayout(head);
-    const auto fields = ParameterFields(effect, m_scope.node,
-                                        [&player = m_scope.player] { return player.Position(); });
+    const auto fields =
+        ParameterFields(effect, m_scope.node, [scope = m_scope] { return scope.PlayHead(); });
     auto* form = new PropertyForm(m_scope, fields, widget);
     column->addWidget(form);
     Project& project = m_scope.project;

@@ -14,7 +14,7 @@ constexpr int kGap = 2;
 
 } // namespace
 
-KeyFrameBar::KeyFrameBar(std::shared_ptr<ParameterKeys> keys, const QString& title, QWidget* parent)
+KeyFrameBar::KeyFrameBar(std::shared_ptr<KeyFrames> keys, const QString& title, QWidget* parent)
     : QWidget(parent), m_keys(std::move(keys)), m_title(title)
 {
     auto* row = new QHBoxLayout(this);
@@ -76,14 +76,14 @@ void KeyFrameBar::Show(int playHead)
 {
     m_playHead = playHead;
     setVisible(m_keys->IsAnimated());
-    const auto shown = m_keys->InForce(playHead);
-    const bool isSet = bool(m_keys->At(playHead));
+    const auto interpolation = m_keys->Interpolation(playHead);
+    const bool isSet = m_keys->IsAt(playHead);
     m_previous->setEnabled(bool(m_keys->Before(playHead)));
     m_next->setEnabled(bool(m_keys->Behind(playHead)));
     m_diamond->setEnabled(m_keys->IsWithin(playHead));
     m_diamond->setChecked(isSet);
     m_diamond->setText(isSet ? QStringLiteral("◆") : QStringLiteral("◇"));
-    m_interpolation->setEnabled(bool(shown));
-    if (shown)
-        m_interpolation->setCurrentIndex(shown->interpolation);
+    m_interpolation->setVisible(m_keys->HasInterpolations());
+    m_interpolation->setEnabled(bool(interpolation));
+    m_interpolation->setCurrentIndex(interpolation.value_or(NLEInterpolation_Linear));
 }

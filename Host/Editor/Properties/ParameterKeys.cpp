@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Properties/ParameterKeys.h"
 
-#include "CommonLib/NLEWraper/VideoKeyFrame.h"
-
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 ParameterKeys::ParameterKeys(NLEComPtr<INLEParameters> parameters, const QString& name,
                              NLEComPtr<INLETimeline> clip)
-    : m_parameters(std::move(parameters)), m_name(name.toStdWString()), m_clip(std::move(clip))
+    : KeyFrames(std::move(clip)), m_parameters(std::move(parameters)), m_name(name.toStdWString())
 {
 }
 
@@ -26,47 +23,15 @@ QVector<ParameterKeys::Key> ParameterKeys::All() const
     return keys;
 }
 
-bool ParameterKeys::IsAnimated() const
+QVector<double> ParameterKeys::Times() const
 {
-    int count = 0;
-    return m_parameters->GetKeyFrameCount(m_name.c_str(), &count) == S_OK && count > 0;
+    QVector<double> times;
+    for (const Key& key : All())
+        times.append(key.time);
+    return times;
 }
 
-int ParameterKeys::Begin() const
-{
-    int position = 0;
-    m_clip->GetPosition(&position);
-    return position;
-}
-
-int ParameterKeys::Length() const
-{
-    NLERange range = {};
-    m_clip->GetRange(&range);
-    return int(std::min<std::int64_t>(NLERangeLength(range), std::numeric_limits<int>::max()));
-}
-
-double ParameterKeys::Time(int frame) const
-{
-    return CalculateVideoKeyFramePosition(frame - Begin(), Length());
-}
-
-int ParameterKeys::Frame(double time) const
-{
-    return Begin() + CalculateVideoKeyFrameIndex(time, Length());
-}
-
-bool ParameterKeys::IsWithin(int frame) const
-{
-    return frame >= Begin() && frame - Begin() < Length();
-}
-
-int ParameterKeys::Nearest(int frame) const
-{
-    return std::clamp(frame, Begin(), Begin() + std::max(Length() - 1, 0));
-}
-
-std::optional<ParameterKeys::Key> ParameterKeys::InForce(int frame) const
+std::optional<ParameterKeys::Key> ParameterKeys::Ruling(int frame) const
 {
     std::optional<Key> found;
     for (const Key& key : All()) {
@@ -78,23 +43,14 @@ std::optional<ParameterKeys::Key> ParameterKeys::InForce(int frame) const
 
 std::optional<ParameterKeys::Key> ParameterKeys::At(int frame) const
 {
-    const std::optional<Key> key = InForce(frame);
+    const std::optional<Key> key = Ruling(frame);
     return key && Frame(key->time) == frame ? key : std::nullopt;
 }
 
-std::optional<int> ParameterKeys::Before(int frame) const
+std::optional<int> ParameterKeys::Interpolation(int frame) const
 {
-    const std::optional<Key> key = InForce(frame - 1);
-    return key ? std::optional(Frame(key->time)) : std::nullopt;
-}
-
-std::optional<int> ParameterKeys::Behind(int frame) const
-{
-    for (const Key& key : All()) {
-        if (Frame(key.time) > frame)
-            return Frame(key.time);
-    }
-    return std::nullopt;
+    const std::optional<Key> key = Ruling(frame);
+    return key ? std::optional<int>(key->interpolation) : std::nullopt;
 }
 
 double ParameterKeys::ValueAt(int frame) const
@@ -134,7 +90,7 @@ PropertyChange ParameterKeys::Put(int frame, double value) const
 {
     State state = Read();
     const std::optional<Key> there = At(frame);
-    const std::optional<Key> like = InForce(frame);
+    const std::optional<Key> like = Ruling(frame);
     const int interpolation = like ? like->interpolation : int(NLEInterpolation_Linear);
     Key key = {Time(frame), value, interpolation, 0};
     if (there)
@@ -166,7 +122,7 @@ PropertyChange ParameterKeys::Toggle(int frame) const
 PropertyChange ParameterKeys::Interpolate(int frame, int interpolation) const
 {
     State state = Read();
-    const std::optional<Key> chosen = InForce(frame);
+    const std::optional<Key> chosen = Ruling(frame);
     for (Key& key : state.keys) {
         if (chosen && key.time == chosen->time)
             key.interpolation = interpolation;

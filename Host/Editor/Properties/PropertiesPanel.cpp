@@ -10,6 +10,7 @@
 #include "Host/Editor/Properties/EffectsSection.h"
 #include "Host/Editor/Properties/EngineCatalog.h"
 #include "Host/Editor/Properties/EngineText.h"
+#include "Host/Editor/Properties/MovementSection.h"
 #include "Host/Editor/Properties/ParameterFields.h"
 #include "Host/Editor/Properties/ProjectFields.h"
 #include "Host/Editor/Properties/PropertyForm.h"
@@ -121,6 +122,11 @@ QString PropertiesPanel::Title() const
     return file.isEmpty() ? tr("Clip") : file;
 }
 
+PropertyScope PropertiesPanel::Scope() const
+{
+    return {m_project, m_selection, m_player, m_node};
+}
+
 bool PropertiesPanel::HasSound() const
 {
     const NLETimeline wrapper(m_node, ExactType_Unknown, nullptr);
@@ -139,7 +145,7 @@ void PropertiesPanel::AddFields(const QString& title, const QVector<PropertyFiel
 {
     if (fields.isEmpty())
         return;
-    auto* form = new PropertyForm({m_project, m_selection, m_player, m_node}, fields, m_content);
+    auto* form = new PropertyForm(Scope(), fields, m_content);
     AddSection(title, form, [form] { form->Refresh(); });
 }
 
@@ -149,7 +155,7 @@ void PropertiesPanel::AddProjectSections()
     AddFields(tr("Format"), ProjectFields::Format(m_node));
     AddFields(tr("Drawing"), ProjectFields::Drawing(m_node));
     AddMixer();
-    auto* effects = new EffectsSection({m_project, m_selection, m_player, m_node}, m_content);
+    auto* effects = new EffectsSection(Scope(), m_content);
     AddSection(tr("Effects"), effects, [effects] { effects->Refresh(); });
 }
 
@@ -158,7 +164,7 @@ void PropertiesPanel::AddTitleButton()
     auto* add = new QPushButton(tr("Add title"), m_content);
     m_column->addWidget(add);
     connect(add, &QPushButton::clicked, this, [this] {
-        ClipActions::AddTitle(m_project, m_selection, tr("Title"), m_player.Position());
+        ClipActions::AddTitle(m_project, m_selection, tr("Title"), Scope().PlayHead());
     });
 }
 
@@ -171,17 +177,20 @@ void PropertiesPanel::AddMixer()
 
 void PropertiesPanel::AddTransitionSections()
 {
+    const PropertyScope scope = Scope();
     AddFields(tr("Transition"),
-              ParameterFields(m_node, m_node, [this] { return m_player.Position(); }));
+              ParameterFields(m_node, m_node, [scope] { return scope.PlayHead(); }));
 }
 
 void PropertiesPanel::AddClipSections()
 {
-    const PropertyScope scope = {m_project, m_selection, m_player, m_node};
-    AddFields(tr("Title"), ParameterFields(m_node, m_node, [this] { return m_player.Position(); }));
+    const PropertyScope scope = Scope();
+    AddFields(tr("Title"), ParameterFields(m_node, m_node, [scope] { return scope.PlayHead(); }));
     AddFields(tr("Colour"), ClipFields::Color(m_node));
     AddFields(tr("Placement"), ClipFields::Placement(m_node));
     AddFields(tr("Blending"), ClipFields::Blending(m_node));
+    auto* movement = new MovementSection(scope, m_content);
+    AddSection(tr("Movement"), movement, [movement] { movement->Refresh(); });
     if (!m_node.query<INLETimelineComposite>()) {
         auto* speed = new SpeedSection(scope, m_content);
         AddSection(tr("Speed"), speed, [speed] { speed->Refresh(); });

@@ -1,18 +1,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "Com/NLEComPtr.h"
-#include "EngineApi/INLETimeline.h"
 #include "Host/Editor/Properties/PropertyField.h"
+#include "Host/Editor/Properties/PropertyScope.h"
 
 #include <QVector>
 #include <QWidget>
 
 #include <functional>
 
-class MediaPlayer;
-class Project;
-class Selection;
 class QLabel;
 class QScrollArea;
 class QVBoxLayout;
@@ -45,6 +41,7 @@ private:
     void AddFields(const QString& title, const QVector<PropertyField>& fields);
     /// \a refresh is called whenever what is shown may have changed.
     void AddSection(const QString& title, QWidget* content, std::function<void()> refresh);
+    PropertyScope Scope() const;
     bool HasSound() const;
     QString Title() const;
 

@@ -3,6 +3,7 @@
 
 #include "Host/Editor/Model/Project.h"
 #include "Host/Editor/Properties/KeyFrameBar.h"
+#include "Host/Editor/Properties/ParameterKeys.h"
 #include "Host/Editor/Properties/PropertyEditor.h"
 #include "Host/Widgets/MediaPlayer.h"
 
@@ -135,7 +136,7 @@ void PropertyForm::Show(const Row& row) const
         row.reset->setEnabled(value != row.field.preset ||
                               (row.field.keys && row.field.keys->IsAnimated()));
     if (row.keys)
-        row.keys->Show(m_scope.player.Position());
+        row.keys->Show(m_scope.PlayHead());
 }
 
 void PropertyForm::Refresh()

@@ -16,4 +16,7 @@ struct PropertyScope
     Selection& selection;
     MediaPlayer& player;
     NLEComPtr<INLETimeline> node; ///< a clip, a transition, or the project itself
+
+    /// The frame of the project under the play head; 0 while nothing is open.
+    int PlayHead() const;
 };
