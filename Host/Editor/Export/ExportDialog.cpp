@@ -132,8 +132,14 @@ ExportDialog::ExportDialog(Project& project, MediaPlayer& player, ExportQueue& q
     column->addWidget(films, 1);
     resize(kWidth, sizeHint().height());
     connect(m_check, &ExportCheck::Told, this, &ExportDialog::ShowComplaint);
-    connect(&project, &Project::Replaced, this, &ExportDialog::TakeProject);
-    TakeProject();
+    connect(&project, &Project::Replaced, this, &ExportDialog::TakeSize);
+    connect(&project, &Project::Replaced, this, &ExportDialog::TakeLength);
+    connect(&project, &Project::NodeChanged, this, [this](const NLEComPtr<INLETimeline>& node) {
+        if (node == m_project.Node())
+            TakeSize();
+    });
+    TakeSize();
+    TakeLength();
     TakePreset();
 }
 
@@ -243,11 +249,26 @@ QWidget* ExportDialog::MakeButtons()
     return MakeRow({m_add, still, close});
 }
 
-void ExportDialog::TakeProject()
+void ExportDialog::showEvent(QShowEvent* event)
+{
+    // Clips may have come since it was shown last.
+    if (m_all->isChecked())
+        TakeLength();
+    QDialog::showEvent(event);
+}
+
+void ExportDialog::TakeSize()
 {
     const QSize size = m_project.Timeline()->GetProjectResolution();
+    if (size == m_projectSize)
+        return; // what was chosen stays
+    m_projectSize = size;
     m_width->setValue(size.width());
     m_height->setValue(size.height());
+}
+
+void ExportDialog::TakeLength()
+{
     for (TimecodeEdit* point : {m_first, m_last})
         point->SetFrameRate(m_project.FrameRate());
     m_first->SetFrame(0);

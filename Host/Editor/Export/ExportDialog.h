@@ -43,6 +43,9 @@ public Q_SLOTS:
     /// Asks for a file and writes the frame under the play head to it.
     void AskForStill();
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void AddPresets(QFormLayout& form);
     void AddFile(QFormLayout& form);
@@ -52,7 +55,8 @@ private:
     QWidget* MakeButtons();
     QSpinBox* MakeSide(const QString& name);
     TimecodeEdit* MakePoint(const QString& name);
-    void TakeProject();
+    void TakeSize();
+    void TakeLength();
     void TakePreset();
     void PickFile();
     void Check();
@@ -66,6 +70,7 @@ private:
     ExportCheck* m_check;
     QComboBox* m_preset;
     QLineEdit* m_path;
+    QSize m_projectSize; ///< that was taken
     QSpinBox* m_width = nullptr;
     QSpinBox* m_height = nullptr;
     QComboBox* m_rate = nullptr;
