@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Window/EditorWindow.h"
 
+#include "Host/Editor/Bin/BinCommands.h"
+#include "Host/Editor/Bin/BinPanel.h"
 #include "Host/Editor/Export/ExportDialog.h"
 #include "Host/Editor/Export/ExportQueue.h"
 #include "Host/Editor/Player/PlayerPanel.h"
@@ -34,7 +36,8 @@ namespace {
 
 constexpr QSize kSize(1280, 800);
 constexpr int kTimelineHeight = 280;
-constexpr int kPropertiesWidth = 330;
+constexpr int kMediaWidth = 260;
+constexpr int kPropertiesWidth = 300;
 constexpr int kMessageTime = 10000; // milliseconds
 const char kGeometry[] = "window/geometry";
 const char kState[] = "window/state";
@@ -63,6 +66,7 @@ EditorWindow::EditorWindow(const Paths& paths)
     , m_autosave(m_project, paths.autosave)
     , m_files(new FileCommands(m_project, *this))
     , m_playerPanel(new PlayerPanel(m_project, m_player, this))
+    , m_bin(new BinPanel(m_project, m_selection, m_player, this))
     , m_timeline(new TimelinePanel(m_project, m_selection, m_player, this))
     , m_films(new ExportQueue(this))
 {
@@ -113,6 +117,7 @@ void EditorWindow::AddPanels(const Paths& paths)
     setDockNestingEnabled(true);
     setCorner(Qt::BottomLeftCorner, Qt::BottomDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::BottomDockWidgetArea);
+    QDockWidget* media = AddPanel(Qt::LeftDockWidgetArea, QT_TR_NOOP("Media"), "media", m_bin);
     QDockWidget* properties =
         AddPanel(Qt::RightDockWidgetArea, QT_TR_NOOP("Properties"), "properties",
                  new PropertiesPanel(m_project, m_selection, m_player, this));
@@ -123,7 +128,7 @@ void EditorWindow::AddPanels(const Paths& paths)
     tabifyDockWidget(timeline, log);
     log->hide();
     resizeDocks({timeline}, {kTimelineHeight}, Qt::Vertical);
-    resizeDocks({properties}, {kPropertiesWidth}, Qt::Horizontal);
+    resizeDocks({media, properties}, {kMediaWidth, kPropertiesWidth}, Qt::Horizontal);
 }
 
 // ---- Menus
@@ -186,6 +191,10 @@ void EditorWindow::AddMenus()
     edit->addAction(AddAction(QT_TR_NOOP("Extract from in to out point"),
                               QKeySequence(Qt::SHIFT + Qt::Key_Semicolon),
                               [this] { CutRange(tr("Extract"), &INLEEditing::Extract); }));
+    QMenu* media = AddMenu(QT_TR_NOOP("&Media"), m_bin->Commands().AddMenu()->actions());
+    media->addSeparator();
+    media->addActions(m_bin->Commands().ItemMenu()->actions());
+    connect(media, &QMenu::aboutToShow, &m_bin->Commands(), &BinCommands::Update);
     AddMenu(QT_TR_NOOP("&Timeline"), m_timeline->Actions());
     AddMenu(QT_TR_NOOP("&Play"), m_playerPanel->Actions());
     KeepKeys(m_playerPanel->Actions(), m_timeline->Actions());
@@ -279,9 +288,18 @@ void EditorWindow::OfferRecovery()
     }
 }
 
+bool EditorWindow::MayEndFilms()
+{
+    if (!m_films->IsBusy())
+        return true;
+    QMessageBox box(QMessageBox::Question, tr("Export"), tr("Films are being written. End that?"),
+                    QMessageBox::Yes | QMessageBox::No, this);
+    return box.exec() == QMessageBox::Yes;
+}
+
 void EditorWindow::closeEvent(QCloseEvent* event)
 {
-    if (!m_files->MayLeave())
+    if (!MayEndFilms() || !m_files->MayLeave())
         return event->ignore();
     QSettings settings;
     settings.setValue(QLatin1String(kGeometry), saveGeometry());

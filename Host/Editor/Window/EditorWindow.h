@@ -10,6 +10,7 @@
 
 #include <functional>
 
+class BinPanel;
 class ExportDialog;
 class ExportQueue;
 class FileCommands;
@@ -54,6 +55,7 @@ private:
     void ShowTitle();
     void ShowRemarks();
     void ShowExport();
+    bool MayEndFilms();
     void CutRange(const QString& text, HRESULT (INLEEditing::*edit)(int, int, int));
 
     Project m_project;
@@ -62,6 +64,7 @@ private:
     Autosave m_autosave;
     FileCommands* m_files;
     PlayerPanel* m_playerPanel;
+    BinPanel* m_bin;
     TimelinePanel* m_timeline;
     ExportQueue* m_films;
     ExportDialog* m_export = nullptr; ///< null before it is asked for
