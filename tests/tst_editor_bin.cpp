@@ -8,12 +8,15 @@
 #include "Host/Editor/Bin/ProxyJobs.h"
 #include "Host/Editor/Model/Project.h"
 #include "Host/Editor/Model/Selection.h"
+#include "Host/Import/ImportDialog.h"
 #include "Host/Widgets/MediaPlayer.h"
 #include "tests/support/EngineFixture.h"
 
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
+#include <QPushButton>
+#include <QTreeWidget>
 #include <QUndoStack>
 
 namespace {
@@ -252,6 +255,34 @@ private Q_SLOTS:
         desk.project.Steps().undo();
         for (const Node& clip : desk.Clips())
             QVERIFY(UsesProxy(clip));
+    }
+
+    void importsFromADevice()
+    {
+#ifndef HAS_DEVICES
+        QSKIP("the device service is not built");
+#endif
+        const QString card = folder.filePath("card");
+        QDir().mkpath(card);
+        QVERIFY(QFile::copy(Media("a.mp4"), card + "/shot.mp4"));
+        qputenv("COMMONLIB_DEVICE_FOLDERS", QFile::encodeName(card));
+        Desk desk;
+        desk.panel.Commands().AddMenu()->actions().last()->trigger();
+        auto* dialog = desk.panel.findChild<ImportDialog*>();
+        QVERIFY(dialog && dialog->isVisible());
+        auto* tree = dialog->findChild<QTreeWidget*>();
+        QTRY_VERIFY_WITH_TIMEOUT(!tree->findItems("shot.mp4", Qt::MatchRecursive).isEmpty(),
+                                 kPatience);
+        dialog->findChild<QLineEdit*>()->setText(folder.filePath("imported"));
+        tree->topLevelItem(0)->setCheckState(0, Qt::Checked);
+        for (auto* button : dialog->findChildren<QPushButton*>()) {
+            if (button->text() != "Import")
+                continue;
+            QTRY_VERIFY(button->isEnabled());
+            button->click();
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(desk.Shown(), QString("shot.mp40"), kPatience);
+        QCOMPARE(desk.Item(0).entry.path, folder.filePath("imported/shot.mp4"));
     }
 
     void placesAtThePlayHead()

@@ -213,8 +213,9 @@ void BinDelegate::PaintTexts(QPainter& painter, const QStyleOptionViewItem& opti
                                   QRect(cell.left() + left, cell.top() + (cell.height() - both) / 2,
                                         std::max(0, cell.width() - left - kMargin), both));
     }
-    const int side =
-        int(QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignVCenter);
+    const int side = int(QStyle::visualAlignment(option.direction, Qt::AlignLeft) |
+                         Qt::AlignVCenter | Qt::AlignAbsolute);
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto); // a size is read from left to right
     const QRect top(room.left(), room.top(), room.width(), nameHeight);
     painter.setPen(option.palette.color(item.IsOffline() ? QPalette::Disabled : QPalette::Active,
                                         QPalette::Text));
