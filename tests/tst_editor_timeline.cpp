@@ -2,6 +2,7 @@
 // The editor's timeline by mouse and keys. Clips are written and read as text: "a0+40 ~35+10 /
 // b5+10@90" are clips of level 0 and, behind the stroke, level 1: a letter, first frame, number of
 // frames and, unless it is 100, first frame of the material. "~" is a transition.
+#include "CommonLib/NLEWraper/FPreViewRenderHelper.h"
 #include "CommonLib/NLEWraper/NLETimeline.h"
 #include "CommonLib/TimelineRuler.h"
 #include "EngineApi/INLEMarkers.h"
@@ -20,6 +21,7 @@
 #include <QApplication>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QUndoStack>
@@ -452,6 +454,103 @@ private Q_SLOTS:
         QVERIFY(!editor.Drop(text, "20,0", {}));
     }
 
+    void showsEachClipAndEachGap_data()
+    {
+        QTest::addColumn<int>("zoom");
+        for (const int zoom : {0, 120, 200, 260, 330, 400, 470})
+            QTest::newRow(qPrintable(QString("zoom %1").arg(zoom))) << zoom;
+    }
+    /// Whatever is painted as one: a clip that begins at a pixel shows there, and where there is no
+    /// clip the level does.
+    void showsEachClipAndEachGap()
+    {
+        QFETCH(int, zoom);
+        Editor editor(*m_engine);
+        std::mt19937 random(3);
+        editor.project.Edit("Clips", [&](INLEEditing& editing) {
+            HRESULT result = S_OK;
+            for (int at = 0; at < 20000 && result == S_OK; at += int(random() % 90) + 1) {
+                const int length = int(random() % (random() % 9 == 0 ? 400 : 30)) + 1;
+                const Node clip = m_engine->Colour(QColor(0, 0xA0, 0));
+                result = editing.Place(m_engine->Trimmed(clip, 0, length - 1).get(), at, 0, 0);
+                at += length;
+            }
+            return result;
+        });
+        editor.panel.Ruler()->SetZoom(float(zoom));
+        editor.View().ScrollTo(3000);
+        const QImage view = editor.View().grab().toImage();
+        const TimelineGeometry geometry = editor.View().Geometry();
+        const int y = geometry.LevelTop(0) + geometry.levels.Height(0) / 2;
+        const QRgb empty = view.pixel(3, geometry.LevelTop(1) + 5);
+        int covered = 0; // to the right of all that was painted
+        for (const auto& entry : editor.panel.findChild<TimelineModel*>()->Clips(0).All()) {
+            const int left = geometry.Left(entry.begin);
+            if (left >= view.width())
+                break;
+            if (left > covered + 4)
+                QCOMPARE(view.pixel((left + covered) / 2, y), empty);
+            if (left > 0)
+                QVERIFY2(view.pixel(left, y) != empty, qPrintable(QString::number(entry.begin)));
+            covered = std::max(covered, geometry.Left(entry.end));
+        }
+    }
+
+    /// A play head that moves paints a few columns: they have to fit to what is around them.
+    void paintsPartsAsTheWhole()
+    {
+        Editor editor(*m_engine, "a0+40 b40+40 ~a+10 / c5+3 d9+1 e11+1 f13+1 c20+70");
+        editor.Do("click c; at 50");
+        editor.panel.Ruler()->SetZoom(200);
+        editor.View().ScrollTo(37);
+        const QImage whole = editor.View().grab().toImage();
+        for (const int left : {0, 3, 11, 40, 77, 160, 201}) {
+            QImage part = whole;
+            const QRect area(left, 0, 3, whole.height());
+            QPainter(&part).fillRect(area, Qt::magenta);
+            editor.View().render(&part, area.topLeft(), area);
+            QVERIFY2(part == whole, qPrintable(QString::number(left)));
+        }
+    }
+
+    void keysZoomAboutThePlayHead()
+    {
+        Editor editor(*m_engine, "a0+1000");
+        editor.Do("at 50");
+        const double x = editor.View().Geometry().scale.X(50);
+        editor.Do("key Ctrl+=; key Ctrl+=");
+        const TimelineScale scale = editor.View().Geometry().scale;
+        QVERIFY(scale.pixels > 10);
+        QVERIFY(std::abs(scale.X(50) - x) < 2);
+        editor.Do("key Shift+Z");
+        const TimelineScale fitted = editor.View().Geometry().scale;
+        QCOMPARE(fitted.left, 0.0);
+        QVERIFY(fitted.X(1000) > editor.View().width() * 0.7);
+        QVERIFY(fitted.X(1000) <= editor.View().width());
+    }
+
+    void turnsThePageForThePlayHead()
+    {
+        Editor editor(*m_engine, "a0+400 b400+20");
+        editor.Do("key Down");
+        QCOMPARE(editor.panel.Ruler()->CurrentFrames(), 400);
+        const double x = editor.View().Geometry().scale.X(400);
+        QVERIFY(x > 0 && x < editor.View().width());
+    }
+
+    void keepsTheLowestLevelInSight()
+    {
+        Editor editor(*m_engine, "a0+20 / b0+20 / c0+20 / d0+20 / e0+20");
+        auto* down = editor.panel.findChild<QScrollBar*>("down");
+        QVERIFY(down->maximum() > 0);
+        down->setValue(down->maximum());
+        const int top = editor.View().Geometry().LevelTop(0);
+        editor.Do("click a");
+        for (int level = 0; level < 6; ++level)
+            editor.Do("key Alt+Up"); // levels come on top
+        QCOMPARE(editor.View().Geometry().LevelTop(0), top);
+    }
+
     void zoomsAboutThePointer()
     {
         Editor editor(*m_engine, "a0+1000");
@@ -568,6 +667,40 @@ private Q_SLOTS:
             return qGray(view.pixel(box.center().x(), box.bottom() - 10));
         };
         QTRY_VERIFY_WITH_TIMEOUT(wave() > 120, kPatience);
+    }
+
+    void showsWhatIsCached()
+    {
+        Editor editor(*m_engine, "a0+20 b20+20");
+        auto* cache = editor.project.Timeline()->GetPreViewRenderHelper();
+        QVERIFY(cache->SetCacheDirectory(m_engine->Path("cache")));
+        const auto isCached = [&](int frame) {
+            const TimelineGeometry geometry = editor.View().Geometry();
+            const QColor colour = editor.View().grab().toImage().pixelColor(
+                geometry.Left(frame), TimelineGeometry::kStripHeight - 2);
+            return colour.green() > 2 * colour.red();
+        };
+        QVERIFY(!isCached(30));
+        cache->StartRender();
+        QTRY_VERIFY_WITH_TIMEOUT(isCached(10) && isCached(30), kPatience);
+        editor.Do("click b; key Del");
+        QTRY_VERIFY_WITH_TIMEOUT(!isCached(30), kPatience);
+        QVERIFY(isCached(10));
+        cache->StopRenderSync();
+    }
+
+    void followsAPlayer()
+    {
+        Editor editor(*m_engine, "a0+400");
+        QVERIFY(editor.player.Open(editor.project.Node()));
+        editor.panel.Ruler()->SetZoom(0);
+        editor.View().ScrollTo(0);
+        editor.Do("at 3");
+        QTRY_COMPARE_WITH_TIMEOUT(editor.player.Position(), 3, kPatience);
+        QVERIFY(editor.player.Play(1));
+        // Beyond the first page.
+        QTRY_VERIFY_WITH_TIMEOUT(editor.panel.Ruler()->OffsetFrames() > 0, kPatience);
+        QVERIFY(editor.panel.Ruler()->CurrentFrames() > 25);
     }
 
     void allIsReachable()

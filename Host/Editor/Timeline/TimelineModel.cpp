@@ -53,17 +53,17 @@ struct TimelineModel::Change
 TimelineModel::TimelineModel(Project& project, QObject* parent)
     : QObject(parent), m_project(project)
 {
-    connect(&project, &Project::Replaced, this, &TimelineModel::Load);
+    connect(&project, &Project::Replaced, this, &TimelineModel::Reload);
     connect(&project, &Project::ClipsChanged, this, &TimelineModel::Update);
     connect(&project, &Project::NodeChanged, this, &TimelineModel::Follow);
     connect(&project.Steps(), &QUndoStack::indexChanged, this, &TimelineModel::LocksChanged);
     if (project.IsUsable())
-        Load();
+        Reload();
 }
 
 TimelineModel::~TimelineModel() = default;
 
-void TimelineModel::Load()
+void TimelineModel::Reload()
 {
     m_levels.clear();
     m_rows.clear();

@@ -50,6 +50,8 @@ public:
 
     const QVector<MarkerRow>& Markers() const { return m_markers; }
     bool IsLocked(int level) const;
+    /// Reads everything again, in another language for example.
+    void Reload();
 
 Q_SIGNALS:
     /// Rows have changed.
@@ -66,7 +68,6 @@ private:
     };
     struct Change;
 
-    void Load();
     void Update(const QVector<NLEComPtr<INLETimeline>>& nodes);
     void Follow(const NLEComPtr<INLETimeline>& node);
     void ReadMarkers();

@@ -28,9 +28,10 @@ namespace {
 constexpr int kFewestLevels = 3;
 constexpr float kZoomStep = 15;
 constexpr int kHeightStep = 12;
-constexpr double kFitShare = 0.9; ///< of the width, which a whole project fills
-constexpr int kEmptySeconds = 60; ///< that an empty project shows
-constexpr int kWheelStep = 40;    ///< pixels
+constexpr double kFitShare = 0.9;   ///< of the width, which a whole project fills
+constexpr int kEmptySeconds = 60;   ///< that an empty project shows
+constexpr double kPageMargin = 0.1; ///< of the width, before the play head on a new page
+constexpr int kWheelStep = 40;      ///< pixels
 
 using Needs = TimelineActions::Needs;
 
@@ -189,6 +190,8 @@ void TimelinePanel::LayOut()
     m_view->setLayoutDirection(Qt::LeftToRight);
     m_across->setFocusPolicy(Qt::NoFocus);
     m_down->setFocusPolicy(Qt::NoFocus);
+    m_across->setObjectName(QStringLiteral("across"));
+    m_down->setObjectName(QStringLiteral("down"));
     m_ruler->SetCursorEnable(true);
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -213,8 +216,11 @@ void TimelinePanel::SetTexts()
 
 void TimelinePanel::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         SetTexts();
+        if (m_project.IsUsable())
+            m_model->Reload();
+    }
     QWidget::changeEvent(event);
 }
 
@@ -252,8 +258,11 @@ void TimelinePanel::ConnectRuler()
     });
     connect(&m_player, &MediaPlayer::PositionChanged, this, [this](int frame) {
         // What it tells of a scrub is behind the mouse.
-        if (!m_isScrubbing)
-            SetPlayHead(frame);
+        if (m_isScrubbing)
+            return;
+        SetPlayHead(frame);
+        if (m_player.IsPlaying())
+            KeepInSight(frame);
     });
     connect(m_commands, &TimelineCommands::PlayHeadAsked, this, &TimelinePanel::MovePlayHead);
 }
@@ -276,6 +285,8 @@ void TimelinePanel::ConnectModel()
 {
     connect(m_model, &TimelineModel::Changed, this, &TimelinePanel::FollowModel);
     connect(&m_project, &Project::Replaced, this, &TimelinePanel::FollowProject);
+    connect(&m_project, &Project::ClipsChanged, this, &TimelinePanel::AskCached);
+    connect(&m_project, &Project::NodeChanged, this, &TimelinePanel::AskCached);
     connect(&m_selection, &Selection::Changed, this, &TimelinePanel::FollowSelection);
     connect(m_view, &TimelineView::DraggingChanged, this, [this](bool isDragging) {
         if (!isDragging)
@@ -368,6 +379,14 @@ void TimelinePanel::FollowSelection()
                                          : QString());
 }
 
+/// What is stale comes with the answer. Nothing is cached before there is a folder.
+void TimelinePanel::AskCached()
+{
+    auto* cache = m_project.Timeline()->GetPreViewRenderHelper();
+    if (!cache->GetCacheDirectory().isEmpty())
+        cache->Update();
+}
+
 void TimelinePanel::ReadCached()
 {
     QList<QPair<int, int>> cached;
@@ -383,11 +402,21 @@ void TimelinePanel::SetPlayHead(int frame)
     m_commands->SetPlayHead(frame);
 }
 
+/// Turns the page when the play head has left it.
+void TimelinePanel::KeepInSight(int frame)
+{
+    const TimelineScale scale(*m_ruler);
+    const double x = scale.X(frame);
+    if (!m_view->IsDragging() && (x < 0 || x >= m_view->width()))
+        m_view->ScrollTo(frame * scale.pixels - m_view->width() * kPageMargin);
+}
+
 void TimelinePanel::MovePlayHead(int frame)
 {
     if (m_player.IsOpen())
         m_player.Seek(frame);
     SetPlayHead(frame);
+    KeepInSight(frame);
 }
 
 void TimelinePanel::Fit()

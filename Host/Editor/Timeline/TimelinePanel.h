@@ -62,9 +62,11 @@ private:
     void FollowSelection();
     void ShowMenu(const QPoint& global);
     void MovePlayHead(int frame);
+    void KeepInSight(int frame);
     void SetPlayHead(int frame);
     void ZoomBy(float steps);
     void ChangeHeights(int pixels);
+    void AskCached();
     void ReadCached();
 
     Project& m_project;
