@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/FontCache.h"
+#include "NLECore/media/SavedFile_p.h"
 
 #include <QFile>
 #include <QSaveFile>
@@ -93,7 +94,7 @@ void FontCache::Save()
     }
     xml.writeEndDocument();
     // On a full disk the file stays as it was.
-    if (!xml.hasError() && file.flush() && file.commit())
+    if (!xml.hasError() && CommitWhole(file))
         m_changed = false;
 }
 

@@ -3,6 +3,7 @@
 
 #include "NLECore/media/AudioDecoder.h"
 #include "NLECore/media/Reasons.h"
+#include "NLECore/media/SavedFile_p.h"
 
 #include <QDataStream>
 #include <QSaveFile>
@@ -161,7 +162,7 @@ bool WriteWaveFile(const QString& path, const ContentKey& key, const WavePyramid
     QSaveFile file(path);
     const bool isWritten = file.open(QIODevice::WriteOnly) &&
                            file.write(head + sums) == kHeadSize + sums.size() &&
-                           file.write(data) == data.size() && file.flush() && file.commit();
+                           file.write(data) == data.size() && CommitWhole(file);
     if (!isWritten)
         RefuseWriting(E_FAIL, path, file);
     return isWritten;

@@ -4,6 +4,7 @@
 #include "Com/ComGuard.h"
 #include "NLECore/media/EngineLog.h"
 #include "NLECore/media/Reasons.h"
+#include "NLECore/media/SavedFile_p.h"
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/MltReader.h"
 #include "NLECore/model/MltWriter.h"
@@ -88,8 +89,7 @@ HRESULT DocumentSerialize::Save(INLETimeline* timeline, const wchar_t* path)
         if (!file.open(QIODevice::WriteOnly))
             return RefuseWriting(E_FAIL, name, file);
         file.write(WriteDocument(*node, name));
-        // commit() alone does not tell when the last that was gathered cannot be written.
-        return file.flush() && file.commit() ? S_OK : RefuseWriting(E_FAIL, name, file);
+        return CommitWhole(file) ? S_OK : RefuseWriting(E_FAIL, name, file);
     });
 }
 

@@ -5,6 +5,7 @@
 #include "NLECore/media/HardwareDecoding.h"
 #include "NLECore/media/PictureCache.h"
 #include "NLECore/media/Reasons.h"
+#include "NLECore/media/SavedFile_p.h"
 #include "NLECore/media/WorkThreads.h"
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/PropertyBag.h"
@@ -158,7 +159,7 @@ HRESULT SystemConfig::Save(const wchar_t* path)
         QSaveFile file(Name(path));
         const bool isWritten = file.open(QIODevice::WriteOnly) &&
                                file.write(QJsonDocument(AllSettings()).toJson()) >= 0 &&
-                               file.flush() && file.commit();
+                               CommitWhole(file);
         return isWritten ? S_OK : RefuseWriting(E_FAIL, Name(path), file);
     });
 }

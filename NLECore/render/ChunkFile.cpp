@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/render/ChunkFile.h"
+#include "NLECore/media/SavedFile_p.h"
 
 #include <QDataStream>
 
@@ -61,7 +62,7 @@ bool ChunkWriter::Commit()
            << quint64(m_owner.low) << qint32(m_format) << qint32(m_entries.size())
            << Checksum(table);
     return m_file.seek(0) && m_file.write(head + table) == ContentsSize(m_entries.size()) &&
-           m_file.flush() && m_file.commit();
+           CommitWhole(m_file);
 }
 
 std::unique_ptr<ChunkReader> ChunkReader::Open(const QString& path, const ContentKey& key)
