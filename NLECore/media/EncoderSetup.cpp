@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/EncoderSetup_p.h"
 
+#include "NLECore/media/PictureScaler_p.h"
 #include "NLECore/media/PictureSequence_p.h"
 
 #include <QFileInfo>
@@ -44,12 +45,6 @@ bool TellsColours(AVCodecID id)
     default:
         return false;
     }
-}
-
-bool IsRgb(AVPixelFormat format)
-{
-    const AVPixFmtDescriptor* kind = av_pix_fmt_desc_get(format);
-    return kind && (kind->flags & (AV_PIX_FMT_FLAG_RGB | AV_PIX_FMT_FLAG_PAL)) != 0;
 }
 
 void SetColours(AVCodecContext* codec)

@@ -51,12 +51,6 @@ int ColourMatrix(const AVFrame& frame)
     }
 }
 
-bool IsRgb(AVPixelFormat format)
-{
-    const AVPixFmtDescriptor* kind = av_pix_fmt_desc_get(format);
-    return kind && (kind->flags & (AV_PIX_FMT_FLAG_RGB | AV_PIX_FMT_FLAG_PAL)) != 0;
-}
-
 /// A row of components, 16 bits each; alpha of ColourConverter::kBits, or null.
 struct Components
 {
@@ -145,6 +139,12 @@ AVColorSpace ColoursOf(const AVFrame& frame)
     default:
         return frame.height >= 720 ? AVCOL_SPC_BT709 : AVCOL_SPC_SMPTE170M;
     }
+}
+
+bool IsRgb(AVPixelFormat format)
+{
+    const AVPixFmtDescriptor* kind = av_pix_fmt_desc_get(format);
+    return kind && (kind->flags & (AV_PIX_FMT_FLAG_RGB | AV_PIX_FMT_FLAG_PAL)) != 0;
 }
 
 bool IsPlainYuv(const AVFrame& frame)

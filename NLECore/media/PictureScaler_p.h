@@ -18,6 +18,8 @@ namespace nle {
 AVPixelFormat ModernFormat(AVPixelFormat format, bool* isFullRange);
 /// The colours of a picture; files that do not name theirs follow the usual ones for their size.
 AVColorSpace ColoursOf(const AVFrame& frame);
+/// Whether pixels are of red, green and blue, by a palette or not.
+bool IsRgb(AVPixelFormat format);
 /// Whether a picture is of brightness and two colour differences, without alpha.
 bool IsPlainYuv(const AVFrame& frame);
 

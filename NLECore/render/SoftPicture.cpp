@@ -155,7 +155,7 @@ public:
         const int radius = int(m_down.size()) - 1;
         const int width = from.Width();
         const int count = end - first + 2 * radius;
-        std::vector<float> wide(std::size_t(width) + 2 * m_across.size() + kBlock);
+        std::vector<float> wide(std::size_t(width) + 2 * m_across.size());
         std::vector<float> rows(std::size_t(count) * std::size_t(width));
         const auto row = [&](int y) { return rows.data() + std::ptrdiff_t(y) * width; };
         for (int y = 0; y < count; ++y)
@@ -190,9 +190,7 @@ private:
     void Across(const float* row, int width, float* wide, float* to) const
     {
         const int radius = int(m_across.size()) - 1;
-        std::fill_n(wide, radius, row[0]);
-        std::copy_n(row, width, wide + radius);
-        std::fill_n(wide + radius + width, radius, row[width - 1]);
+        WidenRow(row, width, radius, wide);
         Weigh(m_across, width, to, [&](int side) { return wide + radius + side; });
     }
     /// \a at gives where the values on a side begin that count for the pixels of \a to.
@@ -223,6 +221,13 @@ private:
 };
 
 } // namespace
+
+void WidenRow(const float* row, int width, int reach, float* wide)
+{
+    std::fill_n(wide, reach, row[0]);
+    std::copy_n(row, width, wide + reach);
+    std::fill_n(wide + reach + width, reach, row[width - 1]);
+}
 
 EffectPicture Softened(const EffectPicture& picture, int first, int last, double across,
                        double down, const Bands& bands)

@@ -11,4 +11,7 @@ namespace nle {
 EffectPicture Softened(const EffectPicture& picture, int first, int last, double across,
                        double down, const Bands& bands);
 
+/// Writes a row of \a width into \a wide, with \a reach more values on both sides, as it is there.
+void WidenRow(const float* row, int width, int reach, float* wide);
+
 } // namespace nle

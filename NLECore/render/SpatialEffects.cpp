@@ -132,12 +132,12 @@ public:
     void Across(const EffectPicture& from, EffectPicture& to, int y)
     {
         const int reach = kReach * m_step;
-        const int width = from.Width() + 2 * reach + kBlock;
+        const int width = from.Width() + 2 * reach;
         m_wide.resize(std::size_t(kAlpha) * std::size_t(width));
         Around around;
         for (int plane = 0; plane < kAlpha; ++plane) {
             float* wide = m_wide.data() + std::ptrdiff_t(plane) * width;
-            Widen(from.Row(plane, y), from.Width(), wide);
+            WidenRow(from.Row(plane, y), from.Width(), reach, wide);
             for (int side = 0; side < kSides; ++side)
                 around[std::size_t(side)][std::size_t(plane)] =
                     wide + std::ptrdiff_t(side) * m_step;
@@ -163,14 +163,6 @@ private:
     using Colors = std::array<const float*, kAlpha>;
     using Around = std::array<Colors, kSides>;
 
-    /// A row that goes on beyond its sides as it is there.
-    void Widen(const float* row, int width, float* wide) const
-    {
-        const int reach = kReach * m_step;
-        std::fill_n(wide, reach, row[0]);
-        std::copy_n(row, width, wide + reach);
-        std::fill_n(wide + reach + width, reach + kBlock, row[width - 1]);
-    }
     void Row(const Around& around, EffectPicture& to, int y) const
     {
         for (int first = 0; first < to.Width(); first += kBlock) {
