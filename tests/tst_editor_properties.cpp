@@ -231,12 +231,19 @@ private Q_SLOTS:
         auto* slider = m_editor->Find<ToolBarSlider>("Opacity");
         QVERIFY(slider);
         const int before = m_editor->Steps();
-        const int middle = slider->height() / 2;
-        QTest::mousePress(slider, Qt::LeftButton, {}, {slider->width() - 4, middle});
-        for (int x = slider->width() - 10; x > slider->width() / 2; x -= 5)
-            QTest::mouseMove(slider, {x, middle});
-        QTest::mouseRelease(slider, Qt::LeftButton, {}, {slider->width() / 2, middle});
+        QWindow* window = m_editor->panel.windowHandle();
+        const auto at = [&](int x) {
+            return slider->mapTo(&m_editor->panel, QPoint(x, slider->height() / 2));
+        };
         const auto blend = ClipFields::Blending(clip);
+        QSet<int> opacities;
+        QTest::mousePress(window, Qt::LeftButton, {}, at(slider->width() - 4));
+        for (int x = slider->width() - 10; x > slider->width() / 2; x -= 5) {
+            QTest::mouseMove(window, at(x));
+            opacities.insert(blend[0].value().toInt());
+        }
+        QTest::mouseRelease(window, Qt::LeftButton, {}, at(slider->width() / 2));
+        QVERIFY(opacities.size() > 3);
         QVERIFY(blend[0].value().toInt() < 200);
         QCOMPARE(m_editor->Find<QDoubleSpinBox>("Opacity")->value(),
                  std::round(blend[0].value().toInt() / 255.0 * 1000) / 10);
