@@ -168,8 +168,6 @@ void TimelinePainter::PaintStrip(QPainter& painter, const QRect& area,
 void TimelinePainter::PaintOverlay(QPainter& painter, const QRect& area,
                                    const TimelineGeometry& geometry, const Overlay& overlay)
 {
-    if (overlay.snapLine)
-        VerticalLine(painter, area, geometry.Left(*overlay.snapLine), kSnapLine);
     if (overlay.drop) {
         const int level = overlay.drop->second;
         painter.fillRect(geometry.Left(overlay.drop->first) - 1, geometry.LevelTop(level), 3,
@@ -181,4 +179,6 @@ void TimelinePainter::PaintOverlay(QPainter& painter, const QRect& area,
         painter.drawRect(overlay.band);
     }
     VerticalLine(painter, area, geometry.Left(overlay.playHead), kPlayHead);
+    if (overlay.snapLine)
+        VerticalLine(painter, area, geometry.Left(*overlay.snapLine), kSnapLine);
 }
