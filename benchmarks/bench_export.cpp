@@ -275,7 +275,7 @@ int main(int argc, char** argv)
           film(qPrintable(second), "sine=660:sample_rate=48000", other),
           film(qPrintable(tiny), "sine=440:sample_rate=48000", small),
           RunFfmpeg({"-f", "lavfi", "-i", "testsrc2=size=4000x3000", "-frames:v", "1", still}),
-          RunFfmpeg({"-f", "lavfi", "-i", "testsrc2=size=1440x1080", "-frames:v", "1", drawn})}) {
+          RunFfmpeg({"-i", still, "-vf", "scale=1440:1080:flags=area", "-q:v", "2", drawn})}) {
         if (!failure.isEmpty() || !Provider()->CreateProjectTimeline()) {
             std::fprintf(stderr, "%s\n", qPrintable(failure));
             return 1;
