@@ -36,7 +36,7 @@ namespace {
 
 constexpr QSize kSize(1280, 800);
 constexpr int kTimelineHeight = 280;
-constexpr int kMediaWidth = 260;
+constexpr int kMediaWidth = 310;
 constexpr int kPropertiesWidth = 300;
 constexpr int kMessageTime = 10000; // milliseconds
 const char kGeometry[] = "window/geometry";
@@ -265,6 +265,11 @@ void EditorWindow::CutRange(const QString& text, HRESULT (INLEEditing::*edit)(in
 }
 
 // ---- Beginning and end
+
+void EditorWindow::AddMedia(const QStringList& paths)
+{
+    m_bin->Add(paths);
+}
 
 void EditorWindow::OfferRecovery()
 {

@@ -35,6 +35,8 @@ public:
 
     Project& Shown() { return m_project; }
     FileCommands& Files() { return *m_files; }
+    /// Takes media files and folders of them into the bin.
+    void AddMedia(const QStringList& paths);
     /// Asks for what runs that crashed have left, the newest first.
     void OfferRecovery();
 

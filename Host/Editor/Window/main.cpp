@@ -13,10 +13,12 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 #include <QTextStream>
 #include <QTimer>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -34,8 +36,13 @@ void AddOptions(QCommandLineParser& parser)
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOption(HostLanguage::Option());
-    parser.addPositionalArgument(QStringLiteral("project"),
-                                 Translated(QT_TRANSLATE_NOOP("Editor", "Project to open.")));
+    parser.addOption(
+        {"screenshot",
+         Translated(QT_TRANSLATE_NOOP("Editor", "Write a picture of the window to <file>.")),
+         "file"});
+    parser.addPositionalArgument(
+        QStringLiteral("files"),
+        Translated(QT_TRANSLATE_NOOP("Editor", "A project to open, and media for the bin.")));
 }
 
 EditorWindow::Paths MakePaths()
@@ -54,6 +61,39 @@ std::unique_ptr<QtMessages> OpenLog(const QString& path)
     return isOpen ? std::make_unique<QtMessages>() : nullptr;
 }
 
+/// Opens the first project that is among \a files; the others are media.
+void OpenFiles(EditorWindow& window, QStringList files)
+{
+    const QStringList suffixes = {QStringLiteral("mlt"), QStringLiteral("otio")};
+    const auto project = std::find_if(files.begin(), files.end(), [&](const QString& file) {
+        return suffixes.contains(QFileInfo(file).suffix(), Qt::CaseInsensitive);
+    });
+    if (project != files.end()) {
+        window.Files().Open(*project);
+        files.erase(project);
+    }
+    if (!files.isEmpty())
+        window.AddMedia(files);
+}
+
+/// Writes a picture of the window to \a file once nothing has changed in it for two seconds, and
+/// ends the program.
+void WritePicture(EditorWindow& window, const QString& file)
+{
+    constexpr int between = 500; // milliseconds
+    constexpr int enough = 4;
+    auto* timer = new QTimer(&window);
+    const auto look = [&window, file, before = QImage(), same = 0]() mutable {
+        const QImage picture = window.grab().toImage();
+        same = picture == before ? same + 1 : 0;
+        before = picture;
+        if (same == enough)
+            QApplication::exit(picture.save(file) ? 0 : 1);
+    };
+    QObject::connect(timer, &QTimer::timeout, &window, look);
+    timer->start(between);
+}
+
 int Run(const QCommandLineParser& parser)
 {
     const EditorWindow::Paths paths = MakePaths();
@@ -68,8 +108,9 @@ int Run(const QCommandLineParser& parser)
     window.show();
     QTimer::singleShot(0, &window, [&] {
         window.OfferRecovery();
-        if (!parser.positionalArguments().isEmpty())
-            window.Files().Open(parser.positionalArguments().constFirst());
+        OpenFiles(window, parser.positionalArguments());
+        if (parser.isSet(QStringLiteral("screenshot")))
+            WritePicture(window, parser.value(QStringLiteral("screenshot")));
     });
     return QApplication::exec();
 }
