@@ -141,6 +141,15 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(m_player->Length(), 0, kPatience);
     }
 
+    void anEmptyProjectShowsNothing()
+    {
+        m_project->Steps().undo();
+        QTRY_VERIFY_WITH_TIMEOUT(!Shown().isValid(), kPatience);
+        QVERIFY(Place(Qt::blue, 0));
+        QTRY_COMPARE_WITH_TIMEOUT(Shown(), QColor(Qt::blue), kPatience);
+        QCOMPARE(m_player->Length(), kLength);
+    }
+
     void aTimecodeIsTyped_data()
     {
         QTest::addColumn<QString>("text");

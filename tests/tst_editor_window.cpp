@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/MultiLangMgr.h"
+#include "CommonLib/NLEWraper/NLETimeline.h"
 #include "Host/Editor/Window/EditorWindow.h"
 #include "Host/Editor/Window/FileCommands.h"
+#include "Host/Editor/Window/Tour.h"
 #include "Host/HostLanguage.h"
+#include "TestMedia.h"
 #include "tests/support/EngineFixture.h"
 
 #include <QAbstractButton>
@@ -21,7 +24,7 @@ namespace {
 
 EditorWindow::Paths PathsIn(const QString& folder)
 {
-    return {folder + "/autosave", folder + "/log"};
+    return {folder + "/autosave", folder + "/log", folder + "/preview"};
 }
 
 bool Place(EditorWindow& window, int position)
@@ -156,6 +159,23 @@ private Q_SLOTS:
         QTRY_COMPARE(m_window->layoutDirection(), Qt::LeftToRight);
         QTRY_COMPARE(m_window->locale().language(), QLocale::German);
         choose("(English)");
+    }
+
+    // From import to export; each step must do what it says.
+    void makesAFilmByItself()
+    {
+        TestClip clip;
+        clip.frames = 130;
+        clip.audioCodec = QStringLiteral("aac");
+        for (const char* name : {"a.mp4", "b.mp4"})
+            QCOMPARE(MakeTestClip(Path(name), clip), QString());
+        QVERIFY(m_window->Shown().New(EngineFixture::kSmall));
+        Tour tour(*m_window, Path("tour"), {Path("a.mp4"), Path("no.mp4"), Path("b.mp4")});
+        QVERIFY(tour.Run());
+        const NLETimeline film(m_engine->Media(Path("tour/film.mp4")), ExactType_Unknown, nullptr);
+        QCOMPARE(film.GetTotalLength(), m_window->Shown().Length());
+        QVERIFY(m_window->Files().Open(Path("tour/film.mlt")));
+        QCOMPARE(ClipCount(), 6);
     }
 
     void recoversWhatAKillHasLeft()

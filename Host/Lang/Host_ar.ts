@@ -2,6 +2,256 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar_AE" sourcelanguage="en_US">
 <context>
+    <name>AboutBox</name>
+    <message>
+        <source>Product: %1</source>
+        <translation>المنتج: %1</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>حول البرنامج</translation>
+    </message>
+    <message>
+        <source>A small editor that shows what the library does.</source>
+        <translation>محرّر صغير يبيّن ما تقدّمه المكتبة.</translation>
+    </message>
+</context>
+<context>
+    <name>BinCommands</name>
+    <message>
+        <source>Files…</source>
+        <translation>ملفات…</translation>
+    </message>
+    <message>
+        <source>Folder…</source>
+        <translation>مجلد…</translation>
+    </message>
+    <message>
+        <source>From a device…</source>
+        <translation>من جهاز…</translation>
+    </message>
+    <message>
+        <source>Place at the play head</source>
+        <translation>وضع عند رأس التشغيل</translation>
+    </message>
+    <message>
+        <source>Set in point</source>
+        <translation>تعيين نقطة الدخول</translation>
+    </message>
+    <message>
+        <source>Set out point</source>
+        <translation>تعيين نقطة الخروج</translation>
+    </message>
+    <message>
+        <source>Clear in and out point</source>
+        <translation>مسح نقطتي الدخول والخروج</translation>
+    </message>
+    <message>
+        <source>Make a proxy</source>
+        <translation>إنشاء ملف وكيل</translation>
+    </message>
+    <message>
+        <source>Cancel the proxy</source>
+        <translation>إلغاء إنشاء الملف الوكيل</translation>
+    </message>
+    <message>
+        <source>Use the proxy</source>
+        <translation>استخدام الملف الوكيل</translation>
+    </message>
+    <message>
+        <source>Locate…</source>
+        <translation>تحديد موقع الملف…</translation>
+    </message>
+    <message>
+        <source>Search a folder for offline media…</source>
+        <translation>البحث في مجلد عن الوسائط غير المتصلة…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>إزالة</translation>
+    </message>
+    <message>
+        <source>Remove all unused</source>
+        <translation>إزالة كل غير المستخدم</translation>
+    </message>
+    <message>
+        <source>Add media</source>
+        <translation>إضافة وسائط</translation>
+    </message>
+    <message>
+        <source>Add a folder</source>
+        <translation>إضافة مجلد</translation>
+    </message>
+    <message>
+        <source>Import from a device</source>
+        <translation>استيراد من جهاز</translation>
+    </message>
+    <message>
+        <source>None of the files was found.</source>
+        <translation>لم يُعثر على أي من الملفات.</translation>
+    </message>
+    <message>
+        <source>The files that were found cannot be read.</source>
+        <translation>تتعذّر قراءة الملفات التي عُثر عليها.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) found.</source>
+        <translation>
+            <numerusform>لم يُعثر على أي ملف.</numerusform>
+            <numerusform>عُثر على ملف واحد.</numerusform>
+            <numerusform>عُثر على ملفين.</numerusform>
+            <numerusform>عُثر على %n ملفات.</numerusform>
+            <numerusform>عُثر على %n ملفًا.</numerusform>
+            <numerusform>عُثر على %n ملف.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Where is %1?</source>
+        <translation>أين يوجد %1؟</translation>
+    </message>
+    <message>
+        <source>%1 (%1);;All files (*)</source>
+        <translation>%1 (%1);;كل الملفات (*)</translation>
+    </message>
+    <message>
+        <source>Folder with the media</source>
+        <translation>مجلد الوسائط</translation>
+    </message>
+</context>
+<context>
+    <name>BinDelegate</name>
+    <message>
+        <source>Proxy</source>
+        <translation>وكيل</translation>
+    </message>
+</context>
+<context>
+    <name>BinModel</name>
+    <message>
+        <source>in %1, out %2</source>
+        <translation>الدخول %1، الخروج %2</translation>
+    </message>
+    <message>
+        <source>proxy: %1 %</source>
+        <translation>الملف الوكيل: %1%</translation>
+    </message>
+    <message>
+        <source>proxy: in use</source>
+        <translation>الملف الوكيل: مستخدم</translation>
+    </message>
+    <message>
+        <source>proxy: not in use</source>
+        <translation>الملف الوكيل: غير مستخدم</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>جارٍ القراءة…</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>غير متصل</translation>
+    </message>
+    <message>
+        <source>Cannot be read</source>
+        <translation>تتعذّر قراءته</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clip(s) on the timeline</source>
+        <translation>
+            <numerusform>لا مقاطع على المخطط الزمني</numerusform>
+            <numerusform>مقطع واحد على المخطط الزمني</numerusform>
+            <numerusform>مقطعان على المخطط الزمني</numerusform>
+            <numerusform>%n مقاطع على المخطط الزمني</numerusform>
+            <numerusform>%n مقطعًا على المخطط الزمني</numerusform>
+            <numerusform>%n مقطع على المخطط الزمني</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not on the timeline</source>
+        <translation>ليس على المخطط الزمني</translation>
+    </message>
+</context>
+<context>
+    <name>BinPanel</name>
+    <message>
+        <source>Search</source>
+        <translation>بحث</translation>
+    </message>
+    <message>
+        <source>Search the media</source>
+        <translation>البحث في الوسائط</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>شبكة</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>قائمة</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>إضافة…</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>الوسائط</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>التفاصيل</translation>
+    </message>
+    <message>
+        <source>Drop media here, or add files and folders.</source>
+        <translation>أفلت الوسائط هنا، أو أضف ملفات ومجلدات.</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>لم يُعثر على شيء</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) selected</source>
+        <translation>
+            <numerusform>لم يُحدَّد أي ملف</numerusform>
+            <numerusform>حُدِّد ملف واحد</numerusform>
+            <numerusform>حُدِّد ملفان</numerusform>
+            <numerusform>حُدِّدت %n ملفات</numerusform>
+            <numerusform>حُدِّد %n ملفًا</numerusform>
+            <numerusform>حُدِّد %n ملف</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reading %n file(s)…</source>
+        <translation>
+            <numerusform>لا ملفات للقراءة</numerusform>
+            <numerusform>جارٍ قراءة ملف واحد…</numerusform>
+            <numerusform>جارٍ قراءة ملفين…</numerusform>
+            <numerusform>جارٍ قراءة %n ملفات…</numerusform>
+            <numerusform>جارٍ قراءة %n ملفًا…</numerusform>
+            <numerusform>جارٍ قراءة %n ملف…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be read as media.</source>
+        <translation>تتعذّر قراءة %1 كملف وسائط.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more cannot be read as media.</source>
+        <translation>
+            <numerusform>تتعذّر قراءة %1 كملف وسائط.</numerusform>
+            <numerusform>تتعذّر قراءة %1 وملف آخر كوسائط.</numerusform>
+            <numerusform>تتعذّر قراءة %1 وملفين آخرين كوسائط.</numerusform>
+            <numerusform>تتعذّر قراءة %1 و%n ملفات أخرى كوسائط.</numerusform>
+            <numerusform>تتعذّر قراءة %1 و%n ملفًا آخر كوسائط.</numerusform>
+            <numerusform>تتعذّر قراءة %1 و%n ملف آخر كوسائط.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No proxy of %1: %2</source>
+        <translation>لا يوجد ملف وكيل لـ %1: ‏%2</translation>
+    </message>
+</context>
+<context>
     <name>ButtonPage</name>
     <message>
         <source>Buttons</source>
@@ -118,6 +368,196 @@
     <message>
         <source>for a language from left to right</source>
         <translation>للغة تُكتب من اليسار إلى اليمين</translation>
+    </message>
+</context>
+<context>
+    <name>ClipActions</name>
+    <message>
+        <source>Add transition</source>
+        <translation>إضافة انتقال</translation>
+    </message>
+    <message>
+        <source>Add title</source>
+        <translation>إضافة عنوان</translation>
+    </message>
+    <message>
+        <source>Change speed</source>
+        <translation>تغيير السرعة</translation>
+    </message>
+    <message>
+        <source>Add effect</source>
+        <translation>إضافة مؤثر</translation>
+    </message>
+    <message>
+        <source>Remove effect</source>
+        <translation>إزالة مؤثر</translation>
+    </message>
+    <message>
+        <source>Move effect</source>
+        <translation>نقل مؤثر</translation>
+    </message>
+    <message>
+        <source>Switch effect</source>
+        <translation>تشغيل المؤثر أو إيقافه</translation>
+    </message>
+</context>
+<context>
+    <name>ClipFields</name>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>الملاءمة</translation>
+    </message>
+    <message>
+        <source>Whole picture</source>
+        <translation>الصورة كاملة</translation>
+    </message>
+    <message>
+        <source>Whole frame</source>
+        <translation>الإطار كاملًا</translation>
+    </message>
+    <message>
+        <source>Stretched</source>
+        <translation>تمديد</translation>
+    </message>
+    <message>
+        <source>Pixel for pixel</source>
+        <translation>بكسل مقابل بكسل</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>العتامة</translation>
+    </message>
+    <message>
+        <source> fr</source>
+        <translation> إطار</translation>
+    </message>
+    <message>
+        <source>Noise reduction</source>
+        <translation>تقليل الضوضاء</translation>
+    </message>
+    <message>
+        <source> dB</source>
+        <translation> ديسيبل</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>مستوى الصوت</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>الدوران</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Centre X</source>
+        <translation>المركز X</translation>
+    </message>
+    <message>
+        <source>Centre Y</source>
+        <translation>المركز Y</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>العرض</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>الارتفاع</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>النمط</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>عادي</translation>
+    </message>
+    <message>
+        <source>Multiply</source>
+        <translation>ضرب</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>شاشة</translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation>تراكب</translation>
+    </message>
+    <message>
+        <source>Darken</source>
+        <translation>تغميق</translation>
+    </message>
+    <message>
+        <source>Lighten</source>
+        <translation>تفتيح</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>جمع</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>فرق</translation>
+    </message>
+    <message>
+        <source>Colour dodge</source>
+        <translation>تفتيح اللون الأساسي</translation>
+    </message>
+    <message>
+        <source>Colour burn</source>
+        <translation>حرق اللون</translation>
+    </message>
+    <message>
+        <source>Hard light</source>
+        <translation>ضوء قوي</translation>
+    </message>
+    <message>
+        <source>Soft light</source>
+        <translation>ضوء ناعم</translation>
+    </message>
+    <message>
+        <source>Exclusion</source>
+        <translation>استبعاد</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>التوازن</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>طبقة الصوت</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>كتم</translation>
+    </message>
+    <message>
+        <source>Fade in</source>
+        <translation>تصاعد تدريجي</translation>
+    </message>
+    <message>
+        <source>Fade out</source>
+        <translation>خفوت تدريجي</translation>
+    </message>
+    <message>
+        <source>Mono</source>
+        <translation>أحادي</translation>
+    </message>
+    <message>
+        <source> st</source>
+        <translation> نصف نغمة</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>اللون</translation>
     </message>
 </context>
 <context>
@@ -257,6 +697,324 @@
     </message>
 </context>
 <context>
+    <name>Editor</name>
+    <message>
+        <source>A small editor.</source>
+        <translation>محرّر صغير.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the window to &lt;file&gt;.</source>
+        <translation>كتابة صورة للنافذة في &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>A project to open, and media for the bin.</source>
+        <translation>مشروع لفتحه، ووسائط لحاوية الوسائط.</translation>
+    </message>
+    <message>
+        <source>The engine is missing.</source>
+        <translation>المحرّك مفقود.</translation>
+    </message>
+    <message>
+        <source>Make a small film of the media by itself, and put pictures, the film and a report into &lt;folder&gt;.</source>
+        <translation>إنشاء فيلم صغير من الوسائط تلقائيًا ووضع الصور والفيلم وتقرير في &lt;المجلد&gt;.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorWindow</name>
+    <message>
+        <source>Media</source>
+        <translation>الوسائط</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>الخصائص</translation>
+    </message>
+    <message>
+        <source>Timeline</source>
+        <translation>المخطط الزمني</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>السجل</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;ملف</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>تصدير…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>إنهاء</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>تراجع</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>إعادة</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;تحرير</translation>
+    </message>
+    <message>
+        <source>Lift from in to out point</source>
+        <translation>رفع ما بين نقطتي الدخول والخروج</translation>
+    </message>
+    <message>
+        <source>Lift</source>
+        <translation>رفع</translation>
+    </message>
+    <message>
+        <source>Extract from in to out point</source>
+        <translation>استخراج ما بين نقطتي الدخول والخروج</translation>
+    </message>
+    <message>
+        <source>Extract</source>
+        <translation>استخراج</translation>
+    </message>
+    <message>
+        <source>&amp;Media</source>
+        <translation>&amp;الوسائط</translation>
+    </message>
+    <message>
+        <source>&amp;Timeline</source>
+        <translation>المخطط ال&amp;زمني</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>ت&amp;شغيل</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;عرض</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>م&amp;ساعدة</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>اختصارات لوحة المفاتيح</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>حول البرنامج</translation>
+    </message>
+    <message>
+        <source>Tool bar</source>
+        <translation>شريط الأدوات</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>بلا عنوان</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n remark(s) on the file, in the log</source>
+        <translation>
+            <numerusform>لا ملاحظات على الملف</numerusform>
+            <numerusform>ملاحظة واحدة على الملف، في السجل</numerusform>
+            <numerusform>ملاحظتان على الملف، في السجل</numerusform>
+            <numerusform>%n ملاحظات على الملف، في السجل</numerusform>
+            <numerusform>%n ملاحظة على الملف، في السجل</numerusform>
+            <numerusform>%n ملاحظة على الملف، في السجل</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Set an in and an out point first.</source>
+        <translation>عيّن نقطتي الدخول والخروج أولًا.</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>الاستعادة</translation>
+    </message>
+    <message>
+        <source>The editor has ended unexpectedly. Changes of %1 until %2 can be opened.</source>
+        <translation>انتهى المحرّر بشكل غير متوقع. يمكن فتح تغييرات %1 حتى %2.</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>التصدير</translation>
+    </message>
+    <message>
+        <source>Films are being written. End that?</source>
+        <translation>تجري كتابة أفلام. هل تريد إنهاء ذلك؟</translation>
+    </message>
+    <message>
+        <source>Render the preview, or stop it</source>
+        <translation>تصيير المعاينة أو إيقافه</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to.</source>
+        <translation>تتعذّر الكتابة إلى %1.</translation>
+    </message>
+</context>
+<context>
+    <name>EffectsSection</name>
+    <message>
+        <source>Add effect</source>
+        <translation>إضافة مؤثر</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>الصورة</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>الصوت</translation>
+    </message>
+    <message>
+        <source>Apply earlier</source>
+        <translation>التطبيق أبكر</translation>
+    </message>
+    <message>
+        <source>Apply later</source>
+        <translation>التطبيق لاحقًا</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>إزالة</translation>
+    </message>
+</context>
+<context>
+    <name>ExportCheck</name>
+    <message>
+        <source>This cannot be combined</source>
+        <translation>لا يمكن الجمع بين هذه الإعدادات</translation>
+    </message>
+    <message>
+        <source>There is no such preset.</source>
+        <translation>لا يوجد إعداد مسبق كهذا.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>The processor encodes and decodes.</source>
+        <translation>يتولى المعالج الترميز وفك الترميز.</translation>
+    </message>
+    <message>
+        <source>The processor encodes; the graphics hardware helps to decode.</source>
+        <translation>يتولى المعالج الترميز، ويساعد عتاد الرسوميات في فك الترميز.</translation>
+    </message>
+    <message>
+        <source>Add to the queue</source>
+        <translation>إضافة إلى قائمة الانتظار</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>التصدير</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>الأفلام</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>الإعداد المسبق</translation>
+    </message>
+    <message>
+        <source>film</source>
+        <translation>فيلم</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>اختيار ملف</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>الملف</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>العرض</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>الارتفاع</translation>
+    </message>
+    <message>
+        <source>As the project</source>
+        <translation>كما في المشروع</translation>
+    </message>
+    <message>
+        <source>%1 fps</source>
+        <translation>%1 إطار/ث</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 هرتز</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>الحجم</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>معدل الإطارات</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>الصوت</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>الكل</translation>
+    </message>
+    <message>
+        <source>From in to out</source>
+        <translation>من الدخول إلى الخروج</translation>
+    </message>
+    <message>
+        <source>In point</source>
+        <translation>نقطة الدخول</translation>
+    </message>
+    <message>
+        <source>Out point</source>
+        <translation>نقطة الخروج</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>النطاق</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>العتاد</translation>
+    </message>
+    <message>
+        <source>Still picture…</source>
+        <translation>صورة ثابتة…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>Writes the frame under the play head</source>
+        <translation>يكتب الإطار الواقع تحت رأس التشغيل</translation>
+    </message>
+    <message>
+        <source>The project cannot be copied.</source>
+        <translation>تعذّر نسخ المشروع.</translation>
+    </message>
+    <message>
+        <source>Still picture</source>
+        <translation>صورة ثابتة</translation>
+    </message>
+    <message>
+        <source>/frame %1.png</source>
+        <translation>/إطار %1.png</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
+        <translation>الصور (*.png *.jpg *.tif *.bmp)</translation>
+    </message>
+</context>
+<context>
     <name>ExportJob</name>
     <message>
         <source>There is no preset &quot;%1&quot;.</source>
@@ -273,6 +1031,105 @@
     <message>
         <source>%1 is not written; the log tells why.</source>
         <translation>لم يُكتب %1؛ السجل يوضح السبب.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportQueue</name>
+    <message>
+        <source>%1 is not written</source>
+        <translation>لم يُكتب %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportQueueView</name>
+    <message>
+        <source>No films yet</source>
+        <translation>لا أفلام بعد</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>في الانتظار</translation>
+    </message>
+    <message>
+        <source>Being written</source>
+        <translation>تجري كتابته</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>يتبقى %1</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>كُتب</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>أُلغي</translation>
+    </message>
+    <message>
+        <source>Take from the list</source>
+        <translation>إزالة من القائمة</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+</context>
+<context>
+    <name>FileCommands</name>
+    <message>
+        <source>Projects</source>
+        <translation>المشاريع</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>جديد</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>فتح…</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>حفظ</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>حفظ باسم…</translation>
+    </message>
+    <message>
+        <source>Open recent</source>
+        <translation>فتح الأخيرة</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>بلا عنوان</translation>
+    </message>
+    <message>
+        <source>Save changes</source>
+        <translation>حفظ التغييرات</translation>
+    </message>
+    <message>
+        <source>The project has changes that are not saved.</source>
+        <translation>في المشروع تغييرات لم تُحفظ.</translation>
+    </message>
+</context>
+<context>
+    <name>FileEditor</name>
+    <message>
+        <source>No file</source>
+        <translation>لا ملف</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>اختيار ملف</translation>
+    </message>
+</context>
+<context>
+    <name>FontEditor</name>
+    <message>
+        <source>System font</source>
+        <translation>خط النظام</translation>
     </message>
 </context>
 <context>
@@ -519,6 +1376,44 @@
     </message>
 </context>
 <context>
+    <name>KeyFrameBar</name>
+    <message>
+        <source>Previous key frame</source>
+        <translation>الإطار المفتاحي السابق</translation>
+    </message>
+    <message>
+        <source>Key frame</source>
+        <translation>إطار مفتاحي</translation>
+    </message>
+    <message>
+        <source>Next key frame</source>
+        <translation>الإطار المفتاحي التالي</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>تثبيت</translation>
+    </message>
+    <message>
+        <source>Linear</source>
+        <translation>خطي</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>سلس</translation>
+    </message>
+    <message>
+        <source>To the next key frame</source>
+        <translation>حتى الإطار المفتاحي التالي</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>Language</source>
+        <translation>اللغة</translation>
+    </message>
+</context>
+<context>
     <name>LanguagePage</name>
     <message>
         <source>Import media…</source>
@@ -589,10 +1484,67 @@
     </message>
 </context>
 <context>
+    <name>LevelHeader</name>
+    <message>
+        <source>Level %1</source>
+        <translation>المسار %1</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>قفل</translation>
+    </message>
+    <message>
+        <source>Lock %1</source>
+        <translation>قفل %1</translation>
+    </message>
+</context>
+<context>
     <name>LevelMeter</name>
     <message>
         <source>Level meter</source>
         <translation>مقياس المستوى</translation>
+    </message>
+</context>
+<context>
+    <name>LogView</name>
+    <message>
+        <source>Log</source>
+        <translation>السجل</translation>
+    </message>
+</context>
+<context>
+    <name>MediaBin</name>
+    <message>
+        <source>Add media</source>
+        <translation>إضافة وسائط</translation>
+    </message>
+    <message>
+        <source>Remove media</source>
+        <translation>إزالة وسائط</translation>
+    </message>
+    <message>
+        <source>Relink media</source>
+        <translation>إعادة ربط الوسائط</translation>
+    </message>
+    <message>
+        <source>Use the media itself</source>
+        <translation>استخدام الوسائط الأصلية</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>استخدام ملف وكيل</translation>
+    </message>
+    <message>
+        <source>Set in and out point</source>
+        <translation>تعيين نقطتي الدخول والخروج</translation>
+    </message>
+    <message>
+        <source>Clear in and out point</source>
+        <translation>مسح نقطتي الدخول والخروج</translation>
+    </message>
+    <message>
+        <source>Place a clip</source>
+        <translation>وضع مقطع</translation>
     </message>
 </context>
 <context>
@@ -744,6 +1696,99 @@
     </message>
 </context>
 <context>
+    <name>MovementKeys</name>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>الدوران</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Shift right</source>
+        <translation>الإزاحة إلى اليمين</translation>
+    </message>
+    <message>
+        <source>Shift up</source>
+        <translation>الإزاحة إلى الأعلى</translation>
+    </message>
+    <message>
+        <source>Width factor</source>
+        <translation>معامل العرض</translation>
+    </message>
+    <message>
+        <source>Height factor</source>
+        <translation>معامل الارتفاع</translation>
+    </message>
+    <message>
+        <source>Opacity factor</source>
+        <translation>معامل العتامة</translation>
+    </message>
+</context>
+<context>
+    <name>MovementSection</name>
+    <message>
+        <source>Movement</source>
+        <translation>الحركة</translation>
+    </message>
+    <message>
+        <source>Key frame</source>
+        <translation>إطار مفتاحي</translation>
+    </message>
+    <message>
+        <source>Change movement</source>
+        <translation>تغيير الحركة</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterFields</name>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> بكسل</translation>
+    </message>
+    <message>
+        <source> EV</source>
+        <translation> EV</translation>
+    </message>
+    <message>
+        <source> dB</source>
+        <translation> ديسيبل</translation>
+    </message>
+    <message>
+        <source> fr</source>
+        <translation> إطار</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> ث</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> هرتز</translation>
+    </message>
+    <message>
+        <source> K</source>
+        <translation> كلفن</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> م.ث</translation>
+    </message>
+</context>
+<context>
     <name>PictureView</name>
     <message>
         <source>Picture</source>
@@ -826,6 +1871,261 @@
     </message>
 </context>
 <context>
+    <name>PlayerPanel</name>
+    <message>
+        <source>Play or pause</source>
+        <translation>تشغيل أو إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>Play backwards</source>
+        <translation>تشغيل إلى الخلف</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>Play forwards</source>
+        <translation>تشغيل إلى الأمام</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>تكرار</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>إطار إلى الخلف</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>إطار إلى الأمام</translation>
+    </message>
+    <message>
+        <source>Go to beginning</source>
+        <translation>الانتقال إلى البداية</translation>
+    </message>
+    <message>
+        <source>Go to end</source>
+        <translation>الانتقال إلى النهاية</translation>
+    </message>
+    <message>
+        <source>Set in point</source>
+        <translation>تعيين نقطة الدخول</translation>
+    </message>
+    <message>
+        <source>Set out point</source>
+        <translation>تعيين نقطة الخروج</translation>
+    </message>
+    <message>
+        <source>Clear in and out point</source>
+        <translation>مسح نقطتي الدخول والخروج</translation>
+    </message>
+    <message>
+        <source>Go to in point</source>
+        <translation>الانتقال إلى نقطة الدخول</translation>
+    </message>
+    <message>
+        <source>Go to out point</source>
+        <translation>الانتقال إلى نقطة الخروج</translation>
+    </message>
+    <message>
+        <source>Set or remove marker</source>
+        <translation>تعيين علامة أو إزالتها</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>كتم</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>المناطق الآمنة</translation>
+    </message>
+    <message>
+        <source>Picture on full screen</source>
+        <translation>الصورة على كامل الشاشة</translation>
+    </message>
+    <message>
+        <source>Timecode of the play head</source>
+        <translation>رمز الوقت لرأس التشغيل</translation>
+    </message>
+    <message>
+        <source>Play head</source>
+        <translation>رأس التشغيل</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>مستوى الصوت</translation>
+    </message>
+</context>
+<context>
+    <name>Project</name>
+    <message>
+        <source>The project cannot be made</source>
+        <translation>تعذّر إنشاء المشروع</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>تعذّر فتح %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be saved</source>
+        <translation>تعذّر حفظ %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectFields</name>
+    <message>
+        <source> px</source>
+        <translation> بكسل</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>معدل الإطارات</translation>
+    </message>
+    <message>
+        <source> fps</source>
+        <translation> إطار/ث</translation>
+    </message>
+    <message>
+        <source>Preview scale</source>
+        <translation>مقياس المعاينة</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>الخلفية</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>العرض</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>الارتفاع</translation>
+    </message>
+    <message>
+        <source>Sample rate</source>
+        <translation>معدل أخذ العينات</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> هرتز</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>القنوات</translation>
+    </message>
+    <message>
+        <source>Bits of a colour</source>
+        <translation>عدد البتات لكل لون</translation>
+    </message>
+    <message>
+        <source>Smooth scaling</source>
+        <translation>تحجيم ناعم</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>مستوى الصوت</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>التوازن</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>كتم</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>منفرد</translation>
+    </message>
+</context>
+<context>
+    <name>PropertiesPanel</name>
+    <message>
+        <source>Properties</source>
+        <translation>الخصائص</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>المشروع</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>العنوان</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>اللون</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>مقطع</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>التنسيق</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>الرسم</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>المؤثرات</translation>
+    </message>
+    <message>
+        <source>Add title</source>
+        <translation>إضافة عنوان</translation>
+    </message>
+    <message>
+        <source>Mixer, level %1</source>
+        <translation>المازج، المسار %1</translation>
+    </message>
+    <message>
+        <source>Transition</source>
+        <translation>انتقال</translation>
+    </message>
+    <message>
+        <source>Placement</source>
+        <translation>الموضع</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>المزج</translation>
+    </message>
+    <message>
+        <source>Movement</source>
+        <translation>الحركة</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>السرعة</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>الصوت</translation>
+    </message>
+    <message>
+        <source>Transitions</source>
+        <translation>الانتقالات</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyForm</name>
+    <message>
+        <source>Back to the preset</source>
+        <translation>العودة إلى القيمة الافتراضية</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>تغيير: %1</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -842,6 +2142,21 @@
     <message>
         <source>Zoom in</source>
         <translation>تكبير</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutList</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>اختصارات لوحة المفاتيح</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>الأمر</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>المفاتيح</translation>
     </message>
 </context>
 <context>
@@ -896,10 +2211,322 @@
     </message>
 </context>
 <context>
+    <name>SpeedSection</name>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>السرعة</translation>
+    </message>
+    <message>
+        <source>Back to the preset</source>
+        <translation>العودة إلى القيمة الافتراضية</translation>
+    </message>
+</context>
+<context>
+    <name>StillPicture</name>
+    <message>
+        <source>The frame cannot be drawn</source>
+        <translation>تعذّر رسم الإطار</translation>
+    </message>
+    <message>
+        <source>%1 is not written: %2</source>
+        <translation>لم يُكتب %1: ‏%2</translation>
+    </message>
+</context>
+<context>
+    <name>Timeline</name>
+    <message>
+        <source>Colour</source>
+        <translation>لون</translation>
+    </message>
+    <message>
+        <source>Composite</source>
+        <translation>مقطع مركّب</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>نقل</translation>
+    </message>
+    <message>
+        <source>Snap</source>
+        <translation>المحاذاة التلقائية</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>تحريك نقطة القطع</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>تشذيب</translation>
+    </message>
+    <message>
+        <source>Slip</source>
+        <translation>إزاحة المحتوى</translation>
+    </message>
+    <message>
+        <source>Slide</source>
+        <translation>انزلاق المقطع</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>قص</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>نسخ</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>لصق</translation>
+    </message>
+    <message>
+        <source>Paste insert</source>
+        <translation>لصق بالإدراج</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>حذف</translation>
+    </message>
+    <message>
+        <source>Ripple delete</source>
+        <translation>حذف مع الإزاحة</translation>
+    </message>
+    <message>
+        <source>Split at play head</source>
+        <translation>تقسيم عند رأس التشغيل</translation>
+    </message>
+    <message>
+        <source>Trim begin to play head</source>
+        <translation>تشذيب البداية حتى رأس التشغيل</translation>
+    </message>
+    <message>
+        <source>Trim end to play head</source>
+        <translation>تشذيب النهاية حتى رأس التشغيل</translation>
+    </message>
+    <message>
+        <source>Close gap at play head</source>
+        <translation>سد الفراغ عند رأس التشغيل</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>تجميع</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>فك التجميع</translation>
+    </message>
+    <message>
+        <source>Lock or unlock level</source>
+        <translation>قفل المسار أو فتح قفله</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>تحديد الكل</translation>
+    </message>
+    <message>
+        <source>Select at play head</source>
+        <translation>تحديد ما عند رأس التشغيل</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>إلغاء التحديد</translation>
+    </message>
+    <message>
+        <source>Frame earlier</source>
+        <translation>أبكر بإطار واحد</translation>
+    </message>
+    <message>
+        <source>Frame later</source>
+        <translation>لاحقًا بإطار واحد</translation>
+    </message>
+    <message>
+        <source>Second earlier</source>
+        <translation>أبكر بثانية واحدة</translation>
+    </message>
+    <message>
+        <source>Second later</source>
+        <translation>لاحقًا بثانية واحدة</translation>
+    </message>
+    <message>
+        <source>Level up</source>
+        <translation>مسار إلى الأعلى</translation>
+    </message>
+    <message>
+        <source>Level down</source>
+        <translation>مسار إلى الأسفل</translation>
+    </message>
+    <message>
+        <source>Previous cut</source>
+        <translation>القطع السابق</translation>
+    </message>
+    <message>
+        <source>Next cut</source>
+        <translation>القطع التالي</translation>
+    </message>
+    <message>
+        <source>Selection tool</source>
+        <translation>أداة التحديد</translation>
+    </message>
+    <message>
+        <source>Ripple tool</source>
+        <translation>أداة التشذيب مع الإزاحة</translation>
+    </message>
+    <message>
+        <source>Roll tool</source>
+        <translation>أداة تحريك نقطة القطع</translation>
+    </message>
+    <message>
+        <source>Slip tool</source>
+        <translation>أداة إزاحة المحتوى</translation>
+    </message>
+    <message>
+        <source>Slide tool</source>
+        <translation>أداة انزلاق المقطع</translation>
+    </message>
+    <message>
+        <source>Razor tool</source>
+        <translation>أداة الشفرة</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>تكبير</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>تصغير</translation>
+    </message>
+    <message>
+        <source>Fit to window</source>
+        <translation>ملاءمة النافذة</translation>
+    </message>
+    <message>
+        <source>Taller levels</source>
+        <translation>زيادة ارتفاع المسارات</translation>
+    </message>
+    <message>
+        <source>Lower levels</source>
+        <translation>تقليل ارتفاع المسارات</translation>
+    </message>
+    <message>
+        <source>Ripple trim</source>
+        <translation>تشذيب مع الإزاحة</translation>
+    </message>
+</context>
+<context>
+    <name>TimelineCommands</name>
+    <message>
+        <source>Split</source>
+        <translation>تقسيم</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>حذف</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>قص</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>لصق</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>تجميع</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>فك التجميع</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>نقل</translation>
+    </message>
+    <message>
+        <source>Ripple delete</source>
+        <translation>حذف مع الإزاحة</translation>
+    </message>
+    <message>
+        <source>Paste insert</source>
+        <translation>لصق بالإدراج</translation>
+    </message>
+    <message>
+        <source>Close gap</source>
+        <translation>سد الفراغ</translation>
+    </message>
+    <message>
+        <source>Lock level</source>
+        <translation>قفل المسار</translation>
+    </message>
+    <message>
+        <source>Unlock level</source>
+        <translation>فتح قفل المسار</translation>
+    </message>
+</context>
+<context>
+    <name>TimelinePanel</name>
+    <message>
+        <source>Timeline</source>
+        <translation>المخطط الزمني</translation>
+    </message>
+    <message>
+        <source>Play head</source>
+        <translation>رأس التشغيل</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>المقاطع</translation>
+    </message>
+    <message>
+        <source>%1, level %2, frames %3 to %4</source>
+        <translation>%1، المسار %2، الإطارات من %3 إلى %4</translation>
+    </message>
+</context>
+<context>
     <name>TimelineRuler</name>
     <message>
         <source>Ruler</source>
         <translation>المسطرة</translation>
+    </message>
+</context>
+<context>
+    <name>TimelineView</name>
+    <message>
+        <source>Split</source>
+        <translation>تقسيم</translation>
+    </message>
+    <message>
+        <source>Insert media</source>
+        <translation>إدراج وسائط</translation>
+    </message>
+    <message>
+        <source>Add media</source>
+        <translation>إضافة وسائط</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionSection</name>
+    <message>
+        <source>At the beginning</source>
+        <translation>في البداية</translation>
+    </message>
+    <message>
+        <source>At the end</source>
+        <translation>في النهاية</translation>
+    </message>
+</context>
+<context>
+    <name>Transport</name>
+    <message>
+        <source>Remove marker</source>
+        <translation>إزالة علامة</translation>
+    </message>
+    <message>
+        <source>Set marker</source>
+        <translation>تعيين علامة</translation>
     </message>
 </context>
 </TS>

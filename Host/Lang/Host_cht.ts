@@ -2,6 +2,231 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="en_US">
 <context>
+    <name>AboutBox</name>
+    <message>
+        <source>Product: %1</source>
+        <translation>產品：%1</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>關於</translation>
+    </message>
+    <message>
+        <source>A small editor that shows what the library does.</source>
+        <translation>展示程式庫功能的小型剪輯器。</translation>
+    </message>
+</context>
+<context>
+    <name>BinCommands</name>
+    <message>
+        <source>Files…</source>
+        <translation>檔案…</translation>
+    </message>
+    <message>
+        <source>Folder…</source>
+        <translation>資料夾…</translation>
+    </message>
+    <message>
+        <source>From a device…</source>
+        <translation>從裝置…</translation>
+    </message>
+    <message>
+        <source>Place at the play head</source>
+        <translation>放到播放磁頭處</translation>
+    </message>
+    <message>
+        <source>Set in point</source>
+        <translation>設定入點</translation>
+    </message>
+    <message>
+        <source>Set out point</source>
+        <translation>設定出點</translation>
+    </message>
+    <message>
+        <source>Clear in and out point</source>
+        <translation>清除入點和出點</translation>
+    </message>
+    <message>
+        <source>Make a proxy</source>
+        <translation>建立代理檔</translation>
+    </message>
+    <message>
+        <source>Cancel the proxy</source>
+        <translation>取消建立代理檔</translation>
+    </message>
+    <message>
+        <source>Use the proxy</source>
+        <translation>使用代理檔</translation>
+    </message>
+    <message>
+        <source>Locate…</source>
+        <translation>指定位置…</translation>
+    </message>
+    <message>
+        <source>Search a folder for offline media…</source>
+        <translation>在資料夾中搜尋離線媒體…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Remove all unused</source>
+        <translation>移除所有未使用的項目</translation>
+    </message>
+    <message>
+        <source>Add media</source>
+        <translation>加入媒體</translation>
+    </message>
+    <message>
+        <source>Add a folder</source>
+        <translation>加入資料夾</translation>
+    </message>
+    <message>
+        <source>Import from a device</source>
+        <translation>從裝置匯入</translation>
+    </message>
+    <message>
+        <source>None of the files was found.</source>
+        <translation>找不到任何檔案。</translation>
+    </message>
+    <message>
+        <source>The files that were found cannot be read.</source>
+        <translation>無法讀取找到的檔案。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) found.</source>
+        <translation>
+            <numerusform>找到 %n 個檔案。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Where is %1?</source>
+        <translation>%1 在哪裡？</translation>
+    </message>
+    <message>
+        <source>%1 (%1);;All files (*)</source>
+        <translation>%1 (%1);;所有檔案 (*)</translation>
+    </message>
+    <message>
+        <source>Folder with the media</source>
+        <translation>媒體所在的資料夾</translation>
+    </message>
+</context>
+<context>
+    <name>BinDelegate</name>
+    <message>
+        <source>Proxy</source>
+        <translation>代理檔</translation>
+    </message>
+</context>
+<context>
+    <name>BinModel</name>
+    <message>
+        <source>in %1, out %2</source>
+        <translation>入點 %1，出點 %2</translation>
+    </message>
+    <message>
+        <source>proxy: %1 %</source>
+        <translation>代理檔：%1%</translation>
+    </message>
+    <message>
+        <source>proxy: in use</source>
+        <translation>代理檔：使用中</translation>
+    </message>
+    <message>
+        <source>proxy: not in use</source>
+        <translation>代理檔：未使用</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>正在讀取…</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>離線</translation>
+    </message>
+    <message>
+        <source>Cannot be read</source>
+        <translation>無法讀取</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clip(s) on the timeline</source>
+        <translation>
+            <numerusform>時間軸上有 %n 個片段</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not on the timeline</source>
+        <translation>不在時間軸上</translation>
+    </message>
+</context>
+<context>
+    <name>BinPanel</name>
+    <message>
+        <source>Search</source>
+        <translation>搜尋</translation>
+    </message>
+    <message>
+        <source>Search the media</source>
+        <translation>搜尋媒體</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>格狀</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>清單</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>加入…</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>媒體</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細資料</translation>
+    </message>
+    <message>
+        <source>Drop media here, or add files and folders.</source>
+        <translation>將媒體拖放到這裡，或加入檔案和資料夾。</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>找不到任何項目</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) selected</source>
+        <translation>
+            <numerusform>已選取 %n 個檔案</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reading %n file(s)…</source>
+        <translation>
+            <numerusform>正在讀取 %n 個檔案…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be read as media.</source>
+        <translation>無法將 %1 作為媒體讀取。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more cannot be read as media.</source>
+        <translation>
+            <numerusform>無法將 %1 及另外 %n 個檔案作為媒體讀取。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No proxy of %1: %2</source>
+        <translation>無法建立 %1 的代理檔：%2</translation>
+    </message>
+</context>
+<context>
     <name>ButtonPage</name>
     <message>
         <source>Buttons</source>
@@ -118,6 +343,196 @@
     <message>
         <source>for a language from left to right</source>
         <translation>適用於由左至右的語言</translation>
+    </message>
+</context>
+<context>
+    <name>ClipActions</name>
+    <message>
+        <source>Add transition</source>
+        <translation>加入轉場</translation>
+    </message>
+    <message>
+        <source>Add title</source>
+        <translation>加入標題</translation>
+    </message>
+    <message>
+        <source>Change speed</source>
+        <translation>變更速度</translation>
+    </message>
+    <message>
+        <source>Add effect</source>
+        <translation>加入特效</translation>
+    </message>
+    <message>
+        <source>Remove effect</source>
+        <translation>移除特效</translation>
+    </message>
+    <message>
+        <source>Move effect</source>
+        <translation>移動特效</translation>
+    </message>
+    <message>
+        <source>Switch effect</source>
+        <translation>開啟或關閉特效</translation>
+    </message>
+</context>
+<context>
+    <name>ClipFields</name>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>符合方式</translation>
+    </message>
+    <message>
+        <source>Whole picture</source>
+        <translation>完整畫面</translation>
+    </message>
+    <message>
+        <source>Whole frame</source>
+        <translation>填滿影格</translation>
+    </message>
+    <message>
+        <source>Stretched</source>
+        <translation>拉伸</translation>
+    </message>
+    <message>
+        <source>Pixel for pixel</source>
+        <translation>原始像素</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source> fr</source>
+        <translation> 格</translation>
+    </message>
+    <message>
+        <source>Noise reduction</source>
+        <translation>雜訊消除</translation>
+    </message>
+    <message>
+        <source> dB</source>
+        <translation> dB</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>旋轉</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Centre X</source>
+        <translation>中心 X</translation>
+    </message>
+    <message>
+        <source>Centre Y</source>
+        <translation>中心 Y</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>寬度</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Multiply</source>
+        <translation>色彩增值</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>濾色</translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation>覆蓋</translation>
+    </message>
+    <message>
+        <source>Darken</source>
+        <translation>變暗</translation>
+    </message>
+    <message>
+        <source>Lighten</source>
+        <translation>變亮</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>相加</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>差異化</translation>
+    </message>
+    <message>
+        <source>Colour dodge</source>
+        <translation>加亮顏色</translation>
+    </message>
+    <message>
+        <source>Colour burn</source>
+        <translation>加深顏色</translation>
+    </message>
+    <message>
+        <source>Hard light</source>
+        <translation>實光</translation>
+    </message>
+    <message>
+        <source>Soft light</source>
+        <translation>柔光</translation>
+    </message>
+    <message>
+        <source>Exclusion</source>
+        <translation>排除</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>平衡</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>音高</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>靜音</translation>
+    </message>
+    <message>
+        <source>Fade in</source>
+        <translation>淡入</translation>
+    </message>
+    <message>
+        <source>Fade out</source>
+        <translation>淡出</translation>
+    </message>
+    <message>
+        <source>Mono</source>
+        <translation>單聲道</translation>
+    </message>
+    <message>
+        <source> st</source>
+        <translation> 半音</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>顏色</translation>
     </message>
 </context>
 <context>
@@ -257,6 +672,319 @@
     </message>
 </context>
 <context>
+    <name>Editor</name>
+    <message>
+        <source>A small editor.</source>
+        <translation>小型剪輯器。</translation>
+    </message>
+    <message>
+        <source>Write a picture of the window to &lt;file&gt;.</source>
+        <translation>將視窗圖片寫入 &lt;file&gt;。</translation>
+    </message>
+    <message>
+        <source>A project to open, and media for the bin.</source>
+        <translation>要開啟的專案，以及要放入媒體庫的媒體。</translation>
+    </message>
+    <message>
+        <source>The engine is missing.</source>
+        <translation>引擎遺失。</translation>
+    </message>
+    <message>
+        <source>Make a small film of the media by itself, and put pictures, the film and a report into &lt;folder&gt;.</source>
+        <translation>用媒體自動製作一段短片，並將圖片、短片與報告放入 &lt;資料夾&gt;。</translation>
+    </message>
+</context>
+<context>
+    <name>EditorWindow</name>
+    <message>
+        <source>Media</source>
+        <translation>媒體</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>屬性</translation>
+    </message>
+    <message>
+        <source>Timeline</source>
+        <translation>時間軸</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>記錄</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>檔案(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>匯出…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>結束</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>復原</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編輯(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Lift from in to out point</source>
+        <translation>提升入點至出點</translation>
+    </message>
+    <message>
+        <source>Lift</source>
+        <translation>提升</translation>
+    </message>
+    <message>
+        <source>Extract from in to out point</source>
+        <translation>擷取入點至出點</translation>
+    </message>
+    <message>
+        <source>Extract</source>
+        <translation>擷取</translation>
+    </message>
+    <message>
+        <source>&amp;Media</source>
+        <translation>媒體(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Timeline</source>
+        <translation>時間軸(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>播放(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>檢視(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>說明(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>鍵盤快速鍵</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>關於</translation>
+    </message>
+    <message>
+        <source>Tool bar</source>
+        <translation>工具列</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>未命名</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n remark(s) on the file, in the log</source>
+        <translation>
+            <numerusform>記錄中有 %n 則關於此檔案的備註</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Set an in and an out point first.</source>
+        <translation>請先設定入點和出點。</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>恢復</translation>
+    </message>
+    <message>
+        <source>The editor has ended unexpectedly. Changes of %1 until %2 can be opened.</source>
+        <translation>剪輯器意外結束。可以開啟 %1 截至 %2 的變更。</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>匯出</translation>
+    </message>
+    <message>
+        <source>Films are being written. End that?</source>
+        <translation>正在寫入影片。要中止嗎？</translation>
+    </message>
+    <message>
+        <source>Render the preview, or stop it</source>
+        <translation>算繪預覽，或停止</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to.</source>
+        <translation>無法寫入 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>EffectsSection</name>
+    <message>
+        <source>Add effect</source>
+        <translation>加入特效</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>畫面</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>聲音</translation>
+    </message>
+    <message>
+        <source>Apply earlier</source>
+        <translation>提前套用</translation>
+    </message>
+    <message>
+        <source>Apply later</source>
+        <translation>延後套用</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+</context>
+<context>
+    <name>ExportCheck</name>
+    <message>
+        <source>This cannot be combined</source>
+        <translation>無法這樣組合</translation>
+    </message>
+    <message>
+        <source>There is no such preset.</source>
+        <translation>沒有這個預設組。</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>The processor encodes and decodes.</source>
+        <translation>由處理器編碼和解碼。</translation>
+    </message>
+    <message>
+        <source>The processor encodes; the graphics hardware helps to decode.</source>
+        <translation>由處理器編碼；繪圖硬體協助解碼。</translation>
+    </message>
+    <message>
+        <source>Add to the queue</source>
+        <translation>加入佇列</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>匯出</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>影片</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>預設組</translation>
+    </message>
+    <message>
+        <source>film</source>
+        <translation>影片</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>選擇檔案</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>檔案</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>寬度</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>As the project</source>
+        <translation>與專案相同</translation>
+    </message>
+    <message>
+        <source>%1 fps</source>
+        <translation>%1 fps</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>影格速率</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>聲音</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>From in to out</source>
+        <translation>從入點到出點</translation>
+    </message>
+    <message>
+        <source>In point</source>
+        <translation>入點</translation>
+    </message>
+    <message>
+        <source>Out point</source>
+        <translation>出點</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>範圍</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>硬體</translation>
+    </message>
+    <message>
+        <source>Still picture…</source>
+        <translation>靜態圖片…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Writes the frame under the play head</source>
+        <translation>寫入播放磁頭處的影格</translation>
+    </message>
+    <message>
+        <source>The project cannot be copied.</source>
+        <translation>無法複製專案。</translation>
+    </message>
+    <message>
+        <source>Still picture</source>
+        <translation>靜態圖片</translation>
+    </message>
+    <message>
+        <source>/frame %1.png</source>
+        <translation>/影格 %1.png</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
+        <translation>圖片 (*.png *.jpg *.tif *.bmp)</translation>
+    </message>
+</context>
+<context>
     <name>ExportJob</name>
     <message>
         <source>There is no preset &quot;%1&quot;.</source>
@@ -273,6 +1001,105 @@
     <message>
         <source>%1 is not written; the log tells why.</source>
         <translation>未寫入 %1；原因請見記錄檔。</translation>
+    </message>
+</context>
+<context>
+    <name>ExportQueue</name>
+    <message>
+        <source>%1 is not written</source>
+        <translation>未寫入 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportQueueView</name>
+    <message>
+        <source>No films yet</source>
+        <translation>尚無影片</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>等候中</translation>
+    </message>
+    <message>
+        <source>Being written</source>
+        <translation>正在寫入</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>剩餘 %1</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>已寫入</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>Take from the list</source>
+        <translation>從清單移除</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>FileCommands</name>
+    <message>
+        <source>Projects</source>
+        <translation>專案</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新增</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>開啟…</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>儲存</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>另存新檔…</translation>
+    </message>
+    <message>
+        <source>Open recent</source>
+        <translation>開啟最近的專案</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>未命名</translation>
+    </message>
+    <message>
+        <source>Save changes</source>
+        <translation>儲存變更</translation>
+    </message>
+    <message>
+        <source>The project has changes that are not saved.</source>
+        <translation>專案有尚未儲存的變更。</translation>
+    </message>
+</context>
+<context>
+    <name>FileEditor</name>
+    <message>
+        <source>No file</source>
+        <translation>沒有檔案</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>選擇檔案</translation>
+    </message>
+</context>
+<context>
+    <name>FontEditor</name>
+    <message>
+        <source>System font</source>
+        <translation>系統字型</translation>
     </message>
 </context>
 <context>
@@ -519,6 +1346,44 @@
     </message>
 </context>
 <context>
+    <name>KeyFrameBar</name>
+    <message>
+        <source>Previous key frame</source>
+        <translation>上一個關鍵影格</translation>
+    </message>
+    <message>
+        <source>Key frame</source>
+        <translation>關鍵影格</translation>
+    </message>
+    <message>
+        <source>Next key frame</source>
+        <translation>下一個關鍵影格</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>保持</translation>
+    </message>
+    <message>
+        <source>Linear</source>
+        <translation>線性</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>平滑</translation>
+    </message>
+    <message>
+        <source>To the next key frame</source>
+        <translation>至下一個關鍵影格</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>Language</source>
+        <translation>語言</translation>
+    </message>
+</context>
+<context>
     <name>LanguagePage</name>
     <message>
         <source>Import media…</source>
@@ -584,10 +1449,67 @@
     </message>
 </context>
 <context>
+    <name>LevelHeader</name>
+    <message>
+        <source>Level %1</source>
+        <translation>軌道 %1</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>鎖定</translation>
+    </message>
+    <message>
+        <source>Lock %1</source>
+        <translation>鎖定 %1</translation>
+    </message>
+</context>
+<context>
     <name>LevelMeter</name>
     <message>
         <source>Level meter</source>
         <translation>音量表</translation>
+    </message>
+</context>
+<context>
+    <name>LogView</name>
+    <message>
+        <source>Log</source>
+        <translation>記錄</translation>
+    </message>
+</context>
+<context>
+    <name>MediaBin</name>
+    <message>
+        <source>Add media</source>
+        <translation>加入媒體</translation>
+    </message>
+    <message>
+        <source>Remove media</source>
+        <translation>移除媒體</translation>
+    </message>
+    <message>
+        <source>Relink media</source>
+        <translation>重新連結媒體</translation>
+    </message>
+    <message>
+        <source>Use the media itself</source>
+        <translation>使用原始媒體</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>使用代理檔</translation>
+    </message>
+    <message>
+        <source>Set in and out point</source>
+        <translation>設定入點和出點</translation>
+    </message>
+    <message>
+        <source>Clear in and out point</source>
+        <translation>清除入點和出點</translation>
+    </message>
+    <message>
+        <source>Place a clip</source>
+        <translation>放置片段</translation>
     </message>
 </context>
 <context>
@@ -729,6 +1651,99 @@
     </message>
 </context>
 <context>
+    <name>MovementKeys</name>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>旋轉</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Shift right</source>
+        <translation>向右位移</translation>
+    </message>
+    <message>
+        <source>Shift up</source>
+        <translation>向上位移</translation>
+    </message>
+    <message>
+        <source>Width factor</source>
+        <translation>寬度倍率</translation>
+    </message>
+    <message>
+        <source>Height factor</source>
+        <translation>高度倍率</translation>
+    </message>
+    <message>
+        <source>Opacity factor</source>
+        <translation>不透明度倍率</translation>
+    </message>
+</context>
+<context>
+    <name>MovementSection</name>
+    <message>
+        <source>Movement</source>
+        <translation>動態</translation>
+    </message>
+    <message>
+        <source>Key frame</source>
+        <translation>關鍵影格</translation>
+    </message>
+    <message>
+        <source>Change movement</source>
+        <translation>變更動態</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterFields</name>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source> EV</source>
+        <translation> EV</translation>
+    </message>
+    <message>
+        <source> dB</source>
+        <translation> dB</translation>
+    </message>
+    <message>
+        <source> fr</source>
+        <translation> 格</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Hz</translation>
+    </message>
+    <message>
+        <source> K</source>
+        <translation> K</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+</context>
+<context>
     <name>PictureView</name>
     <message>
         <source>Picture</source>
@@ -811,6 +1826,261 @@
     </message>
 </context>
 <context>
+    <name>PlayerPanel</name>
+    <message>
+        <source>Play or pause</source>
+        <translation>播放或暫停</translation>
+    </message>
+    <message>
+        <source>Play backwards</source>
+        <translation>倒轉播放</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Play forwards</source>
+        <translation>正向播放</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>循環</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>後退一格</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>前進一格</translation>
+    </message>
+    <message>
+        <source>Go to beginning</source>
+        <translation>移至開頭</translation>
+    </message>
+    <message>
+        <source>Go to end</source>
+        <translation>移至結尾</translation>
+    </message>
+    <message>
+        <source>Set in point</source>
+        <translation>設定入點</translation>
+    </message>
+    <message>
+        <source>Set out point</source>
+        <translation>設定出點</translation>
+    </message>
+    <message>
+        <source>Clear in and out point</source>
+        <translation>清除入點和出點</translation>
+    </message>
+    <message>
+        <source>Go to in point</source>
+        <translation>移至入點</translation>
+    </message>
+    <message>
+        <source>Go to out point</source>
+        <translation>移至出點</translation>
+    </message>
+    <message>
+        <source>Set or remove marker</source>
+        <translation>設定或移除標記</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>靜音</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>安全區域</translation>
+    </message>
+    <message>
+        <source>Picture on full screen</source>
+        <translation>以全螢幕顯示畫面</translation>
+    </message>
+    <message>
+        <source>Timecode of the play head</source>
+        <translation>播放磁頭的時間碼</translation>
+    </message>
+    <message>
+        <source>Play head</source>
+        <translation>播放磁頭</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+</context>
+<context>
+    <name>Project</name>
+    <message>
+        <source>The project cannot be made</source>
+        <translation>無法建立專案</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>無法開啟 %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be saved</source>
+        <translation>無法儲存 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectFields</name>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>影格速率</translation>
+    </message>
+    <message>
+        <source> fps</source>
+        <translation> fps</translation>
+    </message>
+    <message>
+        <source>Preview scale</source>
+        <translation>預覽縮放比例</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>寬度</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>Sample rate</source>
+        <translation>取樣率</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Hz</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>聲道</translation>
+    </message>
+    <message>
+        <source>Bits of a colour</source>
+        <translation>色彩位元數</translation>
+    </message>
+    <message>
+        <source>Smooth scaling</source>
+        <translation>平滑縮放</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>平衡</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>靜音</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>獨奏</translation>
+    </message>
+</context>
+<context>
+    <name>PropertiesPanel</name>
+    <message>
+        <source>Properties</source>
+        <translation>屬性</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>專案</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>標題</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>顏色</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>片段</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>繪製</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>特效</translation>
+    </message>
+    <message>
+        <source>Add title</source>
+        <translation>加入標題</translation>
+    </message>
+    <message>
+        <source>Mixer, level %1</source>
+        <translation>混音器，軌道 %1</translation>
+    </message>
+    <message>
+        <source>Transition</source>
+        <translation>轉場</translation>
+    </message>
+    <message>
+        <source>Placement</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>混合</translation>
+    </message>
+    <message>
+        <source>Movement</source>
+        <translation>動態</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>聲音</translation>
+    </message>
+    <message>
+        <source>Transitions</source>
+        <translation>轉場</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyForm</name>
+    <message>
+        <source>Back to the preset</source>
+        <translation>還原為預設值</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>變更%1</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -827,6 +2097,21 @@
     <message>
         <source>Zoom in</source>
         <translation>放大</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutList</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>鍵盤快速鍵</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>指令</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按鍵</translation>
     </message>
 </context>
 <context>
@@ -881,10 +2166,322 @@
     </message>
 </context>
 <context>
+    <name>SpeedSection</name>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Back to the preset</source>
+        <translation>還原為預設值</translation>
+    </message>
+</context>
+<context>
+    <name>StillPicture</name>
+    <message>
+        <source>The frame cannot be drawn</source>
+        <translation>無法繪製影格</translation>
+    </message>
+    <message>
+        <source>%1 is not written: %2</source>
+        <translation>未寫入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Timeline</name>
+    <message>
+        <source>Colour</source>
+        <translation>顏色</translation>
+    </message>
+    <message>
+        <source>Composite</source>
+        <translation>合成</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>移動</translation>
+    </message>
+    <message>
+        <source>Snap</source>
+        <translation>貼齊</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>捲動</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>修剪</translation>
+    </message>
+    <message>
+        <source>Slip</source>
+        <translation>滑移</translation>
+    </message>
+    <message>
+        <source>Slide</source>
+        <translation>滑動</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>剪下</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>貼上</translation>
+    </message>
+    <message>
+        <source>Paste insert</source>
+        <translation>插入貼上</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>刪除</translation>
+    </message>
+    <message>
+        <source>Ripple delete</source>
+        <translation>漣漪刪除</translation>
+    </message>
+    <message>
+        <source>Split at play head</source>
+        <translation>在播放磁頭處分割</translation>
+    </message>
+    <message>
+        <source>Trim begin to play head</source>
+        <translation>將開頭修剪至播放磁頭</translation>
+    </message>
+    <message>
+        <source>Trim end to play head</source>
+        <translation>將結尾修剪至播放磁頭</translation>
+    </message>
+    <message>
+        <source>Close gap at play head</source>
+        <translation>消除播放磁頭處的空隙</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>群組</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>取消群組</translation>
+    </message>
+    <message>
+        <source>Lock or unlock level</source>
+        <translation>鎖定或解鎖軌道</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>全選</translation>
+    </message>
+    <message>
+        <source>Select at play head</source>
+        <translation>選取播放磁頭處的片段</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>取消選取</translation>
+    </message>
+    <message>
+        <source>Frame earlier</source>
+        <translation>提前一格</translation>
+    </message>
+    <message>
+        <source>Frame later</source>
+        <translation>延後一格</translation>
+    </message>
+    <message>
+        <source>Second earlier</source>
+        <translation>提前一秒</translation>
+    </message>
+    <message>
+        <source>Second later</source>
+        <translation>延後一秒</translation>
+    </message>
+    <message>
+        <source>Level up</source>
+        <translation>移至上一條軌道</translation>
+    </message>
+    <message>
+        <source>Level down</source>
+        <translation>移至下一條軌道</translation>
+    </message>
+    <message>
+        <source>Previous cut</source>
+        <translation>上一個剪輯點</translation>
+    </message>
+    <message>
+        <source>Next cut</source>
+        <translation>下一個剪輯點</translation>
+    </message>
+    <message>
+        <source>Selection tool</source>
+        <translation>選取工具</translation>
+    </message>
+    <message>
+        <source>Ripple tool</source>
+        <translation>漣漪工具</translation>
+    </message>
+    <message>
+        <source>Roll tool</source>
+        <translation>捲動工具</translation>
+    </message>
+    <message>
+        <source>Slip tool</source>
+        <translation>滑移工具</translation>
+    </message>
+    <message>
+        <source>Slide tool</source>
+        <translation>滑動工具</translation>
+    </message>
+    <message>
+        <source>Razor tool</source>
+        <translation>剃刀工具</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>Fit to window</source>
+        <translation>符合視窗大小</translation>
+    </message>
+    <message>
+        <source>Taller levels</source>
+        <translation>增加軌道高度</translation>
+    </message>
+    <message>
+        <source>Lower levels</source>
+        <translation>減少軌道高度</translation>
+    </message>
+    <message>
+        <source>Ripple trim</source>
+        <translation>漣漪修剪</translation>
+    </message>
+</context>
+<context>
+    <name>TimelineCommands</name>
+    <message>
+        <source>Split</source>
+        <translation>分割</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>刪除</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>剪下</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>貼上</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>群組</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>取消群組</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>移動</translation>
+    </message>
+    <message>
+        <source>Ripple delete</source>
+        <translation>漣漪刪除</translation>
+    </message>
+    <message>
+        <source>Paste insert</source>
+        <translation>插入貼上</translation>
+    </message>
+    <message>
+        <source>Close gap</source>
+        <translation>消除空隙</translation>
+    </message>
+    <message>
+        <source>Lock level</source>
+        <translation>鎖定軌道</translation>
+    </message>
+    <message>
+        <source>Unlock level</source>
+        <translation>解鎖軌道</translation>
+    </message>
+</context>
+<context>
+    <name>TimelinePanel</name>
+    <message>
+        <source>Timeline</source>
+        <translation>時間軸</translation>
+    </message>
+    <message>
+        <source>Play head</source>
+        <translation>播放磁頭</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>片段</translation>
+    </message>
+    <message>
+        <source>%1, level %2, frames %3 to %4</source>
+        <translation>%1，軌道 %2，影格 %3 至 %4</translation>
+    </message>
+</context>
+<context>
     <name>TimelineRuler</name>
     <message>
         <source>Ruler</source>
         <translation>尺規</translation>
+    </message>
+</context>
+<context>
+    <name>TimelineView</name>
+    <message>
+        <source>Split</source>
+        <translation>分割</translation>
+    </message>
+    <message>
+        <source>Insert media</source>
+        <translation>插入媒體</translation>
+    </message>
+    <message>
+        <source>Add media</source>
+        <translation>加入媒體</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionSection</name>
+    <message>
+        <source>At the beginning</source>
+        <translation>在開頭</translation>
+    </message>
+    <message>
+        <source>At the end</source>
+        <translation>在結尾</translation>
+    </message>
+</context>
+<context>
+    <name>Transport</name>
+    <message>
+        <source>Remove marker</source>
+        <translation>移除標記</translation>
+    </message>
+    <message>
+        <source>Set marker</source>
+        <translation>設定標記</translation>
     </message>
 </context>
 </TS>

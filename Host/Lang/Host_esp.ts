@@ -2,6 +2,236 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="en_US">
 <context>
+    <name>AboutBox</name>
+    <message>
+        <source>Product: %1</source>
+        <translation>Producto: %1</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>A small editor that shows what the library does.</source>
+        <translation>Un pequeño editor que muestra lo que hace la biblioteca.</translation>
+    </message>
+</context>
+<context>
+    <name>BinCommands</name>
+    <message>
+        <source>Files…</source>
+        <translation>Archivos…</translation>
+    </message>
+    <message>
+        <source>Folder…</source>
+        <translation>Carpeta…</translation>
+    </message>
+    <message>
+        <source>From a device…</source>
+        <translation>Desde un dispositivo…</translation>
+    </message>
+    <message>
+        <source>Place at the play head</source>
+        <translation>Colocar en el cabezal</translation>
+    </message>
+    <message>
+        <source>Set in point</source>
+        <translation>Marcar punto de entrada</translation>
+    </message>
+    <message>
+        <source>Set out point</source>
+        <translation>Marcar punto de salida</translation>
+    </message>
+    <message>
+        <source>Clear in and out point</source>
+        <translation>Borrar puntos de entrada y salida</translation>
+    </message>
+    <message>
+        <source>Make a proxy</source>
+        <translation>Crear un proxy</translation>
+    </message>
+    <message>
+        <source>Cancel the proxy</source>
+        <translation>Cancelar el proxy</translation>
+    </message>
+    <message>
+        <source>Use the proxy</source>
+        <translation>Usar el proxy</translation>
+    </message>
+    <message>
+        <source>Locate…</source>
+        <translation>Localizar…</translation>
+    </message>
+    <message>
+        <source>Search a folder for offline media…</source>
+        <translation>Buscar en una carpeta los medios sin conexión…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Remove all unused</source>
+        <translation>Quitar todo lo no utilizado</translation>
+    </message>
+    <message>
+        <source>Add media</source>
+        <translation>Añadir medios</translation>
+    </message>
+    <message>
+        <source>Add a folder</source>
+        <translation>Añadir una carpeta</translation>
+    </message>
+    <message>
+        <source>Import from a device</source>
+        <translation>Importar desde un dispositivo</translation>
+    </message>
+    <message>
+        <source>None of the files was found.</source>
+        <translation>No se ha encontrado ninguno de los archivos.</translation>
+    </message>
+    <message>
+        <source>The files that were found cannot be read.</source>
+        <translation>Los archivos encontrados no se pueden leer.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) found.</source>
+        <translation>
+            <numerusform>Se ha encontrado %n archivo.</numerusform>
+            <numerusform>Se han encontrado %n archivos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Where is %1?</source>
+        <translation>¿Dónde está %1?</translation>
+    </message>
+    <message>
+        <source>%1 (%1);;All files (*)</source>
+        <translation>%1 (%1);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Folder with the media</source>
+        <translation>Carpeta con los medios</translation>
+    </message>
+</context>
+<context>
+    <name>BinDelegate</name>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+</context>
+<context>
+    <name>BinModel</name>
+    <message>
+        <source>in %1, out %2</source>
+        <translation>entrada %1, salida %2</translation>
+    </message>
+    <message>
+        <source>proxy: %1 %</source>
+        <translation>proxy: %1 %</translation>
+    </message>
+    <message>
+        <source>proxy: in use</source>
+        <translation>proxy: en uso</translation>
+    </message>
+    <message>
+        <source>proxy: not in use</source>
+        <translation>proxy: sin usar</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Leyendo…</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Sin conexión</translation>
+    </message>
+    <message>
+        <source>Cannot be read</source>
+        <translation>No se puede leer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clip(s) on the timeline</source>
+        <translation>
+            <numerusform>%n clip en la línea de tiempo</numerusform>
+            <numerusform>%n clips en la línea de tiempo</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not on the timeline</source>
+        <translation>no está en la línea de tiempo</translation>
+    </message>
+</context>
+<context>
+    <name>BinPanel</name>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Search the media</source>
+        <translation>Buscar en los medios</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Cuadrícula</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Lista</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Añadir…</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Medios</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>Drop media here, or add files and folders.</source>
+        <translation>Suelte aquí los medios o añada archivos y carpetas.</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>No se ha encontrado nada</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) selected</source>
+        <translation>
+            <numerusform>%n archivo seleccionado</numerusform>
+            <numerusform>%n archivos seleccionados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reading %n file(s)…</source>
+        <translation>
+            <numerusform>Leyendo %n archivo…</numerusform>
+            <numerusform>Leyendo %n archivos…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be read as media.</source>
+        <translation>%1 no se puede leer como multimedia.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more cannot be read as media.</source>
+        <translation>
+            <numerusform>%1 y %n más no se pueden leer como multimedia.</numerusform>
+            <numerusform>%1 y %n más no se pueden leer como multimedia.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No proxy of %1: %2</source>
+        <translation>No hay proxy de %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>ButtonPage</name>
     <message>
         <source>Buttons</source>
@@ -118,6 +348,196 @@
     <message>
         <source>for a language from left to right</source>
         <translation>para un idioma de izquierda a derecha</translation>
+    </message>
+</context>
+<context>
+    <name>ClipActions</name>
+    <message>
+        <source>Add transition</source>
+        <translation>Añadir transición</translation>
+    </message>
+    <message>
+        <source>Add title</source>
+        <translation>Añadir título</translation>
+    </message>
+    <message>
+        <source>Change speed</source>
+        <translation>Cambiar velocidad</translation>
+    </message>
+    <message>
+        <source>Add effect</source>
+        <translation>Añadir efecto</translation>
+    </message>
+    <message>
+        <source>Remove effect</source>
+        <translation>Quitar efecto</translation>
+    </message>
+    <message>
+        <source>Move effect</source>
+        <translation>Mover efecto</translation>
+    </message>
+    <message>
+        <source>Switch effect</source>
+        <translation>Activar o desactivar efecto</translation>
+    </message>
+</context>
+<context>
+    <name>ClipFields</name>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Whole picture</source>
+        <translation>Imagen completa</translation>
+    </message>
+    <message>
+        <source>Whole frame</source>
+        <translation>Cuadro completo</translation>
+    </message>
+    <message>
+        <source>Stretched</source>
+        <translation>Estirada</translation>
+    </message>
+    <message>
+        <source>Pixel for pixel</source>
+        <translation>Píxel a píxel</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacidad</translation>
+    </message>
+    <message>
+        <source> fr</source>
+        <translation> fot.</translation>
+    </message>
+    <message>
+        <source>Noise reduction</source>
+        <translation>Reducción de ruido</translation>
+    </message>
+    <message>
+        <source> dB</source>
+        <translation> dB</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotación</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Centre X</source>
+        <translation>Centro X</translation>
+    </message>
+    <message>
+        <source>Centre Y</source>
+        <translation>Centro Y</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Anchura</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Altura</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modo</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Multiply</source>
+        <translation>Multiplicar</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Trama</translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation>Superponer</translation>
+    </message>
+    <message>
+        <source>Darken</source>
+        <translation>Oscurecer</translation>
+    </message>
+    <message>
+        <source>Lighten</source>
+        <translation>Aclarar</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Sumar</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Diferencia</translation>
+    </message>
+    <message>
+        <source>Colour dodge</source>
+        <translation>Sobreexponer color</translation>
+    </message>
+    <message>
+        <source>Colour burn</source>
+        <translation>Subexponer color</translation>
+    </message>
+    <message>
+        <source>Hard light</source>
+        <translation>Luz fuerte</translation>
+    </message>
+    <message>
+        <source>Soft light</source>
+        <translation>Luz suave</translation>
+    </message>
+    <message>
+        <source>Exclusion</source>
+        <translation>Exclusión</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>Balance</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>Tono</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Silenciar</translation>
+    </message>
+    <message>
+        <source>Fade in</source>
+        <translation>Fundido de entrada</translation>
+    </message>
+    <message>
+        <source>Fade out</source>
+        <translation>Fundido de salida</translation>
+    </message>
+    <message>
+        <source>Mono</source>
+        <translation>Mono</translation>
+    </message>
+    <message>
+        <source> st</source>
+        <translation> st</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
     </message>
 </context>
 <context>
@@ -257,6 +677,320 @@
     </message>
 </context>
 <context>
+    <name>Editor</name>
+    <message>
+        <source>A small editor.</source>
+        <translation>Un pequeño editor.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the window to &lt;file&gt;.</source>
+        <translation>Escribe una imagen de la ventana en &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>A project to open, and media for the bin.</source>
+        <translation>Un proyecto que abrir y medios para la bandeja.</translation>
+    </message>
+    <message>
+        <source>The engine is missing.</source>
+        <translation>Falta el motor.</translation>
+    </message>
+    <message>
+        <source>Make a small film of the media by itself, and put pictures, the film and a report into &lt;folder&gt;.</source>
+        <translation>Hacer automáticamente una pequeña película con los medios y dejar imágenes, la película y un informe en &lt;carpeta&gt;.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorWindow</name>
+    <message>
+        <source>Media</source>
+        <translation>Medios</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Propiedades</translation>
+    </message>
+    <message>
+        <source>Timeline</source>
+        <translation>Línea de tiempo</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edición</translation>
+    </message>
+    <message>
+        <source>Lift from in to out point</source>
+        <translation>Levantar del punto de entrada al de salida</translation>
+    </message>
+    <message>
+        <source>Lift</source>
+        <translation>Levantar</translation>
+    </message>
+    <message>
+        <source>Extract from in to out point</source>
+        <translation>Extraer del punto de entrada al de salida</translation>
+    </message>
+    <message>
+        <source>Extract</source>
+        <translation>Extraer</translation>
+    </message>
+    <message>
+        <source>&amp;Media</source>
+        <translation>&amp;Medios</translation>
+    </message>
+    <message>
+        <source>&amp;Timeline</source>
+        <translation>&amp;Línea de tiempo</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Reproducción</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Tool bar</source>
+        <translation>Barra de herramientas</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Sin título</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n remark(s) on the file, in the log</source>
+        <translation>
+            <numerusform>%n observación sobre el archivo, en el registro</numerusform>
+            <numerusform>%n observaciones sobre el archivo, en el registro</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Set an in and an out point first.</source>
+        <translation>Marque primero un punto de entrada y uno de salida.</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>Recuperación</translation>
+    </message>
+    <message>
+        <source>The editor has ended unexpectedly. Changes of %1 until %2 can be opened.</source>
+        <translation>El editor se ha cerrado inesperadamente. Se pueden abrir los cambios de %1 hasta %2.</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>Films are being written. End that?</source>
+        <translation>Se están escribiendo películas. ¿Desea interrumpirlo?</translation>
+    </message>
+    <message>
+        <source>Render the preview, or stop it</source>
+        <translation>Renderizar la vista previa, o detenerla</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to.</source>
+        <translation>No se puede escribir en %1.</translation>
+    </message>
+</context>
+<context>
+    <name>EffectsSection</name>
+    <message>
+        <source>Add effect</source>
+        <translation>Añadir efecto</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Sonido</translation>
+    </message>
+    <message>
+        <source>Apply earlier</source>
+        <translation>Aplicar antes</translation>
+    </message>
+    <message>
+        <source>Apply later</source>
+        <translation>Aplicar después</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+</context>
+<context>
+    <name>ExportCheck</name>
+    <message>
+        <source>This cannot be combined</source>
+        <translation>Esto no se puede combinar</translation>
+    </message>
+    <message>
+        <source>There is no such preset.</source>
+        <translation>No existe ese ajuste predefinido.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>The processor encodes and decodes.</source>
+        <translation>El procesador codifica y decodifica.</translation>
+    </message>
+    <message>
+        <source>The processor encodes; the graphics hardware helps to decode.</source>
+        <translation>El procesador codifica; el hardware gráfico ayuda a decodificar.</translation>
+    </message>
+    <message>
+        <source>Add to the queue</source>
+        <translation>Añadir a la cola</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Películas</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>Ajuste predefinido</translation>
+    </message>
+    <message>
+        <source>film</source>
+        <translation>película</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>Elegir un archivo</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Anchura</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Altura</translation>
+    </message>
+    <message>
+        <source>As the project</source>
+        <translation>Como el proyecto</translation>
+    </message>
+    <message>
+        <source>%1 fps</source>
+        <translation>%1 fps</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Velocidad de fotogramas</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Sonido</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todo</translation>
+    </message>
+    <message>
+        <source>From in to out</source>
+        <translation>De la entrada a la salida</translation>
+    </message>
+    <message>
+        <source>In point</source>
+        <translation>Punto de entrada</translation>
+    </message>
+    <message>
+        <source>Out point</source>
+        <translation>Punto de salida</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Intervalo</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>Hardware</translation>
+    </message>
+    <message>
+        <source>Still picture…</source>
+        <translation>Imagen fija…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Writes the frame under the play head</source>
+        <translation>Escribe el fotograma que está bajo el cabezal</translation>
+    </message>
+    <message>
+        <source>The project cannot be copied.</source>
+        <translation>No se puede copiar el proyecto.</translation>
+    </message>
+    <message>
+        <source>Still picture</source>
+        <translation>Imagen fija</translation>
+    </message>
+    <message>
+        <source>/frame %1.png</source>
+        <translation>/fotograma %1.png</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
+        <translation>Imágenes (*.png *.jpg *.tif *.bmp)</translation>
+    </message>
+</context>
+<context>
     <name>ExportJob</name>
     <message>
         <source>There is no preset &quot;%1&quot;.</source>
@@ -273,6 +1007,105 @@
     <message>
         <source>%1 is not written; the log tells why.</source>
         <translation>%1 no se escribe; el registro explica por qué.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportQueue</name>
+    <message>
+        <source>%1 is not written</source>
+        <translation>%1 no se ha escrito</translation>
+    </message>
+</context>
+<context>
+    <name>ExportQueueView</name>
+    <message>
+        <source>No films yet</source>
+        <translation>Todavía no hay películas</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>En espera</translation>
+    </message>
+    <message>
+        <source>Being written</source>
+        <translation>Escribiéndose</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>Tiempo restante: %1</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>Escrita</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Cancelada</translation>
+    </message>
+    <message>
+        <source>Take from the list</source>
+        <translation>Quitar de la lista</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>FileCommands</name>
+    <message>
+        <source>Projects</source>
+        <translation>Proyectos</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nuevo</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Abrir…</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Guardar como…</translation>
+    </message>
+    <message>
+        <source>Open recent</source>
+        <translation>Abrir reciente</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Sin título</translation>
+    </message>
+    <message>
+        <source>Save changes</source>
+        <translation>Guardar los cambios</translation>
+    </message>
+    <message>
+        <source>The project has changes that are not saved.</source>
+        <translation>El proyecto tiene cambios sin guardar.</translation>
+    </message>
+</context>
+<context>
+    <name>FileEditor</name>
+    <message>
+        <source>No file</source>
+        <translation>Ningún archivo</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>Elegir un archivo</translation>
+    </message>
+</context>
+<context>
+    <name>FontEditor</name>
+    <message>
+        <source>System font</source>
+        <translation>Tipo de letra del sistema</translation>
     </message>
 </context>
 <context>
@@ -519,6 +1352,44 @@
     </message>
 </context>
 <context>
+    <name>KeyFrameBar</name>
+    <message>
+        <source>Previous key frame</source>
+        <translation>Fotograma clave anterior</translation>
+    </message>
+    <message>
+        <source>Key frame</source>
+        <translation>Fotograma clave</translation>
+    </message>
+    <message>
+        <source>Next key frame</source>
+        <translation>Fotograma clave siguiente</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Mantener</translation>
+    </message>
+    <message>
+        <source>Linear</source>
+        <translation>Lineal</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Suave</translation>
+    </message>
+    <message>
+        <source>To the next key frame</source>
+        <translation>Hasta el fotograma clave siguiente</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+</context>
+<context>
     <name>LanguagePage</name>
     <message>
         <source>Import media…</source>
@@ -585,10 +1456,67 @@
     </message>
 </context>
 <context>
+    <name>LevelHeader</name>
+    <message>
+        <source>Level %1</source>
+        <translation>Pista %1</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Bloquear</translation>
+    </message>
+    <message>
+        <source>Lock %1</source>
+        <translation>Bloquear %1</translation>
+    </message>
+</context>
+<context>
     <name>LevelMeter</name>
     <message>
         <source>Level meter</source>
         <translation>Medidor de nivel</translation>
+    </message>
+</context>
+<context>
+    <name>LogView</name>
+    <message>
+        <source>Log</source>
+        <translation>Registro</translation>
+    </message>
+</context>
+<context>
+    <name>MediaBin</name>
+    <message>
+        <source>Add media</source>
+        <translation>Añadir medios</translation>
+    </message>
+    <message>
+        <source>Remove media</source>
+        <translation>Quitar medios</translation>
+    </message>
+    <message>
+        <source>Relink media</source>
+        <translation>Volver a enlazar medios</translation>
+    </message>
+    <message>
+        <source>Use the media itself</source>
+        <translation>Usar los medios originales</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Usar un proxy</translation>
+    </message>
+    <message>
+        <source>Set in and out point</source>
+        <translation>Marcar puntos de entrada y salida</translation>
+    </message>
+    <message>
+        <source>Clear in and out point</source>
+        <translation>Borrar puntos de entrada y salida</translation>
+    </message>
+    <message>
+        <source>Place a clip</source>
+        <translation>Colocar un clip</translation>
     </message>
 </context>
 <context>
@@ -732,6 +1660,99 @@
     </message>
 </context>
 <context>
+    <name>MovementKeys</name>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Giro</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Shift right</source>
+        <translation>Desplazamiento a la derecha</translation>
+    </message>
+    <message>
+        <source>Shift up</source>
+        <translation>Desplazamiento hacia arriba</translation>
+    </message>
+    <message>
+        <source>Width factor</source>
+        <translation>Factor de anchura</translation>
+    </message>
+    <message>
+        <source>Height factor</source>
+        <translation>Factor de altura</translation>
+    </message>
+    <message>
+        <source>Opacity factor</source>
+        <translation>Factor de opacidad</translation>
+    </message>
+</context>
+<context>
+    <name>MovementSection</name>
+    <message>
+        <source>Movement</source>
+        <translation>Movimiento</translation>
+    </message>
+    <message>
+        <source>Key frame</source>
+        <translation>Fotograma clave</translation>
+    </message>
+    <message>
+        <source>Change movement</source>
+        <translation>Cambiar movimiento</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterFields</name>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source> EV</source>
+        <translation> EV</translation>
+    </message>
+    <message>
+        <source> dB</source>
+        <translation> dB</translation>
+    </message>
+    <message>
+        <source> fr</source>
+        <translation> fot.</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Hz</translation>
+    </message>
+    <message>
+        <source> K</source>
+        <translation> K</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+</context>
+<context>
     <name>PictureView</name>
     <message>
         <source>Picture</source>
@@ -814,6 +1835,261 @@
     </message>
 </context>
 <context>
+    <name>PlayerPanel</name>
+    <message>
+        <source>Play or pause</source>
+        <translation>Reproducir o pausar</translation>
+    </message>
+    <message>
+        <source>Play backwards</source>
+        <translation>Reproducir hacia atrás</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Play forwards</source>
+        <translation>Reproducir hacia delante</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Bucle</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>Retroceder un fotograma</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>Avanzar un fotograma</translation>
+    </message>
+    <message>
+        <source>Go to beginning</source>
+        <translation>Ir al principio</translation>
+    </message>
+    <message>
+        <source>Go to end</source>
+        <translation>Ir al final</translation>
+    </message>
+    <message>
+        <source>Set in point</source>
+        <translation>Marcar punto de entrada</translation>
+    </message>
+    <message>
+        <source>Set out point</source>
+        <translation>Marcar punto de salida</translation>
+    </message>
+    <message>
+        <source>Clear in and out point</source>
+        <translation>Borrar puntos de entrada y salida</translation>
+    </message>
+    <message>
+        <source>Go to in point</source>
+        <translation>Ir al punto de entrada</translation>
+    </message>
+    <message>
+        <source>Go to out point</source>
+        <translation>Ir al punto de salida</translation>
+    </message>
+    <message>
+        <source>Set or remove marker</source>
+        <translation>Poner o quitar marcador</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Silenciar</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>Zonas seguras</translation>
+    </message>
+    <message>
+        <source>Picture on full screen</source>
+        <translation>Imagen a pantalla completa</translation>
+    </message>
+    <message>
+        <source>Timecode of the play head</source>
+        <translation>Código de tiempo del cabezal</translation>
+    </message>
+    <message>
+        <source>Play head</source>
+        <translation>Cabezal</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+</context>
+<context>
+    <name>Project</name>
+    <message>
+        <source>The project cannot be made</source>
+        <translation>No se puede crear el proyecto</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>No se puede abrir %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be saved</source>
+        <translation>No se puede guardar %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectFields</name>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Velocidad de fotogramas</translation>
+    </message>
+    <message>
+        <source> fps</source>
+        <translation> fps</translation>
+    </message>
+    <message>
+        <source>Preview scale</source>
+        <translation>Escala de la vista previa</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Anchura</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Altura</translation>
+    </message>
+    <message>
+        <source>Sample rate</source>
+        <translation>Frecuencia de muestreo</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Hz</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Canales</translation>
+    </message>
+    <message>
+        <source>Bits of a colour</source>
+        <translation>Bits por color</translation>
+    </message>
+    <message>
+        <source>Smooth scaling</source>
+        <translation>Escalado suave</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>Balance</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Silenciar</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>Solo</translation>
+    </message>
+</context>
+<context>
+    <name>PropertiesPanel</name>
+    <message>
+        <source>Properties</source>
+        <translation>Propiedades</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Proyecto</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Clip</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Dibujo</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Efectos</translation>
+    </message>
+    <message>
+        <source>Add title</source>
+        <translation>Añadir título</translation>
+    </message>
+    <message>
+        <source>Mixer, level %1</source>
+        <translation>Mezclador, pista %1</translation>
+    </message>
+    <message>
+        <source>Transition</source>
+        <translation>Transición</translation>
+    </message>
+    <message>
+        <source>Placement</source>
+        <translation>Posición y tamaño</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>Fusión</translation>
+    </message>
+    <message>
+        <source>Movement</source>
+        <translation>Movimiento</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Sonido</translation>
+    </message>
+    <message>
+        <source>Transitions</source>
+        <translation>Transiciones</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyForm</name>
+    <message>
+        <source>Back to the preset</source>
+        <translation>Restablecer el valor predeterminado</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>Cambiar «%1»</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -830,6 +2106,21 @@
     <message>
         <source>Zoom in</source>
         <translation>Acercar</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutList</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Comando</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
     </message>
 </context>
 <context>
@@ -884,10 +2175,322 @@
     </message>
 </context>
 <context>
+    <name>SpeedSection</name>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Back to the preset</source>
+        <translation>Restablecer el valor predeterminado</translation>
+    </message>
+</context>
+<context>
+    <name>StillPicture</name>
+    <message>
+        <source>The frame cannot be drawn</source>
+        <translation>No se puede dibujar el fotograma</translation>
+    </message>
+    <message>
+        <source>%1 is not written: %2</source>
+        <translation>%1 no se ha escrito: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Timeline</name>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Composite</source>
+        <translation>Clip compuesto</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Mover</translation>
+    </message>
+    <message>
+        <source>Snap</source>
+        <translation>Ajuste magnético</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Roll</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Recortar</translation>
+    </message>
+    <message>
+        <source>Slip</source>
+        <translation>Slip</translation>
+    </message>
+    <message>
+        <source>Slide</source>
+        <translation>Slide</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Cortar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
+    <message>
+        <source>Paste insert</source>
+        <translation>Pegar insertando</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Ripple delete</source>
+        <translation>Eliminar con ripple</translation>
+    </message>
+    <message>
+        <source>Split at play head</source>
+        <translation>Dividir en el cabezal</translation>
+    </message>
+    <message>
+        <source>Trim begin to play head</source>
+        <translation>Recortar el inicio hasta el cabezal</translation>
+    </message>
+    <message>
+        <source>Trim end to play head</source>
+        <translation>Recortar el final hasta el cabezal</translation>
+    </message>
+    <message>
+        <source>Close gap at play head</source>
+        <translation>Cerrar el hueco en el cabezal</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Agrupar</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>Desagrupar</translation>
+    </message>
+    <message>
+        <source>Lock or unlock level</source>
+        <translation>Bloquear o desbloquear pista</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Select at play head</source>
+        <translation>Seleccionar en el cabezal</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>No seleccionar nada</translation>
+    </message>
+    <message>
+        <source>Frame earlier</source>
+        <translation>Un fotograma antes</translation>
+    </message>
+    <message>
+        <source>Frame later</source>
+        <translation>Un fotograma después</translation>
+    </message>
+    <message>
+        <source>Second earlier</source>
+        <translation>Un segundo antes</translation>
+    </message>
+    <message>
+        <source>Second later</source>
+        <translation>Un segundo después</translation>
+    </message>
+    <message>
+        <source>Level up</source>
+        <translation>Una pista más arriba</translation>
+    </message>
+    <message>
+        <source>Level down</source>
+        <translation>Una pista más abajo</translation>
+    </message>
+    <message>
+        <source>Previous cut</source>
+        <translation>Corte anterior</translation>
+    </message>
+    <message>
+        <source>Next cut</source>
+        <translation>Corte siguiente</translation>
+    </message>
+    <message>
+        <source>Selection tool</source>
+        <translation>Herramienta de selección</translation>
+    </message>
+    <message>
+        <source>Ripple tool</source>
+        <translation>Herramienta Ripple</translation>
+    </message>
+    <message>
+        <source>Roll tool</source>
+        <translation>Herramienta Roll</translation>
+    </message>
+    <message>
+        <source>Slip tool</source>
+        <translation>Herramienta Slip</translation>
+    </message>
+    <message>
+        <source>Slide tool</source>
+        <translation>Herramienta Slide</translation>
+    </message>
+    <message>
+        <source>Razor tool</source>
+        <translation>Herramienta cuchilla</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Acercar</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Alejar</translation>
+    </message>
+    <message>
+        <source>Fit to window</source>
+        <translation>Ajustar a la ventana</translation>
+    </message>
+    <message>
+        <source>Taller levels</source>
+        <translation>Aumentar la altura de las pistas</translation>
+    </message>
+    <message>
+        <source>Lower levels</source>
+        <translation>Reducir la altura de las pistas</translation>
+    </message>
+    <message>
+        <source>Ripple trim</source>
+        <translation>Recortar con ripple</translation>
+    </message>
+</context>
+<context>
+    <name>TimelineCommands</name>
+    <message>
+        <source>Split</source>
+        <translation>Dividir</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Cortar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Agrupar</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>Desagrupar</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Mover</translation>
+    </message>
+    <message>
+        <source>Ripple delete</source>
+        <translation>Eliminar con ripple</translation>
+    </message>
+    <message>
+        <source>Paste insert</source>
+        <translation>Pegar insertando</translation>
+    </message>
+    <message>
+        <source>Close gap</source>
+        <translation>Cerrar el hueco</translation>
+    </message>
+    <message>
+        <source>Lock level</source>
+        <translation>Bloquear pista</translation>
+    </message>
+    <message>
+        <source>Unlock level</source>
+        <translation>Desbloquear pista</translation>
+    </message>
+</context>
+<context>
+    <name>TimelinePanel</name>
+    <message>
+        <source>Timeline</source>
+        <translation>Línea de tiempo</translation>
+    </message>
+    <message>
+        <source>Play head</source>
+        <translation>Cabezal</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clips</translation>
+    </message>
+    <message>
+        <source>%1, level %2, frames %3 to %4</source>
+        <translation>%1, pista %2, fotogramas %3 a %4</translation>
+    </message>
+</context>
+<context>
     <name>TimelineRuler</name>
     <message>
         <source>Ruler</source>
         <translation>Regla</translation>
+    </message>
+</context>
+<context>
+    <name>TimelineView</name>
+    <message>
+        <source>Split</source>
+        <translation>Dividir</translation>
+    </message>
+    <message>
+        <source>Insert media</source>
+        <translation>Insertar medios</translation>
+    </message>
+    <message>
+        <source>Add media</source>
+        <translation>Añadir medios</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionSection</name>
+    <message>
+        <source>At the beginning</source>
+        <translation>Al principio</translation>
+    </message>
+    <message>
+        <source>At the end</source>
+        <translation>Al final</translation>
+    </message>
+</context>
+<context>
+    <name>Transport</name>
+    <message>
+        <source>Remove marker</source>
+        <translation>Quitar marcador</translation>
+    </message>
+    <message>
+        <source>Set marker</source>
+        <translation>Poner marcador</translation>
     </message>
 </context>
 </TS>

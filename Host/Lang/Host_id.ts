@@ -2,6 +2,231 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="id_ID" sourcelanguage="en_US">
 <context>
+    <name>AboutBox</name>
+    <message>
+        <source>Product: %1</source>
+        <translation>Produk: %1</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Tentang</translation>
+    </message>
+    <message>
+        <source>A small editor that shows what the library does.</source>
+        <translation>Penyunting kecil yang menunjukkan kemampuan pustaka.</translation>
+    </message>
+</context>
+<context>
+    <name>BinCommands</name>
+    <message>
+        <source>Files…</source>
+        <translation>Berkas…</translation>
+    </message>
+    <message>
+        <source>Folder…</source>
+        <translation>Folder…</translation>
+    </message>
+    <message>
+        <source>From a device…</source>
+        <translation>Dari perangkat…</translation>
+    </message>
+    <message>
+        <source>Place at the play head</source>
+        <translation>Tempatkan di penanda putar</translation>
+    </message>
+    <message>
+        <source>Set in point</source>
+        <translation>Tetapkan titik masuk</translation>
+    </message>
+    <message>
+        <source>Set out point</source>
+        <translation>Tetapkan titik keluar</translation>
+    </message>
+    <message>
+        <source>Clear in and out point</source>
+        <translation>Hapus titik masuk dan keluar</translation>
+    </message>
+    <message>
+        <source>Make a proxy</source>
+        <translation>Buat proksi</translation>
+    </message>
+    <message>
+        <source>Cancel the proxy</source>
+        <translation>Batalkan proksi</translation>
+    </message>
+    <message>
+        <source>Use the proxy</source>
+        <translation>Gunakan proksi</translation>
+    </message>
+    <message>
+        <source>Locate…</source>
+        <translation>Cari lokasi…</translation>
+    </message>
+    <message>
+        <source>Search a folder for offline media…</source>
+        <translation>Cari media luring di folder…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Hapus</translation>
+    </message>
+    <message>
+        <source>Remove all unused</source>
+        <translation>Hapus semua yang tidak dipakai</translation>
+    </message>
+    <message>
+        <source>Add media</source>
+        <translation>Tambah media</translation>
+    </message>
+    <message>
+        <source>Add a folder</source>
+        <translation>Tambah folder</translation>
+    </message>
+    <message>
+        <source>Import from a device</source>
+        <translation>Impor dari perangkat</translation>
+    </message>
+    <message>
+        <source>None of the files was found.</source>
+        <translation>Tidak satu pun berkas ditemukan.</translation>
+    </message>
+    <message>
+        <source>The files that were found cannot be read.</source>
+        <translation>Berkas yang ditemukan tidak dapat dibaca.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) found.</source>
+        <translation>
+            <numerusform>%n berkas ditemukan.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Where is %1?</source>
+        <translation>Di mana %1?</translation>
+    </message>
+    <message>
+        <source>%1 (%1);;All files (*)</source>
+        <translation>%1 (%1);;Semua berkas (*)</translation>
+    </message>
+    <message>
+        <source>Folder with the media</source>
+        <translation>Folder berisi media</translation>
+    </message>
+</context>
+<context>
+    <name>BinDelegate</name>
+    <message>
+        <source>Proxy</source>
+        <translation>Proksi</translation>
+    </message>
+</context>
+<context>
+    <name>BinModel</name>
+    <message>
+        <source>in %1, out %2</source>
+        <translation>masuk %1, keluar %2</translation>
+    </message>
+    <message>
+        <source>proxy: %1 %</source>
+        <translation>proksi: %1%</translation>
+    </message>
+    <message>
+        <source>proxy: in use</source>
+        <translation>proksi: digunakan</translation>
+    </message>
+    <message>
+        <source>proxy: not in use</source>
+        <translation>proksi: tidak digunakan</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Membaca…</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Luring</translation>
+    </message>
+    <message>
+        <source>Cannot be read</source>
+        <translation>Tidak dapat dibaca</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clip(s) on the timeline</source>
+        <translation>
+            <numerusform>%n klip di linimasa</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not on the timeline</source>
+        <translation>tidak ada di linimasa</translation>
+    </message>
+</context>
+<context>
+    <name>BinPanel</name>
+    <message>
+        <source>Search</source>
+        <translation>Cari</translation>
+    </message>
+    <message>
+        <source>Search the media</source>
+        <translation>Cari media</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Kisi</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Daftar</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Tambah…</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detail</translation>
+    </message>
+    <message>
+        <source>Drop media here, or add files and folders.</source>
+        <translation>Letakkan media di sini, atau tambahkan berkas dan folder.</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Tidak ada yang ditemukan</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) selected</source>
+        <translation>
+            <numerusform>%n berkas dipilih</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reading %n file(s)…</source>
+        <translation>
+            <numerusform>Membaca %n berkas…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be read as media.</source>
+        <translation>%1 tidak dapat dibaca sebagai media.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more cannot be read as media.</source>
+        <translation>
+            <numerusform>%1 dan %n berkas lainnya tidak dapat dibaca sebagai media.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No proxy of %1: %2</source>
+        <translation>Tidak ada proksi untuk %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>ButtonPage</name>
     <message>
         <source>Buttons</source>
@@ -118,6 +343,196 @@
     <message>
         <source>for a language from left to right</source>
         <translation>untuk bahasa dari kiri ke kanan</translation>
+    </message>
+</context>
+<context>
+    <name>ClipActions</name>
+    <message>
+        <source>Add transition</source>
+        <translation>Tambah transisi</translation>
+    </message>
+    <message>
+        <source>Add title</source>
+        <translation>Tambah judul</translation>
+    </message>
+    <message>
+        <source>Change speed</source>
+        <translation>Ubah kecepatan</translation>
+    </message>
+    <message>
+        <source>Add effect</source>
+        <translation>Tambah efek</translation>
+    </message>
+    <message>
+        <source>Remove effect</source>
+        <translation>Hapus efek</translation>
+    </message>
+    <message>
+        <source>Move effect</source>
+        <translation>Pindahkan efek</translation>
+    </message>
+    <message>
+        <source>Switch effect</source>
+        <translation>Aktifkan atau matikan efek</translation>
+    </message>
+</context>
+<context>
+    <name>ClipFields</name>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Penyesuaian</translation>
+    </message>
+    <message>
+        <source>Whole picture</source>
+        <translation>Seluruh gambar</translation>
+    </message>
+    <message>
+        <source>Whole frame</source>
+        <translation>Seluruh bingkai</translation>
+    </message>
+    <message>
+        <source>Stretched</source>
+        <translation>Diregangkan</translation>
+    </message>
+    <message>
+        <source>Pixel for pixel</source>
+        <translation>Piksel per piksel</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opasitas</translation>
+    </message>
+    <message>
+        <source> fr</source>
+        <translation> bingkai</translation>
+    </message>
+    <message>
+        <source>Noise reduction</source>
+        <translation>Pengurangan derau</translation>
+    </message>
+    <message>
+        <source> dB</source>
+        <translation> dB</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotasi</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Centre X</source>
+        <translation>Pusat X</translation>
+    </message>
+    <message>
+        <source>Centre Y</source>
+        <translation>Pusat Y</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Lebar</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Tinggi</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Multiply</source>
+        <translation>Kalikan</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Layar</translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation>Tumpang</translation>
+    </message>
+    <message>
+        <source>Darken</source>
+        <translation>Gelapkan</translation>
+    </message>
+    <message>
+        <source>Lighten</source>
+        <translation>Terangkan</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Tambahkan</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Selisih</translation>
+    </message>
+    <message>
+        <source>Colour dodge</source>
+        <translation>Dodge warna</translation>
+    </message>
+    <message>
+        <source>Colour burn</source>
+        <translation>Burn warna</translation>
+    </message>
+    <message>
+        <source>Hard light</source>
+        <translation>Cahaya keras</translation>
+    </message>
+    <message>
+        <source>Soft light</source>
+        <translation>Cahaya lembut</translation>
+    </message>
+    <message>
+        <source>Exclusion</source>
+        <translation>Eksklusi</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>Keseimbangan</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>Tinggi nada</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Bisukan</translation>
+    </message>
+    <message>
+        <source>Fade in</source>
+        <translation>Muncul perlahan</translation>
+    </message>
+    <message>
+        <source>Fade out</source>
+        <translation>Hilang perlahan</translation>
+    </message>
+    <message>
+        <source>Mono</source>
+        <translation>Mono</translation>
+    </message>
+    <message>
+        <source> st</source>
+        <translation> st</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Warna</translation>
     </message>
 </context>
 <context>
@@ -257,6 +672,319 @@
     </message>
 </context>
 <context>
+    <name>Editor</name>
+    <message>
+        <source>A small editor.</source>
+        <translation>Penyunting kecil.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the window to &lt;file&gt;.</source>
+        <translation>Tulis gambar jendela ke &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>A project to open, and media for the bin.</source>
+        <translation>Proyek yang akan dibuka, dan media untuk bin.</translation>
+    </message>
+    <message>
+        <source>The engine is missing.</source>
+        <translation>Mesin tidak ada.</translation>
+    </message>
+    <message>
+        <source>Make a small film of the media by itself, and put pictures, the film and a report into &lt;folder&gt;.</source>
+        <translation>Buat sendiri film kecil dari media, lalu taruh gambar, film, dan laporan di &lt;folder&gt;.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorWindow</name>
+    <message>
+        <source>Media</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Properti</translation>
+    </message>
+    <message>
+        <source>Timeline</source>
+        <translation>Linimasa</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Log</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Berkas</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Ekspor…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Keluar</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Urungkan</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ulangi</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Sunting</translation>
+    </message>
+    <message>
+        <source>Lift from in to out point</source>
+        <translation>Angkat dari titik masuk hingga keluar</translation>
+    </message>
+    <message>
+        <source>Lift</source>
+        <translation>Angkat</translation>
+    </message>
+    <message>
+        <source>Extract from in to out point</source>
+        <translation>Ekstrak dari titik masuk hingga keluar</translation>
+    </message>
+    <message>
+        <source>Extract</source>
+        <translation>Ekstrak</translation>
+    </message>
+    <message>
+        <source>&amp;Media</source>
+        <translation>&amp;Media</translation>
+    </message>
+    <message>
+        <source>&amp;Timeline</source>
+        <translation>&amp;Linimasa</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Putar</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Tampilan</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ba&amp;ntuan</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Pintasan papan ketik</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Tentang</translation>
+    </message>
+    <message>
+        <source>Tool bar</source>
+        <translation>Bilah alat</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Tanpa judul</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n remark(s) on the file, in the log</source>
+        <translation>
+            <numerusform>%n catatan tentang berkas, di log</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Set an in and an out point first.</source>
+        <translation>Tetapkan titik masuk dan keluar terlebih dahulu.</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>Pemulihan</translation>
+    </message>
+    <message>
+        <source>The editor has ended unexpectedly. Changes of %1 until %2 can be opened.</source>
+        <translation>Penyunting berakhir secara tidak terduga. Perubahan pada %1 hingga %2 dapat dibuka.</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Ekspor</translation>
+    </message>
+    <message>
+        <source>Films are being written. End that?</source>
+        <translation>Film sedang ditulis. Hentikan?</translation>
+    </message>
+    <message>
+        <source>Render the preview, or stop it</source>
+        <translation>Render pratinjau, atau hentikan</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to.</source>
+        <translation>%1 tidak dapat ditulisi.</translation>
+    </message>
+</context>
+<context>
+    <name>EffectsSection</name>
+    <message>
+        <source>Add effect</source>
+        <translation>Tambah efek</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Gambar</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Suara</translation>
+    </message>
+    <message>
+        <source>Apply earlier</source>
+        <translation>Terapkan lebih awal</translation>
+    </message>
+    <message>
+        <source>Apply later</source>
+        <translation>Terapkan lebih akhir</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Hapus</translation>
+    </message>
+</context>
+<context>
+    <name>ExportCheck</name>
+    <message>
+        <source>This cannot be combined</source>
+        <translation>Ini tidak dapat digabungkan</translation>
+    </message>
+    <message>
+        <source>There is no such preset.</source>
+        <translation>Prasetel itu tidak ada.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>The processor encodes and decodes.</source>
+        <translation>Prosesor mengodekan dan mendekode.</translation>
+    </message>
+    <message>
+        <source>The processor encodes; the graphics hardware helps to decode.</source>
+        <translation>Prosesor mengodekan; perangkat keras grafis membantu mendekode.</translation>
+    </message>
+    <message>
+        <source>Add to the queue</source>
+        <translation>Tambahkan ke antrean</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Ekspor</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Film</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>Prasetel</translation>
+    </message>
+    <message>
+        <source>film</source>
+        <translation>film</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>Pilih berkas</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Berkas</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Lebar</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Tinggi</translation>
+    </message>
+    <message>
+        <source>As the project</source>
+        <translation>Sesuai proyek</translation>
+    </message>
+    <message>
+        <source>%1 fps</source>
+        <translation>%1 fps</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Ukuran</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Laju bingkai</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Suara</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Semua</translation>
+    </message>
+    <message>
+        <source>From in to out</source>
+        <translation>Dari masuk hingga keluar</translation>
+    </message>
+    <message>
+        <source>In point</source>
+        <translation>Titik masuk</translation>
+    </message>
+    <message>
+        <source>Out point</source>
+        <translation>Titik keluar</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Rentang</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>Perangkat keras</translation>
+    </message>
+    <message>
+        <source>Still picture…</source>
+        <translation>Gambar diam…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Tutup</translation>
+    </message>
+    <message>
+        <source>Writes the frame under the play head</source>
+        <translation>Menulis bingkai di bawah penanda putar</translation>
+    </message>
+    <message>
+        <source>The project cannot be copied.</source>
+        <translation>Proyek tidak dapat disalin.</translation>
+    </message>
+    <message>
+        <source>Still picture</source>
+        <translation>Gambar diam</translation>
+    </message>
+    <message>
+        <source>/frame %1.png</source>
+        <translation>/bingkai %1.png</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
+        <translation>Gambar (*.png *.jpg *.tif *.bmp)</translation>
+    </message>
+</context>
+<context>
     <name>ExportJob</name>
     <message>
         <source>There is no preset &quot;%1&quot;.</source>
@@ -273,6 +1001,105 @@
     <message>
         <source>%1 is not written; the log tells why.</source>
         <translation>%1 tidak ditulis; log menjelaskan alasannya.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportQueue</name>
+    <message>
+        <source>%1 is not written</source>
+        <translation>%1 tidak ditulis</translation>
+    </message>
+</context>
+<context>
+    <name>ExportQueueView</name>
+    <message>
+        <source>No films yet</source>
+        <translation>Belum ada film</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Menunggu</translation>
+    </message>
+    <message>
+        <source>Being written</source>
+        <translation>Sedang ditulis</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>Tersisa %1</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>Telah ditulis</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Dibatalkan</translation>
+    </message>
+    <message>
+        <source>Take from the list</source>
+        <translation>Keluarkan dari daftar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Batal</translation>
+    </message>
+</context>
+<context>
+    <name>FileCommands</name>
+    <message>
+        <source>Projects</source>
+        <translation>Proyek</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Baru</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Buka…</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Simpan</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Simpan sebagai…</translation>
+    </message>
+    <message>
+        <source>Open recent</source>
+        <translation>Buka yang terbaru</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Tanpa judul</translation>
+    </message>
+    <message>
+        <source>Save changes</source>
+        <translation>Simpan perubahan</translation>
+    </message>
+    <message>
+        <source>The project has changes that are not saved.</source>
+        <translation>Proyek memiliki perubahan yang belum disimpan.</translation>
+    </message>
+</context>
+<context>
+    <name>FileEditor</name>
+    <message>
+        <source>No file</source>
+        <translation>Tidak ada berkas</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>Pilih berkas</translation>
+    </message>
+</context>
+<context>
+    <name>FontEditor</name>
+    <message>
+        <source>System font</source>
+        <translation>Fon sistem</translation>
     </message>
 </context>
 <context>
@@ -519,6 +1346,44 @@
     </message>
 </context>
 <context>
+    <name>KeyFrameBar</name>
+    <message>
+        <source>Previous key frame</source>
+        <translation>Bingkai kunci sebelumnya</translation>
+    </message>
+    <message>
+        <source>Key frame</source>
+        <translation>Bingkai kunci</translation>
+    </message>
+    <message>
+        <source>Next key frame</source>
+        <translation>Bingkai kunci berikutnya</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Tahan</translation>
+    </message>
+    <message>
+        <source>Linear</source>
+        <translation>Linear</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Halus</translation>
+    </message>
+    <message>
+        <source>To the next key frame</source>
+        <translation>Hingga bingkai kunci berikutnya</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>Language</source>
+        <translation>Bahasa</translation>
+    </message>
+</context>
+<context>
     <name>LanguagePage</name>
     <message>
         <source>Import media…</source>
@@ -584,10 +1449,67 @@
     </message>
 </context>
 <context>
+    <name>LevelHeader</name>
+    <message>
+        <source>Level %1</source>
+        <translation>Trek %1</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Kunci</translation>
+    </message>
+    <message>
+        <source>Lock %1</source>
+        <translation>Kunci %1</translation>
+    </message>
+</context>
+<context>
     <name>LevelMeter</name>
     <message>
         <source>Level meter</source>
         <translation>Pengukur level</translation>
+    </message>
+</context>
+<context>
+    <name>LogView</name>
+    <message>
+        <source>Log</source>
+        <translation>Log</translation>
+    </message>
+</context>
+<context>
+    <name>MediaBin</name>
+    <message>
+        <source>Add media</source>
+        <translation>Tambah media</translation>
+    </message>
+    <message>
+        <source>Remove media</source>
+        <translation>Hapus media</translation>
+    </message>
+    <message>
+        <source>Relink media</source>
+        <translation>Tautkan ulang media</translation>
+    </message>
+    <message>
+        <source>Use the media itself</source>
+        <translation>Gunakan media asli</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Gunakan proksi</translation>
+    </message>
+    <message>
+        <source>Set in and out point</source>
+        <translation>Tetapkan titik masuk dan keluar</translation>
+    </message>
+    <message>
+        <source>Clear in and out point</source>
+        <translation>Hapus titik masuk dan keluar</translation>
+    </message>
+    <message>
+        <source>Place a clip</source>
+        <translation>Tempatkan klip</translation>
     </message>
 </context>
 <context>
@@ -729,6 +1651,99 @@
     </message>
 </context>
 <context>
+    <name>MovementKeys</name>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Rotasi</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Shift right</source>
+        <translation>Geser ke kanan</translation>
+    </message>
+    <message>
+        <source>Shift up</source>
+        <translation>Geser ke atas</translation>
+    </message>
+    <message>
+        <source>Width factor</source>
+        <translation>Faktor lebar</translation>
+    </message>
+    <message>
+        <source>Height factor</source>
+        <translation>Faktor tinggi</translation>
+    </message>
+    <message>
+        <source>Opacity factor</source>
+        <translation>Faktor opasitas</translation>
+    </message>
+</context>
+<context>
+    <name>MovementSection</name>
+    <message>
+        <source>Movement</source>
+        <translation>Gerakan</translation>
+    </message>
+    <message>
+        <source>Key frame</source>
+        <translation>Bingkai kunci</translation>
+    </message>
+    <message>
+        <source>Change movement</source>
+        <translation>Ubah gerakan</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterFields</name>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source> EV</source>
+        <translation> EV</translation>
+    </message>
+    <message>
+        <source> dB</source>
+        <translation> dB</translation>
+    </message>
+    <message>
+        <source> fr</source>
+        <translation> bingkai</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> dtk</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Hz</translation>
+    </message>
+    <message>
+        <source> K</source>
+        <translation> K</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> md</translation>
+    </message>
+</context>
+<context>
     <name>PictureView</name>
     <message>
         <source>Picture</source>
@@ -811,6 +1826,261 @@
     </message>
 </context>
 <context>
+    <name>PlayerPanel</name>
+    <message>
+        <source>Play or pause</source>
+        <translation>Putar atau jeda</translation>
+    </message>
+    <message>
+        <source>Play backwards</source>
+        <translation>Putar mundur</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Berhenti</translation>
+    </message>
+    <message>
+        <source>Play forwards</source>
+        <translation>Putar maju</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Ulangi</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>Mundur satu bingkai</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>Maju satu bingkai</translation>
+    </message>
+    <message>
+        <source>Go to beginning</source>
+        <translation>Ke awal</translation>
+    </message>
+    <message>
+        <source>Go to end</source>
+        <translation>Ke akhir</translation>
+    </message>
+    <message>
+        <source>Set in point</source>
+        <translation>Tetapkan titik masuk</translation>
+    </message>
+    <message>
+        <source>Set out point</source>
+        <translation>Tetapkan titik keluar</translation>
+    </message>
+    <message>
+        <source>Clear in and out point</source>
+        <translation>Hapus titik masuk dan keluar</translation>
+    </message>
+    <message>
+        <source>Go to in point</source>
+        <translation>Ke titik masuk</translation>
+    </message>
+    <message>
+        <source>Go to out point</source>
+        <translation>Ke titik keluar</translation>
+    </message>
+    <message>
+        <source>Set or remove marker</source>
+        <translation>Pasang atau hapus penanda</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Bisukan</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>Area aman</translation>
+    </message>
+    <message>
+        <source>Picture on full screen</source>
+        <translation>Gambar layar penuh</translation>
+    </message>
+    <message>
+        <source>Timecode of the play head</source>
+        <translation>Kode waktu penanda putar</translation>
+    </message>
+    <message>
+        <source>Play head</source>
+        <translation>Penanda putar</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+</context>
+<context>
+    <name>Project</name>
+    <message>
+        <source>The project cannot be made</source>
+        <translation>Proyek tidak dapat dibuat</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>%1 tidak dapat dibuka</translation>
+    </message>
+    <message>
+        <source>%1 cannot be saved</source>
+        <translation>%1 tidak dapat disimpan</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectFields</name>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Laju bingkai</translation>
+    </message>
+    <message>
+        <source> fps</source>
+        <translation> fps</translation>
+    </message>
+    <message>
+        <source>Preview scale</source>
+        <translation>Skala pratinjau</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Latar belakang</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Lebar</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Tinggi</translation>
+    </message>
+    <message>
+        <source>Sample rate</source>
+        <translation>Laju sampel</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Hz</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>Bits of a colour</source>
+        <translation>Bit per warna</translation>
+    </message>
+    <message>
+        <source>Smooth scaling</source>
+        <translation>Penskalaan halus</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>Keseimbangan</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Bisukan</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>Solo</translation>
+    </message>
+</context>
+<context>
+    <name>PropertiesPanel</name>
+    <message>
+        <source>Properties</source>
+        <translation>Properti</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Proyek</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Judul</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Warna</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Klip</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Penggambaran</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Efek</translation>
+    </message>
+    <message>
+        <source>Add title</source>
+        <translation>Tambah judul</translation>
+    </message>
+    <message>
+        <source>Mixer, level %1</source>
+        <translation>Mixer, trek %1</translation>
+    </message>
+    <message>
+        <source>Transition</source>
+        <translation>Transisi</translation>
+    </message>
+    <message>
+        <source>Placement</source>
+        <translation>Penempatan</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>Pencampuran</translation>
+    </message>
+    <message>
+        <source>Movement</source>
+        <translation>Gerakan</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Kecepatan</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Suara</translation>
+    </message>
+    <message>
+        <source>Transitions</source>
+        <translation>Transisi</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyForm</name>
+    <message>
+        <source>Back to the preset</source>
+        <translation>Kembalikan ke nilai bawaan</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>Ubah %1</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -827,6 +2097,21 @@
     <message>
         <source>Zoom in</source>
         <translation>Perbesar</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutList</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Pintasan papan ketik</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Perintah</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tombol</translation>
     </message>
 </context>
 <context>
@@ -881,10 +2166,322 @@
     </message>
 </context>
 <context>
+    <name>SpeedSection</name>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Kecepatan</translation>
+    </message>
+    <message>
+        <source>Back to the preset</source>
+        <translation>Kembalikan ke nilai bawaan</translation>
+    </message>
+</context>
+<context>
+    <name>StillPicture</name>
+    <message>
+        <source>The frame cannot be drawn</source>
+        <translation>Bingkai tidak dapat digambar</translation>
+    </message>
+    <message>
+        <source>%1 is not written: %2</source>
+        <translation>%1 tidak ditulis: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Timeline</name>
+    <message>
+        <source>Colour</source>
+        <translation>Warna</translation>
+    </message>
+    <message>
+        <source>Composite</source>
+        <translation>Klip gabungan</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Pindahkan</translation>
+    </message>
+    <message>
+        <source>Snap</source>
+        <translation>Lekatkan</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Roll</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Pangkas</translation>
+    </message>
+    <message>
+        <source>Slip</source>
+        <translation>Slip</translation>
+    </message>
+    <message>
+        <source>Slide</source>
+        <translation>Slide</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Potong</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Salin</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Tempel</translation>
+    </message>
+    <message>
+        <source>Paste insert</source>
+        <translation>Tempel sisipkan</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Hapus</translation>
+    </message>
+    <message>
+        <source>Ripple delete</source>
+        <translation>Hapus ripple</translation>
+    </message>
+    <message>
+        <source>Split at play head</source>
+        <translation>Pisah di penanda putar</translation>
+    </message>
+    <message>
+        <source>Trim begin to play head</source>
+        <translation>Pangkas awal ke penanda putar</translation>
+    </message>
+    <message>
+        <source>Trim end to play head</source>
+        <translation>Pangkas akhir ke penanda putar</translation>
+    </message>
+    <message>
+        <source>Close gap at play head</source>
+        <translation>Tutup celah di penanda putar</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Kelompokkan</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>Lepas kelompok</translation>
+    </message>
+    <message>
+        <source>Lock or unlock level</source>
+        <translation>Kunci atau buka kunci trek</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Pilih semua</translation>
+    </message>
+    <message>
+        <source>Select at play head</source>
+        <translation>Pilih di penanda putar</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>Batalkan pilihan</translation>
+    </message>
+    <message>
+        <source>Frame earlier</source>
+        <translation>Satu bingkai lebih awal</translation>
+    </message>
+    <message>
+        <source>Frame later</source>
+        <translation>Satu bingkai lebih akhir</translation>
+    </message>
+    <message>
+        <source>Second earlier</source>
+        <translation>Satu detik lebih awal</translation>
+    </message>
+    <message>
+        <source>Second later</source>
+        <translation>Satu detik lebih akhir</translation>
+    </message>
+    <message>
+        <source>Level up</source>
+        <translation>Naik satu trek</translation>
+    </message>
+    <message>
+        <source>Level down</source>
+        <translation>Turun satu trek</translation>
+    </message>
+    <message>
+        <source>Previous cut</source>
+        <translation>Potongan sebelumnya</translation>
+    </message>
+    <message>
+        <source>Next cut</source>
+        <translation>Potongan berikutnya</translation>
+    </message>
+    <message>
+        <source>Selection tool</source>
+        <translation>Alat pilih</translation>
+    </message>
+    <message>
+        <source>Ripple tool</source>
+        <translation>Alat ripple</translation>
+    </message>
+    <message>
+        <source>Roll tool</source>
+        <translation>Alat roll</translation>
+    </message>
+    <message>
+        <source>Slip tool</source>
+        <translation>Alat slip</translation>
+    </message>
+    <message>
+        <source>Slide tool</source>
+        <translation>Alat slide</translation>
+    </message>
+    <message>
+        <source>Razor tool</source>
+        <translation>Alat silet</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Perbesar</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Perkecil</translation>
+    </message>
+    <message>
+        <source>Fit to window</source>
+        <translation>Paskan ke jendela</translation>
+    </message>
+    <message>
+        <source>Taller levels</source>
+        <translation>Pertinggi trek</translation>
+    </message>
+    <message>
+        <source>Lower levels</source>
+        <translation>Perpendek trek</translation>
+    </message>
+    <message>
+        <source>Ripple trim</source>
+        <translation>Pangkas ripple</translation>
+    </message>
+</context>
+<context>
+    <name>TimelineCommands</name>
+    <message>
+        <source>Split</source>
+        <translation>Pisah</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Hapus</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Potong</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Tempel</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Kelompokkan</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>Lepas kelompok</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Pindahkan</translation>
+    </message>
+    <message>
+        <source>Ripple delete</source>
+        <translation>Hapus ripple</translation>
+    </message>
+    <message>
+        <source>Paste insert</source>
+        <translation>Tempel sisipkan</translation>
+    </message>
+    <message>
+        <source>Close gap</source>
+        <translation>Tutup celah</translation>
+    </message>
+    <message>
+        <source>Lock level</source>
+        <translation>Kunci trek</translation>
+    </message>
+    <message>
+        <source>Unlock level</source>
+        <translation>Buka kunci trek</translation>
+    </message>
+</context>
+<context>
+    <name>TimelinePanel</name>
+    <message>
+        <source>Timeline</source>
+        <translation>Linimasa</translation>
+    </message>
+    <message>
+        <source>Play head</source>
+        <translation>Penanda putar</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Klip</translation>
+    </message>
+    <message>
+        <source>%1, level %2, frames %3 to %4</source>
+        <translation>%1, trek %2, bingkai %3 hingga %4</translation>
+    </message>
+</context>
+<context>
     <name>TimelineRuler</name>
     <message>
         <source>Ruler</source>
         <translation>Penggaris</translation>
+    </message>
+</context>
+<context>
+    <name>TimelineView</name>
+    <message>
+        <source>Split</source>
+        <translation>Pisah</translation>
+    </message>
+    <message>
+        <source>Insert media</source>
+        <translation>Sisipkan media</translation>
+    </message>
+    <message>
+        <source>Add media</source>
+        <translation>Tambah media</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionSection</name>
+    <message>
+        <source>At the beginning</source>
+        <translation>Di awal</translation>
+    </message>
+    <message>
+        <source>At the end</source>
+        <translation>Di akhir</translation>
+    </message>
+</context>
+<context>
+    <name>Transport</name>
+    <message>
+        <source>Remove marker</source>
+        <translation>Hapus penanda</translation>
+    </message>
+    <message>
+        <source>Set marker</source>
+        <translation>Pasang penanda</translation>
     </message>
 </context>
 </TS>

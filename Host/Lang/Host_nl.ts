@@ -2,6 +2,236 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl_NL" sourcelanguage="en_US">
 <context>
+    <name>AboutBox</name>
+    <message>
+        <source>Product: %1</source>
+        <translation>Product: %1</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Over</translation>
+    </message>
+    <message>
+        <source>A small editor that shows what the library does.</source>
+        <translation>Een kleine editor die laat zien wat de bibliotheek kan.</translation>
+    </message>
+</context>
+<context>
+    <name>BinCommands</name>
+    <message>
+        <source>Files…</source>
+        <translation>Bestanden…</translation>
+    </message>
+    <message>
+        <source>Folder…</source>
+        <translation>Map…</translation>
+    </message>
+    <message>
+        <source>From a device…</source>
+        <translation>Van een apparaat…</translation>
+    </message>
+    <message>
+        <source>Place at the play head</source>
+        <translation>Bij de afspeelkop plaatsen</translation>
+    </message>
+    <message>
+        <source>Set in point</source>
+        <translation>In-punt instellen</translation>
+    </message>
+    <message>
+        <source>Set out point</source>
+        <translation>Uit-punt instellen</translation>
+    </message>
+    <message>
+        <source>Clear in and out point</source>
+        <translation>In- en uit-punt wissen</translation>
+    </message>
+    <message>
+        <source>Make a proxy</source>
+        <translation>Proxy maken</translation>
+    </message>
+    <message>
+        <source>Cancel the proxy</source>
+        <translation>Maken van proxy annuleren</translation>
+    </message>
+    <message>
+        <source>Use the proxy</source>
+        <translation>Proxy gebruiken</translation>
+    </message>
+    <message>
+        <source>Locate…</source>
+        <translation>Bestand zoeken…</translation>
+    </message>
+    <message>
+        <source>Search a folder for offline media…</source>
+        <translation>Map doorzoeken naar offline media…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Remove all unused</source>
+        <translation>Alle ongebruikte verwijderen</translation>
+    </message>
+    <message>
+        <source>Add media</source>
+        <translation>Media toevoegen</translation>
+    </message>
+    <message>
+        <source>Add a folder</source>
+        <translation>Map toevoegen</translation>
+    </message>
+    <message>
+        <source>Import from a device</source>
+        <translation>Importeren van een apparaat</translation>
+    </message>
+    <message>
+        <source>None of the files was found.</source>
+        <translation>Geen van de bestanden is gevonden.</translation>
+    </message>
+    <message>
+        <source>The files that were found cannot be read.</source>
+        <translation>De gevonden bestanden kunnen niet worden gelezen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) found.</source>
+        <translation>
+            <numerusform>%n bestand gevonden.</numerusform>
+            <numerusform>%n bestanden gevonden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Where is %1?</source>
+        <translation>Waar is %1?</translation>
+    </message>
+    <message>
+        <source>%1 (%1);;All files (*)</source>
+        <translation>%1 (%1);;Alle bestanden (*)</translation>
+    </message>
+    <message>
+        <source>Folder with the media</source>
+        <translation>Map met de media</translation>
+    </message>
+</context>
+<context>
+    <name>BinDelegate</name>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+</context>
+<context>
+    <name>BinModel</name>
+    <message>
+        <source>in %1, out %2</source>
+        <translation>in %1, uit %2</translation>
+    </message>
+    <message>
+        <source>proxy: %1 %</source>
+        <translation>proxy: %1%</translation>
+    </message>
+    <message>
+        <source>proxy: in use</source>
+        <translation>proxy: in gebruik</translation>
+    </message>
+    <message>
+        <source>proxy: not in use</source>
+        <translation>proxy: niet in gebruik</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Lezen…</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Offline</translation>
+    </message>
+    <message>
+        <source>Cannot be read</source>
+        <translation>Kan niet worden gelezen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clip(s) on the timeline</source>
+        <translation>
+            <numerusform>%n clip op de tijdlijn</numerusform>
+            <numerusform>%n clips op de tijdlijn</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not on the timeline</source>
+        <translation>niet op de tijdlijn</translation>
+    </message>
+</context>
+<context>
+    <name>BinPanel</name>
+    <message>
+        <source>Search</source>
+        <translation>Zoeken</translation>
+    </message>
+    <message>
+        <source>Search the media</source>
+        <translation>Media doorzoeken</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Lijst</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Toevoegen…</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Drop media here, or add files and folders.</source>
+        <translation>Sleep media hierheen of voeg bestanden en mappen toe.</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Niets gevonden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) selected</source>
+        <translation>
+            <numerusform>%n bestand geselecteerd</numerusform>
+            <numerusform>%n bestanden geselecteerd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reading %n file(s)…</source>
+        <translation>
+            <numerusform>%n bestand wordt gelezen…</numerusform>
+            <numerusform>%n bestanden worden gelezen…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be read as media.</source>
+        <translation>%1 kan niet als media worden gelezen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more cannot be read as media.</source>
+        <translation>
+            <numerusform>%1 en nog %n bestand kunnen niet als media worden gelezen.</numerusform>
+            <numerusform>%1 en nog %n bestanden kunnen niet als media worden gelezen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No proxy of %1: %2</source>
+        <translation>Geen proxy van %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>ButtonPage</name>
     <message>
         <source>Buttons</source>
@@ -118,6 +348,196 @@
     <message>
         <source>for a language from left to right</source>
         <translation>voor een taal van links naar rechts</translation>
+    </message>
+</context>
+<context>
+    <name>ClipActions</name>
+    <message>
+        <source>Add transition</source>
+        <translation>Overgang toevoegen</translation>
+    </message>
+    <message>
+        <source>Add title</source>
+        <translation>Titel toevoegen</translation>
+    </message>
+    <message>
+        <source>Change speed</source>
+        <translation>Snelheid wijzigen</translation>
+    </message>
+    <message>
+        <source>Add effect</source>
+        <translation>Effect toevoegen</translation>
+    </message>
+    <message>
+        <source>Remove effect</source>
+        <translation>Effect verwijderen</translation>
+    </message>
+    <message>
+        <source>Move effect</source>
+        <translation>Effect verplaatsen</translation>
+    </message>
+    <message>
+        <source>Switch effect</source>
+        <translation>Effect in- of uitschakelen</translation>
+    </message>
+</context>
+<context>
+    <name>ClipFields</name>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Passend maken</translation>
+    </message>
+    <message>
+        <source>Whole picture</source>
+        <translation>Hele beeld</translation>
+    </message>
+    <message>
+        <source>Whole frame</source>
+        <translation>Hele kader</translation>
+    </message>
+    <message>
+        <source>Stretched</source>
+        <translation>Uitgerekt</translation>
+    </message>
+    <message>
+        <source>Pixel for pixel</source>
+        <translation>Pixel voor pixel</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Dekking</translation>
+    </message>
+    <message>
+        <source> fr</source>
+        <translation> fr</translation>
+    </message>
+    <message>
+        <source>Noise reduction</source>
+        <translation>Ruisonderdrukking</translation>
+    </message>
+    <message>
+        <source> dB</source>
+        <translation> dB</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotatie</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Centre X</source>
+        <translation>Midden X</translation>
+    </message>
+    <message>
+        <source>Centre Y</source>
+        <translation>Midden Y</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breedte</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hoogte</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modus</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normaal</translation>
+    </message>
+    <message>
+        <source>Multiply</source>
+        <translation>Vermenigvuldigen</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Bleken</translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation>Bedekken</translation>
+    </message>
+    <message>
+        <source>Darken</source>
+        <translation>Donkerder</translation>
+    </message>
+    <message>
+        <source>Lighten</source>
+        <translation>Lichter</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Optellen</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Verschil</translation>
+    </message>
+    <message>
+        <source>Colour dodge</source>
+        <translation>Kleur tegenhouden</translation>
+    </message>
+    <message>
+        <source>Colour burn</source>
+        <translation>Kleur doordrukken</translation>
+    </message>
+    <message>
+        <source>Hard light</source>
+        <translation>Fel licht</translation>
+    </message>
+    <message>
+        <source>Soft light</source>
+        <translation>Zwak licht</translation>
+    </message>
+    <message>
+        <source>Exclusion</source>
+        <translation>Uitsluiting</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>Balans</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>Toonhoogte</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Dempen</translation>
+    </message>
+    <message>
+        <source>Fade in</source>
+        <translation>Infaden</translation>
+    </message>
+    <message>
+        <source>Fade out</source>
+        <translation>Uitfaden</translation>
+    </message>
+    <message>
+        <source>Mono</source>
+        <translation>Mono</translation>
+    </message>
+    <message>
+        <source> st</source>
+        <translation> ht</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Kleur</translation>
     </message>
 </context>
 <context>
@@ -257,6 +677,320 @@
     </message>
 </context>
 <context>
+    <name>Editor</name>
+    <message>
+        <source>A small editor.</source>
+        <translation>Een kleine editor.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the window to &lt;file&gt;.</source>
+        <translation>Schrijf een afbeelding van het venster naar &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>A project to open, and media for the bin.</source>
+        <translation>Een te openen project en media voor de bin.</translation>
+    </message>
+    <message>
+        <source>The engine is missing.</source>
+        <translation>De engine ontbreekt.</translation>
+    </message>
+    <message>
+        <source>Make a small film of the media by itself, and put pictures, the film and a report into &lt;folder&gt;.</source>
+        <translation>Zelfstandig een kleine film van de media maken en beelden, de film en een verslag in &lt;map&gt; zetten.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorWindow</name>
+    <message>
+        <source>Media</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschappen</translation>
+    </message>
+    <message>
+        <source>Timeline</source>
+        <translation>Tijdlijn</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Logboek</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Bestand</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporteren…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Afsluiten</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Opnieuw</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>Be&amp;werken</translation>
+    </message>
+    <message>
+        <source>Lift from in to out point</source>
+        <translation>Van in- tot uit-punt uitlichten</translation>
+    </message>
+    <message>
+        <source>Lift</source>
+        <translation>Uitlichten</translation>
+    </message>
+    <message>
+        <source>Extract from in to out point</source>
+        <translation>Van in- tot uit-punt extraheren</translation>
+    </message>
+    <message>
+        <source>Extract</source>
+        <translation>Extraheren</translation>
+    </message>
+    <message>
+        <source>&amp;Media</source>
+        <translation>&amp;Media</translation>
+    </message>
+    <message>
+        <source>&amp;Timeline</source>
+        <translation>&amp;Tijdlijn</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Afspelen</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>Weer&amp;gave</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Sneltoetsen</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Over</translation>
+    </message>
+    <message>
+        <source>Tool bar</source>
+        <translation>Werkbalk</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Naamloos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n remark(s) on the file, in the log</source>
+        <translation>
+            <numerusform>%n opmerking over het bestand, in het logboek</numerusform>
+            <numerusform>%n opmerkingen over het bestand, in het logboek</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Set an in and an out point first.</source>
+        <translation>Stel eerst een in- en een uit-punt in.</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>Herstel</translation>
+    </message>
+    <message>
+        <source>The editor has ended unexpectedly. Changes of %1 until %2 can be opened.</source>
+        <translation>De editor is onverwacht beëindigd. Wijzigingen in %1 tot %2 kunnen worden geopend.</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exporteren</translation>
+    </message>
+    <message>
+        <source>Films are being written. End that?</source>
+        <translation>Er worden films geschreven. Wilt u dat stoppen?</translation>
+    </message>
+    <message>
+        <source>Render the preview, or stop it</source>
+        <translation>Voorbeeld renderen of stoppen</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to.</source>
+        <translation>In %1 kan niet worden geschreven.</translation>
+    </message>
+</context>
+<context>
+    <name>EffectsSection</name>
+    <message>
+        <source>Add effect</source>
+        <translation>Effect toevoegen</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Beeld</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Geluid</translation>
+    </message>
+    <message>
+        <source>Apply earlier</source>
+        <translation>Eerder toepassen</translation>
+    </message>
+    <message>
+        <source>Apply later</source>
+        <translation>Later toepassen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+</context>
+<context>
+    <name>ExportCheck</name>
+    <message>
+        <source>This cannot be combined</source>
+        <translation>Dit kan niet worden gecombineerd</translation>
+    </message>
+    <message>
+        <source>There is no such preset.</source>
+        <translation>Deze voorinstelling bestaat niet.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>The processor encodes and decodes.</source>
+        <translation>De processor codeert en decodeert.</translation>
+    </message>
+    <message>
+        <source>The processor encodes; the graphics hardware helps to decode.</source>
+        <translation>De processor codeert; de grafische hardware helpt bij het decoderen.</translation>
+    </message>
+    <message>
+        <source>Add to the queue</source>
+        <translation>Aan wachtrij toevoegen</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exporteren</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Films</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>Voorinstelling</translation>
+    </message>
+    <message>
+        <source>film</source>
+        <translation>film</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>Bestand kiezen</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Bestand</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breedte</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hoogte</translation>
+    </message>
+    <message>
+        <source>As the project</source>
+        <translation>Zoals het project</translation>
+    </message>
+    <message>
+        <source>%1 fps</source>
+        <translation>%1 fps</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Grootte</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Framesnelheid</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Geluid</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alles</translation>
+    </message>
+    <message>
+        <source>From in to out</source>
+        <translation>Van in tot uit</translation>
+    </message>
+    <message>
+        <source>In point</source>
+        <translation>In-punt</translation>
+    </message>
+    <message>
+        <source>Out point</source>
+        <translation>Uit-punt</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Bereik</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>Hardware</translation>
+    </message>
+    <message>
+        <source>Still picture…</source>
+        <translation>Stilstaand beeld…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Writes the frame under the play head</source>
+        <translation>Schrijft het frame bij de afspeelkop</translation>
+    </message>
+    <message>
+        <source>The project cannot be copied.</source>
+        <translation>Het project kan niet worden gekopieerd.</translation>
+    </message>
+    <message>
+        <source>Still picture</source>
+        <translation>Stilstaand beeld</translation>
+    </message>
+    <message>
+        <source>/frame %1.png</source>
+        <translation>/frame %1.png</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
+        <translation>Afbeeldingen (*.png *.jpg *.tif *.bmp)</translation>
+    </message>
+</context>
+<context>
     <name>ExportJob</name>
     <message>
         <source>There is no preset &quot;%1&quot;.</source>
@@ -273,6 +1007,105 @@
     <message>
         <source>%1 is not written; the log tells why.</source>
         <translation>%1 wordt niet geschreven; het logboek vertelt waarom.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportQueue</name>
+    <message>
+        <source>%1 is not written</source>
+        <translation>%1 wordt niet geschreven</translation>
+    </message>
+</context>
+<context>
+    <name>ExportQueueView</name>
+    <message>
+        <source>No films yet</source>
+        <translation>Nog geen films</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Wacht</translation>
+    </message>
+    <message>
+        <source>Being written</source>
+        <translation>Wordt geschreven</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>nog %1</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>Geschreven</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Geannuleerd</translation>
+    </message>
+    <message>
+        <source>Take from the list</source>
+        <translation>Uit de lijst halen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>FileCommands</name>
+    <message>
+        <source>Projects</source>
+        <translation>Projecten</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nieuw</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Openen…</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Opslaan als…</translation>
+    </message>
+    <message>
+        <source>Open recent</source>
+        <translation>Recente openen</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Naamloos</translation>
+    </message>
+    <message>
+        <source>Save changes</source>
+        <translation>Wijzigingen opslaan</translation>
+    </message>
+    <message>
+        <source>The project has changes that are not saved.</source>
+        <translation>Het project bevat niet-opgeslagen wijzigingen.</translation>
+    </message>
+</context>
+<context>
+    <name>FileEditor</name>
+    <message>
+        <source>No file</source>
+        <translation>Geen bestand</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>Bestand kiezen</translation>
+    </message>
+</context>
+<context>
+    <name>FontEditor</name>
+    <message>
+        <source>System font</source>
+        <translation>Systeemlettertype</translation>
     </message>
 </context>
 <context>
@@ -519,6 +1352,44 @@
     </message>
 </context>
 <context>
+    <name>KeyFrameBar</name>
+    <message>
+        <source>Previous key frame</source>
+        <translation>Vorig keyframe</translation>
+    </message>
+    <message>
+        <source>Key frame</source>
+        <translation>Keyframe</translation>
+    </message>
+    <message>
+        <source>Next key frame</source>
+        <translation>Volgend keyframe</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Vasthouden</translation>
+    </message>
+    <message>
+        <source>Linear</source>
+        <translation>Lineair</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Vloeiend</translation>
+    </message>
+    <message>
+        <source>To the next key frame</source>
+        <translation>Tot het volgende keyframe</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>Language</source>
+        <translation>Taal</translation>
+    </message>
+</context>
+<context>
     <name>LanguagePage</name>
     <message>
         <source>Import media…</source>
@@ -585,10 +1456,67 @@
     </message>
 </context>
 <context>
+    <name>LevelHeader</name>
+    <message>
+        <source>Level %1</source>
+        <translation>Spoor %1</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Vergrendelen</translation>
+    </message>
+    <message>
+        <source>Lock %1</source>
+        <translation>%1 vergrendelen</translation>
+    </message>
+</context>
+<context>
     <name>LevelMeter</name>
     <message>
         <source>Level meter</source>
         <translation>Niveaumeter</translation>
+    </message>
+</context>
+<context>
+    <name>LogView</name>
+    <message>
+        <source>Log</source>
+        <translation>Logboek</translation>
+    </message>
+</context>
+<context>
+    <name>MediaBin</name>
+    <message>
+        <source>Add media</source>
+        <translation>Media toevoegen</translation>
+    </message>
+    <message>
+        <source>Remove media</source>
+        <translation>Media verwijderen</translation>
+    </message>
+    <message>
+        <source>Relink media</source>
+        <translation>Media opnieuw koppelen</translation>
+    </message>
+    <message>
+        <source>Use the media itself</source>
+        <translation>De media zelf gebruiken</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Proxy gebruiken</translation>
+    </message>
+    <message>
+        <source>Set in and out point</source>
+        <translation>In- en uit-punt instellen</translation>
+    </message>
+    <message>
+        <source>Clear in and out point</source>
+        <translation>In- en uit-punt wissen</translation>
+    </message>
+    <message>
+        <source>Place a clip</source>
+        <translation>Clip plaatsen</translation>
     </message>
 </context>
 <context>
@@ -732,6 +1660,99 @@
     </message>
 </context>
 <context>
+    <name>MovementKeys</name>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Draaiing</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Shift right</source>
+        <translation>Verschuiving naar rechts</translation>
+    </message>
+    <message>
+        <source>Shift up</source>
+        <translation>Verschuiving omhoog</translation>
+    </message>
+    <message>
+        <source>Width factor</source>
+        <translation>Breedtefactor</translation>
+    </message>
+    <message>
+        <source>Height factor</source>
+        <translation>Hoogtefactor</translation>
+    </message>
+    <message>
+        <source>Opacity factor</source>
+        <translation>Dekkingsfactor</translation>
+    </message>
+</context>
+<context>
+    <name>MovementSection</name>
+    <message>
+        <source>Movement</source>
+        <translation>Beweging</translation>
+    </message>
+    <message>
+        <source>Key frame</source>
+        <translation>Keyframe</translation>
+    </message>
+    <message>
+        <source>Change movement</source>
+        <translation>Beweging wijzigen</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterFields</name>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source> EV</source>
+        <translation> EV</translation>
+    </message>
+    <message>
+        <source> dB</source>
+        <translation> dB</translation>
+    </message>
+    <message>
+        <source> fr</source>
+        <translation> fr</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Hz</translation>
+    </message>
+    <message>
+        <source> K</source>
+        <translation> K</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+</context>
+<context>
     <name>PictureView</name>
     <message>
         <source>Picture</source>
@@ -814,6 +1835,261 @@
     </message>
 </context>
 <context>
+    <name>PlayerPanel</name>
+    <message>
+        <source>Play or pause</source>
+        <translation>Afspelen of pauzeren</translation>
+    </message>
+    <message>
+        <source>Play backwards</source>
+        <translation>Achteruit afspelen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <source>Play forwards</source>
+        <translation>Vooruit afspelen</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Herhalen</translation>
+    </message>
+    <message>
+        <source>Back one frame</source>
+        <translation>Eén frame terug</translation>
+    </message>
+    <message>
+        <source>Forward one frame</source>
+        <translation>Eén frame vooruit</translation>
+    </message>
+    <message>
+        <source>Go to beginning</source>
+        <translation>Naar het begin</translation>
+    </message>
+    <message>
+        <source>Go to end</source>
+        <translation>Naar het einde</translation>
+    </message>
+    <message>
+        <source>Set in point</source>
+        <translation>In-punt instellen</translation>
+    </message>
+    <message>
+        <source>Set out point</source>
+        <translation>Uit-punt instellen</translation>
+    </message>
+    <message>
+        <source>Clear in and out point</source>
+        <translation>In- en uit-punt wissen</translation>
+    </message>
+    <message>
+        <source>Go to in point</source>
+        <translation>Naar in-punt</translation>
+    </message>
+    <message>
+        <source>Go to out point</source>
+        <translation>Naar uit-punt</translation>
+    </message>
+    <message>
+        <source>Set or remove marker</source>
+        <translation>Markering plaatsen of verwijderen</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Dempen</translation>
+    </message>
+    <message>
+        <source>Safe areas</source>
+        <translation>Veilige zones</translation>
+    </message>
+    <message>
+        <source>Picture on full screen</source>
+        <translation>Beeld op volledig scherm</translation>
+    </message>
+    <message>
+        <source>Timecode of the play head</source>
+        <translation>Tijdcode van de afspeelkop</translation>
+    </message>
+    <message>
+        <source>Play head</source>
+        <translation>Afspeelkop</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+</context>
+<context>
+    <name>Project</name>
+    <message>
+        <source>The project cannot be made</source>
+        <translation>Het project kan niet worden gemaakt</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>%1 kan niet worden geopend</translation>
+    </message>
+    <message>
+        <source>%1 cannot be saved</source>
+        <translation>%1 kan niet worden opgeslagen</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectFields</name>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Framesnelheid</translation>
+    </message>
+    <message>
+        <source> fps</source>
+        <translation> fps</translation>
+    </message>
+    <message>
+        <source>Preview scale</source>
+        <translation>Schaal van voorbeeld</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Achtergrond</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breedte</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hoogte</translation>
+    </message>
+    <message>
+        <source>Sample rate</source>
+        <translation>Samplefrequentie</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Hz</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanalen</translation>
+    </message>
+    <message>
+        <source>Bits of a colour</source>
+        <translation>Bits per kleur</translation>
+    </message>
+    <message>
+        <source>Smooth scaling</source>
+        <translation>Vloeiend schalen</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>Balans</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Dempen</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>Solo</translation>
+    </message>
+</context>
+<context>
+    <name>PropertiesPanel</name>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschappen</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Project</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Kleur</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Clip</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Indeling</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Weergave</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Effecten</translation>
+    </message>
+    <message>
+        <source>Add title</source>
+        <translation>Titel toevoegen</translation>
+    </message>
+    <message>
+        <source>Mixer, level %1</source>
+        <translation>Mixer, spoor %1</translation>
+    </message>
+    <message>
+        <source>Transition</source>
+        <translation>Overgang</translation>
+    </message>
+    <message>
+        <source>Placement</source>
+        <translation>Plaatsing</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>Menging</translation>
+    </message>
+    <message>
+        <source>Movement</source>
+        <translation>Beweging</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Snelheid</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Geluid</translation>
+    </message>
+    <message>
+        <source>Transitions</source>
+        <translation>Overgangen</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyForm</name>
+    <message>
+        <source>Back to the preset</source>
+        <translation>Standaardwaarde herstellen</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>%1 wijzigen</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -830,6 +2106,21 @@
     <message>
         <source>Zoom in</source>
         <translation>Inzoomen</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutList</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Sneltoetsen</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Opdracht</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Toetsen</translation>
     </message>
 </context>
 <context>
@@ -884,10 +2175,322 @@
     </message>
 </context>
 <context>
+    <name>SpeedSection</name>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Snelheid</translation>
+    </message>
+    <message>
+        <source>Back to the preset</source>
+        <translation>Standaardwaarde herstellen</translation>
+    </message>
+</context>
+<context>
+    <name>StillPicture</name>
+    <message>
+        <source>The frame cannot be drawn</source>
+        <translation>Het frame kan niet worden getekend</translation>
+    </message>
+    <message>
+        <source>%1 is not written: %2</source>
+        <translation>%1 wordt niet geschreven: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Timeline</name>
+    <message>
+        <source>Colour</source>
+        <translation>Kleur</translation>
+    </message>
+    <message>
+        <source>Composite</source>
+        <translation>Samengestelde clip</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verplaatsen</translation>
+    </message>
+    <message>
+        <source>Snap</source>
+        <translation>Magnetisch</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Roll</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Trimmen</translation>
+    </message>
+    <message>
+        <source>Slip</source>
+        <translation>Slip</translation>
+    </message>
+    <message>
+        <source>Slide</source>
+        <translation>Slide</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Knippen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiëren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Plakken</translation>
+    </message>
+    <message>
+        <source>Paste insert</source>
+        <translation>Plakken en invoegen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Ripple delete</source>
+        <translation>Verwijderen en gat sluiten</translation>
+    </message>
+    <message>
+        <source>Split at play head</source>
+        <translation>Splitsen bij de afspeelkop</translation>
+    </message>
+    <message>
+        <source>Trim begin to play head</source>
+        <translation>Begin trimmen tot de afspeelkop</translation>
+    </message>
+    <message>
+        <source>Trim end to play head</source>
+        <translation>Einde trimmen tot de afspeelkop</translation>
+    </message>
+    <message>
+        <source>Close gap at play head</source>
+        <translation>Gat bij de afspeelkop sluiten</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groeperen</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>Groepering opheffen</translation>
+    </message>
+    <message>
+        <source>Lock or unlock level</source>
+        <translation>Spoor vergrendelen of ontgrendelen</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alles selecteren</translation>
+    </message>
+    <message>
+        <source>Select at play head</source>
+        <translation>Selecteren bij de afspeelkop</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>Niets selecteren</translation>
+    </message>
+    <message>
+        <source>Frame earlier</source>
+        <translation>Eén frame eerder</translation>
+    </message>
+    <message>
+        <source>Frame later</source>
+        <translation>Eén frame later</translation>
+    </message>
+    <message>
+        <source>Second earlier</source>
+        <translation>Eén seconde eerder</translation>
+    </message>
+    <message>
+        <source>Second later</source>
+        <translation>Eén seconde later</translation>
+    </message>
+    <message>
+        <source>Level up</source>
+        <translation>Eén spoor omhoog</translation>
+    </message>
+    <message>
+        <source>Level down</source>
+        <translation>Eén spoor omlaag</translation>
+    </message>
+    <message>
+        <source>Previous cut</source>
+        <translation>Vorig montagepunt</translation>
+    </message>
+    <message>
+        <source>Next cut</source>
+        <translation>Volgend montagepunt</translation>
+    </message>
+    <message>
+        <source>Selection tool</source>
+        <translation>Selectiegereedschap</translation>
+    </message>
+    <message>
+        <source>Ripple tool</source>
+        <translation>Ripple-gereedschap</translation>
+    </message>
+    <message>
+        <source>Roll tool</source>
+        <translation>Roll-gereedschap</translation>
+    </message>
+    <message>
+        <source>Slip tool</source>
+        <translation>Slip-gereedschap</translation>
+    </message>
+    <message>
+        <source>Slide tool</source>
+        <translation>Slide-gereedschap</translation>
+    </message>
+    <message>
+        <source>Razor tool</source>
+        <translation>Scheermes</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Inzoomen</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Uitzoomen</translation>
+    </message>
+    <message>
+        <source>Fit to window</source>
+        <translation>Passend in venster</translation>
+    </message>
+    <message>
+        <source>Taller levels</source>
+        <translation>Sporen hoger maken</translation>
+    </message>
+    <message>
+        <source>Lower levels</source>
+        <translation>Sporen lager maken</translation>
+    </message>
+    <message>
+        <source>Ripple trim</source>
+        <translation>Ripple-trimmen</translation>
+    </message>
+</context>
+<context>
+    <name>TimelineCommands</name>
+    <message>
+        <source>Split</source>
+        <translation>Splitsen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Knippen</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Plakken</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groeperen</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>Groepering opheffen</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verplaatsen</translation>
+    </message>
+    <message>
+        <source>Ripple delete</source>
+        <translation>Verwijderen en gat sluiten</translation>
+    </message>
+    <message>
+        <source>Paste insert</source>
+        <translation>Plakken en invoegen</translation>
+    </message>
+    <message>
+        <source>Close gap</source>
+        <translation>Gat sluiten</translation>
+    </message>
+    <message>
+        <source>Lock level</source>
+        <translation>Spoor vergrendelen</translation>
+    </message>
+    <message>
+        <source>Unlock level</source>
+        <translation>Spoor ontgrendelen</translation>
+    </message>
+</context>
+<context>
+    <name>TimelinePanel</name>
+    <message>
+        <source>Timeline</source>
+        <translation>Tijdlijn</translation>
+    </message>
+    <message>
+        <source>Play head</source>
+        <translation>Afspeelkop</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clips</translation>
+    </message>
+    <message>
+        <source>%1, level %2, frames %3 to %4</source>
+        <translation>%1, spoor %2, frames %3 tot %4</translation>
+    </message>
+</context>
+<context>
     <name>TimelineRuler</name>
     <message>
         <source>Ruler</source>
         <translation>Liniaal</translation>
+    </message>
+</context>
+<context>
+    <name>TimelineView</name>
+    <message>
+        <source>Split</source>
+        <translation>Splitsen</translation>
+    </message>
+    <message>
+        <source>Insert media</source>
+        <translation>Media invoegen</translation>
+    </message>
+    <message>
+        <source>Add media</source>
+        <translation>Media toevoegen</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionSection</name>
+    <message>
+        <source>At the beginning</source>
+        <translation>Aan het begin</translation>
+    </message>
+    <message>
+        <source>At the end</source>
+        <translation>Aan het einde</translation>
+    </message>
+</context>
+<context>
+    <name>Transport</name>
+    <message>
+        <source>Remove marker</source>
+        <translation>Markering verwijderen</translation>
+    </message>
+    <message>
+        <source>Set marker</source>
+        <translation>Markering plaatsen</translation>
     </message>
 </context>
 </TS>

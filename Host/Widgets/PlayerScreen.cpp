@@ -30,6 +30,10 @@ void PlayerScreen::SetPlayer(MediaPlayer* player)
                 if (!m_view->ShowFrame(picture))
                     m_view->ShowPicture({});
             });
+    connect(player, &MediaPlayer::StateChanged, m_view, [this](NLEPlayerState state) {
+        if (state == NLEPlayer_Closed)
+            m_view->ShowPicture({});
+    });
     connect(player, &MediaPlayer::LevelsChanged, m_meter, &LevelMeter::SetLevels);
     connect(m_meter, &LevelMeter::ClippingCleared, player, &MediaPlayer::ResetClipping);
 }

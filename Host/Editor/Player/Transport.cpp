@@ -5,8 +5,6 @@
 #include "Host/Editor/Player/ProjectMarkers.h"
 #include "Host/Widgets/MediaPlayer.h"
 
-#include <utility>
-
 namespace {
 
 constexpr double kFastest = 8;
@@ -31,17 +29,19 @@ Transport::Transport(Project& project, MediaPlayer& player, QObject* parent)
 void Transport::OpenLater()
 {
     m_player.Close();
-    m_isStale = true;
     ClearPoints();
     m_update.start();
 }
 
 void Transport::Update()
 {
-    if (std::exchange(m_isStale, false))
-        m_player.Open(m_project.Node());
-    else
+    // Without a frame there is nothing to open.
+    if (m_project.Length() <= 0)
+        m_player.Close();
+    else if (m_player.IsOpen())
         m_player.Refresh();
+    else
+        m_player.Open(m_project.Node());
 }
 
 int Transport::Last() const

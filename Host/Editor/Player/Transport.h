@@ -64,7 +64,6 @@ private:
     Project& m_project;
     MediaPlayer& m_player;
     QTimer m_update;
-    bool m_isStale = true; ///< the player has not yet opened the project
     int m_in = kNoPoint;
     int m_out = kNoPoint;
     bool m_isLooping = false;

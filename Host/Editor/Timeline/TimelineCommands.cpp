@@ -82,7 +82,7 @@ void TimelineCommands::Delete()
 
 void TimelineCommands::RippleDelete()
 {
-    RemoveSelected(tr("Ripple Delete"), &INLEEditing::RippleDelete);
+    RemoveSelected(tr("Ripple delete"), &INLEEditing::RippleDelete);
 }
 
 void TimelineCommands::Cut()
@@ -120,7 +120,7 @@ void TimelineCommands::Paste()
 
 void TimelineCommands::PasteInsert()
 {
-    PasteAs(tr("Paste Insert"), NLEEdit_Insert);
+    PasteAs(tr("Paste insert"), NLEEdit_Insert);
 }
 
 void TimelineCommands::Group()
@@ -152,7 +152,7 @@ void TimelineCommands::Ungroup()
 
 void TimelineCommands::CloseGap()
 {
-    m_project.Edit(tr("Close Gap"), [&](INLEEditing& editing) {
+    m_project.Edit(tr("Close gap"), [&](INLEEditing& editing) {
         return editing.CloseGap(m_playHead, NLEEdit_AllLevels);
     });
 }
@@ -248,7 +248,7 @@ void TimelineCommands::ToggleLock()
 
 void TimelineCommands::SetLocked(int level, bool locked)
 {
-    m_project.Edit(locked ? tr("Lock Level") : tr("Unlock Level"),
+    m_project.Edit(locked ? tr("Lock level") : tr("Unlock level"),
                    [=](INLEEditing& editing) { return editing.SetLevelLocked(level, locked); });
 }
 

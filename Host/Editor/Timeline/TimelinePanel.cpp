@@ -81,32 +81,32 @@ void TimelinePanel::AddEditActions()
         m_actions->Add({text, keys, [this, run] { (m_commands->*run)(); }, needs});
     };
     using C = TimelineCommands;
-    add(QT_TRANSLATE_NOOP("Timeline", "Cu&t"), {"Ctrl+X"}, &C::Cut, Needs::Selection);
-    add(QT_TRANSLATE_NOOP("Timeline", "&Copy"), {"Ctrl+C"}, &C::Copy, Needs::Selection);
-    add(QT_TRANSLATE_NOOP("Timeline", "&Paste"), {"Ctrl+V"}, &C::Paste, Needs::Copy);
-    add(QT_TRANSLATE_NOOP("Timeline", "Paste &Insert"), {"Ctrl+Shift+V"}, &C::PasteInsert,
+    add(QT_TRANSLATE_NOOP("Timeline", "Cut"), {"Ctrl+X"}, &C::Cut, Needs::Selection);
+    add(QT_TRANSLATE_NOOP("Timeline", "Copy"), {"Ctrl+C"}, &C::Copy, Needs::Selection);
+    add(QT_TRANSLATE_NOOP("Timeline", "Paste"), {"Ctrl+V"}, &C::Paste, Needs::Copy);
+    add(QT_TRANSLATE_NOOP("Timeline", "Paste insert"), {"Ctrl+Shift+V"}, &C::PasteInsert,
         Needs::Copy);
-    add(QT_TRANSLATE_NOOP("Timeline", "&Delete"), {"Del", "Backspace"}, &C::Delete,
+    add(QT_TRANSLATE_NOOP("Timeline", "Delete"), {"Del", "Backspace"}, &C::Delete,
         Needs::Selection);
-    add(QT_TRANSLATE_NOOP("Timeline", "&Ripple Delete"), {"Shift+Del", "Shift+Backspace"},
+    add(QT_TRANSLATE_NOOP("Timeline", "Ripple delete"), {"Shift+Del", "Shift+Backspace"},
         &C::RippleDelete, Needs::Selection);
     m_actions->Add({nullptr, {}, {}});
-    add(QT_TRANSLATE_NOOP("Timeline", "&Split at Play Head"), {"S"}, &C::Split, Needs::Nothing);
-    add(QT_TRANSLATE_NOOP("Timeline", "Trim &Begin to Play Head"), {"Q"}, &C::TrimBegin,
+    add(QT_TRANSLATE_NOOP("Timeline", "Split at play head"), {"S"}, &C::Split, Needs::Nothing);
+    add(QT_TRANSLATE_NOOP("Timeline", "Trim begin to play head"), {"Q"}, &C::TrimBegin,
         Needs::Selection);
-    add(QT_TRANSLATE_NOOP("Timeline", "Trim &End to Play Head"), {"W"}, &C::TrimEnd,
+    add(QT_TRANSLATE_NOOP("Timeline", "Trim end to play head"), {"W"}, &C::TrimEnd,
         Needs::Selection);
-    add(QT_TRANSLATE_NOOP("Timeline", "Close Ga&p at Play Head"), {"Shift+G"}, &C::CloseGap,
+    add(QT_TRANSLATE_NOOP("Timeline", "Close gap at play head"), {"Shift+G"}, &C::CloseGap,
         Needs::Nothing);
-    add(QT_TRANSLATE_NOOP("Timeline", "&Group"), {"Ctrl+G"}, &C::Group, Needs::Selection);
-    add(QT_TRANSLATE_NOOP("Timeline", "&Ungroup"), {"Ctrl+Shift+G"}, &C::Ungroup, Needs::Selection);
-    add(QT_TRANSLATE_NOOP("Timeline", "&Lock or Unlock Level"), {"Shift+L"}, &C::ToggleLock,
+    add(QT_TRANSLATE_NOOP("Timeline", "Group"), {"Ctrl+G"}, &C::Group, Needs::Selection);
+    add(QT_TRANSLATE_NOOP("Timeline", "Ungroup"), {"Ctrl+Shift+G"}, &C::Ungroup, Needs::Selection);
+    add(QT_TRANSLATE_NOOP("Timeline", "Lock or unlock level"), {"Shift+L"}, &C::ToggleLock,
         Needs::Selection);
     m_actions->Add({nullptr, {}, {}});
-    add(QT_TRANSLATE_NOOP("Timeline", "Select &All"), {"Ctrl+A"}, &C::SelectAll, Needs::Nothing);
-    add(QT_TRANSLATE_NOOP("Timeline", "Select at Play &Head"), {"D"}, &C::SelectAtPlayHead,
+    add(QT_TRANSLATE_NOOP("Timeline", "Select all"), {"Ctrl+A"}, &C::SelectAll, Needs::Nothing);
+    add(QT_TRANSLATE_NOOP("Timeline", "Select at play head"), {"D"}, &C::SelectAtPlayHead,
         Needs::Nothing);
-    add(QT_TRANSLATE_NOOP("Timeline", "Select &None"), {"Ctrl+Shift+A"}, &C::Deselect,
+    add(QT_TRANSLATE_NOOP("Timeline", "Select none"), {"Ctrl+Shift+A"}, &C::Deselect,
         Needs::Nothing);
     m_actions->SetUsable(Needs::Copy, false);
     connect(m_commands, &C::Copied, this,
@@ -125,20 +125,20 @@ void TimelinePanel::AddMoveActions()
                         Needs::Selection});
     };
     m_actions->Add({nullptr, {}, {}});
-    nudge(QT_TRANSLATE_NOOP("Timeline", "Frame Earlier"), "Alt+Left", 0, -1);
-    nudge(QT_TRANSLATE_NOOP("Timeline", "Frame Later"), "Alt+Right", 0, 1);
-    nudge(QT_TRANSLATE_NOOP("Timeline", "Second Earlier"), "Alt+Shift+Left", -1, 0);
-    nudge(QT_TRANSLATE_NOOP("Timeline", "Second Later"), "Alt+Shift+Right", 1, 0);
+    nudge(QT_TRANSLATE_NOOP("Timeline", "Frame earlier"), "Alt+Left", 0, -1);
+    nudge(QT_TRANSLATE_NOOP("Timeline", "Frame later"), "Alt+Right", 0, 1);
+    nudge(QT_TRANSLATE_NOOP("Timeline", "Second earlier"), "Alt+Shift+Left", -1, 0);
+    nudge(QT_TRANSLATE_NOOP("Timeline", "Second later"), "Alt+Shift+Right", 1, 0);
     const auto step = [this](const char* text, const char* key, Needs needs, int by,
                              void (TimelineCommands::*run)(int)) {
         m_actions->Add({text, {key}, [=] { (m_commands->*run)(by); }, needs});
     };
     using C = TimelineCommands;
-    step(QT_TRANSLATE_NOOP("Timeline", "Level Up"), "Alt+Up", Needs::Selection, 1, &C::NudgeLevel);
-    step(QT_TRANSLATE_NOOP("Timeline", "Level Down"), "Alt+Down", Needs::Selection, -1,
+    step(QT_TRANSLATE_NOOP("Timeline", "Level up"), "Alt+Up", Needs::Selection, 1, &C::NudgeLevel);
+    step(QT_TRANSLATE_NOOP("Timeline", "Level down"), "Alt+Down", Needs::Selection, -1,
          &C::NudgeLevel);
-    step(QT_TRANSLATE_NOOP("Timeline", "Previous Cut"), "Up", Needs::Nothing, -1, &C::GoToCut);
-    step(QT_TRANSLATE_NOOP("Timeline", "Next Cut"), "Down", Needs::Nothing, 1, &C::GoToCut);
+    step(QT_TRANSLATE_NOOP("Timeline", "Previous cut"), "Up", Needs::Nothing, -1, &C::GoToCut);
+    step(QT_TRANSLATE_NOOP("Timeline", "Next cut"), "Down", Needs::Nothing, 1, &C::GoToCut);
 }
 
 void TimelinePanel::AddToolActions()
@@ -147,13 +147,13 @@ void TimelinePanel::AddToolActions()
     const auto add = [this](const char* text, const char* key, TimelineTool tool) {
         return m_actions->AddChoice({text, {key}, [this, tool] { SetTool(tool); }});
     };
-    add(QT_TRANSLATE_NOOP("Timeline", "Selection Tool"), "V", TimelineTool::Select)
+    add(QT_TRANSLATE_NOOP("Timeline", "Selection tool"), "V", TimelineTool::Select)
         ->setChecked(true);
-    add(QT_TRANSLATE_NOOP("Timeline", "Ripple Tool"), "B", TimelineTool::Ripple);
-    add(QT_TRANSLATE_NOOP("Timeline", "Roll Tool"), "N", TimelineTool::Roll);
-    add(QT_TRANSLATE_NOOP("Timeline", "Slip Tool"), "Y", TimelineTool::Slip);
-    add(QT_TRANSLATE_NOOP("Timeline", "Slide Tool"), "U", TimelineTool::Slide);
-    add(QT_TRANSLATE_NOOP("Timeline", "Razor Tool"), "C", TimelineTool::Razor);
+    add(QT_TRANSLATE_NOOP("Timeline", "Ripple tool"), "B", TimelineTool::Ripple);
+    add(QT_TRANSLATE_NOOP("Timeline", "Roll tool"), "N", TimelineTool::Roll);
+    add(QT_TRANSLATE_NOOP("Timeline", "Slip tool"), "Y", TimelineTool::Slip);
+    add(QT_TRANSLATE_NOOP("Timeline", "Slide tool"), "U", TimelineTool::Slide);
+    add(QT_TRANSLATE_NOOP("Timeline", "Razor tool"), "C", TimelineTool::Razor);
     m_actions->AddSwitch(QT_TRANSLATE_NOOP("Timeline", "Snap"), {"Shift+S"},
                          [this](bool on) { m_view->SetSnapping(on); });
 }
@@ -164,13 +164,13 @@ void TimelinePanel::AddViewActions()
     const auto add = [this](const char* text, QList<const char*> keys, std::function<void()> run) {
         m_actions->Add({text, keys, std::move(run)});
     };
-    add(QT_TRANSLATE_NOOP("Timeline", "Zoom In"), {"Ctrl+=", "Ctrl++"},
+    add(QT_TRANSLATE_NOOP("Timeline", "Zoom in"), {"Ctrl+=", "Ctrl++"},
         [this] { ZoomBy(-kZoomStep); });
-    add(QT_TRANSLATE_NOOP("Timeline", "Zoom Out"), {"Ctrl+-"}, [this] { ZoomBy(kZoomStep); });
-    add(QT_TRANSLATE_NOOP("Timeline", "Fit to Window"), {"Shift+Z"}, [this] { Fit(); });
-    add(QT_TRANSLATE_NOOP("Timeline", "Taller Levels"), {"Ctrl+Shift+Up"},
+    add(QT_TRANSLATE_NOOP("Timeline", "Zoom out"), {"Ctrl+-"}, [this] { ZoomBy(kZoomStep); });
+    add(QT_TRANSLATE_NOOP("Timeline", "Fit to window"), {"Shift+Z"}, [this] { Fit(); });
+    add(QT_TRANSLATE_NOOP("Timeline", "Taller levels"), {"Ctrl+Shift+Up"},
         [this] { ChangeHeights(kHeightStep); });
-    add(QT_TRANSLATE_NOOP("Timeline", "Lower Levels"), {"Ctrl+Shift+Down"},
+    add(QT_TRANSLATE_NOOP("Timeline", "Lower levels"), {"Ctrl+Shift+Down"},
         [this] { ChangeHeights(-kHeightStep); });
 }
 

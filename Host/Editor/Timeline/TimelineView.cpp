@@ -468,6 +468,6 @@ void TimelineView::dropEvent(QDropEvent* event)
     const auto place = [&drop, at = frame, on = level, isInserting](INLEEditing& editing) {
         return drop->Place(editing, at, on, isInserting ? NLEEdit_Insert : NLEEdit_Overwrite);
     };
-    if (m_project.Edit(isInserting ? tr("Insert Media") : tr("Add Media"), place))
+    if (m_project.Edit(isInserting ? tr("Insert media") : tr("Add media"), place))
         event->acceptProposedAction();
 }

@@ -25,7 +25,7 @@ HRESULT ToolEdits::MoveEdge(TimelineTool tool, INLEEditing& editing, INLETimelin
 QString ToolEdits::EdgeText(TimelineTool tool)
 {
     if (tool == TimelineTool::Ripple)
-        return Translated(QT_TRANSLATE_NOOP("Timeline", "Ripple Trim"));
+        return Translated(QT_TRANSLATE_NOOP("Timeline", "Ripple trim"));
     if (tool == TimelineTool::Roll)
         return Translated(QT_TRANSLATE_NOOP("Timeline", "Roll"));
     return Translated(QT_TRANSLATE_NOOP("Timeline", "Trim"));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Window/EditorWindow.h"
 
+#include "CommonLib/NLEWraper/FPreViewRenderHelper.h"
+#include "CommonLib/NLEWraper/NLETimeline.h"
 #include "Host/Editor/Bin/BinCommands.h"
 #include "Host/Editor/Bin/BinPanel.h"
 #include "Host/Editor/Export/ExportDialog.h"
@@ -64,6 +66,7 @@ void KeepKeys(const QList<QAction*>& kept, const QList<QAction*>& others)
 EditorWindow::EditorWindow(const Paths& paths)
     : m_selection(m_project)
     , m_autosave(m_project, paths.autosave)
+    , m_previewFolder(paths.preview)
     , m_files(new FileCommands(m_project, *this))
     , m_playerPanel(new PlayerPanel(m_project, m_player, this))
     , m_bin(new BinPanel(m_project, m_selection, m_player, this))
@@ -196,7 +199,10 @@ void EditorWindow::AddMenus()
     media->addActions(m_bin->Commands().ItemMenu()->actions());
     connect(media, &QMenu::aboutToShow, &m_bin->Commands(), &BinCommands::Update);
     AddMenu(QT_TR_NOOP("&Timeline"), m_timeline->Actions());
-    AddMenu(QT_TR_NOOP("&Play"), m_playerPanel->Actions());
+    QMenu* play = AddMenu(QT_TR_NOOP("&Play"), m_playerPanel->Actions());
+    play->addSeparator();
+    play->addAction(AddAction(QT_TR_NOOP("Render the preview, or stop it"),
+                              QKeySequence(Qt::CTRL + Qt::Key_P), [this] { SwitchPreview(); }));
     KeepKeys(m_playerPanel->Actions(), m_timeline->Actions());
     QMenu* view = AddMenu(QT_TR_NOOP("&View"), m_panelSwitches);
     view->addSeparator();
@@ -239,7 +245,7 @@ void EditorWindow::ShowRemarks()
             tr("%n remark(s) on the file, in the log", nullptr, remarks.size()), kMessageTime);
 }
 
-// ---- Edits of the range between in and out point
+// ---- What menus do
 
 void EditorWindow::ShowExport()
 {
@@ -251,6 +257,18 @@ void EditorWindow::ShowExport()
     m_export->show();
     m_export->raise();
     m_export->activateWindow();
+}
+
+void EditorWindow::SwitchPreview()
+{
+    FPreViewRenderHelper* preview = m_project.Timeline()->GetPreViewRenderHelper();
+    if (preview->IsCaching())
+        return preview->StopRender();
+    if (preview->GetCacheDirectory() != m_previewFolder &&
+        !preview->SetCacheDirectory(m_previewFolder))
+        return statusBar()->showMessage(tr("%1 cannot be written to.").arg(m_previewFolder),
+                                        kMessageTime);
+    preview->StartRender();
 }
 
 void EditorWindow::CutRange(const QString& text, HRESULT (INLEEditing::*edit)(int, int, int))
@@ -268,7 +286,10 @@ void EditorWindow::CutRange(const QString& text, HRESULT (INLEEditing::*edit)(in
 
 void EditorWindow::AddMedia(const QStringList& paths)
 {
-    m_bin->Add(paths);
+    QStringList whole;
+    for (const QString& path : paths)
+        whole << QFileInfo(path).absoluteFilePath();
+    m_bin->Add(whole);
 }
 
 void EditorWindow::OfferRecovery()

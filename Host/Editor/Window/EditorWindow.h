@@ -27,6 +27,7 @@ public:
     {
         QString autosave; ///< folder of what is not saved yet
         QString log;      ///< file that the log view shows
+        QString preview;  ///< folder of rendered previews
     };
 
     /// Not without an engine.
@@ -34,9 +35,14 @@ public:
     ~EditorWindow() override;
 
     Project& Shown() { return m_project; }
+    Selection& Selected() { return m_selection; }
+    MediaPlayer& Player() { return m_player; }
+    ExportQueue& Films() { return *m_films; }
     FileCommands& Files() { return *m_files; }
     /// Takes media files and folders of them into the bin.
     void AddMedia(const QStringList& paths);
+    /// Renders the preview in the background, or stops that.
+    void SwitchPreview();
     /// Asks for what runs that crashed have left, the newest first.
     void OfferRecovery();
 
@@ -64,6 +70,7 @@ private:
     Selection m_selection;
     MediaPlayer m_player;
     Autosave m_autosave;
+    const QString m_previewFolder;
     FileCommands* m_files;
     PlayerPanel* m_playerPanel;
     BinPanel* m_bin;

@@ -7,6 +7,7 @@
 #include "Host/Editor/Model/Reasons.h"
 #include "Host/Editor/Window/EditorWindow.h"
 #include "Host/Editor/Window/FileCommands.h"
+#include "Host/Editor/Window/Tour.h"
 #include "Host/HostLanguage.h"
 #include "Host/QtMessages.h"
 
@@ -40,6 +41,11 @@ void AddOptions(QCommandLineParser& parser)
         {"screenshot",
          Translated(QT_TRANSLATE_NOOP("Editor", "Write a picture of the window to <file>.")),
          "file"});
+    parser.addOption({"tour",
+                      Translated(QT_TRANSLATE_NOOP(
+                          "Editor", "Make a small film of the media by itself, and put pictures, "
+                                    "the film and a report into <folder>.")),
+                      "folder"});
     parser.addPositionalArgument(
         QStringLiteral("files"),
         Translated(QT_TRANSLATE_NOOP("Editor", "A project to open, and media for the bin.")));
@@ -50,7 +56,9 @@ EditorWindow::Paths MakePaths()
     const QString data = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
     QDir().mkpath(data);
     return {QDir(data).filePath(QStringLiteral("autosave")),
-            QDir(data).filePath(QStringLiteral("CommonLibEditor.log"))};
+            QDir(data).filePath(QStringLiteral("CommonLibEditor.log")),
+            QStandardPaths::writableLocation(QStandardPaths::CacheLocation) +
+                QStringLiteral("/preview")};
 }
 
 /// Messages go to standard error where the log is another editor's.
@@ -107,6 +115,10 @@ int Run(const QCommandLineParser& parser)
     window.resize(kWindow);
     window.show();
     QTimer::singleShot(0, &window, [&] {
+        if (parser.isSet(QStringLiteral("tour"))) {
+            Tour tour(window, parser.value(QStringLiteral("tour")), parser.positionalArguments());
+            return QApplication::exit(tour.Run() ? 0 : 1);
+        }
         window.OfferRecovery();
         OpenFiles(window, parser.positionalArguments());
         if (parser.isSet(QStringLiteral("screenshot")))
