@@ -176,10 +176,20 @@ private Q_SLOTS:
 
     void fullScreen()
     {
+        QPointer<QWidget> view;
+        const auto isShown = [&view] {
+            view = qobject_cast<PictureView*>(QApplication::activeWindow());
+            return !view.isNull();
+        };
         QTest::keyClick(m_panel.get(), Qt::Key_F11);
-        QPointer<PictureView> view;
-        QTRY_VERIFY((view = qobject_cast<PictureView*>(QApplication::activeWindow())));
-        QVERIFY(!view->Picture().isNull());
+        QTRY_VERIFY(isShown());
+        view->close(); // as the system does
+        QTRY_VERIFY(!view);
+        m_panel->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_panel.get()));
+        QTest::keyClick(m_panel.get(), Qt::Key_F11);
+        QTRY_VERIFY(isShown());
+        QVERIFY(!qobject_cast<PictureView*>(view)->Picture().isNull());
         QTest::keyClick(view, '.'); // keys go on to work
         QTRY_COMPARE_WITH_TIMEOUT(m_player->Position(), 1, kPatience);
         QTest::keyClick(view, Qt::Key_Escape);

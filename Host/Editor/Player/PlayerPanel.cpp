@@ -21,6 +21,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 constexpr int kGap = 6;
@@ -235,24 +237,27 @@ void PlayerPanel::ShowPoints()
 void PlayerPanel::SetFullScreen(bool on)
 {
     if (!on) {
-        if (m_fullView)
-            m_fullView->close();
+        if (QWidget* view = std::exchange(m_fullView, nullptr))
+            view->close();
         return;
     }
-    m_fullView = new PictureView(this);
-    m_fullView->setWindowFlag(Qt::Window);
-    m_fullView->setAttribute(Qt::WA_DeleteOnClose);
-    m_fullView->ShowPicture(View()->Picture());
-    m_fullView->addActions(actions()); // with their keys
-    connect(&m_player, &MediaPlayer::PictureReady, m_fullView,
-            [view = m_fullView.data()](const NLEComPtr<INLEVideoFrame>& picture) {
-                view->ShowFrame(picture);
-            });
+    auto* view = new PictureView(this);
+    view->setWindowFlag(Qt::Window);
+    view->setAttribute(Qt::WA_DeleteOnClose);
+    view->ShowPicture(View()->Picture());
+    view->addActions(actions()); // with their keys
+    connect(&m_player, &MediaPlayer::PictureReady, view,
+            [view](const NLEComPtr<INLEVideoFrame>& picture) { view->ShowFrame(picture); });
     // Also when the system closes it; by then there may be another one.
-    connect(m_fullView, &QObject::destroyed, m_fullScreen,
-            [this] { m_fullScreen->setChecked(bool(m_fullView)); });
-    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), m_fullView);
+    connect(view, &QObject::destroyed, m_fullScreen, [this](QObject* gone) {
+        if (gone != m_fullView)
+            return;
+        m_fullView = nullptr;
+        m_fullScreen->setChecked(false);
+    });
+    m_fullView = view;
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), view);
     connect(escape, &QShortcut::activated, m_fullScreen,
             [this] { m_fullScreen->setChecked(false); });
-    m_fullView->showFullScreen();
+    view->showFullScreen();
 }

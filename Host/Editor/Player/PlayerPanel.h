@@ -4,7 +4,6 @@
 #include "Host/Widgets/Symbols.h"
 
 #include <QList>
-#include <QPointer>
 #include <QWidget>
 
 class MediaPlayer;
@@ -68,5 +67,5 @@ private:
     QAction* m_safeAreas = nullptr;
     QAction* m_fullScreen = nullptr;
     QAction* m_mute = nullptr;
-    QPointer<PictureView> m_fullView; ///< while the picture fills the screen
+    QWidget* m_fullView = nullptr; ///< while the picture fills the screen
 };

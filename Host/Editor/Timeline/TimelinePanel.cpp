@@ -78,7 +78,7 @@ void TimelinePanel::AddEditActions()
 {
     const auto add = [this](const char* text, QList<const char*> keys,
                             void (TimelineCommands::*run)(), Needs needs) {
-        m_actions->Add({text, keys, [this, run] { (m_commands->*run)(); }, needs});
+        m_actions->Add({text, keys, [commands = m_commands, run] { (commands->*run)(); }, needs});
     };
     using C = TimelineCommands;
     add(QT_TRANSLATE_NOOP("Timeline", "Cut"), {"Ctrl+X"}, &C::Cut, Needs::Selection);
@@ -131,7 +131,7 @@ void TimelinePanel::AddMoveActions()
     nudge(QT_TRANSLATE_NOOP("Timeline", "Second later"), "Alt+Shift+Right", 1, 0);
     const auto step = [this](const char* text, const char* key, Needs needs, int by,
                              void (TimelineCommands::*run)(int)) {
-        m_actions->Add({text, {key}, [=] { (m_commands->*run)(by); }, needs});
+        m_actions->Add({text, {key}, [=, commands = m_commands] { (commands->*run)(by); }, needs});
     };
     using C = TimelineCommands;
     step(QT_TRANSLATE_NOOP("Timeline", "Level up"), "Alt+Up", Needs::Selection, 1, &C::NudgeLevel);
