@@ -1952,7 +1952,7 @@
     </message>
     <message>
         <source>Preview scale</source>
-        <translation>Vorschauskalierung</translation>
+        <translation>Vorschau-Skalierung</translation>
     </message>
     <message>
         <source> %</source>

@@ -9,10 +9,12 @@
 #include <QHBoxLayout>
 #include <QScopedValueRollback>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kGap = 6;
-constexpr int kBoxWidth = 84;
+constexpr int kLeastBoxWidth = 84;
 constexpr int kSliderWidth = 44; // at the least
 constexpr double kFastFactor = 10;
 constexpr double kSlowFactor = 0.1;
@@ -40,13 +42,14 @@ NumberEdit::NumberEdit(const Scale& scale, QWidget* parent)
 void NumberEdit::MakeBox(const Scale& scale)
 {
     m_box->setButtonSymbols(QAbstractSpinBox::NoButtons);
-    m_box->setFixedWidth(kBoxWidth);
     m_box->setFocusPolicy(Qt::StrongFocus);
     m_box->setKeyboardTracking(false);
     m_box->setDecimals(scale.decimals);
     m_box->setRange(scale.lowest, scale.highest);
     m_box->setSingleStep(scale.step);
     m_box->setSuffix(scale.suffix);
+    m_box->ensurePolished();
+    m_box->setFixedWidth(std::max(kLeastBoxWidth, m_box->sizeHint().width()));
     m_box->installEventFilter(this);
     connect(m_box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &NumberEdit::Follow);
 }
