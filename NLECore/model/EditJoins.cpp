@@ -26,15 +26,15 @@ EditJoin EditJoin::Of(const EditedTimeline& timeline, TimelineNode& transition)
 std::optional<ClipSpan> EditJoin::Fitted(const EditedTimeline& timeline) const
 {
     const bool isGone = (from && !timeline.Holds(*from)) || (to && !timeline.Holds(*to));
-    if (isGone || (from && to && from->Level() != to->Level()))
+    const TimelineNode* const clip = to ? to : from;
+    if (!clip || isGone || (from && to && from->Level() != to->Level()))
         return std::nullopt;
-    const ClipSpan fitted = from && to ? BetweenClips() : WithinClip(timeline.Index());
+    const ClipSpan fitted = from && to ? BetweenClips() : WithinClip(*clip, timeline.Index());
     return fitted.Length() > 0 ? std::optional(fitted) : std::nullopt;
 }
 
-ClipSpan EditJoin::WithinClip(const EditIndex& index) const
+ClipSpan EditJoin::WithinClip(const TimelineNode& clip, const EditIndex& index) const
 {
-    const TimelineNode& clip = to ? *to : *from;
     const ClipSpan own = ClipSpan::Of(clip);
     const std::int64_t by = to ? own.begin - toSpan.begin : own.end - fromSpan.end;
     // Where the clip overlaps another one, the transition between the two is alone.

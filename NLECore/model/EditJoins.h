@@ -26,8 +26,8 @@ struct EditJoin
     std::optional<ClipSpan> Fitted(const EditedTimeline& timeline) const;
 
 private:
-    /// Of a transition with one clip, and with two.
-    ClipSpan WithinClip(const EditIndex& index) const;
+    /// Of a transition with \a clip alone, and with two.
+    ClipSpan WithinClip(const TimelineNode& clip, const EditIndex& index) const;
     ClipSpan BetweenClips() const;
 };
 
