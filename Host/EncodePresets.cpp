@@ -4,22 +4,7 @@
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/INLEEncode.h"
 #include "EngineApi/NLEKey.h"
-
-#include <array>
-
-namespace {
-
-constexpr int kLongestName = 128;
-
-template <typename Call>
-QString TextOf(Call call)
-{
-    std::array<wchar_t, kLongestName> text = {};
-    return call(text.data(), kLongestName) == S_OK ? QString::fromWCharArray(text.data())
-                                                   : QString();
-}
-
-} // namespace
+#include "Host/EngineText.h"
 
 QVector<EncodePresets::Preset> EncodePresets::All(const NLEComPtr<INLEMediaEncoder>& encoder)
 {
@@ -29,10 +14,10 @@ QVector<EncodePresets::Preset> EncodePresets::All(const NLEComPtr<INLEMediaEncod
     if (!catalog || catalog->GetPresetCount(&count) != S_OK)
         return presets;
     for (int index = 0; index < count; ++index) {
-        const QString name = TextOf([&](wchar_t* text, int capacity) {
+        const QString name = EngineText([&](wchar_t* text, int capacity) {
             return catalog->GetPresetName(index, text, capacity);
         });
-        const QString title = TextOf([&](wchar_t* text, int capacity) {
+        const QString title = EngineText([&](wchar_t* text, int capacity) {
             return catalog->GetPresetTitle(index, text, capacity);
         });
         if (!name.isEmpty())
@@ -57,7 +42,7 @@ QString EncodePresets::Suffix(const NLEComPtr<INLEMediaEncoder>& encoder,
                               const NLEComPtr<INLEProperties>& settings)
 {
     const auto catalog = encoder.query<INLEEncodeCatalog>();
-    const QString wanted = TextOf([&](wchar_t* text, int capacity) {
+    const QString wanted = EngineText([&](wchar_t* text, int capacity) {
         return settings->GetString(NLEKey::Encode::kContainer, text, capacity);
     });
     int count = 0;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Bin/BinPictures.h"
 
-#include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "Host/Editor/Model/Engine.h"
 
 #include <QPainter>
 
@@ -15,11 +15,6 @@ namespace {
 constexpr int kRoomForPictures = 64 << 10; // kB
 constexpr std::size_t kMostWaiting = 100;
 const QColor kWave(0x4d, 0xa3, 0xff);
-
-PlayerMaterProvider& Provider()
-{
-    return *NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
-}
 
 QImage ImageOf(INLEPicture& picture)
 {
@@ -40,7 +35,7 @@ QSize FittedInto(const QSize& room, double shape)
 
 QImage ReadFrame(const MediaDescription& media, int frame, const QSize& room)
 {
-    const auto extractor = Provider().CreateThumbnailExtractor();
+    const auto extractor = EngineProvider().CreateThumbnailExtractor();
     const std::uint32_t stream = media.report->FirstStream(NLEStream_Video);
     if (!extractor || FAILED(extractor->SetSource(media.info.get(), stream)))
         return {};
@@ -71,7 +66,7 @@ QImage PaintWave(const std::vector<float>& minima, const std::vector<float>& max
 
 QImage ReadWave(const MediaDescription& media, const QSize& room)
 {
-    const auto extractor = Provider().CreateWaveExtractor();
+    const auto extractor = EngineProvider().CreateWaveExtractor();
     const std::uint32_t stream = media.report->FirstStream(NLEStream_Audio);
     if (!extractor || FAILED(extractor->SetSource(media.info.get(), stream)))
         return {};
@@ -87,7 +82,7 @@ QImage ReadWave(const MediaDescription& media, const QSize& room)
 
 BinPictures::BinPictures(QObject* parent) : QObject(parent), m_made(kRoomForPictures)
 {
-    Provider(); // is made on this thread
+    EngineProvider(); // is made on this thread
     m_threads.setMaxThreadCount(1);
 }
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Bin/MediaBin.h"
 
-#include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/INLEEditing.h"
+#include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Project.h"
 
 #include <algorithm>
@@ -197,8 +197,7 @@ bool MediaBin::Mark(const QString& file, const NLERange& marks)
 
 NLEComPtr<INLETimeline> MediaBin::MakeClip(const QString& file) const
 {
-    NLEComPtr<INLETimeline> clip =
-        NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider()->CreateMediaTimeline(file, true);
+    NLEComPtr<INLETimeline> clip = EngineProvider().CreateMediaTimeline(file, true);
     if (!clip)
         return clip;
     const BinEntry entry = Entry(file);

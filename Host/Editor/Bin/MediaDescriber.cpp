@@ -1,27 +1,20 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Bin/MediaDescriber.h"
 
-#include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "Host/Editor/Bin/ProxyJobs.h"
-
-#include <array>
+#include "Host/Editor/Model/Engine.h"
+#include "Host/EngineText.h"
 
 namespace {
 
 constexpr int kThreads = 2;
 
-PlayerMaterProvider& Provider()
-{
-    return *NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
-}
-
 QString FindProxy(INLEProxyMaker& proxies, const QString& path)
 {
-    std::array<wchar_t, 4096> found{};
-    if (proxies.Find(path.toStdWString().c_str(), found.data(), int(found.size())) != S_OK)
-        return {};
-    return QString::fromWCharArray(found.data());
+    return EngineText<kEnginePath>([&](wchar_t* found, int capacity) {
+        return proxies.Find(path.toStdWString().c_str(), found, capacity);
+    });
 }
 
 NLEComPtr<INLEMediaInfo> InfoOf(const NLEComPtr<INLETimeline>& clip)
@@ -37,7 +30,7 @@ NLEComPtr<INLEMediaInfo> InfoOf(const NLEComPtr<INLETimeline>& clip)
 
 MediaDescriber::MediaDescriber(QObject* parent) : QObject(parent), m_proxies(MakeProxyMaker())
 {
-    Provider(); // is made on this thread
+    EngineProvider(); // is made on this thread
     m_threads.setMaxThreadCount(kThreads);
 }
 
@@ -67,7 +60,7 @@ MediaDescription MediaDescriber::Read(const QString& path) const
     MediaDescription description;
     description.path = path;
     description.state = State::Unreadable;
-    const NLEComPtr<INLETimeline> clip = Provider().CreateMediaTimeline(path, true);
+    const NLEComPtr<INLETimeline> clip = EngineProvider().CreateMediaTimeline(path, true);
     if (!clip)
         return description;
     const NLEComPtr<INLEMediaInfo> info = InfoOf(clip);

@@ -2,8 +2,8 @@
 #include "Host/Editor/Bin/ProjectClips.h"
 
 #include "EngineApi/INLEStreamProcess.h"
-
-#include <array>
+#include "Host/Editor/Model/Engine.h"
+#include "Host/EngineText.h"
 
 QString FileOf(INLETimeline& node)
 {
@@ -12,10 +12,8 @@ QString FileOf(INLETimeline& node)
         source.forget();
         return {};
     }
-    std::array<wchar_t, 4096> path{};
-    if (FAILED(source->GetFilePath(path.data(), int(path.size()))))
-        return {};
-    return QString::fromWCharArray(path.data());
+    return EngineText<kEnginePath>(
+        [&](wchar_t* path, int capacity) { return source->GetFilePath(path, capacity); });
 }
 
 ClipsByFile FindClips(const NLEComPtr<INLETimeline>& composite)
@@ -25,17 +23,11 @@ ClipsByFile FindClips(const NLEComPtr<INLETimeline>& composite)
     const auto deep = composite.query<INLETimelineCompositeEx>();
     if (!deep || FAILED(deep->GetEnumerator(1, 1, clips.put())) || !clips)
         return found;
-    bool isEmpty = true;
-    if (FAILED(clips->IsEmpty(&isEmpty)) || isEmpty)
-        return found;
-    do {
-        NLEComPtr<INLETimeline> clip;
-        if (FAILED(clips->GetCurrent(clip.put())))
-            break;
+    for (const NLEComPtr<INLETimeline>& clip : NodesOf(*clips)) {
         const QString file = FileOf(*clip);
         if (!file.isEmpty())
             found[file].append(clip);
-    } while (clips->Next() == S_OK);
+    }
     return found;
 }
 
@@ -48,11 +40,7 @@ bool RelinkClip(const NLEComPtr<INLETimeline>& clip, const QString& file, bool a
 
 bool SetProxy(const NLEComPtr<INLETimeline>& clip, const QString& proxy)
 {
-    NLEComPtr<INLEVideoStreamProcess> video;
-    if (FAILED(clip->GetInterface(INLEVideoStreamProcess::Iid, video.putVoid(), 0, 0))) {
-        video.forget();
-        return false;
-    }
-    return SUCCEEDED(video->SetProxyFile(proxy.toStdWString().c_str())) &&
+    const auto video = FacilityOf<INLEVideoStreamProcess>(clip);
+    return video && SUCCEEDED(video->SetProxyFile(proxy.toStdWString().c_str())) &&
            SUCCEEDED(video->SetProxyEnabled(!proxy.isEmpty()));
 }

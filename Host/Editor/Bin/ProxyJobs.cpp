@@ -3,9 +3,8 @@
 
 #include "EngineApi/INLEFactory.h"
 #include "EngineApi/INLEReasons.h"
-#include "Host/Editor/Model/Reasons.h"
-
-#include <array>
+#include "Host/Editor/Model/Engine.h"
+#include "Host/EngineText.h"
 
 namespace {
 
@@ -15,12 +14,11 @@ QString LastReason()
     const NLEComPtr<INLEFactory> factory = EngineFactory();
     NLEComPtr<INLEReasons> reasons;
     int reason = NLEReason_None;
-    std::array<wchar_t, 512> title{};
     if (!factory || FAILED(factory->GetReasons(reasons.put())) ||
-        FAILED(reasons->GetLast(nullptr, &reason)) ||
-        FAILED(reasons->GetTitle(reason, title.data(), int(title.size()))))
+        FAILED(reasons->GetLast(nullptr, &reason)))
         return {};
-    return QString::fromWCharArray(title.data());
+    return EngineText<512>(
+        [&](wchar_t* title, int capacity) { return reasons->GetTitle(reason, title, capacity); });
 }
 
 } // namespace

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Export/ExportCheck.h"
 
-#include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/INLEEncode.h"
 #include "EngineApi/INLEFrames.h"
+#include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Reasons.h"
 #include "Host/EncodePresets.h"
 
@@ -48,7 +48,7 @@ void ExportCheck::Ask(const ExportOrder& order)
 
 void ExportCheck::Begin()
 {
-    PlayerMaterProvider& provider = *NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
+    PlayerMaterProvider& provider = EngineProvider();
     const auto encoder = provider.CreateMediaEncoder();
     const auto options = EncodePresets::Settings(provider, encoder, m_order.preset);
     if (!encoder || !options) {

@@ -2,7 +2,6 @@
 #include "Host/Editor/Export/ExportDialog.h"
 
 #include "CommonLib/NLEWraper/NLETimeline.h"
-#include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/NLECommon.h"
 #include "EngineApi/NLEKey.h"
@@ -10,6 +9,7 @@
 #include "Host/Editor/Export/ExportQueue.h"
 #include "Host/Editor/Export/ExportQueueView.h"
 #include "Host/Editor/Export/StillPicture.h"
+#include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Project.h"
 #include "Host/EncodePresets.h"
 #include "Host/Widgets/MediaPlayer.h"
@@ -43,11 +43,6 @@ constexpr NLERational kRates[] = {{24000, 1001}, {24, 1}, {25, 1},       {30000,
                                   {30, 1},       {50, 1}, {60000, 1001}, {60, 1}};
 constexpr int kSampleRates[] = {44100, 48000, 96000};
 
-PlayerMaterProvider& Provider()
-{
-    return *NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
-}
-
 /// A row of widgets for a form, which runs as the language does.
 QWidget* MakeRow(std::initializer_list<QWidget*> widgets)
 {
@@ -76,7 +71,7 @@ QString HardwareNote()
 {
     int decoding = NLEHardware_Never;
     NLEComPtr<INLEProperties> settings;
-    const auto config = Provider().GetSystemConfig();
+    const auto config = EngineProvider().GetSystemConfig();
     if (config && config->GetProperties(settings.put()) == S_OK)
         settings->GetInt(NLEKey::System::kHardwareDecoding, &decoding);
     return decoding == NLEHardware_Never
@@ -107,7 +102,7 @@ ExportDialog::ExportDialog(Project& project, MediaPlayer& player, ExportQueue& q
     , m_project(project)
     , m_player(player)
     , m_queue(queue)
-    , m_encoder(Provider().CreateMediaEncoder())
+    , m_encoder(EngineProvider().CreateMediaEncoder())
     , m_check(new ExportCheck(this))
     , m_preset(new QComboBox(this))
     , m_path(new QLineEdit(this))
@@ -291,7 +286,7 @@ void ExportDialog::SetPath(const QString& path)
 void ExportDialog::TakePreset()
 {
     const auto settings =
-        EncodePresets::Settings(Provider(), m_encoder, m_preset->currentData().toString());
+        EncodePresets::Settings(EngineProvider(), m_encoder, m_preset->currentData().toString());
     if (settings)
         SetPath(WithSuffix(QDir::fromNativeSeparators(m_path->text()),
                            EncodePresets::Suffix(m_encoder, settings)));

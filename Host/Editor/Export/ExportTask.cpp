@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Export/ExportTask.h"
 
-#include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/INLEEncode.h"
+#include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Reasons.h"
 #include "Host/EncodePresets.h"
 
@@ -21,7 +21,7 @@ bool TakePreset(const NLEComPtr<INLEMediaEncoder>& encoder, const QString& prese
 {
     if (preset.isEmpty())
         return true;
-    PlayerMaterProvider& provider = *NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
+    PlayerMaterProvider& provider = EngineProvider();
     const auto settings = EncodePresets::Settings(provider, encoder, preset);
     const auto options = encoder.query<INLEEncodeOptions>();
     return settings && options && options->SetOptions(settings.get()) == S_OK;

@@ -2,9 +2,9 @@
 #include "Host/Editor/Export/StillPicture.h"
 
 #include "CommonLib/NLEWraper/NLETimelineContextPropertyService.h"
-#include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/NLEKey.h"
+#include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Reasons.h"
 
 #include <QCoreApplication>
@@ -47,7 +47,7 @@ NLESize SizeOf(const NLEComPtr<INLETimeline>& project)
 
 QImage StillPicture::Draw(const NLEComPtr<INLETimeline>& project, int frame, QString* reason)
 {
-    PlayerMaterProvider& provider = *NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
+    PlayerMaterProvider& provider = EngineProvider();
     const Reasons reasons(EngineFactory());
     const auto copy = FullSize(project);
     const NLESize size = SizeOf(copy);

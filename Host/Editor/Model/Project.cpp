@@ -2,21 +2,16 @@
 #include "Host/Editor/Model/Project.h"
 
 #include "CommonLib/NLEWraper/NLETimeline.h"
-#include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Reasons.h"
+#include "Host/EngineText.h"
 
 #include <QFileInfo>
 
-#include <array>
 #include <utility>
 
 namespace {
-
-PlayerMaterProvider& Provider()
-{
-    return *NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
-}
 
 /// Remarks that \a serializer made on what it has loaded; engines may make none.
 QStringList RemarksOf(const NLEComPtr<INLEDocumentSerialize>& serializer)
@@ -27,13 +22,14 @@ QStringList RemarksOf(const NLEComPtr<INLEDocumentSerialize>& serializer)
     if (!report || FAILED(report->GetRemarkCount(&count)))
         return remarks;
     for (int index = 0; index < count; ++index) {
-        std::array<wchar_t, 256> text = {};
-        std::array<wchar_t, 256> title = {};
         int code = 0;
-        report->GetRemark(index, &code, text.data(), int(text.size()));
-        report->GetRemarkTitle(code, title.data(), int(title.size()));
-        remarks << QStringLiteral("%1: %2").arg(QString::fromWCharArray(title.data()),
-                                                QString::fromWCharArray(text.data()));
+        const QString text = EngineText([&](wchar_t* buffer, int capacity) {
+            return report->GetRemark(index, &code, buffer, capacity);
+        });
+        const QString title = EngineText([&](wchar_t* buffer, int capacity) {
+            return report->GetRemarkTitle(code, buffer, capacity);
+        });
+        remarks << QStringLiteral("%1: %2").arg(title, text);
     }
     return remarks;
 }
@@ -48,7 +44,7 @@ Project::Project(QObject* parent)
     connect(&m_steps, &ProjectSteps::Refused, this, &Project::Refused);
     connect(&Steps(), &QUndoStack::indexChanged, this, &Project::TellModified);
     connect(&Steps(), &QUndoStack::cleanChanged, this, &Project::TellModified);
-    Adopt(Provider().CreateProjectTimeline(), {}, {});
+    Adopt(EngineProvider().CreateProjectTimeline(), {}, {});
 }
 
 Project::~Project()
@@ -112,7 +108,7 @@ bool Project::New(const tagNLEProjectProfile& profile)
 {
     const Reasons reasons(m_factory);
     const QString action = tr("The project cannot be made");
-    const NLEComPtr<INLETimeline> node = Provider().CreateProjectTimeline(profile);
+    const NLEComPtr<INLETimeline> node = EngineProvider().CreateProjectTimeline(profile);
     if (!node)
         return Refuse(reasons.Of(action));
     m_remarks.clear();
@@ -138,7 +134,7 @@ bool Project::Recover(const QString& document, const QString& path)
 NLEComPtr<INLETimeline> Project::Load(const QString& path)
 {
     const Reasons reasons(m_factory);
-    const NLEComPtr<INLEDocumentSerialize> serializer = Provider().CreateDocumentSerialize();
+    const NLEComPtr<INLEDocumentSerialize> serializer = EngineProvider().CreateDocumentSerialize();
     NLEComPtr<INLETimeline> node;
     const std::wstring file = path.toStdWString();
     if (!serializer || FAILED(serializer->Load(file.c_str(), node.put()))) {
@@ -193,7 +189,7 @@ bool Project::Write(const QString& path)
 {
     EndDrag();
     const Reasons reasons(m_factory);
-    const NLEComPtr<INLEDocumentSerialize> serializer = Provider().CreateDocumentSerialize();
+    const NLEComPtr<INLEDocumentSerialize> serializer = EngineProvider().CreateDocumentSerialize();
     if (serializer && SUCCEEDED(serializer->Save(m_node.get(), path.toStdWString().c_str())))
         return true;
     return Refuse(reasons.Of(tr("%1 cannot be saved").arg(QFileInfo(path).fileName())));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Model/ProjectSteps.h"
 
+#include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Reasons.h"
 
 #include <QUndoCommand>
@@ -212,15 +213,12 @@ void ProjectSteps::NoteClips()
     if (!m_clips)
         m_clips.emplace();
     NLEComPtr<INLETimelineEnumerator> changed;
-    bool isEmpty = true;
-    if (FAILED(m_editing->GetChanged(changed.put())) || FAILED(changed->IsEmpty(&isEmpty)) ||
-        isEmpty)
+    if (FAILED(m_editing->GetChanged(changed.put())))
         return;
-    do {
-        NLEComPtr<INLETimeline> clip;
-        if (SUCCEEDED(changed->GetCurrent(clip.put())) && !m_clips->contains(clip))
+    for (const NLEComPtr<INLETimeline>& clip : NodesOf(*changed)) {
+        if (!m_clips->contains(clip))
             *m_clips << clip;
-    } while (changed->Next() == S_OK);
+    }
 }
 
 void ProjectSteps::Tell()

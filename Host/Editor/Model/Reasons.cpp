@@ -1,34 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Model/Reasons.h"
 
-#include "CommonLib/NLEWraper/CVCreateInstance.h"
-#include "CommonLib/NLEWraper/NLEWraper.h"
-
-#include <array>
+#include "Host/EngineText.h"
 
 namespace {
 
 constexpr int kLongestText = 512; // with the terminating zero
 
-template <typename Call>
-QString TextOf(Call call)
-{
-    std::array<wchar_t, kLongestText> text = {};
-    return SUCCEEDED(call(text.data(), kLongestText)) ? QString::fromWCharArray(text.data())
-                                                      : QString();
-}
-
 } // namespace
-
-NLEComPtr<INLEFactory> EngineFactory()
-{
-    NLEWraper::GetInstance(nullptr);
-    NLEComPtr<INLEFactory> factory;
-    if (!CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
-                                                        INLEFactory::Iid, factory.putVoid()))
-        factory.forget();
-    return factory;
-}
 
 Reasons::Reasons(const NLEComPtr<INLEFactory>& factory)
 {
@@ -43,10 +22,10 @@ QString Reasons::Of(const QString& action) const
     int reason = NLEReason_None;
     if (!m_reasons || m_reasons->GetLast(nullptr, &reason) != S_OK)
         return action;
-    const QString title = TextOf(
+    const QString title = EngineText<kLongestText>(
         [&](wchar_t* text, int capacity) { return m_reasons->GetTitle(reason, text, capacity); });
-    const QString words =
-        TextOf([&](wchar_t* text, int capacity) { return m_reasons->GetWords(text, capacity); });
+    const QString words = EngineText<kLongestText>(
+        [&](wchar_t* text, int capacity) { return m_reasons->GetWords(text, capacity); });
     const QString why = words.isEmpty() ? title : QStringLiteral("%1 (%2)").arg(title, words);
     return QStringLiteral("%1: %2").arg(action, why);
 }

@@ -7,9 +7,6 @@
 
 #include <QString>
 
-/// The engine's factory; null without an engine. Starts the engine.
-NLEComPtr<INLEFactory> EngineFactory();
-
 /// Why calls of this thread fail, for people. Forgets at its construction what failed before.
 class Reasons
 {

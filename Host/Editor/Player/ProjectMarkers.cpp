@@ -2,23 +2,12 @@
 #include "Host/Editor/Player/ProjectMarkers.h"
 
 #include "EngineApi/INLEMarkers.h"
-
-namespace {
-
-NLEComPtr<INLEMarkers> MarkersOf(const NLEComPtr<INLETimeline>& node)
-{
-    NLEComPtr<INLEMarkers> markers;
-    if (!node || FAILED(node->GetInterface(INLEMarkers::Iid, markers.putVoid(), 0, 0)))
-        markers.forget();
-    return markers;
-}
-
-} // namespace
+#include "Host/Editor/Model/Engine.h"
 
 QVector<int> MarkerFrames(const NLEComPtr<INLETimeline>& node)
 {
     QVector<int> frames;
-    const NLEComPtr<INLEMarkers> markers = MarkersOf(node);
+    const auto markers = FacilityOf<INLEMarkers>(node);
     int count = 0;
     if (markers)
         markers->GetCount(&count);
@@ -32,7 +21,7 @@ QVector<int> MarkerFrames(const NLEComPtr<INLETimeline>& node)
 
 bool AddMarker(const NLEComPtr<INLETimeline>& node, const NLEMarkerRecord& marker)
 {
-    const NLEComPtr<INLEMarkers> markers = MarkersOf(node);
+    const auto markers = FacilityOf<INLEMarkers>(node);
     int index = 0;
     return markers && SUCCEEDED(markers->AddMarker(&marker, nullptr, &index));
 }
@@ -40,5 +29,5 @@ bool AddMarker(const NLEComPtr<INLETimeline>& node, const NLEMarkerRecord& marke
 bool RemoveMarker(const NLEComPtr<INLETimeline>& node, int frame)
 {
     const int index = MarkerFrames(node).indexOf(frame);
-    return index >= 0 && SUCCEEDED(MarkersOf(node)->DeleteMarker(index));
+    return index >= 0 && SUCCEEDED(FacilityOf<INLEMarkers>(node)->DeleteMarker(index));
 }

@@ -2,6 +2,7 @@
 #include "Host/Editor/Properties/ClipActions.h"
 
 #include "CommonLib/NLEWraper/NLETimeline.h"
+#include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Project.h"
 #include "Host/Editor/Model/Selection.h"
 #include "Host/Editor/Properties/EngineCatalog.h"
@@ -64,18 +65,10 @@ HRESULT PutTransition(INLEEditing& editing, INLETimeline* transition, INLETimeli
     return result;
 }
 
-NLEComPtr<INLEEffects> EffectsOf(const NLEComPtr<INLETimeline>& clip)
-{
-    NLEComPtr<INLEEffects> effects;
-    if (FAILED(clip->GetInterface(INLEEffects::Iid, effects.putVoid(), 0, 0)))
-        effects.forget();
-    return effects;
-}
-
 NLEComPtr<INLETimeline> EffectAt(const NLEComPtr<INLETimeline>& clip, int index)
 {
     NLEComPtr<INLETimeline> effect;
-    if (const auto effects = EffectsOf(clip))
+    if (const auto effects = FacilityOf<INLEEffects>(clip))
         effects->GetEffect(index, effect.put());
     return effect;
 }
@@ -145,7 +138,7 @@ bool ClipActions::AddEffect(Project& project, const NLEComPtr<INLETimeline>& cli
                             NLECatalogKind kind, const QString& name)
 {
     const auto effect = EngineCatalog::Make(kind, name);
-    const auto effects = EffectsOf(clip);
+    const auto effects = FacilityOf<INLEEffects>(clip);
     if (!effect || !effects)
         return false;
     return project.Change(
@@ -156,7 +149,7 @@ bool ClipActions::AddEffect(Project& project, const NLEComPtr<INLETimeline>& cli
 
 bool ClipActions::RemoveEffect(Project& project, const NLEComPtr<INLETimeline>& clip, int index)
 {
-    const auto effects = EffectsOf(clip);
+    const auto effects = FacilityOf<INLEEffects>(clip);
     const auto effect = EffectAt(clip, index);
     return effect && project.Change(
                          Tr(QT_TRANSLATE_NOOP("ClipActions", "Remove effect")), clip,
@@ -167,7 +160,7 @@ bool ClipActions::RemoveEffect(Project& project, const NLEComPtr<INLETimeline>& 
 bool ClipActions::MoveEffect(Project& project, const NLEComPtr<INLETimeline>& clip, int index,
                              int to)
 {
-    const auto effects = EffectsOf(clip);
+    const auto effects = FacilityOf<INLEEffects>(clip);
     return effects && project.Change(
                           Tr(QT_TRANSLATE_NOOP("ClipActions", "Move effect")), clip,
                           [=] { return effects->MoveEffect(index, to) == S_OK; },

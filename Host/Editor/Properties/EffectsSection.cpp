@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Properties/EffectsSection.h"
 
+#include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Properties/ClipActions.h"
 #include "Host/Editor/Properties/EngineCatalog.h"
-#include "Host/Editor/Properties/EngineText.h"
 #include "Host/Editor/Properties/ParameterFields.h"
 #include "Host/Editor/Properties/PropertyForm.h"
+#include "Host/EngineText.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -65,11 +66,10 @@ void EffectsSection::AddMenu(QMenu& menu, const QString& title, NLECatalogKind k
 
 QVector<NLEComPtr<INLETimeline>> EffectsSection::Effects() const
 {
-    NLEComPtr<INLEEffects> carried;
+    const auto carried = FacilityOf<INLEEffects>(m_scope.node);
     QVector<NLEComPtr<INLETimeline>> effects;
     int count = 0;
-    if (FAILED(m_scope.node->GetInterface(INLEEffects::Iid, carried.putVoid(), 0, 0)) ||
-        carried->GetCount(&count) != S_OK)
+    if (!carried || carried->GetCount(&count) != S_OK)
         return effects;
     for (int index = 0; index < count; ++index) {
         NLEComPtr<INLETimeline> effect;

@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Properties/EngineCatalog.h"
 
-#include "CommonLib/NLEWraper/CVCreateInstance.h"
-#include "EngineApi/INLEFactory.h"
-#include "Host/Editor/Properties/EngineText.h"
+#include "Host/Editor/Model/Engine.h"
+#include "Host/EngineText.h"
 
 namespace {
 
 NLEComPtr<INLETimelineFactory> Nodes()
 {
-    NLEComPtr<INLEFactory> factory;
     NLEComPtr<INLETimelineFactory> nodes;
-    if (CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
-                                                       INLEFactory::Iid, factory.putVoid()))
+    if (const auto factory = EngineFactory(); factory)
         factory->GetTimelineFactory(nodes.put());
     return nodes;
 }

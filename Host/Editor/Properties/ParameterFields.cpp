@@ -2,8 +2,8 @@
 #include "Host/Editor/Properties/ParameterFields.h"
 
 #include "EngineApi/INLETimeline.h"
-#include "Host/Editor/Properties/EngineText.h"
 #include "Host/Editor/Properties/ParameterKeys.h"
+#include "Host/EngineText.h"
 
 #include <QCoreApplication>
 

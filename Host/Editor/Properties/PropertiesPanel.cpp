@@ -9,7 +9,6 @@
 #include "Host/Editor/Properties/ClipFields.h"
 #include "Host/Editor/Properties/EffectsSection.h"
 #include "Host/Editor/Properties/EngineCatalog.h"
-#include "Host/Editor/Properties/EngineText.h"
 #include "Host/Editor/Properties/MovementSection.h"
 #include "Host/Editor/Properties/ParameterFields.h"
 #include "Host/Editor/Properties/ProjectFields.h"
@@ -17,6 +16,7 @@
 #include "Host/Editor/Properties/PropertySection.h"
 #include "Host/Editor/Properties/SpeedSection.h"
 #include "Host/Editor/Properties/TransitionSection.h"
+#include "Host/EngineText.h"
 #include "Host/Widgets/MediaPlayer.h"
 
 #include <QEvent>

@@ -6,26 +6,12 @@
 #include "EngineApi/INLETitle.h"
 #include "EngineApi/NLECommon.h"
 #include "EngineApi/NLEKey.h"
+#include "Host/EngineText.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 
-#include <array>
-
 namespace {
-
-constexpr int kPathCapacity = 4096;
-constexpr int kNameCapacity = 256;
-
-/// The text that a getter writes into a buffer; empty when it fails.
-template <int Capacity, typename Getter>
-QString Text(Getter getter)
-{
-    std::array<wchar_t, Capacity> buffer{};
-    if (FAILED(getter(buffer.data(), Capacity)))
-        return {};
-    return QString::fromWCharArray(buffer.data());
-}
 
 ClipKind KindOf(INLEMediaInfo& info)
 {
@@ -114,7 +100,7 @@ bool ReadTitle(const NLEComPtr<INLETimeline>& node, ClipRow& row)
     if (!title)
         return false;
     row.kind = ClipKind::Title;
-    row.name = Text<kNameCapacity>([&](wchar_t* text, int capacity) {
+    row.name = EngineText([&](wchar_t* text, int capacity) {
                    return title->GetText(text, capacity);
                }).simplified();
     return true;
@@ -126,7 +112,7 @@ bool ReadTransition(const NLEComPtr<INLETimeline>& node, ClipRow& row)
     if (!transition)
         return false;
     row.kind = ClipKind::Transition;
-    row.name = Text<kNameCapacity>(
+    row.name = EngineText(
         [&](wchar_t* text, int capacity) { return transition->GetTransitionName(text, capacity); });
     return true;
 }
@@ -162,7 +148,7 @@ std::shared_ptr<const ClipMedia> ClipReader::Media(INLETimelineSource& source)
     ClipMedia media;
     if (FAILED(source.GetMediaInfo(media.info.put())) || !media.info)
         return nullptr;
-    media.path = Text<kPathCapacity>(
+    media.path = EngineText<kEnginePath>(
         [&](wchar_t* text, int capacity) { return source.GetFilePath(text, capacity); });
     ReadStreams(source, media);
     const QString key =

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Timeline/ClipSet.h"
+#include "Host/Editor/Model/Engine.h"
 
 #include <algorithm>
 
@@ -8,18 +9,11 @@ ClipSet ClipSets::GroupOf(INLEEditing& editing, INLETimeline* clip)
     const NLEComPtr<INLETimeline> alone(clip);
     if (alone.query<INLETimelineTransition>())
         return {alone};
-    ClipSet group;
     NLEComPtr<INLETimelineEnumerator> walk;
-    bool isEmpty = true;
-    if (FAILED(editing.GetGroup(clip, walk.put())) || !walk || FAILED(walk->IsEmpty(&isEmpty)) ||
-        isEmpty)
+    if (FAILED(editing.GetGroup(clip, walk.put())) || !walk)
         return {alone};
-    do {
-        NLEComPtr<INLETimeline> member;
-        if (SUCCEEDED(walk->GetCurrent(member.put())) && member)
-            group << member;
-    } while (walk->Next() == S_OK);
-    return group;
+    const ClipSet group = NodesOf(*walk);
+    return group.isEmpty() ? ClipSet{alone} : group;
 }
 
 bool ClipSets::IsOneGroup(INLEEditing& editing, const ClipSet& clips)

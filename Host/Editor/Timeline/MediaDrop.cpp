@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Timeline/MediaDrop.h"
 
-#include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "Host/Editor/Model/Engine.h"
 
 #include <QMimeData>
 #include <QUrl>
@@ -29,10 +29,9 @@ std::optional<MediaDrop> MediaDrop::Read(const QMimeData& data)
 
 HRESULT MediaDrop::Place(INLEEditing& editing, int frame, int level, int flags) const
 {
-    auto* provider = NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
     for (const QString& path : paths) {
         constexpr bool allowMissing = false;
-        const auto clip = provider->CreateMediaTimeline(path, allowMissing);
+        const auto clip = EngineProvider().CreateMediaTimeline(path, allowMissing);
         if (!clip)
             return E_FAIL;
         if (range)

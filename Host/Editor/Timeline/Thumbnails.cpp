@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Timeline/Thumbnails.h"
 
-#include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "Host/Editor/Model/Engine.h"
 
 namespace {
 
@@ -33,8 +33,7 @@ QImage Extract(INLEThumbnailExtractor& extractor, const ClipMedia& media, int fr
 
 Thumbnails::Thumbnails(QObject* parent)
     : QObject(parent)
-    , m_extractor(
-          NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider()->CreateThumbnailExtractor())
+    , m_extractor(EngineProvider().CreateThumbnailExtractor())
     , m_kept(kMostKept)
     , m_worker(std::make_unique<NewestFirst<MediaKey>>(kMostWaiting))
 {

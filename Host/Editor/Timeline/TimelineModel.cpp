@@ -3,34 +3,23 @@
 
 #include "EngineApi/INLEEditing.h"
 #include "EngineApi/INLEMarkers.h"
+#include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Project.h"
 
 #include <QUndoStack>
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
-constexpr int kNameCapacity = 256;
-
-/// Walks the clips of \a composite.
 QVector<NLEComPtr<INLETimeline>> ClipsOf(const NLEComPtr<INLETimeline>& composite)
 {
-    QVector<NLEComPtr<INLETimeline>> clips;
     const auto holder = composite.query<INLETimelineComposite>();
     NLEComPtr<INLETimelineEnumerator> walk;
     constexpr int flags = 1;
-    bool isEmpty = true;
-    if (!holder || FAILED(holder->GetEnumerator(flags, walk.put())) ||
-        FAILED(walk->IsEmpty(&isEmpty)) || isEmpty)
-        return clips;
-    do {
-        NLEComPtr<INLETimeline> clip;
-        if (SUCCEEDED(walk->GetCurrent(clip.put())) && clip)
-            clips << clip;
-    } while (walk->Next() == S_OK);
-    return clips;
+    if (!holder || FAILED(holder->GetEnumerator(flags, walk.put())))
+        return {};
+    return NodesOf(*walk);
 }
 
 } // namespace
@@ -114,19 +103,14 @@ void TimelineModel::Follow(const NLEComPtr<INLETimeline>& node)
 void TimelineModel::ReadMarkers()
 {
     m_markers.clear();
-    NLEComPtr<INLEMarkers> markers;
-    if (const auto node = m_project.Node();
-        !node || FAILED(node->GetInterface(INLEMarkers::Iid, markers.putVoid(), 0, 0)))
-        markers.forget();
+    const auto markers = FacilityOf<INLEMarkers>(m_project.Node());
     int count = 0;
     if (markers)
         markers->GetCount(&count);
     for (int index = 0; index < count; ++index) {
         NLEMarkerRecord record{};
-        std::array<wchar_t, kNameCapacity> name{};
-        if (SUCCEEDED(markers->GetMarker(index, &record, name.data(), kNameCapacity)))
-            m_markers.append({record.frame, record.length, QColor::fromRgba(record.color),
-                              QString::fromWCharArray(name.data())});
+        if (SUCCEEDED(markers->GetMarker(index, &record, nullptr, 0)))
+            m_markers.append({record.frame, record.length, QColor::fromRgba(record.color)});
     }
     Q_EMIT MarkersChanged();
 }

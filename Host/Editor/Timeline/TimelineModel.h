@@ -17,7 +17,6 @@ struct MarkerRow
     int frame;
     int length; ///< 0 for an instant
     QColor colour;
-    QString name;
 };
 
 /// The clips of the open project by level and frame. Follows the project's changes: what an edit

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Timeline/WaveForms.h"
 
-#include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "Host/Editor/Model/Engine.h"
 
 #include <algorithm>
 #include <cmath>
@@ -39,7 +39,7 @@ bool Measure(INLEWaveExtractor& extractor, int step, int index, WaveForms::Part&
 
 WaveForms::WaveForms(QObject* parent)
     : QObject(parent)
-    , m_extractor(NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider()->CreateWaveExtractor())
+    , m_extractor(EngineProvider().CreateWaveExtractor())
     , m_kept(kMostKept)
     , m_worker(std::make_unique<NewestFirst<MediaKey>>(kMostWaiting))
 {

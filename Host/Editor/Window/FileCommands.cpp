@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Window/FileCommands.h"
 
-#include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Project.h"
 #include "Host/Widgets/KeepTranslated.h"
 
@@ -54,9 +54,8 @@ QAction* FileCommands::Add(const char* text, const QKeySequence& keys, Act act)
 
 void FileCommands::New()
 {
-    PlayerMaterProvider* provider = NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
     if (MayLeave())
-        m_project.New(provider->GetDefualtProfile());
+        m_project.New(EngineProvider().GetDefualtProfile());
 }
 
 void FileCommands::Open()

@@ -3,10 +3,10 @@
 
 #include "CommonLib/NLEWraper/FPreViewRenderHelper.h"
 #include "CommonLib/NLEWraper/NLETimeline.h"
-#include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "Host/Editor/Bin/BinView.h"
 #include "Host/Editor/Export/ExportQueue.h"
+#include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Properties/ClipActions.h"
 #include "Host/Editor/Properties/MovementKeys.h"
 #include "Host/Editor/Timeline/TimelinePanel.h"
@@ -49,8 +49,7 @@ void Wait(int milliseconds)
 /// Null where the engine cannot read the file.
 NLEComPtr<INLETimeline> ClipOf(const QString& path)
 {
-    PlayerMaterProvider* provider = NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
-    return QFileInfo::exists(path) ? provider->CreateMediaTimeline(path, false) : nullptr;
+    return QFileInfo::exists(path) ? EngineProvider().CreateMediaTimeline(path, false) : nullptr;
 }
 
 } // namespace

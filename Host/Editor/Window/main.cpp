@@ -4,6 +4,7 @@
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/externalapi/PixelRatio.h"
+#include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Reasons.h"
 #include "Host/Editor/Window/EditorWindow.h"
 #include "Host/Editor/Window/FileCommands.h"

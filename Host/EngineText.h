@@ -7,12 +7,15 @@
 
 #include <array>
 
+/// Room for the path of a file, with the terminating zero.
+constexpr int kEnginePath = 4096;
+
 /// The text that a call with a buffer and its capacity gives; empty when it fails. Longer texts are
 /// cut to \a Capacity characters with the terminating zero.
 template <int Capacity = 256, typename Call>
 QString EngineText(Call call)
 {
     std::array<wchar_t, Capacity> buffer = {};
-    return call(buffer.data(), Capacity) == S_OK ? QString::fromWCharArray(buffer.data())
-                                                 : QString();
+    return SUCCEEDED(call(buffer.data(), Capacity)) ? QString::fromWCharArray(buffer.data())
+                                                    : QString();
 }
