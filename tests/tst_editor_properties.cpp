@@ -375,9 +375,9 @@ private Q_SLOTS:
         QVERIFY(ClipActions::AddEffect(project, clip, NLECatalog_Effect, "blur"));
         QVERIFY(ClipActions::AddEffect(project, clip, NLECatalog_AudioFilter, "echo"));
         QCOMPARE(EffectNames(clip), QStringList({"blur", "echo"}));
-        QVERIFY(m_editor->Click("Apply later")); // of the first one
+        QVERIFY(m_editor->Click("Blur: Apply later"));
         QCOMPARE(EffectNames(clip), QStringList({"echo", "blur"}));
-        QVERIFY(m_editor->Click("Remove"));
+        QVERIFY(m_editor->Click("Echo: Remove"));
         QCOMPARE(EffectNames(clip), QStringList("blur"));
         auto boxes = m_editor->panel.findChildren<QCheckBox*>();
         const auto isBlur = [](const QCheckBox* box) { return box->text() == "Blur"; };

@@ -2,26 +2,13 @@
 #include "Host/Editor/Bin/BinModel.h"
 
 #include "Host/Editor/Bin/MediaBin.h"
+#include "Host/Editor/Model/MediaMime.h"
 
 #include <QFileInfo>
 #include <QMimeData>
 #include <QUrl>
 
 #include <algorithm>
-
-namespace {
-
-QStringList LocalFiles(const QMimeData& data)
-{
-    QStringList files;
-    for (const QUrl& url : data.urls()) {
-        if (url.isLocalFile())
-            files << url.toLocalFile();
-    }
-    return files;
-}
-
-} // namespace
 
 BinModel::BinModel(MediaBin& bin, MediaDescriber& describer, ProxyJobs& proxies, QObject* parent)
     : QAbstractListModel(parent), m_bin(bin), m_describer(describer), m_proxies(proxies)
@@ -72,29 +59,23 @@ Qt::ItemFlags BinModel::flags(const QModelIndex& index) const
 
 QStringList BinModel::mimeTypes() const
 {
-    return {QStringLiteral("text/uri-list"), QLatin1String(kRangeType)};
+    return {QStringLiteral("text/uri-list"), QLatin1String(MediaMime::kRangeType)};
 }
 
 QMimeData* BinModel::mimeData(const QModelIndexList& indexes) const
 {
-    QList<QUrl> urls;
-    for (const QModelIndex& index : indexes)
-        urls << QUrl::fromLocalFile(m_items[index.row()].entry.path);
-    if (urls.isEmpty())
+    if (indexes.isEmpty())
         return nullptr;
-    auto* data = new QMimeData;
-    data->setUrls(urls);
-    const NLERange marks = m_items[indexes.first().row()].entry.marks;
-    if (urls.size() == 1 && NLERangeLength(marks) > 0)
-        data->setData(QLatin1String(kRangeType),
-                      QStringLiteral("%1 %2").arg(marks.in).arg(marks.out).toLatin1());
-    return data;
+    QStringList files;
+    for (const QModelIndex& index : indexes)
+        files << m_items[index.row()].entry.path;
+    return MediaMime::Make(files, m_items[indexes.first().row()].entry.marks);
 }
 
 bool BinModel::canDropMimeData(const QMimeData* data, Qt::DropAction /*action*/, int /*row*/,
                                int /*column*/, const QModelIndex& /*parent*/) const
 {
-    return data && !LocalFiles(*data).isEmpty();
+    return data && !MediaMime::Files(*data).isEmpty();
 }
 
 bool BinModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
@@ -102,7 +83,7 @@ bool BinModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int ro
 {
     if (!canDropMimeData(data, action, row, column, parent))
         return false;
-    Q_EMIT Dropped(LocalFiles(*data));
+    Q_EMIT Dropped(MediaMime::Files(*data));
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include "Host/Editor/Properties/EngineCatalog.h"
 #include "Host/Editor/Properties/ParameterFields.h"
 #include "Host/Editor/Properties/PropertyForm.h"
+#include "Host/Editor/Properties/SmallButton.h"
 #include "Host/EngineText.h"
 
 #include <QCheckBox>
@@ -18,7 +19,6 @@
 namespace {
 
 constexpr int kGap = 6;
-constexpr int kButtonSide = 20;
 
 /// What an effect is called for people; it may be one of picture or of sound.
 QString TitleOf(const NLEComPtr<INLETimeline>& effect)
@@ -107,17 +107,6 @@ void EffectsSection::Rebuild(const QVector<NLEComPtr<INLETimeline>>& effects)
     }
 }
 
-QToolButton* EffectsSection::MakeButton(const QString& text, const QString& name, QWidget* parent)
-{
-    auto* button = new QToolButton(parent);
-    button->setText(text);
-    button->setToolTip(name);
-    button->setAccessibleName(name);
-    button->setFixedSize(kButtonSide, kButtonSide);
-    button->setStyleSheet(QStringLiteral("padding: 0"));
-    return button;
-}
-
 EffectsSection::Card EffectsSection::MakeCard(const NLEComPtr<INLETimeline>& effect, int index,
                                               int count)
 {
@@ -126,9 +115,9 @@ EffectsSection::Card EffectsSection::MakeCard(const NLEComPtr<INLETimeline>& eff
     column->setContentsMargins(0, 0, 0, 0);
     auto* head = new QHBoxLayout;
     auto* isOn = new QCheckBox(TitleOf(effect), widget);
-    auto* up = MakeButton(QStringLiteral("↑"), tr("Apply earlier"), widget);
-    auto* down = MakeButton(QStringLiteral("↓"), tr("Apply later"), widget);
-    auto* remove = MakeButton(QStringLiteral("×"), tr("Remove"), widget);
+    auto* up = MakeSmallButton(QStringLiteral("↑"), tr("Apply earlier"), isOn->text(), widget);
+    auto* down = MakeSmallButton(QStringLiteral("↓"), tr("Apply later"), isOn->text(), widget);
+    auto* remove = MakeSmallButton(QStringLiteral("×"), tr("Remove"), isOn->text(), widget);
     up->setEnabled(index > 0);
     down->setEnabled(index + 1 < count);
     head->addWidget(isOn, 1);

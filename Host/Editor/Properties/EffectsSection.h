@@ -37,7 +37,6 @@ private:
     QVector<NLEComPtr<INLETimeline>> Effects() const;
     void Rebuild(const QVector<NLEComPtr<INLETimeline>>& effects);
     Card MakeCard(const NLEComPtr<INLETimeline>& effect, int index, int count);
-    QToolButton* MakeButton(const QString& text, const QString& name, QWidget* parent);
     void AddMenu(QMenu& menu, const QString& title, NLECatalogKind kind);
 
     const PropertyScope m_scope;

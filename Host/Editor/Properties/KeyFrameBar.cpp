@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Properties/KeyFrameBar.h"
 
+#include "Host/Editor/Properties/SmallButton.h"
+
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QToolButton>
@@ -9,7 +11,6 @@
 
 namespace {
 
-constexpr int kButtonSide = 20;
 constexpr int kGap = 2;
 
 } // namespace
@@ -22,10 +23,10 @@ KeyFrameBar::KeyFrameBar(std::shared_ptr<KeyFrames> keys, const QString& title, 
     row->setSpacing(kGap);
     // Time runs from left to right in every language.
     row->setDirection(isRightToLeft() ? QBoxLayout::RightToLeft : QBoxLayout::LeftToRight);
-    m_previous = MakeButton(QStringLiteral("◂"), tr("Previous key frame"), this);
-    m_diamond = MakeButton(QStringLiteral("◇"), tr("Key frame"), parent);
+    m_previous = MakeSmallButton(QStringLiteral("◂"), tr("Previous key frame"), title, this);
+    m_diamond = MakeSmallButton(QStringLiteral("◇"), tr("Key frame"), title, parent);
     m_diamond->setCheckable(true);
-    m_next = MakeButton(QStringLiteral("▸"), tr("Next key frame"), this);
+    m_next = MakeSmallButton(QStringLiteral("▸"), tr("Next key frame"), title, this);
     m_interpolation = new QComboBox(this);
     AddInterpolations();
     row->addWidget(m_previous);
@@ -37,17 +38,6 @@ KeyFrameBar::KeyFrameBar(std::shared_ptr<KeyFrames> keys, const QString& title, 
     connect(m_next, &QToolButton::clicked, this,
             [this] { Q_EMIT SeekWanted(m_keys->Behind(m_playHead).value_or(m_playHead)); });
     connect(m_diamond, &QToolButton::clicked, this, &KeyFrameBar::Toggle);
-}
-
-QToolButton* KeyFrameBar::MakeButton(const QString& text, const QString& name, QWidget* parent)
-{
-    auto* button = new QToolButton(parent);
-    button->setText(text);
-    button->setToolTip(name);
-    button->setAccessibleName(QStringLiteral("%1: %2").arg(m_title, name));
-    button->setFixedSize(kButtonSide, kButtonSide);
-    button->setStyleSheet(QStringLiteral("padding: 0"));
-    return button;
 }
 
 void KeyFrameBar::AddInterpolations()

@@ -30,7 +30,6 @@ Q_SIGNALS:
     void ChangeWanted(const PropertyChange& change);
 
 private:
-    QToolButton* MakeButton(const QString& text, const QString& name, QWidget* parent);
     void AddInterpolations();
     void Toggle();
 

@@ -5,6 +5,7 @@
 #include "Host/Editor/Properties/KeyFrameBar.h"
 #include "Host/Editor/Properties/ParameterKeys.h"
 #include "Host/Editor/Properties/PropertyEditor.h"
+#include "Host/Editor/Properties/SmallButton.h"
 #include "Host/Widgets/MediaPlayer.h"
 
 #include <QGridLayout>
@@ -15,7 +16,6 @@ namespace {
 
 constexpr int kNameWidth = 104;
 constexpr int kGap = 6;
-constexpr int kButtonSide = 20;
 
 enum Column
 {
@@ -66,13 +66,8 @@ void PropertyForm::AddRow(const PropertyField& field)
 
 QToolButton* PropertyForm::AddReset(int index)
 {
-    auto* reset = new QToolButton(this);
-    reset->setText(QStringLiteral("↺"));
-    reset->setToolTip(tr("Back to the preset"));
-    reset->setAccessibleName(
-        QStringLiteral("%1: %2").arg(m_rows[index].field.title, reset->toolTip()));
-    reset->setFixedSize(kButtonSide, kButtonSide);
-    reset->setStyleSheet(QStringLiteral("padding: 0"));
+    auto* reset = MakeSmallButton(QStringLiteral("↺"), tr("Back to the preset"),
+                                  m_rows[index].field.title, this);
     connect(reset, &QToolButton::clicked, this, [this, index] { Reset(index); });
     return reset;
 }

@@ -3,6 +3,7 @@
 
 #include "CommonLib/NLEWraper/NLETimeline.h"
 #include "Host/Editor/Properties/ClipActions.h"
+#include "Host/Editor/Properties/SmallButton.h"
 #include "Host/Widgets/NumberEdit.h"
 
 #include <QHBoxLayout>
@@ -13,7 +14,6 @@ namespace {
 
 constexpr int kNameWidth = 104;
 constexpr int kGap = 6;
-constexpr int kButtonSide = 20;
 constexpr double kUsual = 100; // per cent
 constexpr double kSlowest = 10;
 constexpr double kFastest = 1000;
@@ -30,7 +30,6 @@ SpeedSection::SpeedSection(const PropertyScope& scope, QWidget* parent)
     : QWidget(parent)
     , m_scope(scope)
     , m_speed(new NumberEdit({kSlowest, kFastest, 1, 1, tr(" %"), true}, this))
-    , m_reset(new QToolButton(this))
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -39,11 +38,7 @@ SpeedSection::SpeedSection(const PropertyScope& scope, QWidget* parent)
     name->setFixedWidth(kNameWidth);
     name->setBuddy(m_speed);
     m_speed->SetTitle(name->text());
-    m_reset->setText(QStringLiteral("↺"));
-    m_reset->setToolTip(tr("Back to the preset"));
-    m_reset->setAccessibleName(QStringLiteral("%1: %2").arg(name->text(), m_reset->toolTip()));
-    m_reset->setFixedSize(kButtonSide, kButtonSide);
-    m_reset->setStyleSheet(QStringLiteral("padding: 0"));
+    m_reset = MakeSmallButton(QStringLiteral("↺"), tr("Back to the preset"), name->text(), this);
     row->addWidget(name);
     row->addWidget(m_speed, 1);
     row->addWidget(m_reset);

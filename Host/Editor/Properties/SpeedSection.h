@@ -24,5 +24,5 @@ private:
 
     const PropertyScope m_scope;
     NumberEdit* m_speed;
-    QToolButton* m_reset;
+    QToolButton* m_reset = nullptr;
 };

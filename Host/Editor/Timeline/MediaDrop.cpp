@@ -3,27 +3,13 @@
 
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "Host/Editor/Model/Engine.h"
-
-#include <QMimeData>
-#include <QUrl>
+#include "Host/Editor/Model/MediaMime.h"
 
 std::optional<MediaDrop> MediaDrop::Read(const QMimeData& data)
 {
-    MediaDrop drop;
-    for (const QUrl& url : data.urls()) {
-        if (url.isLocalFile())
-            drop.paths << url.toLocalFile();
-    }
+    MediaDrop drop = {MediaMime::Files(data), MediaMime::Range(data)};
     if (drop.paths.isEmpty())
         return {};
-    const QList<QByteArray> words = data.data(kRangeType).simplified().split(' ');
-    if (drop.paths.size() != 1 || words.size() != 2)
-        return drop;
-    bool isIn = false;
-    bool isOut = false;
-    const NLERange range = {words[0].toInt(&isIn), words[1].toInt(&isOut)};
-    if (isIn && isOut && NLERangeLength(range) > 0)
-        drop.range = range;
     return drop;
 }
 

@@ -13,9 +13,6 @@ class QMimeData;
 /// Media files that are dragged onto a timeline.
 struct MediaDrop
 {
-    /// Frames of a single file that were chosen, as decimals with a blank between them.
-    static constexpr const char* kRangeType = "application/x-commonlib-range";
-
     QStringList paths;
     std::optional<NLERange> range; ///< at the file's own rate
 

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Host/Editor/Properties/SmallButton.h"
+
+#include <QToolButton>
+
+namespace {
+
+constexpr int kSide = 20; // pixels
+
+} // namespace
+
+QToolButton* MakeSmallButton(const QString& sign, const QString& name, const QString& owner,
+                             QWidget* parent)
+{
+    auto* button = new QToolButton(parent);
+    button->setText(sign);
+    button->setToolTip(name);
+    button->setAccessibleName(owner.isEmpty() ? name : QStringLiteral("%1: %2").arg(owner, name));
+    button->setFixedSize(kSide, kSide);
+    button->setStyleSheet(QStringLiteral("padding: 0"));
+    return button;
+}
