@@ -23,5 +23,6 @@ build() {
   local preset=$1
   shift
   say "Configuring and building ($preset)"
-  (cd "$root" && cmake --preset "$preset" -DCOMMONLIB_WARNINGS_AS_ERRORS="${CI:-OFF}" && cmake --build --preset "$preset" ${1:+--target "$@"})
+  (cd "$root" && cmake --preset "$preset" -DCOMMONLIB_WARNINGS_AS_ERRORS="${CI:-OFF}" \
+    ${CI:+-DCMAKE_CXX_FLAGS_DEBUG=-g1} && cmake --build --preset "$preset" ${1:+--target "$@"})
 }
