@@ -2,6 +2,7 @@
 #include "CommonLib/CBSUrlReader.h"
 
 #include "CommonLib/ModuleErrors_p.h"
+#include "CommonLib/ModuleFolders_p.h"
 #include "CommonLib/PathOperation.h"
 #include "CommonLib/WideText_p.h"
 
@@ -46,7 +47,7 @@ bool CBSUrlReader::LoadUtilitiesLib()
 {
     if (m_module)
         return true;
-    auto module = std::make_unique<QLibrary>(PathOperation::MakeWorkPath("CVUtilities.dll"));
+    auto module = std::make_unique<QLibrary>(FindModule("CVUtilities.dll"));
     const bool isLoaded = module->load();
     NoteModule(*module);
     if (isLoaded)

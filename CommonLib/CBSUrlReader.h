@@ -13,8 +13,8 @@ class QLibrary;
 /// Web addresses and other values of a customised build: an edition for a partner or a market.
 ///
 /// The values are those of "Customization.xml" beside the executable, read by the utilities module
-/// "CVUtilities.dll" in the same folder. Without either every value is an empty text. Nothing is
-/// logged.
+/// "CVUtilities.dll" of the module folders (ModuleFolders.h). Without either every value is an
+/// empty text. Nothing is logged.
 class COMMONLIB_EXPORT CBSUrlReader : public QObject
 {
     Q_OBJECT

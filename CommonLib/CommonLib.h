@@ -18,6 +18,7 @@
 #include "CommonLib/LangConstInfo.h"
 #include "CommonLib/MagicLabel.h"
 #include "CommonLib/ModuleErrors.h"
+#include "CommonLib/ModuleFolders.h"
 #include "CommonLib/MultiLangMgr.h"
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/FAudioStreamProcessHelper.h"

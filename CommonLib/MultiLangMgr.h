@@ -17,11 +17,11 @@ class QTranslator;
 
 /// The language of the user interface: its translators, its font, and the choice that is kept.
 ///
-/// Construction loads the translation files of all languages from "Lang/" beside the executable;
-/// nothing is selected yet and the application's font is untouched. Selecting a language removes
-/// the translators of the one before, sets the application's font when the new language needs
-/// another, stores the choice in an ini file and installs the new translators. When one of the two
-/// languages has translations, Qt sends QEvent::LanguageChange to every window.
+/// Construction loads the translation files of all languages from "Lang/" in the module folders
+/// (ModuleFolders.h); nothing is selected yet and the application's font is untouched. Selecting a
+/// language removes the translators of the one before, sets the application's font when the new
+/// language needs another, stores the choice in an ini file and installs the new translators. When
+/// one of the two languages has translations, Qt sends QEvent::LanguageChange to every window.
 ///
 /// The ini file holds either what it held before or the whole new choice: one that cannot be
 /// written, is no regular file or is longer than 1 MiB stays as it is, and the language is selected

@@ -6,8 +6,27 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
 
 #include <algorithm>
+
+namespace {
+
+/// Where the choice is kept: \a beside the executable where the program has a folder of its own
+/// that can be written, as its translations there tell, and else among the user's settings.
+QString ChoicePath(const QString& beside)
+{
+    const QFileInfo folder(QFileInfo(beside).path());
+    if (folder.isWritable() && QFileInfo(folder.filePath() + QStringLiteral("/Lang")).isDir())
+        return beside;
+    const QString settings = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+    QDir().mkpath(settings);
+    return settings + '/' + QFileInfo(beside).fileName();
+}
+
+} // namespace
 
 HostLanguage::HostLanguage()
 {
@@ -16,6 +35,7 @@ HostLanguage::HostLanguage()
     // Other options are the program's; what is not understood here is not wrong.
     parser.parse(QCoreApplication::arguments());
     MultiLangMgr* languages = MultiLangMgr::GetInstance();
+    languages->SetConfigPath(ChoicePath(languages->GetConfigPath()));
     languages->SetLangLocale();
     languages->SetLangLocale(parser.value(Option()));
     Select(languages->GetLangLocale());

@@ -52,6 +52,7 @@ function(commonlib_add_translations target name)
     list(APPEND compiled ${folder}/${name}.qm)
   endforeach()
   add_custom_target(${target} ALL DEPENDS ${compiled})
+  set_property(TARGET ${target} PROPERTY COMMONLIB_COMPILED ${compiled})
 endfunction()
 
 # commonlib_add_qt_translations(TARGET [FILES…]): puts what Qt itself says (buttons of dialogs,
@@ -93,4 +94,20 @@ function(commonlib_add_qt_translations target)
     list(APPEND made ${folder}/Qt.qm)
   endforeach()
   add_custom_target(${target} ALL DEPENDS ${made})
+  set_property(TARGET ${target} PROPERTY COMMONLIB_COMPILED ${made})
+endfunction()
+
+# commonlib_install_translations(TARGET DESTINATION FOLDER [COMPONENT NAME]): installs what one of the
+# functions above made as FOLDER/Lang/<language>/*.qm.
+function(commonlib_install_translations target)
+  cmake_parse_arguments(arg "" "DESTINATION;COMPONENT" "" ${ARGN})
+  if(arg_COMPONENT)
+    set(component COMPONENT ${arg_COMPONENT})
+  endif()
+  get_target_property(files ${target} COMMONLIB_COMPILED)
+  foreach(file IN LISTS files)
+    get_filename_component(folder ${file} DIRECTORY)
+    get_filename_component(language ${folder} NAME)
+    install(FILES ${file} DESTINATION ${arg_DESTINATION}/Lang/${language} ${component})
+  endforeach()
 endfunction()

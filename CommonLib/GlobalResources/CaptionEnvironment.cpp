@@ -2,11 +2,11 @@
 #include "CommonLib/GlobalResources/CaptionEnvironment_p.h"
 
 #include "CommonLib/BaseLog.h"
+#include "CommonLib/ModuleFolders_p.h"
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/EngineCall_p.h"
 #include "CommonLib/WideText_p.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QFontDatabase>
@@ -140,7 +140,7 @@ const QList<CaptionFont*>* CaptionEnvironment::GetFonts()
 
 void CaptionEnvironment::InitFontFolder()
 {
-    const QString folder = QCoreApplication::applicationDirPath() + "/Fonts/";
+    const QString folder = FindModuleFolder("Fonts");
     m_library->SetCacheFile(NativeWide(folder + "Cache.xml").c_str());
     m_library->SetFontFolder(NativeWide(folder).c_str());
     const QFileInfoList entries = QDir(folder).entryInfoList();

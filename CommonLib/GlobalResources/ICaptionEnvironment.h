@@ -17,7 +17,7 @@ struct CaptionFont
 
 /// The engine's font library, set up with the fonts that the editor's menus offer.
 ///
-/// The first GetInstance() gives the engine the folder "Fonts/" beside the executable with the
+/// The first GetInstance() gives the engine the folder "Fonts/" of the module folders with the
 /// cache file "Cache.xml" in it, registers that folder's fonts with Qt and lists what the engine
 /// has. Without an engine, or without its font library, the list is empty and stays so.
 ///

@@ -3,7 +3,7 @@
 
 #include "Com/ClassFactory.h"
 #include "CommonLib/ModuleErrors_p.h"
-#include "CommonLib/NLEWraper/EngineModule_p.h"
+#include "CommonLib/ModuleFolders_p.h"
 
 #include <QLibrary>
 
@@ -36,7 +36,7 @@ bool CVCreateInstance::Load()
 {
     if (m_module)
         return true;
-    auto module = std::make_unique<QLibrary>(EngineModulePath());
+    auto module = std::make_unique<QLibrary>(FindModule("NLECore.dll"));
     const bool isLoaded = module->load();
     NoteModule(*module);
     if (!isLoaded)

@@ -8,7 +8,8 @@
 
 class QLibrary;
 
-/// The one entry to the engine core library "NLECore.dll", which lies in the application's folder.
+/// The one entry to the engine core library "NLECore.dll", the first in the module folders
+/// (ModuleFolders.h): that in the application's folder before any other.
 ///
 /// Created without a lock: call Instance() on the GUI thread first.
 class COMMONLIB_EXPORT CVCreateInstance

@@ -5,7 +5,7 @@
 #include "CommonLib/FileOperation.h"
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/EngineCall_p.h"
-#include "CommonLib/NLEWraper/EngineModule_p.h"
+#include "CommonLib/PathOperation.h"
 #include "CommonLib/WideText_p.h"
 #include "EngineApi/NLEKey.h"
 
@@ -40,8 +40,10 @@ PlayerMaterProviderPrivate::PlayerMaterProviderPrivate(QObject* parent) : QObjec
     } else {
         log->LogInfo(kSourcePath, kConstructorName, factoryFailedLine,
                      "INLEFactory Create failed.");
+        // Of the first place of all, where a host ships it.
+        const QString module = PathOperation::MakeWorkPath("NLECore.dll");
         log->LogInfo(kSourcePath, kConstructorName, moduleCheckLine, "Check NLECore Exist:%d",
-                     FileOperation::IsFileExist(EngineModulePath()) ? 1 : 0);
+                     FileOperation::IsFileExist(module) ? 1 : 0);
     }
     m_scratch.reset();
 }

@@ -4,10 +4,10 @@
 #include "Com/ClassFactory.h"
 #include "Com/ComObject.h"
 #include "CommonLib/ModuleErrors_p.h"
+#include "CommonLib/ModuleFolders_p.h"
 #include "CommonLib/WideText_p.h"
 #include "CommonLib/WpdApiLib/WpdReport_p.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QLibrary>
 
@@ -25,8 +25,7 @@ DllGetClassObjectFunction GetClassObject()
 {
     static DllGetClassObjectFunction s_function = nullptr;
     if (!s_function) {
-        QLibrary module(QCoreApplication::applicationDirPath() +
-                        QStringLiteral("/PortableDevices.dll"));
+        QLibrary module(FindModule("PortableDevices.dll"));
         s_function =
             reinterpret_cast<DllGetClassObjectFunction>(module.resolve("DllGetClassObject"));
         NoteModule(module);

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/languages/LanguageTranslators_p.h"
 
+#include "CommonLib/ModuleFolders_p.h"
 #include "CommonLib/languages/LanguageTable_p.h"
 #include "CommonLib/languages/TranslationFile_p.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QTranslator>
 
 LanguageTranslators::LanguageTranslators(Language_Locale value) : locale(Language_English)
@@ -15,12 +14,10 @@ LanguageTranslators::LanguageTranslators(Language_Locale value) : locale(Languag
         locale = value;
         name = row->DirName();
     }
-    const QString folder = QCoreApplication::applicationDirPath() + "/Lang/" + name + '/';
-    const QStringList files = QDir(folder).entryList(QDir::Files, QDir::Unsorted);
-    for (const QString& file : files) {
+    for (const QString& file : FindModuleFiles("Lang/" + name)) {
         auto* translator = new QTranslator;
-        if (IsSoundTranslationFile(folder + file))
-            translator->load(folder + file);
+        if (IsSoundTranslationFile(file))
+            translator->load(file);
         translators.append(translator);
     }
 }

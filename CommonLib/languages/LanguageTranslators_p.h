@@ -11,9 +11,9 @@ class QTranslator;
 class LanguageTranslators
 {
 public:
-    /// Loads every file of the language's folder, "Lang/<folder>/" beside the executable. A file
-    /// that cannot be loaded gives a translator that is empty. A value without a row in the table
-    /// is taken for English.
+    /// Loads every file of the language's folder, "Lang/<folder>/", in the module folders; those
+    /// beside the executable come last, so that their texts hold. A file that cannot be loaded
+    /// gives a translator that is empty. A value without a row in the table is taken for English.
     explicit LanguageTranslators(Language_Locale value);
     ~LanguageTranslators();
     LanguageTranslators(const LanguageTranslators&) = delete;

@@ -1,9 +1,11 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
-# Installs the library from BUILD into WORK, then configures and builds the projects in SOURCE and
-# EXAMPLES against what was installed, and runs the first; where BUILD has the engine, also the
-# examples that open no window. FLAGS are the compiler flags that the library was built with, SUFFIX
-# ends the name of a program; TOOLCHAIN and EMULATOR are the tool chain file and what runs programs
-# when the library is cross-compiled.
+# Installs the library from BUILD into WORK, moves what was installed, then configures and builds the
+# projects in SOURCE and EXAMPLES against it, and runs the first; where BUILD has the engine, also what
+# makes films and the examples that open no window. FLAGS are the compiler flags that the library was
+# built with, SUFFIX ends the name of a program; TOOLCHAIN and EMULATOR are the tool chain file and what
+# runs programs when the library is cross-compiled. LIBDIR is where libraries lie in a prefix.
+
+cmake_minimum_required(VERSION 3.21)
 
 function(step)
   execute_process(COMMAND ${ARGV} RESULT_VARIABLE result)
@@ -12,39 +14,60 @@ function(step)
   endif()
 endfunction()
 
+# build_project NAME FOLDER: in WORK/NAME, against the installed package.
+function(build_project name folder)
+  step(${CMAKE_COMMAND} -S ${folder} -B ${WORK}/${name} -G Ninja -DCMAKE_CXX_FLAGS=${FLAGS}
+    -DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN}
+    -DCMAKE_FIND_ROOT_PATH=${WORK}/prefix -DCMAKE_PREFIX_PATH=${WORK}/prefix)
+  step(${CMAKE_COMMAND} --build ${WORK}/${name})
+  file(GLOB libraries ${WORK}/prefix/bin/*.dll)
+  if(libraries)
+    file(COPY ${libraries} DESTINATION ${WORK}/${name})
+  endif()
+endfunction()
+
+function(run program)
+  step(${EMULATOR} ${WORK}/${program}${SUFFIX} ${ARGN})
+endfunction()
+
 file(REMOVE_RECURSE ${WORK})
-step(${CMAKE_COMMAND} --install ${BUILD} --component CommonLib --prefix ${WORK}/prefix)
+set(components library development)
+foreach(module IN ITEMS engine=NLECore customisation=CVUtilities devices=PortableDevices)
+  string(REGEX MATCH "^([^=]+)=(.+)$" module ${module})
+  if(EXISTS ${BUILD}/bin/${CMAKE_MATCH_2}.dll)
+    list(APPEND components ${CMAKE_MATCH_1})
+  endif()
+endforeach()
+foreach(component IN LISTS components)
+  step(${CMAKE_COMMAND} --install ${BUILD} --component ${component} --prefix ${WORK}/installed)
+endforeach()
+file(RENAME ${WORK}/installed ${WORK}/prefix)
 file(GLOB_RECURSE private_headers ${WORK}/prefix/*_p.h)
 if(private_headers)
   message(FATAL_ERROR "private headers were installed: ${private_headers}")
 endif()
-step(${CMAKE_COMMAND} -S ${SOURCE} -B ${WORK}/build -G Ninja -DCMAKE_CXX_FLAGS=${FLAGS}
-  -DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN}
-  -DCMAKE_FIND_ROOT_PATH=${WORK}/prefix -DCMAKE_PREFIX_PATH=${WORK}/prefix)
-step(${CMAKE_COMMAND} --build ${WORK}/build)
+
+build_project(build ${SOURCE})
 # The package's host has what the library's own has of Qt's translations.
 foreach(language IN ITEMS de zhh)
   if(EXISTS ${BUILD}/bin/Lang/${language}/Qt.qm AND NOT EXISTS ${WORK}/build/Lang/${language}/Qt.qm)
     message(FATAL_ERROR "Qt's translation is missing: ${WORK}/build/Lang/${language}/Qt.qm")
   endif()
 endforeach()
-file(GLOB libraries ${WORK}/prefix/bin/*.dll)
-if(libraries)
-  file(COPY ${libraries} DESTINATION ${WORK}/build)
-endif()
-step(${EMULATOR} ${WORK}/build/consumer${SUFFIX} ${WORK}/consumer.log)
+run(build/consumer ${WORK}/consumer.log)
 
-step(${CMAKE_COMMAND} -S ${EXAMPLES} -B ${WORK}/examples -G Ninja -DCMAKE_CXX_FLAGS=${FLAGS}
-  -DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN}
-  -DCMAKE_FIND_ROOT_PATH=${WORK}/prefix -DCMAKE_PREFIX_PATH=${WORK}/prefix)
-step(${CMAKE_COMMAND} --build ${WORK}/examples)
-set(engine ${BUILD}/bin/NLECore.dll)
-if(EXISTS ${engine})
-  file(COPY ${engine} DESTINATION ${WORK}/examples)
-  step(ffmpeg -v error -f lavfi -i testsrc=size=320x180:rate=25:duration=2 -y ${WORK}/sample.mp4)
-  step(${EMULATOR} ${WORK}/examples/example_join${SUFFIX} ${WORK}/joined.mp4
-    ${WORK}/sample.mp4 ${WORK}/sample.mp4)
+build_project(examples ${EXAMPLES})
+if("engine" IN_LIST components)
+  set(sample ${WORK}/sample.mp4)
+  step(ffmpeg -v error -f lavfi -i testsrc=size=320x180:rate=25:duration=2 -y ${sample})
+  run(build/film ${sample} ${WORK}/film.mlt ${WORK}/film.mp4)
+  run(examples/example_join ${WORK}/joined.mp4 ${sample} ${sample})
   # Only the joined film is that long.
-  step(${EMULATOR} ${WORK}/examples/example_picture${SUFFIX} ${WORK}/joined.mp4
-    00:00:03:20 ${WORK}/picture.png)
+  run(examples/example_picture ${WORK}/joined.mp4 00:00:03:20 ${WORK}/picture.png)
+  # What is beside the program suffices.
+  if(NOT EXISTS ${WORK}/build/deployed/Lang/de/NLECore.qm)
+    message(FATAL_ERROR "the engine's texts were not deployed")
+  endif()
+  file(REMOVE_RECURSE ${WORK}/prefix/${LIBDIR}/commonlib ${WORK}/prefix/share)
+  run(build/deployed/film_deployed ${sample} ${WORK}/deployed.mlt ${WORK}/deployed.mp4)
 endif()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // A small editor that shows each part of the library at work.
 #include "CommonLib/BaseLog.h"
+#include "CommonLib/ModuleFolders.h"
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/externalapi/PixelRatio.h"
@@ -136,6 +137,7 @@ int main(int argc, char** argv)
     QApplication::setOrganizationName(QStringLiteral("CommonLib"));
     QApplication::setApplicationName(QStringLiteral("CommonLibEditor"));
     QApplication::setApplicationVersion(QStringLiteral(EDITOR_VERSION));
+    SetModuleFolders({QApplication::applicationDirPath() + QStringLiteral("/" EDITOR_DATA)});
     const HostLanguage language;
     QCommandLineParser parser;
     AddOptions(parser);

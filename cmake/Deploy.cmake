@@ -1,0 +1,35 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
+# Part of the installed package.
+
+# commonlib_deploy(TARGET): once the program TARGET is built, puts beside it what it loads at run time:
+# the package's modules, what lies with them, and their translations. On Windows also the libraries
+# that it links, and the plugins of Qt where its windeployqt is found. Beside its executable a program
+# looks first, so such a folder runs without the package wherever it is moved, on systems that find
+# libraries there too.
+function(commonlib_deploy target)
+  if(NOT EXISTS "${CommonLib_MODULE_FOLDER}")
+    message(WARNING "commonlib_deploy(${target}): the package has no modules in ${CommonLib_MODULE_FOLDER}")
+    return()
+  endif()
+  set(to $<TARGET_FILE_DIR:${target}>)
+  add_custom_command(TARGET ${target} POST_BUILD VERBATIM
+    COMMAND ${CMAKE_COMMAND} -E copy_directory ${CommonLib_MODULE_FOLDER} ${to})
+  foreach(folder IN ITEMS Lang Fonts)
+    if(EXISTS "${CommonLib_DATA_FOLDER}/${folder}")
+      add_custom_command(TARGET ${target} POST_BUILD VERBATIM
+        COMMAND ${CMAKE_COMMAND} -E copy_directory ${CommonLib_DATA_FOLDER}/${folder} ${to}/${folder})
+    endif()
+  endforeach()
+  if(NOT WIN32)
+    return()
+  endif()
+  add_custom_command(TARGET ${target} POST_BUILD VERBATIM COMMAND_EXPAND_LISTS
+    COMMAND ${CMAKE_COMMAND} -E copy_if_different $<TARGET_RUNTIME_DLLS:${target}> ${to})
+  get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
+  get_filename_component(tools ${qmake} DIRECTORY)
+  find_program(WINDEPLOYQT_PROGRAM windeployqt HINTS ${tools})
+  if(WINDEPLOYQT_PROGRAM)
+    add_custom_command(TARGET ${target} POST_BUILD VERBATIM
+      COMMAND ${WINDEPLOYQT_PROGRAM} --no-translations $<TARGET_FILE:${target}>)
+  endif()
+endfunction()
