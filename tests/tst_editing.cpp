@@ -306,6 +306,14 @@ private:
         {"group", [](R& r, Edits&) { return r.Group(); }},
         {"ungroup", [](R& r, Edits& e) { return e.Ungroup(r.Clip()); }},
         {"lock", [](R& r, Edits& e) { return e.SetLevelLocked(r.Number(4), r.Number(8) == 0); }},
+        {"level flags",
+         [](R& r, Edits& e) {
+             return static_cast<Editing&>(e).SetFlags(r.Number(4), r.Number(8));
+         }},
+        {"level name",
+         [](R& r, Edits& e) {
+             return static_cast<Editing&>(e).SetName(r.Number(4), r.Number(2) ? L"B  roll " : L"");
+         }},
         {"undo", [](R&, Edits& e) { return e.Undo(); }},
         {"redo", [](R&, Edits& e) { return e.Redo(); }},
     };

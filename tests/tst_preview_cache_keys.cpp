@@ -85,6 +85,12 @@ private slots:
             BagOf(t.above)->SetInt(NLEKey::Render::kRender_Mode, NLERender_AudioOnly);
         };
         row("a clip of sound only", silence, {{60, 110}});
+        row("a level hidden",
+            [](Timeline& t) { LevelsOf(t.project)->SetFlags(1, NLELevel_Hidden); }, {{60, 110}});
+        row("a level muted", [](Timeline& t) { LevelsOf(t.project)->SetFlags(1, NLELevel_Muted); },
+            {});
+        row("a level solo", [](Timeline& t) { LevelsOf(t.project)->SetFlags(0, NLELevel_Solo); },
+            {{60, 110}});
         row("a clip more transparent",
             [](Timeline& t) { t.above.query<INLEBlendSetting>()->SetAlpha(99); }, {{60, 110}});
         row("a clip below the others", [](Timeline& t) { t.above->SetLevel(-1); }, {{60, 110}});

@@ -92,6 +92,18 @@ private:
     size_t m_index = 0;
 };
 
+/// Leaves out what \a levels leave out of a clip. Mixer strips mute.
+void ApplyLevel(const LevelMap& levels, Layer& clip)
+{
+    if (levels.empty())
+        return;
+    const bool isHidden = SettingsOf(levels, clip.level).hidden;
+    if (IsOutplayed(levels, clip.level) || (isHidden && clip.mode == NLERender_VideoOnly))
+        clip.range = {0, -1};
+    else if (isHidden)
+        clip.mode = NLERender_AudioOnly;
+}
+
 void AppendRecursively(const CompositeNode& from, std::vector<NLEComPtr<TimelineNode>>& to)
 {
     for (const NLEComPtr<TimelineNode>& clip : from.Clips()) {
@@ -308,13 +320,18 @@ void CompositeNode::Describe(Layer& layer) const
     layer.argb = Background();
     layer.guid = Bag().TextOrEmpty(NLEKey::Timeline::kGuid);
     layer.mixer = Mixer().settings;
+    std::vector<std::shared_ptr<Layer>> children;
     for (const TimelineNode* clip : PlayingClips())
-        layer.children.push_back(clip->MakeLayer());
+        children.push_back(clip->MakeLayer());
+    layer.children.assign(children.begin(), children.end());
     for (const auto& [order, clip] : m_clips) {
         if (clip->IsTransition() && clip->IsEnabled())
             layer.transitions.push_back(static_cast<const TransitionNode&>(*clip).AsLayer());
     }
     FindTransitionClips(layer);
+    // Last: what transitions lead between does not depend on what plays now.
+    for (const std::shared_ptr<Layer>& child : children)
+        ApplyLevel(Levels(), *child);
 }
 
 std::vector<const TimelineNode*> CompositeNode::PlayingClips() const

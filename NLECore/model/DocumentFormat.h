@@ -31,6 +31,8 @@ inline const QLatin1String kParameterPrefix("nle:parameter:");
 inline const QLatin1String kContextPrefix("nle:context:");
 /// Of a filter that was written here: a sum of its properties and their names.
 inline const QLatin1String kWritten("nle:written");
+/// Of a track: what of it was written as hidden; not there for nothing.
+inline const QLatin1String kWrittenHide("nle:written:hide");
 /// Of a clip: how many filters of its sound and of its picture were written with it.
 inline const QLatin1String kFilters("nle:filters");
 

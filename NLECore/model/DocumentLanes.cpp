@@ -115,6 +115,15 @@ const TimelineNode* DocumentLane::Overlapped(const Placement& placement,
     return nullptr;
 }
 
+LevelParts OffParts(const CompositeNode& composite, int level)
+{
+    const MixerSettings& mixer = composite.Mixer().settings;
+    const auto strip = mixer.find(level);
+    const bool isOff = IsOutplayed(composite.Levels(), level);
+    return {isOff || SettingsOf(composite.Levels(), level).hidden,
+            isOff || (strip != mixer.end() && strip->second.mute != 0)};
+}
+
 LaneJoins JoinsOf(const CompositeNode& composite,
                   const std::function<bool(const LaneJoin&)>& isWanted)
 {

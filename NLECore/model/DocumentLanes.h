@@ -54,6 +54,14 @@ struct DocumentLanes
     std::vector<const TimelineNode*> unplaced;
 };
 
+/// What of a level is off because of its settings, those of other levels, and its mixer strip.
+struct LevelParts
+{
+    bool picture;
+    bool sound;
+};
+LevelParts OffParts(const CompositeNode& composite, int level);
+
 /// A clip that another one goes over into by a transition, which is all of where they overlap.
 struct LaneJoin
 {

@@ -98,6 +98,12 @@ void EditDraft::SetValue(TimelineNode& node, const wchar_t* key,
               {&node, EditChange::Pair<KeptValue>{{key, before}, {key, std::move(value)}}});
 }
 
+void EditDraft::SetLevel(const LevelState& state)
+{
+    const EditChange::Pair<LevelState> states = {m_timeline.LevelOf(state.level), state};
+    m_step.Do(m_timeline, {&m_timeline.Composite(), states});
+}
+
 int EditDraft::Narrow(std::int64_t number)
 {
     const std::int64_t lowest = std::numeric_limits<int>::min();

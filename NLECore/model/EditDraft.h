@@ -35,6 +35,8 @@ public:
     void Place(TimelineNode& node, const ClipPlace& place);
     /// \a key is one of NLEKey.
     void SetValue(TimelineNode& node, const wchar_t* key, std::optional<PropertyBag::Value> value);
+    /// Sets what a level of the composite is.
+    void SetLevel(const LevelState& state);
 
     /// These are about to be changed: what depends on where they stand together is looked up.
     void Note(const Nodes& nodes);

@@ -32,6 +32,19 @@ void Apply(EditedTimeline& /*timeline*/, TimelineNode& node, const EndsOfSound& 
     sound.fadeOut = state.fadeOut;
 }
 
+void Apply(EditedTimeline& /*timeline*/, TimelineNode& node, const LevelState& state)
+{
+    LevelSettings settings = state.settings;
+    // No edit changes it, so it stays as it was made since.
+    settings.height = SettingsOf(node.Levels(), state.level).height;
+    PutSettings(node.Levels(), state.level, settings);
+    MixerSettings& mixer = node.Mixer().settings;
+    const auto strip = mixer.try_emplace(state.level, kNeutralStrip).first;
+    strip->second.mute = state.isMuted ? 1 : 0;
+    if (!state.hasStrip && IsSame(strip->second, kNeutralStrip))
+        mixer.erase(strip);
+}
+
 /// Takes a node to one side of a change.
 void Apply(EditedTimeline& timeline, const EditChange& change, bool isForward)
 {

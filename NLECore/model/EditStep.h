@@ -27,7 +27,6 @@ struct EndsOfSound
     bool fadeIn;
     bool fadeOut;
 };
-
 /// One thing of one node before and after an edit. It keeps the node, so that one that was removed
 /// comes back itself.
 struct EditChange
@@ -40,7 +39,7 @@ struct EditChange
     };
 
     NLEComPtr<TimelineNode> node;
-    std::variant<Pair<HeldPlace>, Pair<KeptValue>, Pair<EndsOfSound>> states;
+    std::variant<Pair<HeldPlace>, Pair<KeptValue>, Pair<EndsOfSound>, Pair<LevelState>> states;
 };
 
 /// Changes in their order.

@@ -35,6 +35,15 @@ std::set<int> EditedTimeline::LockedLevels() const
     return {levels.begin(), levels.end()};
 }
 
+LevelState EditedTimeline::LevelOf(int level) const
+{
+    const MixerSettings& mixer = m_composite->Mixer().settings;
+    const auto strip = mixer.find(level);
+    const bool hasStrip = strip != mixer.end();
+    return {level, SettingsOf(m_composite->Levels(), level), hasStrip && strip->second.mute != 0,
+            hasStrip};
+}
+
 void EditedTimeline::ClipPlaced(TimelineNode& clip)
 {
     if (!m_index.Has(clip))

@@ -11,6 +11,15 @@ namespace nle {
 
 class Editing;
 
+/// What is set for a level of a composite.
+struct LevelState
+{
+    int level;
+    LevelSettings settings;
+    bool isMuted;  ///< by its mixer strip
+    bool hasStrip; ///< whether there is one
+};
+
 /// A composite that is edited, with what edits ask about it. It hears of every change of the clips,
 /// whoever makes it, so that the answers are those of now.
 class EditedTimeline final : public ClipWatch
@@ -30,6 +39,7 @@ public:
     bool Holds(const TimelineNode& node) const { return node.Parent() == m_composite.get(); }
     bool IsLocked(int level) const { return LockedLevels().count(level) > 0; }
     std::set<int> LockedLevels() const;
+    LevelState LevelOf(int level) const;
     /// Whether the clips were changed from elsewhere since it was last asked.
     bool TakeForeign();
 

@@ -4,6 +4,8 @@
 #include "Com/ComGuard.h"
 #include "Com/ComObject.h"
 #include "EngineApi/INLEEditing.h"
+#include "EngineApi/INLELevels.h"
+#include "NLECore/media/Reasons.h"
 #include "NLECore/model/EditDraft.h"
 
 #include <functional>
@@ -13,7 +15,7 @@ namespace nle {
 
 /// The edits of a composite. Each is a few primitives of EditDraft, which says in the end whether
 /// all of it may be; here stands what the edits are, and their history.
-class Editing final : public ComObject<INLEEditing>
+class Editing final : public ComObject<INLEEditing, INLELevels>
 {
 public:
     /// The one of \a composite, which is made when there is none.
@@ -60,6 +62,14 @@ public:
     HRESULT GetNeighbour(INLETimeline* clip, int edge, INLETimeline** neighbour) override;
     HRESULT Snap(int frame, int distance, INLETimeline* moving, int* snapped) override;
 
+    HRESULT GetCount(int* count) override;
+    HRESULT GetFlags(int level, int* flags) override;
+    HRESULT SetFlags(int level, int flags) override;
+    HRESULT GetName(int level, wchar_t* name, int capacity) override;
+    HRESULT SetName(int level, const wchar_t* name) override;
+    HRESULT GetHeight(int level, int* height) override;
+    HRESULT SetHeight(int level, int height) override;
+
     EditedTimeline& Timeline() { return m_timeline; }
 
 private:
@@ -105,6 +115,16 @@ private:
     void Done(EditStep&& step);
     void Forget();
     HRESULT MoveThrough(const EditStep* (EditHistory::*move)(EditedTimeline&));
+
+    /// Runs a call, with what is set for \a level.
+    template <typename Call>
+    HRESULT WithLevel(int level, Call&& call)
+    {
+        return Guarded([&] {
+            return level < 0 ? RefuseRange("level", 0, INT32_MAX) : call(m_timeline.LevelOf(level));
+        });
+    }
+    HRESULT SetLevel(const LevelState& before, const LevelState& now);
 
     /// The clip and those grouped with it.
     Nodes Family(TimelineNode& clip, int flags);

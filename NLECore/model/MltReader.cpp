@@ -462,9 +462,31 @@ NLEComPtr<TimelineNode> MltReader::MakeComposite(const MltService& service, bool
     }
     TakeTransitions(service, 0, clips);
     m_nodes.Fill(*node, clips, service.properties);
+    if (service.IsOwn())
+        TakeHidden(service, clips, *node);
     if (isRoot)
         TakeFilters(service, nullptr, *node);
     return node;
+}
+
+// A level is hidden and muted as it was saved unless another program has changed a track of it.
+void MltReader::TakeHidden(const MltService& service, const std::vector<PlacedNode>& clips,
+                           CompositeNode& node) const
+{
+    for (const PlacedNode& clip : clips) {
+        const MltItem& track = service.items[size_t(clip.track)];
+        const DocumentProperties& lane = m_document.services[size_t(track.service)].properties;
+        const bool isOurs = clip.order != INT32_MAX && !lane.contains(kKind);
+        if (!isOurs || track.hide == lane.value(kWrittenHide))
+            continue;
+        const int level = clip.node->Level();
+        const bool isBoth = track.hide == QLatin1String("both");
+        LevelSettings settings = SettingsOf(node.Levels(), level);
+        settings.hidden = isBoth || track.hide == QLatin1String("video");
+        PutSettings(node.Levels(), level, settings);
+        node.Mixer().settings.try_emplace(level, kNeutralStrip).first->second.mute =
+            isBoth || track.hide == QLatin1String("audio") ? 1 : 0;
+    }
 }
 
 void MltReader::ReadTrack(const MltItem& item, bool isLowest, CompositeNode& node, Track track)

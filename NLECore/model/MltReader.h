@@ -55,6 +55,8 @@ private:
     void PlaceEntry(const MltItem& item, std::int64_t position, bool isUnplaced,
                     const Track& track);
     void TakeFilters(const MltService& service, const MltItem* item, TimelineNode& node);
+    void TakeHidden(const MltService& service, const std::vector<PlacedNode>& clips,
+                    CompositeNode& node) const;
     void TakeStrip(const std::vector<MltEffect>& filters, const QString& name, int level,
                    CompositeNode& node);
     /// A transition between clips of one level, which overlap where it is.

@@ -40,10 +40,8 @@ std::vector<DocumentFilter> StripFilters(int level, const MixerSettings& mixer)
 {
     const auto strip = mixer.find(level);
     const bool isSolo = strip != mixer.end() && strip->second.solo != 0;
-    const bool anySolo = std::any_of(mixer.begin(), mixer.end(),
-                                     [](const auto& other) { return other.second.solo != 0; });
     return nle::StripFilters(strip == mixer.end() ? kNeutralStrip : strip->second,
-                             anySolo && !isSolo);
+                             AnySolo(mixer) && !isSolo);
 }
 
 bool HoldsTexts(const DocumentLane& lane)
@@ -52,12 +50,14 @@ bool HoldsTexts(const DocumentLane& lane)
                        [](const auto& clip) { return TextOf(*clip.second.node).has_value(); });
 }
 
-/// What of a track is off when only \a streams of its clips play; null: nothing.
-const char* HiddenPart(NLERenderMode streams)
+/// What of a track is off, because of its clips or of its level; null: nothing.
+const char* HiddenPart(const DocumentLane& lane, const CompositeNode& node)
 {
-    if (streams == NLERender_All)
-        return nullptr;
-    return streams == NLERender_VideoOnly ? "audio" : "video";
+    const LevelParts off = OffParts(node, lane.level);
+    const bool isSilent = off.sound || lane.streams == NLERender_VideoOnly;
+    if (off.picture || lane.streams == NLERender_AudioOnly)
+        return isSilent ? "both" : "video";
+    return isSilent ? "audio" : nullptr;
 }
 
 } // namespace
@@ -247,22 +247,24 @@ QString MltWriter::WriteComposite(const CompositeNode& node, int order)
         JoinsOf(node, [](const LaneJoin& join) { return HasLuma(*join.transition); });
     const DocumentLanes lanes = LanesOf(node, joins, JoinedClips::Overlap);
     QStringList tracks = {WriteBackground(node)};
+    std::vector<const char*> hidden = {nullptr};
     MltTransitions transitions = TransitionsInMlt(node, lanes);
     for (int lane = 0; lane < int(lanes.lanes.size()); ++lane) {
         std::vector<DocumentFilter> filters =
             StripFilters(lanes.lanes[size_t(lane)].level, node.Mixer().settings);
         for (DocumentFilter& filter : transitions.onLanes[lane])
             filters.push_back(std::move(filter));
-        tracks << WriteLane(lanes.lanes[size_t(lane)], ids, filters);
+        hidden.push_back(HiddenPart(lanes.lanes[size_t(lane)], node));
+        tracks << WriteLane(lanes.lanes[size_t(lane)], ids, hidden.back(), filters);
     }
-    const QString hidden = lanes.unplaced.empty() ? QString() : WriteUnplaced(lanes.unplaced, ids);
+    const QString unplaced =
+        lanes.unplaced.empty() ? QString() : WriteUnplaced(lanes.unplaced, ids);
 
     QString id = StartService("tractor", std::max(1, node.TotalLength()));
     for (int track = 0; track < tracks.size(); ++track)
-        WriteTrack(tracks[track],
-                   track > 0 ? HiddenPart(lanes.lanes[size_t(track) - 1].streams) : nullptr);
-    if (!hidden.isEmpty())
-        WriteTrack(hidden, "both");
+        WriteTrack(tracks[track], hidden[size_t(track)]);
+    if (!unplaced.isEmpty())
+        WriteTrack(unplaced, "both");
     // What is between two tracks becomes a part of the first before that goes into the whole.
     for (const MltBetween& between : transitions.between)
         WriteBetween(between);
@@ -286,12 +288,14 @@ QString MltWriter::WriteBackground(const CompositeNode& node)
     return id;
 }
 
-QString MltWriter::WriteLane(const DocumentLane& lane, const Ids& ids,
+QString MltWriter::WriteLane(const DocumentLane& lane, const Ids& ids, const char* hide,
                              const std::vector<DocumentFilter>& filters)
 {
     QString id = NewId("playlist");
     m_xml.writeStartElement(QStringLiteral("playlist"));
     m_xml.writeAttribute(QStringLiteral("id"), id);
+    if (hide)
+        Property(kWrittenHide, QLatin1String(hide));
     std::int64_t end = 0;
     for (const auto& [position, clip] : lane.clips) {
         const Placement& placement = clip.placement;

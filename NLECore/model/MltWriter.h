@@ -33,7 +33,8 @@ private:
     QString WriteProducer(const TimelineNode& node, int order);
     QString WriteBackground(const CompositeNode& node);
     /// \a filters are those of the whole lane.
-    QString WriteLane(const DocumentLane& lane, const Ids& ids,
+    /// \a hide is what of the track is off; null: nothing.
+    QString WriteLane(const DocumentLane& lane, const Ids& ids, const char* hide,
                       const std::vector<DocumentFilter>& filters);
     QString WriteUnplaced(const std::vector<const TimelineNode*>& clips, const Ids& ids);
     void WriteTrack(const QString& producer, const char* hide);

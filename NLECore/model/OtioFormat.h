@@ -24,6 +24,9 @@ inline const QLatin1String kExactFamily("nle:exact:family");
 /// Kind of the track on which other programs find the sound of the track below it; not read.
 inline const QLatin1String kTwin("twin");
 
+/// Kind of a track that is off because of its level, which the composite keeps.
+inline const QLatin1String kLevelOff("level-off");
+
 /// The type of a transition that mixes the pictures.
 inline const QLatin1String kDissolve("SMPTE_Dissolve");
 

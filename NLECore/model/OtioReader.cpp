@@ -381,8 +381,19 @@ NLEComPtr<TimelineNode> OtioReader::MakeComposite(const QJsonObject& stack,
         ReadTracks(List(stack, "children"), clips);
     }
     m_nodes.Fill(*node, clips, properties);
+    if (!properties.contains(kKind))
+        NameLevels(List(stack, "children"), *node);
     --m_depth;
     return node;
+}
+
+void OtioReader::NameLevels(const QJsonArray& tracks, TimelineNode& node)
+{
+    for (int level = 0; level < tracks.size(); ++level) {
+        LevelSettings settings;
+        settings.name = ToWide(NameOf(tracks[level].toObject()));
+        PutSettings(node.Levels(), level, settings);
+    }
 }
 
 void OtioReader::ReadTracks(const QJsonArray& tracks, std::vector<PlacedNode>& clips)
@@ -396,10 +407,11 @@ void OtioReader::ReadTracks(const QJsonArray& tracks, std::vector<PlacedNode>& c
     int level = 0;
     for (const QJsonValue value : tracks) {
         const QJsonObject track = value.toObject();
+        const QString kind = PropertiesOf(track).value(kKind);
         // Where the document has tracks for sound, the others have none.
         const Target target = {clips, level++, isSound(track), hasSounds && !isSound(track),
-                               IsEnabled(track)};
-        const bool isTwin = PropertiesOf(track).value(kKind) == kTwin;
+                               IsEnabled(track) || kind == kLevelOff};
+        const bool isTwin = kind == kTwin;
         if (IsTrack(track) && !isTwin)
             PlaceTrack(track, target);
         else if (!isTwin)

@@ -57,6 +57,7 @@ private:
                                           const DocumentProperties& properties);
     NLEComPtr<TimelineNode> MakeComposite(const QJsonObject& stack,
                                           const DocumentProperties& properties, bool isRoot);
+    static void NameLevels(const QJsonArray& tracks, TimelineNode& node);
     void ReadTracks(const QJsonArray& tracks, std::vector<PlacedNode>& clips);
     void ReadTrack(const QJsonObject& track, Target target);
     void PlaceItem(const QJsonObject& item, double position, double end, const Target& target);

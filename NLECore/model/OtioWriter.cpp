@@ -142,6 +142,21 @@ QJsonObject TransitionOf(const LaneJoin& join)
     return transition;
 }
 
+/// The track of a level of that name, which may be off.
+QJsonObject Named(const QString& name, bool isOff, QJsonObject track)
+{
+    track[QStringLiteral("name")] = PlainText(name);
+    if (!isOff)
+        return track;
+    track[QStringLiteral("enabled")] = false;
+    // That of a twin says already that nothing of it is read.
+    if (!track.contains(QStringLiteral("metadata")) ||
+        track[QStringLiteral("metadata")].toObject().isEmpty())
+        track[QStringLiteral("metadata")] =
+            QJsonObject{{kOwn, QJsonObject{{QStringLiteral("kind"), kLevelOff}}}};
+    return track;
+}
+
 void AppendTransition(const TimelineNode& clip, const wchar_t* key, QJsonArray& children)
 {
     const QJsonObject transition = KeptJson(clip, key).object();
@@ -186,9 +201,12 @@ QJsonObject OtioWriter::Stack(const CompositeNode& node)
                 sounds[position] = clip;
         }
         const bool isSound = !hasPicture || lane.streams == NLERender_AudioOnly;
-        tracks.append(Track(lane.clips, joins, orders, isSound, false));
+        const QString name = FromWide(SettingsOf(node.Levels(), lane.level).name);
+        const LevelParts off = OffParts(node, lane.level);
+        tracks.append(Named(name, isSound ? off.sound : off.picture,
+                            Track(lane.clips, joins, orders, isSound, false)));
         if (!isSound && lane.streams == NLERender_All && !sounds.empty())
-            twins.append(Track(sounds, joins, orders, true, true));
+            twins.append(Named(name, off.sound, Track(sounds, joins, orders, true, true)));
     }
     for (const QJsonValue twin : twins)
         tracks.append(twin);

@@ -333,6 +333,20 @@ void ReadMixer(const QHash<QString, QString>& properties, MixerSettings& mixer)
     }
 }
 
+void ReadLevels(const QHash<QString, QString>& properties, LevelMap& levels)
+{
+    constexpr int numbers = kFieldCount<LevelSettings> - 1;
+    const QString prefix = PropertyNames<LevelSettings>().front();
+    for (auto property = properties.begin(); property != properties.end(); ++property) {
+        if (!property.key().startsWith(prefix))
+            continue;
+        LevelSettings settings;
+        ReadRecord(property.value(), settings);
+        settings.name = ToWide(property.value().section(QLatin1Char(' '), numbers));
+        PutSettings(levels, property.key().mid(prefix.size()).toInt(), settings);
+    }
+}
+
 /// Followed by the number of an effect; its parameters have a colon and their names behind that.
 const QString kEffectPrefix = kOwnPrefix + QLatin1String("effect:");
 /// Stands behind the name of an effect that is switched off.
@@ -389,6 +403,10 @@ DocumentTexts SettingsToText(const TimelineNode& node, const QDir& folder)
         const auto [prefix, text] = FieldTexts(strip, folder).front();
         texts.emplace_back(prefix + QString::number(level), text);
     }
+    for (const auto& [level, settings] : node.Levels()) {
+        const auto [prefix, text] = FieldTexts(settings, folder).front();
+        texts.emplace_back(prefix + QString::number(level), text);
+    }
     return texts;
 }
 
@@ -417,6 +435,7 @@ void SettingsFromText(const QHash<QString, QString>& properties, const FindMedia
     ReadKeyFrames(properties.value(PropertyNames<NLEKeyFrameRecord>().front()), node.KeyFrames());
     ReadEffects(properties, media, node.Effects());
     ReadMixer(properties, node.Mixer().settings);
+    ReadLevels(properties, node.Levels());
     ReadMarkers(properties, node.Markers().settings);
 }
 

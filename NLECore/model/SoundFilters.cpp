@@ -104,7 +104,7 @@ std::vector<DocumentFilter> SoundFilters(const TimelineNode& node)
 
 std::vector<DocumentFilter> StripFilters(const tagMixerParam& strip, bool isSilent)
 {
-    if (isSilent || strip.mute)
+    if (isSilent)
         return {Constant(0)};
     std::vector<DocumentFilter> filters;
     if (strip.volume != 1)

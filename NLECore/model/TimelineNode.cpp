@@ -245,6 +245,7 @@ NLEComPtr<TimelineNode> TimelineNode::Copy(bool deep) const
     copy->m_video.settings = m_video.settings;
     copy->m_source = m_source;
     copy->m_mixer.settings = m_mixer.settings;
+    copy->m_levels = m_levels;
     copy->m_markers.settings = m_markers.settings;
     copy->m_keyFrames.Restore(*m_keyFrames.Stored());
     copy->m_keyFrames.enabled = m_keyFrames.enabled;

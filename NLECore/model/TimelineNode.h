@@ -125,6 +125,9 @@ public:
     SourceSettings& Source() { return m_source; }
     const SourceSettings& Source() const { return m_source; }
     MixerFacet& Mixer() { return m_mixer; }
+    /// Of the levels of a composite.
+    LevelMap& Levels() { return m_levels; }
+    const LevelMap& Levels() const { return m_levels; }
     MarkerFacet& Markers() { return m_markers; }
     const MarkerFacet& Markers() const { return m_markers; }
     EffectsFacet& Effects() { return m_effects; }
@@ -192,6 +195,7 @@ private:
     AudioFacet m_audio;
     VideoFacet m_video;
     MixerFacet m_mixer;
+    LevelMap m_levels;
     MarkerFacet m_markers;
     KeyFrameFacet m_keyFrames;
     KeyFrameStatusFacet m_keyFrameStatus;

@@ -143,9 +143,7 @@ void AudioMixer::AddChild(const Layer& parent, int index, std::int64_t first, in
     const Layer& child = *parent.children[size_t(index)];
     const auto found = parent.mixer.find(child.level);
     const tagMixerParam strip = found == parent.mixer.end() ? kNeutralStrip : found->second;
-    const bool anySolo = std::any_of(parent.mixer.begin(), parent.mixer.end(),
-                                     [](const auto& other) { return other.second.solo != 0; });
-    if (child.mode == NLERender_VideoOnly || strip.mute || (anySolo && !strip.solo))
+    if (child.mode == NLERender_VideoOnly || strip.mute || (AnySolo(parent.mixer) && !strip.solo))
         return;
     const std::int64_t start = SampleOfFrame(child.position, parent.frameRate);
     const std::int64_t end =

@@ -39,6 +39,25 @@ int PutMarker(MarkerList& markers, Marker marker)
     return index;
 }
 
+LevelSettings SettingsOf(const LevelMap& levels, int level)
+{
+    const auto found = levels.find(level);
+    return found == levels.end() ? LevelSettings() : found->second;
+}
+
+void PutSettings(LevelMap& levels, int level, const LevelSettings& settings)
+{
+    if (IsSame(settings, LevelSettings()))
+        levels.erase(level);
+    else
+        levels[level] = settings;
+}
+
+bool IsOutplayed(const LevelMap& levels, int level)
+{
+    return AnySolo(levels) && !SettingsOf(levels, level).solo;
+}
+
 double GainAt(const std::vector<VolumePoint>& curve, double time)
 {
     if (curve.empty())

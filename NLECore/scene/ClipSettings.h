@@ -5,6 +5,7 @@
 #include "NLECore/media/MediaInfo.h"
 #include "NLECore/scene/Fields.h"
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <memory>
@@ -227,5 +228,39 @@ inline constexpr auto kFields<tagMixerParam> =
                Field{&tagMixerParam::mute, "mixer:", Shows::kNo},
                Field{&tagMixerParam::solo, "mixer:", Shows::kNo});
 static_assert(kListsAllFields<tagMixerParam>);
+/// Whether a strip of a mixer, or a level, plays alone.
+template <typename Levels>
+bool AnySolo(const Levels& levels)
+{
+    return std::any_of(levels.begin(), levels.end(),
+                       [](const auto& level) { return level.second.solo != 0; });
+}
+
+constexpr int kMostLevelHeight = 10000;
+/// A level of a composite. Its mute is that of its mixer strip.
+struct LevelSettings
+{
+    bool hidden = false; ///< its pictures are not drawn
+    bool solo = false;   ///< levels without it do not play
+    int height = 0;      ///< pixels in an editor; 0 leaves it to that
+    std::wstring name;
+};
+/// The document property of a level has its number behind its name; the name stands last, with all
+/// its blanks. What of a level counts shows in the modes of a layer's children.
+template <>
+inline constexpr auto kFields<LevelSettings> =
+    std::tuple(Field{&LevelSettings::hidden, "level:", Shows::kNo},
+               Field{&LevelSettings::solo, "level:", Shows::kNo},
+               Field{&LevelSettings::height, "level:", Shows::kNo, 0, kMostLevelHeight},
+               Field{&LevelSettings::name, "level:", Shows::kNo});
+static_assert(kListsAllFields<LevelSettings>);
+/// Levels that have something set, by their numbers.
+using LevelMap = std::map<int, LevelSettings>;
+/// Those of \a level; presets for one that has none.
+LevelSettings SettingsOf(const LevelMap& levels, int level);
+/// Presets take the level out of the map.
+void PutSettings(LevelMap& levels, int level, const LevelSettings& settings);
+/// Whether a level neither shows nor sounds because others play alone.
+bool IsOutplayed(const LevelMap& levels, int level);
 
 } // namespace nle

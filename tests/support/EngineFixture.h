@@ -4,7 +4,9 @@
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "EngineApi/INLEEditing.h"
 #include "EngineApi/INLEEffects.h"
+#include "EngineApi/INLELevels.h"
 #include "tests/support/Deviation.h"
 #include "tests/support/TestMedia.h"
 
@@ -40,16 +42,26 @@ public:
     }
 
     QString Path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
+    static NLEComPtr<INLEFactory> Factory()
+    {
+        NLEComPtr<INLEFactory> factory;
+        CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
+                                                       INLEFactory::Iid, factory.putVoid());
+        return factory;
+    }
     /// The engine's own maker of nodes.
     static NLEComPtr<INLETimelineFactory> Nodes()
     {
-        NLEComPtr<INLEFactory> factory;
         NLEComPtr<INLETimelineFactory> nodes;
-        CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
-                                                       INLEFactory::Iid, factory.putVoid());
-        if (factory)
+        if (const auto factory = Factory())
             factory->GetTimelineFactory(nodes.put());
         return nodes;
+    }
+    static NLEComPtr<INLELevels> LevelsOf(const Node& composite)
+    {
+        NLEComPtr<INLEEditing> editing;
+        Factory()->CreateEditing(composite.get(), editing.put());
+        return editing.query<INLELevels>();
     }
     /// The text that a call with a buffer gives; null when it fails.
     template <typename Call>
