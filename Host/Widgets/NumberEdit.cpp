@@ -4,6 +4,7 @@
 #include "CommonLib/IDragValueChangedHelper.h"
 #include "CommonLib/ToolBarSlider.h"
 
+#include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -22,13 +23,12 @@ constexpr double kSlowFactor = 0.1;
 } // namespace
 
 NumberEdit::NumberEdit(const Scale& scale, QWidget* parent)
-    : QWidget(parent), m_box(new QDoubleSpinBox(this))
+    : QWidget(parent), m_scale(scale), m_box(new QDoubleSpinBox(this))
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(kGap);
     MakeBox(scale);
-    MakeDrag(scale);
     if (scale.hasSlider) {
         MakeSlider(scale);
         row->addWidget(m_slider, 1);
@@ -54,15 +54,16 @@ void NumberEdit::MakeBox(const Scale& scale)
     connect(m_box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &NumberEdit::Follow);
 }
 
-void NumberEdit::MakeDrag(const Scale& scale)
+/// Not before the pointer comes: each looks at all events of the program.
+void NumberEdit::MakeDrag()
 {
     m_drag = new IDragValueChangedHelper(m_box);
-    m_drag->SetRange(scale.lowest, scale.highest);
+    m_drag->SetRange(m_scale.lowest, m_scale.highest);
     m_drag->SetLoop(false);
     m_drag->SetValue(m_box->value());
-    m_drag->SetStep(scale.step);
-    m_drag->SetFastStep(scale.step * kFastFactor);
-    m_drag->SetSlowStep(scale.step * kSlowFactor);
+    m_drag->SetStep(m_scale.step);
+    m_drag->SetFastStep(m_scale.step * kFastFactor);
+    m_drag->SetSlowStep(m_scale.step * kSlowFactor);
     connect(m_drag, &IDragValueChangedHelper::sigStartValueChanged, this, &NumberEdit::Begin);
     connect(m_drag, &IDragValueChangedHelper::sigValueChanged, m_box, &QDoubleSpinBox::setValue);
     connect(m_drag, &IDragValueChangedHelper::sigEndValueChanged, this, &NumberEdit::End);
@@ -118,7 +119,7 @@ void NumberEdit::End()
 void NumberEdit::Follow(double value)
 {
     // A drag counts on in steps that the box may round away.
-    if (!m_isHeld)
+    if (m_drag && !m_isHeld)
         m_drag->SetValue(value);
     if (m_slider)
         m_slider->setValue(float(value), false);
@@ -128,8 +129,15 @@ void NumberEdit::Follow(double value)
 
 bool NumberEdit::eventFilter(QObject* watched, QEvent* event)
 {
+    const QEvent::Type type = event->type();
+    const bool isPress = type == QEvent::MouseButtonPress;
+    if (watched == m_box && !m_drag && (type == QEvent::Enter || isPress)) {
+        MakeDrag();
+        // It sees events before any widget does; this one has passed it.
+        return QCoreApplication::sendEvent(watched, event);
+    }
     const auto* widget = qobject_cast<QWidget*>(watched);
-    if (event->type() != QEvent::Wheel || !widget || widget->hasFocus())
+    if (type != QEvent::Wheel || !widget || widget->hasFocus())
         return QWidget::eventFilter(watched, event);
     event->ignore(); // goes on to what scrolls
     return true;

@@ -51,14 +51,15 @@ protected:
 
 private:
     void MakeBox(const Scale& scale);
-    void MakeDrag(const Scale& scale);
+    void MakeDrag();
     void MakeSlider(const Scale& scale);
     void Begin();
     void End();
     void Follow(double value);
 
+    const Scale m_scale;
     QDoubleSpinBox* m_box;
-    IDragValueChangedHelper* m_drag = nullptr;
+    IDragValueChangedHelper* m_drag = nullptr; ///< null before the pointer has come
     ToolBarSlider* m_slider = nullptr; ///< null when there is none
     bool m_isHeld = false;
     bool m_isSetting = false;

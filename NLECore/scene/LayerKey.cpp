@@ -109,7 +109,8 @@ void LayerKeys::AddMoments(ContentHash& hash, const Layer& layer, std::int64_t f
                            std::int64_t last)
 {
     ContentKey before;
-    for (std::int64_t frame = first; frame <= last; ++frame) {
+    const std::int64_t end = IsStill(layer) ? first : last;
+    for (std::int64_t frame = first; frame <= end; ++frame) {
         ContentHash moment;
         AddFields(moment, MomentOf(layer, frame));
         const ContentKey now = moment.Result();

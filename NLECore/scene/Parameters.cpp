@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <utility>
 
 namespace nle {
@@ -264,9 +265,13 @@ QString ParametersAt::Text(const char* name) const
 
 int ParametersAt::IndexOf(const char* name) const
 {
-    const int index = m_values.Declared().IndexOf(QLatin1String(name));
-    Q_ASSERT(index >= 0);
-    return index;
+    // Asked for with every frame, so no text is made of the name.
+    const std::vector<ParameterRow>& rows = m_values.Declared().parameters;
+    const auto found = std::find_if(rows.begin(), rows.end(), [name](const ParameterRow& row) {
+        return std::strcmp(row.names.name, name) == 0;
+    });
+    Q_ASSERT(found != rows.end());
+    return int(found - rows.begin());
 }
 
 } // namespace nle

@@ -159,6 +159,15 @@ std::vector<double> TurningPoints(const Layer& layer)
     return frames;
 }
 
+bool IsStill(const Layer& layer)
+{
+    const ParametersAt at(*layer.title, layer.range.in);
+    const bool moves = layer.title->IsAnimated() || at.Number("fade-in") > 0 ||
+                       at.Number("fade-out") > 0 ||
+                       TitleRoll(at.Whole("roll")) != TitleRoll::None;
+    return layer.frozenFrame || !moves;
+}
+
 TitleMoment MomentOf(const Layer& layer, std::int64_t frame)
 {
     const std::int64_t shown = layer.frozenFrame.value_or(frame);

@@ -110,6 +110,9 @@ int TitleFontIndex();
 /// Frames of \a layer, which is a title, between which it moves and fades evenly.
 std::vector<double> TurningPoints(const Layer& layer);
 
+/// Whether \a layer, which is a title, is the same at all frames.
+bool IsStill(const Layer& layer);
+
 /// The title of \a layer, which is one, at a frame of its own, counted as its trim range is.
 TitleMoment MomentOf(const Layer& layer, std::int64_t frame);
 

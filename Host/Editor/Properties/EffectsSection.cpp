@@ -93,6 +93,12 @@ void EffectsSection::Refresh()
     }
 }
 
+void EffectsSection::FollowPlayHead()
+{
+    for (const Card& card : qAsConst(m_cards))
+        card.form->FollowPlayHead();
+}
+
 void EffectsSection::Rebuild(const QVector<NLEComPtr<INLETimeline>>& effects)
 {
     // A card may be what was clicked.

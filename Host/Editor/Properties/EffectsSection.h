@@ -24,6 +24,7 @@ public:
 
     /// Shows what is there now.
     void Refresh();
+    void FollowPlayHead();
 
 private:
     struct Card

@@ -19,6 +19,7 @@ public:
 
     /// Shows what is there now.
     void Refresh();
+    void FollowPlayHead() { Refresh(); }
 
 private:
     const PropertyScope m_scope;

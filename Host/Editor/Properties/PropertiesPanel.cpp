@@ -13,7 +13,6 @@
 #include "Host/Editor/Properties/ParameterFields.h"
 #include "Host/Editor/Properties/ProjectFields.h"
 #include "Host/Editor/Properties/PropertyForm.h"
-#include "Host/Editor/Properties/PropertySection.h"
 #include "Host/Editor/Properties/SpeedSection.h"
 #include "Host/Editor/Properties/TransitionSection.h"
 #include "Host/EngineText.h"
@@ -27,13 +26,12 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-#include <utility>
-
 namespace {
 
 constexpr int kMargin = 8;
 constexpr int kGap = 10;
 constexpr int kNarrowest = 340;
+constexpr int kMostStrips = 2; // of the mixer, that are open at first
 
 } // namespace
 
@@ -54,12 +52,15 @@ PropertiesPanel::PropertiesPanel(Project& project, Selection& selection, MediaPl
     m_scroll->setWidgetResizable(true);
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setWidget(new QWidget);
+    auto* page = new QVBoxLayout(m_scroll->widget());
+    page->setContentsMargins(0, 0, 0, 0);
     setMinimumWidth(kNarrowest);
-    connect(&selection, &Selection::Changed, this, &PropertiesPanel::Rebuild);
+    connect(&selection, &Selection::Changed, this, &PropertiesPanel::RebuildIfOther);
     connect(&project, &Project::Replaced, this, &PropertiesPanel::Rebuild);
     connect(&project, &Project::NodeChanged, this, &PropertiesPanel::RefreshIfShown);
     connect(&project, &Project::ClipsChanged, this, &PropertiesPanel::RefreshIfPlaced);
-    connect(&player, &MediaPlayer::PositionChanged, this, &PropertiesPanel::Refresh);
+    connect(&player, &MediaPlayer::PositionChanged, this, &PropertiesPanel::FollowPlayHead);
     Rebuild();
 }
 
@@ -71,28 +72,25 @@ void PropertiesPanel::changeEvent(QEvent* event)
         Rebuild();
 }
 
+void PropertiesPanel::RebuildIfOther()
+{
+    const NLEComPtr<INLETimeline> current = m_selection.Current();
+    if ((current ? current : m_project.Node()) != m_node)
+        Rebuild();
+}
+
 void PropertiesPanel::Rebuild()
 {
     setAccessibleName(tr("Properties"));
-    m_refreshes.clear();
     m_levels.clear();
     m_node = m_selection.Current();
     const bool isProject = !m_node;
     if (isProject)
         m_node = m_project.Node();
-    // What was clicked may be in the content that goes.
-    if (m_content) {
-        m_scroll->takeWidget();
-        m_content->hide();
-        m_content->deleteLater();
-    }
-    m_content = new QWidget;
-    m_column = new QVBoxLayout(m_content);
-    m_column->setContentsMargins(0, 0, kMargin, kMargin);
-    m_column->setSpacing(kGap);
+    StartContent();
     m_title->setText(isProject ? tr("Project") : Title());
     if (!m_node)
-        return m_scroll->setWidget(m_content);
+        return;
     if (isProject)
         AddProjectSections();
     else if (m_node.query<INLETimelineTransition>())
@@ -100,8 +98,30 @@ void PropertiesPanel::Rebuild()
     else
         AddClipSections();
     m_column->addStretch();
-    m_scroll->setWidget(m_content);
-    // It scrolls up and down alone.
+    m_content->show();
+    FitWidth();
+}
+
+/// Empty, in the place of the former one, where it stays: to give a tree of widgets another parent
+/// has all of them styled again.
+void PropertiesPanel::StartContent()
+{
+    m_shown.clear();
+    // What was clicked may be in the content that goes.
+    if (m_content) {
+        m_content->hide();
+        m_content->deleteLater();
+    }
+    m_content = new QWidget(m_scroll->widget());
+    m_scroll->widget()->layout()->addWidget(m_content);
+    m_column = new QVBoxLayout(m_content);
+    m_column->setContentsMargins(0, 0, kMargin, kMargin);
+    m_column->setSpacing(kGap);
+}
+
+/// It scrolls up and down alone.
+void PropertiesPanel::FitWidth()
+{
     m_scroll->setMinimumWidth(m_content->minimumSizeHint().width() +
                               m_scroll->verticalScrollBar()->sizeHint().width());
 }
@@ -133,20 +153,47 @@ bool PropertiesPanel::HasSound() const
     return wrapper.HaveAudio() || m_node.query<INLETimelineComposite>();
 }
 
-void PropertiesPanel::AddSection(const QString& title, QWidget* content,
-                                 std::function<void()> refresh)
+void PropertiesPanel::AddSection(const QString& title, const PropertySection::Make& make,
+                                 bool isOpen)
 {
-    m_column->addWidget(new PropertySection(title, content, m_content));
-    if (refresh)
-        m_refreshes.append(std::move(refresh));
+    const bool isShown = (isOpen || m_opened.contains(title)) && !m_folded.contains(title);
+    auto* section = new PropertySection(title, make, isShown, m_content);
+    m_column->addWidget(section);
+    connect(section, &PropertySection::Folded, this,
+            [this, title](bool isOpened) { NoteFold(title, isOpened); });
 }
 
-void PropertiesPanel::AddFields(const QString& title, const QVector<PropertyField>& fields)
+void PropertiesPanel::NoteFold(const QString& title, bool isOpen)
+{
+    (isOpen ? m_opened : m_folded).insert(title);
+    (isOpen ? m_folded : m_opened).remove(title);
+    Refresh(); // what was folded is not up to date
+    FitWidth();
+}
+
+template <typename Content>
+Content* PropertiesPanel::Watched(Content* content)
+{
+    m_shown.append({content, [content] { content->Refresh(); },
+                    [content] { content->FollowPlayHead(); }});
+    return content;
+}
+
+template <typename Section>
+void PropertiesPanel::AddSection(const QString& title)
+{
+    AddSection(title, [this](QWidget* parent) { return Watched(new Section(Scope(), parent)); });
+}
+
+void PropertiesPanel::AddFields(const QString& title, const QVector<PropertyField>& fields,
+                                bool isOpen)
 {
     if (fields.isEmpty())
         return;
-    auto* form = new PropertyForm(Scope(), fields, m_content);
-    AddSection(title, form, [form] { form->Refresh(); });
+    const auto make = [this, fields](QWidget* parent) {
+        return Watched(new PropertyForm(Scope(), fields, parent));
+    };
+    AddSection(title, make, isOpen);
 }
 
 void PropertiesPanel::AddProjectSections()
@@ -155,8 +202,7 @@ void PropertiesPanel::AddProjectSections()
     AddFields(tr("Format"), ProjectFields::Format(m_node));
     AddFields(tr("Drawing"), ProjectFields::Drawing(m_node));
     AddMixer();
-    auto* effects = new EffectsSection(Scope(), m_content);
-    AddSection(tr("Effects"), effects, [effects] { effects->Refresh(); });
+    AddSection<EffectsSection>(tr("Effects"));
 }
 
 void PropertiesPanel::AddTitleButton()
@@ -171,8 +217,10 @@ void PropertiesPanel::AddTitleButton()
 void PropertiesPanel::AddMixer()
 {
     m_levels = ProjectFields::MixedLevels(m_node);
+    // Many are for those who look for them.
+    const bool isOpen = m_levels.size() <= kMostStrips;
     for (const int level : qAsConst(m_levels))
-        AddFields(tr("Mixer, level %1").arg(level), ProjectFields::Strip(m_node, level));
+        AddFields(tr("Mixer, level %1").arg(level), ProjectFields::Strip(m_node, level), isOpen);
 }
 
 void PropertiesPanel::AddTransitionSections()
@@ -189,17 +237,14 @@ void PropertiesPanel::AddClipSections()
     AddFields(tr("Colour"), ClipFields::Color(m_node));
     AddFields(tr("Placement"), ClipFields::Placement(m_node));
     AddFields(tr("Blending"), ClipFields::Blending(m_node));
-    auto* movement = new MovementSection(scope, m_content);
-    AddSection(tr("Movement"), movement, [movement] { movement->Refresh(); });
-    if (!m_node.query<INLETimelineComposite>()) {
-        auto* speed = new SpeedSection(scope, m_content);
-        AddSection(tr("Speed"), speed, [speed] { speed->Refresh(); });
-    }
+    AddSection<MovementSection>(tr("Movement"));
+    if (!m_node.query<INLETimelineComposite>())
+        AddSection<SpeedSection>(tr("Speed"));
     if (HasSound())
         AddFields(tr("Sound"), ClipFields::Sound(m_node));
-    auto* effects = new EffectsSection(scope, m_content);
-    AddSection(tr("Effects"), effects, [effects] { effects->Refresh(); });
-    AddSection(tr("Transitions"), new TransitionSection(scope, m_content), {});
+    AddSection<EffectsSection>(tr("Effects"));
+    AddSection(tr("Transitions"),
+               [scope](QWidget* parent) { return new TransitionSection(scope, parent); });
 }
 
 void PropertiesPanel::RefreshIfShown(const NLEComPtr<INLETimeline>& node)
@@ -220,6 +265,16 @@ void PropertiesPanel::RefreshIfPlaced(const QVector<NLEComPtr<INLETimeline>>& cl
 
 void PropertiesPanel::Refresh()
 {
-    for (const auto& refresh : qAsConst(m_refreshes))
-        refresh();
+    for (const Shown& shown : qAsConst(m_shown)) {
+        if (!shown.widget->isHidden())
+            shown.refresh();
+    }
+}
+
+void PropertiesPanel::FollowPlayHead()
+{
+    for (const Shown& shown : qAsConst(m_shown)) {
+        if (!shown.widget->isHidden())
+            shown.followPlayHead();
+    }
 }

@@ -3,7 +3,9 @@
 
 #include "Host/Editor/Properties/PropertyField.h"
 #include "Host/Editor/Properties/PropertyScope.h"
+#include "Host/Editor/Properties/PropertySection.h"
 
+#include <QSet>
 #include <QVector>
 #include <QWidget>
 
@@ -30,20 +32,37 @@ protected:
 private:
     /// Builds the sections for what is selected now.
     void Rebuild();
+    void RebuildIfOther();
+    void StartContent();
     void RefreshIfShown(const NLEComPtr<INLETimeline>& node);
     void RefreshIfPlaced(const QVector<NLEComPtr<INLETimeline>>& clips);
     void Refresh();
+    void FollowPlayHead();
     void AddProjectSections();
     void AddTransitionSections();
     void AddClipSections();
     void AddTitleButton();
     void AddMixer();
-    void AddFields(const QString& title, const QVector<PropertyField>& fields);
-    /// \a refresh is called whenever what is shown may have changed.
-    void AddSection(const QString& title, QWidget* content, std::function<void()> refresh);
+    void AddFields(const QString& title, const QVector<PropertyField>& fields, bool isOpen = true);
+    /// Open unless \a isOpen is false, or the user has folded the last one of that title.
+    void AddSection(const QString& title, const PropertySection::Make& make, bool isOpen = true);
+    template <typename Section>
+    void AddSection(const QString& title);
+    template <typename Content>
+    Content* Watched(Content* content);
+    void NoteFold(const QString& title, bool isOpen);
+    void FitWidth();
     PropertyScope Scope() const;
     bool HasSound() const;
     QString Title() const;
+
+    /// What shows values that others change.
+    struct Shown
+    {
+        QWidget* widget;
+        std::function<void()> refresh;
+        std::function<void()> followPlayHead; ///< what depends on it alone
+    };
 
     Project& m_project;
     Selection& m_selection;
@@ -53,6 +72,8 @@ private:
     QScrollArea* m_scroll;
     QWidget* m_content = nullptr;
     QVBoxLayout* m_column = nullptr;
-    QVector<std::function<void()>> m_refreshes;
+    QVector<Shown> m_shown;
+    QSet<QString> m_folded; ///< titles of sections that the user has folded, or opened
+    QSet<QString> m_opened;
     QVector<int> m_levels; ///< that the mixer shows
 };

@@ -139,3 +139,11 @@ void PropertyForm::Refresh()
     for (const Row& row : qAsConst(m_rows))
         Show(row);
 }
+
+void PropertyForm::FollowPlayHead()
+{
+    for (const Row& row : qAsConst(m_rows)) {
+        if (row.keys)
+            Show(row);
+    }
+}

@@ -25,6 +25,8 @@ public:
 
     /// Shows what is there now.
     void Refresh();
+    /// Shows what is at the play head, which is elsewhere now.
+    void FollowPlayHead();
 
 private:
     struct Row

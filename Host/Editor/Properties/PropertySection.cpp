@@ -4,30 +4,34 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 constexpr int kGap = 6;
 
 } // namespace
 
-PropertySection::PropertySection(const QString& title, QWidget* content, QWidget* parent)
-    : QWidget(parent), m_title(new QPushButton(this)), m_content(content)
+PropertySection::PropertySection(const QString& title, Make make, bool isOpen, QWidget* parent)
+    : QWidget(parent), m_title(new QPushButton(this)), m_make(std::move(make))
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(kGap);
     m_title->setAccessibleName(title);
     m_title->setCheckable(true);
-    m_title->setChecked(true);
+    m_title->setChecked(isOpen);
     m_title->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_title->setStyleSheet(QStringLiteral(
         "QPushButton, QPushButton:checked { background: #2c2f34; border: none; color: #d5d8dc;"
         " font-weight: bold; padding: 5px 6px; text-align: left; }"
         "QPushButton:focus { border: 1px solid #4da3ff; }"));
     column->addWidget(m_title);
-    column->addWidget(m_content);
-    Fold(true);
-    connect(m_title, &QPushButton::toggled, this, &PropertySection::Fold);
+    Fold(isOpen);
+    connect(m_title, &QPushButton::toggled, this, [this](bool isOpened) {
+        Fold(isOpened);
+        Q_EMIT Folded(isOpened);
+    });
 }
 
 void PropertySection::Fold(bool isOpen)
@@ -36,5 +40,10 @@ void PropertySection::Fold(bool isOpen)
                          : isRightToLeft() ? QStringLiteral("◂")
                                            : QStringLiteral("▸");
     m_title->setText(QStringLiteral("%1  %2").arg(sign, m_title->accessibleName()));
-    m_content->setVisible(isOpen);
+    if (m_content)
+        return m_content->setVisible(isOpen);
+    if (!isOpen)
+        return;
+    m_content = m_make(this);
+    layout()->addWidget(m_content); // which shows it
 }

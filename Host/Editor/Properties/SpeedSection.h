@@ -18,6 +18,7 @@ public:
 
     /// Shows what is there now.
     void Refresh();
+    void FollowPlayHead() {}
 
 private:
     void Apply(double percent);
