@@ -10,12 +10,15 @@
 #include "Host/Editor/Window/EditorWindow.h"
 #include "Host/Editor/Window/FileCommands.h"
 #include "Host/Editor/Window/Tour.h"
+#include "Host/Editor/Window/WhenShown.h"
 #include "Host/HostLanguage.h"
 #include "Host/QtMessages.h"
+#include "Host/Widgets/LoopWatch.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QTextStream>
@@ -104,7 +107,15 @@ void WritePicture(EditorWindow& window, const QString& file)
     timer->start(between);
 }
 
-int Run(const QCommandLineParser& parser)
+void NoteLongWait(double milliseconds)
+{
+    constexpr double tolerable = 100;
+    if (milliseconds > tolerable)
+        qWarning("The window has not answered for %.0f ms.", milliseconds);
+}
+
+/// \a since began with the program.
+int Run(const QCommandLineParser& parser, const QElapsedTimer& since)
 {
     const EditorWindow::Paths paths = MakePaths();
     const std::unique_ptr<QtMessages> messages = OpenLog(paths.log);
@@ -116,13 +127,17 @@ int Run(const QCommandLineParser& parser)
     EditorWindow window(paths);
     window.resize(kWindow);
     window.show();
-    QTimer::singleShot(0, &window, [&] {
+    const LoopWatch watch;
+    QObject::connect(&watch, &LoopWatch::Answered, &NoteLongWait);
+    WhenShown(window, [&] {
+        qInfo("The window is there after %d ms.", int(since.elapsed()));
         if (parser.isSet(QStringLiteral("tour"))) {
             Tour tour(window, parser.value(QStringLiteral("tour")), parser.positionalArguments());
             return QApplication::exit(tour.Run() ? 0 : 1);
         }
         window.OfferRecovery();
         OpenFiles(window, parser.positionalArguments());
+        qInfo("Its files are open after %d ms.", int(since.elapsed()));
         if (parser.isSet(QStringLiteral("screenshot")))
             WritePicture(window, parser.value(QStringLiteral("screenshot")));
     });
@@ -133,6 +148,8 @@ int Run(const QCommandLineParser& parser)
 
 int main(int argc, char** argv)
 {
+    QElapsedTimer since;
+    since.start();
     QApplication app(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("CommonLib"));
     QApplication::setApplicationName(QStringLiteral("CommonLibEditor"));
@@ -147,7 +164,7 @@ int main(int argc, char** argv)
         return 1;
     }
     app.setStyleSheet(gGetCommonLibStyles());
-    const int result = Run(parser);
+    const int result = Run(parser, since);
     NLEWraper::Release();
     CVCreateInstance::Instance()->Release();
     ReleseGlobalLogInstance();
