@@ -20,6 +20,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDropEvent>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QPainter>
 #include <QRegularExpression>
@@ -225,6 +226,15 @@ private:
 
 const std::map<QString, Qt::KeyboardModifier> Editor::kModifiers = {
     {"ctrl", Qt::ControlModifier}, {"shift", Qt::ShiftModifier}, {"alt", Qt::AltModifier}};
+
+LevelHeader* HeaderOf(const Editor& editor, const char* name)
+{
+    const auto headers = editor.panel.findChildren<LevelHeader*>();
+    const auto found = std::find_if(headers.begin(), headers.end(), [name](auto* header) {
+        return header->accessibleName() == name;
+    });
+    return found == headers.end() ? nullptr : *found;
+}
 
 } // namespace
 
@@ -581,29 +591,75 @@ private Q_SLOTS:
         QCOMPARE(editor.project.Steps().count(), 1);
     }
 
+    void headersSwitch_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<int>("flags");
+        QTest::newRow("hides") << "Level 2: Hide" << int(NLELevel_Hidden);
+        QTest::newRow("mutes") << "Level 2: Mute" << int(NLELevel_Muted);
+        QTest::newRow("plays alone") << "Level 2: Solo" << int(NLELevel_Solo);
+    }
+
+    void headersSwitch()
+    {
+        QFETCH(QString, button);
+        QFETCH(int, flags);
+        Editor editor(*m_engine, "a0+20 / b0+20");
+        const auto buttons = editor.panel.findChildren<QAbstractButton*>();
+        const auto found = std::find_if(buttons.begin(), buttons.end(),
+                                        [&](auto* one) { return one->accessibleName() == button; });
+        QVERIFY(found != buttons.end());
+        const auto now = [&] { return editor.panel.findChild<TimelineModel*>()->StateOf(1).flags; };
+        QTest::keyClick(*found, Qt::Key_Space);
+        QCOMPARE(now(), flags);
+        QVERIFY((*found)->isChecked());
+        editor.project.Steps().undo();
+        QCOMPARE(now(), 0);
+        QVERIFY(!(*found)->isChecked());
+    }
+
+    void headersRename()
+    {
+        Editor editor(*m_engine, "a0+20 / b0+20");
+        auto* header = HeaderOf(editor, "Level 2");
+        QVERIFY(header);
+        auto* name = header->findChild<QLineEdit*>();
+        QTest::keyClicks(name, "Titles x");
+        QTest::keyClick(name, Qt::Key_Escape);
+        QTest::keyClicks(name, "Titles");
+        QTest::keyClick(name, Qt::Key_Return);
+        QCOMPARE(editor.panel.findChild<TimelineModel*>()->StateOf(1).name, QString("Titles"));
+        QCOMPARE(header->accessibleName(), QString("Titles"));
+        QCOMPARE(editor.project.Steps().count(), 1);
+        editor.project.Steps().undo();
+        QCOMPARE(name->text(), QString());
+        QCOMPARE(header->accessibleName(), QString("Level 2"));
+    }
+
     void headersLockAndResize()
     {
         Editor editor(*m_engine, "a0+20 / b0+20");
-        const auto headers = editor.panel.findChildren<LevelHeader*>();
-        const auto found = std::find_if(headers.begin(), headers.end(), [](auto* header) {
-            return header->accessibleName() == "Level 2";
-        });
-        QVERIFY(found != headers.end());
-        auto* lock = (*found)->findChild<QAbstractButton*>();
+        auto* header = HeaderOf(editor, "Level 2");
+        QVERIFY(header);
+        auto* lock = header->findChildren<QAbstractButton*>().last();
         lock->setFocus();
         QTest::keyClick(lock, Qt::Key_Space);
         QVERIFY(editor.panel.findChild<TimelineModel*>()->IsLocked(1));
         editor.project.Steps().undo();
         QVERIFY(!lock->isChecked());
 
-        const int height = (*found)->height();
-        QTest::mousePress(*found, Qt::LeftButton, {}, QPoint(20, height - 2));
+        const int height = header->height();
+        QTest::mousePress(header, Qt::LeftButton, {}, QPoint(20, height - 2));
         QMouseEvent move(QEvent::MouseMove, QPoint(20, height + 18), Qt::NoButton, Qt::LeftButton,
                          {});
-        QApplication::sendEvent(*found, &move);
-        QTest::mouseRelease(*found, Qt::LeftButton);
-        QCOMPARE((*found)->height(), height + 20);
+        QApplication::sendEvent(header, &move);
+        QTest::mouseRelease(header, Qt::LeftButton);
+        QCOMPARE(header->height(), height + 20);
         QCOMPARE(editor.View().Geometry().levels.Height(1), height + 20);
+        QTest::keyClick(lock, Qt::Key_Up, Qt::ControlModifier);
+        int kept = 0;
+        editor.project.Levels()->GetHeight(1, &kept);
+        QCOMPARE(kept, height + 10);
     }
 
     void snapsToMarkers()

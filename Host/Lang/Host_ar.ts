@@ -1494,8 +1494,20 @@
         <translation>قفل</translation>
     </message>
     <message>
-        <source>Lock %1</source>
-        <translation>قفل %1</translation>
+        <source>Hide</source>
+        <translation>إخفاء</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>كتم</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>منفرد</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
     </message>
 </context>
 <context>
@@ -2414,6 +2426,18 @@
         <source>Ripple trim</source>
         <translation>تشذيب مع الإزاحة</translation>
     </message>
+    <message>
+        <source>Hide or show level</source>
+        <translation>إخفاء المسار أو إظهاره</translation>
+    </message>
+    <message>
+        <source>Mute or unmute level</source>
+        <translation>كتم صوت المسار أو إعادته</translation>
+    </message>
+    <message>
+        <source>Level solo or not</source>
+        <translation>مسار منفرد أو لا</translation>
+    </message>
 </context>
 <context>
     <name>TimelineCommands</name>
@@ -2464,6 +2488,10 @@
     <message>
         <source>Unlock level</source>
         <translation>فتح قفل المسار</translation>
+    </message>
+    <message>
+        <source>Rename level</source>
+        <translation>إعادة تسمية المسار</translation>
     </message>
 </context>
 <context>

@@ -1466,8 +1466,20 @@
         <translation>Sperren</translation>
     </message>
     <message>
-        <source>Lock %1</source>
-        <translation>%1 sperren</translation>
+        <source>Hide</source>
+        <translation>Ausblenden</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Stumm</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>Solo</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
     </message>
 </context>
 <context>
@@ -2378,6 +2390,18 @@
         <source>Ripple trim</source>
         <translation>Ripple-Trimmen</translation>
     </message>
+    <message>
+        <source>Hide or show level</source>
+        <translation>Spur aus- oder einblenden</translation>
+    </message>
+    <message>
+        <source>Mute or unmute level</source>
+        <translation>Spur stumm oder hörbar</translation>
+    </message>
+    <message>
+        <source>Level solo or not</source>
+        <translation>Spur solo oder nicht</translation>
+    </message>
 </context>
 <context>
     <name>TimelineCommands</name>
@@ -2428,6 +2452,10 @@
     <message>
         <source>Unlock level</source>
         <translation>Spur entsperren</translation>
+    </message>
+    <message>
+        <source>Rename level</source>
+        <translation>Spur umbenennen</translation>
     </message>
 </context>
 <context>

@@ -1466,8 +1466,20 @@
         <translation>Lock</translation>
     </message>
     <message>
-        <source>Lock %1</source>
-        <translation>Lock %1</translation>
+        <source>Hide</source>
+        <translation>Hide</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Mute</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>Solo</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
     </message>
 </context>
 <context>
@@ -2378,6 +2390,18 @@
         <source>Ripple trim</source>
         <translation>Ripple trim</translation>
     </message>
+    <message>
+        <source>Hide or show level</source>
+        <translation>Hide or show level</translation>
+    </message>
+    <message>
+        <source>Mute or unmute level</source>
+        <translation>Mute or unmute level</translation>
+    </message>
+    <message>
+        <source>Level solo or not</source>
+        <translation>Level solo or not</translation>
+    </message>
 </context>
 <context>
     <name>TimelineCommands</name>
@@ -2428,6 +2452,10 @@
     <message>
         <source>Unlock level</source>
         <translation>Unlock level</translation>
+    </message>
+    <message>
+        <source>Rename level</source>
+        <translation>Rename level</translation>
     </message>
 </context>
 <context>

@@ -1466,8 +1466,20 @@
         <translation>Bloquear</translation>
     </message>
     <message>
-        <source>Lock %1</source>
-        <translation>Bloquear %1</translation>
+        <source>Hide</source>
+        <translation>Ocultar</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Silenciar</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>Solo</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
     </message>
 </context>
 <context>
@@ -2378,6 +2390,18 @@
         <source>Ripple trim</source>
         <translation>Recortar con ripple</translation>
     </message>
+    <message>
+        <source>Hide or show level</source>
+        <translation>Ocultar o mostrar pista</translation>
+    </message>
+    <message>
+        <source>Mute or unmute level</source>
+        <translation>Silenciar o activar pista</translation>
+    </message>
+    <message>
+        <source>Level solo or not</source>
+        <translation>Pista en solo o no</translation>
+    </message>
 </context>
 <context>
     <name>TimelineCommands</name>
@@ -2428,6 +2452,10 @@
     <message>
         <source>Unlock level</source>
         <translation>Desbloquear pista</translation>
+    </message>
+    <message>
+        <source>Rename level</source>
+        <translation>Cambiar nombre de pista</translation>
     </message>
 </context>
 <context>

@@ -1466,8 +1466,20 @@
         <translation>Verrouiller</translation>
     </message>
     <message>
-        <source>Lock %1</source>
-        <translation>Verrouiller %1</translation>
+        <source>Hide</source>
+        <translation>Masquer</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Muet</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>Solo</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
     </message>
 </context>
 <context>
@@ -2378,6 +2390,18 @@
         <source>Ripple trim</source>
         <translation>Rogner en ripple</translation>
     </message>
+    <message>
+        <source>Hide or show level</source>
+        <translation>Masquer ou afficher la piste</translation>
+    </message>
+    <message>
+        <source>Mute or unmute level</source>
+        <translation>Couper ou rétablir le son de la piste</translation>
+    </message>
+    <message>
+        <source>Level solo or not</source>
+        <translation>Piste en solo ou non</translation>
+    </message>
 </context>
 <context>
     <name>TimelineCommands</name>
@@ -2428,6 +2452,10 @@
     <message>
         <source>Unlock level</source>
         <translation>Déverrouiller la piste</translation>
+    </message>
+    <message>
+        <source>Rename level</source>
+        <translation>Renommer la piste</translation>
     </message>
 </context>
 <context>

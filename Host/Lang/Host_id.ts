@@ -1459,8 +1459,20 @@
         <translation>Kunci</translation>
     </message>
     <message>
-        <source>Lock %1</source>
-        <translation>Kunci %1</translation>
+        <source>Hide</source>
+        <translation>Sembunyikan</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Bisukan</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>Solo</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nama</translation>
     </message>
 </context>
 <context>
@@ -2369,6 +2381,18 @@
         <source>Ripple trim</source>
         <translation>Pangkas ripple</translation>
     </message>
+    <message>
+        <source>Hide or show level</source>
+        <translation>Sembunyikan atau tampilkan trek</translation>
+    </message>
+    <message>
+        <source>Mute or unmute level</source>
+        <translation>Bisukan atau suarakan trek</translation>
+    </message>
+    <message>
+        <source>Level solo or not</source>
+        <translation>Trek solo atau tidak</translation>
+    </message>
 </context>
 <context>
     <name>TimelineCommands</name>
@@ -2419,6 +2443,10 @@
     <message>
         <source>Unlock level</source>
         <translation>Buka kunci trek</translation>
+    </message>
+    <message>
+        <source>Rename level</source>
+        <translation>Ganti nama trek</translation>
     </message>
 </context>
 <context>

@@ -1466,8 +1466,20 @@
         <translation>Blocca</translation>
     </message>
     <message>
-        <source>Lock %1</source>
-        <translation>Blocca %1</translation>
+        <source>Hide</source>
+        <translation>Nascondi</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Disattiva audio</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>Solo</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
     </message>
 </context>
 <context>
@@ -2378,6 +2390,18 @@
         <source>Ripple trim</source>
         <translation>Rifila con ripple</translation>
     </message>
+    <message>
+        <source>Hide or show level</source>
+        <translation>Nascondi o mostra traccia</translation>
+    </message>
+    <message>
+        <source>Mute or unmute level</source>
+        <translation>Disattiva o riattiva audio della traccia</translation>
+    </message>
+    <message>
+        <source>Level solo or not</source>
+        <translation>Traccia in solo o no</translation>
+    </message>
 </context>
 <context>
     <name>TimelineCommands</name>
@@ -2428,6 +2452,10 @@
     <message>
         <source>Unlock level</source>
         <translation>Sblocca traccia</translation>
+    </message>
+    <message>
+        <source>Rename level</source>
+        <translation>Rinomina traccia</translation>
     </message>
 </context>
 <context>

@@ -1459,8 +1459,20 @@
         <translation>ロック</translation>
     </message>
     <message>
-        <source>Lock %1</source>
-        <translation>%1 をロック</translation>
+        <source>Hide</source>
+        <translation>隠す</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>ミュート</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>ソロ</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
     </message>
 </context>
 <context>
@@ -2369,6 +2381,18 @@
         <source>Ripple trim</source>
         <translation>リップルトリム</translation>
     </message>
+    <message>
+        <source>Hide or show level</source>
+        <translation>トラックを隠すまたは表示</translation>
+    </message>
+    <message>
+        <source>Mute or unmute level</source>
+        <translation>トラックをミュートまたは解除</translation>
+    </message>
+    <message>
+        <source>Level solo or not</source>
+        <translation>トラックのソロを切り替え</translation>
+    </message>
 </context>
 <context>
     <name>TimelineCommands</name>
@@ -2419,6 +2443,10 @@
     <message>
         <source>Unlock level</source>
         <translation>トラックのロックを解除</translation>
+    </message>
+    <message>
+        <source>Rename level</source>
+        <translation>トラック名を変更</translation>
     </message>
 </context>
 <context>

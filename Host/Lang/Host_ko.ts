@@ -1459,8 +1459,20 @@
         <translation>잠금</translation>
     </message>
     <message>
-        <source>Lock %1</source>
-        <translation>%1 잠금</translation>
+        <source>Hide</source>
+        <translation>숨기기</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>음소거</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>솔로</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
     </message>
 </context>
 <context>
@@ -2369,6 +2381,18 @@
         <source>Ripple trim</source>
         <translation>리플 트림</translation>
     </message>
+    <message>
+        <source>Hide or show level</source>
+        <translation>트랙 숨기기 또는 표시</translation>
+    </message>
+    <message>
+        <source>Mute or unmute level</source>
+        <translation>트랙 음소거 또는 해제</translation>
+    </message>
+    <message>
+        <source>Level solo or not</source>
+        <translation>트랙 솔로 전환</translation>
+    </message>
 </context>
 <context>
     <name>TimelineCommands</name>
@@ -2419,6 +2443,10 @@
     <message>
         <source>Unlock level</source>
         <translation>트랙 잠금 해제</translation>
+    </message>
+    <message>
+        <source>Rename level</source>
+        <translation>트랙 이름 바꾸기</translation>
     </message>
 </context>
 <context>

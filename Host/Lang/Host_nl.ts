@@ -1466,8 +1466,20 @@
         <translation>Vergrendelen</translation>
     </message>
     <message>
-        <source>Lock %1</source>
-        <translation>%1 vergrendelen</translation>
+        <source>Hide</source>
+        <translation>Verbergen</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Dempen</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>Solo</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
     </message>
 </context>
 <context>
@@ -2378,6 +2390,18 @@
         <source>Ripple trim</source>
         <translation>Ripple-trimmen</translation>
     </message>
+    <message>
+        <source>Hide or show level</source>
+        <translation>Spoor verbergen of tonen</translation>
+    </message>
+    <message>
+        <source>Mute or unmute level</source>
+        <translation>Spoor dempen of hoorbaar maken</translation>
+    </message>
+    <message>
+        <source>Level solo or not</source>
+        <translation>Spoor solo of niet</translation>
+    </message>
 </context>
 <context>
     <name>TimelineCommands</name>
@@ -2428,6 +2452,10 @@
     <message>
         <source>Unlock level</source>
         <translation>Spoor ontgrendelen</translation>
+    </message>
+    <message>
+        <source>Rename level</source>
+        <translation>Spoor hernoemen</translation>
     </message>
 </context>
 <context>

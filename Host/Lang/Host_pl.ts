@@ -1473,8 +1473,20 @@
         <translation>Zablokuj</translation>
     </message>
     <message>
-        <source>Lock %1</source>
-        <translation>Zablokuj: %1</translation>
+        <source>Hide</source>
+        <translation>Ukryj</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Wycisz</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>Solo</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nazwa</translation>
     </message>
 </context>
 <context>
@@ -2387,6 +2399,18 @@
         <source>Ripple trim</source>
         <translation>Przycięcie z przesunięciem</translation>
     </message>
+    <message>
+        <source>Hide or show level</source>
+        <translation>Ukryj lub pokaż ścieżkę</translation>
+    </message>
+    <message>
+        <source>Mute or unmute level</source>
+        <translation>Wycisz lub włącz ścieżkę</translation>
+    </message>
+    <message>
+        <source>Level solo or not</source>
+        <translation>Ścieżka solo lub nie</translation>
+    </message>
 </context>
 <context>
     <name>TimelineCommands</name>
@@ -2437,6 +2461,10 @@
     <message>
         <source>Unlock level</source>
         <translation>Odblokowanie ścieżki</translation>
+    </message>
+    <message>
+        <source>Rename level</source>
+        <translation>Zmiana nazwy ścieżki</translation>
     </message>
 </context>
 <context>

@@ -1466,8 +1466,20 @@
         <translation>Bloquear</translation>
     </message>
     <message>
-        <source>Lock %1</source>
-        <translation>Bloquear %1</translation>
+        <source>Hide</source>
+        <translation>Ocultar</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Sem som</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>Solo</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
     </message>
 </context>
 <context>
@@ -2378,6 +2390,18 @@
         <source>Ripple trim</source>
         <translation>Aparar com ripple</translation>
     </message>
+    <message>
+        <source>Hide or show level</source>
+        <translation>Ocultar ou mostrar faixa</translation>
+    </message>
+    <message>
+        <source>Mute or unmute level</source>
+        <translation>Silenciar ou ativar faixa</translation>
+    </message>
+    <message>
+        <source>Level solo or not</source>
+        <translation>Faixa a solo ou não</translation>
+    </message>
 </context>
 <context>
     <name>TimelineCommands</name>
@@ -2428,6 +2452,10 @@
     <message>
         <source>Unlock level</source>
         <translation>Desbloquear faixa</translation>
+    </message>
+    <message>
+        <source>Rename level</source>
+        <translation>Mudar nome da faixa</translation>
     </message>
 </context>
 <context>

@@ -1473,8 +1473,20 @@
         <translation>Blochează</translation>
     </message>
     <message>
-        <source>Lock %1</source>
-        <translation>Blochează: %1</translation>
+        <source>Hide</source>
+        <translation>Ascunde</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Fără sunet</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>Solo</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nume</translation>
     </message>
 </context>
 <context>
@@ -2387,6 +2399,18 @@
         <source>Ripple trim</source>
         <translation>Ajustează capătul cu ripple</translation>
     </message>
+    <message>
+        <source>Hide or show level</source>
+        <translation>Ascunde sau arată pista</translation>
+    </message>
+    <message>
+        <source>Mute or unmute level</source>
+        <translation>Oprește sau pornește sunetul pistei</translation>
+    </message>
+    <message>
+        <source>Level solo or not</source>
+        <translation>Pistă solo sau nu</translation>
+    </message>
 </context>
 <context>
     <name>TimelineCommands</name>
@@ -2437,6 +2461,10 @@
     <message>
         <source>Unlock level</source>
         <translation>Deblochează pista</translation>
+    </message>
+    <message>
+        <source>Rename level</source>
+        <translation>Redenumește pista</translation>
     </message>
 </context>
 <context>

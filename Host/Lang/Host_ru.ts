@@ -1473,8 +1473,20 @@
         <translation>Заблокировать</translation>
     </message>
     <message>
-        <source>Lock %1</source>
-        <translation>Заблокировать: %1</translation>
+        <source>Hide</source>
+        <translation>Скрыть</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Без звука</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>Соло</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
     </message>
 </context>
 <context>
@@ -2387,6 +2399,18 @@
         <source>Ripple trim</source>
         <translation>Подрезка со сдвигом</translation>
     </message>
+    <message>
+        <source>Hide or show level</source>
+        <translation>Скрыть или показать дорожку</translation>
+    </message>
+    <message>
+        <source>Mute or unmute level</source>
+        <translation>Выключить или включить звук дорожки</translation>
+    </message>
+    <message>
+        <source>Level solo or not</source>
+        <translation>Соло дорожки вкл. или выкл.</translation>
+    </message>
 </context>
 <context>
     <name>TimelineCommands</name>
@@ -2437,6 +2461,10 @@
     <message>
         <source>Unlock level</source>
         <translation>Разблокировка дорожки</translation>
+    </message>
+    <message>
+        <source>Rename level</source>
+        <translation>Переименование дорожки</translation>
     </message>
 </context>
 <context>

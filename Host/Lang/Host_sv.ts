@@ -1466,8 +1466,20 @@
         <translation>Lås</translation>
     </message>
     <message>
-        <source>Lock %1</source>
-        <translation>Lås %1</translation>
+        <source>Hide</source>
+        <translation>Dölj</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Tyst</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>Solo</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Namn</translation>
     </message>
 </context>
 <context>
@@ -2378,6 +2390,18 @@
         <source>Ripple trim</source>
         <translation>Ripple-trimma</translation>
     </message>
+    <message>
+        <source>Hide or show level</source>
+        <translation>Dölj eller visa spår</translation>
+    </message>
+    <message>
+        <source>Mute or unmute level</source>
+        <translation>Tysta eller slå på spår</translation>
+    </message>
+    <message>
+        <source>Level solo or not</source>
+        <translation>Spår solo eller inte</translation>
+    </message>
 </context>
 <context>
     <name>TimelineCommands</name>
@@ -2428,6 +2452,10 @@
     <message>
         <source>Unlock level</source>
         <translation>Lås upp spår</translation>
+    </message>
+    <message>
+        <source>Rename level</source>
+        <translation>Byt namn på spår</translation>
     </message>
 </context>
 <context>

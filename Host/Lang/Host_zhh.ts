@@ -1459,8 +1459,20 @@
         <translation>鎖定</translation>
     </message>
     <message>
-        <source>Lock %1</source>
-        <translation>鎖定 %1</translation>
+        <source>Hide</source>
+        <translation>隱藏</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>靜音</translation>
+    </message>
+    <message>
+        <source>Solo</source>
+        <translation>獨奏</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名稱</translation>
     </message>
 </context>
 <context>
@@ -2369,6 +2381,18 @@
         <source>Ripple trim</source>
         <translation>漣漪修剪</translation>
     </message>
+    <message>
+        <source>Hide or show level</source>
+        <translation>隱藏或顯示軌道</translation>
+    </message>
+    <message>
+        <source>Mute or unmute level</source>
+        <translation>將軌道靜音或取消靜音</translation>
+    </message>
+    <message>
+        <source>Level solo or not</source>
+        <translation>軌道獨奏或取消</translation>
+    </message>
 </context>
 <context>
     <name>TimelineCommands</name>
@@ -2419,6 +2443,10 @@
     <message>
         <source>Unlock level</source>
         <translation>解鎖軌道</translation>
+    </message>
+    <message>
+        <source>Rename level</source>
+        <translation>重新命名軌道</translation>
     </message>
 </context>
 <context>

@@ -57,6 +57,11 @@ bool Project::IsUsable() const
     return m_steps.Editing() != nullptr;
 }
 
+NLEComPtr<INLELevels> Project::Levels() const
+{
+    return NLEComPtr<INLEEditing>(&Editing()).query<INLELevels>();
+}
+
 double Project::FrameRate() const
 {
     NLERational rate = {0, 1};

@@ -4,6 +4,7 @@
 #include "Com/NLEComPtr.h"
 #include "EngineApi/INLEEditing.h"
 #include "EngineApi/INLEFactory.h"
+#include "EngineApi/INLELevels.h"
 #include "EngineApi/INLETimeline.h"
 #include "Host/Editor/Model/ProjectSteps.h"
 
@@ -45,6 +46,8 @@ public:
     NLEComPtr<INLETimeline> Node() const { return m_node; }
     NLETimeline* Timeline() const { return m_timeline.get(); }
     INLEEditing& Editing() const { return *m_steps.Editing(); }
+    /// Its levels; what changes them stands within an Edit(), as all edits do.
+    NLEComPtr<INLELevels> Levels() const;
     /// Frames a second, above 0.
     double FrameRate() const;
     /// Frames that the project plays.
@@ -93,8 +96,8 @@ public:
 Q_SIGNALS:
     /// Another project is open; nodes of the former one are of no use any more.
     void Replaced();
-    /// Clips were placed, changed or removed by an edit, undo or redo; none where levels were
-    /// locked or unlocked.
+    /// Clips were placed, changed or removed by an edit, undo or redo; none where something was set
+    /// for levels.
     void ClipsChanged(const QVector<NLEComPtr<INLETimeline>>& clips);
     /// Something else about \a node changed (as Change() names it).
     void NodeChanged(const NLEComPtr<INLETimeline>& node);

@@ -256,10 +256,11 @@ void PropertiesPanel::RefreshIfShown(const NLEComPtr<INLETimeline>& node)
 void PropertiesPanel::RefreshIfPlaced(const QVector<NLEComPtr<INLETimeline>>& clips)
 {
     const bool isProject = m_node && m_node == m_project.Node();
-    // The rate is fixed by the first clip, and the mixer has a strip for each level that has some.
+    // The rate is fixed by the first clip, and the mixer has a strip for each level that has some,
+    // which heads of levels mute.
     if (isProject && ProjectFields::MixedLevels(m_node) != m_levels)
         Rebuild();
-    else if (clips.contains(m_node))
+    else if (clips.contains(m_node) || (isProject && clips.isEmpty()))
         Refresh();
 }
 

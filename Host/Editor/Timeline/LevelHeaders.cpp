@@ -10,26 +10,36 @@ LevelHeaders::LevelHeaders(const LevelLayout& levels, const TimelineModel& model
     : QWidget(parent), m_levels(levels), m_model(model), m_area(new QWidget(this))
 {
     setFixedWidth(kWidth);
-    connect(&model, &TimelineModel::LocksChanged, this, &LevelHeaders::SetLocks);
+    connect(&model, &TimelineModel::LevelsChanged, this, &LevelHeaders::SetStates);
 }
 
 LevelHeader* LevelHeaders::Make(int level)
 {
     auto* header = new LevelHeader(level, m_area);
-    header->SetLocked(m_model.IsLocked(level));
-    connect(header, &LevelHeader::LockAsked, this, [this, level](bool locked) {
+    header->SetState(m_model.StateOf(level));
+    // As it is, should something be refused.
+    const auto reset = [this, header, level] { header->SetState(m_model.StateOf(level)); };
+    connect(header, &LevelHeader::LockAsked, this, [=](bool locked) {
         Q_EMIT LockAsked(level, locked);
-        SetLocks(); // as it is, should that be refused
+        reset();
+    });
+    connect(header, &LevelHeader::FlagAsked, this, [=](int flag, bool on) {
+        Q_EMIT FlagAsked(level, flag, on);
+        reset();
+    });
+    connect(header, &LevelHeader::NameAsked, this, [=](const QString& name) {
+        Q_EMIT NameAsked(level, name);
+        reset();
     });
     connect(header, &LevelHeader::HeightAsked, this,
             [this, level](int pixels) { Q_EMIT HeightAsked(level, pixels); });
     return header;
 }
 
-void LevelHeaders::SetLocks()
+void LevelHeaders::SetStates()
 {
     for (int level = 0; level < m_headers.size(); ++level)
-        m_headers[level]->SetLocked(m_model.IsLocked(level));
+        m_headers[level]->SetState(m_model.StateOf(level));
 }
 
 void LevelHeaders::Arrange(int scrolled)

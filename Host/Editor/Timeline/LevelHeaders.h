@@ -14,7 +14,7 @@ class LevelHeaders : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr int kWidth = 120;
+    static constexpr int kWidth = 140;
 
     /// \a levels and \a model outlive the headers.
     LevelHeaders(const LevelLayout& levels, const TimelineModel& model, QWidget* parent = nullptr);
@@ -24,13 +24,16 @@ public:
 
 Q_SIGNALS:
     void LockAsked(int level, bool locked);
+    /// \a flag is one of NLELevelFlags.
+    void FlagAsked(int level, int flag, bool on);
+    void NameAsked(int level, const QString& name);
     void HeightAsked(int level, int pixels);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void SetLocks();
+    void SetStates();
     LevelHeader* Make(int level);
 
     const LevelLayout& m_levels;

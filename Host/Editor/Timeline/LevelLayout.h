@@ -15,6 +15,8 @@ public:
     int Count() const { return m_count; }
     int Height(int level) const { return m_heights.value(level, kPreset); }
     void SetHeight(int level, int height);
+    /// All levels have the preset again.
+    void ForgetHeights() { m_heights.clear(); }
     /// Distance of a level's upper edge from that of the highest one.
     int Top(int level) const;
     int TotalHeight() const;

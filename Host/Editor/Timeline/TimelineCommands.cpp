@@ -6,8 +6,23 @@
 #include "Host/Editor/Timeline/TimelineModel.h"
 #include "Host/Editor/Timeline/ToolEdits.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cstdlib>
+
+namespace {
+
+/// What switching one of NLELevelFlags on or off is called, as the actions are.
+QString TitleOfFlag(int flag)
+{
+    const char* title = "Level solo or not";
+    if (flag != NLELevel_Solo)
+        title = flag == NLELevel_Hidden ? "Hide or show level" : "Mute or unmute level";
+    return QCoreApplication::translate("Timeline", title);
+}
+
+} // namespace
 
 TimelineCommands::TimelineCommands(Project& project, Selection& selection, TimelineModel& model,
                                    QObject* parent)
@@ -250,6 +265,27 @@ void TimelineCommands::SetLocked(int level, bool locked)
 {
     m_project.Edit(locked ? tr("Lock level") : tr("Unlock level"),
                    [=](INLEEditing& editing) { return editing.SetLevelLocked(level, locked); });
+}
+
+void TimelineCommands::ToggleFlag(int flag)
+{
+    if (const ClipRow* row = m_model.Find(m_selection.Current().get()))
+        SetFlag(row->level, flag, (m_model.StateOf(row->level).flags & flag) == 0);
+}
+
+void TimelineCommands::SetFlag(int level, int flag, bool on)
+{
+    const int flags = m_model.StateOf(level).flags;
+    m_project.Edit(TitleOfFlag(flag), [&](INLEEditing& /*editing*/) {
+        return m_project.Levels()->SetFlags(level, on ? flags | flag : flags & ~flag);
+    });
+}
+
+void TimelineCommands::SetName(int level, const QString& name)
+{
+    m_project.Edit(tr("Rename level"), [&](INLEEditing& /*editing*/) {
+        return m_project.Levels()->SetName(level, name.toStdWString().c_str());
+    });
 }
 
 void TimelineCommands::GoToCut(int step)

@@ -51,6 +51,10 @@ public:
     void Deselect();
     void ToggleLock();
     void SetLocked(int level, bool locked);
+    /// Of the level of the current clip; \a flag is one of NLELevelFlags.
+    void ToggleFlag(int flag);
+    void SetFlag(int level, int flag, bool on);
+    void SetName(int level, const QString& name);
     /// Begin or end of the next clip after the play head, or before it for a \a step of -1.
     void GoToCut(int step);
 

@@ -5,6 +5,7 @@
 #include "EngineApi/INLEMarkers.h"
 #include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Project.h"
+#include "Host/EngineText.h"
 
 #include <QUndoStack>
 
@@ -45,7 +46,7 @@ TimelineModel::TimelineModel(Project& project, QObject* parent)
     connect(&project, &Project::Replaced, this, &TimelineModel::Reload);
     connect(&project, &Project::ClipsChanged, this, &TimelineModel::Update);
     connect(&project, &Project::NodeChanged, this, &TimelineModel::Follow);
-    connect(&project.Steps(), &QUndoStack::indexChanged, this, &TimelineModel::LocksChanged);
+    connect(&project.Steps(), &QUndoStack::indexChanged, this, &TimelineModel::LevelsChanged);
     if (project.IsUsable())
         Reload();
 }
@@ -59,7 +60,7 @@ void TimelineModel::Reload()
     m_reader.ForgetMedia();
     Update(ClipsOf(m_project.Node()));
     ReadMarkers();
-    Q_EMIT LocksChanged();
+    Q_EMIT LevelsChanged();
 }
 
 bool TimelineModel::IsHeld(INLETimeline& node) const
@@ -121,6 +122,41 @@ bool TimelineModel::IsLocked(int level) const
     if (m_project.IsUsable())
         m_project.Editing().GetLevelLocked(level, &isLocked);
     return isLocked;
+}
+
+int TimelineModel::SetLevelCount() const
+{
+    int count = 0;
+    if (m_project.IsUsable())
+        m_project.Levels()->GetCount(&count);
+    return count;
+}
+
+bool TimelineModel::IsAnySolo() const
+{
+    const auto levels = m_project.Levels();
+    for (int level = 0, count = SetLevelCount(); level < count; ++level) {
+        int flags = 0;
+        levels->GetFlags(level, &flags);
+        if ((flags & NLELevel_Solo) != 0)
+            return true;
+    }
+    return false;
+}
+
+LevelState TimelineModel::StateOf(int level) const
+{
+    LevelState state;
+    if (!m_project.IsUsable())
+        return state;
+    const auto levels = m_project.Levels();
+    levels->GetFlags(level, &state.flags);
+    state.name = EngineText(
+        [&](wchar_t* name, int capacity) { return levels->GetName(level, name, capacity); });
+    state.isLocked = IsLocked(level);
+    state.isShown = (state.flags & NLELevel_Hidden) == 0 &&
+                    ((state.flags & NLELevel_Solo) != 0 || !IsAnySolo());
+    return state;
 }
 
 int TimelineModel::LevelCount() const

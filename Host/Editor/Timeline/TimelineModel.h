@@ -3,6 +3,7 @@
 
 #include "Host/Editor/Timeline/ClipReader.h"
 #include "Host/Editor/Timeline/LevelIndex.h"
+#include "Host/Editor/Timeline/LevelState.h"
 
 #include <QObject>
 
@@ -49,15 +50,18 @@ public:
 
     const QVector<MarkerRow>& Markers() const { return m_markers; }
     bool IsLocked(int level) const;
+    LevelState StateOf(int level) const;
+    /// Levels up to the highest one for which something is set.
+    int SetLevelCount() const;
     /// Reads everything again, in another language for example.
     void Reload();
 
 Q_SIGNALS:
     /// Rows have changed.
     void Changed();
-    /// Markers or locks have changed.
+    /// Markers, or what is set for levels, have changed.
     void MarkersChanged();
-    void LocksChanged();
+    void LevelsChanged();
 
 private:
     struct Level
@@ -70,6 +74,8 @@ private:
     void Update(const QVector<NLEComPtr<INLETimeline>>& nodes);
     void Follow(const NLEComPtr<INLETimeline>& node);
     void ReadMarkers();
+    /// Whether a level is solo.
+    bool IsAnySolo() const;
     bool IsHeld(INLETimeline& node) const;
 
     Project& m_project;

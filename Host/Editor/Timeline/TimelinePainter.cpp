@@ -22,6 +22,7 @@ const QColor kStrip(0x20, 0x22, 0x25);
 const QColor kPlayHead(0x4d, 0xa3, 0xff);
 const QColor kSnapLine(0xff, 0xd0, 0x4a);
 const QColor kCached(0x3f, 0xb0, 0x6b);
+const QColor kHidden(0x23, 0x25, 0x29, 0xA0);
 const QColor kLocked(0xff, 0xff, 0xff, 0x18);
 const QColor kBand(0x4d, 0xa3, 0xff, 0x38);
 const QColor kDrop(0x7f, 0xe0, 0x9a);
@@ -42,7 +43,7 @@ struct TimelinePainter::Pass
     int level;
     int top;
     int height; ///< of clips
-    bool isLocked;
+    LevelState state;
 
     QRect Box(const LevelIndex::Entry& entry) const
     {
@@ -77,7 +78,7 @@ void TimelinePainter::Paint(QPainter& painter, const QRect& area, const Timeline
         painter.fillRect(box, kLevel);
         painter.fillRect(box.left(), box.bottom(), box.width(), 1, kLevelEdge);
         PaintLevel({painter, geometry, box & area.adjusted(-kMargin, 0, kMargin, 0), level,
-                    box.top(), box.height() - 1, m_model.IsLocked(level)});
+                    box.top(), box.height() - 1, m_model.StateOf(level)});
     }
     PaintStrip(painter, area, geometry, overlay);
     PaintOverlay(painter, area, geometry, overlay);
@@ -93,7 +94,7 @@ void TimelinePainter::PaintLevel(const Pass& pass) const
         const ClipRow& row = *entry->row;
         QRect box = pass.Box(*entry);
         if (box.width() >= kNarrowest) {
-            ClipPainter::State state = StateOf(row, pass.isLocked);
+            ClipPainter::State state = StateOf(row, pass.state.isLocked);
             if (const ClipRow* cover = transitions.At(row.begin))
                 state.free = std::max(0, pass.geometry.Left(cover->end));
             m_clips.Paint(pass.painter, row, scale, box, pass.area, state);
@@ -109,10 +110,12 @@ void TimelinePainter::PaintLevel(const Pass& pass) const
             if (isNear)
                 box.setRight(next.right());
         }
-        ClipPainter::PaintBlock(pass.painter, row, box, StateOf(row, pass.isLocked));
+        ClipPainter::PaintBlock(pass.painter, row, box, StateOf(row, pass.state.isLocked));
     }
     PaintTransitions(pass);
-    if (pass.isLocked)
+    if (!pass.state.isShown)
+        pass.painter.fillRect(pass.area, kHidden);
+    if (pass.state.isLocked)
         pass.painter.fillRect(pass.area, QBrush(kLocked, Qt::BDiagPattern));
 }
 
@@ -125,7 +128,7 @@ void TimelinePainter::PaintTransitions(const Pass& pass) const
         const QRect box = pass.Box(*entry);
         if (box.width() >= kNarrowest)
             m_clips.PaintTransition(pass.painter, *entry->row, box,
-                                    StateOf(*entry->row, pass.isLocked));
+                                    StateOf(*entry->row, pass.state.isLocked));
         entry = index.FirstFrom(entry + 1, scale.Frame(box.left() + 0.5));
     }
 }

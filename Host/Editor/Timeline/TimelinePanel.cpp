@@ -102,6 +102,15 @@ void TimelinePanel::AddEditActions()
     add(QT_TRANSLATE_NOOP("Timeline", "Ungroup"), {"Ctrl+Shift+G"}, &C::Ungroup, Needs::Selection);
     add(QT_TRANSLATE_NOOP("Timeline", "Lock or unlock level"), {"Shift+L"}, &C::ToggleLock,
         Needs::Selection);
+    const auto flag = [this](const char* text, const char* key, int which) {
+        m_actions->Add({text,
+                        {key},
+                        [commands = m_commands, which] { commands->ToggleFlag(which); },
+                        Needs::Selection});
+    };
+    flag(QT_TRANSLATE_NOOP("Timeline", "Hide or show level"), "Shift+H", NLELevel_Hidden);
+    flag(QT_TRANSLATE_NOOP("Timeline", "Mute or unmute level"), "Shift+M", NLELevel_Muted);
+    flag(QT_TRANSLATE_NOOP("Timeline", "Level solo or not"), "Shift+A", NLELevel_Solo);
     m_actions->Add({nullptr, {}, {}});
     add(QT_TRANSLATE_NOOP("Timeline", "Select all"), {"Ctrl+A"}, &C::SelectAll, Needs::Nothing);
     add(QT_TRANSLATE_NOOP("Timeline", "Select at play head"), {"D"}, &C::SelectAtPlayHead,
@@ -294,8 +303,10 @@ void TimelinePanel::ConnectModel()
     });
     connect(m_view, &TimelineView::MenuAsked, this, &TimelinePanel::ShowMenu);
     connect(m_headers, &LevelHeaders::LockAsked, m_commands, &TimelineCommands::SetLocked);
+    connect(m_headers, &LevelHeaders::FlagAsked, m_commands, &TimelineCommands::SetFlag);
+    connect(m_headers, &LevelHeaders::NameAsked, m_commands, &TimelineCommands::SetName);
     connect(m_headers, &LevelHeaders::HeightAsked, this, [this](int level, int pixels) {
-        m_levels.SetHeight(level, pixels);
+        SetHeight(level, pixels);
         FollowLevels();
     });
 }
@@ -319,6 +330,7 @@ void TimelinePanel::FollowProject()
     auto* cache = m_project.Timeline()->GetPreViewRenderHelper();
     connect(cache, &FPreViewRenderHelper::sigRenderProgressInfo, this, &TimelinePanel::ReadCached);
     m_view->SetCached({});
+    ReadHeights();
     FollowModel();
     m_isFitPending = true;
     if (isVisible())
@@ -331,7 +343,8 @@ void TimelinePanel::FollowModel()
     if (m_view->IsDragging())
         return;
     m_ruler->SetTotalFrames(m_model->Length());
-    m_levels.SetCount(std::max(kFewestLevels, m_model->LevelCount() + 1));
+    m_levels.SetCount(
+        std::max({kFewestLevels, m_model->LevelCount() + 1, m_model->SetLevelCount()}));
     FollowLevels();
     FollowScale();
 }
@@ -442,6 +455,24 @@ void TimelinePanel::ZoomBy(float steps)
 void TimelinePanel::ChangeHeights(int pixels)
 {
     for (int level = 0; level < m_levels.Count(); ++level)
-        m_levels.SetHeight(level, m_levels.Height(level) + pixels);
+        SetHeight(level, m_levels.Height(level) + pixels);
     FollowLevels();
+}
+
+/// The project keeps it.
+void TimelinePanel::SetHeight(int level, int pixels)
+{
+    m_levels.SetHeight(level, pixels);
+    m_project.Levels()->SetHeight(level, m_levels.Height(level));
+}
+
+void TimelinePanel::ReadHeights()
+{
+    m_levels.ForgetHeights();
+    for (int level = 0; level < m_model->SetLevelCount(); ++level) {
+        int pixels = 0;
+        m_project.Levels()->GetHeight(level, &pixels);
+        if (pixels > 0)
+            m_levels.SetHeight(level, pixels);
+    }
 }

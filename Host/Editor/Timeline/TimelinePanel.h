@@ -58,6 +58,9 @@ private:
     void FollowProject();
     void FollowModel();
     void FollowLevels();
+    void SetHeight(int level, int pixels);
+    /// Those that the project keeps.
+    void ReadHeights();
     void FollowScale();
     void FollowSelection();
     void ShowMenu(const QPoint& global);

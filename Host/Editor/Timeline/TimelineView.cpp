@@ -58,7 +58,7 @@ TimelineView::TimelineView(Project& project, Selection& selection, TimelineModel
     connect(&m_clipPainter, &ClipPainter::Ready, this, repaint);
     connect(&model, &TimelineModel::Changed, this, repaint);
     connect(&model, &TimelineModel::MarkersChanged, this, repaint);
-    connect(&model, &TimelineModel::LocksChanged, this, repaint);
+    connect(&model, &TimelineModel::LevelsChanged, this, repaint);
     connect(&selection, &Selection::Changed, this, &TimelineView::FollowSelection);
     // A drag of what is gone has nothing to give back.
     connect(&project, &Project::Replaced, this, [this] {
