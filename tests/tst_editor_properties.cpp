@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CommonLib/NLEWraper/FTimelineTransformHelper.h"
 #include "CommonLib/NLEWraper/NLETimeline.h"
 #include "CommonLib/ToolBarSlider.h"
 #include "Host/Editor/Model/Project.h"
@@ -9,13 +10,16 @@
 #include "Host/Editor/Properties/MovementKeys.h"
 #include "Host/Editor/Properties/ParameterFields.h"
 #include "Host/Editor/Properties/ParameterKeys.h"
+#include "Host/Editor/Properties/PictureHandles.h"
 #include "Host/Editor/Properties/ProjectFields.h"
 #include "Host/Editor/Properties/PropertiesPanel.h"
 #include "Host/Widgets/MediaPlayer.h"
+#include "Host/Widgets/PictureView.h"
 #include "tests/support/EngineFixture.h"
 
 #include <QCheckBox>
 #include <QDoubleSpinBox>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QToolButton>
 #include <QUndoStack>
@@ -458,6 +462,74 @@ private Q_SLOTS:
         m_editor->Place(Film(), 0, 2);
         QCOMPARE(ProjectFields::MixedLevels(m_editor->project.Node()), QVector<int>({0, 2}));
         QCOMPARE(m_editor->panel.findChildren<QCheckBox*>().size() >= 4, true);
+    }
+
+    void handlesOnThePicture_data()
+    {
+        QTest::addColumn<QPoint>("from"); // of a picture of 320 x 180 pixels, which the clip fills
+        QTest::addColumn<QPoint>("way");
+        QTest::addColumn<bool>("shift");
+        QTest::addColumn<QString>("pose"); // centre, scale, angle
+        const auto row = [](const char* name, QPoint from, QPoint way, bool shift,
+                            const char* pose) {
+            QTest::newRow(name) << from << way << shift << QString(pose);
+        };
+        row("moves", {160, 90}, {32, 18}, false, "0.6 0.6 1 1 0");
+        row("moves along an axis", {160, 90}, {32, 18}, true, "0.6 0.5 1 1 0");
+        row("scales by a corner", {320, 180}, {-160, -45}, false, "0.25 0.375 0.5 0.75 0");
+        row("keeps the proportions", {320, 180}, {-160, -45}, true, "0.25 0.25 0.5 0.5 0");
+        row("scales by an edge", {0, 90}, {80, 10}, false, "0.625 0.5 0.75 1 0");
+        row("turns", {160, 26}, {64, 64}, false, "0.5 0.5 1 1 90");
+        row("turns by steps", {160, 26}, {60, 60}, true, "0.5 0.5 1 1 90");
+    }
+
+    void handlesOnThePicture()
+    {
+        QFETCH(QPoint, from);
+        QFETCH(QPoint, way);
+        QFETCH(bool, shift);
+        QFETCH(QString, pose);
+        Editor editor;
+        QWidget screen;
+        screen.resize(420, 280);
+        PictureView view(&screen);
+        view.setGeometry(50, 50, 320, 180);
+        view.ShowPicture(QImage(320, 180, QImage::Format_RGB32));
+        PictureHandles handles(editor.project, editor.selection, editor.player, view);
+        screen.show();
+        const Node clip = editor.Place(m_engine.Colour(Qt::red), 0);
+        for (const bool isAnimated : {false, true}) {
+            if (isAnimated)
+                VideoKeyFrameSetting(clip).AddKeyFrame({0});
+            editor.selection.Clear();
+            editor.Select(clip);
+            QTRY_VERIFY(handles.isVisible());
+            const int steps = editor.Steps();
+            const auto move = [&](const QPoint& to, QEvent::Type type) {
+                QMouseEvent event(type, to, Qt::LeftButton, Qt::LeftButton,
+                                  shift ? Qt::ShiftModifier : Qt::NoModifier);
+                QApplication::sendEvent(&handles, &event);
+            };
+            const QPoint start = from + handles.mapFrom(&screen, view.pos());
+            move(start, QEvent::MouseButtonPress);
+            move(start + way / 2, QEvent::MouseMove);
+            move(start + way, QEvent::MouseMove);
+            move(start + way, QEvent::MouseButtonRelease);
+            const ClipPose now =
+                ClipPoses({editor.project, editor.selection, editor.player, clip}).Pose();
+            const auto text = [](double value) { return QString::number(value, 'g', 3); };
+            QCOMPARE(
+                (QStringList{text(now.center.x()), text(now.center.y()), text(now.scale.width()),
+                             text(now.scale.height()), text(now.angle)})
+                    .join(' '),
+                pose);
+            QCOMPARE(editor.Steps(), steps + 1);
+            QCOMPARE(FTimelineTransformHelper(clip, nullptr).GetTransformEnable(), true);
+            editor.project.Steps().undo();
+            QCOMPARE(
+                ClipPoses({editor.project, editor.selection, editor.player, clip}).Pose().scale,
+                QSizeF(1, 1));
+        }
     }
 };
 

@@ -1801,6 +1801,13 @@
     </message>
 </context>
 <context>
+    <name>PictureHandles</name>
+    <message>
+        <source>Place picture</source>
+        <translation>وضع الصورة</translation>
+    </message>
+</context>
+<context>
     <name>PictureView</name>
     <message>
         <source>Picture</source>

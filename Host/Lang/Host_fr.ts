@@ -1765,6 +1765,13 @@
     </message>
 </context>
 <context>
+    <name>PictureHandles</name>
+    <message>
+        <source>Place picture</source>
+        <translation>Placer l’image</translation>
+    </message>
+</context>
+<context>
     <name>PictureView</name>
     <message>
         <source>Picture</source>

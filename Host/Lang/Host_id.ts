@@ -1756,6 +1756,13 @@
     </message>
 </context>
 <context>
+    <name>PictureHandles</name>
+    <message>
+        <source>Place picture</source>
+        <translation>Tempatkan gambar</translation>
+    </message>
+</context>
+<context>
     <name>PictureView</name>
     <message>
         <source>Picture</source>

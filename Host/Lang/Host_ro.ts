@@ -1774,6 +1774,13 @@
     </message>
 </context>
 <context>
+    <name>PictureHandles</name>
+    <message>
+        <source>Place picture</source>
+        <translation>Așază imaginea</translation>
+    </message>
+</context>
+<context>
     <name>PictureView</name>
     <message>
         <source>Picture</source>

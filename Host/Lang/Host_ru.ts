@@ -1774,6 +1774,13 @@
     </message>
 </context>
 <context>
+    <name>PictureHandles</name>
+    <message>
+        <source>Place picture</source>
+        <translation>Размещение изображения</translation>
+    </message>
+</context>
+<context>
     <name>PictureView</name>
     <message>
         <source>Picture</source>

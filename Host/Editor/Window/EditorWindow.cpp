@@ -9,6 +9,7 @@
 #include "Host/Editor/Export/ExportQueue.h"
 #include "Host/Editor/Player/PlayerPanel.h"
 #include "Host/Editor/Player/Transport.h"
+#include "Host/Editor/Properties/PictureHandles.h"
 #include "Host/Editor/Properties/PropertiesPanel.h"
 #include "Host/Editor/Timeline/TimelinePanel.h"
 #include "Host/Editor/Timeline/TimelineView.h"
@@ -76,6 +77,7 @@ EditorWindow::EditorWindow(const Paths& paths)
     qApp->installEventFilter(new FocusedKeys(this));
     resize(kSize);
     setCentralWidget(m_playerPanel);
+    new PictureHandles(m_project, m_selection, m_player, *m_playerPanel->View());
     AddPanels(paths);
     AddMenus();
     AddToolBar();
