@@ -31,8 +31,8 @@ QStringList MakeMedia(const QString& folder, int files)
     QStringList media;
     for (int number = 0; number < files; ++number) {
         const QString path = QDir(folder).filePath(QStringLiteral("clip %1.mp4").arg(number));
-        const bool isMade = media.isEmpty() ? MakeTestClip(path, clip).isEmpty()
-                                            : QFile::copy(media.first(), path);
+        const bool isMade =
+            media.isEmpty() ? MakeTestClip(path, clip).isEmpty() : QFile::copy(media.first(), path);
         if (!isMade)
             return {};
         media << path;
@@ -57,8 +57,8 @@ bool Fill(Project& project, Selection& selection, const QStringList& media, int 
         const int level = index % LargeFilm::kLevels;
         const int frame = index / LargeFilm::kLevels * LargeFilm::kFrames;
         if (level == kTitleLevel) {
-            isFilled = isFilled && ClipActions::AddTitle(project, selection,
-                                                         QStringLiteral("Title"), frame);
+            isFilled = isFilled &&
+                       ClipActions::AddTitle(project, selection, QStringLiteral("Title"), frame);
             continue;
         }
         const auto clip = MakeClip(media[index % media.size()]);

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-// How long the editor's window lets a user wait: a project of 1,000 clips, worked on first alone and
-// then while media comes in, the preview is rendered and a film is written. A thread asks the event
-// loop all the time; of each kind of work it prints the median of the longest wait of each time and
-// the longest of all, in milliseconds, and for how many of these the thread itself ran: the others it
-// stood waiting, for a lock or for a processor that others had.
+// How long the editor's window lets a user wait: a project of 1,000 clips, worked on first alone
+// and then while media comes in, the preview is rendered and a film is written. A thread asks the
+// event loop all the time; of each kind of work it prints the median of the longest wait of each
+// time and the longest of all, in milliseconds, and for how many of these the thread itself ran:
+// the others it stood waiting, for a lock or for a processor that others had.
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/FPreViewRenderHelper.h"
 #include "CommonLib/NLEWraper/NLETimeline.h"
@@ -50,7 +50,8 @@ class Desk
 {
 public:
     Desk(const QString& folder, LargeFilm film)
-        : m_film(std::move(film)), m_window({folder + "/autosave", folder + "/log", folder + "/preview"})
+        : m_film(std::move(film))
+        , m_window({folder + "/autosave", folder + "/log", folder + "/preview"})
     {
         QObject::connect(&m_watch, &LoopWatch::Answered, &m_watch,
                          [this](double wait) { Take(wait); });
@@ -133,7 +134,8 @@ private:
         Do("seek", [&] { m_window.Player().Seek(frame); });
         Do("scroll", [&] { m_timeline->Ruler()->SetOffsetFrames(frame); });
         Do("select", [&] { Key(Qt::Key_D, Qt::NoModifier); });
-        Do("play", [&] { m_window.Player().Play(1); }, 4 * kPause);
+        Do(
+            "play", [&] { m_window.Player().Play(1); }, 4 * kPause);
         Do("pause", [&] { m_window.Player().Pause(); });
         Do("split", [&] { Key(Qt::Key_S, Qt::NoModifier); });
         Do("nudge", [&] { Key(Qt::Key_Right, Qt::AltModifier); });

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // How long a user waits for the editor: from its start until its window is drawn, and until a
 // project of 1,000 clips shows in it, beside what the program takes for "--version" alone. Medians
-// and the longest of all rounds; the time that processors worked for it stands beside, as others may
-// have had them.
+// and the longest of all rounds; the time that processors worked for it stands beside, as others
+// may have had them.
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "benchmarks/LargeFilm.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/MultiLangMgr.h"
 #include "CommonLib/NLEWraper/NLETimeline.h"
+#include "Host/Editor/Export/ExportDialog.h"
 #include "Host/Editor/Window/EditorWindow.h"
 #include "Host/Editor/Window/FileCommands.h"
 #include "Host/Editor/Window/Tour.h"
@@ -144,6 +145,9 @@ private Q_SLOTS:
     /// Qt's own texts too, and to the other direction and back.
     void followsTheLanguage()
     {
+        m_window->findChild<QAction*>("export")->trigger();
+        const auto exportDialog = [this] { return m_window->findChild<ExportDialog*>(); };
+        exportDialog()->SetPath("/x/y.mp4");
         const HostLanguage language;
         MultiLangMgr::GetInstance()->SetConfigPath(Path("language.ini"));
         const auto choose = [this](const QString& name) {
@@ -155,9 +159,12 @@ private Q_SLOTS:
         choose("(Arabic)");
         QTRY_COMPARE(m_window->layoutDirection(), Qt::RightToLeft);
         QTRY_COMPARE(m_window->locale().language(), QLocale::Arabic);
+        QTRY_VERIFY(exportDialog()->windowTitle() != QLatin1String("Export"));
         choose("(German)");
         QTRY_COMPARE(m_window->layoutDirection(), Qt::LeftToRight);
         QTRY_COMPARE(m_window->locale().language(), QLocale::German);
+        QVERIFY(exportDialog()->isVisible());
+        QCOMPARE(exportDialog()->Order().path, QStringLiteral("/x/y.mp4"));
         choose("(English)");
     }
 

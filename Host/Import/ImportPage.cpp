@@ -32,22 +32,6 @@ constexpr int kListEvery = 3000; // ms
 constexpr int kProgressSteps = 1000;
 constexpr int kProgressWidth = 220;
 
-// The marks of Qt's own style are drawn too dark to be seen on a dark surface.
-constexpr char kMarks[] = R"(
-    QTreeView::indicator, QCheckBox::indicator {
-        width: 12px; height: 12px;
-        background-color: #1b1d20; border: 1px solid #9299a1; border-radius: 3px;
-    }
-    QTreeView::indicator:checked, QCheckBox::indicator:checked {
-        background-color: #4da3ff; border-color: #4da3ff;
-    }
-    QTreeView::indicator:indeterminate {
-        background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0.35 #1b1d20,
-            stop: 0.36 #4da3ff, stop: 0.64 #4da3ff, stop: 0.65 #1b1d20);
-    }
-    QTreeView::indicator:disabled, QCheckBox::indicator:disabled { border-color: #5f656d; }
-)";
-
 QString SizeText(const QWidget& widget, quint64 bytes)
 {
     return widget.locale().formattedDataSize(static_cast<qint64>(bytes), 1);
@@ -71,7 +55,6 @@ ImportPage::ImportPage(QWidget* parent)
     , m_cancelButton(new QPushButton(this))
     , m_importButton(new QPushButton(this))
 {
-    setStyleSheet(kMarks);
     m_notice->setAlignment(Qt::AlignCenter);
     m_notice->setWordWrap(true);
     m_notice->setTextFormat(Qt::RichText);

@@ -852,6 +852,10 @@
         <source>%1 cannot be written to.</source>
         <translation>تتعذّر الكتابة إلى %1.</translation>
     </message>
+    <message>
+        <source>Light style</source>
+        <translation>نمط فاتح</translation>
+    </message>
 </context>
 <context>
     <name>EffectsSection</name>
@@ -1175,20 +1179,12 @@
         <translation>يصل الاختيار إلى كل النوافذ فورًا.</translation>
     </message>
     <message>
-        <source>Shows the library&apos;s widgets.</source>
-        <translation>يعرض عناصر واجهة المكتبة.</translation>
-    </message>
-    <message>
         <source>Begin with the page &lt;name&gt;.</source>
         <translation>البدء بالصفحة &lt;name&gt;.</translation>
     </message>
     <message>
         <source>List the names of the pages.</source>
         <translation>سرد أسماء الصفحات.</translation>
-    </message>
-    <message>
-        <source>Write a picture of the page to &lt;file&gt;.</source>
-        <translation>كتابة صورة للصفحة في &lt;file&gt;.</translation>
     </message>
     <message>
         <source>cannot write %1</source>

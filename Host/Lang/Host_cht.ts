@@ -822,6 +822,10 @@
         <source>%1 cannot be written to.</source>
         <translation>無法寫入 %1。</translation>
     </message>
+    <message>
+        <source>Light style</source>
+        <translation>淺色樣式</translation>
+    </message>
 </context>
 <context>
     <name>EffectsSection</name>
@@ -1145,20 +1149,12 @@
         <translation>選擇會立即套用到所有視窗。</translation>
     </message>
     <message>
-        <source>Shows the library&apos;s widgets.</source>
-        <translation>顯示程式庫的介面元件。</translation>
-    </message>
-    <message>
         <source>Begin with the page &lt;name&gt;.</source>
         <translation>從頁面 &lt;name&gt; 開始。</translation>
     </message>
     <message>
         <source>List the names of the pages.</source>
         <translation>列出頁面名稱。</translation>
-    </message>
-    <message>
-        <source>Write a picture of the page to &lt;file&gt;.</source>
-        <translation>將頁面圖片寫入 &lt;file&gt;。</translation>
     </message>
     <message>
         <source>cannot write %1</source>

@@ -828,6 +828,10 @@
         <source>%1 cannot be written to.</source>
         <translation>In %1 kann nicht geschrieben werden.</translation>
     </message>
+    <message>
+        <source>Light style</source>
+        <translation>Heller Stil</translation>
+    </message>
 </context>
 <context>
     <name>EffectsSection</name>
@@ -1151,20 +1155,12 @@
         <translation>Eine Wahl erreicht sofort jedes Fenster.</translation>
     </message>
     <message>
-        <source>Shows the library&apos;s widgets.</source>
-        <translation>Zeigt die Bedienelemente der Bibliothek.</translation>
-    </message>
-    <message>
         <source>Begin with the page &lt;name&gt;.</source>
         <translation>Mit der Seite &lt;name&gt; beginnen.</translation>
     </message>
     <message>
         <source>List the names of the pages.</source>
         <translation>Die Namen der Seiten auflisten.</translation>
-    </message>
-    <message>
-        <source>Write a picture of the page to &lt;file&gt;.</source>
-        <translation>Ein Bild der Seite in &lt;file&gt; schreiben.</translation>
     </message>
     <message>
         <source>cannot write %1</source>

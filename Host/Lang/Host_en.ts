@@ -828,6 +828,10 @@
         <source>%1 cannot be written to.</source>
         <translation>%1 cannot be written to.</translation>
     </message>
+    <message>
+        <source>Light style</source>
+        <translation>Light style</translation>
+    </message>
 </context>
 <context>
     <name>EffectsSection</name>
@@ -1151,20 +1155,12 @@
         <translation>A choice reaches every window at once.</translation>
     </message>
     <message>
-        <source>Shows the library&apos;s widgets.</source>
-        <translation>Shows the library&apos;s widgets.</translation>
-    </message>
-    <message>
         <source>Begin with the page &lt;name&gt;.</source>
         <translation>Begin with the page &lt;name&gt;.</translation>
     </message>
     <message>
         <source>List the names of the pages.</source>
         <translation>List the names of the pages.</translation>
-    </message>
-    <message>
-        <source>Write a picture of the page to &lt;file&gt;.</source>
-        <translation>Write a picture of the page to &lt;file&gt;.</translation>
     </message>
     <message>
         <source>cannot write %1</source>

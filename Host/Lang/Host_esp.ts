@@ -828,6 +828,10 @@
         <source>%1 cannot be written to.</source>
         <translation>No se puede escribir en %1.</translation>
     </message>
+    <message>
+        <source>Light style</source>
+        <translation>Estilo claro</translation>
+    </message>
 </context>
 <context>
     <name>EffectsSection</name>
@@ -1151,20 +1155,12 @@
         <translation>La elección llega al instante a todas las ventanas.</translation>
     </message>
     <message>
-        <source>Shows the library&apos;s widgets.</source>
-        <translation>Muestra los controles de la biblioteca.</translation>
-    </message>
-    <message>
         <source>Begin with the page &lt;name&gt;.</source>
         <translation>Empieza por la página &lt;name&gt;.</translation>
     </message>
     <message>
         <source>List the names of the pages.</source>
         <translation>Enumera los nombres de las páginas.</translation>
-    </message>
-    <message>
-        <source>Write a picture of the page to &lt;file&gt;.</source>
-        <translation>Escribe una imagen de la página en &lt;file&gt;.</translation>
     </message>
     <message>
         <source>cannot write %1</source>

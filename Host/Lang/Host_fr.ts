@@ -828,6 +828,10 @@
         <source>%1 cannot be written to.</source>
         <translation>Impossible d’écrire dans %1.</translation>
     </message>
+    <message>
+        <source>Light style</source>
+        <translation>Style clair</translation>
+    </message>
 </context>
 <context>
     <name>EffectsSection</name>
@@ -1151,20 +1155,12 @@
         <translation>Un choix s’applique aussitôt à toutes les fenêtres.</translation>
     </message>
     <message>
-        <source>Shows the library&apos;s widgets.</source>
-        <translation>Montre les composants graphiques de la bibliothèque.</translation>
-    </message>
-    <message>
         <source>Begin with the page &lt;name&gt;.</source>
         <translation>Commence par la page &lt;name&gt;.</translation>
     </message>
     <message>
         <source>List the names of the pages.</source>
         <translation>Liste les noms des pages.</translation>
-    </message>
-    <message>
-        <source>Write a picture of the page to &lt;file&gt;.</source>
-        <translation>Écrit une image de la page dans &lt;file&gt;.</translation>
     </message>
     <message>
         <source>cannot write %1</source>

@@ -822,6 +822,10 @@
         <source>%1 cannot be written to.</source>
         <translation>%1 tidak dapat ditulisi.</translation>
     </message>
+    <message>
+        <source>Light style</source>
+        <translation>Gaya terang</translation>
+    </message>
 </context>
 <context>
     <name>EffectsSection</name>
@@ -1145,20 +1149,12 @@
         <translation>Pilihan langsung berlaku di setiap jendela.</translation>
     </message>
     <message>
-        <source>Shows the library&apos;s widgets.</source>
-        <translation>Menampilkan widget pustaka.</translation>
-    </message>
-    <message>
         <source>Begin with the page &lt;name&gt;.</source>
         <translation>Mulai dari halaman &lt;name&gt;.</translation>
     </message>
     <message>
         <source>List the names of the pages.</source>
         <translation>Menampilkan daftar nama halaman.</translation>
-    </message>
-    <message>
-        <source>Write a picture of the page to &lt;file&gt;.</source>
-        <translation>Tulis gambar halaman ke &lt;file&gt;.</translation>
     </message>
     <message>
         <source>cannot write %1</source>

@@ -828,6 +828,10 @@
         <source>%1 cannot be written to.</source>
         <translation>Impossibile scrivere in %1.</translation>
     </message>
+    <message>
+        <source>Light style</source>
+        <translation>Stile chiaro</translation>
+    </message>
 </context>
 <context>
     <name>EffectsSection</name>
@@ -1151,20 +1155,12 @@
         <translation>La scelta raggiunge subito ogni finestra.</translation>
     </message>
     <message>
-        <source>Shows the library&apos;s widgets.</source>
-        <translation>Mostra i controlli della libreria.</translation>
-    </message>
-    <message>
         <source>Begin with the page &lt;name&gt;.</source>
         <translation>Comincia dalla pagina &lt;name&gt;.</translation>
     </message>
     <message>
         <source>List the names of the pages.</source>
         <translation>Elenca i nomi delle pagine.</translation>
-    </message>
-    <message>
-        <source>Write a picture of the page to &lt;file&gt;.</source>
-        <translation>Scrive un’immagine della pagina in &lt;file&gt;.</translation>
     </message>
     <message>
         <source>cannot write %1</source>

@@ -822,6 +822,10 @@
         <source>%1 cannot be written to.</source>
         <translation>%1 に書き込めません。</translation>
     </message>
+    <message>
+        <source>Light style</source>
+        <translation>ライトスタイル</translation>
+    </message>
 </context>
 <context>
     <name>EffectsSection</name>
@@ -1145,20 +1149,12 @@
         <translation>選択はすぐにすべてのウィンドウに反映されます。</translation>
     </message>
     <message>
-        <source>Shows the library&apos;s widgets.</source>
-        <translation>ライブラリのウィジェットを表示します。</translation>
-    </message>
-    <message>
         <source>Begin with the page &lt;name&gt;.</source>
         <translation>ページ &lt;name&gt; から始めます。</translation>
     </message>
     <message>
         <source>List the names of the pages.</source>
         <translation>ページの名前を一覧表示します。</translation>
-    </message>
-    <message>
-        <source>Write a picture of the page to &lt;file&gt;.</source>
-        <translation>ページの画像を &lt;file&gt; に書き出します。</translation>
     </message>
     <message>
         <source>cannot write %1</source>

@@ -822,6 +822,10 @@
         <source>%1 cannot be written to.</source>
         <translation>%1에 쓸 수 없습니다.</translation>
     </message>
+    <message>
+        <source>Light style</source>
+        <translation>밝은 스타일</translation>
+    </message>
 </context>
 <context>
     <name>EffectsSection</name>
@@ -1145,20 +1149,12 @@
         <translation>선택은 모든 창에 바로 적용됩니다.</translation>
     </message>
     <message>
-        <source>Shows the library&apos;s widgets.</source>
-        <translation>라이브러리의 위젯을 보여 줍니다.</translation>
-    </message>
-    <message>
         <source>Begin with the page &lt;name&gt;.</source>
         <translation>&lt;name&gt; 페이지부터 시작합니다.</translation>
     </message>
     <message>
         <source>List the names of the pages.</source>
         <translation>페이지 이름을 나열합니다.</translation>
-    </message>
-    <message>
-        <source>Write a picture of the page to &lt;file&gt;.</source>
-        <translation>페이지의 그림을 &lt;file&gt;에 저장합니다.</translation>
     </message>
     <message>
         <source>cannot write %1</source>

@@ -828,6 +828,10 @@
         <source>%1 cannot be written to.</source>
         <translation>In %1 kan niet worden geschreven.</translation>
     </message>
+    <message>
+        <source>Light style</source>
+        <translation>Lichte stijl</translation>
+    </message>
 </context>
 <context>
     <name>EffectsSection</name>
@@ -1151,20 +1155,12 @@
         <translation>Een keuze bereikt meteen elk venster.</translation>
     </message>
     <message>
-        <source>Shows the library&apos;s widgets.</source>
-        <translation>Toont de bedieningselementen van de bibliotheek.</translation>
-    </message>
-    <message>
         <source>Begin with the page &lt;name&gt;.</source>
         <translation>Begin met de pagina &lt;name&gt;.</translation>
     </message>
     <message>
         <source>List the names of the pages.</source>
         <translation>Toon de namen van de pagina’s.</translation>
-    </message>
-    <message>
-        <source>Write a picture of the page to &lt;file&gt;.</source>
-        <translation>Schrijf een afbeelding van de pagina naar &lt;file&gt;.</translation>
     </message>
     <message>
         <source>cannot write %1</source>

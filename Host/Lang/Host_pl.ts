@@ -834,6 +834,10 @@
         <source>%1 cannot be written to.</source>
         <translation>Nie można zapisać w %1.</translation>
     </message>
+    <message>
+        <source>Light style</source>
+        <translation>Jasny styl</translation>
+    </message>
 </context>
 <context>
     <name>EffectsSection</name>
@@ -1157,20 +1161,12 @@
         <translation>Wybór od razu dociera do każdego okna.</translation>
     </message>
     <message>
-        <source>Shows the library&apos;s widgets.</source>
-        <translation>Pokazuje kontrolki biblioteki.</translation>
-    </message>
-    <message>
         <source>Begin with the page &lt;name&gt;.</source>
         <translation>Zacznij od strony &lt;name&gt;.</translation>
     </message>
     <message>
         <source>List the names of the pages.</source>
         <translation>Wypisz nazwy stron.</translation>
-    </message>
-    <message>
-        <source>Write a picture of the page to &lt;file&gt;.</source>
-        <translation>Zapisz obraz strony do &lt;file&gt;.</translation>
     </message>
     <message>
         <source>cannot write %1</source>

@@ -828,6 +828,10 @@
         <source>%1 cannot be written to.</source>
         <translation>Não é possível escrever em %1.</translation>
     </message>
+    <message>
+        <source>Light style</source>
+        <translation>Estilo claro</translation>
+    </message>
 </context>
 <context>
     <name>EffectsSection</name>
@@ -1151,20 +1155,12 @@
         <translation>A escolha chega de imediato a todas as janelas.</translation>
     </message>
     <message>
-        <source>Shows the library&apos;s widgets.</source>
-        <translation>Mostra os controlos da biblioteca.</translation>
-    </message>
-    <message>
         <source>Begin with the page &lt;name&gt;.</source>
         <translation>Começa pela página &lt;name&gt;.</translation>
     </message>
     <message>
         <source>List the names of the pages.</source>
         <translation>Lista os nomes das páginas.</translation>
-    </message>
-    <message>
-        <source>Write a picture of the page to &lt;file&gt;.</source>
-        <translation>Escreve uma imagem da página em &lt;file&gt;.</translation>
     </message>
     <message>
         <source>cannot write %1</source>

@@ -834,6 +834,10 @@
         <source>%1 cannot be written to.</source>
         <translation>Nu se poate scrie în %1.</translation>
     </message>
+    <message>
+        <source>Light style</source>
+        <translation>Stil deschis</translation>
+    </message>
 </context>
 <context>
     <name>EffectsSection</name>
@@ -1157,20 +1161,12 @@
         <translation>Alegerea ajunge imediat la toate ferestrele.</translation>
     </message>
     <message>
-        <source>Shows the library&apos;s widgets.</source>
-        <translation>Arată elementele de interfață ale bibliotecii.</translation>
-    </message>
-    <message>
         <source>Begin with the page &lt;name&gt;.</source>
         <translation>Începe cu pagina &lt;name&gt;.</translation>
     </message>
     <message>
         <source>List the names of the pages.</source>
         <translation>Listează numele paginilor.</translation>
-    </message>
-    <message>
-        <source>Write a picture of the page to &lt;file&gt;.</source>
-        <translation>Scrie o imagine a paginii în &lt;file&gt;.</translation>
     </message>
     <message>
         <source>cannot write %1</source>

@@ -834,6 +834,10 @@
         <source>%1 cannot be written to.</source>
         <translation>Запись в %1 невозможна.</translation>
     </message>
+    <message>
+        <source>Light style</source>
+        <translation>Светлый стиль</translation>
+    </message>
 </context>
 <context>
     <name>EffectsSection</name>
@@ -1157,20 +1161,12 @@
         <translation>Выбор сразу действует во всех окнах.</translation>
     </message>
     <message>
-        <source>Shows the library&apos;s widgets.</source>
-        <translation>Показывает элементы управления библиотеки.</translation>
-    </message>
-    <message>
         <source>Begin with the page &lt;name&gt;.</source>
         <translation>Начать со страницы &lt;name&gt;.</translation>
     </message>
     <message>
         <source>List the names of the pages.</source>
         <translation>Перечислить имена страниц.</translation>
-    </message>
-    <message>
-        <source>Write a picture of the page to &lt;file&gt;.</source>
-        <translation>Записать изображение страницы в &lt;file&gt;.</translation>
     </message>
     <message>
         <source>cannot write %1</source>

@@ -828,6 +828,10 @@
         <source>%1 cannot be written to.</source>
         <translation>Det går inte att skriva till %1.</translation>
     </message>
+    <message>
+        <source>Light style</source>
+        <translation>Ljus stil</translation>
+    </message>
 </context>
 <context>
     <name>EffectsSection</name>
@@ -1151,20 +1155,12 @@
         <translation>Ett val når genast alla fönster.</translation>
     </message>
     <message>
-        <source>Shows the library&apos;s widgets.</source>
-        <translation>Visar bibliotekets kontroller.</translation>
-    </message>
-    <message>
         <source>Begin with the page &lt;name&gt;.</source>
         <translation>Börja med sidan &lt;name&gt;.</translation>
     </message>
     <message>
         <source>List the names of the pages.</source>
         <translation>Lista sidornas namn.</translation>
-    </message>
-    <message>
-        <source>Write a picture of the page to &lt;file&gt;.</source>
-        <translation>Skriv en bild av sidan till &lt;file&gt;.</translation>
     </message>
     <message>
         <source>cannot write %1</source>

@@ -60,7 +60,7 @@ private:
     const Scale m_scale;
     QDoubleSpinBox* m_box;
     IDragValueChangedHelper* m_drag = nullptr; ///< null before the pointer has come
-    ToolBarSlider* m_slider = nullptr; ///< null when there is none
+    ToolBarSlider* m_slider = nullptr;         ///< null when there is none
     bool m_isHeld = false;
     bool m_isSetting = false;
 };

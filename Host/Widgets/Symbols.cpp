@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Widgets/Symbols.h"
 
+#include "Host/Widgets/HostStyle.h"
+
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
@@ -184,7 +186,7 @@ public:
     QIconEngine* clone() const override { return new SymbolEngine(*this); }
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
     {
-        QColor color = m_color;
+        QColor color = HostStyle::Shown(m_color);
         if (mode == QIcon::Disabled)
             color.setAlphaF(kDimmed);
         Paint(*painter, rect, m_symbol, color);

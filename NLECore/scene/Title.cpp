@@ -163,8 +163,7 @@ bool IsStill(const Layer& layer)
 {
     const ParametersAt at(*layer.title, layer.range.in);
     const bool moves = layer.title->IsAnimated() || at.Number("fade-in") > 0 ||
-                       at.Number("fade-out") > 0 ||
-                       TitleRoll(at.Whole("roll")) != TitleRoll::None;
+                       at.Number("fade-out") > 0 || TitleRoll(at.Whole("roll")) != TitleRoll::None;
     return layer.frozenFrame || !moves;
 }
 

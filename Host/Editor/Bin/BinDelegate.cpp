@@ -3,6 +3,7 @@
 
 #include "CommonLib/GlobalUtils.h"
 #include "Host/Editor/Bin/BinPictures.h"
+#include "Host/Widgets/HostStyle.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -23,6 +24,7 @@ constexpr int kPosterShare = 10; // beginnings are often black
 const QColor kBehind(0x14, 0x15, 0x17);
 const QColor kAccent(0x4d, 0xa3, 0xff);
 const QColor kWarning(0xe0, 0x6c, 0x5a);
+const QColor kQuiet(0x92, 0x99, 0xa1);
 const QColor kBadge(0, 0, 0, 0xb0);
 const QColor kBadgeText(0xf2, 0xf4, 0xf6);
 
@@ -222,7 +224,7 @@ void BinDelegate::PaintTexts(QPainter& painter, const QStyleOptionViewItem& opti
     painter.drawText(top, side,
                      option.fontMetrics.elidedText(item.Name(), Qt::ElideMiddle, room.width()));
     painter.setFont(small);
-    painter.setPen(option.palette.color(QPalette::Disabled, QPalette::Text).lighter(140));
+    painter.setPen(HostStyle::Shown(kQuiet));
     const QRect below(room.left(), top.bottom() + 1, room.width(), both - nameHeight);
     painter.drawText(below, side,
                      painter.fontMetrics().elidedText(m_isGrid ? item.Brief() : item.Summary(),

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kMargin = 6;
 
-const QColor kInk(0xd5, 0xd8, 0xdc);
+const QColor kInk(0x92, 0x99, 0xa1); // seen on dark and on light
 
 /// Four cells, or three lines.
 QIcon ModeIcon(bool isGrid)

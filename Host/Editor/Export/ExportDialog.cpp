@@ -226,7 +226,7 @@ void ExportDialog::AddNotes(QFormLayout& form)
     hardware->setObjectName(QStringLiteral("CommonLib_Hint"));
     form.addRow(tr("Hardware"), hardware);
     m_complaint->setWordWrap(true);
-    m_complaint->setStyleSheet(QStringLiteral("color: #ff8f7a"));
+    m_complaint->setObjectName(QStringLiteral("Host_Complaint"));
     form.addRow(m_complaint);
 }
 
@@ -316,6 +316,19 @@ ExportOrder ExportDialog::Order() const
     if (m_part->isChecked())
         order.settings.range = RangeOf(m_first->Frame(), m_last->Frame(), m_project.Length());
     return order;
+}
+
+void ExportDialog::TakeChoices(const ExportDialog& other)
+{
+    m_preset->setCurrentIndex(other.m_preset->currentIndex());
+    m_path->setText(other.m_path->text());
+    m_width->setValue(other.m_width->value());
+    m_height->setValue(other.m_height->value());
+    m_rate->setCurrentIndex(other.m_rate->currentIndex());
+    m_sampleRate->setCurrentIndex(other.m_sampleRate->currentIndex());
+    m_first->SetFrame(other.m_first->Frame());
+    m_last->SetFrame(other.m_last->Frame());
+    m_part->setChecked(other.m_part->isChecked());
 }
 
 void ExportDialog::Check()

@@ -38,6 +38,8 @@ public:
     void SetPath(const QString& path);
     /// What is chosen now.
     ExportOrder Order() const;
+    /// Shows what \a other shows, which may be in another language.
+    void TakeChoices(const ExportDialog& other);
 
 public Q_SLOTS:
     /// Asks for a file and writes the frame under the play head to it.

@@ -64,7 +64,7 @@ void ExportQueueView::AddRow(int number)
     auto* button = new QToolButton(widget);
     button->setText(QStringLiteral("×"));
     button->setFixedSize(kButtonSide, kButtonSide);
-    button->setStyleSheet(QStringLiteral("padding: 0"));
+    button->setObjectName(QStringLiteral("Host_SmallButton"));
     auto* state = new QLabel(widget);
     state->setObjectName(QStringLiteral("CommonLib_Hint"));
     state->setWordWrap(true);

@@ -174,8 +174,8 @@ void PropertiesPanel::NoteFold(const QString& title, bool isOpen)
 template <typename Content>
 Content* PropertiesPanel::Watched(Content* content)
 {
-    m_shown.append({content, [content] { content->Refresh(); },
-                    [content] { content->FollowPlayHead(); }});
+    m_shown.append(
+        {content, [content] { content->Refresh(); }, [content] { content->FollowPlayHead(); }});
     return content;
 }
 

@@ -22,10 +22,7 @@ PropertySection::PropertySection(const QString& title, Make make, bool isOpen, Q
     m_title->setCheckable(true);
     m_title->setChecked(isOpen);
     m_title->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    m_title->setStyleSheet(QStringLiteral(
-        "QPushButton, QPushButton:checked { background: #2c2f34; border: none; color: #d5d8dc;"
-        " font-weight: bold; padding: 5px 6px; text-align: left; }"
-        "QPushButton:focus { border: 1px solid #4da3ff; }"));
+    m_title->setObjectName(QStringLiteral("Host_SectionTitle"));
     column->addWidget(m_title);
     Fold(isOpen);
     connect(m_title, &QPushButton::toggled, this, [this](bool isOpened) {

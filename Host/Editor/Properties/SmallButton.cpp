@@ -17,6 +17,6 @@ QToolButton* MakeSmallButton(const QString& sign, const QString& name, const QSt
     button->setToolTip(name);
     button->setAccessibleName(owner.isEmpty() ? name : QStringLiteral("%1: %2").arg(owner, name));
     button->setFixedSize(kSide, kSide);
-    button->setStyleSheet(QStringLiteral("padding: 0"));
+    button->setObjectName(QStringLiteral("Host_SmallButton"));
     return button;
 }

@@ -4,6 +4,7 @@
 #include "EngineApi/INLELevels.h"
 #include "Host/Editor/Timeline/LevelButton.h"
 #include "Host/Editor/Timeline/LevelState.h"
+#include "Host/Widgets/HostStyle.h"
 
 #include <QBoxLayout>
 #include <QEvent>
@@ -135,8 +136,8 @@ void LevelHeader::resizeEvent(QResizeEvent* event)
 void LevelHeader::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), kBackground);
-    painter.fillRect(0, height() - 1, width(), 1, kLine);
+    painter.fillRect(rect(), HostStyle::Shown(kBackground));
+    painter.fillRect(0, height() - 1, width(), 1, HostStyle::Shown(kLine));
 }
 
 bool LevelHeader::IsAtEdge(int y) const

@@ -2,6 +2,7 @@
 #include "Host/Editor/Timeline/TimelinePainter.h"
 
 #include "Host/Editor/Timeline/TimelineModel.h"
+#include "Host/Widgets/HostStyle.h"
 
 #include <QPainter>
 
@@ -69,14 +70,14 @@ ClipPainter::State TimelinePainter::StateOf(const ClipRow& row, bool isLocked) c
 void TimelinePainter::Paint(QPainter& painter, const QRect& area, const TimelineGeometry& geometry,
                             const Overlay& overlay) const
 {
-    painter.fillRect(area, kBackground);
+    painter.fillRect(area, HostStyle::Shown(kBackground));
     for (int level = 0; level < geometry.levels.Count(); ++level) {
         const QRect box(area.left(), geometry.LevelTop(level), area.width(),
                         geometry.levels.Height(level));
         if (!box.intersects(area))
             continue;
-        painter.fillRect(box, kLevel);
-        painter.fillRect(box.left(), box.bottom(), box.width(), 1, kLevelEdge);
+        painter.fillRect(box, HostStyle::Shown(kLevel));
+        painter.fillRect(box.left(), box.bottom(), box.width(), 1, HostStyle::Shown(kLevelEdge));
         PaintLevel({painter, geometry, box & area.adjusted(-kMargin, 0, kMargin, 0), level,
                     box.top(), box.height() - 1, m_model.StateOf(level)});
     }
@@ -114,7 +115,7 @@ void TimelinePainter::PaintLevel(const Pass& pass) const
     }
     PaintTransitions(pass);
     if (!pass.state.isShown)
-        pass.painter.fillRect(pass.area, kHidden);
+        pass.painter.fillRect(pass.area, HostStyle::Shown(kHidden));
     if (pass.state.isLocked)
         pass.painter.fillRect(pass.area, QBrush(kLocked, Qt::BDiagPattern));
 }
@@ -159,7 +160,7 @@ void TimelinePainter::PaintStrip(QPainter& painter, const QRect& area,
                                  const TimelineGeometry& geometry, const Overlay& overlay) const
 {
     constexpr int height = TimelineGeometry::kStripHeight;
-    painter.fillRect(QRect(area.left(), 0, area.width(), height), kStrip);
+    painter.fillRect(QRect(area.left(), 0, area.width(), height), HostStyle::Shown(kStrip));
     for (const auto& [begin, end] : overlay.cached) {
         const int left = geometry.Left(begin);
         painter.fillRect(left, height - kCachedHeight, geometry.Left(end) - left, kCachedHeight,

@@ -19,6 +19,8 @@
 #include "Host/Editor/Window/LanguageMenu.h"
 #include "Host/Editor/Window/LogView.h"
 #include "Host/Editor/Window/ShortcutList.h"
+#include "Host/Gallery/GalleryWindow.h"
+#include "Host/Widgets/HostStyle.h"
 #include "Host/Widgets/KeepTranslated.h"
 
 #include <QApplication>
@@ -34,6 +36,7 @@
 #include <QUndoStack>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -44,6 +47,7 @@ constexpr int kPropertiesWidth = 300;
 constexpr int kMessageTime = 10000; // milliseconds
 const char kGeometry[] = "window/geometry";
 const char kState[] = "window/state";
+const char kLight[] = "window/light";
 
 /// Takes keys that \a kept have from \a others: what two actions want, none gets.
 void KeepKeys(const QList<QAction*>& kept, const QList<QAction*>& others)
@@ -182,8 +186,10 @@ void EditorWindow::AddMenus()
 {
     QMenu* file = AddMenu(QT_TR_NOOP("&File"), m_files->Actions());
     file->addSeparator();
-    file->addAction(AddAction(QT_TR_NOOP("Export…"), QKeySequence(Qt::CTRL + Qt::Key_E),
-                              [this] { ShowExport(); }));
+    QAction* films = AddAction(QT_TR_NOOP("Export…"), QKeySequence(Qt::CTRL + Qt::Key_E),
+                               [this] { ShowExport(); });
+    films->setObjectName(QStringLiteral("export"));
+    file->addAction(films);
     file->addSeparator();
     file->addAction(
         AddAction(QT_TR_NOOP("Quit"), QKeySequence(Qt::CTRL + Qt::Key_Q), [this] { close(); }));
@@ -209,10 +215,42 @@ void EditorWindow::AddMenus()
     QMenu* view = AddMenu(QT_TR_NOOP("&View"), m_panelSwitches);
     view->addSeparator();
     view->addMenu(new LanguageMenu(this));
+    view->addAction(AddLightSwitch());
     AddMenu(QT_TR_NOOP("&Help"),
             {AddAction(QT_TR_NOOP("Keyboard shortcuts"), QKeySequence::HelpContents,
                        [this] { ShortcutList(this).exec(); }),
-             AddAction(QT_TR_NOOP("About"), {}, [this] { ShowAbout(this); })});
+             AddGallerySwitch(), AddAction(QT_TR_NOOP("About"), {}, [this] { ShowAbout(this); })});
+}
+
+/// The library's widgets, each on a page to try it.
+QAction* EditorWindow::AddGallerySwitch()
+{
+    auto* action = new QAction(this);
+    KeepTranslated(this, [action] { action->setText(GalleryWindow::tr("CommonLib widgets")); });
+    connect(action, &QAction::triggered, this, [this] {
+        auto* gallery = new GalleryWindow(this);
+        gallery->setWindowFlag(Qt::Window);
+        gallery->setAttribute(Qt::WA_DeleteOnClose);
+        gallery->show();
+    });
+    return action;
+}
+
+QAction* EditorWindow::AddLightSwitch()
+{
+    QAction* action = AddAction(QT_TR_NOOP("Light style"), {}, [] {});
+    action->setCheckable(true);
+    action->setChecked(HostStyle::IsLight());
+    connect(action, &QAction::toggled, this, [](bool isLight) {
+        QSettings().setValue(QLatin1String(kLight), isLight);
+        HostStyle::Apply(isLight);
+    });
+    return action;
+}
+
+bool EditorWindow::WantsLight()
+{
+    return QSettings().value(QLatin1String(kLight)).toBool();
 }
 
 void EditorWindow::AddToolBar()
@@ -259,6 +297,19 @@ void EditorWindow::ShowExport()
     m_export->show();
     m_export->raise();
     m_export->activateWindow();
+}
+
+/// By another one in its place.
+void EditorWindow::TranslateExport()
+{
+    if (!m_export)
+        return;
+    const ExportDialog* former = std::exchange(m_export, nullptr);
+    m_export = new ExportDialog(m_project, m_player, *m_films, this);
+    m_export->TakeChoices(*former);
+    m_export->setGeometry(former->geometry());
+    m_export->setVisible(former->isVisible());
+    delete former;
 }
 
 void EditorWindow::SwitchPreview()
@@ -337,7 +388,10 @@ void EditorWindow::closeEvent(QCloseEvent* event)
 
 void EditorWindow::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         setLocale(QLocale()); // the language's; what is in the window takes it over
+        // Not while the dialog is told of it too.
+        QMetaObject::invokeMethod(this, &EditorWindow::TranslateExport, Qt::QueuedConnection);
+    }
     QMainWindow::changeEvent(event);
 }

@@ -30,6 +30,9 @@ public:
         QString preview;  ///< folder of rendered previews
     };
 
+    /// Whether the user has chosen the light look.
+    static bool WantsLight();
+
     /// Not without an engine.
     explicit EditorWindow(const Paths& paths);
     ~EditorWindow() override;
@@ -59,10 +62,13 @@ private:
     void AddPanels(const Paths& paths);
     void AddMenus();
     void AddToolBar();
+    QAction* AddGallerySwitch();
+    QAction* AddLightSwitch();
     QAction* AddStep(const char* text, const QKeySequence& keys, bool isUndo);
     void ShowTitle();
     void ShowRemarks();
     void ShowExport();
+    void TranslateExport();
     bool MayEndFilms();
     void CutRange(const QString& text, HRESULT (INLEEditing::*edit)(int, int, int));
 

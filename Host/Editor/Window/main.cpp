@@ -4,15 +4,16 @@
 #include "CommonLib/ModuleFolders.h"
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/NLEWraper.h"
-#include "CommonLib/externalapi/PixelRatio.h"
 #include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Reasons.h"
 #include "Host/Editor/Window/EditorWindow.h"
 #include "Host/Editor/Window/FileCommands.h"
 #include "Host/Editor/Window/Tour.h"
 #include "Host/Editor/Window/WhenShown.h"
+#include "Host/Gallery/GalleryOptions.h"
 #include "Host/HostLanguage.h"
 #include "Host/QtMessages.h"
+#include "Host/Widgets/HostStyle.h"
 #include "Host/Widgets/LoopWatch.h"
 
 #include <QApplication>
@@ -42,6 +43,7 @@ void AddOptions(QCommandLineParser& parser)
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOption(HostLanguage::Option());
+    parser.addOptions(GalleryOptions::All());
     parser.addOption(
         {"screenshot",
          Translated(QT_TRANSLATE_NOOP("Editor", "Write a picture of the window to <file>.")),
@@ -117,6 +119,9 @@ void NoteLongWait(double milliseconds)
 /// \a since began with the program.
 int Run(const QCommandLineParser& parser, const QElapsedTimer& since)
 {
+    const QString picture = parser.value(QStringLiteral("screenshot"));
+    if (const auto result = GalleryOptions::Run(parser, picture))
+        return *result;
     const EditorWindow::Paths paths = MakePaths();
     const std::unique_ptr<QtMessages> messages = OpenLog(paths.log);
     if (!EngineFactory()) {
@@ -138,8 +143,8 @@ int Run(const QCommandLineParser& parser, const QElapsedTimer& since)
         window.OfferRecovery();
         OpenFiles(window, parser.positionalArguments());
         qInfo("Its files are open after %d ms.", int(since.elapsed()));
-        if (parser.isSet(QStringLiteral("screenshot")))
-            WritePicture(window, parser.value(QStringLiteral("screenshot")));
+        if (!picture.isEmpty())
+            WritePicture(window, picture);
     });
     return QApplication::exec();
 }
@@ -163,7 +168,7 @@ int main(int argc, char** argv)
         QTextStream(stderr) << complaint << '\n';
         return 1;
     }
-    app.setStyleSheet(gGetCommonLibStyles());
+    HostStyle::Apply(EditorWindow::WantsLight());
     const int result = Run(parser, since);
     NLEWraper::Release();
     CVCreateInstance::Instance()->Release();

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QColor>
+
+/// How the host's windows look: the library's sheet, which is dark, or a light one made of it.
+///
+/// For the GUI thread, while there is a QApplication.
+namespace HostStyle {
+
+/// Has all windows look so, at once; what paints by itself is painted again.
+void Apply(bool isLight);
+bool IsLight();
+/// What stands for a colour of the dark look in the one on show: the same one in the dark look, and
+/// in the light one for colours that are light enough for both. Opacity stays.
+QColor Shown(const QColor& dark);
+
+} // namespace HostStyle
