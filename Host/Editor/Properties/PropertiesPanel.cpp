@@ -45,7 +45,7 @@ PropertiesPanel::PropertiesPanel(Project& project, Selection& selection, MediaPl
     , m_scroll(new QScrollArea(this))
 {
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, 0, 0);
+    column->setContentsMargins(kMargin, kMargin, kMargin, 0);
     m_title->setObjectName(QStringLiteral("CommonLib_Title"));
     column->addWidget(m_title);
     column->addWidget(m_scroll, 1);
@@ -115,7 +115,7 @@ void PropertiesPanel::StartContent()
     m_content = new QWidget(m_scroll->widget());
     m_scroll->widget()->layout()->addWidget(m_content);
     m_column = new QVBoxLayout(m_content);
-    m_column->setContentsMargins(0, 0, kMargin, kMargin);
+    m_column->setContentsMargins(kMargin / 2, 0, kMargin / 2, kMargin);
     m_column->setSpacing(kGap);
 }
 
