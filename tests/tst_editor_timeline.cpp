@@ -17,6 +17,7 @@
 #include "tests/support/EngineFixture.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QDropEvent>
@@ -254,6 +255,28 @@ class tst_EditorTimeline : public QObject
 private Q_SLOTS:
     void initTestCase() { m_engine = std::make_unique<EngineFixture>(); }
     void cleanupTestCase() { m_engine.reset(); }
+
+    void offersItsClipsToAssistivePrograms()
+    {
+        Editor editor(*m_engine, "a0+40 b50+10 / c5+10");
+        auto* view = QAccessible::queryAccessibleInterface(&editor.View());
+        QCOMPARE(view->childCount(), 3);
+        QAccessibleInterface* second = view->child(1);
+        QVERIFY(second->text(QAccessible::Description).contains("50"));
+        const QPoint middle = editor.View().mapToGlobal(editor.Point("b"));
+        QVERIFY(second->rect().contains(middle));
+        QCOMPARE(view->childAt(middle.x(), middle.y()), second);
+        QCOMPARE(view->indexOfChild(second), 1);
+        second->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(editor.Selected(), QStringLiteral("b"));
+        QVERIFY(second->state().selected);
+        view->child(2)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QCOMPARE(editor.Selected(), QStringLiteral("bc"));
+        editor.Do("key Del");
+        QVERIFY(!second->isValid());
+        QCOMPARE(view->childCount(), 1);
+        QCOMPARE(view->child(0)->parent(), view);
+    }
 
     void edits_data()
     {

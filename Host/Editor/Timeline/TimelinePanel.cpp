@@ -384,12 +384,16 @@ void TimelinePanel::FollowSelection()
     const NLEComPtr<INLETimeline> current = m_selection.Current();
     m_actions->SetUsable(Needs::Selection, current != nullptr);
     const ClipRow* row = m_model->Find(current.get());
-    m_view->setAccessibleDescription(row ? tr("%1, level %2, frames %3 to %4")
-                                               .arg(row->name)
-                                               .arg(row->level + 1)
-                                               .arg(row->begin)
-                                               .arg(row->end - 1)
-                                         : QString());
+    m_view->setAccessibleDescription(row ? Described(*row) : QString());
+}
+
+QString TimelinePanel::Described(const ClipRow& row)
+{
+    return tr("%1, level %2, frames %3 to %4")
+        .arg(row.name)
+        .arg(row.level + 1)
+        .arg(row.begin)
+        .arg(row.end - 1);
 }
 
 /// What is stale comes with the answer. Nothing is cached before there is a folder.

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QWidget>
 
+struct ClipRow;
 class LevelHeaders;
 class MediaPlayer;
 class Project;
@@ -33,6 +34,8 @@ public:
     /// For the menus of a window, in groups with separators between them. Their keys count while
     /// the keyboard is with the panel.
     QList<QAction*> Actions() const;
+    /// A clip in words: name, level, frames.
+    static QString Described(const ClipRow& row);
     /// Shows the whole project.
     void Fit();
 

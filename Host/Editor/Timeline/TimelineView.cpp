@@ -3,11 +3,13 @@
 
 #include "Host/Editor/Model/Project.h"
 #include "Host/Editor/Model/Selection.h"
+#include "Host/Editor/Timeline/AccessibleTimeline.h"
 #include "Host/Editor/Timeline/EditGesture.h"
 #include "Host/Editor/Timeline/MediaDrop.h"
 #include "Host/Editor/Timeline/RubberBand.h"
 #include "Host/Editor/Timeline/TimelineModel.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -50,6 +52,7 @@ TimelineView::TimelineView(Project& project, Selection& selection, TimelineModel
     , m_ruler(ruler)
     , m_painter(model, m_clipPainter)
 {
+    AccessibleTimeline::Install();
     setAcceptDrops(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
@@ -122,6 +125,8 @@ void TimelineView::FollowSelection()
     for (const auto& clip : m_selection.Clips())
         clips.insert(clip.get());
     m_painter.SetSelected(std::move(clips));
+    QAccessibleEvent changed(this, QAccessible::SelectionWithin);
+    QAccessible::updateAccessibility(&changed);
     update();
 }
 

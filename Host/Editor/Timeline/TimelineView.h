@@ -36,6 +36,8 @@ public:
     /// Pixels from frame 0 to the left edge.
     void ScrollTo(double pixels);
     TimelineGeometry Geometry() const;
+    const TimelineModel& Model() const { return m_model; }
+    Selection& Selected() const { return m_selection; }
     bool IsDragging() const { return m_gesture != nullptr; }
 
     QSize sizeHint() const override { return {800, 260}; }
