@@ -130,6 +130,8 @@ inline constexpr const wchar_t* kThreads = L"kEncode_Threads";
 /// Integer 1: pictures come from the proxies of clips that have them enabled; else from their
 /// media.
 inline constexpr const wchar_t* kProxies = L"kEncode_Proxies";
+/// Integer 1: NLEEncodeSettings::range {0, 0} is frame 0 alone; else it means all.
+inline constexpr const wchar_t* kFirstFrame = L"kEncode_FirstFrame";
 } // namespace Encode
 
 /// Settings of the engine itself, in the bag of INLESystemConfig. They count for the whole process

@@ -200,7 +200,7 @@ struct NLEEncodeSettings
     NLESize frameSize;
     NLERational frameRate;
     NLERange range;            ///< frames of the timeline; an empty one and {0, 0} mean all of it,
-                               ///< of a clip its trim range
+                               ///< of a clip its trim range; see NLEKey::Encode::kFirstFrame
     std::int32_t quality;      ///< constant rate factor, 1 (best) to 51
     std::int32_t sampleRate;   ///< audio samples a second, at most 384000
     std::int32_t channels;     ///< audio channels, at most 64

@@ -258,6 +258,39 @@ private Q_SLOTS:
             QVERIFY(UsesProxy(clip));
     }
 
+    void proxiesOfSeveralFilesAreOneStep()
+    {
+        Desk desk;
+        const QString film = Media("more/b.mp4");
+        MediaBin bin(desk.project);
+        QVERIFY(PlaceMedia(desk, Media("a.mp4"), 0));
+        QTRY_COMPARE(bin.Uses(Media("a.mp4")), 1);
+        const int steps = desk.project.Steps().count();
+        const int merge = bin.NewMerge();
+        QVERIFY(bin.UseProxies({{film, film}}, merge));
+        QVERIFY(bin.UseProxies({{Media("a.mp4"), film}}, merge)); // as soon as it is made
+        QVERIFY(!bin.UseProxies({{Media("a.mp4"), film}}, merge));
+        QCOMPARE(desk.project.Steps().count(), steps + 1);
+        for (const bool isUsed : {false, true}) {
+            isUsed ? desk.project.Steps().redo() : desk.project.Steps().undo();
+            QCOMPARE(UsesProxy(desk.Clips().first()), isUsed);
+            QCOMPARE(!bin.Entry(film).proxy.isEmpty(), isUsed);
+        }
+    }
+
+    void unusedMediaMovesWithTheProject()
+    {
+        QVERIFY(QDir(folder.path()).mkpath("former/m"));
+        QVERIFY(QFile::copy(Media("a.mp4"), Path("former/m/a.mp4")));
+        Desk desk;
+        MediaBin bin(desk.project);
+        QVERIFY(bin.Add({Path("former/m/a.mp4"), Media("c.m4a")}));
+        QVERIFY(desk.project.SaveAs(Path("former/p.mlt")));
+        QVERIFY(QDir(folder.path()).rename("former", "later"));
+        QVERIFY(desk.project.Open(Path("later/p.mlt")));
+        QCOMPARE(bin.Files(), (QStringList{Path("later/m/a.mp4"), Media("c.m4a")}));
+    }
+
     void importsFromADevice()
     {
 #ifndef HAS_DEVICES

@@ -45,7 +45,7 @@ class tst_EditorExport : public QObject
     {
         return m_engine.ProjectWith(m_engine.Trimmed(m_engine.Colour(color), 0, length - 1));
     }
-    ExportOrder Order(const char* file) const { return {m_engine.Path(file), "H.264", {}}; }
+    ExportOrder Order(const char* file) const { return {m_engine.Path(file), "H.264", {}, false}; }
     QStringList Files(const QString& filter) const
     {
         return QDir(m_engine.folder.path()).entryList({filter}, QDir::Files | QDir::Hidden);
@@ -71,18 +71,23 @@ private Q_SLOTS:
         const Node project = Colour(Qt::red);
         ExportOrder part = Order("second.mp4");
         part.settings.range = {5, 9};
+        part.isPart = true;
+        ExportOrder sole = Order("sole.mp4");
+        sole.isPart = true; // of frame 0
         const int first = queue.Add(project, Order("first.mp4"));
         const int second = queue.Add(project, part);
+        queue.Add(project, sole);
         project.query<INLETimelineComposite>()->RemoveClip(m_engine.ClipAt(project, 0).get());
         m_engine.Add(project, m_engine.Colour(Qt::blue));
         const int third = queue.Add(project, Order("third.mp4"));
         QVERIFY(queue.IsBusy());
         QTRY_VERIFY_WITH_TIMEOUT(!queue.IsBusy(), kPatience);
-        QCOMPARE(done, QVector<int>({first, second, third}));
+        QCOMPARE(done, QVector<int>({first, second, second + 1, third}));
         QCOMPARE(queue.Find(first)->percent, 100);
         QVERIFY(Distance("first.mp4", Qt::red) < 8);
         QVERIFY(Distance("third.mp4", Qt::blue) < 8);
         QCOMPARE(EngineFixture::TotalOf(m_engine.Media(m_engine.Path("second.mp4"))).out, 4);
+        QCOMPARE(EngineFixture::TotalOf(m_engine.Media(m_engine.Path("sole.mp4"))).out, 0);
     }
 
     void aCancelledFilmLeavesNothing()

@@ -109,6 +109,22 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(now(), state, kPatience);
     }
 
+    void pointsAreSavedWithTheProject()
+    {
+        QTest::keyClick(m_panel.get(), Qt::Key_End);
+        QTRY_COMPARE_WITH_TIMEOUT(m_player->Position(), kLength - 1, kPatience);
+        QTest::keyClick(m_panel.get(), Qt::Key_O);
+        QCOMPARE(m_panel->Playing().OutPoint(), kLength - 1);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("points.mlt");
+        QVERIFY(m_project->SaveAs(path));
+        m_project->Steps().undo();
+        QCOMPARE(m_panel->Playing().OutPoint(), Transport::kNoPoint);
+        QVERIFY(m_project->Open(path));
+        QCOMPARE(m_panel->Playing().OutPoint(), kLength - 1);
+        QCOMPARE(m_panel->Playing().InPoint(), Transport::kNoPoint);
+    }
+
     void keysPlay_data()
     {
         QTest::addColumn<QString>("keys");

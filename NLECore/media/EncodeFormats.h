@@ -35,7 +35,8 @@ struct EncodeOptions
     int fieldOrder = NLEField_Progressive;
     int audioBitRate = 0;
     int threads = 0;
-    int proxies = 0; ///< 1: pictures come from proxies where clips have them switched on
+    int proxies = 0;    ///< 1: pictures come from proxies where clips have them switched on
+    int firstFrame = 0; ///< 1: a range of {0, 0} is frame 0 alone, and not all
 };
 
 /// The name of a codec that stands for none.

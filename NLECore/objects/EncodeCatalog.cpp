@@ -61,6 +61,7 @@ constexpr NumberKey kNumberKeys[] = {
     {Key::kAudioBitRate, &EncodeOptions::audioBitRate, 0, kMost},
     {Key::kThreads, &EncodeOptions::threads, 0, 64},
     {Key::kProxies, &EncodeOptions::proxies, 0, 1},
+    {Key::kFirstFrame, &EncodeOptions::firstFrame, 0, 1},
 };
 
 /// Copies as much of \a text as there is room for.

@@ -108,7 +108,8 @@ bool MediaEncoder::TakeSettings(const TimelineNode& node, const Layer& root,
     // A clip is encoded as it is trimmed, a composite as long as it has clips.
     const NLERange whole =
         root.kind == LayerKind::Composite ? NLERange{0, node.TotalLength() - 1} : root.range;
-    const bool wantsAll = wanted.range.in == 0 && wanted.range.out == 0;
+    const bool wantsAll =
+        wanted.range.in == 0 && wanted.range.out == 0 && m_options.firstFrame == 0;
     m_range = NLERangeLength(wanted.range) > 0 && !wantsAll ? wanted.range : whole;
     const bool hasSize = wanted.frameSize.width > 1 && wanted.frameSize.height > 1;
     m_settings.size = EvenSize(hasSize ? wanted.frameSize : root.size);

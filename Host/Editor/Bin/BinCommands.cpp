@@ -298,8 +298,10 @@ void BinCommands::CancelProxies()
 void BinCommands::SwitchProxies()
 {
     const bool isOn = !UsesProxy();
+    QHash<QString, QString> films;
     for (const BinItem& item : Selected())
-        m_parts.bin.UseProxy(item.entry.path, isOn ? item.media.proxy : QString());
+        films[item.entry.path] = isOn ? item.media.proxy : QString();
+    m_parts.bin.UseProxies(films);
 }
 
 bool BinCommands::RelinkAll(const QHash<QString, QString>& moved)

@@ -5,6 +5,8 @@
 #include "EngineApi/INLEProperties.h"
 #include "EngineApi/INLETimeline.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -40,9 +42,20 @@ QString ReadText(INLEProperties& bag)
     return {};
 }
 
-QJsonObject ToJson(const BinEntry& entry)
+/// \a path as seen from \a folder; empty when it is not below it, or there is no folder.
+QString Below(const QString& folder, const QString& path)
+{
+    const QString relative = folder.isEmpty() ? QString() : QDir(folder).relativeFilePath(path);
+    const bool isBelow = QDir::isRelativePath(relative) && !relative.startsWith("../");
+    return isBelow ? relative : QString();
+}
+
+QJsonObject ToJson(const BinEntry& entry, const QString& folder)
 {
     QJsonObject object{{"path", entry.path}};
+    const QString relative = Below(folder, entry.path);
+    if (!relative.isEmpty())
+        object["relative"] = relative;
     if (!entry.proxy.isEmpty())
         object["proxy"] = entry.proxy;
     if (NLERangeLength(entry.marks) > 0) {
@@ -52,17 +65,26 @@ QJsonObject ToJson(const BinEntry& entry)
     return object;
 }
 
-BinEntry FromJson(const QJsonObject& object)
+/// What lies beside the project comes before what lies where it once lay.
+QString PathOf(const QJsonObject& object, const QString& folder)
+{
+    const QString relative = object["relative"].toString();
+    const QString beside = QDir(folder).absoluteFilePath(relative);
+    const bool isThere = !folder.isEmpty() && !relative.isEmpty() && QFileInfo::exists(beside);
+    return isThere ? QDir::cleanPath(beside) : object["path"].toString();
+}
+
+BinEntry FromJson(const QJsonObject& object, const QString& folder)
 {
     return {
-        object["path"].toString(),
+        PathOf(object, folder),
         object["proxy"].toString(),
         {object["in"].toInt(BinEntry::kNoMarks.in), object["out"].toInt(BinEntry::kNoMarks.out)}};
 }
 
 } // namespace
 
-BinEntries ReadBinEntries(INLETimeline& project)
+BinEntries ReadBinEntries(INLETimeline& project, const QString& folder)
 {
     BinEntries entries;
     const NLEComPtr<INLEProperties> bag = BagOf(project);
@@ -70,21 +92,21 @@ BinEntries ReadBinEntries(INLETimeline& project)
         return entries;
     const QJsonArray array = QJsonDocument::fromJson(ReadText(*bag).toUtf8()).array();
     for (const QJsonValue& value : array) {
-        const BinEntry entry = FromJson(value.toObject());
+        const BinEntry entry = FromJson(value.toObject(), folder);
         if (!entry.path.isEmpty())
             entries.append(entry);
     }
     return entries;
 }
 
-bool WriteBinEntries(INLETimeline& project, const BinEntries& entries)
+bool WriteBinEntries(INLETimeline& project, const BinEntries& entries, const QString& folder)
 {
     const NLEComPtr<INLEProperties> bag = BagOf(project);
     if (!bag)
         return false;
     QJsonArray array;
     for (const BinEntry& entry : entries)
-        array.append(ToJson(entry));
+        array.append(ToJson(entry, folder));
     const QByteArray text = QJsonDocument(array).toJson(QJsonDocument::Compact);
     return SUCCEEDED(bag->SetString(kKey, QString::fromUtf8(text).toStdWString().c_str()));
 }

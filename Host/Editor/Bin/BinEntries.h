@@ -24,7 +24,8 @@ struct BinEntry
 using BinEntries = QVector<BinEntry>;
 
 /// The entries in the property bag of \a project, which documents keep. What is damaged is left
-/// out.
-BinEntries ReadBinEntries(INLETimeline& project);
-/// Writes them in place of those that are there. False when the engine refuses.
-bool WriteBinEntries(INLETimeline& project, const BinEntries& entries);
+/// out. Files that are there in their places below \a folder, that of the document, are those.
+BinEntries ReadBinEntries(INLETimeline& project, const QString& folder);
+/// Writes them in place of those that are there; with a \a folder also where below it they are.
+/// False when the engine refuses.
+bool WriteBinEntries(INLETimeline& project, const BinEntries& entries, const QString& folder = {});

@@ -209,8 +209,12 @@ void BinPanel::TakeIntakeEnd(int /*added*/, const QStringList& refused)
 
 void BinPanel::TakeProxyEnd(const QString& file, const QString& proxy, const QString& reason)
 {
+    if (m_proxyStep == 0)
+        m_proxyStep = m_bin.NewMerge();
     if (proxy.isEmpty() && !reason.isEmpty())
         Say(tr("No proxy of %1: %2").arg(QFileInfo(file).fileName(), reason));
     else if (!proxy.isEmpty() && m_bin.Files().contains(file)) // else of a former project
-        m_bin.UseProxy(file, proxy);
+        m_bin.UseProxies({{file, proxy}}, m_proxyStep);
+    if (!m_proxies.IsBusy())
+        m_proxyStep = 0;
 }

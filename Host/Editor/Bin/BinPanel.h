@@ -51,6 +51,7 @@ private:
     MediaBin m_bin;
     MediaDescriber m_describer;
     ProxyJobs m_proxies;
+    int m_proxyStep = 0; ///< merges what ends while others are still made; 0: none
     BinIntake m_intake;
     BinPictures m_pictures;
     BinModel m_model;

@@ -6,6 +6,8 @@
 #include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Project.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <set>
 
@@ -51,6 +53,32 @@ int FindEntry(const BinEntries& entries, const QString& file)
     return found == entries.end() ? -1 : int(found - entries.begin());
 }
 
+/// The entry of \a file, which comes to the end where there is none.
+BinEntry& EntryOf(BinEntries& entries, const QString& file)
+{
+    const int index = FindEntry(entries, file);
+    if (index >= 0)
+        return entries[index];
+    entries.append({file, {}, BinEntry::kNoMarks});
+    return entries.last();
+}
+
+/// Lets the clips of files whose proxies are others in \a now than in \a before have those.
+void ChangeProxies(const ClipsByFile& clips, const BinEntries& before, const BinEntries& now)
+{
+    const auto proxyIn = [](const BinEntries& entries, const QString& file) {
+        const int index = FindEntry(entries, file);
+        return index < 0 ? QString() : entries[index].proxy;
+    };
+    for (auto file = clips.cbegin(); file != clips.cend(); ++file) {
+        const QString proxy = proxyIn(now, file.key());
+        if (proxy == proxyIn(before, file.key()))
+            continue;
+        for (const NLEComPtr<INLETimeline>& clip : file.value())
+            SetProxy(clip, proxy);
+    }
+}
+
 /// Two entries of one file are one.
 BinEntries Renamed(const BinEntries& entries, const QHash<QString, QString>& moved)
 {
@@ -75,6 +103,9 @@ MediaBin::MediaBin(Project& project, QObject* parent) : QObject(parent), m_proje
     };
     connect(&m_collectTimer, &QTimer::timeout, this, &MediaBin::Collect);
     connect(&m_project, &Project::Replaced, this, &MediaBin::Collect);
+    connect(&m_project, &Project::Saving, this, [this](const QString& path) {
+        WriteBinEntries(*m_project.Node(), m_entries, QFileInfo(path).absolutePath());
+    });
     connect(&m_project, &Project::ClipsChanged, this, &MediaBin::TakeClips);
     connect(&m_project, &Project::ClipsChanged, this, collectSoon);
     connect(&m_project, &Project::NodeChanged, this,
@@ -89,7 +120,9 @@ void MediaBin::Collect()
     m_collectTimer.stop();
     if (!m_project.IsUsable())
         return;
-    m_entries = ReadBinEntries(*m_project.Node());
+    const QString path = m_project.Path();
+    const QString folder = path.isEmpty() ? QString() : QFileInfo(path).absolutePath();
+    m_entries = ReadBinEntries(*m_project.Node(), folder);
     m_clips = FindClips(m_project.Node());
     QStringList files;
     for (const BinEntry& entry : m_entries)
@@ -108,17 +141,6 @@ BinEntry MediaBin::Entry(const QString& file) const
 {
     const int index = FindEntry(m_entries, file);
     return index < 0 ? BinEntry{file, {}, BinEntry::kNoMarks} : m_entries[index];
-}
-
-BinEntries MediaBin::WithEntry(const QString& file, int* index) const
-{
-    BinEntries entries = m_entries;
-    *index = FindEntry(entries, file);
-    if (*index < 0) {
-        *index = entries.size();
-        entries.append({file, {}, BinEntry::kNoMarks});
-    }
-    return entries;
 }
 
 bool MediaBin::ChangeEntries(const QString& text, const BinEntries& entries)
@@ -164,31 +186,38 @@ bool MediaBin::Relink(const QHash<QString, QString>& moved)
     return !moved.isEmpty() && m_project.Change(tr("Relink media"), node, redo, undo);
 }
 
-bool MediaBin::UseProxy(const QString& file, const QString& proxy)
+bool MediaBin::UseProxies(const QHash<QString, QString>& films, int merge)
 {
-    int index = 0;
-    BinEntries now = WithEntry(file, &index);
-    const QString former = std::exchange(now[index].proxy, proxy);
-    if (former == proxy)
-        return false;
+    BinEntries now = m_entries;
+    for (auto film = films.cbegin(); film != films.cend(); ++film)
+        EntryOf(now, film.key()).proxy = film.value();
+    const bool isNews = std::any_of(films.keyBegin(), films.keyEnd(), [&](const QString& file) {
+        return Entry(file).proxy != films[file];
+    });
+    const bool isAny = std::any_of(films.begin(), films.end(),
+                                   [](const QString& film) { return !film.isEmpty(); });
     const NLEComPtr<INLETimeline> node = m_project.Node();
-    const auto write = [node, clips = m_clips.value(file)](const BinEntries& entries,
-                                                           const QString& film) {
-        for (const NLEComPtr<INLETimeline>& clip : clips)
-            SetProxy(clip, film);
+    const auto write = [node, clips = m_clips](const BinEntries& entries, const BinEntries& from) {
+        ChangeProxies(clips, from, entries);
         return WriteBinEntries(*node, entries);
     };
-    return m_project.Change(
-        proxy.isEmpty() ? tr("Use the media itself") : tr("Use a proxy"), node,
-        [=] { return write(now, proxy); },
-        [write, former, before = m_entries] { return write(before, former); });
+    // Undo may take back several steps that became one.
+    const auto current = [this] { return m_entries; };
+    return isNews && m_project.Change(
+                         isAny ? tr("Use a proxy") : tr("Use the media itself"), node,
+                         [=] { return write(now, current()); },
+                         [=, before = m_entries] { return write(before, current()); }, merge);
+}
+
+int MediaBin::NewMerge()
+{
+    return m_project.NewMerge();
 }
 
 bool MediaBin::Mark(const QString& file, const NLERange& marks)
 {
-    int index = 0;
-    BinEntries now = WithEntry(file, &index);
-    const NLERange former = std::exchange(now[index].marks, marks);
+    BinEntries now = m_entries;
+    const NLERange former = std::exchange(EntryOf(now, file).marks, marks);
     if (former.in == marks.in && former.out == marks.out)
         return false;
     return ChangeEntries(

@@ -36,9 +36,11 @@ public:
     /// Lets clips and bin have new files: new paths by old ones. Refused as a whole when the engine
     /// cannot read one of them.
     bool Relink(const QHash<QString, QString>& moved);
-    /// The film \a proxy stands for \a file in all of its clips, those to come included; the file
-    /// itself does again with an empty one.
-    bool UseProxy(const QString& file, const QString& proxy);
+    /// Films stand for files, by which they are found, in all of their clips, those to come
+    /// included; a file itself does again with an empty one. A step for all, and one for calls that
+    /// follow each other with the same \a merge of NewMerge().
+    bool UseProxies(const QHash<QString, QString>& films, int merge = 0);
+    int NewMerge();
     /// Clips of \a file are made of these frames only, all of them for an empty range.
     bool Mark(const QString& file, const NLERange& marks);
     /// A clip of \a file in its marks; null when the engine cannot read it.
@@ -57,8 +59,6 @@ private:
     void Collect();
     void TakeClips(const QVector<NLEComPtr<INLETimeline>>& clips);
     bool ChangeEntries(const QString& text, const BinEntries& entries);
-    /// The entries, and among them one for \a file, whose index is given.
-    BinEntries WithEntry(const QString& file, int* index) const;
 
     Project& m_project;
     QTimer m_collectTimer; ///< an edit and what follows from it are looked at once

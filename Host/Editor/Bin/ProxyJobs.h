@@ -23,6 +23,7 @@ public:
     /// Begins a proxy of \a file, unless one is on its way.
     void Make(const QString& file);
     void Cancel(const QString& file);
+    bool IsBusy() const { return !m_percents.isEmpty(); }
     /// 0 to 100; -1 when none is on its way.
     int Percent(const QString& file) const { return m_percents.value(file, -1); }
 

@@ -85,13 +85,12 @@ QString WithSuffix(const QString& path, const QString& suffix)
     return suffix.isEmpty() ? path : file.dir().filePath(file.completeBaseName() + '.' + suffix);
 }
 
-/// From the one to the other, whichever is first, as far as \a length frames go. The engine takes
-/// frame 0 alone for all of it, so that two frames are the least from there.
+/// From the one to the other, whichever is first, as far as \a length frames go.
 NLERange RangeOf(int in, int out, int length)
 {
     const int end = std::max(length - 1, 0);
     const auto [first, last] = std::minmax({std::min(in, end), std::min(out, end)});
-    return {first, std::max(last, 1)};
+    return {first, last};
 }
 
 } // namespace
@@ -313,7 +312,8 @@ ExportOrder ExportDialog::Order() const
     const int sampleRate = m_sampleRate->currentData().toInt();
     order.settings.sampleRate = sampleRate > 0 ? sampleRate : profile.sampleRate;
     order.settings.channels = profile.channels;
-    if (m_part->isChecked())
+    order.isPart = m_part->isChecked();
+    if (order.isPart)
         order.settings.range = RangeOf(m_first->Frame(), m_last->Frame(), m_project.Length());
     return order;
 }

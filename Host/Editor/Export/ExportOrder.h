@@ -12,4 +12,5 @@ struct ExportOrder
     QString
         preset; ///< stable name in the engine's catalogue; empty: the suffix of the path decides
     NLEEncodeSettings settings = {}; ///< what stands at 0 is the project's
+    bool isPart = false;             ///< whether the range of the settings counts, else all
 };

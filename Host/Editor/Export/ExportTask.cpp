@@ -3,6 +3,8 @@
 
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/INLEEncode.h"
+#include "EngineApi/INLEProperties.h"
+#include "EngineApi/NLEKey.h"
 #include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Reasons.h"
 #include "Host/EncodePresets.h"
@@ -17,14 +19,19 @@ constexpr int kAll = 100; // per cent
 constexpr qint64 kSecond = 1000;
 constexpr qint64 kEarly = 2000; // milliseconds after which the pace says something
 
-bool TakePreset(const NLEComPtr<INLEMediaEncoder>& encoder, const QString& preset)
+bool TakeOptions(const NLEComPtr<INLEMediaEncoder>& encoder, const ExportOrder& order)
 {
-    if (preset.isEmpty())
+    if (order.preset.isEmpty() && !order.isPart)
         return true;
     PlayerMaterProvider& provider = EngineProvider();
-    const auto settings = EncodePresets::Settings(provider, encoder, preset);
+    const auto settings = order.preset.isEmpty()
+                              ? provider.CreateNLEProperties()
+                              : EncodePresets::Settings(provider, encoder, order.preset);
     const auto options = encoder.query<INLEEncodeOptions>();
-    return settings && options && options->SetOptions(settings.get()) == S_OK;
+    // Frame 0 alone may be the part.
+    return settings && options &&
+           settings->SetInt(NLEKey::Encode::kFirstFrame, order.isPart ? 1 : 0) == S_OK &&
+           options->SetOptions(settings.get()) == S_OK;
 }
 
 } // namespace
@@ -39,7 +46,7 @@ std::shared_ptr<ExportTask> ExportTask::Make(int number, NLEComPtr<INLETimeline>
     task->m_factory = EngineFactory();
     if (!task->m_factory || FAILED(task->m_factory->CreateMediaEncoder(task->m_encoder.put())))
         return {};
-    task->m_hasOptions = TakePreset(task->m_encoder, order.preset);
+    task->m_hasOptions = TakeOptions(task->m_encoder, order);
     return task;
 }
 

@@ -42,6 +42,7 @@ Project::Project(QObject* parent)
     connect(&m_steps, &ProjectSteps::ClipsChanged, this, &Project::ClipsChanged);
     connect(&m_steps, &ProjectSteps::NodeChanged, this, &Project::NodeChanged);
     connect(&m_steps, &ProjectSteps::Refused, this, &Project::Refused);
+    connect(&m_steps, &ProjectSteps::DragRefused, this, &Project::DragRefused);
     connect(&Steps(), &QUndoStack::indexChanged, this, &Project::TellModified);
     connect(&Steps(), &QUndoStack::cleanChanged, this, &Project::TellModified);
     Adopt(EngineProvider().CreateProjectTimeline(), {}, {});
@@ -165,8 +166,10 @@ bool Project::Adopt(const NLEComPtr<INLETimeline>& node, const QString& action, 
     const std::unique_ptr<NLETimeline> formerTimeline =
         std::exchange(m_timeline, std::make_unique<NLETimeline>(node, ExactType_Project, nullptr));
     m_steps.Begin(std::move(editing));
+    const bool isElsewhere = std::exchange(m_path, path) != path;
     Q_EMIT Replaced();
-    SetPath(path);
+    if (isElsewhere)
+        Q_EMIT PathChanged();
     TellModified();
     return true;
 }
@@ -178,6 +181,7 @@ bool Project::Save()
 
 bool Project::SaveAs(const QString& path)
 {
+    Q_EMIT Saving(QFileInfo(path).absoluteFilePath());
     if (!Write(path))
         return false;
     Steps().setClean();

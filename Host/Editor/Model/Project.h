@@ -102,9 +102,15 @@ Q_SIGNALS:
     /// Something else about \a node changed (as Change() names it).
     void NodeChanged(const NLEComPtr<INLETimeline>& node);
     void PathChanged();
+    /// The project is about to be written into the file \a path as its own: the last moment for
+    /// what documents keep.
+    void Saving(const QString& path);
     void ModifiedChanged(bool modified);
     /// An edit, a change or a file operation failed; \a reason is for people.
     void Refused(const QString& reason);
+    /// The last movement of a drag failed, for another reason than the one before; empty when one
+    /// did not fail again.
+    void DragRefused(const QString& reason);
 
 private:
     NLEComPtr<INLETimeline> Load(const QString& path);

@@ -148,10 +148,13 @@ bool ProjectSteps::Drag(const EditCall& edit)
     NoteClips();
     const Reasons reasons(m_factory);
     const bool isDone = Try(edit);
-    m_drag->refusal = isDone ? QString() : reasons.Of(m_drag->text);
+    const QString refusal = isDone ? QString() : reasons.Of(m_drag->text);
+    const bool isNews = std::exchange(m_drag->refusal, refusal) != refusal;
     if (isDone)
         NoteClips();
     Tell();
+    if (isNews)
+        Q_EMIT DragRefused(refusal);
     return isDone;
 }
 
@@ -169,10 +172,13 @@ void ProjectSteps::DropDrag()
 {
     if (!m_drag)
         return;
+    const bool wasRefused = !m_drag->refusal.isEmpty();
     m_drag.reset();
     m_editing->RewindStep();
     NoteClips();
     m_editing->EndStep();
+    if (wasRefused)
+        Q_EMIT DragRefused({});
 }
 
 void ProjectSteps::CancelDrag()

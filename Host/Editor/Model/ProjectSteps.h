@@ -55,6 +55,7 @@ Q_SIGNALS:
     void ClipsChanged(const QVector<NLEComPtr<INLETimeline>>& clips);
     void NodeChanged(const NLEComPtr<INLETimeline>& node);
     void Refused(const QString& reason);
+    void DragRefused(const QString& reason);
 
 private:
     struct OpenDrag

@@ -1,14 +1,45 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Player/Transport.h"
 
+#include "EngineApi/INLEProperties.h"
 #include "Host/Editor/Model/Project.h"
 #include "Host/Editor/Player/ProjectMarkers.h"
 #include "Host/Widgets/MediaPlayer.h"
 
+#include <QCoreApplication>
+
 namespace {
 
+constexpr const wchar_t* kInKey = L"kEditor_InPoint";
+constexpr const wchar_t* kOutKey = L"kEditor_OutPoint";
 constexpr double kFastest = 8;
 constexpr std::uint32_t kMarkerColor = 0xFFE0A030;
+
+NLEComPtr<INLEProperties> BagOf(const NLEComPtr<INLETimeline>& node)
+{
+    NLEComPtr<INLEProperties> bag;
+    if (!node || FAILED(node->GetProperties(bag.put())))
+        bag.forget();
+    return bag;
+}
+
+Transport::Points ReadPoints(const NLEComPtr<INLETimeline>& node)
+{
+    Transport::Points points;
+    if (const auto bag = BagOf(node)) {
+        // What is not there stays.
+        bag->GetInt(kInKey, &points.in);
+        bag->GetInt(kOutKey, &points.out);
+    }
+    return points;
+}
+
+bool WritePoints(const NLEComPtr<INLETimeline>& node, const Transport::Points& points)
+{
+    const auto bag = BagOf(node);
+    return bag && SUCCEEDED(bag->SetInt(kInKey, points.in)) &&
+           SUCCEEDED(bag->SetInt(kOutKey, points.out));
+}
 
 } // namespace
 
@@ -22,6 +53,7 @@ Transport::Transport(Project& project, MediaPlayer& player, QObject* parent)
     connect(&project, &Project::Replaced, this, &Transport::OpenLater);
     connect(&project, &Project::ClipsChanged, this, update);
     connect(&project, &Project::NodeChanged, this, update);
+    connect(&project, &Project::NodeChanged, this, &Transport::TakePoints);
     connect(&player, &MediaPlayer::LengthChanged, this, &Transport::ApplyLoop);
     m_update.start(); // not now, for a window is to show first
 }
@@ -29,7 +61,7 @@ Transport::Transport(Project& project, MediaPlayer& player, QObject* parent)
 void Transport::OpenLater()
 {
     m_player.Close();
-    ClearPoints();
+    TakePoints();
     m_update.start();
 }
 
@@ -97,33 +129,50 @@ void Transport::GoTo(int frame)
 void Transport::SetInPoint()
 {
     const int here = m_player.Position();
-    SetPoints(here, m_out < here ? kNoPoint : m_out);
+    SetPoints("Set in point", {here, m_points.out < here ? kNoPoint : m_points.out});
 }
 
 void Transport::SetOutPoint()
 {
     const int here = m_player.Position();
-    SetPoints(m_in > here ? kNoPoint : m_in, here);
+    SetPoints("Set out point", {m_points.in > here ? kNoPoint : m_points.in, here});
 }
 
-void Transport::SetPoints(int in, int out)
+void Transport::SetPoints(const char* text, Points points)
 {
-    if (in == m_in && out == m_out)
+    const NLEComPtr<INLETimeline> node = m_project.Node();
+    const Points before = m_points;
+    if (points.in == before.in && points.out == before.out)
         return;
-    m_in = in;
-    m_out = out;
+    m_project.Change(
+        QCoreApplication::translate("PlayerPanel", text), node,
+        [node, points] { return WritePoints(node, points); },
+        [node, before] { return WritePoints(node, before); });
+}
+
+void Transport::TakePoints()
+{
+    const Points points = ReadPoints(m_project.Node());
+    if (points.in == m_points.in && points.out == m_points.out)
+        return;
+    m_points = points;
     ApplyLoop();
     Q_EMIT PointsChanged();
 }
 
+void Transport::ClearPoints()
+{
+    SetPoints("Clear in and out point", {});
+}
+
 void Transport::GoToInPoint()
 {
-    GoTo(m_in == kNoPoint ? 0 : m_in);
+    GoTo(m_points.in == kNoPoint ? 0 : m_points.in);
 }
 
 void Transport::GoToOutPoint()
 {
-    GoTo(m_out == kNoPoint ? Last() : m_out);
+    GoTo(m_points.out == kNoPoint ? Last() : m_points.out);
 }
 
 void Transport::SetLooping(bool on)
@@ -136,8 +185,8 @@ void Transport::ApplyLoop()
 {
     if (!m_player.IsOpen())
         return;
-    const int first = m_in == kNoPoint ? 0 : m_in;
-    const int last = m_out == kNoPoint ? Last() : qMin(m_out, Last());
+    const int first = m_points.in == kNoPoint ? 0 : m_points.in;
+    const int last = m_points.out == kNoPoint ? Last() : qMin(m_points.out, Last());
     if (m_isLooping && first < last)
         m_player.SetLoop(first, last);
     else

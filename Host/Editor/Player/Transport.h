@@ -33,14 +33,20 @@ public:
     /// Limited to what plays.
     void GoTo(int frame);
 
-    // ---- In and out point, the first and the last frame of a range; each may be missing
+    // ---- In and out point, the first and the last frame of a range; each may be missing. The
+    // project keeps them, and each change is a step.
 
-    int InPoint() const { return m_in; }
-    int OutPoint() const { return m_out; }
+    struct Points
+    {
+        int in = kNoPoint;
+        int out = kNoPoint;
+    };
+    int InPoint() const { return m_points.in; }
+    int OutPoint() const { return m_points.out; }
     /// At the play head. A point that would lie on the wrong side of it goes.
     void SetInPoint();
     void SetOutPoint();
-    void ClearPoints() { SetPoints(kNoPoint, kNoPoint); }
+    void ClearPoints();
     void GoToInPoint();
     void GoToOutPoint();
     /// Whether the range, or all where a point is missing, plays over and over.
@@ -56,7 +62,10 @@ Q_SIGNALS:
 private:
     void Hurry(int direction);
     int Last() const;
-    void SetPoints(int in, int out);
+    /// \a text is a title of the player's actions.
+    void SetPoints(const char* text, Points points);
+    /// Those of the project.
+    void TakePoints();
     void ApplyLoop();
     void OpenLater();
     void Update();
@@ -64,7 +73,6 @@ private:
     Project& m_project;
     MediaPlayer& m_player;
     QTimer m_update;
-    int m_in = kNoPoint;
-    int m_out = kNoPoint;
+    Points m_points;
     bool m_isLooping = false;
 };

@@ -87,6 +87,9 @@ EditorWindow::EditorWindow(const Paths& paths)
     AddToolBar();
     connect(&m_project, &Project::Refused, this,
             [this](const QString& reason) { statusBar()->showMessage(reason, kMessageTime); });
+    // An empty text clears it.
+    connect(&m_project, &Project::DragRefused, this,
+            [this](const QString& reason) { statusBar()->showMessage(reason); });
     connect(&m_project, &Project::ModifiedChanged, this, &QWidget::setWindowModified);
     connect(&m_project, &Project::PathChanged, this, &EditorWindow::ShowTitle);
     connect(&m_project, &Project::Replaced, this, &EditorWindow::ShowRemarks);
