@@ -23,7 +23,7 @@ public:
     BaseButton(const QString& name, QWidget* parent);
     BaseButton(int id, const QString& name, QWidget* parent);
 
-    int GetId() const;
+    int GetId() const; ///< as it was made with
     /// As setEnabled().
     void SetEnabled(bool enabled);
 

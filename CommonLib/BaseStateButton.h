@@ -15,7 +15,7 @@ class COMMONLIB_EXPORT BaseStateButton : public BaseButton
     Q_OBJECT
 
 public:
-    BaseStateButton(int id, const QString& name, QWidget* parent);
+    BaseStateButton(int id, const QString& name, QWidget* parent); ///< as BaseButton
 
     /// Adds a state. The first one added shows first.
     void AddButton(int id, const QString& name);

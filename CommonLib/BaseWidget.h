@@ -12,7 +12,7 @@ class COMMONLIB_EXPORT BaseWidget : public QWidget
     Q_OBJECT
 
 public:
-    explicit BaseWidget(QWidget* parent);
+    explicit BaseWidget(QWidget* parent); ///< a plain widget
 
     /// Called on a change of the language, after TranslateText(), to make room for the new texts.
     /// Does nothing here.

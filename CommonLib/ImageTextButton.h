@@ -19,7 +19,7 @@ class COMMONLIB_EXPORT ImageTextButton : public QWidget
     Q_OBJECT
 
 public:
-    ImageTextButton(int id, const QString& name, QWidget* parent);
+    ImageTextButton(int id, const QString& name, QWidget* parent); ///< as BaseButton
 
     /// The text, which is also the image's accessible name.
     void SetText(QString text);

@@ -31,8 +31,8 @@ public:
     /// \a name becomes the object name.
     ImageTextButton2(int id, const QString& name, QWidget* parent);
 
-    int GetId() const;
-    void SetText(const QString& text);
+    int GetId() const;                 ///< as it was made with
+    void SetText(const QString& text); ///< the text beside the image
     QString GetText() const;
     /// Drawn at its size in device-independent pixels.
     void SetNormalImage(QPixmap image);

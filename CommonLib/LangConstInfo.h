@@ -52,12 +52,12 @@ public:
     /// Whether this is the row of \a value.
     bool Contains(const Language_Locale& value) const;
 
-    Language_Locale locale;
-    QString langCode;    ///< two letters, "zh"
-    QString regionCode;  ///< two letters, "TW"
-    QString simpleName1; ///< three letters, "CHT"; the form in which a choice is stored
-    QString simpleName2; ///< empty in every row of the table
-    QString englishName; ///< "Chinese TW"; some are names of countries, such as "Poland"
+    Language_Locale locale; ///< the value of the row
+    QString langCode;       ///< two letters, "zh"
+    QString regionCode;     ///< two letters, "TW"
+    QString simpleName1;    ///< three letters, "CHT"; the form in which a choice is stored
+    QString simpleName2;    ///< empty in every row of the table
+    QString englishName;    ///< "Chinese TW"; some are names of countries, such as "Poland"
 };
 
 /// The table of the seventeen languages. Sets \a count to their number and gives the first row; the

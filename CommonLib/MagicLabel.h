@@ -12,6 +12,6 @@ class COMMONLIB_EXPORT MagicLabel : public QLabel
     Q_OBJECT
 
 public:
-    explicit MagicLabel(QWidget* parent);
+    explicit MagicLabel(QWidget* parent); ///< as QLabel
     MagicLabel(const QString& text, QWidget* parent);
 };

@@ -22,7 +22,7 @@ class COMMONLIB_EXPORT PureSlider : public QWidget
     Q_PROPERTY(QColor addpageColor READ AddpageColor WRITE StyleAddpage)
 
 public:
-    explicit PureSlider(QWidget* parent);
+    explicit PureSlider(QWidget* parent); ///< with the presets
 
     /// 0 to 100 by default, and when \a min is not below \a max. The value stays until it is
     /// set again; meanwhile it shows at the nearer end.
@@ -43,7 +43,7 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    void sigValueChanged(int value);
+    void sigValueChanged(int value); ///< by the user or by SetValue()
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -48,7 +48,7 @@ public:
         ISO
     };
 
-    QAESEncryption(Aes level, Mode mode, Padding padding);
+    QAESEncryption(Aes level, Mode mode, Padding padding); ///< keeps the three
 
     /// Pads \a rawText, in every mode, and encrypts it. The result is a multiple of 16 bytes.
     QByteArray encode(const QByteArray& rawText, const QByteArray& key, const QByteArray& iv);

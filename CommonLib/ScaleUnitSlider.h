@@ -19,7 +19,7 @@ class COMMONLIB_EXPORT ScaleUnitSlider : public QWidget
     Q_OBJECT
 
 public:
-    explicit ScaleUnitSlider(QWidget* parent);
+    explicit ScaleUnitSlider(QWidget* parent); ///< with the presets
 
     /// Range and value as those of ToolBarSlider.
     void setRange(float min, float max);

@@ -41,7 +41,7 @@ class COMMONLIB_EXPORT TimelineRuler : public QWidget
     Q_PROPERTY(QColor ScaleColor READ GetScaleColor WRITE SetScaleColor)
 
 public:
-    explicit TimelineRuler(QWidget* parent = nullptr);
+    explicit TimelineRuler(QWidget* parent = nullptr); ///< with the presets
     /// Emits nothing, not even for a drag that is under way.
     ~TimelineRuler() override;
 
@@ -110,7 +110,7 @@ public:
     void SetFramesRound(bool round);
     bool GetFramesRound() const;
 
-    void SetPointerShape(const RulerPointerShape& shape);
+    void SetPointerShape(const RulerPointerShape& shape); ///< how the play head looks
     /// Colour of the play head of an enabled ruler, and of a disabled one.
     void SetPointerBGColor(const QColor& color);
     QColor GetPointerBGColor() const;

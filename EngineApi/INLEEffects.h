@@ -58,8 +58,8 @@ static_assert(sizeof(NLEParameterRecord) == 40, "fixed binary layout");
 /// One key frame of a parameter.
 struct NLEParameterKeyFrame
 {
-    double time; ///< place on the key-frame axis of the clip, as NLEKeyFrameRecord::time
-    double value;
+    double time;  ///< place on the key-frame axis of the clip, as NLEKeyFrameRecord::time
+    double value; ///< of the parameter at that time
     std::int32_t interpolation; ///< NLEParameterInterpolation, to the next key frame
     std::int32_t reserved;      ///< 0
 };
@@ -76,7 +76,7 @@ struct INLEParameters : IUnknown
     static constexpr _GUID Iid = {
         0xB46E3A3E, 0xC47B, 0x4EFE, {0x87, 0xA1, 0xC5, 0x46, 0x4D, 0x53, 0xDC, 0x9A}};
 
-    virtual HRESULT GetParameterCount(int* count) = 0;
+    virtual HRESULT GetParameterCount(int* count) = 0; ///< parameters of the node
     /// Texts are cut to \a capacity characters with the terminating zero, here and below; with a
     /// capacity of 0 only the record is given.
     virtual HRESULT GetParameter(int index, NLEParameterRecord* record, wchar_t* name,
@@ -119,7 +119,7 @@ struct INLEEffects : IUnknown
     static constexpr _GUID Iid = {
         0x9A648AC3, 0x922A, 0x42F7, {0x89, 0x59, 0x60, 0x15, 0xBB, 0x2D, 0xFF, 0x80}};
 
-    virtual HRESULT GetCount(int* count) = 0;
+    virtual HRESULT GetCount(int* count) = 0; ///< effects of the node
     /// A new reference; null and E_INVALIDARG for an index that names no effect.
     virtual HRESULT GetEffect(int index, INLETimeline** effect) = 0;
     /// Adds an effect of no clip before the one at \a index; -1 adds it as the last. E_INVALIDARG

@@ -36,10 +36,10 @@ struct NLECodecInfo
     std::int32_t hasAlpha;     ///< 1 when one of the pixel formats keeps what is transparent
     std::int32_t hasFields;    ///< 1 when frames can be of two fields
     std::int32_t highestDepth; ///< most bits of a component or a sample
-    char profiles[128];
-    char speeds[128];       ///< presets, for NLEKey::Encode::kSpeed
-    char pixelFormats[256]; ///< in the names of libavutil, for example "yuv420p10le"
-    char sampleFormats[64]; ///< in the names of libavutil without their order, for example "s16"
+    char profiles[128];        ///< names with commas between
+    char speeds[128];          ///< presets, for NLEKey::Encode::kSpeed
+    char pixelFormats[256];    ///< in the names of libavutil, for example "yuv420p10le"
+    char sampleFormats[64];    ///< in the names of libavutil without their order, for example "s16"
 };
 
 /// What can be encoded, and how it can be combined. Media encoders answer it; it is the same for
@@ -49,8 +49,8 @@ struct INLEEncodeCatalog : IUnknown
     static constexpr _GUID Iid = {
         0x2D7F1C3E, 0x58B4, 0x4E0A, {0x9B, 0x36, 0x71, 0xC2, 0x0E, 0x94, 0xAD, 0x57}};
 
-    virtual HRESULT GetContainerCount(int* count) = 0;
-    virtual HRESULT GetContainer(int index, NLEContainerInfo* info) = 0;
+    virtual HRESULT GetContainerCount(int* count) = 0; ///< containers that can be written
+    virtual HRESULT GetContainer(int index, NLEContainerInfo* info) = 0; ///< one of them
     /// Codecs of \a type, an NLEStreamType, that \a container takes and this engine has.
     virtual HRESULT GetCodecCount(const char* container, int type, int* count) = 0;
     virtual HRESULT GetCodec(const char* container, int type, int index, NLECodecInfo* info) = 0;

@@ -25,11 +25,11 @@ struct INLEFontLibrary : IUnknown
     static constexpr _GUID Iid = {
         0x33826B65, 0x7C7B, 0x4127, {0x99, 0x1E, 0xDE, 0xAB, 0x31, 0xC3, 0xFE, 0x91}};
 
-    virtual HRESULT SetCacheFile(const wchar_t* path) = 0;
-    virtual HRESULT SetFontFolder(const wchar_t* folder) = 0;
-    virtual HRESULT AddFontFolder(const wchar_t* folder) = 0;
-    virtual HRESULT LoadSystemFonts() = 0;
-    virtual HRESULT GetFontCount(int* count) = 0;
+    virtual HRESULT SetCacheFile(const wchar_t* path) = 0; ///< where fonts that were read are noted
+    virtual HRESULT SetFontFolder(const wchar_t* folder) = 0; ///< is read first
+    virtual HRESULT AddFontFolder(const wchar_t* folder) = 0; ///< is read now
+    virtual HRESULT LoadSystemFonts() = 0;                    ///< reads what the system has
+    virtual HRESULT GetFontCount(int* count) = 0;             ///< fonts that were found
     virtual HRESULT GetFontName(int index, wchar_t* buffer, int capacity) = 0;
 };
 
@@ -39,7 +39,7 @@ struct INLETimelineFactory : IUnknown
     static constexpr _GUID Iid = {
         0x4F2E9321, 0x7DAD, 0x473B, {0x8E, 0xF2, 0xB7, 0x2C, 0x58, 0xA5, 0x39, 0xFA}};
 
-    virtual HRESULT GetDefaultProfile(tagNLEProjectProfile* profile) = 0;
+    virtual HRESULT GetDefaultProfile(tagNLEProjectProfile* profile) = 0; ///< of new projects
     virtual HRESULT CreateProject(const tagNLEProjectProfile* profile, INLETimeline** project) = 0;
     /// A clip of a media file. A missing file gives an offline clip; a file that cannot be read
     /// fails.
@@ -69,7 +69,7 @@ struct INLEMarkBook : IUnknown
     static constexpr _GUID Iid = {
         0x0C031E5D, 0x1431, 0x406B, {0xB8, 0x5A, 0xC5, 0x99, 0xAC, 0x27, 0x0A, 0x8B}};
 
-    virtual HRESULT GetMarkCount(int* count) = 0;
+    virtual HRESULT GetMarkCount(int* count) = 0; ///< marks of the book
     /// \a frame is where the mark begins, counted at the file's own rate, 25 frames a second for
     /// sound alone. \a name receives at most \a capacity characters with the terminating zero; with
     /// a capacity of 0 only the frame is given. E_INVALIDARG for an index that names no mark.
@@ -97,7 +97,7 @@ struct INLEDocumentReport : IUnknown
     static constexpr _GUID Iid = {
         0x079D18BF, 0x0E3A, 0x4A5C, {0x82, 0x26, 0x64, 0x02, 0xC0, 0x5C, 0xB6, 0x76}};
 
-    virtual HRESULT GetRemarkCount(int* count) = 0;
+    virtual HRESULT GetRemarkCount(int* count) = 0; ///< remarks on the last document
     /// The remark \a index of 0 to count - 1: \a code is an NLEDocumentRemark, the text is English
     /// and names the part of the document; it is cut to \a capacity characters with the
     /// terminating zero. E_INVALIDARG for an index that names none.

@@ -10,8 +10,8 @@ struct INLEKeyFrameList : IUnknown
     static constexpr _GUID Iid = {
         0x17023CB6, 0x6191, 0x4B63, {0x8C, 0x9B, 0xEC, 0x29, 0x9C, 0xF1, 0x60, 0x54}};
 
-    virtual HRESULT GetCount(int* count) = 0;
-    virtual HRESULT GetKeyFrame(int index, NLEKeyFrameRecord* record) = 0;
+    virtual HRESULT GetCount(int* count) = 0; ///< key frames of the clip
+    virtual HRESULT GetKeyFrame(int index, NLEKeyFrameRecord* record) = 0; ///< by its place
     virtual HRESULT SetKeyFrame(int index, const NLEKeyFrameRecord* record) = 0;
     /// \a index receives the new key frame's place.
     virtual HRESULT AddKeyFrame(const NLEKeyFrameRecord* record, int* index) = 0;
@@ -30,6 +30,6 @@ struct INLEKeyFrameStatus : IUnknown
     static constexpr _GUID Iid = {
         0xDD93A6DD, 0x322F, 0x4298, {0xAD, 0xFF, 0x12, 0x53, 0x21, 0x06, 0x6A, 0x5A}};
 
-    virtual HRESULT GetStatus(bool* enabled) = 0;
+    virtual HRESULT GetStatus(bool* enabled) = 0; ///< whether they apply
     virtual HRESULT SetStatus(bool enabled) = 0;
 };

@@ -14,7 +14,7 @@ struct INLEMarkers : IUnknown
     static constexpr _GUID Iid = {
         0xD02AB5F7, 0x0F20, 0x469C, {0x9F, 0x8A, 0xC9, 0x71, 0x27, 0x3D, 0x88, 0xBD}};
 
-    virtual HRESULT GetCount(int* count) = 0;
+    virtual HRESULT GetCount(int* count) = 0; ///< markers of the node
     /// \a name receives at most \a capacity characters with the terminating zero; longer text is
     /// cut. With a capacity of 0 only the record is given.
     virtual HRESULT GetMarker(int index, NLEMarkerRecord* record, wchar_t* name, int capacity) = 0;

@@ -28,7 +28,7 @@ struct INLECodec : IUnknown
     static constexpr _GUID Iid = {
         0xB0674F69, 0x3E2E, 0x47C4, {0x9E, 0x68, 0xFC, 0x23, 0x24, 0x48, 0xF9, 0x1A}};
 
-    virtual HRESULT GetMediaInfo(INLEMediaInfo** info) = 0;
+    virtual HRESULT GetMediaInfo(INLEMediaInfo** info) = 0; ///< of the file
     /// Short name of the file's container, for example "mov".
     virtual HRESULT GetContainerName(wchar_t* buffer, int capacity) = 0;
     /// Short name of a stream's codec, for example "h264".
@@ -44,7 +44,7 @@ struct INLEPicture : IUnknown
     static constexpr _GUID Iid = {
         0xF994686B, 0x9080, 0x4193, {0xB0, 0x5C, 0xAF, 0xD6, 0x5A, 0x9B, 0x22, 0x42}};
 
-    virtual HRESULT GetWidth(int* width) = 0;
-    virtual HRESULT GetHeight(int* height) = 0;
-    virtual HRESULT GetData(const std::uint8_t** pixels) = 0;
+    virtual HRESULT GetWidth(int* width) = 0;                 ///< in pixels
+    virtual HRESULT GetHeight(int* height) = 0;               ///< in pixels
+    virtual HRESULT GetData(const std::uint8_t** pixels) = 0; ///< valid as long as the picture
 };

@@ -11,11 +11,11 @@ struct INLEProperties : IUnknown
     static constexpr _GUID Iid = {
         0x7E4DB0A4, 0xA9C4, 0x4015, {0x91, 0x6F, 0x2B, 0x33, 0x7B, 0x8B, 0x90, 0x59}};
 
-    virtual HRESULT GetInt(const wchar_t* key, int* value) = 0;
+    virtual HRESULT GetInt(const wchar_t* key, int* value) = 0; ///< a whole number
     virtual HRESULT SetInt(const wchar_t* key, int value) = 0;
-    virtual HRESULT GetDouble(const wchar_t* key, double* value) = 0;
+    virtual HRESULT GetDouble(const wchar_t* key, double* value) = 0; ///< a number
     virtual HRESULT SetDouble(const wchar_t* key, double value) = 0;
-    virtual HRESULT GetRational(const wchar_t* key, NLERational* value) = 0;
+    virtual HRESULT GetRational(const wchar_t* key, NLERational* value) = 0; ///< a fraction
     virtual HRESULT SetRational(const wchar_t* key, NLERational value) = 0;
     /// Writes at most \a capacity characters with the terminating zero; longer text is cut.
     virtual HRESULT GetString(const wchar_t* key, wchar_t* buffer, int capacity) = 0;

@@ -56,7 +56,7 @@ struct INLETimelineEnumerator : IUnknown
     static constexpr _GUID Iid = {
         0x8E444002, 0xD2E2, 0x4F13, {0x9A, 0xAD, 0xBD, 0x06, 0xBB, 0x8E, 0x2A, 0xC0}};
 
-    virtual HRESULT IsEmpty(bool* empty) = 0;
+    virtual HRESULT IsEmpty(bool* empty) = 0; ///< whether it lists none
     /// Moves on; S_FALSE when it has run past the end.
     virtual HRESULT Next() = 0;
     /// The current clip, a new reference; E_FAIL past the end.
@@ -69,7 +69,7 @@ struct INLETimelineComposite : IUnknown
     static constexpr _GUID Iid = {
         0xE0A906B2, 0xF729, 0x4DC3, {0x92, 0x88, 0x1A, 0x0A, 0xF4, 0xC6, 0x1D, 0xD6}};
 
-    virtual HRESULT GetClipCount(int* count) = 0;
+    virtual HRESULT GetClipCount(int* count) = 0; ///< children, transitions too
     /// Enumerates the clips in the order in which they were added. \a flags is 1.
     virtual HRESULT GetEnumerator(int flags, INLETimelineEnumerator** enumerator) = 0;
     /// Adds a clip, which must have no parent: E_INVALIDARG for null, for this node itself, for a
@@ -186,7 +186,7 @@ struct INLEProjectSetting : IUnknown
     static constexpr _GUID Iid = {
         0x4A6F0B60, 0xCBF0, 0x40B8, {0xBE, 0x47, 0x0B, 0x89, 0x47, 0x2F, 0x3F, 0x33}};
 
-    virtual HRESULT GetProfile(tagNLEProjectProfile* profile) = 0;
+    virtual HRESULT GetProfile(tagNLEProjectProfile* profile) = 0; ///< of the project
     /// E_INVALIDARG for a size or a rate that is not above 0.
     virtual HRESULT SetProfile(const tagNLEProjectProfile* profile) = 0;
 };

@@ -8,8 +8,8 @@
 /// Frames from in to out, both inclusive; empty when out < in.
 struct NLERange
 {
-    std::int32_t in;
-    std::int32_t out;
+    std::int32_t in;  ///< first frame
+    std::int32_t out; ///< last frame
 };
 
 /// Number of frames in \a range; 0 for an empty one. Wider than 32 bits, so that no range
@@ -22,44 +22,44 @@ constexpr std::int64_t NLERangeLength(const NLERange& range)
 /// A fraction. Frame rates are carried as millionths, scales as hundred-millionths.
 struct NLERational
 {
-    std::int64_t num;
-    std::int64_t den;
+    std::int64_t num; ///< numerator
+    std::int64_t den; ///< denominator
 };
 
 struct NLERectF
 {
-    double x;
-    double y;
-    double width;
-    double height;
+    double x;      ///< from the left
+    double y;      ///< from the top
+    double width;  ///< horizontal
+    double height; ///< vertical
 };
 
 /// A rectangle of whole pixels.
 struct NLERect
 {
-    std::int32_t x;
-    std::int32_t y;
-    std::int32_t width;
-    std::int32_t height;
+    std::int32_t x;      ///< left edge
+    std::int32_t y;      ///< upper edge
+    std::int32_t width;  ///< in pixels
+    std::int32_t height; ///< in pixels
 };
 
 /// A size in whole pixels.
 struct NLESize
 {
-    std::int32_t width;
-    std::int32_t height;
+    std::int32_t width;  ///< in pixels
+    std::int32_t height; ///< in pixels
 };
 
 struct NLEPointF
 {
-    double x;
-    double y;
+    double x; ///< from the left
+    double y; ///< from the top
 };
 
 struct NLESizeF
 {
-    double width;
-    double height;
+    double width;  ///< horizontal
+    double height; ///< vertical
 };
 
 /// Picture and sound format of a project.
@@ -197,8 +197,8 @@ enum NLEFrameMemory : std::int32_t
 /// What a media encoder writes. 0 in a field means the timeline's own value or the codec's default.
 struct NLEEncodeSettings
 {
-    NLESize frameSize;
-    NLERational frameRate;
+    NLESize frameSize;         ///< picture size in pixels
+    NLERational frameRate;     ///< frames a second
     NLERange range;            ///< frames of the timeline; an empty one and {0, 0} mean all of it,
                                ///< of a clip its trim range; see NLEKey::Encode::kFirstFrame
     std::int32_t quality;      ///< constant rate factor, 1 (best) to 51
@@ -210,12 +210,12 @@ struct NLEEncodeSettings
 /// One key frame of a clip's picture.
 struct NLEKeyFrameRecord
 {
-    double time;      ///< place on the clip's key-frame axis
-    double angle;     ///< rotation in degrees
-    double positionX; ///< offset of the centre, in widths of the parent
-    double positionY; ///< in heights of the parent; grows upward
-    double scaleWidth;
-    double scaleHeight;
+    double time;                ///< place on the clip's key-frame axis
+    double angle;               ///< rotation in degrees
+    double positionX;           ///< offset of the centre, in widths of the parent
+    double positionY;           ///< in heights of the parent; grows upward
+    double scaleWidth;          ///< 1 unchanged
+    double scaleHeight;         ///< 1 unchanged
     double opacity;             ///< 0 transparent to 1 opaque
     std::int32_t interpolation; ///< 1: linear to the next key frame
 };
@@ -242,19 +242,19 @@ struct tagMixerParam
 /// system.
 struct NLEAlphaChannelRecord
 {
-    std::int32_t param1;
-    std::int32_t param2;
-    std::int32_t param3;
-    std::int32_t padding1;
-    double param4;
-    std::int32_t param5;
-    std::int32_t param6;
-    std::int32_t param7;
-    std::int32_t padding2;
-    char16_t text1[260];
-    char16_t text2[260];
-    std::int32_t param8;
-    std::int32_t padding3;
-    std::uint8_t tail[16];
+    std::int32_t param1;   ///< kept as it is
+    std::int32_t param2;   ///< kept as it is
+    std::int32_t param3;   ///< kept as it is
+    std::int32_t padding1; ///< kept as it is
+    double param4;         ///< kept as it is
+    std::int32_t param5;   ///< kept as it is
+    std::int32_t param6;   ///< kept as it is
+    std::int32_t param7;   ///< kept as it is
+    std::int32_t padding2; ///< kept as it is
+    char16_t text1[260];   ///< kept as it is
+    char16_t text2[260];   ///< kept as it is
+    std::int32_t param8;   ///< kept as it is
+    std::int32_t padding3; ///< kept as it is
+    std::uint8_t tail[16]; ///< kept as it is
 };
 static_assert(sizeof(NLEAlphaChannelRecord) == 1104, "fixed binary layout");

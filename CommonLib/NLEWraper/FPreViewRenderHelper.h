@@ -50,7 +50,7 @@ public:
     /// cache when SetAutoDeleteCaching() asked for it.
     ~FPreViewRenderHelper() override;
 
-    bool IsCaching() const;
+    bool IsCaching() const; ///< whether the state is the one of that name
     bool IsLowDisk() const;
     bool IsFolderFull() const;
     bool IsFolderUnWriteable() const;

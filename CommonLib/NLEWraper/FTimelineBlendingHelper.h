@@ -21,11 +21,11 @@ public:
     FTimelineBlendingHelper(NLEComPtr<INLETimeline> timeline, QObject* parent);
     ~FTimelineBlendingHelper() override;
 
-    bool GetBlendingEnable() const;
+    bool GetBlendingEnable() const; ///< whether mode and alpha count
     void SetBlendingEnable(bool enable);
-    int GetBlendingMode() const;
+    int GetBlendingMode() const; ///< 0 normal
     void SetBlendingMode(int mode);
-    int GetBlendingAlpha() const;
+    int GetBlendingAlpha() const; ///< 0 transparent to 255 opaque
     void SetBlendingAlpha(int alpha);
 
 private:

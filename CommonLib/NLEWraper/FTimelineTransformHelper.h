@@ -28,7 +28,7 @@ public:
     FTimelineTransformHelper(NLEComPtr<INLETimeline> timeline, QObject* parent);
     ~FTimelineTransformHelper() override;
 
-    bool GetTransformEnable() const;
+    bool GetTransformEnable() const; ///< whether the transform counts
     void SetTransformEnable(bool enable);
     /// Normalised centre.
     QPointF GetCenterPos() const;

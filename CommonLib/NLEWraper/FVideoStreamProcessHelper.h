@@ -38,7 +38,7 @@ public:
     /// The node's picture settings, looked up afresh; null when it has none.
     NLEComPtr<INLEVideoStreamProcess> GetVideoStreamProcess() const;
 
-    AlphaChannelParm GetAlphaChannel() const;
+    AlphaChannelParm GetAlphaChannel() const; ///< the presets when there is none
     /// Keeps everything else of the engine's alpha-channel record as it is.
     void SetAlphaChannel(const AlphaChannelParm& parm);
 
@@ -47,7 +47,7 @@ public:
     /// Changes nothing when the node has no picture settings.
     void SetPremultiAlphaType(int type);
 
-    bool GetProxyEnabled() const;
+    bool GetProxyEnabled() const; ///< whether pictures come from the proxy
     void SetProxyEnabled(bool enabled);
     /// Path of the proxy file, at most 259 characters; empty without one.
     QString GetProxyPeth() const;

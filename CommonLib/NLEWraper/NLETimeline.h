@@ -147,7 +147,7 @@ public:
     /// The opposite of SetClipEnable().
     void SetHiden(bool hidden);
 
-    void SetTimelineGuid(const QString& guid);
+    void SetTimelineGuid(const QString& guid); ///< kept with the node
     /// "0" when the node has none; at most 255 characters.
     QString GetTimelineGuid() const;
     void SetAncestralGuid(const QString& guid);

@@ -45,5 +45,5 @@ public:
     bool SetDoubleValues(const QMap<const wchar_t*, double>& values);
 
 protected:
-    NLEComPtr<INLEBasin> m_basin;
+    NLEComPtr<INLEBasin> m_basin; ///< of the context; may be null
 };

@@ -20,9 +20,9 @@ struct VideoKeyFramePreset
 /// A named animation for hosts to offer; the library fills none. The order of the fields is fixed.
 struct VideoKeyFramePresetInfo
 {
-    int id = 0;        ///< identifier, as the host numbers them
-    int kind = 0;      ///< group that the host shows it in
-    QString name = {}; ///< shown to the user
-    QString icon = {}; ///< path of a picture
-    QList<VideoKeyFramePreset> keyFrames = {};
+    int id = 0;                                ///< identifier, as the host numbers them
+    int kind = 0;                              ///< group that the host shows it in
+    QString name = {};                         ///< shown to the user
+    QString icon = {};                         ///< path of a picture
+    QList<VideoKeyFramePreset> keyFrames = {}; ///< what it is made of
 };

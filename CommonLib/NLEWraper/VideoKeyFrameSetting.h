@@ -17,7 +17,7 @@
 class COMMONLIB_EXPORT VideoKeyFrameSetting
 {
 public:
-    explicit VideoKeyFrameSetting(NLEComPtr<INLETimeline> timeline);
+    explicit VideoKeyFrameSetting(NLEComPtr<INLETimeline> timeline); ///< edits that clip
     VideoKeyFrameSetting(const VideoKeyFrameSetting& other);
     VideoKeyFrameSetting& operator=(const VideoKeyFrameSetting& other);
     ~VideoKeyFrameSetting();
@@ -31,8 +31,8 @@ public:
     int AddKeyFrame(const VideoKeyFrameParam& param);
     /// False when \a index names no key frame.
     bool DeleteKeyFrame(int index);
-    void ClearAllKeyFrame();
-    int GetKeyFrameCount() const;
+    void ClearAllKeyFrame();      ///< of the clip
+    int GetKeyFrameCount() const; ///< 0 when the clip has none
 
     /// All that can be read.
     QList<VideoKeyFrameParam> GetAllKeyFrameParams() const;
@@ -51,13 +51,13 @@ public:
 
     // One field of a key frame. The getters give its preset, the setters do nothing, when \a index
     // names no key frame.
-    QPointF GetPosition(int index) const;
+    QPointF GetPosition(int index) const; ///< offset from the centre
     void SetPosition(int index, QPointF position);
-    QSizeF GetScale(int index) const;
+    QSizeF GetScale(int index) const; ///< 1 unchanged
     void SetScale(int index, QSizeF scale);
-    double GetRotateAngle(int index) const;
+    double GetRotateAngle(int index) const; ///< in degrees
     void SetRotateAngle(int index, double angle);
-    double GetOpacity(int index) const;
+    double GetOpacity(int index) const; ///< 0 transparent to 1 opaque
     void SetOpacity(int index, double opacity);
 
     /// Whether key frames follow and precede \a index. An index out of range is not refused here:

@@ -37,10 +37,10 @@ using WpdCallbackProc = std::int64_t (*)(HWND window, std::uint32_t message, std
 /// does not tell is empty or 0.
 struct WpdObjectRecord
 {
-    const wchar_t* objectId;
-    const wchar_t* parentId;
-    const wchar_t* originalFileName;
-    std::uint64_t size;    ///< bytes
+    const wchar_t* objectId;         ///< of the device, for later calls
+    const wchar_t* parentId;         ///< of the folder that holds it
+    const wchar_t* originalFileName; ///< with its suffix
+    std::uint64_t size;              ///< bytes
     std::int32_t isFolder; ///< 1 for a folder, else 0; the device itself and its storages are none
     double dateModified;   ///< days since 30 December 1899, the day's part as a fraction
     std::int32_t descend;  ///< the callback may set it: visit the children whatever the depth

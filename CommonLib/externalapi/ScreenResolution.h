@@ -21,11 +21,11 @@ public:
     struct ScreenInfo
     {
         HMONITOR handle = nullptr; ///< the system's monitor; on Linux Qt's QScreen
-        bool primary = false;
-        QRect physical;  ///< size in the monitor's own pixels
-        QRect logical;   ///< place and size on the desktop
-        float scale = 0; ///< physical width by logical width
-        int id = 0;      ///< number of the monitor, from 0
+        bool primary = false;      ///< whether it is the system's main one
+        QRect physical;            ///< size in the monitor's own pixels
+        QRect logical;             ///< place and size on the desktop
+        float scale = 0;           ///< physical width by logical width
+        int id = 0;                ///< number of the monitor, from 0
     };
 
     /// Class of a screen of this size; 0 when a side is below 1.

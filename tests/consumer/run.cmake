@@ -3,7 +3,8 @@
 # projects in SOURCE and EXAMPLES against it, and runs the first; where BUILD has the engine, also what
 # makes films and the examples that open no window. FLAGS are the compiler flags that the library was
 # built with, SUFFIX ends the name of a program; TOOLCHAIN and EMULATOR are the tool chain file and what
-# runs programs when the library is cross-compiled. LIBDIR is where libraries lie in a prefix.
+# runs programs when the library is cross-compiled. LIBDIR is where libraries lie in a prefix. PYTHON, where
+# there is one, takes the programs of PAGE from it.
 
 cmake_minimum_required(VERSION 3.21)
 
@@ -26,8 +27,9 @@ function(build_project name folder)
   endif()
 endfunction()
 
+# What programs write without a folder comes into WORK.
 function(run program)
-  step(${EMULATOR} ${WORK}/${program}${SUFFIX} ${ARGN})
+  step(${EMULATOR} ${WORK}/${program}${SUFFIX} ${ARGN} WORKING_DIRECTORY ${WORK})
 endfunction()
 
 file(REMOVE_RECURSE ${WORK})
@@ -64,6 +66,18 @@ if("engine" IN_LIST components)
   run(examples/example_join ${WORK}/joined.mp4 ${sample} ${sample})
   # Only the joined film is that long.
   run(examples/example_picture ${WORK}/joined.mp4 00:00:03:20 ${WORK}/picture.png)
+  # The programs of the page that begins with nothing; the last one exports a film.
+  if(PYTHON)
+    step(${PYTHON} ${SOURCE}/steps.py ${PAGE} ${WORK}/steps)
+    file(GLOB programs RELATIVE ${WORK} ${WORK}/steps/*)
+    foreach(program IN LISTS programs)
+      build_project(${program}/build ${WORK}/${program})
+      run(${program}/build/host ${sample})
+    endforeach()
+    if(NOT EXISTS ${WORK}/cut.mp4)
+      message(FATAL_ERROR "the last step has written no film")
+    endif()
+  endif()
   # What is beside the program suffices.
   if(NOT EXISTS ${WORK}/build/deployed/Lang/de/NLECore.qm)
     message(FATAL_ERROR "the engine's texts were not deployed")
