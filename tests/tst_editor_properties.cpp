@@ -2,6 +2,7 @@
 #include "CommonLib/NLEWraper/FTimelineTransformHelper.h"
 #include "CommonLib/NLEWraper/NLETimeline.h"
 #include "CommonLib/ToolBarSlider.h"
+#include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Project.h"
 #include "Host/Editor/Model/Selection.h"
 #include "Host/Editor/Properties/ClipActions.h"
@@ -443,6 +444,40 @@ private Q_SLOTS:
         m_editor->project.Steps().undo();
         QCOMPARE(m_editor->project.Length(), kLength);
         QCOMPARE(m_editor->project.Timeline()->GetChilds().value(0), clip);
+    }
+
+    void aSpeedKeepsTransitionsAndGroup()
+    {
+        Project& project = m_editor->project;
+        const Node before = m_editor->Place(m_engine.Trimmed(Film(), 0, 29), 0);
+        const Node clip = m_editor->Place(m_engine.Trimmed(Film(), 10, 29), 30);
+        const Node above = m_editor->Place(Colour(), 0, 1);
+        const auto joints = [&] {
+            QStringList spans;
+            for (const auto& node : project.Timeline()->GetChilds()) {
+                const NLETimeline joint(node, ExactType_Unknown, nullptr);
+                if (node.query<INLETimelineTransition>())
+                    spans << QString("%1+%2").arg(joint.GetPosition()).arg(joint.GetPlayLen());
+            }
+            return spans;
+        };
+        INLETimeline* both[] = {clip.get(), above.get()};
+        QVERIFY(project.Edit("Join", [&](INLEEditing& editing) {
+            editing.AddTransition(m_engine.Transition("dissolve").get(), clip.get(), NLEEdge_Begin,
+                                  8);
+            return editing.Group(both, 2);
+        }));
+        QCOMPARE(joints(), QStringList("26+8"));
+        QVERIFY(ClipActions::SetSpeed(project, m_editor->selection, clip, 0.5));
+        QCOMPARE(joints(), QStringList("26+8"));
+        NLEComPtr<INLETimelineEnumerator> walk;
+        project.Editing().GetGroup(m_editor->selection.Current().get(), walk.put());
+        QCOMPARE(NodesOf(*walk).size(), 2);
+        project.Steps().undo();
+        QCOMPARE(joints(), QStringList("26+8"));
+        walk = nullptr;
+        project.Editing().GetGroup(clip.get(), walk.put());
+        QCOMPARE(NodesOf(*walk).size(), 2);
     }
 
     void theRateIsFixedByTheFirstClip()

@@ -84,6 +84,71 @@ NLEComPtr<INLETimeline> AtSpeed(const NLEComPtr<INLETimeline>& clip, double spee
     return copy;
 }
 
+/// A transition on an edge of a clip.
+struct Joint
+{
+    NLEComPtr<INLETimeline> transition;
+    NLEClipEdge edge;
+    int frames;
+    bool hasNeighbour;
+};
+
+/// Whether another clip meets or overlaps \a clip at \a edge.
+bool HasNeighbour(INLEEditing& editing, INLETimeline& clip, NLEClipEdge edge)
+{
+    NLEComPtr<INLETimeline> other;
+    if (editing.GetNeighbour(&clip, edge, other.put()) != S_OK)
+        return false;
+    const Span own = SpanOf(clip);
+    const Span next = SpanOf(*other);
+    return edge == NLEEdge_Begin ? next.end >= own.begin : next.begin <= own.end;
+}
+
+QVector<Joint> JointsOf(const Project& project, INLETimeline& clip)
+{
+    QVector<Joint> joints;
+    const Span own = SpanOf(clip);
+    NLEComPtr<INLETimelineEnumerator> walk;
+    const auto holder = project.Node().query<INLETimelineComposite>();
+    if (!holder || FAILED(holder->GetEnumerator(0, walk.put())))
+        return joints;
+    for (const NLEComPtr<INLETimeline>& node : NodesOf(*walk)) {
+        if (!node.query<INLETimelineTransition>() || LevelOf(*node) != LevelOf(clip))
+            continue;
+        const Span span = SpanOf(*node);
+        const bool isAtBegin = span.begin <= own.begin && own.begin < span.end;
+        const bool isAtEnd = span.begin < own.end && own.end <= span.end;
+        if (!isAtBegin && !isAtEnd)
+            continue;
+        const NLEClipEdge edge = isAtBegin ? NLEEdge_Begin : NLEEdge_End;
+        joints.append(
+            {node, edge, span.end - span.begin, HasNeighbour(project.Editing(), clip, edge)});
+    }
+    return joints;
+}
+
+QVector<INLETimeline*> OthersOfGroup(INLEEditing& editing, INLETimeline& clip)
+{
+    QVector<INLETimeline*> others;
+    NLEComPtr<INLETimelineEnumerator> walk;
+    if (FAILED(editing.GetGroup(&clip, walk.put())))
+        return others;
+    for (const NLEComPtr<INLETimeline>& member : NodesOf(*walk)) {
+        if (member.get() != &clip)
+            others.append(member.get()); // the project holds it
+    }
+    return others;
+}
+
+/// Puts a copy of a transition on the same edge of \a clip, if its neighbour is still there.
+void PutAgain(INLEEditing& editing, const Joint& joint, INLETimeline& clip)
+{
+    NLEComPtr<INLETimeline> copy;
+    if (HasNeighbour(editing, clip, joint.edge) == joint.hasNeighbour &&
+        SUCCEEDED(joint.transition->Clone(true, copy.put())))
+        PutTransition(editing, copy.get(), &clip, joint.edge, joint.frames);
+}
+
 } // namespace
 
 bool ClipActions::AddTransition(Project& project, Selection& selection,
@@ -120,15 +185,30 @@ bool ClipActions::AddTitle(Project& project, Selection& selection, const QString
 bool ClipActions::SetSpeed(Project& project, Selection& selection,
                            const NLEComPtr<INLETimeline>& clip, double speed)
 {
-    const auto copy = AtSpeed(clip, speed);
-    const int begin = SpanOf(*clip).begin;
-    const int level = LevelOf(*clip);
+    NLEComPtr<INLETimeline> copy;
     // The history knows nodes that come and go; a speed that changes under it would empty it.
     const auto replace = [&](INLEEditing& editing) {
-        const HRESULT removed = editing.Delete(clip.get(), NLEEdit_Alone);
-        return FAILED(removed) ? removed : editing.Place(copy.get(), begin, level, 0);
+        QVector<INLETimeline*> group = OthersOfGroup(editing, *clip);
+        const QVector<Joint> joints = JointsOf(project, *clip);
+        // Clips that overlap meet in the middle of it then.
+        for (const Joint& joint : joints)
+            editing.Delete(joint.transition.get(), NLEEdit_Alone);
+        copy = AtSpeed(clip, speed);
+        if (!copy)
+            return E_FAIL;
+        const int begin = SpanOf(*clip).begin;
+        const int level = LevelOf(*clip);
+        HRESULT result = editing.Delete(clip.get(), NLEEdit_Alone);
+        if (SUCCEEDED(result))
+            result = editing.Place(copy.get(), begin, level, 0);
+        if (FAILED(result))
+            return result;
+        for (const Joint& joint : joints)
+            PutAgain(editing, joint, *copy);
+        group.append(copy.get());
+        return group.size() > 1 ? editing.Group(group.data(), group.size()) : S_OK;
     };
-    if (!copy || !project.Edit(Tr(QT_TRANSLATE_NOOP("ClipActions", "Change speed")), replace))
+    if (!project.Edit(Tr(QT_TRANSLATE_NOOP("ClipActions", "Change speed")), replace))
         return false;
     selection.Set({copy});
     return true;

@@ -22,7 +22,8 @@ bool AddTransition(Project& project, Selection& selection, const NLEComPtr<INLET
 /// Places a title of \a text at \a frame, above all that plays while it does, and selects it.
 bool AddTitle(Project& project, Selection& selection, const QString& text, int frame);
 /// Plays \a clip \a speed times as fast, with the same material: it becomes shorter or longer, and
-/// is another node, without transitions and outside of its groups, that is selected then.
+/// is another node, that is selected then. It is grouped with the clips that the former one was
+/// grouped with, and has its transitions, but for one to a neighbour that it no longer meets.
 bool SetSpeed(Project& project, Selection& selection, const NLEComPtr<INLETimeline>& clip,
               double speed);
 
