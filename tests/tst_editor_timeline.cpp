@@ -659,6 +659,25 @@ private Q_SLOTS:
         QCOMPARE(header->accessibleName(), QString("Level 2"));
     }
 
+    void aHeaderTakesItsEmptyLevelAway()
+    {
+        Editor editor(*m_engine, "a0+20");
+        const auto levels = [&] { return editor.View().Geometry().levels.Count(); };
+        const int before = levels();
+        editor.project.Edit("Name", [&](INLEEditing&) {
+            return editor.project.Levels()->SetName(before, L"Empty");
+        });
+        QCOMPARE(levels(), before + 1);
+        auto* header = HeaderOf(editor, "Empty");
+        QVERIFY(header);
+        auto* name = header->findChild<QLineEdit*>();
+        name->clear();
+        QTest::keyClick(name, Qt::Key_Return);
+        QCOMPARE(levels(), before);
+        editor.project.Steps().undo();
+        QCOMPARE(levels(), before + 1);
+    }
+
     void headersLockAndResize()
     {
         Editor editor(*m_engine, "a0+20 / b0+20");

@@ -47,8 +47,12 @@ void LevelHeaders::Arrange(int scrolled)
     m_scrolled = scrolled;
     constexpr int strip = TimelineGeometry::kStripHeight;
     m_area->setGeometry(0, strip, width(), height() - strip);
-    while (m_headers.size() > m_levels.Count())
-        delete m_headers.takeLast();
+    while (m_headers.size() > m_levels.Count()) {
+        // It may be what was just clicked.
+        LevelHeader* gone = m_headers.takeLast();
+        gone->hide();
+        gone->deleteLater();
+    }
     while (m_headers.size() < m_levels.Count())
         m_headers << Make(m_headers.size());
     // The tab key goes down the levels.
