@@ -115,8 +115,11 @@ void BinModel::TakeFiles()
         m_items.removeAt(row);
         endRemoveRows();
     }
+    QHash<QString, int> rows;
+    for (int row = 0; row < m_items.size(); ++row)
+        rows.insert(m_items[row].entry.path, row);
     for (const QString& file : files) {
-        int row = RowOf(file);
+        int row = rows.value(file, -1);
         if (row < 0) {
             row = m_items.size();
             beginInsertRows({}, row, row);

@@ -7,9 +7,10 @@
 #include "Host/Editor/Model/Project.h"
 
 #include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
-#include <set>
+#include <utility>
 
 namespace {
 
@@ -124,23 +125,26 @@ void MediaBin::Collect()
     const QString folder = path.isEmpty() ? QString() : QFileInfo(path).absolutePath();
     m_entries = ReadBinEntries(*m_project.Node(), folder);
     m_clips = FindClips(m_project.Node());
-    QStringList files;
-    for (const BinEntry& entry : m_entries)
-        files << entry.path;
+    m_files.clear();
+    m_places.clear();
+    for (const BinEntry& entry : m_entries) {
+        if (!m_places.contains(entry.path))
+            m_places.insert(entry.path, m_files.size());
+        m_files << entry.path;
+    }
     QStringList used = m_clips.keys();
     used.sort(); // a hash has no order
     for (const QString& file : used) {
-        if (!files.contains(file))
-            files << file;
+        if (!m_places.contains(file))
+            m_files << file;
     }
-    m_files = files;
     Q_EMIT Changed();
 }
 
 BinEntry MediaBin::Entry(const QString& file) const
 {
-    const int index = FindEntry(m_entries, file);
-    return index < 0 ? BinEntry{file, {}, BinEntry::kNoMarks} : m_entries[index];
+    const auto place = m_places.find(file);
+    return place == m_places.end() ? BinEntry{file, {}, BinEntry::kNoMarks} : m_entries[*place];
 }
 
 bool MediaBin::ChangeEntries(const QString& text, const BinEntries& entries)
@@ -154,9 +158,12 @@ bool MediaBin::ChangeEntries(const QString& text, const BinEntries& entries)
 bool MediaBin::Add(const QStringList& files)
 {
     BinEntries entries = m_entries;
+    QSet<QString> added;
     for (const QString& file : files) {
-        if (FindEntry(entries, file) < 0)
-            entries.append({file, {}, BinEntry::kNoMarks});
+        if (m_places.contains(file) || added.contains(file))
+            continue;
+        added.insert(file);
+        entries.append({file, {}, BinEntry::kNoMarks});
     }
     return entries.size() > m_entries.size() && ChangeEntries(tr("Add media"), entries);
 }

@@ -63,6 +63,7 @@ private:
     Project& m_project;
     QTimer m_collectTimer; ///< an edit and what follows from it are looked at once
     BinEntries m_entries;
+    QHash<QString, int> m_places; ///< of the entries, by their files
     ClipsByFile m_clips;
     QStringList m_files;
 };

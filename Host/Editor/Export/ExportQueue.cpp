@@ -68,9 +68,8 @@ const ExportQueue::Job* ExportQueue::Find(int number) const
 
 ExportQueue::Job* ExportQueue::Get(int number)
 {
-    const auto isIt = [number](const Job& job) { return job.number == number; };
-    const auto found = std::find_if(m_jobs.begin(), m_jobs.end(), isIt);
-    return found == m_jobs.end() ? nullptr : &*found;
+    const Job* job = Find(number);
+    return job ? &m_jobs[int(job - m_jobs.constData())] : nullptr;
 }
 
 bool ExportQueue::IsBusy() const

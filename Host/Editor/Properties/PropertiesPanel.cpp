@@ -47,6 +47,7 @@ PropertiesPanel::PropertiesPanel(Project& project, Selection& selection, MediaPl
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, 0);
     m_title->setObjectName(QStringLiteral("CommonLib_Title"));
+    m_title->setIndent(kMargin / 2); // as the sections below
     column->addWidget(m_title);
     column->addWidget(m_scroll, 1);
     m_scroll->setWidgetResizable(true);

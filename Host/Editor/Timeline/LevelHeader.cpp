@@ -10,6 +10,7 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -62,7 +63,7 @@ LevelHeader::LevelHeader(int level, QWidget* parent)
 
 void LevelHeader::SetTexts()
 {
-    const QString preset = tr("Level %1").arg(m_level + 1);
+    const QString preset = tr("Level %1").arg(locale().toString(m_level + 1));
     const QString name = m_given.isEmpty() ? preset : m_given;
     const auto call = [&name](QWidget* widget, const QString& title) {
         widget->setToolTip(title);
