@@ -392,16 +392,16 @@ private slots:
     /// On a layer that is smaller than its parent the shadow lies beside it, at its place.
     void shadowOutsideOfTheClip()
     {
-        SmallProject small;
-        small.clip->Transform().settings.scale = {0.5, 0.5};
-        const QImage plain = small.Frame(0);
-        const auto effect = small.AddEffect("drop-shadow");
+        SmallProject film;
+        film.clip->Transform().settings.scale = {0.5, 0.5};
+        const QImage plain = film.Frame(0);
+        const auto effect = film.AddEffect("drop-shadow");
         effect->Parameters().SetNumber(L"x", 16);
         effect->Parameters().SetNumber(L"y", 8);
         effect->Parameters().SetNumber(L"blur", 0);
         effect->Parameters().SetNumber(L"opacity", 1);
         effect->Parameters().SetNumber(L"color", 0xFF00FF00);
-        const QImage found = small.Frame(0);
+        const QImage found = film.Frame(0);
         QCOMPARE(found.copy(16, 9, 32, 18), plain.copy(16, 9, 32, 18));
         // Half as large as the clip, so half as far away.
         QCOMPARE(found.pixel(55, 30), qRgb(0, 255, 0));
@@ -518,8 +518,8 @@ private slots:
     {
         QFETCH(int, interpolation);
         QFETCH(double, quarter);
-        SmallProject small;
-        const auto effect = small.AddEffect("saturation");
+        SmallProject film;
+        const auto effect = film.AddEffect("saturation");
         ParameterFacet& parameters = effect->Parameters();
         const NLEParameterKeyFrame first = {0.2, 1, interpolation, 0};
         const NLEParameterKeyFrame second = {0.6, 3, interpolation, 0};
@@ -535,17 +535,16 @@ private slots:
         }
         // Trimmed, it stays with frame 40; at half of the speed with that of frame 40.
         const NLERange range = {40, 119};
-        small.clip->SetRange(&range);
+        film.clip->SetRange(&range);
         NLEParameterKeyFrame key = {};
         QCOMPARE(parameters.GetKeyFrame(L"saturation", 0, &key), S_OK);
         QCOMPARE(key.time, 0.0);
-        small.clip->Bag().SetRational(NLEKey::Speed::kScale, {1, 2});
-        small.clip->Bag().SetInt(NLEKey::Speed::kEnabled, 1);
+        film.clip->Bag().SetRational(NLEKey::Speed::kScale, {1, 2});
+        film.clip->Bag().SetInt(NLEKey::Speed::kEnabled, 1);
+        QCOMPARE(ParametersAt(*film.clip->MakeSnapshot()->effects.front(), 80).Number("saturation"),
+                 1.0);
         QCOMPARE(
-            ParametersAt(*small.clip->MakeSnapshot()->effects.front(), 80).Number("saturation"),
-            1.0);
-        QCOMPARE(
-            ParametersAt(*small.clip->MakeSnapshot()->effects.front(), 240).Number("saturation"),
+            ParametersAt(*film.clip->MakeSnapshot()->effects.front(), 240).Number("saturation"),
             3.0);
     }
 
@@ -561,18 +560,18 @@ private slots:
     /// A change of a key frame is a change of those frames that the value differs in.
     void chunksThatAChangeShowsIn()
     {
-        SmallProject small;
-        const KeySet plain = small.Keys();
-        const auto effect = small.AddEffect("exposure");
+        SmallProject film;
+        const KeySet plain = film.Keys();
+        const auto effect = film.AddEffect("exposure");
         for (const auto& [frame, value] : {std::pair(0, 0.0), {70, 1.0}, {80, 1.0}, {149, 0.0}}) {
             const NLEParameterKeyFrame key = {frame / double(kFrames), value, 1, 0};
             QCOMPARE(effect->Parameters().PutKeyFrame(L"exposure", &key, nullptr), S_OK);
         }
-        const auto before = small.Chunks();
+        const auto before = film.Chunks();
         QVERIFY(plain.count(before.front().second) == 0);
         const NLEParameterKeyFrame key = {80.0 / kFrames, 2, 1, 0};
         QCOMPARE(effect->Parameters().PutKeyFrame(L"exposure", &key, nullptr), S_OK);
-        const auto after = small.Chunks();
+        const auto after = film.Chunks();
         QCOMPARE(after.size(), before.size());
         for (std::size_t i = 0; i < after.size(); ++i) {
             const int last = i + 1 < after.size() ? after[i + 1].first - 1 : kFrames - 1;
@@ -581,20 +580,20 @@ private slots:
                      qPrintable(QString::number(after[i].first)));
         }
         effect->SetEnabled(false);
-        QVERIFY(small.Keys() == plain);
+        QVERIFY(film.Keys() == plain);
     }
 
     /// The project's own effects show in all of its frames, and in a plain picture too.
     void effectsOfAProject()
     {
-        SmallProject small;
-        const KeySet plain = small.Keys();
+        SmallProject film;
+        const KeySet plain = film.Keys();
         const auto effect = MakeCom<EffectNode>(FindEffect("exposure")->declaration);
-        QCOMPARE(small.project->Effects().AddEffect(effect.get(), -1), S_OK);
-        QVERIFY(small.Keys() != plain);
+        QCOMPARE(film.project->Effects().AddEffect(effect.get(), -1), S_OK);
+        QVERIFY(film.Keys() != plain);
         QCOMPARE(effect->Parameters().SetNumber(L"exposure", 1), S_OK);
         const double gain = std::exp2(1 / 2.2);
-        const QRgb pixel = small.Frame(3).pixel(5, 5);
+        const QRgb pixel = film.Frame(3).pixel(5, 5);
         QVERIFY(std::abs(qRed(pixel) - 0x80 * gain) <= 1 &&
                 std::abs(qBlue(pixel) - 0x20 * gain) <= 1);
     }

@@ -353,7 +353,7 @@ private slots:
         const Param right = {0.6, 0, 1, {0.25, -0.25}, {0.5, 0.5}};
         const Param wide = {0.6, 0, 1, {-0.25, 0.25}, {1, 0.1}};
         const Param turned = {0, -90, 1, {}, {0.5, 0.5}};
-        const Param far = {0, 1e308, 1, {1e308, 1e308}, {1e308, 1e308}};
+        const Param huge = {0, 1e308, 1, {1e308, 1e308}, {1e308, 1e308}};
         row("before the first", left, right, 0, {0, 0, 160, 90});
         row("between two", left, right, 50, {120, 68, 160, 90});
         row("after the last", left, right, 99, {160, 90, 160, 90});
@@ -362,7 +362,7 @@ private slots:
         row("one that appears", {0, 0, 0}, {1}, 60, kPicture, 153);
         row("an opacity of more than all", {0, 0, 5}, {1, 0, 7}, 25, kPicture);
         row("an opacity of less than nothing", {0, 0, -1}, right, 0, {});
-        row("numbers near the largest", far, {1, -1e308, 1, {-1e308, 0}, {-1e308, 1}}, 10, {});
+        row("numbers near the largest", huge, {1, -1e308, 1, {-1e308, 0}, {-1e308, 1}}, 10, {});
     }
 
     void keyFrames()

@@ -6,13 +6,12 @@
 #include "EngineApi/INLETransform.h"
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
+#include "tests/support/FileSizeLimit.h"
 
 #include <thread>
 
 #ifndef Q_OS_WIN
-#include <csignal>
 #include <sched.h>
-#include <sys/resource.h>
 #endif
 
 namespace Key = NLEKey::Encode;
@@ -519,9 +518,6 @@ private slots:
 
     void fullDiskEndsIt()
     {
-#ifdef Q_OS_WIN
-        QSKIP("no limit of a file's size");
-#else
         QTemporaryDir place;
         const QString path = place.filePath("full.mkv");
         QFile old(path);
@@ -531,17 +527,12 @@ private slots:
         const auto options = encoder.query<INLEEncodeOptions>();
         QCOMPARE(options->SetOptions(Options({"VideoCodec=ffv1"}).get()), S_OK);
         QCOMPARE(encoder->Open(OneClip().get(), path.toStdWString().c_str(), nullptr), S_OK);
-        std::signal(SIGXFSZ, SIG_IGN);
-        rlimit before = {};
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit tight = {10000, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &tight);
-        const HRESULT result = encoder->Encode(nullptr, nullptr);
-        setrlimit(RLIMIT_FSIZE, &before);
-        QCOMPARE(result, E_FAIL);
+        {
+            const FileSizeLimit full(10000);
+            QCOMPARE(encoder->Encode(nullptr, nullptr), E_FAIL);
+        }
         QCOMPARE(Contents(path), QByteArray("precious"));
         QCOMPARE(QDir(place.path()).entryList(QDir::Files | QDir::Hidden), QStringList("full.mkv"));
-#endif
     }
 };
 

@@ -67,9 +67,9 @@ private:
     void MakeCard() const
     {
         QVERIFY(QDir(m_folder.path()).mkpath("card"));
-        QFile small(m_folder.filePath("card/a.mov"));
-        QVERIFY(small.open(QIODevice::WriteOnly));
-        QCOMPARE(small.write("clip"), 4);
+        QFile smallFile(m_folder.filePath("card/a.mov"));
+        QVERIFY(smallFile.open(QIODevice::WriteOnly));
+        QCOMPARE(smallFile.write("clip"), 4);
         QFile sparse(Large());
         QVERIFY(sparse.open(QIODevice::WriteOnly));
         QVERIFY(sparse.resize(kLargeSize));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/MultiLangMgr.h"
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/TestFonts.h"
 
 #include <QApplication>
@@ -10,11 +11,6 @@
 
 #include <functional>
 #include <utility>
-
-#ifdef Q_OS_UNIX
-#include <csignal>
-#include <sys/resource.h>
-#endif
 
 namespace {
 
@@ -301,21 +297,19 @@ private Q_SLOTS:
         QCOMPARE(Shown(1), QString("deutsch 1"));
     }
 
-#ifdef Q_OS_UNIX
     void fullDiskKeepsTheFileAndSelects()
     {
         const QByteArray old = "[System]\nDefInstallLang=JPN\nProductID=old\n";
-        const rlimit none{0, RLIM_INFINITY};
-        const rlimit all{RLIM_INFINITY, RLIM_INFINITY};
-        std::signal(SIGXFSZ, SIG_IGN);
         QVERIFY(TestFonts::Write(m_ini, old));
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &none), 0); // as on a full disk
-        Manager()->SetLangLocale(Language_German);
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &all), 0);
+        {
+            const FileSizeLimit full(0);
+            Manager()->SetLangLocale(Language_German);
+        }
         QCOMPARE(TestFonts::Read(m_ini), old);
         QCOMPARE(Shown(), QString("deutsch 0"));
     }
 
+#ifdef Q_OS_UNIX
     void fileThatReadsForEver()
     {
         QVERIFY(QFile::link("/dev/zero", m_ini));

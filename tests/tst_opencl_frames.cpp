@@ -123,7 +123,7 @@ private slots:
         QCOMPARE(frame.device->Unmap(), S_FALSE);
         QCOMPARE(frame.device->Map(0, &pixels), E_INVALIDARG);
         QCOMPARE(frame.host->GetData(&pixels), S_OK);
-        QVERIFY(std::all_of(pixels, pixels + 128, [](int byte) { return byte == 0; }));
+        QVERIFY(std::all_of(pixels, pixels + 128, [](int value) { return value == 0; }));
         std::fill_n(pixels, 128, std::uint8_t(7));
         QCOMPARE(frame.host->GetData(&again), S_OK);
         QCOMPARE(again, pixels);

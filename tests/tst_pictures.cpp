@@ -260,20 +260,20 @@ private Q_SLOTS:
         QTest::addColumn<bool>("isKeptWhole");
         QTest::addColumn<QList<QSize>>("shown");
         QTest::addColumn<int>("reads");
-        const QSize small(100, 100);
+        const QSize own(100, 100);
         const QSize smaller(50, 40);
-        QTest::newRow("the same size again") << small << true << QList<QSize>{small, small} << 1;
+        QTest::newRow("the same size again") << own << true << QList<QSize>{own, own} << 1;
         QTest::newRow("other sizes come from the whole picture")
-            << small << true << QList<QSize>{smaller, small, QSize(10, 10), smaller} << 1;
+            << own << true << QList<QSize>{smaller, own, QSize(10, 10), smaller} << 1;
         QTest::newRow("what is drawn is drawn anew at each size")
-            << small << false << QList<QSize>{smaller, small, smaller} << 2;
+            << own << false << QList<QSize>{smaller, own, smaller} << 2;
         // Half of the room holds 200 x 125 pixels.
         QTest::newRow("a picture without room is kept at half its size")
             << QSize(400, 200) << true << QList<QSize>{QSize(20, 10), QSize(30, 15), QSize(20, 10)}
             << 1;
         QTest::newRow("what was used longest ago goes first")
-            << small << false << QList<QSize>{QSize(100, 100), QSize(99, 100),  QSize(100, 100),
-                                              QSize(98, 100),  QSize(100, 100), QSize(99, 100)}
+            << own << false << QList<QSize>{QSize(100, 100), QSize(99, 100),  QSize(100, 100),
+                                            QSize(98, 100),  QSize(100, 100), QSize(99, 100)}
             << 4;
     }
 

@@ -4,6 +4,7 @@
 #include "NLECore/render/LevelMeter.h"
 #include "NLECore/render/PlayPlan.h"
 
+#include <QtMath>
 #include <QtTest>
 
 #include <cmath>

@@ -327,8 +327,8 @@ private slots:
             screening.player->SetMute(isMute);
             screening.player->Seek(rate > 0 ? 10 : 40);
             screening.player->Play(rate);
-            const int far = rate > 0 ? 22 : 28;
-            QTRY_VERIFY_WITH_TIMEOUT((screening.Position() - far) * rate > 0, kPatience);
+            const int later = rate > 0 ? 22 : 28;
+            QTRY_VERIFY_WITH_TIMEOUT((screening.Position() - later) * rate > 0, kPatience);
             screening.player->GetLevels(&levels);
             screening.player->Pause();
         }

@@ -207,7 +207,7 @@ private slots:
             video->SetProxyEnabled(true);
         };
         static const NLEPointF aside = {0.2, 0.7};
-        static const NLESizeF small = {0.3, 0.6};
+        static const NLESizeF slight = {0.3, 0.6};
         const auto background = NLEKey::Render::kRender_BackgroundColor;
         row("file", [this](Kinds& k) { Replace(k, k.media, Media(m_tall)); });
         row("margin", [](Kinds& k) { k.colour->SetMarginMode(NLEMargin_Stretch); });
@@ -224,7 +224,7 @@ private slots:
         row("blend mode", [](Kinds& k) { k.colour.query<INLEBlendSetting>()->SetMode(1); });
         row("alpha", [](Kinds& k) { k.media.query<INLEBlendSetting>()->SetAlpha(90); });
         row("centre", [](Kinds& k) { k.text.query<INLETransform>()->SetCenter(&aside); });
-        row("scale", [](Kinds& k) { k.media.query<INLETransform>()->SetScale(&small); });
+        row("scale", [](Kinds& k) { k.media.query<INLETransform>()->SetScale(&slight); });
         row("rotation", [](Kinds& k) { k.media.query<INLETransform>()->SetRotation(45); });
         row("colour", [this](Kinds& k) { Replace(k, k.colour, Colour(Qt::blue, QSize(64, 64))); });
         row("size", [this](Kinds& k) { Replace(k, k.colour, Colour(Qt::red, QSize(32, 64))); });

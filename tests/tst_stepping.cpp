@@ -285,9 +285,9 @@ private slots:
     {
         QTest::addColumn<QVector<int>>("shown"); // before
         QTest::addColumn<int>("frame");
-        QTest::addColumn<int>("near");
-        const auto row = [](const char* title, QVector<int> shown, int frame, int near) {
-            QTest::newRow(title) << shown << frame << near;
+        QTest::addColumn<int>("nearest");
+        const auto row = [](const char* title, QVector<int> shown, int frame, int nearest) {
+            QTest::newRow(title) << shown << frame << nearest;
         };
         row("at first, the key frame before", {}, 77, 50);
         row("far ahead, the key frame before", {10}, 140, 100);
@@ -303,13 +303,13 @@ private slots:
     {
         QFETCH(QVector<int>, shown);
         QFETCH(int, frame);
-        QFETCH(int, near);
+        QFETCH(int, nearest);
         const auto decoder = OpenLong();
         for (const int before : shown)
             decoder->Picture(before, kThumbnail);
-        bool isExact = frame != near;
-        QCOMPARE(ReadFrameNumber(decoder->NearPicture(frame, kThumbnail, &isExact)), near);
-        QCOMPARE(isExact, frame == near);
+        bool isExact = frame != nearest;
+        QCOMPARE(ReadFrameNumber(decoder->NearPicture(frame, kThumbnail, &isExact)), nearest);
+        QCOMPARE(isExact, frame == nearest);
         QCOMPARE(ReadFrameNumber(decoder->Picture(frame, kThumbnail)), frame);
     }
 
@@ -334,9 +334,10 @@ private slots:
         for (int i = 0; i < 150; ++i) {
             frame = (frame + kFrames + int(generator() % 81) - 40) % kFrames;
             bool isExact = false;
-            const int near = ReadFrameNumber(decoder->NearPicture(frame, kThumbnail, &isExact));
-            const bool isRight = isExact ? near == frame : std::abs(near - frame) <= farthest;
-            QVERIFY2(near >= 0 && isRight, qPrintable(QString("%1 for %2").arg(near).arg(frame)));
+            const int nearest = ReadFrameNumber(decoder->NearPicture(frame, kThumbnail, &isExact));
+            const bool isRight = isExact ? nearest == frame : std::abs(nearest - frame) <= farthest;
+            QVERIFY2(nearest >= 0 && isRight,
+                     qPrintable(QString("%1 for %2").arg(nearest).arg(frame)));
             if (i % 3 != 0)
                 QCOMPARE(ReadFrameNumber(decoder->Picture(frame, kThumbnail)), frame);
         }

@@ -9,6 +9,7 @@
 
 #include <QFontDatabase>
 #include <QPainter>
+#include <QtMath>
 
 #include <functional>
 #include <map>
@@ -482,11 +483,11 @@ private slots:
         const Node project = ProjectWith(
             Trimmed(Title("Wide lines of letters that wrap", numbers, "DejaVu Sans"), 0, 49));
         const QImage large = Frame(project, 25, NLEOpen_Render, {1280, 720});
-        const QImage small = Frame(project, 25, NLEOpen_Render, {640, 360});
+        const QImage reduced = Frame(project, 25, NLEOpen_Render, {640, 360});
         const QImage scaled =
-            large.scaled(small.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        QVERIFY(Ink(small).width() > 100);
-        const double likeness = Psnr(scaled.convertToFormat(small.format()), small);
+            large.scaled(reduced.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        QVERIFY(Ink(reduced).width() > 100);
+        const double likeness = Psnr(scaled.convertToFormat(reduced.format()), reduced);
         QVERIFY2(likeness > 30, qPrintable(QString::number(likeness)));
     }
 

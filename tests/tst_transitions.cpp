@@ -180,17 +180,17 @@ private slots:
         };
         row("a soft edge by a key frame", "wipe", halfAndKeyed, 30,
             {{{160, 90}, Mixed(kFrom, kTo, 0.5)}});
-        const auto small = [](const Pair& pair) {
+        const auto isSmall = [](const Pair& pair) {
             const NLESizeF half = {0.5, 0.5};
             pair.from.query<INLETransform>()->SetScale(&half);
         };
-        row("a push moves both", "push", small, 25,
+        row("a push moves both", "push", isSmall, 25,
             {{{70, 90}, kTo}, {{90, 90}, kNothing}, {{170, 90}, kFrom}, {{310, 90}, kFrom}});
-        row("a slide moves the second", "slide", small, 25,
+        row("a slide moves the second", "slide", isSmall, 25,
             {{{70, 90}, kTo}, {{90, 90}, kFrom}, {{230, 90}, kFrom}, {{250, 90}, kNothing}});
         row("a zoom lets it grow", "zoom", Nothing(), 30,
             {{middle, kTo}, {{90, 50}, kTo}, {{70, 90}, kFrom}, {{160, 40}, kFrom}});
-        row("transforms go on under it", "dissolve", small, 30,
+        row("transforms go on under it", "dissolve", isSmall, 30,
             {{middle, Mixed(kFrom, kTo, 0.5)}, {{20, 20}, Mixed(kNothing, kTo, 0.5)}});
         const auto faint = [](const Pair& pair) {
             pair.to.query<INLEBlendSetting>()->SetAlpha(51);

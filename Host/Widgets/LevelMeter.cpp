@@ -70,12 +70,12 @@ QColor ZoneColor(const Zone& zone, const QPalette& palette)
 
 QFont NumberFont(const QFont& font)
 {
-    QFont small(font);
+    QFont smallFont(font);
     if (font.pointSizeF() > 0)
-        small.setPointSizeF(font.pointSizeF() * kNumberSize);
+        smallFont.setPointSizeF(font.pointSizeF() * kNumberSize);
     else
-        small.setPixelSize(std::max(1, int(font.pixelSize() * kNumberSize)));
-    return small;
+        smallFont.setPixelSize(std::max(1, int(font.pixelSize() * kNumberSize)));
+    return smallFont;
 }
 
 /// A channel's bar up to \a decibels, in the colours of the scale.

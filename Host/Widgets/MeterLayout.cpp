@@ -67,10 +67,10 @@ double MeterLayout::Across(int channel) const
 
 QRectF MeterLayout::Bar(int channel, double from, double to) const
 {
-    const double near = Across(channel);
-    const double thickness = Across(channel + 1) - kGap - near;
-    return isUpright ? QRectF(bars.left() + near, bars.bottom() - to, thickness, to - from)
-                     : QRectF(bars.left() + from, bars.top() + near, to - from, thickness);
+    const double start = Across(channel);
+    const double thickness = Across(channel + 1) - kGap - start;
+    return isUpright ? QRectF(bars.left() + start, bars.bottom() - to, thickness, to - from)
+                     : QRectF(bars.left() + from, bars.top() + start, to - from, thickness);
 }
 
 QRectF MeterLayout::Mark(int channel) const

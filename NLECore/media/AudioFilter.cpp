@@ -7,6 +7,10 @@
 #include <cmath>
 #include <vector>
 
+extern "C" {
+#include <libavfilter/avfilter.h>
+}
+
 namespace nle {
 
 namespace {
@@ -123,6 +127,11 @@ AudioFilter::AudioFilter(Automation filterAt, int sampleRate, int channels, doub
 }
 
 AudioFilter::~AudioFilter() = default;
+
+bool AudioFilter::IsThere(const char* name)
+{
+    return avfilter_get_by_name(name) != nullptr;
+}
 
 void AudioFilter::Read(std::int64_t first, int count, const Source& source, float* samples)
 {

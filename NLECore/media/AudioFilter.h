@@ -47,6 +47,8 @@ public:
     AudioFilter(const AudioFilter&) = delete;
     AudioFilter& operator=(const AudioFilter&) = delete;
 
+    /// Whether this build of libavfilter has a filter of that name.
+    static bool IsThere(const char* name);
     /// Samples for which options stay as they are: ten milliseconds.
     static int BlockLength(int sampleRate) { return sampleRate < 100 ? 1 : sampleRate / 100; }
 

@@ -148,21 +148,21 @@ Color CubeTable::AtCube(const Color& color) const
     // From the corner with the least of all to that with the most, along the largest share first.
     std::size_t large = 0;
     std::size_t middle = 1;
-    std::size_t small = 2;
+    std::size_t least = 2;
     if (shares[large] < shares[middle])
         std::swap(large, middle);
-    if (shares[middle] < shares[small])
-        std::swap(middle, small);
+    if (shares[middle] < shares[least])
+        std::swap(middle, least);
     if (shares[large] < shares[middle])
         std::swap(large, middle);
     const Color& first = m_entries[entry];
     const Color& second = m_entries[entry += steps[large]];
     const Color& third = m_entries[entry += steps[middle]];
-    const Color& fourth = m_entries[entry + steps[small]];
+    const Color& fourth = m_entries[entry + steps[least]];
     Color result;
     for (std::size_t i = 0; i < result.size(); ++i)
         result[i] = first[i] * (1 - shares[large]) + second[i] * (shares[large] - shares[middle]) +
-                    third[i] * (shares[middle] - shares[small]) + fourth[i] * shares[small];
+                    third[i] * (shares[middle] - shares[least]) + fourth[i] * shares[least];
     return result;
 }
 

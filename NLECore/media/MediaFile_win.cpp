@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/MediaFile_p.h"
 
-#include <QDir>
-#include <QFileInfo>
+#include "NLECore/media/SystemPath_p.h"
 
 #include <memory>
 
@@ -21,17 +20,6 @@ std::int64_t Nanoseconds(const LARGE_INTEGER& time)
 {
     constexpr std::int64_t stepsTo1970 = 116444736000000000;
     return (time.QuadPart - stepsTo1970) * 100;
-}
-
-// Without a limit of its length.
-std::wstring SystemPath(const QString& path)
-{
-    const QString name =
-        QDir::toNativeSeparators(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
-    const QString unlimited = name.startsWith(QLatin1String("\\\\"))
-                                  ? QLatin1String("\\\\?\\UNC\\") + name.mid(2)
-                                  : QLatin1String("\\\\?\\") + name;
-    return unlimited.toStdWString();
 }
 
 } // namespace

@@ -44,11 +44,8 @@ struct Orientation
 };
 
 // Quarter turns and mirrors of the matrix that maps coded to displayed positions.
-Orientation ReadDisplayMatrix(const AVStream* stream)
+Orientation OfMatrix(const std::uint8_t* data, size_t size)
 {
-    size_t size = 0;
-    const std::uint8_t* const data =
-        av_stream_get_side_data(stream, AV_PKT_DATA_DISPLAYMATRIX, &size);
     if (data == nullptr || size < 9 * sizeof(std::int32_t))
         return {};
     const auto* const matrix = reinterpret_cast<const std::int32_t*>(data);
@@ -65,9 +62,41 @@ Orientation ReadDisplayMatrix(const AVStream* stream)
     return {isClockwise ? 90 : 270, isMirrored};
 }
 
-// Cameras write the orientation of a still picture into its EXIF block.
+Orientation ReadDisplayMatrix(const AVStream* stream)
+{
+    size_t size = 0;
+    const std::uint8_t* const data =
+        av_stream_get_side_data(stream, AV_PKT_DATA_DISPLAYMATRIX, &size);
+    return OfMatrix(data, size);
+}
+
+// By decoding the picture.
+Orientation DecodeOrientation(const QString& path)
+{
+    const std::unique_ptr<MediaFile> file =
+        MediaFile::Open(path, MediaFile::Streams::AsDeclared, nullptr);
+    if (!file || file->Context()->nb_streams != 1)
+        return {};
+    const CodecPtr codec = OpenCodec(file->Context()->streams[0], 1, path, nullptr);
+    const PacketPtr packet(av_packet_alloc());
+    const FramePtr frame(av_frame_alloc());
+    if (!codec || !packet || !frame || av_read_frame(file->Context(), packet.get()) < 0 ||
+        avcodec_send_packet(codec.get(), packet.get()) < 0 ||
+        avcodec_send_packet(codec.get(), nullptr) < 0 ||
+        avcodec_receive_frame(codec.get(), frame.get()) < 0)
+        return {};
+    const AVFrameSideData* const matrix =
+        av_frame_get_side_data(frame.get(), AV_FRAME_DATA_DISPLAYMATRIX);
+    return matrix ? OfMatrix(matrix->data, matrix->size) : Orientation();
+}
+
+// Cameras write the orientation of a still picture into its EXIF block, which Qt reads faster where
+// it knows the format.
 Orientation ReadExifOrientation(const QString& path)
 {
+    static const bool isKnown = QImageReader::supportedImageFormats().contains("jpeg");
+    if (!isKnown)
+        return DecodeOrientation(path);
     const QImageIOHandler::Transformations turn = QImageReader(path, "jpeg").transformation();
     const bool isFlipped = turn.testFlag(QImageIOHandler::TransformationFlip);
     Orientation result;

@@ -9,6 +9,7 @@
 #include "NLECore/media/PictureSequence_p.h"
 #include "NLECore/media/PlainThreads_p.h"
 #include "NLECore/media/Reasons.h"
+#include "NLECore/media/SavedFile_p.h"
 
 #include <QColor>
 #include <QFileInfo>
@@ -58,6 +59,31 @@ struct OutputFreer
 struct FifoFreer
 {
     void operator()(AVAudioFifo* fifo) const { av_audio_fifo_free(fifo); }
+};
+
+/// A file that remembers why it could not be written first: seeking forgets it.
+class WrittenFile : public QSaveFile
+{
+public:
+    using QSaveFile::QSaveFile;
+
+    QFileDevice::FileError FirstError() const { return m_error; }
+    QString FirstReason() const { return m_reason; }
+
+protected:
+    qint64 writeData(const char* data, qint64 size) override
+    {
+        const qint64 written = QSaveFile::writeData(data, size);
+        if (written < size && m_error == NoError) {
+            m_error = ErrorOf(*this);
+            m_reason = errorString();
+        }
+        return written;
+    }
+
+private:
+    QFileDevice::FileError m_error = NoError;
+    QString m_reason;
 };
 
 // Without a prototype of its own: whether the data is constant depends on the library's version.
@@ -179,7 +205,7 @@ struct MediaWriter::Private
     WriterSettings settings;
     WriterError error;
     EncodePlan plan;
-    QSaveFile file;
+    WrittenFile file;
     std::unique_ptr<PictureSequence> sequence; ///< in place of the file
     std::unique_ptr<AVIOContext, OutputFreer> output;
     std::unique_ptr<AVFormatContext, FormatFreer> format;
@@ -200,6 +226,8 @@ struct MediaWriter::Private
         if (code >= 0)
             return true;
         const bool isFull = IsFull(code);
+        if (file.FirstError() != QFileDevice::NoError)
+            return Fail(WriterError::Kind::File, file.FirstReason(), isFull);
         return Fail(isFull ? WriterError::Kind::File : WriterError::Kind::Settings,
                     AvErrorText(isFull ? AVERROR(ENOSPC) : code), isFull);
     }
@@ -207,7 +235,8 @@ struct MediaWriter::Private
     /// Whether a call that gave \a code failed as there is no more room.
     bool IsFull(int code) const
     {
-        return code == AVERROR(ENOSPC) || file.error() == QFileDevice::ResourceError;
+        return code == AVERROR(ENOSPC) || file.FirstError() == QFileDevice::ResourceError ||
+               ErrorOf(file) == QFileDevice::ResourceError;
     }
 
     bool Fail(WriterError::Kind kind, const QString& reason, bool isFull = false)
@@ -377,7 +406,7 @@ struct MediaWriter::Private
         if (format->nb_streams == 0)
             return Fail("nothing to write into this container");
         const int code = avformat_write_header(format.get(), nullptr);
-        if (code < 0 && output && output->error < 0)
+        if (code < 0 && output && output->error < 0 && file.FirstError() == QFileDevice::NoError)
             return Fail(WriterError::Kind::File, AvErrorText(output->error), IsFull(code));
         if (!Check(code))
             return false;

@@ -78,8 +78,8 @@ Kind KindOf(const QByteArray& head)
     return IsDrawingHead(head) ? Kind::Drawing : Kind::Other;
 }
 
-std::shared_ptr<const MediaInfo> DescribeStill(const StillFormat& format, const QString& path,
-                                               QString* error)
+[[maybe_unused]] std::shared_ptr<const MediaInfo> DescribeStill(const StillFormat& format,
+                                                                const QString& path, QString* error)
 {
     auto info = std::make_shared<MediaInfo>();
     info->path = path;

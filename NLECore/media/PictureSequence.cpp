@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/PictureSequence_p.h"
 
+#include "NLECore/media/SavedFile_p.h"
+
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
@@ -38,7 +40,7 @@ PictureSequence::PictureSequence(const QString& path) : m_path(path) {}
 bool PictureSequence::Fail(const QFileDevice& file)
 {
     m_error = file.errorString();
-    m_isDiskFull = file.error() == QFileDevice::ResourceError;
+    m_isDiskFull = ErrorOf(file) == QFileDevice::ResourceError;
     return false;
 }
 
@@ -64,11 +66,8 @@ bool PictureSequence::Append(const char* data, int size)
 bool PictureSequence::Commit()
 {
     for (int number = 0; number < m_count; ++number) {
-        const QString target = FileOf(m_path, number);
-        QFile::remove(target);
-        QFile file(FileOf(m_inside, number));
-        if (!file.rename(target))
-            return Fail(file);
+        if (!MoveOver(FileOf(m_inside, number), FileOf(m_path, number), &m_error))
+            return false;
     }
     return true;
 }

@@ -3,6 +3,7 @@
 
 #include "Com/ComGuard.h"
 #include "NLECore/media/EngineLog.h"
+#include "NLECore/media/SavedFile_p.h"
 
 #include <QFileDevice>
 #include <QtGlobal>
@@ -221,7 +222,7 @@ HRESULT RefuseRange(const char* name, double lowest, double highest) noexcept
 
 HRESULT RefuseWriting(HRESULT result, const QString& path, const QFileDevice& file)
 {
-    const bool isFull = file.error() == QFileDevice::ResourceError;
+    const bool isFull = ErrorOf(file) == QFileDevice::ResourceError;
     return Refuse(result, isFull ? NLEReason_DiskFull : NLEReason_NotWritable,
                   path + QStringLiteral(": ") + file.errorString());
 }

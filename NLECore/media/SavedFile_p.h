@@ -12,4 +12,11 @@ inline bool CommitWhole(QSaveFile& file)
     return file.flush() && file.commit();
 }
 
+/// What went wrong with \a file: ResourceError for a full disk on every system.
+QFileDevice::FileError ErrorOf(const QFileDevice& file);
+
+/// Renames \a file, in one step over what is at \a target. False, with what was there before and
+/// the system's words in \a error, when that fails.
+bool MoveOver(const QString& file, const QString& target, QString* error);
+
 } // namespace nle

@@ -39,7 +39,7 @@ QString FilterSum(const DocumentFilter& filter)
     return SumOf(AllTexts(filter));
 }
 
-bool FilterIsAsWritten(const DocumentProperties& properties, const QString& sum)
+bool FilterIsAsWritten(const DocumentFields& properties, const QString& sum)
 {
     DocumentTexts texts;
     for (const QString& name : sum.split(QLatin1Char(' ')).mid(1))

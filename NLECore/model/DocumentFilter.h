@@ -20,6 +20,6 @@ struct DocumentFilter
 QString FilterSum(const DocumentFilter& filter);
 /// Whether a filter with these \a properties says what it did when \a sum was made of it; what
 /// other programs have added does not count.
-bool FilterIsAsWritten(const DocumentProperties& properties, const QString& sum);
+bool FilterIsAsWritten(const DocumentFields& properties, const QString& sum);
 
 } // namespace nle

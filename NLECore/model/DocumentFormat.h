@@ -53,6 +53,6 @@ inline const QLatin1String kUnplaced("unplaced");
 namespace nle {
 
 /// Texts of a document by their names.
-using DocumentProperties = QHash<QString, QString>;
+using DocumentFields = QHash<QString, QString>;
 
 } // namespace nle

@@ -57,7 +57,7 @@ PropertyBag::Value ParseValue(const QString& text)
 }
 
 /// The values whose names begin with \a prefix, by what follows it.
-PropertyBag::Values ReadValues(const DocumentProperties& properties, QLatin1String prefix)
+PropertyBag::Values ReadValues(const DocumentFields& properties, QLatin1String prefix)
 {
     PropertyBag::Values values;
     for (auto property = properties.begin(); property != properties.end(); ++property) {
@@ -215,14 +215,14 @@ bool DocumentNodes::TakeOne()
     return false;
 }
 
-NLESize DocumentNodes::SizeOf(const DocumentProperties& properties) const
+NLESize DocumentNodes::SizeOf(const DocumentFields& properties) const
 {
     const NLESize saved = ParseSize(properties.value(kSize));
     return saved.width >= 0 ? saved : profile.frameSize;
 }
 
 NLEComPtr<TimelineNode> DocumentNodes::MakeMedia(const QString& name,
-                                                 const DocumentProperties& properties)
+                                                 const DocumentFields& properties)
 {
     NLEComPtr<MediaClip> clip = MakeCom<MediaClip>(MediaOf(name));
     clip->ChangeRate(profile.frameRate);
@@ -231,7 +231,7 @@ NLEComPtr<TimelineNode> DocumentNodes::MakeMedia(const QString& name,
 }
 
 NLEComPtr<TimelineNode> DocumentNodes::MakeColor(std::uint32_t argb,
-                                                 const DocumentProperties& properties)
+                                                 const DocumentFields& properties)
 {
     NLEComPtr<ColorClip> clip = MakeCom<ColorClip>(argb, SizeOf(properties), profile.frameRate);
     Apply(properties, *clip);
@@ -239,7 +239,7 @@ NLEComPtr<TimelineNode> DocumentNodes::MakeColor(std::uint32_t argb,
 }
 
 NLEComPtr<TimelineNode> DocumentNodes::MakeText(const QString& text, const QString& family,
-                                                const DocumentProperties& properties)
+                                                const DocumentFields& properties)
 {
     if (properties.value(kKind) == kTitle)
         return MakeTitle(text, family, properties);
@@ -250,7 +250,7 @@ NLEComPtr<TimelineNode> DocumentNodes::MakeText(const QString& text, const QStri
 }
 
 NLEComPtr<TimelineNode> DocumentNodes::MakeTitle(const QString& text, const QString& family,
-                                                 const DocumentProperties& properties)
+                                                 const DocumentFields& properties)
 {
     NLEComPtr<TitleClip> clip = MakeCom<TitleClip>(SizeOf(properties), profile.frameRate);
     Apply(properties, *clip);
@@ -262,12 +262,12 @@ NLEComPtr<TimelineNode> DocumentNodes::MakeTitle(const QString& text, const QStr
     return clip;
 }
 
-bool DocumentNodes::IsTransition(const DocumentProperties& properties)
+bool DocumentNodes::IsTransition(const DocumentFields& properties)
 {
     return properties.value(kKind) == kTransition;
 }
 
-NLEComPtr<TimelineNode> DocumentNodes::MakeTransition(const DocumentProperties& properties)
+NLEComPtr<TimelineNode> DocumentNodes::MakeTransition(const DocumentFields& properties)
 {
     const QString name = properties.value(kTransitionName);
     const Declaration* declaration = FindTransition(name);
@@ -283,8 +283,7 @@ NLEComPtr<TimelineNode> DocumentNodes::MakeTransition(const DocumentProperties& 
     return node;
 }
 
-NLEComPtr<CompositeNode> DocumentNodes::MakeComposite(const DocumentProperties& properties,
-                                                      bool isRoot)
+NLEComPtr<CompositeNode> DocumentNodes::MakeComposite(const DocumentFields& properties, bool isRoot)
 {
     const bool isProject = properties.value(kKind, kProject) == kProject;
     const NLERational saved = ParseRate(properties.value(kRate));
@@ -311,7 +310,7 @@ NLEComPtr<CompositeNode> DocumentNodes::MakeComposite(const DocumentProperties& 
 }
 
 void DocumentNodes::Fill(CompositeNode& composite, std::vector<PlacedNode>& clips,
-                         const DocumentProperties& properties)
+                         const DocumentFields& properties)
 {
     std::stable_sort(clips.begin(), clips.end(),
                      [](const PlacedNode& a, const PlacedNode& b) { return a.order < b.order; });
@@ -320,7 +319,7 @@ void DocumentNodes::Fill(CompositeNode& composite, std::vector<PlacedNode>& clip
     Apply(properties, composite);
 }
 
-void DocumentNodes::Place(TimelineNode& node, const DocumentProperties& properties,
+void DocumentNodes::Place(TimelineNode& node, const DocumentFields& properties,
                           const Placement& found, int level)
 {
     const bool isOwn = properties.contains(kKind);
@@ -369,7 +368,7 @@ void DocumentNodes::Hide(bool picture, bool sound, TimelineNode& node)
                           picture ? NLERender_AudioOnly : NLERender_VideoOnly);
 }
 
-void DocumentNodes::Apply(const DocumentProperties& properties, TimelineNode& node)
+void DocumentNodes::Apply(const DocumentFields& properties, TimelineNode& node)
 {
     if (!properties.contains(kKind))
         return;

@@ -51,27 +51,27 @@ public:
     /// False when the document asks for more nodes than one may have; counts with each call.
     bool TakeOne();
 
-    NLEComPtr<TimelineNode> MakeMedia(const QString& name, const DocumentProperties& properties);
-    NLEComPtr<TimelineNode> MakeColor(std::uint32_t argb, const DocumentProperties& properties);
+    NLEComPtr<TimelineNode> MakeMedia(const QString& name, const DocumentFields& properties);
+    NLEComPtr<TimelineNode> MakeColor(std::uint32_t argb, const DocumentFields& properties);
     NLEComPtr<TimelineNode> MakeText(const QString& text, const QString& family,
-                                     const DocumentProperties& properties);
+                                     const DocumentFields& properties);
     /// A title with what \a properties keep of it, and the text and font that the document says.
     NLEComPtr<TimelineNode> MakeTitle(const QString& text, const QString& family,
-                                      const DocumentProperties& properties);
+                                      const DocumentFields& properties);
     /// Whether \a properties are those of a transition.
-    static bool IsTransition(const DocumentProperties& properties);
+    static bool IsTransition(const DocumentFields& properties);
     /// One of an unknown name becomes a dissolve, with a remark.
-    NLEComPtr<TimelineNode> MakeTransition(const DocumentProperties& properties);
+    NLEComPtr<TimelineNode> MakeTransition(const DocumentFields& properties);
     /// The outermost one of a document without \a properties of this engine is a project.
-    NLEComPtr<CompositeNode> MakeComposite(const DocumentProperties& properties, bool isRoot);
+    NLEComPtr<CompositeNode> MakeComposite(const DocumentFields& properties, bool isRoot);
     /// Puts clips into \a composite in the order that they were saved in, and its own settings.
     void Fill(CompositeNode& composite, std::vector<PlacedNode>& clips,
-              const DocumentProperties& properties);
+              const DocumentFields& properties);
     /// Brings a node that was made here, or that another program made, to where \a found says.
     /// Where \a found is what was saved with the node, the node's own values hold: they know more
     /// than a document can say.
-    static void Place(TimelineNode& node, const DocumentProperties& properties,
-                      const Placement& found, int level);
+    static void Place(TimelineNode& node, const DocumentFields& properties, const Placement& found,
+                      int level);
 
     /// Lets \a node show one frame, or play \a speed times as fast; below 0, which there is not,
     /// forwards, with a remark that calls it \a name.
@@ -87,8 +87,8 @@ public:
     DocumentRemarks remarks;
 
 private:
-    void Apply(const DocumentProperties& properties, TimelineNode& node);
-    NLESize SizeOf(const DocumentProperties& properties) const;
+    void Apply(const DocumentFields& properties, TimelineNode& node);
+    NLESize SizeOf(const DocumentFields& properties) const;
     QString PathOf(const QString& name) const;
 
     const QDir m_folder;

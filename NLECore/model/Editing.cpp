@@ -155,8 +155,8 @@ HRESULT Editing::Edit(const Make& make)
 
 HRESULT Editing::EditBy(std::int64_t frames, int flags, const MakeBy& make)
 {
-    const auto by = [&make](std::int64_t far) {
-        return [&make, far](EditDraft& draft) { return make(draft, far); };
+    const auto by = [&make](std::int64_t distance) {
+        return [&make, distance](EditDraft& draft) { return make(draft, distance); };
     };
     const HRESULT whole = Edit(by(frames));
     if (SUCCEEDED(whole) || !(flags & NLEEdit_Clamp))

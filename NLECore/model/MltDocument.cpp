@@ -35,9 +35,9 @@ bool IsEffect(const QString& element)
 
 /// Puts the texts that XML cannot carry in the place of those that stand for them. Where another
 /// editor has changed a text, that holds.
-void TakeExactTexts(DocumentProperties& properties)
+void TakeExactTexts(DocumentFields& properties)
 {
-    const DocumentProperties read = properties;
+    const DocumentFields read = properties;
     for (auto property = read.begin(); property != read.end(); ++property) {
         if (!property.key().startsWith(kExactPrefix))
             continue;
@@ -68,8 +68,8 @@ private:
     void ReadItem(MltService& service);
     void ReadBlank(MltService& service);
     MltEffect ReadEffect();
-    void ReadProperty(DocumentProperties& properties);
-    DocumentProperties Attributes() const;
+    void ReadProperty(DocumentFields& properties);
+    DocumentFields Attributes() const;
     QString Attribute(const char* name) const
     {
         return m_xml.attributes().value(QLatin1String(name)).toString();
@@ -107,9 +107,9 @@ void Parser::ReadProfile()
     m_xml.skipCurrentElement();
 }
 
-DocumentProperties Parser::Attributes() const
+DocumentFields Parser::Attributes() const
 {
-    DocumentProperties properties;
+    DocumentFields properties;
     for (const QXmlStreamAttribute& attribute : m_xml.attributes())
         properties.insert(attribute.name().toString(), attribute.value().toString());
     return properties;
@@ -214,7 +214,7 @@ MltEffect Parser::ReadEffect()
     return effect;
 }
 
-void Parser::ReadProperty(DocumentProperties& properties)
+void Parser::ReadProperty(DocumentFields& properties)
 {
     const QString name = Attribute("name");
     const bool hasValue = m_xml.attributes().hasAttribute(QLatin1String("value"));

@@ -14,7 +14,7 @@ namespace nle {
 /// A filter, a transition or a link.
 struct MltEffect
 {
-    DocumentProperties properties; ///< with those that stood as attributes
+    DocumentFields properties; ///< with those that stood as attributes
 
     QString Service() const;
     /// Whether the document has turned it off.
@@ -38,7 +38,7 @@ struct MltService
 {
     QString element;
     QString id;
-    DocumentProperties properties; ///< with those that stood as attributes
+    DocumentFields properties; ///< with those that stood as attributes
     QString in;
     QString out;
     std::vector<MltItem> items;

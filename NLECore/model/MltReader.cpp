@@ -21,7 +21,7 @@ namespace {
 /// Frames of a service whose document and file do not say how many it has.
 constexpr std::int64_t kPresetLength = 15000;
 
-QString Value(const DocumentProperties& properties, const char* name)
+QString Value(const DocumentFields& properties, const char* name)
 {
     return properties.value(QLatin1String(name));
 }
@@ -475,7 +475,7 @@ void MltReader::TakeHidden(const MltService& service, const std::vector<PlacedNo
 {
     for (const PlacedNode& clip : clips) {
         const MltItem& track = service.items[size_t(clip.track)];
-        const DocumentProperties& lane = m_document.services[size_t(track.service)].properties;
+        const DocumentFields& lane = m_document.services[size_t(track.service)].properties;
         const bool isOurs = clip.order != INT32_MAX && !lane.contains(kKind);
         if (!isOurs || track.hide == lane.value(kWrittenHide))
             continue;
@@ -665,7 +665,7 @@ void MltReader::TakeTransitions(const MltService& service, size_t first,
 
 MltReader::Found MltReader::FoundOf(const MltEffect& transition) const
 {
-    const DocumentProperties& properties = transition.properties;
+    const DocumentFields& properties = transition.properties;
     return {{ClampToInt(double(Frames(Value(properties, "in"), 0))),
              ClampToInt(double(Frames(Value(properties, "out"), 0)))},
             int(MltNumber(Value(properties, "a_track"), -1)),

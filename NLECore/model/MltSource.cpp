@@ -33,7 +33,7 @@ Kind KindOf(const QString& service)
 }
 
 /// Takes "speed:" from the front of a resource.
-void TakeSpeed(MltSource& source, const DocumentProperties& properties)
+void TakeSpeed(MltSource& source, const DocumentFields& properties)
 {
     const int colon = source.resource.indexOf(QLatin1Char(':'));
     bool isNumber = false;
@@ -61,7 +61,7 @@ std::vector<int> StreamsOfType(const MediaInfo& media, NLEStreamType type)
 }
 
 /// A whole number; none for what is not.
-std::optional<int> IndexIn(const DocumentProperties& properties, const QString& name)
+std::optional<int> IndexIn(const DocumentFields& properties, const QString& name)
 {
     bool isNumber = false;
     const int index = properties.value(name).trimmed().toInt(&isNumber);
@@ -80,7 +80,7 @@ std::optional<int> StreamAt(std::optional<int> index, std::optional<int> place,
 }
 
 /// Whether the framework plays all streams of sound together.
-bool AreAll(const DocumentProperties& properties)
+bool AreAll(const DocumentFields& properties)
 {
     return properties.value(kAudioIndex) == QLatin1String("all") ||
            IndexIn(properties, kAudioIndex) == INT32_MAX;
@@ -90,7 +90,7 @@ bool AreAll(const DocumentProperties& properties)
 
 MltSource SourceOf(const MltService& producer)
 {
-    const DocumentProperties& properties = producer.properties;
+    const DocumentFields& properties = producer.properties;
     MltSource source;
     source.service = properties.value(QStringLiteral("mlt_service"));
     source.resource = properties.value(QStringLiteral("resource"));
@@ -136,7 +136,7 @@ MltSource SourceOf(const MediaClip& clip, const QDir& folder)
     return source;
 }
 
-MltStreams StreamsOf(const DocumentProperties& properties, const MediaInfo& media)
+MltStreams StreamsOf(const DocumentFields& properties, const MediaInfo& media)
 {
     MltStreams streams;
     if (media.kind == NLEMedia_Image)
@@ -165,10 +165,10 @@ MltStreams StreamsOf(const DocumentProperties& properties, const MediaInfo& medi
     return streams;
 }
 
-DocumentProperties IndexesOf(const MediaClip& clip)
+DocumentFields IndexesOf(const MediaClip& clip)
 {
     const SourceSettings& settings = clip.Source();
-    DocumentProperties indexes;
+    DocumentFields indexes;
     if (settings.videoStream >= 0)
         indexes[kVideoIndex] = QString::number(settings.videoStream);
     if (!settings.audioStreams.empty())

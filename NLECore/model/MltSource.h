@@ -54,9 +54,9 @@ struct MltStreams
 /// What "video_index" and "audio_index" in \a properties choose, or "vstream" and "astream", which
 /// count streams of their type alone, of the producer's file \a media; -1 is none. The preferred
 /// streams, and those that the file has not, count as not chosen.
-MltStreams StreamsOf(const DocumentProperties& properties, const MediaInfo& media);
+MltStreams StreamsOf(const DocumentFields& properties, const MediaInfo& media);
 /// The indexes of the streams that are chosen in \a clip, of one each, as a document says them.
-DocumentProperties IndexesOf(const MediaClip& clip);
+DocumentFields IndexesOf(const MediaClip& clip);
 
 /// A colour as MLT writes it: "#aarrggbb", "#rrggbb", "0xrrggbbaa" or a name; black when it is
 /// none.

@@ -195,7 +195,7 @@ void MltWriter::WriteMedia(const MediaClip& clip)
     if (source.frozen)
         Property(QStringLiteral("frame"), QString::number(*source.frozen));
     // Other programs show and sound one stream of each type.
-    const DocumentProperties indexes = IndexesOf(clip);
+    const DocumentFields indexes = IndexesOf(clip);
     for (const QString& name : {QStringLiteral("video_index"), QStringLiteral("audio_index")}) {
         if (indexes.contains(name))
             Property(name, indexes.value(name));

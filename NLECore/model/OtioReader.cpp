@@ -115,9 +115,9 @@ QJsonObject ReferenceOf(const QJsonObject& clip)
     return active.isEmpty() ? Child(clip, "media_reference") : active;
 }
 
-DocumentProperties PropertiesOf(const QJsonObject& object)
+DocumentFields PropertiesOf(const QJsonObject& object)
 {
-    DocumentProperties properties;
+    DocumentFields properties;
     const QJsonObject own = Child(object, "metadata").value(kOwn).toObject();
     for (auto text = own.begin(); text != own.end(); ++text)
         properties.insert(kOwnPrefix + DecodeText(text.key()), DecodeText(text->toString()));
@@ -227,7 +227,7 @@ QJsonObject OtioReader::RootOf(const QJsonObject& document)
     return root;
 }
 
-void OtioReader::ReadRate(const QJsonObject& root, const DocumentProperties& properties)
+void OtioReader::ReadRate(const QJsonObject& root, const DocumentFields& properties)
 {
     const NLERational saved = ParseRate(properties.value(kRate));
     double rate = RateOf(Child(root, "global_start_time"));
@@ -261,7 +261,7 @@ double OtioReader::Fps() const
 
 NLEComPtr<TimelineNode> OtioReader::MakeRoot(const QJsonObject& root)
 {
-    const DocumentProperties properties = PropertiesOf(root);
+    const DocumentFields properties = PropertiesOf(root);
     if (Schema(root) == QLatin1String("Clip")) {
         NLEComPtr<TimelineNode> node = MakeItem(root);
         const std::int64_t length = std::llround(SpanOf(root).duration * Fps());
@@ -283,7 +283,7 @@ NLEComPtr<TimelineNode> OtioReader::MakeItem(const QJsonObject& item)
 {
     if (!m_nodes.TakeOne())
         return nullptr;
-    const DocumentProperties properties = PropertiesOf(item);
+    const DocumentFields properties = PropertiesOf(item);
     const bool isOwn = properties.contains(kKind);
     const bool holds = Schema(item) == QLatin1String("Stack") || IsTrack(item);
     NLEComPtr<TimelineNode> node =
@@ -296,7 +296,7 @@ NLEComPtr<TimelineNode> OtioReader::MakeItem(const QJsonObject& item)
 }
 
 NLEComPtr<TimelineNode> OtioReader::MakeClip(const QJsonObject& clip,
-                                             const DocumentProperties& properties)
+                                             const DocumentFields& properties)
 {
     if (DocumentNodes::IsTransition(properties))
         return m_nodes.MakeTransition(properties);
@@ -313,7 +313,7 @@ NLEComPtr<TimelineNode> OtioReader::MakeClip(const QJsonObject& clip,
 }
 
 NLEComPtr<TimelineNode> OtioReader::MakeMedia(const QJsonObject& clip, const QJsonObject& reference,
-                                              const DocumentProperties& properties)
+                                              const DocumentFields& properties)
 {
     const QString path = PathOfUrl(Text(reference, "target_url"), m_folder);
     const bool isFile = !path.isEmpty();
@@ -340,7 +340,7 @@ NLEComPtr<TimelineNode> OtioReader::MakeMedia(const QJsonObject& clip, const QJs
 
 NLEComPtr<TimelineNode> OtioReader::MakeGenerated(const QJsonObject& clip,
                                                   const QJsonObject& reference,
-                                                  const DocumentProperties& properties)
+                                                  const DocumentFields& properties)
 {
     const QString kind = Text(reference, "generator_kind");
     const QJsonObject parameters = Child(reference, "parameters");
@@ -362,7 +362,7 @@ NLEComPtr<TimelineNode> OtioReader::MakeGenerated(const QJsonObject& clip,
 }
 
 NLEComPtr<TimelineNode> OtioReader::MakeComposite(const QJsonObject& stack,
-                                                  const DocumentProperties& properties, bool isRoot)
+                                                  const DocumentFields& properties, bool isRoot)
 {
     if (m_depth >= kDeepestNesting) {
         m_nodes.remarks.Add(NLERemark_Structure, QStringLiteral("stacks nested too deep"));
@@ -521,7 +521,7 @@ void OtioReader::PlaceItem(const QJsonObject& item, double position, double end,
     NLEComPtr<TimelineNode> node = MakeItem(item);
     if (!node)
         return;
-    const DocumentProperties properties = PropertiesOf(item);
+    const DocumentFields properties = PropertiesOf(item);
     const bool isOwn = properties.contains(kKind);
     const std::int64_t first = std::llround(position * Fps());
     const std::int64_t length = std::llround(end * Fps()) - first;

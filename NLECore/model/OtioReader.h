@@ -45,18 +45,18 @@ private:
 
     /// What of the document plays.
     QJsonObject RootOf(const QJsonObject& document);
-    void ReadRate(const QJsonObject& root, const DocumentProperties& properties);
+    void ReadRate(const QJsonObject& root, const DocumentFields& properties);
     void DescribeMedia(const QJsonObject& root);
 
     NLEComPtr<TimelineNode> MakeRoot(const QJsonObject& root);
     NLEComPtr<TimelineNode> MakeItem(const QJsonObject& item);
-    NLEComPtr<TimelineNode> MakeClip(const QJsonObject& clip, const DocumentProperties& properties);
+    NLEComPtr<TimelineNode> MakeClip(const QJsonObject& clip, const DocumentFields& properties);
     NLEComPtr<TimelineNode> MakeMedia(const QJsonObject& clip, const QJsonObject& reference,
-                                      const DocumentProperties& properties);
+                                      const DocumentFields& properties);
     NLEComPtr<TimelineNode> MakeGenerated(const QJsonObject& clip, const QJsonObject& reference,
-                                          const DocumentProperties& properties);
+                                          const DocumentFields& properties);
     NLEComPtr<TimelineNode> MakeComposite(const QJsonObject& stack,
-                                          const DocumentProperties& properties, bool isRoot);
+                                          const DocumentFields& properties, bool isRoot);
     static void NameLevels(const QJsonArray& tracks, TimelineNode& node);
     void ReadTracks(const QJsonArray& tracks, std::vector<PlacedNode>& clips);
     void ReadTrack(const QJsonObject& track, Target target);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/render/AudioMixer.h"
 
+#include "NLECore/render/PitchFilter.h"
 #include "NLECore/render/SoundKinds.h"
 #include "NLECore/scene/SourceChoice.h"
 
@@ -22,11 +23,11 @@ QString Number(double value)
 }
 
 /// Pitch, denoise and equaliser as a chain of filters.
-QStringList DescribeSettings(const AudioSettings& settings)
+QStringList DescribeSettings(const AudioSettings& settings, int sampleRate)
 {
     QStringList filters;
     if (settings.pitch != 0)
-        filters << QStringLiteral("rubberband=pitch=") + Number(std::exp2(settings.pitch / 12.0));
+        filters << QString::fromLatin1(PitchFilters(PitchMethodHere(), settings.pitch, sampleRate));
     if (settings.denoise && settings.denoiseLevel > 0)
         filters << QStringLiteral("afftdn=nf=-30:nr=") + Number(settings.denoiseLevel);
     for (size_t band = 0; settings.equalizer && band < kEqualizerBands.size(); ++band) {
@@ -92,7 +93,7 @@ void AudioMixer::Render(const Layer& layer, std::int64_t first, int count, float
 std::vector<std::unique_ptr<AudioFilter>> AudioMixer::MakeEffects(const Layer& layer) const
 {
     std::vector<std::unique_ptr<AudioFilter>> effects;
-    QStringList chain = DescribeSettings(layer.audio);
+    QStringList chain = DescribeSettings(layer.audio, m_sampleRate);
     double leadIn = AudioFilter::kLeadIn;
     const auto close = [&] {
         if (!chain.isEmpty())

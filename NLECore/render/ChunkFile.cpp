@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/render/ChunkFile.h"
-#include "NLECore/media/SavedFile_p.h"
 
 #include <QDataStream>
 

@@ -3,6 +3,7 @@
 
 #include "NLECore/media/ContentHash.h"
 #include "NLECore/media/PictureCodec.h"
+#include "NLECore/media/SavedFile_p.h"
 
 #include <QFile>
 #include <QSaveFile>
@@ -39,7 +40,7 @@ public:
     bool Commit();
     qint64 Size() const { return m_end; }
     /// Why the last of these failed.
-    QFileDevice::FileError Error() const { return m_file.error(); }
+    QFileDevice::FileError Error() const { return ErrorOf(m_file); }
 
 private:
     QSaveFile m_file;

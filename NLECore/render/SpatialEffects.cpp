@@ -173,9 +173,9 @@ private:
             Take(around[kReach], first, count, own);
             for (const Colors& colors : around) {
                 // Copies, so that nothing that is read can be what is written.
-                std::array<Values, kAlpha> near = {};
-                Take(colors, first, count, near);
-                Add(near, own, sums, weights);
+                std::array<Values, kAlpha> beside = {};
+                Take(colors, first, count, beside);
+                Add(beside, own, sums, weights);
             }
             for (int plane = 0; plane < kAlpha; ++plane) {
                 float* row = to.Row(plane, y) + first;
@@ -190,20 +190,20 @@ private:
         for (std::size_t plane = 0; plane < values.size(); ++plane)
             std::copy_n(colors[plane] + first, count, values[plane].begin());
     }
-    void Add(const std::array<Values, kAlpha>& near, const std::array<Values, kAlpha>& own,
+    void Add(const std::array<Values, kAlpha>& beside, const std::array<Values, kAlpha>& own,
              std::array<Values, kAlpha>& sums, Values& weights) const
     {
         for (std::size_t x = 0; x < kBlock; ++x) {
-            const float red = near[0][x] - own[0][x];
-            const float green = near[1][x] - own[1][x];
-            const float blue = near[2][x] - own[2][x];
+            const float red = beside[0][x] - own[0][x];
+            const float green = beside[1][x] - own[1][x];
+            const float blue = beside[2][x] - own[2][x];
             const float off = (red * red + green * green + blue * blue) * m_sharpness;
             const float like = std::max(1 - off, 0.0F);
             const float weight = like * like;
             weights[x] += weight;
-            sums[0][x] += near[0][x] * weight;
-            sums[1][x] += near[1][x] * weight;
-            sums[2][x] += near[2][x] * weight;
+            sums[0][x] += beside[0][x] * weight;
+            sums[1][x] += beside[1][x] * weight;
+            sums[2][x] += beside[2][x] * weight;
         }
     }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/render/TransitionMix.h"
 
+#include <QtMath>
+
 #include <algorithm>
 #include <cmath>
 

@@ -6,6 +6,7 @@
 #include "NLECore/scene/LayerKey.h"
 
 #include <QtGlobal>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>

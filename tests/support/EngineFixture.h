@@ -11,6 +11,7 @@
 #include "tests/support/TestMedia.h"
 
 #include <QTemporaryDir>
+#include <QtMath>
 #include <QtTest>
 
 #include <array>

@@ -204,9 +204,9 @@ void BinDelegate::PaintPicture(QPainter& painter, const QRect& room, const QMode
 void BinDelegate::PaintTexts(QPainter& painter, const QStyleOptionViewItem& option,
                              const QRect& picture, const BinItem& item) const
 {
-    const QFont small = SmallFont(option.font);
+    const QFont smallFont = SmallFont(option.font);
     const int nameHeight = option.fontMetrics.height();
-    const int both = nameHeight + QFontMetrics(small).height();
+    const int both = nameHeight + QFontMetrics(smallFont).height();
     QRect room(picture.left(), picture.bottom() + 1 + kGap, picture.width(), both);
     if (!m_isGrid) {
         const QRect cell = option.rect;
@@ -223,7 +223,7 @@ void BinDelegate::PaintTexts(QPainter& painter, const QStyleOptionViewItem& opti
                                         QPalette::Text));
     painter.drawText(top, side,
                      option.fontMetrics.elidedText(item.Name(), Qt::ElideMiddle, room.width()));
-    painter.setFont(small);
+    painter.setFont(smallFont);
     painter.setPen(HostStyle::Shown(kQuiet));
     const QRect below(room.left(), top.bottom() + 1, room.width(), both - nameHeight);
     painter.drawText(below, side,

@@ -139,10 +139,10 @@ void TimelineView::changeEvent(QEvent* event)
 
 void TimelineView::paintEvent(QPaintEvent* event)
 {
-    QFont small = font();
-    if (small.pointSizeF() > 0)
-        small.setPointSizeF(small.pointSizeF() * kFontShare);
-    m_clipPainter.SetFont(small);
+    QFont smallFont = font();
+    if (smallFont.pointSizeF() > 0)
+        smallFont.setPointSizeF(smallFont.pointSizeF() * kFontShare);
+    m_clipPainter.SetFont(smallFont);
     m_overlay.band = m_gesture ? m_gesture->Band() : QRect();
     if (m_gesture)
         m_overlay.snapLine = m_snapping.Line();
