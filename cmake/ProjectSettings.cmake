@@ -38,7 +38,9 @@ if(MSVC)
   target_compile_definitions(ProjectSettings INTERFACE _CRT_SECURE_NO_WARNINGS)
 else()
   target_compile_options(ProjectSettings INTERFACE -Wall -Wextra -Wpedantic -Wshadow
-    $<$<BOOL:${COMMONLIB_WARNINGS_AS_ERRORS}>:-Werror>)
+    $<$<BOOL:${COMMONLIB_WARNINGS_AS_ERRORS}>:-Werror>
+    # Records are begun with what differs from their presets.
+    $<$<CXX_COMPILER_ID:Clang>:-Wno-missing-field-initializers>)
 endif()
 
 if(COMMONLIB_SANITIZE STREQUAL "address")
@@ -47,6 +49,11 @@ elseif(COMMONLIB_SANITIZE STREQUAL "thread")
   set(sanitize -fsanitize=thread -fno-omit-frame-pointer)
 elseif(COMMONLIB_SANITIZE)
   message(FATAL_ERROR "COMMONLIB_SANITIZE is address, thread or empty")
+endif()
+# What fuzzing steers by is compiled into everything; only the targets in tests/fuzz have its main().
+option(COMMONLIB_FUZZ "Build the fuzz targets on libFuzzer; needs Clang" OFF)
+if(COMMONLIB_FUZZ)
+  list(APPEND sanitize -fsanitize=fuzzer-no-link)
 endif()
 if(sanitize)
   target_compile_options(ProjectSettings INTERFACE ${sanitize})

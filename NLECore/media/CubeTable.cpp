@@ -73,7 +73,7 @@ std::shared_ptr<const CubeTable> CubeTable::Open(const QString& path)
     if (table)
         s_known.latest[s_known.next++ % s_known.latest.size()] = table;
     else
-        qCWarning(lcEngine) << path << "holds no table of colours";
+        qCWarning(lcEngine, "%s: no table of colours", qUtf8Printable(path));
     return table;
 }
 
@@ -116,7 +116,7 @@ std::shared_ptr<const CubeTable> CubeTable::Parse(const QByteArray& text)
 float CubeTable::Place(std::size_t component, float value) const
 {
     const float place = (value - m_lowest[component]) * m_scale[component];
-    return std::min(std::max(place, 0.0F), float(m_size - 1));
+    return std::min(std::max(0.0F, place), float(m_size - 1)); // 0 for what is no number
 }
 
 Color CubeTable::AtSingle(const Color& color) const

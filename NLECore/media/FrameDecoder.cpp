@@ -36,9 +36,8 @@ constexpr int kMaxRoundsPerPicture = 20000;
 
 constexpr std::int64_t kMinHoldFrames = 2;
 
-// Going back over so many frames at the most is stepping back; while the play head is dragged, over
-// more. Beyond it a picture is decoded for itself.
-constexpr std::int64_t kStepBack = FrameDecoder::kStepBack;
+// While the play head is dragged, going back over so many frames at the most is stepping back.
+// Beyond it a picture is decoded for itself.
 constexpr std::int64_t kScrubBack = 250;
 
 // After a step back pictures are kept over so many frames forward as well, for going to and fro.
