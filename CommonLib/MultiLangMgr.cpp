@@ -11,6 +11,7 @@
 #include <QFont>
 #include <QFontDatabase>
 #include <QPointer>
+#include <QSaveFile>
 #include <QSettings>
 #include <QTranslator>
 
@@ -40,6 +41,20 @@ bool IsUsableConfig(const QString& path)
 {
     const QFileInfo info(path);
     return info.isFile() && info.size() <= kLongestConfig;
+}
+
+QByteArray ContentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Puts a short file back as it was.
+void PutBack(const QString& path, const QByteArray& content)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush())
+        file.commit();
 }
 
 } // namespace
@@ -193,10 +208,16 @@ void MultiLangMgr::StoreCurrentLang()
     const QString product = m_urlReader->ReadCustomerUrl(GetSimpleName1(), QStringLiteral("PID"));
     if (!IsUsableConfig(m_configPath))
         return;
-    // Both values go out in one step when the settings are destroyed, or neither does.
-    QSettings settings(m_configPath, QSettings::IniFormat);
-    settings.setValue(kNameKey, GetSimpleName1());
-    settings.setValue(kProductKey, product);
+    const QByteArray before = ContentOf(m_configPath);
+    {
+        // Both values go out in one step when the settings are destroyed.
+        QSettings settings(m_configPath, QSettings::IniFormat);
+        settings.setValue(kNameKey, GetSimpleName1());
+        settings.setValue(kProductKey, product);
+    }
+    // On a full disk Qt puts in place what it could write, if only nothing.
+    if (!ContentOf(m_configPath).contains(GetSimpleName1().toLatin1()))
+        PutBack(m_configPath, before);
 }
 
 QList<QPointer<QTranslator>> MultiLangMgr::TranslatorsOfCurrent() const

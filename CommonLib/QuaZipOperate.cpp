@@ -153,8 +153,16 @@ private:
         if (!JlCompress::extractFile(&m_zip, QString(), path))
             return false;
         m_extracted += path;
+        if (!isFolder && !info.isSymbolicLink() && !IsWhole(path, info))
+            return false;
         m_clearFolders += relative.left(qMax(0, relative.lastIndexOf('/')));
         return true;
+    }
+
+    // The library does not hear that the last that was gathered for the file cannot be written.
+    static bool IsWhole(const QString& path, const QuaZipFileInfo64& info)
+    {
+        return static_cast<quint64>(QFileInfo(path).size()) == info.uncompressedSize;
     }
 
     // Whether no link or special file stands on the way to, or in place of, the entry.

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/FontCache.h"
-#include "NLECore/media/SavedFile_p.h"
+#include "NLECore/media/WholeFile.h"
 
 #include <QFile>
-#include <QSaveFile>
 #include <QSet>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
@@ -74,7 +73,7 @@ void FontCache::Save()
     // A file of another kind is not ours to replace.
     if (!m_changed || m_path.isEmpty() || (place.exists() && !place.isFile()))
         return;
-    QSaveFile file(m_path);
+    WholeFile file(m_path);
     if (!file.open(QIODevice::WriteOnly))
         return;
     QXmlStreamWriter xml(&file);
@@ -94,7 +93,7 @@ void FontCache::Save()
     }
     xml.writeEndDocument();
     // On a full disk the file stays as it was.
-    if (!xml.hasError() && CommitWhole(file))
+    if (!xml.hasError() && file.Commit())
         m_changed = false;
 }
 

@@ -10,10 +10,10 @@
 #include "NLECore/media/PlainThreads_p.h"
 #include "NLECore/media/Reasons.h"
 #include "NLECore/media/SavedFile_p.h"
+#include "NLECore/media/WholeFile.h"
 
 #include <QColor>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <array>
@@ -62,10 +62,10 @@ struct FifoFreer
 };
 
 /// A file that remembers why it could not be written first: seeking forgets it.
-class WrittenFile : public QSaveFile
+class WrittenFile final : public WholeFile
 {
 public:
-    using QSaveFile::QSaveFile;
+    using WholeFile::WholeFile;
 
     QFileDevice::FileError FirstError() const { return m_error; }
     QString FirstReason() const { return m_reason; }
@@ -73,7 +73,7 @@ public:
 protected:
     qint64 writeData(const char* data, qint64 size) override
     {
-        const qint64 written = QSaveFile::writeData(data, size);
+        const qint64 written = WholeFile::writeData(data, size);
         if (written < size && m_error == NoError) {
             m_error = ErrorOf(*this);
             m_reason = errorString();
@@ -90,7 +90,7 @@ private:
 constexpr auto kWriteBytes = [](void* file, auto* data, int size) {
     const auto* bytes = reinterpret_cast<const char*>(data);
     try {
-        return static_cast<QSaveFile*>(file)->write(bytes, size) == size ? size : AVERROR(EIO);
+        return static_cast<WrittenFile*>(file)->write(bytes, size) == size ? size : AVERROR(EIO);
     } catch (const std::bad_alloc&) {
         return AVERROR(ENOMEM);
     }
@@ -98,7 +98,7 @@ constexpr auto kWriteBytes = [](void* file, auto* data, int size) {
 
 std::int64_t SeekByte(void* opaque, std::int64_t offset, int whence)
 {
-    auto* file = static_cast<QSaveFile*>(opaque);
+    auto* file = static_cast<WrittenFile*>(opaque);
     if (whence == AVSEEK_SIZE)
         return file->size();
     if (whence == SEEK_CUR)
@@ -256,7 +256,7 @@ struct MediaWriter::Private
     bool OpenFile()
     {
         if (plan.isSequence) {
-            sequence = std::make_unique<PictureSequence>(file.fileName());
+            sequence = std::make_unique<PictureSequence>(file.Target());
             return sequence->Open() || FailSequence();
         }
         return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
@@ -503,7 +503,7 @@ bool MediaWriter::Try(const QString& path, WriterSettings& settings, WriterError
         *error = {kind, reason};
         return false;
     };
-    QSaveFile target(path);
+    WholeFile target(path);
     const QFileInfo file(path);
     SideFolder folder(file, "trial");
     if (!target.open(QIODevice::WriteOnly))
@@ -606,7 +606,7 @@ bool MediaWriter::Finish()
     avio_flush(d->output.get());
     if (!d->Check(d->output->error))
         return false;
-    return d->file.commit() ||
+    return d->file.Commit() ||
            d->Fail(WriterError::Kind::File, d->file.errorString(), d->IsFull(0));
 }
 

@@ -3,6 +3,12 @@
 
 #include "NLECore/media/SystemPath_p.h"
 
+#include <cerrno>
+
+#include <fcntl.h>
+#include <io.h>
+#include <share.h>
+#include <sys/stat.h>
 #include <windows.h>
 
 namespace nle {
@@ -14,6 +20,23 @@ QFileDevice::FileError ErrorOf(const QFileDevice& file)
                         (file.errorString() == qt_error_string(ERROR_DISK_FULL) ||
                          file.errorString() == qt_error_string(ERROR_HANDLE_DISK_FULL));
     return isFull ? QFileDevice::ResourceError : file.error();
+}
+
+int OpenAlone(const QString& path)
+{
+    int descriptor = -1;
+    const int error = _wsopen_s(&descriptor, SystemPath(path).c_str(),
+                                _O_RDWR | _O_CREAT | _O_TRUNC | _O_BINARY | _O_NOINHERIT,
+                                _SH_DENYRW, _S_IREAD | _S_IWRITE);
+    if (error == 0)
+        return descriptor;
+    errno = GetLastError() == ERROR_SHARING_VIOLATION ? EWOULDBLOCK : error;
+    return -1;
+}
+
+bool WriteThrough(const QFile& file)
+{
+    return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()))) != 0;
 }
 
 bool MoveOver(const QString& file, const QString& target, QString* error)

@@ -4,7 +4,7 @@
 #include "Com/ComGuard.h"
 #include "NLECore/media/EngineLog.h"
 #include "NLECore/media/Reasons.h"
-#include "NLECore/media/SavedFile_p.h"
+#include "NLECore/media/WholeFile.h"
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/MltReader.h"
 #include "NLECore/model/MltWriter.h"
@@ -14,7 +14,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <iterator>
 
@@ -85,11 +84,11 @@ HRESULT DocumentSerialize::Save(INLETimeline* timeline, const wchar_t* path)
         if (!node || !path)
             return Refuse(E_INVALIDARG, path ? NLEReason_WrongObject : NLEReason_NullPointer);
         const QString name = QString::fromWCharArray(path);
-        QSaveFile file(name);
+        WholeFile file(name);
         if (!file.open(QIODevice::WriteOnly))
             return RefuseWriting(E_FAIL, name, file);
         file.write(WriteDocument(*node, name));
-        return CommitWhole(file) ? S_OK : RefuseWriting(E_FAIL, name, file);
+        return file.Commit() ? S_OK : RefuseWriting(E_FAIL, name, file);
     });
 }
 

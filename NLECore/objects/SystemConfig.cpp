@@ -5,7 +5,7 @@
 #include "NLECore/media/HardwareDecoding.h"
 #include "NLECore/media/PictureCache.h"
 #include "NLECore/media/Reasons.h"
-#include "NLECore/media/SavedFile_p.h"
+#include "NLECore/media/WholeFile.h"
 #include "NLECore/media/WorkThreads.h"
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/PropertyBag.h"
@@ -14,7 +14,6 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 #include <cmath>
 #include <utility>
@@ -156,10 +155,10 @@ HRESULT SystemConfig::Save(const wchar_t* path)
     return ComGuard([&] {
         if (!path)
             return Refuse(E_POINTER);
-        QSaveFile file(Name(path));
+        WholeFile file(Name(path));
         const bool isWritten = file.open(QIODevice::WriteOnly) &&
                                file.write(QJsonDocument(AllSettings()).toJson()) >= 0 &&
-                               CommitWhole(file);
+                               file.Commit();
         return isWritten ? S_OK : RefuseWriting(E_FAIL, Name(path), file);
     });
 }

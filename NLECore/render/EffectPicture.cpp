@@ -2,11 +2,11 @@
 #include "NLECore/render/EffectPicture.h"
 
 #include <QRgba64>
-#include <QSemaphore>
 #include <QThreadPool>
 
 #include <algorithm>
 #include <atomic>
+#include <condition_variable>
 #include <mutex>
 #include <new>
 #include <vector>
@@ -176,22 +176,54 @@ SpareMemory& Spares()
     return s_spares;
 }
 
+/// Who lends a hand to the bands of one call. The pool tells nobody when a thread of its cannot be
+/// made, so only those are waited for who have come.
+class Helpers
+{
+public:
+    explicit Helpers(SharedBands& bands) : m_bands(bands) {}
+
+    void Help()
+    {
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            if (m_isOver)
+                return;
+            ++m_busy;
+        }
+        m_bands.Run();
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        --m_busy;
+        m_changed.notify_one();
+    }
+    /// Whoever comes later finds the work done; those who are at it end first.
+    void Dismiss()
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_isOver = true;
+        m_changed.wait(lock, [this] { return m_busy == 0; });
+    }
+
+private:
+    SharedBands& m_bands; ///< until it is over
+    std::mutex m_mutex;   ///< guards the rest
+    std::condition_variable m_changed;
+    int m_busy = 0;
+    bool m_isOver = false;
+};
+
 } // namespace
 
 void ForBands(int count, const Bands& bands, const std::function<void(int first, int end)>& work)
 {
     SharedBands shared(count, bands.size, work);
-    QSemaphore done;
-    int helpers = 0;
+    const auto helpers = std::make_shared<Helpers>(shared);
     QThreadPool& pool = *QThreadPool::globalInstance();
-    const int most = bands.isParallel ? std::min(pool.maxThreadCount(), count / bands.size) - 1 : 0;
-    while (helpers < most && pool.tryStart([&] {
-        shared.Run();
-        done.release();
-    }))
-        ++helpers;
+    int most = bands.isParallel ? std::min(pool.maxThreadCount(), count / bands.size) - 1 : 0;
+    while (most-- > 0 && pool.tryStart([helpers] { helpers->Help(); }))
+        ;
     shared.Run();
-    done.acquire(helpers);
+    helpers->Dismiss();
     if (shared.HasFailed())
         throw std::bad_alloc();
 }

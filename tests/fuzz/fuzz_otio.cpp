@@ -5,7 +5,7 @@
 #include "NLECore/model/OtioWriter.h"
 
 // Qt's JSON reader leaves what it had read of a text that breaks off.
-extern "C" const char* __lsan_default_suppressions() // NOLINT(bugprone-reserved-identifier)
+extern "C" const char* __lsan_default_suppressions() // NOLINT
 {
     return "leak:libQt5Core";
 }
