@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <new>
 
 namespace nle {
 
@@ -32,7 +33,12 @@ WholeFile::WholeFile(const QString& path) : m_target(path)
 
 WholeFile::~WholeFile()
 {
-    Drop();
+    // Without memory it stays until the next writing.
+    try {
+        Drop();
+    } catch (const std::bad_alloc&) {
+        return;
+    }
 }
 
 bool WholeFile::open(OpenMode mode)
