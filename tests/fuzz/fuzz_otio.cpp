@@ -5,7 +5,7 @@
 #include "NLECore/model/OtioWriter.h"
 
 // Qt's JSON reader leaves what it had read of a text that breaks off.
-extern "C" const char* __lsan_default_suppressions() // NOLINT
+extern "C" Q_DECL_EXPORT const char* __lsan_default_suppressions() // NOLINT
 {
     return "leak:libQt5Core";
 }
