@@ -28,7 +28,8 @@ ContentHash& ContentHash::Add(const QString& text)
 
 ContentKey ContentHash::Of(const void* bytes, std::size_t size)
 {
-    // Not kept for the thread: with mingw-w64 the memory of a thread's own objects goes before them.
+    // Not kept for the thread: with mingw-w64 the memory of a thread's own objects goes before
+    // them.
     const std::unique_ptr<AVMurMur3, MurmurFreer> state(av_murmur3_alloc());
     if (!state)
         return {};
