@@ -34,9 +34,11 @@ public:
 private:
     void Call()
     {
-        if (const auto call = std::exchange(m_call, {}))
-            call();
+        const auto call = std::exchange(m_call, {});
+        if (!call)
+            return; // the other timer, perhaps in an event loop of the call's own
         deleteLater();
+        call();
     }
 
     std::function<void()> m_call;
