@@ -29,7 +29,7 @@ QStringList EnvironmentFolders()
     return folders;
 }
 
-QStringList PackageFolders()
+QStringList FindPackageFolders()
 {
     const QString library = LibraryFile();
     if (library.isEmpty())
@@ -37,6 +37,25 @@ QStringList PackageFolders()
     const QDir folder(QFileInfo(library).canonicalPath());
     return {QDir::cleanPath(folder.filePath(QStringLiteral(COMMONLIB_MODULES))),
             QDir::cleanPath(folder.filePath(QStringLiteral(COMMONLIB_DATA)))};
+}
+
+/// The library stays where it is while it is loaded.
+const QStringList& PackageFolders()
+{
+    static const QStringList folders = FindPackageFolders();
+    return folders;
+}
+
+/// \a name in the first of the module folders in which it is what \a isIt tells; in that of the
+/// executable when it is in none.
+template <typename IsIt>
+QString FindFirst(const QString& name, IsIt isIt)
+{
+    const QStringList folders = ModuleFolders();
+    const auto found = std::find_if(folders.begin(), folders.end(), [&](const QString& folder) {
+        return isIt(QFileInfo(folder + '/' + name));
+    });
+    return (found == folders.end() ? folders.first() : *found) + '/' + name;
 }
 
 } // namespace
@@ -54,20 +73,12 @@ void SetModuleFolders(const QStringList& folders)
 
 QString FindModule(const QString& module)
 {
-    const QStringList folders = ModuleFolders();
-    const auto found = std::find_if(folders.begin(), folders.end(), [&](const QString& folder) {
-        return QFileInfo(folder + '/' + module).isFile();
-    });
-    return (found == folders.end() ? folders.first() : *found) + '/' + module;
+    return FindFirst(module, [](const QFileInfo& found) { return found.isFile(); });
 }
 
 QString FindModuleFolder(const QString& name)
 {
-    const QStringList folders = ModuleFolders();
-    const auto found = std::find_if(folders.begin(), folders.end(), [&](const QString& folder) {
-        return QFileInfo(folder + '/' + name).isDir();
-    });
-    return (found == folders.end() ? folders.first() : *found) + '/' + name + '/';
+    return FindFirst(name, [](const QFileInfo& found) { return found.isDir(); }) + '/';
 }
 
 QStringList FindModuleFiles(const QString& name)

@@ -99,11 +99,13 @@ bool HostStyle::IsLight()
 
 QColor HostStyle::Shown(const QColor& dark)
 {
+    if (!s_isLight)
+        return dark;
     const auto pair =
         std::find_if(std::begin(kPairs), std::end(kPairs), [&dark](const Pair& candidate) {
             return candidate.dark == (dark.rgb() & RGB_MASK);
         });
-    if (!s_isLight || pair == std::end(kPairs))
+    if (pair == std::end(kPairs))
         return dark;
     QColor light(pair->light);
     light.setAlpha(dark.alpha());

@@ -27,6 +27,7 @@ struct EndsOfSound
     bool fadeIn;
     bool fadeOut;
 };
+
 /// One thing of one node before and after an edit. It keeps the node, so that one that was removed
 /// comes back itself.
 struct EditChange

@@ -113,8 +113,11 @@ public:
     int indexOfChild(const QAccessibleInterface* child) const override
     {
         const auto& nodes = Nodes();
-        const auto found = std::find_if(nodes.begin(), nodes.end(),
-                                        [&](const auto& node) { return Of(node) == child; });
+        // It was asked for before, as none is made else.
+        const auto found = std::find_if(nodes.begin(), nodes.end(), [&](const Node& node) {
+            const auto known = m_ids.find(node.get());
+            return known != m_ids.end() && QAccessible::accessibleInterface(known->second) == child;
+        });
         return found == nodes.end() ? -1 : int(found - nodes.begin());
     }
     QAccessibleInterface* childAt(int x, int y) const override
