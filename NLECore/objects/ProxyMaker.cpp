@@ -2,12 +2,12 @@
 #include "NLECore/objects/ProxyMaker.h"
 
 #include "Com/ComGuard.h"
+#include "Com/ThreadPriority.h"
 #include "NLECore/media/ProxyStore.h"
 #include "NLECore/media/Reasons.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/PropertyBag.h"
 #include "NLECore/model/SourceNodes.h"
-#include "NLECore/render/ThreadPriority_p.h"
 #include "NLECore/scene/SourceChoice.h"
 
 #include <QLockFile>

@@ -2,11 +2,11 @@
 #include "NLECore/render/CacheRenderer.h"
 
 #include "Com/ComGuard.h"
+#include "Com/ThreadPriority.h"
 #include "NLECore/media/EngineLog.h"
 #include "NLECore/media/WorkThreads.h"
 #include "NLECore/render/Composer.h"
 #include "NLECore/render/TaskThread.h"
-#include "NLECore/render/ThreadPriority_p.h"
 
 #include <algorithm>
 

@@ -2,6 +2,7 @@
 #include "NLECore/render/FilmWriter.h"
 
 #include "Com/ComGuard.h"
+#include "Com/ThreadPriority.h"
 #include "NLECore/media/MediaFile_p.h"
 #include "NLECore/render/AudioMixer.h"
 #include "NLECore/render/Composer.h"
@@ -217,6 +218,7 @@ public:
 private:
     void Run(FrameMaker& maker)
     {
+        LowerThreadPriority();
         m_result = ComGuard([&] {
             const std::int64_t count = maker.Count();
             std::int64_t number = 0;

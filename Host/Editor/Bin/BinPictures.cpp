@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Bin/BinPictures.h"
 
+#include "Com/ThreadPriority.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "Host/Editor/Model/Engine.h"
 
@@ -138,7 +139,10 @@ void BinPictures::Want(Wanted wanted)
         forget(waiting.front());
         waiting.pop_front();
     }
-    m_threads.start([this] { MakeNext(); });
+    m_threads.start([this] {
+        LowerThreadPriority();
+        MakeNext();
+    });
 }
 
 void BinPictures::MakeNext()

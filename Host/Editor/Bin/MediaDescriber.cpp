@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Bin/MediaDescriber.h"
 
+#include "Com/ThreadPriority.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "Host/Editor/Bin/ProxyJobs.h"
 #include "Host/Editor/Model/Engine.h"
@@ -46,6 +47,7 @@ void MediaDescriber::Describe(const QString& path)
         return;
     m_asked.insert(path);
     m_threads.start([this, path] {
+        LowerThreadPriority();
         const MediaDescription description = Read(path);
         QMetaObject::invokeMethod(this, [this, description] {
             m_asked.remove(description.path);

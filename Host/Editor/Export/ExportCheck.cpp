@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Export/ExportCheck.h"
 
+#include "Com/ThreadPriority.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/INLEEncode.h"
 #include "EngineApi/INLEFrames.h"
@@ -58,6 +59,7 @@ void ExportCheck::Begin()
     m_thread.clear();
     m_thread.start([this, factory = EngineFactory(), encoder, options, number = m_number,
                     settings = m_order.settings] {
+        LowerThreadPriority();
         const QString complaint = Complaint(factory, encoder, options, settings);
         const auto tell = [this, number, complaint] {
             if (number == m_number)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Export/ExportTask.h"
 
+#include "Com/ThreadPriority.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/INLEEncode.h"
 #include "EngineApi/INLEProperties.h"
@@ -63,6 +64,7 @@ HRESULT ExportTask::Write()
 
 void ExportTask::Run(ExportQueue& queue)
 {
+    LowerThreadPriority();
     m_queue = &queue;
     m_since.start();
     if (!m_isCancelled)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "Com/ThreadPriority.h"
+
 #include <atomic>
 #include <condition_variable>
 #include <deque>
@@ -52,6 +54,7 @@ public:
 private:
     void Run()
     {
+        LowerThreadPriority();
         while (const Job job = Take())
             job(m_isEnding);
     }
