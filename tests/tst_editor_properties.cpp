@@ -496,7 +496,7 @@ private Q_SLOTS:
         m_editor->Place(Film(), 0, 0);
         m_editor->Place(Film(), 0, 2);
         QCOMPARE(ProjectFields::MixedLevels(m_editor->project.Node()), QVector<int>({0, 2}));
-        QCOMPARE(m_editor->panel.findChildren<QCheckBox*>().size() >= 4, true);
+        QTRY_VERIFY(m_editor->panel.findChildren<QCheckBox*>().size() >= 4);
     }
 
     void handlesOnThePicture_data()

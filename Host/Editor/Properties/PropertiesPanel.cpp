@@ -26,6 +26,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 constexpr int kMargin = 8;
@@ -85,34 +87,63 @@ void PropertiesPanel::Rebuild()
     setAccessibleName(tr("Properties"));
     m_levels.clear();
     m_node = m_selection.Current();
-    const bool isProject = !m_node;
-    if (isProject)
+    if (!m_node)
         m_node = m_project.Node();
     StartContent();
-    m_title->setText(isProject ? tr("Project") : Title());
-    if (!m_node)
-        return;
-    if (isProject)
+    if (m_node && m_node == m_project.Node())
         AddProjectSections();
     else if (m_node.query<INLETimelineTransition>())
         AddTransitionSections();
-    else
+    else if (m_node)
         AddClipSections();
+    if (isVisible())
+        return m_builds.start(0, this);
+    while (!m_unbuilt.empty())
+        BuildNext();
+    ShowContent();
+}
+
+void PropertiesPanel::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() != m_builds.timerId())
+        return QWidget::timerEvent(event);
+    if (!m_unbuilt.empty())
+        return BuildNext();
+    ShowContent();
+}
+
+void PropertiesPanel::BuildNext()
+{
+    const auto build = std::move(m_unbuilt.front());
+    m_unbuilt.pop_front();
+    build();
+}
+
+void PropertiesPanel::ShowContent()
+{
+    m_builds.stop();
+    const bool isProject = m_node == m_project.Node();
+    m_title->setText(isProject ? tr("Project") : Title());
     m_column->addStretch();
+    // What was clicked may be in the content that goes.
+    if (m_former) {
+        m_former->hide();
+        std::exchange(m_former, nullptr)->deleteLater();
+    }
     m_content->show();
     FitWidth();
 }
 
-/// Empty, in the place of the former one, where it stays: to give a tree of widgets another parent
-/// has all of them styled again.
+/// Empty, and where it stays: to give a tree of widgets another parent has all of them styled
+/// again.
 void PropertiesPanel::StartContent()
 {
     m_shown.clear();
-    // What was clicked may be in the content that goes.
-    if (m_content) {
-        m_content->hide();
+    m_unbuilt.clear();
+    if (m_former)
         m_content->deleteLater();
-    }
+    else
+        m_former = m_content;
     m_content = new QWidget(m_scroll->widget());
     m_scroll->widget()->layout()->addWidget(m_content);
     m_column = new QVBoxLayout(m_content);
@@ -157,11 +188,14 @@ bool PropertiesPanel::HasSound() const
 void PropertiesPanel::AddSection(const QString& title, const PropertySection::Make& make,
                                  bool isOpen)
 {
-    const bool isShown = (isOpen || m_opened.contains(title)) && !m_folded.contains(title);
-    auto* section = new PropertySection(title, make, isShown, m_content);
-    m_column->addWidget(section);
-    connect(section, &PropertySection::Folded, this,
-            [this, title](bool isOpened) { NoteFold(title, isOpened); });
+    m_unbuilt.emplace_back([this, title, make, isOpen] {
+        const bool isShown = (isOpen || m_opened.contains(title)) && !m_folded.contains(title);
+        auto* section = new PropertySection(title, make, isShown, m_content);
+        m_column->addWidget(section);
+        section->ensurePolished();
+        connect(section, &PropertySection::Folded, this,
+                [this, title](bool isOpened) { NoteFold(title, isOpened); });
+    });
 }
 
 void PropertiesPanel::NoteFold(const QString& title, bool isOpen)

@@ -5,10 +5,12 @@
 #include "Host/Editor/Properties/PropertyScope.h"
 #include "Host/Editor/Properties/PropertySection.h"
 
+#include <QBasicTimer>
 #include <QSet>
 #include <QVector>
 #include <QWidget>
 
+#include <deque>
 #include <functional>
 
 class QLabel;
@@ -28,12 +30,16 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
-    /// Builds the sections for what is selected now.
+    /// Builds the sections for what is selected now; in a window that shows one in each turn of the
+    /// event loop, and they take the place of the former ones when all are there.
     void Rebuild();
     void RebuildIfOther();
     void StartContent();
+    void BuildNext();
+    void ShowContent();
     void RefreshIfShown(const NLEComPtr<INLETimeline>& node);
     void RefreshIfPlaced(const QVector<NLEComPtr<INLETimeline>>& clips);
     void Refresh();
@@ -71,7 +77,10 @@ private:
     QLabel* m_title;
     QScrollArea* m_scroll;
     QWidget* m_content = nullptr;
+    QWidget* m_former = nullptr; ///< shows until the sections of m_content are built
     QVBoxLayout* m_column = nullptr;
+    std::deque<std::function<void()>> m_unbuilt; ///< sections of m_content
+    QBasicTimer m_builds;
     QVector<Shown> m_shown;
     QSet<QString> m_folded; ///< titles of sections that the user has folded, or opened
     QSet<QString> m_opened;

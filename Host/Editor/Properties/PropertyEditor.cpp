@@ -86,8 +86,8 @@ public:
     ChoiceEditor(const PropertyField& field, QWidget* parent)
         : PropertyEditor(parent), m_box(new QComboBox(this))
     {
-        m_box->addItems(field.choices);
         m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        m_box->addItems(field.choices);
         m_box->setFocusPolicy(Qt::StrongFocus);
         Fill(m_box, field.title);
         connect(m_box, QOverload<int>::of(&QComboBox::activated), this,

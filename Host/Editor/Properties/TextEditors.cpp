@@ -50,10 +50,10 @@ bool TextEditor::eventFilter(QObject* watched, QEvent* event)
 FontEditor::FontEditor(const PropertyField& field, QWidget* parent)
     : PropertyEditor(parent), m_box(new QComboBox(this))
 {
+    m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_box->addItem(tr("System font"), QString());
     for (const QString& family : QFontDatabase().families())
         m_box->addItem(family, family);
-    m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_box->setMinimumContentsLength(kShortestName);
     m_box->setFocusPolicy(Qt::StrongFocus);
     Fill(m_box, field.title);
