@@ -46,7 +46,7 @@ TimelineModel::TimelineModel(Project& project, QObject* parent)
     connect(&project, &Project::Replaced, this, &TimelineModel::Reload);
     connect(&project, &Project::ClipsChanged, this, &TimelineModel::Update);
     connect(&project, &Project::NodeChanged, this, &TimelineModel::Follow);
-    connect(&project.Steps(), &QUndoStack::indexChanged, this, &TimelineModel::LevelsChanged);
+    connect(&project.Steps(), &QUndoStack::indexChanged, this, &TimelineModel::ReadLevels);
     if (project.IsUsable())
         Reload();
 }
@@ -58,9 +58,9 @@ void TimelineModel::Reload()
     m_levels.clear();
     m_rows.clear();
     m_reader.ForgetMedia();
+    ReadLevels();
     Update(ClipsOf(m_project.Node()));
     ReadMarkers();
-    Q_EMIT LevelsChanged();
 }
 
 bool TimelineModel::IsHeld(INLETimeline& node) const
@@ -132,30 +132,28 @@ int TimelineModel::SetLevelCount() const
     return count;
 }
 
-bool TimelineModel::IsAnySolo() const
+void TimelineModel::ReadLevels()
 {
+    m_states.clear();
+    m_isAnySolo = false;
     const auto levels = m_project.Levels();
     for (int level = 0, count = SetLevelCount(); level < count; ++level) {
-        int flags = 0;
-        levels->GetFlags(level, &flags);
-        if ((flags & NLELevel_Solo) != 0)
-            return true;
+        LevelState state;
+        levels->GetFlags(level, &state.flags);
+        state.name = EngineText(
+            [&](wchar_t* name, int capacity) { return levels->GetName(level, name, capacity); });
+        m_isAnySolo = m_isAnySolo || (state.flags & NLELevel_Solo) != 0;
+        m_states << state;
     }
-    return false;
+    Q_EMIT LevelsChanged();
 }
 
 LevelState TimelineModel::StateOf(int level) const
 {
-    LevelState state;
-    if (!m_project.IsUsable())
-        return state;
-    const auto levels = m_project.Levels();
-    levels->GetFlags(level, &state.flags);
-    state.name = EngineText(
-        [&](wchar_t* name, int capacity) { return levels->GetName(level, name, capacity); });
+    LevelState state = m_states.value(level);
     state.isLocked = IsLocked(level);
     state.isShown = (state.flags & NLELevel_Hidden) == 0 &&
-                    ((state.flags & NLELevel_Solo) != 0 || !IsAnySolo());
+                    ((state.flags & NLELevel_Solo) != 0 || !m_isAnySolo);
     return state;
 }
 

@@ -74,8 +74,7 @@ private:
     void Update(const QVector<NLEComPtr<INLETimeline>>& nodes);
     void Follow(const NLEComPtr<INLETimeline>& node);
     void ReadMarkers();
-    /// Whether a level is solo.
-    bool IsAnySolo() const;
+    void ReadLevels();
     bool IsHeld(INLETimeline& node) const;
 
     Project& m_project;
@@ -83,4 +82,6 @@ private:
     std::unordered_map<INLETimeline*, std::unique_ptr<ClipRow>> m_rows;
     std::map<int, Level> m_levels;
     QVector<MarkerRow> m_markers;
+    QVector<LevelState> m_states; ///< of levels for which something is set
+    bool m_isAnySolo = false;
 };
