@@ -46,34 +46,33 @@ bool UnlinkAll(const QVector<Move>& moves)
     return isDone;
 }
 
-/// Index of the entry of \a file; -1 when there is none.
-int FindEntry(const BinEntries& entries, const QString& file)
-{
-    const auto found = std::find_if(entries.begin(), entries.end(),
-                                    [&](const BinEntry& entry) { return entry.path == file; });
-    return found == entries.end() ? -1 : int(found - entries.begin());
-}
-
 /// The entry of \a file, which comes to the end where there is none.
 BinEntry& EntryOf(BinEntries& entries, const QString& file)
 {
-    const int index = FindEntry(entries, file);
-    if (index >= 0)
-        return entries[index];
+    const auto found = std::find_if(entries.begin(), entries.end(),
+                                    [&](const BinEntry& entry) { return entry.path == file; });
+    if (found != entries.end())
+        return *found;
     entries.append({file, {}, BinEntry::kNoMarks});
     return entries.last();
+}
+
+QHash<QString, QString> ProxiesByFile(const BinEntries& entries)
+{
+    QHash<QString, QString> proxies;
+    for (const BinEntry& entry : entries)
+        proxies.insert(entry.path, entry.proxy);
+    return proxies;
 }
 
 /// Lets the clips of files whose proxies are others in \a now than in \a before have those.
 void ChangeProxies(const ClipsByFile& clips, const BinEntries& before, const BinEntries& now)
 {
-    const auto proxyIn = [](const BinEntries& entries, const QString& file) {
-        const int index = FindEntry(entries, file);
-        return index < 0 ? QString() : entries[index].proxy;
-    };
+    const QHash<QString, QString> former = ProxiesByFile(before);
+    const QHash<QString, QString> proxies = ProxiesByFile(now);
     for (auto file = clips.cbegin(); file != clips.cend(); ++file) {
-        const QString proxy = proxyIn(now, file.key());
-        if (proxy == proxyIn(before, file.key()))
+        const QString proxy = proxies.value(file.key());
+        if (proxy == former.value(file.key()))
             continue;
         for (const NLEComPtr<INLETimeline>& clip : file.value())
             SetProxy(clip, proxy);
@@ -84,9 +83,12 @@ void ChangeProxies(const ClipsByFile& clips, const BinEntries& before, const Bin
 BinEntries Renamed(const BinEntries& entries, const QHash<QString, QString>& moved)
 {
     BinEntries result;
+    QSet<QString> paths;
     for (BinEntry entry : entries) {
         entry.path = moved.value(entry.path, entry.path);
-        if (FindEntry(result, entry.path) < 0)
+        const int known = paths.size();
+        paths.insert(entry.path);
+        if (paths.size() > known)
             result.append(entry);
     }
     return result;
@@ -196,8 +198,11 @@ bool MediaBin::Relink(const QHash<QString, QString>& moved)
 bool MediaBin::UseProxies(const QHash<QString, QString>& films, int merge)
 {
     BinEntries now = m_entries;
-    for (auto film = films.cbegin(); film != films.cend(); ++film)
-        EntryOf(now, film.key()).proxy = film.value();
+    QHash<QString, QString> unkept = films;
+    for (BinEntry& entry : now)
+        entry.proxy = unkept.contains(entry.path) ? unkept.take(entry.path) : entry.proxy;
+    for (auto film = unkept.cbegin(); film != unkept.cend(); ++film)
+        now.append({film.key(), film.value(), BinEntry::kNoMarks});
     const bool isNews = std::any_of(films.keyBegin(), films.keyEnd(), [&](const QString& file) {
         return Entry(file).proxy != films[file];
     });
