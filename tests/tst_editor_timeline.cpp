@@ -668,9 +668,8 @@ private Q_SLOTS:
             return editor.project.Levels()->SetName(before, L"Empty");
         });
         QCOMPARE(levels(), before + 1);
-        auto* header = HeaderOf(editor, "Empty");
-        QVERIFY(header);
-        auto* name = header->findChild<QLineEdit*>();
+        QTRY_VERIFY(HeaderOf(editor, "Empty"));
+        auto* name = HeaderOf(editor, "Empty")->findChild<QLineEdit*>();
         name->clear();
         QTest::keyClick(name, Qt::Key_Return);
         QCOMPARE(levels(), before);

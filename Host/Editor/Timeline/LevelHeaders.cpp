@@ -6,6 +6,8 @@
 #include "Host/Editor/Timeline/TimelineGeometry.h"
 #include "Host/Editor/Timeline/TimelineModel.h"
 
+#include <QTimerEvent>
+
 LevelHeaders::LevelHeaders(const LevelLayout& levels, const TimelineModel& model, QWidget* parent)
     : QWidget(parent), m_levels(levels), m_model(model), m_area(new QWidget(this))
 {
@@ -53,11 +55,29 @@ void LevelHeaders::Arrange(int scrolled)
         gone->hide();
         gone->deleteLater();
     }
-    while (m_headers.size() < m_levels.Count())
+    while (m_headers.size() < m_levels.Count() && !isVisible())
         m_headers << Make(m_headers.size());
+    if (m_headers.size() < m_levels.Count())
+        m_makes.start(0, this);
+    PlaceHeads();
+}
+
+void LevelHeaders::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() != m_makes.timerId())
+        return QWidget::timerEvent(event);
+    if (m_headers.size() < m_levels.Count())
+        m_headers << Make(m_headers.size());
+    else
+        m_makes.stop();
+    PlaceHeads();
+}
+
+void LevelHeaders::PlaceHeads()
+{
     // The tab key goes down the levels.
     for (int level = m_headers.size() - 1; level >= 0; --level) {
-        m_headers[level]->setGeometry(0, m_levels.Top(level) - scrolled, width(),
+        m_headers[level]->setGeometry(0, m_levels.Top(level) - m_scrolled, width(),
                                       m_levels.Height(level));
         m_headers[level]->show();
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include <QBasicTimer>
 #include <QVector>
 #include <QWidget>
 
@@ -19,7 +20,8 @@ public:
     /// \a levels and \a model outlive the headers.
     LevelHeaders(const LevelLayout& levels, const TimelineModel& model, QWidget* parent = nullptr);
 
-    /// Follows the layout. \a scrolled pixels of it are above the view.
+    /// Follows the layout. \a scrolled pixels of it are above the view. In a window that shows, new
+    /// heads come one in each turn of the event loop.
     void Arrange(int scrolled);
 
 Q_SIGNALS:
@@ -31,14 +33,17 @@ Q_SIGNALS:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     void SetStates();
     LevelHeader* Make(int level);
+    void PlaceHeads();
 
     const LevelLayout& m_levels;
     const TimelineModel& m_model;
     QWidget* m_area; ///< below the height of the view's strip
     QVector<LevelHeader*> m_headers;
     int m_scrolled = 0;
+    QBasicTimer m_makes;
 };

@@ -136,8 +136,8 @@ void TimelineModel::ReadLevels()
 {
     m_states.clear();
     m_isAnySolo = false;
-    const auto levels = m_project.Levels();
     for (int level = 0, count = SetLevelCount(); level < count; ++level) {
+        const auto levels = m_project.Levels();
         LevelState state;
         levels->GetFlags(level, &state.flags);
         state.name = EngineText(
