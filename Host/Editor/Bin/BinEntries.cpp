@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Bin/BinEntries.h"
 
-#include "Com/NLEComPtr.h"
-#include "EngineApi/INLEProperties.h"
-#include "EngineApi/INLETimeline.h"
+#include "Host/Editor/Model/Engine.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -19,14 +17,6 @@ namespace {
 constexpr const wchar_t* kKey = L"kEditor_Bin";
 constexpr int kShortest = 4096;
 constexpr int kLongest = 1 << 26; // characters, of some hundred thousand files
-
-NLEComPtr<INLEProperties> BagOf(INLETimeline& project)
-{
-    NLEComPtr<INLEProperties> bag;
-    if (FAILED(project.GetProperties(bag.put())))
-        bag.forget();
-    return bag;
-}
 
 /// A getter cuts what is longer than its buffer.
 QString ReadText(INLEProperties& bag)
@@ -87,7 +77,7 @@ BinEntry FromJson(const QJsonObject& object, const QString& folder)
 BinEntries ReadBinEntries(INLETimeline& project, const QString& folder)
 {
     BinEntries entries;
-    const NLEComPtr<INLEProperties> bag = BagOf(project);
+    const NLEComPtr<INLEProperties> bag = BagOf(&project);
     if (!bag)
         return entries;
     const QJsonArray array = QJsonDocument::fromJson(ReadText(*bag).toUtf8()).array();
@@ -101,7 +91,7 @@ BinEntries ReadBinEntries(INLETimeline& project, const QString& folder)
 
 bool WriteBinEntries(INLETimeline& project, const BinEntries& entries, const QString& folder)
 {
-    const NLEComPtr<INLEProperties> bag = BagOf(project);
+    const NLEComPtr<INLEProperties> bag = BagOf(&project);
     if (!bag)
         return false;
     QJsonArray array;

@@ -2,6 +2,7 @@
 #include "Host/Editor/Export/ExportQueueView.h"
 
 #include "Host/Editor/Export/ExportQueue.h"
+#include "Host/Widgets/SmallButton.h"
 
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -15,7 +16,6 @@ namespace {
 
 constexpr int kGap = 8;
 constexpr int kBarWidth = 140;
-constexpr int kButtonSide = 22;
 constexpr int kAll = 100; // per cent
 
 bool HasEnded(ExportQueue::State state)
@@ -61,10 +61,7 @@ void ExportQueueView::AddRow(int number)
     bar->setFixedWidth(kBarWidth);
     bar->setRange(0, kAll);
     bar->setAccessibleName(file);
-    auto* button = new QToolButton(widget);
-    button->setText(QStringLiteral("×"));
-    button->setFixedSize(kButtonSide, kButtonSide);
-    button->setObjectName(QStringLiteral("Host_SmallButton"));
+    auto* button = MakeSmallButton(QStringLiteral("×"), QString(), file, widget);
     auto* state = new QLabel(widget);
     state->setObjectName(QStringLiteral("CommonLib_Hint"));
     state->setWordWrap(true);
@@ -113,8 +110,7 @@ void ExportQueueView::Show(int number)
     row.bar->setValue(job.state == ExportQueue::State::Done ? kAll : job.percent);
     row.state->setText(StateText(number));
     const QString action = HasEnded(job.state) ? tr("Take from the list") : tr("Cancel");
-    row.button->setToolTip(action);
-    row.button->setAccessibleName(QStringLiteral("%1: %2").arg(row.bar->accessibleName(), action));
+    NameSmallButton(*row.button, action, row.bar->accessibleName());
 }
 
 void ExportQueueView::Press(int number)

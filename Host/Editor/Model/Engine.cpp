@@ -19,6 +19,14 @@ PlayerMaterProvider& EngineProvider()
     return *NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
 }
 
+NLEComPtr<INLEProperties> BagOf(INLETimeline* node)
+{
+    NLEComPtr<INLEProperties> bag;
+    if (!node || FAILED(node->GetProperties(bag.put())))
+        bag.forget();
+    return bag;
+}
+
 QVector<NLEComPtr<INLETimeline>> NodesOf(INLETimelineEnumerator& walk)
 {
     QVector<NLEComPtr<INLETimeline>> nodes;

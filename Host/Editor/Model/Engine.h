@@ -3,6 +3,7 @@
 
 #include "Com/NLEComPtr.h"
 #include "EngineApi/INLEFactory.h"
+#include "EngineApi/INLEProperties.h"
 #include "EngineApi/INLETimeline.h"
 
 #include <QVector>
@@ -14,6 +15,8 @@ NLEComPtr<INLEFactory> EngineFactory();
 /// The library's maker of all that the engine has; made by the first call, on its thread.
 PlayerMaterProvider& EngineProvider();
 
+/// The property bag of \a node, which may be null; null when it has none.
+NLEComPtr<INLEProperties> BagOf(INLETimeline* node);
 /// The nodes that \a walk enumerates, from where it stands.
 QVector<NLEComPtr<INLETimeline>> NodesOf(INLETimelineEnumerator& walk);
 

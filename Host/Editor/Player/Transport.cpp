@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Player/Transport.h"
 
-#include "EngineApi/INLEProperties.h"
+#include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Project.h"
 #include "Host/Editor/Player/ProjectMarkers.h"
 #include "Host/Widgets/MediaPlayer.h"
@@ -15,18 +15,10 @@ constexpr const wchar_t* kOutKey = L"kEditor_OutPoint";
 constexpr double kFastest = 8;
 constexpr std::uint32_t kMarkerColor = 0xFFE0A030;
 
-NLEComPtr<INLEProperties> BagOf(const NLEComPtr<INLETimeline>& node)
-{
-    NLEComPtr<INLEProperties> bag;
-    if (!node || FAILED(node->GetProperties(bag.put())))
-        bag.forget();
-    return bag;
-}
-
 Transport::Points ReadPoints(const NLEComPtr<INLETimeline>& node)
 {
     Transport::Points points;
-    if (const auto bag = BagOf(node)) {
+    if (const auto bag = BagOf(node.get())) {
         // What is not there stays.
         bag->GetInt(kInKey, &points.in);
         bag->GetInt(kOutKey, &points.out);
@@ -36,7 +28,7 @@ Transport::Points ReadPoints(const NLEComPtr<INLETimeline>& node)
 
 bool WritePoints(const NLEComPtr<INLETimeline>& node, const Transport::Points& points)
 {
-    const auto bag = BagOf(node);
+    const auto bag = BagOf(node.get());
     return bag && SUCCEEDED(bag->SetInt(kInKey, points.in)) &&
            SUCCEEDED(bag->SetInt(kOutKey, points.out));
 }

@@ -6,8 +6,8 @@
 #include "Host/Editor/Properties/EngineCatalog.h"
 #include "Host/Editor/Properties/ParameterFields.h"
 #include "Host/Editor/Properties/PropertyForm.h"
-#include "Host/Editor/Properties/SmallButton.h"
 #include "Host/EngineText.h"
+#include "Host/Widgets/SmallButton.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Properties/KeyFrameBar.h"
 
-#include "Host/Editor/Properties/SmallButton.h"
+#include "Host/Widgets/SmallButton.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>

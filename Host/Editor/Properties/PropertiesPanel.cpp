@@ -21,9 +21,11 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTimerEvent>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -85,7 +87,7 @@ void PropertiesPanel::RebuildIfOther()
 void PropertiesPanel::Rebuild()
 {
     setAccessibleName(tr("Properties"));
-    m_levels.clear();
+    m_strips.clear();
     m_node = m_selection.Current();
     if (!m_node)
         m_node = m_project.Node();
@@ -251,11 +253,27 @@ void PropertiesPanel::AddTitleButton()
 
 void PropertiesPanel::AddMixer()
 {
-    m_levels = ProjectFields::MixedLevels(m_node);
+    m_strips = StripTitles();
     // Many are for those who look for them.
-    const bool isOpen = m_levels.size() <= kMostStrips;
-    for (const int level : qAsConst(m_levels))
-        AddFields(tr("Mixer, level %1").arg(level), ProjectFields::Strip(m_node, level), isOpen);
+    const bool isOpen = m_strips.size() <= kMostStrips;
+    for (const int level : ProjectFields::MixedLevels(m_node))
+        AddFields(StripTitle(level), ProjectFields::Strip(m_node, level), isOpen);
+}
+
+QString PropertiesPanel::StripTitle(int level) const
+{
+    const QString name = EngineText([&](wchar_t* text, int capacity) {
+        return m_project.Levels()->GetName(level, text, capacity);
+    });
+    return tr("Mixer, level %1").arg(name.isEmpty() ? locale().toString(level + 1) : name);
+}
+
+QStringList PropertiesPanel::StripTitles() const
+{
+    QStringList titles;
+    for (const int level : ProjectFields::MixedLevels(m_node))
+        titles << StripTitle(level);
+    return titles;
 }
 
 void PropertiesPanel::AddTransitionSections()
@@ -292,8 +310,8 @@ void PropertiesPanel::RefreshIfPlaced(const QVector<NLEComPtr<INLETimeline>>& cl
 {
     const bool isProject = m_node && m_node == m_project.Node();
     // The rate is fixed by the first clip, and the mixer has a strip for each level that has some,
-    // which heads of levels mute.
-    if (isProject && ProjectFields::MixedLevels(m_node) != m_levels)
+    // which heads of levels mute and name.
+    if (isProject && StripTitles() != m_strips)
         Rebuild();
     else if (clips.contains(m_node) || (isProject && clips.isEmpty()))
         Refresh();

@@ -49,6 +49,9 @@ private:
     void AddClipSections();
     void AddTitleButton();
     void AddMixer();
+    /// Of a level that has clips, by its name, else its number.
+    QString StripTitle(int level) const;
+    QStringList StripTitles() const;
     void AddFields(const QString& title, const QVector<PropertyField>& fields, bool isOpen = true);
     /// Open unless \a isOpen is false, or the user has folded the last one of that title.
     void AddSection(const QString& title, const PropertySection::Make& make, bool isOpen = true);
@@ -84,5 +87,5 @@ private:
     QVector<Shown> m_shown;
     QSet<QString> m_folded; ///< titles of sections that the user has folded, or opened
     QSet<QString> m_opened;
-    QVector<int> m_levels; ///< that the mixer shows
+    QStringList m_strips; ///< titles of those of the mixer
 };

@@ -5,8 +5,8 @@
 #include "Host/Editor/Properties/KeyFrameBar.h"
 #include "Host/Editor/Properties/ParameterKeys.h"
 #include "Host/Editor/Properties/PropertyEditor.h"
-#include "Host/Editor/Properties/SmallButton.h"
 #include "Host/Widgets/MediaPlayer.h"
+#include "Host/Widgets/SmallButton.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -3,8 +3,8 @@
 
 #include "CommonLib/NLEWraper/NLETimeline.h"
 #include "Host/Editor/Properties/ClipActions.h"
-#include "Host/Editor/Properties/SmallButton.h"
 #include "Host/Widgets/NumberEdit.h"
+#include "Host/Widgets/SmallButton.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

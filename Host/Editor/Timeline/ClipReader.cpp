@@ -2,10 +2,10 @@
 #include "Host/Editor/Timeline/ClipReader.h"
 
 #include "EngineApi/INLEKeyFrames.h"
-#include "EngineApi/INLEProperties.h"
 #include "EngineApi/INLETitle.h"
 #include "EngineApi/NLECommon.h"
 #include "EngineApi/NLEKey.h"
+#include "Host/Editor/Model/Engine.h"
 #include "Host/EngineText.h"
 
 #include <QCoreApplication>
@@ -54,8 +54,8 @@ void ReadPlace(INLETimeline& node, ClipRow& row)
 
 void ReadPlaying(INLETimeline& node, ClipRow& row)
 {
-    NLEComPtr<INLEProperties> bag;
-    if (FAILED(node.GetProperties(bag.put())) || !bag)
+    const auto bag = BagOf(&node);
+    if (!bag)
         return;
     int isOn = 0;
     NLERational speed{1, 1};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "Host/Editor/Properties/SmallButton.h"
+#include "Host/Widgets/SmallButton.h"
 
 #include <QToolButton>
 
@@ -14,9 +14,14 @@ QToolButton* MakeSmallButton(const QString& sign, const QString& name, const QSt
 {
     auto* button = new QToolButton(parent);
     button->setText(sign);
-    button->setToolTip(name);
-    button->setAccessibleName(owner.isEmpty() ? name : QStringLiteral("%1: %2").arg(owner, name));
     button->setFixedSize(kSide, kSide);
     button->setObjectName(QStringLiteral("Host_SmallButton"));
+    NameSmallButton(*button, name, owner);
     return button;
+}
+
+void NameSmallButton(QToolButton& button, const QString& name, const QString& owner)
+{
+    button.setToolTip(name);
+    button.setAccessibleName(owner.isEmpty() ? name : QStringLiteral("%1: %2").arg(owner, name));
 }

@@ -9,3 +9,5 @@ class QWidget;
 /// for people with disabilities read \a owner before it where that is given.
 QToolButton* MakeSmallButton(const QString& sign, const QString& name, const QString& owner,
                              QWidget* parent);
+/// Gives a button another name.
+void NameSmallButton(QToolButton& button, const QString& name, const QString& owner);
