@@ -81,11 +81,9 @@ class tst_DocumentPlayer : public QObject, public EngineFixture
 
     static Node Title(const wchar_t* text, const wchar_t* font)
     {
-        NLEComPtr<INLEFactory> factory;
+        const auto factory = Factory();
         NLEComPtr<INLETimelineFactory> timelines;
         Node title;
-        CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
-                                                       INLEFactory::Iid, factory.putVoid());
         factory->GetTimelineFactory(timelines.put());
         timelines->CreateTitle(text, title.put());
         title.query<INLETitle>()->SetFont(font);

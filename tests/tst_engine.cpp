@@ -99,9 +99,7 @@ private slots:
     /// One history for a composite; groups and locks are there when it is opened again.
     void editsAreKeptInDocuments()
     {
-        NLEComPtr<INLEFactory> factory;
-        CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
-                                                       INLEFactory::Iid, factory.putVoid());
+        const auto factory = Factory();
         const auto editingOf = [&](const Node& node) {
             NLEComPtr<INLEEditing> editing;
             factory->CreateEditing(node.get(), editing.put());

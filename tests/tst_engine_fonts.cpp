@@ -19,9 +19,7 @@ private:
     void Restart()
     {
         m_library.reset();
-        NLEComPtr<INLEFactory> factory;
-        CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
-                                                       INLEFactory::Iid, factory.putVoid());
+        const auto factory = EngineFixture::Factory();
         QCOMPARE(factory->GetFontLibrary(m_library.put()), S_OK);
         QCOMPARE(m_library->SetCacheFile(Path("Cache.xml").toStdWString().c_str()), S_OK);
     }

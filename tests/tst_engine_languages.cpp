@@ -82,10 +82,8 @@ class tst_EngineLanguages : public QObject, private EngineFixture
 
     QStringList Titles() const
     {
-        NLEComPtr<INLEFactory> factory;
+        const auto factory = Factory();
         NLEComPtr<INLEReasons> reasons;
-        CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
-                                                       INLEFactory::Iid, factory.putVoid());
         factory->GetReasons(reasons.put());
         const auto remarks = provider->CreateDocumentSerialize().query<INLEDocumentReport>();
         Node title;

@@ -121,8 +121,8 @@ class tst_EngineReasons : public QObject, private EngineFixture
 private slots:
     void initTestCase()
     {
-        QVERIFY(CVCreateInstance::Instance()->cvCreateInstance(
-            INLEFactory::ClassId, nullptr, 0, INLEFactory::Iid, m_factory.putVoid()));
+        m_factory = Factory();
+        QVERIFY(m_factory);
         QCOMPARE(m_factory->GetReasons(m_reasons.put()), S_OK);
         QFile text(Path("text.txt"));
         QVERIFY(text.open(QIODevice::WriteOnly) && text.write("no media") > 0);

@@ -60,8 +60,8 @@ class tst_OpenCLFrames : public QObject, private EngineFixture
 private slots:
     void initTestCase()
     {
-        QVERIFY(CVCreateInstance::Instance()->cvCreateInstance(
-            INLEFactory::ClassId, nullptr, 0, INLEFactory::Iid, m_engine.putVoid()));
+        m_engine = Factory();
+        QVERIFY(m_engine);
         if (!provider->CreateVideoFrameOpencl(2, 2)) {
             NLEComPtr<INLEReasons> reasons;
             wchar_t text[600] = L"";

@@ -77,8 +77,8 @@ class tst_Proxies : public QObject, private EngineFixture
 private slots:
     void initTestCase()
     {
-        QVERIFY(CVCreateInstance::Instance()->cvCreateInstance(
-            INLEFactory::ClassId, nullptr, 0, INLEFactory::Iid, m_engine.putVoid()));
+        m_engine = Factory();
+        QVERIFY(m_engine);
         TestClip clip;
         clip.rateNum = 30000;
         clip.rateDen = 1001;

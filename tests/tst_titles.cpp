@@ -203,9 +203,7 @@ class tst_Titles : public QObject, private PreviewCacheFixture
 private slots:
     void initTestCase()
     {
-        NLEComPtr<INLEFactory> factory;
-        CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
-                                                       INLEFactory::Iid, factory.putVoid());
+        const auto factory = EngineFixture::Factory();
         QCOMPARE(factory->GetTimelineFactory(m_factory.put()), S_OK);
         QVERIFY(QDir().mkdir(Path("fonts")));
         QVERIFY(TestFonts::Write(Path("fonts/boxes.ttf"), TestFonts::Boxes(kBoxes)));

@@ -131,9 +131,7 @@ public:
 
     static NLEComPtr<INLEPlayer> NewPlayer()
     {
-        NLEComPtr<INLEFactory> factory;
-        CVCreateInstance::Instance()->cvCreateInstance(INLEFactory::ClassId, nullptr, 0,
-                                                       INLEFactory::Iid, factory.putVoid());
+        const auto factory = Factory();
         NLEComPtr<INLEPlayer> player;
         factory->CreatePlayer(player.put());
         return player;
