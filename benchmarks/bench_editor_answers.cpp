@@ -172,7 +172,7 @@ private:
     const LargeFilm m_film;
     EditorWindow m_window;
     TimelinePanel* m_timeline;
-    LoopWatch m_watch;
+    LoopWatch m_watch{std::chrono::milliseconds(5)};
     Waited m_longest; ///< of the work that goes on
     double m_ran = 0; ///< by the thread in all
     QMap<QString, std::vector<Waited>> m_waits;

@@ -4,11 +4,8 @@
 #include <QCoreApplication>
 #include <QEvent>
 
-#include <chrono>
-
 namespace {
 
-constexpr std::chrono::milliseconds kBetween(10);
 constexpr double kMillisecond = 1e6; // nanoseconds
 
 QEvent::Type Question()
@@ -19,7 +16,10 @@ QEvent::Type Question()
 
 } // namespace
 
-LoopWatch::LoopWatch(QObject* parent) : QObject(parent), m_thread([this] { Ask(); }) {}
+LoopWatch::LoopWatch(std::chrono::milliseconds between, QObject* parent)
+    : QObject(parent), m_between(between), m_thread([this] { Ask(); })
+{
+}
 
 LoopWatch::~LoopWatch()
 {
@@ -34,7 +34,7 @@ LoopWatch::~LoopWatch()
 void LoopWatch::Ask()
 {
     std::unique_lock<std::mutex> lock(m_mutex);
-    while (!m_changed.wait_for(lock, kBetween, [this] { return m_isEnding; })) {
+    while (!m_changed.wait_for(lock, m_between, [this] { return m_isEnding; })) {
         m_isAsked = true;
         m_since.start();
         QCoreApplication::postEvent(this, new QEvent(Question()));

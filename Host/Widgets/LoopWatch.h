@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QObject>
 
+#include <chrono>
 #include <condition_variable>
 #include <mutex>
 #include <thread>
@@ -11,13 +12,13 @@
 /// Measures how long the event loop of a thread takes to answer.
 ///
 /// A thread of the watch's own posts an event to the thread that the watch lives in, and the next
-/// one ten milliseconds after that was answered.
+/// one some time after that was answered: what begins meanwhile is measured that much too short.
 class LoopWatch : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit LoopWatch(QObject* parent = nullptr);
+    explicit LoopWatch(std::chrono::milliseconds between, QObject* parent = nullptr);
     ~LoopWatch() override;
 
     bool event(QEvent* event) override;
@@ -29,6 +30,7 @@ Q_SIGNALS:
 private:
     void Ask();
 
+    const std::chrono::milliseconds m_between;
     std::mutex m_mutex; ///< of what both threads use
     std::condition_variable m_changed;
     QElapsedTimer m_since; ///< when the event that waits was posted

@@ -132,7 +132,7 @@ int Run(const QCommandLineParser& parser, const QElapsedTimer& since)
     EditorWindow window(paths);
     window.resize(kWindow);
     window.show();
-    const LoopWatch watch;
+    const LoopWatch watch(std::chrono::milliseconds(50));
     QObject::connect(&watch, &LoopWatch::Answered, &NoteLongWait);
     WhenShown(window, [&] {
         qInfo("The window is there after %d ms.", int(since.elapsed()));
