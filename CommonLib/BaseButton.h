@@ -10,8 +10,9 @@
 /// Push button with a number, so that one slot serves many buttons.
 ///
 /// Style sheets reach it by its object name, the name given. It has no border: a sheet of its own
-/// says so, which wins over the border in a sheet of the application. The parent widget given owns
-/// it and is what parentWidget() gives.
+/// says so, which wins over the border in a sheet of the application. Where there is no other
+/// sheet, it shows in the palette's colours what state it is in. The parent widget given owns it
+/// and is what parentWidget() gives.
 ///
 /// Assistive tools read its accessible name, else its text, its tool tip or its object name.
 class COMMONLIB_EXPORT BaseButton : public QPushButton
@@ -27,6 +28,8 @@ public:
     /// As setEnabled().
     void SetEnabled(bool enabled);
 
+    QSize sizeHint() const override;
+
 Q_SIGNALS:
     /// A click, and a press. \a p is the button's upper left corner in global coordinates.
     void Clicked(int id, QPoint p);
@@ -39,6 +42,7 @@ Q_SIGNALS:
 protected:
     void enterEvent(QEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     int m_id;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/BaseStateButton.h"
 
+#include "CommonLib/PaletteLook_p.h"
+
 #include <QChildEvent>
 #include <QPainter>
 #include <QStyle>
@@ -11,7 +13,7 @@ BaseStateButton::BaseStateButton(int id, const QString& name, QWidget* parent)
 {
     // Four values for rgb() are one too many, which Qt remarks on and takes as meant. The text is
     // fixed.
-    setStyleSheet(QStringLiteral("BaseStateButton{background-color:rgb(0,0,0, 0)}"));
+    setStyleSheet(QLatin1String(PaletteLook::kStateButtonSheet));
 }
 
 void BaseStateButton::AddButton(int id, const QString& name)

@@ -49,6 +49,7 @@
 #include "CommonLib/XmlOperation.h"
 #include "CommonLib/externalapi/DesktopMgr.h"
 #include "CommonLib/externalapi/FramelessShadow.h"
+#include "CommonLib/externalapi/LightLook.h"
 #include "CommonLib/externalapi/PixelRatio.h"
 #include "CommonLib/externalapi/ScreenResolution.h"
 #include "CommonLib/externalapi/TimelinePosition.h"

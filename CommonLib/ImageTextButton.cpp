@@ -2,10 +2,12 @@
 #include "CommonLib/ImageTextButton.h"
 
 #include "CommonLib/BaseButton.h"
+#include "CommonLib/PaletteLook_p.h"
 
 #include <QCoreApplication>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPointer>
 
 namespace {
@@ -26,6 +28,7 @@ ImageTextButton::ImageTextButton(int id, const QString& name, QWidget* parent)
     : QWidget(parent), m_text(new QLabel(this)), m_image(new BaseButton(id, name, this))
 {
     setAttribute(Qt::WA_StyledBackground);
+    setAttribute(Qt::WA_Hover);
     m_text->setObjectName(QStringLiteral("ImageTextButton_Text"));
     m_text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     // The mouse belongs to the whole button, which passes enter and leave on to the text.
@@ -93,6 +96,15 @@ void ImageTextButton::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
     LayOut();
+}
+
+void ImageTextButton::paintEvent(QPaintEvent*)
+{
+    if (PaletteLook::HasRule(*this))
+        return; // the sheet has drawn all
+    QPainter painter(this);
+    PaletteLook::PaintPanel(painter, rect(), palette(),
+                            {false, isEnabled() && underMouse(), false, false, false});
 }
 
 void ImageTextButton::LayOut()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/ImageTextButton2.h"
 
+#include "CommonLib/PaletteLook_p.h"
+
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -24,6 +26,7 @@ ImageTextButton2::ImageTextButton2(int id, const QString& name, QWidget* parent)
 {
     setObjectName(name);
     setAttribute(Qt::WA_StyledBackground);
+    setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::TabFocus);
 }
 
@@ -105,8 +108,11 @@ QSize ImageTextButton2::sizeHint() const
 {
     const QSize image = LogicalSize(m_normalImage).expandedTo(LogicalSize(m_selectedImage));
     const int text = fontMetrics().horizontalAdvance(m_text);
+    // A text that is higher than its place reaches below it, while all stays centred about the
+    // place.
+    const int beyond = qMax(fontMetrics().height() - kTextHeight, 0);
     return {qMax(image.width(), text) + 2 * kMargin,
-            image.height() + kTextGap + kTextHeight + 2 * kMargin};
+            image.height() + kTextGap + kTextHeight + 2 * beyond + 2 * kMargin};
 }
 
 void ImageTextButton2::paintEvent(QPaintEvent*)
@@ -123,12 +129,15 @@ void ImageTextButton2::paintEvent(QPaintEvent*)
     const QRect place(
         QPoint((width() - size.width()) / 2, (height() - kTextHeight - size.height()) / 2), size);
     QPainter painter(this);
+    if (!PaletteLook::HasRule(*this))
+        PaletteLook::PaintPanel(painter, rect(), palette(),
+                                {true, isEnabled() && underMouse(), false, false, hasFocus()});
     if (!image.isNull())
         painter.drawPixmap(place.topLeft(), image);
     painter.setPen(color);
     // From the last row of the image, not from the one below it.
     painter.drawText(QRect(0, place.bottom() + kTextGap, width(), kTextHeight),
-                     Qt::AlignHCenter | Qt::AlignTop, m_text);
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextDontClip, m_text);
 }
 
 void ImageTextButton2::mousePressEvent(QMouseEvent*)

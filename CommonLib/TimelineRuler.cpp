@@ -214,7 +214,7 @@ void TimelineRuler::SetPointerShape(const RulerPointerShape& shape)
 
 void TimelineRuler::SetPointerBGColor(const QColor& color)
 {
-    m_view->ChangeSegments([&color](RulerSegment& segment) { segment.pointerColor = color; });
+    m_view->SetColor(&RulerSegment::pointerColor, color);
 }
 
 QColor TimelineRuler::GetPointerBGColor() const
@@ -224,8 +224,7 @@ QColor TimelineRuler::GetPointerBGColor() const
 
 void TimelineRuler::SetPointerBGDisabledColor(const QColor& color)
 {
-    m_view->ChangeSegments(
-        [&color](RulerSegment& segment) { segment.disabledPointerColor = color; });
+    m_view->SetColor(&RulerSegment::disabledPointerColor, color);
 }
 
 QColor TimelineRuler::GetPointerBGDisabledColor() const
@@ -235,7 +234,7 @@ QColor TimelineRuler::GetPointerBGDisabledColor() const
 
 void TimelineRuler::SetFrameTextColor(const QColor& color)
 {
-    m_view->ChangeSegments([&color](RulerSegment& segment) { segment.frameTextColor = color; });
+    m_view->SetColor(&RulerSegment::frameTextColor, color);
 }
 
 QColor TimelineRuler::GetFrameTextColor() const
@@ -245,7 +244,7 @@ QColor TimelineRuler::GetFrameTextColor() const
 
 void TimelineRuler::SetScaleColor(const QColor& color)
 {
-    m_view->ChangeSegments([&color](RulerSegment& segment) { segment.scaleColor = color; });
+    m_view->SetColor(&RulerSegment::scaleColor, color);
 }
 
 QColor TimelineRuler::GetScaleColor() const

@@ -2,6 +2,7 @@
 #include "CommonLib/ToolBarSlider.h"
 
 #include "CommonLib/NumberConversion_p.h"
+#include "CommonLib/SliderPart_p.h"
 #include "CommonLib/SliderSteps_p.h"
 #include "CommonLib/WidgetAccessibility_p.h"
 
@@ -21,23 +22,19 @@ constexpr double kPagesPerRange = 10;
 // So that it does not look out below a chunk at an end, which the style sheet gives this margin.
 constexpr int kGrooveInset = 1;
 
-QWidget* MakePart(QWidget* parent, const QString& name)
-{
-    auto* part = new QWidget(parent);
-    part->setObjectName(name);
-    part->setAttribute(Qt::WA_StyledBackground);
-    return part;
-}
-
 } // namespace
 
 ToolBarSlider::ToolBarSlider(QWidget* parent, Qt::Orientation orientation)
     : QWidget(parent)
     , m_orientation(orientation)
-    , m_background(MakePart(this, QStringLiteral("CommonLib_ToolBarSlider_bg")))
-    , m_groove(MakePart(this, QStringLiteral("CommonLib_ToolBarSlider_groove")))
-    , m_chunk(MakePart(this, QStringLiteral("CommonLib_ToolBarSlider_chunk")))
-    , m_highlight(MakePart(m_groove, QStringLiteral("CommonLib_ToolBarSlider_groove_highlight")))
+    , m_background(new SliderPart(SliderPart::Kind::Background, this, this,
+                                  QStringLiteral("CommonLib_ToolBarSlider_bg")))
+    , m_groove(new SliderPart(SliderPart::Kind::Groove, this, this,
+                              QStringLiteral("CommonLib_ToolBarSlider_groove")))
+    , m_chunk(new SliderPart(SliderPart::Kind::Chunk, this, this,
+                             QStringLiteral("CommonLib_ToolBarSlider_chunk")))
+    , m_highlight(new SliderPart(SliderPart::Kind::Highlight, this, m_groove,
+                                 QStringLiteral("CommonLib_ToolBarSlider_groove_highlight")))
 {
     setObjectName(QStringLiteral("CommonLib_ToolBarSlider"));
     setAttribute(Qt::WA_StyledBackground);
@@ -448,7 +445,7 @@ void ToolBarSlider::focusOutEvent(QFocusEvent* event)
 
 void ToolBarSlider::ShowFocus(const QFocusEvent& event)
 {
-    constexpr const char* name = "keyboardFocus";
+    constexpr const char* name = SliderPart::kKeyboardFocus;
     const bool before = m_chunk->property(name).toBool();
     const bool shows = ShowsKeyboardFocus(event, before);
     if (shows == before)
@@ -456,6 +453,7 @@ void ToolBarSlider::ShowFocus(const QFocusEvent& event)
     m_chunk->setProperty(name, shows);
     m_chunk->style()->unpolish(m_chunk);
     m_chunk->style()->polish(m_chunk);
+    m_chunk->update();
 }
 
 // Geometry ----------------------------------------------------------------------------------------

@@ -11,7 +11,7 @@
 struct SliderSteps;
 
 /// Slider with a fractional value for seek and zoom bars: a background, a groove and a chunk (the
-/// handle), which style sheets draw.
+/// handle), which style sheets draw, or the palette where none draws groove or chunk.
 ///
 /// Object names: "CommonLib_ToolBarSlider" with the children "CommonLib_ToolBarSlider_bg",
 /// "CommonLib_ToolBarSlider_groove" and "CommonLib_ToolBarSlider_chunk", and within the groove

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/ruler/TimelineViewRuler_p.h"
 
+#include "CommonLib/PaletteLook_p.h"
 #include "CommonLib/ScreenPixels_p.h"
 #include "CommonLib/WheelTurn_p.h"
 #include "CommonLib/WidgetAccessibility_p.h"
@@ -25,6 +26,9 @@ constexpr int kFarthestOvershoot = 200; // pixels beyond which scrolling gets no
 constexpr double kScrollPerOvershoot = 0.5;
 // Conversions of whole frames come back a little below them.
 constexpr double kFrameNoise = 1e-6;
+// How much of the text's colour labels and ticks have.
+constexpr double kLabelShade = 0.8;
+constexpr double kTickShade = 0.5;
 constexpr int kMostFrames = std::numeric_limits<int>::max();
 
 int RoundedFps(float fps)
@@ -44,6 +48,7 @@ TimelineViewRuler::TimelineViewRuler(QWidget* parent) : QWidget(parent)
     m_convertor.SetMaxZoom(RulerConvertor::kDefaultMaxZoom);
     // A parent that is disabled has told so before this class could hear it.
     m_convertor.ForEach([this](RulerSegment& segment) { segment.enabled = isEnabled(); });
+    FollowPalette();
 }
 
 // State and painting ------------------------------------------------------------------------------
@@ -93,6 +98,49 @@ void TimelineViewRuler::paintEvent(QPaintEvent* event)
         if (m_keyboardFocus)
             PaintFrame(painter, rect(), palette().color(QPalette::Highlight));
     }
+}
+
+void TimelineViewRuler::SetColor(QColor RulerSegment::*role, const QColor& color)
+{
+    if (!HasFixed(role))
+        m_fixedColors.push_back(role);
+    ChangeSegments([role, &color](RulerSegment& segment) { segment.*role = color; });
+}
+
+bool TimelineViewRuler::HasFixed(QColor RulerSegment::*role) const
+{
+    return std::find(m_fixedColors.begin(), m_fixedColors.end(), role) != m_fixedColors.end();
+}
+
+// Where there is a sheet the presets stay, which it was written for.
+void TimelineViewRuler::FollowPalette()
+{
+    RulerSegment look;
+    if (!PaletteLook::HasSheet(*this)) {
+        const auto shade = [this](double part) {
+            return PaletteLook::Mixed(palette(), QPalette::Window, QPalette::WindowText, part);
+        };
+        look.frameTextColor = shade(kLabelShade);
+        look.scaleColor = shade(kTickShade);
+        if (PaletteLook::IsDark(palette())) {
+            look.pointerColor = palette().color(QPalette::Active, QPalette::WindowText);
+            look.disabledPointerColor = palette().color(QPalette::Disabled, QPalette::WindowText);
+        }
+    }
+    for (const auto role : {&RulerSegment::frameTextColor, &RulerSegment::scaleColor,
+                            &RulerSegment::pointerColor, &RulerSegment::disabledPointerColor}) {
+        if (!HasFixed(role))
+            ChangeSegments([&](RulerSegment& segment) { segment.*role = look.*role; });
+    }
+}
+
+bool TimelineViewRuler::event(QEvent* event)
+{
+    const bool isDone = QWidget::event(event);
+    if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange ||
+        event->type() == QEvent::PaletteChange || event->type() == QEvent::EnabledChange)
+        FollowPalette();
+    return isDone;
 }
 
 void TimelineViewRuler::changeEvent(QEvent* event)

@@ -58,6 +58,8 @@ public:
         m_convertor.ForEach(change);
         update();
     }
+    /// Fixes a colour of every segment that would else follow the palette.
+    void SetColor(QColor RulerSegment::*role, const QColor& color);
     /// Moves the play head, within the range when that is limited. Repaints no more than where it
     /// was and is. Returns whether it moved.
     bool SetCurrentFrame(int frame);
@@ -87,6 +89,7 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -117,6 +120,8 @@ private:
     void DragZoomAndScroll(const QPoint& at);
     bool EndSingleClick();
     void QueueEndDrag();
+    void FollowPalette();
+    bool HasFixed(QColor RulerSegment::*role) const;
     /// Moves the play head for the user and reports it when it moved.
     bool MoveByUser(int frame);
     bool ShowPlayHead();
@@ -133,6 +138,7 @@ private:
     bool SetLeftEdge(double frame);
 
     RulerConvertor m_convertor;
+    std::vector<QColor RulerSegment::*> m_fixedColors; // which the host, or a sheet, has set
     RulerDragAdjustManager m_drag;
     QElapsedTimer m_sincePress;
     QBasicTimer m_scrollTimer;
