@@ -4,7 +4,7 @@
 # makes films and the examples that open no window. FLAGS are the compiler flags that the library was
 # built with, SUFFIX ends the name of a program; TOOLCHAIN and EMULATOR are the tool chain file and what
 # runs programs when the library is cross-compiled. LIBDIR is where libraries lie in a prefix. PYTHON, where
-# there is one, takes the programs of PAGE from it.
+# there is one, takes the programs of PAGE and of README from them.
 
 cmake_minimum_required(VERSION 3.21)
 
@@ -77,6 +77,18 @@ if("engine" IN_LIST components)
     if(NOT EXISTS ${WORK}/cut.mp4)
       message(FATAL_ERROR "the last step has written no film")
     endif()
+    step(${PYTHON} ${SOURCE}/steps.py ${README} ${WORK}/readme)
+    build_project(readme/build ${WORK}/readme)
+    file(GLOB programs RELATIVE ${WORK} ${WORK}/readme/*.cpp)
+    foreach(program IN LISTS programs)
+      get_filename_component(name ${program} NAME_WE)
+      step(${EMULATOR} ${WORK}/readme/build/${name}${SUFFIX} ${sample} WORKING_DIRECTORY ${WORK}/readme)
+    endforeach()
+    foreach(result IN ITEMS frame-10.png cut.mlt film.mp4 host.log secrets.zip)
+      if(NOT EXISTS ${WORK}/readme/${result})
+        message(FATAL_ERROR "an example has not written ${result}")
+      endif()
+    endforeach()
   endif()
   # What is beside the program suffices.
   if(NOT EXISTS ${WORK}/build/deployed/Lang/de/NLECore.qm)
