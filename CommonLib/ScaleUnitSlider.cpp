@@ -86,8 +86,11 @@ ScaleUnitSlider::ScaleUnitSlider(QWidget* parent)
             [this](double value) { Q_EMIT valueChanged(static_cast<float>(value)); });
     connect(m_slider, &ToolBarSlider::startValueChanged, this, &ScaleUnitSlider::startValueChanged);
     connect(m_slider, &ToolBarSlider::endValueChanged, this, &ScaleUnitSlider::endValueChanged);
-    connect(m_subButton, &BaseButton::Clicked, this, &ScaleUnitSlider::Sub);
-    connect(m_addButton, &BaseButton::Clicked, this, &ScaleUnitSlider::Add);
+    // By the keyboard, too, but not while the mouse holds the slider.
+    connect(m_subButton, &BaseButton::Clicked, this,
+            [this] { ButtonPressDown() ? void() : Sub(); });
+    connect(m_addButton, &BaseButton::Clicked, this,
+            [this] { ButtonPressDown() ? void() : Add(); });
 }
 
 void ScaleUnitSlider::setRange(float min, float max)
@@ -241,6 +244,8 @@ void ScaleUnitSlider::NameButtons()
 
 void ScaleUnitSlider::keyPressEvent(QKeyEvent* event)
 {
+    if (ButtonPressDown())
+        return; // of the mouse
     switch (event->key()) {
     case Qt::Key_Plus:
         return Add();

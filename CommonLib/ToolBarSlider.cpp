@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/ToolBarSlider.h"
 
+#include "CommonLib/HoldWatch_p.h"
 #include "CommonLib/NumberConversion_p.h"
 #include "CommonLib/SliderPart_p.h"
 #include "CommonLib/SliderSteps_p.h"
@@ -277,9 +278,10 @@ bool ToolBarSlider::IsHeld() const
 
 void ToolBarSlider::mousePressEvent(QMouseEvent* event)
 {
-    if (!CanChanged())
+    if (!CanChanged() || IsHeld()) // or another button in mid-hold
         return;
     m_buttonPressDown = true;
+    HoldWatch::Begin(*this, [this] { CancelHold(); });
     m_hold = childAt(event->pos()) == m_chunk ? Hold::Chunk : Hold::Groove;
     const QPoint pos = Unmirrored(event->pos());
     if (m_hold == Hold::Chunk) {
@@ -312,10 +314,13 @@ void ToolBarSlider::mouseMoveEvent(QMouseEvent* event)
 
 void ToolBarSlider::mouseReleaseEvent(QMouseEvent* event)
 {
+    if (IsHeld() && event->buttons() != Qt::NoButton)
+        return; // until the last one is released
     m_buttonPressDown = false;
+    HoldWatch::End(*this);
     const Hold held = std::exchange(m_hold, Hold::None);
-    if (held == Hold::Cancelled)
-        return; // told already
+    if (held == Hold::Cancelled || (held == Hold::None && !m_isDragging))
+        return; // told already, or nothing began
     const bool emits = NeedEmitValue();
     if (emits) {
         MoveChunkTo(Unmirrored(event->pos()));
@@ -332,7 +337,7 @@ void ToolBarSlider::EndHold(Hold held, bool emits)
 {
     if (emits) {
         const QPointer<ToolBarSlider> self(this);
-        if (IsTold(held))
+        if (held != Hold::None && IsTold(held))
             Q_EMIT endValueChanged();
         if (self && m_isDragging)
             Q_EMIT endDrag();

@@ -2,6 +2,7 @@
 #include "CommonLib/GlobalUtils.h"
 #include "CommonLib/TimelineRuler.h"
 #include "tests/support/DeletedInSlot.h"
+#include "tests/support/LostRelease.h"
 #include "tests/support/TestFonts.h"
 
 #include <QAccessible>
@@ -945,6 +946,8 @@ private slots:
         QTest::newRow("hidden") << Setter([](Ruler& r) { r.hide(); });
         QTest::newRow("disabled") << Setter([](Ruler& r) { r.setEnabled(false); });
         QTest::newRow("released") << Setter([](Ruler& r) { r.Release(kWidth + 100); });
+        QTest::newRow("a dialog opens") << Setter([](Ruler&) { LostRelease::BehindDialog(); });
+        QTest::newRow("released on a menu") << Setter([](Ruler&) { LostRelease::ToMenu(); });
     }
     void scrollingEndsWithTheDrag()
     {

@@ -4,6 +4,7 @@
 #include "CommonLib/ScaleUnitSlider.h"
 #include "CommonLib/ToolBarSlider.h"
 #include "tests/support/DeletedInSlot.h"
+#include "tests/support/LostRelease.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -239,6 +240,9 @@ private slots:
         row("disabled while held", "p107 m57 d e v70 r7 =70", "start 50 startDrag 25 end endDrag");
         row("hidden while held", "p107 h v70 =70", "start 50 end");
         row("keys, the second at the end already", "> > =100", "start 100 end");
+        row("another button in mid-hold", "p107 P20 R20 r107", "start 50 end");
+        row("a dialog opens in mid-hold", "p107 b r107", "start 50 end");
+        row("the release goes to a menu", "p107 u v7 =7", "start 50 end");
     }
     void signalOrder()
     {
@@ -255,6 +259,10 @@ private slots:
             {'d', [&](int) { bar.setEnabled(false); }},
             {'e', [&](int) { bar.setEnabled(true); }},
             {'h', [&](int) { bar.hide(); }},
+            {'P', [&](int) { QTest::mousePress(bar.windowHandle(), Qt::RightButton); }},
+            {'R', [&](int) { QTest::mouseRelease(bar.windowHandle(), Qt::RightButton); }},
+            {'b', [](int) { LostRelease::BehindDialog(); }},
+            {'u', [](int) { LostRelease::ToMenu(); }},
             {'q', [&](int) { bar.SetAwaysEmitValueChangeStartEnd(false); }},
             {'=', [&](int value) { QCOMPARE(bar.value(), float(value)); }}};
         bool down = false;
@@ -262,7 +270,7 @@ private slots:
             const QChar action = step[0];
             actions[action](step.midRef(1).toInt());
             QCoreApplication::processEvents();
-            down = action == 'p' ? bar.CanChanged() : down && !QString("rdh").contains(action);
+            down = action == 'p' ? bar.CanChanged() : down && !QString("rdhbu").contains(action);
             QCOMPARE(bar.ButtonPressDown(), down);
             QCOMPARE(bar.canSeek(), bar.isEnabled());
         }
@@ -452,6 +460,11 @@ private slots:
                                   << more;
         QTest::newRow("minus key")
             << on([](auto* z) { Key(z->focusProxy(), Qt::Key_Minus); }) << less;
+        QTest::newRow("plus key while the mouse holds it") << on([](auto* z) {
+            QTest::mousePress(z->windowHandle(), Qt::LeftButton, {}, {131, 10});
+            Key(z, Qt::Key_Plus);
+            QTest::mouseRelease(z->windowHandle(), Qt::LeftButton, {}, {131, 10});
+        }) << "start* end";
         QTest::newRow("none left, told all the same") << on([](auto* z) {
             z->setValue(0);
             z->Sub();

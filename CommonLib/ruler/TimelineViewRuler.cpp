@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/ruler/TimelineViewRuler_p.h"
 
+#include "CommonLib/HoldWatch_p.h"
 #include "CommonLib/PaletteLook_p.h"
 #include "CommonLib/ScreenPixels_p.h"
 #include "CommonLib/WheelTurn_p.h"
@@ -302,6 +303,8 @@ void TimelineViewRuler::mousePressEvent(QMouseEvent* event)
         return;
     const bool zooms = event->button() == Qt::MiddleButton ||
                        (event->button() == Qt::LeftButton && event->modifiers() & Qt::AltModifier);
+    if (event->button() != Qt::RightButton)
+        HoldWatch::Begin(*this, [this] { QueueEndDrag(); });
     if (event->button() == Qt::RightButton) {
         TellRightClick(event->globalPos());
     } else if (zooms) {
@@ -437,6 +440,7 @@ bool TimelineViewRuler::EndSingleClick()
 bool TimelineViewRuler::EndDrag()
 {
     const Drag ended = m_drag.Active();
+    HoldWatch::End(*this);
     m_drag.End();
     m_scrollTimer.stop();
     m_endQueued = false;
