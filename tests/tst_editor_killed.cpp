@@ -3,13 +3,12 @@
 // ten seconds before. The seed is printed and taken from COMMONLIB_KILL_SEED, the number of kills
 // from COMMONLIB_KILLS.
 #include "Host/Editor/Window/EditorWindow.h"
-#include "tests/support/EngineFixture.h"
+#include "tests/support/RandomEdits.h"
 
 #include <QApplication>
 #include <QDateTime>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QUndoStack>
 
 #include <random>
 
@@ -19,8 +18,6 @@ const char kEditing[] = "--editing";
 constexpr int kLongestRun = 14000; // milliseconds until the kill
 constexpr int kMostLost = 10000;
 constexpr int kPatience = 30000;
-constexpr int kFrames = 50;
-constexpr int kLevels = 3;
 
 qint64 Now()
 {
@@ -69,63 +66,26 @@ public:
         Note();
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-            Act();
+            m_edits.Act();
             Note();
-            timer.setInterval(Any(5, 150));
+            timer.setInterval(m_edits.Any(5, 150));
         });
         timer.start(0);
         return QApplication::exec();
     }
 
 private:
-    int Any(int least, int most) { return std::uniform_int_distribution<>(least, most)(m_random); }
     void Note()
     {
         m_journal.write(QByteArray::number(Now()) + ' ' + StateOf(m_window.Shown().Node()) + '\n');
         m_journal.flush();
-    }
-    void Act()
-    {
-        Project& project = m_window.Shown();
-        const int kind = Any(0, 19);
-        const int count = EngineFixture::ClipCount(project.Node());
-        if (kind == 0)
-            project.Save();
-        else if (kind < 4)
-            project.Steps().undo();
-        else if (kind < 6)
-            project.Steps().redo();
-        else if (kind < 12 || count == 0)
-            Place();
-        else
-            Change(EngineFixture::ClipAt(project.Node(), Any(0, count - 1)), kind < 16);
-    }
-    void Place()
-    {
-        auto* provider = NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
-        const Node clip = provider->CreateColorTimeline(Qt::red, QSize(320, 180), 25);
-        const NLERange range = {0, Any(1, kFrames) - 1};
-        clip->SetRange(&range);
-        m_window.Shown().Edit("Place", [&](INLEEditing& editing) {
-            return editing.Place(clip.get(), Any(0, 20 * kFrames), Any(0, kLevels - 1),
-                                 NLEEdit_Alone);
-        });
-    }
-    void Change(const Node& clip, bool moves)
-    {
-        int position = 0;
-        clip->GetPosition(&position);
-        const int frame = position + Any(1, kFrames);
-        m_window.Shown().Edit("Change", [&](INLEEditing& editing) {
-            return moves ? editing.Move(clip.get(), frame, Any(0, kLevels - 1), NLEEdit_Alone)
-                         : editing.Split(clip.get(), frame, NLEEdit_Alone);
-        });
     }
 
     EditorWindow m_window;
     QFile m_journal;
     const QString m_film;
     std::mt19937 m_random;
+    RandomEdits m_edits{m_window.Shown(), m_random};
 };
 
 /// What the project was, and when that was written down.
