@@ -5,9 +5,10 @@
 #include "EngineApi/INLEProxies.h"
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/NLEKey.h"
+#include "NLECore/media/FileClaim.h"
+#include "NLECore/media/WholeFile.h"
 #include "tests/support/EngineFixture.h"
 
-#include <QLockFile>
 #include <QProcess>
 #include <QSemaphore>
 
@@ -191,14 +192,13 @@ private slots:
         const QString ended = kept.entryList({"*.lock"}).value(0).left(32);
         QVERIFY(!ended.isEmpty());
         const QString living(32, 'a');
-        QLockFile lock(kept.filePath(living + ".lock"));
-        QVERIFY(lock.lock());
-        // Not every system lets unfinished files have names.
-        for (const QString& key : {ended, living})
-            QVERIFY(QFile(kept.filePath(key + ".mp4.AbC123")).open(QIODevice::WriteOnly));
+        nle::FileClaim claim(kept.filePath(living + ".lock"));
+        nle::WholeFile half(kept.filePath(living + ".mp4"));
+        QVERIFY(claim.Take() && half.open(QIODevice::WriteOnly));
+        QCOMPARE(kept.entryList(QDir::Files | QDir::Hidden).size(), 4);
         QCOMPARE(Find(NewMaker(kept.path()), m_media), QString());
-        QCOMPARE(kept.entryList(QDir::Files),
-                 (QStringList{living + ".lock", living + ".mp4.AbC123"}));
+        QCOMPARE(kept.entryList(QDir::Files | QDir::Hidden),
+                 (QStringList{"." + living + ".mp4.half", living + ".lock"}));
     }
 
     void refused_data()

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/KeptFiles.h"
 
+#include "NLECore/media/SavedFile_p.h"
+#include "NLECore/media/WholeFile.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
-#include <QLockFile>
 #include <QRegularExpression>
 #include <QStandardPaths>
 
@@ -12,28 +14,16 @@ namespace nle {
 
 namespace {
 
-/// How long a file that is being written may take, in seconds; older ones were left behind.
-constexpr int kLongestWrite = 3600;
+const QLatin1String kClaimSuffix(".lock");
 
-const QLatin1String kLockSuffix(".lock");
-
-/// Files that were named here, and those that become one: then their own part is not empty. The key
-/// is the first part.
+/// Files that were named here.
 QRegularExpression NamePattern(const QStringList& suffixes)
 {
     QStringList escaped;
     for (const QString& suffix : suffixes)
         escaped << QRegularExpression::escape(suffix);
-    return QRegularExpression(QStringLiteral("^([0-9a-f]{32})(?:%1)(\\.[A-Za-z0-9]{6})?$")
-                                  .arg(escaped.join(QLatin1Char('|'))));
-}
-
-std::unique_ptr<QLockFile> NewLock(const QString& folder, const QString& key)
-{
-    auto lock = std::make_unique<QLockFile>(folder + QLatin1Char('/') + key + kLockSuffix);
-    // It is nobody's only when its process has ended, however long that works.
-    lock->setStaleLockTime(0);
-    return lock;
+    return QRegularExpression(
+        QStringLiteral("^[0-9a-f]{32}(?:%1)$").arg(escaped.join(QLatin1Char('|'))));
 }
 
 } // namespace
@@ -84,26 +74,26 @@ bool KeptFiles::MakeRoomFor(const QString& path) const
         return false;
     }
     const QRegularExpression pattern = NamePattern(m_suffixes);
-    const QDateTime oldest = QDateTime::currentDateTimeUtc().addSecs(-kLongestWrite);
     // The one used last stands first.
     for (const QFileInfo& file : QDir(place.folder).entryInfoList(QDir::Files, QDir::Time)) {
-        const QRegularExpressionMatch name = pattern.match(file.fileName());
-        if (!name.hasMatch() || file.filePath() == path)
+        if (!pattern.match(file.fileName()).hasMatch() || file.filePath() == path)
             continue;
-        const bool isWhole = name.captured(2).isEmpty();
         used += file.size();
-        if (isWhole ? used > place.quota : file.lastModified() < oldest) {
+        if (used > place.quota) {
             QFile::remove(file.filePath());
             used -= file.size();
         }
     }
+    RemoveLeftovers();
     return true;
 }
 
-std::unique_ptr<QLockFile> KeptFiles::LockOf(const ContentKey& key) const
+std::unique_ptr<FileClaim> KeptFiles::ClaimOf(const ContentKey& key) const
 {
     const QString folder = Current().folder;
-    return folder.isEmpty() ? nullptr : NewLock(folder, ToText(key));
+    return folder.isEmpty() ? nullptr
+                            : std::make_unique<FileClaim>(folder + QLatin1Char('/') + ToText(key) +
+                                                          kClaimSuffix);
 }
 
 void KeptFiles::RemoveLeftovers() const
@@ -111,16 +101,12 @@ void KeptFiles::RemoveLeftovers() const
     const QString folder = Current().folder;
     if (folder.isEmpty())
         return;
-    // The lock of a process that has ended is one as well, and goes when it is taken and given
-    // back.
-    const QRegularExpression pattern = NamePattern(m_suffixes + QStringList(kLockSuffix));
-    for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files)) {
-        const QRegularExpressionMatch name = pattern.match(file.fileName());
-        const bool isLock = file.fileName().endsWith(kLockSuffix);
-        if (!name.hasMatch() || (name.captured(2).isEmpty() && !isLock))
-            continue;
-        if (NewLock(folder, name.captured(1))->tryLock(0) && !isLock)
-            QFile::remove(file.filePath());
+    const QRegularExpression halves = NamePattern(m_suffixes);
+    const QRegularExpression claims = NamePattern({kClaimSuffix});
+    for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files | QDir::Hidden)) {
+        if (halves.match(WholeFile::NameOf(file.fileName())).hasMatch() ||
+            claims.match(file.fileName()).hasMatch())
+            RemoveLeft(file.filePath());
     }
 }
 

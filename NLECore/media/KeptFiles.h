@@ -2,6 +2,7 @@
 #pragma once
 
 #include "NLECore/media/ContentHash.h"
+#include "NLECore/media/FileClaim.h"
 
 #include <QString>
 #include <QStringList>
@@ -9,8 +10,6 @@
 #include <cstdint>
 #include <memory>
 #include <mutex>
-
-class QLockFile;
 
 namespace nle {
 
@@ -33,11 +32,10 @@ public:
     bool Prepare() const;
     /// Removes others until the quota holds. False, and it is gone, when \a path alone is larger.
     bool MakeRoomFor(const QString& path) const;
-    /// A lock, still open, to be held while the file of a key is written for longer than a moment:
-    /// then no other process writes it, and RemoveLeftovers() leaves it. Null when nothing is kept.
-    std::unique_ptr<QLockFile> LockOf(const ContentKey& key) const;
-    /// Removes what was left half written by processes that have ended. Only for files that are
-    /// written under a lock.
+    /// What is to be taken while the file of a key is written for longer than a moment: then nobody
+    /// else writes it. Null when nothing is kept.
+    std::unique_ptr<FileClaim> ClaimOf(const ContentKey& key) const;
+    /// Removes what processes that have ended left half written.
     void RemoveLeftovers() const;
     /// Notes the use of a file in its time of change.
     static void NoteUse(const QString& path);

@@ -67,6 +67,13 @@ class WrittenFile final : public WholeFile
 public:
     using WholeFile::WholeFile;
 
+    /// Writes what was gathered, which may be what fails.
+    bool SeekTo(std::int64_t place)
+    {
+        const bool isThere = FlushAll() && seek(place);
+        Note(isThere);
+        return isThere;
+    }
     QFileDevice::FileError FirstError() const { return m_error; }
     QString FirstReason() const { return m_reason; }
 
@@ -74,14 +81,19 @@ protected:
     qint64 writeData(const char* data, qint64 size) override
     {
         const qint64 written = WholeFile::writeData(data, size);
-        if (written < size && m_error == NoError) {
-            m_error = ErrorOf(*this);
-            m_reason = errorString();
-        }
+        Note(written == size);
         return written;
     }
 
 private:
+    void Note(bool isDone)
+    {
+        if (isDone || m_error != NoError)
+            return;
+        m_error = ErrorOf(*this);
+        m_reason = errorString();
+    }
+
     QFileDevice::FileError m_error = NoError;
     QString m_reason;
 };
@@ -106,7 +118,7 @@ std::int64_t SeekByte(void* opaque, std::int64_t offset, int whence)
     else if (whence == SEEK_END)
         offset += file->size();
     try {
-        return file->seek(offset) ? offset : AVERROR(EIO);
+        return file->SeekTo(offset) ? offset : AVERROR(EIO);
     } catch (const std::bad_alloc&) {
         return AVERROR(ENOMEM);
     }
@@ -505,14 +517,14 @@ bool MediaWriter::Try(const QString& path, WriterSettings& settings, WriterError
     };
     WholeFile target(path);
     const QFileInfo file(path);
-    SideFolder folder(file, "trial");
+    SideFolder folder(file);
     if (!target.open(QIODevice::WriteOnly))
         return fail(WriterError::Kind::File, target.errorString());
-    if (!folder->isValid())
-        return fail(WriterError::Kind::File, folder->errorString());
+    if (!folder.IsValid())
+        return fail(WriterError::Kind::File, folder.Error());
     const bool isSequence = PictureSequence::IsName(path);
     const QString trial =
-        folder->filePath(isSequence ? file.fileName() : QStringLiteral("trial.") + file.suffix());
+        folder.FilePath(isSequence ? file.fileName() : QStringLiteral("trial.") + file.suffix());
     const std::unique_ptr<MediaWriter> writer = Open(trial, settings, error);
     if (!writer)
         return false;

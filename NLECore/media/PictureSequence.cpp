@@ -47,11 +47,11 @@ bool PictureSequence::Fail(const QFileDevice& file)
 bool PictureSequence::Open()
 {
     const QFileInfo file(m_path);
-    m_folder = std::make_unique<SideFolder>(file, "sequence");
+    m_folder = std::make_unique<SideFolder>(file);
     m_count = 0;
-    m_error = (*m_folder)->errorString();
-    m_inside = (*m_folder)->filePath(file.fileName());
-    return (*m_folder)->isValid();
+    m_error = m_folder->Error();
+    m_inside = m_folder->FilePath(file.fileName());
+    return m_folder->IsValid();
 }
 
 bool PictureSequence::Append(const char* data, int size)

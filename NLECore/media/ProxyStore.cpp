@@ -5,7 +5,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 
 #include <algorithm>
 
@@ -83,9 +82,9 @@ QString ProxyStore::Find(const ContentKey& key) const
     return {};
 }
 
-std::unique_ptr<QLockFile> ProxyStore::LockOf(const ContentKey& key) const
+std::unique_ptr<FileClaim> ProxyStore::ClaimOf(const ContentKey& key) const
 {
-    return m_files.Prepare() ? m_files.LockOf(key) : nullptr;
+    return m_files.Prepare() ? m_files.ClaimOf(key) : nullptr;
 }
 
 QString ProxyStore::PathOf(const ContentKey& key, bool hasAlpha) const

@@ -26,9 +26,9 @@ public:
     std::optional<ContentKey> KeyOf(const QString& path, int height) const;
     /// The proxy that is kept under \a key; empty when there is none.
     QString Find(const ContentKey& key) const;
-    /// A lock, still open, to be held while that proxy is written, its folder made. Null when the
+    /// What is to be taken while that proxy is written, its folder made. Null when the
     /// folder cannot be made.
-    std::unique_ptr<QLockFile> LockOf(const ContentKey& key) const;
+    std::unique_ptr<FileClaim> ClaimOf(const ContentKey& key) const;
     /// Where that proxy is to be written; \a hasAlpha: what is transparent stays
     /// so. Empty when nothing is kept.
     QString PathOf(const ContentKey& key, bool hasAlpha) const;

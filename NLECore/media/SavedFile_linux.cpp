@@ -39,6 +39,25 @@ int OpenAlone(const QString& path)
     return -1;
 }
 
+// While it is locked: who waits for the name must not get what is moved or removed.
+void RemoveAlone(QFile& file, const QString& path)
+{
+    QFile::remove(path);
+    file.close();
+}
+
+bool RemoveLeft(const QString& path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    const int descriptor = ::open(name.constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW);
+    if (descriptor < 0)
+        return errno == ENOENT;
+    const bool isGone =
+        ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && ::unlink(name.constData()) == 0;
+    ::close(descriptor);
+    return isGone;
+}
+
 bool WriteThrough(const QFile& file)
 {
     // Some file systems have nothing of the kind.
@@ -52,6 +71,13 @@ bool MoveOver(const QString& file, const QString& target, QString* error)
         return true;
     *error = qt_error_string();
     return false;
+}
+
+bool MoveAlone(QFile& file, const QString& path, const QString& target, QString* error)
+{
+    const bool isMoved = MoveOver(path, target, error);
+    file.close();
+    return isMoved;
 }
 
 } // namespace nle

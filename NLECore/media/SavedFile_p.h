@@ -2,16 +2,8 @@
 #pragma once
 
 #include <QFile>
-#include <QSaveFile>
 
 namespace nle {
-
-/// Puts what was written in its place. False, with what stood there before, when not all of it
-/// could be written: commit() alone overlooks that the last that was gathered cannot be.
-inline bool CommitWhole(QSaveFile& file)
-{
-    return file.flush() && file.commit();
-}
 
 /// What went wrong with \a file: ResourceError for a full disk on every system.
 QFileDevice::FileError ErrorOf(const QFileDevice& file);
@@ -20,11 +12,21 @@ QFileDevice::FileError ErrorOf(const QFileDevice& file);
 /// below 0 with errno, EWOULDBLOCK when somebody has it open.
 int OpenAlone(const QString& path);
 
+/// Closes an open \a file of OpenAlone at \a path and removes it.
+void RemoveAlone(QFile& file, const QString& path);
+
+/// Removes a file of OpenAlone at \a path unless somebody has it open. Where the file system knows
+/// no locks it stays. Whether it is gone.
+bool RemoveLeft(const QString& path);
+
 /// Lets the system write to the disk what it was given for an open \a file. False when it cannot.
 bool WriteThrough(const QFile& file);
 
 /// Renames \a file, in one step over what is at \a target. False, with what was there before and
 /// the system's words in \a error, when that fails.
 bool MoveOver(const QString& file, const QString& target, QString* error);
+
+/// The same with an open \a file of OpenAlone at \a path, which is closed.
+bool MoveAlone(QFile& file, const QString& path, const QString& target, QString* error);
 
 } // namespace nle

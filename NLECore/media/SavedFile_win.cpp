@@ -34,6 +34,18 @@ int OpenAlone(const QString& path)
     return -1;
 }
 
+// Open files are neither removed nor moved here.
+void RemoveAlone(QFile& file, const QString& path)
+{
+    file.close();
+    QFile::remove(path);
+}
+
+bool RemoveLeft(const QString& path)
+{
+    return DeleteFileW(SystemPath(path).c_str()) || GetLastError() == ERROR_FILE_NOT_FOUND;
+}
+
 bool WriteThrough(const QFile& file)
 {
     return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()))) != 0;
@@ -46,6 +58,12 @@ bool MoveOver(const QString& file, const QString& target, QString* error)
         return true;
     *error = qt_error_string();
     return false;
+}
+
+bool MoveAlone(QFile& file, const QString& path, const QString& target, QString* error)
+{
+    file.close();
+    return MoveOver(path, target, error);
 }
 
 } // namespace nle

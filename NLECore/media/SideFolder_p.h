@@ -1,37 +1,36 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <QFileInfo>
-#include <QTemporaryDir>
+#include "NLECore/media/FileClaim.h"
 
-#include <new>
+#include <QFileInfo>
+
+#include <memory>
 
 namespace nle {
 
-/// A folder beside a file, removed with what is in it.
+/// A folder beside a file, removed with what is in it. That of a process that was killed is emptied
+/// and taken over by the next one beside any file there.
 class SideFolder
 {
 public:
-    SideFolder(const QFileInfo& file, const char* name)
-        : m_folder(file.absolutePath() + QStringLiteral("/%1-XXXXXX").arg(QLatin1String(name)))
-    {
-        m_folder.setAutoRemove(false);
-    }
-    ~SideFolder()
-    {
-        // The folder's own destructor ends the process when memory is out.
-        try {
-            m_folder.remove();
-        } catch (const std::bad_alloc&) {
-        }
-    }
+    explicit SideFolder(const QFileInfo& file);
+    ~SideFolder();
     SideFolder(const SideFolder&) = delete;
     SideFolder& operator=(const SideFolder&) = delete;
 
-    QTemporaryDir* operator->() { return &m_folder; }
+    bool IsValid() const { return m_claim != nullptr; }
+    /// Why there is none.
+    const QString& Error() const { return m_error; }
+    QString FilePath(const QString& name) const;
 
 private:
-    QTemporaryDir m_folder;
+    bool Take(const QString& path);
+    void Empty() const;
+
+    QString m_path;
+    QString m_error;
+    std::unique_ptr<FileClaim> m_claim; ///< in the folder
 };
 
 } // namespace nle

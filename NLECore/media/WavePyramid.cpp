@@ -4,9 +4,9 @@
 #include "NLECore/media/AudioDecoder.h"
 #include "NLECore/media/Reasons.h"
 #include "NLECore/media/SavedFile_p.h"
+#include "NLECore/media/WholeFile.h"
 
 #include <QDataStream>
-#include <QSaveFile>
 #include <QtEndian>
 
 #include <algorithm>
@@ -159,10 +159,10 @@ bool WriteWaveFile(const QString& path, const ContentKey& key, const WavePyramid
     QDataStream fields(&head, QIODevice::WriteOnly);
     fields << kMagic << quint64(key.high) << quint64(key.low) << qint64(pyramid.SampleCount())
            << quint32(Checksum(sums.constData(), std::size_t(sums.size())));
-    QSaveFile file(path);
+    WholeFile file(path);
     const bool isWritten = file.open(QIODevice::WriteOnly) &&
                            file.write(head + sums) == kHeadSize + sums.size() &&
-                           file.write(data) == data.size() && CommitWhole(file);
+                           file.write(data) == data.size() && file.Commit();
     if (!isWritten)
         RefuseWriting(E_FAIL, path, file);
     return isWritten;

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <cerrno>
 #include <new>
@@ -29,6 +30,12 @@ WholeFile::WholeFile(const QString& path) : m_target(path)
     const QFileInfo file(path);
     if (file.isSymLink())
         m_target = file.exists() ? file.canonicalFilePath() : file.symLinkTarget();
+}
+
+QString WholeFile::NameOf(const QString& half)
+{
+    static const QRegularExpression pattern(QStringLiteral("^\\.(.+?)(\\.[2-9])?\\.half$"));
+    return pattern.match(half).captured(1);
 }
 
 WholeFile::~WholeFile()
@@ -70,13 +77,12 @@ bool WholeFile::open(OpenMode mode)
 
 bool WholeFile::Commit()
 {
-    if (!isOpen() || !flush() || !WriteThrough(*this))
+    if (!isOpen() || !FlushAll() || !WriteThrough(*this))
         return false;
     if (exists(m_target))
         setPermissions(m_half, permissions(m_target));
-    close();
     QString error;
-    const bool isMoved = MoveOver(m_half, m_target, &error);
+    const bool isMoved = MoveAlone(*this, m_half, m_target, &error);
     if (isMoved)
         m_half.clear();
     Drop();
@@ -85,10 +91,27 @@ bool WholeFile::Commit()
     return isMoved;
 }
 
+bool WholeFile::FlushAll()
+{
+    return flush() || (error() == NoError && flush());
+}
+
+qint64 WholeFile::writeData(const char* data, qint64 size)
+{
+    qint64 written = QFile::writeData(data, size);
+    if (written < 0 && error() == NoError && FlushAll())
+        written = QFile::writeData(data, size);
+    if (written < 0 || written == size)
+        return written;
+    const qint64 rest = QFile::writeData(data + written, size - written);
+    return rest < 0 ? rest : written + rest;
+}
+
 void WholeFile::Drop()
 {
-    close();
-    if (!m_half.isEmpty())
+    if (isOpen())
+        RemoveAlone(*this, m_half);
+    else if (!m_half.isEmpty())
         remove(m_half);
     m_half.clear();
 }

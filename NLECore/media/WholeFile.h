@@ -15,6 +15,9 @@ public:
     /// What was not committed goes.
     ~WholeFile() override;
 
+    /// The name of the file that one of the name \a half is to become; empty when it is none such.
+    static QString NameOf(const QString& half);
+
     /// The file that is replaced.
     const QString& Target() const { return m_target; }
 
@@ -24,6 +27,12 @@ public:
     /// Puts what was written in its place and closes. False, with errorString() and what stood
     /// there before, when not all of it could be written.
     bool Commit();
+
+protected:
+    /// Gives the system what was gathered. False, with error(), when it does not take all of it: of
+    /// a disk that becomes full it takes a part first, which flush() alone has no error for.
+    bool FlushAll();
+    qint64 writeData(const char* data, qint64 size) override;
 
 private:
     void Drop();

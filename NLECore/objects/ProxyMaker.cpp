@@ -3,6 +3,7 @@
 
 #include "Com/ComGuard.h"
 #include "Com/ThreadPriority.h"
+#include "NLECore/media/FileClaim.h"
 #include "NLECore/media/ProxyStore.h"
 #include "NLECore/media/Reasons.h"
 #include "NLECore/model/MediaObjects.h"
@@ -10,9 +11,8 @@
 #include "NLECore/model/SourceNodes.h"
 #include "NLECore/scene/SourceChoice.h"
 
-#include <QLockFile>
-
 #include <algorithm>
+#include <thread>
 
 namespace nle {
 
@@ -172,12 +172,12 @@ HRESULT ProxyMaker::Work(const Job& job)
                                   ClampToInt(double(*shown.end) + std::max(0.0, shown.delay)) - 1);
     if (film.root->size.height <= job.height)
         return RefuseRange("height", kLeastHeight, film.root->size.height - 1);
-    const std::unique_ptr<QLockFile> lock = key ? Proxies().LockOf(*key) : nullptr;
-    if (!lock)
+    const std::unique_ptr<FileClaim> claim = key ? Proxies().ClaimOf(*key) : nullptr;
+    if (!claim)
         return Refuse(E_ACCESSDENIED, NLEReason_NotWritable,
                       QStringLiteral("no folder for proxies"));
-    const HRESULT result = Take(*lock, job);
-    // Whoever held the lock may have made it.
+    const HRESULT result = Take(*claim, job);
+    // Whoever had the claim may have made it.
     if (result != S_OK || !Proxies().Find(*key).isEmpty())
         return result;
     const MediaStream* stream = media->Stream(media->videoStream);
@@ -186,15 +186,16 @@ HRESULT ProxyMaker::Work(const Job& job)
                  Proxies().PathOf(*key, hasAlpha), job);
 }
 
-HRESULT ProxyMaker::Take(QLockFile& lock, const Job& job)
+HRESULT ProxyMaker::Take(FileClaim& claim, const Job& job)
 {
-    constexpr int patience = 100; // milliseconds
-    while (!lock.tryLock(patience)) {
-        if (lock.error() != QLockFile::LockFailedError)
+    constexpr std::chrono::milliseconds patience{100};
+    while (!claim.Take()) {
+        if (!claim.IsOthers())
             return Refuse(E_ACCESSDENIED, NLEReason_NotWritable,
                           QStringLiteral("no file in the folder for proxies"));
         if (job.isCancelled)
             return Refuse(E_ABORT);
+        std::this_thread::sleep_for(patience);
     }
     return S_OK;
 }

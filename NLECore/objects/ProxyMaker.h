@@ -13,9 +13,9 @@
 #include <mutex>
 #include <vector>
 
-class QLockFile;
-
 namespace nle {
+
+class FileClaim;
 
 /// Makes proxies on a thread of its own.
 class ProxyMaker final : public ComObject<INLEProxyMaker>
@@ -60,7 +60,7 @@ private:
 
     static HRESULT Work(const Job& job);
     /// Waits until no other maker or process makes the proxy that \a lock is of.
-    static HRESULT Take(QLockFile& lock, const Job& job);
+    static HRESULT Take(FileClaim& claim, const Job& job);
     static HRESULT Write(const FilmPlan& film, const WriterSettings& settings, const QString& path,
                          const Job& job);
 

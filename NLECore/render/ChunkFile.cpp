@@ -61,7 +61,7 @@ bool ChunkWriter::Commit()
            << quint64(m_owner.low) << qint32(m_format) << qint32(m_entries.size())
            << Checksum(table);
     return m_file.seek(0) && m_file.write(head + table) == ContentsSize(m_entries.size()) &&
-           CommitWhole(m_file);
+           m_file.Commit();
 }
 
 std::unique_ptr<ChunkReader> ChunkReader::Open(const QString& path, const ContentKey& key)

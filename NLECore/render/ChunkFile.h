@@ -4,9 +4,9 @@
 #include "NLECore/media/ContentHash.h"
 #include "NLECore/media/PictureCodec.h"
 #include "NLECore/media/SavedFile_p.h"
+#include "NLECore/media/WholeFile.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 #include <memory>
 #include <vector>
@@ -43,7 +43,7 @@ public:
     QFileDevice::FileError Error() const { return ErrorOf(m_file); }
 
 private:
-    QSaveFile m_file;
+    WholeFile m_file;
     const ContentKey m_key;
     const ChunkOwner m_owner;
     const PictureFormat m_format;

@@ -8,7 +8,6 @@
 #include <QDirIterator>
 #include <QRegularExpression>
 #include <QStorageInfo>
-#include <QTemporaryFile>
 
 #include <algorithm>
 #include <map>
@@ -27,11 +26,11 @@ constexpr std::int64_t kTimeGrain = 2000;
 /// that fill one quota would else remove each other's work for as long as they run.
 constexpr std::int64_t kOthersTime = std::int64_t(5) * 60 * 1000;
 
-/// Name of a chunk, or of one that is or was being written.
+/// Name of a chunk.
 const QRegularExpression& NamePattern()
 {
     static const QRegularExpression pattern(
-        QStringLiteral("^([0-9a-f]{16})([0-9a-f]{16})\\.nlechunk(\\.[A-Za-z0-9]{6})?$"));
+        QStringLiteral("^([0-9a-f]{16})([0-9a-f]{16})\\.nlechunk$"));
     return pattern;
 }
 
@@ -47,12 +46,15 @@ void ForEachFile(const QString& folder, Visit visit)
     QDirIterator files(folder, QDir::Files | QDir::Hidden);
     while (files.hasNext()) {
         files.next();
-        const QRegularExpressionMatch name = NamePattern().match(files.fileName());
+        const QString becomes = WholeFile::NameOf(files.fileName());
+        const bool isWhole = becomes.isEmpty();
+        const QRegularExpressionMatch name =
+            NamePattern().match(isWhole ? files.fileName() : becomes);
         if (!name.hasMatch())
             continue;
         const ContentKey key{name.captured(1).toULongLong(nullptr, 16),
                              name.captured(2).toULongLong(nullptr, 16)};
-        visit(key, name.captured(3).isEmpty(), files);
+        visit(key, isWhole, files);
     }
 }
 
@@ -103,7 +105,7 @@ bool ChunkStore::Prepare()
     m_guarded.isFolderOurs =
         m_guarded.isFolderOurs || QDir(m_folder).isEmpty(QDir::AllEntries | QDir::Hidden |
                                                          QDir::System | QDir::NoDotAndDotDot);
-    if (!QTemporaryFile(PathOf({}) + QLatin1String(".XXXXXX")).open())
+    if (!WholeFile(PathOf({})).open(QIODevice::WriteOnly))
         return false;
     m_guarded.listedState = kUnknownState;
     return true;
@@ -126,8 +128,7 @@ void ChunkStore::Refresh()
         List();
 }
 
-// What a killed process left half written goes at first, provided that no other process writes
-// here.
+// What a killed process left half written goes.
 void ChunkStore::List()
 {
     Claim();
@@ -139,10 +140,10 @@ void ChunkStore::List()
     std::unordered_map<ContentKey, Entry, ContentKeyHash> found;
     std::int64_t used = 0;
     ForEachFile(m_folder, [&](const ContentKey& key, bool isWhole, const QDirIterator& file) {
-        if (!isWhole && m_guarded.claim && !m_guarded.wasListed)
-            QFile::remove(file.filePath());
-        if (!isWhole)
+        if (!isWhole) {
+            RemoveLeft(file.filePath());
             return;
+        }
         const auto known = m_guarded.entries.find(key);
         const QFileInfo info = file.fileInfo();
         const std::int64_t written = info.lastModified().toMSecsSinceEpoch();
@@ -164,9 +165,8 @@ void ChunkStore::Claim()
         m_guarded.claim.reset();
     if (m_guarded.claim || !IsFolderThere())
         return;
-    m_guarded.claim = std::make_unique<QLockFile>(InFolder(kClaimName));
-    m_guarded.claim->setStaleLockTime(0);
-    if (m_guarded.claim->tryLock(0))
+    m_guarded.claim = std::make_unique<FileClaim>(InFolder(kClaimName));
+    if (m_guarded.claim->Take())
         QFile::remove(InFolder(kSharedName));
     else
         m_guarded.claim.reset();
@@ -342,10 +342,11 @@ void ChunkStore::Drop(const ContentKey& key)
 void ChunkStore::Clear()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    // Without the claim, what is half written may be another process's.
     ForEachFile(m_folder, [this](const ContentKey&, bool isWhole, const QDirIterator& file) {
-        if (isWhole || m_guarded.claim)
+        if (isWhole)
             QFile::remove(file.filePath());
+        else
+            RemoveLeft(file.filePath());
         m_guarded.isFolderOurs = m_guarded.isFolderOurs || isWhole;
     });
     m_guarded.entries.clear();

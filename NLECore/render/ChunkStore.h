@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "NLECore/media/FileClaim.h"
 #include "NLECore/render/ChunkFile.h"
 #include "NLECore/render/ChunkPlan.h"
-
-#include <QLockFile>
 
 #include <memory>
 #include <mutex>
@@ -134,12 +133,12 @@ private:
         std::int64_t used = 0;
         std::int64_t reserved = 0;
         bool isListed = false;
-        bool wasListed = false; ///< ever; from then on half-written files may be this process's
+        bool wasListed = false; ///< ever
         std::int64_t listedState =
             kUnknownState;         ///< the folder's time of change when it was listed
         bool isFolderOurs = false; ///< was missing or empty
         bool isMarked = false;     ///< this process has left the mark of IsShared()
-        std::unique_ptr<QLockFile> claim;
+        std::unique_ptr<FileClaim> claim;
     };
     mutable std::mutex m_mutex; ///< guards m_guarded
     Guarded m_guarded;
