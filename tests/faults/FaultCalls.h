@@ -10,7 +10,9 @@ namespace FaultCalls {
 enum class How
 {
     Fail, ///< once: no room for what writes, no rights for what opens, an error of the device else
-    Kill  ///< as a loss of power would, but for what the system had been given already
+    Kill, ///< as a loss of power would, but for what the system had been given already
+    Vanish, ///< the folder is removed with all that is in it before the call
+    Unnamed ///< files without a name are refused each time, as some file systems do
 };
 
 struct Fault

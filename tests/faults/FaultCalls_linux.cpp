@@ -12,6 +12,7 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -43,7 +44,12 @@ bool IsTheOne(const char* call)
     s_hasHappened = true;
     if (fault.how == FaultCalls::How::Kill)
         ::kill(::getpid(), SIGKILL);
-    return true;
+    if (fault.how == FaultCalls::How::Fail)
+        return true;
+    s_isCounting = false;
+    std::error_code unused;
+    std::filesystem::remove_all(fault.folder, unused);
+    return false;
 }
 
 bool IsBelow(const char* path)
@@ -80,6 +86,12 @@ Result Failed(int error)
     return Result(-1);
 }
 
+bool IsUnnamed(int flags)
+{
+    return s_isCounting && Wanted().how == FaultCalls::How::Unnamed &&
+           (flags & O_TMPFILE) == O_TMPFILE;
+}
+
 mode_t ModeOf(int flags, va_list arguments)
 {
     return (flags & (O_CREAT | O_TMPFILE)) ? va_arg(arguments, mode_t) : 0;
@@ -109,32 +121,24 @@ bool FaultCalls::End()
         static auto* const real = Real(&name, #name);                                              \
         return Fails(group, file) ? Failed<result>(error) : real arguments;                        \
     }
-#define FAULT_OPEN(name)                                                                           \
-    extern "C" Q_DECL_EXPORT int name(const char* path, int flags, ...)                            \
+#define FAULT_OPEN(name, parameters, arguments)                                                    \
+    extern "C" Q_DECL_EXPORT int name parameters                                                   \
     {                                                                                              \
         static auto* const real = Real(&name, #name);                                              \
         va_list rest;                                                                              \
         va_start(rest, flags);                                                                     \
         const mode_t mode = ModeOf(flags, rest);                                                   \
         va_end(rest);                                                                              \
-        return Fails("open", path) ? Failed<int>(EACCES) : real(path, flags, mode);                \
-    }
-#define FAULT_OPENAT(name)                                                                         \
-    extern "C" Q_DECL_EXPORT int name(int folder, const char* path, int flags, ...)                \
-    {                                                                                              \
-        static auto* const real = Real(&name, #name);                                              \
-        va_list rest;                                                                              \
-        va_start(rest, flags);                                                                     \
-        const mode_t mode = ModeOf(flags, rest);                                                   \
-        va_end(rest);                                                                              \
-        return Fails("open", path) ? Failed<int>(EACCES) : real(folder, path, flags, mode);        \
+        if (IsUnnamed(flags))                                                                      \
+            return Failed<int>(EOPNOTSUPP);                                                        \
+        return Fails("open", path) ? Failed<int>(EACCES) : real arguments;                         \
     }
 // NOLINTEND(bugprone-macro-parentheses)
 
-FAULT_OPEN(open)
-FAULT_OPEN(open64)
-FAULT_OPENAT(openat)
-FAULT_OPENAT(openat64)
+FAULT_OPEN(open, (const char* path, int flags, ...), (path, flags, mode))
+FAULT_OPEN(open64, (const char* path, int flags, ...), (path, flags, mode))
+FAULT_OPEN(openat, (int folder, const char* path, int flags, ...), (folder, path, flags, mode))
+FAULT_OPEN(openat64, (int folder, const char* path, int flags, ...), (folder, path, flags, mode))
 FAULT_CALL("read", EIO, ssize_t, read, (int file, void* data, size_t size), (file, data, size),
            file)
 FAULT_CALL("read", EIO, ssize_t, pread64, (int file, void* data, size_t size, off64_t from),

@@ -2,7 +2,7 @@
 // Does one step of a scenario, with a fault or without:
 //
 //     fault_scenarios SCENARIO FOLDER prepare | look
-//     fault_scenarios SCENARIO FOLDER act [CALL AT fail|kill]
+//     fault_scenarios SCENARIO FOLDER act [CALL AT fail|kill|vanish|unnamed]
 //
 // Prints what came of it: after "act" "fault" when it happened and "done", "refused" or "refused
 // without a reason", after "look" what is left.
@@ -37,12 +37,20 @@ const char* Words(const Outcome& outcome)
     return outcome.hasReason ? "refused" : "refused without a reason";
 }
 
+FaultCalls::How HowOf(const QString& word)
+{
+    if (word == QLatin1String("kill"))
+        return FaultCalls::How::Kill;
+    if (word == QLatin1String("vanish"))
+        return FaultCalls::How::Vanish;
+    return word == QLatin1String("unnamed") ? FaultCalls::How::Unnamed : FaultCalls::How::Fail;
+}
+
 void Act(const Scenario& scenario, const QString& folder, const QStringList& fault)
 {
     if (fault.size() == 3)
-        FaultCalls::Begin(
-            {QFile::encodeName(folder).toStdString(), fault[0].toStdString(), fault[1].toInt(),
-             fault[2] == QLatin1String("kill") ? FaultCalls::How::Kill : FaultCalls::How::Fail});
+        FaultCalls::Begin({QFile::encodeName(folder).toStdString(), fault[0].toStdString(),
+                           fault[1].toInt(), HowOf(fault[2])});
     const Outcome outcome = scenario.act();
     std::printf("%s%s\n", FaultCalls::End() ? "fault, " : "", Words(outcome));
 }
