@@ -89,10 +89,9 @@ class SmallDisk
 public:
     SmallDisk()
     {
-        static const bool s_isOwn =
-            ::unshare(CLONE_NEWNS) == 0 &&
-            ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
-        m_isThere = s_isOwn && ::mount("small", Name().constData(), "tmpfs", 0, "size=4m") == 0;
+        static const bool isOwn = ::unshare(CLONE_NEWNS) == 0 &&
+                                  ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+        m_isThere = isOwn && ::mount("small", Name().constData(), "tmpfs", 0, "size=4m") == 0;
     }
     ~SmallDisk()
     {
