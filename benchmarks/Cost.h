@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "benchmarks/Median.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Report.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 
 #include <functional>
@@ -28,10 +28,8 @@ inline Cost CostOf(int who, const std::function<void()>& work)
                double(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
     };
     const double before = processor();
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return {double(timer.nsecsElapsed()) / 1e9, processor() - before};
+    const double wall = Seconds(work);
+    return {wall, processor() - before};
 }
 
 /// Medians of several runs.
@@ -44,6 +42,15 @@ inline Cost MedianCost(const std::vector<Cost>& costs)
         processor.push_back(cost.processor);
     }
     return {Median(wall), Median(processor)};
+}
+
+/// Reports both costs of a frame of \a frames: time, and that of processors.
+inline void ReportCosts(const QString& film, int frames, const Cost& ours, const QString& peer,
+                        const Cost& theirs)
+{
+    Report(film + ", a frame", ours.wall / frames, Other(peer, theirs.wall / frames));
+    Report(film + ", processors a frame", ours.processor / frames,
+           Other(peer, theirs.processor / frames));
 }
 
 /// What the process holds in memory, in MiB: now, or at the most since the last call.

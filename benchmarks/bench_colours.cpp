@@ -3,7 +3,8 @@
 // and tonemap; and those of standard range for comparison.
 #include "NLECore/media/FrameDecoder.h"
 #include "TestMedia.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Report.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
@@ -35,11 +36,11 @@ bool MakeClip(const QString& path, const QStringList& tags)
     return failure.isEmpty();
 }
 
-/// Milliseconds of processor time a picture, of all threads.
+/// Seconds of processor time a picture, of all threads.
 double Measure(const std::function<bool()>& work)
 {
     const std::clock_t start = std::clock();
-    return work() ? double(std::clock() - start) * 1000 / CLOCKS_PER_SEC / kFrames : -1;
+    return work() ? double(std::clock() - start) / CLOCKS_PER_SEC / kFrames : -1;
 }
 
 double OwnTime(const QString& path)
@@ -106,9 +107,8 @@ int main(int argc, char** argv)
         plain.push_back(OwnTime(standard));
         peer.push_back(FilterTime(high, filters));
     }
-    std::printf("decoded and converted, 10 bits, 1920 x 1080, processor time:\n"
-                "high range  own %6.2f ms  zscale and tonemap %6.2f ms a picture  ratio %.2f\n"
-                "standard    own %6.2f ms a picture\n",
-                Median(own), Median(peer), Median(own) / Median(peer), Median(plain));
+    const QString what = QStringLiteral("high range in 10 bits, processors a frame");
+    Report(what, Median(own), Other("zscale and tonemap", Median(peer)));
+    Report(what, Median(own), Ours("standard range", Median(plain)));
     return 0;
 }

@@ -2,11 +2,11 @@
 // A folder as a portable device: walking 20,000 objects beside the file system's own walk, and
 // copying a file of 1 GiB beside cp. Rounds are interleaved; figures are medians.
 #include "CommonLib/WpdApiLib/WpdApiLib.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Report.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -27,30 +27,28 @@ constexpr qint64 kFileSize = 1LL << 30;
 constexpr int kRounds = 5;
 
 // \a prepare is not timed.
-double Seconds(const std::function<void()>& prepare, const std::function<bool()>& run)
+double SecondsOf(const std::function<void()>& prepare, const std::function<bool()>& run)
 {
     prepare();
-    QElapsedTimer timer;
-    timer.start();
-    if (!run())
-        std::fprintf(stderr, "failed\n");
-    return static_cast<double>(timer.nsecsElapsed()) / 1e9;
+    return Seconds([&] {
+        if (!run())
+            std::fprintf(stderr, "failed\n");
+    });
 }
 
-void Compare(const char* subject, const char* peer, const std::function<void()>& prepare,
+void Compare(const char* subject, const Peer& peer, const std::function<void()>& prepare,
              const std::function<bool()>& ours, const std::function<bool()>& theirs)
 {
     std::vector<double> our;
     std::vector<double> their;
     for (int round = 0; round < kRounds; ++round) {
         if (round % 2 == 0)
-            our.push_back(Seconds(prepare, ours));
-        their.push_back(Seconds(prepare, theirs));
+            our.push_back(SecondsOf(prepare, ours));
+        their.push_back(SecondsOf(prepare, theirs));
         if (round % 2 != 0)
-            our.push_back(Seconds(prepare, ours));
+            our.push_back(SecondsOf(prepare, ours));
     }
-    std::printf("%s: %.3f s, %s %.3f s, speed ratio %.2f\n", subject, Median(our), peer,
-                Median(their), Median(their) / Median(our));
+    Report(subject, Median(our), {peer.kind, peer.name, Median(their)});
 }
 
 struct Walk
@@ -107,7 +105,7 @@ int main(int argc, char** argv)
         return 1;
     }
     Compare(
-        "walking 20,000 objects", "std::filesystem", [] {},
+        "walking 20,000 objects", Bare("std::filesystem"), [] {},
         [&] {
             walk.objects = 0;
             return WpdApiLib::EnumerateAllContent() && walk.objects > kObjects;
@@ -126,7 +124,7 @@ int main(int argc, char** argv)
     const QString target = work.filePath("copy");
     const std::wstring path = target.toStdWString();
     Compare(
-        "copying 1 GiB", "cp",
+        "copying 1 GiB", Other("cp"),
         [&] {
             // What one copy leaves to be written would hold up the next one.
             QFile::remove(target);

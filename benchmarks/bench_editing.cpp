@@ -3,9 +3,7 @@
 // moves many clips is timed by the clip. Each edit is done and undone, and both are timed.
 #include "NLECore/model/Editing.h"
 #include "NLECore/model/SourceNodes.h"
-#include "benchmarks/Median.h"
-
-#include <QElapsedTimer>
+#include "benchmarks/Pairs.h"
 
 #include <cstdio>
 #include <functional>
@@ -16,8 +14,6 @@ namespace {
 
 constexpr int kSmall = 100;
 constexpr int kLarge = 10000;
-constexpr int kRounds = 31;
-constexpr int kCalls = 200;
 constexpr int kLevels = 4;
 constexpr int kFrames = 20; ///< from one clip of a level to the next, of which half are empty
 
@@ -48,13 +44,11 @@ struct Project
 
 using Edit = std::function<HRESULT(Editing&, INLETimeline*, int position, int level)>;
 
-/// Microseconds of one edit and its undoing.
-double Time(const Project& project, const Edit& edit)
+/// An edit and its undoing, of another clip each time.
+auto Repeated(const Project& project, const Edit& edit)
 {
-    QElapsedTimer timer;
-    timer.start();
-    for (int call = 0; call < kCalls; ++call) {
-        INLETimeline* clip = project.Clip(call);
+    return [&project, edit, call = 0]() mutable {
+        INLETimeline* clip = project.Clip(call++ % 20);
         int position = 0;
         int level = 0;
         clip->GetPosition(&position);
@@ -64,44 +58,27 @@ double Time(const Project& project, const Edit& edit)
             std::fputs("an edit was refused\n", stderr);
         if (result == S_OK)
             project.editing->Undo();
-    }
-    return double(timer.nsecsElapsed()) / 1e3 / kCalls;
+    };
 }
 
-void Compare(const char* name, const Project& small, const Project& large, const Edit& edit)
+/// All clips but the first ones make way, until kLarge have moved.
+auto RippledAll(const Project& project)
 {
-    std::vector<double> smalls;
-    std::vector<double> larges;
-    for (int round = 0; round < kRounds; ++round) {
-        smalls.push_back(Time(small, edit));
-        larges.push_back(Time(large, edit));
-    }
-    std::printf("  %-14s %8.2f us, %8.2f us, ratio %.2f\n", name, Median(smalls), Median(larges),
-                Median(larges) / Median(smalls));
-}
-
-/// All clips but the first ones make way.
-void RippleAll(const Project& project)
-{
-    std::vector<double> times;
-    for (int round = 0; round < kRounds; ++round) {
-        QElapsedTimer timer;
-        timer.start();
-        project.editing->RippleTrim(project.clips[0].get(), NLEEdge_End, kFrames / 2 - 1, 0);
-        project.editing->Undo();
-        times.push_back(double(timer.nsecsElapsed()) / 1e3);
-    }
-    std::printf("  %zu clips move: %.0f us, %.2f us a clip\n", project.clips.size() - kLevels,
-                Median(times), Median(times) / double(project.clips.size()));
+    return [&project] {
+        for (std::size_t moved = 0; moved < kLarge; moved += project.clips.size()) {
+            project.editing->RippleTrim(project.clips[0].get(), NLEEdge_End, kFrames / 2 - 1, 0);
+            project.editing->Undo();
+        }
+    };
 }
 
 } // namespace
 
-int main()
+int main(int argc, char** argv)
 {
     const Project small(kSmall);
     const Project large(kLarge);
-    std::printf("edits and their undoing in %d and in %d clips\n", kSmall, kLarge);
+    const Peer few = Ours(QString("%1 clips").arg(kSmall));
     const std::pair<const char*, Edit> edits[] = {
         {"split", [](Editing& e, INLETimeline* c, int p, int) { return e.Split(c, p + 5, 0); }},
         {"trim", [](Editing& e, INLETimeline* c, int p,
@@ -158,8 +135,9 @@ int main()
          }},
     };
     for (const auto& [name, edit] : edits)
-        Compare(name, small, large, edit);
-    RippleAll(small);
-    RippleAll(large);
-    return 0;
+        AddPair(QString("%1, %2 clips").arg(name).arg(kLarge), Repeated(large, edit), few,
+                Repeated(small, edit));
+    AddPair(QString("each moved by a ripple trim, %1 clips").arg(kLarge), RippledAll(large), few,
+            RippledAll(small), kLarge);
+    return RunPairs(argc, argv);
 }

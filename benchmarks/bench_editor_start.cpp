@@ -6,7 +6,8 @@
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "benchmarks/LargeFilm.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Report.h"
 
 #include <QApplication>
 #include <QDir>
@@ -16,7 +17,6 @@
 #include <QTemporaryDir>
 #include <QThread>
 
-#include <algorithm>
 #include <cstdio>
 #include <unistd.h>
 
@@ -29,8 +29,8 @@ constexpr int kPatience = 30000; // milliseconds
 const char kWindow[] = "The window is there";
 const char kFilesOpen[] = "Its files are open";
 
-/// Milliseconds.
-struct Cost
+/// Seconds.
+struct Waited
 {
     double passed = -1;
     double worked = -1;
@@ -44,7 +44,7 @@ double WorkedBy(qint64 process)
     constexpr int user = 11; // fields behind the name
     const QList<QByteArray> fields = file.readAll().split(')').last().simplified().split(' ');
     const double ticks = fields.value(user).toDouble() + fields.value(user + 1).toDouble();
-    return 1000 * ticks / double(sysconf(_SC_CLK_TCK));
+    return ticks / double(sysconf(_SC_CLK_TCK));
 }
 
 QByteArray LogIn(const QString& home)
@@ -54,7 +54,7 @@ QByteArray LogIn(const QString& home)
 }
 
 /// From the start of the editor with \a arguments until \a line stands in its log.
-Cost TimeUntil(const char* line, const QStringList& arguments)
+Waited TimeUntil(const char* line, const QStringList& arguments)
 {
     const QTemporaryDir home;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -69,41 +69,34 @@ Cost TimeUntil(const char* line, const QStringList& arguments)
     timer.start();
     editor.start(QCoreApplication::applicationDirPath() + QStringLiteral("/CommonLibEditor"),
                  arguments);
-    Cost cost;
+    Waited cost;
     while (timer.elapsed() < kPatience && !LogIn(home.path()).contains(line))
         QThread::msleep(2);
-    cost.passed = double(timer.nsecsElapsed()) / 1e6;
+    cost.passed = double(timer.nsecsElapsed()) / 1e9;
     cost.worked = WorkedBy(editor.processId());
     editor.kill();
     editor.waitForFinished();
     return cost;
 }
 
-Cost TimeOfVersion()
+void PrintVersion()
 {
-    QElapsedTimer timer;
-    timer.start();
     QProcess::execute(QCoreApplication::applicationDirPath() + QStringLiteral("/CommonLibEditor"),
                       {QStringLiteral("--version")});
-    return {double(timer.nsecsElapsed()) / 1e6, -1};
 }
 
-template <typename Measure>
-double Print(const char* name, double peer, Measure measure)
+void Compare(const char* name, const Peer& peer, const char* line, const QStringList& arguments)
 {
     std::vector<double> passed;
     std::vector<double> worked;
     for (int round = 0; round < kRounds; ++round) {
-        const Cost cost = measure();
+        const Waited cost = TimeUntil(line, arguments);
         passed.push_back(cost.passed);
         worked.push_back(cost.worked);
     }
-    const double median = Median(passed);
-    std::printf("  %-34s median %6.0f ms, longest %6.0f, worked %5.0f, ratio %5.2f\n", name, median,
-                *std::max_element(passed.begin(), passed.end()), Median(worked),
-                peer > 0 ? median / peer : 1);
-    std::fflush(stdout);
-    return median;
+    Report(name, Median(passed), peer);
+    std::printf("  longest %.0f ms, processors worked %.0f ms\n", Largest(passed) * 1e3,
+                Median(worked) * 1e3);
 }
 
 void Run(const QString& folder)
@@ -111,13 +104,13 @@ void Run(const QString& folder)
     const LargeFilm film = LargeFilm::Make(folder, kClips, kFiles);
     if (film.document.isEmpty())
         return;
-    std::printf("from the start of the editor, %d rounds\n", kRounds);
-    const double peer = Print("--version", 0, TimeOfVersion);
-    Print("window drawn", peer, [] { return TimeUntil(kWindow, {}); });
-    Print("window drawn, with a project", peer,
-          [&] { return TimeUntil(kWindow, {film.document}); });
-    Print("project of 1,000 clips open", peer,
-          [&] { return TimeUntil(kFilesOpen, {film.document}); });
+    std::vector<double> versions;
+    for (int round = 0; round < kRounds; ++round)
+        versions.push_back(Seconds(PrintVersion));
+    const Peer peer = Bare("--version", Median(versions));
+    Compare("window drawn", peer, kWindow, {});
+    Compare("window drawn, with a project", peer, kWindow, {film.document});
+    Compare("project of 1,000 clips open", peer, kFilesOpen, {film.document});
 }
 
 } // namespace

@@ -42,10 +42,12 @@ bool WriteTable(const QString& path)
 {
     constexpr int side = 33;
     QByteArray text = "LUT_3D_SIZE 33\n";
-    for (int i = 0; i < side * side * side; ++i)
-        text += QByteArray::number(i % side / 33.0) + ' ' +
-                QByteArray::number(i / side % side / 40.0) + ' ' +
-                QByteArray::number(i / side / side / 33.0) + '\n';
+    for (int i = 0; i < side * side * side; ++i) {
+        const int row = i / side % side;
+        const int layer = i / side / side;
+        text += QByteArray::number(i % side / 33.0) + ' ' + QByteArray::number(row / 40.0) + ' ' +
+                QByteArray::number(layer / 33.0) + '\n';
+    }
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
 }
@@ -146,14 +148,7 @@ void Compare(const char* title, const QString& media, const std::vector<const ch
         own.push_back(CostOf(RUSAGE_SELF, [&] { Draw(*project); }));
         melt.push_back(CostOf(RUSAGE_CHILDREN, [&] { Melt(*project, document); }));
     }
-    const Cost mine = MedianCost(own);
-    const Cost peer = MedianCost(melt);
-    std::printf("%s: own %.1f, melt %.1f frames a second, ratio %.2f; %.1f and %.1f ms of "
-                "processor a frame, ratio %.2f\n",
-                title, kFrames / mine.wall, kFrames / peer.wall, peer.wall / mine.wall,
-                mine.processor * 1e3 / kFrames, peer.processor * 1e3 / kFrames,
-                peer.processor / mine.processor);
-    std::fflush(stdout);
+    ReportCosts(title, kFrames, MedianCost(own), "melt", MedianCost(melt));
 }
 
 } // namespace

@@ -11,7 +11,6 @@
 #include "TestMedia.h"
 #include "benchmarks/Cost.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QGuiApplication>
 #include <QProcess>
@@ -104,17 +103,9 @@ void Compare(const char* title, const Node& project, const QStringList& inputs, 
             melt.push_back(CostOf(RUSAGE_CHILDREN, [&] { Melt(document, other); }));
     }
     const Cost mine = MedianCost(own);
-    std::printf(
-        "%s: own %.1f frames a second, %.1f ms of processor a frame, at the most %.0f MiB\n", title,
-        kFrames / mine.wall, mine.processor * 1e3 / kFrames, Memory("VmHWM:"));
-    const auto compare = [&mine](const char* name, const Cost& peer) {
-        std::printf("  %-6s %.1f frames a second, ratio %.2f; %.1f ms of processor, ratio %.2f\n",
-                    name, kFrames / peer.wall, peer.wall / mine.wall,
-                    peer.processor * 1e3 / kFrames, peer.processor / mine.processor);
-    };
-    compare("ffmpeg", MedianCost(ffmpeg));
-    compare("melt", MedianCost(melt));
-    std::fflush(stdout);
+    std::printf("%s: at the most %.0f MiB\n", title, Memory("VmHWM:"));
+    ReportCosts(title, kFrames, mine, "ffmpeg", MedianCost(ffmpeg));
+    ReportCosts(title, kFrames, mine, "melt", MedianCost(melt));
 }
 
 Node OneClip(const QString& media)
@@ -199,12 +190,10 @@ void CompareStills(const QString& media, const QString& large, const QString& dr
     }
     const Cost all = MedianCost(onLarge);
     const Cost least = MedianCost(onDrawn);
-    std::printf(
-        "  on a still of the size that is drawn: %.1f frames a second, %.1f ms of processor "
-        "a frame; the large one costs %.2f of it, %.2f of processor\n",
-        kFrames / least.wall, least.processor * 1e3 / kFrames, all.wall / least.wall,
-        all.processor / least.processor);
-    std::fflush(stdout);
+    const QString peer = QStringLiteral("a still of the size drawn");
+    Report("on a large still, a frame", all.wall / kFrames, Ours(peer, least.wall / kFrames));
+    Report("on a large still, processors a frame", all.processor / kFrames,
+           Ours(peer, least.processor / kFrames));
 }
 
 /// Memory in the course of a film of an hour: small pictures, but every frame of it.

@@ -2,27 +2,23 @@
 // GetFileMd5 of a sparse 10 GiB file beside a sparse 100 MiB one, with the same block size, and the
 // memory that both take. Rounds are interleaved and compared by their medians.
 #include "CommonLib/GlobalUtils.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Report.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <cstdio>
-#include <vector>
 
 namespace {
 
 constexpr int kRounds = 15;
 constexpr quint64 kBlockSize = 4 << 20;
 
-double Milliseconds(const QString& path)
+void Fingerprint(const QString& path)
 {
-    QElapsedTimer timer;
-    timer.start();
     if (GetFileMd5(kBlockSize, path).size() != 32)
         std::fprintf(stderr, "no fingerprint\n");
-    return timer.nsecsElapsed() / 1e6;
 }
 
 // Largest memory that the process has used, in KiB; 0 where the system does not tell.
@@ -49,17 +45,11 @@ int main()
         return 1;
     }
     const qint64 before = PeakMemory();
-    std::vector<double> ofLarge;
-    std::vector<double> ofSmall;
-    for (int round = 0; round < kRounds; ++round) {
-        ofLarge.push_back(Milliseconds(large.fileName()));
-        ofSmall.push_back(Milliseconds(small.fileName()));
-    }
+    const Rounds rounds = TakeTurns(
+        kRounds, [&] { Fingerprint(large.fileName()); }, [&] { Fingerprint(small.fileName()); });
     const qint64 after = PeakMemory();
-    std::printf("blocks of 4 MiB, medians of %d rounds\n", kRounds);
-    std::printf("10 GiB %.2f ms, 100 MiB %.2f ms\n", Median(ofLarge), Median(ofSmall));
-    std::printf("time, ratio of the large file to the small one: %.2f\n",
-                Median(ofLarge) / Median(ofSmall));
+    Report("a file of 10 GiB in blocks of 4 MiB", Median(rounds.ours),
+           Ours("one of 100 MiB", Median(rounds.theirs)));
     std::printf("growth of the peak memory: %lld KiB\n", static_cast<long long>(after - before));
     return 0;
 }

@@ -2,34 +2,23 @@
 // A folder of 2,000 fonts, scanned at a first start and at later ones, beside a bare listing of the
 // folder and beside Qt opening every file. Medians of rounds in one run.
 #include "NLECore/media/FontFiles.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Report.h"
 #include "tests/support/TestFonts.h"
 
 #include <QDateTime>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
-#include <functional>
-#include <vector>
 
 namespace {
 
 constexpr int kFonts = 2000;
 constexpr int kRounds = 15;
-constexpr double kTarget = 100;
-
-double Time(const std::function<void()>& work)
-{
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return double(timer.nsecsElapsed()) / 1e6;
-}
 
 /// Copies of a monospaced face of 340 KB, each under a family of its own.
 bool WriteFonts(const QString& folder)
@@ -72,26 +61,22 @@ int main(int argc, char** argv)
         return 1;
     }
     const QStringList files = QDir(folder.path()).entryList({"*.ttf"}, QDir::Files);
-    const double bare = Time([&] {
+    const double bare = Seconds([&] {
         for (const QString& file : files)
             QFontDatabase::addApplicationFont(folder.filePath(file));
     });
     int found = 0;
-    const double first = Time([&] { found = Scan(folder.path()); });
-    std::vector<double> later;
-    std::vector<double> listing;
+    const double first = Seconds([&] { found = Scan(folder.path()); });
     qint64 sum = 0; // keeps the listing from being optimised away
-    for (int round = 0; round < kRounds; ++round) {
-        later.push_back(Time([&] { found = std::min(found, Scan(folder.path())); }));
-        listing.push_back(Time([&] { sum += List(folder.path()); }));
-    }
+    const Rounds later = TakeTurns(
+        kRounds, [&] { found = std::min(found, Scan(folder.path())); },
+        [&] { sum += List(folder.path()); });
     if (found != kFonts || sum == 0) {
         std::printf("only %d fonts were found\n", found);
         return 1;
     }
-    std::printf("first start %8.1f ms, Qt opening each file %8.1f ms, ratio %.2f\n", first, bare,
-                first / bare);
-    std::printf("later start %8.1f ms (target: below %.0f), bare listing %8.1f ms, ratio %.2f\n",
-                Median(later), kTarget, Median(listing), Median(later) / Median(listing));
+    Report("2,000 fonts at a first start", first, Other("Qt opening each file", bare));
+    Report("2,000 fonts at a later start", Median(later.ours),
+           Bare("listing the folder", Median(later.theirs)));
     return 0;
 }

@@ -1,60 +1,30 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // Key frames of the open engine through the library, beside the same numbers in a std::map: adding
-// ten thousand, finding an index by frame and by time, interpolating; and what a render asks.
-// Interleaved, compared by medians.
+// ten thousand, finding an index by time, interpolating; and what a render asks, whose time should
+// grow as the logarithm of the number.
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "CommonLib/NLEWraper/VideoKeyFrame.h"
 #include "CommonLib/NLEWraper/VideoKeyFrameSetting.h"
 #include "NLECore/scene/KeyFrameList.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Pairs.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 
 #include <algorithm>
 #include <cstdio>
-#include <functional>
 #include <map>
+#include <memory>
 #include <numeric>
 #include <random>
+#include <vector>
 
 namespace {
 
-using Action = std::function<void()>;
-using Peer = std::map<double, NLEKeyFrameRecord>;
+using Map = std::map<double, NLEKeyFrameRecord>;
 using Order = std::vector<int>;
 
 constexpr int kCount = 10000;
-constexpr int kRounds = 21;
-
-double Time(const Action& action)
-{
-    QElapsedTimer timer;
-    timer.start();
-    action();
-    return double(timer.nsecsElapsed());
-}
-
-/// Prints what one of \a calls costs in \a first and in \a peer, which take turns.
-void Compare(const char* name, int calls, const Action& first, const Action& peer)
-{
-    std::vector<double> firsts;
-    std::vector<double> peers;
-    for (int round = 0; round < kRounds; ++round) {
-        firsts.push_back(Time(first) / calls);
-        peers.push_back(Time(peer) / calls);
-    }
-    std::printf("  %-26s %8.1f ns, std::map %8.1f ns, ratio %.2f\n", name, Median(firsts),
-                Median(peers), Median(firsts) / Median(peers));
-}
-
-/// Keeps the compiler from leaving out a call whose result nobody uses.
-template <typename T>
-void Use(const T& value)
-{
-    asm volatile("" : : "g"(&value) : "memory");
-}
 
 NLEKeyFrameRecord RecordAt(int frame, int count)
 {
@@ -64,61 +34,90 @@ NLEKeyFrameRecord RecordAt(int frame, int count)
     return record;
 }
 
-NLEKeyFrameRecord PeerValue(const Peer& peer, double time)
+NLEKeyFrameRecord ValueIn(const Map& map, double time)
 {
-    const auto after = peer.lower_bound(time);
-    const auto before = after == peer.begin() ? after : std::prev(after);
-    return nle::Interpolate(&before->second, after == peer.end() ? nullptr : &after->second, time);
+    const auto after = map.lower_bound(time);
+    const auto before = after == map.begin() ? after : std::prev(after);
+    return nle::Interpolate(&before->second, after == map.end() ? nullptr : &after->second, time);
 }
 
-Peer Fill(const Order& order)
+double TimeOf(int frame)
 {
-    Peer peer;
+    return CalculateVideoKeyFramePosition(frame, kCount);
+}
+
+Map Fill(const Order& order)
+{
+    Map map;
     for (const int frame : order)
-        peer[CalculateVideoKeyFramePosition(frame, kCount)] = RecordAt(frame, kCount);
-    return peer;
+        map[TimeOf(frame)] = RecordAt(frame, kCount);
+    return map;
 }
 
-void Adding(VideoKeyFrameSetting& keys, const char* name, const Order& order)
+void AddAll(VideoKeyFrameSetting& keys, const Order& order)
 {
-    const Action add = [&] {
-        keys.ClearAllKeyFrame();
-        VideoKeyFrameParam param;
-        for (const int frame : order) {
-            param.time = CalculateVideoKeyFramePosition(frame, kCount);
-            param.rotateAngle = frame;
-            keys.AddKeyFrame(param);
-        }
-    };
-    Compare(name, kCount, add, [&] { Use(Fill(order)); });
-}
-
-void Rendering(int count)
-{
-    nle::KeyFrameCurve curve;
-    Peer peer;
-    curve.axis = {0, double(count)};
-    for (int frame = 0; frame < count; ++frame) {
-        curve.frames.push_back(RecordAt(frame, count));
-        peer[curve.frames.back().time] = curve.frames.back();
+    keys.ClearAllKeyFrame();
+    VideoKeyFrameParam param;
+    for (const int frame : order) {
+        param.time = TimeOf(frame);
+        param.rotateAngle = frame;
+        keys.AddKeyFrame(param);
     }
-    constexpr int calls = 10000;
+}
+
+void CompareAdding(VideoKeyFrameSetting& keys, const char* name, const Order& order)
+{
+    AddPair(
+        QString("one of %1 added, %2").arg(kCount).arg(name),
+        [&keys, order] { AddAll(keys, order); }, Other("std::map"), [order] { return Fill(order); },
+        kCount);
+}
+
+/// Finds the keys in \a order; adding leaves all of them there.
+void CompareFinding(VideoKeyFrameSetting& keys, const Order& order)
+{
+    AddAll(keys, order);
+    auto next = [order, at = std::size_t(0)]() mutable {
+        at = (at + 1) % order.size();
+        return TimeOf(order[at]);
+    };
+    const auto map = std::make_shared<Map>(Fill(order));
+    // The map knows no index: it only finds the place.
+    AddPair(
+        "index by time",
+        [&keys, next]() mutable {
+            int index = -1;
+            keys.GetKeyFrameIndex(CalculateVideoKeyFrameIndex(next(), kCount), kCount, index);
+            return index;
+        },
+        Other("std::map"), [map, next]() mutable { return map->lower_bound(next()); });
+    AddPair(
+        "values at a time",
+        [&keys, next]() mutable { return keys.GetKeyFrameParam(next() + 3e-5); }, Other("std::map"),
+        [map, next]() mutable { return ValueIn(*map, next() + 3e-5); });
+}
+
+void CompareRendering(int count)
+{
+    const auto curve = std::make_shared<nle::KeyFrameCurve>();
+    const auto map = std::make_shared<Map>();
+    curve->axis = {0, double(count)};
+    for (int frame = 0; frame < count; ++frame) {
+        curve->frames.push_back(RecordAt(frame, count));
+        (*map)[curve->frames.back().time] = curve->frames.back();
+    }
     std::mt19937 random(1);
-    std::vector<double> frames(calls);
+    std::vector<double> frames(10000);
     for (double& frame : frames)
         frame = double(random() % unsigned(count)) + 0.5;
-    char name[64];
-    std::snprintf(name, sizeof name, "of %d", count);
-    Compare(
-        name, calls,
-        [&] {
-            for (const double frame : frames)
-                Use(curve.AtFrame(frame));
-        },
-        [&] {
-            for (const double frame : frames)
-                Use(PeerValue(peer, frame / count));
-        });
+    auto next = [frames, at = std::size_t(0)]() mutable {
+        at = (at + 1) % frames.size();
+        return frames[at];
+    };
+    AddPair(
+        QString("values while rendering, of %1").arg(count),
+        [curve, next]() mutable { return curve->AtFrame(next()); }, Other("std::map"),
+        [map, next, count]() mutable { return ValueIn(*map, next() / count); });
 }
 
 } // namespace
@@ -135,41 +134,21 @@ int main(int argc, char** argv)
     }
     const NLERange range = {0, kCount - 1};
     clip->SetRange(&range);
+    int result = 0;
     {
         VideoKeyFrameSetting keys(clip);
         Order order(kCount);
         std::iota(order.begin(), order.end(), 0);
-        std::printf("adding one of %d (target: below 10000 ns)\n", kCount);
-        Adding(keys, "in order", order);
+        CompareAdding(keys, "in order", order);
         std::reverse(order.begin(), order.end());
-        Adding(keys, "backwards", order);
+        CompareAdding(keys, "backwards", order);
         std::shuffle(order.begin(), order.end(), std::mt19937(1));
-        Adding(keys, "in any order", order);
-
-        const Peer peer = Fill(order);
-        std::puts("finding (target: below 1000 ns)");
-        const auto each = [&order](auto call) {
-            return [&order, call] {
-                for (const int frame : order)
-                    Use(call(frame));
-            };
-        };
-        const auto time = [](int frame) { return CalculateVideoKeyFramePosition(frame, kCount); };
-        // The map knows no index: it only finds the place.
-        Compare("index by time", kCount, each([&](int frame) {
-                    int index = -1;
-                    keys.GetKeyFrameIndex(CalculateVideoKeyFrameIndex(time(frame), kCount), kCount,
-                                          index);
-                    return index;
-                }),
-                each([&](int frame) { return peer.lower_bound(time(frame)); }));
-        Compare("values at a time", kCount,
-                each([&](int frame) { return keys.GetKeyFrameParam(time(frame) + 3e-5); }),
-                each([&](int frame) { return PeerValue(peer, time(frame) + 3e-5); }));
+        CompareAdding(keys, "in any order", order);
+        CompareFinding(keys, order);
+        for (const int count : {100, 10000, 1000000})
+            CompareRendering(count);
+        result = RunPairs(argc, argv);
     }
-    std::puts("values while rendering (target: grows as the logarithm)");
-    for (const int count : {100, 10000, 1000000})
-        Rendering(count);
     NLEWraper::Release();
-    return 0;
+    return result;
 }

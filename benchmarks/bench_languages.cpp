@@ -3,16 +3,15 @@
 // each, beside bare translators that load the same files; medians of rounds in one run.
 #include "CommonLib/MultiLangMgr.h"
 #include "benchmarks/BenchTranslations.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Report.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTranslator>
 #include <QVector>
 
 #include <cstdio>
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -20,16 +19,6 @@ namespace {
 
 constexpr int kTexts = 2000;
 constexpr int kRounds = 31;
-constexpr double kStartTarget = 60;
-constexpr double kSwitchTarget = 30;
-
-double Time(const std::function<void()>& work)
-{
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return timer.nsecsElapsed() / 1e6;
-}
 
 QStringList WriteAll(const QString& folder)
 {
@@ -56,12 +45,6 @@ Translators LoadBare(const QStringList& files)
     return translators;
 }
 
-void Print(const char* what, double ours, double peer, double target)
-{
-    std::printf("%-28s %7.2f ms (target: below %.0f), bare load %7.2f ms, ratio %.2f\n", what, ours,
-                target, peer, ours / peer);
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -81,9 +64,9 @@ int main(int argc, char** argv)
     Translators bare;
     for (int round = 0; round < kRounds; ++round) {
         MultiLangMgr::Release();
-        start.push_back(Time([] { MultiLangMgr::GetInstance(); }));
+        start.push_back(Seconds([] { MultiLangMgr::GetInstance(); }));
         bare.clear();
-        bareStart.push_back(Time([&] { bare = LoadBare(files); }));
+        bareStart.push_back(Seconds([&] { bare = LoadBare(files); }));
     }
 
     MultiLangMgr* manager = MultiLangMgr::GetInstance();
@@ -92,8 +75,8 @@ int main(int argc, char** argv)
     // From font to font and back, the dearest of all switches.
     for (int round = 0; round < kRounds; ++round) {
         const bool japanese = round % 2 == 0;
-        change.push_back(
-            Time([&] { manager->SetLangLocale(japanese ? Language_Japanese : Language_English); }));
+        change.push_back(Seconds(
+            [&] { manager->SetLangLocale(japanese ? Language_Japanese : Language_English); }));
         if (QCoreApplication::translate("Test", "text 7") !=
             (japanese ? "Japanese 7" : "English 7")) {
             std::fputs("the language has not changed\n", stderr);
@@ -101,7 +84,8 @@ int main(int argc, char** argv)
         }
     }
     MultiLangMgr::Release();
-    Print("start, 17 x 2,000 texts", Median(start), Median(bareStart), kStartTarget);
-    Print("switch, with ini and font", Median(change), Median(bareStart), kSwitchTarget);
+    const Peer peer = Bare("loading the files", Median(bareStart));
+    Report("start with 17 languages of 2,000 texts", Median(start), peer);
+    Report("another language, its font and the ini file", Median(change), peer);
     return 0;
 }

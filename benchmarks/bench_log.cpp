@@ -2,7 +2,8 @@
 // What a line of the log costs, beside spdlog flushed after every line and beside the bare system
 // calls, all writing the same bytes. Rounds are interleaved; figures are medians.
 #include "CommonLib/BaseLog.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Report.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,7 +13,6 @@
 #include <spdlog/sinks/basic_file_sink.h>
 #include <spdlog/spdlog.h>
 
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstring>
@@ -36,7 +36,7 @@ constexpr const char* kFolder = "/home/user/Videos/.RenderCache";
 using Clock = std::chrono::steady_clock;
 using Round = std::function<double(const QString& path)>;
 
-// Nanoseconds a line, wall time over all lines of all threads.
+// Seconds a line, wall time over all lines of all threads.
 double TimeLines(int threadCount, const std::function<void(int number)>& writeLine)
 {
     const int lines = kLines / threadCount;
@@ -50,7 +50,7 @@ double TimeLines(int threadCount, const std::function<void(int number)>& writeLi
     }
     for (std::thread& thread : threads)
         thread.join();
-    const std::chrono::duration<double, std::nano> time = Clock::now() - start;
+    const std::chrono::duration<double> time = Clock::now() - start;
     return time.count() / (lines * threadCount);
 }
 
@@ -110,15 +110,6 @@ Costs Measure(const QString& folder, const std::vector<Round>& subjects)
     return costs;
 }
 
-// The median of the ratios within a round: what slows the machine for a while slows both sides.
-double Ratio(const std::vector<double>& ours, const std::vector<double>& peer)
-{
-    std::vector<double> ratios;
-    std::transform(ours.begin(), ours.end(), peer.begin(), std::back_inserter(ratios),
-                   std::divides<double>());
-    return Median(ratios);
-}
-
 // A line without its time stamp.
 QByteArray FirstLine(const QString& folder, const Round& round)
 {
@@ -160,11 +151,8 @@ int main(int argc, char** argv)
     const Costs eight = Measure(folder.path(), {ours(8), peer(8)});
     std::printf("line of %d bytes, medians of %d rounds of %d lines\n", line.size(), kRounds,
                 kLines);
-    std::printf("1 thread:  %.0f ns, spdlog %.0f ns, bare calls %.0f ns\n", Median(one[0]),
-                Median(one[1]), Median(one[2]));
-    std::printf("8 threads: %.0f ns, spdlog %.0f ns\n", Median(eight[0]), Median(eight[1]));
-    std::printf("1 thread, ratio to spdlog:     %.2f\n", Ratio(one[0], one[1]));
-    std::printf("1 thread, ratio to bare calls: %.2f\n", Ratio(one[0], one[2]));
-    std::printf("8 threads, ratio to spdlog:    %.2f\n", Ratio(eight[0], eight[1]));
+    Report("a line, 1 thread", Median(one[0]), Other("spdlog", Median(one[1])));
+    Report("a line, 1 thread", Median(one[0]), Bare("system calls", Median(one[2])));
+    Report("a line, 8 threads", Median(eight[0]), Other("spdlog", Median(eight[1])));
     return 0;
 }

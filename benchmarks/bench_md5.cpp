@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-// The rate of FileOperation::CalcFileMD5 beside the md5sum program and beside QCryptographicHash
+// FileOperation::CalcFileMD5 beside the md5sum program and beside QCryptographicHash
 // alone, over the same file in the page cache. Rounds are interleaved and compared by their
 // medians.
 #include "CommonLib/FileOperation.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Report.h"
 
 #include <QCryptographicHash>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryFile>
@@ -70,23 +70,12 @@ int main()
     std::vector<double> peer;
     std::vector<double> memory;
     for (int round = 0; round < kRounds; ++round) {
-        QElapsedTimer timer;
-        timer.start();
-        FileOperation::CalcFileMD5(path);
-        ours.push_back(timer.nsecsElapsed() / 1e9);
-        timer.start();
-        PeerDigest(path);
-        peer.push_back(timer.nsecsElapsed() / 1e9);
-        timer.start();
-        HashMemory();
-        memory.push_back(timer.nsecsElapsed() / 1e9);
+        ours.push_back(Seconds([&] { FileOperation::CalcFileMD5(path); }));
+        peer.push_back(Seconds([&] { PeerDigest(path); }));
+        memory.push_back(Seconds(HashMemory));
     }
-    const double mib = kFileSize / 1048576.0;
-    std::printf("1 GiB, medians of %d rounds\n", kRounds);
-    std::printf(
-        "CalcFileMD5 %.0f MiB/s, md5sum %.0f MiB/s, QCryptographicHash in memory %.0f MiB/s\n",
-        mib / Median(ours), mib / Median(peer), mib / Median(memory));
-    std::printf("rate, ratio to md5sum: %.2f\n", Median(peer) / Median(ours));
-    std::printf("rate, ratio to the hash alone: %.2f\n", Median(memory) / Median(ours));
+    Report("CalcFileMD5 of 1 GiB", Median(ours), Other("md5sum", Median(peer)));
+    Report("CalcFileMD5 of 1 GiB", Median(ours),
+           Bare("QCryptographicHash in memory", Median(memory)));
     return 0;
 }

@@ -105,14 +105,6 @@ NLEComPtr<INLEPlayer> NewPlayer()
     return player;
 }
 
-double Milliseconds(const std::function<void()>& work)
-{
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return double(timer.nsecsElapsed()) / 1e6;
-}
-
 void Melt(const QString& path, int seconds)
 {
     QProcess process;
@@ -151,9 +143,8 @@ void ComparePlaying(INLEPlayer& player, Viewer& viewer, const QString& path, int
     std::printf("  memory              %.1f MiB after a tenth  %.1f at the end\n", early, late);
     std::fflush(stdout);
     const Cost melt = CostOf(RUSAGE_CHILDREN, [&] { Melt(path, seconds); });
-    std::printf("  processors          own %.2f  melt %.2f s a second  ratio %.2f\n",
-                own.processor / own.wall, melt.processor / melt.wall,
-                own.processor / own.wall / (melt.processor / melt.wall));
+    Report("a second of playing, processors", own.processor / own.wall,
+           Other("melt", melt.processor / melt.wall));
 }
 
 void CompareSeeking(INLEPlayer& player, Viewer& viewer, const QString& path, const QSize& size,
@@ -165,17 +156,16 @@ void CompareSeeking(INLEPlayer& player, Viewer& viewer, const QString& path, con
     std::mt19937 generator(1);
     for (int i = 0; plain && i < kSought; ++i) {
         const int frame = int(generator() % unsigned(seconds * kFrameRate));
-        own.push_back(Milliseconds([&] {
+        own.push_back(Seconds([&] {
             player.Seek(frame);
             viewer.Await(frame);
         }));
         // Nothing is rendered ahead while the peer has the processors.
         QThread::msleep(300);
-        peer.push_back(Milliseconds([&] { plain->At(frame, size); }));
+        peer.push_back(Seconds([&] { plain->At(frame, size); }));
     }
     if (!own.empty())
-        std::printf("  seek to shown       own %.1f ms  FFmpeg %.1f ms  ratio %.2f\n", Median(own),
-                    Median(peer), Median(own) / Median(peer));
+        Report("from a seek to its picture", Median(own), Other("FFmpeg", Median(peer)));
 }
 
 void MeasureStart(INLEPlayer& player)
@@ -184,15 +174,15 @@ void MeasureStart(INLEPlayer& player)
     for (int i = 0; i < kPressed; ++i) {
         // Silence goes by, so that all levels are 0.
         QThread::msleep(1000);
-        starts.push_back(Milliseconds([&] {
+        starts.push_back(Seconds([&] {
             player.Play(1);
             for (NLEPlayerLevels levels = {}; levels.rms[0] == 0; player.GetLevels(&levels))
                 QThread::usleep(500);
         }));
         player.Pause();
     }
-    std::printf("  play to sound       %.1f ms, at most %.1f\n", Median(starts),
-                *std::max_element(starts.begin(), starts.end()));
+    std::printf("  play to sound       %.1f ms, at most %.1f\n", Median(starts) * 1e3,
+                Largest(starts) * 1e3);
 }
 
 /// A corner of another colour over the film, again and again.
@@ -220,15 +210,15 @@ void MeasureEdits(INLEPlayer& player, Viewer& viewer, const NLEComPtr<INLETimeli
     for (int i = 0; i < kEdits; ++i) {
         QThread::msleep(300);
         const QRgb color = i % 2 == 0 ? qRgb(0, 0, 255) : qRgb(255, 0, 0);
-        edits.push_back(Milliseconds([&] {
+        edits.push_back(Seconds([&] {
             corner.query<INLEColorClip>()->SetColor(color);
             player.Refresh();
             viewer.AwaitCorner(color);
         }));
     }
     player.Pause();
-    std::printf("  edit to picture     %.1f ms, at most %.1f\n", Median(edits),
-                *std::max_element(edits.begin(), edits.end()));
+    std::printf("  edit to picture     %.1f ms, at most %.1f\n", Median(edits) * 1e3,
+                Largest(edits) * 1e3);
 }
 
 } // namespace

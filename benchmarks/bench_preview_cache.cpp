@@ -19,7 +19,6 @@
 #include <QTemporaryDir>
 #include <QThread>
 
-#include <algorithm>
 #include <atomic>
 #include <cstdio>
 #include <functional>
@@ -38,36 +37,6 @@ constexpr NLESize kSize = {960, 540};
 PlayerMaterProvider* Provider()
 {
     return NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
-}
-
-double Largest(const std::vector<double>& values)
-{
-    return *std::max_element(values.begin(), values.end());
-}
-
-double MillisecondsOf(const std::function<void()>& work)
-{
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return double(timer.nsecsElapsed()) / 1e6;
-}
-
-/// What the process held in memory at the most since the last call, in MiB.
-double TakePeakMemory()
-{
-    QFile status("/proc/self/status");
-    double peak = 0;
-    if (status.open(QIODevice::ReadOnly)) {
-        for (const QByteArray& line : status.readAll().split('\n')) {
-            if (line.startsWith("VmHWM:"))
-                peak = line.mid(6).simplified().split(' ').front().toDouble() / 1024;
-        }
-    }
-    QFile reset("/proc/self/clear_refs");
-    if (reset.open(QIODevice::WriteOnly))
-        reset.write("5");
-    return peak;
 }
 
 class Cache
@@ -175,7 +144,7 @@ void CompareRendering(const char* title, const QString& media, int layers, const
     std::vector<Cost> own;
     std::vector<Cost> melt;
     std::vector<Cost> ffmpeg;
-    TakePeakMemory();
+    Memory("VmHWM:");
     for (int round = 0; round < kRounds; ++round) {
         own.push_back(CostOf(RUSAGE_SELF, [&] { cache.Render(); }));
         melt.push_back(CostOf(RUSAGE_CHILDREN, [&] { RunMelt(document, output); }));
@@ -183,17 +152,10 @@ void CompareRendering(const char* title, const QString& media, int layers, const
             ffmpeg.push_back(CostOf(RUSAGE_CHILDREN, [&] { RunPlainFfmpeg(media, output); }));
     }
     const Cost mine = MedianCost(own);
-    std::printf(
-        "%s: own %.0f frames a second, %.1f ms of processor a frame, at the most %.0f MiB\n", title,
-        kFrames / mine.wall, mine.processor * 1e3 / kFrames, TakePeakMemory());
-    const auto compare = [&mine](const char* name, const Cost& peer) {
-        std::printf("  %-6s %.0f frames a second, ratio %.2f; %.1f ms of processor, ratio %.2f\n",
-                    name, kFrames / peer.wall, peer.wall / mine.wall,
-                    peer.processor * 1e3 / kFrames, peer.processor / mine.processor);
-    };
-    compare("melt", MedianCost(melt));
+    std::printf("%s: at the most %.0f MiB\n", title, Memory("VmHWM:"));
+    ReportCosts(title, kFrames, mine, "melt", MedianCost(melt));
     if (layers == 1)
-        compare("ffmpeg", MedianCost(ffmpeg));
+        ReportCosts(title, kFrames, mine, "ffmpeg", MedianCost(ffmpeg));
 }
 
 double FrameTime(const Node& project, int flags, const NLESize& size)
@@ -204,7 +166,7 @@ double FrameTime(const Node& project, int flags, const NLESize& size)
     picture->Prepare();
     extractor->Open(project.get(), flags);
     extractor->Extract(0, picture.get());
-    return MillisecondsOf([&] {
+    return Seconds([&] {
                for (int frame = 1; frame <= count; ++frame)
                    extractor->Extract(frame, picture.get());
            }) /
@@ -223,10 +185,8 @@ void CompareReading(const QString& media, const QDir& folder)
             read.push_back(FrameTime(project, NLEOpen_Cached, size));
             rendered.push_back(FrameTime(project, NLEOpen_Render, size));
         }
-        std::printf("two layers shown at %d x %d: cached %.2f ms a frame, rendered %.2f ms, ratio "
-                    "%.2f\n",
-                    size.width, size.height, Median(read), Median(rendered),
-                    Median(rendered) / Median(read));
+        Report(QString("two layers read at %1 x %2, a frame").arg(size.width).arg(size.height),
+               Median(read), Ours("rendered anew", Median(rendered)));
     }
 }
 
@@ -239,13 +199,13 @@ void MeasureStops(const QString& media, const QDir& folder)
         cache.engine->DeleteCache(true);
         cache.Start();
         QThread::msleep(150 + unsigned(round) * 13);
-        times.push_back(MillisecondsOf([&] {
+        times.push_back(Seconds([&] {
             cache.engine->Stop();
             cache.WaitForEnd();
         }));
     }
-    std::printf("stop: acknowledged after %.2f ms, at the most %.2f ms\n", Median(times),
-                Largest(times));
+    std::printf("stop: acknowledged after %.2f ms, at the most %.2f ms\n", Median(times) * 1e3,
+                Largest(times) * 1e3);
 }
 
 void MeasureLargeProject(const QString& media, const QDir& folder)
@@ -279,12 +239,12 @@ void MeasureLargeProject(const QString& media, const QDir& folder)
     timer.start();
     while (timer.elapsed() < 3000) {
         INLETimeline* clip = clips[edits.size() * 7 % clipCount].get();
-        edits.push_back(MillisecondsOf([&] { clip->SetLevel(int(edits.size()) % 2); }));
+        edits.push_back(Seconds([&] { clip->SetLevel(int(edits.size()) % 2); }));
         QThread::usleep(200);
     }
     cache.engine->Stop();
-    std::printf("edits while rendering: %.4f ms, at the most %.4f ms of %zu\n", Median(edits),
-                Largest(edits), edits.size());
+    std::printf("edits while rendering: %.4f ms, at the most %.4f ms of %zu\n", Median(edits) * 1e3,
+                Largest(edits) * 1e3, edits.size());
 }
 
 } // namespace
@@ -305,8 +265,8 @@ int main(int argc, char** argv)
     }
     std::printf("%d frames of 1080p H.264 into %d x %d, %d processors\n", kFrames, kSize.width,
                 kSize.height, QThread::idealThreadCount());
-    CompareRendering("plain clip", media, 1, folder);
-    CompareRendering("two layers", media, 2, folder);
+    CompareRendering("a plain clip, rendered", media, 1, folder);
+    CompareRendering("two layers, rendered", media, 2, folder);
     CompareReading(media, folder);
     MeasureStops(media, folder);
     MeasureLargeProject(media, folder);

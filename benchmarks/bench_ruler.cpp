@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // What painting the ruler costs beside the drawing calls that it makes, recorded once and played
-// back bare on the same picture; and the slowest conversions. Figures are medians.
+// back bare on the same picture; and the slowest conversions.
 #include "CommonLib/TimelineRuler.h"
 #include "CommonLib/externalapi/PixelRatio.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Pairs.h"
 
 #include <QApplication>
 #include <QImage>
@@ -11,19 +12,17 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <chrono>
 #include <climits>
 #include <cstdio>
 #include <functional>
 #include <iterator>
+#include <memory>
 #include <vector>
 
 namespace {
 
 constexpr int kWidth = 3840;
-constexpr int kRounds = 201;
 
-using Clock = std::chrono::steady_clock;
 using Call = std::function<void(QPainter&)>;
 
 // Records lines, polygons, rectangles and texts as the calls that draw them.
@@ -126,13 +125,6 @@ private:
     QSize m_size;
 };
 
-double Milliseconds(const std::function<void()>& work)
-{
-    const Clock::time_point start = Clock::now();
-    work();
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
-}
-
 struct Scene
 {
     const char* name;
@@ -140,47 +132,52 @@ struct Scene
     int offset;
 };
 
-void Paint(const Scene& scene)
+// A ruler at a scene and what it draws.
+class Painting
 {
-    TimelineRuler ruler(nullptr);
-    ruler.setStyleSheet(gGetCommonLibStyles());
-    ruler.resize(kWidth, ruler.Height());
-    ruler.SetZoom(scene.zoom);
-    ruler.SetOffsetFrames(scene.offset);
-    ruler.SetCurrentFrames(scene.offset + static_cast<int>(ruler.Duration2FramesF(kWidth / 2)));
-    ruler.ensurePolished();
-    QWidget* view = ruler.SetEventFilter(nullptr);
-    ruler.grab(); // lays out
-
-    std::vector<Call> calls;
-    Recorder recorder(calls);
-    RecordingDevice device(recorder, view->size());
-    view->render(&device, {}, {}, QWidget::DrawWindowBackground);
-
-    QImage image(view->size(), QImage::Format_ARGB32_Premultiplied);
-    std::vector<double> ours, bare, scrolled;
-    for (int i = 0; i < kRounds; ++i) {
-        bare.push_back(Milliseconds([&] {
-            QPainter painter(&image);
-            painter.fillRect(image.rect(), QColor(0x20, 0x22, 0x25));
-            painter.setFont(view->font());
-            // As on every widget; the rasteriser is many times slower without.
-            painter.setClipRect(image.rect());
-            for (const Call& call : calls)
-                call(painter);
-        }));
-        ours.push_back(Milliseconds([&] { view->render(&image); }));
-        scrolled.push_back(Milliseconds([&] {
-            ruler.SetOffsetFrames(scene.offset + i + 1);
-            view->render(&image);
-        }));
-        ruler.SetOffsetFrames(scene.offset);
+public:
+    explicit Painting(const Scene& scene) : m_offset(scene.offset)
+    {
+        m_ruler.setStyleSheet(gGetCommonLibStyles());
+        m_ruler.resize(kWidth, m_ruler.Height());
+        m_ruler.SetZoom(scene.zoom);
+        m_ruler.SetOffsetFrames(scene.offset);
+        m_ruler.SetCurrentFrames(scene.offset +
+                                 static_cast<int>(m_ruler.Duration2FramesF(kWidth / 2)));
+        m_ruler.ensurePolished();
+        m_view = m_ruler.SetEventFilter(nullptr);
+        m_ruler.grab(); // lays out
+        Recorder recorder(m_calls);
+        RecordingDevice device(recorder, m_view->size());
+        m_view->render(&device, {}, {}, QWidget::DrawWindowBackground);
+        m_image = QImage(m_view->size(), QImage::Format_ARGB32_Premultiplied);
+        std::printf("%s: %d lines, %d texts\n", scene.name, recorder.Lines(), recorder.Texts());
     }
-    std::printf("%-34s %4d lines %3d texts  ruler %.3f ms  bare calls %.3f ms  ratio %.2f  "
-                "scrolled by a frame %.3f ms\n",
-                scene.name, recorder.Lines(), recorder.Texts(), Median(ours), Median(bare),
-                Median(ours) / Median(bare), Median(scrolled));
-}
+    void Paint() { m_view->render(&m_image); }
+    void PaintScrolled()
+    {
+        m_ruler.SetOffsetFrames(m_offset + ++m_scrolled % 200);
+        Paint();
+    }
+    void PaintBare()
+    {
+        QPainter painter(&m_image);
+        painter.fillRect(m_image.rect(), QColor(0x20, 0x22, 0x25));
+        painter.setFont(m_view->font());
+        // As on every widget; the rasteriser is many times slower without.
+        painter.setClipRect(m_image.rect());
+        for (const Call& call : m_calls)
+            call(painter);
+    }
+
+private:
+    TimelineRuler m_ruler{nullptr};
+    QWidget* m_view = nullptr;
+    std::vector<Call> m_calls;
+    QImage m_image;
+    const int m_offset;
+    int m_scrolled = 0;
+};
 
 // The slowest of many calls, over lengths of 1 frame to the largest and widths of 0 to 16,384.
 void FitRanges()
@@ -191,15 +188,13 @@ void FitRanges()
         for (int width = 0; width <= 16384; width += width < 64 ? 1 : 317) {
             const int frames = static_cast<int>(length);
             TimelineRuler ruler(nullptr);
-            slowestFind =
-                std::max(slowestFind, Milliseconds([&] { ruler.FindZoom(frames, width); }));
-            slowestFit =
-                std::max(slowestFit,
-                         Milliseconds([&] { ruler.ZoomFromWidthAndTotaleFramesF(width, frames); }));
+            slowestFind = std::max(slowestFind, Seconds([&] { ruler.FindZoom(frames, width); }));
+            slowestFit = std::max(
+                slowestFit, Seconds([&] { ruler.ZoomFromWidthAndTotaleFramesF(width, frames); }));
         }
     }
     std::printf("slowest FindZoom %.3f ms, slowest ZoomFromWidthAndTotaleFramesF %.3f ms\n",
-                slowestFind, slowestFit);
+                slowestFind * 1e3, slowestFit * 1e3);
 }
 
 } // namespace
@@ -212,8 +207,16 @@ int main(int argc, char** argv)
           Scene{"closest ticks, frame 10,000,000", 120, 10000000}, Scene{"hours, frame 0", 780, 0},
           Scene{"hours, frame 10,000,000", 780, 10000000},
           Scene{"beyond the scale: 1 pixel a tick", 809, 0},
-          Scene{"beyond the scale: no room at all", 900, 0}})
-        Paint(scene);
+          Scene{"beyond the scale: no room at all", 900, 0}}) {
+        const auto painting = std::make_shared<Painting>(scene);
+        const auto bare = [painting] { painting->PaintBare(); };
+        const Peer peer = Bare("recorded calls");
+        AddPair(
+            scene.name, [painting] { painting->Paint(); }, peer, bare);
+        AddPair(
+            QString(scene.name) + ", scrolled by a frame",
+            [painting] { painting->PaintScrolled(); }, peer, bare);
+    }
     FitRanges();
-    return 0;
+    return RunPairs(argc, argv);
 }

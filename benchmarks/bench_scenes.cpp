@@ -4,10 +4,11 @@
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Report.h"
 #include "tests/support/SceneFilm.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -90,31 +91,31 @@ void Judge(const QList<SceneFilm::Scene>& known, const QList<int>& found, bool d
 
 QList<int> OwnScenes(const QString& path, double* seconds)
 {
-    QElapsedTimer timer;
-    timer.start();
-    PlayerMaterProvider* const provider = NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
-    const auto clip = provider->CreateMediaTimeline(path, false);
-    const auto segment = provider->CreateSceneSegment();
     QList<int> frames;
-    int frame = 0;
-    if (clip && segment->Open(clip.get()) == S_OK) {
-        while (segment->Next(&frame) == S_OK)
-            frames << frame;
-    }
-    *seconds += double(timer.nsecsElapsed()) / 1e9;
+    *seconds += Seconds([&] {
+        PlayerMaterProvider* const provider =
+            NLEWraper::GetInstance(nullptr)->GetPlayerMaterProvider();
+        const auto clip = provider->CreateMediaTimeline(path, false);
+        const auto segment = provider->CreateSceneSegment();
+        int frame = 0;
+        if (clip && segment->Open(clip.get()) == S_OK) {
+            while (segment->Next(&frame) == S_OK)
+                frames << frame;
+        }
+    });
     return frames;
 }
 
 /// The filter's own measure, above the value that its documentation calls sane.
 QList<int> FilterScenes(const QString& path, double* seconds)
 {
-    QElapsedTimer timer;
-    timer.start();
     QProcess process;
-    process.start("ffmpeg", {"-v", "error", "-i", path, "-vf",
-                             "select='gt(scene,0.3)',metadata=print:file=-", "-f", "null", "-"});
-    process.waitForFinished(-1);
-    *seconds += double(timer.nsecsElapsed()) / 1e9;
+    *seconds += Seconds([&] {
+        process.start("ffmpeg",
+                      {"-v", "error", "-i", path, "-vf",
+                       "select='gt(scene,0.3)',metadata=print:file=-", "-f", "null", "-"});
+        process.waitForFinished(-1);
+    });
     QList<int> frames;
     for (const QByteArray& line : process.readAllStandardOutput().split('\n')) {
         const int place = line.indexOf("pts_time:");
@@ -126,9 +127,8 @@ QList<int> FilterScenes(const QString& path, double* seconds)
 
 void Print(const char* title, const Score& cuts, const Score& dissolves)
 {
-    std::printf("%-8s cuts %3d of %3d  dissolves %2d of %2d  right %3d of %3d found  %6.2f s\n",
-                title, cuts.hit, cuts.known, dissolves.hit, dissolves.known, cuts.right, cuts.found,
-                cuts.seconds);
+    std::printf("%-8s cuts %3d of %3d  dissolves %2d of %2d  right %3d of %3d found\n", title,
+                cuts.hit, cuts.known, dissolves.hit, dissolves.known, cuts.right, cuts.found);
 }
 
 } // namespace
@@ -162,7 +162,8 @@ int main(int argc, char** argv)
     }
     Print("own", own[0], own[1]);
     Print("filter", peer[0], peer[1]);
-    std::printf("time, own to filter: ratio %.2f\n", own[0].seconds / peer[0].seconds);
+    Report(QString("scenes of %1 films").arg(kFilms), own[0].seconds,
+           Other("FFmpeg's filter", peer[0].seconds));
     NLEWraper::Release();
     CVCreateInstance::Instance()->Release();
     return 0;

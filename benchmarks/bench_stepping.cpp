@@ -6,15 +6,14 @@
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "EngineApi/NLEKey.h"
 #include "TestMedia.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Report.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
-#include <functional>
 #include <random>
 #include <vector>
 
@@ -27,14 +26,6 @@ constexpr int kDragged = 30;
 constexpr int kPresetMebibytes = 512;
 constexpr int kShortestGroup = 25;
 const QSize kPreview(960, 540);
-
-double MillisecondsOf(const std::function<void()>& work)
-{
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return double(timer.nsecsElapsed()) / 1e6;
-}
 
 QString MakeClip(const QString& path, int group)
 {
@@ -77,7 +68,7 @@ void SetKeptMebibytes(int mebibytes)
     bag->SetInt(NLEKey::System::kDecodedPictures, mebibytes);
 }
 
-void CompareSteps(const QString& path, int mebibytes)
+void CompareSteps(const QString& path, int group, int mebibytes)
 {
     std::vector<double> forward;
     std::vector<double> backward;
@@ -89,26 +80,25 @@ void CompareSteps(const QString& path, int mebibytes)
         PlayHead head(path);
         const int first = kFrameCount - kSteps;
         head.Show(first - 1);
-        forward.push_back(MillisecondsOf([&] {
+        forward.push_back(Seconds([&] {
             for (int frame = first; frame < kFrameCount; ++frame)
                 head.Show(frame);
         }));
         double sum = 0;
         for (int frame = kFrameCount - 2; frame >= first - 1; --frame) {
-            const double step = MillisecondsOf([&] { head.Show(frame); });
+            const double step = Seconds([&] { head.Show(frame); });
             longest = std::max(longest, step);
             sum += step;
         }
         backward.push_back(sum);
     }
-    std::printf("  steps, %4d MiB kept    back %6.2f ms  forward %6.2f ms a step  ratio %.2f"
-                "  longest step back %.0f ms\n",
-                mebibytes, Median(backward) / kSteps, Median(forward) / kSteps,
-                Median(backward) / Median(forward), longest);
+    Report(QString("a step back in groups of %1, %2 MiB kept").arg(group).arg(mebibytes),
+           Median(backward) / kSteps, Ours("a step forward", Median(forward) / kSteps));
+    std::printf("  longest step back %.0f ms\n", longest * 1e3);
     SetKeptMebibytes(kPresetMebibytes);
 }
 
-void CompareDragging(const QString& path)
+void CompareDragging(const QString& path, int group)
 {
     std::vector<double> near;
     std::vector<double> exact;
@@ -118,14 +108,14 @@ void CompareDragging(const QString& path)
     std::mt19937 generator(1);
     for (int i = 0; i < kDragged; ++i) {
         const int frame = int(generator() % kFrameCount);
-        near.push_back(MillisecondsOf([&] { head.ShowNear(frame); }));
+        near.push_back(Seconds([&] { head.ShowNear(frame); }));
         head.Show(frame);
-        exact.push_back(MillisecondsOf([&] { plain.Show(frame); }));
+        exact.push_back(Seconds([&] { plain.Show(frame); }));
     }
-    std::printf("  dragged                first %6.2f ms (at most %.0f)  exact %6.2f ms (at most"
-                " %.0f)  ratio %.2f\n",
-                Median(near), *std::max_element(near.begin(), near.end()), Median(exact),
-                *std::max_element(exact.begin(), exact.end()), Median(near) / Median(exact));
+    Report(QString("first picture while dragging in groups of %1").arg(group), Median(near),
+           Ours("the exact one", Median(exact)));
+    std::printf("  at most %.0f ms, the exact one %.0f ms\n", Largest(near) * 1e3,
+                Largest(exact) * 1e3);
 }
 
 } // namespace
@@ -142,13 +132,12 @@ int main(int argc, char** argv)
                          qPrintable(failure));
             return 1;
         }
-        std::printf("group of %d\n", group);
         // Without kept pictures a step back decodes its whole group: minutes in the longer ones.
         if (group == kShortestGroup)
-            CompareSteps(path, 0);
+            CompareSteps(path, group, 0);
         for (const int mebibytes : {256, kPresetMebibytes})
-            CompareSteps(path, mebibytes);
-        CompareDragging(path);
+            CompareSteps(path, group, mebibytes);
+        CompareDragging(path, group);
     }
     NLEWraper::Release();
     CVCreateInstance::Instance()->Release();

@@ -6,10 +6,10 @@
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "PlainDecoder.h"
 #include "TestMedia.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Report.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -26,14 +26,6 @@ constexpr int kRounds = 5;
 constexpr int kRandomFrames = 20;
 const QSize kThumbnail(160, 90);
 
-double MillisecondsOf(const std::function<void()>& work)
-{
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return double(timer.nsecsElapsed()) / 1e6;
-}
-
 bool MakeClip(const QString& path, int gop)
 {
     const QString source =
@@ -47,23 +39,14 @@ bool MakeClip(const QString& path, int gop)
     return failure.isEmpty();
 }
 
-// Both sides take turns, so that a change of the machine's speed meets both.
-void Compare(const char* title, int frames, const std::function<void(int)>& own,
+void Compare(const QString& title, int frames, const std::function<void(int)>& own,
              const std::function<void(int)>& peer)
 {
-    std::vector<double> ownTimes;
-    std::vector<double> peerTimes;
-    for (int round = 0; round < kRounds; ++round) {
-        const bool isOwnFirst = round % 2 == 0;
-        if (isOwnFirst)
-            ownTimes.push_back(MillisecondsOf([&] { own(round); }));
-        peerTimes.push_back(MillisecondsOf([&] { peer(round); }));
-        if (!isOwnFirst)
-            ownTimes.push_back(MillisecondsOf([&] { own(round); }));
-    }
-    std::printf("%-28s own %7.2f ms  plain %7.2f ms per frame  ratio %.2f\n", title,
-                Median(ownTimes) / frames, Median(peerTimes) / frames,
-                Median(ownTimes) / Median(peerTimes));
+    int ownRound = 0;
+    int peerRound = 0;
+    const Rounds rounds = TakeTurns(
+        kRounds, [&] { own(ownRound++); }, [&] { peer(peerRound++); });
+    Report(title, Median(rounds.ours) / frames, Other("FFmpeg", Median(rounds.theirs) / frames));
 }
 
 bool Run(const QString& path, int gop, int threads)
@@ -96,7 +79,7 @@ bool Run(const QString& path, int gop, int threads)
     std::printf("group of %d: %d of %d random pictures equal those of the peer\n", gop, equal,
                 kRandomFrames);
     Compare(
-        "  every frame in sequence", kFrameCount,
+        QString("every frame in groups of %1").arg(gop), kFrameCount,
         [&](int) {
             for (int frame = 0; frame < kFrameCount; ++frame)
                 picture(frame);
@@ -107,7 +90,7 @@ bool Run(const QString& path, int gop, int threads)
             }
         });
     Compare(
-        "  random frames", kRandomFrames,
+        QString("random frames in groups of %1").arg(gop), kRandomFrames,
         [&](int round) {
             for (int frame : randomFrames(round))
                 picture(frame);

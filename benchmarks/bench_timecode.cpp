@@ -1,22 +1,18 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-// A million timecodes beside a million plain fills of the same four numbers, interleaved and
-// compared by their medians. With "--table": the rounding of every frame of 24 hours, as
-// docs/timecode.md shows it.
+// Timecodes of a million frames beside plain fills of the same four numbers. With "--table": the
+// rounding of every frame of 24 hours, as docs/timecode.md shows it.
 #include "CommonLib/GlobalUtils.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Pairs.h"
 
-#include <QElapsedTimer>
 #include <QStringList>
 #include <QVector>
 
 #include <cstdio>
 #include <cstring>
-#include <vector>
 
 namespace {
 
-constexpr int kCalls = 1000000;
-constexpr int kRounds = 9;
+constexpr int kFrames = 1000000;
 constexpr float kRate = 29.97F;
 
 struct Numbers
@@ -27,7 +23,7 @@ struct Numbers
 QVector<Numbers> SameNumbers()
 {
     QVector<Numbers> numbers;
-    for (int frame = 0; frame < kCalls; ++frame) {
+    for (int frame = 0; frame < kFrames; ++frame) {
         const QStringList texts = gFrame2String(frame, kRate).split(':');
         Numbers row;
         for (int i = 0; i < 4; ++i)
@@ -70,29 +66,22 @@ int main(int argc, char** argv)
         return 0;
     }
     const QVector<Numbers> numbers = SameNumbers();
-    std::vector<double> ours;
-    std::vector<double> peer;
-    qint64 length = 0; // keeps the texts from being optimised away
-    for (int round = 0; round < kRounds; ++round) {
-        QElapsedTimer timer;
-        timer.start();
-        for (int frame = 0; frame < kCalls; ++frame)
-            length += gFrame2String(frame, kRate).size();
-        ours.push_back(timer.nsecsElapsed() / 1e6);
-        timer.start();
-        for (const auto& [fields] : numbers) {
-            length += QString("%1:%2:%3:%4")
-                          .arg(fields[0])
-                          .arg(fields[1])
-                          .arg(fields[2])
-                          .arg(fields[3])
-                          .size();
-        }
-        peer.push_back(timer.nsecsElapsed() / 1e6);
-    }
-    std::printf("%d calls, medians of %d rounds (%lld characters)\n", kCalls, kRounds,
-                static_cast<long long>(length));
-    std::printf("gFrame2String %.0f ms, QString fills %.0f ms\n", Median(ours), Median(peer));
-    std::printf("time, ratio to the fills: %.2f\n", Median(ours) / Median(peer));
-    return 0;
+    AddPair(
+        "a timecode",
+        [frame = 0]() mutable {
+            frame = (frame + 1) % kFrames;
+            return gFrame2String(frame, kRate).size();
+        },
+        Bare("fills of a QString"),
+        [&numbers, row = 0]() mutable {
+            row = (row + 1) % kFrames;
+            const auto& fields = numbers[row].fields;
+            return QString("%1:%2:%3:%4")
+                .arg(fields[0])
+                .arg(fields[1])
+                .arg(fields[2])
+                .arg(fields[3])
+                .size();
+        });
+    return RunPairs(argc, argv);
 }

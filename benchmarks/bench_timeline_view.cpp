@@ -11,7 +11,8 @@
 #include "Host/Editor/Model/Selection.h"
 #include "Host/Editor/Timeline/TimelineModel.h"
 #include "Host/Editor/Timeline/TimelineView.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Report.h"
 #include "tests/support/TestMedia.h"
 
 #include <QApplication>
@@ -60,10 +61,7 @@ struct Timeline
     }
     double Paint(QImage& image)
     {
-        QElapsedTimer timer;
-        timer.start();
-        view.render(&image);
-        return double(timer.nsecsElapsed()) / 1e6;
+        return Seconds([&] { view.render(&image); });
     }
     /// Waits until nothing new comes from the threads that make pictures and wave forms.
     void Warm(QImage& image)
@@ -84,12 +82,11 @@ struct Timeline
         int position = 0;
         clip->GetPosition(&position);
         by = -by;
-        QElapsedTimer timer;
-        timer.start();
-        project.Edit("Move", [&](INLEEditing& editing) {
-            return editing.Move(clip.get(), position + by, 1, 0);
+        return Seconds([&] {
+            project.Edit("Move", [&](INLEEditing& editing) {
+                return editing.Move(clip.get(), position + by, 1, 0);
+            });
         });
-        return double(timer.nsecsElapsed()) / 1e6;
     }
 
     Project project;
@@ -126,19 +123,16 @@ double EditTime(Timeline& timeline)
     return Median(times);
 }
 
-/// Of one and the same picture of clips; times below 0 are left out.
-void Compare(const char* name, const std::vector<double>& times)
+/// Of one and the same picture of clips; times below 0, of too few clips to fill it, are left out.
+void Compare(const QString& name, const std::vector<std::unique_ptr<Timeline>>& timelines,
+             const std::vector<double>& times)
 {
-    double first = -1;
-    std::printf("  %-30s", name);
-    for (const double time : times) {
-        first = first < 0 ? time : first;
-        if (time < 0)
-            std::printf("  %-22s", "does not fill the view");
-        else
-            std::printf("  %7.3f ms, ratio %4.2f", time, time / first);
-    }
-    std::printf("\n");
+    std::size_t first = 0;
+    while (times[first] < 0)
+        ++first;
+    for (std::size_t i = first + 1; i < times.size(); ++i)
+        Report(QString("%1 of %2").arg(name).arg(timelines[i]->clips), times[i],
+               Ours(QString("of %1").arg(timelines[first]->clips), times[first]));
 }
 
 void Run(const QString& file)
@@ -146,8 +140,6 @@ void Run(const QString& file)
     std::vector<std::unique_ptr<Timeline>> timelines;
     for (const int count : {100, 1000, 10000})
         timelines.push_back(std::make_unique<Timeline>(count, file));
-    std::printf("paints of %d x %d pixels with 100, 1,000 and 10,000 clips on %d levels\n",
-                kView.width(), kView.height(), kLevels);
     const std::pair<const char*, int> zooms[] = {{"2 clips a level", 2 * kFrames},
                                                  {"19 clips a level", 19 * kFrames},
                                                  {"100 clips a level", 100 * kFrames},
@@ -157,12 +149,12 @@ void Run(const QString& file)
         std::vector<double> times;
         for (auto& timeline : timelines)
             times.push_back(PaintTime(*timeline, frames));
-        Compare(name, times);
+        Compare(QString("a paint of ") + name, timelines, times);
     }
     std::vector<double> times;
     for (auto& timeline : timelines)
         times.push_back(EditTime(*timeline));
-    Compare("an edit, and the view's index", times);
+    Compare("an edit, and the view's index", timelines, times);
 }
 
 } // namespace

@@ -133,17 +133,10 @@ void CompareDissolve(const QString& first, const QString& second, const QDir& fo
         melt.push_back(
             CostOf(RUSAGE_CHILDREN, [&] { RunMelt(document, folder.filePath("melt.avi")); }));
     }
-    const Cost mine = MedianCost(own);
-    const Cost peer = MedianCost(melt);
-    std::printf("dissolve: own %.0f frames a second, %.1f ms of processor a frame\n",
-                kFrames / mine.wall, mine.processor * 1e3 / kFrames);
-    std::printf("  melt %.0f frames a second, ratio %.2f; %.1f ms of processor, ratio %.2f\n",
-                kFrames / peer.wall, peer.wall / mine.wall, peer.processor * 1e3 / kFrames,
-                peer.processor / mine.processor);
-    std::fflush(stdout);
+    ReportCosts("dissolve", kFrames, MedianCost(own), "melt", MedianCost(melt));
 }
 
-/// Milliseconds of processor a frame.
+/// Seconds of processor a frame.
 double FrameCost(const Node& project, int frames)
 {
     const auto picture = Provider()->CreateVideoFrame(kSize.width, kSize.height);
@@ -155,7 +148,7 @@ double FrameCost(const Node& project, int frames)
         for (int frame = 1; frame < frames; ++frame)
             extractor->Extract(frame, picture.get());
     });
-    return cost.processor * 1e3 / (frames - 1);
+    return cost.processor / (frames - 1);
 }
 
 /// Of colours, so that little but the transition is measured.
@@ -165,8 +158,7 @@ void MeasureEach()
     const auto colour = [](QRgb color) {
         return Provider()->CreateColorTimeline(QColor(color), QSize(1920, 1080), 25.0f);
     };
-    std::printf("milliseconds of processor a frame of %d x %d, two colours\n", kSize.width,
-                kSize.height);
+    Peer none = Ours("no transition");
     for (const wchar_t* name :
          {static_cast<const wchar_t*>(nullptr), L"dissolve", L"dip", L"wipe", L"circle", L"diamond",
           L"clock", L"barn-doors", L"push", L"slide", L"zoom"}) {
@@ -174,7 +166,11 @@ void MeasureEach()
         for (int round = 0; round < kRounds; ++round)
             costs.push_back(
                 FrameCost(Pair(colour(0xFF2050A0), colour(0xFFA05020), name, frames), frames));
-        std::printf("  %-10ls %.2f\n", name ? name : L"none", Median(costs));
+        if (name)
+            Report(QString::fromWCharArray(name) + " of two colours, processors a frame",
+                   Median(costs), none);
+        else
+            none.seconds = Median(costs);
     }
 }
 

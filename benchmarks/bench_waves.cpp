@@ -5,14 +5,13 @@
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "TestMedia.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Report.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 
 #include <cstdio>
-#include <functional>
 #include <vector>
 
 namespace {
@@ -20,15 +19,6 @@ namespace {
 constexpr int kSeconds = 1800;
 constexpr int kSteps = 1920;
 constexpr int kRounds = 5;
-constexpr double kTargetMs = 10;
-
-double MillisecondsOf(const std::function<void()>& work)
-{
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return double(timer.nsecsElapsed()) / 1e6;
-}
 
 bool Run(const QTemporaryDir& folder, const char* name)
 {
@@ -53,15 +43,15 @@ bool Run(const QTemporaryDir& folder, const char* name)
                   wave->Extract(0, kSeconds, kSteps, minima.data(), maxima.data()) == S_OK &&
                   isDrawn;
     };
-    const double bare = MillisecondsOf([&] { RunFfmpeg({"-i", path, "-f", "null", "-"}); });
-    const double first = MillisecondsOf(draw);
+    const double bare = Seconds([&] { RunFfmpeg({"-i", path, "-f", "null", "-"}); });
+    const double first = Seconds(draw);
     std::vector<double> again;
     for (int round = 0; round < kRounds; ++round)
-        again.push_back(MillisecondsOf(draw));
-    std::printf(
-        "%-10s first %8.1f ms, FFmpeg decoding %8.1f ms, ratio %.2f; again %6.2f ms (target: "
-        "at most %.0f), ratio to the first %.5f\n",
-        name, first, bare, first / bare, Median(again), kTargetMs, Median(again) / first);
+        again.push_back(Seconds(draw));
+    Report(QString("half an hour, %1, drawn at first").arg(name), first,
+           Bare("FFmpeg decoding it", bare));
+    Report(QString("half an hour, %1, drawn again").arg(name), Median(again),
+           Ours("at first", first));
     return isDrawn && maxima.back() > 0;
 }
 

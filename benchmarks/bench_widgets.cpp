@@ -9,14 +9,13 @@
 #include "CommonLib/ScaleUnitSlider.h"
 #include "CommonLib/ToolBarSlider.h"
 #include "CommonLib/externalapi/PixelRatio.h"
-#include "benchmarks/Median.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Report.h"
 
 #include <QApplication>
 #include <QMouseEvent>
 #include <QSlider>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <functional>
 #include <memory>
@@ -29,15 +28,6 @@ constexpr QRect kPlace(100, 100, 400, 32);
 constexpr int kRounds = 101;
 constexpr int kButtons = 1000;
 constexpr int kValues = 10000;
-
-using Clock = std::chrono::steady_clock;
-
-double Milliseconds(const std::function<void()>& work)
-{
-    const Clock::time_point start = Clock::now();
-    work();
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
-}
 
 // To the child that is at that place, as Qt would.
 void Send(QWidget* parent, QEvent::Type type, QPoint place)
@@ -79,7 +69,7 @@ public:
     {
         const int x = m_isSlider ? round * 37 % (kPlace.width() - 60) : 0;
         const QPoint at(20 + x, kPlace.height() / 2);
-        m_times.push_back(Milliseconds([&] {
+        m_times.push_back(Seconds([&] {
             Send(m_widget, QEvent::MouseButtonPress, at);
             QCoreApplication::processEvents();
         }));
@@ -87,7 +77,7 @@ public:
         QCoreApplication::processEvents();
     }
     double Result() const { return Median(m_times); }
-    double Slowest() const { return *std::max_element(m_times.begin(), m_times.end()); }
+    double Slowest() const { return Largest(m_times); }
     int Paints() const { return m_counter.paints; }
 
 private:
@@ -114,10 +104,9 @@ void PressToPaint(const char* name, const std::function<QWidget*(QWidget*)>& mak
         ourTrip.Measure(i);
         peerTrip.Measure(i);
     }
-    std::printf("%-18s press to paint %.3f ms (slowest %.3f ms, %d paint events)  peer %.3f ms  "
-                "ratio %.2f\n",
-                name, ourTrip.Result(), ourTrip.Slowest(), ourTrip.Paints(), peerTrip.Result(),
-                ourTrip.Result() / peerTrip.Result());
+    Report(QString("%1, from a press to its picture").arg(name), ourTrip.Result(),
+           Other(peer->metaObject()->className(), peerTrip.Result()));
+    std::printf("  slowest %.3f ms, %d paint events\n", ourTrip.Slowest() * 1e3, ourTrip.Paints());
 }
 
 void ManyValues()
@@ -133,24 +122,20 @@ void ManyValues()
     window.show();
     QCoreApplication::processEvents();
     PaintCounter counter(slider);
-    std::vector<double> ours, theirs;
-    int turns = 0;
-    for (int round = 0; round < kRounds; ++round, ++turns) {
-        ours.push_back(Milliseconds([&] {
+    const auto set = [](auto setValue) {
+        return [setValue, round = 0]() mutable {
             for (int i = 0; i < kValues; ++i)
-                slider->setValue((i + round * 97) % kValues, false);
+                setValue((i + round * 97) % kValues);
+            ++round;
             QCoreApplication::processEvents();
-        }));
-        theirs.push_back(Milliseconds([&] {
-            for (int i = 0; i < kValues; ++i)
-                peer->setValue((i + round * 97) % kValues);
-            QCoreApplication::processEvents();
-        }));
-    }
-    std::printf("%d values in a turn  ToolBarSlider %.3f ms, %.1f paint events a turn  QSlider "
-                "%.3f ms  ratio %.2f\n",
-                kValues, Median(ours), double(counter.paints) / turns, Median(theirs),
-                Median(ours) / Median(theirs));
+        };
+    };
+    const Rounds rounds =
+        TakeTurns(kRounds, set([=](int value) { slider->setValue(value, false); }),
+                  set([=](int value) { peer->setValue(value); }));
+    Report(QString("ToolBarSlider, %1 values in a turn").arg(kValues), Median(rounds.ours),
+           Other("QSlider", Median(rounds.theirs)));
+    std::printf("  %.1f paint events a turn\n", double(counter.paints) / kRounds);
 }
 
 void ManyButtons()
@@ -158,12 +143,12 @@ void ManyButtons()
     std::vector<double> ours, theirs;
     for (int round = 0; round < 11; ++round) {
         auto window = std::make_unique<QWidget>();
-        ours.push_back(Milliseconds([&] {
+        ours.push_back(Seconds([&] {
             for (int i = 0; i < kButtons; ++i)
                 new BaseButton(i, QStringLiteral("button"), window.get());
         }));
         window = std::make_unique<QWidget>();
-        theirs.push_back(Milliseconds([&] {
+        theirs.push_back(Seconds([&] {
             for (int i = 0; i < kButtons; ++i) {
                 auto* button = new QPushButton(window.get());
                 button->setObjectName(QStringLiteral("button"));
@@ -171,9 +156,8 @@ void ManyButtons()
             }
         }));
     }
-    std::printf("%d buttons made  BaseButton %.2f ms  QPushButton with the same sheet %.2f ms  "
-                "ratio %.2f\n",
-                kButtons, Median(ours), Median(theirs), Median(ours) / Median(theirs));
+    Report(QString("%1 of BaseButton made").arg(kButtons), Median(ours),
+           Other("QPushButton with the same sheet", Median(theirs)));
 }
 
 } // namespace

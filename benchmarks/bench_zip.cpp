@@ -3,10 +3,11 @@
 // over one file of 1 GiB. Rounds are interleaved, the order within a round alternates, and the
 // fastest of each is compared: what else runs on the machine only ever adds time.
 #include "CommonLib/QuaZipOperate.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/Report.h"
 
 #include <JlCompress.h>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTextCodec>
@@ -47,11 +48,10 @@ struct Times
 
 void Measure(double& fastest, const std::function<bool()>& run)
 {
-    QElapsedTimer timer;
-    timer.start();
-    if (!run())
-        std::fprintf(stderr, "failed\n");
-    fastest = std::min(fastest, timer.nsecsElapsed() / 1e9);
+    fastest = std::min(fastest, Seconds([&] {
+                           if (!run())
+                               std::fprintf(stderr, "failed\n");
+                       }));
 }
 
 void Round(int round, Times& times, const std::function<bool()>& ours,
@@ -62,12 +62,6 @@ void Round(int round, Times& times, const std::function<bool()>& ours,
     Measure(times.bare, bare);
     if (round % 2 != 0)
         Measure(times.ours, ours);
-}
-
-void Print(const char* subject, const char* operation, const Times& times)
-{
-    std::printf("%s, %s: %.2f s, bare %.2f s, ratio %.3f\n", subject, operation, times.ours,
-                times.bare, times.ours / times.bare);
 }
 
 void Compare(const char* subject, const QString& folder, const QTemporaryDir& work, int rounds)
@@ -88,8 +82,8 @@ void Compare(const char* subject, const QString& folder, const QTemporaryDir& wo
         // Both write over the files of the one before, except in the very first round.
     }
     emptied();
-    Print(subject, "CompressDir", pack);
-    Print(subject, "ExtractDir", unpack);
+    Report(QString("%1, CompressDir").arg(subject), pack.ours, Bare("QuaZip", pack.bare));
+    Report(QString("%1, ExtractDir").arg(subject), unpack.ours, Bare("QuaZip", unpack.bare));
 }
 
 } // namespace
