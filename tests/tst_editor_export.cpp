@@ -14,6 +14,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -228,6 +229,17 @@ private Q_SLOTS:
         QCOMPARE(queue.Jobs().size(), 1);
         QTRY_VERIFY_WITH_TIMEOUT(!queue.IsBusy(), kPatience);
         QCOMPARE(EngineFixture::TotalOf(m_engine.Media(order.path)).out, 4);
+        // The film is there now.
+        for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+            QTimer::singleShot(0, &dialog, [&] {
+                auto* box = dialog.findChild<QMessageBox*>();
+                box->button(answer)->click();
+            });
+            QTest::keyClick(&dialog, Qt::Key_Return);
+            QCOMPARE(queue.Jobs().size(), answer == QMessageBox::Yes ? 2 : 1);
+        }
+        QTest::keyClick(&dialog, Qt::Key_Return); // it is being written
+        QCOMPARE(queue.Jobs().size(), 2);
     }
 };
 

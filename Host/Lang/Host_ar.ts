@@ -1017,6 +1017,14 @@
         <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
         <translation>الصور (*.png *.jpg *.tif *.bmp)</translation>
     </message>
+    <message>
+        <source>%1 is in the queue already.</source>
+        <translation>%1 موجود في قائمة الانتظار بالفعل.</translation>
+    </message>
+    <message>
+        <source>%1 is there already. Replace it?</source>
+        <translation>%1 موجود بالفعل. هل تريد استبداله؟</translation>
+    </message>
 </context>
 <context>
     <name>ExportJob</name>

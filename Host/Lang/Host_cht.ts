@@ -987,6 +987,14 @@
         <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
         <translation>圖片 (*.png *.jpg *.tif *.bmp)</translation>
     </message>
+    <message>
+        <source>%1 is in the queue already.</source>
+        <translation>%1 已在佇列中。</translation>
+    </message>
+    <message>
+        <source>%1 is there already. Replace it?</source>
+        <translation>%1 已存在。要取代嗎？</translation>
+    </message>
 </context>
 <context>
     <name>ExportJob</name>

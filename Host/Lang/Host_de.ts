@@ -993,6 +993,14 @@
         <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
         <translation>Bilder (*.png *.jpg *.tif *.bmp)</translation>
     </message>
+    <message>
+        <source>%1 is in the queue already.</source>
+        <translation>%1 ist schon in der Warteschlange.</translation>
+    </message>
+    <message>
+        <source>%1 is there already. Replace it?</source>
+        <translation>%1 gibt es schon. Ersetzen?</translation>
+    </message>
 </context>
 <context>
     <name>ExportJob</name>

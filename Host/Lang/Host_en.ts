@@ -993,6 +993,14 @@
         <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
         <translation>Pictures (*.png *.jpg *.tif *.bmp)</translation>
     </message>
+    <message>
+        <source>%1 is in the queue already.</source>
+        <translation>%1 is in the queue already.</translation>
+    </message>
+    <message>
+        <source>%1 is there already. Replace it?</source>
+        <translation>%1 is there already. Replace it?</translation>
+    </message>
 </context>
 <context>
     <name>ExportJob</name>

@@ -993,6 +993,14 @@
         <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
         <translation>Imágenes (*.png *.jpg *.tif *.bmp)</translation>
     </message>
+    <message>
+        <source>%1 is in the queue already.</source>
+        <translation>%1 ya está en la cola.</translation>
+    </message>
+    <message>
+        <source>%1 is there already. Replace it?</source>
+        <translation>%1 ya existe. ¿Reemplazarlo?</translation>
+    </message>
 </context>
 <context>
     <name>ExportJob</name>

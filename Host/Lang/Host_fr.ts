@@ -993,6 +993,14 @@
         <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
         <translation>Images (*.png *.jpg *.tif *.bmp)</translation>
     </message>
+    <message>
+        <source>%1 is in the queue already.</source>
+        <translation>%1 est déjà dans la file d’attente.</translation>
+    </message>
+    <message>
+        <source>%1 is there already. Replace it?</source>
+        <translation>%1 existe déjà. Le remplacer ?</translation>
+    </message>
 </context>
 <context>
     <name>ExportJob</name>

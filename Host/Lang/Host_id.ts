@@ -987,6 +987,14 @@
         <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
         <translation>Gambar (*.png *.jpg *.tif *.bmp)</translation>
     </message>
+    <message>
+        <source>%1 is in the queue already.</source>
+        <translation>%1 sudah ada dalam antrean.</translation>
+    </message>
+    <message>
+        <source>%1 is there already. Replace it?</source>
+        <translation>%1 sudah ada. Ganti?</translation>
+    </message>
 </context>
 <context>
     <name>ExportJob</name>

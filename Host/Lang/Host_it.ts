@@ -993,6 +993,14 @@
         <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
         <translation>Immagini (*.png *.jpg *.tif *.bmp)</translation>
     </message>
+    <message>
+        <source>%1 is in the queue already.</source>
+        <translation>%1 è già in coda.</translation>
+    </message>
+    <message>
+        <source>%1 is there already. Replace it?</source>
+        <translation>%1 esiste già. Sostituirlo?</translation>
+    </message>
 </context>
 <context>
     <name>ExportJob</name>

@@ -987,6 +987,14 @@
         <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
         <translation>画像 (*.png *.jpg *.tif *.bmp)</translation>
     </message>
+    <message>
+        <source>%1 is in the queue already.</source>
+        <translation>%1 はすでに待ち行列にあります。</translation>
+    </message>
+    <message>
+        <source>%1 is there already. Replace it?</source>
+        <translation>%1 はすでに存在します。置き換えますか？</translation>
+    </message>
 </context>
 <context>
     <name>ExportJob</name>

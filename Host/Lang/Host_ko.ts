@@ -987,6 +987,14 @@
         <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
         <translation>이미지 (*.png *.jpg *.tif *.bmp)</translation>
     </message>
+    <message>
+        <source>%1 is in the queue already.</source>
+        <translation>%1이(가) 이미 대기열에 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is there already. Replace it?</source>
+        <translation>%1이(가) 이미 있습니다. 바꾸시겠습니까?</translation>
+    </message>
 </context>
 <context>
     <name>ExportJob</name>

@@ -999,6 +999,14 @@
         <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
         <translation>Obrazy (*.png *.jpg *.tif *.bmp)</translation>
     </message>
+    <message>
+        <source>%1 is in the queue already.</source>
+        <translation>%1 jest już w kolejce.</translation>
+    </message>
+    <message>
+        <source>%1 is there already. Replace it?</source>
+        <translation>%1 już istnieje. Zastąpić?</translation>
+    </message>
 </context>
 <context>
     <name>ExportJob</name>

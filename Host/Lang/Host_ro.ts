@@ -999,6 +999,14 @@
         <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
         <translation>Imagini (*.png *.jpg *.tif *.bmp)</translation>
     </message>
+    <message>
+        <source>%1 is in the queue already.</source>
+        <translation>%1 este deja în coadă.</translation>
+    </message>
+    <message>
+        <source>%1 is there already. Replace it?</source>
+        <translation>%1 există deja. Se înlocuiește?</translation>
+    </message>
 </context>
 <context>
     <name>ExportJob</name>

@@ -999,6 +999,14 @@
         <source>Pictures (*.png *.jpg *.tif *.bmp)</source>
         <translation>Изображения (*.png *.jpg *.tif *.bmp)</translation>
     </message>
+    <message>
+        <source>%1 is in the queue already.</source>
+        <translation>%1 уже стоит в очереди.</translation>
+    </message>
+    <message>
+        <source>%1 is there already. Replace it?</source>
+        <translation>%1 уже существует. Заменить?</translation>
+    </message>
 </context>
 <context>
     <name>ExportJob</name>

@@ -31,6 +31,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -295,8 +296,31 @@ void ExportDialog::TakePreset()
 void ExportDialog::PickFile()
 {
     const QString path = QFileDialog::getSaveFileName(this, tr("Export"), m_path->text());
-    if (!path.isEmpty())
-        SetPath(path);
+    if (path.isEmpty())
+        return;
+    SetPath(path);
+    m_mayReplace = path; // it was asked for
+}
+
+/// Asks before a file is written over, once for what was chosen in a file dialog.
+bool ExportDialog::MayWrite(const QString& path)
+{
+    const auto& jobs = m_queue.Jobs();
+    const bool isOrdered = std::any_of(jobs.begin(), jobs.end(), [&](const ExportQueue::Job& job) {
+        const bool isOpen =
+            job.state == ExportQueue::State::Waiting || job.state == ExportQueue::State::Running;
+        return isOpen && QFileInfo(job.order.path) == QFileInfo(path);
+    });
+    if (isOrdered) {
+        m_complaint->setText(tr("%1 is in the queue already.").arg(QFileInfo(path).fileName()));
+        return false;
+    }
+    if (!QFileInfo::exists(path) || std::exchange(m_mayReplace, QString()) == path)
+        return true;
+    QMessageBox box(QMessageBox::Question, windowTitle(),
+                    tr("%1 is there already. Replace it?").arg(QFileInfo(path).fileName()),
+                    QMessageBox::Yes | QMessageBox::No, this);
+    return box.exec() == QMessageBox::Yes;
 }
 
 ExportOrder ExportDialog::Order() const
@@ -347,7 +371,8 @@ void ExportDialog::ShowComplaint(const QString& complaint)
 
 void ExportDialog::AddToQueue()
 {
-    if (m_queue.Add(m_project.Node(), Order()) == 0)
+    const ExportOrder order = Order();
+    if (MayWrite(order.path) && m_queue.Add(m_project.Node(), order) == 0)
         m_complaint->setText(tr("The project cannot be copied."));
 }
 

@@ -61,6 +61,7 @@ private:
     void TakeLength();
     void TakePreset();
     void PickFile();
+    bool MayWrite(const QString& path);
     void Check();
     void ShowComplaint(const QString& complaint);
     void AddToQueue();
@@ -72,6 +73,7 @@ private:
     ExportCheck* m_check;
     QComboBox* m_preset;
     QLineEdit* m_path;
+    QString m_mayReplace; ///< chosen in a dialog that has asked; empty for none
     QSize m_projectSize; ///< that was taken
     QSpinBox* m_width = nullptr;
     QSpinBox* m_height = nullptr;
