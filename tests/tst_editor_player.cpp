@@ -174,6 +174,10 @@ private Q_SLOTS:
         QTest::newRow("within") << "00:00:01:05" << 30 << "00:00:01:05";
         QTest::newRow("beyond the end") << "00:10:00:00" << kLength - 1 << "00:00:02:09";
         QTest::newRow("none") << "soon" << 0 << "00:00:00:00";
+        QTest::newRow("the last fields") << "1:5" << 30 << "00:00:01:05";
+        QTest::newRow("digits alone") << "105" << 30 << "00:00:01:05";
+        QTest::newRow("a distance") << "+12" << 12 << "00:00:00:12";
+        QTest::newRow("before the beginning") << "-12" << 0 << "00:00:00:00";
     }
 
     void aTimecodeIsTyped()

@@ -4,10 +4,33 @@
 #include "CommonLib/GlobalUtils.h"
 
 #include <QKeyEvent>
+#include <QStringList>
+
+#include <algorithm>
 
 namespace {
 
 constexpr int kMargins = 24; // of the frame and around the text, in pixels
+constexpr int kFields = 4;
+constexpr int kDigits = 2; // of a field
+
+/// With all fields; as it is when it is no part of a timecode.
+QString Whole(const QString& text)
+{
+    QStringList fields = text.split(QLatin1Char(':'));
+    if (fields.size() > kFields)
+        return text;
+    if (fields.size() == 1) {
+        fields.clear();
+        for (QString digits = text; !digits.isEmpty(); digits.chop(kDigits))
+            fields.prepend(digits.right(kDigits));
+    }
+    while (fields.size() < kFields)
+        fields.prepend(QString());
+    for (QString& field : fields)
+        field = field.rightJustified(kDigits, QLatin1Char('0'));
+    return fields.join(QLatin1Char(':'));
+}
 
 }
 
@@ -52,9 +75,19 @@ void TimecodeEdit::Show()
     setText(gFrame2String(m_frame, float(m_rate)));
 }
 
+int TimecodeEdit::Typed() const
+{
+    const QString typed = text().trimmed();
+    const int sign = typed.startsWith('+') ? 1 : typed.startsWith('-') ? -1 : 0;
+    const int frame = gString2Frame(float(m_rate), Whole(sign == 0 ? typed : typed.mid(1)));
+    if (sign == 0 || frame < 0)
+        return frame;
+    return std::max(m_frame + sign * frame, 0);
+}
+
 void TimecodeEdit::Enter()
 {
-    const int frame = isModified() ? gString2Frame(float(m_rate), text()) : -1;
+    const int frame = isModified() ? Typed() : -1;
     if (frame >= 0)
         m_frame = frame;
     Show();

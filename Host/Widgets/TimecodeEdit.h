@@ -3,8 +3,10 @@
 
 #include <QLineEdit>
 
-/// A frame as timecode, hours:minutes:seconds:frames, that another one can be typed into. What is
-/// no timecode gives way to the frame of before; Escape does so at once.
+/// A frame as timecode, hours:minutes:seconds:frames, that another one can be typed into. Fewer
+/// fields are the last ones, and so are digits alone, two a field: "5:00" and "500" are five
+/// seconds. After + or - they are a distance from the frame shown. What is no timecode gives way to
+/// the frame of before; Escape does so at once.
 class TimecodeEdit : public QLineEdit
 {
     Q_OBJECT
@@ -31,6 +33,8 @@ protected:
 private:
     void Show();
     void Enter();
+    /// The frame that is typed; below 0 for what is no timecode.
+    int Typed() const;
 
     double m_rate = 25;
     int m_frame = 0;
