@@ -205,7 +205,9 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(desk.Shown(), QString("1.mp41? 2.mp41?"), kPatience);
         const int steps = desk.project.Steps().count();
 
+        QSignalSpy changed(&desk.project, &Project::NodeChanged);
         QCOMPARE(desk.panel.Relink(before + "1.mp4", now + "1.mp4"), isMedia);
+        QCOMPARE(changed.size(), isMedia ? 3 : 0); // both clips and the project
         QCOMPARE(desk.project.Steps().count(), steps + (isMedia ? 1 : 0));
         const QString shown = isMedia ? "1.mp41 2.mp41" : "1.mp41? 2.mp41?";
         QTRY_COMPARE_WITH_TIMEOUT(desk.Shown(), shown, kPatience);

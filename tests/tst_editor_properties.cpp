@@ -7,7 +7,7 @@
 #include "Host/Editor/Model/Selection.h"
 #include "Host/Editor/Properties/ClipActions.h"
 #include "Host/Editor/Properties/ClipFields.h"
-#include "Host/Editor/Properties/EngineCatalog.h"
+#include "Host/Editor/Model/EngineCatalog.h"
 #include "Host/Editor/Properties/MovementKeys.h"
 #include "Host/Editor/Properties/ParameterFields.h"
 #include "Host/Editor/Properties/ParameterKeys.h"
@@ -20,6 +20,7 @@
 
 #include <QCheckBox>
 #include <QDoubleSpinBox>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -273,6 +274,7 @@ private Q_SLOTS:
         const PropertyField rotation = ClipFields::Placement(clip)[4];
         QCOMPARE(rotation.value().toDouble(), -45.0);
         QCOMPARE(m_editor->Steps(), before + 1);
+        QVERIFY(!box->findChild<QLineEdit*>()->isModified()); // what undoes is the window's now
         QVERIFY(m_editor->Click("Rotation: Back to the preset"));
         QCOMPARE(rotation.value().toDouble(), 0.0);
         QCOMPARE(box->value(), 0.0);

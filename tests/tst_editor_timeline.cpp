@@ -415,6 +415,18 @@ private Q_SLOTS:
         QTEST(editor.Selected(), "selected");
     }
 
+    void aRefusedDragIsToldUntilItIsPossibleAgain()
+    {
+        Editor editor(*m_engine, "a0+20 b20+20 / d0+10");
+        QSignalSpy told(&editor.project, &Project::DragRefused);
+        editor.Do("click d; key Shift+L; drag b +0^1");
+        QCOMPARE(told.size(), 1);
+        QVERIFY(told.takeFirst().first().toString().endsWith("(2)")); // the level, as its head has it
+        QCOMPARE(editor.project.Steps().count(), 1);                  // the lock
+        editor.Do("drag b +5");
+        QCOMPARE(told.size(), 0);
+    }
+
     void theModelFollowsRandomEdits()
     {
         Editor editor(*m_engine, "a0+20 b20+20 c40+20 / d0+60 / e5+9");

@@ -18,6 +18,8 @@ constexpr char kOwnRules[] = R"(
 }
 #Host_SectionTitle:focus { border: 1px solid #4da3ff; }
 #Host_Complaint { color: #ff8f7a; }
+#Host_InPlace { background-color: transparent; border: none; padding: 0; }
+#Host_InPlace:focus { background-color: #1b1d20; }
 /* Those of Qt's own style are drawn too dark to be seen on a dark surface. */
 QTreeView::indicator {
     width: 12px; height: 12px;

@@ -8,6 +8,7 @@
 #include <QDoubleSpinBox>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -52,6 +53,9 @@ void NumberEdit::MakeBox(const Scale& scale)
     m_box->setFixedWidth(std::max(kLeastBoxWidth, m_box->sizeHint().width()));
     m_box->installEventFilter(this);
     connect(m_box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &NumberEdit::Follow);
+    // What was typed is taken; the keys of undo are those of its window again.
+    auto* line = m_box->findChild<QLineEdit*>();
+    connect(m_box, &QDoubleSpinBox::editingFinished, line, [line] { line->setModified(false); });
 }
 
 /// Not before the pointer comes: each looks at all events of the program.

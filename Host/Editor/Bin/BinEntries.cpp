@@ -55,13 +55,16 @@ QJsonObject ToJson(const BinEntry& entry, const QString& folder)
     return object;
 }
 
-/// What lies beside the project comes before what lies where it once lay.
+/// What lies beside the project comes before what lies where it once lay; where it is in neither
+/// place it is looked for beside the project, as clips look for it.
 QString PathOf(const QJsonObject& object, const QString& folder)
 {
     const QString relative = object["relative"].toString();
-    const QString beside = QDir(folder).absoluteFilePath(relative);
-    const bool isThere = !folder.isEmpty() && !relative.isEmpty() && QFileInfo::exists(beside);
-    return isThere ? QDir::cleanPath(beside) : object["path"].toString();
+    QString path = object["path"].toString();
+    if (folder.isEmpty() || relative.isEmpty())
+        return path;
+    const QString beside = QDir::cleanPath(QDir(folder).absoluteFilePath(relative));
+    return QFileInfo::exists(beside) || !QFileInfo::exists(path) ? beside : path;
 }
 
 BinEntry FromJson(const QJsonObject& object, const QString& folder)

@@ -190,8 +190,13 @@ bool MediaBin::Relink(const QHash<QString, QString>& moved)
     const NLEComPtr<INLETimeline> node = m_project.Node();
     const BinEntries before = m_entries;
     const BinEntries now = Renamed(before, moved);
-    const auto redo = [=] { return RelinkAll(moves) && WriteBinEntries(*node, now); };
-    const auto undo = [=] { return UnlinkAll(moves) && WriteBinEntries(*node, before); };
+    const auto note = [=] {
+        for (const Move& move : moves)
+            m_project.NoteChange(move.clip);
+        return true;
+    };
+    const auto redo = [=] { return RelinkAll(moves) && note() && WriteBinEntries(*node, now); };
+    const auto undo = [=] { return UnlinkAll(moves) && note() && WriteBinEntries(*node, before); };
     return !moved.isEmpty() && m_project.Change(tr("Relink media"), node, redo, undo);
 }
 
@@ -268,6 +273,7 @@ void MediaBin::Reload(const QString& file)
     for (const NLEComPtr<INLETimeline>& clip : m_clips.value(file)) {
         if (const auto relink = clip.query<INLEMediaRelink>())
             relink->Reload();
+        Q_EMIT m_project.NodeChanged(clip);
     }
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "Host/Editor/Properties/EngineCatalog.h"
+#include "Host/Editor/Model/EngineCatalog.h"
 
 #include "Host/Editor/Model/Engine.h"
 #include "Host/EngineText.h"

@@ -87,9 +87,9 @@ void Project::BeginDrag(const QString& text)
     m_steps.BeginDrag(text);
 }
 
-bool Project::Drag(const EditCall& edit)
+bool Project::Drag(const EditCall& edit, const EditCall& otherwise)
 {
-    return m_steps.Drag(edit);
+    return m_steps.Drag(edit, otherwise);
 }
 
 void Project::EndDrag()

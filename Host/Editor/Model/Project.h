@@ -64,7 +64,8 @@ public:
     /// A drag is one step: each Drag() edits what was there at BeginDrag(). Of refused ones, which
     /// leave all as it was then, Refused() tells when the drag ends with one.
     void BeginDrag(const QString& text);
-    bool Drag(const EditCall& edit);
+    /// \a otherwise is done, as the movement before, where \a edit is refused.
+    bool Drag(const EditCall& edit, const EditCall& otherwise = {});
     void EndDrag();
     void CancelDrag();
     /// A change of \a node's properties, effects, parameters, key frames: \a redo is called at
@@ -74,6 +75,8 @@ public:
     bool Change(const QString& text, const NLEComPtr<INLETimeline>& node, ChangeCall redo,
                 ChangeCall undo, int merge = 0);
     int NewMerge() { return ++m_lastMerge; }
+    /// Within the calls of a Change(): \a node has changed as well.
+    void NoteChange(const NLEComPtr<INLETimeline>& node) { m_steps.NoteNode(node); }
 
     // ---- File; false when it fails, as Refused() has told, and then nothing has changed
 

@@ -140,7 +140,7 @@ void ProjectSteps::BeginDrag(const QString& text)
         m_drag = OpenDrag{text, {}};
 }
 
-bool ProjectSteps::Drag(const EditCall& edit)
+bool ProjectSteps::Drag(const EditCall& edit, const EditCall& otherwise)
 {
     if (!m_drag)
         return false;
@@ -150,7 +150,7 @@ bool ProjectSteps::Drag(const EditCall& edit)
     const bool isDone = Try(edit);
     const QString refusal = isDone ? QString() : reasons.Of(m_drag->text);
     const bool isNews = std::exchange(m_drag->refusal, refusal) != refusal;
-    if (isDone)
+    if (isDone || (otherwise && Try(otherwise)))
         NoteClips();
     Tell();
     if (isNews)

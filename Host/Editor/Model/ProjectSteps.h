@@ -36,7 +36,7 @@ public:
     // As those of Project.
     bool Edit(const QString& text, const EditCall& edit);
     void BeginDrag(const QString& text);
-    bool Drag(const EditCall& edit);
+    bool Drag(const EditCall& edit, const EditCall& otherwise);
     void EndDrag();
     void CancelDrag();
     bool Change(const QString& text, const NLEComPtr<INLETimeline>& node, ChangeCall redo,

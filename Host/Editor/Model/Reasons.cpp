@@ -24,8 +24,10 @@ QString Reasons::Of(const QString& action) const
         return action;
     const QString title = EngineText<kLongestText>(
         [&](wchar_t* text, int capacity) { return m_reasons->GetTitle(reason, text, capacity); });
-    const QString words = EngineText<kLongestText>(
+    QString words = EngineText<kLongestText>(
         [&](wchar_t* text, int capacity) { return m_reasons->GetWords(text, capacity); });
+    if (reason == NLEReason_LevelLocked)
+        words = QString::number(words.toInt() + 1); // as the heads of levels count
     const QString why = words.isEmpty() ? title : QStringLiteral("%1 (%2)").arg(title, words);
     return QStringLiteral("%1: %2").arg(action, why);
 }

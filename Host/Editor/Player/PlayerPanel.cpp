@@ -245,7 +245,9 @@ void PlayerPanel::SetFullScreen(bool on)
     view->setWindowFlag(Qt::Window);
     view->setAttribute(Qt::WA_DeleteOnClose);
     view->ShowPicture(View()->Picture());
+    view->SetSafeAreas(m_safeAreas->isChecked());
     view->addActions(actions()); // with their keys
+    connect(m_safeAreas, &QAction::toggled, view, &PictureView::SetSafeAreas);
     connect(&m_player, &MediaPlayer::PictureReady, view,
             [view](const NLEComPtr<INLEVideoFrame>& picture) { view->ShowFrame(picture); });
     // Also when the system closes it; by then there may be another one.

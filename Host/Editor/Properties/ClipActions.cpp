@@ -3,9 +3,9 @@
 
 #include "CommonLib/NLEWraper/NLETimeline.h"
 #include "Host/Editor/Model/Engine.h"
+#include "Host/Editor/Model/EngineCatalog.h"
 #include "Host/Editor/Model/Project.h"
 #include "Host/Editor/Model/Selection.h"
-#include "Host/Editor/Properties/EngineCatalog.h"
 
 #include <QCoreApplication>
 

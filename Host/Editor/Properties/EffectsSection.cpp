@@ -2,8 +2,8 @@
 #include "Host/Editor/Properties/EffectsSection.h"
 
 #include "Host/Editor/Model/Engine.h"
+#include "Host/Editor/Model/EngineCatalog.h"
 #include "Host/Editor/Properties/ClipActions.h"
-#include "Host/Editor/Properties/EngineCatalog.h"
 #include "Host/Editor/Properties/ParameterFields.h"
 #include "Host/Editor/Properties/PropertyForm.h"
 #include "Host/EngineText.h"

@@ -3,12 +3,12 @@
 
 #include "CommonLib/NLEWraper/NLETimeline.h"
 #include "EngineApi/INLETitle.h"
+#include "Host/Editor/Model/EngineCatalog.h"
 #include "Host/Editor/Model/Project.h"
 #include "Host/Editor/Model/Selection.h"
 #include "Host/Editor/Properties/ClipActions.h"
 #include "Host/Editor/Properties/ClipFields.h"
 #include "Host/Editor/Properties/EffectsSection.h"
-#include "Host/Editor/Properties/EngineCatalog.h"
 #include "Host/Editor/Properties/MovementSection.h"
 #include "Host/Editor/Properties/ParameterFields.h"
 #include "Host/Editor/Properties/ProjectFields.h"

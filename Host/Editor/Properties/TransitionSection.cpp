@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Properties/TransitionSection.h"
 
+#include "Host/Editor/Model/EngineCatalog.h"
 #include "Host/Editor/Properties/ClipActions.h"
-#include "Host/Editor/Properties/EngineCatalog.h"
 
 #include <QHBoxLayout>
 #include <QMenu>

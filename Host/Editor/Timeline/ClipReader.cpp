@@ -6,6 +6,7 @@
 #include "EngineApi/NLECommon.h"
 #include "EngineApi/NLEKey.h"
 #include "Host/Editor/Model/Engine.h"
+#include "Host/Editor/Model/EngineCatalog.h"
 #include "Host/EngineText.h"
 
 #include <QCoreApplication>
@@ -112,8 +113,10 @@ bool ReadTransition(const NLEComPtr<INLETimeline>& node, ClipRow& row)
     if (!transition)
         return false;
     row.kind = ClipKind::Transition;
-    row.name = EngineText(
-        [&](wchar_t* text, int capacity) { return transition->GetTransitionName(text, capacity); });
+    row.name = EngineCatalog::TitleOf(
+        NLECatalog_Transition, EngineText([&](wchar_t* text, int capacity) {
+            return transition->GetTransitionName(text, capacity);
+        }));
     return true;
 }
 
@@ -155,7 +158,7 @@ std::shared_ptr<const ClipMedia> ClipReader::Media(INLETimelineSource& source)
         QStringLiteral("%1\n%2\n%3").arg(media.path).arg(media.picture).arg(media.sound);
     auto& known = m_media[key];
     // A file that was away may be there by now.
-    if (!known || known->frames != media.frames)
+    if (!known || known->frames != media.frames || KindOf(*known->info) != KindOf(*media.info))
         known = std::make_shared<const ClipMedia>(std::move(media));
     return known;
 }

@@ -16,13 +16,6 @@ EditGesture::EditGesture(Project& project, Snapping& snapping, const GesturePoin
     m_project.BeginDrag(text);
 }
 
-bool EditGesture::Do(const Distance& distance)
-{
-    return m_project.Drag([this, distance](INLEEditing& editing) {
-        return Edit(editing, distance.frames, distance.levels);
-    });
-}
-
 void EditGesture::Move(const GesturePoint& point)
 {
     const Distance distance = {static_cast<int>(std::lround(point.frame - m_start.frame)),
@@ -30,19 +23,24 @@ void EditGesture::Move(const GesturePoint& point)
     if (distance == m_asked)
         return;
     m_asked = distance;
-    if (Do(distance))
+    const auto call = [this](const Distance& way) -> Project::EditCall {
+        if (way == Distance())
+            return [this](INLEEditing& /*editing*/) {
+                m_snapping.ClearLine();
+                return S_OK; // as it was
+            };
+        return [this, way](INLEEditing& editing) {
+            return Edit(editing, way.frames, way.levels);
+        };
+    };
+    if (m_project.Drag(call(distance), call(m_done)))
         m_done = distance;
-    else
-        Do(m_done);
 }
 
 void EditGesture::End()
 {
     m_snapping.ClearLine();
-    if (m_done == Distance())
-        m_project.CancelDrag();
-    else
-        m_project.EndDrag();
+    m_project.EndDrag();
 }
 
 void EditGesture::Cancel()

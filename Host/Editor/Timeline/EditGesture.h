@@ -40,7 +40,6 @@ private:
             return frames == other.frames && levels == other.levels;
         }
     };
-    bool Do(const Distance& distance);
 
     Project& m_project;
     const GesturePoint m_start;

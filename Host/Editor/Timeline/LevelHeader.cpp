@@ -23,8 +23,6 @@ constexpr int kKeyStep = 10; ///< pixels that a key makes a level taller
 
 const QColor kBackground(0x2c, 0x2f, 0x34);
 const QColor kLine(0x41, 0x46, 0x4d);
-const QLatin1String kNameStyle("QLineEdit { background: transparent; border: none; padding: 0 }"
-                               "QLineEdit:focus { background: #1b1d20 }");
 
 } // namespace
 
@@ -40,7 +38,7 @@ LevelHeader::LevelHeader(int level, QWidget* parent)
     };
     m_lock = new LevelButton(Sign::Lock, this); // last for the tab key
     m_name->setMinimumWidth(1);
-    m_name->setStyleSheet(kNameStyle);
+    m_name->setObjectName(QStringLiteral("Host_InPlace"));
     m_name->installEventFilter(this);
     m_layout = new QBoxLayout(QBoxLayout::LeftToRight, this);
     m_layout->setContentsMargins(kMargin, 1, kMargin, 1);

@@ -17,10 +17,6 @@ QAction* TimelineActions::Add(const Entry& entry)
     auto* action = new QAction(m_owner);
     m_actions << action;
     m_entries << entry;
-    if (!entry.text) {
-        action->setSeparator(true);
-        return action;
-    }
     action->setText(QCoreApplication::translate("Timeline", entry.text));
     action->setObjectName(QString::fromLatin1(entry.text));
     QList<QKeySequence> keys;
@@ -51,6 +47,12 @@ QAction* TimelineActions::AddSwitch(const char* text, const QList<const char*>& 
     return action;
 }
 
+QList<QAction*> TimelineActions::Group(int number) const
+{
+    const int begin = m_groups[number];
+    return m_actions.mid(begin, m_groups.value(number + 1, m_actions.size()) - begin);
+}
+
 void TimelineActions::SetUsable(Needs needs, bool usable)
 {
     for (int index = 0; index < m_actions.size(); ++index) {
@@ -61,9 +63,6 @@ void TimelineActions::SetUsable(Needs needs, bool usable)
 
 void TimelineActions::SetTexts()
 {
-    for (int index = 0; index < m_actions.size(); ++index) {
-        if (m_entries[index].text)
-            m_actions[index]->setText(
-                QCoreApplication::translate("Timeline", m_entries[index].text));
-    }
+    for (int index = 0; index < m_actions.size(); ++index)
+        m_actions[index]->setText(QCoreApplication::translate("Timeline", m_entries[index].text));
 }

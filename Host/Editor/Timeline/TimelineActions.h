@@ -26,7 +26,7 @@ public:
     };
     struct Entry
     {
-        const char* text; ///< in the translation context "Timeline"; null for a separator
+        const char* text; ///< in the translation context "Timeline"
         QList<const char*> keys;
         std::function<void()> run;
         Needs needs = Needs::Nothing;
@@ -35,6 +35,8 @@ public:
     /// The actions are \a owner's, which gets their keys.
     explicit TimelineActions(QWidget* owner);
 
+    /// What is added from now on is another group.
+    void BeginGroup() { m_groups << m_actions.size(); }
     QAction* Add(const Entry& entry);
     /// One of several of which one is on; \a run is called when it comes on.
     QAction* AddChoice(const Entry& entry);
@@ -43,6 +45,8 @@ public:
                        const std::function<void(bool)>& run);
 
     const QList<QAction*>& All() const { return m_actions; }
+    /// Those of a group, from 0 in the order of BeginGroup().
+    QList<QAction*> Group(int number) const;
     void SetUsable(Needs needs, bool usable);
     void SetTexts();
 
@@ -50,5 +54,6 @@ private:
     QWidget* m_owner;
     QActionGroup* m_choices;
     QList<QAction*> m_actions;
+    QVector<int> m_groups; ///< where they begin
     QList<Entry> m_entries; ///< of the actions
 };

@@ -72,6 +72,17 @@ QList<QAction*> TimelinePanel::Actions() const
     return m_actions->All();
 }
 
+QList<QAction*> TimelinePanel::Actions(std::initializer_list<ActionGroup> groups) const
+{
+    QList<QAction*> actions;
+    for (const ActionGroup group : groups) {
+        if (!actions.isEmpty())
+            actions << nullptr;
+        actions << m_actions->Group(int(group));
+    }
+    return actions;
+}
+
 // Actions -----------------------------------------------------------------------------------------
 
 void TimelinePanel::AddEditActions()
@@ -81,6 +92,7 @@ void TimelinePanel::AddEditActions()
         m_actions->Add({text, keys, [commands = m_commands, run] { (commands->*run)(); }, needs});
     };
     using C = TimelineCommands;
+    m_actions->BeginGroup();
     add(QT_TRANSLATE_NOOP("Timeline", "Cut"), {"Ctrl+X"}, &C::Cut, Needs::Selection);
     add(QT_TRANSLATE_NOOP("Timeline", "Copy"), {"Ctrl+C"}, &C::Copy, Needs::Selection);
     add(QT_TRANSLATE_NOOP("Timeline", "Paste"), {"Ctrl+V"}, &C::Paste, Needs::Copy);
@@ -90,7 +102,7 @@ void TimelinePanel::AddEditActions()
         Needs::Selection);
     add(QT_TRANSLATE_NOOP("Timeline", "Ripple delete"), {"Shift+Del", "Shift+Backspace"},
         &C::RippleDelete, Needs::Selection);
-    m_actions->Add({nullptr, {}, {}});
+    m_actions->BeginGroup();
     add(QT_TRANSLATE_NOOP("Timeline", "Split at play head"), {"S"}, &C::Split, Needs::Nothing);
     add(QT_TRANSLATE_NOOP("Timeline", "Trim begin to play head"), {"Q"}, &C::TrimBegin,
         Needs::Selection);
@@ -111,7 +123,7 @@ void TimelinePanel::AddEditActions()
     flag(QT_TRANSLATE_NOOP("Timeline", "Hide or show level"), "Shift+H", NLELevel_Hidden);
     flag(QT_TRANSLATE_NOOP("Timeline", "Mute or unmute level"), "Shift+M", NLELevel_Muted);
     flag(QT_TRANSLATE_NOOP("Timeline", "Level solo or not"), "Shift+A", NLELevel_Solo);
-    m_actions->Add({nullptr, {}, {}});
+    m_actions->BeginGroup();
     add(QT_TRANSLATE_NOOP("Timeline", "Select all"), {"Ctrl+A"}, &C::SelectAll, Needs::Nothing);
     add(QT_TRANSLATE_NOOP("Timeline", "Select at play head"), {"D"}, &C::SelectAtPlayHead,
         Needs::Nothing);
@@ -133,7 +145,7 @@ void TimelinePanel::AddMoveActions()
                         },
                         Needs::Selection});
     };
-    m_actions->Add({nullptr, {}, {}});
+    m_actions->BeginGroup();
     nudge(QT_TRANSLATE_NOOP("Timeline", "Frame earlier"), "Alt+Left", 0, -1);
     nudge(QT_TRANSLATE_NOOP("Timeline", "Frame later"), "Alt+Right", 0, 1);
     nudge(QT_TRANSLATE_NOOP("Timeline", "Second earlier"), "Alt+Shift+Left", -1, 0);
@@ -152,7 +164,7 @@ void TimelinePanel::AddMoveActions()
 
 void TimelinePanel::AddToolActions()
 {
-    m_actions->Add({nullptr, {}, {}});
+    m_actions->BeginGroup();
     const auto add = [this](const char* text, const char* key, TimelineTool tool) {
         return m_actions->AddChoice({text, {key}, [this, tool] { SetTool(tool); }});
     };
@@ -169,7 +181,7 @@ void TimelinePanel::AddToolActions()
 
 void TimelinePanel::AddViewActions()
 {
-    m_actions->Add({nullptr, {}, {}});
+    m_actions->BeginGroup();
     const auto add = [this](const char* text, QList<const char*> keys, std::function<void()> run) {
         m_actions->Add({text, keys, std::move(run)});
     };
@@ -315,7 +327,10 @@ void TimelinePanel::ShowMenu(const QPoint& global)
 {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addActions(Actions());
+    const auto actions =
+        Actions({ActionGroup::Clipboard, ActionGroup::Edits, ActionGroup::Selection});
+    for (QAction* action : actions)
+        action ? menu->addAction(action) : void(menu->addSeparator());
     menu->popup(global);
 }
 

@@ -31,9 +31,19 @@ public:
                   QWidget* parent = nullptr);
     ~TimelinePanel() override;
 
-    /// For the menus of a window, in groups with separators between them. Their keys count while
-    /// the keyboard is with the panel.
+    enum class ActionGroup
+    {
+        Clipboard,
+        Edits,
+        Selection,
+        Moves, ///< of clips, and of the play head to cuts
+        Tools,
+        View
+    };
+    /// For the menus of a window. Their keys count while the keyboard is with the panel.
     QList<QAction*> Actions() const;
+    /// Those of \a groups, with null between groups.
+    QList<QAction*> Actions(std::initializer_list<ActionGroup> groups) const;
     /// A clip in words: name, level, frames.
     static QString Described(const ClipRow& row);
     /// Shows the whole project.

@@ -30,6 +30,7 @@
 #include <QLocale>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
 #include <QToolBar>
@@ -79,17 +80,18 @@ EditorWindow::EditorWindow(const Paths& paths)
     , m_films(new ExportQueue(this))
 {
     qApp->installEventFilter(new FocusedKeys(this));
-    resize(kSize);
+    resize(kSize.boundedTo(screen()->availableSize()));
     setCentralWidget(m_playerPanel);
     new PictureHandles(m_project, m_selection, m_player, *m_playerPanel->View());
     AddPanels(paths);
     AddMenus();
     AddToolBar();
+    statusBar(); // there from the beginning: it would push up what is being dragged
     connect(&m_project, &Project::Refused, this,
             [this](const QString& reason) { statusBar()->showMessage(reason, kMessageTime); });
     // An empty text clears it.
     connect(&m_project, &Project::DragRefused, this,
-            [this](const QString& reason) { statusBar()->showMessage(reason); });
+            [this](const QString& reason) { statusBar()->showMessage(reason, kMessageTime); });
     connect(&m_project, &Project::ModifiedChanged, this, &QWidget::setWindowModified);
     connect(&m_project, &Project::PathChanged, this, &EditorWindow::ShowTitle);
     connect(&m_project, &Project::Replaced, this, &EditorWindow::ShowRemarks);
@@ -139,6 +141,10 @@ void EditorWindow::AddPanels(const Paths& paths)
         AddPanel(Qt::BottomDockWidgetArea, QT_TR_NOOP("Log"), "log", new LogView(paths.log, this));
     tabifyDockWidget(timeline, log);
     log->hide();
+    connect(log->toggleViewAction(), &QAction::triggered, log, [log](bool isShown) {
+        if (isShown)
+            log->raise(); // in front of the timeline
+    });
     resizeDocks({timeline}, {kTimelineHeight}, Qt::Vertical);
     resizeDocks({media, properties}, {kMediaWidth, kPropertiesWidth}, Qt::Horizontal);
 }
@@ -198,7 +204,11 @@ void EditorWindow::AddMenus()
         AddAction(QT_TR_NOOP("Quit"), QKeySequence(Qt::CTRL + Qt::Key_Q), [this] { close(); }));
     m_undo = AddStep(QT_TR_NOOP("Undo"), QKeySequence::Undo, true);
     m_redo = AddStep(QT_TR_NOOP("Redo"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z), false);
-    QMenu* edit = AddMenu(QT_TR_NOOP("&Edit"), {m_undo, m_redo, nullptr});
+    using Group = TimelinePanel::ActionGroup;
+    QMenu* edit = AddMenu(QT_TR_NOOP("&Edit"), QList<QAction*>{m_undo, m_redo, nullptr} +
+                                                   m_timeline->Actions({Group::Clipboard,
+                                                                        Group::Selection}));
+    edit->addSeparator();
     edit->addAction(AddAction(QT_TR_NOOP("Lift from in to out point"),
                               QKeySequence(Qt::Key_Semicolon),
                               [this] { CutRange(tr("Lift"), &INLEEditing::Lift); }));
@@ -209,7 +219,13 @@ void EditorWindow::AddMenus()
     media->addSeparator();
     media->addActions(m_bin->Commands().ItemMenu()->actions());
     connect(media, &QMenu::aboutToShow, &m_bin->Commands(), &BinCommands::Update);
-    AddMenu(QT_TR_NOOP("&Timeline"), m_timeline->Actions());
+    QMenu* timeline = AddMenu(QT_TR_NOOP("&Timeline"), m_timeline->Actions({Group::Edits}));
+    auto* move = timeline->addMenu(QString());
+    KeepTranslated(move, [move] { move->setTitle(QApplication::translate("Timeline", "Move")); });
+    move->addActions(m_timeline->Actions({Group::Moves}));
+    timeline->addSeparator();
+    for (QAction* action : m_timeline->Actions({Group::Tools, Group::View}))
+        action ? timeline->addAction(action) : void(timeline->addSeparator());
     QMenu* play = AddMenu(QT_TR_NOOP("&Play"), m_playerPanel->Actions());
     play->addSeparator();
     play->addAction(AddAction(QT_TR_NOOP("Render the preview, or stop it"),

@@ -7,6 +7,7 @@
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLineEdit>
 
 namespace {
 
@@ -25,12 +26,28 @@ bool Lives(QObject* widget, int key)
     return false;
 }
 
+/// A field of one line in which nothing is typed that is not taken yet.
+bool IsTaken(QObject* widget)
+{
+    auto* line = qobject_cast<QLineEdit*>(widget);
+    if (qobject_cast<QAbstractSpinBox*>(widget))
+        line = widget->findChild<QLineEdit*>();
+    return line && !line->isModified();
+}
+
 } // namespace
 
 bool FocusedKeys::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::ShortcutOverride &&
-        Lives(watched, static_cast<QKeyEvent*>(event)->key()))
+    if (event->type() != QEvent::ShortcutOverride)
+        return QObject::eventFilter(watched, event);
+    const auto* press = static_cast<QKeyEvent*>(event);
+    const bool isStep = press->matches(QKeySequence::Undo) || press->matches(QKeySequence::Redo);
+    if (isStep && IsTaken(watched)) {
+        event->ignore();
+        return true; // or the field would undo its own typing
+    }
+    if (Lives(watched, press->key()))
         event->accept();
     return QObject::eventFilter(watched, event);
 }

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr QSize kSize(460, 560);
+constexpr QSize kSize(560, 560);
 
 QTreeWidgetItem* ItemOf(const QAction& action)
 {
@@ -31,7 +31,7 @@ ShortcutList::ShortcutList(QWidget* window) : QDialog(window)
         if (!action->shortcuts().isEmpty() && !action->text().isEmpty())
             list->addTopLevelItem(ItemOf(*action));
     }
-    list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    list->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(list);
 }

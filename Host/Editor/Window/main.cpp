@@ -130,7 +130,8 @@ int Run(const QCommandLineParser& parser, const QElapsedTimer& since)
         return 1;
     }
     EditorWindow window(paths);
-    window.resize(kWindow);
+    if (parser.isSet(QStringLiteral("tour")))
+        window.resize(kWindow); // whatever screen there is
     window.show();
     const LoopWatch watch(std::chrono::milliseconds(50));
     QObject::connect(&watch, &LoopWatch::Answered, &NoteLongWait);
