@@ -1,0 +1,437 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// Hosts that hold the engine's interfaces wrongly: nulls for all that a call takes, on objects that
+// have nothing yet, after what they came from has gone. Each call is refused, and nothing crashes.
+#include "EngineApi/INLEBackgroundCache.h"
+#include "EngineApi/INLEEditing.h"
+#include "EngineApi/INLEEffects.h"
+#include "EngineApi/INLEEncode.h"
+#include "EngineApi/INLEFactory.h"
+#include "EngineApi/INLEFrames.h"
+#include "EngineApi/INLEKeyFrames.h"
+#include "EngineApi/INLELevels.h"
+#include "EngineApi/INLEMarkers.h"
+#include "EngineApi/INLEMedia.h"
+#include "EngineApi/INLEMixerSetting.h"
+#include "EngineApi/INLEPlayer.h"
+#include "EngineApi/INLEProperties.h"
+#include "EngineApi/INLEProxies.h"
+#include "EngineApi/INLEReasons.h"
+#include "EngineApi/INLEStreamProcess.h"
+#include "EngineApi/INLESystemFile.h"
+#include "EngineApi/INLETimeline.h"
+#include "EngineApi/INLETitle.h"
+#include "EngineApi/INLETransform.h"
+#include "tests/support/EngineFixture.h"
+
+namespace {
+
+constexpr HRESULT kNoObject = 0x0badf00d; // success, so that the row fails
+
+/// Objects of all kinds, none of them used before.
+class Objects
+{
+public:
+    Objects(const EngineFixture& engine, const QString& film)
+    {
+        const auto factory = engine.Factory();
+        const auto nodes = engine.Nodes();
+        Take(factory);
+        Take(nodes);
+        Node project = engine.Project();
+        Node clip = engine.Colour(Qt::red);
+        engine.Add(project, clip);
+        Node title;
+        nodes->CreateTitle(L"A", title.put());
+        for (const Node& node : {project, clip, title, EngineFixture::Effect("drop-shadow"),
+                                 EngineFixture::Transition("dissolve")})
+            Take(node);
+        Make(&INLEFactory::GetFontLibrary);
+        Make(&INLEFactory::GetSystemConfig);
+        Make(&INLEFactory::CreateDocumentSerialize);
+        Make(&INLEFactory::CreateFrameExtractor);
+        Make(&INLEFactory::CreateThumbnailExtractor);
+        Make(&INLEFactory::CreateWaveExtractor);
+        Make(&INLEFactory::CreateSceneSegment);
+        Make(&INLEFactory::CreateMediaEncoder);
+        Make(&INLEFactory::CreateProperties);
+        Make(&INLEFactory::CreateProxyMaker);
+        Make(&INLEFactory::CreatePlayer);
+        Make(&INLEFactory::GetReasons);
+        NLEComPtr<INLEEditing> editing;
+        factory->CreateEditing(project.get(), editing.put());
+        Take(editing);
+        NLEComPtr<INLETimelineEnumerator> clips;
+        project.query<INLETimelineComposite>()->GetEnumerator(1, clips.put());
+        Take(clips);
+        Take(engine.Media(film));
+        const auto codec = engine.provider->CreateCodecFromFile(film);
+        NLEComPtr<INLEMediaInfo> info;
+        codec->GetMediaInfo(info.put());
+        Take(codec);
+        Take(info);
+        Take(Find<INLEBackgroundCache>());
+        Take(engine.provider->CreateVideoFrame(16, 16));
+        Take(engine.provider->CreateAudioFrame(16));
+    }
+    template <typename Interface>
+    NLEComPtr<Interface> Find() const
+    {
+        for (const NLEComPtr<IUnknown>& object : m_objects) {
+            NLEComPtr<Interface> found = object.query<Interface>();
+            const auto node = object.query<INLETimeline>();
+            if (!found && node)
+                node->GetInterface(Interface::Iid, found.putVoid(), 0, 0);
+            if (found)
+                return found;
+        }
+        return nullptr;
+    }
+
+private:
+    template <typename Interface>
+    void Take(const NLEComPtr<Interface>& object)
+    {
+        m_objects.push_back(object.template query<IUnknown>());
+    }
+    template <typename Interface>
+    void Make(HRESULT (INLEFactory::*make)(Interface**))
+    {
+        NLEComPtr<Interface> object;
+        (EngineFixture::Factory().get()->*make)(object.put());
+        Take(object);
+    }
+
+    std::vector<NLEComPtr<IUnknown>> m_objects;
+};
+
+using Call = HRESULT (*)(const EngineFixture&, const QString& film);
+
+/// Zero for all that the call takes, beside what the object came from and after that has gone.
+template <auto Method>
+struct NullCall;
+template <typename Interface, typename... Arguments, HRESULT (Interface::*Method)(Arguments...)>
+struct NullCall<Method>
+{
+    static HRESULT Make(const EngineFixture& engine, const QString& film)
+    {
+        auto objects = std::make_unique<Objects>(engine, film);
+        const NLEComPtr<Interface> object = objects->Find<Interface>();
+        if (!object)
+            return kNoObject;
+        const HRESULT result = (object.get()->*Method)(std::decay_t<Arguments>()...);
+        objects.reset();
+        (object.get()->*Method)(std::decay_t<Arguments>()...);
+        return result;
+    }
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Call)
+
+class tst_HostileHost : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<EngineFixture> m_engine;
+    QString m_film;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_engine = std::make_unique<EngineFixture>();
+        m_film = m_engine->Path("film.mp4");
+        TestClip clip;
+        clip.frames = 5;
+        clip.audioCodec = "aac";
+        QCOMPARE(MakeTestClip(m_film, clip), QString());
+    }
+    void cleanupTestCase() { m_engine.reset(); }
+
+    void nullsAreRefused_data()
+    {
+        QTest::addColumn<Call>("call");
+        QTest::addColumn<bool>("mayBe");
+#define ROW_OF(INTERFACE, METHOD, MAY_BE)                                                          \
+    QTest::newRow(#INTERFACE "::" #METHOD) << Call(&NullCall<&INTERFACE::METHOD>::Make) << MAY_BE;
+#define ROW(INTERFACE, METHOD) ROW_OF(INTERFACE, METHOD, false)
+#define ROW_WHERE_NULL_SAYS_SOMETHING(INTERFACE, METHOD) ROW_OF(INTERFACE, METHOD, true)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEEditing, GetStepCounts)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEEncodeOptions, SetOptions)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLESceneProgress, SetProgress)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEWaveCache, SetCacheFolder)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLELevels, SetName)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEPlayer, SetListener)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEPlayer, SetSoundDevice)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEProxyMaker, SetFolder)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEProxyMaker, Cancel)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEReasons, GetLast)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEBackgroundCacheAsyncUpdate, SetUpdateCallback)
+        ROW(INLEBackgroundCache, SetCacheFolder)
+        ROW(INLEBackgroundCache, Start)
+        ROW(INLEBackgroundCacheStat, GetStat)
+        ROW(INLEEditing, GetChanged)
+        ROW(INLEEditing, Split)
+        ROW(INLEEditing, Trim)
+        ROW(INLEEditing, RippleTrim)
+        ROW(INLEEditing, Roll)
+        ROW(INLEEditing, Slip)
+        ROW(INLEEditing, Slide)
+        ROW(INLEEditing, Move)
+        ROW(INLEEditing, Delete)
+        ROW(INLEEditing, RippleDelete)
+        ROW(INLEEditing, Place)
+        ROW(INLEEditing, AddTransition)
+        ROW(INLEEditing, Copy)
+        ROW(INLEEditing, Paste)
+        ROW(INLEEditing, Group)
+        ROW(INLEEditing, Ungroup)
+        ROW(INLEEditing, GetGroup)
+        ROW(INLEEditing, GetLevelLocked)
+        ROW(INLEEditing, GetClipAt)
+        ROW(INLEEditing, GetNeighbour)
+        ROW(INLEEditing, Snap)
+        ROW(INLEParameters, GetParameterCount)
+        ROW(INLEParameters, GetParameter)
+        ROW(INLEParameters, GetParameterTitle)
+        ROW(INLEParameters, GetChoice)
+        ROW(INLEParameters, GetChoiceTitle)
+        ROW(INLEParameters, GetNumber)
+        ROW(INLEParameters, SetNumber)
+        ROW(INLEParameters, GetText)
+        ROW(INLEParameters, SetText)
+        ROW(INLEParameters, GetKeyFrameCount)
+        ROW(INLEParameters, GetKeyFrame)
+        ROW(INLEParameters, PutKeyFrame)
+        ROW(INLEParameters, DeleteKeyFrame)
+        ROW(INLEParameters, GetNumberAt)
+        ROW(INLEEffects, GetCount)
+        ROW(INLEEffects, GetEffect)
+        ROW(INLEEffects, AddEffect)
+        ROW(INLEEffects, RemoveEffect)
+        ROW(INLEEffectCatalog, GetCount)
+        ROW(INLEEffectCatalog, GetName)
+        ROW(INLEEffectCatalog, GetTitle)
+        ROW(INLEEncodeCatalog, GetContainerCount)
+        ROW(INLEEncodeCatalog, GetContainer)
+        ROW(INLEEncodeCatalog, GetCodecCount)
+        ROW(INLEEncodeCatalog, GetCodec)
+        ROW(INLEEncodeCatalog, GetPresetCount)
+        ROW(INLEEncodeCatalog, GetPresetName)
+        ROW(INLEEncodeCatalog, GetPreset)
+        ROW(INLEEncodeCatalog, Check)
+        ROW(INLEEncodeCatalog, GetContainerTitle)
+        ROW(INLEEncodeCatalog, GetCodecTitle)
+        ROW(INLEEncodeCatalog, GetPresetTitle)
+        ROW(INLEEncodeOptions, GetOptions)
+        ROW(INLEFontLibrary, SetCacheFile)
+        ROW(INLEFontLibrary, SetFontFolder)
+        ROW(INLEFontLibrary, AddFontFolder)
+        ROW(INLEFontLibrary, GetFontCount)
+        ROW(INLEFontLibrary, GetFontName)
+        ROW(INLETimelineFactory, GetDefaultProfile)
+        ROW(INLETimelineFactory, CreateProject)
+        ROW(INLETimelineFactory, CreateMedia)
+        ROW(INLETimelineFactory, CreateFromTemplate)
+        ROW(INLETimelineFactory, CreateAudioFilter)
+        ROW(INLETimelineFactory, CreateColor)
+        ROW(INLETimelineFactory, CreateTipText)
+        ROW(INLETimelineFactory, CreateVirtual)
+        ROW(INLETimelineFactory, CreateEffect)
+        ROW(INLETimelineFactory, CreateTransition)
+        ROW(INLETimelineFactory, CreateTitle)
+        ROW(INLEDocumentSerialize, Save)
+        ROW(INLEDocumentSerialize, Load)
+        ROW(INLEDocumentReport, GetRemarkCount)
+        ROW(INLEDocumentReport, GetRemark)
+        ROW(INLEDocumentReport, GetRemarkTitle)
+        ROW(INLESystemConfig, GetProperties)
+        ROW(INLEBasin, FillProperties)
+        ROW(INLEBasin, TakeProperties)
+        ROW(INLEFactory, GetTimelineFactory)
+        ROW(INLEFactory, GetFontLibrary)
+        ROW(INLEFactory, GetSystemConfig)
+        ROW(INLEFactory, CreateVideoFrame)
+        ROW(INLEFactory, CreateAudioFrame)
+        ROW(INLEFactory, CreateCodecFromFile)
+        ROW(INLEFactory, CreateMarkBook)
+        ROW(INLEFactory, CreateDocumentSerialize)
+        ROW(INLEFactory, CreateFrameExtractor)
+        ROW(INLEFactory, CreateThumbnailExtractor)
+        ROW(INLEFactory, CreateWaveExtractor)
+        ROW(INLEFactory, CreateSceneSegment)
+        ROW(INLEFactory, CreateMediaEncoder)
+        ROW(INLEFactory, CreateProperties)
+        ROW(INLEFactory, CreateProxyMaker)
+        ROW(INLEFactory, CreatePlayer)
+        ROW(INLEFactory, GetReasons)
+        ROW(INLEFactory, CreateEditing)
+        ROW(INLEVideoFrame, GetSize)
+        ROW(INLEVideoFrame, GetValidRect)
+        ROW(INLEVideoFrame, SetValidRect)
+        ROW(INLEVideoFrame, GetData)
+        ROW(INLEVideoFrame, GetMemory)
+        ROW(INLEAudioFrame, GetSampleCount)
+        ROW(INLEAudioFrame, GetSampleRate)
+        ROW(INLEAudioFrame, GetChannels)
+        ROW(INLEAudioFrame, GetData)
+        ROW(INLEFrameExtractor, Open)
+        ROW(INLEFrameExtractor, Extract)
+        ROW(INLEFrameExtractor, ExtractAudio)
+        ROW(INLEFrameScrubber, ExtractNear)
+        ROW(INLEThumbnailExtractor, SetSource)
+        ROW(INLEThumbnailExtractor, Extract)
+        ROW(INLEWaveExtractor, SetSource)
+        ROW(INLEWaveExtractor, Extract)
+        ROW(INLESceneSegment, Open)
+        ROW(INLESceneSegment, Next)
+        ROW(INLEWaveCache, IsCached)
+        ROW(INLEWaveCache, Compute)
+        ROW(INLEMediaEncoder, Open)
+        ROW(INLEMediaEncoder, Encode)
+        ROW(INLEKeyFrameList, GetCount)
+        ROW(INLEKeyFrameList, GetKeyFrame)
+        ROW(INLEKeyFrameList, SetKeyFrame)
+        ROW(INLEKeyFrameList, AddKeyFrame)
+        ROW(INLEKeyFrameList, GetParamAt)
+        ROW(INLEKeyFrameList, FindIndex)
+        ROW(INLEKeyFrameStatus, GetStatus)
+        ROW(INLELevels, GetCount)
+        ROW(INLELevels, GetFlags)
+        ROW(INLELevels, GetName)
+        ROW(INLELevels, GetHeight)
+        ROW(INLEMarkers, GetCount)
+        ROW(INLEMarkers, GetMarker)
+        ROW(INLEMarkers, AddMarker)
+        ROW(INLEMarkers, SetMarker)
+        ROW(INLEMediaInfo, GetKind)
+        ROW(INLEMediaInfo, GetStreamCount)
+        ROW(INLEMediaInfo, GetStream)
+        ROW(INLEMediaInfo, GetFrameCountAndRate)
+        ROW(INLEMediaInfo, GetFilePath)
+        ROW(INLECodec, GetMediaInfo)
+        ROW(INLECodec, GetContainerName)
+        ROW(INLECodec, GetCodecName)
+        ROW(INLECodec, GetProfileName)
+        ROW(INLEMixerSetting, GetParam)
+        ROW(INLEMixerSetting, SetParam)
+        ROW(INLEPlayer, Open)
+        ROW(INLEPlayer, GetState)
+        ROW(INLEPlayer, GetPosition)
+        ROW(INLEPlayer, GetRate)
+        ROW(INLEPlayer, GetLength)
+        ROW(INLEPlayer, GetVolume)
+        ROW(INLEPlayer, GetMute)
+        ROW(INLEPlayer, GetSoundDeviceCount)
+        ROW(INLEPlayer, GetSoundDeviceName)
+        ROW(INLEPlayer, GetSoundDevice)
+        ROW(INLEPlayer, GetSoundOffset)
+        ROW(INLEPlayer, GetReport)
+        ROW(INLEPlayer, GetTotals)
+        ROW(INLEPlayer, GetLevels)
+        ROW(INLEProperties, GetInt)
+        ROW(INLEProperties, SetInt)
+        ROW(INLEProperties, GetDouble)
+        ROW(INLEProperties, SetDouble)
+        ROW(INLEProperties, GetRational)
+        ROW(INLEProperties, SetRational)
+        ROW(INLEProperties, GetString)
+        ROW(INLEProperties, SetString)
+        ROW(INLEPropertyHost, GetProperties)
+        ROW(INLEProxyMaker, Find)
+        ROW(INLEProxyMaker, Make)
+        ROW(INLEReasons, GetText)
+        ROW(INLEReasons, GetWords)
+        ROW(INLEReasons, GetTitle)
+        ROW(INLEAudioStreamProcess, GetPitch)
+        ROW(INLEAudioStreamProcess, GetDenoiseLevel)
+        ROW(INLEAudioStreamProcess, GetDenoiseEnable)
+        ROW(INLEAudioStreamProcess, GetMixToMonoEnable)
+        ROW(INLEAudioStreamProcess, GetVolumeEnable)
+        ROW(INLEAudioStreamProcess, GetMute)
+        ROW(INLEAudioStreamProcess, GetVolumeKeyFrameParam)
+        ROW(INLEAudioStreamProcess, GetVolume)
+        ROW(INLEAudioStreamProcess, GetBalance)
+        ROW(INLEAudioStreamProcess, GetFadeInEnable)
+        ROW(INLEAudioStreamProcess, GetFadeInRange)
+        ROW(INLEAudioStreamProcess, GetFadeOutEnable)
+        ROW(INLEAudioStreamProcess, GetFadeOutRange)
+        ROW(INLEAudioStreamProcess, GetEqualizerEnable)
+        ROW(INLEAudioStreamProcess, SetEqualizerName)
+        ROW(INLEAudioStreamProcess, GetEqualizerName)
+        ROW(INLEAudioStreamProcess, SetEqualizerParam)
+        ROW(INLEAudioStreamProcess, GetEqualizerParam)
+        ROW(INLEVideoStreamProcess, GetAlphaChannel)
+        ROW(INLEVideoStreamProcess, SetAlphaChannel)
+        ROW(INLEVideoStreamProcess, SetProxyFile)
+        ROW(INLEVideoStreamProcess, GetProxyPath)
+        ROW(INLEVideoStreamProcess, GetProxyEnabled)
+        ROW(INLEVideoStreamProcess, GetPremultipliedAlphaType)
+        ROW(INLESystemFile, Save)
+        ROW(INLESystemFile, Load)
+        ROW(INLETimeline, GetInterface)
+        ROW(INLETimeline, GetId)
+        ROW(INLETimeline, GetParent)
+        ROW(INLETimeline, GetProperties)
+        ROW(INLETimeline, SetRange)
+        ROW(INLETimeline, GetRange)
+        ROW(INLETimeline, GetTotalRange)
+        ROW(INLETimeline, GetRenderFrameRate)
+        ROW(INLETimeline, GetLevel)
+        ROW(INLETimeline, GetPosition)
+        ROW(INLETimeline, GetMarginMode)
+        ROW(INLETimeline, GetEnabled)
+        ROW(INLETimeline, Clone)
+        ROW(INLETimelineEnumerator, IsEmpty)
+        ROW(INLETimelineEnumerator, GetCurrent)
+        ROW(INLETimelineComposite, GetClipCount)
+        ROW(INLETimelineComposite, GetEnumerator)
+        ROW(INLETimelineComposite, AddClip)
+        ROW(INLETimelineComposite, RemoveClip)
+        ROW(INLETimelineCompositeEx, GetEnumerator)
+        ROW(INLETimelineSource, GetFilePath)
+        ROW(INLETimelineSource, SetFilePath)
+        ROW(INLETimelineSource, GetMediaInfo)
+        ROW(INLETimelineSource, GetVideoStreamIndex)
+        ROW(INLETimelineSource, GetAudioStreamIndex)
+        ROW(INLETimelineSourceDecoder, GetGPUFirst)
+        ROW(INLEMediaRelink, Relink)
+        ROW(INLERenderRegion, GetRenderRegion)
+        ROW(INLERenderRegion, GetCurrent)
+        ROW(INLETimelineEffect, GetEffectName)
+        ROW(INLETimelineTransition, GetTransitionName)
+        ROW(INLEProjectSetting, GetProfile)
+        ROW(INLEProjectSetting, SetProfile)
+        ROW(INLETitle, GetTextLength)
+        ROW(INLETitle, GetText)
+        ROW(INLETitle, SetText)
+        ROW(INLETitle, GetFont)
+        ROW(INLETitle, SetFont)
+        ROW(INLETitle, GetBounds)
+        ROW(INLEColorClip, GetColor)
+        ROW(INLEBlendSetting, GetEnable)
+        ROW(INLEBlendSetting, GetMode)
+        ROW(INLEBlendSetting, GetAlpha)
+        ROW(INLETransform, GetEnable)
+        ROW(INLETransform, SetCenter)
+        ROW(INLETransform, GetCenter)
+        ROW(INLETransform, SetScale)
+        ROW(INLETransform, GetScale)
+        ROW(INLETransform, GetRotation)
+#undef ROW_WHERE_NULL_SAYS_SOMETHING
+#undef ROW
+#undef ROW_OF
+    }
+
+    void nullsAreRefused()
+    {
+        QFETCH(Call, call);
+        QFETCH(bool, mayBe);
+        const HRESULT result = call(*m_engine, m_film);
+        QVERIFY2(result != kNoObject, "There is no such object.");
+        QVERIFY2(SUCCEEDED(result) == mayBe, qPrintable(QString::number(uint(result), 16)));
+    }
+};
+
+QTEST_MAIN(tst_HostileHost)
+#include "tst_hostile_host.moc"
