@@ -1,6 +1,18 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // Hosts that hold the engine's interfaces wrongly: nulls for all that a call takes, on objects that
 // have nothing yet, after what they came from has gone. Each call is refused, and nothing crashes.
+// The library gives what stands for nothing.
+#include "CommonLib/BaseStateButton.h"
+#include "CommonLib/IDragValueChangedHelper.h"
+#include "CommonLib/NLEWraper/FPreViewRenderHelper.h"
+#include "CommonLib/NLEWraper/FTimelineTransformHelper.h"
+#include "CommonLib/NLEWraper/NLETimeline.h"
+#include "CommonLib/NLEWraper/VideoKeyFrameSetting.h"
+#include "CommonLib/PureSlider.h"
+#include "CommonLib/TimelineRuler.h"
+#include "CommonLib/externalapi/FramelessShadow.h"
+#include "CommonLib/externalapi/PixelRatio.h"
+#include "CommonLib/externalapi/TimelinePosition.h"
 #include "EngineApi/INLEBackgroundCache.h"
 #include "EngineApi/INLEEditing.h"
 #include "EngineApi/INLEEffects.h"
@@ -127,7 +139,10 @@ struct NullCall<Method>
 
 } // namespace
 
+using Check = bool (*)(const EngineFixture&);
+
 Q_DECLARE_METATYPE(Call)
+Q_DECLARE_METATYPE(Check)
 
 class tst_HostileHost : public QObject
 {
@@ -430,6 +445,78 @@ private Q_SLOTS:
         const HRESULT result = call(*m_engine, m_film);
         QVERIFY2(result != kNoObject, "There is no such object.");
         QVERIFY2(SUCCEEDED(result) == mayBe, qPrintable(QString::number(uint(result), 16)));
+    }
+
+    void theLibraryBearsNothing_data()
+    {
+        QTest::addColumn<Check>("check");
+        const auto row = [](const char* name, Check check) { QTest::newRow(name) << check; };
+        row("clips that are null", [](const EngineFixture& engine) {
+            NLETimeline timeline(engine.Project(), ExactType_Project, nullptr);
+            NLETimeline* const none = nullptr;
+            timeline.AddClipSuper(NLEComPtr<INLETimeline>());
+            timeline.RemoveClip(none);
+            timeline.RemoveClip(NLEComPtr<INLETimeline>());
+            timeline.SetClipPos(none, 1);
+            timeline.SetClipRange(none, 1, 2);
+            return timeline.GetClipCount() == 0;
+        });
+        row("key frames of no clip", [](const EngineFixture&) {
+            VideoKeyFrameSetting keys(nullptr);
+            int index = 0;
+            return keys.GetKeyFrameCount() == 0 && !keys.HasNext(0) && !keys.HasPrevious(0) &&
+                   !keys.GetKeyFrameIndex(1, 2, index) && keys.GetAllKeyFrameParams().isEmpty();
+        });
+        row("helpers of no clip", [](const EngineFixture&) {
+            NLETimeline nothing(nullptr, ExactType_Unknown, nullptr);
+            nothing.GetTransformHelper()->SetTransformEnable(true);
+            return !nothing.GetTransformHelper()->GetTransformEnable();
+        });
+        row("a preview of no clip", [](const EngineFixture&) {
+            FPreViewRenderHelper preview(nullptr, nullptr);
+            preview.StopRender();
+            preview.StopRenderSync();
+            preview.StartRender();
+            preview.Update();
+            return preview.GetCacheDirectory().isEmpty() && !preview.SetCacheDirectory("x");
+        });
+        row("what the provider makes of null", [](const EngineFixture& engine) {
+            engine.provider->SetTimelineFrameRate(nullptr, 25);
+            return !engine.provider->CloneTimeline(nullptr, true) &&
+                   engine.provider->GetTimelineFrameRate(nullptr) == 0;
+        });
+        row("a release without a press", [](const EngineFixture&) {
+            TimelineRuler ruler;
+            int told = 0;
+            connect(&ruler, &TimelineRuler::EndFramesChanged, [&told] { ++told; });
+            ruler.doMouseButtonRelease();
+            ruler.SetEventFilter(nullptr);
+            return told == 0;
+        });
+        row("states that there are not", [](const EngineFixture&) {
+            BaseStateButton button(1, "button", nullptr);
+            button.ClickCurrentButton();
+            button.SetCurrentButtonId(7);
+            button.Restore();
+            return !button.GetButton(7) && button.CurrentButtonId() == 0;
+        });
+        row("a drag on no widget", [](const EngineFixture&) {
+            IDragValueChangedHelper drag(nullptr);
+            drag.SetValue(5);
+            drag.SetDragEnabled(true);
+            return true;
+        });
+        row("windows that are null", [](const EngineFixture&) {
+            gOpenFramelessWidgetShadow(nullptr, 0);
+            gGetTimelineCenterGlobalPos(nullptr);
+            return gGetDevicePixelRatio(nullptr) >= 1 && gGetDevicePixelRatioFor(nullptr) >= 1;
+        });
+    }
+
+    void theLibraryBearsNothing()
+    {
+        QFETCH(Check, check);
+        QVERIFY(check(*m_engine));
     }
 };
 

@@ -15,7 +15,7 @@ constexpr int kHeight = 120;
 constexpr int kLeft = 56;
 constexpr int kTop = 40;
 constexpr int kBottom = 30;
-constexpr int kRight = 14;
+constexpr int kRight = 34;
 
 /// One quantity.
 class Panel
