@@ -2,6 +2,7 @@
 #include "CommonLib/QuaZipOperate.h"
 
 #include "CommonLib/FileOperation.h"
+#include "CommonLib/system/FolderEntries_p.h"
 
 #include <JlCompress.h>
 #include <QDir>
@@ -13,10 +14,8 @@
 #include <quazip.h>
 #include <quazipfile.h>
 
-#include <filesystem>
 #include <limits>
 #include <optional>
-#include <type_traits>
 
 namespace {
 
@@ -207,29 +206,6 @@ private:
     QSet<QString> m_clearFolders;
     QStringList m_extracted;
 };
-
-std::filesystem::path SystemPath(const QString& path)
-{
-    if (std::is_same_v<std::filesystem::path::value_type, wchar_t>) {
-        // With this in front, a path of Windows may be longer than 260 characters.
-        const QString native = QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
-        const QString prefix = QStringLiteral("\\\\?\\");
-        return (native.startsWith(QLatin1String("\\\\")) ? native : prefix + native).toStdWString();
-    }
-    return QFile::encodeName(path).toStdString();
-}
-
-// What the system finds in a folder: Qt passes over names that are no valid text, and takes a
-// folder that it cannot read for an empty one. Nothing when the folder cannot be read.
-std::optional<int> CountEntries(const QString& folder)
-{
-    std::error_code error;
-    int count = 0;
-    for (std::filesystem::directory_iterator entry(SystemPath(folder), error), end;
-         !error && entry != end; entry.increment(error))
-        ++count;
-    return error ? std::nullopt : std::optional<int>(count);
-}
 
 // What there is to pack.
 class Survey

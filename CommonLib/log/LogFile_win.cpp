@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/log/LogFile_p.h"
 
+#include "Com/SystemPath.h"
+
 #include <cstring>
 #include <string>
 
@@ -13,17 +15,12 @@ HANDLE Native(LogFile::Handle handle)
     return reinterpret_cast<HANDLE>(handle);
 }
 
-// The whole path of a name in the process's code page, without a limit of its length. Names of
-// devices are given back as the system has them.
-std::wstring SystemPath(const char* path)
+// As Windows takes it, of a path in the process's code page.
+std::wstring NativePath(const char* path)
 {
     std::wstring name(std::strlen(path) + 1, L'\0');
     ::MultiByteToWideChar(CP_ACP, 0, path, -1, name.data(), int(name.size()));
-    std::wstring whole(::GetFullPathNameW(name.c_str(), 0, nullptr, nullptr), L'\0');
-    whole.resize(::GetFullPathNameW(name.c_str(), DWORD(whole.size()), whole.data(), nullptr));
-    if (whole.compare(0, 4, L"\\\\.\\") == 0 || whole.compare(0, 4, L"\\\\?\\") == 0)
-        return whole;
-    return whole.compare(0, 2, L"\\\\") == 0 ? L"\\\\?\\UNC" + whole.substr(1) : L"\\\\?\\" + whole;
+    return SystemPath(name);
 }
 
 } // namespace
@@ -33,7 +30,7 @@ namespace LogFile {
 Handle Open(const char* path)
 {
     const HANDLE file =
-        ::CreateFileW(SystemPath(path).c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ,
+        ::CreateFileW(NativePath(path).c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ,
                       nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE || ::GetFileType(file) == FILE_TYPE_DISK)
         return reinterpret_cast<Handle>(file);
@@ -66,7 +63,7 @@ void Write(Handle handle, std::int64_t, const char* text, std::size_t length)
 
 void Rename(const char* from, const char* to)
 {
-    ::MoveFileW(SystemPath(from).c_str(), SystemPath(to).c_str());
+    ::MoveFileW(NativePath(from).c_str(), NativePath(to).c_str());
 }
 
 void Echo(const char* line, std::size_t length)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/MediaFile_p.h"
 
-#include "NLECore/media/SystemPath_p.h"
+#include "Com/SystemPath.h"
 
 #include <memory>
 
@@ -32,7 +32,7 @@ QByteArray EncodeMediaPath(const QString& path)
 
 FileStamp StampOfFile(const QString& path)
 {
-    const HANDLE handle = CreateFileW(SystemPath(path).c_str(), FILE_READ_ATTRIBUTES,
+    const HANDLE handle = CreateFileW(SystemPath(path.toStdWString()).c_str(), FILE_READ_ATTRIBUTES,
                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                                       nullptr, OPEN_EXISTING, 0, nullptr);
     if (handle == INVALID_HANDLE_VALUE)

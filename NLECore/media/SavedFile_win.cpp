@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/SavedFile_p.h"
 
-#include "NLECore/media/SystemPath_p.h"
+#include "Com/SystemPath.h"
 
 #include <cerrno>
 
@@ -25,7 +25,7 @@ QFileDevice::FileError ErrorOf(const QFileDevice& file)
 int OpenAlone(const QString& path)
 {
     int descriptor = -1;
-    const int error = _wsopen_s(&descriptor, SystemPath(path).c_str(),
+    const int error = _wsopen_s(&descriptor, SystemPath(path.toStdWString()).c_str(),
                                 _O_RDWR | _O_CREAT | _O_TRUNC | _O_BINARY | _O_NOINHERIT,
                                 _SH_DENYRW, _S_IREAD | _S_IWRITE);
     if (error == 0)
@@ -53,8 +53,8 @@ bool WriteThrough(const QFile& file)
 
 bool MoveOver(const QString& file, const QString& target, QString* error)
 {
-    if (MoveFileExW(SystemPath(file).c_str(), SystemPath(target).c_str(),
-                    MOVEFILE_REPLACE_EXISTING))
+    if (MoveFileExW(SystemPath(file.toStdWString()).c_str(),
+                    SystemPath(target.toStdWString()).c_str(), MOVEFILE_REPLACE_EXISTING))
         return true;
     *error = qt_error_string();
     return false;
