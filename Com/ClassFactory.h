@@ -5,10 +5,14 @@
 #include "Com/ComObject.h"
 
 /// The way from a module to its objects: a module exports one function, "DllGetClassObject", which
-/// gives the factory of a class; the factory makes the objects.
+/// gives the factory of a class; the factory makes the objects. It may export another,
+/// "DllCanUnloadNow", which is called before the module is unloaded, once its objects are gone, and
+/// ends what it still does.
 
-/// Signature of that function.
+/// Signature of the first.
 using DllGetClassObjectFunction = HRESULT (*)(REFCLSID classId, REFIID iid, void** out);
+/// Signature of the second.
+using DllCanUnloadNowFunction = HRESULT (*)();
 
 /// Makes objects of \a Class, for a module that stays mapped.
 template <typename Class>

@@ -275,7 +275,9 @@ bool Pack(const QString& archivePath, const QString& folder, bool needsLargeForm
 bool QuaZipOperate::CompressDir(const QString& archivePath, const QString& folder)
 {
     Survey survey;
-    if (!QFileInfo(folder).isDir() || !survey.Visit(folder))
+    // Whole: the library takes the names of entries wrongly below a name like "C:folder".
+    const QString root = QFileInfo(folder).absoluteFilePath();
+    if (!QFileInfo(folder).isDir() || !survey.Visit(root))
         return false;
     const QFileInfo archive(QDir::cleanPath(QFileInfo(archivePath).absoluteFilePath()));
     QDir().mkpath(archive.absolutePath());
@@ -286,7 +288,7 @@ bool QuaZipOperate::CompressDir(const QString& archivePath, const QString& folde
     const QString growing = NewHiddenFile(archive.absolutePath());
     if (growing.isEmpty())
         return false;
-    if (Pack(growing, folder, survey.NeedsLargeFormat()) &&
+    if (Pack(growing, root, survey.NeedsLargeFormat()) &&
         QFile::rename(growing, archive.filePath()))
         return true;
     QFile::remove(growing);

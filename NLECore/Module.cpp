@@ -17,3 +17,10 @@ extern "C" Q_DECL_EXPORT HRESULT DllGetClassObject(REFCLSID classId, REFIID iid,
         return ComFailure(CLASS_E_CLASSNOTAVAILABLE);
     return GiveClassFactory<nle::RootFactory>(iid, out);
 }
+
+/// Closes what is kept open, and lets its threads end: while Windows unloads a module no thread
+/// can, and who waits for one waits for ever.
+extern "C" Q_DECL_EXPORT HRESULT DllCanUnloadNow()
+{
+    return ComGuard([] { return MakeCom<nle::RootFactory>()->Shutdown(0); });
+}

@@ -15,8 +15,13 @@ CVCreateInstance::CVCreateInstance() = default;
 
 CVCreateInstance::~CVCreateInstance()
 {
-    if (m_module)
-        m_module->unload();
+    if (!m_module)
+        return;
+    const auto end =
+        reinterpret_cast<DllCanUnloadNowFunction>(m_module->resolve("DllCanUnloadNow"));
+    if (end)
+        end();
+    m_module->unload();
 }
 
 CVCreateInstance* CVCreateInstance::Instance()

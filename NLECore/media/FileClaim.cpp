@@ -24,7 +24,7 @@ bool FileClaim::Take()
 {
     const int descriptor = OpenAlone(m_path);
     m_isOthers = descriptor < 0 && errno == EWOULDBLOCK;
-    m_error = descriptor < 0 ? qt_error_string(errno) : QString();
+    m_error = descriptor < 0 ? qt_error_string() : QString();
     return descriptor >= 0 &&
            m_file.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle);
 }

@@ -68,7 +68,7 @@ bool WholeFile::open(OpenMode mode)
             break;
     }
     if (descriptor < 0) {
-        setErrorString(qt_error_string(errno));
+        setErrorString(qt_error_string());
         return false;
     }
     m_half = half;
