@@ -3,12 +3,9 @@
 
 #include "CommonLib/PaletteLook_p.h"
 
-#include <QStyleOptionButton>
-#include <QStylePainter>
+#include <utility>
 
 namespace {
-
-constexpr QSize kPadding(20, 8); // on both sides together, where no sheet gives another
 
 // Those that lie in a widget of ours which has a look of its own.
 bool IsPart(const QWidget& button)
@@ -19,6 +16,8 @@ bool IsPart(const QWidget& button)
 
 } // namespace
 
+BaseButton::BaseButton(QWidget* parent) : BaseButton(0, QString(), parent) {}
+
 BaseButton::BaseButton(const QString& name, QWidget* parent) : BaseButton(0, name, parent) {}
 
 BaseButton::BaseButton(int id, const QString& name, QWidget* parent) : QPushButton(parent), m_id(id)
@@ -27,6 +26,13 @@ BaseButton::BaseButton(int id, const QString& name, QWidget* parent) : QPushButt
     setObjectName(name);
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(QLatin1String(PaletteLook::kButtonSheet));
+    PaletteLook::PaintBelow(*this, [this]() -> std::optional<PaletteLook::Panel> {
+        // The states of a state button have panels of their own.
+        if (PaletteLook::HasSheet(*this) || inherits("BaseStateButton"))
+            return {};
+        return PaletteLook::Panel{isFlat() || IsPart(*this), isEnabled() && underMouse(), isDown(),
+                                  isChecked(), hasFocus()};
+    });
     connect(this, &QPushButton::clicked, this,
             [this] { Q_EMIT Clicked(m_id, mapToGlobal(QPoint(0, 0))); });
     connect(this, &QPushButton::pressed, this,
@@ -38,15 +44,15 @@ int BaseButton::GetId() const
     return m_id;
 }
 
+void BaseButton::SetId(int id)
+{
+    if (std::exchange(m_id, id) != id)
+        Q_EMIT IdChanged(id);
+}
+
 void BaseButton::SetEnabled(bool enabled)
 {
     setEnabled(enabled);
-}
-
-QSize BaseButton::sizeHint() const
-{
-    const QSize hint = QPushButton::sizeHint();
-    return PaletteLook::HasSheet(*this) ? hint : hint + kPadding;
 }
 
 void BaseButton::enterEvent(QEvent* event)
@@ -59,21 +65,4 @@ void BaseButton::leaveEvent(QEvent* event)
 {
     QPushButton::leaveEvent(event);
     Q_EMIT sigLeave(m_id);
-}
-
-void BaseButton::paintEvent(QPaintEvent* event)
-{
-    if (PaletteLook::HasSheet(*this))
-        return QPushButton::paintEvent(event);
-    QStylePainter painter(this);
-    QStyleOptionButton option;
-    initStyleOption(&option);
-    const bool flat = isFlat() || IsPart(*this);
-    PaletteLook::PaintPanel(painter, rect(), option.palette,
-                            {flat, isEnabled() && underMouse(), isDown(), isChecked(), hasFocus()});
-    if (isChecked() && !isDown())
-        option.palette.setColor(QPalette::ButtonText,
-                                option.palette.color(QPalette::HighlightedText));
-    option.state &= ~QStyle::State_HasFocus; // shows already
-    painter.drawControl(QStyle::CE_PushButton, option);
 }

@@ -18,17 +18,17 @@
 class COMMONLIB_EXPORT BaseButton : public QPushButton
 {
     Q_OBJECT
+    Q_PROPERTY(int id READ GetId WRITE SetId NOTIFY IdChanged)
 
 public:
+    explicit BaseButton(QWidget* parent); ///< with id 0 and no name, for forms
     /// With id 0.
     BaseButton(const QString& name, QWidget* parent);
     BaseButton(int id, const QString& name, QWidget* parent);
 
-    int GetId() const; ///< as it was made with
+    int GetId() const; ///< as it was made with, or set as the property \a id
     /// As setEnabled().
     void SetEnabled(bool enabled);
-
-    QSize sizeHint() const override;
 
 Q_SIGNALS:
     /// A click, and a press. \a p is the button's upper left corner in global coordinates.
@@ -38,12 +38,14 @@ Q_SIGNALS:
     /// only: Qt still uses it.
     void sigEnter(int type);
     void sigLeave(int type);
+    void IdChanged(int id); ///< by the property
 
 protected:
     void enterEvent(QEvent* event) override;
     void leaveEvent(QEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
 private:
+    void SetId(int id);
+
     int m_id;
 };

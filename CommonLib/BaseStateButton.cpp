@@ -5,8 +5,13 @@
 
 #include <QChildEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QStyle>
 #include <QStyleOption>
+
+#include <utility>
+
+BaseStateButton::BaseStateButton(QWidget* parent) : BaseStateButton(0, QString(), parent) {}
 
 BaseStateButton::BaseStateButton(int id, const QString& name, QWidget* parent)
     : BaseButton(id, name, parent)
@@ -28,9 +33,50 @@ void BaseStateButton::AddButton(BaseButton* button)
     if (button->parentWidget() != this)
         button->setParent(this);
     connect(button, &BaseButton::Clicked, this, &BaseStateButton::Advance, Qt::UniqueConnection);
-    m_buttons.append(button);
-    updateGeometry();
+    ChangeStates([this, button] { m_buttons.append(button); });
+}
+
+// Changes what states there are and which shows; returns whether the button is still there.
+template <typename Change>
+bool BaseStateButton::ChangeStates(Change change)
+{
+    const QList<BaseButton*> states = m_buttons;
+    const int current = CurrentButtonId();
+    change();
+    if (m_buttons != states)
+        updateGeometry();
     LayOut();
+    const QPointer<BaseStateButton> self(this);
+    if (m_buttons != states)
+        Q_EMIT StatesChanged();
+    if (self && CurrentButtonId() != current)
+        Q_EMIT CurrentButtonIdChanged(CurrentButtonId());
+    return !self.isNull();
+}
+
+QStringList BaseStateButton::StateNames() const
+{
+    QStringList names;
+    for (const BaseButton* button : m_buttons)
+        names += button->objectName();
+    return names;
+}
+
+void BaseStateButton::SetStateNames(const QStringList& names)
+{
+    if (names == StateNames())
+        return;
+    ChangeStates([this, &names] {
+        for (BaseButton* button : std::exchange(m_buttons, {})) {
+            button->hide();
+            button->deleteLater(); // one of them may be telling of a click
+        }
+        m_currentIndex = 0;
+        for (const QString& name : names) {
+            m_buttons += new BaseButton(m_buttons.size(), name, this);
+            connect(m_buttons.last(), &BaseButton::Clicked, this, &BaseStateButton::Advance);
+        }
+    });
 }
 
 BaseButton* BaseStateButton::GetButton(int id) const
@@ -51,10 +97,11 @@ int BaseStateButton::CurrentButtonId() const
 
 void BaseStateButton::SetCurrentButtonId(int id)
 {
-    m_currentIndex = 0;
-    while (m_currentIndex < m_buttons.size() && m_buttons.at(m_currentIndex)->GetId() != id)
-        ++m_currentIndex;
-    LayOut();
+    ChangeStates([this, id] {
+        m_currentIndex = 0;
+        while (m_currentIndex < m_buttons.size() && m_buttons.at(m_currentIndex)->GetId() != id)
+            ++m_currentIndex;
+    });
 }
 
 void BaseStateButton::ClickCurrentButton()
@@ -67,8 +114,7 @@ void BaseStateButton::ClickCurrentButton()
 
 void BaseStateButton::Restore()
 {
-    m_currentIndex = 0;
-    LayOut();
+    ChangeStates([this] { m_currentIndex = 0; });
 }
 
 int BaseStateButton::BaseStateButtonId() const
@@ -108,13 +154,24 @@ void BaseStateButton::childEvent(QChildEvent* event)
         // Compared only: what is left of a deleted child is no button any more.
         if (static_cast<QObject*>(m_buttons.at(i)) != event->child())
             continue;
-        m_buttons.removeAt(i);
-        const bool wasLast = m_currentIndex == i && i == m_buttons.size();
-        if (m_currentIndex > i || (wasLast && i > 0))
-            --m_currentIndex;
-        LayOut();
+        RemoveState(i);
         return;
     }
+}
+
+// Does not look at what is gone, which may be half destroyed.
+void BaseStateButton::RemoveState(int index)
+{
+    const bool wasShown = qMin(m_currentIndex, m_buttons.size() - 1) == index;
+    const bool wasLast = m_currentIndex == index && index == m_buttons.size() - 1;
+    m_buttons.removeAt(index);
+    if (m_currentIndex > index || (wasLast && index > 0))
+        --m_currentIndex;
+    LayOut();
+    const QPointer<BaseStateButton> self(this);
+    Q_EMIT StatesChanged();
+    if (self && wasShown)
+        Q_EMIT CurrentButtonIdChanged(CurrentButtonId());
 }
 
 void BaseStateButton::Advance(int clickedId)
@@ -122,10 +179,12 @@ void BaseStateButton::Advance(int clickedId)
     // One that has left is still connected.
     if (!m_buttons.contains(static_cast<BaseButton*>(sender())))
         return;
-    if (++m_currentIndex >= m_buttons.size())
-        m_currentIndex = 0;
-    LayOut();
-    Q_EMIT Clicked(clickedId, mapToGlobal(QPoint(0, 0)));
+    const bool isThere = ChangeStates([this] {
+        if (++m_currentIndex >= m_buttons.size())
+            m_currentIndex = 0;
+    });
+    if (isThere)
+        Q_EMIT Clicked(clickedId, mapToGlobal(QPoint(0, 0)));
 }
 
 void BaseStateButton::LayOut()

@@ -4,6 +4,7 @@
 #include "CommonLib/BaseButton.h"
 
 #include <QList>
+#include <QStringList>
 
 /// Button of several states, such as play and pause: a stack of buttons of which one shows. A click
 /// on it shows the next.
@@ -13,8 +14,13 @@
 class COMMONLIB_EXPORT BaseStateButton : public BaseButton
 {
     Q_OBJECT
+    // The states first: forms set properties in this order.
+    Q_PROPERTY(QStringList stateNames READ StateNames WRITE SetStateNames NOTIFY StatesChanged)
+    Q_PROPERTY(int currentButtonId READ CurrentButtonId WRITE SetCurrentButtonId NOTIFY
+                   CurrentButtonIdChanged)
 
 public:
+    explicit BaseStateButton(QWidget* parent); ///< with id 0 and no name, for forms
     BaseStateButton(int id, const QString& name, QWidget* parent); ///< as BaseButton
 
     /// Adds a state. The first one added shows first.
@@ -34,9 +40,20 @@ public:
     void Restore();
     /// The state button's own id.
     int BaseStateButtonId() const;
+    /// The object names of the states, in their order.
+    QStringList StateNames() const;
+    /// Deletes the states and makes others, with ids from 0 on. Nothing happens when they have
+    /// these names already.
+    void SetStateNames(const QStringList& names);
 
     /// The largest hint of the states.
     QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void StatesChanged(); ///< a state has come or gone
+    /// CurrentButtonId() gives another one, after a click, a call or the loss of a state. Comes
+    /// before the Clicked() of the same click.
+    void CurrentButtonIdChanged(int id);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -46,6 +63,9 @@ protected:
 private:
     void Advance(int clickedId);
     void LayOut();
+    void RemoveState(int index);
+    template <typename Change>
+    bool ChangeStates(Change change);
 
     QList<BaseButton*> m_buttons;
     int m_currentIndex = 0;

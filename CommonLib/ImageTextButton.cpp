@@ -7,14 +7,15 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QPointer>
+
+#include <utility>
 
 namespace {
 
 constexpr int kInitialSide = 300;
 
-enum ImageAlign
+enum ImagePlace
 {
     ImageLeft,
     ImageOnTop,
@@ -24,11 +25,18 @@ enum ImageAlign
 
 } // namespace
 
+ImageTextButton::ImageTextButton(QWidget* parent) : ImageTextButton(0, QString(), parent) {}
+
 ImageTextButton::ImageTextButton(int id, const QString& name, QWidget* parent)
     : QWidget(parent), m_text(new QLabel(this)), m_image(new BaseButton(id, name, this))
 {
     setAttribute(Qt::WA_StyledBackground);
     setAttribute(Qt::WA_Hover);
+    PaletteLook::PaintBelow(*this, [this]() -> std::optional<PaletteLook::Panel> {
+        if (PaletteLook::HasRule(*this))
+            return {}; // the sheet has drawn all
+        return PaletteLook::Panel{false, isEnabled() && underMouse(), false, false, false};
+    });
     m_text->setObjectName(QStringLiteral("ImageTextButton_Text"));
     m_text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     // The mouse belongs to the whole button, which passes enter and leave on to the text.
@@ -40,27 +48,80 @@ ImageTextButton::ImageTextButton(int id, const QString& name, QWidget* parent)
 
 void ImageTextButton::SetText(QString text)
 {
+    const bool isOther = text != Text();
     m_text->setText(text);
     m_image->setAccessibleName(text);
+    if (isOther)
+        Q_EMIT SettingsChanged();
+}
+
+QString ImageTextButton::Text() const
+{
+    return m_text->text();
+}
+
+int ImageTextButton::Id() const
+{
+    return m_image->GetId();
+}
+
+void ImageTextButton::SetId(int id)
+{
+    if (id == Id())
+        return;
+    m_image->setProperty("id", id);
+    Q_EMIT SettingsChanged();
+}
+
+void ImageTextButton::SetIcon(const QIcon& icon)
+{
+    if (icon.cacheKey() == Icon().cacheKey())
+        return;
+    m_image->setIcon(icon);
+    Q_EMIT SettingsChanged();
+}
+
+QIcon ImageTextButton::Icon() const
+{
+    return m_image->icon();
 }
 
 void ImageTextButton::SetTextAlign(Qt::Alignment alignment)
 {
+    if (alignment == TextAlign())
+        return;
     m_text->setAlignment(alignment);
+    Q_EMIT SettingsChanged();
+}
+
+Qt::Alignment ImageTextButton::TextAlign() const
+{
+    return m_text->alignment();
 }
 
 void ImageTextButton::SetImageAlign(int align)
 {
-    m_imageAlign = align;
+    const int before = std::exchange(m_imageAlign, align);
+    const Qt::Alignment textBefore = TextAlign();
     const bool centred = align == ImageOnTop || align == ImageBelow;
     m_text->setAlignment((centred ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter);
     if (isVisible())
         LayOut();
+    if (align != before || TextAlign() != textBefore)
+        Q_EMIT SettingsChanged();
 }
 
 void ImageTextButton::SetImageWidth(int width)
 {
+    const QSize before = m_image->iconSize();
     m_image->setIconSize(QSize(width, width));
+    if (m_image->iconSize() != before)
+        Q_EMIT SettingsChanged();
+}
+
+int ImageTextButton::ImageWidth() const
+{
+    return m_image->iconSize().width();
 }
 
 void ImageTextButton::enterEvent(QEvent* event)
@@ -96,15 +157,6 @@ void ImageTextButton::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
     LayOut();
-}
-
-void ImageTextButton::paintEvent(QPaintEvent*)
-{
-    if (PaletteLook::HasRule(*this))
-        return; // the sheet has drawn all
-    QPainter painter(this);
-    PaletteLook::PaintPanel(painter, rect(), palette(),
-                            {false, isEnabled() && underMouse(), false, false, false});
 }
 
 void ImageTextButton::LayOut()

@@ -3,6 +3,7 @@
 
 #include "CommonLib/CommonLibExport.h"
 
+#include <QIcon>
 #include <QPoint>
 #include <QWidget>
 
@@ -17,8 +18,16 @@ class QLabel;
 class COMMONLIB_EXPORT ImageTextButton : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int id READ Id WRITE SetId NOTIFY SettingsChanged)
+    Q_PROPERTY(QString text READ Text WRITE SetText NOTIFY SettingsChanged)
+    Q_PROPERTY(QIcon icon READ Icon WRITE SetIcon NOTIFY SettingsChanged)
+    // Aligns the text, so it comes before that.
+    Q_PROPERTY(int imageAlign READ ImageAlign WRITE SetImageAlign NOTIFY SettingsChanged)
+    Q_PROPERTY(Qt::Alignment textAlign READ TextAlign WRITE SetTextAlign NOTIFY SettingsChanged)
+    Q_PROPERTY(int imageWidth READ ImageWidth WRITE SetImageWidth NOTIFY SettingsChanged)
 
 public:
+    explicit ImageTextButton(QWidget* parent);                     ///< with id 0, for forms
     ImageTextButton(int id, const QString& name, QWidget* parent); ///< as BaseButton
 
     /// The text, which is also the image's accessible name.
@@ -30,11 +39,14 @@ public:
     /// Side of the icon within the image, in pixels. The image itself always fills the button's
     /// height, or its width when it stands on top or below.
     void SetImageWidth(int width);
+    /// The picture that the image draws, besides what a sheet draws for its name.
+    void SetIcon(const QIcon& icon);
 
 Q_SIGNALS:
     /// A click anywhere on the button, or a release of a press on the text within it. \a p is the
     /// upper left corner, of the image for a click on the image, in global coordinates.
     void Clicked(int id, QPoint p);
+    void SettingsChanged(); ///< a property has changed
 
 protected:
     void enterEvent(QEvent* event) override;
@@ -42,11 +54,17 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     void LayOut();
     void PassToText(QEvent* event);
+    int Id() const;
+    void SetId(int id);
+    QString Text() const;
+    QIcon Icon() const;
+    int ImageAlign() const { return m_imageAlign; }
+    Qt::Alignment TextAlign() const;
+    int ImageWidth() const;
 
     QLabel* m_text;
     BaseButton* m_image;

@@ -5,12 +5,27 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
+
+#include <utility>
 
 namespace {
 
 constexpr int kTextHeight = 20;
 constexpr int kTextGap = 10; // from the last row of the image to the text
 constexpr int kMargin = 8;
+
+// Pixmaps have no comparison of their pixels; copies have one key.
+bool IsSame(const QPixmap& a, const QPixmap& b)
+{
+    return a.cacheKey() == b.cacheKey();
+}
+
+template <typename Value>
+bool IsSame(const Value& a, const Value& b)
+{
+    return a == b;
+}
 
 QSize LogicalSize(const QPixmap& image)
 {
@@ -21,6 +36,8 @@ QSize LogicalSize(const QPixmap& image)
 
 } // namespace
 
+ImageTextButton2::ImageTextButton2(QWidget* parent) : ImageTextButton2(0, QString(), parent) {}
+
 ImageTextButton2::ImageTextButton2(int id, const QString& name, QWidget* parent)
     : QWidget(parent), m_id(id)
 {
@@ -30,6 +47,22 @@ ImageTextButton2::ImageTextButton2(int id, const QString& name, QWidget* parent)
     setFocusPolicy(Qt::TabFocus);
 }
 
+template <typename Value>
+void ImageTextButton2::Change(Value& value, const Value& to)
+{
+    const bool isOther = !IsSame(value, to);
+    value = to;
+    updateGeometry();
+    update();
+    if (isOther)
+        Q_EMIT SettingsChanged();
+}
+
+void ImageTextButton2::SetId(int id)
+{
+    Change(m_id, id);
+}
+
 int ImageTextButton2::GetId() const
 {
     return m_id;
@@ -37,9 +70,7 @@ int ImageTextButton2::GetId() const
 
 void ImageTextButton2::SetText(const QString& text)
 {
-    m_text = text;
-    updateGeometry();
-    update();
+    Change(m_text, text);
 }
 
 QString ImageTextButton2::GetText() const
@@ -49,9 +80,7 @@ QString ImageTextButton2::GetText() const
 
 void ImageTextButton2::SetNormalImage(QPixmap image)
 {
-    m_normalImage = image;
-    updateGeometry();
-    update();
+    Change(m_normalImage, image);
 }
 
 QPixmap ImageTextButton2::GetNormalImage() const
@@ -61,9 +90,7 @@ QPixmap ImageTextButton2::GetNormalImage() const
 
 void ImageTextButton2::SetSelectedImage(QPixmap image)
 {
-    m_selectedImage = image;
-    updateGeometry();
-    update();
+    Change(m_selectedImage, image);
 }
 
 QPixmap ImageTextButton2::GetSelectedImage() const
@@ -73,8 +100,7 @@ QPixmap ImageTextButton2::GetSelectedImage() const
 
 void ImageTextButton2::SetNormalTextColor(QColor color)
 {
-    m_normalTextColor = color;
-    update();
+    Change(m_normalTextColor, color);
 }
 
 QColor ImageTextButton2::GetNormalTextColor() const
@@ -84,8 +110,7 @@ QColor ImageTextButton2::GetNormalTextColor() const
 
 void ImageTextButton2::SetSelectedTextColor(QColor color)
 {
-    m_selectedTextColor = color;
-    update();
+    Change(m_selectedTextColor, color);
 }
 
 QColor ImageTextButton2::GetSelectedTextColor() const
@@ -95,8 +120,9 @@ QColor ImageTextButton2::GetSelectedTextColor() const
 
 void ImageTextButton2::SetButtonState(BUTTONSTATE state)
 {
-    m_state = state;
     update();
+    if (std::exchange(m_state, state) != state)
+        Q_EMIT StateChanged(state);
 }
 
 ImageTextButton2::BUTTONSTATE ImageTextButton2::GetButtonState() const
@@ -159,7 +185,8 @@ void ImageTextButton2::keyPressEvent(QKeyEvent* event)
 
 void ImageTextButton2::Select()
 {
-    m_state = Selected;
-    update();
-    Q_EMIT sigSelected(m_id);
+    const QPointer<ImageTextButton2> self(this);
+    SetButtonState(Selected);
+    if (self)
+        Q_EMIT sigSelected(m_id);
 }

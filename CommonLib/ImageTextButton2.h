@@ -16,10 +16,16 @@
 class COMMONLIB_EXPORT ImageTextButton2 : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QPixmap normalImage READ GetNormalImage WRITE SetNormalImage)
-    Q_PROPERTY(QPixmap selectedImage READ GetSelectedImage WRITE SetSelectedImage)
-    Q_PROPERTY(QColor normalTextColor READ GetNormalTextColor WRITE SetNormalTextColor)
-    Q_PROPERTY(QColor selectedTextColor READ GetSelectedTextColor WRITE SetSelectedTextColor)
+    Q_PROPERTY(QPixmap normalImage READ GetNormalImage WRITE SetNormalImage NOTIFY SettingsChanged)
+    Q_PROPERTY(
+        QPixmap selectedImage READ GetSelectedImage WRITE SetSelectedImage NOTIFY SettingsChanged)
+    Q_PROPERTY(QColor normalTextColor READ GetNormalTextColor WRITE SetNormalTextColor NOTIFY
+                   SettingsChanged)
+    Q_PROPERTY(QColor selectedTextColor READ GetSelectedTextColor WRITE SetSelectedTextColor NOTIFY
+                   SettingsChanged)
+    Q_PROPERTY(int id READ GetId WRITE SetId NOTIFY SettingsChanged)
+    Q_PROPERTY(QString text READ GetText WRITE SetText NOTIFY SettingsChanged)
+    Q_PROPERTY(BUTTONSTATE state READ GetButtonState WRITE SetButtonState NOTIFY StateChanged)
 
 public:
     enum BUTTONSTATE : int
@@ -27,11 +33,13 @@ public:
         Normal = 0,
         Selected = 1
     };
+    Q_ENUM(BUTTONSTATE)
 
+    explicit ImageTextButton2(QWidget* parent); ///< with id 0 and no name, for forms
     /// \a name becomes the object name.
     ImageTextButton2(int id, const QString& name, QWidget* parent);
 
-    int GetId() const;                 ///< as it was made with
+    int GetId() const;                 ///< as it was made with, or set as a property
     void SetText(const QString& text); ///< the text beside the image
     QString GetText() const;
     /// Drawn at its size in device-independent pixels.
@@ -43,7 +51,8 @@ public:
     QColor GetNormalTextColor() const;
     void SetSelectedTextColor(QColor color);
     QColor GetSelectedTextColor() const;
-    /// Emits nothing. Neither image nor text shows in a state that is none of the two.
+    /// Emits no more than StateChanged(). Neither image nor text shows in a state that is none of
+    /// the two.
     void SetButtonState(BUTTONSTATE state);
     BUTTONSTATE GetButtonState() const;
 
@@ -52,6 +61,9 @@ public:
 Q_SIGNALS:
     /// The user selected the tab, or pressed it again.
     void sigSelected(int id);
+    /// By the user or by a call. Comes before the sigSelected() of the same press.
+    void StateChanged(BUTTONSTATE state);
+    void SettingsChanged(); ///< another property has changed
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -60,6 +72,9 @@ protected:
 
 private:
     void Select();
+    void SetId(int id);
+    template <typename Value>
+    void Change(Value& value, const Value& to);
 
     QPixmap m_normalImage;
     QPixmap m_selectedImage;

@@ -2,8 +2,11 @@
 #include "CommonLib/PaletteLook_p.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QPainter>
 #include <QWidget>
+
+#include <utility>
 
 namespace {
 
@@ -13,6 +16,7 @@ constexpr double kFocusLine = 2;
 constexpr double kRaised = 0.08;
 constexpr double kHovered = 0.16;
 constexpr double kPressed = 0.28;
+constexpr double kChecked = 0.4; // of the highlight
 
 QColor PanelColor(const QPalette& palette, const PaletteLook::Panel& panel)
 {
@@ -22,11 +26,36 @@ QColor PanelColor(const QPalette& palette, const PaletteLook::Panel& panel)
     if (panel.isPressed)
         return shade(kPressed);
     if (panel.isChecked)
-        return palette.color(QPalette::Highlight);
+        return PaletteLook::Mixed(palette, QPalette::Button, QPalette::Highlight, kChecked);
     if (panel.isHovered)
         return shade(kHovered);
     return panel.isFlat ? QColor(Qt::transparent) : shade(kRaised);
 }
+
+class PanelBelow : public QObject
+{
+public:
+    PanelBelow(QWidget& widget, std::function<std::optional<PaletteLook::Panel>()> panel)
+        : QObject(&widget), m_widget(widget), m_panel(std::move(panel))
+    {
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::Paint || watched != &m_widget)
+            return false;
+        if (const auto panel = m_panel()) {
+            QPainter painter(&m_widget);
+            PaletteLook::PaintPanel(painter, m_widget.rect(), m_widget.palette(), *panel);
+        }
+        return false;
+    }
+
+private:
+    QWidget& m_widget;
+    std::function<std::optional<PaletteLook::Panel>()> m_panel;
+};
 
 } // namespace
 
@@ -71,13 +100,16 @@ void PaletteLook::PaintPanel(QPainter& painter, const QRect& area, const QPalett
     painter.setBrush(PanelColor(palette, panel));
     painter.drawRoundedRect(area, kRadius, kRadius);
     if (panel.isFocused) {
-        // On the highlight itself it would not show.
-        const auto role = panel.isChecked ? QPalette::ButtonText : QPalette::Highlight;
         constexpr double inset = kFocusLine / 2;
-        painter.setPen(QPen(palette.color(role), kFocusLine));
+        painter.setPen(QPen(palette.color(QPalette::Highlight), kFocusLine));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(QRectF(area).adjusted(inset, inset, -inset, -inset),
                                 kRadius - inset, kRadius - inset);
     }
     painter.restore();
+}
+
+void PaletteLook::PaintBelow(QWidget& widget, std::function<std::optional<Panel>()> panel)
+{
+    new PanelBelow(widget, std::move(panel));
 }

@@ -3,6 +3,9 @@
 
 #include <QPalette>
 
+#include <functional>
+#include <optional>
+
 class QPainter;
 class QRect;
 class QWidget;
@@ -32,8 +35,10 @@ struct Panel
     bool isChecked;
     bool isFocused;
 };
-/// Paints what a button's text stands on: on the palette's highlight while it is checked, so that
-/// the text needs the colour that goes with it.
+/// Paints what a button's text stands on.
 void PaintPanel(QPainter& painter, const QRect& area, const QPalette& palette, const Panel& panel);
+/// Has such a panel painted before all that \a widget paints by itself, while \a panel gives one.
+/// For classes that hosts derive from: they get no further virtual operation by it.
+void PaintBelow(QWidget& widget, std::function<std::optional<Panel>()> panel);
 
 } // namespace PaletteLook

@@ -11,7 +11,9 @@
 #include <QPointer>
 #include <QWheelEvent>
 
+#include <climits>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -33,9 +35,24 @@ PureSlider::PureSlider(QWidget* parent) : QWidget(parent)
 
 void PureSlider::SetRange(int min, int max)
 {
+    const std::pair<int, int> before(m_minimum, m_maximum);
     m_minimum = min < max ? min : kDefaultMinimum;
     m_maximum = min < max ? max : kDefaultMaximum;
     update();
+    if (before != std::make_pair(m_minimum, m_maximum))
+        Q_EMIT RangeChanged(m_minimum, m_maximum);
+}
+
+void PureSlider::SetMinimum(int minimum)
+{
+    const int low = qMin(minimum, INT_MAX - 1);
+    SetRange(low, qMax(m_maximum, low + 1));
+}
+
+void PureSlider::SetMaximum(int maximum)
+{
+    const int high = qMax(maximum, INT_MIN + 1);
+    SetRange(qMin(m_minimum, high - 1), high);
 }
 
 void PureSlider::GetRange(int* min, int* max) const
@@ -64,14 +81,20 @@ int PureSlider::GetValue() const
 
 void PureSlider::Style(PartColor& part, const QColor& color)
 {
+    const QColor before = part.Shown();
     part.styled = color;
     update();
+    if (part.Shown() != before)
+        Q_EMIT ColorsChanged();
 }
 
 void PureSlider::Fix(PartColor& part, const QColor& color)
 {
+    const QColor before = part.Shown();
     part.fixed = color;
     update();
+    if (part.Shown() != before)
+        Q_EMIT ColorsChanged();
 }
 
 void PureSlider::SetBorderColor(const QColor& color)

@@ -17,9 +17,13 @@ struct SliderSteps;
 class COMMONLIB_EXPORT PureSlider : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QColor borderColor READ BorderColor WRITE StyleBorder)
-    Q_PROPERTY(QColor subpageColor READ SubpageColor WRITE StyleSubpage)
-    Q_PROPERTY(QColor addpageColor READ AddpageColor WRITE StyleAddpage)
+    Q_PROPERTY(QColor borderColor READ BorderColor WRITE StyleBorder NOTIFY ColorsChanged)
+    Q_PROPERTY(QColor subpageColor READ SubpageColor WRITE StyleSubpage NOTIFY ColorsChanged)
+    Q_PROPERTY(QColor addpageColor READ AddpageColor WRITE StyleAddpage NOTIFY ColorsChanged)
+    // A bound that is set alone takes the other one along, so that they may come in this order.
+    Q_PROPERTY(int minimum READ Minimum WRITE SetMinimum NOTIFY RangeChanged)
+    Q_PROPERTY(int maximum READ Maximum WRITE SetMaximum NOTIFY RangeChanged)
+    Q_PROPERTY(int value READ GetValue WRITE SetValue NOTIFY sigValueChanged USER true)
 
 public:
     explicit PureSlider(QWidget* parent); ///< with the presets
@@ -43,7 +47,9 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    void sigValueChanged(int value); ///< by the user or by SetValue()
+    void sigValueChanged(int value);             ///< by the user or by SetValue()
+    void RangeChanged(int minimum, int maximum); ///< a bound has changed
+    void ColorsChanged();                        ///< a colour has changed
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -71,6 +77,10 @@ private:
     void StyleSubpage(const QColor& color) { Style(m_subpage, color); }
     void StyleAddpage(const QColor& color) { Style(m_addpage, color); }
     SliderSteps Steps() const;
+    int Minimum() const { return m_minimum; }
+    int Maximum() const { return m_maximum; }
+    void SetMinimum(int minimum);
+    void SetMaximum(int maximum);
 
     int m_value = 0;
     int m_minimum = 0;

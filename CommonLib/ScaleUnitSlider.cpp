@@ -10,8 +10,10 @@
 #include <QPainter>
 #include <QPointer>
 #include <QStyle>
+#include <QVariant>
 
 #include <climits>
+#include <utility>
 
 namespace {
 
@@ -86,6 +88,9 @@ ScaleUnitSlider::ScaleUnitSlider(QWidget* parent)
             [this](double value) { Q_EMIT valueChanged(static_cast<float>(value)); });
     connect(m_slider, &ToolBarSlider::startValueChanged, this, &ScaleUnitSlider::startValueChanged);
     connect(m_slider, &ToolBarSlider::endValueChanged, this, &ScaleUnitSlider::endValueChanged);
+    connect(m_slider, &ToolBarSlider::ValueShown, this, &ScaleUnitSlider::ValueShown);
+    connect(m_slider, &ToolBarSlider::RangeChanged, this, &ScaleUnitSlider::RangeChanged);
+    connect(m_slider, &ToolBarSlider::PressedChanged, this, &ScaleUnitSlider::PressedChanged);
     // By the keyboard, too, but not while the mouse holds the slider.
     connect(m_subButton, &BaseButton::Clicked, this,
             [this] { ButtonPressDown() ? void() : Sub(); });
@@ -103,6 +108,26 @@ QPointF ScaleUnitSlider::getRange() const
     return m_slider->getRange();
 }
 
+float ScaleUnitSlider::Minimum() const
+{
+    return static_cast<float>(getRange().x());
+}
+
+float ScaleUnitSlider::Maximum() const
+{
+    return static_cast<float>(getRange().y());
+}
+
+void ScaleUnitSlider::SetMinimum(float minimum)
+{
+    setRange(minimum, Maximum());
+}
+
+void ScaleUnitSlider::SetMaximum(float maximum)
+{
+    setRange(Minimum(), maximum);
+}
+
 void ScaleUnitSlider::setValue(float value)
 {
     m_slider->setValue(value, false);
@@ -115,8 +140,10 @@ float ScaleUnitSlider::value() const
 
 void ScaleUnitSlider::setDuration(int duration)
 {
-    m_duration = duration;
+    const int before = std::exchange(m_duration, duration);
     m_slider->setDuration(static_cast<float>(duration));
+    if (duration != before)
+        Q_EMIT SettingsChanged();
 }
 
 int ScaleUnitSlider::duration() const
@@ -126,7 +153,8 @@ int ScaleUnitSlider::duration() const
 
 void ScaleUnitSlider::SetAddSubStep(int count)
 {
-    m_addSubStep = count;
+    if (std::exchange(m_addSubStep, count) != count)
+        Q_EMIT SettingsChanged();
 }
 
 int ScaleUnitSlider::GetAddSubStep() const
@@ -136,14 +164,30 @@ int ScaleUnitSlider::GetAddSubStep() const
 
 void ScaleUnitSlider::SetChunkHeight(int height)
 {
+    const int before = ChunkHeight();
     m_slider->SetChunkHeight(height);
     updateGeometry();
+    if (ChunkHeight() != before)
+        Q_EMIT SettingsChanged();
+}
+
+int ScaleUnitSlider::ChunkHeight() const
+{
+    return m_slider->property("chunkSize").toSize().height();
 }
 
 void ScaleUnitSlider::SetGrooveHeight(int height)
 {
+    const int before = GrooveHeight();
     m_slider->SetGrooveHeight(height);
     updateGeometry();
+    if (GrooveHeight() != before)
+        Q_EMIT SettingsChanged();
+}
+
+int ScaleUnitSlider::GrooveHeight() const
+{
+    return m_slider->property("grooveHeight").toInt();
 }
 
 bool ScaleUnitSlider::ButtonPressDown() const
@@ -184,16 +228,21 @@ void ScaleUnitSlider::ChangeBy(int step)
 {
     const QPointer<ScaleUnitSlider> self(this);
     setValue(value() + static_cast<float>(step));
+    if (!self)
+        return;
     Q_EMIT startValueChanged();
     if (!self)
         return;
     const bool wasDown = ButtonPressDown();
     m_slider->SetButtonPressDown(true);
+    if (!self)
+        return;
     Q_EMIT valueChanged(value());
     if (!self)
         return;
     m_slider->SetButtonPressDown(wasDown);
-    Q_EMIT endValueChanged();
+    if (self)
+        Q_EMIT endValueChanged();
 }
 
 QSize ScaleUnitSlider::sizeHint() const

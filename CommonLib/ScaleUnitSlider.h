@@ -17,6 +17,15 @@ class ToolBarSlider;
 class COMMONLIB_EXPORT ScaleUnitSlider : public QWidget
 {
     Q_OBJECT
+    // The range first: forms set properties in this order.
+    Q_PROPERTY(float minimum READ Minimum WRITE SetMinimum NOTIFY RangeChanged)
+    Q_PROPERTY(float maximum READ Maximum WRITE SetMaximum NOTIFY RangeChanged)
+    Q_PROPERTY(float value READ value WRITE setValue NOTIFY ValueShown USER true)
+    Q_PROPERTY(int addSubStep READ GetAddSubStep WRITE SetAddSubStep NOTIFY SettingsChanged)
+    Q_PROPERTY(int duration READ duration WRITE setDuration NOTIFY SettingsChanged)
+    Q_PROPERTY(int chunkHeight READ ChunkHeight WRITE SetChunkHeight NOTIFY SettingsChanged)
+    Q_PROPERTY(int grooveHeight READ GrooveHeight WRITE SetGrooveHeight NOTIFY SettingsChanged)
+    Q_PROPERTY(bool pressed READ ButtonPressDown NOTIFY PressedChanged)
 
 public:
     explicit ScaleUnitSlider(QWidget* parent); ///< with the presets
@@ -54,6 +63,14 @@ Q_SIGNALS:
     /// Around all changes of the value by one press, drag or key.
     void startValueChanged();
     void endValueChanged();
+    /// Whenever the property \a value has changed, by the user or by a call. Comes before
+    /// valueChanged() of the same change.
+    void ValueShown(float value);
+    /// Whenever the property of that name has changed.
+    void RangeChanged(float minimum, float maximum);
+    void PressedChanged(bool pressed);
+    /// One of the other properties has changed.
+    void SettingsChanged();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -65,6 +82,12 @@ private:
     void ChangeBy(int step);
     void LayOut();
     void NameButtons();
+    float Minimum() const;
+    float Maximum() const;
+    void SetMinimum(float minimum);
+    void SetMaximum(float maximum);
+    int ChunkHeight() const;
+    int GrooveHeight() const;
 
     ToolBarSlider* m_slider;
     BaseButton* m_subButton;

@@ -4,11 +4,13 @@
 #include "CommonLib/NumberConversion_p.h"
 #include "CommonLib/ruler/TimelineViewRuler_p.h"
 
+#include <QPointer>
 #include <QStyle>
 #include <QVBoxLayout>
 
 #include <climits>
 #include <cmath>
+#include <utility>
 
 TimelineRuler::TimelineRuler(QWidget* parent) : QWidget(parent), m_view(new TimelineViewRuler(this))
 {
@@ -34,6 +36,10 @@ TimelineRuler::TimelineRuler(QWidget* parent) : QWidget(parent), m_view(new Time
     connect(m_view, &View::ZoomChanged, this, &Ruler::ZoomChanged);
     connect(m_view, &View::OffsetFramesChanged, this, &Ruler::OffsetFramesChanged);
     connect(m_view, &View::sigRightClicked, this, &Ruler::sigRightClicked);
+    connect(m_view, &View::CurrentFramesShown, this, &Ruler::CurrentFramesShown);
+    connect(m_view, &View::ZoomShown, this, &Ruler::ZoomShown);
+    connect(m_view, &View::OffsetShown, this, &Ruler::OffsetShown);
+    connect(m_view, &View::ColorsChanged, this, &Ruler::SettingsChanged);
 }
 
 TimelineRuler::~TimelineRuler() = default;
@@ -81,7 +87,10 @@ float TimelineRuler::Zoom() const
 
 void TimelineRuler::SetMaxZoom(float zoom)
 {
+    const float before = MaxZoom();
     m_view->ChangeConvertor([zoom](RulerConvertor& convertor) { convertor.SetMaxZoom(zoom); });
+    if (MaxZoom() != before)
+        Q_EMIT SettingsChanged();
 }
 
 float TimelineRuler::MaxZoom() const
@@ -116,7 +125,11 @@ int TimelineRuler::GetZoomAndScrollRulerOffsetPosition() const
 
 void TimelineRuler::RebuildRulerConvertor(const QList<std::tuple<float, int, int>>& table)
 {
+    const float maxBefore = MaxZoom();
+    const QPointer<TimelineRuler> self(this);
     m_view->ChangeConvertor([&table](RulerConvertor& convertor) { convertor.Rebuild(table); });
+    if (self && MaxZoom() != maxBefore)
+        Q_EMIT SettingsChanged();
 }
 
 // Frames ------------------------------------------------------------------------------------------
@@ -136,6 +149,11 @@ void TimelineRuler::SetOffsetFrames(int frames)
     m_view->SetOffsetFrames(frames);
 }
 
+int TimelineRuler::OffsetPosition() const
+{
+    return m_view->Segment().offsetPosition;
+}
+
 int TimelineRuler::OffsetFrames() const
 {
     return m_view->Segment().offsetFrames;
@@ -148,9 +166,25 @@ void TimelineRuler::SetOffsetPosition(int pixels)
 
 void TimelineRuler::SetTotalFrames(int frames)
 {
-    m_view->behaviour.totalFrames = frames;
+    ChangeRange(m_view->behaviour.totalFrames, frames);
+}
+
+template <typename Value>
+void TimelineRuler::ChangeRange(Value& bound, const Value& to)
+{
+    const QPointer<TimelineRuler> self(this);
+    if (std::exchange(bound, to) != to)
+        Q_EMIT RangeChanged();
     // Where the range is limited, the play head stays within it.
-    m_view->SetCurrentFrame(CurrentFrames());
+    if (self)
+        m_view->SetCurrentFrame(CurrentFrames());
+}
+
+template <typename Value>
+void TimelineRuler::ChangeSetting(Value& setting, const Value& to)
+{
+    if (std::exchange(setting, to) != to)
+        Q_EMIT SettingsChanged();
 }
 
 int TimelineRuler::TotaleFrames() const
@@ -165,23 +199,53 @@ int TimelineRuler::AvailableTotaleFrames() const
 
 void TimelineRuler::SetFrameRange(int in, int out)
 {
+    // Both before anything is told.
+    const std::pair<int, int> range(in, out);
+    std::pair<int, int> held(RangeIn(), RangeOut());
     m_view->behaviour.rangeIn = in;
     m_view->behaviour.rangeOut = out;
-    m_view->SetCurrentFrame(CurrentFrames());
+    ChangeRange(held, range);
+}
+
+int TimelineRuler::RangeIn() const
+{
+    return m_view->behaviour.rangeIn;
+}
+
+int TimelineRuler::RangeOut() const
+{
+    return m_view->behaviour.rangeOut;
+}
+
+void TimelineRuler::SetRangeIn(int in)
+{
+    ChangeRange(m_view->behaviour.rangeIn, in);
+}
+
+void TimelineRuler::SetRangeOut(int out)
+{
+    ChangeRange(m_view->behaviour.rangeOut, out);
 }
 
 void TimelineRuler::SetIsLimitFrameRange(bool limited)
 {
-    m_view->behaviour.limitRange = limited;
-    m_view->SetCurrentFrame(CurrentFrames());
+    ChangeRange(m_view->behaviour.limitRange, limited);
+}
+
+bool TimelineRuler::IsRangeLimited() const
+{
+    return m_view->behaviour.limitRange;
 }
 
 void TimelineRuler::SetFPS(float fps)
 {
+    const bool isOther = fps != FPS();
     m_view->ChangeConvertor([fps](RulerConvertor& convertor) {
         convertor.Current().fps = fps;
         convertor.UpdateLabelInterval();
     });
+    if (isOther)
+        Q_EMIT SettingsChanged();
 }
 
 float TimelineRuler::FPS() const
@@ -191,7 +255,7 @@ float TimelineRuler::FPS() const
 
 void TimelineRuler::SetFramesRound(bool round)
 {
-    m_view->behaviour.roundFrames = round;
+    ChangeSetting(m_view->behaviour.roundFrames, round);
 }
 
 bool TimelineRuler::GetFramesRound() const
@@ -259,12 +323,28 @@ void TimelineRuler::SetDrawColor(QColor color)
 
 void TimelineRuler::SetDrawBottonLine(bool draw)
 {
+    const bool isOther = draw != HasBottomLine();
     m_view->ChangeSegments([draw](RulerSegment& segment) { segment.drawBottomLine = draw; });
+    if (isOther)
+        Q_EMIT SettingsChanged();
+}
+
+bool TimelineRuler::HasBottomLine() const
+{
+    return m_view->Segment().drawBottomLine;
 }
 
 void TimelineRuler::SetCursorEnable(bool enabled)
 {
+    const bool isOther = enabled != IsCursorEnabled();
     m_view->ChangeSegments([enabled](RulerSegment& segment) { segment.drawCursorLine = enabled; });
+    if (isOther)
+        Q_EMIT SettingsChanged();
+}
+
+bool TimelineRuler::IsCursorEnabled() const
+{
+    return m_view->Segment().drawCursorLine;
 }
 
 int TimelineRuler::Height() const
@@ -276,27 +356,52 @@ int TimelineRuler::Height() const
 
 void TimelineRuler::SetDragable(bool enabled)
 {
-    m_view->behaviour.dragable = enabled;
+    ChangeSetting(m_view->behaviour.dragable, enabled);
+}
+
+bool TimelineRuler::IsDragable() const
+{
+    return m_view->behaviour.dragable;
 }
 
 void TimelineRuler::SetMoveFrameEnabled(bool enabled)
 {
-    m_view->behaviour.moveFrame = enabled;
+    ChangeSetting(m_view->behaviour.moveFrame, enabled);
+}
+
+bool TimelineRuler::MovesFrame() const
+{
+    return m_view->behaviour.moveFrame;
 }
 
 void TimelineRuler::SetMousePressEmitFramesChangedEnabled(bool enabled)
 {
-    m_view->behaviour.pressEmitsFrames = enabled;
+    ChangeSetting(m_view->behaviour.pressEmitsFrames, enabled);
+}
+
+bool TimelineRuler::PressEmitsFrames() const
+{
+    return m_view->behaviour.pressEmitsFrames;
 }
 
 void TimelineRuler::SetMouseReleaseEmitFramesChangedEnabled(bool enabled)
 {
-    m_view->behaviour.releaseEmitsFrames = enabled;
+    ChangeSetting(m_view->behaviour.releaseEmitsFrames, enabled);
+}
+
+bool TimelineRuler::ReleaseEmitsFrames() const
+{
+    return m_view->behaviour.releaseEmitsFrames;
 }
 
 void TimelineRuler::SetSingalClickStartEndFrameChangeEnabled(bool enabled)
 {
-    m_view->behaviour.singleClickEmits = enabled;
+    ChangeSetting(m_view->behaviour.singleClickEmits, enabled);
+}
+
+bool TimelineRuler::SingleClickEmits() const
+{
+    return m_view->behaviour.singleClickEmits;
 }
 
 QWidget* TimelineRuler::SetEventFilter(QWidget* filter)

@@ -20,9 +20,10 @@ class TimelineViewRuler;
 /// and keys do.
 ///
 /// Signals report what the user does. A call never emits one, except that it may end a drag which
-/// is under way. A ruler that is disabled or hidden in a drag ends it in the next turn of the event
-/// loop. A slot of any of the signals may delete the ruler, at once or later. Positions are pixels
-/// from the left edge, frames whole frames at FPS().
+/// is under way; only those of the properties, which are named last, tell every change. A ruler
+/// that is disabled or hidden in a drag ends it in the next turn of the event loop. A slot of any
+/// of the signals may delete the ruler, at once or later. Positions are pixels from the left edge,
+/// frames whole frames at FPS().
 ///
 /// While the keyboard has brought the focus, a frame in the palette's highlight colour shows.
 /// Assistive tools see a slider over frames with its value as timecode, named by the ruler's
@@ -34,11 +35,37 @@ class TimelineViewRuler;
 class COMMONLIB_EXPORT TimelineRuler : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QColor PointerBGColor READ GetPointerBGColor WRITE SetPointerBGColor)
+    Q_PROPERTY(
+        QColor PointerBGColor READ GetPointerBGColor WRITE SetPointerBGColor NOTIFY SettingsChanged)
     Q_PROPERTY(QColor PointerBGDisabledColor READ GetPointerBGDisabledColor WRITE
-                   SetPointerBGDisabledColor)
-    Q_PROPERTY(QColor FrameTextColor READ GetFrameTextColor WRITE SetFrameTextColor)
-    Q_PROPERTY(QColor ScaleColor READ GetScaleColor WRITE SetScaleColor)
+                   SetPointerBGDisabledColor NOTIFY SettingsChanged)
+    Q_PROPERTY(
+        QColor FrameTextColor READ GetFrameTextColor WRITE SetFrameTextColor NOTIFY SettingsChanged)
+    Q_PROPERTY(QColor ScaleColor READ GetScaleColor WRITE SetScaleColor NOTIFY SettingsChanged)
+    // The range first: forms set properties in this order.
+    Q_PROPERTY(float fps READ FPS WRITE SetFPS NOTIFY SettingsChanged)
+    Q_PROPERTY(int totalFrames READ TotaleFrames WRITE SetTotalFrames NOTIFY RangeChanged)
+    Q_PROPERTY(int rangeIn READ RangeIn WRITE SetRangeIn NOTIFY RangeChanged)
+    Q_PROPERTY(int rangeOut READ RangeOut WRITE SetRangeOut NOTIFY RangeChanged)
+    Q_PROPERTY(bool rangeLimited READ IsRangeLimited WRITE SetIsLimitFrameRange NOTIFY RangeChanged)
+    Q_PROPERTY(float maxZoom READ MaxZoom WRITE SetMaxZoom NOTIFY SettingsChanged)
+    Q_PROPERTY(float zoom READ Zoom WRITE SetZoom NOTIFY ZoomShown)
+    Q_PROPERTY(int offsetFrames READ OffsetFrames WRITE SetOffsetFrames NOTIFY OffsetShown)
+    Q_PROPERTY(int offsetPosition READ OffsetPosition WRITE SetOffsetPosition NOTIFY OffsetShown)
+    Q_PROPERTY(int currentFrames READ CurrentFrames WRITE SetCurrentFrames NOTIFY CurrentFramesShown
+                   USER true)
+    Q_PROPERTY(bool framesRound READ GetFramesRound WRITE SetFramesRound NOTIFY SettingsChanged)
+    Q_PROPERTY(bool cursorEnabled READ IsCursorEnabled WRITE SetCursorEnable NOTIFY SettingsChanged)
+    Q_PROPERTY(bool bottomLine READ HasBottomLine WRITE SetDrawBottonLine NOTIFY SettingsChanged)
+    Q_PROPERTY(bool dragable READ IsDragable WRITE SetDragable NOTIFY SettingsChanged)
+    Q_PROPERTY(
+        bool moveFrameEnabled READ MovesFrame WRITE SetMoveFrameEnabled NOTIFY SettingsChanged)
+    Q_PROPERTY(bool pressEmitsFrames READ PressEmitsFrames WRITE
+                   SetMousePressEmitFramesChangedEnabled NOTIFY SettingsChanged)
+    Q_PROPERTY(bool releaseEmitsFrames READ ReleaseEmitsFrames WRITE
+                   SetMouseReleaseEmitFramesChangedEnabled NOTIFY SettingsChanged)
+    Q_PROPERTY(bool singleClickEmits READ SingleClickEmits WRITE
+                   SetSingalClickStartEndFrameChangeEnabled NOTIFY SettingsChanged)
 
 public:
     explicit TimelineRuler(QWidget* parent = nullptr); ///< with the presets
@@ -163,7 +190,33 @@ Q_SIGNALS:
     void OffsetFramesChanged(int frames);
     /// A press of the right button, in global coordinates. Told in the next turn of the event loop.
     void sigRightClicked(QPoint pt);
+    /// Whenever the play head, the zoom or the left edge has changed, by the user or by a call.
+    /// They come before the signals above of the same change.
+    void CurrentFramesShown(int frames);
+    void ZoomShown(float zoom);
+    void OffsetShown();
+    /// The number of frames, or the range and whether it limits the play head.
+    void RangeChanged();
+    void SettingsChanged(); ///< another property has changed
 
 private:
+    template <typename Value>
+    void ChangeSetting(Value& setting, const Value& to);
+    template <typename Value>
+    void ChangeRange(Value& bound, const Value& to);
+    int OffsetPosition() const;
+    int RangeIn() const;
+    int RangeOut() const;
+    void SetRangeIn(int in);
+    void SetRangeOut(int out);
+    bool IsRangeLimited() const;
+    bool IsCursorEnabled() const;
+    bool HasBottomLine() const;
+    bool IsDragable() const;
+    bool MovesFrame() const;
+    bool PressEmitsFrames() const;
+    bool ReleaseEmitsFrames() const;
+    bool SingleClickEmits() const;
+
     TimelineViewRuler* m_view;
 };

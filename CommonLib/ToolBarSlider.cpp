@@ -25,6 +25,8 @@ constexpr int kGrooveInset = 1;
 
 } // namespace
 
+ToolBarSlider::ToolBarSlider(QWidget* parent) : ToolBarSlider(parent, Qt::Horizontal) {}
+
 ToolBarSlider::ToolBarSlider(QWidget* parent, Qt::Orientation orientation)
     : QWidget(parent)
     , m_orientation(orientation)
@@ -53,11 +55,26 @@ void ToolBarSlider::setRange(float min, float max)
 {
     if (!std::isfinite(min) || !std::isfinite(max))
         return;
+    const bool isOther = min != m_minimum || max != m_maximum;
     m_minimum = min;
     m_maximum = max;
-    m_value = Limited(m_value);
+    const QPointer<ToolBarSlider> self(this);
+    if (isOther)
+        Q_EMIT RangeChanged(min, max);
+    if (!self || !ChangeTo(Limited(m_value)))
+        return;
     PlaceChunk();
     QueueResizeChunk();
+}
+
+bool ToolBarSlider::ChangeTo(float value)
+{
+    if (value == m_value)
+        return true;
+    m_value = value;
+    const QPointer<ToolBarSlider> self(this);
+    Q_EMIT ValueShown(m_value);
+    return !self.isNull();
 }
 
 QPointF ToolBarSlider::getRange() const
@@ -70,7 +87,8 @@ void ToolBarSlider::setValue(float value, bool)
     if (IsHeld() || std::isnan(value))
         return;
     m_lastEmitted = value;
-    m_value = Limited(value);
+    if (!ChangeTo(Limited(value)))
+        return;
     PlaceChunk();
     QueueResizeChunk();
     NotifyAccessibleValue(this, m_value);
@@ -83,7 +101,8 @@ float ToolBarSlider::value() const
 
 void ToolBarSlider::setDuration(float duration)
 {
-    m_duration = duration;
+    if (std::exchange(m_duration, duration) != duration)
+        Q_EMIT SettingsChanged();
 }
 
 float ToolBarSlider::duration() const
@@ -95,10 +114,13 @@ float ToolBarSlider::duration() const
 
 void ToolBarSlider::SetChunkSize(int width, int height)
 {
+    const QSize before = ChunkSize();
     m_chunkWidth = qMax(width, 0);
     m_chunkHeight = qMax(height, 0);
     updateGeometry();
     LayOut();
+    if (ChunkSize() != before)
+        Q_EMIT SettingsChanged();
 }
 
 void ToolBarSlider::SetChunkHeight(int height)
@@ -108,9 +130,11 @@ void ToolBarSlider::SetChunkHeight(int height)
 
 void ToolBarSlider::SetGrooveHeight(int height)
 {
-    m_grooveHeight = qMax(height, 0);
+    const int before = std::exchange(m_grooveHeight, qMax(height, 0));
     updateGeometry();
     LayOut();
+    if (m_grooveHeight != before)
+        Q_EMIT SettingsChanged();
 }
 
 void ToolBarSlider::SetGroomHighlight(QString style)
@@ -120,28 +144,59 @@ void ToolBarSlider::SetGroomHighlight(QString style)
 
 void ToolBarSlider::SetLeftToRight(bool on)
 {
-    if (m_orientation != Qt::Horizontal)
-        return;
-    m_forward = on;
-    QueueResizeChunk();
+    if (m_orientation == Qt::Horizontal)
+        SetForward(on);
 }
 
 void ToolBarSlider::SetBottomToTop(bool on)
 {
-    if (m_orientation != Qt::Vertical)
-        return;
-    m_forward = on;
+    if (m_orientation == Qt::Vertical)
+        SetForward(on);
+}
+
+void ToolBarSlider::SetForward(bool on)
+{
+    const bool before = std::exchange(m_forward, on);
     QueueResizeChunk();
+    if (on != before)
+        Q_EMIT SettingsChanged();
+}
+
+Qt::Orientation ToolBarSlider::Orientation() const
+{
+    return m_orientation;
+}
+
+void ToolBarSlider::SetOrientation(Qt::Orientation orientation)
+{
+    if (orientation == m_orientation)
+        return;
+    m_orientation = orientation;
+    QSizePolicy policy = sizePolicy();
+    policy.transpose();
+    setSizePolicy(policy);
+    LayOut();
+    Q_EMIT SettingsChanged();
 }
 
 void ToolBarSlider::SetAwaysEmitValueChangeStartEnd(bool on)
 {
-    m_alwaysEmitStartEnd = on;
+    if (std::exchange(m_alwaysEmitStartEnd, on) != on)
+        Q_EMIT SettingsChanged();
 }
 
 void ToolBarSlider::SetButtonPressDown(bool down)
 {
-    m_buttonPressDown = down;
+    SetPressed(down);
+}
+
+bool ToolBarSlider::SetPressed(bool pressed)
+{
+    if (std::exchange(m_buttonPressDown, pressed) == pressed)
+        return true;
+    const QPointer<ToolBarSlider> self(this);
+    Q_EMIT PressedChanged(pressed);
+    return !self.isNull();
 }
 
 bool ToolBarSlider::ButtonPressDown() const
@@ -211,12 +266,12 @@ void ToolBarSlider::CalculatePostion(int pos)
     const int travel = GetWidth();
     m_chunkPosition = qMax(qMin(pos - chunk / 2, travel), 0);
     if (!CanChanged()) {
-        m_value = 0;
+        ChangeTo(0);
         return;
     }
     const double range = double(m_maximum) - m_minimum;
     const double share = travel > 0 ? double(m_chunkPosition) / travel : 0;
-    m_value = Limited(m_minimum + share * range);
+    ChangeTo(Limited(m_minimum + share * range));
 }
 
 void ToolBarSlider::CalculatePostion(QPoint pos)
@@ -280,17 +335,17 @@ void ToolBarSlider::mousePressEvent(QMouseEvent* event)
 {
     if (!CanChanged() || IsHeld()) // or another button in mid-hold
         return;
-    m_buttonPressDown = true;
     HoldWatch::Begin(*this, [this] { CancelHold(); });
     m_hold = childAt(event->pos()) == m_chunk ? Hold::Chunk : Hold::Groove;
+    if (!SetPressed(true))
+        return;
     const QPoint pos = Unmirrored(event->pos());
     if (m_hold == Hold::Chunk) {
         // Horizontal also on a vertical slider, whose chunk therefore centres itself on the
         // pointer. Kept: see docs/compatibility.md.
         m_grabOffset = pos.x() - m_chunkPosition - m_chunkWidth / 2;
     }
-    MoveChunkTo(pos);
-    if (!NeedEmitValue())
+    if (!MoveChunkTo(pos) || !NeedEmitValue())
         return;
     const QPointer<ToolBarSlider> self(this);
     EmitStartEndSignals(true);
@@ -308,22 +363,24 @@ void ToolBarSlider::mouseMoveEvent(QMouseEvent* event)
         if (!self || !CanChanged())
             return;
     }
-    MoveChunkTo(Unmirrored(event->pos()));
-    EmitValueChange();
+    if (MoveChunkTo(Unmirrored(event->pos())))
+        EmitValueChange();
 }
 
 void ToolBarSlider::mouseReleaseEvent(QMouseEvent* event)
 {
     if (IsHeld() && event->buttons() != Qt::NoButton)
         return; // until the last one is released
-    m_buttonPressDown = false;
     HoldWatch::End(*this);
     const Hold held = std::exchange(m_hold, Hold::None);
+    if (!SetPressed(false))
+        return;
     if (held == Hold::Cancelled || (held == Hold::None && !m_isDragging))
         return; // told already, or nothing began
     const bool emits = NeedEmitValue();
     if (emits) {
-        MoveChunkTo(Unmirrored(event->pos()));
+        if (!MoveChunkTo(Unmirrored(event->pos())))
+            return;
         const QPointer<ToolBarSlider> self(this);
         EmitValueChange();
         if (!self)
@@ -348,11 +405,15 @@ void ToolBarSlider::EndHold(Hold held, bool emits)
     m_grabOffset = 0;
 }
 
-void ToolBarSlider::MoveChunkTo(QPoint pos)
+bool ToolBarSlider::MoveChunkTo(QPoint pos)
 {
+    const QPointer<ToolBarSlider> self(this);
     CalculatePostion(pos - QPoint(m_grabOffset, 0));
+    if (!self)
+        return false;
     ResizeChunk();
     NotifyAccessibleValue(this, m_value);
+    return true;
 }
 
 bool ToolBarSlider::event(QEvent* event)
@@ -389,8 +450,9 @@ void ToolBarSlider::CancelHold()
         [this] {
             if (!IsHeld())
                 return;
-            m_buttonPressDown = false;
-            EndHold(std::exchange(m_hold, Hold::Cancelled), NeedEmitValue());
+            const Hold held = std::exchange(m_hold, Hold::Cancelled);
+            if (SetPressed(false))
+                EndHold(held, NeedEmitValue());
         },
         Qt::QueuedConnection);
 }
@@ -408,7 +470,8 @@ void ToolBarSlider::ChangeByUser(double value)
 {
     if (!CanChanged() || IsHeld() || std::isnan(value) || Limited(value) == m_value)
         return;
-    m_value = Limited(value);
+    if (!ChangeTo(Limited(value)))
+        return;
     PlaceChunk();
     ResizeChunk();
     NotifyAccessibleValue(this, m_value);

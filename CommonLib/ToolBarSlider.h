@@ -5,6 +5,7 @@
 
 #include <QPoint>
 #include <QPointF>
+#include <QSize>
 #include <QString>
 #include <QWidget>
 
@@ -20,14 +21,30 @@ struct SliderSteps;
 ///
 /// The minimum is at the left or top end. A minimum above the maximum turns the scale round. Bounds
 /// that differ by no more than a hundred-thousandth of the smaller one are an empty range, on which
-/// mouse and keys do nothing. Signals report what the user does; no call emits one.
+/// mouse and keys do nothing. Signals report what the user does; no call emits one of them, but
+/// those of the properties, which tell every change.
 ///
 /// docs/widgets.md tells what mouse, wheel and keys do.
 class COMMONLIB_EXPORT ToolBarSlider : public QWidget
 {
     Q_OBJECT
+    // The range first: forms set properties in this order.
+    Q_PROPERTY(float minimum READ Minimum WRITE SetMinimum NOTIFY RangeChanged)
+    Q_PROPERTY(float maximum READ Maximum WRITE SetMaximum NOTIFY RangeChanged)
+    Q_PROPERTY(float value READ value WRITE ChangeValue NOTIFY ValueShown USER true)
+    Q_PROPERTY(float duration READ duration WRITE setDuration NOTIFY SettingsChanged)
+    Q_PROPERTY(
+        Qt::Orientation orientation READ Orientation WRITE SetOrientation NOTIFY SettingsChanged)
+    Q_PROPERTY(bool leftToRight READ IsLeftToRight WRITE SetLeftToRight NOTIFY SettingsChanged)
+    Q_PROPERTY(bool bottomToTop READ IsBottomToTop WRITE SetBottomToTop NOTIFY SettingsChanged)
+    Q_PROPERTY(QSize chunkSize READ ChunkSize WRITE ChangeChunkSize NOTIFY SettingsChanged)
+    Q_PROPERTY(int grooveHeight READ GrooveHeight WRITE SetGrooveHeight NOTIFY SettingsChanged)
+    Q_PROPERTY(bool alwaysEmitStartEnd READ AlwaysEmitsStartEnd WRITE
+                   SetAwaysEmitValueChangeStartEnd NOTIFY SettingsChanged)
+    Q_PROPERTY(bool pressed READ ButtonPressDown NOTIFY PressedChanged)
 
 public:
+    explicit ToolBarSlider(QWidget* parent); ///< horizontal, for forms
     ToolBarSlider(QWidget* parent, Qt::Orientation orientation);
 
     /// 0 to 100 by default; the value follows into the range. Nothing happens when a bound is
@@ -67,6 +84,9 @@ public:
     bool ButtonPressDown() const;
     /// Whether the user can move the chunk, which is so while the slider is enabled.
     bool canSeek() const;
+    /// As it was made with, or set. Setting it turns the size policy, too.
+    Qt::Orientation Orientation() const;
+    void SetOrientation(Qt::Orientation orientation);
     /// Pixels that the slider needs in height to show the chunk, and a horizontal groove, uncut.
     int Height() const;
 
@@ -81,13 +101,22 @@ Q_SIGNALS:
     /// The mouse began, and ended, to move while it holds the slider.
     void startDrag();
     void endDrag();
+    /// Whenever the property \a value has changed, by the user or by a call. Comes before
+    /// valueChanged() of the same change.
+    void ValueShown(float value);
+    /// Whenever the property of that name has changed.
+    void RangeChanged(float minimum, float maximum);
+    void PressedChanged(bool pressed);
+    /// One of the other properties has changed.
+    void SettingsChanged();
 
 protected:
     /// Places the chunk for \a value, which counts from the start of the range, over the whole
     /// length of the slider and centred there. The value stays.
     void CalculatePositionFromValue(double value);
     /// Centres the chunk on a pixel along the slider and takes the value from there, over the
-    /// length that the chunk can travel. The value is 0 in an empty range.
+    /// length that the chunk can travel. The value is 0 in an empty range. Emits no more than
+    /// ValueShown().
     void CalculatePostion(int pos);
     void CalculatePostion(QPoint pos);
     /// Whether the range is not empty.
@@ -128,7 +157,7 @@ private:
     void PlaceChunk();
     void QueueResizeChunk();
     void ResizeHighlight();
-    void MoveChunkTo(QPoint pos);
+    bool MoveChunkTo(QPoint pos);
     bool IsHeld() const;
     bool IsTold(Hold hold) const;
     void EndHold(Hold held, bool emits);
@@ -139,6 +168,22 @@ private:
     QPoint Unmirrored(QPoint pos) const;
     float Limited(double value) const;
     bool IsMirrored() const;
+
+    // Properties. Those that emit return whether the slider is still there.
+    bool ChangeTo(float value);
+    bool SetPressed(bool pressed);
+    void ChangeValue(float value) { setValue(value, false); }
+    float Minimum() const { return m_minimum; }
+    float Maximum() const { return m_maximum; }
+    void SetMinimum(float minimum) { setRange(minimum, m_maximum); }
+    void SetMaximum(float maximum) { setRange(m_minimum, maximum); }
+    bool IsLeftToRight() const { return m_orientation != Qt::Horizontal || m_forward; }
+    bool IsBottomToTop() const { return m_orientation != Qt::Vertical || m_forward; }
+    void SetForward(bool on);
+    QSize ChunkSize() const { return {m_chunkWidth, m_chunkHeight}; }
+    void ChangeChunkSize(QSize size) { SetChunkSize(size.width(), size.height()); }
+    int GrooveHeight() const { return m_grooveHeight; }
+    bool AlwaysEmitsStartEnd() const { return m_alwaysEmitStartEnd; }
 
     // Value.
     float m_value = 0;

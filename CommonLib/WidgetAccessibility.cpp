@@ -160,7 +160,7 @@ public:
         const float before = slider->value();
         if (slider->isEnabled())
             slider->setValue(value.toFloat(), false);
-        if (slider->value() == before)
+        if (!slider || slider->value() == before)
             return;
         Q_EMIT slider->startValueChanged();
         if (slider)

@@ -5,6 +5,7 @@
 #   engine         the open engine and its translations
 #   devices        the portable-device service
 #   customisation  the reader of customisation data
+#   designer       the widgets for Qt Designer
 #   editor         the editor and its translations
 #   documentation  what docs/ and the root's documents hold
 # All paths are relative to the prefix, so that an installed package may be moved as a whole.

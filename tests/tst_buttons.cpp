@@ -398,6 +398,7 @@ private slots:
         const Make states = [] {
             auto* widget = new BaseStateButton(1, "states", nullptr);
             widget->AddButton(2, "state");
+            widget->AddButton(3, "next");
             return widget;
         };
         const Make imageText = [] { return new ImageTextButton(1, "image", nullptr); };
@@ -414,20 +415,22 @@ private slots:
         };
         const Steps press{Press(107), Release(107)};
         const QString all = "pressed released clicked Clicked Pressed";
+        const QString both = "Clicked CurrentButtonIdChanged",
+                      selected = "sigSelected StateChanged";
         QTest::newRow("button, mouse") << button << press << all;
         QTest::newRow("button, key") << button << Steps{space} << all;
         QTest::newRow("button, assistive tool") << button << Steps{speak} << all;
         QTest::newRow("button, entered and left")
             << within << Steps{Move(300), Move(107), Move(300)} << "sigEnter sigLeave";
-        QTest::newRow("states, mouse") << states << press << "Clicked";
-        QTest::newRow("states, key") << states << Steps{space} << "Clicked";
-        QTest::newRow("states, assistive tool") << states << Steps{speak} << "Clicked";
-        QTest::newRow("states, call") << states << Steps{click} << "Clicked";
+        QTest::newRow("states, mouse") << states << press << both;
+        QTest::newRow("states, key") << states << Steps{space} << both;
+        QTest::newRow("states, assistive tool") << states << Steps{speak} << both;
+        QTest::newRow("states, call") << states << Steps{click} << both;
         QTest::newRow("image, mouse") << imageText << Steps{Press(5), Release(5)} << "Clicked";
         QTest::newRow("its text, mouse") << imageText << press << "Clicked";
-        QTest::newRow("tab, mouse") << tab << press << "sigSelected";
-        QTest::newRow("tab, key") << tab << Steps{space} << "sigSelected";
-        QTest::newRow("tab, assistive tool") << tab << Steps{speak} << "sigSelected";
+        QTest::newRow("tab, mouse") << tab << press << selected;
+        QTest::newRow("tab, key") << tab << Steps{space} << selected;
+        QTest::newRow("tab, assistive tool") << tab << Steps{speak} << selected;
     }
 
     void deletedInSlot()

@@ -1032,25 +1032,30 @@ private slots:
                               "StartFramesChanged ";
         const QString frame = "FramesChanged", offset = "OffsetFramesChanged";
         const QString click = begun + "EndFramesChanged FramesChanged FramesChanged";
+        const QString shown = " CurrentFramesShown", moved = " OffsetShown";
+        const QString zoomed = " ZoomShown" + moved;
         const QString zoom = "StartZoomChanged EndZoomChanged ZoomChanged ";
-        row("drag", {Press(60), Move(200), Release(201)}, click + ' ' + frame);
+        row("drag", {Press(60), Move(200), Release(201)}, click + ' ' + frame + shown + shown);
         row("drag beyond the edge", {Press(60), Move(264), scrollToTheEnd},
-            begun + (frame + ' ').repeated(3) + offset + ' ' + offset);
-        row("double click", {Press(60), Release(60), doubleClick}, click + ' ' + zoom + offset);
+            begun + (frame + ' ').repeated(3) + offset + ' ' + offset + shown.repeated(3) + moved +
+                moved);
+        row("double click", {Press(60), Release(60), doubleClick},
+            click + ' ' + zoom + offset + shown + zoomed);
         row("middle drag",
             {Press(60, Qt::MiddleButton), Move(70, 25), Release(70, Qt::MiddleButton)},
-            zoom + "ZoomChanged " + offset + ' ' + offset);
+            zoom + "ZoomChanged " + offset + ' ' + offset + " ZoomShown" + zoomed + moved);
         row("right click", {rightClick}, "sigRightClicked");
-        row("wheel", {wheel({})}, offset);
-        row("wheel that zooms", {wheel(Qt::ControlModifier)}, zoom + offset);
+        row("wheel", {wheel({})}, offset + moved);
+        row("wheel that zooms", {wheel(Qt::ControlModifier)}, zoom + offset + zoomed);
         row("key to a frame out of sight", {key(Qt::Key_End)},
-            "StartFramesChanged EndFramesChanged FramesChanged OffsetFramesChanged");
-        row("key that zooms", {key(Qt::Key_Minus)}, zoom + offset);
-        row("disabled in a drag", {Press(60), disable}, click);
-        row("hidden in a drag", {Press(60), hide}, click);
+            "StartFramesChanged EndFramesChanged FramesChanged OffsetFramesChanged" + shown +
+                moved);
+        row("key that zooms", {key(Qt::Key_Minus)}, zoom + offset + zoomed);
+        row("disabled in a drag", {Press(60), disable}, click + shown);
+        row("hidden in a drag", {Press(60), hide}, click + shown);
         row("hover of a drag that a call begins and ends",
             {Press(60), beginZoom, Move(80, 5), Move(90, 18), endZoom},
-            click + ' ' + zoom + offset);
+            click + ' ' + zoom + offset + shown + zoomed);
     }
     void deletedInSlot() { DeletedInSlot::CheckRow(); }
 

@@ -397,24 +397,35 @@ private slots:
         const Steps hold{Press(5), Move(107)};
         const QString held = "valueChanged startValueChanged endValueChanged startDrag endDrag";
         const QString once = "valueChanged startValueChanged endValueChanged";
+        const QString shown = " ValueShown", pressed = " PressedChanged PressedChanged";
         const QString pureSignal = "sigValueChanged";
-        QTest::newRow("seek, press") << seek << Steps{Press(107), Release(107)} << once;
+        QTest::newRow("seek, press")
+            << seek << Steps{Press(107), Release(107)} << once + shown + pressed;
         QTest::newRow("seek, drag")
-            << seek << hold + Steps{Move(57), Release(7)} << "valueChanged valueChanged " + held;
-        QTest::newRow("seek, dropped") << seek << hold + Steps{drop} << "valueChanged " + held;
-        QTest::newRow("seek, disabled while held") << seek << hold + Steps{disable} << held;
-        QTest::newRow("seek, hidden while held") << seek << hold + Steps{hide} << held;
-        QTest::newRow("seek, closed while held") << seek << hold + Steps{close} << held;
-        QTest::newRow("seek, wheel") << seek << Steps{wheel} << once;
-        QTest::newRow("seek, key") << seek << Steps{key} << once;
-        QTest::newRow("seek, assistive tool") << seek << Steps{speak} << once;
-        QTest::newRow("zoom, drag") << zoom << Steps{Press(60), Move(107), Release(80)}
-                                    << "valueChanged valueChanged " + once;
-        QTest::newRow("zoom, plus button") << zoom << Steps{Press(204), Release(204)} << once;
-        QTest::newRow("zoom, minus button") << zoom << Steps{Press(10), Release(10)} << once;
-        QTest::newRow("zoom, key") << zoom << Steps{plus} << once;
-        QTest::newRow("zoom, hidden while held") << zoom << Steps{Press(60), hide} << once;
-        QTest::newRow("zoom, assistive tool") << zoom << Steps{speak} << once;
+            << seek << hold + Steps{Move(57), Release(7)}
+            << "valueChanged valueChanged " + held + shown + shown + shown + pressed;
+        QTest::newRow("seek, dropped")
+            << seek << hold + Steps{drop} << "valueChanged " + held + shown + shown + pressed;
+        QTest::newRow("seek, disabled while held")
+            << seek << hold + Steps{disable} << held + shown + pressed;
+        QTest::newRow("seek, hidden while held")
+            << seek << hold + Steps{hide} << held + shown + pressed;
+        QTest::newRow("seek, closed while held")
+            << seek << hold + Steps{close} << held + shown + pressed;
+        QTest::newRow("seek, wheel") << seek << Steps{wheel} << once + shown;
+        QTest::newRow("seek, key") << seek << Steps{key} << once + shown;
+        QTest::newRow("seek, assistive tool") << seek << Steps{speak} << once + shown;
+        QTest::newRow("zoom, drag")
+            << zoom << Steps{Press(60), Move(107), Release(80)}
+            << "valueChanged valueChanged " + once + shown + shown + shown + pressed;
+        QTest::newRow("zoom, plus button")
+            << zoom << Steps{Press(204), Release(204)} << once + shown + pressed;
+        QTest::newRow("zoom, minus button")
+            << zoom << Steps{Press(10), Release(10)} << once + pressed;
+        QTest::newRow("zoom, key") << zoom << Steps{plus} << once + shown + pressed;
+        QTest::newRow("zoom, hidden while held")
+            << zoom << Steps{Press(60), hide} << once + shown + pressed;
+        QTest::newRow("zoom, assistive tool") << zoom << Steps{speak} << once + shown;
         QTest::newRow("pure, drag") << pure << Steps{Press(50), Move(107), Release(80)}
                                     << "sigValueChanged sigValueChanged sigValueChanged";
         QTest::newRow("pure, wheel") << pure << Steps{wheel} << pureSignal;

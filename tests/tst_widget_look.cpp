@@ -165,15 +165,14 @@ private slots:
         button.setCheckable(true);
         const QColor normal = Shown(&button).pixelColor(20, 10);
         button.setChecked(true);
-        QCOMPARE(Shown(&button).pixelColor(20, 10), Palette(kLightWindow).highlight().color());
+        const QColor checked = Shown(&button).pixelColor(20, 10);
+        QVERIFY(checked != normal && Contrast(checked, Qt::black) > kLeastContrast);
         button.setDown(true);
         const QColor pressed = Shown(&button).pixelColor(20, 10);
-        QVERIFY(pressed != normal && pressed != Palette(kLightWindow).highlight().color());
+        QVERIFY(pressed != normal && pressed != checked);
         // What it shows under a sheet is the sheet's.
-        const QSize padded = button.sizeHint();
         qApp->setStyleSheet("QLabel { color: red; }");
         QCOMPARE(Shown(&button).pixelColor(20, 10), kLightWindow);
-        QVERIFY(button.sizeHint().width() < padded.width());
     }
 
     void tabKeepsATextThatIsHigherThanItsPlace()

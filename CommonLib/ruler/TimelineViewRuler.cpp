@@ -65,7 +65,23 @@ bool TimelineViewRuler::SetCurrentFrame(int frame)
     segment.currentFrame = frame;
     update(QRegion(before) + RulerPainter::PointerRect(segment, font()));
     NotifyAccessibleValue(this, frame);
+    TellShown();
     return true;
+}
+
+bool TimelineViewRuler::TellShown()
+{
+    const RulerSegment& segment = Segment();
+    const Shown now{segment.currentFrame, m_convertor.Zoom(), segment.offsetFrames,
+                    segment.offsetPosition};
+    const Shown before = std::exchange(m_shown, now);
+    if (now.frame != before.frame && !Tell(&TimelineViewRuler::CurrentFramesShown, now.frame))
+        return false;
+    if (now.zoom != before.zoom && !Tell(&TimelineViewRuler::ZoomShown, now.zoom))
+        return false;
+    const bool isMoved =
+        now.offsetFrames != before.offsetFrames || now.offsetPosition != before.offsetPosition;
+    return !isMoved || Tell(&TimelineViewRuler::OffsetShown);
 }
 
 void TimelineViewRuler::SetOffsetFrames(int frames)
@@ -74,6 +90,7 @@ void TimelineViewRuler::SetOffsetFrames(int frames)
         return;
     m_convertor.Current().offsetFrames = frames;
     update();
+    TellShown();
 }
 
 void TimelineViewRuler::SetOffsetPosition(int pixels)
@@ -82,6 +99,7 @@ void TimelineViewRuler::SetOffsetPosition(int pixels)
         return;
     m_convertor.Current().offsetPosition = pixels;
     update();
+    TellShown();
 }
 
 void TimelineViewRuler::paintEvent(QPaintEvent* event)
@@ -105,7 +123,10 @@ void TimelineViewRuler::SetColor(QColor RulerSegment::*role, const QColor& color
 {
     if (!HasFixed(role))
         m_fixedColors.push_back(role);
+    const QColor before = Segment().*role;
     ChangeSegments([role, &color](RulerSegment& segment) { segment.*role = color; });
+    if (color != before)
+        Q_EMIT ColorsChanged();
 }
 
 bool TimelineViewRuler::HasFixed(QColor RulerSegment::*role) const
@@ -114,7 +135,7 @@ bool TimelineViewRuler::HasFixed(QColor RulerSegment::*role) const
 }
 
 // Where there is a sheet the presets stay, which it was written for.
-void TimelineViewRuler::FollowPalette()
+bool TimelineViewRuler::FollowPalette()
 {
     RulerSegment look;
     if (!PaletteLook::HasSheet(*this)) {
@@ -128,19 +149,26 @@ void TimelineViewRuler::FollowPalette()
             look.disabledPointerColor = palette().color(QPalette::Disabled, QPalette::WindowText);
         }
     }
+    bool isOther = false;
     for (const auto role : {&RulerSegment::frameTextColor, &RulerSegment::scaleColor,
                             &RulerSegment::pointerColor, &RulerSegment::disabledPointerColor}) {
-        if (!HasFixed(role))
-            ChangeSegments([&](RulerSegment& segment) { segment.*role = look.*role; });
+        if (HasFixed(role) || Segment().*role == look.*role)
+            continue;
+        ChangeSegments([&](RulerSegment& segment) { segment.*role = look.*role; });
+        isOther = true;
     }
+    return isOther;
 }
 
 bool TimelineViewRuler::event(QEvent* event)
 {
     const bool isDone = QWidget::event(event);
-    if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange ||
-        event->type() == QEvent::PaletteChange || event->type() == QEvent::EnabledChange)
-        FollowPalette();
+    const bool concernsColors =
+        event->type() == QEvent::Polish || event->type() == QEvent::StyleChange ||
+        event->type() == QEvent::PaletteChange || event->type() == QEvent::EnabledChange;
+    // Told later: a handler may delete the ruler, which the sender of the event still needs.
+    if (concernsColors && FollowPalette())
+        QMetaObject::invokeMethod(this, &TimelineViewRuler::ColorsChanged, Qt::QueuedConnection);
     return isDone;
 }
 
@@ -200,8 +228,10 @@ int TimelineViewRuler::FrameAt(int x) const
 
 bool TimelineViewRuler::MoveByUser(int frame)
 {
-    return !SetCurrentFrame(frame) ||
-           Tell(&TimelineViewRuler::FramesChanged, Segment().currentFrame);
+    const QPointer<TimelineViewRuler> self(this);
+    if (!SetCurrentFrame(frame))
+        return true;
+    return self && Tell(&TimelineViewRuler::FramesChanged, Segment().currentFrame);
 }
 
 void TimelineViewRuler::StepTo(qint64 frame)
@@ -236,7 +266,7 @@ bool TimelineViewRuler::SetLeftEdge(double frame)
     segment.offsetFrames = offset;
     segment.offsetPosition = pixels;
     update();
-    return Tell(&TimelineViewRuler::OffsetFramesChanged, offset);
+    return TellShown() && Tell(&TimelineViewRuler::OffsetFramesChanged, offset);
 }
 
 bool TimelineViewRuler::ZoomAbout(float zoom, double frame, double x)
@@ -245,7 +275,7 @@ bool TimelineViewRuler::ZoomAbout(float zoom, double frame, double x)
     if (bounded != m_convertor.Zoom()) {
         m_convertor.SetZoom(bounded);
         update();
-        if (!Tell(&TimelineViewRuler::ZoomChanged, bounded))
+        if (!TellShown() || !Tell(&TimelineViewRuler::ZoomChanged, bounded))
             return false;
     }
     return SetLeftEdge(frame - Segment().PixelsToFrames(x));
@@ -338,8 +368,9 @@ void TimelineViewRuler::PressPlayHead(const QPoint& at)
         return;
     if (!Tell(&TimelineViewRuler::StartFramesChanged))
         return;
+    const QPointer<TimelineViewRuler> self(this);
     SetCurrentFrame(FrameAt(at.x()));
-    if (behaviour.pressEmitsFrames)
+    if (self && behaviour.pressEmitsFrames)
         Q_EMIT FramesChanged(Segment().currentFrame);
 }
 

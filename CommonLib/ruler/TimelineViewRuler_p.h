@@ -50,6 +50,7 @@ public:
     {
         change(m_convertor);
         update();
+        TellShown();
     }
     /// Changes every segment and repaints all.
     template <typename Change>
@@ -61,7 +62,7 @@ public:
     /// Fixes a colour of every segment that would else follow the palette.
     void SetColor(QColor RulerSegment::*role, const QColor& color);
     /// Moves the play head, within the range when that is limited. Repaints no more than where it
-    /// was and is. Returns whether it moved.
+    /// was and is. Returns whether it moved; a handler may have deleted the ruler then.
     bool SetCurrentFrame(int frame);
     int AvailableFrames() const;
     /// The frames that the user's play head can reach.
@@ -86,6 +87,11 @@ Q_SIGNALS:
     void ZoomChanged(float zoom);
     void OffsetFramesChanged(int frames);
     void sigRightClicked(QPoint pt);
+    /// Of calls as well, before the signals of the user's.
+    void CurrentFramesShown(int frames);
+    void ZoomShown(float zoom);
+    void OffsetShown();
+    void ColorsChanged();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -114,13 +120,16 @@ private:
         return !self.isNull();
     }
 
+    /// Tells what shows by now and has not been told.
+    bool TellShown();
     void TellRightClick(const QPoint& at);
     void PressPlayHead(const QPoint& at);
     void DragPlayHead(const QPoint& at);
     void DragZoomAndScroll(const QPoint& at);
     bool EndSingleClick();
     void QueueEndDrag();
-    void FollowPalette();
+    /// Whether a colour is another then.
+    bool FollowPalette();
     bool HasFixed(QColor RulerSegment::*role) const;
     /// Moves the play head for the user and reports it when it moved.
     bool MoveByUser(int frame);
@@ -142,6 +151,14 @@ private:
     RulerDragAdjustManager m_drag;
     QElapsedTimer m_sincePress;
     QBasicTimer m_scrollTimer;
+    struct Shown
+    {
+        int frame = 0;
+        float zoom = RulerConvertor::kDefaultMaxZoom;
+        int offsetFrames = 0;
+        int offsetPosition = 0;
+    };
+    Shown m_shown; // as it was told
     QPoint m_mouse;
     double m_wheelRest = 0; // part of a pixel that the wheel has yet to scroll
     bool m_inSingleClick = false;
