@@ -63,7 +63,7 @@ void Touch(const QStringList& paths, int round)
 /// Clips of ten frames on four levels, in turn of all files; end to end or all on one place.
 Node MakeProject(const QStringList& paths, int clips, bool isPiled)
 {
-    const Node project = Provider()->CreateProjectTimeline();
+    Node project = Provider()->CreateProjectTimeline();
     const auto composite = project.query<INLETimelineComposite>();
     for (int i = 0; i < clips; ++i) {
         const Node clip = Provider()->CreateMediaTimeline(paths[i % kFiles], false);

@@ -110,7 +110,7 @@ void Compare(const char* title, const Node& project, const QStringList& inputs, 
 
 Node OneClip(const QString& media)
 {
-    const Node project = Project();
+    Node project = Project();
     Add(project, Clip(media), 0);
     return project;
 }
@@ -118,7 +118,7 @@ Node OneClip(const QString& media)
 /// The second layer lies above the first: half as large, turned and half transparent.
 Node TwoLayers(const QString& media, const QString& other)
 {
-    const Node project = OneClip(media);
+    Node project = OneClip(media);
     const Node clip = Clip(other);
     const NLESizeF half = {0.5, 0.5};
     clip.query<INLETransform>()->SetScale(&half);
@@ -130,24 +130,17 @@ Node TwoLayers(const QString& media, const QString& other)
 
 QStringList TwoLayersInFfmpeg(const QString& media, const QString& other)
 {
-    return {"-i",
-            media,
-            "-i",
-            other,
-            "-filter_complex",
-            "[1:v]scale=960:540:flags=bilinear,format=yuva420p,rotate=10*PI/180:c=none:ow=rotw(10*"
-            "PI/180):oh=roth(10*PI/180),colorchannelmixer=aa=0.627[top];[0:v][top]overlay=(W-w)/2:("
-            "H-h)/2,format=yuv420p[v];[0:a][1:a]amix=normalize=0[a]",
-            "-map",
-            "[v]",
-            "-map",
-            "[a]"};
+    constexpr const char* filter =
+        "[1:v]scale=960:540:flags=bilinear,format=yuva420p,rotate=10*PI/180:c=none:ow=rotw(10*"
+        "PI/180):oh=roth(10*PI/180),colorchannelmixer=aa=0.627[top];[0:v][top]overlay=(W-w)/2:("
+        "H-h)/2,format=yuv420p[v];[0:a][1:a]amix=normalize=0[a]";
+    return {"-i", media, "-i", other, "-filter_complex", filter, "-map", "[v]", "-map", "[a]"};
 }
 
 /// A film of a small clip on a still of twelve megapixels.
 Node OnStill(const QString& media, const QString& still)
 {
-    const Node project = Project();
+    Node project = Project();
     const Node picture = Clip(still);
     const NLERange range = {0, kFrames - 1};
     picture->SetRange(&range);
@@ -161,19 +154,11 @@ Node OnStill(const QString& media, const QString& still)
 
 QStringList OnStillInFfmpeg(const QString& media, const QString& still)
 {
-    return {
-        "-i",
-        still,
-        "-i",
-        media,
-        "-filter_complex",
+    constexpr const char* filter =
         "[0:v]scale=1440:1080:flags=bilinear,pad=1920:1080:240:0,format=yuv420p,loop=-1:1[bottom]"
         ";[1:v]scale=960:540:flags=bilinear[top];[bottom][top]overlay=480:270:shortest=1,format="
-        "yuv420p[v]",
-        "-map",
-        "[v]",
-        "-map",
-        "1:a"};
+        "yuv420p[v]";
+    return {"-i", still, "-i", media, "-filter_complex", filter, "-map", "[v]", "-map", "1:a"};
 }
 
 /// What the size of a still costs: the film on a large one beside that on one of the size that it

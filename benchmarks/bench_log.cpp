@@ -117,7 +117,7 @@ QByteArray FirstLine(const QString& folder, const Round& round)
     round(path);
     QFile file(path);
     file.open(QIODevice::ReadOnly);
-    const QByteArray line = file.readLine();
+    QByteArray line = file.readLine();
     file.close();
     QFile::remove(path);
     return line;

@@ -89,7 +89,7 @@ Node Project()
 /// The second layer lies above the first, smaller, turned and half transparent.
 Node MakeTimeline(const QString& media, int layers)
 {
-    const Node project = Project();
+    Node project = Project();
     for (int level = 0; level < layers; ++level) {
         const Node clip = Provider()->CreateMediaTimeline(media, false);
         if (level > 0) {

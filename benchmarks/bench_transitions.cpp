@@ -61,7 +61,7 @@ void Add(const Node& project, const Node& node, int frames)
 /// first.
 Node Pair(const Node& from, const Node& to, const wchar_t* name, int frames)
 {
-    const Node project = Provider()->CreateProjectTimeline({{1920, 1080}, {25, 1}, 48000, 2, 3});
+    Node project = Provider()->CreateProjectTimeline({{1920, 1080}, {25, 1}, 48000, 2, 3});
     Add(project, from, frames);
     Add(project, to, frames);
     if (name)
