@@ -459,7 +459,7 @@ private slots:
         process.kill();
         QVERIFY(process.waitForFinished());
         const QStringList whole = Files(m_folder, "*.nlechunk");
-        QVERIFY(QFile::copy(m_folder + '/' + whole[0], m_folder + '/' + whole[0] + ".Ab12cd"));
+        QVERIFY(QFile::copy(m_folder + '/' + whole[0], m_folder + "/." + whole[0] + ".half"));
 
         const Node loaded = Load(project);
         Cache cache(loaded, m_folder);
