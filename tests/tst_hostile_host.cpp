@@ -168,7 +168,7 @@ private Q_SLOTS:
         QTest::addColumn<Call>("call");
         QTest::addColumn<bool>("mayBe");
 #define ROW_OF(INTERFACE, METHOD, MAY_BE)                                                          \
-    QTest::newRow(#INTERFACE "::" #METHOD) << Call(&NullCall<&INTERFACE::METHOD>::Make) << MAY_BE;
+    QTest::newRow(#INTERFACE "::" #METHOD) << Call(&NullCall<&INTERFACE::METHOD>::Make) << (MAY_BE);
 #define ROW(INTERFACE, METHOD) ROW_OF(INTERFACE, METHOD, false)
 #define ROW_WHERE_NULL_SAYS_SOMETHING(INTERFACE, METHOD) ROW_OF(INTERFACE, METHOD, true)
         ROW_WHERE_NULL_SAYS_SOMETHING(INLEEditing, GetStepCounts)

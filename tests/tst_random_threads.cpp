@@ -225,7 +225,7 @@ private Q_SLOTS:
         // Editing stays here.
         Caller editor(m_seed, m_folder.filePath("editor"));
         int edits = 0;
-        for (QElapsedTimer timer = Started(); timer.elapsed() < m_seconds * 1000; ++edits) {
+        for (QElapsedTimer timer = Started(); timer.elapsed() < qint64(m_seconds) * 1000; ++edits) {
             const Node clip = engine.Trimmed(engine.Colour(Qt::blue), 0, editor.Any(0, 20));
             editor.Any(0, 2) == 0 ? editing->Undo()
                                   : editing->Place(clip.get(), editor.Any(0, 90), editor.Any(0, 2),
