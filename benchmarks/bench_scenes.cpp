@@ -22,6 +22,10 @@ namespace {
 constexpr int kFilms = 3;
 constexpr int kShots = 12;
 
+constexpr const char* kPan =
+    "mandelbrot=size=1280x360:rate=25:start_scale=1,select=eq(n\\,0),loop=-1:1,"
+    "setpts=N/25/TB,crop=640:360:x=n*6:y=0";
+
 /// What shots are made of: still, moving and noisy pictures, zooms and pans.
 const char* const kSources[] = {
     "testsrc2=@",
@@ -32,8 +36,7 @@ const char* const kSources[] = {
     "life=@:mold=10:ratio=0.1:death_color=#C83232:life_color=#00ff00",
     "gradients=@:c0=#203060:c1=#e0a040:x0=0:y0=0:x1=600:y1=350:nb_colors=2",
     "sierpinski=@:type=triangle",
-    "mandelbrot=size=1280x360:rate=25:start_scale=1,select=eq(n\\,0),loop=-1:1,"
-    "setpts=N/25/TB,crop=640:360:x=n*6:y=0",
+    kPan,
     "testsrc=@",
 };
 
