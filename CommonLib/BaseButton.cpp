@@ -55,7 +55,7 @@ void BaseButton::SetEnabled(bool enabled)
     setEnabled(enabled);
 }
 
-void BaseButton::enterEvent(QEvent* event)
+void BaseButton::enterEvent(AnyQt::EnterEvent* event)
 {
     QPushButton::enterEvent(event);
     Q_EMIT sigEnter(m_id);

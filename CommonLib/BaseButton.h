@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "Com/AnyQt.h"
 #include "CommonLib/CommonLibExport.h"
 
 #include <QPoint>
@@ -41,7 +42,7 @@ Q_SIGNALS:
     void IdChanged(int id); ///< by the property
 
 protected:
-    void enterEvent(QEvent* event) override;
+    void enterEvent(AnyQt::EnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
 private:

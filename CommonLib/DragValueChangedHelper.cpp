@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/DragValueChangedHelper_p.h"
 
+#include "Com/AnyQt.h"
+
 #include <QApplication>
 #include <QMouseEvent>
 #include <QWidget>
@@ -229,7 +231,7 @@ bool DragValueChangedHelper::Press(const QMouseEvent& event)
     m_pressed = true;
     m_firstMove = true;
     ++m_drag;
-    s_press = std::make_unique<QMouseEvent>(event);
+    s_press = AnyQt::CopyOf(event);
     s_last = this;
     return true;
 }
@@ -354,7 +356,7 @@ bool DragValueChangedHelper::Release(QObject* receiver, QMouseEvent& event)
 void DragValueChangedHelper::PlaceRelease(const QWidget& receiver, QMouseEvent& event) const
 {
     if (m_parks && !receiver.rect().contains(event.pos()))
-        event.setLocalPos(receiver.mapFromGlobal(m_pressPos));
+        AnyQt::SetPosition(event, receiver.mapFromGlobal(m_pressPos));
 }
 
 // Below the blank one in a drag.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/FileOperation.h"
 
+#include "Com/AnyQt.h"
 #include "CommonLib/PathOperation.h"
 #include "CommonLib/system/RegularFile_p.h"
 
@@ -25,19 +26,13 @@ bool IsSameFile(const QString& left, const QString& right)
     return leftInfo.exists() && rightInfo.exists() && leftInfo == rightInfo;
 }
 
-void SetEncoding(QTextStream& stream, bool utf8)
-{
-    if (utf8)
-        stream.setCodec("UTF-8");
-}
-
 QString ReadAll(const QString& path, bool utf8, QIODevice::OpenMode mode)
 {
     QFile file(path);
     if (!OpenRegularFile(file, QIODevice::ReadOnly | mode))
         return QString();
     QTextStream stream(&file);
-    SetEncoding(stream, utf8);
+    AnyQt::SetEncoding(stream, utf8);
     return stream.readAll();
 }
 
@@ -47,7 +42,7 @@ void WriteAll(const QString& path, const QString& text, bool utf8, QIODevice::Op
     if (!OpenRegularFile(file, QIODevice::WriteOnly | QIODevice::Truncate | mode))
         return;
     QTextStream stream(&file);
-    SetEncoding(stream, utf8);
+    AnyQt::SetEncoding(stream, utf8);
     stream << text;
 }
 

@@ -124,7 +124,7 @@ int ImageTextButton::ImageWidth() const
     return m_image->iconSize().width();
 }
 
-void ImageTextButton::enterEvent(QEvent* event)
+void ImageTextButton::enterEvent(AnyQt::EnterEvent* event)
 {
     QWidget::enterEvent(event);
     PassToText(event);

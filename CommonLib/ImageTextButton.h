@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "Com/AnyQt.h"
 #include "CommonLib/CommonLibExport.h"
 
 #include <QIcon>
@@ -49,7 +50,7 @@ Q_SIGNALS:
     void SettingsChanged(); ///< a property has changed
 
 protected:
-    void enterEvent(QEvent* event) override;
+    void enterEvent(AnyQt::EnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

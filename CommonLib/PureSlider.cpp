@@ -155,7 +155,7 @@ void PureSlider::FollowMouse(QMouseEvent* event, int x)
     const qint64 length = qMax(width(), 1);
     const qint64 value = (x * range + m_minimum * length) / length;
     const QPointer<PureSlider> self(this);
-    SetValue(static_cast<int>(qBound<qint64>(m_minimum, value, m_maximum)));
+    SetValue(static_cast<int>(qBound(qint64(m_minimum), value, qint64(m_maximum))));
     // Qt would look for the parent of a slider that its handler has deleted.
     event->setAccepted(!self);
 }
@@ -174,7 +174,7 @@ SliderSteps PureSlider::Steps() const
 void PureSlider::wheelEvent(QWheelEvent* event)
 {
     const double target = Steps().Target(*event) + m_wheelRest;
-    const double limited = qBound<double>(m_minimum, std::trunc(target), m_maximum);
+    const double limited = qBound(double(m_minimum), std::trunc(target), double(m_maximum));
     m_wheelRest = target - std::trunc(target);
     event->accept();
     SetValue(static_cast<int>(limited));
@@ -185,7 +185,7 @@ void PureSlider::keyPressEvent(QKeyEvent* event)
     const std::optional<double> target = Steps().Target(*event);
     if (!target)
         return QWidget::keyPressEvent(event);
-    SetValue(static_cast<int>(qBound<double>(m_minimum, *target, m_maximum)));
+    SetValue(static_cast<int>(qBound(double(m_minimum), *target, double(m_maximum))));
 }
 
 void PureSlider::focusInEvent(QFocusEvent* event)

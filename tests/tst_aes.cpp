@@ -161,7 +161,7 @@ private slots:
         QTest::addColumn<QByteArray>("cipher");
         const auto row = [](const char* name, Mode mode, const QByteArray& key, const char* plain,
                             const char* cipher) {
-            QTest::addRow("%s, %d bits", name, 8 * key.size())
+            QTest::addRow("%s, %d bits", name, 8 * int(key.size()))
                 << int(mode) << key << FromHex(plain) << FromHex(cipher);
         };
         const char* plain197 = "00112233445566778899aabbccddeeff"; // FIPS-197, appendix C

@@ -173,7 +173,8 @@ private Q_SLOTS:
                              [&](const Entry& entry) { return entry.state == state; });
             QVERIFY2(kept != entries.rend(), state.constData());
             const int lost = kept == entries.rbegin() ? 0 : int(end - (kept - 1)->when);
-            qInfo("killed after %5d ms and %d edits: %d ms lost", run, entries.size() - 1, lost);
+            qInfo("killed after %5d ms and %d edits: %d ms lost", run, int(entries.size()) - 1,
+                  lost);
             QVERIFY(lost <= kMostLost);
         }
     }

@@ -33,7 +33,7 @@ ParameterValues ValuesOf(const QByteArray& effect, const Settings& settings)
     for (const auto& [name, value] : settings) {
         const int index = values.Declared().IndexOf(name);
         const bool isSet =
-            index >= 0 && (value.type() == QVariant::String
+            index >= 0 && (value.userType() == QMetaType::QString
                                ? values.SetText(index, value.toString().toStdWString())
                                : values.SetNumber(index, value.toDouble()));
         if (!isSet)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // Marks of files and markers of nodes in the open engine.
+#include "Com/AnyQt.h"
 #include "EngineApi/INLEMarkers.h"
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
@@ -202,8 +203,9 @@ private slots:
         const Marks aria = {QString("25 %1ria").arg(QChar(0xC4))};
         QTest::newRow("Windows-1252") << "FILE \"x.wav\" WAVE\r\n" + track << aria;
         const QByteArray utf16 =
-            QTextCodec::codecForName("UTF-16LE")
-                ->fromUnicode("FILE x.wav WAVE\n" + QString::fromLatin1(track));
+            AnyQt::TextCodec::Named("UTF-16LE")
+                ->Encode(QChar(QChar::ByteOrderMark) + QStringLiteral("FILE x.wav WAVE\n") +
+                         QString::fromLatin1(track));
         QTest::newRow("UTF-16") << utf16 << aria;
         QTest::newRow("several files, the first counts")
             << "FILE x.wav WAVE\n" + track + "FILE y.wav WAVE\n" + track << aria;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Com/AnyQt.h"
 #include "NLECore/media/AudioDecoder.h"
 #include "NLECore/media/FrameDecoder.h"
 #include "NLECore/media/PictureCache.h"
@@ -6,7 +7,6 @@
 #include "tests/support/Deviation.h"
 #include "tests/support/MediaFixture.h"
 
-#include <QTextCodec>
 #include <QtTest>
 
 #include <cmath>
@@ -227,7 +227,7 @@ private slots:
     {
         QVERIFY(folder.isValid());
         // File names outside ASCII, whatever the locale of the run.
-        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+        AnyQt::UseUtf8();
         setlocale(LC_NUMERIC, "de_DE.UTF-8");
     }
 

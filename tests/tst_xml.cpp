@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Com/AnyQt.h"
 #include "CommonLib/XmlOperation.h"
 
 #include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
-#include <QTextCodec>
 #include <QtTest>
 
 #ifdef Q_OS_LINUX
@@ -52,7 +52,8 @@ QByteArray LongEntity(int length, int count)
 // As UTF-16 with its mark, so that every character takes two bytes.
 QByteArray Wide(const QByteArray& content)
 {
-    return QTextCodec::codecForName("UTF-16")->fromUnicode(QString::fromLatin1(content));
+    return AnyQt::TextCodec::Named("UTF-16")->Encode(QChar(QChar::ByteOrderMark) +
+                                                     QString::fromLatin1(content));
 }
 
 // Text of pieces that are hard to write; adds what of it XML can hold.

@@ -155,14 +155,16 @@ void CaptionEnvironment::AddFonts(const QString& folder)
     if (!QFileInfo(folder).isDir() || !m_library)
         return;
     BaseLog* log = GetGlobalLogInstance();
-    log->LogInfo(kSourcePath, kAddFontsName, __LINE__, "AddFonts Fontcount:%d", m_fonts.size());
+    log->LogInfo(kSourcePath, kAddFontsName, __LINE__, "AddFonts Fontcount:%d",
+                 static_cast<int>(m_fonts.size()));
     ClearFonts();
     QString completed = folder;
     if (!folder.endsWith('\\') && !folder.endsWith('/'))
         completed += QDir::separator();
     m_library->AddFontFolder(NativeWide(completed).c_str());
     InitSystemFont();
-    log->LogInfo(kSourcePath, kAddFontsName, __LINE__, "AddFonts Fontcount:%d", m_fonts.size());
+    log->LogInfo(kSourcePath, kAddFontsName, __LINE__, "AddFonts Fontcount:%d",
+                 static_cast<int>(m_fonts.size()));
 }
 
 void CaptionEnvironment::AddSystemFonts()

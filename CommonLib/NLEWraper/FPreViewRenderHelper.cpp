@@ -494,12 +494,13 @@ void FPreViewRenderHelper::delayedUpdate()
     EnsureCache();
     Register(m_asynUpdateUserDatas, this);
     // The task holds what it needs: the helper may be gone when it ends.
-    QtConcurrent::run([cache = m_backgroundCache, helper = static_cast<void*>(this)] {
-        if (cache)
-            cache->Update();
-        OnUpdate(nullptr, 0, 0, 0, 0, helper);
-        LOG_INFO("delayedUpdate", "delayedUpdate Finished");
-    });
+    static_cast<void>(
+        QtConcurrent::run([cache = m_backgroundCache, helper = static_cast<void*>(this)] {
+            if (cache)
+                cache->Update();
+            OnUpdate(nullptr, 0, 0, 0, 0, helper);
+            LOG_INFO("delayedUpdate", "delayedUpdate Finished");
+        }));
 }
 
 void FPreViewRenderHelper::TrigerAutoRender()

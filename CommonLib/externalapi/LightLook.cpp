@@ -77,9 +77,9 @@ QString ToLightStyles(const QString& dark)
     int end = 0; // of what has been taken over
     for (auto matches = color.globalMatch(dark); matches.hasNext();) {
         const QRegularExpressionMatch match = matches.next();
-        light += dark.midRef(end, match.capturedStart() - end);
+        light += dark.mid(end, match.capturedStart() - end);
         light += ToLightColor(QColor(match.captured())).name();
         end = match.capturedEnd();
     }
-    return light + dark.midRef(end);
+    return light + dark.mid(end);
 }

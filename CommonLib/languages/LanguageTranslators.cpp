@@ -17,7 +17,7 @@ LanguageTranslators::LanguageTranslators(Language_Locale value) : locale(Languag
     for (const QString& file : FindModuleFiles("Lang/" + name)) {
         auto* translator = new QTranslator;
         if (IsSoundTranslationFile(file))
-            translator->load(file);
+            static_cast<void>(translator->load(file)); // else it stays empty
         translators.append(translator);
     }
 }

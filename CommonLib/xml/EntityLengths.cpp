@@ -22,9 +22,9 @@ const std::array<Section, 3> kSections = {{{QLatin1String("<!--"), QLatin1String
                                            {QLatin1String("<?"), QLatin1String("?>")}}};
 
 // Behind the section that begins there, or behind the one character.
-int EndOfSection(const QStringRef& text, int at)
+int EndOfSection(QStringView text, int at)
 {
-    const QStringRef rest = text.mid(at);
+    const QStringView rest = text.mid(at);
     for (const Section& section : kSections) {
         if (!rest.startsWith(section.begin))
             continue;
@@ -44,7 +44,7 @@ EntityLengths::EntityLengths(const QXmlStreamEntityDeclarations& declarations)
         if (m_entities.contains(name))
             continue; // the first declaration counts
         m_entities.insert(name, {value});
-        m_longestName = std::max(m_longestName, name.size());
+        m_longestName = std::max<int>(m_longestName, name.size());
     }
     for (Entity& entity : m_entities)
         Measure(entity, 0);
@@ -53,7 +53,7 @@ EntityLengths::EntityLengths(const QXmlStreamEntityDeclarations& declarations)
 // Calls \a visit with what may be the name of an entity: what stands between "&" and ";". Within an
 // entity a section both begins and ends, or the reader fails.
 template <typename Visit>
-void EntityLengths::ForEachName(const QStringRef& text, Visit visit) const
+void EntityLengths::ForEachName(QStringView text, Visit visit) const
 {
     for (int at = 0; at < text.size();) {
         const QChar character = text.at(at);
@@ -78,7 +78,7 @@ void EntityLengths::Measure(Entity& entity, int depth)
     if (depth > kDeepestEntity)
         return;
     qint64 length = entity.value.size();
-    ForEachName(QStringRef(&entity.value), [&](const QString& name) {
+    ForEachName(entity.value, [&](const QString& name) {
         const auto named = m_entities.find(name);
         if (named == m_entities.end())
             return;
@@ -88,7 +88,7 @@ void EntityLengths::Measure(Entity& entity, int depth)
     entity.length = length;
 }
 
-qint64 EntityLengths::OfAll(const QStringRef& content) const
+qint64 EntityLengths::OfAll(QStringView content) const
 {
     qint64 length = 0;
     ForEachName(content, [&](const QString& name) {

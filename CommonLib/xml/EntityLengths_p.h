@@ -18,7 +18,7 @@ public:
 
     bool IsEmpty() const { return m_entities.isEmpty(); }
     /// Characters of all references in \a content, which begins behind the document type.
-    qint64 OfAll(const QStringRef& content) const;
+    qint64 OfAll(QStringView content) const;
 
 private:
     struct Entity
@@ -29,7 +29,7 @@ private:
 
     void Measure(Entity& entity, int depth);
     template <typename Visit>
-    void ForEachName(const QStringRef& text, Visit visit) const;
+    void ForEachName(QStringView text, Visit visit) const;
 
     QHash<QString, Entity> m_entities;
     int m_longestName = 0;

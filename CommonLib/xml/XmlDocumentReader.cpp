@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/xml/XmlDocument_p.h"
 
+#include "Com/AnyQt.h"
 #include "CommonLib/xml/EntityLengths_p.h"
 
 #include <QDomDocumentFragment>
 #include <QRegularExpression>
-#include <QTextCodec>
 #include <QXmlStreamReader>
 
 namespace {
@@ -38,14 +38,11 @@ const char* FirstCodec(const QByteArray& content)
 // so.
 QString Decoded(const QByteArray& content, const QString& encoding)
 {
-    QTextCodec* codec = QTextCodec::codecForName(encoding.toLatin1());
-    if (encoding.isEmpty())
-        codec = QTextCodec::codecForUtfText(content, QTextCodec::codecForName(FirstCodec(content)));
-    if (!codec)
-        return QString();
-    QTextCodec::ConverterState state;
-    const QString text = codec->toUnicode(content.constData(), content.size(), &state);
-    return state.invalidChars == 0 ? text : QString();
+    std::optional<AnyQt::TextCodec> codec = AnyQt::TextCodec::Named(encoding.toLatin1());
+    if (encoding.isEmpty()) {
+        codec = AnyQt::TextCodec::Marked(content, *AnyQt::TextCodec::Named(FirstCodec(content)));
+    }
+    return codec ? codec->Decode(content).value_or(QString()) : QString();
 }
 
 // Qt's own builder drops blank sections.
@@ -145,7 +142,8 @@ private:
             return true;
         const QString text = Decoded(m_content, m_reader.documentEncoding().toString());
         const auto read = static_cast<int>(m_reader.characterOffset());
-        return read <= text.size() && lengths.OfAll(text.midRef(read)) <= kLargestXmlGrowth;
+        return read <= text.size() &&
+               lengths.OfAll(QStringView(text).mid(read)) <= kLargestXmlGrowth;
     }
 
     bool AddElement()

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/xml/XmlDocument_p.h"
 
+#include "Com/AnyQt.h"
+
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTextCodec>
 #include <QTextStream>
 #include <QXmlStreamReader>
 
@@ -13,6 +14,7 @@
 namespace {
 
 constexpr int kIndent = 4;
+constexpr int kPiece = 65536; // characters that are encoded at once, or more
 const char kDeclaration[] = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>";
 
 bool IsReadable(const QByteArray& content)
@@ -47,10 +49,10 @@ QString Legal(const QString& text)
     for (int at = 0; at < text.size(); ++at) {
         if (IsLegal(text, at))
             continue;
-        legal += text.midRef(copied, at - copied);
+        legal.append(text.constData() + copied, at - copied);
         copied = at + 1;
     }
-    return copied == 0 ? text : legal + text.midRef(copied);
+    return copied == 0 ? text : legal + text.mid(copied);
 }
 
 bool IsBlank(const QString& text)
@@ -83,37 +85,33 @@ class Encoding
 public:
     // As declared; UTF-8 when nothing known is.
     explicit Encoding(const QString& declaration)
+        : m_codec(Codec(declaration)), m_isUnicode(m_codec.Name().startsWith("UTF-"))
     {
-        static const QRegularExpression encoding(
-            QStringLiteral("encoding\\s*=\\s*[\"']([^\"']*)[\"']"));
-        m_codec = QTextCodec::codecForName(encoding.match(declaration).captured(1).toLatin1());
-        if (!m_codec)
-            m_codec = QTextCodec::codecForName("UTF-8");
-        m_isUnicode = m_codec->name().startsWith("UTF-");
     }
 
-    QTextCodec* Codec() const { return m_codec; }
+    // The reader takes the first of its characters for UTF-16.
+    bool IsTooWide() const { return m_codec.Name().startsWith("UTF-32"); }
+    QByteArray Encode(const QString& text) const { return m_codec.Encode(text); }
     // With something else in place of what cannot be encoded.
     QString Nearest(const QString& text) const
     {
-        return m_isUnicode ? text : Legal(m_codec->toUnicode(m_codec->fromUnicode(text)));
+        return m_isUnicode ? text : Legal(m_codec.Decode(m_codec.Encode(text)).value_or(QString()));
     }
     bool Has(const QString& text) const { return m_isUnicode || Nearest(text) == text; }
 
 private:
-    QTextCodec* m_codec;
+    static AnyQt::TextCodec Codec(const QString& declaration)
+    {
+        static const QRegularExpression encoding(
+            QStringLiteral("encoding\\s*=\\s*[\"']([^\"']*)[\"']"));
+        const QByteArray name = encoding.match(declaration).captured(1).toLatin1();
+        const auto codec = AnyQt::TextCodec::Named(name);
+        return codec ? *codec : *AnyQt::TextCodec::Named("UTF-8");
+    }
+
+    AnyQt::TextCodec m_codec;
     bool m_isUnicode;
 };
-
-QByteArray Encoded(const QString& text, const Encoding& encoding)
-{
-    QByteArray content;
-    QTextStream stream(&content);
-    stream.setCodec(encoding.Codec());
-    stream << text;
-    stream.flush();
-    return content;
-}
 
 bool IsDeclaration(const QDomNode& node)
 {
@@ -129,9 +127,7 @@ QString Declaration(const QDomDocument& document)
         return QString();
     const QString declaration = "<?xml " + first.nodeValue() + "?>";
     const Encoding encoding(declaration);
-    // The reader takes the first of these characters for UTF-16.
-    const bool isWide = encoding.Codec()->name().startsWith("UTF-32");
-    return !isWide && IsReadable(Encoded(declaration + "<root/>", encoding))
+    return !encoding.IsTooWide() && IsReadable(encoding.Encode(declaration + "<root/>"))
                ? declaration
                : QString(kDeclaration);
 }
@@ -146,12 +142,12 @@ class Writer
 {
 public:
     Writer(const QDomDocument& document, QIODevice& device)
-        : m_document(document)
+        : m_device(device)
+        , m_document(document)
         , m_declaration(Declaration(document))
         , m_encoding(m_declaration)
-        , m_stream(&device)
+        , m_stream(&m_text)
     {
-        m_stream.setCodec(m_encoding.Codec());
     }
 
     void Write()
@@ -164,9 +160,18 @@ public:
             if (!IsInline(node) && (!node.isElement() || node == root))
                 WriteNode(node, 0);
         }
+        WriteOut();
     }
 
 private:
+    // What there is of the text; it ends with a tag, so that no encoding goes on across it.
+    void WriteOut()
+    {
+        m_stream.flush();
+        m_device.write(m_encoding.Encode(m_text));
+        m_text.clear();
+    }
+
     void WriteType()
     {
         if (m_document.doctype().name().isEmpty())
@@ -221,6 +226,8 @@ private:
             m_stream << "/>";
         }
         EndLine(element);
+        if (m_text.size() >= kPiece)
+            WriteOut();
     }
 
     void WriteChildren(const QDomElement& element, int level)
@@ -386,10 +393,12 @@ private:
         return result;
     }
 
+    QIODevice& m_device;
     const QDomDocument m_document;
     const QString m_declaration;
     const Encoding m_encoding;
-    QTextStream m_stream;
+    QString m_text;       // not written out yet
+    QTextStream m_stream; // into m_text
     QString m_type;
     QHash<QString, QString> m_names;
     QHash<QString, QString> m_entities; // what stands for each; the document type is read for it

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/CueSheet.h"
 
+#include "Com/AnyQt.h"
+
 #include <QRegularExpression>
-#include <QTextCodec>
 
 namespace nle {
 namespace {
@@ -11,13 +12,13 @@ constexpr std::int64_t kFramesPerSecond = 75;
 
 QString Decode(const QByteArray& bytes)
 {
-    QTextCodec* const unicode =
-        QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("UTF-8"));
-    QTextCodec::ConverterState state;
-    QString text = unicode->toUnicode(bytes.constData(), bytes.size(), &state);
-    QTextCodec* const old = QTextCodec::codecForName("windows-1252");
-    const bool isUnicode = state.invalidChars == 0 && state.remainingChars == 0;
-    return isUnicode || !old ? text : old->toUnicode(bytes);
+    using AnyQt::TextCodec;
+    bool isWhole = false;
+    const auto text = TextCodec::Marked(bytes, *TextCodec::Named("UTF-8")).Decode(bytes, &isWhole);
+    if (text && isWhole)
+        return *text;
+    const auto old = TextCodec::Named("windows-1252");
+    return old ? old->Decode(bytes).value_or(QString()) : QString::fromLatin1(bytes);
 }
 
 // What stands in quotes, or up to a blank without them.

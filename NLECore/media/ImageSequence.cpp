@@ -27,7 +27,7 @@ int NumberIn(const QString& name, const QString& before, const QString& after, i
     if (length < digits || length > kMostDigits || !name.startsWith(before) ||
         !name.endsWith(after))
         return -1;
-    const QStringRef number = name.midRef(before.size(), length);
+    const QStringView number = QStringView(name).mid(before.size(), length);
     const bool isPadded = number.at(0) == QLatin1Char('0') && length > digits;
     const bool isNumber = std::all_of(number.begin(), number.end(), [](QChar c) {
         return c >= QLatin1Char('0') && c <= QLatin1Char('9');

@@ -174,7 +174,7 @@ void Note(HRESULT result, NLEReason reason, const QString& words, bool isLogged)
     noted.result = result;
     noted.reason = reason;
     noted.isLogged = isLogged;
-    const int length = std::min(words.size(), LastFailure::kMostWords - 1);
+    const int length = std::min<int>(words.size(), LastFailure::kMostWords - 1);
     // Each unit of UTF-16 gives one character at the most.
     const int written = QStringView(words).left(length).toWCharArray(noted.words);
     noted.words[written] = L'\0';

@@ -92,7 +92,7 @@ int main(int argc, char** argv)
     }
     const long runs = argc > 2 ? std::atol(argv[2]) : 0;
     const unsigned seed = argc > 3 ? unsigned(std::atol(argv[3])) : std::random_device()();
-    std::printf("%d inputs, %ld changed ones of seed %u\n", corpus.size(), runs, seed);
+    std::printf("%d inputs, %ld changed ones of seed %u\n", int(corpus.size()), runs, seed);
     std::fflush(stdout);
     std::for_each(corpus.begin(), corpus.end(), Give);
     Random random(seed);

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "Com/AnyQt.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QString>
-#include <QTextCodec>
 #include <QVector>
 #include <QtEndian>
 
@@ -59,8 +60,7 @@ inline QByteArray Renamed(QByteArray font, const QString& family)
     QByteArray strings;
     int record = 6;
     for (const auto& [name, string] : texts) {
-        QByteArray text = QTextCodec::codecForName("UTF-16BE")->fromUnicode(string);
-        text = text.right(2 * string.size()); // the codec may write a byte order mark
+        const QByteArray text = AnyQt::TextCodec::Named("UTF-16BE")->Encode(string);
         for (const int value : {3, 1, 0x409, name, int(text.size()), int(strings.size())}) {
             Put<quint16>(names, record, quint16(value));
             record += 2;

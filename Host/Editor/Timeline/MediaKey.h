@@ -12,14 +12,16 @@ struct MediaKey
     int kind;
     int index;
 
+    using Hash = decltype(qHash(QString(), 0)); ///< its size is Qt's choice
+
     friend bool operator==(const MediaKey& a, const MediaKey& b)
     {
         return a.index == b.index && a.kind == b.kind && a.stream == b.stream && a.path == b.path;
     }
     // NOLINTNEXTLINE(readability-identifier-naming): the name that Qt looks for
-    friend uint qHash(const MediaKey& key, uint seed)
+    friend Hash qHash(const MediaKey& key, Hash seed)
     {
-        const uint place = seed ^ (static_cast<uint>(key.index) * 31) ^
+        const Hash place = seed ^ (static_cast<uint>(key.index) * 31) ^
                            (static_cast<uint>(key.kind) << 20) ^ (key.stream << 28);
         return qHash(key.path, place);
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Timeline/TimelineView.h"
 
+#include "Com/AnyQt.h"
 #include "Host/Editor/Model/Project.h"
 #include "Host/Editor/Model/Selection.h"
 #include "Host/Editor/Timeline/AccessibleTimeline.h"
@@ -375,9 +376,7 @@ void TimelineView::timerEvent(QTimerEvent* event)
 /// The ruler zooms and scrolls about the pointer as it does for events of its own.
 void TimelineView::ToRuler(const QMouseEvent& event)
 {
-    QMouseEvent copy(event.type(), event.localPos(), event.windowPos(), event.screenPos(),
-                     event.button(), event.buttons(), event.modifiers());
-    QApplication::sendEvent(m_ruler.focusProxy(), &copy);
+    QApplication::sendEvent(m_ruler.focusProxy(), AnyQt::CopyOf(event).get());
 }
 
 void TimelineView::wheelEvent(QWheelEvent* event)
