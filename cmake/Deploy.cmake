@@ -25,7 +25,7 @@ function(commonlib_deploy target)
   endif()
   add_custom_command(TARGET ${target} POST_BUILD VERBATIM COMMAND_EXPAND_LISTS
     COMMAND ${CMAKE_COMMAND} -E copy_if_different $<TARGET_RUNTIME_DLLS:${target}> ${to})
-  get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
+  get_target_property(qmake Qt${COMMONLIB_QT}::qmake IMPORTED_LOCATION)
   get_filename_component(tools ${qmake} DIRECTORY)
   find_program(WINDEPLOYQT_PROGRAM windeployqt HINTS ${tools})
   if(WINDEPLOYQT_PROGRAM)

@@ -29,6 +29,10 @@ add_library(ProjectSettings INTERFACE)
 target_compile_definitions(ProjectSettings INTERFACE
   QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
   QT_DEPRECATED_WARNINGS)
+# What only Qt 6 has other names for keeps those of both.
+if(COMMONLIB_QT EQUAL 6)
+  target_compile_definitions(ProjectSettings INTERFACE QT_DEPRECATED_WARNINGS_SINCE=0x050F00)
+endif()
 if(MSVC)
   # Exported classes hold members of Qt's and the standard library's types, which host and
   # library get from the same compiler (4251, 4275). The C library's functions are not to be

@@ -2,15 +2,15 @@
 # Makes the translations beside the executables, Lang/<language>/*.qm, with Qt's tools, those of
 # this machine also when the build is for another. Part of the installed package.
 
-get_target_property(qmake_program Qt5::qmake IMPORTED_LOCATION)
+get_target_property(qmake_program Qt${COMMONLIB_QT}::qmake IMPORTED_LOCATION)
 get_filename_component(qt_tools ${qmake_program} DIRECTORY)
-find_program(LRELEASE_PROGRAM NAMES lrelease lrelease-qt5 HINTS ${qt_tools} /usr/lib/qt5/bin)
-find_program(LCONVERT_PROGRAM NAMES lconvert lconvert-qt5 HINTS ${qt_tools} /usr/lib/qt5/bin)
+find_program(LRELEASE_PROGRAM NAMES lrelease lrelease-qt${COMMONLIB_QT} HINTS ${qt_tools} /usr/lib/qt${COMMONLIB_QT}/bin)
+find_program(LCONVERT_PROGRAM NAMES lconvert lconvert-qt${COMMONLIB_QT} HINTS ${qt_tools} /usr/lib/qt${COMMONLIB_QT}/bin)
 # Texts are the same on every system: what the Qt that is linked lacks may come from this machine's.
 execute_process(COMMAND ${qmake_program} -query QT_INSTALL_TRANSLATIONS
   OUTPUT_VARIABLE qt_translations OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET)
 find_path(QT_TRANSLATIONS qtbase_de.qm
-  HINTS ${qt_translations} ${qt_tools}/../translations PATHS /usr/share/qt5/translations
+  HINTS ${qt_translations} ${qt_tools}/../translations PATHS /usr/share/qt${COMMONLIB_QT}/translations
   NO_CMAKE_FIND_ROOT_PATH DOC "Folder of Qt's own translations")
 unset(qmake_program)
 unset(qt_tools)
@@ -23,7 +23,7 @@ set(COMMONLIB_QT_LANGUAGES de=de esp=es fr=fr it=it pt=pt_PT,pt,pt_BR ja=ja cht=
 
 function(commonlib_require_tool tool)
   if(NOT ${tool})
-    message(FATAL_ERROR "${tool} is missing (Debian: qttools5-dev-tools)")
+    message(FATAL_ERROR "${tool} is missing (Debian: qttools5-dev-tools, for Qt 6 qt6-l10n-tools)")
   endif()
 endfunction()
 
@@ -61,7 +61,7 @@ endfunction()
 # it, text by text. Without Qt's translations there is only what FILES have.
 function(commonlib_add_qt_translations target)
   if(NOT QT_TRANSLATIONS)
-    message(STATUS "Qt's own translations are missing (Debian: qttranslations5-l10n): "
+    message(STATUS "Qt's own translations are missing (Debian: qttranslations5-l10n, for Qt 6 qt6-translations-l10n): "
       "its dialogs and menus stay English in most languages")
   endif()
   set(made)

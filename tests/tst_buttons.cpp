@@ -27,8 +27,8 @@ QString Told(QSignalSpy& spy, const QWidget& widget)
     QString told;
     while (!spy.isEmpty()) {
         const QVariantList arguments = spy.takeFirst();
-        const QPoint at = arguments.value(1, widget.mapToGlobal({})).toPoint();
-        told += arguments[0].toString() + (at == widget.mapToGlobal({}) ? "" : " elsewhere");
+        const QPoint at = arguments.value(1, widget.mapToGlobal(QPoint())).toPoint();
+        told += arguments[0].toString() + (at == widget.mapToGlobal(QPoint()) ? "" : " elsewhere");
     }
     return told;
 }

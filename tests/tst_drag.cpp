@@ -341,7 +341,7 @@ private Q_SLOTS:
             {"release elsewhere",
              [this] {
                  PressElsewhere();
-                 QCursor::setPos(m_field->mapToGlobal({20, 10}));
+                 QCursor::setPos(m_field->mapToGlobal(QPoint(20, 10)));
              }},
             {"another drag",
              [this] {

@@ -239,12 +239,12 @@ private slots:
         QWidget window;
         window.setGeometry(100, 50, 400, 200);
         gSetMainWindow(nullptr, &window);
-        QCOMPARE(gGetTimelineCenterGlobalPos(timeline), window.mapToGlobal({199, 99}));
+        QCOMPARE(gGetTimelineCenterGlobalPos(timeline), window.mapToGlobal(QPoint(199, 99)));
         QWidget view(&window);
         view.setGeometry(0, 100, 400, 100);
         TimelineRuler ruler(&view);
         window.show();
-        QCOMPARE(gGetTimelineCenterGlobalPos(timeline), window.mapToGlobal({199, 149}));
+        QCOMPARE(gGetTimelineCenterGlobalPos(timeline), window.mapToGlobal(QPoint(199, 149)));
         gSetMainWindow(nullptr, nullptr);
     }
 

@@ -268,7 +268,7 @@ private slots:
         bool down = false;
         for (const QString& step : steps.split(' ')) {
             const QChar action = step[0];
-            actions[action](step.midRef(1).toInt());
+            actions[action](step.mid(1).toInt());
             QCoreApplication::processEvents();
             down = action == 'p' ? bar.CanChanged() : down && !QString("rdhbu").contains(action);
             QCOMPARE(bar.ButtonPressDown(), down);

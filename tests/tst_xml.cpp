@@ -241,7 +241,7 @@ private slots:
         Write(Path("good.xml"), content);
         QDomDocument document("old");
         QVERIFY(XmlOperation::OpenXmlFile(document, Path("good.xml"), QIODevice::ReadOnly));
-        QTEST(document.documentElement().text().size(), "characters");
+        QTEST(int(document.documentElement().text().size()), "characters");
     }
 
     void refuses_data()

@@ -1,26 +1,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/externalapi/DesktopMgr.h"
 
-#include <QApplication>
-#include <QDesktopWidget>
+#include "CommonLib/externalapi/ScreenWidget_p.h"
+
+#include <QGuiApplication>
 #include <QPointer>
 #include <QScreen>
 
 #include <algorithm>
 
 namespace {
-
-QWidget* WidgetOf(QScreen* screen)
-{
-    const int number = QGuiApplication::screens().indexOf(screen);
-    if (number < 0 || !qobject_cast<QApplication*>(QCoreApplication::instance()))
-        return nullptr;
-    // Qt offers no other widget for a screen.
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED
-    return QApplication::desktop()->screen(number);
-    QT_WARNING_POP
-}
 
 int DistanceTo(const QRect& area, const QPoint& point)
 {
@@ -41,7 +30,7 @@ DesktopMgr* DesktopMgr::GetInstance()
 
 QWidget* DesktopMgr::MainScreen() const
 {
-    return WidgetOf(QGuiApplication::primaryScreen());
+    return ScreenWidget(QGuiApplication::primaryScreen());
 }
 
 QWidget* DesktopMgr::ScreenWithPoint(QPoint point) const
@@ -51,5 +40,5 @@ QWidget* DesktopMgr::ScreenWithPoint(QPoint point) const
         screens.begin(), screens.end(), [&point](const QScreen* a, const QScreen* b) {
             return DistanceTo(a->geometry(), point) < DistanceTo(b->geometry(), point);
         });
-    return nearest == screens.end() ? nullptr : WidgetOf(*nearest);
+    return nearest == screens.end() ? nullptr : ScreenWidget(*nearest);
 }

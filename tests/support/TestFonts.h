@@ -113,7 +113,8 @@ inline QByteArray Boxes(const QString& family)
     QByteArray font = words({1, 0, count, 128, 3, count * 16 - 128});
     QByteArray contents;
     for (const auto& [tag, content] : tables) {
-        font += tag + words({0, 0, 0, 12 + 16 * count + contents.size(), 0, content.size()});
+        font +=
+            tag + words({0, 0, 0, 12 + 16 * count + int(contents.size()), 0, int(content.size())});
         contents += content + QByteArray(-content.size() & 3, '\0');
     }
     return Renamed(font + contents, family);

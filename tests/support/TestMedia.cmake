@@ -5,7 +5,7 @@ include_guard(GLOBAL)
 add_library(TestSupportMedia STATIC
   ${CMAKE_CURRENT_LIST_DIR}/TestMedia.cpp ${CMAKE_CURRENT_LIST_DIR}/TestMedia.h)
 target_include_directories(TestSupportMedia PUBLIC ${CMAKE_CURRENT_LIST_DIR})
-target_link_libraries(TestSupportMedia PUBLIC Qt5::Core Qt5::Gui PRIVATE ProjectSettings)
+target_link_libraries(TestSupportMedia PUBLIC Qt${COMMONLIB_QT}::Core Qt${COMMONLIB_QT}::Gui PRIVATE ProjectSettings)
 # In Wine the machine's own programs make them.
 if(WIN32 AND CMAKE_CROSSCOMPILING)
   foreach(program IN ITEMS ffmpeg melt)
