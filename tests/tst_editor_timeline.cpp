@@ -421,8 +421,9 @@ private Q_SLOTS:
         QSignalSpy told(&editor.project, &Project::DragRefused);
         editor.Do("click d; key Shift+L; drag b +0^1");
         QCOMPARE(told.size(), 1);
-        QVERIFY(told.takeFirst().first().toString().endsWith("(2)")); // the level, as its head has it
-        QCOMPARE(editor.project.Steps().count(), 1);                  // the lock
+        QVERIFY(
+            told.takeFirst().first().toString().endsWith("(2)")); // the level, as its head has it
+        QCOMPARE(editor.project.Steps().count(), 1);              // the lock
         editor.Do("drag b +5");
         QCOMPARE(told.size(), 0);
     }

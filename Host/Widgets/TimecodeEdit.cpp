@@ -32,7 +32,7 @@ QString Whole(const QString& text)
     return fields.join(QLatin1Char(':'));
 }
 
-}
+} // namespace
 
 TimecodeEdit::TimecodeEdit(QWidget* parent) : QLineEdit(parent)
 {

@@ -74,7 +74,7 @@ private:
     QComboBox* m_preset;
     QLineEdit* m_path;
     QString m_mayReplace; ///< chosen in a dialog that has asked; empty for none
-    QSize m_projectSize; ///< that was taken
+    QSize m_projectSize;  ///< that was taken
     QSpinBox* m_width = nullptr;
     QSpinBox* m_height = nullptr;
     QComboBox* m_rate = nullptr;

@@ -113,10 +113,10 @@ bool ReadTransition(const NLEComPtr<INLETimeline>& node, ClipRow& row)
     if (!transition)
         return false;
     row.kind = ClipKind::Transition;
-    row.name = EngineCatalog::TitleOf(
-        NLECatalog_Transition, EngineText([&](wchar_t* text, int capacity) {
-            return transition->GetTransitionName(text, capacity);
-        }));
+    row.name =
+        EngineCatalog::TitleOf(NLECatalog_Transition, EngineText([&](wchar_t* text, int capacity) {
+                                   return transition->GetTransitionName(text, capacity);
+                               }));
     return true;
 }
 

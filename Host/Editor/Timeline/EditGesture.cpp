@@ -29,9 +29,7 @@ void EditGesture::Move(const GesturePoint& point)
                 m_snapping.ClearLine();
                 return S_OK; // as it was
             };
-        return [this, way](INLEEditing& editing) {
-            return Edit(editing, way.frames, way.levels);
-        };
+        return [this, way](INLEEditing& editing) { return Edit(editing, way.frames, way.levels); };
     };
     if (m_project.Drag(call(distance), call(m_done)))
         m_done = distance;

@@ -54,6 +54,6 @@ private:
     QWidget* m_owner;
     QActionGroup* m_choices;
     QList<QAction*> m_actions;
-    QVector<int> m_groups; ///< where they begin
+    QVector<int> m_groups;  ///< where they begin
     QList<Entry> m_entries; ///< of the actions
 };

@@ -205,9 +205,9 @@ void EditorWindow::AddMenus()
     m_undo = AddStep(QT_TR_NOOP("Undo"), QKeySequence::Undo, true);
     m_redo = AddStep(QT_TR_NOOP("Redo"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z), false);
     using Group = TimelinePanel::ActionGroup;
-    QMenu* edit = AddMenu(QT_TR_NOOP("&Edit"), QList<QAction*>{m_undo, m_redo, nullptr} +
-                                                   m_timeline->Actions({Group::Clipboard,
-                                                                        Group::Selection}));
+    QMenu* edit =
+        AddMenu(QT_TR_NOOP("&Edit"), QList<QAction*>{m_undo, m_redo, nullptr} +
+                                         m_timeline->Actions({Group::Clipboard, Group::Selection}));
     edit->addSeparator();
     edit->addAction(AddAction(QT_TR_NOOP("Lift from in to out point"),
                               QKeySequence(Qt::Key_Semicolon),
