@@ -11,6 +11,10 @@ namespace {
 
 /// What the host's own widgets need beside the library's sheet.
 constexpr char kOwnRules[] = R"(
+/* Those with a picture are as narrow as small windows need them. */
+QToolButton { padding: 4px 6px; }
+QToolBar QToolButton { padding: 4px 12px; }
+QFileDialog QToolButton { padding: 2px; }
 #Host_SmallButton { padding: 0; }
 #Host_SectionTitle, #Host_SectionTitle:checked {
     background-color: #2c2f34; border: none; color: #d5d8dc;

@@ -192,7 +192,9 @@ void PlayerPanel::AddSound(QHBoxLayout& row)
 {
     AddButton(row, m_mute, Symbol::Sound);
     auto* volume = new ToolBarSlider(this, Qt::Horizontal);
-    volume->setFixedSize(kVolumeWidth, kVolumeHeight);
+    volume->setFixedHeight(kVolumeHeight);
+    volume->setMinimumWidth(kVolumeWidth / 2);
+    volume->setMaximumWidth(kVolumeWidth);
     volume->setRange(0, kFullVolume);
     volume->setValue(kFullVolume, false);
     Name(volume, QT_TR_NOOP("Volume"));

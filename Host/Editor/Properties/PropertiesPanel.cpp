@@ -34,7 +34,7 @@ namespace {
 
 constexpr int kMargin = 8;
 constexpr int kGap = 10;
-constexpr int kNarrowest = 340;
+constexpr int kNarrowest = 300;
 constexpr int kMostStrips = 2; // of the mixer, that are open at first
 
 } // namespace

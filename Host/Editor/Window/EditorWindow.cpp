@@ -224,14 +224,15 @@ void EditorWindow::AddMenus()
     KeepTranslated(move, [move] { move->setTitle(QApplication::translate("Timeline", "Move")); });
     move->addActions(m_timeline->Actions({Group::Moves}));
     timeline->addSeparator();
-    for (QAction* action : m_timeline->Actions({Group::Tools, Group::View}))
-        action ? timeline->addAction(action) : void(timeline->addSeparator());
+    timeline->addActions(m_timeline->Actions({Group::Tools}));
     QMenu* play = AddMenu(QT_TR_NOOP("&Play"), m_playerPanel->Actions());
     play->addSeparator();
     play->addAction(AddAction(QT_TR_NOOP("Render the preview, or stop it"),
                               QKeySequence(Qt::CTRL + Qt::Key_P), [this] { SwitchPreview(); }));
     KeepKeys(m_playerPanel->Actions(), m_timeline->Actions());
     QMenu* view = AddMenu(QT_TR_NOOP("&View"), m_panelSwitches);
+    view->addSeparator();
+    view->addActions(m_timeline->Actions({Group::View}));
     view->addSeparator();
     view->addMenu(new LanguageMenu(this));
     view->addAction(AddLightSwitch());
