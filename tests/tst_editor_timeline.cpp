@@ -141,7 +141,9 @@ public:
         QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, modifiers);
         enter.ignore();
         QApplication::sendEvent(&View(), &enter);
-        if (!enter.isAccepted())
+        QDragMoveEvent move(at, Qt::CopyAction, &data, Qt::LeftButton, modifiers);
+        QApplication::sendEvent(&View(), &move);
+        if (!enter.isAccepted() || !move.isAccepted())
             return false;
         QDropEvent drop(at, Qt::CopyAction, &data, Qt::LeftButton, modifiers);
         QApplication::sendEvent(&View(), &drop);
@@ -480,6 +482,8 @@ private Q_SLOTS:
             data.setData("application/x-commonlib-range", range);
         QVERIFY(editor.Drop(data, "11,0", modifier)); // snaps to the cut
         QTEST(editor.Text(), "text");
+        editor.Do("click a; key Shift+L");
+        QVERIFY(!editor.Drop(data, "11,0", modifier));
     }
 
     void refusesWhatIsNoMedia()

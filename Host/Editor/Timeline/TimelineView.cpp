@@ -450,6 +450,10 @@ void TimelineView::dragEnterEvent(QDragEnterEvent* event)
 void TimelineView::dragMoveEvent(QDragMoveEvent* event)
 {
     AimDrop(*event);
+    if (m_model.IsLocked(m_overlay.drop->second)) {
+        dragLeaveEvent(nullptr); // nothing shows where nothing can come
+        return event->ignore();
+    }
     event->acceptProposedAction();
 }
 
