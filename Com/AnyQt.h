@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QString>
 #include <QTextStream>
@@ -48,6 +49,10 @@ inline void SetPosition(QMouseEvent& event, const QPointF& position)
 
 /// File names and texts of the system are UTF-8 whatever its locale says, as always in Qt 6.
 inline void UseUtf8() {}
+
+/// Windows are scaled as their screens ask, and icons as fine as these show. Before the application
+/// is made.
+inline void FollowScreens() {}
 
 /// Lets a new stream read and write UTF-8, or as the system does.
 inline void SetEncoding(QTextStream& stream, bool utf8)
@@ -138,6 +143,12 @@ inline void SetPosition(QMouseEvent& event, const QPointF& position)
 inline void UseUtf8()
 {
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+}
+
+inline void FollowScreens()
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 }
 
 inline void SetEncoding(QTextStream& stream, bool utf8)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // A small editor that shows each part of the library at work.
+#include "Com/AnyQt.h"
 #include "CommonLib/BaseLog.h"
 #include "CommonLib/ModuleFolders.h"
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
@@ -156,6 +157,7 @@ int main(int argc, char** argv)
 {
     QElapsedTimer since;
     since.start();
+    AnyQt::FollowScreens();
     QApplication app(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("CommonLib"));
     QApplication::setApplicationName(QStringLiteral("CommonLibEditor"));
