@@ -28,14 +28,15 @@
 #include <QTimerEvent>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
 constexpr int kMargin = 8;
 constexpr int kGap = 10;
-constexpr int kNarrowest = 300;
-constexpr int kMostStrips = 2; // of the mixer, that are open at first
+constexpr int kNarrowest = 280; // of what scrolls
+constexpr int kMostStrips = 2;  // of the mixer, that are open at first
 
 } // namespace
 
@@ -60,7 +61,6 @@ PropertiesPanel::PropertiesPanel(Project& project, Selection& selection, MediaPl
     m_scroll->setWidget(new QWidget);
     auto* page = new QVBoxLayout(m_scroll->widget());
     page->setContentsMargins(0, 0, 0, 0);
-    setMinimumWidth(kNarrowest);
     connect(&selection, &Selection::Changed, this, &PropertiesPanel::RebuildIfOther);
     connect(&project, &Project::Replaced, this, &PropertiesPanel::Rebuild);
     connect(&project, &Project::NodeChanged, this, &PropertiesPanel::RefreshIfShown);
@@ -156,8 +156,9 @@ void PropertiesPanel::StartContent()
 /// It scrolls up and down alone.
 void PropertiesPanel::FitWidth()
 {
-    m_scroll->setMinimumWidth(m_content->minimumSizeHint().width() +
-                              m_scroll->verticalScrollBar()->sizeHint().width());
+    const int needed =
+        m_content->minimumSizeHint().width() + m_scroll->verticalScrollBar()->sizeHint().width();
+    m_scroll->setMinimumWidth(std::max(kNarrowest, needed));
 }
 
 QString PropertiesPanel::Title() const

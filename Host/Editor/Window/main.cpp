@@ -131,7 +131,7 @@ int Run(const QCommandLineParser& parser, const QElapsedTimer& since)
         return 1;
     }
     EditorWindow window(paths);
-    if (parser.isSet(QStringLiteral("tour")))
+    if (!picture.isEmpty() || parser.isSet(QStringLiteral("tour")))
         window.resize(kWindow); // whatever screen there is
     window.show();
     const LoopWatch watch(std::chrono::milliseconds(50));
