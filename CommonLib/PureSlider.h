@@ -49,7 +49,9 @@ public:
 Q_SIGNALS:
     void sigValueChanged(int value);             ///< by the user or by SetValue()
     void RangeChanged(int minimum, int maximum); ///< a bound has changed
-    void ColorsChanged();                        ///< a colour has changed
+    /// A colour has changed. A style sheet that sets one sets more of the slider afterwards: a slot
+    /// takes deleteLater() to delete it.
+    void ColorsChanged();
 
 protected:
     void paintEvent(QPaintEvent* event) override;

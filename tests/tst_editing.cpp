@@ -5,6 +5,7 @@
 #include "EngineApi/NLEKey.h"
 #include "NLECore/media/Reasons.h"
 #include "tests/support/EditedProject.h"
+#include "tests/support/Seed.h"
 
 #include <QtTest>
 
@@ -686,15 +687,11 @@ private slots:
         QCOMPARE(group("DD"), E_INVALIDARG);
     }
 
-    /// Random edits, as many as EDITS says, from the seed SEED or a new one.
+    /// Random edits, as many as COMMONLIB_EDITS says.
     void longRuns()
     {
-        const int edits = qEnvironmentVariableIntValue("EDITS") > 0
-                              ? qEnvironmentVariableIntValue("EDITS")
-                              : 2000;
-        const auto seed = qEnvironmentVariableIsSet("SEED") ? qEnvironmentVariable("SEED").toUInt()
-                                                            : std::random_device()();
-        qInfo("EDITS=%d SEED=%u", edits, seed);
+        const int edits = std::max(2000, qEnvironmentVariableIntValue("COMMONLIB_EDITS"));
+        const unsigned seed = Seed();
         RandomEdits run(seed);
         EditedProject& p = run.project;
         p.editing->SetMostSteps(edits);

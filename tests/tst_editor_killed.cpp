@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // An editor that is killed at any moment while somebody edits opens again, with what was done until
-// ten seconds before. The seed is printed and taken from COMMONLIB_KILL_SEED, the number of kills
-// from COMMONLIB_KILLS.
+// ten seconds before. COMMONLIB_KILLS is the number of kills.
 #include "Host/Editor/Window/EditorWindow.h"
 #include "tests/support/RandomEdits.h"
+#include "tests/support/Seed.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -154,12 +154,8 @@ private Q_SLOTS:
 
     void opensAgainWithWhatWasDone()
     {
-        const unsigned seed = qEnvironmentVariableIsSet("COMMONLIB_KILL_SEED")
-                                  ? unsigned(qEnvironmentVariableIntValue("COMMONLIB_KILL_SEED"))
-                                  : std::random_device()() % 1000000;
         const int kills = std::max(2, qEnvironmentVariableIntValue("COMMONLIB_KILLS"));
-        qInfo("%d kills, COMMONLIB_KILL_SEED=%u", kills, seed);
-        std::mt19937 random(seed);
+        std::mt19937 random(Seed());
         for (int kill = 0; kill < kills; ++kill) {
             const QTemporaryDir folder;
             const int run = std::uniform_int_distribution<>(0, kLongestRun)(random);

@@ -5,6 +5,7 @@
 // COMMONLIB_MUTATED_FILES is how many, COMMONLIB_SEED where they begin; the same numbers give the
 // same files. What ends a process badly stays in the folder "mutated" beside the program.
 #include "mutations/Mutations.h"
+#include "support/Seed.h"
 #include "support/TestMedia.h"
 
 #include <QDir>
@@ -116,11 +117,9 @@ class tst_MutatedMedia : public QObject
 {
     Q_OBJECT
 
-    const unsigned m_seed = unsigned(Setting("COMMONLIB_SEED", 1));
+    const unsigned m_seed = Seed();
 
 private slots:
-    void initTestCase() { qInfo("seed %u", m_seed); }
-
     void endsWell_data()
     {
         QTest::addColumn<int>("format");

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // Random input to every widget of the library, the gallery and the editor: nothing crashes, what
-// has started ends, and no cursor and no grab is left over. The seed is printed and taken from
-// COMMONLIB_SEED, the number of events of each row from COMMONLIB_EVENTS.
+// has started ends, and no cursor and no grab is left over. COMMONLIB_EVENTS is the number of
+// events of each row.
 #include "CommonLib/BaseStateButton.h"
 #include "CommonLib/BaseWidget.h"
 #include "CommonLib/IDragValueChangedHelper.h"
@@ -23,6 +23,7 @@
 #include "tests/support/DeletedInSlot.h"
 #include "tests/support/RandomEdits.h"
 #include "tests/support/RandomInput.h"
+#include "tests/support/Seed.h"
 
 #include <QStandardPaths>
 
@@ -136,14 +137,24 @@ private:
             somebody.Any(QWidget::staticMetaObject.methodCount(), meta->methodCount()));
         if (method.methodType() != QMetaMethod::Signal)
             return;
-        const bool isLate =
-            !isOfLibrary || method.name() == "sigEnter" || method.name() == "sigLeave";
+        const bool isLate = !isOfLibrary || method.name() == "sigEnter" ||
+                            method.name() == "sigLeave" || TellsOfColor(*meta, method);
         m_traps.push_back(std::make_unique<DeletedInSlot::Trap>(
             &widget, method, 1, [guarded = QPointer<QWidget>(&widget), isLate] {
                 // Qt still asks it for a context menu.
                 const bool isAsked = QGuiApplication::mouseButtons() & Qt::RightButton;
                 isLate || isAsked ? guarded->deleteLater() : delete guarded.data();
             }));
+    }
+    /// Whether it comes from a style sheet, which sets more of the widget after that.
+    static bool TellsOfColor(const QMetaObject& meta, const QMetaMethod& signal)
+    {
+        for (int i = QWidget::staticMetaObject.propertyCount(); i < meta.propertyCount(); ++i) {
+            const QMetaProperty property = meta.property(i);
+            if (property.userType() == QMetaType::QColor && property.notifySignal() == signal)
+                return true;
+        }
+        return false;
     }
     /// What a host sets, in the middle of what a user does.
     static void Set(QWidget& widget, RandomInput& somebody)
@@ -280,12 +291,8 @@ private Q_SLOTS:
     void leavesNothingBehind()
     {
         QFETCH(StageMaker, make);
-        const unsigned seed = qEnvironmentVariableIsSet("COMMONLIB_SEED")
-                                  ? unsigned(qEnvironmentVariableIntValue("COMMONLIB_SEED"))
-                                  : std::random_device()() % 1000000;
         const int events = std::max(500, qEnvironmentVariableIntValue("COMMONLIB_EVENTS"));
-        qInfo("%d events, COMMONLIB_SEED=%u", events, seed);
-        RandomInput somebody(seed);
+        RandomInput somebody(Seed());
         const std::unique_ptr<Stage> stage = make();
         stage->Act(somebody);
         QCOMPARE(somebody.Run(events, [&](RandomInput& who) { stage->Act(who); }), QString());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // Calls at random from all threads that may make them: what any thread may call on several, each
-// object on its own. For the thread sanitizer, and for what breaks without it. The seed is printed
-// and taken from COMMONLIB_SEED, the seconds from COMMONLIB_SECONDS.
+// object on its own. For the thread sanitizer, and for what breaks without it.
+// COMMONLIB_SECONDS is how long.
 #include "CommonLib/BaseLog.h"
 #include "CommonLib/FileOperation.h"
 #include "CommonLib/ModuleErrors.h"
@@ -20,6 +20,7 @@
 
 #include "EngineApi/INLEPlayer.h"
 #include "tests/support/EngineFixture.h"
+#include "tests/support/Seed.h"
 
 namespace {
 
@@ -172,11 +173,8 @@ class tst_RandomThreads : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        m_seed = qEnvironmentVariableIsSet("COMMONLIB_SEED")
-                     ? unsigned(qEnvironmentVariableIntValue("COMMONLIB_SEED"))
-                     : std::random_device()() % 1000000;
+        m_seed = Seed();
         m_seconds = std::max(1, qEnvironmentVariableIntValue("COMMONLIB_SECONDS"));
-        qInfo("%d seconds, COMMONLIB_SEED=%u", m_seconds, m_seed);
     }
 
     void theLibrary()
