@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "EngineApi/INLEStreamProcess.h"
 #include "Host/Editor/Bin/BinCommands.h"
+#include "Host/Editor/Bin/BinDelegate.h"
 #include "Host/Editor/Bin/BinPanel.h"
 #include "Host/Editor/Bin/BinView.h"
 #include "Host/Editor/Bin/MediaBin.h"
@@ -24,7 +25,7 @@ namespace {
 
 constexpr int kFrames = 50;
 constexpr int kPatience = 30000;   // ms
-constexpr QSize kPicture(144, 81); // of a cell
+constexpr QSize kPicture = BinDelegate::kCellPicture;
 constexpr int kPictureTop = 6;
 
 /// The panel on a project of its own.

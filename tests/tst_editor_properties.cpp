@@ -19,6 +19,7 @@
 #include "tests/support/EngineFixture.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -143,6 +144,21 @@ QStringList EffectNames(const Node& clip)
         });
     }
     return names;
+}
+
+/// Name, first frame and length of each transition.
+QStringList JointsOf(Project& project)
+{
+    QStringList joints;
+    for (const auto& node : project.Timeline()->GetChilds()) {
+        const NLETimeline joint(node, ExactType_Unknown, nullptr);
+        if (node.query<INLETimelineTransition>())
+            joints << QString("%1 %2+%3")
+                          .arg(EngineCatalog::NameOf(node))
+                          .arg(joint.GetPosition())
+                          .arg(joint.GetPlayLen());
+    }
+    return joints;
 }
 
 } // namespace
@@ -422,6 +438,37 @@ private Q_SLOTS:
         QVERIFY(!m_editor->selection.Current());
     }
 
+    void aTransitionGetsAnotherKindAndLength()
+    {
+        Project& project = m_editor->project;
+        m_editor->Place(m_engine.Trimmed(Film(), 0, 29), 0);
+        const Node clip = m_editor->Place(m_engine.Trimmed(Film(), 10, 29), 30);
+        const Node dissolve = m_engine.Transition("dissolve");
+        QVERIFY(project.Edit("Join", [&](INLEEditing& editing) {
+            return editing.AddTransition(dissolve.get(), clip.get(), NLEEdge_Begin, 8);
+        }));
+        m_editor->Select(dissolve);
+        m_editor->Show();
+        QComboBox* kind = nullptr;
+        QTRY_VERIFY(kind = m_editor->Find<QComboBox>("Kind"));
+        kind->setCurrentIndex(kind->findData("wipe"));
+        Q_EMIT kind->activated(kind->currentIndex());
+        QCOMPARE(JointsOf(project), QStringList("wipe 26+8"));
+        const auto length = [&] { return m_editor->Find<QDoubleSpinBox>("Length"); };
+        QTRY_VERIFY(m_editor->Find<QDoubleSpinBox>("Softness") && length());
+        const QPointer<QDoubleSpinBox> former = length();
+        former->setValue(4 / project.FrameRate());
+        QCOMPARE(JointsOf(project), QStringList("wipe 28+4"));
+        QVERIFY(m_editor->told.isEmpty());
+        QTRY_VERIFY(!former && length());
+        length()->setValue(10); // longer than both clips
+        QVERIFY(!m_editor->told.isEmpty());
+        QCOMPARE(length()->value(), 4 / project.FrameRate());
+        project.Steps().undo();
+        project.Steps().undo();
+        QCOMPARE(JointsOf(project), QStringList("dissolve 26+8"));
+    }
+
     void aTitleStandsAboveWhatPlays()
     {
         m_editor->Place(Film(), 0);
@@ -455,29 +502,20 @@ private Q_SLOTS:
         const Node before = m_editor->Place(m_engine.Trimmed(Film(), 0, 29), 0);
         const Node clip = m_editor->Place(m_engine.Trimmed(Film(), 10, 29), 30);
         const Node above = m_editor->Place(Colour(), 0, 1);
-        const auto joints = [&] {
-            QStringList spans;
-            for (const auto& node : project.Timeline()->GetChilds()) {
-                const NLETimeline joint(node, ExactType_Unknown, nullptr);
-                if (node.query<INLETimelineTransition>())
-                    spans << QString("%1+%2").arg(joint.GetPosition()).arg(joint.GetPlayLen());
-            }
-            return spans;
-        };
         INLETimeline* both[] = {clip.get(), above.get()};
         QVERIFY(project.Edit("Join", [&](INLEEditing& editing) {
             editing.AddTransition(m_engine.Transition("dissolve").get(), clip.get(), NLEEdge_Begin,
                                   8);
             return editing.Group(both, 2);
         }));
-        QCOMPARE(joints(), QStringList("26+8"));
+        QCOMPARE(JointsOf(project), QStringList("dissolve 26+8"));
         QVERIFY(ClipActions::SetSpeed(project, m_editor->selection, clip, 0.5));
-        QCOMPARE(joints(), QStringList("26+8"));
+        QCOMPARE(JointsOf(project), QStringList("dissolve 26+8"));
         NLEComPtr<INLETimelineEnumerator> walk;
         project.Editing().GetGroup(m_editor->selection.Current().get(), walk.put());
         QCOMPARE(NodesOf(*walk).size(), 2);
         project.Steps().undo();
-        QCOMPARE(joints(), QStringList("26+8"));
+        QCOMPARE(JointsOf(project), QStringList("dissolve 26+8"));
         walk = nullptr;
         project.Editing().GetGroup(clip.get(), walk.put());
         QCOMPARE(NodesOf(*walk).size(), 2);

@@ -400,6 +400,10 @@
         <source>Switch effect</source>
         <translation>تشغيل المؤثر أو إيقافه</translation>
     </message>
+    <message>
+        <source>Change transition</source>
+        <translation>تغيير الانتقال</translation>
+    </message>
 </context>
 <context>
     <name>ClipFields</name>
@@ -2136,6 +2140,10 @@
         <source>Transitions</source>
         <translation>الانتقالات</translation>
     </message>
+    <message>
+        <source>Parameters</source>
+        <translation>المعلمات</translation>
+    </message>
 </context>
 <context>
     <name>PropertyForm</name>
@@ -2544,6 +2552,21 @@
     <message>
         <source>Add media</source>
         <translation>إضافة وسائط</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionForm</name>
+    <message>
+        <source> s</source>
+        <translation> ث</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>النوع</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>المدة</translation>
     </message>
 </context>
 <context>

@@ -375,6 +375,10 @@
         <source>Switch effect</source>
         <translation>開啟或關閉特效</translation>
     </message>
+    <message>
+        <source>Change transition</source>
+        <translation>變更轉場</translation>
+    </message>
 </context>
 <context>
     <name>ClipFields</name>
@@ -2091,6 +2095,10 @@
         <source>Transitions</source>
         <translation>轉場</translation>
     </message>
+    <message>
+        <source>Parameters</source>
+        <translation>參數</translation>
+    </message>
 </context>
 <context>
     <name>PropertyForm</name>
@@ -2499,6 +2507,21 @@
     <message>
         <source>Add media</source>
         <translation>加入媒體</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionForm</name>
+    <message>
+        <source> s</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>長度</translation>
     </message>
 </context>
 <context>

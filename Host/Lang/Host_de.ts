@@ -380,6 +380,10 @@
         <source>Switch effect</source>
         <translation>Effekt ein- oder ausschalten</translation>
     </message>
+    <message>
+        <source>Change transition</source>
+        <translation>Übergang ändern</translation>
+    </message>
 </context>
 <context>
     <name>ClipFields</name>
@@ -2100,6 +2104,10 @@
         <source>Transitions</source>
         <translation>Übergänge</translation>
     </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Parameter</translation>
+    </message>
 </context>
 <context>
     <name>PropertyForm</name>
@@ -2508,6 +2516,21 @@
     <message>
         <source>Add media</source>
         <translation>Medien hinzufügen</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionForm</name>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
     </message>
 </context>
 <context>

@@ -380,6 +380,10 @@
         <source>Switch effect</source>
         <translation>Activer ou désactiver l’effet</translation>
     </message>
+    <message>
+        <source>Change transition</source>
+        <translation>Modifier la transition</translation>
+    </message>
 </context>
 <context>
     <name>ClipFields</name>
@@ -2100,6 +2104,10 @@
         <source>Transitions</source>
         <translation>Transitions</translation>
     </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Paramètres</translation>
+    </message>
 </context>
 <context>
     <name>PropertyForm</name>
@@ -2508,6 +2516,21 @@
     <message>
         <source>Add media</source>
         <translation>Ajouter des médias</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionForm</name>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Durée</translation>
     </message>
 </context>
 <context>

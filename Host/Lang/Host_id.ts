@@ -375,6 +375,10 @@
         <source>Switch effect</source>
         <translation>Aktifkan atau matikan efek</translation>
     </message>
+    <message>
+        <source>Change transition</source>
+        <translation>Ubah transisi</translation>
+    </message>
 </context>
 <context>
     <name>ClipFields</name>
@@ -2091,6 +2095,10 @@
         <source>Transitions</source>
         <translation>Transisi</translation>
     </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Parameter</translation>
+    </message>
 </context>
 <context>
     <name>PropertyForm</name>
@@ -2499,6 +2507,21 @@
     <message>
         <source>Add media</source>
         <translation>Tambah media</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionForm</name>
+    <message>
+        <source> s</source>
+        <translation> dtk</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Jenis</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Durasi</translation>
     </message>
 </context>
 <context>

@@ -375,6 +375,10 @@
         <source>Switch effect</source>
         <translation>エフェクトのオン/オフ</translation>
     </message>
+    <message>
+        <source>Change transition</source>
+        <translation>トランジションを変更</translation>
+    </message>
 </context>
 <context>
     <name>ClipFields</name>
@@ -2091,6 +2095,10 @@
         <source>Transitions</source>
         <translation>トランジション</translation>
     </message>
+    <message>
+        <source>Parameters</source>
+        <translation>パラメーター</translation>
+    </message>
 </context>
 <context>
     <name>PropertyForm</name>
@@ -2499,6 +2507,21 @@
     <message>
         <source>Add media</source>
         <translation>メディアを追加</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionForm</name>
+    <message>
+        <source> s</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>長さ</translation>
     </message>
 </context>
 <context>

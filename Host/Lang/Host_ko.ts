@@ -375,6 +375,10 @@
         <source>Switch effect</source>
         <translation>효과 켜기/끄기</translation>
     </message>
+    <message>
+        <source>Change transition</source>
+        <translation>전환 변경</translation>
+    </message>
 </context>
 <context>
     <name>ClipFields</name>
@@ -2091,6 +2095,10 @@
         <source>Transitions</source>
         <translation>전환</translation>
     </message>
+    <message>
+        <source>Parameters</source>
+        <translation>매개변수</translation>
+    </message>
 </context>
 <context>
     <name>PropertyForm</name>
@@ -2499,6 +2507,21 @@
     <message>
         <source>Add media</source>
         <translation>미디어 추가</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionForm</name>
+    <message>
+        <source> s</source>
+        <translation>초</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>종류</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>길이</translation>
     </message>
 </context>
 <context>

@@ -380,6 +380,10 @@
         <source>Switch effect</source>
         <translation>Effect in- of uitschakelen</translation>
     </message>
+    <message>
+        <source>Change transition</source>
+        <translation>Overgang wijzigen</translation>
+    </message>
 </context>
 <context>
     <name>ClipFields</name>
@@ -2100,6 +2104,10 @@
         <source>Transitions</source>
         <translation>Overgangen</translation>
     </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Parameters</translation>
+    </message>
 </context>
 <context>
     <name>PropertyForm</name>
@@ -2508,6 +2516,21 @@
     <message>
         <source>Add media</source>
         <translation>Media toevoegen</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionForm</name>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Soort</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Duur</translation>
     </message>
 </context>
 <context>

@@ -385,6 +385,10 @@
         <source>Switch effect</source>
         <translation>Przełączenie efektu</translation>
     </message>
+    <message>
+        <source>Change transition</source>
+        <translation>Zmiana przejścia</translation>
+    </message>
 </context>
 <context>
     <name>ClipFields</name>
@@ -2109,6 +2113,10 @@
         <source>Transitions</source>
         <translation>Przejścia</translation>
     </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Parametry</translation>
+    </message>
 </context>
 <context>
     <name>PropertyForm</name>
@@ -2517,6 +2525,21 @@
     <message>
         <source>Add media</source>
         <translation>Dodanie multimediów</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionForm</name>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Rodzaj</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Długość</translation>
     </message>
 </context>
 <context>

@@ -380,6 +380,10 @@
         <source>Switch effect</source>
         <translation>Ativar ou desativar efeito</translation>
     </message>
+    <message>
+        <source>Change transition</source>
+        <translation>Alterar transição</translation>
+    </message>
 </context>
 <context>
     <name>ClipFields</name>
@@ -2100,6 +2104,10 @@
         <source>Transitions</source>
         <translation>Transições</translation>
     </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Parâmetros</translation>
+    </message>
 </context>
 <context>
     <name>PropertyForm</name>
@@ -2508,6 +2516,21 @@
     <message>
         <source>Add media</source>
         <translation>Adicionar multimédia</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionForm</name>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Duração</translation>
     </message>
 </context>
 <context>

@@ -385,6 +385,10 @@
         <source>Switch effect</source>
         <translation>Activează sau dezactivează efectul</translation>
     </message>
+    <message>
+        <source>Change transition</source>
+        <translation>Modifică tranziția</translation>
+    </message>
 </context>
 <context>
     <name>ClipFields</name>
@@ -2109,6 +2113,10 @@
         <source>Transitions</source>
         <translation>Tranziții</translation>
     </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Parametri</translation>
+    </message>
 </context>
 <context>
     <name>PropertyForm</name>
@@ -2517,6 +2525,21 @@
     <message>
         <source>Add media</source>
         <translation>Adaugă media</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionForm</name>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tip</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Durată</translation>
     </message>
 </context>
 <context>

@@ -385,6 +385,10 @@
         <source>Switch effect</source>
         <translation>Включение или отключение эффекта</translation>
     </message>
+    <message>
+        <source>Change transition</source>
+        <translation>Изменение перехода</translation>
+    </message>
 </context>
 <context>
     <name>ClipFields</name>
@@ -2109,6 +2113,10 @@
         <source>Transitions</source>
         <translation>Переходы</translation>
     </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Параметры</translation>
+    </message>
 </context>
 <context>
     <name>PropertyForm</name>
@@ -2517,6 +2525,21 @@
     <message>
         <source>Add media</source>
         <translation>Добавление медиафайлов</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionForm</name>
+    <message>
+        <source> s</source>
+        <translation> с</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Вид</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Длительность</translation>
     </message>
 </context>
 <context>

@@ -380,6 +380,10 @@
         <source>Switch effect</source>
         <translation>Slå på eller av effekt</translation>
     </message>
+    <message>
+        <source>Change transition</source>
+        <translation>Ändra övergång</translation>
+    </message>
 </context>
 <context>
     <name>ClipFields</name>
@@ -2100,6 +2104,10 @@
         <source>Transitions</source>
         <translation>Övergångar</translation>
     </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Parametrar</translation>
+    </message>
 </context>
 <context>
     <name>PropertyForm</name>
@@ -2508,6 +2516,21 @@
     <message>
         <source>Add media</source>
         <translation>Lägg till medier</translation>
+    </message>
+</context>
+<context>
+    <name>TransitionForm</name>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Längd</translation>
     </message>
 </context>
 <context>

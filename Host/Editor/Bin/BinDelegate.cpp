@@ -17,7 +17,6 @@ constexpr int kMargin = 6;
 constexpr int kGap = 4;
 constexpr int kRadius = 3;
 constexpr int kLine = 3; // of what is drawn along the picture's lower edge
-constexpr QSize kCellPicture(144, 81);
 constexpr QSize kLinePicture(72, 41);
 constexpr int kPosterShare = 10; // beginnings are often black
 

@@ -15,6 +15,9 @@ class BinDelegate : public QStyledItemDelegate
     Q_OBJECT
 
 public:
+    /// Room of the picture in a cell of a grid.
+    static constexpr QSize kCellPicture{120, 68};
+
     /// \a pictures outlives the delegate.
     BinDelegate(BinPictures& pictures, QObject* parent);
 

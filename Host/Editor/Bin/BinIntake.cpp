@@ -53,6 +53,7 @@ BinIntake::BinIntake(Project& project, MediaBin& bin, QObject* parent) : QObject
         m_order.clear();
         m_waiting.clear();
         m_readable.clear();
+        m_reasons.clear();
         Q_EMIT Progressed();
     });
 }
@@ -77,6 +78,8 @@ void BinIntake::TakeDescription(const MediaDescription& description)
         return;
     if (IsMedia(description))
         m_readable.insert(description.path);
+    else
+        m_reasons.insert(description.path, description.reason);
     Q_EMIT Progressed();
     if (m_waiting.isEmpty())
         Finish();
@@ -91,5 +94,6 @@ void BinIntake::Finish()
     m_readable.clear();
     const int before = m_bin.Files().size();
     m_bin.Add(added);
-    Q_EMIT Ended(m_bin.Files().size() - before, refused);
+    const QHash<QString, QString> reasons = std::exchange(m_reasons, {});
+    Q_EMIT Ended(m_bin.Files().size() - before, refused, reasons.value(refused.value(0)));
 }

@@ -3,6 +3,7 @@
 
 #include "Host/Editor/Bin/MediaDescriber.h"
 
+#include <QHash>
 #include <QObject>
 #include <QSet>
 #include <QStringList>
@@ -28,8 +29,9 @@ public:
 Q_SIGNALS:
     /// Another number of files is waiting.
     void Progressed();
-    /// All have been read; those of \a refused are no media, or there is no such file.
-    void Ended(int added, const QStringList& refused);
+    /// All have been read; those of \a refused are no media, or there is no such file. \a reason is
+    /// that of the first one, in short; it may be empty.
+    void Ended(int added, const QStringList& refused, const QString& reason);
 
 private:
     void TakeDescription(const MediaDescription& description);
@@ -40,4 +42,5 @@ private:
     QStringList m_order; ///< of all files, as they came
     QSet<QString> m_waiting;
     QSet<QString> m_readable;
+    QHash<QString, QString> m_reasons; ///< of those that are not
 };

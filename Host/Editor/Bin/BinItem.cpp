@@ -65,6 +65,7 @@ QStringList BinItem::Details() const
     if (NLERangeLength(entry.marks) > 0)
         lines << MarksText(*this);
     lines << ProxyText(*this);
+    lines << media.reason;
     lines << (uses > 0 ? BinModel::tr("%n clip(s) on the timeline", nullptr, uses)
                        : BinModel::tr("not on the timeline"));
     lines << QDir::toNativeSeparators(entry.path);

@@ -196,15 +196,16 @@ void BinPanel::SayProgress()
     Say(count > 0 ? tr("Reading %n file(s)…", nullptr, count) : QString());
 }
 
-void BinPanel::TakeIntakeEnd(int /*added*/, const QStringList& refused)
+void BinPanel::TakeIntakeEnd(int /*added*/, const QStringList& refused, const QString& reason)
 {
     if (refused.isEmpty())
         return;
     const QString first = QFileInfo(refused[0]).fileName();
-    Say(refused.size() == 1
+    const QString text =
+        refused.size() == 1
             ? tr("%1 cannot be read as media.").arg(first)
-            : tr("%1 and %n more cannot be read as media.", nullptr, refused.size() - 1)
-                  .arg(first));
+            : tr("%1 and %n more cannot be read as media.", nullptr, refused.size() - 1).arg(first);
+    Say(reason.isEmpty() ? text : QStringLiteral("%1 (%2)").arg(text, reason));
 }
 
 void BinPanel::TakeProxyEnd(const QString& file, const QString& proxy, const QString& reason)

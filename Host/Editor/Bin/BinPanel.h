@@ -45,7 +45,7 @@ private:
     void ShowDetails();
     void Say(const QString& text);
     void SayProgress();
-    void TakeIntakeEnd(int added, const QStringList& refused);
+    void TakeIntakeEnd(int added, const QStringList& refused, const QString& reason);
     void TakeProxyEnd(const QString& file, const QString& proxy, const QString& reason);
 
     MediaBin m_bin;

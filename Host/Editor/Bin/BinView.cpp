@@ -14,7 +14,6 @@
 namespace {
 
 constexpr int kSpacing = 4;
-constexpr QSize kPictureRoom(144, 81); // of a cell
 constexpr QSize kDragPicture(96, 54);
 
 BinItem ItemAt(const QModelIndex& index)
@@ -70,7 +69,7 @@ void BinView::SetGrid(bool isGrid)
     setDefaultDropAction(Qt::CopyAction);
     viewport()->setAcceptDrops(true);
     m_delegate->SetGrid(isGrid);
-    m_pictures.SetRoom(kPictureRoom * devicePixelRatioF());
+    m_pictures.SetRoom(BinDelegate::kCellPicture * devicePixelRatioF());
     scheduleDelayedItemsLayout();
 }
 

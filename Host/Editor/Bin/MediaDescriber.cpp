@@ -5,6 +5,7 @@
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
 #include "Host/Editor/Bin/ProxyJobs.h"
 #include "Host/Editor/Model/Engine.h"
+#include "Host/Editor/Model/Reasons.h"
 #include "Host/EngineText.h"
 
 namespace {
@@ -63,8 +64,10 @@ MediaDescription MediaDescriber::Read(const QString& path) const
     description.path = path;
     description.state = State::Unreadable;
     const NLEComPtr<INLETimeline> clip = EngineProvider().CreateMediaTimeline(path, true);
-    if (!clip)
+    if (!clip) {
+        description.reason = LastReason();
         return description;
+    }
     const NLEComPtr<INLEMediaInfo> info = InfoOf(clip);
     int kind = NLEMedia_Offline;
     if (!info || FAILED(info->GetKind(&kind)))

@@ -27,6 +27,7 @@ struct MediaDescription
     State state = State::Unknown;
     NLEComPtr<INLEMediaInfo> info;             ///< null unless it is ready
     std::shared_ptr<const MediaReport> report; ///< null with it
+    QString reason;                            ///< why it is unreadable, in short; may be empty
     QString proxy; ///< a film that could stand for it; empty when none was made
 };
 

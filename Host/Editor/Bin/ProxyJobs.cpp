@@ -2,26 +2,9 @@
 #include "Host/Editor/Bin/ProxyJobs.h"
 
 #include "EngineApi/INLEFactory.h"
-#include "EngineApi/INLEReasons.h"
 #include "Host/Editor/Model/Engine.h"
+#include "Host/Editor/Model/Reasons.h"
 #include "Host/EngineText.h"
-
-namespace {
-
-/// Why the last call of the engine on this thread failed.
-QString LastReason()
-{
-    const NLEComPtr<INLEFactory> factory = EngineFactory();
-    NLEComPtr<INLEReasons> reasons;
-    int reason = NLEReason_None;
-    if (!factory || FAILED(factory->GetReasons(reasons.put())) ||
-        FAILED(reasons->GetLast(nullptr, &reason)))
-        return {};
-    return EngineText<512>(
-        [&](wchar_t* title, int capacity) { return reasons->GetTitle(reason, title, capacity); });
-}
-
-} // namespace
 
 NLEComPtr<INLEProxyMaker> MakeProxyMaker()
 {

@@ -43,6 +43,14 @@ QString EngineCatalog::TitleOf(NLECatalogKind kind, const QString& name)
     return name;
 }
 
+QString EngineCatalog::NameOf(const NLEComPtr<INLETimeline>& transition)
+{
+    const auto named = transition.query<INLETimelineTransition>();
+    return EngineText([&](wchar_t* text, int capacity) {
+        return named ? named->GetTransitionName(text, capacity) : E_NOINTERFACE;
+    });
+}
+
 NLEComPtr<INLETimeline> EngineCatalog::Make(NLECatalogKind kind, const QString& name)
 {
     NLEComPtr<INLETimeline> made;

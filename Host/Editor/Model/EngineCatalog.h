@@ -20,6 +20,8 @@ struct Entry
 QVector<Entry> Entries(NLECatalogKind kind);
 /// What \a name is called for people; the name itself when there is no such thing.
 QString TitleOf(NLECatalogKind kind, const QString& name);
+/// The name of a transition in the catalogue; empty for other nodes.
+QString NameOf(const NLEComPtr<INLETimeline>& transition);
 /// An effect, an audio filter or a transition with all at its presets; null when the engine
 /// refuses.
 NLEComPtr<INLETimeline> Make(NLECatalogKind kind, const QString& name);

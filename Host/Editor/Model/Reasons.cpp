@@ -1,18 +1,40 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Model/Reasons.h"
 
+#include "Host/Editor/Model/Engine.h"
 #include "Host/EngineText.h"
 
 namespace {
 
 constexpr int kLongestText = 512; // with the terminating zero
 
+NLEComPtr<INLEReasons> ReasonsOf(const NLEComPtr<INLEFactory>& factory)
+{
+    NLEComPtr<INLEReasons> reasons;
+    if (factory && FAILED(factory->GetReasons(reasons.put())))
+        reasons.forget();
+    return reasons;
+}
+
+QString TitleOf(INLEReasons& reasons, int reason)
+{
+    return EngineText<kLongestText>(
+        [&](wchar_t* text, int capacity) { return reasons.GetTitle(reason, text, capacity); });
+}
+
 } // namespace
 
-Reasons::Reasons(const NLEComPtr<INLEFactory>& factory)
+QString LastReason()
 {
-    if (factory && FAILED(factory->GetReasons(m_reasons.put())))
-        m_reasons.forget();
+    const NLEComPtr<INLEReasons> reasons = ReasonsOf(EngineFactory());
+    int reason = NLEReason_None;
+    if (!reasons || reasons->GetLast(nullptr, &reason) != S_OK)
+        return {};
+    return TitleOf(*reasons, reason);
+}
+
+Reasons::Reasons(const NLEComPtr<INLEFactory>& factory) : m_reasons(ReasonsOf(factory))
+{
     if (m_reasons)
         m_reasons->Forget();
 }
@@ -22,8 +44,7 @@ QString Reasons::Of(const QString& action) const
     int reason = NLEReason_None;
     if (!m_reasons || m_reasons->GetLast(nullptr, &reason) != S_OK)
         return action;
-    const QString title = EngineText<kLongestText>(
-        [&](wchar_t* text, int capacity) { return m_reasons->GetTitle(reason, text, capacity); });
+    const QString title = TitleOf(*m_reasons, reason);
     QString words = EngineText<kLongestText>(
         [&](wchar_t* text, int capacity) { return m_reasons->GetWords(text, capacity); });
     if (reason == NLEReason_LevelLocked)

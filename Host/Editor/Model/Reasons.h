@@ -7,6 +7,9 @@
 
 #include <QString>
 
+/// Why the last call of the engine on this thread failed, in short; empty when nobody can say.
+QString LastReason();
+
 /// Why calls of this thread fail, for people. Forgets at its construction what failed before.
 class Reasons
 {

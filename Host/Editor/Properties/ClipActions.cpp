@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -104,25 +105,40 @@ bool HasNeighbour(INLEEditing& editing, INLETimeline& clip, NLEClipEdge edge)
     return edge == NLEEdge_Begin ? next.end >= own.begin : next.begin <= own.end;
 }
 
+/// The edge of \a clip that plays within \a span; nothing when neither does.
+std::optional<NLEClipEdge> EdgeWithin(const Span& span, const Span& clip)
+{
+    if (span.begin <= clip.begin && clip.begin < span.end)
+        return NLEEdge_Begin;
+    if (span.begin < clip.end && clip.end <= span.end)
+        return NLEEdge_End;
+    return {};
+}
+
+QVector<NLEComPtr<INLETimeline>> NodesOfLevel(const Project& project, int level)
+{
+    QVector<NLEComPtr<INLETimeline>> nodes;
+    NLEComPtr<INLETimelineEnumerator> walk;
+    const auto holder = project.Node().query<INLETimelineComposite>();
+    if (!holder || FAILED(holder->GetEnumerator(0, walk.put())))
+        return nodes;
+    for (const NLEComPtr<INLETimeline>& node : NodesOf(*walk)) {
+        if (LevelOf(*node) == level)
+            nodes << node;
+    }
+    return nodes;
+}
+
 QVector<Joint> JointsOf(const Project& project, INLETimeline& clip)
 {
     QVector<Joint> joints;
     const Span own = SpanOf(clip);
-    NLEComPtr<INLETimelineEnumerator> walk;
-    const auto holder = project.Node().query<INLETimelineComposite>();
-    if (!holder || FAILED(holder->GetEnumerator(0, walk.put())))
-        return joints;
-    for (const NLEComPtr<INLETimeline>& node : NodesOf(*walk)) {
-        if (!node.query<INLETimelineTransition>() || LevelOf(*node) != LevelOf(clip))
-            continue;
+    for (const NLEComPtr<INLETimeline>& node : NodesOfLevel(project, LevelOf(clip))) {
         const Span span = SpanOf(*node);
-        const bool isAtBegin = span.begin <= own.begin && own.begin < span.end;
-        const bool isAtEnd = span.begin < own.end && own.end <= span.end;
-        if (!isAtBegin && !isAtEnd)
-            continue;
-        const NLEClipEdge edge = isAtBegin ? NLEEdge_Begin : NLEEdge_End;
-        joints.append(
-            {node, edge, span.end - span.begin, HasNeighbour(project.Editing(), clip, edge)});
+        const std::optional<NLEClipEdge> edge = EdgeWithin(span, own);
+        if (edge && node.query<INLETimelineTransition>())
+            joints.append(
+                {node, *edge, span.end - span.begin, HasNeighbour(project.Editing(), clip, *edge)});
     }
     return joints;
 }
@@ -164,6 +180,37 @@ bool ClipActions::AddTransition(Project& project, Selection& selection,
                                      }))
         return false;
     selection.Set({transition});
+    return true;
+}
+
+bool ClipActions::ChangeTransition(Project& project, Selection& selection,
+                                   const NLEComPtr<INLETimeline>& transition, const QString& name,
+                                   int frames)
+{
+    const Span span = SpanOf(*transition);
+    NLEComPtr<INLETimeline> clip;
+    std::optional<NLEClipEdge> edge;
+    for (const NLEComPtr<INLETimeline>& node : NodesOfLevel(project, LevelOf(*transition))) {
+        if (edge || node.query<INLETimelineTransition>())
+            continue;
+        clip = node;
+        edge = EdgeWithin(span, SpanOf(*node));
+    }
+    NLEComPtr<INLETimeline> other;
+    if (EngineCatalog::NameOf(transition) != name)
+        other = EngineCatalog::Make(NLECatalog_Transition, name);
+    else if (FAILED(transition->Clone(true, other.put())))
+        other.forget();
+    if (!edge || !other ||
+        !project.Edit(
+            Tr(QT_TRANSLATE_NOOP("ClipActions", "Change transition")), [&](INLEEditing& editing) {
+                const HRESULT result = editing.Delete(transition.get(), NLEEdit_Alone);
+                return FAILED(result)
+                           ? result
+                           : editing.AddTransition(other.get(), clip.get(), *edge, frames);
+            }))
+        return false;
+    selection.Set({other});
     return true;
 }
 

@@ -19,6 +19,10 @@ namespace ClipActions {
 /// it as both clips have material for. The transition is selected then.
 bool AddTransition(Project& project, Selection& selection, const NLEComPtr<INLETimeline>& clip,
                    const QString& name, NLEClipEdge edge);
+/// Puts the transition \a name of \a frames in the place of \a transition, with its parameters
+/// where it is of that kind, and selects it.
+bool ChangeTransition(Project& project, Selection& selection,
+                      const NLEComPtr<INLETimeline>& transition, const QString& name, int frames);
 /// Places a title of \a text at \a frame, above all that plays while it does, and selects it.
 bool AddTitle(Project& project, Selection& selection, const QString& text, int frame);
 /// Plays \a clip \a speed times as fast, with the same material: it becomes shorter or longer, and

@@ -14,6 +14,7 @@
 #include "Host/Editor/Properties/ProjectFields.h"
 #include "Host/Editor/Properties/PropertyForm.h"
 #include "Host/Editor/Properties/SpeedSection.h"
+#include "Host/Editor/Properties/TransitionForm.h"
 #include "Host/Editor/Properties/TransitionSection.h"
 #include "Host/EngineText.h"
 #include "Host/Widgets/MediaPlayer.h"
@@ -163,11 +164,8 @@ void PropertiesPanel::FitWidth()
 
 QString PropertiesPanel::Title() const
 {
-    if (const auto transition = m_node.query<INLETimelineTransition>())
-        return EngineCatalog::TitleOf(NLECatalog_Transition,
-                                      EngineText([&](wchar_t* text, int capacity) {
-                                          return transition->GetTransitionName(text, capacity);
-                                      }));
+    if (m_node.query<INLETimelineTransition>())
+        return EngineCatalog::TitleOf(NLECatalog_Transition, EngineCatalog::NameOf(m_node));
     if (m_node.query<INLETitle>())
         return tr("Title");
     if (m_node.query<INLEColorClip>())
@@ -280,7 +278,8 @@ QStringList PropertiesPanel::StripTitles() const
 void PropertiesPanel::AddTransitionSections()
 {
     const PropertyScope scope = Scope();
-    AddFields(tr("Transition"),
+    AddSection<TransitionForm>(tr("Transition"));
+    AddFields(tr("Parameters"),
               ParameterFields(m_node, m_node, [scope] { return scope.PlayHead(); }));
 }
 

@@ -14,6 +14,7 @@ constexpr int kNarrowest = 3; ///< pixels of a clip that is told apart from its 
 constexpr int kMargin = 8;    ///< around what is painted, for what reaches out of a clip
 constexpr int kCachedHeight = 3;
 constexpr int kFlag = 5; ///< half of the width of a marker
+constexpr int kBracket = 4;
 
 // Between those of the style sheet's surfaces.
 const QColor kBackground(0x1b, 0x1d, 0x20);
@@ -27,6 +28,8 @@ const QColor kHidden(0x23, 0x25, 0x29, 0xA0);
 const QColor kLocked(0xff, 0xff, 0xff, 0x18);
 const QColor kBand(0x4d, 0xa3, 0xff, 0x38);
 const QColor kDrop(0x7f, 0xe0, 0x9a);
+const QColor kPoint(0xe8, 0xa3, 0x3d);
+const QColor kRange(0xe8, 0xa3, 0x3d, 0x48);
 
 void VerticalLine(QPainter& painter, const QRect& area, int x, const QColor& colour)
 {
@@ -156,6 +159,28 @@ void TimelinePainter::PaintMarkers(QPainter& painter, const QRect& area,
     }
 }
 
+/// A bracket at each end of the range in the strip, and the range between both.
+void TimelinePainter::PaintPoints(QPainter& painter, const QRect& area,
+                                  const TimelineGeometry& geometry, const Overlay& overlay)
+{
+    constexpr int height = TimelineGeometry::kStripHeight;
+    const auto bracket = [&](int x, int inwards) {
+        painter.fillRect(QRect(x, 0, 1, height), kPoint);
+        for (const int y : {0, height - 1})
+            painter.fillRect(QRect(inwards > 0 ? x : x - kBracket + 1, y, kBracket, 1), kPoint);
+    };
+    if (overlay.in && overlay.end) {
+        const int left = std::max(geometry.Left(*overlay.in), area.left());
+        const int right = std::min(geometry.Left(*overlay.end), area.right() + 1);
+        if (left < right)
+            painter.fillRect(left, 0, right - left, height, kRange);
+    }
+    if (overlay.in)
+        bracket(geometry.Left(*overlay.in), 1);
+    if (overlay.end)
+        bracket(geometry.Left(*overlay.end) - 1, -1);
+}
+
 void TimelinePainter::PaintStrip(QPainter& painter, const QRect& area,
                                  const TimelineGeometry& geometry, const Overlay& overlay) const
 {
@@ -166,6 +191,7 @@ void TimelinePainter::PaintStrip(QPainter& painter, const QRect& area,
         painter.fillRect(left, height - kCachedHeight, geometry.Left(end) - left, kCachedHeight,
                          kCached);
     }
+    PaintPoints(painter, area, geometry, overlay);
     PaintMarkers(painter, area, geometry);
 }
 

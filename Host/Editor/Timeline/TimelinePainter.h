@@ -25,6 +25,8 @@ public:
         QRect band;
         std::optional<QPair<int, int>> drop; ///< frame and level
         QVector<QPair<int, int>> cached;     ///< begin and end of what the preview cache has
+        std::optional<int> in;               ///< first frame of the range, where it is set
+        std::optional<int> end;              ///< behind its last one, where that is set
     };
 
     TimelinePainter(const TimelineModel& model, ClipPainter& clips);
@@ -39,6 +41,8 @@ private:
 
     void PaintLevel(const Pass& pass) const;
     void PaintTransitions(const Pass& pass) const;
+    static void PaintPoints(QPainter& painter, const QRect& area, const TimelineGeometry& geometry,
+                            const Overlay& overlay);
     void PaintMarkers(QPainter& painter, const QRect& area, const TimelineGeometry& geometry) const;
     void PaintStrip(QPainter& painter, const QRect& area, const TimelineGeometry& geometry,
                     const Overlay& overlay) const;

@@ -104,6 +104,15 @@ void TimelineView::SetCached(const QVector<QPair<int, int>>& ranges)
     update(0, 0, width(), TimelineGeometry::kStripHeight);
 }
 
+void TimelineView::SetPoints(std::optional<int> in, std::optional<int> out)
+{
+    m_overlay.in = in;
+    m_overlay.end.reset();
+    if (out)
+        m_overlay.end = *out + 1;
+    update(0, 0, width(), TimelineGeometry::kStripHeight);
+}
+
 void TimelineView::SetScrolled(int pixels)
 {
     m_scrolled = pixels;

@@ -30,6 +30,8 @@ public:
     void SetPlayHead(int frame);
     /// Begins and ends of what the preview cache has.
     void SetCached(const QVector<QPair<int, int>>& ranges);
+    /// First and last frame of the range; nothing where a point is not set.
+    void SetPoints(std::optional<int> in, std::optional<int> out);
     /// Pixels of the levels above the view.
     int Scrolled() const { return m_scrolled; }
     void SetScrolled(int pixels);

@@ -95,6 +95,7 @@ EditorWindow::EditorWindow(const Paths& paths)
     connect(&m_project, &Project::ModifiedChanged, this, &QWidget::setWindowModified);
     connect(&m_project, &Project::PathChanged, this, &EditorWindow::ShowTitle);
     connect(&m_project, &Project::Replaced, this, &EditorWindow::ShowRemarks);
+    connect(&m_playerPanel->Playing(), &Transport::PointsChanged, this, &EditorWindow::ShowPoints);
     KeepTranslated(this, [this] { ShowTitle(); });
     const QSettings settings;
     restoreGeometry(settings.value(QLatin1String(kGeometry)).toByteArray());
@@ -303,6 +304,15 @@ void EditorWindow::ShowRemarks()
     if (!remarks.isEmpty())
         statusBar()->showMessage(
             tr("%n remark(s) on the file, in the log", nullptr, remarks.size()), kMessageTime);
+}
+
+void EditorWindow::ShowPoints()
+{
+    const auto shown = [](int point) {
+        return point == Transport::kNoPoint ? std::nullopt : std::optional<int>(point);
+    };
+    const Transport& playing = m_playerPanel->Playing();
+    m_timeline->View()->SetPoints(shown(playing.InPoint()), shown(playing.OutPoint()));
 }
 
 // ---- What menus do

@@ -67,6 +67,7 @@ private:
     QAction* AddStep(const char* text, const QKeySequence& keys, bool isUndo);
     void ShowTitle();
     void ShowRemarks();
+    void ShowPoints();
     void ShowExport();
     void TranslateExport();
     bool MayEndFilms();
