@@ -24,7 +24,7 @@
 namespace {
 
 constexpr int kFrames = 50;
-constexpr int kPatience = 30000;   // ms
+constexpr int kPatience = 30000; // ms
 constexpr QSize kPicture = BinDelegate::kCellPicture;
 constexpr int kPictureTop = 6;
 
