@@ -720,6 +720,28 @@ private Q_SLOTS:
         QCOMPARE(kept, height + 10);
     }
 
+    void tabKeysBringHeadersIntoSight()
+    {
+        Editor editor(*m_engine, "a0+20 / b0+20 / c0+20 / d0+20 / e0+20 / f0+20 / g0+20");
+        const auto focused = [&]() -> LevelHeader* {
+            for (auto* header : editor.panel.findChildren<LevelHeader*>()) {
+                if (header->isAncestorOf(QApplication::focusWidget()))
+                    return header;
+            }
+            return nullptr;
+        };
+        QTRY_VERIFY(HeaderOf(editor, "Level 7"));
+        HeaderOf(editor, "Level 1")->findChild<QAbstractButton*>()->setFocus();
+        QTRY_VERIFY(focused());
+        while (focused() != HeaderOf(editor, "Level 7")) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QVERIFY(focused());
+            const LevelHeader& header = *focused();
+            QVERIFY2(header.parentWidget()->rect().contains(header.geometry()),
+                     qPrintable(header.accessibleName()));
+        }
+    }
+
     void snapsToMarkers()
     {
         Editor editor(*m_engine, "a0+20 b20+20");

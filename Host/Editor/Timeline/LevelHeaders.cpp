@@ -6,7 +6,10 @@
 #include "Host/Editor/Timeline/TimelineGeometry.h"
 #include "Host/Editor/Timeline/TimelineModel.h"
 
+#include <QApplication>
 #include <QTimerEvent>
+
+#include <algorithm>
 
 LevelHeaders::LevelHeaders(const LevelLayout& levels, const TimelineModel& model, QWidget* parent)
     : QWidget(parent), m_levels(levels), m_model(model), m_area(new QWidget(this))
@@ -73,10 +76,25 @@ void LevelHeaders::timerEvent(QTimerEvent* event)
     PlaceHeads();
 }
 
+/// The tab key goes to heads out of sight, too.
+bool LevelHeaders::focusNextPrevChild(bool isNext)
+{
+    const bool isMoved = QWidget::focusNextPrevChild(isNext);
+    for (const LevelHeader* head : qAsConst(m_headers)) {
+        if (!head->isAncestorOf(QApplication::focusWidget()))
+            continue;
+        const int above = std::min(0, head->y());
+        const int below = std::max(0, head->geometry().bottom() + 1 - m_area->height());
+        if (above + below != 0)
+            Q_EMIT ScrollAsked(above < 0 ? above : below);
+        break;
+    }
+    return isMoved;
+}
+
 void LevelHeaders::PlaceHeads()
 {
-    // The tab key goes down the levels.
-    for (int level = m_headers.size() - 1; level >= 0; --level) {
+    for (int level = 0; level < m_headers.size(); ++level) {
         m_headers[level]->setGeometry(0, m_levels.Top(level) - m_scrolled, width(),
                                       m_levels.Height(level));
         m_headers[level]->show();

@@ -30,10 +30,13 @@ Q_SIGNALS:
     void FlagAsked(int level, int flag, bool on);
     void NameAsked(int level, const QString& name);
     void HeightAsked(int level, int pixels);
+    /// The levels are to go up by \a pixels, for what has the focus now.
+    void ScrollAsked(int pixels);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
+    bool focusNextPrevChild(bool isNext) override;
 
 private:
     void SetStates();

@@ -296,8 +296,9 @@ void TimelinePanel::ConnectScrollBars()
         m_view->SetScrolled(pixels);
         m_headers->Arrange(pixels);
     });
-    connect(m_view, &TimelineView::LevelsWheeled, this,
-            [this](int pixels) { m_down->setValue(m_down->value() + pixels); });
+    const auto scrollBy = [this](int pixels) { m_down->setValue(m_down->value() + pixels); };
+    connect(m_view, &TimelineView::LevelsWheeled, this, scrollBy);
+    connect(m_headers, &LevelHeaders::ScrollAsked, this, scrollBy);
     m_down->setSingleStep(kWheelStep);
     m_across->setSingleStep(kWheelStep);
 }
