@@ -50,6 +50,9 @@ inline void SetPosition(QMouseEvent& event, const QPointF& position)
 /// File names and texts of the system are UTF-8 whatever its locale says, as always in Qt 6.
 inline void UseUtf8() {}
 
+/// Icons are as fine as the screen shows.
+inline void UseFineIcons() {}
+
 /// Windows are scaled as their screens ask, and icons as fine as these show. Before the application
 /// is made.
 inline void FollowScreens() {}
@@ -145,10 +148,15 @@ inline void UseUtf8()
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 }
 
+inline void UseFineIcons()
+{
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+}
+
 inline void FollowScreens()
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    UseFineIcons();
 }
 
 inline void SetEncoding(QTextStream& stream, bool utf8)

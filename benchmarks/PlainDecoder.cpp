@@ -53,7 +53,7 @@ struct PlainDecoder::Private
             sws_setColorspaceDetails(scaler, matrix, 0, matrix, 1, 192, 1 << 16, 1 << 16);
         }
         std::uint8_t* const planes[4] = {image.bits()};
-        const int strides[4] = {image.bytesPerLine()};
+        const int strides[4] = {int(image.bytesPerLine())};
         sws_scale(scaler, frame->data, frame->linesize, 0, frame->height, planes, strides);
         return image;
     }

@@ -262,7 +262,7 @@ private Q_SLOTS:
         Manager()->SetLangLocale(Language_Locale(from));
         QSignalSpy fonts(Manager(), &MultiLangMgr::sigFontFamilyChanged);
         Manager()->SetLangLocale(Language_Locale(to));
-        QTEST(fonts.count(), "newFonts");
+        QTEST(int(fonts.count()), "newFonts");
         QTEST(Shown(), "shown");
         QCOMPARE(Stored(), stored);
         QCOMPARE(Manager()->GetSimpleName1(), stored);

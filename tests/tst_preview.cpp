@@ -262,10 +262,10 @@ private Q_SLOTS:
         QVERIFY(QDir(m_folder->filePath("a/b")).exists());
         QCOMPARE(seen, states);
         helper->StartRender();
-        QTEST(Calls("Start").size(), "startsOfTwo");
+        QTEST(int(Calls("Start").size()), "startsOfTwo");
         QCOMPARE(seen, states);
         QTest::qWait(100);
-        QTEST(Calls("SetUpdateCallback").size(), "updates");
+        QTEST(int(Calls("SetUpdateCallback").size()), "updates");
     }
 
     void projectWithoutClipsDoesNotStart()
@@ -318,10 +318,11 @@ private Q_SLOTS:
         Helper* helper = MakeCaching();
         QList<QList<long>> seen;
         QObject context;
-        connect(helper, &Helper::sigRenderStateChange, &context, [&](long s) { seen += {s}; });
+        connect(helper, &Helper::sigRenderStateChange, &context,
+                [&](long s) { seen << QList<long>{s}; });
         connect(helper, &Helper::sigRenderProgressInfo, &context,
                 [&](long progress, long cached, long total) {
-                    seen += {progress, cached, total};
+                    seen << QList<long>{progress, cached, total};
                 });
         m_cache->Report(50, Helper::Caching, 4);
         m_cache->Report(99, Helper::LowDisk, 7);

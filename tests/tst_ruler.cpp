@@ -1162,7 +1162,7 @@ private slots:
         QVERIFY(ruler.hasFocus());
         const QImage image = ruler.Picture(1.5);
         QTEST(Columns(image, 20, Qt::magenta), "columns");
-        QTEST(Columns(image, 41, Qt::magenta).size(), "bottom");
+        QTEST(int(Columns(image, 41, Qt::magenta).size()), "bottom");
         ruler.view->clearFocus();
         QCOMPARE(Columns(ruler.Picture(), 0, Qt::magenta), QVector<int>());
     }

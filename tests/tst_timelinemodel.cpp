@@ -94,7 +94,7 @@ static auto RowsFor(const QString& object, Target target)
         if (!value.isValid())
             value = ToVariant(argument);
         if (!neutral.isValid())
-            neutral = QVariant(value.userType(), nullptr);
+            neutral = QVariant(QVariant::Type(value.userType()));
         QTest::newRow(qUtf8Printable(object + call)) << operation << value << neutral;
     };
 }

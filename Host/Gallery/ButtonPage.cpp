@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Gallery/ButtonPage.h"
 
+#include "Com/AnyQt.h"
 #include "CommonLib/BaseStateButton.h"
 #include "CommonLib/GlobalUtils.h"
 #include "CommonLib/ImageTextButton.h"
@@ -9,7 +10,6 @@
 #include "Host/Widgets/KeepTranslated.h"
 #include "Host/Widgets/Symbols.h"
 
-#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 
@@ -55,8 +55,7 @@ void FitText(QWidget* button, const QString& text, QSize size)
 
 ButtonPage::ButtonPage(QWidget* parent) : QWidget(parent), m_told(new QLabel(this))
 {
-    // Else Qt asks icons for few pixels on a dense screen.
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    AnyQt::UseFineIcons();
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setColumnMinimumWidth(0, kCaptionWidth);

@@ -122,9 +122,9 @@ QMatrix4x4 ToXyz(AVColorPrimaries primaries)
     if (!own || !usual)
         return {};
     QMatrix4x4 matrix;
-    matrix.setColumn(0, Xyz(own->prim.r));
-    matrix.setColumn(1, Xyz(own->prim.g));
-    matrix.setColumn(2, Xyz(own->prim.b));
+    matrix.setColumn(0, Xyz(own->prim.r).toVector4D());
+    matrix.setColumn(1, Xyz(own->prim.g).toVector4D());
+    matrix.setColumn(2, Xyz(own->prim.b).toVector4D());
     matrix.scale(matrix.inverted().mapVector(Xyz(own->wp)));
     QMatrix4x4 result;
     result.scale(Xyz(usual->wp) / Xyz(own->wp));

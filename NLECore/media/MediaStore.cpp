@@ -151,7 +151,7 @@ std::vector<MediaStore::Result> MediaStore::DescribeAll(const QStringList& paths
         }
     };
     Crew crew(paths.size()); // ends before what its threads use
-    crew.Run(std::min(threads, paths.size()) - 1, describe);
+    crew.Run(std::min(threads, int(paths.size())) - 1, describe);
     crew.Join();
     return results;
 }

@@ -120,7 +120,7 @@ QByteArray PictureEncoder::Encode(const QImage& picture)
         av_frame_make_writable(frame) < 0)
         return {};
     const std::uint8_t* const planes[] = {source.constBits()};
-    const int strides[] = {source.bytesPerLine()};
+    const int strides[] = {int(source.bytesPerLine())};
     sws_scale(d->scaler.get(), planes, strides, 0, source.height(), frame->data, frame->linesize);
     return d->EncodeFrame(AVCOL_SPC_BT470BG, true);
 }

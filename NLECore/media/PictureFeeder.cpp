@@ -249,7 +249,7 @@ AVFrame* PictureFeeder::Feed(const QImage& picture)
         return nullptr;
     for (int field = 0; field < fields; ++field) {
         const std::uint8_t* const rows[] = {source.constScanLine(field)};
-        const int rowStrides[] = {source.bytesPerLine() * fields};
+        const int rowStrides[] = {int(source.bytesPerLine()) * fields};
         std::uint8_t* planes[AV_NUM_DATA_POINTERS] = {};
         int strides[AV_NUM_DATA_POINTERS] = {};
         for (int plane = 0; plane < AV_NUM_DATA_POINTERS && frame->data[plane]; ++plane) {

@@ -63,7 +63,7 @@ HRESULT FontLibrary::LoadSystemFonts()
 
 HRESULT FontLibrary::GetFontCount(int* count)
 {
-    return GiveValue(count, m_names.size());
+    return GiveValue(count, int(m_names.size()));
 }
 
 HRESULT FontLibrary::GetFontName(int index, wchar_t* buffer, int capacity)

@@ -42,7 +42,7 @@ bool ChunkWriter::Append(const QByteArray& picture)
     if (picture.isEmpty() || m_written >= m_entries.size() ||
         m_file.write(picture) != picture.size())
         return false;
-    m_entries[m_written++] = {m_end, picture.size(), Checksum(picture)};
+    m_entries[m_written++] = {m_end, qint32(picture.size()), Checksum(picture)};
     m_end += picture.size();
     return true;
 }

@@ -91,13 +91,13 @@ bool Judge(const Samples& samples)
 int Conclude(const Samples& samples, const QString& output)
 {
     if (samples.size() < kFewest) {
-        std::printf("%d rounds tell nothing\n", samples.size());
+        std::printf("%d rounds tell nothing\n", int(samples.size()));
         return 1;
     }
     QFile plot(output + "/long-run.svg");
     if (!plot.open(QIODevice::WriteOnly) || plot.write(PlotOf(samples)) < 0)
         return 1;
-    std::printf("%d rounds in %.0f minutes\n", samples.size(), samples.last().minutes);
+    std::printf("%d rounds in %.0f minutes\n", int(samples.size()), samples.last().minutes);
     return Judge(samples) ? 0 : 1;
 }
 

@@ -27,13 +27,14 @@ QByteArray Mutations::Of(QByteArray file)
 
 int Mutations::Place(const QByteArray& file)
 {
-    return Below(Below(2) == 0 ? std::min(file.size(), kHead) : file.size());
+    const int size = int(file.size());
+    return Below(Below(2) == 0 ? std::min(size, kHead) : size);
 }
 
 Mutations::Piece Mutations::AnyPiece(const QByteArray& file)
 {
     const int place = Place(file);
-    return {place, std::min(file.size() - place, 1 + Below(1 << Below(16)))};
+    return {place, std::min(int(file.size()) - place, 1 + Below(1 << Below(16)))};
 }
 
 std::vector<Mutations::Piece> Mutations::Boxes(const QByteArray& file)
@@ -95,7 +96,7 @@ void Mutations::WriteNumber(QByteArray& file)
     static constexpr quint32 numbers[] = {0,       1,          0x7FFF,     0xFFFF,
                                           0x10000, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
     const quint32 number = numbers[Below(int(std::size(numbers)))];
-    const int place = std::max(0, std::min(Place(file), file.size() - 4));
+    const int place = std::max(0, std::min(Place(file), int(file.size()) - 4));
     const QByteArray bytes(reinterpret_cast<const char*>(&number), 1 << Below(3));
     file.replace(place, bytes.size(), bytes);
 }

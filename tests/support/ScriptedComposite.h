@@ -28,7 +28,10 @@ struct Composite : Object<INLETimelineComposite, INLETimelineCompositeEx>
     Clips clips;
     Clips allClips; ///< those of held composites too
 
-    HRESULT GetClipCount(int* out) override { return Value("GetClipCount", clips.size(), out); }
+    HRESULT GetClipCount(int* out) override
+    {
+        return Value("GetClipCount", int(clips.size()), out);
+    }
     HRESULT GetEnumerator(int flags, INLETimelineEnumerator** out) override
     {
         *out = MakeCom<Enumerator>(clips).detach();

@@ -17,7 +17,10 @@ struct FontLibrary : Object<INLEFontLibrary>
     HRESULT SetFontFolder(const wchar_t* folder) override { return Call("SetFontFolder", folder); }
     HRESULT AddFontFolder(const wchar_t* folder) override { return Call("AddFontFolder", folder); }
     HRESULT LoadSystemFonts() override { return Call("LoadSystemFonts"); }
-    HRESULT GetFontCount(int* count) override { return Value("GetFontCount", names.size(), count); }
+    HRESULT GetFontCount(int* count) override
+    {
+        return Value("GetFontCount", int(names.size()), count);
+    }
     /// A name of the whole capacity is written without its zero.
     HRESULT GetFontName(int index, wchar_t* buffer, int capacity) override
     {

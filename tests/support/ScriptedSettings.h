@@ -119,7 +119,7 @@ struct KeyFrameList : Object<INLEKeyFrameList>
     QVector<NLEKeyFrameRecord> records;
     int found = 1;
 
-    HRESULT GetCount(int* out) override { return Value("GetCount", records.size(), out); }
+    HRESULT GetCount(int* out) override { return Value("GetCount", int(records.size()), out); }
     HRESULT GetKeyFrame(int index, NLEKeyFrameRecord* out) override
     {
         return Value("GetKeyFrame", records.at(index), out, index);

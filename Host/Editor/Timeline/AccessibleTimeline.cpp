@@ -122,7 +122,7 @@ public:
     }
     QAccessibleInterface* childAt(int x, int y) const override
     {
-        const QPoint at = View().mapFromGlobal({x, y});
+        const QPoint at = View().mapFromGlobal(QPoint(x, y));
         const ClipRow* row = ClipHit::Find(View().Model(), View().Geometry(), at).row;
         return row ? Of(row->node) : nullptr;
     }

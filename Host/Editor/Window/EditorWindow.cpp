@@ -196,15 +196,15 @@ void EditorWindow::AddMenus()
 {
     QMenu* file = AddMenu(QT_TR_NOOP("&File"), m_files->Actions());
     file->addSeparator();
-    QAction* films = AddAction(QT_TR_NOOP("Export…"), QKeySequence(Qt::CTRL + Qt::Key_E),
+    QAction* films = AddAction(QT_TR_NOOP("Export…"), QKeySequence(QStringLiteral("Ctrl+E")),
                                [this] { ShowExport(); });
     films->setObjectName(QStringLiteral("export"));
     file->addAction(films);
     file->addSeparator();
     file->addAction(
-        AddAction(QT_TR_NOOP("Quit"), QKeySequence(Qt::CTRL + Qt::Key_Q), [this] { close(); }));
+        AddAction(QT_TR_NOOP("Quit"), QKeySequence(QStringLiteral("Ctrl+Q")), [this] { close(); }));
     m_undo = AddStep(QT_TR_NOOP("Undo"), QKeySequence::Undo, true);
-    m_redo = AddStep(QT_TR_NOOP("Redo"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z), false);
+    m_redo = AddStep(QT_TR_NOOP("Redo"), QKeySequence(QStringLiteral("Ctrl+Shift+Z")), false);
     using Group = TimelinePanel::ActionGroup;
     QMenu* edit =
         AddMenu(QT_TR_NOOP("&Edit"), QList<QAction*>{m_undo, m_redo, nullptr} +
@@ -214,7 +214,7 @@ void EditorWindow::AddMenus()
                               QKeySequence(Qt::Key_Semicolon),
                               [this] { CutRange(tr("Lift"), &INLEEditing::Lift); }));
     edit->addAction(AddAction(QT_TR_NOOP("Extract from in to out point"),
-                              QKeySequence(Qt::SHIFT + Qt::Key_Semicolon),
+                              QKeySequence(QStringLiteral("Shift+;")),
                               [this] { CutRange(tr("Extract"), &INLEEditing::Extract); }));
     QMenu* media = AddMenu(QT_TR_NOOP("&Media"), m_bin->Commands().AddMenu()->actions());
     media->addSeparator();
@@ -229,7 +229,7 @@ void EditorWindow::AddMenus()
     QMenu* play = AddMenu(QT_TR_NOOP("&Play"), m_playerPanel->Actions());
     play->addSeparator();
     play->addAction(AddAction(QT_TR_NOOP("Render the preview, or stop it"),
-                              QKeySequence(Qt::CTRL + Qt::Key_P), [this] { SwitchPreview(); }));
+                              QKeySequence(QStringLiteral("Ctrl+P")), [this] { SwitchPreview(); }));
     KeepKeys(m_playerPanel->Actions(), m_timeline->Actions());
     QMenu* view = AddMenu(QT_TR_NOOP("&View"), m_panelSwitches);
     view->addSeparator();

@@ -34,8 +34,7 @@ FileCommands::FileCommands(Project& project, QWidget& window)
     Add(QT_TR_NOOP("Open…"), QKeySequence::Open, [this] { Open(); });
     m_actions << m_recent->menuAction() << nullptr;
     Add(QT_TR_NOOP("Save"), QKeySequence::Save, [this] { Save(); });
-    Add(QT_TR_NOOP("Save as…"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_S),
-        [this] { SaveAs(); });
+    Add(QT_TR_NOOP("Save as…"), QKeySequence(QStringLiteral("Ctrl+Shift+S")), [this] { SaveAs(); });
     KeepTranslated(&window, [this] { m_recent->setTitle(tr("Open recent")); });
     connect(m_recent, &QMenu::aboutToShow, this, &FileCommands::ShowRecent);
     connect(&project, &Project::PathChanged, this, &FileCommands::NoteRecent);
