@@ -19,10 +19,10 @@ PlayerNews PlayerListener::Take()
 
 void PlayerListener::Silence()
 {
-    PlayerNews dropped; // frames end outside of the lock
-    const std::lock_guard lock(m_mutex);
+    std::unique_lock lock(m_mutex);
     m_guarded.wake = nullptr;
-    std::swap(dropped, m_guarded.news);
+    const PlayerNews dropped = std::exchange(m_guarded.news, {});
+    lock.unlock(); // frames end outside of it
 }
 
 template <typename Change>

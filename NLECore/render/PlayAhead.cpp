@@ -43,24 +43,26 @@ void PlayLoop::MixSound()
     PlaySound sound;
     std::uint64_t planned = 0;
     Lock lock(m_mutex);
-    while (!m_guarded.isEnding) {
-        if (FollowScene(lock, sound, &Guarded::mixing))
-            continue;
-        if (!m_guarded.scene) {
-            m_changed.wait(lock);
-            continue;
-        }
-        if (planned != m_guarded.generation)
-            sound.SetPlan(m_guarded.runs.back().plan);
-        planned = m_guarded.generation;
-        const bool isScrubbed = m_guarded.runs.back().kind == RunKind::Scrubbed;
-        if (isScrubbed ? MixGrain(lock, sound) : MixChunk(lock, sound))
-            continue;
-        if (IsRunning() || (isScrubbed && !m_guarded.isGrainDone))
-            m_changed.wait_for(lock, kMixEvery);
-        else
-            m_changed.wait(lock);
-    }
+    while (!m_guarded.isEnding)
+        Try(lock, [&] { MixNext(lock, sound, &planned); });
+}
+
+void PlayLoop::MixNext(Lock& lock, PlaySound& sound, std::uint64_t* planned)
+{
+    if (FollowScene(lock, sound, &Guarded::mixing))
+        return;
+    if (!m_guarded.scene)
+        return m_changed.wait(lock);
+    if (*planned != m_guarded.generation)
+        sound.SetPlan(m_guarded.runs.back().plan);
+    *planned = m_guarded.generation;
+    const bool isScrubbed = m_guarded.runs.back().kind == RunKind::Scrubbed;
+    if (isScrubbed ? MixGrain(lock, sound) : MixChunk(lock, sound))
+        return;
+    if (IsRunning() || (isScrubbed && !m_guarded.isGrainDone))
+        m_changed.wait_for(lock, kMixEvery);
+    else
+        m_changed.wait(lock);
 }
 
 bool PlayLoop::MixChunk(Lock& lock, PlaySound& sound)
@@ -111,7 +113,11 @@ bool PlayLoop::MixGrain(Lock& lock, PlaySound& sound)
 void PlayLoop::WriteSound(const float* samples, int count)
 {
     m_queue.Write(samples, count);
-    m_guarded.pieces.push_back({m_queue.End(), LevelMeter::Measure(samples, count)});
+    // Without memory the levels are without it.
+    ComGuard([&] {
+        m_guarded.pieces.push_back({m_queue.End(), LevelMeter::Measure(samples, count)});
+        return S_OK;
+    });
 }
 
 // --- The thread that composes ---
@@ -120,16 +126,20 @@ void PlayLoop::ComposePictures()
 {
     PlayComposer composer(m_stop);
     Lock lock(m_mutex);
-    while (!m_guarded.isEnding) {
-        if (FollowScene(lock, composer, &Guarded::composing))
-            continue;
-        if (const std::optional<Task> task = NextTask())
-            Compose(lock, composer, *task);
-        else if (IsRunning())
-            m_changed.wait_for(lock, kPlayEvery);
-        else
-            m_changed.wait(lock);
-    }
+    while (!m_guarded.isEnding)
+        Try(lock, [&] { ComposeNext(lock, composer); });
+}
+
+void PlayLoop::ComposeNext(Lock& lock, PlayComposer& composer)
+{
+    if (FollowScene(lock, composer, &Guarded::composing))
+        return;
+    if (const std::optional<Task> task = NextTask())
+        Compose(lock, composer, *task);
+    else if (IsRunning())
+        m_changed.wait_for(lock, kPlayEvery);
+    else
+        m_changed.wait(lock);
 }
 
 QSize PlayLoop::WantedSize() const

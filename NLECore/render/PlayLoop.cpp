@@ -17,10 +17,18 @@ constexpr int kSplicedSound = SoundQueue::kRate * 45 / 1000;
 /// Runs that may be heard; a sound offset lets several wait.
 constexpr std::size_t kMostRuns = 16;
 constexpr std::size_t kMostSpare = 10;
+/// Changes of state that wait to be told; of more the oldest are not.
+constexpr std::size_t kMostStates = 64;
 
 } // namespace
 
-PlayLoop::PlayLoop(PlayEvents& events) : m_events(events) {}
+// What is played does not depend on memory that commands would have to ask for.
+PlayLoop::PlayLoop(PlayEvents& events) : m_events(events)
+{
+    m_guarded.runs.reserve(kMostRuns);
+    m_guarded.spare.reserve(kMostSpare);
+    m_guarded.states.reserve(kMostStates);
+}
 
 PlayLoop::~PlayLoop()
 {
@@ -259,7 +267,7 @@ void PlayLoop::Splice()
     std::deque<WaitingPicture>& ahead = m_guarded.ahead;
     while (!ahead.empty() && ahead.back().due >= base)
         ahead.pop_back();
-    std::deque<Run>& runs = m_guarded.runs;
+    std::vector<Run>& runs = m_guarded.runs;
     while (!runs.empty() && (runs.back().base >= base || runs.size() >= kMostRuns))
         runs.pop_back();
     BeginRun({base, PlanFrom(material), RunKind::Spliced}, true);
@@ -291,8 +299,11 @@ void PlayLoop::KeepSpare(PlayPicture picture)
 
 void PlayLoop::Change(int state)
 {
-    if (m_guarded.state != state)
-        m_guarded.states.push_back(state);
+    if (m_guarded.state == state)
+        return;
+    if (m_guarded.states.size() == kMostStates)
+        m_guarded.states.erase(m_guarded.states.begin());
+    m_guarded.states.push_back(state);
     m_guarded.state = state;
 }
 

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "Com/ComGuard.h"
 #include "EngineApi/INLEPlayer.h"
 #include "NLECore/render/LevelMeter.h"
 #include "NLECore/render/PlayDevice.h"
+#include "NLECore/render/PlayLimits_p.h"
 #include "NLECore/render/PlayScene.h"
 
 #include <condition_variable>
@@ -140,7 +142,8 @@ private:
         std::int64_t offset = 0; ///< samples by which the device sounds later than it says
 
         std::uint64_t generation = 0;
-        std::deque<Run> runs; ///< the last one is being rendered, those before may be heard
+        /// The last one is being rendered, those before may be heard; none only without a scene.
+        std::vector<Run> runs; ///< has room for all that there may be
         bool isHeld = true;   ///< fills up
         Clock::time_point heldSince;
         std::int64_t written = 0; ///< played samples of the run in the queue
@@ -151,12 +154,12 @@ private:
         bool isDrawingAhead = false;
         std::deque<WaitingPicture> ahead;
         std::optional<PlayPicture> urgent;
-        std::vector<PlayPicture> spare; ///< composed, may be of use again
+        std::vector<PlayPicture> spare; ///< composed, may be of use again; has room for all
         std::optional<PlayPicture> shown;
         Clock::time_point shownAt;
         double cost = 0; ///< seconds that a picture takes, about
 
-        std::deque<int> states; ///< to be told
+        std::vector<int> states; ///< to be told; has room for all
         std::deque<HeardPiece> pieces;
         LevelMeter meter;
         Clock::time_point measuredAt;
@@ -172,6 +175,10 @@ private:
         bool isDeviceOpen = false;
         Clock::time_point deviceLook; ///< when it is looked after next
     };
+
+    /// Does one step of a thread. Without memory for it the next one comes a little later.
+    template <typename Work>
+    void Try(Lock& lock, const Work& work);
 
     // Commands; the mutex is locked.
     PlayPlan PlanFrom(std::int64_t material) const;
@@ -195,6 +202,7 @@ private:
 
     // The thread that mixes.
     void MixSound();
+    void MixNext(Lock& lock, PlaySound& sound, std::uint64_t* planned);
     /// Both are false when there is nothing to mix now.
     bool MixGrain(Lock& lock, PlaySound& sound);
     bool MixChunk(Lock& lock, PlaySound& sound);
@@ -204,6 +212,7 @@ private:
 
     // The thread that composes.
     void ComposePictures();
+    void ComposeNext(Lock& lock, PlayComposer& composer);
     std::optional<Task> NextTask();
     bool TakeSpare(const Task& task);
     void SkipLate();
@@ -214,6 +223,7 @@ private:
 
     // The player's thread.
     void Present();
+    void PresentNext(Lock& lock);
     bool TellState(Lock& lock);
     bool TellSecond(Lock& lock);
     bool ShowUrgent(Lock& lock);
@@ -244,5 +254,19 @@ private:
     };
     std::array<std::thread, kThreads> m_threads;
 };
+
+template <typename Work>
+void PlayLoop::Try(Lock& lock, const Work& work)
+{
+    const HRESULT result = ComGuard([&] {
+        work();
+        return S_OK;
+    });
+    if (SUCCEEDED(result))
+        return;
+    if (!lock.owns_lock())
+        lock.lock();
+    m_changed.wait_for(lock, kPlayEvery);
+}
 
 } // namespace nle

@@ -23,17 +23,21 @@ double Seconds(std::int64_t samples)
 void PlayLoop::Present()
 {
     Lock lock(m_mutex);
-    while (!m_guarded.isEnding) {
-        if (TellState(lock) || CountSecond() || TellSecond(lock) || ShowUrgent(lock) ||
-            KeepDevice(lock))
-            continue;
-        Measure();
-        if (m_guarded.scene && (BeginPlaying() || EndPlaying() || ShowDue(lock)))
-            continue;
-        WaitForMore(lock);
-    }
+    while (!m_guarded.isEnding)
+        Try(lock, [&] { PresentNext(lock); });
     lock.unlock();
     m_device.Close();
+}
+
+void PlayLoop::PresentNext(Lock& lock)
+{
+    if (TellState(lock) || CountSecond() || TellSecond(lock) || ShowUrgent(lock) ||
+        KeepDevice(lock))
+        return;
+    Measure();
+    if (m_guarded.scene && (BeginPlaying() || EndPlaying() || ShowDue(lock)))
+        return;
+    WaitForMore(lock);
 }
 
 bool PlayLoop::TellState(Lock& lock)
@@ -41,7 +45,7 @@ bool PlayLoop::TellState(Lock& lock)
     if (m_guarded.states.empty())
         return false;
     const int state = m_guarded.states.front();
-    m_guarded.states.pop_front();
+    m_guarded.states.erase(m_guarded.states.begin());
     lock.unlock();
     m_events.StateChanged(state);
     lock.lock();

@@ -26,7 +26,7 @@ void PlayComposer::SetScene(const SharedScene& scene)
         return;
     // Its decoders go back first, so that the next composer takes them on where they stand.
     m_composer.reset();
-    m_scene = scene;
+    m_scene.reset();
     if (!scene) {
         m_trail = {};
         return;
@@ -34,6 +34,7 @@ void PlayComposer::SetScene(const SharedScene& scene)
     m_composer.emplace(scene->root);
     m_composer->SetStop(&m_stop);
     m_composer->SetTrail(&m_trail);
+    m_scene = scene; // which without memory for a composer it is not
 }
 
 template <typename Draw>
