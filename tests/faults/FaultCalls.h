@@ -3,8 +3,8 @@
 
 #include <string>
 
-/// Calls of the C library on the files below one folder, whichever module makes them, that are
-/// counted and one of which fails or ends the process.
+/// Calls of the C library on the files below one folder, whichever module makes them, or for threads
+/// and memory, that are counted and one of which fails or ends the process.
 namespace FaultCalls {
 
 enum class How
@@ -18,7 +18,9 @@ enum class How
 struct Fault
 {
     std::string folder; ///< canonical
-    std::string call; ///< "open", "read", "write", "sync", "rename", "map", "thread"; "any" of them
+    /// "open", "read", "write", "sync", "rename", "map", or "any" of these; "thread" and "memory",
+    /// which are no file's.
+    std::string call;
     int at = 0;       ///< the so-manieth, from 1; 0 for none
     How how = How::Fail;
 };

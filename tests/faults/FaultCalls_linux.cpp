@@ -5,17 +5,22 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <initializer_list>
+#include <new>
 
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <link.h>
 #include <pthread.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
@@ -71,6 +76,38 @@ bool Fails(const char* call, int descriptor)
     std::array<char, 1024> path = {};
     std::snprintf(link.data(), link.size(), "/proc/self/fd/%d", descriptor);
     return ::readlink(link.data(), path.data(), path.size() - 1) > 0 && Fails(call, path.data());
+}
+
+/// Whether \a caller is code of a module whose path has one of \a names in it.
+bool IsIn(const void* caller, std::initializer_list<const char*> names)
+{
+    dl_find_object found = {};
+    if (_dl_find_object(const_cast<void*>(caller), &found) != 0 || !found.dlfo_link_map)
+        return false;
+    const char* path = found.dlfo_link_map->l_name;
+    return std::any_of(names.begin(), names.end(),
+                       [path](const char* name) { return std::strstr(path, name); });
+}
+
+/// Threads of Qt's pool and of GLib are not asked for in a way that could be refused.
+bool FailsThread(const void* caller)
+{
+    return s_isCounting && !IsIn(caller, {"/libQt5", "/libglib"}) && IsTheOne("thread");
+}
+
+/// Memory that own modules ask for themselves, not through Qt.
+bool FailsMemory(const void* caller)
+{
+    return s_isCounting && Wanted().call == "memory" &&
+           IsIn(caller, {"NLECore", "PortableDevices", "libCommonLib"}) && IsTheOne("memory");
+}
+
+/// Memory of pictures, sound and tables; without little things the media libraries end the process.
+bool FailsMediaMemory(const void* caller, size_t bytes)
+{
+    constexpr size_t little = 4096;
+    return s_isCounting && Wanted().call == "memory" && bytes >= little &&
+           IsIn(caller, {"/libav", "/libsw"}) && IsTheOne("memory");
 }
 
 template <typename Function>
@@ -171,5 +208,52 @@ extern "C" Q_DECL_EXPORT int pthread_create(pthread_t* thread, const pthread_att
                                             void* (*start)(void*), void* argument)
 {
     static auto* const real = Real(&pthread_create, "pthread_create");
-    return s_isCounting && IsTheOne("thread") ? EAGAIN : real(thread, attributes, start, argument);
+    return FailsThread(__builtin_return_address(0)) ? EAGAIN
+                                                    : real(thread, attributes, start, argument);
+}
+
+extern "C" Q_DECL_EXPORT int posix_memalign(void** memory, size_t alignment, size_t bytes)
+{
+    static auto* const real = Real(&posix_memalign, "posix_memalign");
+    return FailsMediaMemory(__builtin_return_address(0), bytes) ? ENOMEM
+                                                                : real(memory, alignment, bytes);
+}
+
+void* operator new(std::size_t bytes, const std::nothrow_t& /*tag*/) noexcept
+{
+    return FailsMemory(__builtin_return_address(0)) ? nullptr : std::malloc(bytes > 0 ? bytes : 1);
+}
+void* operator new[](std::size_t bytes, const std::nothrow_t& /*tag*/) noexcept
+{
+    return FailsMemory(__builtin_return_address(0)) ? nullptr : std::malloc(bytes > 0 ? bytes : 1);
+}
+void* operator new(std::size_t bytes)
+{
+    void* memory = nullptr;
+    if (!FailsMemory(__builtin_return_address(0)))
+        memory = std::malloc(bytes > 0 ? bytes : 1);
+    return memory ? memory : throw std::bad_alloc();
+}
+void* operator new[](std::size_t bytes)
+{
+    void* memory = nullptr;
+    if (!FailsMemory(__builtin_return_address(0)))
+        memory = std::malloc(bytes > 0 ? bytes : 1);
+    return memory ? memory : throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t /*bytes*/) noexcept
+{
+    std::free(memory);
+}
+void operator delete[](void* memory) noexcept
+{
+    std::free(memory);
+}
+void operator delete[](void* memory, std::size_t /*bytes*/) noexcept
+{
+    std::free(memory);
 }

@@ -4,8 +4,10 @@
 #include "CommonLib/BaseLog.h"
 #include "CommonLib/MultiLangMgr.h"
 #include "CommonLib/QuaZipOperate.h"
+#include "CommonLib/WpdApiLib/WpdApiLib.h"
 #include "EngineApi/INLEBackgroundCache.h"
 #include "EngineApi/INLEFactory.h"
+#include "EngineApi/INLEPlayer.h"
 #include "EngineApi/INLEReasons.h"
 #include "EngineApi/INLESystemFile.h"
 #include "EngineApi/NLEKey.h"
@@ -15,6 +17,9 @@ namespace {
 
 constexpr NLEEncodeSettings kFilm = {{160, 90}, {25, 1}, {}, 0, 48000, 2, 0};
 constexpr int kFrames = 10;
+constexpr int kPatience = 20000; // milliseconds
+/// A player that says it plays and does not; it has no reason.
+constexpr HRESULT kStandsStill = HRESULT(0x8badf00d);
 
 bool HasReason()
 {
@@ -40,41 +45,82 @@ public:
     Scenario Document(const char* name)
     {
         const QString path = In(name);
-        return {name, [=] { Save(path, 1); }, [=] { return OfEngine(Save(path, 2)); },
+        return {name, [=] { Save(path, ProjectOf(1)); },
+                [=] {
+                    return [=, project = ProjectOf(2)] { return OfEngine(Save(path, project)); };
+                },
                 [=] { return LookAtDocument(path); }};
     }
     Scenario Settings()
     {
         const QString path = In("settings.json");
         return {"settings", [=] { SaveSettings(path, 1); },
-                [=] { return OfEngine(SaveSettings(path, 2)); },
+                [=] { return [=] { return OfEngine(SaveSettings(path, 2)); }; },
                 [=] { return LookAtSettings(path); }};
     }
     Scenario Export()
     {
         const QString path = In("film.mp4");
-        return {"export", [=] { Write(path, Qt::red); },
-                [=] { return OfEngine(Write(path, Qt::blue)); }, [=] { return LookAtFilm(path); }};
+        return {"export", [=] { Write(path, FilmOf(Qt::red)); },
+                [=] {
+                    return [=, film = FilmOf(Qt::blue)] { return OfEngine(Write(path, film)); };
+                },
+                [=] { return LookAtFilm(path); }};
     }
     Scenario Thumbnails()
     {
         const QString path = In("film.mp4");
-        return {"thumbnails", [=] { Write(path, Qt::red); },
-                [=] { return Outcome::Of(LookAtFilm(path) == Left::Old); },
+        return {"thumbnails", [=] { Write(path, FilmOf(Qt::red)); },
+                [=] { return [=] { return OfEngine(DrawThumbnails(path)); }; },
+                [=] { return LookAtFilm(path); }};
+    }
+    Scenario Play()
+    {
+        const QString path = In("film.mp4");
+        return {"play", [=] { Write(path, FilmOf(Qt::red)); },
+                [=] {
+                    return [=, film = m_engine.ProjectWith(m_engine.Media(path)),
+                            factory = EngineFixture::Factory()] {
+                        return OfEngine(PlayFilm(*factory.get(), film));
+                    };
+                },
                 [=] { return LookAtFilm(path); }};
     }
     Scenario PreviewCache()
     {
-        return {"preview-cache", [] {}, [=] { return Render(); },
-                [=] { return Render().isDone ? Left::New : Left::Broken; }};
+        return {"preview-cache", [] {},
+                [=] {
+                    const Node project = FilmOf(Qt::green);
+                    const auto cache = std::make_shared<Cache>(project, In("cache"));
+                    return [=] { return Render(project, *cache); };
+                },
+                [=] {
+                    const Node project = FilmOf(Qt::green);
+                    Cache cache(project, In("cache"));
+                    return Render(project, cache).isDone ? Left::New : Left::Broken;
+                }};
+    }
+    Scenario Import()
+    {
+        const QString card = In("card/clip.mp4");
+        const QString copy = In("copy.mp4");
+        return {"import", [=] { WriteBytes(card); },
+                [=] {
+                    qputenv("COMMONLIB_DEVICE_FOLDERS", QFile::encodeName(In("card")));
+                    WpdApiLib::SetCallbackProc(TakeClip, &m_clip);
+                    return [=] { return Outcome::Of(ImportTo(copy)); };
+                },
+                [=] { return LookAtImport(card, copy); }};
     }
     Scenario Language()
     {
         const QString path = In("language.ini");
         return {"language", [=] { Choose(path, Language_German); },
                 [=] {
-                    Choose(path, Language_French);
-                    return Outcome::Of(LookAtLanguage(path) == Left::New);
+                    return [=] {
+                        Choose(path, Language_French);
+                        return Outcome::Of(LookAtLanguage(path) == Left::New);
+                    };
                 },
                 [=] { return LookAtLanguage(path); }};
     }
@@ -83,27 +129,41 @@ public:
         const QString archive = In("archive.zip");
         const QString target = In("unpacked");
         return {"unzip", [=] { Pack(archive); },
-                [=] { return Outcome::Of(!QuaZipOperate::ExtractDir(archive, target).isEmpty()); },
+                [=] {
+                    return [=] {
+                        return Outcome::Of(!QuaZipOperate::ExtractDir(archive, target).isEmpty());
+                    };
+                },
                 [=] { return LookAtUnpacked(target); }};
     }
     Scenario Log()
     {
         const QString path = In("log.txt");
         return {"log", [=] { WriteLog(path, "old"); },
-                [=] { return Outcome::Of(WriteLog(path, "new")); },
+                [=] { return [=] { return Outcome::Of(WriteLog(path, "new")); }; },
                 [=] { return LookAtLog(path); }};
     }
 
 private:
     QString In(const char* name) const { return m_folder + '/' + QLatin1String(name); }
 
-    HRESULT Save(const QString& path, int clips) const
+    Node ProjectOf(int clips) const
     {
-        const Node project = m_engine.Project();
+        Node project = m_engine.Project();
         for (int clip = 0; clip < clips; ++clip)
             EngineFixture::Add(project, m_engine.Colour(Qt::red), clip * kFrames);
-        return m_engine.provider->CreateDocumentSerialize()->Save(project.get(),
-                                                                  path.toStdWString().c_str());
+        return project;
+    }
+    Node FilmOf(const QColor& color) const
+    {
+        return m_engine.ProjectWith(EngineFixture::Trimmed(m_engine.Colour(color), 0, kFrames - 1));
+    }
+
+    HRESULT Save(const QString& path, const Node& project) const
+    {
+        const auto document = m_engine.provider->CreateDocumentSerialize();
+        return document ? document->Save(project.get(), path.toStdWString().c_str())
+                        : E_OUTOFMEMORY;
     }
     Left LookAtDocument(const QString& path) const
     {
@@ -118,8 +178,9 @@ private:
     {
         const auto config = m_engine.provider->GetSystemConfig();
         NLEComPtr<INLEProperties> bag;
-        config->GetProperties(bag.put());
-        bag->SetInt(NLEKey::System::kThreads, threads);
+        if (!config || FAILED(config->GetProperties(bag.put())) ||
+            FAILED(bag->SetInt(NLEKey::System::kThreads, threads)))
+            return E_OUTOFMEMORY;
         return config.query<INLESystemFile>()->Save(path.toStdWString().c_str());
     }
     Left LookAtSettings(const QString& path) const
@@ -134,13 +195,42 @@ private:
         return threads == 1 ? Left::Old : Left::New;
     }
 
-    HRESULT Write(const QString& path, const QColor& color) const
+    HRESULT Write(const QString& path, const Node& film) const
     {
-        const Node clip = EngineFixture::Trimmed(m_engine.Colour(color), 0, kFrames - 1);
-        const Node project = m_engine.ProjectWith(clip);
         const auto encoder = m_engine.provider->CreateMediaEncoder();
-        const HRESULT opened = encoder->Open(project.get(), path.toStdWString().c_str(), &kFilm);
+        const HRESULT opened =
+            encoder ? encoder->Open(film.get(), path.toStdWString().c_str(), &kFilm)
+                    : E_OUTOFMEMORY;
         return opened == S_OK ? encoder->Encode(nullptr, nullptr) : opened;
+    }
+    HRESULT DrawThumbnails(const QString& path) const
+    {
+        const auto codec = m_engine.provider->CreateCodecFromFile(path);
+        const auto thumbnails = m_engine.provider->CreateThumbnailExtractor();
+        NLEComPtr<INLEMediaInfo> info;
+        if (!codec || FAILED(codec->GetMediaInfo(info.put())) || !thumbnails)
+            return E_FAIL;
+        HRESULT result = thumbnails->SetSource(info.get(), 0);
+        for (int frame = 0; result == S_OK && frame < kFrames; ++frame) {
+            NLEComPtr<INLEPicture> picture;
+            result = thumbnails->Extract(frame, {64, 36}, picture.put());
+        }
+        return result;
+    }
+    /// Until the position has moved, or nobody moves it.
+    static HRESULT PlayFilm(INLEFactory& factory, const Node& film)
+    {
+        NLEComPtr<INLEPlayer> player;
+        const HRESULT made = factory.CreatePlayer(player.put());
+        const HRESULT opened = FAILED(made) ? made : player->Open(film.get());
+        const HRESULT played = FAILED(opened) ? opened : player->Play(1);
+        const auto hasMoved = [&] {
+            int position = 0;
+            return player->GetPosition(&position) == S_OK && position > 0;
+        };
+        if (played == S_OK && !QTest::qWaitFor(hasMoved, kPatience))
+            return kStandsStill;
+        return played;
     }
     Left LookAtFilm(const QString& path) const
     {
@@ -156,15 +246,53 @@ private:
         return color.blue() > 200 && color.red() < 60 ? Left::New : Left::Broken;
     }
 
-    Outcome Render() const
+    Outcome Render(const Node& project, Cache& cache) const
     {
-        const Node clip = EngineFixture::Trimmed(m_engine.Colour(Qt::green), 0, kFrames - 1);
-        const Node project = m_engine.ProjectWith(clip);
-        Cache cache(project, In("cache"));
-        if (cache.Start() == S_OK)
+        const HRESULT started = cache.Start();
+        if (started == S_OK)
             cache.End();
         const bool isWhole = cache.Needed().isEmpty();
         return Outcome::Of(isWhole && !m_engine.Frame(project, kFrames - 1).isNull());
+    }
+
+    static QByteArray Clip() { return QByteArray(3000000, 'c'); }
+    static void WriteBytes(const QString& path)
+    {
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        if (file.open(QIODevice::WriteOnly))
+            file.write(Clip());
+    }
+    /// Notes the clip among what is read of a device.
+    static std::int64_t TakeClip(HWND /*window*/, std::uint32_t /*message*/, std::uint64_t code,
+                                 std::int64_t value, void* user)
+    {
+        if (code == WpdObjectRead) {
+            const auto& record = *reinterpret_cast<const WpdObjectRecord*>(value);
+            if (record.originalFileName == std::wstring_view(L"clip.mp4"))
+                *static_cast<std::wstring*>(user) = record.objectId;
+        }
+        return 0;
+    }
+    bool ImportTo(const QString& copy)
+    {
+        m_clip.clear();
+        const QByteArray card = QUrl::fromLocalFile(In("card")).toEncoded();
+        const bool isFound =
+            WpdApiLib::ChooseDevice(QString::fromLatin1(card).toStdWString().c_str(), nullptr) &&
+            WpdApiLib::EnumerateAllContent() && !m_clip.empty();
+        const bool isCopied =
+            isFound && WpdApiLib::TransferContentFromDevice(
+                           m_clip.c_str(), copy.toStdWString().c_str(), 0) == 1;
+        WpdApiLib::UnregisterForEventNotifications();
+        return isCopied;
+    }
+    static Left LookAtImport(const QString& card, const QString& copy)
+    {
+        if (QFileInfo::exists(QFileInfo(card).path()) && EngineFixture::Contents(card) != Clip())
+            return Left::Broken;
+        // What was written of a copy stays.
+        return EngineFixture::Contents(copy) == Clip() ? Left::New : Left::Nothing;
     }
 
     static void Choose(const QString& path, Language_Locale language)
@@ -228,6 +356,7 @@ private:
 
     EngineFixture& m_engine;
     const QString m_folder;
+    std::wstring m_clip; ///< its identifier on the device
 };
 
 } // namespace
@@ -241,6 +370,8 @@ std::vector<Scenario> AllScenarios(EngineFixture& engine, const QString& path)
                                        work->Export(),
                                        work->Thumbnails(),
                                        work->PreviewCache(),
+                                       work->Play(),
+                                       work->Import(),
                                        work->Language(),
                                        work->Unzip(),
                                        work->Log()};

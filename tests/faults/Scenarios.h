@@ -28,8 +28,9 @@ struct Scenario
 {
     const char* name;
     std::function<void()> prepare; ///< the old state, and what the work needs
-    std::function<Outcome()> act;  ///< makes the new state of the old
-    std::function<Left()> look;    ///< as a later start does
+    /// Makes ready what the work has in memory; what it gives makes the new state of the old.
+    std::function<std::function<Outcome()>()> ready;
+    std::function<Left()> look; ///< as a later start does
 };
 
 /// All of them, in the folder at \a path. Runs in a program of its own.

@@ -48,10 +48,11 @@ FaultCalls::How HowOf(const QString& word)
 
 void Act(const Scenario& scenario, const QString& folder, const QStringList& fault)
 {
+    const auto work = scenario.ready();
     if (fault.size() == 3)
         FaultCalls::Begin({QFile::encodeName(folder).toStdString(), fault[0].toStdString(),
                            fault[1].toInt(), HowOf(fault[2])});
-    const Outcome outcome = scenario.act();
+    const Outcome outcome = work();
     std::printf("%s%s\n", FaultCalls::End() ? "fault, " : "", Words(outcome));
 }
 
