@@ -568,9 +568,10 @@ NLERange OtioReader::RangeOf(const QJsonObject& item, const TimelineNode& node, 
                              std::int64_t length) const
 {
     const double speed = node.PlaysMaterial() ? node.Speed() : 1;
-    double in = std::round(SpanOf(item).start * Fps() / speed);
+    double start = SpanOf(item).start;
     if (isOwn && Child(ReferenceOf(item), "available_range").isEmpty())
-        in -= std::round(MediaStart(node) * Fps() / speed);
+        start -= MediaStart(node);
+    double in = std::round(start * Fps() / speed); // once: parts that are rounded creep
     // The start of a frozen clip is the frame that shows.
     if (node.IsFrozen())
         in = isOwn ? VisiblePart(node).range.in : 0;
