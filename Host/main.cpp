@@ -8,6 +8,7 @@
 #include "Host/ExportJob.h"
 #include "Host/HostLanguage.h"
 #include "Host/MediaJob.h"
+#include "Host/NarrowPath.h"
 #include "Host/OutputFolder.h"
 #include "Host/QtMessages.h"
 
@@ -52,9 +53,10 @@ bool StartLog(const Options& options, Console& console)
 {
     // A longer path would be cut, and the log be another file than the one asked for.
     constexpr int longestPath = 255;
-    const QByteArray path = QFile::encodeName(options.log);
+    const QByteArray path = NarrowPath(options.log);
     BaseLog* log = GetGlobalLogInstance();
-    if (path.size() > longestPath || log->Init(path.constData(), options.echo, LogLevelAll) != 0) {
+    if (path.isEmpty() || path.size() > longestPath ||
+        log->Init(path.constData(), options.echo, LogLevelAll) != 0) {
         console.Print(
             Program::tr("The log %1 cannot be opened; going on without it.").arg(options.log));
         return false;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // The open engine, judged by what it shows: trees of clips, pixels, samples and encoded files.
 #include "EngineApi/INLEEditing.h"
+#include "EngineApi/INLEEncode.h"
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
@@ -45,6 +46,22 @@ class tst_Engine : public QObject, private EngineFixture
         Node project = ProjectWith(Colour(Qt::red));
         Add(project, Trimmed(inner, 10, 29), 50, 1);
         return project;
+    }
+
+    /// Whether encoders of other projects are needed for a suffix, and this engine has none of
+    /// them.
+    bool MissesEncoder(const QString& suffix) const
+    {
+        if (!QStringList{"mp3", "ogv", "opus", "swf", "webm"}.contains(suffix))
+            return false;
+        const auto catalog = provider->CreateMediaEncoder().query<INLEEncodeCatalog>();
+        const QString needed = suffix == "swf" ? "mp3" : suffix; // for its sound
+        NLEContainerInfo container;
+        for (int index = 0; catalog->GetContainer(index, &container) == S_OK; ++index) {
+            if (needed == container.name)
+                return false;
+        }
+        return true;
     }
 
     QString m_media = Path("clip.mp4");
@@ -534,7 +551,9 @@ private slots:
     {
         QFETCH(const QString, name);
         QFETCH(const NLEEncodeSettings, settings);
-        QFETCH(const HRESULT, opened);
+        QFETCH(HRESULT, opened);
+        if (MissesEncoder(QFileInfo(name).suffix()))
+            opened = name.endsWith("swf") ? E_INVALIDARG : E_NOTIMPL;
         QTemporaryDir place;
         const QDir target(place.path());
         QVERIFY(target.mkdir("folder.mp4"));
@@ -581,6 +600,8 @@ private slots:
     {
         QFETCH(const QString, suffix);
         QFETCH(const QSize, size);
+        if (MissesEncoder(suffix))
+            QSKIP("this build of the media libraries has no encoder for it");
         const QColor colour(200, 40, 60);
         const QString path = Path(qPrintable("colours." + suffix));
         const NLEEncodeSettings settings = {
@@ -614,6 +635,7 @@ private slots:
         wchar_t path[512] = L"";
         clip.query<INLETimelineSource>()->GetFilePath(path, 512);
         QCOMPARE(QString::fromWCharArray(path), moved);
+        QCOMPARE(relink->Reload(), S_OK); // lets go of the file
         QVERIFY(QFile::remove(moved));
         QCOMPARE(relink->Reload(), S_OK);
         QVERIFY(Frame(clip, 3).isNull());

@@ -103,8 +103,10 @@ private slots:
         QVERIFY(WriteFile(path("empty.mp4"), {}));
         QVERIFY(WriteFile(path("text.mp4"), "No movie.\n"));
         QVERIFY(QDir().mkpath(m_output));
-        QVERIFY(QFile::link(m_output, path("link"))); // the same log
-        const Run run = RunHost({"--output", m_output, "--log", path("link/CommonLibDemo.log"),
+        QString logs = m_output;
+        if (QFile::link(m_output, path("link")) && QFileInfo(path("link")).isDir())
+            logs = path("link"); // the same log; Windows makes a link of the desktop
+        const Run run = RunHost({"--output", m_output, "--log", logs + "/CommonLibDemo.log",
                                  path("missing.mp4"), path("folder.mp4"), path("empty.mp4"),
                                  path("text.mp4"), "/dev/zero"});
         QCOMPARE(run.code, 0);
@@ -178,7 +180,10 @@ private slots:
         QVERIFY(QFile::copy(HostProgram(), alone));
         const Run run = RunHost({"--output", m_output, alone}, alone);
         QCOMPARE(run.code, 1);
-        const QString expected = "The engine is missing or does not start: " + path("NLECore.dll");
+        const QString module = QDir::toNativeSeparators(path("NLECore.dll"));
+        // What is printed has the letters that the system's character set has.
+        const QString shown = QString::fromLocal8Bit(module.toLocal8Bit());
+        const QString expected = "The engine is missing or does not start: " + shown;
         QVERIFY2(run.text.contains(expected), qPrintable(run.text));
     }
 };

@@ -9,6 +9,16 @@
 
 namespace nle {
 
+namespace {
+
+/// Be it under another name, or with another content.
+bool IsSameFile(const FileStamp& a, const FileStamp& b)
+{
+    return a.size >= 0 && b.size >= 0 && a.volume == b.volume && a.file == b.file;
+}
+
+} // namespace
+
 /// State of the pool; lives as long as the pool or any lease of it.
 struct DecoderPool::Shared
 {
@@ -180,6 +190,7 @@ DecoderPool::Lease DecoderPool::Acquire(const std::shared_ptr<const MediaInfo>& 
 
 void DecoderPool::Drop(const QString& path)
 {
+    const FileStamp stamp = StampOf(path);
     Shared::IdleList closing;
     const std::lock_guard<std::mutex> lock(m_shared->mutex);
     // Without a lease nothing can come back later, so nothing need be remembered.
@@ -189,7 +200,8 @@ void DecoderPool::Drop(const QString& path)
         m_shared->dropped[path] = ++m_shared->generation;
     for (auto entry = m_shared->idle.begin(); entry != m_shared->idle.end();) {
         const auto next = std::next(entry);
-        if (entry->decoder->Info()->path == path)
+        const MediaInfo& info = *entry->decoder->Info();
+        if (info.path == path || IsSameFile(info.stamp, stamp))
             closing.splice(closing.end(), m_shared->idle, entry);
         entry = next;
     }

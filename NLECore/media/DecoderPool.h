@@ -66,8 +66,8 @@ public:
     Lease Acquire(const std::shared_ptr<const MediaInfo>& info, int stream, DecodePurpose purpose,
                   int wantedFrame, QString* error = nullptr, bool hardware = false);
 
-    /// Closes the idle decoders of the file at \a path; those in use are closed when they come
-    /// back.
+    /// Closes the idle decoders of the file at \a path, whatever name they know it by; those in
+    /// use are closed when they come back.
     void Drop(const QString& path);
     /// Closes all idle decoders; those in use are closed when they come back.
     void Clear();

@@ -127,6 +127,13 @@ constexpr ProfilePixels kProfilePixels[] = {
     {"dnxhr", "dnxhr_hqx", "yuv422p10le"}, {"dnxhr", "dnxhr_444", "yuv444p10le"},
 };
 
+/// Films have pictures: without an encoder of any a container of films is none.
+bool HasEncoders(const ContainerFormat& container)
+{
+    const NLEStreamType main = *container.video != '\0' ? NLEStream_Video : NLEStream_Audio;
+    return av_guess_format(container.muxer, nullptr, nullptr) && container.Codec(main, {});
+}
+
 bool Lists(const char* names, const std::string& name)
 {
     const std::vector<std::string> list = SplitNames(names);
@@ -289,11 +296,7 @@ const std::vector<ContainerFormat>& Containers()
     static const std::vector<ContainerFormat> containers = [] {
         std::vector<ContainerFormat> found;
         std::copy_if(std::begin(kContainers), std::end(kContainers), std::back_inserter(found),
-                     [](const ContainerFormat& container) {
-                         return av_guess_format(container.muxer, nullptr, nullptr) &&
-                                (container.Codec(NLEStream_Video, {}) ||
-                                 container.Codec(NLEStream_Audio, {}));
-                     });
+                     &HasEncoders);
         return found;
     }();
     return containers;
@@ -311,7 +314,7 @@ const ContainerFormat* FindContainer(const std::string& name)
 const ContainerFormat* ContainerOfPath(const QString& path)
 {
     const std::string suffix = QFileInfo(path).suffix().toLower().toStdString();
-    for (const ContainerFormat& container : Containers()) {
+    for (const ContainerFormat& container : kContainers) {
         if (Lists(container.suffixes, suffix))
             return &container;
     }

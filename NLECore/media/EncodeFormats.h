@@ -78,11 +78,12 @@ struct ContainerFormat
     std::vector<std::string> SampleFormats(const CodecFormat& codec) const;
 };
 
-/// All containers.
+/// All containers that this build of the libraries has encoders for.
 const std::vector<ContainerFormat>& Containers();
-/// The container of that name; null when there is none.
+/// The one of these with that name; null when there is none.
 const ContainerFormat* FindContainer(const std::string& name);
-/// The container that the suffix of \a path chooses; null when it is not one of these.
+/// The container that the suffix of \a path chooses, be there encoders for it or not; null for
+/// another suffix.
 const ContainerFormat* ContainerOfPath(const QString& path);
 
 /// The encoder of a codec, for sound of that sample format; null when this build of the libraries

@@ -265,6 +265,10 @@ bool MakePlan(const QString& path, const WriterSettings& settings, EncodePlan* p
         options.container.empty() ? ContainerOfPath(path) : FindContainer(options.container);
     if (!container && !options.container.empty())
         return Fail(error, WriterError::Kind::Settings, QStringLiteral("no such container"));
+    if (container && !FindContainer(container->name))
+        return Fail(error, WriterError::Kind::Container,
+                    QStringLiteral("this build of the media libraries has no encoder for %1")
+                        .arg(QLatin1String(container->title)));
     if (container && container->isSequence && !PictureSequence::IsName(path))
         return Fail(error, WriterError::Kind::Container,
                     QStringLiteral("the container is not a single file; a sequence of pictures "

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/MediaWriter.h"
 
+#include "NLECore/media/DecoderPool.h"
 #include "NLECore/media/EncoderSetup_p.h"
 #include "NLECore/media/FilterGraph_p.h"
 #include "NLECore/media/FrameDecoder.h"
@@ -271,6 +272,7 @@ struct MediaWriter::Private
             sequence = std::make_unique<PictureSequence>(file.Target());
             return sequence->Open() || FailSequence();
         }
+        Decoders().Drop(file.Target());
         return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
                Fail(WriterError::Kind::File, file.errorString());
     }
@@ -516,6 +518,7 @@ bool MediaWriter::Try(const QString& path, WriterSettings& settings, WriterError
         return false;
     };
     WholeFile target(path);
+    Decoders().Drop(target.Target());
     const QFileInfo file(path);
     SideFolder folder(file);
     if (!target.open(QIODevice::WriteOnly))
@@ -618,6 +621,8 @@ bool MediaWriter::Finish()
     avio_flush(d->output.get());
     if (!d->Check(d->output->error))
         return false;
+    // Windows replaces no file that is open.
+    Decoders().Drop(d->file.Target());
     return d->file.Commit() ||
            d->Fail(WriterError::Kind::File, d->file.errorString(), d->IsFull(0));
 }

@@ -64,6 +64,11 @@ bool WriteThrough(const QFile& file)
     return ::fsync(file.handle()) == 0 || errno == EINVAL || errno == ENOSYS;
 }
 
+bool MayBeReplaced(const QString& /*path*/, QString* /*error*/)
+{
+    return true;
+}
+
 bool MoveOver(const QString& file, const QString& target, QString* error)
 {
     if (std::rename(QFile::encodeName(file).constData(), QFile::encodeName(target).constData()) ==

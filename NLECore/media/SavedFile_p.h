@@ -22,6 +22,10 @@ bool RemoveLeft(const QString& path);
 /// Lets the system write to the disk what it was given for an open \a file. False when it cannot.
 bool WriteThrough(const QFile& file);
 
+/// Whether a file may take the place of that at \a path, which is there. False, with the system's
+/// words in \a error, where somebody has it open and the system then replaces none.
+bool MayBeReplaced(const QString& path, QString* error);
+
 /// Renames \a file, in one step over what is at \a target. False, with what was there before and
 /// the system's words in \a error, when that fails.
 bool MoveOver(const QString& file, const QString& target, QString* error);

@@ -13,6 +13,29 @@
 
 namespace nle {
 
+namespace {
+
+// Whether \a done, which uses a file, is so. Scanners and indexers open what was just written, for
+// a moment.
+template <typename Call>
+bool TryPatiently(Call done, QString* error)
+{
+    constexpr int tries = 10;
+    constexpr DWORD pauseMs = 50;
+    for (int left = tries; !done(); --left) {
+        const DWORD reason = GetLastError();
+        const bool isInUse = reason == ERROR_SHARING_VIOLATION || reason == ERROR_ACCESS_DENIED;
+        if (left == 1 || !isInUse) {
+            *error = qt_error_string(int(reason));
+            return false;
+        }
+        Sleep(pauseMs);
+    }
+    return true;
+}
+
+} // namespace
+
 // Qt knows a full disk by its words only.
 QFileDevice::FileError ErrorOf(const QFileDevice& file)
 {
@@ -43,7 +66,8 @@ void RemoveAlone(QFile& file, const QString& path)
 
 bool RemoveLeft(const QString& path)
 {
-    return DeleteFileW(SystemPath(path).c_str()) || GetLastError() == ERROR_FILE_NOT_FOUND;
+    return DeleteFileW(SystemPath(path.toStdWString()).c_str()) ||
+           GetLastError() == ERROR_FILE_NOT_FOUND;
 }
 
 bool WriteThrough(const QFile& file)
@@ -51,13 +75,26 @@ bool WriteThrough(const QFile& file)
     return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()))) != 0;
 }
 
+bool MayBeReplaced(const QString& path, QString* error)
+{
+    const std::wstring name = SystemPath(path.toStdWString());
+    constexpr DWORD anyone = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const auto open = [&] {
+        const HANDLE file =
+            CreateFileW(name.c_str(), DELETE, anyone, nullptr, OPEN_EXISTING, 0, nullptr);
+        return file != INVALID_HANDLE_VALUE && CloseHandle(file);
+    };
+    return TryPatiently(open, error);
+}
+
 bool MoveOver(const QString& file, const QString& target, QString* error)
 {
-    if (MoveFileExW(SystemPath(file.toStdWString()).c_str(),
-                    SystemPath(target.toStdWString()).c_str(), MOVEFILE_REPLACE_EXISTING))
-        return true;
-    *error = qt_error_string();
-    return false;
+    const std::wstring from = SystemPath(file.toStdWString());
+    const std::wstring to = SystemPath(target.toStdWString());
+    const auto move = [&] {
+        return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
+    };
+    return TryPatiently(move, error);
 }
 
 bool MoveAlone(QFile& file, const QString& path, const QString& target, QString* error)

@@ -59,6 +59,11 @@ bool WholeFile::open(OpenMode mode)
         setErrorString(QStringLiteral("Permission denied"));
         return false;
     }
+    QString reason;
+    if (target.exists() && !MayBeReplaced(m_target, &reason)) {
+        setErrorString(reason);
+        return false;
+    }
     int descriptor = -1;
     QString half;
     for (int number = 1; descriptor < 0 && number <= kMostWriters; ++number) {

@@ -144,7 +144,7 @@ private:
         std::uint64_t generation = 0;
         /// The last one is being rendered, those before may be heard; none only without a scene.
         std::vector<Run> runs; ///< has room for all that there may be
-        bool isHeld = true;   ///< fills up
+        bool isHeld = true;    ///< fills up
         Clock::time_point heldSince;
         std::int64_t written = 0; ///< played samples of the run in the queue
         bool isGrainDone = false;

@@ -3,8 +3,8 @@
 
 #include <string>
 
-/// Calls of the C library on the files below one folder, whichever module makes them, or for threads
-/// and memory, that are counted and one of which fails or ends the process.
+/// Calls of the C library on the files below one folder, whichever module makes them, or for
+/// threads and memory, that are counted and one of which fails or ends the process.
 namespace FaultCalls {
 
 enum class How
@@ -21,7 +21,7 @@ struct Fault
     /// "open", "read", "write", "sync", "rename", "map", or "any" of these; "thread" and "memory",
     /// which are no file's.
     std::string call;
-    int at = 0;       ///< the so-manieth, from 1; 0 for none
+    int at = 0; ///< the so-manieth, from 1; 0 for none
     How how = How::Fail;
 };
 

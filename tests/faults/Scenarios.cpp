@@ -45,11 +45,10 @@ public:
     Scenario Document(const char* name)
     {
         const QString path = In(name);
-        return {name, [=] { Save(path, ProjectOf(1)); },
-                [=] {
-                    return [=, project = ProjectOf(2)] { return OfEngine(Save(path, project)); };
-                },
-                [=] { return LookAtDocument(path); }};
+        return {
+            name, [=] { Save(path, ProjectOf(1)); },
+            [=] { return [=, project = ProjectOf(2)] { return OfEngine(Save(path, project)); }; },
+            [=] { return LookAtDocument(path); }};
     }
     Scenario Settings()
     {
@@ -61,11 +60,10 @@ public:
     Scenario Export()
     {
         const QString path = In("film.mp4");
-        return {"export", [=] { Write(path, FilmOf(Qt::red)); },
-                [=] {
-                    return [=, film = FilmOf(Qt::blue)] { return OfEngine(Write(path, film)); };
-                },
-                [=] { return LookAtFilm(path); }};
+        return {
+            "export", [=] { Write(path, FilmOf(Qt::red)); },
+            [=] { return [=, film = FilmOf(Qt::blue)] { return OfEngine(Write(path, film)); }; },
+            [=] { return LookAtFilm(path); }};
     }
     Scenario Thumbnails()
     {
@@ -198,9 +196,9 @@ private:
     HRESULT Write(const QString& path, const Node& film) const
     {
         const auto encoder = m_engine.provider->CreateMediaEncoder();
-        const HRESULT opened =
-            encoder ? encoder->Open(film.get(), path.toStdWString().c_str(), &kFilm)
-                    : E_OUTOFMEMORY;
+        const HRESULT opened = encoder
+                                   ? encoder->Open(film.get(), path.toStdWString().c_str(), &kFilm)
+                                   : E_OUTOFMEMORY;
         return opened == S_OK ? encoder->Encode(nullptr, nullptr) : opened;
     }
     HRESULT DrawThumbnails(const QString& path) const
@@ -281,9 +279,8 @@ private:
         const bool isFound =
             WpdApiLib::ChooseDevice(QString::fromLatin1(card).toStdWString().c_str(), nullptr) &&
             WpdApiLib::EnumerateAllContent() && !m_clip.empty();
-        const bool isCopied =
-            isFound && WpdApiLib::TransferContentFromDevice(
-                           m_clip.c_str(), copy.toStdWString().c_str(), 0) == 1;
+        const bool isCopied = isFound && WpdApiLib::TransferContentFromDevice(
+                                             m_clip.c_str(), copy.toStdWString().c_str(), 0) == 1;
         WpdApiLib::UnregisterForEventNotifications();
         return isCopied;
     }

@@ -8,6 +8,7 @@
 
 #include <QDataStream>
 
+#include <cstring>
 #include <functional>
 #include <mutex>
 

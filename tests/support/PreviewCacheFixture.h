@@ -49,8 +49,8 @@ public:
         }
         return engine->Start(&size, Note, this);
     }
-    /// The state with which a run ends; -1 when it tells nothing for a minute. Beside others it gets
-    /// a tenth of a processor, so that a whole run may take longer.
+    /// The state with which a run ends; -1 when it tells nothing for a minute. Beside others it
+    /// gets a tenth of a processor, so that a whole run may take longer.
     long End(int wanted = -1)
     {
         const auto hasEnded = [&] {

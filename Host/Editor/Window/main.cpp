@@ -13,6 +13,7 @@
 #include "Host/Editor/Window/WhenShown.h"
 #include "Host/Gallery/GalleryOptions.h"
 #include "Host/HostLanguage.h"
+#include "Host/NarrowPath.h"
 #include "Host/QtMessages.h"
 #include "Host/Widgets/HostStyle.h"
 #include "Host/Widgets/LoopWatch.h"
@@ -73,7 +74,7 @@ EditorWindow::Paths MakePaths()
 std::unique_ptr<QtMessages> OpenLog(const QString& path)
 {
     const bool isOpen =
-        GetGlobalLogInstance()->Init(QFile::encodeName(path).constData(), false, LogLevelInfo) == 0;
+        GetGlobalLogInstance()->Init(NarrowPath(path).constData(), false, LogLevelInfo) == 0;
     return isOpen ? std::make_unique<QtMessages>() : nullptr;
 }
 
