@@ -52,8 +52,7 @@ BinIntake::BinIntake(Project& project, MediaBin& bin, QObject* parent) : QObject
     connect(&project, &Project::Replaced, this, [this] {
         m_order.clear();
         m_waiting.clear();
-        m_readable.clear();
-        m_reasons.clear();
+        m_refused.clear();
         Q_EMIT Progressed();
     });
 }
@@ -76,10 +75,8 @@ void BinIntake::TakeDescription(const MediaDescription& description)
 {
     if (!m_waiting.remove(description.path))
         return;
-    if (IsMedia(description))
-        m_readable.insert(description.path);
-    else
-        m_reasons.insert(description.path, description.reason);
+    if (!IsMedia(description))
+        m_refused.insert(description.path, description.reason);
     Q_EMIT Progressed();
     if (m_waiting.isEmpty())
         Finish();
@@ -89,11 +86,10 @@ void BinIntake::Finish()
 {
     QStringList added;
     QStringList refused;
+    const QHash<QString, QString> reasons = std::exchange(m_refused, {});
     for (const QString& file : std::exchange(m_order, {}))
-        (m_readable.contains(file) ? added : refused) << file;
-    m_readable.clear();
+        (reasons.contains(file) ? refused : added) << file;
     const int before = m_bin.Files().size();
     m_bin.Add(added);
-    const QHash<QString, QString> reasons = std::exchange(m_reasons, {});
     Q_EMIT Ended(m_bin.Files().size() - before, refused, reasons.value(refused.value(0)));
 }

@@ -41,6 +41,5 @@ private:
     MediaDescriber m_describer;
     QStringList m_order; ///< of all files, as they came
     QSet<QString> m_waiting;
-    QSet<QString> m_readable;
-    QHash<QString, QString> m_reasons; ///< of those that are not
+    QHash<QString, QString> m_refused; ///< those that are no media, and why, in short
 };
