@@ -2,6 +2,7 @@
 // Modules take the functions below instead of the C library's, since those of the executable come
 // first.
 #include "FaultCalls.h"
+#include "tests/support/PlainDelete.h"
 
 #include <QtGlobal>
 
@@ -100,6 +101,12 @@ bool FailsMemory(const void* caller)
 {
     return s_isCounting && Wanted().call == "memory" &&
            IsIn(caller, {"NLECore", "PortableDevices", "libCommonLib"}) && IsTheOne("memory");
+}
+
+/// What \a caller asks for; null when that fails.
+void* Memory(std::size_t bytes, const void* caller)
+{
+    return FailsMemory(caller) ? nullptr : std::malloc(bytes > 0 ? bytes : 1);
 }
 
 /// Memory of pictures, sound and tables; without little things the media libraries end the process.
@@ -221,39 +228,19 @@ extern "C" Q_DECL_EXPORT int posix_memalign(void** memory, size_t alignment, siz
 
 void* operator new(std::size_t bytes, const std::nothrow_t& /*tag*/) noexcept
 {
-    return FailsMemory(__builtin_return_address(0)) ? nullptr : std::malloc(bytes > 0 ? bytes : 1);
+    return Memory(bytes, __builtin_return_address(0));
 }
 void* operator new[](std::size_t bytes, const std::nothrow_t& /*tag*/) noexcept
 {
-    return FailsMemory(__builtin_return_address(0)) ? nullptr : std::malloc(bytes > 0 ? bytes : 1);
+    return Memory(bytes, __builtin_return_address(0));
 }
 void* operator new(std::size_t bytes)
 {
-    void* memory = nullptr;
-    if (!FailsMemory(__builtin_return_address(0)))
-        memory = std::malloc(bytes > 0 ? bytes : 1);
+    void* memory = Memory(bytes, __builtin_return_address(0));
     return memory ? memory : throw std::bad_alloc();
 }
 void* operator new[](std::size_t bytes)
 {
-    void* memory = nullptr;
-    if (!FailsMemory(__builtin_return_address(0)))
-        memory = std::malloc(bytes > 0 ? bytes : 1);
+    void* memory = Memory(bytes, __builtin_return_address(0));
     return memory ? memory : throw std::bad_alloc();
-}
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t /*bytes*/) noexcept
-{
-    std::free(memory);
-}
-void operator delete[](void* memory) noexcept
-{
-    std::free(memory);
-}
-void operator delete[](void* memory, std::size_t /*bytes*/) noexcept
-{
-    std::free(memory);
 }

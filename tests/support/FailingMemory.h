@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Com/ComTypes.h"
+#include "tests/support/PlainDelete.h"
 
 #include <cstdlib>
 #include <functional>
@@ -51,20 +52,4 @@ void* operator new[](std::size_t bytes)
 void* operator new[](std::size_t bytes, const std::nothrow_t& tag) noexcept
 {
     return operator new(bytes, tag);
-}
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t /*bytes*/) noexcept
-{
-    std::free(memory);
-}
-void operator delete[](void* memory) noexcept
-{
-    std::free(memory);
-}
-void operator delete[](void* memory, std::size_t /*bytes*/) noexcept
-{
-    std::free(memory);
 }
