@@ -2,6 +2,7 @@
 #include "Host/Editor/Properties/PropertyForm.h"
 
 #include "Host/Editor/Model/Project.h"
+#include "Host/Editor/Properties/FieldName.h"
 #include "Host/Editor/Properties/KeyFrameBar.h"
 #include "Host/Editor/Properties/ParameterKeys.h"
 #include "Host/Editor/Properties/PropertyEditor.h"
@@ -9,13 +10,9 @@
 #include "Host/Widgets/SmallButton.h"
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QToolButton>
 
 namespace {
-
-constexpr int kNameWidth = 104;
-constexpr int kGap = 6;
 
 enum Column
 {
@@ -33,8 +30,8 @@ PropertyForm::PropertyForm(const PropertyScope& scope, const QVector<PropertyFie
 {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(kGap);
-    grid->setColumnMinimumWidth(Name, kNameWidth);
+    grid->setSpacing(kFieldGap);
+    grid->setColumnMinimumWidth(Name, kFieldNameWidth);
     grid->setColumnStretch(Editor, 1);
     for (const PropertyField& field : fields)
         AddRow(field);
@@ -47,13 +44,9 @@ void PropertyForm::AddRow(const PropertyField& field)
     auto* grid = static_cast<QGridLayout*>(layout());
     const int line = grid->rowCount();
     PropertyEditor* editor = PropertyEditor::Make(field, this);
-    auto* name = new QLabel(field.title, this);
-    name->setWordWrap(true);
-    name->setFixedWidth(kNameWidth);
-    name->setBuddy(editor);
     editor->setEnabled(!field.isFixed);
     m_rows.append({field, editor, nullptr, nullptr, 0});
-    grid->addWidget(name, line, Name);
+    grid->addWidget(MakeFieldName(field.title, editor, this), line, Name);
     grid->addWidget(editor, line, Editor);
     if (field.preset.isValid() && !field.isFixed) {
         m_rows[index].reset = AddReset(index);

@@ -3,17 +3,15 @@
 
 #include "CommonLib/NLEWraper/NLETimeline.h"
 #include "Host/Editor/Properties/ClipActions.h"
+#include "Host/Editor/Properties/FieldName.h"
 #include "Host/Widgets/NumberEdit.h"
 #include "Host/Widgets/SmallButton.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QToolButton>
 
 namespace {
 
-constexpr int kNameWidth = 104;
-constexpr int kGap = 6;
 constexpr double kUsual = 100; // per cent
 constexpr double kSlowest = 10;
 constexpr double kFastest = 1000;
@@ -33,10 +31,8 @@ SpeedSection::SpeedSection(const PropertyScope& scope, QWidget* parent)
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(kGap);
-    auto* name = new QLabel(tr("Speed"), this);
-    name->setFixedWidth(kNameWidth);
-    name->setBuddy(m_speed);
+    row->setSpacing(kFieldGap);
+    QLabel* name = MakeFieldName(tr("Speed"), m_speed, this);
     m_speed->SetTitle(name->text());
     m_reset = MakeSmallButton(QStringLiteral("↺"), tr("Back to the preset"), name->text(), this);
     row->addWidget(name);

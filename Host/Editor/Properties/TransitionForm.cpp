@@ -4,19 +4,17 @@
 #include "Host/Editor/Model/EngineCatalog.h"
 #include "Host/Editor/Model/Project.h"
 #include "Host/Editor/Properties/ClipActions.h"
+#include "Host/Editor/Properties/FieldName.h"
 #include "Host/Widgets/NumberEdit.h"
 
 #include <QComboBox>
 #include <QGridLayout>
-#include <QLabel>
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
 
-constexpr int kNameWidth = 104;
-constexpr int kGap = 6;
 constexpr double kLongest = 10; // seconds of the slider
 
 } // namespace
@@ -35,14 +33,10 @@ TransitionForm::TransitionForm(const PropertyScope& scope, QWidget* parent)
     m_kind->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(kGap);
+    grid->setSpacing(kFieldGap);
     grid->setColumnStretch(1, 1);
     const auto addRow = [&](int line, const QString& title, QWidget* editor) {
-        auto* name = new QLabel(title, this);
-        name->setFixedWidth(kNameWidth);
-        name->setWordWrap(true);
-        name->setBuddy(editor);
-        grid->addWidget(name, line, 0);
+        grid->addWidget(MakeFieldName(title, editor, this), line, 0);
         grid->addWidget(editor, line, 1);
     };
     addRow(0, tr("Kind"), m_kind);
