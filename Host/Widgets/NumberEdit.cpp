@@ -118,6 +118,7 @@ void NumberEdit::End()
 {
     m_isHeld = false;
     Q_EMIT Ended();
+    Q_EMIT Settled(Value());
 }
 
 void NumberEdit::Follow(double value)
@@ -127,8 +128,11 @@ void NumberEdit::Follow(double value)
         m_drag->SetValue(value);
     if (m_slider)
         m_slider->setValue(float(value), false);
-    if (!m_isSetting)
-        Q_EMIT Changed(value);
+    if (m_isSetting)
+        return;
+    Q_EMIT Changed(value);
+    if (!m_isHeld)
+        Q_EMIT Settled(value);
 }
 
 bool NumberEdit::eventFilter(QObject* watched, QEvent* event)

@@ -36,8 +36,6 @@ public:
     /// Shows \a value, limited to the range, and emits nothing. While the user drags nothing
     /// happens.
     void SetValue(double value);
-    /// Whether a drag is going on.
-    bool IsHeld() const { return m_isHeld; }
     /// What the number is called by assistive programs.
     void SetTitle(const QString& title);
 
@@ -45,6 +43,8 @@ Q_SIGNALS:
     void Began();
     void Changed(double value);
     void Ended();
+    /// A number that no drag goes on to change: after Changed() without one, and after Ended().
+    void Settled(double value);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

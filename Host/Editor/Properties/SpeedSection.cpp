@@ -38,11 +38,7 @@ SpeedSection::SpeedSection(const PropertyScope& scope, QWidget* parent)
     row->addWidget(name);
     row->addWidget(m_speed, 1);
     row->addWidget(m_reset);
-    connect(m_speed, &NumberEdit::Changed, this, [this](double percent) {
-        if (!m_speed->IsHeld())
-            Apply(percent);
-    });
-    connect(m_speed, &NumberEdit::Ended, this, [this] { Apply(m_speed->Value()); });
+    connect(m_speed, &NumberEdit::Settled, this, &SpeedSection::Apply);
     connect(m_reset, &QToolButton::clicked, this, [this] { Apply(kUsual); });
     Refresh();
 }

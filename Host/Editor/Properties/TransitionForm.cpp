@@ -44,15 +44,10 @@ TransitionForm::TransitionForm(const PropertyScope& scope, QWidget* parent)
     m_length->SetTitle(tr("Length"));
     connect(m_kind, qOverload<int>(&QComboBox::activated), this,
             [this] { Apply(m_kind->currentData().toString(), Frames()); });
-    const auto applyLength = [this] {
+    connect(m_length, &NumberEdit::Settled, this, [this](double seconds) {
         Apply(m_kind->currentData().toString(),
-              std::max(1, int(std::lround(m_length->Value() * m_scope.project.FrameRate()))));
-    };
-    connect(m_length, &NumberEdit::Changed, this, [this, applyLength] {
-        if (!m_length->IsHeld())
-            applyLength();
+              std::max(1, int(std::lround(seconds * m_scope.project.FrameRate()))));
     });
-    connect(m_length, &NumberEdit::Ended, this, applyLength);
     Refresh();
 }
 
