@@ -47,7 +47,7 @@ class tst_DocumentPlayer : public QObject, public EngineFixture
             environment.insert("DISPLAY", ":0");
             melt.setProcessEnvironment(environment);
             melt.start("melt", arguments);
-            if (!melt.waitForFinished(60000)) {
+            if (!melt.waitForFinished(20000)) {
                 melt.kill();
                 melt.waitForFinished();
             } else if (Node played = EngineFixture::Media(result)) {
@@ -144,6 +144,13 @@ private slots:
             Set(clip, &INLETransform::SetCenter, &center);
             Set(clip, &INLETransform::SetScale, &kHalf);
             Set(clip, &INLETransform::SetRotation, 30.0);
+        });
+        row("moved by key frames, values that XML cannot hold", 4, [](const T& t, const Node& p) {
+            const Node clip = t.Trimmed(t.Clip(), 5, 44);
+            t.OnColour(p, clip);
+            t.BagOf(clip)->SetString(L"odd \x01\xFFFE", L"\x02\xFFFF\xD800");
+            VideoKeyFrameSetting(clip).AddKeyFrame({0, 0, 1, {-0.25, 0.25}, {0.5, 0.5}});
+            VideoKeyFrameSetting(clip).AddKeyFrame({0.5, 0, 1, {0.25, -0.25}, {0.5, 0.5}});
         });
         row("half as opaque", 3, [](const T& t, const Node& p) {
             const Node clip = t.Clip();

@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // The documents of the open engine: what is saved comes back, also from other editors.
-#include "CommonLib/NLEWraper/VideoKeyFrameSetting.h"
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
-
-#include <QProcess>
-#include <QStandardPaths>
 
 #include <random>
 #include <string>
@@ -195,39 +191,6 @@ private slots:
         QVERIFY(Save(Parse(QByteArray(saved).replace("\xEF\xBF\xBD<", "50%25<")), path));
         QVERIFY(Contents(path).contains(">50%25</property>"));
         QVERIFY(!Contents(path).contains("nle:exact"));
-    }
-
-    void documentInTheFrameworksOwnPlayer()
-    {
-        if (QStandardPaths::findExecutable("melt").isEmpty())
-            QSKIP("the framework's player, melt, is not installed");
-        const Node project = Project();
-        const QString odd = Path("50% of 100%25.mp4");
-        QVERIFY(QFile::copy(m_media, odd));
-        const Node clip = EngineFixture::Media(odd);
-        BagOf(clip)->SetString(L"odd \x01\xFFFE", L"\x02\xFFFF\xD800");
-        Trimmed(clip, 20, 39);
-        Add(project, clip, 10);
-        // From the top left quarter to the bottom right one; in the middle at the frame looked at.
-        VideoKeyFrameSetting(clip).AddKeyFrame({0, 0, 1, {-0.25, 0.25}, {0.5, 0.5}});
-        VideoKeyFrameSetting(clip).AddKeyFrame({0.5, 0, 1, {0.25, -0.25}, {0.5, 0.5}});
-        const QString document = Path("player.mlt");
-        QVERIFY(Save(project, document));
-        const QStringList arguments =
-            QStringList{document, "in=15", "out=15", "-consumer", "avformat:" + Path("frame.png")} +
-            QString("vcodec=png f=image2 update=1 an=1").split(' ');
-        // The player's consumer now and then hangs at its start, whatever it plays.
-        bool ended = false;
-        for (int attempt = 0; attempt < 5 && !ended; ++attempt) {
-            QProcess melt;
-            melt.start("melt", arguments);
-            ended = melt.waitForFinished(10000);
-            if (!ended)
-                melt.kill();
-            melt.waitForFinished();
-        }
-        QVERIFY(ended);
-        QCOMPARE(ReadFrameNumber(QImage(Path("frame.png")).copy(80, 45, 160, 90)), 25);
     }
 
     void foreignDocument()
