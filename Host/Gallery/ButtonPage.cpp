@@ -22,7 +22,7 @@ constexpr int kIcon = 18;
 constexpr int kSquare = 32;
 constexpr QSize kWide(148, 32); // an ImageTextButton beside, and above or below its text
 constexpr QSize kTall(72, 96);
-constexpr QSize kTab(72, 72);
+constexpr int kTextHeight = kTall.height() - kTall.width();
 constexpr int kTextMargin = 12;
 constexpr int kTabIcon = 26;
 constexpr int kCaptionWidth = 110;
@@ -45,10 +45,12 @@ QHBoxLayout* MakeRow(QWidget* box)
 void FitText(QWidget* button, const QString& text, QSize size)
 {
     button->ensurePolished();
-    const int beside = size == kWide ? kWide.height() : 0;
-    const int wanted = button->fontMetrics().horizontalAdvance(text) + 2 * kTextMargin + beside;
+    const QFontMetrics metrics = button->fontMetrics();
+    const int higher = std::max(0, metrics.height() - kTextHeight);
+    const int beside = size == kWide ? kWide.height() + higher : 0;
+    const int wanted = metrics.horizontalAdvance(text) + 2 * kTextMargin + beside;
     const int growth = std::max(0, wanted - size.width());
-    button->setFixedSize(size + QSize(growth, size == kTall ? growth : 0));
+    button->setFixedSize(size + QSize(growth, (size == kTall ? growth : 0) + higher));
 }
 
 } // namespace
@@ -191,12 +193,13 @@ QWidget* ButtonPage::MakeTabs()
                 {Symbol::Star, QT_TR_NOOP("Effects")}};
     for (const auto& row : tabs) {
         auto* tab = new ImageTextButton2(50 + layout->count(), QStringLiteral("Gallery_Tab"), box);
-        KeepTranslated(tab, [tab, text = row.text] {
-            tab->SetText(tr(text));
-            FitText(tab, tr(text), kTab);
-        });
         tab->SetNormalImage(SymbolPixmap(row.symbol, kQuiet, kTabIcon, devicePixelRatioF()));
         tab->SetSelectedImage(SymbolPixmap(row.symbol, kAccent, kTabIcon, devicePixelRatioF()));
+        KeepTranslated(tab, [tab, text = row.text] {
+            tab->SetText(tr(text));
+            tab->ensurePolished();
+            tab->setFixedSize(tab->sizeHint());
+        });
         connect(tab, &ImageTextButton2::sigSelected, this, [this, box](int id) {
             for (ImageTextButton2* other : box->findChildren<ImageTextButton2*>()) {
                 if (other->GetId() != id)

@@ -2,6 +2,7 @@
 #include "Host/Gallery/GalleryWindow.h"
 
 #include "Host/Gallery/Pages.h"
+#include "Host/Widgets/HostStyle.h"
 #include "Host/Widgets/KeepTranslated.h"
 
 #include <QCoreApplication>
@@ -28,7 +29,7 @@ QWidget* FramedPage(const GalleryPage& page, QWidget* parent)
 {
     auto* frame = new QWidget(parent);
     auto* title = new QLabel(frame);
-    title->setObjectName(QStringLiteral("CommonLib_Title"));
+    HostStyle::MakeTitle(*title);
     auto* hint = new QLabel(frame);
     hint->setObjectName(QStringLiteral("CommonLib_Hint"));
     hint->setWordWrap(true);

@@ -199,7 +199,7 @@ void ImportPage::ShowNotice()
     default:
         return;
     }
-    m_notice->setText(QStringLiteral("<p style='font-size:17px'><b>%1</b></p><p>%2</p>")
+    m_notice->setText(QStringLiteral("<p style='font-size:large'><b>%1</b></p><p>%2</p>")
                           .arg(title.toHtmlEscaped(), text.toHtmlEscaped()));
 }
 

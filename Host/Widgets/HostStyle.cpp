@@ -3,8 +3,10 @@
 
 #include "CommonLib/externalapi/LightLook.h"
 #include "CommonLib/externalapi/PixelRatio.h"
+#include "Host/Widgets/ScaledFont.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QPalette>
 
 namespace {
@@ -67,4 +69,11 @@ bool HostStyle::IsLight()
 QColor HostStyle::Shown(const QColor& dark)
 {
     return IsLight() ? ToLightColor(dark) : dark;
+}
+
+void HostStyle::MakeTitle(QLabel& label)
+{
+    constexpr double larger = 1.25;
+    label.setObjectName(QStringLiteral("CommonLib_Title"));
+    label.setFont(ScaledFont(label.font(), larger));
 }

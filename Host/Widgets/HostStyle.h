@@ -3,6 +3,8 @@
 
 #include <QColor>
 
+class QLabel;
+
 /// How the host's windows look: the library's dark or light sheet with the host's own rules.
 ///
 /// For the GUI thread, while there is a QApplication.
@@ -15,5 +17,7 @@ bool IsLight();
 /// What stands for a colour of the dark look in the one on show: the same one in the dark look, and
 /// in the light one for colours that are light enough for both. Opacity stays.
 QColor Shown(const QColor& dark);
+/// Has \a label look like the title of a page, somewhat larger than its font is now.
+void MakeTitle(QLabel& label);
 
 } // namespace HostStyle

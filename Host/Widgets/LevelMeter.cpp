@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Widgets/LevelMeter.h"
+#include "Host/Widgets/ScaledFont.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -66,16 +67,6 @@ QColor Mixed(const QPalette& palette, double textPart)
 QColor ZoneColor(const Zone& zone, const QPalette& palette)
 {
     return QColor(IsDark(palette) ? zone.onDark : zone.onLight);
-}
-
-QFont NumberFont(const QFont& font)
-{
-    QFont smallFont(font);
-    if (font.pointSizeF() > 0)
-        smallFont.setPointSizeF(font.pointSizeF() * kNumberSize);
-    else
-        smallFont.setPixelSize(std::max(1, int(font.pixelSize() * kNumberSize)));
-    return smallFont;
 }
 
 /// A channel's bar up to \a decibels, in the colours of the scale.
@@ -358,8 +349,9 @@ QSize LevelMeter::sizeHint() const
 
 QSize LevelMeter::minimumSizeHint() const
 {
-    const int across = 2 * kMargin + m_channels * (kLeastBar + kMargin) +
-                       (m_isScaleVisible ? QFontMetrics(NumberFont(font())).height() * 2 : 0);
+    const int across =
+        2 * kMargin + m_channels * (kLeastBar + kMargin) +
+        (m_isScaleVisible ? QFontMetrics(ScaledFont(font(), kNumberSize)).height() * 2 : 0);
     const QSize upright(across, kLeastLength);
     return m_orientation == Qt::Vertical ? upright : upright.transposed();
 }
@@ -369,7 +361,7 @@ MeterLayout LevelMeter::LayOut() const
     const QRectF area = QRectF(rect()).adjusted(kMargin, kMargin, -kMargin, -kMargin);
     MeterLayout layout(area, m_orientation == Qt::Vertical, m_channels, m_minimum, m_maximum);
     if (m_isScaleVisible)
-        layout.AddNumbers(QFontMetrics(NumberFont(font())));
+        layout.AddNumbers(QFontMetrics(ScaledFont(font(), kNumberSize)));
     return layout;
 }
 
@@ -389,7 +381,7 @@ void LevelMeter::PaintScale(QPainter& painter, const MeterLayout& layout) const
 {
     constexpr double numberShade = 0.65;
     constexpr double tickShade = 0.35;
-    painter.setFont(NumberFont(font()));
+    painter.setFont(ScaledFont(font(), kNumberSize));
     painter.setLayoutDirection(Qt::LeftToRight); // the minus goes before the number everywhere
     const QFontMetrics metrics(painter.font());
     painter.setPen(Mixed(palette(), numberShade));

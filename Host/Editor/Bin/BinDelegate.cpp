@@ -4,6 +4,7 @@
 #include "CommonLib/GlobalUtils.h"
 #include "Host/Editor/Bin/BinPictures.h"
 #include "Host/Widgets/HostStyle.h"
+#include "Host/Widgets/ScaledFont.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -18,7 +19,8 @@ constexpr int kGap = 4;
 constexpr int kRadius = 3;
 constexpr int kLine = 3; // of what is drawn along the picture's lower edge
 constexpr QSize kLinePicture(72, 41);
-constexpr int kPosterShare = 10; // beginnings are often black
+constexpr double kSmallFont = 0.88; // of the usual one
+constexpr int kPosterShare = 10;    // beginnings are often black
 
 const QColor kBehind(0x14, 0x15, 0x17);
 const QColor kAccent(0x4d, 0xa3, 0xff);
@@ -26,16 +28,6 @@ const QColor kWarning(0xe0, 0x6c, 0x5a);
 const QColor kQuiet(0x92, 0x99, 0xa1);
 const QColor kBadge(0, 0, 0, 0xb0);
 const QColor kBadgeText(0xf2, 0xf4, 0xf6);
-
-QFont SmallFont(QFont font)
-{
-    constexpr double share = 0.88;
-    if (font.pixelSize() > 0)
-        font.setPixelSize(qRound(font.pixelSize() * share));
-    else
-        font.setPointSizeF(font.pointSizeF() * share);
-    return font;
-}
 
 /// A text on a dark ground at a corner of \a room.
 void PaintBadge(QPainter& painter, const QRect& room, Qt::Alignment corner, const QString& text,
@@ -125,8 +117,8 @@ QRect BinDelegate::PictureRect(const QRect& cell, Qt::LayoutDirection direction)
 
 QSize BinDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const
 {
-    const int texts =
-        option.fontMetrics.height() + QFontMetrics(SmallFont(option.font)).height() + kGap;
+    const int texts = option.fontMetrics.height() +
+                      QFontMetrics(ScaledFont(option.font, kSmallFont)).height() + kGap;
     if (m_isGrid)
         return QSize(kCellPicture.width() + 2 * kMargin,
                      kCellPicture.height() + 2 * kMargin + kGap + texts);
@@ -155,7 +147,7 @@ void BinDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         painter->drawRoundedRect(QRectF(ground).adjusted(2.5, 2.5, -2.5, -2.5), kRadius, kRadius);
     }
     const QRect picture = PictureRect(option.rect, option.direction);
-    painter->setFont(SmallFont(option.font));
+    painter->setFont(ScaledFont(option.font, kSmallFont));
     PaintPicture(*painter, picture, index, item);
     painter->setFont(option.font);
     PaintTexts(*painter, option, picture, item);
@@ -203,7 +195,7 @@ void BinDelegate::PaintPicture(QPainter& painter, const QRect& room, const QMode
 void BinDelegate::PaintTexts(QPainter& painter, const QStyleOptionViewItem& option,
                              const QRect& picture, const BinItem& item) const
 {
-    const QFont smallFont = SmallFont(option.font);
+    const QFont smallFont = ScaledFont(option.font, kSmallFont);
     const int nameHeight = option.fontMetrics.height();
     const int both = nameHeight + QFontMetrics(smallFont).height();
     QRect room(picture.left(), picture.bottom() + 1 + kGap, picture.width(), both);

@@ -17,6 +17,7 @@
 #include "Host/Editor/Properties/TransitionForm.h"
 #include "Host/Editor/Properties/TransitionSection.h"
 #include "Host/EngineText.h"
+#include "Host/Widgets/HostStyle.h"
 #include "Host/Widgets/MediaPlayer.h"
 
 #include <QEvent>
@@ -52,7 +53,7 @@ PropertiesPanel::PropertiesPanel(Project& project, Selection& selection, MediaPl
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, 0);
-    m_title->setObjectName(QStringLiteral("CommonLib_Title"));
+    HostStyle::MakeTitle(*m_title);
     m_title->setIndent(kMargin / 2); // as the sections below
     column->addWidget(m_title);
     column->addWidget(m_scroll, 1);

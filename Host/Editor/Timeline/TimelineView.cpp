@@ -9,6 +9,7 @@
 #include "Host/Editor/Timeline/MediaDrop.h"
 #include "Host/Editor/Timeline/RubberBand.h"
 #include "Host/Editor/Timeline/TimelineModel.h"
+#include "Host/Widgets/ScaledFont.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -149,10 +150,7 @@ void TimelineView::changeEvent(QEvent* event)
 
 void TimelineView::paintEvent(QPaintEvent* event)
 {
-    QFont smallFont = font();
-    if (smallFont.pointSizeF() > 0)
-        smallFont.setPointSizeF(smallFont.pointSizeF() * kFontShare);
-    m_clipPainter.SetFont(smallFont);
+    m_clipPainter.SetFont(ScaledFont(font(), kFontShare));
     m_overlay.band = m_gesture ? m_gesture->Band() : QRect();
     if (m_gesture)
         m_overlay.snapLine = m_snapping.Line();
