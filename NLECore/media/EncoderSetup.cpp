@@ -25,9 +25,9 @@ constexpr int kModernHeight = 720;
 constexpr int kWorstFactor = 51;
 constexpr int kWorstWideFactor = 63;
 
-bool Fail(WriterError* error, WriterError::Kind kind, const QString& reason)
+bool Fail(WriterError* error, NLEReason reason, const QString& text)
 {
-    *error = {kind, reason};
+    *error = {reason, text};
     return false;
 }
 
@@ -241,7 +241,7 @@ bool PlanListed(const ContainerFormat& container, const EncodeOptions& options, 
 {
     const QString complaint = ComplaintAbout(options, container);
     if (!complaint.isEmpty())
-        return Fail(error, WriterError::Kind::Settings, complaint);
+        return Fail(error, NLEReason_SettingsRefused, complaint);
     plan->container = &container;
     plan->isSequence = container.isSequence;
     if (options.videoCodec != kNoCodec)
@@ -264,23 +264,23 @@ bool MakePlan(const QString& path, const WriterSettings& settings, EncodePlan* p
     const ContainerFormat* container =
         options.container.empty() ? ContainerOfPath(path) : FindContainer(options.container);
     if (!container && !options.container.empty())
-        return Fail(error, WriterError::Kind::Settings, QStringLiteral("no such container"));
+        return Fail(error, NLEReason_SettingsRefused, QStringLiteral("no such container"));
     if (container && !FindContainer(container->name))
-        return Fail(error, WriterError::Kind::Container,
+        return Fail(error, NLEReason_NoContainer,
                     QStringLiteral("this build of the media libraries has no encoder for %1")
                         .arg(QLatin1String(container->title)));
     if (container && container->isSequence && !PictureSequence::IsName(path))
-        return Fail(error, WriterError::Kind::Container,
+        return Fail(error, NLEReason_NoContainer,
                     QStringLiteral("the container is not a single file; a sequence of pictures "
                                    "needs a place for their numbers in its name, as %04d"));
     const QByteArray name = EncodeMediaPath(path);
     plan->muxer = container ? av_guess_format(container->muxer, nullptr, nullptr)
                             : av_guess_format(nullptr, name.constData(), nullptr);
     if (!plan->muxer)
-        return Fail(error, WriterError::Kind::Container,
+        return Fail(error, NLEReason_NoContainer,
                     QStringLiteral("no container goes by this suffix"));
     if (!container && (plan->muxer->flags & AVFMT_NOFILE) != 0)
-        return Fail(error, WriterError::Kind::Container,
+        return Fail(error, NLEReason_NoContainer,
                     QStringLiteral("the container is not a single file"));
     if (container)
         return PlanListed(*container, options, plan, error);

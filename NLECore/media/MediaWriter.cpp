@@ -238,11 +238,12 @@ struct MediaWriter::Private
     {
         if (code >= 0)
             return true;
-        const bool isFull = IsFull(code);
         if (file.FirstError() != QFileDevice::NoError)
-            return Fail(WriterError::Kind::File, file.FirstReason(), isFull);
-        return Fail(isFull ? WriterError::Kind::File : WriterError::Kind::Settings,
-                    AvErrorText(isFull ? AVERROR(ENOSPC) : code), isFull);
+            return FailFile(file.FirstReason(), code);
+        if (IsFull(code))
+            return Fail(NLEReason_DiskFull, AvErrorText(AVERROR(ENOSPC)));
+        return Fail(code == AVERROR(ENOMEM) ? NLEReason_OutOfMemory : NLEReason_SettingsRefused,
+                    AvErrorText(code));
     }
 
     /// Whether a call that gave \a code failed as there is no more room.
@@ -252,18 +253,23 @@ struct MediaWriter::Private
                ErrorOf(file) == QFileDevice::ResourceError;
     }
 
-    bool Fail(WriterError::Kind kind, const QString& reason, bool isFull = false)
+    bool Fail(NLEReason reason, const QString& text)
     {
-        error = {kind, reason, isFull};
+        error = {reason, text};
         return false;
+    }
+    bool FailFile(const QString& text, int code = 0)
+    {
+        return Fail(IsFull(code) ? NLEReason_DiskFull : NLEReason_NotWritable, text);
     }
     bool FailSequence()
     {
-        return Fail(WriterError::Kind::File, sequence->Error(), sequence->IsDiskFull());
+        return Fail(sequence->IsDiskFull() ? NLEReason_DiskFull : NLEReason_NotWritable,
+                    sequence->Error());
     }
-    bool Fail(const char* reason)
+    bool FailSettings(const char* text)
     {
-        return Fail(WriterError::Kind::Settings, QString::fromLatin1(reason));
+        return Fail(NLEReason_SettingsRefused, QString::fromLatin1(text));
     }
 
     bool OpenFile()
@@ -274,7 +280,7 @@ struct MediaWriter::Private
         }
         Decoders().Drop(file.Target());
         return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
-               Fail(WriterError::Kind::File, file.errorString());
+               FailFile(file.errorString());
     }
 
     bool OpenFormat()
@@ -290,7 +296,7 @@ struct MediaWriter::Private
             avio_alloc_context(buffer, kBufferBytes, 1, &file, nullptr, kWriteBytes, &SeekByte));
         if (!buffer || !output) {
             av_free(output ? nullptr : buffer);
-            return Fail("out of memory");
+            return Check(AVERROR(ENOMEM));
         }
         // The muxer writes there and makes no files by itself.
         context->pb = output.get();
@@ -304,7 +310,7 @@ struct MediaWriter::Private
         track.frame.reset(av_frame_alloc());
         track.stream = avformat_new_stream(format.get(), nullptr);
         if (!track.codec || !track.frame || !track.stream)
-            return Fail("out of memory");
+            return Check(AVERROR(ENOMEM));
         if (format->oformat->flags & AVFMT_GLOBALHEADER)
             track.codec->flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
         return true;
@@ -315,7 +321,7 @@ struct MediaWriter::Private
         const PlainThreads plain;
         const int code = avcodec_open2(track.codec.get(), nullptr, nullptr);
         if (code < 0) {
-            return Fail(WriterError::Kind::Settings,
+            return Fail(NLEReason_SettingsRefused,
                         QStringLiteral("%1 does not take the settings: %2")
                             .arg(QLatin1String(avcodec_get_name(track.codec->codec_id)),
                                  AvErrorText(code)));
@@ -342,7 +348,7 @@ struct MediaWriter::Private
             settings.size, hasPalettes ? AV_PIX_FMT_0RGB32 : codec->pix_fmt, codec->colorspace,
             codec->color_trc, codec->color_primaries, codec->color_range == AVCOL_RANGE_JPEG,
             NLEFieldOrder(settings.options.fieldOrder)});
-        return !hasPalettes || BuildPalettes(*codec) || Fail("no filter for palettes");
+        return !hasPalettes || BuildPalettes(*codec) || FailSettings("no filter for palettes");
     }
 
     /// Each picture has a palette of its own: that of a whole film would need all of its pictures
@@ -361,7 +367,7 @@ struct MediaWriter::Private
     bool WriteVideo(AVFrame* frame)
     {
         if (!frame)
-            return Fail("a picture cannot be converted to the codec's pixels");
+            return FailSettings("a picture cannot be converted to the codec's pixels");
         frame->pts = video.next++;
         frame->quality = video.codec->global_quality;
         return palettes ? EncodePaletted(frame) : Encode(video, frame);
@@ -372,7 +378,7 @@ struct MediaWriter::Private
     {
         const FramePtr shared(frame ? av_frame_clone(frame) : nullptr);
         if (!paletted || !palettes.Add(shared.get()))
-            return Fail("a picture finds no palette");
+            return FailSettings("a picture finds no palette");
         while (palettes.Take(*paletted)) {
             if (!Encode(video, paletted.get()))
                 return false;
@@ -400,7 +406,7 @@ struct MediaWriter::Private
             return false;
         resampler.reset(context);
         fifo.reset(av_audio_fifo_alloc(codec->sample_fmt, settings.channels, kFreeFrameSamples));
-        return Check(swr_init(context)) && (fifo || Fail("out of memory"));
+        return Check(swr_init(context)) && (fifo || Check(AVERROR(ENOMEM)));
     }
 
     /// Opens the tracks and writes what stands before the first frame.
@@ -410,7 +416,7 @@ struct MediaWriter::Private
         video = {};
         audio = {};
         if (!plan.isSequence && (!file.resize(0) || !file.seek(0)))
-            return Fail(WriterError::Kind::File, file.errorString());
+            return FailFile(file.errorString());
         if (!OpenFormat())
             return false;
         if (!settings.size.isEmpty() && plan.video && !AddVideo())
@@ -418,10 +424,10 @@ struct MediaWriter::Private
         if (settings.hasSound && plan.audio && !AddAudio())
             return false;
         if (format->nb_streams == 0)
-            return Fail("nothing to write into this container");
+            return FailSettings("nothing to write into this container");
         const int code = avformat_write_header(format.get(), nullptr);
         if (code < 0 && output && output->error < 0 && file.FirstError() == QFileDevice::NoError)
-            return Fail(WriterError::Kind::File, AvErrorText(output->error), IsFull(code));
+            return FailFile(AvErrorText(output->error), code);
         if (!Check(code))
             return false;
         settings.settled =
@@ -437,7 +443,7 @@ struct MediaWriter::Private
             return true;
         const WriterError first = error;
         for (const SoundFormat& sound : SoundFormats(settings)) {
-            if (!audio.codec || error.kind == WriterError::Kind::File)
+            if (!audio.codec || error.reason != NLEReason_SettingsRefused)
                 break;
             settings.sampleRate = sound.sampleRate;
             settings.channels = sound.channels;
@@ -513,8 +519,8 @@ std::unique_ptr<MediaWriter> MediaWriter::Open(const QString& path, const Writer
 
 bool MediaWriter::Try(const QString& path, WriterSettings& settings, WriterError* error)
 {
-    const auto fail = [error](WriterError::Kind kind, const QString& reason) {
-        *error = {kind, reason};
+    const auto fail = [error](NLEReason reason, const QString& text) {
+        *error = {reason, text};
         return false;
     };
     WholeFile target(path);
@@ -522,9 +528,9 @@ bool MediaWriter::Try(const QString& path, WriterSettings& settings, WriterError
     const QFileInfo file(path);
     SideFolder folder(file);
     if (!target.open(QIODevice::WriteOnly))
-        return fail(WriterError::Kind::File, target.errorString());
+        return fail(NLEReason_NotWritable, target.errorString());
     if (!folder.IsValid())
-        return fail(WriterError::Kind::File, folder.Error());
+        return fail(NLEReason_NotWritable, folder.Error());
     const bool isSequence = PictureSequence::IsName(path);
     const QString trial =
         folder.FilePath(isSequence ? file.fileName() : QStringLiteral("trial.") + file.suffix());
@@ -537,8 +543,7 @@ bool MediaWriter::Try(const QString& path, WriterSettings& settings, WriterError
     }
     const QString first = writer->IsSequence() ? PictureSequence::FileOf(trial, 0) : trial;
     if (!Holds(ProbeMedia(first, nullptr), *writer))
-        return fail(WriterError::Kind::Settings,
-                    QStringLiteral("what is written so cannot be read"));
+        return fail(NLEReason_SettingsRefused, QStringLiteral("what is written so cannot be read"));
     settings = writer->Settings();
     return true;
 }
@@ -623,8 +628,7 @@ bool MediaWriter::Finish()
         return false;
     // Windows replaces no file that is open.
     Decoders().Drop(d->file.Target());
-    return d->file.Commit() ||
-           d->Fail(WriterError::Kind::File, d->file.errorString(), d->IsFull(0));
+    return d->file.Commit() || d->FailFile(d->file.errorString());
 }
 
 const WriterError& MediaWriter::Error() const
@@ -634,16 +638,9 @@ const WriterError& MediaWriter::Error() const
 
 HRESULT RefuseWriting(HRESULT result, const QString& path, const WriterError& error)
 {
-    if (error.text.isEmpty()) // what was to be written is not there
+    if (error.reason == NLEReason_None) // what was to be written is not there
         return Refuse(result, NLEReason_Unknown, path);
-    NLEReason reason = NLEReason_SettingsRefused;
-    if (error.isFull)
-        reason = NLEReason_DiskFull;
-    else if (error.kind == WriterError::Kind::File)
-        reason = NLEReason_NotWritable;
-    else if (error.kind == WriterError::Kind::Container)
-        reason = NLEReason_NoContainer;
-    return Refuse(result, reason, path + QStringLiteral(": ") + error.text);
+    return Refuse(result, error.reason, path + QStringLiteral(": ") + error.text);
 }
 
 } // namespace nle

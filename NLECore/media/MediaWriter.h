@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Com/ComTypes.h"
+#include "EngineApi/INLEReasons.h"
 #include "NLECore/media/EncodeFormats.h"
 #include "NLECore/media/MediaInfo.h"
 
@@ -32,15 +33,11 @@ struct WriterSettings
 /// Why nothing is written.
 struct WriterError
 {
-    enum class Kind
-    {
-        Container, ///< none of that suffix, or one that is not a single file
-        Settings,  ///< codec or container does not take them, or nobody could read the outcome
-        File       ///< no file can be made there
-    };
-    Kind kind = Kind::Settings;
+    /// None; NoContainer, for none of that suffix or one that is not a single file;
+    /// SettingsRefused, where codec or container does not take them or nobody could read the
+    /// outcome; NotWritable or DiskFull, where no file can be made; OutOfMemory.
+    NLEReason reason = NLEReason_None;
     QString text;
-    bool isFull = false; ///< the disk is
 };
 
 /// Gives \a result, for a call that does not write \a path.

@@ -166,16 +166,14 @@ WriterSettings SettingsFor(const EncodeOptions& options, const NLEEncodeSettings
 /// Why a short film cannot be written so; without words when it can.
 WriterError TryOut(const EncodeOptions& options, const NLEEncodeSettings& wanted)
 {
-    WriterError error;
     const ContainerFormat* container = FindContainer(options.container);
-    if (!container) {
-        error.text = QStringLiteral("no container");
-        return error;
-    }
+    if (!container)
+        return {NLEReason_NoContainer, QStringLiteral("no container")};
     const std::string suffix = SplitNames(container->suffixes).front();
     const QString name = QLatin1String(container->isSequence ? "check_%04d." : "check.") +
                          QString::fromStdString(suffix);
     WriterSettings settings = SettingsFor(options, wanted);
+    WriterError error;
     const bool isWritten = MediaWriter::Try(QDir::temp().filePath(name), settings, &error);
     return isWritten ? WriterError() : error;
 }
@@ -305,13 +303,12 @@ HRESULT EncodeCatalog::Check(INLEProperties* options, const NLEEncodeSettings* s
         if (ReadOptions(options, &wanted) == S_OK)
             error = TryOut(wanted, settings ? *settings : NLEEncodeSettings{});
         else
-            error.text = kNotInCatalogue;
+            error = {NLEReason_SettingsRefused, kNotInCatalogue};
         if (reason && capacity > 0)
             CopyText(error.text.toStdWString(), reason, capacity);
-        if (error.text.isEmpty())
+        if (error.reason == NLEReason_None)
             return S_OK;
-        return Refuse(E_INVALIDARG, error.isFull ? NLEReason_DiskFull : NLEReason_SettingsRefused,
-                      error.text);
+        return Refuse(E_INVALIDARG, error.reason, error.text);
     });
 }
 

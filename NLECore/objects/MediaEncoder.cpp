@@ -39,17 +39,19 @@ QSize EvenSize(NLESize size)
     return QSize(std::max(size.width & ~1, 2), std::max(size.height & ~1, 2));
 }
 
-HRESULT ResultOf(WriterError::Kind kind)
+HRESULT ResultOf(NLEReason reason)
 {
-    switch (kind) {
-    case WriterError::Kind::Container:
-        return Refuse(E_NOTIMPL);
-    case WriterError::Kind::File:
-        return Refuse(E_ACCESSDENIED);
-    case WriterError::Kind::Settings:
-        break;
+    switch (reason) {
+    case NLEReason_NoContainer:
+        return E_NOTIMPL;
+    case NLEReason_NotWritable:
+    case NLEReason_DiskFull:
+        return E_ACCESSDENIED;
+    case NLEReason_OutOfMemory:
+        return E_OUTOFMEMORY;
+    default:
+        return E_INVALIDARG;
     }
-    return Refuse(E_INVALIDARG);
 }
 
 /// A file is written at its full size, however small the preview is, and drawn as deep as it holds.
@@ -79,9 +81,8 @@ HRESULT MediaEncoder::Open(INLETimeline* timeline, const wchar_t* path,
         if (!TakeSettings(*node, *root, settings ? *settings : NLEEncodeSettings{}))
             return Refuse(E_INVALIDARG, NLEReason_NothingThere, m_path);
         WriterError error;
-        if (!TryDeep(root->context) && !MediaWriter::Try(m_path, m_settings, &error)) {
-            return RefuseWriting(ResultOf(error.kind), m_path, error);
-        }
+        if (!TryDeep(root->context) && !MediaWriter::Try(m_path, m_settings, &error))
+            return RefuseWriting(ResultOf(error.reason), m_path, error);
         m_root = ForFile(root, m_settings.settled, m_options.proxies != 0);
         return S_OK;
     });
@@ -137,9 +138,8 @@ HRESULT MediaEncoder::Encode(NLEProgressCallback callback, void* userData)
             return Refuse(E_FAIL, NLEReason_WrongState);
         WriterError error;
         const std::unique_ptr<MediaWriter> writer = MediaWriter::Open(m_path, m_settings, &error);
-        if (!writer) {
+        if (!writer)
             return RefuseWriting(E_FAIL, m_path, error);
-        }
         const FilmPlan film = {m_root, m_range, m_frameRate};
         const HRESULT result = WriteFilm(film, *writer, [&](int percent) {
             return !callback || callback(percent, userData) == 0;

@@ -206,7 +206,8 @@ HRESULT ProxyMaker::Write(const FilmPlan& film, const WriterSettings& settings, 
     WriterError error;
     const std::unique_ptr<MediaWriter> writer = MediaWriter::Open(path, settings, &error);
     if (!writer) {
-        const bool isFile = error.kind == WriterError::Kind::File;
+        const bool isFile =
+            error.reason == NLEReason_NotWritable || error.reason == NLEReason_DiskFull;
         return RefuseWriting(isFile ? E_ACCESSDENIED : E_FAIL, path, error);
     }
     const HRESULT result = WriteFilm(film, *writer, [&job](int percent) {
