@@ -149,6 +149,12 @@ public:
         QApplication::sendEvent(&View(), &drop);
         return true;
     }
+    void Send(const QPoint& at, Qt::KeyboardModifiers modifiers)
+    {
+        QMouseEvent move(QEvent::MouseMove, at, View().mapToGlobal(at), Qt::NoButton,
+                         Qt::LeftButton, modifiers);
+        QApplication::sendEvent(&View(), &move);
+    }
 
 private:
     static const std::map<QString, Qt::KeyboardModifier> kModifiers;
@@ -218,12 +224,6 @@ private:
         if (isEscaped)
             QTest::keyClick(&View(), Qt::Key_Escape);
         QTest::mouseRelease(&View(), Qt::LeftButton, modifiers, from + QPoint(x, y));
-    }
-    void Send(const QPoint& at, Qt::KeyboardModifiers modifiers)
-    {
-        QMouseEvent move(QEvent::MouseMove, at, View().mapToGlobal(at), Qt::NoButton,
-                         Qt::LeftButton, modifiers);
-        QApplication::sendEvent(&View(), &move);
     }
 };
 
@@ -761,6 +761,28 @@ private Q_SLOTS:
         for (int step = 0; step < 3; ++step)
             editor.project.Steps().undo();
         QVERIFY(model.Markers().isEmpty());
+    }
+
+    void snapLine_data()
+    {
+        QTest::addColumn<QString>("clips");
+        QTest::addColumn<bool>("isShown");
+        QTest::newRow("the edge stands on it") << "a0+20 / b30+8" << true;
+        QTest::newRow("a neighbour holds the edge back") << "a0+20 c20+20 / b30+8" << false;
+    }
+    void snapLine()
+    {
+        QFETCH(QString, clips);
+        QFETCH(bool, isShown);
+        Editor editor(*m_engine, clips);
+        const TimelineGeometry geometry = editor.View().Geometry();
+        const QPoint from = editor.Point("a]");
+        QTest::mousePress(&editor.View(), Qt::LeftButton, {}, from);
+        editor.Send(from + QPoint(qRound(9 * geometry.scale.pixels), 0), {});
+        const QImage view = editor.View().grab().toImage();
+        const QColor line(0xff, 0xd0, 0x4a);
+        QCOMPARE(view.pixelColor(geometry.Left(30), view.height() - 2) == line, isShown);
+        QTest::mouseRelease(&editor.View(), Qt::LeftButton, {}, from);
     }
 
     void goesToCuts()

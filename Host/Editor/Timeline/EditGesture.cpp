@@ -70,13 +70,12 @@ HRESULT MoveGesture::Edit(INLEEditing& editing, int frames, int levels)
     return ClipSets::Together(editing, m_clips, [&] {
         int by = frames + m_snapping.Correction(editing, {m_begin + frames, m_end + frames},
                                                 m_grabbed.get());
-        if (by < -m_firstBegin) {
-            by = -m_firstBegin;
-            m_snapping.ClearLine();
-        }
-        return editing.Move(m_grabbed.get(), m_begin + by,
-                            m_level + std::max(levels, -m_lowestLevel),
-                            NLEEdit_Overwrite | NLEEdit_Clamp);
+        by = std::max(by, -m_firstBegin);
+        const HRESULT result =
+            editing.Move(m_grabbed.get(), m_begin + by, m_level + std::max(levels, -m_lowestLevel),
+                         NLEEdit_Overwrite | NLEEdit_Clamp);
+        m_snapping.CheckLine(*m_grabbed);
+        return result;
     });
 }
 
@@ -94,7 +93,9 @@ HRESULT EdgeGesture::Edit(INLEEditing& editing, int frames, int /*levels*/)
 {
     const int frame = m_frame + frames;
     const int snapped = frame + m_snapping.Correction(editing, {frame}, m_clip.get());
-    return ToolEdits::MoveEdge(m_tool, editing, m_clip.get(), m_edge, snapped);
+    const HRESULT result = ToolEdits::MoveEdge(m_tool, editing, m_clip.get(), m_edge, snapped);
+    m_snapping.CheckLine(*m_clip);
+    return result;
 }
 
 ShiftGesture::ShiftGesture(Project& project, Snapping& snapping, const GesturePoint& start,
@@ -111,5 +112,7 @@ HRESULT ShiftGesture::Edit(INLEEditing& editing, int frames, int /*levels*/)
 {
     if (m_tool == TimelineTool::Slide)
         frames += m_snapping.Correction(editing, {m_begin + frames, m_end + frames}, m_clip.get());
-    return ToolEdits::Shift(m_tool, editing, m_clip.get(), frames);
+    const HRESULT result = ToolEdits::Shift(m_tool, editing, m_clip.get(), frames);
+    m_snapping.CheckLine(*m_clip);
+    return result;
 }

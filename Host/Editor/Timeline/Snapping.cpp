@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Timeline/Snapping.h"
 
+#include "EngineApi/INLETimeline.h"
+
 #include <cstdlib>
 
 std::optional<int> Snapping::Nearest(INLEEditing& editing, int frame, INLETimeline* moving) const
@@ -13,6 +15,16 @@ std::optional<int> Snapping::Nearest(INLEEditing& editing, int frame, INLETimeli
         (!nearest || std::abs(point - frame) < std::abs(*nearest - frame)))
         nearest = point;
     return nearest;
+}
+
+void Snapping::CheckLine(INLETimeline& clip)
+{
+    int begin = 0;
+    NLERange range{0, -1};
+    clip.GetPosition(&begin);
+    clip.GetRange(&range);
+    if (m_line != begin && m_line != begin + static_cast<int>(NLERangeLength(range)))
+        ClearLine();
 }
 
 int Snapping::Correction(INLEEditing& editing, std::initializer_list<int> edges,

@@ -22,6 +22,8 @@ public:
     /// Where the last one snapped.
     std::optional<int> Line() const { return m_line; }
     void ClearLine() { m_line.reset(); }
+    /// Lets go of the line unless \a clip begins or ends there: an edit may have to stop before it.
+    void CheckLine(INLETimeline& clip);
 
 private:
     std::optional<int> Nearest(INLEEditing& editing, int frame, INLETimeline* moving) const;
