@@ -21,6 +21,7 @@
 #include "EngineApi/INLEFrames.h"
 #include "EngineApi/INLEKeyFrames.h"
 #include "EngineApi/INLELevels.h"
+#include "EngineApi/INLELoudness.h"
 #include "EngineApi/INLEMarkers.h"
 #include "EngineApi/INLEMedia.h"
 #include "EngineApi/INLEMixerSetting.h"
@@ -35,9 +36,18 @@
 #include "EngineApi/INLETransform.h"
 #include "tests/support/EngineFixture.h"
 
+#include <thread>
+
 namespace {
 
 constexpr HRESULT kNoObject = 0x0badf00d; // success, so that the row fails
+
+NLEComPtr<INLEEditing> EditingOf(const Node& composite)
+{
+    NLEComPtr<INLEEditing> editing;
+    EngineFixture::Factory()->CreateEditing(composite.get(), editing.put());
+    return editing;
+}
 
 /// Objects of all kinds, none of them used before.
 class Objects
@@ -54,8 +64,10 @@ public:
         engine.Add(project, clip);
         Node title;
         nodes->CreateTitle(L"A", title.put());
+        Node loudness;
+        nodes->CreateAudioFilter(L"loudness", loudness.put());
         for (const Node& node : {project, clip, title, EngineFixture::Effect("drop-shadow"),
-                                 EngineFixture::Transition("dissolve")})
+                                 loudness, EngineFixture::Transition("dissolve")})
             Take(node);
         Make(&INLEFactory::GetFontLibrary);
         Make(&INLEFactory::GetSystemConfig);
@@ -69,13 +81,18 @@ public:
         Make(&INLEFactory::CreateProxyMaker);
         Make(&INLEFactory::CreatePlayer);
         Make(&INLEFactory::GetReasons);
-        NLEComPtr<INLEEditing> editing;
-        factory->CreateEditing(project.get(), editing.put());
-        Take(editing);
+        Take(EditingOf(project));
         NLEComPtr<INLETimelineEnumerator> clips;
         project.query<INLETimelineComposite>()->GetEnumerator(1, clips.put());
         Take(clips);
-        Take(engine.Media(film));
+        const Node media = engine.Media(film);
+        Take(media);
+        NLEComPtr<INLEKeyFrameParam> curve;
+        EngineFixture::Facet<INLEAudioStreamProcess>(media)->GetVolumeKeyFrameParam(curve.put());
+        Take(curve);
+        NLEComPtr<INLEMarkBook> marks;
+        factory->CreateMarkBook(film.toStdWString().c_str(), marks.put());
+        Take(marks);
         const auto codec = engine.provider->CreateCodecFromFile(film);
         NLEComPtr<INLEMediaInfo> info;
         codec->GetMediaInfo(info.put());
@@ -118,7 +135,8 @@ private:
 
 using Call = HRESULT (*)(const EngineFixture&, const QString& film);
 
-/// Zero for all that the call takes, beside what the object came from and after that has gone.
+/// Zero for all that the call takes, beside what the object came from, and on another thread after
+/// that has gone and the engine has closed what it keeps open.
 template <auto Method>
 struct NullCall;
 template <typename Interface, typename... Arguments, HRESULT (Interface::*Method)(Arguments...)>
@@ -132,7 +150,8 @@ struct NullCall<Method>
             return kNoObject;
         const HRESULT result = (object.get()->*Method)(std::decay_t<Arguments>()...);
         objects.reset();
-        (object.get()->*Method)(std::decay_t<Arguments>()...);
+        EngineFixture::Factory()->Shutdown(0);
+        std::thread([&] { (object.get()->*Method)(std::decay_t<Arguments>()...); }).join();
         return result;
     }
 };
@@ -182,6 +201,76 @@ private Q_SLOTS:
         ROW_WHERE_NULL_SAYS_SOMETHING(INLEProxyMaker, Cancel)
         ROW_WHERE_NULL_SAYS_SOMETHING(INLEReasons, GetLast)
         ROW_WHERE_NULL_SAYS_SOMETHING(INLEBackgroundCacheAsyncUpdate, SetUpdateCallback)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLELoudness, Cancel)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLELoudness, Apply)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEKeyFrameParam, SetPoint)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEKeyFrameParam, Clear)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEBackgroundCache, Stop)
+        ROW(INLEBackgroundCache, DeleteCache)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEBackgroundCache, Update)
+        ROW(INLEBackgroundCacheQualitySet, SetQuality)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEEditing, BeginStep)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEEditing, Undo)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEEditing, Redo)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEEditing, ForgetSteps)
+        ROW(INLEEditing, Lift)
+        ROW(INLEEditing, Extract)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEEditing, CloseGap)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEEditing, SetLevelLocked)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEFactory, Init)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEFactory, Shutdown)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEVideoFrame, Prepare)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEFrameExtractor, Finish)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEFrameScrubber, Interrupt)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEThumbnailExtractor, Finish)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEWaveExtractor, Finish)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEKeyFrameList, DeleteAll)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEKeyFrameStatus, SetStatus)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLELevels, SetFlags)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLELevels, SetHeight)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEMarkers, DeleteAll)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEPlayer, Close)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEPlayer, SetPictureSize)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEPlayer, SetVolume)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEPlayer, SetMute)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEPlayer, SetSoundOffset)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEPlayer, ResetClipping)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEReasons, Forget)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEAudioStreamProcess, SetPitch)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEAudioStreamProcess, SetVolume)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEAudioStreamProcess, SetFadeInRange)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEVideoStreamProcess, SetProxyEnabled)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLETimeline, SetLevel)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLETimeline, SetPosition)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLETimeline, SetEnabled)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLETimelineEnumerator, Next)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLETimelineSourceDecoder, SetGPUFirst)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEMediaRelink, Reload)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLERenderRegion, SetCurrent)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEColorClip, SetColor)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLEBlendSetting, SetAlpha)
+        ROW_WHERE_NULL_SAYS_SOMETHING(INLETransform, SetRotation)
+        ROW(INLELoudness, Measure)
+        ROW(INLELoudness, GetResult)
+        ROW(INLEMarkBook, GetMarkCount)
+        ROW(INLEMarkBook, GetMark)
+        ROW(INLEKeyFrameParam, GetCount)
+        ROW(INLEKeyFrameParam, GetPoint)
+        ROW(INLEEditing, EndStep)
+        ROW(INLEEditing, RewindStep)
+        ROW(INLEEditing, SetMostSteps)
+        ROW(INLEEffects, MoveEffect)
+        ROW(INLEKeyFrameList, DeleteKeyFrame)
+        ROW(INLEMarkers, DeleteMarker)
+        ROW(INLEPlayer, Refresh)
+        ROW(INLEPlayer, Play)
+        ROW(INLEPlayer, Pause)
+        ROW(INLEPlayer, Seek)
+        ROW(INLEPlayer, Step)
+        ROW(INLEPlayer, Scrub)
+        ROW(INLEPlayer, SetLoop)
+        ROW(INLEProxyMaker, SetHeight)
+        ROW(INLETimeline, SetRenderFrameRate)
         ROW(INLEBackgroundCache, SetCacheFolder)
         ROW(INLEBackgroundCache, Start)
         ROW(INLEBackgroundCacheStat, GetStat)
@@ -445,6 +534,79 @@ private Q_SLOTS:
         const HRESULT result = call(*m_engine, m_film);
         QVERIFY2(result != kNoObject, "There is no such object.");
         QVERIFY2(SUCCEEDED(result) == mayBe, qPrintable(QString::number(uint(result), 16)));
+    }
+
+    void wrongOrder_data()
+    {
+        QTest::addColumn<Call>("call");
+        QTest::addColumn<HRESULT>("result");
+        const auto row = [](const char* name, HRESULT result, Call call) {
+            QTest::newRow(name) << call << result;
+        };
+        row("pixels before there are any", E_FAIL, [](const EngineFixture& engine, const QString&) {
+            std::uint8_t* pixels = nullptr;
+            return engine.provider->CreateVideoFrame(16, 16)->GetData(&pixels);
+        });
+        row("a frame of nothing", E_FAIL, [](const EngineFixture& engine, const QString&) {
+            const auto picture = engine.provider->CreateVideoFrame(16, 16);
+            picture->Prepare();
+            return engine.provider->CreateFrameExtractor()->Extract(0, picture.get());
+        });
+        row("a frame after the end", E_FAIL, [](const EngineFixture& engine, const QString& film) {
+            const auto sound = engine.provider->CreateAudioFrame(16);
+            const auto extractor = engine.provider->CreateFrameExtractor();
+            extractor->Open(engine.Media(film).get(), NLEOpen_Render);
+            extractor->ExtractAudio(0, sound.get());
+            extractor->Finish();
+            return extractor->ExtractAudio(0, sound.get());
+        });
+        row("a thumbnail of nothing", E_FAIL, [](const EngineFixture& engine, const QString&) {
+            NLEComPtr<INLEPicture> picture;
+            return engine.provider->CreateThumbnailExtractor()->Extract(0, {16, 16}, picture.put());
+        });
+        row("the envelope of nothing", E_FAIL, [](const EngineFixture& engine, const QString&) {
+            const auto waves = engine.provider->CreateWaveExtractor();
+            return waves.query<INLEWaveCache>()->Compute(nullptr, nullptr);
+        });
+        row("a film of nothing", E_FAIL, [](const EngineFixture& engine, const QString&) {
+            return engine.provider->CreateMediaEncoder()->Encode(nullptr, nullptr);
+        });
+        row("a clip after the last", E_FAIL, [](const EngineFixture& engine, const QString&) {
+            NLEComPtr<INLETimelineEnumerator> clips;
+            Node clip;
+            engine.Project().query<INLETimelineComposite>()->GetEnumerator(1, clips.put());
+            clips->Next();
+            return clips->GetCurrent(clip.put());
+        });
+        row("a step within a step", E_FAIL, [](const EngineFixture& engine, const QString&) {
+            const auto editing = EditingOf(engine.Project());
+            editing->BeginStep();
+            return editing->BeginStep();
+        });
+        row("undo within a step", E_FAIL, [](const EngineFixture& engine, const QString&) {
+            const auto editing = EditingOf(engine.Project());
+            editing->BeginStep();
+            return editing->Undo();
+        });
+        row("an edit of a clip that was removed", E_INVALIDARG,
+            [](const EngineFixture& engine, const QString&) {
+                const Node clip = engine.Colour(Qt::red);
+                const Node project = engine.ProjectWith(clip);
+                const auto editing = EditingOf(project);
+                editing->Delete(clip.get(), 0);
+                return editing->Slip(clip.get(), 1, 0);
+            });
+        row("a cache that outlived its clips", E_FAIL,
+            [](const EngineFixture& engine, const QString&) {
+                const auto cache = EngineFixture::Facet<INLEBackgroundCache>(engine.Project());
+                return cache->Update();
+            });
+    }
+
+    void wrongOrder()
+    {
+        QFETCH(Call, call);
+        QTEST(call(*m_engine, m_film), "result");
     }
 
     void theLibraryBearsNothing_data()
