@@ -18,7 +18,10 @@
 #include <random>
 #include <thread>
 
+#include "EngineApi/INLEBackgroundCache.h"
 #include "EngineApi/INLEPlayer.h"
+#include "EngineApi/INLEProxies.h"
+#include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
 #include "tests/support/Seed.h"
 
@@ -98,6 +101,27 @@ public:
             return void(player.GetLevels(&levels) + player.ResetClipping());
         default:
             std::this_thread::sleep_for(std::chrono::milliseconds(Any(0, 5)));
+        }
+    }
+    /// What any thread may ask the engine for, beside one that edits.
+    void UseEngine(const std::wstring& film)
+    {
+        const auto factory = EngineFixture::Factory();
+        wchar_t text[64];
+        NLEComPtr<INLEProxyMaker> maker;
+        NLEComPtr<INLECodec> codec;
+        NLEComPtr<INLESystemConfig> config;
+        NLEComPtr<INLEProperties> settings;
+        switch (Any(0, 2)) {
+        case 0:
+            factory->CreateProxyMaker(maker.put());
+            return void(maker->SetHeight(Any(60, 100)) + maker->Find(film.c_str(), text, 64));
+        case 1:
+            return void(factory->CreateCodecFromFile(film.c_str(), codec.put()));
+        default:
+            factory->GetSystemConfig(config.put());
+            config->GetProperties(settings.put());
+            return void(settings->SetInt(NLEKey::System::kCacheQuota, Any(1, 100)));
         }
     }
 
@@ -220,6 +244,10 @@ private Q_SLOTS:
         const auto picture = engine.provider->CreateVideoFrame(64, 36);
         QCOMPARE(extractor->Open(project.get(), NLEOpen_Render), S_OK);
         crowd.Add([&](Caller& caller) { extractor->Extract(caller.Any(0, 99), picture.get()); });
+        const std::wstring film = engine.Path("film.mp4").toStdWString();
+        QCOMPARE(MakeTestClip(QString::fromStdWString(film), TestClip()), QString());
+        for (int i = 0; i < 2; ++i)
+            crowd.Add([&](Caller& caller) { caller.UseEngine(film); });
         // Editing stays here.
         Caller editor(m_seed, m_folder.filePath("editor"));
         int edits = 0;
@@ -229,6 +257,7 @@ private Q_SLOTS:
                                   : editing->Place(clip.get(), editor.Any(0, 90), editor.Any(0, 2),
                                                    NLEEdit_Overwrite);
             player->Refresh();
+            engine.Facet<INLEBackgroundCache>(engine.Project());
             QTest::qWait(editor.Any(0, 3));
         }
         const int calls = crowd.Join();

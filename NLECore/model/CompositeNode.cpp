@@ -115,7 +115,7 @@ void AppendRecursively(const CompositeNode& from, std::vector<NLEComPtr<Timeline
 
 } // namespace
 
-MakeCompositeCache CompositeNode::s_makeCache = nullptr;
+std::atomic<MakeCompositeCache> CompositeNode::s_makeCache{nullptr};
 
 HRESULT GiveEnumerator(std::vector<NLEComPtr<TimelineNode>> nodes,
                        INLETimelineEnumerator** enumerator)
@@ -142,10 +142,11 @@ CompositeNode::~CompositeNode()
 HRESULT CompositeNode::GetInterface(REFIID iid, void** out, int reserved1, int reserved2)
 {
     return ComGuard([&] {
-        if (iid != INLEBackgroundCache::Iid || !s_makeCache)
+        const MakeCompositeCache make = s_makeCache;
+        if (iid != INLEBackgroundCache::Iid || !make)
             return ComExtension::GetInterface(iid, out, reserved1, reserved2);
         if (!m_cache)
-            m_cache = s_makeCache([this] { return MakeSnapshot(); });
+            m_cache = make([this] { return MakeSnapshot(); });
         return m_cache->QueryInterface(iid, out);
     });
 }

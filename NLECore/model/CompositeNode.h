@@ -5,6 +5,7 @@
 #include "NLECore/model/CompositeCache.h"
 #include "NLECore/model/TimelineNode.h"
 
+#include <atomic>
 #include <cstdint>
 #include <map>
 #include <vector>
@@ -41,7 +42,7 @@ class CompositeNode
 {
 public:
     explicit CompositeNode(const NLERational& frameRate);
-    /// How the caches of all composites are made. Without it they have none.
+    /// How the caches of all composites are made; for any thread. Without it they have none.
     static void SetCacheMaker(MakeCompositeCache make) { s_makeCache = make; }
 
     /// Answers the background cache as well, which is made when it is first asked for.
@@ -103,7 +104,7 @@ private:
     void Grew();
 
     NLESize m_size;
-    static MakeCompositeCache s_makeCache;
+    static std::atomic<MakeCompositeCache> s_makeCache;
     NLEComPtr<CompositeCache> m_cache;
 
     /// By their places, so that one that comes back stands where it stood.

@@ -44,9 +44,7 @@ struct NumberSetting
 template <auto Member, typename Value>
 void SetInDefaultCache(Value value)
 {
-    CacheDefaults defaults = DefaultCache();
-    defaults.*Member = std::move(value);
-    SetDefaultCache(defaults);
+    ChangeDefaultCache([&](CacheDefaults& defaults) { defaults.*Member = std::move(value); });
 }
 
 const NumberSetting kNumbers[] = {

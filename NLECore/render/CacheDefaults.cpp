@@ -27,10 +27,10 @@ CacheDefaults DefaultCache()
     return State().defaults;
 }
 
-void SetDefaultCache(const CacheDefaults& defaults)
+void ChangeDefaultCache(const std::function<void(CacheDefaults&)>& change)
 {
     const std::lock_guard<std::mutex> lock(State().mutex);
-    State().defaults = defaults;
+    change(State().defaults);
 }
 
 } // namespace nle

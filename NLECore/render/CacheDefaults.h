@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace nle {
 
 /// Where previews are cached until a host names another folder for a timeline.
@@ -15,6 +17,7 @@ struct CacheDefaults
 
 /// One set for the process.
 CacheDefaults DefaultCache();
-void SetDefaultCache(const CacheDefaults& defaults);
+/// Nobody reads or changes it while \a change does.
+void ChangeDefaultCache(const std::function<void(CacheDefaults&)>& change);
 
 } // namespace nle
