@@ -244,8 +244,13 @@ private slots:
     {
         Maker maker = NewMaker(Path("gone"));
         Listener listener;
-        listener.onProgress = [&] { maker.reset(); };
+        QSemaphore gone;
+        listener.onProgress = [&] {
+            maker.reset();
+            gone.release();
+        };
         maker->Make(m_media.toStdWString().c_str(), &Listener::Take, &listener);
+        QVERIFY(gone.tryAcquire(1, 60000));
         QVERIFY(!listener.last.tryAcquire(1, 500)); // nobody is told any more
         QCOMPARE(listener.states, QList<HRESULT>{S_FALSE});
     }
