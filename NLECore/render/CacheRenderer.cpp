@@ -9,6 +9,7 @@
 #include "NLECore/render/TaskThread.h"
 
 #include <algorithm>
+#include <chrono>
 
 namespace nle {
 
@@ -20,6 +21,8 @@ constexpr int kMostThreads = 4;
 constexpr int kDecoderThreads = 1;
 /// Decoders that a thread holds while one clip ends and the next begins.
 constexpr int kDecodersPerThread = 2;
+constexpr int kLastReportTries = 100;
+constexpr std::chrono::milliseconds kLastReportPause(10);
 
 /// The state that a lack of room ends a run with.
 std::optional<NLECacheState> StateOf(ChunkStore::Room room)
@@ -250,11 +253,17 @@ void CacheRenderer::ReportProgress(NLECacheState state)
     // A hundred means that the run has ended, and this one is reported before its end.
     progress.percent =
         state == NLECache_Finished ? int(percent) : int(std::min<std::int64_t>(percent, 99));
-    // For lack of memory a report is left out; a thread has nobody to throw to.
-    ComGuard([&] {
-        m_report(progress);
-        return S_OK;
-    });
+    // For lack of memory a report is left out, since a thread has nobody to throw to. The last one,
+    // for which hosts wait, is tried for a second.
+    for (int left = state == NLECache_Caching ? 1 : kLastReportTries; left > 0; --left) {
+        const HRESULT result = ComGuard([&] {
+            m_report(progress);
+            return S_OK;
+        });
+        if (SUCCEEDED(result))
+            return;
+        std::this_thread::sleep_for(kLastReportPause);
+    }
 }
 
 } // namespace nle

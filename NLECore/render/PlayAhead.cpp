@@ -124,10 +124,15 @@ void PlayLoop::WriteSound(const float* samples, int count)
 
 void PlayLoop::ComposePictures()
 {
-    PlayComposer composer(m_stop);
+    std::optional<PlayComposer> composer;
     Lock lock(m_mutex);
-    while (!m_guarded.isEnding)
-        Try(lock, [&] { ComposeNext(lock, composer); });
+    while (!m_guarded.isEnding) {
+        Try(lock, [&] {
+            if (!composer)
+                composer.emplace(m_stop);
+            ComposeNext(lock, *composer);
+        });
+    }
 }
 
 void PlayLoop::ComposeNext(Lock& lock, PlayComposer& composer)
