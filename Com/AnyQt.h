@@ -88,14 +88,13 @@ public:
     /// Without a mark. What the encoding lacks becomes question marks.
     QByteArray Encode(const QString& text) const
     {
-        const QByteArray content = AsIs(text);
-        if (Decode(content) == text)
-            return content;
+        if (Has(text))
+            return AsIs(text);
         QString known;
         for (int at = 0; at < text.size();) {
             const QString character = text.mid(at, text.at(at).isHighSurrogate() ? 2 : 1);
             at += static_cast<int>(character.size());
-            known += Decode(AsIs(character)) == character ? character : QStringLiteral("?");
+            known += Has(character) ? character : QStringLiteral("?");
         }
         return AsIs(known);
     }
@@ -124,6 +123,14 @@ private:
     {
         QStringEncoder encoder(m_name.constData());
         return encoder.encode(text);
+    }
+
+    // A mark in the text is a character like others.
+    bool Has(const QString& text) const
+    {
+        QStringDecoder decoder(m_name.constData(), QStringDecoder::Flag::ConvertInitialBom);
+        const QString decoded = decoder.decode(AsIs(text));
+        return !decoder.hasError() && decoded == text;
     }
 
     QByteArray m_name;

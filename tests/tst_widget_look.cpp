@@ -205,6 +205,7 @@ private slots:
         Shown(&ruler);
         QCOMPARE(ruler.GetPointerBGColor(), QColor(Qt::white));
         QApplication::setPalette(Palette(kLightWindow));
+        QCoreApplication::processEvents(); // Qt 6 tells widgets later
         QCOMPARE(ruler.GetPointerBGColor(), QColor(Qt::black));
         QVERIFY(Contrast(ruler.GetFrameTextColor(), kLightWindow) > kLeastContrast);
         QCOMPARE(ruler.GetScaleColor(), QColor(Qt::green));

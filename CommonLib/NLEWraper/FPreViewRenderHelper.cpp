@@ -359,10 +359,8 @@ bool FPreViewRenderHelper::WaitForStop()
     const QPointer<FPreViewRenderHelper> self(this);
     bool stopped = false;
     // The engine's answer counts, not the state, which is idle by now.
-    connect(
-        this, &FPreViewRenderHelper::sigRenderStateChangeInternal, this,
-        [&stopped](long state) { stopped = stopped || state == StoppedByUser; },
-        static_cast<Qt::ConnectionType>(Qt::AutoConnection | Qt::UniqueConnection));
+    connect(this, &FPreViewRenderHelper::sigRenderStateChangeInternal, this,
+            [&stopped](long state) { stopped = stopped || state == StoppedByUser; });
     QElapsedTimer waited;
     waited.start();
     while (self && !stopped && waited.elapsed() < kStopTimeOut) {
