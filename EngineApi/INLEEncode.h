@@ -55,7 +55,7 @@ struct INLEEncodeCatalog : IUnknown
     virtual HRESULT GetCodecCount(const char* container, int type, int* count) = 0;
     virtual HRESULT GetCodec(const char* container, int type, int index, NLECodecInfo* info) = 0;
 
-    /// Presets: settings that belong together, under an English name.
+    /// Presets: settings that belong together, under an English name. Those whose codecs are there.
     virtual HRESULT GetPresetCount(int* count) = 0;
     virtual HRESULT GetPresetName(int index, wchar_t* buffer, int capacity) = 0;
     /// Writes the settings of a preset into a bag, container included; other keys stay.

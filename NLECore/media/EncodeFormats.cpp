@@ -372,7 +372,9 @@ QString ComplaintAbout(const EncodeOptions& options, const ContainerFormat& cont
     return complaint;
 }
 
-const std::vector<EncodePreset>& EncodePresets()
+namespace {
+
+std::vector<EncodePreset> MakePresets()
 {
     const auto profiled = [](const char* container, const char* video, const char* audio,
                              const char* profile) {
@@ -401,7 +403,7 @@ const std::vector<EncodePreset>& EncodePresets()
             options.sampleFormat = format;
         });
     };
-    static const std::vector<EncodePreset> presets = {
+    return {
         {"H.264", Film("mp4", "h264", "aac")},
         {QT_TRANSLATE_NOOP("NLECore", "H.264 for archives"),
          forArchives(Film("mp4", "h264", "aac"))},
@@ -452,6 +454,24 @@ const std::vector<EncodePreset>& EncodePresets()
         {QT_TRANSLATE_NOOP("NLECore", "WAV 24 bits"), sound("wav", "pcm", 0, "s24")},
         {"FLAC", sound("flac", "flac", 0, "s24")},
     };
+}
+
+bool CanBeUsed(const EncodePreset& preset)
+{
+    const ContainerFormat* const container = FindContainer(preset.options.container);
+    return container && ComplaintAbout(preset.options, *container).isEmpty();
+}
+
+} // namespace
+
+const std::vector<EncodePreset>& EncodePresets()
+{
+    static const std::vector<EncodePreset> presets = [] {
+        const std::vector<EncodePreset> all = MakePresets();
+        std::vector<EncodePreset> usable;
+        std::copy_if(all.begin(), all.end(), std::back_inserter(usable), &CanBeUsed);
+        return usable;
+    }();
     return presets;
 }
 

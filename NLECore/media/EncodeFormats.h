@@ -112,6 +112,7 @@ struct EncodePreset
     const char* name;
     EncodeOptions options;
 };
+/// Those that this build of the libraries has encoders for.
 const std::vector<EncodePreset>& EncodePresets();
 
 } // namespace nle

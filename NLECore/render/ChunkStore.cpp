@@ -58,6 +58,14 @@ void ForEachFile(const QString& folder, Visit visit)
     }
 }
 
+/// Whether the file at \a path is a chunk of \a owner. Closes it, since open ones are not removed
+/// everywhere.
+bool IsChunkOf(const QString& path, const ContentKey& key, const ChunkOwner& owner)
+{
+    const auto reader = ChunkReader::Open(path, key);
+    return reader && reader->Owner() == owner;
+}
+
 } // namespace
 
 std::shared_ptr<ChunkStore> ChunkStore::Of(const QString& path)
@@ -318,10 +326,7 @@ void ChunkStore::RemoveOf(const ChunkOwner& owner)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     ForEachFile(m_folder, [&](const ContentKey& key, bool isWhole, const QDirIterator& file) {
-        if (!isWhole)
-            return;
-        const auto reader = ChunkReader::Open(file.filePath(), key);
-        if (!reader || reader->Owner() != owner)
+        if (!isWhole || !IsChunkOf(file.filePath(), key, owner))
             return;
         QFile::remove(file.filePath());
         m_guarded.isFolderOurs = true;
