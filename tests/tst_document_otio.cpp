@@ -9,6 +9,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QUrl>
 
 class tst_DocumentOtio : public QObject, private EngineFixture
 {
@@ -272,7 +273,7 @@ private slots:
     void urls_data()
     {
         QTest::addColumn<QByteArray>("url");
-        const QByteArray base = "file://" + folder.path().toUtf8() + "/media/";
+        const QByteArray base = QUrl::fromLocalFile(Path("media/")).toEncoded();
         QTest::newRow("relative") << QByteArray("media/a%20b%2520%23%C3%BC.mp4");
         QTest::newRow("absolute") << base + "a%20b%2520%23%C3%BC.mp4";
         QTest::newRow("of this computer")

@@ -538,7 +538,7 @@ private Q_SLOTS:
         m_editor->Place(Film(), 0, 2);
         QCOMPARE(ProjectFields::MixedLevels(m_editor->project.Node()), QVector<int>({0, 2}));
         QTRY_VERIFY(m_editor->panel.findChildren<QCheckBox*>().size() >= 4);
-        QVERIFY(m_editor->Find<QPushButton>("Mixer, level 3"));
+        QTRY_VERIFY(m_editor->Find<QPushButton>("Mixer, level 3"));
         QVERIFY(m_editor->project.Edit("Rename", [&](INLEEditing& /*editing*/) {
             return m_editor->project.Levels()->SetName(2, L"Voices");
         }));

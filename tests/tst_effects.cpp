@@ -251,7 +251,9 @@ private slots:
             "blue='0.1/0 0.5/0.7 1/0.8'",
             0.8, 3);
         row("a table of colours", "lut", {{"file", Path("table.cube")}},
-            "format=gbrp,lut3d=file=" + Path("table.cube") + ":interp=tetrahedral", 0.6, 1);
+            "format=gbrp,lut3d=file='" + Path("table.cube").replace(":", "\\:") +
+                "':interp=tetrahedral",
+            0.6, 1);
         row("black and white", "black-and-white", {},
             "format=gbrp,colorchannelmixer=.2126:.7152:.0722:0:.2126:.7152:.0722:0:.2126:.7152:"
             ".0722",

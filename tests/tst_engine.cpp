@@ -5,6 +5,7 @@
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
+#include "tests/support/MissingEncoder.h"
 
 namespace {
 
@@ -46,22 +47,6 @@ class tst_Engine : public QObject, private EngineFixture
         Node project = ProjectWith(Colour(Qt::red));
         Add(project, Trimmed(inner, 10, 29), 50, 1);
         return project;
-    }
-
-    /// Whether encoders of other projects are needed for a suffix, and this engine has none of
-    /// them.
-    bool MissesEncoder(const QString& suffix) const
-    {
-        if (!QStringList{"mp3", "ogv", "opus", "swf", "webm"}.contains(suffix))
-            return false;
-        const auto catalog = provider->CreateMediaEncoder().query<INLEEncodeCatalog>();
-        const QString needed = suffix == "swf" ? "mp3" : suffix; // for its sound
-        NLEContainerInfo container;
-        for (int index = 0; catalog->GetContainer(index, &container) == S_OK; ++index) {
-            if (needed == container.name)
-                return false;
-        }
-        return true;
     }
 
     QString m_media = Path("clip.mp4");
@@ -552,7 +537,7 @@ private slots:
         QFETCH(const QString, name);
         QFETCH(const NLEEncodeSettings, settings);
         QFETCH(HRESULT, opened);
-        if (MissesEncoder(QFileInfo(name).suffix()))
+        if (MissesEncoder(*provider, QFileInfo(name).suffix()))
             opened = name.endsWith("swf") ? E_INVALIDARG : E_NOTIMPL;
         QTemporaryDir place;
         const QDir target(place.path());
@@ -600,7 +585,7 @@ private slots:
     {
         QFETCH(const QString, suffix);
         QFETCH(const QSize, size);
-        if (MissesEncoder(suffix))
+        if (MissesEncoder(*provider, suffix))
             QSKIP("this build of the media libraries has no encoder for it");
         const QColor colour(200, 40, 60);
         const QString path = Path(qPrintable("colours." + suffix));

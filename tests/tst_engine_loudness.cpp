@@ -39,6 +39,7 @@ Measured MeasureFile(const QString& path)
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start("ffmpeg", {"-hide_banner", "-nostats", "-nostdin", "-i", path, "-af",
                              "ebur128=peak=true", "-f", "null", "-"});
+    process.closeWriteChannel();
     if (!process.waitForFinished(60000))
         return {};
     const QString text = QString::fromUtf8(process.readAll());

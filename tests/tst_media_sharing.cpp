@@ -250,6 +250,9 @@ private slots:
             !pool.Acquire(info, 0, DecodePurpose::Render, 20)->Picture(20, kThumbnail).isNull());
         QVERIFY(pool.Acquire(info, 0, DecodePurpose::Render, 20)->IsFileUnchanged());
         QCOMPARE(MakeTestClip(Path("shorter.mp4"), SmallClip(10)), QString());
+#ifdef Q_OS_WIN
+        QSKIP("a file that is open is not removed there");
+#endif
         QVERIFY(QFile::remove(info->path));
         QVERIFY(QFile::rename(Path("shorter.mp4"), info->path));
         QVERIFY(pool.Acquire(info, 0, DecodePurpose::Render, 20)->Picture(20, kThumbnail).isNull());

@@ -672,7 +672,7 @@ private Q_SLOTS:
         QTest::newRow("without zeros in front")
             << QList<int>{8, 9, 10, 11} << "b%1.png" << 1 << "b%d.png" << QList<int>{8, 9, 10, 11};
         QTest::newRow("past its digits")
-            << QList<int>{98, 99, 100} << "c%1.jpg" << 2 << "c%02d.jpg" << QList<int>{98, 99, 100};
+            << QList<int>{98, 99, 100} << "c%1.bmp" << 2 << "c%02d.bmp" << QList<int>{98, 99, 100};
         QTest::newRow("ends at the first gap")
             << QList<int>{0, 1, 2, 4, 5} << "d%1.png" << 3 << "d%03d.png" << QList<int>{0, 1, 2};
         QTest::newRow("numbers of other lengths do not count")

@@ -24,7 +24,11 @@
 
 namespace {
 
-#ifndef Q_OS_WIN
+#ifdef Q_OS_WIN
+constexpr bool kRemovesOpenFiles = false;
+#else
+constexpr bool kRemovesOpenFiles = true;
+
 /// What the process takes of the address space, in bytes.
 qint64 AddressSpace()
 {
@@ -202,7 +206,8 @@ private slots:
         row("no quota", 0, 0, 0, false, NLECache_QuotaReached);
         row("quota", 1, 0, 0, false, NLECache_QuotaReached);
         row("stopped", 1000, 0, 0, false, NLECache_Stopped);
-        row("no large files", 1000, 0, 20000, false, NLECache_FolderUnwriteable);
+        row("no large files", 1000, 0, 20000, false,
+            FileSizeLimit::kIsFullDisk ? NLECache_LowDisk : NLECache_FolderUnwriteable);
         row("folder removed", 1000, 0, 0, true, NLECache_FolderUnwriteable);
     }
 
@@ -210,6 +215,9 @@ private slots:
 
     void endsWithItsReason()
     {
+        QFETCH(const bool, isFolderRemoved);
+        if (isFolderRemoved && !kRemovesOpenFiles)
+            QSKIP("a folder with open files is not removed there");
         QFETCH(const int, quota);
         QFETCH(const int, reserve);
         QFETCH(const long, state);
@@ -223,6 +231,9 @@ private slots:
 
     void endedRunLeavesWholeChunks()
     {
+        QFETCH(const bool, isFolderRemoved);
+        if (isFolderRemoved && !kRemovesOpenFiles)
+            QSKIP("a folder with open files is not removed there");
         QFETCH(const int, quota);
         QFETCH(const int, reserve);
         QFETCH(const long, state);

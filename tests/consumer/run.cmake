@@ -21,11 +21,14 @@ function(build_project name folder)
     -DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN}
     -DCMAKE_FIND_ROOT_PATH=${WORK}/prefix -DCMAKE_PREFIX_PATH=${WORK}/prefix)
   step(${CMAKE_COMMAND} --build ${WORK}/${name})
-  file(GLOB libraries ${WORK}/prefix/bin/*.dll)
-  if(libraries)
-    file(COPY ${libraries} DESTINATION ${WORK}/${name})
-  endif()
 endfunction()
+
+# Where programs for Windows find the library.
+if(EMULATOR)
+  set(ENV{WINEPATH} "Z:${WORK}/prefix/bin")
+elseif(SUFFIX)
+  set(ENV{PATH} "${WORK}/prefix/bin;$ENV{PATH}")
+endif()
 
 # What programs write without a folder comes into WORK.
 function(run program)

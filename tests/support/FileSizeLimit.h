@@ -16,7 +16,7 @@
 
 /// While it lives, writing to files beyond a size fails in this process, as it does on a full disk
 /// but without privileges. One at a time. On Windows it holds for the modules that are loaded by
-/// then.
+/// then, with a full disk's own error.
 class FileSizeLimit
 {
 public:
@@ -26,6 +26,8 @@ public:
     FileSizeLimit& operator=(const FileSizeLimit&) = delete;
 
 #ifdef Q_OS_WIN
+    static constexpr bool kIsFullDisk = true;
+
 private:
     using Write = decltype(&WriteFile);
 
@@ -36,6 +38,8 @@ private:
 
     static inline std::atomic<qint64> s_limit{-1}; ///< bytes; -1 for none
 #else
+    static constexpr bool kIsFullDisk = false; ///< but a file that is too large
+
 private:
     rlimit m_before = {};
 #endif

@@ -26,9 +26,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Wine's processes have no handle, exit code or pipe for a program of the machine: files tell.
+// Wine's processes have no handle, exit code or pipe for a program of the machine: files tell. Its
+// Qt knows nothing of Windows.
 const wchar_t* const kScript =
-    LR"(cd "$1"; p=$2; i=$3; o=$4; s=$5; shift 5; "$p" "$@" <"$i" >"$o" 2>&1; echo $? >"$s.new"; mv "$s.new" "$s")";
+    LR"(export QT_QPA_PLATFORM=offscreen; cd "$1"; p=$2; i=$3; o=$4; s=$5; shift 5; "$p" "$@" <"$i" >"$o" 2>&1; echo $? >"$s.new"; mv "$s.new" "$s")";
 
 std::wstring Drives()
 {
