@@ -23,7 +23,8 @@ using NLERenderCallback = int (*)(int progress, long state, long cachedFrames, l
 using NLEUpdateCallback = int (*)(void* cache, long state, long firstFrame, long lastFrame,
                                   long count, void* userData);
 
-/// Preview-render cache of one timeline, filled in the background.
+/// Preview-render cache of one timeline, filled in the background. For the thread that edits, as
+/// its other interfaces are; Update() for any.
 struct INLEBackgroundCache : IUnknown
 {
     static constexpr _GUID Iid = {
@@ -34,8 +35,10 @@ struct INLEBackgroundCache : IUnknown
     virtual HRESULT Start(const NLESize* resolution, NLERenderCallback callback,
                           void* userData) = 0;
     virtual HRESULT Stop() = 0;
+    /// Deletes what is cached of the timeline, or all of the folder. E_FAIL without a folder.
     virtual HRESULT DeleteCache(bool all) = 0;
-    /// Finds out on the calling thread what needs rendering.
+    /// Finds out on the calling thread what needs rendering; on another one than that which edits,
+    /// of the timeline as it was analysed last. E_FAIL without a timeline.
     virtual HRESULT Update() = 0;
 };
 
@@ -67,6 +70,6 @@ struct INLEBackgroundCacheQualitySet : IUnknown
     static constexpr _GUID Iid = {
         0x3FCF15B7, 0xBF51, 0x49ED, {0xA9, 0x81, 0xC9, 0x4C, 0x84, 0x0A, 0xF8, 0xD5}};
 
-    /// 0 to 1.
+    /// 0 to 1, else E_INVALIDARG.
     virtual HRESULT SetQuality(NLERational quality) = 0;
 };

@@ -124,7 +124,7 @@ struct INLEEditing : IUnknown
 
     // ---- Stretches of time; \a level may be NLEEdit_AllLevels
 
-    /// Cuts away what plays from \a begin to before \a end.
+    /// Cuts away what plays from \a begin to before \a end, which lies after it, else E_INVALIDARG.
     virtual HRESULT Lift(int begin, int end, int level) = 0;
     /// As Lift(), and what follows closes the gap.
     virtual HRESULT Extract(int begin, int end, int level) = 0;

@@ -19,7 +19,7 @@ struct INLETimeline;
 struct INLEVideoFrame;
 struct INLEWaveExtractor;
 
-/// Fonts that captions are rendered with.
+/// Fonts that captions are rendered with. For the GUI thread.
 struct INLEFontLibrary : IUnknown
 {
     static constexpr _GUID Iid = {
@@ -33,7 +33,8 @@ struct INLEFontLibrary : IUnknown
     virtual HRESULT GetFontName(int index, wchar_t* buffer, int capacity) = 0;
 };
 
-/// Makes timeline nodes. Every result is a new reference; a failure leaves null.
+/// Makes timeline nodes. Every result is a new reference; a failure leaves null. For the thread
+/// that edits.
 struct INLETimelineFactory : IUnknown
 {
     static constexpr _GUID Iid = {
@@ -63,7 +64,7 @@ struct INLETimelineFactory : IUnknown
     virtual HRESULT CreateTitle(const wchar_t* text, INLETimeline** title) = 0;
 };
 
-/// Marks that a file carries: chapters, tracks of a cue sheet. In order of time.
+/// Marks that a file carries: chapters, tracks of a cue sheet. In order of time. For any thread.
 struct INLEMarkBook : IUnknown
 {
     static constexpr _GUID Iid = {
@@ -76,7 +77,7 @@ struct INLEMarkBook : IUnknown
     virtual HRESULT GetMark(int index, int* frame, wchar_t* name, int capacity) = 0;
 };
 
-/// Saves timelines and opens them again.
+/// Saves timelines and opens them again. For the thread that edits.
 struct INLEDocumentSerialize : IUnknown
 {
     static constexpr _GUID Iid = {
@@ -116,7 +117,8 @@ enum NLEHardwareDecoding : std::int32_t
     NLEHardware_All = 2
 };
 
-/// Settings of the engine itself; NLEKey::System has the keys. What is open keeps its decoder.
+/// Settings of the engine itself; NLEKey::System has the keys. What is open keeps its decoder. For
+/// any thread, and so is the bag.
 struct INLESystemConfig : IUnknown
 {
     static constexpr _GUID Iid = {
@@ -147,7 +149,8 @@ struct INLEOpenCLGpuFactory : IUnknown
     virtual HRESULT ReInit() = 0;
 };
 
-/// Root factory: makes every engine object that is not a timeline node.
+/// Root factory: makes every engine object that is not a timeline node. For any thread, apart from
+/// CreateEditing(); which threads its objects are for is said there.
 struct INLEFactory : IUnknown
 {
     static constexpr _GUID Iid = {
@@ -187,6 +190,7 @@ struct INLEFactory : IUnknown
     /// Why calls fail.
     virtual HRESULT GetReasons(INLEReasons** reasons) = 0;
     /// Edits the clips of a composite, with one history for each: while it is held by somebody, the
-    /// same object comes again. E_INVALIDARG for a node that holds no clips.
+    /// same object comes again. E_INVALIDARG for a node that holds no clips. For the thread that
+    /// edits.
     virtual HRESULT CreateEditing(INLETimeline* composite, INLEEditing** editing) = 0;
 };

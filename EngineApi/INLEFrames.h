@@ -8,7 +8,8 @@ struct INLEMediaInfo;
 struct INLEPicture;
 struct INLETimeline;
 
-/// A video frame to render into: 32 bits a pixel as in INLEPicture, rows without gaps.
+/// A video frame to render into: 32 bits a pixel as in INLEPicture, rows without gaps. For one
+/// thread at a time.
 struct INLEVideoFrame : IUnknown
 {
     static constexpr _GUID Iid = {
@@ -74,7 +75,8 @@ struct INLEOpenCLFrame : IUnknown
     virtual HRESULT Unmap() = 0;
 };
 
-/// A block of sound: interleaved 32-bit floats, -1 to 1, 48,000 samples a second, two channels.
+/// A block of sound: interleaved 32-bit floats, -1 to 1, 48,000 samples a second, two channels. For
+/// one thread at a time.
 struct INLEAudioFrame : IUnknown
 {
     static constexpr _GUID Iid = {
@@ -95,7 +97,8 @@ enum NLEOpenFlags : std::int32_t
     NLEOpen_Cached = 2 ///< for previews: frames that the node's background cache holds come from it
 };
 
-/// Renders frames of a node.
+/// Renders frames of a node. Open() is for the thread that edits, all else for one thread at a
+/// time.
 struct INLEFrameExtractor : IUnknown
 {
     static constexpr _GUID Iid = {
@@ -145,7 +148,7 @@ struct INLEFrameScrubber : IUnknown
     virtual HRESULT Interrupt() = 0;
 };
 
-/// Reads small pictures of a media file.
+/// Reads small pictures of a media file. For one thread at a time.
 struct INLEThumbnailExtractor : IUnknown
 {
     static constexpr _GUID Iid = {
@@ -160,7 +163,7 @@ struct INLEThumbnailExtractor : IUnknown
     virtual HRESULT Finish() = 0;
 };
 
-/// Reads the envelope of a sound.
+/// Reads the envelope of a sound. For one thread at a time.
 struct INLEWaveExtractor : IUnknown
 {
     static constexpr _GUID Iid = {
@@ -175,7 +178,8 @@ struct INLEWaveExtractor : IUnknown
     virtual HRESULT Finish() = 0;
 };
 
-/// Finds the scenes of a clip: where a cut or a dissolve leads to another picture.
+/// Finds the scenes of a clip: where a cut or a dissolve leads to another picture. Open() is for
+/// the thread that edits, all else for one thread at a time.
 struct INLESceneSegment : IUnknown
 {
     static constexpr _GUID Iid = {
@@ -225,7 +229,8 @@ struct INLEWaveCache : IUnknown
     virtual HRESULT Compute(NLEProgressCallback callback, void* userData) = 0;
 };
 
-/// Writes a timeline to a media file.
+/// Writes a timeline to a media file. Open() is for the thread that edits, all else for one thread
+/// at a time.
 struct INLEMediaEncoder : IUnknown
 {
     static constexpr _GUID Iid = {

@@ -4,7 +4,8 @@
 #include "Com/ComTypes.h"
 #include "EngineApi/NLETypes.h"
 
-/// Description of a media file, read when the file was opened; it does not change afterwards.
+/// Description of a media file, read when the file was opened; it does not change afterwards. For
+/// any thread.
 struct INLEMediaInfo : IUnknown
 {
     static constexpr _GUID Iid = {
@@ -22,7 +23,7 @@ struct INLEMediaInfo : IUnknown
     virtual HRESULT GetFilePath(wchar_t* buffer, int capacity) = 0;
 };
 
-/// Codecs of a file.
+/// Codecs of a file. For any thread.
 struct INLECodec : IUnknown
 {
     static constexpr _GUID Iid = {
@@ -38,7 +39,7 @@ struct INLECodec : IUnknown
 };
 
 /// A picture in system memory: 32 bits a pixel, blue in the lowest byte, alpha in the highest, not
-/// premultiplied, rows without gaps. The pixels live as long as the picture.
+/// premultiplied, rows without gaps. The pixels live as long as the picture. For any thread.
 struct INLEPicture : IUnknown
 {
     static constexpr _GUID Iid = {

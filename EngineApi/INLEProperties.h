@@ -6,6 +6,7 @@
 
 /// Property bag: values by wide-text key. A getter that fails leaves its out-value untouched; a
 /// value is read back as the type that it was written as, integers and doubles as each other too.
+/// For one thread at a time.
 struct INLEProperties : IUnknown
 {
     static constexpr _GUID Iid = {

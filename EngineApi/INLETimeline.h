@@ -11,6 +11,9 @@ struct INLEProperties;
 /// or a transition. Which of these it is shows only in the further interfaces that it answers.
 ///
 /// Positions are frames of the parent; ranges are frames of the node at its render frame rate.
+///
+/// Nodes that hang together, their facilities and their bags are for one thread, the one that
+/// edits; where a facility lets others in, it says so.
 struct INLETimeline : IUnknown
 {
     static constexpr _GUID Iid = {
