@@ -10,6 +10,8 @@
 #include <QImageReader>
 #include <QThread>
 
+#include <utility>
+
 namespace {
 
 constexpr int kPieceOfObjects = 200;
@@ -40,10 +42,7 @@ ImportWorker::ImportWorker()
     qRegisterMetaType<QVector<ImportDevice>>("QVector<ImportDevice>");
     qRegisterMetaType<QVector<ImportObject>>("QVector<ImportObject>");
     qRegisterMetaType<ImportResult>("ImportResult");
-    Queue([this] {
-        m_components = std::make_unique<ComponentThread>();
-        WpdApiLib::SetCallbackProc(&ImportWorker::Callback, this);
-    });
+    Queue([this] { m_components = std::make_unique<ComponentThread>(); });
 }
 
 ImportWorker::~ImportWorker() = default;
@@ -51,8 +50,7 @@ ImportWorker::~ImportWorker() = default;
 void ImportWorker::Quit()
 {
     Queue([this] {
-        ChooseNow(nullptr);
-        WpdApiLib::SetCallbackProc(nullptr, nullptr);
+        CloseNow();
         m_components.reset();
         thread()->quit();
     });
@@ -123,7 +121,7 @@ void ImportWorker::Delete(const QVector<std::wstring>& objectIds)
 
 void ImportWorker::Close()
 {
-    Queue([this] { ChooseNow(nullptr); });
+    Queue([this] { CloseNow(); });
 }
 
 void ImportWorker::Stop()
@@ -177,10 +175,21 @@ bool ImportWorker::ChooseNow(const wchar_t* deviceId)
     return WhileBusy([&] { return WpdApiLib::ChooseDevice(deviceId, nullptr) != 0; });
 }
 
+// The library has one device and one callback, which may be another worker's.
+void ImportWorker::CloseNow()
+{
+    if (!std::exchange(m_hasChosen, false))
+        return;
+    ChooseNow(nullptr);
+    WpdApiLib::SetCallbackProc(nullptr, nullptr);
+}
+
 void ImportWorker::OpenNow(const std::wstring& deviceId)
 {
     if (IsStopped())
         return;
+    m_hasChosen = true;
+    WpdApiLib::SetCallbackProc(&ImportWorker::Callback, this);
     const bool isOpen = ChooseNow(deviceId.c_str());
     Q_EMIT Opened(isOpen);
     if (!isOpen)

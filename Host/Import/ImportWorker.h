@@ -128,6 +128,7 @@ private:
     // On the session's thread.
     void ListNow();
     bool ChooseNow(const wchar_t* deviceId);
+    void CloseNow();
     void OpenNow(const std::wstring& deviceId);
     void ImportNow(const QVector<ImportFile>& files);
     bool ImportFileNow(const ImportFile& file);
@@ -147,6 +148,7 @@ private:
 
     // Used on the session's thread only.
     std::unique_ptr<ComponentThread> m_components;
+    bool m_hasChosen = false; ///< a device since the last one was closed
     QTemporaryDir m_folder;
     int m_ticket = 0; ///< of the operation under way
     QVector<ImportObject> m_objects;
