@@ -28,8 +28,8 @@ int EndOfSection(QStringView text, int at)
     for (const Section& section : kSections) {
         if (!rest.startsWith(section.begin))
             continue;
-        const int end = text.indexOf(section.end, at + section.begin.size());
-        return end < 0 ? text.size() : end + section.end.size();
+        const auto end = text.indexOf(section.end, at + section.begin.size());
+        return int(end < 0 ? text.size() : end + section.end.size());
     }
     return at + 1;
 }
@@ -64,7 +64,7 @@ void EntityLengths::ForEachName(QStringView text, Visit visit) const
         ++at;
         if (character != '&')
             continue;
-        const int length = text.mid(at, m_longestName + 1).indexOf(';');
+        const auto length = text.mid(at, m_longestName + 1).indexOf(';');
         if (length > 0)
             visit(text.mid(at, length).toString());
     }

@@ -17,10 +17,6 @@ constexpr int kHeadLength = 4096;
 // A box of brands is not longer in what cameras and programs write.
 constexpr int kLongestBrands = 256;
 
-#ifndef NLECORE_WITH_WEBP
-const QLatin1String kWebpAnimation("webp_animation");
-#endif
-
 enum class Kind
 {
     Other,

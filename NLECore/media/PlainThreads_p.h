@@ -15,7 +15,8 @@ public:
     PlainThreads& operator=(const PlainThreads&) = delete;
 
 private:
-    bool m_hasTaken = false; ///< from the thread what makes others real-time; gives it back
+    [[maybe_unused]] bool m_hasTaken =
+        false; ///< from the thread what makes others real-time; gives it back
 };
 
 } // namespace nle
