@@ -87,9 +87,9 @@ use_windows_parts() {
   fi
 }
 
-# Ends Wine's server of WINEPREFIX, if one runs.
+# Ends Wine's server of WINEPREFIX, if one runs, and waits for that.
 stop_wine() {
   local wineserver
   wineserver=$(command -v wineserver || echo /usr/lib/wine/wineserver)
-  "$wineserver" -k 2>/dev/null || true
+  ! "$wineserver" -k 2>/dev/null || "$wineserver" -w
 }

@@ -39,7 +39,6 @@ constexpr int kLongestSide = 16384;
 constexpr int kQueueHeight = 220;
 constexpr int kWidth = 560;
 constexpr int kPathWidth = 260;
-const char* const kUsualPreset = "H.264";
 constexpr NLERational kRates[] = {{24000, 1001}, {24, 1}, {25, 1},       {30000, 1001},
                                   {30, 1},       {50, 1}, {60000, 1001}, {60, 1}};
 constexpr int kSampleRates[] = {44100, 48000, 96000};
