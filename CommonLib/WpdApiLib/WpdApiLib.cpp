@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/WpdApiLib/WpdApiLib.h"
 
+#include "Com/ComGuard.h"
 #include "CommonLib/BaseLog.h"
 #include "CommonLib/WpdApiLib/PortableDeviceService_p.h"
 #include "CommonLib/WpdApiLib/WpdContentWalk_p.h"
@@ -107,8 +108,11 @@ void RegisterForEventNotifications(WpdCallbackProc callback, void* user)
 {
     if (s_cookie)
         return; // registered already
-    auto events = MakeCom<WpdDeviceEvents>(callback, user);
-    const HRESULT result = s_device->Advise(0, events.get(), nullptr, &s_cookie);
+    NLEComPtr<WpdDeviceEvents> events;
+    const HRESULT result = ComGuard([&] {
+        events = MakeCom<WpdDeviceEvents>(callback, user);
+        return s_device->Advise(0, events.get(), nullptr, &s_cookie);
+    });
     if (SUCCEEDED(result)) {
         s_events = events.detach();
         return;

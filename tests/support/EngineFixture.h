@@ -187,7 +187,8 @@ public:
         const auto picture = provider->CreateVideoFrame(size.width(), size.height());
         const auto extractor = provider->CreateFrameExtractor();
         std::uint8_t* pixels = nullptr;
-        if (picture->Prepare() != S_OK || extractor->Open(node.get(), flags) != S_OK ||
+        if (!picture || !extractor || picture->Prepare() != S_OK ||
+            extractor->Open(node.get(), flags) != S_OK ||
             extractor->Extract(frame, picture.get()) != S_OK || picture->GetData(&pixels) != S_OK)
             return {};
         return QImage(pixels, size.width(), size.height(), QImage::Format_ARGB32).copy();
