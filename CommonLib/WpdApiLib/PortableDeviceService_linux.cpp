@@ -2,6 +2,7 @@
 #include "CommonLib/WpdApiLib/PortableDeviceService_p.h"
 
 #include "Com/ClassFactory.h"
+#include "Com/ComGuard.h"
 #include "Com/ComObject.h"
 #include "CommonLib/ModuleErrors_p.h"
 #include "CommonLib/ModuleFolders_p.h"
@@ -145,11 +146,13 @@ HRESULT CreatePortableDeviceComponent(REFCLSID classId, REFIID iid, void** out)
 HRESULT CreateStreamOnFile(const wchar_t* path, IStream& source, IStream** out)
 {
     *out = nullptr;
-    const QString file = FromWide(path);
-    if (ReadsFile(source, file))
-        return STG_E_SHAREVIOLATION; // opening would empty it
-    const auto stream = MakeCom<FileStream>();
-    if (!stream->Open(file))
-        return STG_E_ACCESSDENIED;
-    return NLEComPtr<IStream>(stream).copyTo(out);
+    return ComGuard([&] {
+        const QString file = FromWide(path);
+        if (ReadsFile(source, file))
+            return STG_E_SHAREVIOLATION; // opening would empty it
+        const auto stream = MakeCom<FileStream>();
+        if (!stream->Open(file))
+            return STG_E_ACCESSDENIED;
+        return NLEComPtr<IStream>(stream).copyTo(out);
+    });
 }
