@@ -282,7 +282,8 @@ private:
         const bool isCopied = isFound && WpdApiLib::TransferContentFromDevice(
                                              m_clip.c_str(), copy.toStdWString().c_str(), 0) == 1;
         WpdApiLib::UnregisterForEventNotifications();
-        return isCopied;
+        // Without memory for its buffer the library copies nothing, and calls that a success.
+        return isCopied && QFileInfo(copy).size() > 0;
     }
     static Left LookAtImport(const QString& card, const QString& copy)
     {
