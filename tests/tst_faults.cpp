@@ -7,6 +7,7 @@
 // there.
 #include <QDirIterator>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -212,7 +213,9 @@ private slots:
                 return;
             QVERIFY2(trial.left != "broken", trial.place.constData());
             QCOMPARE(RunScenario({scenario, trial.folder.path(), "act"}).output, QString("done"));
-            QCOMPARE(EntriesIn(trial.folder.path()), m_entriesAfter);
+            // Qt's settings leave a file of six letters by chance, which may be anybody's.
+            const QStringList left = EntriesIn(trial.folder.path());
+            QCOMPARE(left.filter(QRegularExpression("^(?!language\\.ini\\.)")), m_entriesAfter);
         }
     }
 
