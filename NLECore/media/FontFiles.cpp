@@ -64,7 +64,12 @@ QStringList FontFiles::Register(const QString& path)
 {
     m_registered.insert(path);
     const int id = QFontDatabase::addApplicationFont(path);
-    return id < 0 ? QStringList() : QFontDatabase::applicationFontFamilies(id);
+    if (id < 0)
+        return {};
+    // Qt for Windows takes damaged files, too, and tells no name.
+    QStringList families = QFontDatabase::applicationFontFamilies(id);
+    families.removeAll(QString());
+    return families;
 }
 
 FontFiles& Fonts()
