@@ -74,12 +74,15 @@ require_windows_parts() {
   done
 }
 
-# Sets COMMONLIB_WINDOWS_QT to a folder, and COMMONLIB_WINDOWS_MEDIA where there is one. A configured build keeps to its
-# folders, even when they have gone, so that is forgotten when they are others.
+# use_windows_parts [--without-media]: sets COMMONLIB_WINDOWS_QT to a folder, and COMMONLIB_WINDOWS_MEDIA where there
+# is one. A configured build keeps to its folders, even when they have gone, so that is forgotten when they are others.
 use_windows_parts() {
   local cache=$root/build/windows/CMakeCache.txt
   COMMONLIB_WINDOWS_QT=$(unpacked_part qt)
-  COMMONLIB_WINDOWS_MEDIA=$(! find_part media >/dev/null || unpacked_part media)
+  COMMONLIB_WINDOWS_MEDIA=
+  if [[ ${1:-} != --without-media ]] && find_part media >/dev/null; then
+    COMMONLIB_WINDOWS_MEDIA=$(unpacked_part media)
+  fi
   export COMMONLIB_WINDOWS_QT COMMONLIB_WINDOWS_MEDIA
   if ! grep -qxF "COMMONLIB_WINDOWS_QT:PATH=$COMMONLIB_WINDOWS_QT" "$cache" 2>/dev/null ||
     ! grep -qxF "COMMONLIB_WINDOWS_MEDIA:PATH=$COMMONLIB_WINDOWS_MEDIA" "$cache" 2>/dev/null; then
