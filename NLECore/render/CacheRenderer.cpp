@@ -255,15 +255,15 @@ void CacheRenderer::ReportProgress(NLECacheState state)
         state == NLECache_Finished ? int(percent) : int(std::min<std::int64_t>(percent, 99));
     // For lack of memory a report is left out, since a thread has nobody to throw to. The last one,
     // for which hosts wait, is tried for a second.
-    for (int left = state == NLECache_Caching ? 1 : kLastReportTries; left > 0; --left) {
-        const HRESULT result = ComGuard([&] {
+    const auto isTold = [&] {
+        return SUCCEEDED(ComGuard([&] {
             m_report(progress);
             return S_OK;
-        });
-        if (SUCCEEDED(result))
-            return;
+        }));
+    };
+    int tries = state == NLECache_Caching ? 1 : kLastReportTries;
+    while (!isTold() && --tries > 0)
         std::this_thread::sleep_for(kLastReportPause);
-    }
 }
 
 } // namespace nle
