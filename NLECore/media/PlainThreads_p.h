@@ -15,8 +15,8 @@ public:
     PlainThreads& operator=(const PlainThreads&) = delete;
 
 private:
-    [[maybe_unused]] bool m_hasTaken =
-        false; ///< from the thread what makes others real-time; gives it back
+    /// From the thread what makes others real-time; gives it back.
+    [[maybe_unused]] bool m_hasTaken = false;
 };
 
 } // namespace nle
