@@ -9,6 +9,14 @@
 /// "DllCanUnloadNow", which is called before the module is unloaded, once its objects are gone, and
 /// ends what it still does.
 
+/// What the definition of either begins with. Windows declares them itself and takes no attribute
+/// in the source after that: there the module's definition file (.def) names them.
+#ifdef _WIN32
+#define COM_MODULE_ENTRY extern "C"
+#else
+#define COM_MODULE_ENTRY extern "C" __attribute__((visibility("default")))
+#endif
+
 /// Signature of the first.
 using DllGetClassObjectFunction = HRESULT (*)(REFCLSID classId, REFIID iid, void** out);
 /// Signature of the second.

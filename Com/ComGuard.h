@@ -10,8 +10,9 @@
 /// sets both, which it does before its first object is made. Calls within calls come in pairs.
 struct ComCallWatch
 {
+    /// Before each call.
     void (*begins)() noexcept = nullptr;
-    /// \a words are those of an exception that ended the call; null without one.
+    /// After it; \a words are those of an exception that ended the call; null without one.
     void (*ends)(HRESULT result, const char* words) noexcept = nullptr;
 };
 inline ComCallWatch s_comCallWatch;

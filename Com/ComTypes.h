@@ -17,10 +17,10 @@
 /// 128-bit identifier of an interface or a class.
 struct _GUID
 {
-    std::uint32_t Data1;
-    std::uint16_t Data2;
-    std::uint16_t Data3;
-    std::uint8_t Data4[8];
+    std::uint32_t Data1;   ///< the first eight digits
+    std::uint16_t Data2;   ///< the first group of four
+    std::uint16_t Data3;   ///< the second group of four
+    std::uint8_t Data4[8]; ///< the rest, a byte for two digits
 };
 using GUID = _GUID;
 using IID = _GUID;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/CBSUrlReader.h"
 
+#include "Com/WideText.h"
 #include "CommonLib/ModuleErrors_p.h"
 #include "CommonLib/ModuleFolders_p.h"
 #include "CommonLib/PathOperation.h"
-#include "CommonLib/WideText_p.h"
 
 #include <QLibrary>
 

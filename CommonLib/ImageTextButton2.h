@@ -28,6 +28,7 @@ class COMMONLIB_EXPORT ImageTextButton2 : public QWidget
     Q_PROPERTY(BUTTONSTATE state READ GetButtonState WRITE SetButtonState NOTIFY StateChanged)
 
 public:
+    /// Which image and colour are shown.
     enum BUTTONSTATE : int
     {
         Normal = 0,

@@ -2,60 +2,23 @@
 #include "CommonLib/MultiLangMgr.h"
 
 #include "CommonLib/CBSUrlReader.h"
+#include "CommonLib/languages/LanguageConfig_p.h"
 #include "CommonLib/languages/LanguageTable_p.h"
 #include "CommonLib/languages/LanguageTranslators_p.h"
 
 #include <QApplication>
-#include <QFile>
-#include <QFileInfo>
 #include <QFont>
 #include <QFontDatabase>
 #include <QPointer>
-#include <QSaveFile>
-#include <QSettings>
 #include <QTranslator>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace {
 
 MultiLangMgr* s_instance = nullptr;
-
-const char kNameKey[] = "System/DefInstallLang";
-const char kProductKey[] = "System/ProductID";
-
-/// An ini file of ours is far shorter; Qt would read all of a longer one into memory.
-constexpr qint64 kLongestConfig = qint64(1024) * 1024;
-
-/// Creates an empty file; one that exists keeps what it holds.
-void CreateWhenMissing(const QString& path)
-{
-    if (QFileInfo::exists(path))
-        return;
-    QFile file(path);
-    file.open(QIODevice::ReadWrite);
-}
-
-bool IsUsableConfig(const QString& path)
-{
-    const QFileInfo info(path);
-    return info.isFile() && info.size() <= kLongestConfig;
-}
-
-QByteArray ContentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// Puts a short file back as it was.
-void PutBack(const QString& path, const QByteArray& content)
-{
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush())
-        file.commit();
-}
 
 } // namespace
 
@@ -148,19 +111,20 @@ QVector<Language_Locale>& MultiLangMgr::LangCodeIter()
 
 void MultiLangMgr::SetLangLocale()
 {
-    CreateWhenMissing(m_configPath);
-    const QString name = StoredName();
+    const LanguageConfig config(m_configPath);
+    config.CreateWhenMissing();
+    const std::optional<QString> name = config.Name();
     Language_Locale wanted = Language_English;
-    if (!name.isEmpty()) {
+    if (name && !name->isEmpty()) {
         int count = 0;
         const LangConstInfo* rows = GetGlobalLangConstInfos(count);
         const auto* found = std::find_if(rows, rows + count, [&name](const LangConstInfo& row) {
-            return row.simpleName1 == name || row.simpleName2 == name;
+            return row.simpleName1 == *name || row.simpleName2 == *name;
         });
         if (found != rows + count)
             wanted = found->locale;
     }
-    Select(wanted);
+    Select(wanted, name.has_value()); // what could not be read stays
 }
 
 void MultiLangMgr::SetLangLocale(Language_Locale locale)
@@ -179,7 +143,7 @@ void MultiLangMgr::SetLangLocale(QString englishName)
         Select(found->locale);
 }
 
-void MultiLangMgr::Select(Language_Locale locale)
+void MultiLangMgr::Select(Language_Locale locale, bool isStored)
 {
     if (locale == m_curLocale)
         return;
@@ -192,32 +156,15 @@ void MultiLangMgr::Select(Language_Locale locale)
     m_curLocale = locale;
     LanguageChangedEvent(previous);
     if (self && m_curLocale == locale)
-        LoadCurrentLang();
-}
-
-QString MultiLangMgr::StoredName() const
-{
-    if (!IsUsableConfig(m_configPath))
-        return QString();
-    return QSettings(m_configPath, QSettings::IniFormat).value(kNameKey).toString();
+        isStored ? LoadCurrentLang() : InstallCurrentLang();
 }
 
 void MultiLangMgr::StoreCurrentLang()
 {
-    CreateWhenMissing(m_configPath);
-    const QString product = m_urlReader->ReadCustomerUrl(GetSimpleName1(), QStringLiteral("PID"));
-    if (!IsUsableConfig(m_configPath))
-        return;
-    const QByteArray before = ContentOf(m_configPath);
-    {
-        // Both values go out in one step when the settings are destroyed.
-        QSettings settings(m_configPath, QSettings::IniFormat);
-        settings.setValue(kNameKey, GetSimpleName1());
-        settings.setValue(kProductKey, product);
-    }
-    // On a full disk Qt puts in place what it could write, if only nothing.
-    if (!ContentOf(m_configPath).contains(GetSimpleName1().toLatin1()))
-        PutBack(m_configPath, before);
+    const LanguageConfig config(m_configPath);
+    config.CreateWhenMissing();
+    config.Store(GetSimpleName1(),
+                 m_urlReader->ReadCustomerUrl(GetSimpleName1(), QStringLiteral("PID")));
 }
 
 QList<QPointer<QTranslator>> MultiLangMgr::TranslatorsOfCurrent() const
@@ -235,6 +182,11 @@ QList<QPointer<QTranslator>> MultiLangMgr::TranslatorsOfCurrent() const
 void MultiLangMgr::LoadCurrentLang()
 {
     StoreCurrentLang();
+    InstallCurrentLang();
+}
+
+void MultiLangMgr::InstallCurrentLang()
+{
     const Language_Locale locale = m_curLocale;
     const QPointer<MultiLangMgr> self(this);
     for (const QPointer<QTranslator>& translator : TranslatorsOfCurrent()) {

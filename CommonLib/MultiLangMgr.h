@@ -65,7 +65,7 @@ public:
     QVector<Language_Locale>& LangCodeIter();
 
     /// Selects the language that the ini file names, English when it names none. A missing file is
-    /// created.
+    /// created; one that cannot be read stays as it is.
     void SetLangLocale();
     /// Selects a language; nothing happens when it is current. A value without a row in the table
     /// becomes current as well: it has no translators, and an empty name is stored.
@@ -83,11 +83,11 @@ private:
     ~MultiLangMgr() override;
 
     void Init();
-    void Select(Language_Locale locale);
+    void Select(Language_Locale locale, bool isStored = true);
     void LoadCurrentLang();
+    void InstallCurrentLang();
     void RemoveCurrentLang();
     void StoreCurrentLang();
-    QString StoredName() const;
     /// Those of the current language; none when the table has no row for it.
     QList<QPointer<QTranslator>> TranslatorsOfCurrent() const;
 

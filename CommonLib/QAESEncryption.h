@@ -20,6 +20,7 @@ class COMMONLIB_EXPORT QAESEncryption : public QObject
     Q_OBJECT
 
 public:
+    /// Lengths of a key in bits (FIPS 197).
     enum Aes
     {
         AES_128,

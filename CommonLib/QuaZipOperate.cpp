@@ -3,6 +3,7 @@
 
 #include "CommonLib/FileOperation.h"
 #include "CommonLib/system/FolderEntries_p.h"
+#include "CommonLib/system/MoveOver_p.h"
 
 #include <JlCompress.h>
 #include <QDir>
@@ -21,6 +22,8 @@ namespace {
 
 constexpr quint64 kLargestSmallSize = quint64(1) << 30;
 constexpr quint64 kLongestLinkTarget = 4096;
+// A file is unpacked under this name and then moved to its own.
+const QLatin1String kHalf(".unpacking.half");
 // From here on sizes and offsets need the format's 64-bit fields. Left room for headers.
 constexpr qint64 kLargestPlainSize = qint64(0xF0000000);
 
@@ -97,8 +100,8 @@ public:
     {
     }
 
-    // False for a broken archive, too.
-    bool HasRoom() const
+    // False for a broken archive, and for one that finds no room.
+    bool LookThrough()
     {
         quint64 total = 0;
         for (bool more = m_zip.goToFirstFile(); more; more = m_zip.goToNextFile()) {
@@ -108,6 +111,7 @@ public:
                 info.uncompressedSize > std::numeric_limits<quint64>::max() - total)
                 return false;
             total += info.uncompressedSize;
+            LeaveName(info.name);
         }
         return m_zip.getZipError() == UNZ_OK && Fits(total);
     }
@@ -134,6 +138,16 @@ private:
         return !volume.isValid() || static_cast<quint64>(volume.bytesAvailable()) >= size;
     }
 
+    void LeaveName(const QString& name)
+    {
+        if (!name.contains(kHalf, Qt::CaseInsensitive))
+            return;
+        for (const QString& part : Parts(name)) {
+            if (part.size() >= m_half.size())
+                m_half = '.' + part;
+        }
+    }
+
     // False when the entry cannot be unpacked; true, too, when it is left out.
     bool ExtractCurrent()
     {
@@ -148,14 +162,31 @@ private:
             return true;
         const bool isFolder = info.name.endsWith('/');
         const QString path = m_target + '/' + relative + (isFolder ? "/" : "");
-        // Names no entry: the library then takes the current one.
-        if (!JlCompress::extractFile(&m_zip, QString(), path))
+        if (isFolder || info.isSymbolicLink() ? !Unpack(path) : !UnpackFile(path, info))
             return false;
         m_extracted += path;
-        if (!isFolder && !info.isSymbolicLink() && !IsWhole(path, info))
-            return false;
         m_clearFolders += relative.left(qMax(0, relative.lastIndexOf('/')));
         return true;
+    }
+
+    bool Unpack(const QString& path)
+    {
+        // Names no entry: the library then takes the current one.
+        return JlCompress::extractFile(&m_zip, QString(), path);
+    }
+
+    // In one step over what is there, so that none is ever cut short.
+    bool UnpackFile(const QString& path, const QuaZipFileInfo64& info)
+    {
+        const QFileInfo there(path);
+        if (there.exists() && !there.isWritable())
+            return false;
+        const QString half = there.path() + '/' + m_half;
+        QFile::remove(half); // of a process that was killed
+        if (Unpack(half) && IsWhole(half, info) && MoveOver(half, path))
+            return true;
+        QFile::remove(half);
+        return false;
     }
 
     // The library does not hear that the last that was gathered for the file cannot be written.
@@ -205,6 +236,7 @@ private:
     const QString m_target;
     QSet<QString> m_clearFolders;
     QStringList m_extracted;
+    QString m_half = kHalf; // no entry's name
 };
 
 // What there is to pack.
@@ -304,5 +336,5 @@ QStringList QuaZipOperate::ExtractDir(const QString& archivePath, const QString&
     if (!zip.open(QuaZip::mdUnzip))
         return QStringList();
     Extractor extractor(zip, targetFolder);
-    return extractor.HasRoom() ? extractor.Extract() : QStringList();
+    return extractor.LookThrough() ? extractor.Extract() : QStringList();
 }

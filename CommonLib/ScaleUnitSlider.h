@@ -59,7 +59,7 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    void valueChanged(float value);
+    void valueChanged(float value); ///< by the user; a setValue() is silent
     /// Around all changes of the value by one press, drag or key.
     void startValueChanged();
     void endValueChanged();

@@ -94,7 +94,7 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    void valueChanged(double value);
+    void valueChanged(double value); ///< by the user; a setValue() is silent
     /// Around all changes of the value by one press, drag or key.
     void startValueChanged();
     void endValueChanged();

@@ -65,6 +65,7 @@ struct INLEBackgroundCacheAsyncUpdate : IUnknown
     virtual HRESULT SetUpdateCallback(NLEUpdateCallback callback, void* userData) = 0;
 };
 
+/// How faithful the cached pictures are.
 struct INLEBackgroundCacheQualitySet : IUnknown
 {
     static constexpr _GUID Iid = {

@@ -124,6 +124,7 @@ struct INLESystemConfig : IUnknown
     static constexpr _GUID Iid = {
         0x37BE6BDC, 0x4362, 0x4748, {0xA6, 0xC2, 0xAC, 0x42, 0x0D, 0xF3, 0x6B, 0x30}};
 
+    /// A bag on the settings, the same as in all such bags; what is put into it holds at once.
     virtual HRESULT GetProperties(INLEProperties** properties) = 0;
 };
 
@@ -146,6 +147,7 @@ struct INLEOpenCLGpuFactory : IUnknown
     static constexpr _GUID Iid = {
         0x57040CFD, 0x9FEA, 0x4D1B, {0xA9, 0x77, 0xDB, 0x3D, 0x19, 0x47, 0xA3, 0xE7}};
 
+    /// Opens the graphics device anew, as after its driver was reset.
     virtual HRESULT ReInit() = 0;
 };
 

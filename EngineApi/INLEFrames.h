@@ -154,6 +154,8 @@ struct INLEThumbnailExtractor : IUnknown
     static constexpr _GUID Iid = {
         0xB1963BD2, 0x8D78, 0x4A4E, {0xAE, 0x0D, 0x6E, 0x1D, 0x52, 0x4F, 0xF4, 0x4C}};
 
+    /// Chooses the file of \a info, and of all of its streams the one of the index \a videoStream.
+    /// E_INVALIDARG without a file, and when that is no picture.
     virtual HRESULT SetSource(INLEMediaInfo* info, std::uint32_t videoStream) = 0;
     /// The picture of frame \a frame, counted from the file's first frame. The size is what the
     /// caller will show; the picture may have another one. E_FAIL without a source, past the
@@ -169,6 +171,8 @@ struct INLEWaveExtractor : IUnknown
     static constexpr _GUID Iid = {
         0x9427F03A, 0xB673, 0x43A5, {0x93, 0xD8, 0x1B, 0x5F, 0xE7, 0x97, 0x08, 0x43}};
 
+    /// Opens the file of \a info, and of all of its streams the one of the index \a audioStream.
+    /// E_INVALIDARG without a file, E_FAIL when that is no sound, or cannot be decoded.
     virtual HRESULT SetSource(INLEMediaInfo* info, std::uint32_t audioStream) = 0;
     /// Lowest and highest sample (-1 to 1, of all channels mixed down to one) of \a count equal
     /// steps of the span from \a start, \a length seconds long. Both arrays hold \a count values.

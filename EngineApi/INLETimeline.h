@@ -162,6 +162,7 @@ struct INLETimelineEffect : IUnknown
     static constexpr _GUID Iid = {
         0x44792FF4, 0x8EC8, 0x4AA7, {0x95, 0x34, 0xF3, 0x41, 0xFA, 0x9A, 0x08, 0xE7}};
 
+    /// Writes the name it is declared by, cut to \a capacity characters with the terminating zero.
     virtual HRESULT GetEffectName(wchar_t* buffer, int capacity) = 0;
 };
 
@@ -171,6 +172,7 @@ struct INLETimelineTransition : IUnknown
     static constexpr _GUID Iid = {
         0x3CD18B0D, 0x1212, 0x46BD, {0x8A, 0x2C, 0xEA, 0x2C, 0x5F, 0x22, 0xBD, 0x25}};
 
+    /// Writes the name it is declared by, cut to \a capacity characters with the terminating zero.
     virtual HRESULT GetTransitionName(wchar_t* buffer, int capacity) = 0;
 };
 
@@ -180,6 +182,7 @@ struct INLEAnimation : IUnknown
     static constexpr _GUID Iid = {
         0x13D0DDFC, 0xD365, 0x4B59, {0xB6, 0xEF, 0x74, 0xC8, 0xD9, 0x52, 0x01, 0x3B}};
 
+    /// Writes the name it is declared by, cut to \a capacity characters with the terminating zero.
     virtual HRESULT GetAnimationName(wchar_t* buffer, int capacity) = 0;
 };
 

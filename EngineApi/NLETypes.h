@@ -26,6 +26,7 @@ struct NLERational
     std::int64_t den; ///< denominator
 };
 
+/// A rectangle, in pixels or in parts of a picture, as its user says.
 struct NLERectF
 {
     double x;      ///< from the left
@@ -50,12 +51,14 @@ struct NLESize
     std::int32_t height; ///< in pixels
 };
 
+/// A point, in pixels or in parts of a picture, as its user says.
 struct NLEPointF
 {
     double x; ///< from the left
     double y; ///< from the top
 };
 
+/// A size, in pixels or in parts of a picture, as its user says.
 struct NLESizeF
 {
     double width;  ///< horizontal

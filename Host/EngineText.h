@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Com/ComTypes.h"
+#include "Com/WideText.h"
 
 #include <QString>
 
@@ -16,6 +17,5 @@ template <int Capacity = 256, typename Call>
 QString EngineText(Call call)
 {
     std::array<wchar_t, Capacity> buffer = {};
-    return SUCCEEDED(call(buffer.data(), Capacity)) ? QString::fromWCharArray(buffer.data())
-                                                    : QString();
+    return SUCCEEDED(call(buffer.data(), Capacity)) ? FromWide(buffer) : QString();
 }

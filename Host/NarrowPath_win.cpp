@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Com/SystemPath.h"
+#include "Com/WideText.h"
 #include "Host/NarrowPath.h"
 
 #include <QDir>
@@ -19,8 +20,7 @@ QString ShortPath(const QString& folder)
     const std::wstring path = QDir::toNativeSeparators(folder).toStdWString();
     std::wstring name(MAX_PATH, L'\0');
     const DWORD length = GetShortPathNameW(path.c_str(), name.data(), MAX_PATH);
-    return length > 0 && length < MAX_PATH ? QString::fromWCharArray(name.data(), int(length))
-                                           : folder;
+    return length > 0 && length < MAX_PATH ? FromWide(name.substr(0, length)) : folder;
 }
 
 } // namespace

@@ -4,10 +4,8 @@
 #include "NLECore/media/Reasons.h"
 #include "NLECore/objects/RootFactory.h"
 
-#include <QtGlobal>
-
 /// Entry of the module: gives the class factory of the engine's root factory.
-extern "C" Q_DECL_EXPORT HRESULT DllGetClassObject(REFCLSID classId, REFIID iid, void** out)
+COM_MODULE_ENTRY HRESULT DllGetClassObject(REFCLSID classId, REFIID iid, void** out)
 {
     nle::WatchCalls();
     if (!out)
@@ -20,7 +18,7 @@ extern "C" Q_DECL_EXPORT HRESULT DllGetClassObject(REFCLSID classId, REFIID iid,
 
 /// Closes what is kept open, and lets its threads end: while Windows unloads a module no thread
 /// can, and who waits for one waits for ever.
-extern "C" Q_DECL_EXPORT HRESULT DllCanUnloadNow()
+COM_MODULE_ENTRY HRESULT DllCanUnloadNow()
 {
     return ComGuard([] { return MakeCom<nle::RootFactory>()->Shutdown(0); });
 }

@@ -47,7 +47,7 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/CommonLibConfigVersion.cm
   COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/CommonLibConfig.cmake ${PROJECT_BINARY_DIR}/CommonLibConfigVersion.cmake
   DESTINATION ${package_folder} COMPONENT development)
-foreach(part IN ITEMS Translations Deploy)
+foreach(part IN ITEMS Translations Deploy CopyLibraries)
   install(FILES ${PROJECT_SOURCE_DIR}/cmake/${part}.cmake RENAME CommonLib${part}.cmake
     DESTINATION ${package_folder} COMPONENT development)
 endforeach()

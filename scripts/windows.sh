@@ -1,13 +1,14 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
 # shellcheck shell=bash
 #
-# Sourced by scripts that build for Windows, after common.sh: finds Qt and the media libraries built for
-# it.
+# Sourced by scripts that build for Windows, after common.sh: finds Qt, the media libraries and those for pictures
+# built for it.
 #
 # Each is what its variable names (COMMONLIB_WINDOWS_QT, COMMONLIB_WINDOWS_MEDIA), else what lies in a
 # folder windows-qt beside the repository, in a folder windows of one beside it, or so beside a folder
 # above it: a folder with the part's own file in it or in its only sub-folder, or an archive (qt*.tar.xz,
-# media*.tar.xz) of such a folder, unpacked once into build/.
+# media*.tar.xz) of such a folder, unpacked once into build/. The libraries for pictures are those that
+# COMMONLIB_WINDOWS_LIBRARIES names, else those that scripts/windows-libraries has built.
 
 # A file that tells the folder of a part.
 declare -A part_files=([qt]=lib/cmake/Qt5/Qt5Config.cmake [media]=lib/pkgconfig/libavformat.pc)
@@ -74,20 +75,24 @@ require_windows_parts() {
   done
 }
 
-# use_windows_parts [--without-media]: sets COMMONLIB_WINDOWS_QT to a folder, and COMMONLIB_WINDOWS_MEDIA where there
-# is one. A configured build keeps to its folders, even when they have gone, so that is forgotten when they are others.
+# use_windows_parts [--without-media]: sets COMMONLIB_WINDOWS_QT to a folder, and where they are wanted
+# COMMONLIB_WINDOWS_MEDIA and COMMONLIB_WINDOWS_LIBRARIES, which is built when it is not there. A configured build keeps
+# to its folders, even when they have gone, so that is forgotten when they are others, with the modules made of them.
 use_windows_parts() {
-  local cache=$root/build/windows/CMakeCache.txt
+  local cache=$root/build/windows/CMakeCache.txt part
   COMMONLIB_WINDOWS_QT=$(unpacked_part qt)
-  COMMONLIB_WINDOWS_MEDIA=
-  if [[ ${1:-} != --without-media ]] && find_part media >/dev/null; then
+  if [[ ${1:-} == --without-media ]] || ! find_part media >/dev/null; then
+    COMMONLIB_WINDOWS_MEDIA=
+    COMMONLIB_WINDOWS_LIBRARIES=
+  else
     COMMONLIB_WINDOWS_MEDIA=$(unpacked_part media)
+    "$root/scripts/windows-libraries"
+    COMMONLIB_WINDOWS_LIBRARIES=${COMMONLIB_WINDOWS_LIBRARIES:-$root/build/windows-libraries}
   fi
-  export COMMONLIB_WINDOWS_QT COMMONLIB_WINDOWS_MEDIA
-  if ! grep -qxF "COMMONLIB_WINDOWS_QT:PATH=$COMMONLIB_WINDOWS_QT" "$cache" 2>/dev/null ||
-    ! grep -qxF "COMMONLIB_WINDOWS_MEDIA:PATH=$COMMONLIB_WINDOWS_MEDIA" "$cache" 2>/dev/null; then
-    rm -f "$cache"
-  fi
+  export COMMONLIB_WINDOWS_QT COMMONLIB_WINDOWS_MEDIA COMMONLIB_WINDOWS_LIBRARIES
+  for part in COMMONLIB_WINDOWS_{QT,MEDIA,LIBRARIES}; do
+    grep -qxF "$part:PATH=${!part}" "$cache" 2>/dev/null || rm -rf "$cache" "$root/build/windows/bin"
+  done
 }
 
 # Ends Wine's server of WINEPREFIX, if one runs, and waits for that.

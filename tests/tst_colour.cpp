@@ -299,8 +299,9 @@ private Q_SLOTS:
     {
         QFETCH(const QString, suffix);
         QFETCH(const QByteArray, tags);
-        if (MissesEncoder(*provider, suffix))
-            QSKIP("this build of the media libraries has no encoder for it");
+        const QString missing = MissingEncoder(*provider, suffix);
+        if (!missing.isEmpty())
+            QSKIP(qPrintable(NoEncoderOf(missing)));
         const QString path = folder.filePath("told." + suffix);
         QCOMPARE(Encode(Trimmed(Colour(Qt::red), 0, 9), path), QString());
         QCOMPARE(TagsOf(StreamOf(EngineFixture::Media(path))), tags);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Com/ClassFactory.h"
+#include "Com/WideText.h"
 
 #include <QtTest>
 
@@ -68,6 +69,7 @@ HRESULT RefuseAndLeave(REFCLSID /*classId*/, REFIID /*iid*/, void** out)
 
 Q_DECLARE_METATYPE(std::function<void(Counted&)>)
 Q_DECLARE_METATYPE(DllGetClassObjectFunction)
+Q_DECLARE_METATYPE(std::wstring)
 
 class TestCom : public QObject
 {
@@ -173,6 +175,27 @@ private slots:
         QCOMPARE(CreateThrough(&GiveMade, IDerived::Iid, &outer, IDerived::Iid, &out),
                  HRESULT(CLASS_E_NOAGGREGATION));
         QVERIFY(!out);
+    }
+
+    void wideText_data()
+    {
+        using Units = QVector<ushort>;
+        QTest::addColumn<std::wstring>("wide");
+        QTest::addColumn<Units>("units");
+        QTest::newRow("a byte order mark") << std::wstring(L"\xFEFF-") << Units{0xFEFF, '-'};
+        QTest::newRow("one of the other order") << std::wstring(L"\xFFFE-") << Units{0xFFFE, '-'};
+        QTest::newRow("halves of characters")
+            << std::wstring(L"\xDC00-\xD83D") << Units{0xDC00, '-', 0xD83D};
+        QTest::newRow("beyond the basic plane")
+            << std::wstring(L"-\U0010FFFF") << Units{'-', 0xDBFF, 0xDFFF};
+    }
+    void wideText()
+    {
+        QFETCH(std::wstring, wide);
+        QFETCH(QVector<ushort>, units);
+        const QString text = FromWide(wide);
+        QCOMPARE(QVector<ushort>(text.utf16(), text.utf16() + text.size()), units);
+        QVERIFY(ToWide(text) == wide);
     }
 };
 

@@ -3,29 +3,16 @@
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/INLETransform.h"
 #include "EngineApi/NLEKey.h"
-#include "tests/support/EngineFixture.h"
+#include "tests/support/DocumentFixture.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-class tst_DocumentExchange : public QObject, private EngineFixture
+class tst_DocumentExchange : public QObject, private DocumentFixture
 {
     Q_OBJECT
 
-    NLEComPtr<INLEDocumentSerialize> m_document = provider->CreateDocumentSerialize();
-
-    /// What the engine reads from a document of this text.
-    Node Parse(const QByteArray& text, const char* name = "parsed.mlt") const
-    {
-        QFile file(Path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-            return {};
-        file.close();
-        Node node;
-        m_document->Load(file.fileName().toStdWString().c_str(), node.put());
-        return node;
-    }
     /// A document of another editor, at 25 frames a second in 320 x 180.
     static QByteArray Mlt(const QByteArray& services)
     {
@@ -42,23 +29,6 @@ class tst_DocumentExchange : public QObject, private EngineFixture
                    inProducer +
                    "</producer><playlist id='t'><entry producer='p' in='10' out='59'>" + inEntry +
                    "</entry></playlist>");
-    }
-
-    /// Codes of what was left out of the last document, in their order.
-    QList<int> Remarks() const
-    {
-        const auto report = m_document.query<INLEDocumentReport>();
-        int count = -1;
-        report->GetRemarkCount(&count);
-        QList<int> codes;
-        for (int i = 0; i < count; ++i) {
-            int code = 0;
-            wchar_t text[200] = L"";
-            if (report->GetRemark(i, &code, text, 200) != S_OK || !*text)
-                return {-1};
-            codes << code;
-        }
-        return codes;
     }
 
     /// Every clip: its level, position, in and out point, "-" behind a disabled one.
@@ -83,6 +53,9 @@ class tst_DocumentExchange : public QObject, private EngineFixture
         }
         return result;
     }
+
+public:
+    tst_DocumentExchange() : DocumentFixture("parsed.mlt") {}
 
 private slots:
     void initTestCase()

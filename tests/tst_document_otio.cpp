@@ -4,29 +4,17 @@
 #include "EngineApi/INLEMarkers.h"
 #include "EngineApi/INLEStreamProcess.h"
 #include "EngineApi/NLEKey.h"
-#include "tests/support/EngineFixture.h"
+#include "tests/support/DocumentFixture.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QUrl>
 
-class tst_DocumentOtio : public QObject, private EngineFixture
+class tst_DocumentOtio : public QObject, private DocumentFixture
 {
     Q_OBJECT
 
-    NLEComPtr<INLEDocumentSerialize> m_document = provider->CreateDocumentSerialize();
-
-    Node Parse(const QByteArray& text) const
-    {
-        QFile file(Path("parsed.OTIO"));
-        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-            return {};
-        file.close();
-        Node node;
-        m_document->Load(file.fileName().toStdWString().c_str(), node.put());
-        return node;
-    }
     QJsonObject Saved(const Node& node) const
     {
         return Save(node, Path("saved.otio"))
@@ -68,20 +56,6 @@ class tst_DocumentOtio : public QObject, private EngineFixture
                     tracks + "]}}");
     }
 
-    QList<int> Remarks() const
-    {
-        const auto report = m_document.query<INLEDocumentReport>();
-        int count = -1;
-        report->GetRemarkCount(&count);
-        QList<int> codes;
-        for (int i = 0; i < count; ++i) {
-            wchar_t text[200] = L"";
-            codes << 0;
-            report->GetRemark(i, &codes.last(), text, 200);
-        }
-        return codes;
-    }
-
     /// Every clip, also those of clips: position, in and out point, "-" behind a disabled one.
     static QStringList Clips(const Node& composite)
     {
@@ -104,6 +78,9 @@ class tst_DocumentOtio : public QObject, private EngineFixture
         }
         return result;
     }
+
+public:
+    tst_DocumentOtio() : DocumentFixture("parsed.OTIO") {}
 
 private slots:
     void initTestCase()

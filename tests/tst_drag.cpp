@@ -325,7 +325,7 @@ private Q_SLOTS:
             {"helper deleted", [this] { delete m_helper; }},
             {"helper deleted later", [this] { m_helper->deleteLater(); }},
             {"dialog",
-             [this] {
+             [] {
                  QMessageBox dialog;
                  QTimer::singleShot(0, &dialog, &QDialog::accept);
                  dialog.exec();

@@ -25,9 +25,11 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QToolButton>
 #include <QUndoStack>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -543,6 +545,22 @@ private Q_SLOTS:
             return m_editor->project.Levels()->SetName(2, L"Voices");
         }));
         QTRY_VERIFY(m_editor->Find<QPushButton>("Mixer, level Voices"));
+    }
+
+    /// What is being built, and what was given up for something else, does not show.
+    void whatIsNotWholeDoesNotShow()
+    {
+        m_editor->Show();
+        const Node clip = m_editor->Place(Colour(), 0);
+        for (const bool isClip : {true, false, true}) {
+            isClip ? void(m_editor->Select(clip)) : m_editor->selection.Clear();
+            QCoreApplication::processEvents();
+        }
+        const auto* page = m_editor->panel.findChild<QScrollArea*>()->widget();
+        const auto contents = page->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        QCOMPARE(std::count_if(contents.begin(), contents.end(),
+                               [](const QWidget* content) { return content->isVisible(); }),
+                 1);
     }
 
     void handlesOnThePicture_data()

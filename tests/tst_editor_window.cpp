@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/MultiLangMgr.h"
+#include "CommonLib/NLEWraper/FPreViewRenderHelper.h"
 #include "CommonLib/NLEWraper/NLETimeline.h"
 #include "Host/Editor/Export/ExportDialog.h"
 #include "Host/Editor/Window/EditorWindow.h"
@@ -140,6 +141,21 @@ private Q_SLOTS:
         QCOMPARE(m_window->close(), closes);
         QVERIFY(!asked.isEmpty());
         QCOMPARE(EngineFixture::ClipCount(m_engine->Load(Path("film.mlt"))), saved);
+    }
+
+    void isWholeWhileItsPreviewStops()
+    {
+        QVERIFY(Place(*m_window, 0));
+        FPreViewRenderHelper* preview = m_window->Shown().Timeline()->GetPreViewRenderHelper();
+        QVERIFY(preview->SetCacheDirectory(Path("preview")));
+        preview->StartRender();
+        QVERIFY(preview->IsCaching());
+        bool isWhole = false;
+        EditorWindow* const window = m_window.get();
+        const auto look = [&] { isWhole = window->Shown().Steps().canUndo(); };
+        QMetaObject::invokeMethod(window, look, Qt::QueuedConnection);
+        m_window.reset();
+        QVERIFY(isWhole);
     }
 
     /// Qt's own texts too, and to the other direction and back.

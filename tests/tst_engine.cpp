@@ -537,7 +537,7 @@ private slots:
         QFETCH(const QString, name);
         QFETCH(const NLEEncodeSettings, settings);
         QFETCH(HRESULT, opened);
-        if (MissesEncoder(*provider, QFileInfo(name).suffix()))
+        if (!MissingEncoder(*provider, QFileInfo(name).suffix()).isEmpty())
             opened = name.endsWith("swf") ? E_INVALIDARG : E_NOTIMPL;
         QTemporaryDir place;
         const QDir target(place.path());
@@ -585,8 +585,9 @@ private slots:
     {
         QFETCH(const QString, suffix);
         QFETCH(const QSize, size);
-        if (MissesEncoder(*provider, suffix))
-            QSKIP("this build of the media libraries has no encoder for it");
+        const QString missing = MissingEncoder(*provider, suffix);
+        if (!missing.isEmpty())
+            QSKIP(qPrintable(NoEncoderOf(missing)));
         const QColor colour(200, 40, 60);
         const QString path = Path(qPrintable("colours." + suffix));
         const NLEEncodeSettings settings = {

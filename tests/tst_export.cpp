@@ -7,6 +7,7 @@
 #include "EngineApi/NLEKey.h"
 #include "tests/support/EngineFixture.h"
 #include "tests/support/FileSizeLimit.h"
+#include "tests/support/MissingEncoder.h"
 
 #include <thread>
 
@@ -21,7 +22,6 @@ namespace {
 constexpr int kFrames = 12;
 constexpr double kToneStart = 0.2; // seconds
 constexpr NLEEncodeSettings kSmallFilm = {{320, 180}, {25, 1}, {}, 0, 48000, 2, 0};
-constexpr const char* kNoEncoder = "this build of the media libraries has no encoder for it";
 
 QStringList Names(const char* list)
 {
@@ -331,8 +331,10 @@ private slots:
         QFETCH(const QString, video);
         QFETCH(const QString, audio);
         const QString suffix = QTest::currentDataTag();
-        if (!HasCodec(suffix, NLEStream_Video, video) || !HasCodec(suffix, NLEStream_Audio, audio))
-            QSKIP(kNoEncoder);
+        if (!HasCodec(suffix, NLEStream_Video, video))
+            QSKIP(qPrintable(NoEncoderOf(video)));
+        if (!HasCodec(suffix, NLEStream_Audio, audio))
+            QSKIP(qPrintable(NoEncoderOf(audio)));
         const QString path = Path("suffix.") + suffix;
         const Encoder encoder = provider->CreateMediaEncoder();
         const auto options = encoder.query<INLEEncodeOptions>();
@@ -356,7 +358,7 @@ private slots:
     {
         QFETCH(const QString, preset);
         if (!Preset(preset))
-            QSKIP(kNoEncoder);
+            QSKIP(qPrintable(NoEncoderOf(preset)));
         const bool isSequence = preset.endsWith("sequence");
         const QString path = Path(isSequence ? "alpha_%04d.png" : "alpha.film");
         const Node clip = Colour(QColor(200, 100, 0), QSize(160, 90));
@@ -388,7 +390,7 @@ private slots:
         QFETCH(const QString, container);
         QFETCH(const QString, codec);
         if (!HasCodec(container, NLEStream_Video, codec))
-            QSKIP(kNoEncoder);
+            QSKIP(qPrintable(NoEncoderOf(codec)));
         const Bag options =
             Options({"Container=" + container, "VideoCodec=" + codec, "RateControl=4"});
         if (container == "mkv")
@@ -517,7 +519,7 @@ private slots:
     void threadsStayPlain()
     {
 #ifdef Q_OS_WIN
-        QSKIP("no such encoder");
+        QSKIP("no encoder makes its threads real-time ones there");
 #else
         const Encoder encoder = provider->CreateMediaEncoder();
         const auto options = encoder.query<INLEEncodeOptions>();

@@ -7,7 +7,6 @@
 // there.
 #include <QDirIterator>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -188,6 +187,10 @@ private slots:
     {
         QFETCH(QString, scenario);
         QFETCH(QString, call);
+        if (QT_VERSION >= QT_VERSION_CHECK(6, 0, 0) && scenario == "preview-cache" &&
+            call == "thread")
+            QSKIP("Qt 6 paints large pictures on threads of its own, and waits for one that did "
+                  "not start");
         Prepare(scenario);
         for (int at = 1;; at = Next(at)) {
             const Trial trial(scenario, m_before->path(), {call, QString::number(at), "fail"});
@@ -213,9 +216,7 @@ private slots:
                 return;
             QVERIFY2(trial.left != "broken", trial.place.constData());
             QCOMPARE(RunScenario({scenario, trial.folder.path(), "act"}).output, QString("done"));
-            // Qt's settings leave a file of six letters by chance, which may be anybody's.
-            const QStringList left = EntriesIn(trial.folder.path());
-            QCOMPARE(left.filter(QRegularExpression("^(?!language\\.ini\\.)")), m_entriesAfter);
+            QCOMPARE(EntriesIn(trial.folder.path()), m_entriesAfter);
         }
     }
 

@@ -22,6 +22,11 @@ namespace {
 
 const QColor kBackground(10, 20, 200);
 constexpr double kSilence = -std::numeric_limits<double>::infinity();
+#ifdef QT_NO_OPENGL
+constexpr auto kNoOpenGL = "this Qt is built without OpenGL";
+#else
+constexpr auto kNoOpenGL = "no OpenGL here";
+#endif
 
 QImage Filled(const QSize& size, const QColor& color)
 {
@@ -211,7 +216,7 @@ private Q_SLOTS:
         QFETCH(Drawing, drawing);
         QFETCH(QRect, valid);
         if (drawing == Drawing::OpenGL && FindGraphicsCard() == GraphicsCard::None)
-            QSKIP("no OpenGL here");
+            QSKIP(kNoOpenGL);
         const QImage pattern = Pattern({90, 70});
         View view({60, 50}, drawing);
         QCOMPARE(view.UsesOpenGL(), drawing == Drawing::OpenGL);
@@ -251,7 +256,7 @@ private Q_SLOTS:
         QFETCH(Scale, scale);
         QFETCH(QSize, picture);
         if (drawing == Drawing::OpenGL && FindGraphicsCard() == GraphicsCard::None)
-            QSKIP("no OpenGL here");
+            QSKIP(kNoOpenGL);
         const QColor colors[] = {Qt::red, Qt::green, Qt::yellow, Qt::white};
         QImage image = Filled(picture, Qt::black);
         QVector<QPointF> centers;
@@ -284,7 +289,7 @@ private Q_SLOTS:
     {
         QFETCH(Drawing, drawing);
         if (drawing == Drawing::OpenGL && FindGraphicsCard() == GraphicsCard::None)
-            QSKIP("no OpenGL here");
+            QSKIP(kNoOpenGL);
         View view({64, 76}, drawing); // bars: the squares count from the picture's corner
         const QColor red(255, 0, 0);
         QColor veil(red);
@@ -308,7 +313,7 @@ private Q_SLOTS:
     {
         QFETCH(Drawing, drawing);
         if (drawing == Drawing::OpenGL && FindGraphicsCard() == GraphicsCard::None)
-            QSKIP("no OpenGL here");
+            QSKIP(kNoOpenGL);
         View view({64, 64}, drawing);
         view.SetCheckerboard(false);
         view.SetBackgroundColor(Qt::white);
@@ -329,7 +334,7 @@ private Q_SLOTS:
     {
         QFETCH(Drawing, drawing);
         if (drawing == Drawing::OpenGL && FindGraphicsCard() == GraphicsCard::None)
-            QSKIP("no OpenGL here");
+            QSKIP(kNoOpenGL);
         QImage stripes = Filled({512, 512}, Qt::black);
         for (int x = 0; x < stripes.width(); x += 4) { // a quarter of them is white
             for (int y = 0; y < stripes.height(); ++y)
@@ -349,7 +354,7 @@ private Q_SLOTS:
     {
         QFETCH(Drawing, drawing);
         if (drawing == Drawing::OpenGL && FindGraphicsCard() == GraphicsCard::None)
-            QSKIP("no OpenGL here");
+            QSKIP(kNoOpenGL);
         View view({400, 200}, drawing);
         view.ShowPicture(Filled({40, 20}, Qt::black));
         const auto columns = [&view] {

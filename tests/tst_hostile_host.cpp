@@ -36,7 +36,10 @@
 #include "EngineApi/INLETransform.h"
 #include "tests/support/EngineFixture.h"
 
+#include <atomic>
+#include <functional>
 #include <thread>
+#include <tuple>
 
 namespace {
 
@@ -155,6 +158,54 @@ struct NullCall<Method>
         return result;
     }
 };
+
+/// What a host does at the first call of its own; on another thread after what began it returned.
+class FirstCall
+{
+public:
+    explicit FirstCall(std::function<void()> action) : m_action(std::move(action)) {}
+
+    /// For callbacks of any kind, which are given this object.
+    template <typename Result, typename... Arguments>
+    static Result Hear(Arguments... arguments)
+    {
+        const auto all = std::make_tuple(arguments...);
+        static_cast<FirstCall*>(std::get<sizeof...(arguments) - 1>(all))->Happen();
+        return Result();
+    }
+    HRESULT Await()
+    {
+        m_hasBegun = true;
+        return QTest::qWaitFor([this] { return m_isOver.load(); }, kPatience) ? S_OK : E_FAIL;
+    }
+
+private:
+    static constexpr int kPatience = 20000; // milliseconds
+
+    void Happen()
+    {
+        while (!m_hasBegun && std::this_thread::get_id() != m_thread)
+            std::this_thread::yield();
+        if (m_action)
+            std::exchange(m_action, nullptr)();
+        m_isOver = true;
+    }
+
+    std::function<void()> m_action;
+    const std::thread::id m_thread = std::this_thread::get_id();
+    std::atomic<bool> m_hasBegun{false};
+    std::atomic<bool> m_isOver{false};
+};
+
+/// The sound of a film, ready to be kept.
+NLEComPtr<INLEWaveCache> WavesOf(const EngineFixture& engine, const QString& film)
+{
+    NLEComPtr<INLEMediaInfo> info;
+    engine.provider->CreateCodecFromFile(film)->GetMediaInfo(info.put());
+    const auto waves = engine.provider->CreateWaveExtractor();
+    waves->SetSource(info.get(), 1);
+    return waves.query<INLEWaveCache>();
+}
 
 } // namespace
 
@@ -604,6 +655,107 @@ private Q_SLOTS:
     }
 
     void wrongOrder()
+    {
+        QFETCH(Call, call);
+        QTEST(call(*m_engine, m_film), "result");
+    }
+
+    void objectsGoInTheirCallbacks_data()
+    {
+        QTest::addColumn<Call>("call");
+        QTest::addColumn<HRESULT>("result");
+        const auto row = [](const char* name, HRESULT result, Call call) {
+            QTest::newRow(name) << call << result;
+        };
+#ifdef Q_OS_WIN
+        const HRESULT withoutFolder = S_OK; // which stays there, with an open file in it
+#else
+        const HRESULT withoutFolder = E_FAIL;
+#endif
+        row("a film, with its folder", withoutFolder,
+            [](const EngineFixture& engine, const QString& film) {
+                QTemporaryDir folder;
+                auto encoder = engine.provider->CreateMediaEncoder();
+                encoder->Open(engine.Media(film).get(),
+                              folder.filePath("film.mp4").toStdWString().c_str(), nullptr);
+                FirstCall first([&] {
+                    encoder.reset();
+                    folder.remove();
+                });
+                return encoder->Encode(FirstCall::Hear, &first);
+            });
+        row("an envelope", S_OK, [](const EngineFixture& engine, const QString& film) {
+            engine.SetWaveFolder(engine.Path("waves of one"), 100);
+            auto waves = WavesOf(engine, film);
+            FirstCall first([&] { waves.reset(); });
+            return waves->Compute(FirstCall::Hear, &first);
+        });
+        row("the source of an envelope", S_OK,
+            [](const EngineFixture& engine, const QString& film) {
+                engine.SetWaveFolder(engine.Path("waves of two"), 100);
+                const auto waves = WavesOf(engine, film);
+                FirstCall first([&] { waves.query<INLEWaveExtractor>()->Finish(); });
+                return waves->Compute(FirstCall::Hear, &first);
+            });
+        row("a search for scenes", S_OK, [](const EngineFixture& engine, const QString& film) {
+            NLEComPtr<INLESceneSegment> scenes;
+            engine.Factory()->CreateSceneSegment(scenes.put());
+            scenes->Open(engine.Media(film).get());
+            FirstCall first([&] { scenes.reset(); });
+            scenes.query<INLESceneProgress>()->SetProgress(FirstCall::Hear, &first);
+            int frame = 0;
+            return scenes->Next(&frame);
+        });
+        row("a maker of proxies", S_OK, [](const EngineFixture& engine, const QString& film) {
+            NLEComPtr<INLEProxyMaker> maker;
+            engine.Factory()->CreateProxyMaker(maker.put());
+            maker->SetHeight(64);
+            FirstCall first([&] { maker.reset(); });
+            maker->Make(film.toStdWString().c_str(), FirstCall::Hear, &first);
+            return first.Await();
+        });
+        row("a preview cache, with its clips", S_OK,
+            [](const EngineFixture& engine, const QString&) {
+                Node project = engine.ProjectWith(engine.Colour(Qt::red));
+                auto cache = EngineFixture::Facet<INLEBackgroundCache>(project);
+                cache->SetCacheFolder(engine.Path("cache").toStdWString().c_str(), 100, 0);
+                FirstCall first([&] {
+                    cache.reset();
+                    project.reset();
+                });
+                const NLESize size = {32, 18};
+                cache->Start(&size, FirstCall::Hear, &first);
+                return first.Await();
+            });
+        row("an analysed cache, with its clips", S_OK,
+            [](const EngineFixture& engine, const QString&) {
+                Node project = engine.ProjectWith(engine.Colour(Qt::red));
+                auto cache = EngineFixture::Facet<INLEBackgroundCache>(project)
+                                 .query<INLEBackgroundCacheAsyncUpdate>();
+                FirstCall first([&] {
+                    cache.reset();
+                    project.reset();
+                });
+                cache->SetUpdateCallback(FirstCall::Hear, &first);
+                return first.Await();
+            });
+        row("a measured clip", S_OK, [](const EngineFixture& engine, const QString& film) {
+            Node clip = engine.Media(film);
+            Node effect;
+            engine.Nodes()->CreateAudioFilter(L"loudness", effect.put());
+            EngineFixture::Facet<INLEEffects>(clip)->AddEffect(effect.get(), -1);
+            auto loudness = EngineFixture::Facet<INLELoudness>(effect);
+            FirstCall first([&] {
+                loudness.reset();
+                effect.reset();
+                clip.reset();
+            });
+            loudness->Measure(FirstCall::Hear, &first);
+            return first.Await();
+        });
+    }
+
+    void objectsGoInTheirCallbacks()
     {
         QFETCH(Call, call);
         QTEST(call(*m_engine, m_film), "result");

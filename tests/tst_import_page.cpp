@@ -5,8 +5,10 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QTreeWidget>
 #include <QtTest>
 
@@ -97,6 +99,23 @@ private Q_SLOTS:
         s_hasNoBuffers = false;
         QCOMPARE(QFile::exists(Path("card/clip.mov")), hasNoBuffers);
         QCOMPARE(QFile::exists(Path("target/clip.mov")), !hasNoBuffers);
+    }
+
+    void oneHasTheDevice()
+    {
+        auto first = std::make_unique<ImportPage>();
+        first->show();
+        QTRY_VERIFY(Item(*first, "clip.mov"));
+        ImportPage second;
+        second.show();
+        const auto* notice = second.findChild<QStackedWidget*>()->findChild<QLabel*>();
+        QTRY_VERIFY(notice->text().contains("Another window"));
+        MarkAll(*first);
+        ImportButton(*first)->click();
+        QTRY_VERIFY(QFileInfo(Path("target/clip.mov")).size() == 64 << 20);
+        first.reset();
+        Q_EMIT second.findChild<QComboBox*>()->activated(0);
+        QTRY_VERIFY(Item(second, "clip.mov"));
     }
 
     void closesWhileADeviceHangs_data()

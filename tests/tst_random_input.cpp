@@ -156,14 +156,16 @@ private:
         }
         return false;
     }
-    /// What a host sets, in the middle of what a user does.
+    /// What a host sets, in the middle of what a user does: one thing, since a slot may delete it.
     static void Set(QWidget& widget, RandomInput& somebody)
     {
         const int value = somebody.Any(-50, 150);
         const int other = somebody.Any(-50, 150);
         if (auto* slider = qobject_cast<ToolBarSlider*>(&widget)) {
-            slider->setRange(float(value), float(other) + 300); // an empty one ends in silence
-            slider->setValue(float(other), false);
+            if (somebody.Chance(50))
+                slider->setRange(float(value), float(other) + 300); // an empty one ends in silence
+            else
+                slider->setValue(float(other), false);
         } else if (auto* zoom = qobject_cast<ScaleUnitSlider*>(&widget)) {
             zoom->setRange(float(value), float(other) + 300);
         } else if (auto* filled = qobject_cast<PureSlider*>(&widget)) {
@@ -171,13 +173,25 @@ private:
         } else if (auto* states = qobject_cast<BaseStateButton*>(&widget)) {
             states->SetCurrentButtonId(somebody.Any(0, 4));
         } else if (auto* ruler = qobject_cast<TimelineRuler*>(&widget)) {
-            ruler->SetTotalFrames(value);
-            ruler->SetZoom(float(other));
-            ruler->SetFPS(float(somebody.Any(0, 60)));
-            ruler->SetDragable(somebody.Chance(80));
+            SetOne(*ruler, value, somebody);
         } else if (auto* drag = widget.findChild<IDragValueChangedHelper*>()) {
-            drag->SetRange(value, other);
-            drag->SetDragEnabled(somebody.Chance(80));
+            if (somebody.Chance(50))
+                drag->SetRange(value, other);
+            else
+                drag->SetDragEnabled(somebody.Chance(80));
+        }
+    }
+    static void SetOne(TimelineRuler& ruler, int value, RandomInput& somebody)
+    {
+        switch (somebody.Any(0, 3)) {
+        case 0:
+            return ruler.SetTotalFrames(value);
+        case 1:
+            return ruler.SetZoom(float(value));
+        case 2:
+            return ruler.SetFPS(float(somebody.Any(0, 60)));
+        default:
+            return ruler.SetDragable(somebody.Chance(80));
         }
     }
 
@@ -213,6 +227,8 @@ public:
     Editor() { Start(); }
     void Act(RandomInput& somebody) override
     {
+        if (!m_window)
+            return; // one that goes handles events while its preview cache stops
         if (!somebody.IsNested() && somebody.Chance(2))
             Start();
         m_window->show();

@@ -968,6 +968,22 @@ private slots:
         QCOMPARE(ruler.OffsetFrames(), still);
     }
 
+    void zoomingEndsWithTheDrag_data()
+    {
+        QTest::addColumn<Setter>("end");
+        QTest::newRow("a dialog opens") << Setter([](Ruler&) { LostRelease::BehindDialog(); });
+        QTest::newRow("released on a menu") << Setter([](Ruler&) { LostRelease::ToMenu(); });
+    }
+    void zoomingEndsWithTheDrag()
+    {
+        QFETCH(Setter, end);
+        SixPixelRuler ruler(100000);
+        ruler.Mouse(QEvent::MouseButtonPress, 60, 5, Qt::MiddleButton);
+        end(ruler);
+        QCoreApplication::processEvents();
+        QVERIFY2(ruler.TakeLog().endsWith("endZoom"), qPrintable(ruler.log.join(' ')));
+    }
+
     void whatShowsAsAWholeDoesNotScroll()
     {
         SixPixelRuler ruler(30);

@@ -7,9 +7,11 @@
 #include "CommonLib/XmlOperation.h"
 #include "EngineApi/INLEEncode.h"
 #include "EngineApi/INLEReasons.h"
+#include "EngineApi/INLESystemFile.h"
 #include "tests/support/FileSizeLimit.h"
 #include "tests/support/PreviewCacheFixture.h"
 
+#include <QDirIterator>
 #include <QDomDocument>
 #include <QGuiApplication>
 
@@ -19,6 +21,8 @@
 namespace {
 
 const QByteArray kOld = "what was there before";
+/// Names the folder of a disk with room for little, where one is mounted.
+const char* const kSmallDisk = "COMMONLIB_SMALL_DISK";
 
 bool WriteBytes(const QString& path, const QByteArray& bytes)
 {
@@ -36,6 +40,11 @@ class tst_SystemPaths : public QObject, private EngineFixture
     {
         return provider->CreateDocumentSerialize()->Save(Project().get(),
                                                          path.toStdWString().c_str());
+    }
+    HRESULT SaveSettings(const QString& path) const
+    {
+        const auto file = provider->GetSystemConfig().query<INLESystemFile>();
+        return file->Save(path.toStdWString().c_str());
     }
     HRESULT Export(const QString& path) const
     {
@@ -132,6 +141,8 @@ private slots:
         QTest::newRow("a folder") << Path("folder.mkv");
 #ifdef Q_OS_WIN
         QTest::newRow("a reserved name") << Path("nul.mkv");
+        QTest::newRow("a reserved name, of a document") << Path("NUL.mlt");
+        QTest::newRow("a reserved name alone") << Path("CON");
         QTest::newRow("characters that names cannot have") << Path("a?b<c>.mkv");
         QTest::newRow("a drive that is not there") << "Q:/film.mkv";
 #endif
@@ -155,31 +166,43 @@ private slots:
     void whatWasThereStays_data()
     {
         QTest::addColumn<QString>("trouble");
-        QTest::newRow("the disk is full") << "full";
+        QTest::newRow("the disk takes no more") << "full";
+        QTest::newRow("a small disk has no room left") << "small";
 #ifdef Q_OS_WIN
         QTest::newRow("the file cannot be written") << "read-only";
-        QTest::newRow("another program reads the file") << "locked";
+        QTest::newRow("another program reads the file") << "shared";
+        QTest::newRow("another program has the file alone") << "alone";
 #endif
     }
     void whatWasThereStays()
     {
         QFETCH(QString, trouble);
-        const QString path = Path("precious.mkv");
-        const QString document = Path("precious.mlt");
-        const QStringList names = {path, document};
+        const QString place = trouble == "small" ? qEnvironmentVariable(kSmallDisk) : folder.path();
+        if (place.isEmpty())
+            QSKIP("no small disk is mounted");
+        const QString path = place + "/precious.mkv";
+        const QString document = place + "/precious.mlt";
+        const QString settings = place + "/precious.json";
+        const QStringList names = {path, document, settings};
         for (const QString& name : names) {
             QFile::setPermissions(name, QFile::ReadOwner | QFile::WriteOwner);
             QVERIFY(WriteBytes(name, kOld));
             if (trouble == "read-only")
                 QVERIFY(QFile::setPermissions(name, QFile::ReadOwner));
         }
-        const QStringList before = QDir(folder.path()).entryList();
+        QFile filling(place + "/filling");
+        if (trouble == "small" && filling.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+            for (const int bytes : {4096, 1})
+                while (filling.write(QByteArray(bytes, ' ')) == bytes) {
+                }
+        const QStringList before = QDir(place + '/').entryList();
 #ifdef Q_OS_WIN
-        std::vector<HANDLE> readers;
+        const DWORD share = trouble == "shared" ? FILE_SHARE_READ : 0;
+        std::vector<HANDLE> holders;
         for (const QString& name : names)
-            if (trouble == "locked")
-                readers.push_back(CreateFileW(name.toStdWString().c_str(), GENERIC_READ,
-                                              FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+            if (trouble == "shared" || trouble == "alone")
+                holders.push_back(CreateFileW(name.toStdWString().c_str(), GENERIC_READ, share,
+                                              nullptr, OPEN_EXISTING, 0, nullptr));
 #endif
         std::optional<FileSizeLimit> full;
         if (trouble == "full")
@@ -188,24 +211,56 @@ private slots:
         const QString saving = Reason();
         QVERIFY(FAILED(Export(path)));
         const QString exporting = Reason();
+        QVERIFY(FAILED(SaveSettings(settings)));
+        const QString setting = Reason();
+        if (trouble == "alone") {
+            Node node;
+            const auto serialize = provider->CreateDocumentSerialize();
+            QVERIFY(FAILED(serialize->Load(document.toStdWString().c_str(), node.put())));
+            QVERIFY2(Reason().contains(document), qPrintable(Reason()));
+        }
         // A user that may write every file may write these as well.
-        if (trouble != "full" && !WriteBytes(document, kOld)) {
+        if (place == folder.path() && trouble != "full" && !WriteBytes(document, kOld)) {
             FileOperation::WriteFile(document, "text", true);
             QVERIFY(!FileOperation::CopyOneFile(m_media, document));
             QVERIFY(!QuaZipOperate::CompressDir(document, Path("deep")));
+            XmlOperation::CreateXmlFile(document, "root");
             QVERIFY(!FileOperation::DeleteFileW(document));
         }
         full.reset();
 #ifdef Q_OS_WIN
-        for (const HANDLE reader : readers)
-            CloseHandle(reader);
+        for (const HANDLE holder : holders)
+            CloseHandle(holder);
 #endif
         QVERIFY2(saving.contains(document), qPrintable(saving));
         QVERIFY2(exporting.contains(path), qPrintable(exporting));
+        QVERIFY2(setting.contains(settings), qPrintable(setting));
         for (const QString& name : names)
             QCOMPARE(Contents(name), kOld);
-        QCOMPARE(QDir(folder.path()).entryList(), before);
+        QCOMPARE(QDir(place + '/').entryList(), before);
+        filling.remove();
     }
+
+#ifdef Q_OS_WIN
+    void aCacheShowsWhatAnotherProgramHas()
+    {
+        const Node project = ProjectWith(Media(m_media));
+        const QString place = Path("held");
+        QCOMPARE(Cache(project, place).Render(), long(NLECache_Finished));
+        QDirIterator files(place, {"*.nlechunk"}, QDir::Files, QDirIterator::Subdirectories);
+        const QString chunk = files.next();
+        const QByteArray rendered = Contents(chunk);
+        const HANDLE holder = CreateFileW(chunk.toStdWString().c_str(), GENERIC_READ, 0, nullptr,
+                                          OPEN_EXISTING, 0, nullptr);
+        QVERIFY(holder != INVALID_HANDLE_VALUE);
+        const Cache cache(project, place);
+        const int shown = ReadFrameNumber(Frame(project, 7, NLEOpen_Cached));
+        CloseHandle(holder);
+        QCOMPARE(shown, 7);
+        QCOMPARE(Contents(chunk), rendered);
+        QCOMPARE(ReadFrameNumber(Frame(project, 7, NLEOpen_Cached)), 7);
+    }
+#endif
 };
 
 QTEST_MAIN(tst_SystemPaths)

@@ -268,7 +268,7 @@ private slots:
                 Trimmed(p.to, 0, 39);
             });
         row("of two at a time the one that began first", 30, Mixed(kFrom, kTo, 0.5),
-            [this](const Pair& p) { Add(p.project, Trimmed(Transition("wipe"), 0, 9), 21); });
+            [](const Pair& p) { Add(p.project, Trimmed(Transition("wipe"), 0, 9), 21); });
         row("in a composite of its own", 30, Mixed(kFrom, kTo, 0.5), [this](const Pair& p) {
             const Node nested = provider->CreateVirtualTimeline(0);
             for (const Node& node : {p.from, p.to, p.transition}) {
@@ -576,7 +576,7 @@ private slots:
             p.transition.query<INLEParameters>()->PutKeyFrame(L"softness", &key, nullptr);
         });
         row("one more that nothing takes part in", {},
-            [this](const Pair& p) { Add(p.project, Transition("dissolve"), 30, 5); });
+            [](const Pair& p) { Add(p.project, Transition("dissolve"), 30, 5); });
         row("all moved on", {{0, 7}}, [this](const Pair& p) {
             for (const Node& node : {p.from, p.to, p.transition}) {
                 int position = 0;

@@ -198,6 +198,8 @@ private slots:
         row("climbs out", {"../evil", "a/../../evil", "../out/evil"});
         row("stays in", {"a/../b", "./c"}, {"b", "c"});
         row("absolute", {"/tmp/evil-entry", "//evil"});
+        row("names of what is half unpacked", {".unpacking.half/e", "h/..unpacking.half", "h/e"},
+            {".unpacking.half/", ".unpacking.half/e", "h/", "h/..unpacking.half", "h/e"});
         row("the target itself", {".", "a/.."});
 #ifdef Q_OS_LINUX
         row("drive and backslash are plain", {"C:\\e", "..\\e"}, {"..\\e", "C:\\e"});

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/GlobalResources/CaptionEnvironment_p.h"
 
+#include "Com/WideText.h"
 #include "CommonLib/BaseLog.h"
 #include "CommonLib/ModuleFolders_p.h"
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/EngineCall_p.h"
-#include "CommonLib/WideText_p.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Com/NLEComPtr.h"
-#include "CommonLib/WideText_p.h"
+#include "Com/WideText.h"
 #include "EngineApi/INLETimeline.h"
 #include "EngineApi/NLECommon.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/NLEWraper/FAudioStreamProcessHelper.h"
 
+#include "Com/WideText.h"
 #include "CommonLib/NLEWraper/EngineCall_p.h"
 
 FAudioStreamProcessHelper::FAudioStreamProcessHelper(NLEComPtr<INLETimeline> timeline,

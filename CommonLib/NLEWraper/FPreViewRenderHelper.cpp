@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/NLEWraper/FPreViewRenderHelper.h"
 
+#include "Com/WideText.h"
 #include "CommonLib/BaseLog.h"
 #include "CommonLib/GlobalUtils.h"
 #include "CommonLib/NLEWraper/EngineCall_p.h"

@@ -135,6 +135,7 @@ protected:
     bool event(QEvent* event) override;
 
 private Q_SLOTS:
+    /// Emits the progress, and begins the countdown of auto-render anew where it is enabled.
     void TrigerAutoRender();
 
 private:

@@ -21,13 +21,13 @@ public:
     /// Alpha-channel parameters; what they mean is the engine's.
     struct AlphaChannelParm
     {
-        std::int32_t nParam1 = 0;
-        std::int32_t nParam2 = 1;
-        std::int32_t nParam3 = 0;
-        double dParam4 = 0.0;
-        std::int32_t nParam5 = 0;
-        std::int32_t nParam6 = 0;
-        std::int32_t nParam7 = 0;
+        std::int32_t nParam1 = 0; ///< the first of the engine's record
+        std::int32_t nParam2 = 1; ///< the second of the engine's record
+        std::int32_t nParam3 = 0; ///< the third of the engine's record
+        double dParam4 = 0.0;     ///< the fourth of the engine's record
+        std::int32_t nParam5 = 0; ///< the fifth of the engine's record
+        std::int32_t nParam6 = 0; ///< the sixth of the engine's record
+        std::int32_t nParam7 = 0; ///< the seventh of the engine's record
     };
 
     /// Holds a reference to \a timeline, which should not be null, and reads the

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/NLEWraper/NLETimeline.h"
 
+#include "Com/WideText.h"
 #include "CommonLib/BaseLog.h"
 #include "CommonLib/NLEWraper/EngineCall_p.h"
 #include "CommonLib/NLEWraper/NLEWraper.h"
 #include "CommonLib/NLEWraper/PlayerMaterProvider.h"
-#include "CommonLib/WideText_p.h"
 
 namespace {
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Com/WideText.h"
 #include "CommonLib/NLEWraper/EngineCall_p.h"
 #include "CommonLib/NLEWraper/NLETimeline.h"
 #include "CommonLib/NLEWraper/NLEWraper.h"

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/NLEWraper/PlayerMaterProvider_p.h"
 
+#include "Com/WideText.h"
 #include "CommonLib/BaseLog.h"
 #include "CommonLib/FileOperation.h"
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "CommonLib/NLEWraper/EngineCall_p.h"
 #include "CommonLib/PathOperation.h"
-#include "CommonLib/WideText_p.h"
 #include "EngineApi/NLEKey.h"
 
 #include <QDir>

@@ -4,9 +4,9 @@
 #include "Com/ClassFactory.h"
 #include "Com/ComGuard.h"
 #include "Com/ComObject.h"
+#include "Com/WideText.h"
 #include "CommonLib/ModuleErrors_p.h"
 #include "CommonLib/ModuleFolders_p.h"
-#include "CommonLib/WideText_p.h"
 #include "CommonLib/WpdApiLib/WpdReport_p.h"
 
 #include <QFile>

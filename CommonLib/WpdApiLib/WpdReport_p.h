@@ -3,7 +3,7 @@
 
 #include "Com/ComMemory.h"
 #include "Com/ComTypes.h"
-#include "CommonLib/WideText_p.h"
+#include "Com/WideText.h"
 
 #include <QByteArray>
 

@@ -18,6 +18,7 @@ public:
     /// against these numbers.
     using RangeType = int;
 
+    /// One monitor, as the system describes it.
     struct ScreenInfo
     {
         HMONITOR handle = nullptr; ///< the system's monitor; on Linux Qt's QScreen

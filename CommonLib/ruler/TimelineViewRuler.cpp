@@ -333,15 +333,14 @@ void TimelineViewRuler::mousePressEvent(QMouseEvent* event)
         return;
     const bool zooms = event->button() == Qt::MiddleButton ||
                        (event->button() == Qt::LeftButton && event->modifiers() & Qt::AltModifier);
-    if (event->button() != Qt::RightButton)
-        HoldWatch::Begin(*this, [this] { QueueEndDrag(); });
     if (event->button() == Qt::RightButton) {
         TellRightClick(event->globalPos());
     } else if (zooms) {
-        if (StartZoomAndScroll() && m_drag.NeedsGrab())
+        if (StartZoomAndScroll(true) && m_drag.NeedsGrab())
             m_drag.Grab(m_mouse, Segment().PositionToFrames(m_mouse.x()));
     } else if (event->button() == Qt::LeftButton) {
         m_sincePress.start();
+        WatchHold();
         PressPlayHead(m_mouse);
     }
 }
@@ -445,13 +444,15 @@ void TimelineViewRuler::timerEvent(QTimerEvent* event)
         m_scrollTimer.stop();
 }
 
-bool TimelineViewRuler::StartZoomAndScroll()
+bool TimelineViewRuler::StartZoomAndScroll(bool isPressed)
 {
     if (!EndDrag())
         return false;
     if (!behaviour.dragable)
         return true;
     m_drag.BeginZoomAndScroll(m_convertor.BoundedZoom(m_convertor.Zoom()));
+    if (isPressed)
+        WatchHold();
     // Without a button down the mouse is followed all the same.
     setMouseTracking(true);
     return Tell(&TimelineViewRuler::StartZoomChanged);
@@ -485,6 +486,11 @@ bool TimelineViewRuler::EndDrag()
         !Tell(&TimelineViewRuler::FramesChanged, Segment().currentFrame))
         return false;
     return Tell(&TimelineViewRuler::EndFramesChanged) && EndSingleClick();
+}
+
+void TimelineViewRuler::WatchHold()
+{
+    HoldWatch::Begin(*this, [this] { QueueEndDrag(); });
 }
 
 // The release of the mouse would never come. Told later: a handler may delete the ruler, which the

@@ -73,7 +73,8 @@ public:
     void SetOffsetFrames(int frames);
     void SetOffsetPosition(int pixels);
 
-    bool StartZoomAndScroll();
+    /// By a press of the mouse, or by a host that has none.
+    bool StartZoomAndScroll(bool isPressed = false);
     bool EndDrag();
 
 Q_SIGNALS:
@@ -128,6 +129,7 @@ private:
     void DragZoomAndScroll(const QPoint& at);
     bool EndSingleClick();
     void QueueEndDrag();
+    void WatchHold();
     /// Whether a colour is another then.
     bool FollowPalette();
     bool HasFixed(QColor RulerSegment::*role) const;

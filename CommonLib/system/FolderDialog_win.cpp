@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/system/FolderDialog_p.h"
 
-#include "CommonLib/WideText_p.h"
+#include "Com/WideText.h"
 
 #include <windows.h>
 

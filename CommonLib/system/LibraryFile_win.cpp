@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/system/LibraryFile_p.h"
 
+#include "Com/WideText.h"
+
 #include <QDir>
 
 #include <string>
@@ -16,6 +18,5 @@ QString LibraryFile()
     constexpr DWORD longest = 32768; // wide characters of any path
     std::wstring path(longest, L'\0');
     const DWORD length = ::GetModuleFileNameW(library, path.data(), longest);
-    return QDir::fromNativeSeparators(
-        QString::fromWCharArray(path.data(), static_cast<int>(length)));
+    return QDir::fromNativeSeparators(FromWide(path.substr(0, length)));
 }

@@ -138,6 +138,7 @@ void ImportPage::Connect()
     connect(&m_session, &ImportSession::DevicesListed, this, &ImportPage::TakeDevices);
     connect(&m_session, &ImportSession::Opened, this,
             [this](bool isOpen) { SetState(isOpen ? State::Reading : State::Refused); });
+    connect(&m_session, &ImportSession::InUse, this, [this] { SetState(State::InUse); });
     connect(&m_session, &ImportSession::ObjectsRead, m_tree, &ImportTree::AddObjects);
     connect(&m_session, &ImportSession::ContentRead, this, &ImportPage::TakeContentEnd);
     connect(&m_session, &ImportSession::ThumbnailRead, m_tree, &ImportTree::SetThumbnail);
@@ -163,7 +164,7 @@ void ImportPage::SetState(State state)
 {
     m_state = state;
     const bool isWaiting = state == State::NoDevice || state == State::Removed;
-    const bool hasNotice = isWaiting || state == State::Opening || state == State::Refused;
+    const bool hasNotice = isWaiting || state == State::Opening || IsRefused();
     ShowNotice();
     m_stack->setCurrentWidget(hasNotice ? static_cast<QWidget*>(m_notice) : m_tree);
     // A device may come at any time.
@@ -191,6 +192,11 @@ void ImportPage::ShowNotice()
     case State::Refused:
         title = tr("%1 cannot be opened").arg(name);
         text = tr("Unlock the device and allow access to its files, then choose it again.");
+        break;
+    case State::InUse:
+        title = tr("%1 cannot be opened").arg(name);
+        text = tr("Another window has a device open. Close that window, then choose this device "
+                  "again.");
         break;
     case State::Removed:
         title = tr("%1 was removed").arg(name);
@@ -265,7 +271,7 @@ void ImportPage::TakeDevices(const QVector<ImportDevice>& devices)
     m_deviceBox->setCurrentIndex(chosen);
     const bool isShown = m_state != State::NoDevice && m_state != State::Removed;
     if (isShown && chosen < 0)
-        m_state == State::Refused ? SetState(State::NoDevice) : TakeRemoval();
+        IsRefused() ? SetState(State::NoDevice) : TakeRemoval();
     else if (!isShown && chosen >= 0)
         Choose(chosen); // it is back
     else if (m_state == State::NoDevice && !devices.isEmpty())

@@ -43,6 +43,7 @@ private:
         Ready,
         Importing,
         Refused, ///< a device that could not be opened
+        InUse,   ///< another page has a device open
         Removed
     };
 
@@ -51,6 +52,8 @@ private:
     void BuildLayout();
     void Connect();
     void SetState(State state);
+    /// Whether the chosen device is there and not open.
+    bool IsRefused() const { return m_state == State::Refused || m_state == State::InUse; }
     void SetTexts();
     static QString ShownName(const QString& deviceName);
     void ShowNotice();

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Import/ImportSession.h"
 
-#include "CommonLib/WpdApiLib/WpdApiLib.h"
-
 #include <QDeadlineTimer>
 
 namespace {
@@ -18,6 +16,7 @@ ImportSession::ImportSession(QObject* parent)
     const ImportWorker* worker = m_worker.get();
     connect(worker, &ImportWorker::DevicesListed, this, &ImportSession::DevicesListed);
     connect(worker, &ImportWorker::Opened, this, &ImportSession::Opened);
+    connect(worker, &ImportWorker::InUse, this, &ImportSession::InUse);
     connect(worker, &ImportWorker::ObjectsRead, this, &ImportSession::ObjectsRead);
     connect(worker, &ImportWorker::ContentRead, this, &ImportSession::ContentRead);
     connect(worker, &ImportWorker::ThumbnailRead, this, &ImportSession::ThumbnailRead);
@@ -35,10 +34,11 @@ ImportSession::~ImportSession()
     // More than once: one may come between two operations.
     const QDeadlineTimer end(kPatience);
     while (!m_thread->wait(kCancelEvery) && !end.hasExpired())
-        WpdApiLib::Cancel();
+        m_worker->Stop();
     if (m_thread->isFinished())
         return;
     // Left behind with the device that hangs.
+    m_worker->GiveUp();
     Q_UNUSED(m_worker.release())
     Q_UNUSED(m_thread.release())
 }

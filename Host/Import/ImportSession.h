@@ -6,8 +6,8 @@
 #include <QThread>
 
 /// Uses the library's device import on a thread of its own, so that a slow device never holds up
-/// the window. There may be one at a time. The operations return at once and are carried out in
-/// order; signals tell what came of them.
+/// the window. One at a time has a device open. The operations return at once and are carried out
+/// in order; signals tell what came of them.
 class ImportSession : public QObject
 {
     Q_OBJECT
@@ -31,6 +31,7 @@ Q_SIGNALS:
     /// As the signals of the same names of ImportWorker.
     void DevicesListed(const QVector<ImportDevice>& devices);
     void Opened(bool isOpen);
+    void InUse();
     void ObjectsRead(const QVector<ImportObject>& objects);
     void ContentRead(bool isWhole);
     void ThumbnailRead(const std::wstring& objectId, const QImage& image);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Import/ImportTree.h"
 
+#include "Com/WideText.h"
 #include "Host/Widgets/KeepTranslated.h"
 
 #include <QFileInfo>
@@ -137,8 +138,7 @@ QTreeWidgetItem* ImportTree::MakeItem(const ImportObject& object) const
     auto* item = new QTreeWidgetItem;
     item->setFlags(item->flags() | Qt::ItemIsUserCheckable | Qt::ItemIsAutoTristate);
     item->setCheckState(NameColumn, Qt::Unchecked);
-    item->setText(NameColumn,
-                  object.name.isEmpty() ? QString::fromStdWString(object.id) : object.name);
+    item->setText(NameColumn, object.name.isEmpty() ? FromWide(object.id) : object.name);
     item->setIcon(NameColumn, object.isFolder ? m_folderIcon : m_fileIcon);
     item->setData(NameColumn, IdRole, QVariant::fromValue(object.id));
     item->setData(NameColumn, SizeRole, object.size);

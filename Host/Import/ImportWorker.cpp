@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Import/ImportWorker.h"
 
+#include "Com/WideText.h"
 #include "CommonLib/WpdApiLib/WpdApiLib.h"
 #include "Host/Import/ComponentThread_p.h"
 
@@ -10,13 +11,14 @@
 #include <QImageReader>
 #include <QThread>
 
-#include <utility>
-
 namespace {
 
 constexpr int kPieceOfObjects = 200;
 constexpr int kSendEvery = 60; // ms
 constexpr QSize kThumbnail(96, 64);
+
+/// Has the library's one device, or is about to; null for none.
+std::atomic<const ImportWorker*> s_holder{nullptr};
 
 std::wstring NativePath(const QString& path)
 {
@@ -47,6 +49,23 @@ ImportWorker::ImportWorker()
 
 ImportWorker::~ImportWorker() = default;
 
+bool ImportWorker::Hold()
+{
+    const ImportWorker* nobody = nullptr;
+    return s_holder.compare_exchange_strong(nobody, this) || Holds();
+}
+
+bool ImportWorker::Holds() const
+{
+    return s_holder == this;
+}
+
+void ImportWorker::GiveUp()
+{
+    const ImportWorker* self = this;
+    s_holder.compare_exchange_strong(self, nullptr);
+}
+
 void ImportWorker::Quit()
 {
     Queue([this] {
@@ -69,9 +88,13 @@ void ImportWorker::Queue(Work work)
         Qt::QueuedConnection);
 }
 
+/// What \a work gives; what stands for nothing where the library is another's, whose objects may
+/// have the same identifiers.
 template <typename Work>
 auto ImportWorker::WhileBusy(Work work)
 {
+    if (!Holds())
+        return decltype(work())();
     m_isBusy = true;
     const auto result = work();
     m_isBusy = false;
@@ -163,7 +186,7 @@ void ImportWorker::ListNow()
     QVector<ImportDevice> devices;
     for (unsigned long i = 0; i < count; ++i) {
         if (ids[i])
-            devices.append({ids[i], names[i] ? QString::fromWCharArray(names[i]) : QString()});
+            devices.append({ids[i], FromWide(names[i])});
         SysFreeString(ids[i]);
         SysFreeString(names[i]);
     }
@@ -175,22 +198,27 @@ bool ImportWorker::ChooseNow(const wchar_t* deviceId)
     return WhileBusy([&] { return WpdApiLib::ChooseDevice(deviceId, nullptr) != 0; });
 }
 
-// The library has one device and one callback, which may be another worker's.
 void ImportWorker::CloseNow()
 {
-    if (!std::exchange(m_hasChosen, false))
+    if (!Holds())
         return;
     ChooseNow(nullptr);
     WpdApiLib::SetCallbackProc(nullptr, nullptr);
+    GiveUp();
 }
 
 void ImportWorker::OpenNow(const std::wstring& deviceId)
 {
     if (IsStopped())
         return;
-    m_hasChosen = true;
+    if (!Hold()) {
+        Q_EMIT InUse();
+        return;
+    }
     WpdApiLib::SetCallbackProc(&ImportWorker::Callback, this);
     const bool isOpen = ChooseNow(deviceId.c_str());
+    if (!isOpen)
+        CloseNow();
     Q_EMIT Opened(isOpen);
     if (!isOpen)
         return;
@@ -206,9 +234,8 @@ void ImportWorker::OpenNow(const std::wstring& deviceId)
 void ImportWorker::TakeObject(WpdObjectRecord& record)
 {
     record.descend = record.isFolder; // folders at every depth
-    m_objects.append({record.objectId, record.parentId,
-                      QString::fromWCharArray(record.originalFileName), record.size,
-                      record.isFolder != 0, DateOf(record.dateModified)});
+    m_objects.append({record.objectId, record.parentId, FromWide(record.originalFileName),
+                      record.size, record.isFolder != 0, DateOf(record.dateModified)});
     if (m_objects.size() >= kPieceOfObjects || m_sent.elapsed() >= kSendEvery)
         SendObjects();
 }

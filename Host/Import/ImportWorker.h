@@ -72,8 +72,9 @@ struct ImportResult
 };
 
 /// Uses the library's device import on the thread that it lives on, which starts after it was moved
-/// there. The operations may be called from the one thread that made it; they return at once and
-/// are carried out in order. Signals tell what came of them.
+/// there. The library has one device for the process, which one worker has at a time. The
+/// operations may be called from the one thread that made it; they return at once and are carried
+/// out in order. Signals tell what came of them.
 class ImportWorker : public QObject
 {
     Q_OBJECT
@@ -85,7 +86,7 @@ public:
     /// Lists the devices: DevicesListed().
     void List();
     /// Opens a device instead of the one that is open and reads its content: Opened(),
-    /// ObjectsRead() in pieces, ContentRead().
+    /// ObjectsRead() in pieces, ContentRead(). While another worker has one open: InUse().
     void Open(const std::wstring& deviceId);
     /// Reads small pictures of \a files, even while content is being read: ThumbnailRead() for
     /// those that have one.
@@ -102,10 +103,14 @@ public:
     void Stop();
     /// Closes the open device and ends the thread.
     void Quit();
+    /// Leaves the library to others, for a thread that does not come back.
+    void GiveUp();
 
 Q_SIGNALS:
     void DevicesListed(const QVector<ImportDevice>& devices);
     void Opened(bool isOpen);
+    /// Another worker has a device open.
+    void InUse();
     void ObjectsRead(const QVector<ImportObject>& objects);
     /// \a isWhole is false when the device failed in the middle or reading was stopped.
     void ContentRead(bool isWhole);
@@ -124,6 +129,9 @@ private:
     template <typename Work>
     auto WhileBusy(Work work);
     bool IsStopped() const { return m_ticket <= m_stopped; }
+    /// Takes the library for this worker; false while another one has it.
+    bool Hold();
+    bool Holds() const;
 
     // On the session's thread.
     void ListNow();
@@ -148,7 +156,6 @@ private:
 
     // Used on the session's thread only.
     std::unique_ptr<ComponentThread> m_components;
-    bool m_hasChosen = false; ///< a device since the last one was closed
     QTemporaryDir m_folder;
     int m_ticket = 0; ///< of the operation under way
     QVector<ImportObject> m_objects;

@@ -1363,6 +1363,10 @@
         <source>This folder has room for %1 only.</source>
         <translation>لا يتسع هذا المجلد إلا لـ %1.</translation>
     </message>
+    <message>
+        <source>Another window has a device open. Close that window, then choose this device again.</source>
+        <translation>نافذة أخرى تستخدم جهازًا. أغلق تلك النافذة، ثم اختر هذا الجهاز من جديد.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

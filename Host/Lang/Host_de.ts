@@ -1339,6 +1339,10 @@
         <source>This folder has room for %1 only.</source>
         <translation>In diesem Ordner ist nur Platz für %1.</translation>
     </message>
+    <message>
+        <source>Another window has a device open. Close that window, then choose this device again.</source>
+        <translation>Ein anderes Fenster hat ein Gerät geöffnet. Schließen Sie jenes Fenster und wählen Sie dieses Gerät dann erneut.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

@@ -1339,6 +1339,10 @@
         <source>This folder has room for %1 only.</source>
         <translation>This folder has room for %1 only.</translation>
     </message>
+    <message>
+        <source>Another window has a device open. Close that window, then choose this device again.</source>
+        <translation>Another window has a device open. Close that window, then choose this device again.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

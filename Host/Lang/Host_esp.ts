@@ -1339,6 +1339,10 @@
         <source>This folder has room for %1 only.</source>
         <translation>En esta carpeta solo caben %1.</translation>
     </message>
+    <message>
+        <source>Another window has a device open. Close that window, then choose this device again.</source>
+        <translation>Otra ventana tiene un dispositivo abierto. Cierre esa ventana y vuelva a elegir este dispositivo.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

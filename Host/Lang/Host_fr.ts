@@ -1339,6 +1339,10 @@
         <source>This folder has room for %1 only.</source>
         <translation>Ce dossier n’a de place que pour %1.</translation>
     </message>
+    <message>
+        <source>Another window has a device open. Close that window, then choose this device again.</source>
+        <translation>Une autre fenêtre a ouvert un appareil. Fermez cette fenêtre, puis choisissez à nouveau cet appareil.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

@@ -1333,6 +1333,10 @@
         <source>This folder has room for %1 only.</source>
         <translation>Folder ini hanya memuat %1.</translation>
     </message>
+    <message>
+        <source>Another window has a device open. Close that window, then choose this device again.</source>
+        <translation>Jendela lain sedang membuka perangkat. Tutup jendela itu, lalu pilih lagi perangkat ini.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

@@ -1339,6 +1339,10 @@
         <source>This folder has room for %1 only.</source>
         <translation>In questa cartella c’è spazio solo per %1.</translation>
     </message>
+    <message>
+        <source>Another window has a device open. Close that window, then choose this device again.</source>
+        <translation>Un’altra finestra ha aperto un dispositivo. Chiudi quella finestra e scegli di nuovo questo dispositivo.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

@@ -1333,6 +1333,10 @@
         <source>This folder has room for %1 only.</source>
         <translation>このフォルダーの空き容量は %1 だけです。</translation>
     </message>
+    <message>
+        <source>Another window has a device open. Close that window, then choose this device again.</source>
+        <translation>別のウィンドウがデバイスを開いています。そのウィンドウを閉じてから、このデバイスをもう一度選択してください。</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

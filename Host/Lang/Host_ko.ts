@@ -1333,6 +1333,10 @@
         <source>This folder has room for %1 only.</source>
         <translation>이 폴더에는 %1만 저장할 수 있습니다.</translation>
     </message>
+    <message>
+        <source>Another window has a device open. Close that window, then choose this device again.</source>
+        <translation>다른 창에서 장치를 열고 있습니다. 그 창을 닫은 다음 이 장치를 다시 선택하세요.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

@@ -1339,6 +1339,10 @@
         <source>This folder has room for %1 only.</source>
         <translation>In deze map is maar plaats voor %1.</translation>
     </message>
+    <message>
+        <source>Another window has a device open. Close that window, then choose this device again.</source>
+        <translation>Een ander venster heeft een apparaat geopend. Sluit dat venster en kies dit apparaat opnieuw.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

@@ -1345,6 +1345,10 @@
         <source>This folder has room for %1 only.</source>
         <translation>W tym folderze jest miejsce tylko na %1.</translation>
     </message>
+    <message>
+        <source>Another window has a device open. Close that window, then choose this device again.</source>
+        <translation>Inne okno ma otwarte urządzenie. Zamknij tamto okno i wybierz to urządzenie ponownie.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

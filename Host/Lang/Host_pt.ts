@@ -1339,6 +1339,10 @@
         <source>This folder has room for %1 only.</source>
         <translation>Esta pasta só tem espaço para %1.</translation>
     </message>
+    <message>
+        <source>Another window has a device open. Close that window, then choose this device again.</source>
+        <translation>Outra janela tem um dispositivo aberto. Feche essa janela e escolha novamente este dispositivo.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

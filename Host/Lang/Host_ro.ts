@@ -1345,6 +1345,10 @@
         <source>This folder has room for %1 only.</source>
         <translation>În acest dosar este loc doar pentru %1.</translation>
     </message>
+    <message>
+        <source>Another window has a device open. Close that window, then choose this device again.</source>
+        <translation>O altă fereastră are un dispozitiv deschis. Închideți acea fereastră, apoi alegeți din nou acest dispozitiv.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

@@ -1345,6 +1345,10 @@
         <source>This folder has room for %1 only.</source>
         <translation>В этой папке есть место только для %1.</translation>
     </message>
+    <message>
+        <source>Another window has a device open. Close that window, then choose this device again.</source>
+        <translation>Устройство открыто в другом окне. Закройте то окно и выберите это устройство снова.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

@@ -1339,6 +1339,10 @@
         <source>This folder has room for %1 only.</source>
         <translation>Den här mappen har bara plats för %1.</translation>
     </message>
+    <message>
+        <source>Another window has a device open. Close that window, then choose this device again.</source>
+        <translation>Ett annat fönster har en enhet öppen. Stäng det fönstret och välj sedan den här enheten igen.</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

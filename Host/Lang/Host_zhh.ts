@@ -1333,6 +1333,10 @@
         <source>This folder has room for %1 only.</source>
         <translation>此資料夾僅剩 %1 的空間。</translation>
     </message>
+    <message>
+        <source>Another window has a device open. Close that window, then choose this device again.</source>
+        <translation>另一個視窗已開啟裝置。請關閉該視窗，然後再次選擇此裝置。</translation>
+    </message>
 </context>
 <context>
     <name>ImportTree</name>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Widgets/MediaPlayer.h"
 
+#include "Com/WideText.h"
 #include "CommonLib/NLEWraper/CVCreateInstance.h"
 #include "EngineApi/INLEFactory.h"
 #include "Host/Widgets/PlayerListener.h"
@@ -224,7 +225,7 @@ QStringList MediaPlayer::SoundDevices() const
     for (int index = 0; index < count; ++index) {
         wchar_t name[kNameCapacity] = {};
         if (SUCCEEDED(m_player->GetSoundDeviceName(index, name, kNameCapacity)))
-            names << QString::fromWCharArray(name);
+            names << FromWide(name);
     }
     return names;
 }
@@ -234,7 +235,7 @@ std::optional<QString> MediaPlayer::SoundDevice() const
     wchar_t name[kNameCapacity] = {};
     if (!m_player || m_player->GetSoundDevice(name, kNameCapacity) != S_OK)
         return {};
-    return QString::fromWCharArray(name);
+    return FromWide(name);
 }
 
 bool MediaPlayer::SetSoundDevice(const QString& name)

@@ -89,8 +89,11 @@ MediaStore::Answer MediaStore::Find(const QString& path, const FileStamp& stamp)
 std::uint64_t MediaStore::Insert(const QString& path, const FileStamp& stamp, const Answer& answer)
 {
     Remove(path);
-    m_guarded.entries.push_front({path, stamp, answer, ++m_guarded.lastNumber});
-    m_guarded.places.insert(path, m_guarded.entries.begin());
+    // Held by none but the caller when there is no memory: else the promise would be broken then.
+    Entries entry;
+    entry.push_front({path, stamp, answer, ++m_guarded.lastNumber});
+    m_guarded.places.insert(path, entry.begin());
+    m_guarded.entries.splice(m_guarded.entries.begin(), entry);
     if (m_guarded.places.size() > m_capacity)
         Remove(QString(m_guarded.entries.back().path));
     return m_guarded.lastNumber;

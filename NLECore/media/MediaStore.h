@@ -3,7 +3,7 @@
 
 #include "NLECore/media/MediaInfo.h"
 
-#include <QHash>
+#include <QMap>
 #include <QStringList>
 
 #include <future>
@@ -61,7 +61,7 @@ private:
     struct Guarded
     {
         Entries entries; ///< the one asked for last stands first
-        QHash<QString, Entries::iterator> places;
+        QMap<QString, Entries::iterator> places;
         std::uint64_t lastNumber = 0;
     };
     std::mutex m_mutex; ///< guards m_guarded

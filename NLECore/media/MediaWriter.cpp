@@ -260,13 +260,9 @@ struct MediaWriter::Private
     }
     bool FailFile(const QString& text, int code = 0)
     {
-        return Fail(IsFull(code) ? NLEReason_DiskFull : NLEReason_NotWritable, text);
+        return Fail(ReasonOfWriting(IsFull(code)), text);
     }
-    bool FailSequence()
-    {
-        return Fail(sequence->IsDiskFull() ? NLEReason_DiskFull : NLEReason_NotWritable,
-                    sequence->Error());
-    }
+    bool FailSequence() { return Fail(ReasonOfWriting(sequence->IsDiskFull()), sequence->Error()); }
     bool FailSettings(const char* text)
     {
         return Fail(NLEReason_SettingsRefused, QString::fromLatin1(text));
@@ -634,6 +630,21 @@ bool MediaWriter::Finish()
 const WriterError& MediaWriter::Error() const
 {
     return d->error;
+}
+
+HRESULT RefuseOpening(const QString& path, const WriterError& error, HRESULT others)
+{
+    switch (error.reason) {
+    case NLEReason_NoContainer:
+        return RefuseWriting(E_NOTIMPL, path, error);
+    case NLEReason_NotWritable:
+    case NLEReason_DiskFull:
+        return RefuseWriting(E_ACCESSDENIED, path, error);
+    case NLEReason_OutOfMemory:
+        return RefuseWriting(E_OUTOFMEMORY, path, error);
+    default:
+        return RefuseWriting(others, path, error);
+    }
 }
 
 HRESULT RefuseWriting(HRESULT result, const QString& path, const WriterError& error)

@@ -42,6 +42,9 @@ struct WriterError
 
 /// Gives \a result, for a call that does not write \a path.
 HRESULT RefuseWriting(HRESULT result, const QString& path, const WriterError& error);
+/// The same for one that cannot begin: E_ACCESSDENIED where no file can be made, E_NOTIMPL without
+/// a container, E_OUTOFMEMORY, \a others for what is asked for.
+HRESULT RefuseOpening(const QString& path, const WriterError& error, HRESULT others);
 
 /// Writes one media file, or a file of each picture. Where the settings name none, the container
 /// follows from the suffix of the path, the codecs from the container. Everything is written under

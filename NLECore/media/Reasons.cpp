@@ -2,6 +2,7 @@
 #include "NLECore/media/Reasons.h"
 
 #include "Com/ComGuard.h"
+#include "Com/WideText.h"
 #include "NLECore/media/EngineLog.h"
 #include "NLECore/media/SavedFile_p.h"
 
@@ -124,7 +125,7 @@ void Log(const LastFailure& failure)
     // The log may be short of memory itself.
     try {
         const char* separator = *failure.words == L'\0' ? "" : ": ";
-        const QByteArray words = QString::fromWCharArray(failure.words).toUtf8();
+        const QByteArray words = FromWide(failure.words).toUtf8();
         if (row->level == Level::Warning)
             qCWarning(lcEngine, "%s%s%s", row->title, separator, words.constData());
         else
@@ -206,7 +207,7 @@ HRESULT RefuseIndex(std::int64_t index, std::int64_t count) noexcept
     wchar_t words[64];
     std::swprintf(words, std::size(words), L"%lld: %lld", static_cast<long long>(index),
                   static_cast<long long>(count));
-    return Refuse(E_INVALIDARG, NLEReason_UnknownIndex, QString::fromWCharArray(words));
+    return Refuse(E_INVALIDARG, NLEReason_UnknownIndex, FromWide(words));
 }
 
 HRESULT RefuseRange(const char* name, double lowest, double highest) noexcept
@@ -220,10 +221,14 @@ HRESULT RefuseRange(const char* name, double lowest, double highest) noexcept
     }
 }
 
+NLEReason ReasonOfWriting(bool isDiskFull) noexcept
+{
+    return isDiskFull ? NLEReason_DiskFull : NLEReason_NotWritable;
+}
+
 HRESULT RefuseWriting(HRESULT result, const QString& path, const QFileDevice& file)
 {
-    const bool isFull = ErrorOf(file) == QFileDevice::ResourceError;
-    return Refuse(result, isFull ? NLEReason_DiskFull : NLEReason_NotWritable,
+    return Refuse(result, ReasonOfWriting(ErrorOf(file) == QFileDevice::ResourceError),
                   path + QStringLiteral(": ") + file.errorString());
 }
 

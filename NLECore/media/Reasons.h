@@ -27,6 +27,8 @@ HRESULT RefuseIndex(std::int64_t index, std::int64_t count) noexcept;
 /// A number \a name outside of its range.
 HRESULT RefuseRange(const char* name, double lowest, double highest) noexcept;
 
+/// Why a file is not written, of a disk that is full or not.
+NLEReason ReasonOfWriting(bool isDiskFull) noexcept;
 /// Gives \a result, for a file at \a path that \a file does not write.
 HRESULT RefuseWriting(HRESULT result, const QString& path, const QFileDevice& file);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/media/SavedFile_p.h"
 
+#include "Com/PatientCall.h"
 #include "Com/SystemPath.h"
 
 #include <cerrno>
@@ -15,23 +16,13 @@ namespace nle {
 
 namespace {
 
-// Whether \a done, which uses a file, is so. Scanners and indexers open what was just written, for
-// a moment.
 template <typename Call>
-bool TryPatiently(Call done, QString* error)
+bool TryWithError(Call done, QString* error)
 {
-    constexpr int tries = 10;
-    constexpr DWORD pauseMs = 50;
-    for (int left = tries; !done(); --left) {
-        const DWORD reason = GetLastError();
-        const bool isInUse = reason == ERROR_SHARING_VIOLATION || reason == ERROR_ACCESS_DENIED;
-        if (left == 1 || !isInUse) {
-            *error = qt_error_string(int(reason));
-            return false;
-        }
-        Sleep(pauseMs);
-    }
-    return true;
+    if (TryPatiently(done))
+        return true;
+    *error = qt_error_string(int(GetLastError()));
+    return false;
 }
 
 } // namespace
@@ -84,7 +75,7 @@ bool MayBeReplaced(const QString& path, QString* error)
             CreateFileW(name.c_str(), DELETE, anyone, nullptr, OPEN_EXISTING, 0, nullptr);
         return file != INVALID_HANDLE_VALUE && CloseHandle(file);
     };
-    return TryPatiently(open, error);
+    return TryWithError(open, error);
 }
 
 bool MoveOver(const QString& file, const QString& target, QString* error)
@@ -94,7 +85,7 @@ bool MoveOver(const QString& file, const QString& target, QString* error)
     const auto move = [&] {
         return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
     };
-    return TryPatiently(move, error);
+    return TryWithError(move, error);
 }
 
 bool MoveAlone(QFile& file, const QString& path, const QString& target, QString* error)

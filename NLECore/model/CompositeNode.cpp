@@ -2,6 +2,7 @@
 #include "NLECore/model/CompositeNode.h"
 
 #include "Com/ComGuard.h"
+#include "Com/WideText.h"
 #include "EngineApi/NLEKey.h"
 #include "NLECore/media/Reasons.h"
 #include "NLECore/model/TransitionNode.h"
@@ -405,7 +406,7 @@ HRESULT ProjectNode::TakeContext(const PropertyBag::Values& values)
 {
     for (const auto& [key, value] : values) {
         if (!IsContextValue(key, value))
-            return Refuse(E_INVALIDARG, NLEReason_OutOfRange, QString::fromStdWString(key));
+            return Refuse(E_INVALIDARG, NLEReason_OutOfRange, FromWide(key));
     }
     PropertyBag::Values context = m_context;
     for (const auto& [key, value] : values)

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <QHash>
 #include <QLatin1String>
+#include <QMap>
 #include <QString>
 
 /// What writers and readers of documents agree on.
@@ -53,6 +53,6 @@ inline const QLatin1String kUnplaced("unplaced");
 namespace nle {
 
 /// Texts of a document by their names.
-using DocumentFields = QHash<QString, QString>;
+using DocumentFields = QMap<QString, QString>;
 
 } // namespace nle

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/DocumentNodes.h"
 
+#include "Com/WideText.h"
 #include "EngineApi/NLEKey.h"
 #include "NLECore/media/ImageSequence.h"
 #include "NLECore/model/DocumentText.h"
@@ -177,7 +178,7 @@ QString DocumentNodes::PathOf(const QString& name) const
     return !IsThere(named) && IsThere(beside) ? beside : named;
 }
 
-void DocumentNodes::DescribeMedia(const QSet<QString>& names)
+void DocumentNodes::DescribeMedia(const std::set<QString>& names)
 {
     QStringList known;
     QStringList paths;
@@ -372,8 +373,8 @@ void DocumentNodes::Apply(const DocumentFields& properties, TimelineNode& node)
 {
     if (!properties.contains(kKind))
         return;
+    // Times are read at the rate at which they were written; a composite was made with its own.
     const NLERational rate = ParseRate(properties.value(kRate));
-    // A composite was made with its rate, and its clips were saved at that rate.
     if (IsRate(rate) && !dynamic_cast<CompositeNode*>(&node))
         node.ChangeRate(rate);
     SettingsFromText(
@@ -381,6 +382,8 @@ void DocumentNodes::Apply(const DocumentFields& properties, TimelineNode& node)
     node.Bag().SetAll(ReadValues(properties, kBagPrefix));
     if (auto* project = dynamic_cast<ProjectNode*>(&node))
         project->TakeContext(ReadValues(properties, kContextPrefix));
+    // In a timeline all have one rate, also where somebody has changed only some in the document.
+    node.ChangeRate(profile.frameRate);
 }
 
 } // namespace nle

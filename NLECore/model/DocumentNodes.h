@@ -9,7 +9,9 @@
 #include "NLECore/model/SourceNodes.h"
 
 #include <QDir>
-#include <QSet>
+#include <QMap>
+
+#include <set>
 
 namespace nle {
 
@@ -45,7 +47,7 @@ public:
     /// A folder that the document itself names: files that are there are preferred.
     void SetRoot(const QString& folder);
     /// Describes the files of all these names, several at a time; what is not there is offline.
-    void DescribeMedia(const QSet<QString>& names);
+    void DescribeMedia(const std::set<QString>& names);
     /// The file of a name that was described; offline for any other.
     std::shared_ptr<const MediaInfo> MediaOf(const QString& name) const;
     /// False when the document asks for more nodes than one may have; counts with each call.
@@ -93,7 +95,7 @@ private:
 
     const QDir m_folder;
     QString m_root;
-    QHash<QString, std::shared_ptr<const MediaInfo>> m_media;
+    QMap<QString, std::shared_ptr<const MediaInfo>> m_media;
     int m_made = 0;
 };
 

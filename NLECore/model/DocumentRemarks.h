@@ -3,7 +3,7 @@
 
 #include "EngineApi/NLETypes.h"
 
-#include <QHash>
+#include <QMap>
 #include <QString>
 
 #include <vector>
@@ -47,7 +47,7 @@ public:
 
 private:
     std::vector<DocumentRemark> m_all;
-    QHash<QString, int> m_places; ///< by text
+    QMap<QString, int> m_places; ///< by text
 };
 
 } // namespace nle

@@ -6,7 +6,6 @@
 #include <QUrl>
 
 #include <algorithm>
-#include <cstdint>
 
 namespace nle {
 
@@ -77,31 +76,6 @@ QString PlainText(const QString& text)
             ++i;
         else if (result.at(i) != QLatin1Char('%') && !IsPlain(result.at(i).unicode()))
             result[i] = QChar(QChar::ReplacementCharacter);
-    }
-    return result;
-}
-
-std::wstring ToWide(const QString& text)
-{
-    std::wstring result;
-    for (int i = 0; i < text.size(); ++i) {
-        const bool isPair = sizeof(wchar_t) > sizeof(ushort) && IsPairAt(text, i);
-        result += isPair ? wchar_t(QChar::surrogateToUcs4(text.at(i), text.at(i + 1)))
-                         : wchar_t(text.at(i).unicode());
-        i += isPair ? 1 : 0;
-    }
-    return result;
-}
-
-QString FromWide(const std::wstring& text)
-{
-    QString result;
-    for (const wchar_t character : text) {
-        const auto code = std::uint32_t(character);
-        if (QChar::requiresSurrogates(code))
-            result += QChar(QChar::highSurrogate(code));
-        result += QChar::requiresSurrogates(code) ? QChar(QChar::lowSurrogate(code))
-                                                  : QChar(ushort(code));
     }
     return result;
 }

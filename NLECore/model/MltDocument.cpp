@@ -77,7 +77,7 @@ private:
 
     QXmlStreamReader m_xml;
     MltDocument& m_result;
-    QHash<QString, int> m_ids;
+    QMap<QString, int> m_ids;
     int m_depth = 0;
 };
 

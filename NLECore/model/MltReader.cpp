@@ -279,16 +279,16 @@ std::vector<int> MltReader::Reachable(int root) const
 
 void MltReader::DescribeMedia(const std::vector<int>& services)
 {
-    QSet<QString> names;
+    std::set<QString> names;
     for (const int index : services) {
         const MltService& service = m_document.services[size_t(index)];
         const MltSource source = SourceOf(service);
         if (!service.HoldsClips() && source.kind == MltSource::Kind::Media)
-            names << source.resource;
+            names.insert(source.resource);
         for (const QString& name : MediaInSettings(service.properties))
-            names << name;
+            names.insert(name);
     }
-    names.remove(QString());
+    names.erase(QString());
     m_nodes.DescribeMedia(names);
 }
 

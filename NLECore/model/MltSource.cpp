@@ -17,7 +17,7 @@ using Kind = MltSource::Kind;
 
 Kind KindOf(const QString& service)
 {
-    static const QHash<QString, Kind> kinds = {
+    static const QMap<QString, Kind> kinds = {
         {QString(), Kind::Media},
         {QStringLiteral("avformat"), Kind::Media},
         {QStringLiteral("avformat-novalidate"), Kind::Media},

@@ -141,7 +141,7 @@ private:
     }
 
     const std::vector<const TimelineNode*> m_clips;
-    QHash<const TimelineNode*, int> m_lanes;
+    QMap<const TimelineNode*, int> m_lanes;
     NLERange m_range = {0, -1};
 };
 

@@ -26,7 +26,7 @@ public:
 
 private:
     /// Names of the services that were written, by their nodes.
-    using Ids = QHash<const TimelineNode*, QString>;
+    using Ids = QMap<const TimelineNode*, QString>;
 
     QString WriteNode(const TimelineNode& node, int order);
     QString WriteComposite(const CompositeNode& node, int order);

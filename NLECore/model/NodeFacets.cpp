@@ -2,6 +2,7 @@
 #include "NLECore/model/NodeFacets.h"
 
 #include "Com/ComGuard.h"
+#include "Com/WideText.h"
 #include "NLECore/media/Reasons.h"
 #include "NLECore/model/MediaObjects.h"
 #include "NLECore/model/PropertyBag.h"
@@ -348,7 +349,7 @@ HRESULT VideoFacet::SetProxyFile(const wchar_t* path)
             return Refuse(E_POINTER);
         std::shared_ptr<const MediaInfo> proxy;
         if (*path != L'\0') {
-            proxy = DescribeFile(QString::fromWCharArray(path));
+            proxy = DescribeFile(FromWide(path));
             if (!proxy)
                 return Refuse(E_FAIL);
             if (proxy->videoStream < 0)

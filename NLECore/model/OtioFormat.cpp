@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/OtioFormat.h"
 
-#include "NLECore/model/DocumentText.h"
+#include "Com/WideText.h"
 
 #include <algorithm>
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/OtioReader.h"
 
+#include "Com/WideText.h"
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/OtioFormat.h"
 #include "NLECore/model/OtioMarkers.h"
@@ -243,14 +244,14 @@ void OtioReader::ReadRate(const QJsonObject& root, const DocumentFields& propert
 
 void OtioReader::DescribeMedia(const QJsonObject& root)
 {
-    QSet<QString> names;
+    std::set<QString> names;
     const auto take = [&](const QJsonObject& clip) {
-        names << PathOfUrl(Text(ReferenceOf(clip), "target_url"), m_folder);
+        names.insert(PathOfUrl(Text(ReferenceOf(clip), "target_url"), m_folder));
         for (const QString& name : MediaInSettings(PropertiesOf(clip)))
-            names << name;
+            names.insert(name);
     };
     ForEachClip(root, 0, take);
-    names.remove(QString());
+    names.erase(QString());
     m_nodes.DescribeMedia(names);
 }
 

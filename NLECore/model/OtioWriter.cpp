@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/OtioWriter.h"
 
+#include "Com/WideText.h"
 #include "EngineApi/NLEKey.h"
 #include "NLECore/model/DocumentNodes.h"
 #include "NLECore/model/DocumentText.h"

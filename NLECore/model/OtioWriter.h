@@ -22,7 +22,7 @@ public:
     QByteArray Write(const TimelineNode& root);
 
 private:
-    using Orders = QHash<const TimelineNode*, int>;
+    using Orders = QMap<const TimelineNode*, int>;
     using Clips = std::map<std::int64_t, LaneClip>;
 
     QJsonObject Timeline(const CompositeNode& node);

@@ -2,8 +2,8 @@
 #include "NLECore/model/ParameterFacet.h"
 
 #include "Com/ComGuard.h"
+#include "Com/WideText.h"
 #include "NLECore/media/Reasons.h"
-#include "NLECore/model/DocumentText.h"
 #include "NLECore/model/TimelineNode.h"
 
 #include <QFileInfo>
@@ -22,8 +22,7 @@ HRESULT GiveText(const char* text, wchar_t* buffer, int capacity)
 /// There is no parameter of this name, or none of the kind that the call is for.
 HRESULT NoName(const wchar_t* name)
 {
-    return Refuse(E_INVALIDARG, NLEReason_UnknownName,
-                  name ? QString::fromWCharArray(name) : QString());
+    return Refuse(E_INVALIDARG, NLEReason_UnknownName, FromWide(name));
 }
 
 HRESULT NoIndex(int index)
@@ -38,7 +37,7 @@ HRESULT OutOfRange(const ParameterRow& row)
 
 HRESULT NotAccepted(const ParameterRow& row, const std::wstring& text)
 {
-    const QString words = QString::fromStdWString(text);
+    const QString words = FromWide(text);
     if (row.kind != NLEParameter_File)
         return Refuse(E_FAIL, NLEReason_InvalidArgument, words);
     return Refuse(E_FAIL,
@@ -72,7 +71,7 @@ ParameterFacet::ParameterFacet(IUnknown& node, const TimelineNode* owner,
 
 ParameterFacet::Found ParameterFacet::Find(const wchar_t* name) const
 {
-    const int index = name ? Declared().IndexOf(QString::fromWCharArray(name)) : -1;
+    const int index = name ? Declared().IndexOf(FromWide(name)) : -1;
     return {index, index < 0 ? nullptr : &m_values.Row(index)};
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/ParameterText.h"
 
+#include "Com/WideText.h"
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/scene/FrameMath.h"
 
@@ -78,7 +79,7 @@ void AddParameterTexts(const ParameterValues& values, const QString& prefix, con
     }
 }
 
-void ReadParameterTexts(const QHash<QString, QString>& properties, const QString& prefix,
+void ReadParameterTexts(const QMap<QString, QString>& properties, const QString& prefix,
                         const FindMedia& media, ParameterValues& values)
 {
     const std::vector<double> axis = Numbers(properties.value(prefix + kAxisName));

@@ -2,6 +2,7 @@
 #include "NLECore/model/PropertyBag.h"
 
 #include "Com/ComGuard.h"
+#include "Com/WideText.h"
 #include "NLECore/media/Reasons.h"
 
 #include <algorithm>
@@ -13,7 +14,7 @@ namespace {
 
 HRESULT NoValue(const wchar_t* key)
 {
-    return Refuse(E_FAIL, NLEReason_NoValue, key ? QString::fromWCharArray(key) : QString());
+    return Refuse(E_FAIL, NLEReason_NoValue, FromWide(key));
 }
 
 /// A value as \a Wanted, if it is one. Numbers stand for one another: as a whole one, what fits,
@@ -123,7 +124,7 @@ QString PropertyBag::TextOrEmpty(const wchar_t* key) const
 {
     const auto found = Find(key);
     const Text* text = found ? std::get_if<Text>(&*found) : nullptr;
-    return text ? QString::fromStdWString(**text) : QString();
+    return text ? FromWide(**text) : QString();
 }
 
 std::vector<int> PropertyBag::NumbersIn(const wchar_t* key) const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/SettingsText.h"
 
+#include "Com/WideText.h"
 #include "NLECore/model/DocumentFormat.h"
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/EffectNode.h"
@@ -237,7 +238,7 @@ void ReadField(FromText& text, const Field& field, Settings& settings)
 }
 
 template <typename Settings>
-void ReadSettings(const QHash<QString, QString>& properties, const FindMedia& media,
+void ReadSettings(const QMap<QString, QString>& properties, const FindMedia& media,
                   Settings& settings)
 {
     const std::vector<QString>& names = PropertyNames<Settings>();
@@ -303,7 +304,7 @@ void AddMarkers(const MarkerList& markers, DocumentTexts& texts)
     }
 }
 
-void ReadMarkers(const QHash<QString, QString>& properties, MarkerList& markers)
+void ReadMarkers(const QMap<QString, QString>& properties, MarkerList& markers)
 {
     const QString prefix = PropertyNames<NLEMarkerRecord>().front();
     std::map<int, QString> texts;
@@ -321,7 +322,7 @@ void ReadMarkers(const QHash<QString, QString>& properties, MarkerList& markers)
     }
 }
 
-void ReadMixer(const QHash<QString, QString>& properties, MixerSettings& mixer)
+void ReadMixer(const QMap<QString, QString>& properties, MixerSettings& mixer)
 {
     const QString prefix = PropertyNames<tagMixerParam>().front();
     for (auto property = properties.begin(); property != properties.end(); ++property) {
@@ -333,7 +334,7 @@ void ReadMixer(const QHash<QString, QString>& properties, MixerSettings& mixer)
     }
 }
 
-void ReadLevels(const QHash<QString, QString>& properties, LevelMap& levels)
+void ReadLevels(const QMap<QString, QString>& properties, LevelMap& levels)
 {
     constexpr int numbers = kFieldCount<LevelSettings> - 1;
     const QString prefix = PropertyNames<LevelSettings>().front();
@@ -364,7 +365,7 @@ void AddEffects(const EffectsFacet& effects, const QDir& folder, DocumentTexts& 
     }
 }
 
-void ReadEffects(const QHash<QString, QString>& properties, const FindMedia& media,
+void ReadEffects(const QMap<QString, QString>& properties, const FindMedia& media,
                  EffectsFacet& effects)
 {
     QString prefix = kEffectPrefix + QLatin1Char('0');
@@ -410,7 +411,7 @@ DocumentTexts SettingsToText(const TimelineNode& node, const QDir& folder)
     return texts;
 }
 
-QStringList MediaInSettings(const QHash<QString, QString>& properties)
+QStringList MediaInSettings(const QMap<QString, QString>& properties)
 {
     QStringList names;
     auto name = PropertyNames<VideoSettings>().begin();
@@ -423,7 +424,7 @@ QStringList MediaInSettings(const QHash<QString, QString>& properties)
     return names;
 }
 
-void SettingsFromText(const QHash<QString, QString>& properties, const FindMedia& media,
+void SettingsFromText(const QMap<QString, QString>& properties, const FindMedia& media,
                       TimelineNode& node)
 {
     ReadSettings(properties, media, node.Placement());

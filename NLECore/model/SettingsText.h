@@ -4,7 +4,7 @@
 #include "NLECore/model/TimelineNode.h"
 
 #include <QDir>
-#include <QHash>
+#include <QMap>
 
 #include <functional>
 #include <utility>
@@ -22,10 +22,10 @@ using FindMedia = std::function<std::shared_ptr<const MediaInfo>(const QString&)
 DocumentTexts SettingsToText(const TimelineNode& node, const QDir& folder);
 
 /// The names of files among \a properties that are settings.
-QStringList MediaInSettings(const QHash<QString, QString>& properties);
+QStringList MediaInSettings(const QMap<QString, QString>& properties);
 
 /// Sets what \a properties say; what is missing or makes no sense stays as it is.
-void SettingsFromText(const QHash<QString, QString>& properties, const FindMedia& media,
+void SettingsFromText(const QMap<QString, QString>& properties, const FindMedia& media,
                       TimelineNode& node);
 
 } // namespace nle

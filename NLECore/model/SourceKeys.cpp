@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/model/SourceKeys.h"
 
+#include "Com/WideText.h"
 #include "EngineApi/NLEKey.h"
 
 #include <QStringList>
@@ -26,7 +27,7 @@ PropertyBag::Value StreamsText(const std::vector<int>& streams)
 std::optional<std::vector<int>> ParseStreams(const std::wstring& text)
 {
     std::vector<int> streams;
-    const QString whole = QString::fromStdWString(text);
+    const QString whole = FromWide(text);
     if (whole.isEmpty())
         return streams;
     for (const QString& part : whole.split(kSeparator)) {

@@ -2,6 +2,7 @@
 #include "NLECore/model/SourceNodes.h"
 
 #include "Com/ComGuard.h"
+#include "Com/WideText.h"
 #include "EngineApi/NLEKey.h"
 #include "NLECore/media/DecoderPool.h"
 #include "NLECore/media/FontFiles.h"
@@ -98,7 +99,7 @@ HRESULT MediaClip::Relink(const wchar_t* path, int flags)
     return ComGuard([&] {
         if (!path)
             return Refuse(E_POINTER);
-        const QString file = QString::fromWCharArray(path);
+        const QString file = FromWide(path);
         const bool isOffline = (flags & NLERelink_AllowMissing) != 0 && !IsThere(file);
         std::shared_ptr<const MediaInfo> media =
             isOffline ? OfflineMedia(file) : DescribeFile(file);

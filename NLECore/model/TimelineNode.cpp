@@ -2,6 +2,7 @@
 #include "NLECore/model/TimelineNode.h"
 
 #include "Com/ComGuard.h"
+#include "Com/WideText.h"
 #include "EngineApi/NLEKey.h"
 #include "NLECore/media/Reasons.h"
 #include "NLECore/model/CompositeNode.h"
@@ -24,7 +25,7 @@ std::uint32_t NextId()
 
 QString Named(std::wstring_view key)
 {
-    return QString::fromWCharArray(key.data(), int(key.size()));
+    return FromWide(key);
 }
 
 } // namespace

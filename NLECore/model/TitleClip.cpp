@@ -2,9 +2,9 @@
 #include "NLECore/model/TitleClip.h"
 
 #include "Com/ComGuard.h"
+#include "Com/WideText.h"
 #include "NLECore/media/FontFiles.h"
 #include "NLECore/model/CompositeNode.h"
-#include "NLECore/model/DocumentText.h"
 #include "NLECore/render/TitlePicture.h"
 
 namespace nle {

@@ -2,6 +2,7 @@
 #include "NLECore/objects/BackgroundCache.h"
 
 #include "Com/ComGuard.h"
+#include "Com/WideText.h"
 #include "NLECore/media/Reasons.h"
 #include "NLECore/render/CacheDefaults.h"
 
@@ -52,7 +53,7 @@ HRESULT BackgroundCache::SetCacheFolder(const wchar_t* folder, std::int64_t quot
             return Refuse(E_INVALIDARG);
         EndRendering();
         m_limits = {std::min(quota, kMostMebibytes) * kMebibyte, reserve * kMebibyte};
-        const auto store = ChunkStore::Of(QString::fromWCharArray(folder));
+        const auto store = ChunkStore::Of(FromWide(folder));
         const std::lock_guard<std::mutex> lock(m_mutex);
         if (m_guarded.store != store)
             m_guarded.former.clear();

@@ -2,6 +2,7 @@
 #include "NLECore/objects/DocumentSerialize.h"
 
 #include "Com/ComGuard.h"
+#include "Com/WideText.h"
 #include "NLECore/media/EngineLog.h"
 #include "NLECore/media/Reasons.h"
 #include "NLECore/media/WholeFile.h"
@@ -83,7 +84,7 @@ HRESULT DocumentSerialize::Save(INLETimeline* timeline, const wchar_t* path)
         const TimelineNode* node = TimelineNode::From(timeline);
         if (!node || !path)
             return Refuse(E_INVALIDARG, path ? NLEReason_WrongObject : NLEReason_NullPointer);
-        const QString name = QString::fromWCharArray(path);
+        const QString name = FromWide(path);
         WholeFile file(name);
         if (!file.open(QIODevice::WriteOnly))
             return RefuseWriting(E_FAIL, name, file);
@@ -99,7 +100,7 @@ HRESULT DocumentSerialize::Load(const wchar_t* path, INLETimeline** timeline)
             return Refuse(E_POINTER);
         *timeline = nullptr;
         m_remarks = {};
-        const QString name = QString::fromWCharArray(path);
+        const QString name = FromWide(path);
         QFile file(name);
         if (!QFileInfo(name).isFile())
             return Refuse(E_FAIL, NLEReason_FileMissing, name);

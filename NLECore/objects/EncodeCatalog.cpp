@@ -2,6 +2,7 @@
 #include "NLECore/objects/EncodeCatalog.h"
 
 #include "Com/ComObject.h"
+#include "Com/WideText.h"
 #include "EngineApi/NLEKey.h"
 #include "NLECore/media/MediaWriter.h"
 #include "NLECore/media/Reasons.h"
@@ -197,7 +198,7 @@ HRESULT ReadOptions(INLEProperties* bag, EncodeOptions* options)
     for (const TextKey& entry : kTextKeys) {
         wchar_t text[kNameLength] = L"";
         if (bag->GetString(entry.key, text, kNameLength) == S_OK)
-            read.*entry.field = QString::fromWCharArray(text).toStdString();
+            read.*entry.field = FromWide(text).toStdString();
     }
     if (!ReadNumbers(bag, &read) || !IsKnown(read))
         return Refuse(E_INVALIDARG, NLEReason_SettingsRefused, kNotInCatalogue);
@@ -283,7 +284,7 @@ HRESULT EncodeCatalog::GetPreset(const wchar_t* name, INLEProperties* options)
     return ComGuard([&] {
         if (!name || !options)
             return Refuse(E_POINTER);
-        const QString wanted = QString::fromWCharArray(name);
+        const QString wanted = FromWide(name);
         for (const EncodePreset& preset : EncodePresets()) {
             if (wanted == QLatin1String(preset.name))
                 return WriteOptions(preset.options, options);

@@ -2,6 +2,7 @@
 #include "NLECore/objects/FontLibrary.h"
 
 #include "Com/ComGuard.h"
+#include "Com/WideText.h"
 #include "NLECore/media/FontFiles.h"
 #include "NLECore/media/Reasons.h"
 #include "NLECore/model/PropertyBag.h"
@@ -19,7 +20,7 @@ HRESULT FontLibrary::SetCacheFile(const wchar_t* path)
     return ComGuard([&] {
         if (!path)
             return Refuse(E_POINTER);
-        Fonts().SetCacheFile(QString::fromWCharArray(path));
+        Fonts().SetCacheFile(FromWide(path));
         return S_OK;
     });
 }
@@ -36,7 +37,7 @@ HRESULT FontLibrary::AddFontFolder(const wchar_t* folder)
     return ComGuard([&] {
         if (!folder)
             return Refuse(E_POINTER);
-        const QString path = QString::fromWCharArray(folder);
+        const QString path = FromWide(folder);
         if (!QFileInfo(path).isDir())
             return Refuse(E_FAIL, NLEReason_FileMissing, path);
         Add(Fonts().Scan(path));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/objects/MarkBook.h"
 
+#include "Com/WideText.h"
 #include "NLECore/media/Reasons.h"
 #include "NLECore/model/DocumentText.h"
 #include "NLECore/model/MediaObjects.h"

@@ -2,6 +2,7 @@
 #include "NLECore/objects/MediaEncoder.h"
 
 #include "Com/ComGuard.h"
+#include "Com/WideText.h"
 #include "NLECore/media/Reasons.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/objects/TimelineFactory.h"
@@ -39,21 +40,6 @@ QSize EvenSize(NLESize size)
     return QSize(std::max(size.width & ~1, 2), std::max(size.height & ~1, 2));
 }
 
-HRESULT ResultOf(NLEReason reason)
-{
-    switch (reason) {
-    case NLEReason_NoContainer:
-        return E_NOTIMPL;
-    case NLEReason_NotWritable:
-    case NLEReason_DiskFull:
-        return E_ACCESSDENIED;
-    case NLEReason_OutOfMemory:
-        return E_OUTOFMEMORY;
-    default:
-        return E_INVALIDARG;
-    }
-}
-
 /// A file is written at its full size, however small the preview is, and drawn as deep as it holds.
 /// Where it keeps what is transparent, nothing shows where no clip does.
 Snapshot ForFile(const Snapshot& root, const EncodeOptions& settled, bool withProxies)
@@ -77,12 +63,12 @@ HRESULT MediaEncoder::Open(INLETimeline* timeline, const wchar_t* path,
         if (!node || !path)
             return Refuse(E_INVALIDARG, path ? NLEReason_WrongObject : NLEReason_NullPointer);
         const Snapshot root = node->MakeSnapshot();
-        m_path = QString::fromWCharArray(path);
+        m_path = FromWide(path);
         if (!TakeSettings(*node, *root, settings ? *settings : NLEEncodeSettings{}))
             return Refuse(E_INVALIDARG, NLEReason_NothingThere, m_path);
         WriterError error;
         if (!TryDeep(root->context) && !MediaWriter::Try(m_path, m_settings, &error))
-            return RefuseWriting(ResultOf(error.reason), m_path, error);
+            return RefuseOpening(m_path, error, E_INVALIDARG);
         m_root = ForFile(root, m_settings.settled, m_options.proxies != 0);
         return S_OK;
     });
@@ -133,6 +119,7 @@ bool MediaEncoder::TakeSettings(const TimelineNode& node, const Layer& root,
 
 HRESULT MediaEncoder::Encode(NLEProgressCallback callback, void* userData)
 {
+    const NLEComPtr<MediaEncoder> self(this); // the callback may give up the last reference
     return ComGuard([&] {
         if (!m_root)
             return Refuse(E_FAIL, NLEReason_WrongState);

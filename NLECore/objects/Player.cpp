@@ -2,6 +2,7 @@
 #include "NLECore/objects/Player.h"
 
 #include "Com/ComGuard.h"
+#include "Com/WideText.h"
 #include "NLECore/media/Reasons.h"
 #include "NLECore/model/CompositeNode.h"
 #include "NLECore/model/PropertyBag.h"
@@ -293,7 +294,7 @@ HRESULT Player::GetSoundDeviceName(int index, wchar_t* name, int capacity)
 HRESULT Player::SetSoundDevice(const wchar_t* name)
 {
     return ComGuard([&] {
-        m_core->loop.SetDevice(name ? QString::fromWCharArray(name) : QString());
+        m_core->loop.SetDevice(FromWide(name));
         return S_OK;
     });
 }

@@ -3,6 +3,7 @@
 
 #include "Com/ComGuard.h"
 #include "Com/ThreadPriority.h"
+#include "Com/WideText.h"
 #include "NLECore/media/FileClaim.h"
 #include "NLECore/media/ProxyStore.h"
 #include "NLECore/media/Reasons.h"
@@ -79,7 +80,7 @@ HRESULT ProxyMaker::SetFolder(const wchar_t* folder, std::int64_t quota)
         constexpr std::int64_t mebibyte = 1 << 20;
         if (quota < 0 || quota > INT64_MAX / mebibyte)
             return Refuse(E_INVALIDARG);
-        Proxies().SetFolder(folder ? QString::fromWCharArray(folder) : QString(), quota * mebibyte);
+        Proxies().SetFolder(FromWide(folder), quota * mebibyte);
         return S_OK;
     });
 }
@@ -98,7 +99,7 @@ HRESULT ProxyMaker::Find(const wchar_t* file, wchar_t* proxy, int capacity)
     return ComGuard([&] {
         if (!file || !proxy || capacity < 1)
             return Refuse(E_INVALIDARG);
-        const auto key = Proxies().KeyOf(QString::fromWCharArray(file), m_state->Height());
+        const auto key = Proxies().KeyOf(FromWide(file), m_state->Height());
         const QString found = key ? Proxies().Find(*key) : QString();
         const HRESULT result = CopyText(found.toStdWString(), proxy, capacity);
         return SUCCEEDED(result) && found.isEmpty() ? S_FALSE : result;
@@ -111,7 +112,7 @@ HRESULT ProxyMaker::Make(const wchar_t* file, NLEProxyCallback callback, void* u
         if (!file)
             return Refuse(E_INVALIDARG);
         const auto job = std::make_shared<Job>();
-        job->path = QString::fromWCharArray(file);
+        job->path = FromWide(file);
         job->name = file;
         job->callback = callback;
         job->userData = userData;
@@ -205,11 +206,8 @@ HRESULT ProxyMaker::Write(const FilmPlan& film, const WriterSettings& settings, 
 {
     WriterError error;
     const std::unique_ptr<MediaWriter> writer = MediaWriter::Open(path, settings, &error);
-    if (!writer) {
-        const bool isFile =
-            error.reason == NLEReason_NotWritable || error.reason == NLEReason_DiskFull;
-        return RefuseWriting(isFile ? E_ACCESSDENIED : E_FAIL, path, error);
-    }
+    if (!writer)
+        return RefuseOpening(path, error, E_FAIL);
     const HRESULT result = WriteFilm(film, *writer, [&job](int percent) {
         job.Tell(S_FALSE, percent);
         return !job.isCancelled;

@@ -2,6 +2,7 @@
 #include "NLECore/objects/RootFactory.h"
 
 #include "Com/ComGuard.h"
+#include "Com/WideText.h"
 #include "NLECore/media/DecoderPool.h"
 #include "NLECore/media/EngineLog.h"
 #include "NLECore/media/HardwareDecoding.h"
@@ -117,7 +118,7 @@ HRESULT RootFactory::CreateCodecFromFile(const wchar_t* path, INLECodec** codec)
             return Refuse(E_POINTER);
         if (!path)
             return Refuse(E_FAIL, NLEReason_NullPointer);
-        const auto media = DescribeFile(QString::fromWCharArray(path));
+        const auto media = DescribeFile(FromWide(path));
         return media ? GiveNew<CodecObject>(codec, media) : Refuse(E_FAIL);
     });
 }
@@ -127,8 +128,7 @@ HRESULT RootFactory::CreateMarkBook(const wchar_t* path, INLEMarkBook** book)
     return ComGuard([&] {
         if (!Empties(book))
             return Refuse(E_POINTER);
-        return path ? MarkBook::Open(QString::fromWCharArray(path), book)
-                    : Refuse(E_FAIL, NLEReason_NullPointer);
+        return path ? MarkBook::Open(FromWide(path), book) : Refuse(E_FAIL, NLEReason_NullPointer);
     });
 }
 

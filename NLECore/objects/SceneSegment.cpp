@@ -44,6 +44,7 @@ HRESULT SceneSegment::Open(INLETimeline* timeline)
 
 HRESULT SceneSegment::Next(int* frame)
 {
+    const NLEComPtr<SceneSegment> self(this); // the callback may give up the last reference
     return ComGuard([&] {
         if (!frame)
             return Refuse(E_POINTER);

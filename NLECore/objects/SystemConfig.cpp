@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/objects/SystemConfig.h"
 
+#include "Com/WideText.h"
 #include "EngineApi/NLEKey.h"
 #include "NLECore/media/HardwareDecoding.h"
 #include "NLECore/media/PictureCache.h"
@@ -70,8 +71,7 @@ const NumberSetting* NumberOf(std::wstring_view key)
 
 HRESULT NotAccepted(std::wstring_view key)
 {
-    return Refuse(E_INVALIDARG, NLEReason_OutOfRange,
-                  QString::fromWCharArray(key.data(), int(key.size())));
+    return Refuse(E_INVALIDARG, NLEReason_OutOfRange, FromWide(key));
 }
 
 /// Holds nothing itself: reads and writes what counts.
@@ -103,7 +103,7 @@ protected:
 
 QString Name(const wchar_t* key)
 {
-    return QString::fromWCharArray(key);
+    return FromWide(key);
 }
 
 QJsonObject AllSettings()

@@ -2,6 +2,7 @@
 #include "NLECore/objects/TimelineFactory.h"
 
 #include "Com/ComGuard.h"
+#include "Com/WideText.h"
 #include "NLECore/media/ImageSequence.h"
 #include "NLECore/media/Reasons.h"
 #include "NLECore/model/CompositeNode.h"
@@ -64,7 +65,7 @@ HRESULT CreateNamed(const wchar_t* name, INLETimeline** node, Find find)
         if (!name || !node)
             return Refuse(E_POINTER);
         *node = nullptr;
-        const QString wanted = QString::fromWCharArray(name);
+        const QString wanted = FromWide(name);
         const auto* kind = find(wanted);
         return kind ? GiveNew<NodeClass>(node, DeclarationOf(*kind))
                     : Refuse(E_INVALIDARG, NLEReason_UnknownName, wanted);
@@ -113,7 +114,7 @@ HRESULT TimelineFactory::CreateMedia(const wchar_t* path, INLETimeline** clip)
         if (!path || !clip)
             return Refuse(E_POINTER);
         *clip = nullptr;
-        const QString file = QDir::fromNativeSeparators(QString::fromWCharArray(path));
+        const QString file = QDir::fromNativeSeparators(FromWide(path));
         if (file.isEmpty())
             return Refuse(E_INVALIDARG);
         const auto media = IsThere(file) ? DescribeFile(file) : OfflineMedia(file);
@@ -126,7 +127,7 @@ HRESULT TimelineFactory::CreateFromTemplate(const wchar_t* folder, INLETimeline*
     return ComGuard([&] {
         if (!folder || !project)
             return Refuse(E_POINTER);
-        const QDir directory(QString::fromWCharArray(folder));
+        const QDir directory(FromWide(folder));
         DocumentSerialize document;
         return document.Load(directory.filePath(kTemplateDocument).toStdWString().c_str(), project);
     });
@@ -158,8 +159,7 @@ HRESULT TimelineFactory::CreateTipText(const wchar_t* text, const wchar_t* famil
         if (!text || !family || !clip)
             return Refuse(E_POINTER);
         *clip = nullptr;
-        return GiveNew<TextClip>(clip, QString::fromWCharArray(text),
-                                 QString::fromWCharArray(family), kDefaultProfile.frameSize,
+        return GiveNew<TextClip>(clip, FromWide(text), FromWide(family), kDefaultProfile.frameSize,
                                  kDefaultProfile.frameRate);
     });
 }

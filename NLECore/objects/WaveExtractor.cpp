@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/objects/WaveExtractor.h"
 
+#include "Com/WideText.h"
 #include "NLECore/media/Reasons.h"
 #include "NLECore/media/WaveStore.h"
 #include "NLECore/model/MediaObjects.h"
@@ -80,8 +81,7 @@ HRESULT WaveExtractor::SetCacheFolder(const wchar_t* folder, std::int64_t quota)
     return ComGuard([&] {
         if (quota < 0)
             return Refuse(E_INVALIDARG);
-        Waves().SetFolder(folder ? QString::fromWCharArray(folder) : QString(),
-                          std::min(quota, kMostQuota) << 20);
+        Waves().SetFolder(FromWide(folder), std::min(quota, kMostQuota) << 20);
         m_kept.reset();
         m_canKeep = true;
         return S_OK;
@@ -97,6 +97,7 @@ HRESULT WaveExtractor::IsCached(bool* cached)
 
 HRESULT WaveExtractor::Compute(NLEProgressCallback callback, void* userData)
 {
+    const NLEComPtr<WaveExtractor> self(this); // the callback may give up the last reference
     return ComGuard([&] {
         if (!m_media)
             return Refuse(E_FAIL, NLEReason_WrongState);
@@ -131,10 +132,15 @@ HRESULT WaveExtractor::Keep(const WavePyramid::Progress& progress)
         return Refuse(E_FAIL, NLEReason_WrongState, QStringLiteral("no cache"));
     if (!OpenDecoder())
         return Refuse(E_FAIL, NLEReason_FileUnsupported, m_media->path);
-    const std::optional<WavePyramid> pyramid = WavePyramid::Read(*m_decoder, progress);
+    // Who is told of the progress may set another source.
+    const std::shared_ptr<const MediaInfo> media = m_media;
+    const int stream = m_stream;
+    const std::unique_ptr<AudioDecoder> decoder = std::move(m_decoder);
+    const std::optional<WavePyramid> pyramid = WavePyramid::Read(*decoder, progress);
     if (!pyramid)
-        return Refuse(E_FAIL, NLEReason_FileUnsupported, m_media->path);
-    return Waves().Put(*m_media, m_stream, *pyramid) && OpenKept() ? S_OK : Refuse(E_FAIL);
+        return Refuse(E_FAIL, NLEReason_FileUnsupported, media->path);
+    const bool isKept = Waves().Put(*media, stream, *pyramid) && (m_media != media || OpenKept());
+    return isKept ? S_OK : Refuse(E_FAIL);
 }
 
 std::vector<WavePeak> WaveExtractor::KeptPeaks(std::int64_t firstSample, std::int64_t sampleCount,

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Com/WideText.h"
 #include "NLECore/render/ColorEffects_p.h"
 
 #include "NLECore/media/CubeTable.h"
@@ -193,7 +194,7 @@ constexpr std::array<const char*, 3> kCurveNames = {"red", "green", "blue"};
 
 bool IsCurve(const std::wstring& text)
 {
-    return ToneCurve::Parse(QString::fromStdWString(text)).has_value();
+    return ToneCurve::Parse(FromWide(text)).has_value();
 }
 
 RowEffect Curves(const ParametersAt& values, const EffectFrame& /*frame*/)
@@ -232,7 +233,7 @@ MltTexts MltCurves(const ParametersAt& values, const QPointF& /*scale*/)
 
 bool IsCubeFile(const std::wstring& path)
 {
-    return CubeTable::Open(QString::fromStdWString(path)) != nullptr;
+    return CubeTable::Open(FromWide(path)) != nullptr;
 }
 
 RowEffect Lookup(const ParametersAt& values, const EffectFrame& /*frame*/)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/scene/LayerKey.h"
 
+#include "Com/WideText.h"
 #include "NLECore/scene/FieldKeys.h"
 #include "NLECore/scene/SourceChoice.h"
 #include "NLECore/scene/Title.h"
@@ -76,7 +77,7 @@ void LayerKeys::AddParameters(ContentHash& hash, const ParameterValues& values)
     hash.Add(QString::fromLatin1(values.Declared().names.name));
     int index = 0;
     for (const ParameterRow& row : values.Declared().parameters) {
-        const QString text = QString::fromStdWString(values.Text(index));
+        const QString text = FromWide(values.Text(index));
         const bool isAnimated = !values.Keys(index).empty();
         hash.Add(isAnimated).Add(isAnimated ? 0 : values.Number(index)).Add(text);
         if (row.kind == NLEParameter_File && !text.isEmpty())

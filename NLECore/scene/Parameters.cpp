@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NLECore/scene/Parameters.h"
 
+#include "Com/WideText.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -260,7 +262,7 @@ double ParametersAt::Number(const char* name) const
 
 QString ParametersAt::Text(const char* name) const
 {
-    return QString::fromStdWString(m_values.Text(IndexOf(name)));
+    return FromWide(m_values.Text(IndexOf(name)));
 }
 
 int ParametersAt::IndexOf(const char* name) const

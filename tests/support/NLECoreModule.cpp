@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Com/ClassFactory.h"
 #include "tests/support/ScriptedEngine.h"
 
-#include <QtGlobal>
-
-extern "C" Q_DECL_EXPORT HRESULT DllGetClassObject(REFCLSID classId, REFIID iid, void** out)
+COM_MODULE_ENTRY HRESULT DllGetClassObject(REFCLSID classId, REFIID iid, void** out)
 {
     return Scripted::GetClassObject(classId, iid, out);
 }

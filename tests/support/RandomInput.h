@@ -85,6 +85,7 @@ private:
             EndLoop();
         else if (--m_left >= 0)
             Do();
+        m_pairs.Follow(); // what was made now may start at an event of the system
         --m_depth;
     }
     void EndLoop()
@@ -174,6 +175,7 @@ private:
         if (!window)
             return;
         const QPoint place = Place(*target);
+        m_pairs.Follow();                            // what an event before it has brought
         m_time += 1000;                              // no double click by chance
         QCursor::setPos(window->mapToGlobal(place)); // what is entered and left
         qt_handleMouseEvent(window, place, window->mapToGlobal(place), m_buttons, button, type,
@@ -209,6 +211,7 @@ private:
             const QPoint place = target->mapTo(target->window(), target->rect().center());
             m_time += click == 0 ? 1000 : 10;
             for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                m_pairs.Follow();
                 if (target && target->isVisible() && target->window()->windowHandle() == window)
                     qt_handleMouseEvent(window, place, window->mapToGlobal(place),
                                         type == QEvent::MouseButtonPress ? Qt::LeftButton
@@ -248,6 +251,7 @@ private:
         const QString text =
             key < 0x80 && !(modifiers & Qt::ControlModifier) ? QString(QChar(key)) : QString();
         for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            m_pairs.Follow();
             // A shortcut may end the window that has the focus.
             QWindow* window = QGuiApplication::focusWindow();
             if (!window ||

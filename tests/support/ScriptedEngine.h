@@ -136,7 +136,7 @@ inline QString Text(const NLEKeyFrameRecord& r)
     QString field;                                                                                 \
     HRESULT Get##Name(wchar_t* buffer, int capacity) override                                      \
     {                                                                                              \
-        return Write("Get" #Name, field, buffer, capacity);                                        \
+        return WriteText("Get" #Name, field, buffer, capacity);                                    \
     }
 
 /// Declares an operation that delivers the script's object.
@@ -196,7 +196,7 @@ protected:
         return *out ? status : E_FAIL;
     }
     /// As Call(); on success writes \a text with its terminating zero, cut to \a capacity.
-    HRESULT Write(const char* operation, const QString& text, wchar_t* buffer, int capacity)
+    HRESULT WriteText(const char* operation, const QString& text, wchar_t* buffer, int capacity)
     {
         const HRESULT status = Call(operation, capacity);
         if (SUCCEEDED(status) && capacity > 0)

@@ -26,7 +26,7 @@ struct FontLibrary : Object<INLEFontLibrary>
     {
         const QString name = names[index];
         if (name.size() < capacity)
-            return Write("GetFontName", name, buffer, capacity);
+            return WriteText("GetFontName", name, buffer, capacity);
         name.left(capacity).toWCharArray(buffer);
         return Call("GetFontName", capacity);
     }

@@ -34,7 +34,7 @@ struct Properties : Object<INLEProperties>
     HRESULT GetString(const wchar_t* key, wchar_t* buffer, int capacity) override
     {
         const auto found = strings.constFind(Text(key));
-        return found == strings.cend() ? E_FAIL : Write("GetString", *found, buffer, capacity);
+        return found == strings.cend() ? E_FAIL : WriteText("GetString", *found, buffer, capacity);
     }
     HRESULT SetString(const wchar_t* key, const wchar_t* value) override
     {

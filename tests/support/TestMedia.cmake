@@ -8,7 +8,7 @@ target_include_directories(TestSupportMedia PUBLIC ${CMAKE_CURRENT_LIST_DIR})
 target_link_libraries(TestSupportMedia PUBLIC Qt${COMMONLIB_QT}::Core Qt${COMMONLIB_QT}::Gui PRIVATE ProjectSettings)
 # In Wine the machine's own programs make them.
 if(WIN32 AND CMAKE_CROSSCOMPILING)
-  foreach(program IN ITEMS ffmpeg melt)
+  foreach(program IN ITEMS ffmpeg heif-enc melt)
     add_executable(Outside_${program} ${CMAKE_CURRENT_LIST_DIR}/OutsideProgram_win.cpp)
     set_target_properties(Outside_${program} PROPERTIES OUTPUT_NAME ${program})
     target_link_libraries(Outside_${program} PRIVATE ProjectSettings)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Bin/BinEntries.h"
 
+#include "Com/WideText.h"
 #include "Host/Editor/Model/Engine.h"
 
 #include <QDir>
@@ -25,7 +26,7 @@ QString ReadText(INLEProperties& bag)
         std::vector<wchar_t> buffer(std::size_t(capacity), L'\0');
         if (FAILED(bag.GetString(kKey, buffer.data(), capacity)))
             return {};
-        QString text = QString::fromWCharArray(buffer.data());
+        QString text = FromWide(buffer.data());
         if (int(wcslen(buffer.data())) < capacity - 1)
             return text;
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Host/Editor/Bin/ProxyJobs.h"
 
+#include "Com/WideText.h"
 #include "EngineApi/INLEFactory.h"
 #include "Host/Editor/Model/Engine.h"
 #include "Host/Editor/Model/Reasons.h"
@@ -44,7 +45,7 @@ void ProxyJobs::Cancel(const QString& file)
 void ProxyJobs::Tell(const wchar_t* file, HRESULT state, int percent, void* userData)
 {
     auto* self = static_cast<ProxyJobs*>(userData);
-    const QString path = QString::fromWCharArray(file);
+    const QString path = FromWide(file);
     if (state == S_FALSE) {
         QMetaObject::invokeMethod(self, [self, path, percent] {
             self->m_percents[path] = percent;
@@ -63,5 +64,5 @@ void ProxyJobs::TakeEnd(const QString& file, HRESULT state, const QString& reaso
     std::array<wchar_t, 4096> proxy{};
     const bool isFound = SUCCEEDED(state) && m_maker->Find(file.toStdWString().c_str(),
                                                            proxy.data(), int(proxy.size())) == S_OK;
-    Q_EMIT Ended(file, isFound ? QString::fromWCharArray(proxy.data()) : QString(), reason);
+    Q_EMIT Ended(file, isFound ? FromWide(proxy) : QString(), reason);
 }

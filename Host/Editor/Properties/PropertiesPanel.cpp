@@ -144,11 +144,14 @@ void PropertiesPanel::StartContent()
 {
     m_shown.clear();
     m_unbuilt.clear();
-    if (m_former)
+    if (m_former) {
+        m_content->hide(); // it goes when the event loop comes round
         m_content->deleteLater();
-    else
+    } else {
         m_former = m_content;
+    }
     m_content = new QWidget(m_scroll->widget());
+    m_content->hide(); // until it is whole: a layout shows what was not hidden by name
     m_scroll->widget()->layout()->addWidget(m_content);
     m_column = new QVBoxLayout(m_content);
     m_column->setContentsMargins(kMargin / 2, 0, kMargin / 2, kMargin);

@@ -105,6 +105,11 @@ EditorWindow::EditorWindow(const Paths& paths)
 
 EditorWindow::~EditorWindow()
 {
+    // Nobody is to see it wait for a preview that renders. That handles events, for which all must
+    // still be there.
+    hide();
+    if (NLETimeline* timeline = m_project.Timeline())
+        timeline->GetPreViewRenderHelper()->StopRenderSync();
     m_project.disconnect(this);
     // Panels know the project and the player.
     for (QDockWidget* dock : findChildren<QDockWidget*>())
