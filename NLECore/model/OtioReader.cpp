@@ -265,7 +265,7 @@ NLEComPtr<TimelineNode> OtioReader::MakeRoot(const QJsonObject& root)
     const DocumentFields properties = PropertiesOf(root);
     if (Schema(root) == QLatin1String("Clip")) {
         NLEComPtr<TimelineNode> node = MakeItem(root);
-        const std::int64_t length = std::llround(SpanOf(root).duration * Fps());
+        const std::int64_t length = std::llround(DurationOf(root) * Fps());
         if (!properties.contains(kKind) && length > 0)
             DocumentNodes::Place(*node, properties, {0, RangeOf(root, *node, false, length)}, 0);
         return node;
@@ -416,7 +416,7 @@ void OtioReader::ReadTracks(const QJsonArray& tracks, std::vector<PlacedNode>& c
         if (IsTrack(track) && !isTwin)
             PlaceTrack(track, target);
         else if (!isTwin)
-            PlaceItem(track, 0, SpanOf(track).duration, target);
+            PlaceItem(track, 0, DurationOf(track), target);
     }
 }
 
@@ -424,7 +424,7 @@ void OtioReader::PlaceTrack(const QJsonObject& track, const Target& target)
 {
     // A part of a track is a picture of its own.
     if (!IsPlainTrack(track)) {
-        PlaceItem(track, 0, SpanOf(track).duration, target);
+        PlaceItem(track, 0, DurationOf(track), target);
         return;
     }
     for (const QJsonValue effect : List(track, "effects"))
@@ -459,7 +459,7 @@ void OtioReader::ReadTrack(const QJsonObject& track, Target target)
             transition = item;
             continue;
         }
-        const double end = std::min(position + SpanOf(item).duration, kLongest);
+        const double end = std::min(position + DurationOf(item), kLongest);
         if (Schema(item) == QLatin1String("Gap")) {
             keep(transition, kTransitionAfter, last);
             last = nullptr;
@@ -539,40 +539,47 @@ void OtioReader::PlaceItem(const QJsonObject& item, double position, double end,
     target.clips.push_back({node, order, target.level});
 }
 
-OtioReader::Span OtioReader::SpanOf(const QJsonObject& item) const
+double OtioReader::DurationOf(const QJsonObject& item) const
 {
     const QJsonObject reference = ReferenceOf(item);
-    const QJsonObject available = Child(reference, "available_range");
     const QJsonObject own = Child(item, "source_range");
-    const QJsonObject& range = own.isEmpty() ? available : own;
-    const double start = Seconds(Child(range, "start_time")).value_or(0);
-    const double mediaStart = Seconds(Child(available, "start_time")).value_or(0);
-    Span span;
-    span.start = start - mediaStart;
-    span.duration = std::max(0.0, Seconds(Child(range, "duration")).value_or(0));
+    const QJsonObject range = own.isEmpty() ? Child(reference, "available_range") : own;
     if (!range.isEmpty())
-        return span;
+        return std::max(0.0, Seconds(Child(range, "duration")).value_or(0));
     // Neither says a length: that of what the item holds, or of its file.
+    double duration = 0;
     for (const QJsonValue value : List(item, "children")) {
         const QJsonObject child = value.toObject();
-        const double length = IsTransition(child) ? 0 : SpanOf(child).duration;
-        span.duration = IsTrack(item) ? span.duration + length : std::max(span.duration, length);
+        const double length = IsTransition(child) ? 0 : DurationOf(child);
+        duration = IsTrack(item) ? duration + length : std::max(duration, length);
     }
     const QString path = PathOfUrl(Text(reference, "target_url"), m_folder);
     const auto media = path.isEmpty() ? nullptr : m_nodes.MediaOf(path);
     if (media && media->frameCount > 0 && IsRate(media->frameRate))
-        span.duration = media->frameCount / ToDouble(media->frameRate);
-    return span;
+        duration = media->frameCount / ToDouble(media->frameRate);
+    return duration;
+}
+
+double OtioReader::MediaStartOf(const QJsonObject& item, const TimelineNode& node)
+{
+    const QJsonObject available = Child(ReferenceOf(item), "available_range");
+    return available.isEmpty() ? MediaStart(node)
+                               : Seconds(Child(available, "start_time")).value_or(0);
+}
+
+double OtioReader::StartOf(const QJsonObject& item, const TimelineNode& node)
+{
+    const QJsonObject range = Child(item, "source_range");
+    if (range.isEmpty())
+        return 0;
+    return Seconds(Child(range, "start_time")).value_or(0) - MediaStartOf(item, node);
 }
 
 NLERange OtioReader::RangeOf(const QJsonObject& item, const TimelineNode& node, bool isOwn,
                              std::int64_t length) const
 {
     const double speed = node.PlaysMaterial() ? node.Speed() : 1;
-    double start = SpanOf(item).start;
-    if (isOwn && Child(ReferenceOf(item), "available_range").isEmpty())
-        start -= MediaStart(node);
-    double in = std::round(start * Fps() / speed); // once: parts that are rounded creep
+    double in = std::round(StartOf(item, node) * Fps() / speed);
     // The start of a frozen clip is the frame that shows.
     if (node.IsFrozen())
         in = isOwn ? VisiblePart(node).range.in : 0;
@@ -591,7 +598,7 @@ void OtioReader::TakeEffects(const QJsonObject& item, bool isOwn, TimelineNode& 
         const bool isWarp = schema == QLatin1String("LinearTimeWarp");
         const bool isFreeze = schema == QLatin1String("FreezeFrame") || (isWarp && scalar == 0);
         if (isFreeze && node.PlaysMaterial())
-            frozen = ClampToInt(std::round(SpanOf(item).start * Fps()));
+            frozen = ClampToInt(std::round(StartOf(item, node) * Fps()));
         else if (isWarp && node.PlaysMaterial())
             speed *= scalar;
         else
@@ -622,10 +629,7 @@ void OtioReader::KeepTexts(const QJsonObject& item, bool isOwn, TimelineNode& no
 void OtioReader::TakeMarkers(const QJsonObject& item, bool isOwn, TimelineNode& node)
 {
     const QJsonArray markers = MarkersIn(item);
-    const QJsonObject available = Child(ReferenceOf(item), "available_range");
-    const double start = available.isEmpty() ? MediaStart(node)
-                                             : Seconds(Child(available, "start_time")).value_or(0);
-    const OtioMarkers format(Fps() / node.Speed(), start);
+    const OtioMarkers format(Fps() / node.Speed(), MediaStartOf(item, node));
     MarkerList& own = node.Markers().settings;
     const QJsonArray kept = KeptJson(node, kMarkers).array();
     // The exact ones hold as long as nobody has changed what other programs see.

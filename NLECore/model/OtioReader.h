@@ -27,12 +27,6 @@ public:
     const DocumentRemarks& Remarks() const { return m_nodes.remarks; }
 
 private:
-    /// What an item shows of itself, in seconds.
-    struct Span
-    {
-        double start = 0;
-        double duration = 0;
-    };
     /// Where the items of a track go to.
     struct Target
     {
@@ -71,7 +65,12 @@ private:
     /// Keeps what other programs wrote and the node has no place for.
     void KeepTexts(const QJsonObject& item, bool isOwn, TimelineNode& node);
     void TakeMarkers(const QJsonObject& item, bool isOwn, TimelineNode& node);
-    Span SpanOf(const QJsonObject& item) const;
+    /// How long an item plays, in seconds.
+    double DurationOf(const QJsonObject& item) const;
+    /// Where the time of the item's file begins, in seconds.
+    static double MediaStartOf(const QJsonObject& item, const TimelineNode& node);
+    /// What of its material an item leaves out in front, in seconds.
+    static double StartOf(const QJsonObject& item, const TimelineNode& node);
     NLERange RangeOf(const QJsonObject& item, const TimelineNode& node, bool isOwn,
                      std::int64_t length) const;
     double Fps() const;
