@@ -263,6 +263,11 @@ double MltNumber(const QString& text, double preset)
     return IsFinite(number) ? number : preset;
 }
 
+int MltInt(const QString& text, int preset)
+{
+    return ClampToInt(MltNumber(text, preset));
+}
+
 std::int64_t MltFrames(const QString& text, const NLERational& rate, std::int64_t preset)
 {
     static const QRegularExpression separator(QStringLiteral("[:;]"));

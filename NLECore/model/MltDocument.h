@@ -73,5 +73,7 @@ std::int64_t MltFrames(const QString& text, const NLERational& rate, std::int64_
 
 /// A number with the decimal sign of any locale; \a preset when the text begins with none.
 double MltNumber(const QString& text, double preset);
+/// The same without its fraction, at most as far from zero as an int can be.
+int MltInt(const QString& text, int preset);
 
 } // namespace nle

@@ -248,14 +248,15 @@ NLEComPtr<TimelineNode> MltReader::Read()
 
 int MltReader::Unwrapped(int root) const
 {
-    while (root >= 0) {
+    const auto isTractor = [this](int index) {
+        return index >= 0 && m_document.services[size_t(index)].element == QLatin1String("tractor");
+    };
+    while (isTractor(root)) {
         const MltService& service = m_document.services[size_t(root)];
-        const bool isOne = service.element == QLatin1String("tractor") && !service.IsOwn() &&
-                           service.items.size() == 1 && service.filters.empty() &&
-                           Frames(service.items.front().in, 0) == 0;
-        if (!isOne || m_document.services[size_t(service.items.front().service)].element !=
-                          QLatin1String("tractor"))
-            return root;
+        const bool isOne = !service.IsOwn() && service.items.size() == 1 &&
+                           service.filters.empty() && Frames(service.items.front().in, 0) == 0;
+        if (!isOne || !isTractor(service.items.front().service))
+            break;
         root = service.items.front().service;
     }
     return root;
@@ -450,7 +451,8 @@ NLEComPtr<TimelineNode> MltReader::MakeComposite(const MltService& service, bool
 {
     NLEComPtr<CompositeNode> node = m_nodes.MakeComposite(service.properties, isRoot);
     std::vector<PlacedNode> clips;
-    if (service.element == QLatin1String("playlist")) {
+    const bool isPlaylist = service.element == QLatin1String("playlist");
+    if (isPlaylist) {
         ReadPlaylist(service, {clips, 0, 0, {}});
     } else {
         for (size_t i = 0; i < service.items.size(); ++i) {
@@ -462,7 +464,7 @@ NLEComPtr<TimelineNode> MltReader::MakeComposite(const MltService& service, bool
     }
     TakeTransitions(service, 0, clips);
     m_nodes.Fill(*node, clips, service.properties);
-    if (service.IsOwn())
+    if (service.IsOwn() && !isPlaylist)
         TakeHidden(service, clips, *node);
     if (isRoot)
         TakeFilters(service, nullptr, *node);
@@ -668,8 +670,8 @@ MltReader::Found MltReader::FoundOf(const MltEffect& transition) const
     const DocumentFields& properties = transition.properties;
     return {{ClampToInt(double(Frames(Value(properties, "in"), 0))),
              ClampToInt(double(Frames(Value(properties, "out"), 0)))},
-            int(MltNumber(Value(properties, "a_track"), -1)),
-            int(MltNumber(Value(properties, "b_track"), -1))};
+            MltInt(Value(properties, "a_track"), -1),
+            MltInt(Value(properties, "b_track"), -1)};
 }
 
 NLEComPtr<TimelineNode> MltReader::MakeTransition(const MltEffect& luma, const Found& found,
@@ -705,8 +707,8 @@ NLEComPtr<TimelineNode> MltReader::MakeTransition(const MltEffect& luma, const F
 bool MltReader::TakeTransition(const MltEffect& transition, const PlacedNode* first,
                                const PlacedNode* last)
 {
-    const int upper = int(MltNumber(Value(transition.properties, "b_track"), -1));
-    const int lower = int(MltNumber(Value(transition.properties, "a_track"), -1));
+    const int upper = MltInt(Value(transition.properties, "b_track"), -1);
+    const int lower = MltInt(Value(transition.properties, "a_track"), -1);
     const NLERange range = {ClampToInt(double(Frames(Value(transition.properties, "in"), 0))),
                             ClampToInt(double(Frames(Value(transition.properties, "out"), 0)))};
     const bool isDissolve = IsDissolve(transition);
@@ -726,7 +728,7 @@ bool MltReader::TakeTransition(const MltEffect& transition, const PlacedNode* fi
         return isTaken;
     }
     const int compositing = IsText(transition, "mlt_service", "qtblend")
-                                ? int(MltNumber(Value(transition.properties, "compositing"), 0))
+                                ? MltInt(Value(transition.properties, "compositing"), 0)
                                 : 0;
     const std::optional<BlendMode> mode = MltBlendMode(compositing);
     for (const PlacedNode* clip = first; clip != last; ++clip) {

@@ -105,7 +105,7 @@ MltSource SourceOf(const MltService& producer)
     if (source.service == QLatin1String("timewarp"))
         TakeSpeed(source, properties);
     else if (source.service == QLatin1String("hold"))
-        source.frozen = int(MltNumber(properties.value(QStringLiteral("frame")), 0));
+        source.frozen = MltInt(properties.value(QStringLiteral("frame")), 0);
     if (source.kind == Kind::Color && source.resource.isEmpty())
         source.resource = properties.value(QStringLiteral("colour"));
     if (source.kind == Kind::Text) {
