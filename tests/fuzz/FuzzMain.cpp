@@ -6,6 +6,7 @@
 // gives it the files of the folder, then so many changed copies of them. The seed is printed and
 // gives the same copies again.
 #include "Fuzz.h"
+#include "Tokens.h"
 
 #include <QDir>
 #include <QVector>
@@ -45,7 +46,7 @@ void Change(QByteArray& input, const QByteArray& other, Random& random)
 {
     const int place = Below(random, input.size() + 1);
     const int length = 1 + Below(random, 32);
-    switch (Below(random, 6)) {
+    switch (Below(random, 7)) {
     case 0: // a bit
         if (place < input.size())
             input[place] = char(input[place] ^ (1 << Below(random, 8)));
@@ -62,6 +63,9 @@ void Change(QByteArray& input, const QByteArray& other, Random& random)
         break;
     case 4: // of another one
         input.replace(place, length, other.mid(Below(random, other.size()), length));
+        break;
+    case 5:
+        input = fuzz::ChangeTokens(input, random);
         break;
     default: {
         static const char* const kNumbers[] = {"0", "-1", "2147483648", "1e308", "nan", "0.00001"};
