@@ -270,11 +270,11 @@ int MltInt(const QString& text, int preset)
 
 std::int64_t MltFrames(const QString& text, const NLERational& rate, std::int64_t preset)
 {
+    if (!text.contains(QLatin1Char(':')) && !text.contains(QLatin1Char(';')))
+        return ClampToInt(std::floor(MltNumber(text, double(preset))));
     static const QRegularExpression separator(QStringLiteral("[:;]"));
     QStringList parts = text.trimmed().split(separator);
     const double fps = IsRate(rate) ? ToDouble(rate) : 25;
-    if (parts.size() == 1)
-        return ClampToInt(std::floor(MltNumber(text, double(preset))));
     const auto take = [&parts] { return parts.isEmpty() ? 0.0 : MltNumber(parts.takeLast(), 0); };
     const bool isClock =
         parts.last().contains(QLatin1Char('.')) || parts.last().contains(QLatin1Char(','));

@@ -29,8 +29,8 @@ void CheckDocument(const QByteArray& text, Write write)
 {
     const QDir folder(Folder());
     const NLEComPtr<nle::TimelineNode> node = Reader(text, folder).Read();
-    // Thousands of clips only take their time.
-    constexpr int mostNodes = 1000;
+    // More clips only take more time.
+    constexpr int mostNodes = 200;
     if (!node || CountNodes(*node) > mostNodes)
         return;
     const QByteArray first = write(*node, folder);
