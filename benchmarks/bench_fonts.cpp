@@ -23,11 +23,11 @@ constexpr int kRounds = 15;
 /// Copies of a monospaced face of 340 KB, each under a family of its own.
 bool WriteFonts(const QString& folder)
 {
-    const QByteArray font = TestFonts::Read("/usr/share/fonts/truetype/dejavu/DejaVuSansMono.ttf");
+    const QByteArray font = Contents("/usr/share/fonts/truetype/dejavu/DejaVuSansMono.ttf");
     for (int i = 0; i < kFonts; ++i) {
         const QString name = QString("Bench %1").arg(i, 4, 10, QLatin1Char('0'));
         if (font.isEmpty() ||
-            !TestFonts::Write(folder + '/' + name + ".ttf", TestFonts::Renamed(font, name)))
+            !SetContents(folder + '/' + name + ".ttf", TestFonts::Renamed(font, name)))
             return false;
     }
     return true;

@@ -80,10 +80,10 @@ private Q_SLOTS:
     {
         QVERIFY(QDir().mkpath(m_fonts));
         const QByteArray serif = TestFonts::Serif();
-        QVERIFY(TestFonts::Write(m_fonts + "a.TTF", TestFonts::Renamed(serif, "Caption A")));
-        QVERIFY(TestFonts::Write(m_fonts + "b.otfx", TestFonts::Renamed(serif, "Caption B")));
-        QVERIFY(TestFonts::Write(m_fonts + "c.txt", TestFonts::Renamed(serif, "Caption C")));
-        QVERIFY(TestFonts::Write(m_fonts + "broken.ttf", "no font"));
+        QVERIFY(SetContents(m_fonts + "a.TTF", TestFonts::Renamed(serif, "Caption A")));
+        QVERIFY(SetContents(m_fonts + "b.otfx", TestFonts::Renamed(serif, "Caption B")));
+        QVERIFY(SetContents(m_fonts + "c.txt", TestFonts::Renamed(serif, "Caption C")));
+        QVERIFY(SetContents(m_fonts + "broken.ttf", "no font"));
         const auto library = MakeLibrary({"caption b", "Unknown", "Caption A", "Caption C"});
         // Sorted; Qt's spelling where it has the font.
         const QStringList expected = {"Caption A=Caption A", "Caption C=Caption C",

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/CBSUrlReader.h"
+#include "tests/support/Files.h"
 
 #include <QCoreApplication>
 #include <QLibrary>
@@ -25,11 +26,7 @@ private:
     {
         return module.isEmpty() || QFile::copy(module, m_module);
     }
-    bool Write(const QByteArray& content) const
-    {
-        QFile file(m_file);
-        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-    }
+    bool Write(const QByteArray& content) const { return SetContents(m_file, content); }
 
 private Q_SLOTS:
     void init() { cleanup(); }

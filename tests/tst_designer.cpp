@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/Files.h"
 #include "ui_widgets.h"
 
 #include <QtTest>
@@ -38,8 +39,7 @@ std::unique_ptr<QWidget> Loaded(const QByteArray& form)
 
 QByteArray Form()
 {
-    QFile file(DESIGNER_FORM);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return Contents(DESIGNER_FORM);
 }
 
 // All that a form may set, of every widget in it, by name.

@@ -12,6 +12,7 @@
 #include "Host/Import/ImportDialog.h"
 #include "Host/Widgets/MediaPlayer.h"
 #include "tests/support/EngineFixture.h"
+#include "tests/support/Files.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
@@ -86,12 +87,7 @@ class tst_EditorBin : public QObject, private EngineFixture
     Q_OBJECT
 
     QString Media(const QString& name) const { return folder.filePath("media/" + name); }
-    static bool Touch(const QString& path)
-    {
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        return file.open(QIODevice::WriteOnly) && file.write("no media") > 0;
-    }
+    static bool Touch(const QString& path) { return SetContents(path, "no media"); }
     static bool UsesProxy(const Node& clip)
     {
         bool isEnabled = false;

@@ -3,6 +3,7 @@
 #include "Host/Editor/Model/Project.h"
 #include "Host/Editor/Model/Selection.h"
 #include "tests/support/EngineFixture.h"
+#include "tests/support/Files.h"
 
 #include <QSignalSpy>
 #include <QUndoStack>
@@ -326,9 +327,7 @@ private Q_SLOTS:
         QFETCH(bool, saves);
         QFETCH(QString, name);
         QFETCH(QString, reason);
-        QFile text(m_engine->Path("text.mlt"));
-        QVERIFY(text.open(QIODevice::WriteOnly) && text.write("text") > 0);
-        text.close();
+        QVERIFY(SetContents(m_engine->Path("text.mlt"), "text"));
         Script script(*m_engine);
         script.Run("pw");
         const QString path = m_engine->folder.filePath(name);

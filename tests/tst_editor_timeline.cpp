@@ -15,6 +15,7 @@
 #include "Host/Editor/Timeline/TimelineView.h"
 #include "Host/Widgets/MediaPlayer.h"
 #include "tests/support/EngineFixture.h"
+#include "tests/support/Files.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -490,9 +491,7 @@ private Q_SLOTS:
     {
         Editor editor(*m_engine, "a0+10");
         const QString path = m_engine->Path("text.mp4");
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no media") > 0);
-        file.close();
+        QVERIFY(SetContents(path, "no media"));
         QSignalSpy refused(&editor.project, &Project::Refused);
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(MediaFile("clip.mp4", {})), QUrl::fromLocalFile(path)});

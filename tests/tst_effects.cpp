@@ -7,6 +7,7 @@
 #include "NLECore/model/SourceNodes.h"
 #include "NLECore/render/ChunkPlan.h"
 #include "NLECore/render/Composer.h"
+#include "tests/support/Files.h"
 #include "tests/support/TestMedia.h"
 
 #include <QTemporaryDir>
@@ -208,11 +209,7 @@ class tst_Effects : public QObject
     }
 
 private slots:
-    void initTestCase()
-    {
-        QFile cube(Path("table.cube"));
-        QVERIFY(cube.open(QIODevice::WriteOnly) && cube.write(CubeText()) > 0);
-    }
+    void initTestCase() { QVERIFY(SetContents(Path("table.cube"), CubeText())); }
 
     void doesWhatItsFilterDoes_data()
     {

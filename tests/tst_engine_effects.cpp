@@ -249,18 +249,16 @@ private slots:
     /// A table of colours is named relative to the document; one that has gone changes nothing.
     void documentsWithTables()
     {
-        QVERIFY(QDir(folder.path()).mkpath("film/tables"));
         QByteArray text = "LUT_3D_SIZE 2\n";
         for (int entry = 0; entry < 8; ++entry)
             text += "0 0.5 1\n";
-        QFile file(Path("film/tables/blue.cube"));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) > 0);
-        file.close();
+        const QString table = Path("film/tables/blue.cube");
+        QVERIFY(SetContents(table, text));
         const Node clip = Colour(Qt::red);
         const Node project = ProjectWith(clip);
-        QCOMPARE(ParametersOf(AddEffect(clip, "lut"))
-                     ->SetText(L"file", file.fileName().toStdWString().c_str()),
-                 S_OK);
+        QCOMPARE(
+            ParametersOf(AddEffect(clip, "lut"))->SetText(L"file", table.toStdWString().c_str()),
+            S_OK);
         QCOMPARE(Frame(project, 0).pixel(9, 9), qRgb(0, 128, 255));
         QVERIFY(Save(project, Path("film/film.mlt")));
         QVERIFY(QFile::rename(Path("film"), Path("moved")));

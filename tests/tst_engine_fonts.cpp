@@ -26,7 +26,7 @@ private:
     QString Path(const char* name) const { return m_engine->Path(name); }
     bool Put(const char* name, const QByteArray& font) const
     {
-        return TestFonts::Write(Path(name), font);
+        return SetContents(Path(name), font);
     }
 
     /// Fonts in files of each kind, one of them twice, and files that are none.
@@ -99,7 +99,7 @@ private Q_SLOTS:
         Restart();
         QCOMPARE(Scan(), S_OK);
         QCOMPARE(Names(), QStringList({"Files B", "Files C1", "Files C2", "Files G"}));
-        QVERIFY(!TestFonts::Read(Path("Cache.xml")).contains("Files A"));
+        QVERIFY(!Contents(Path("Cache.xml")).contains("Files A"));
     }
 
     void nameIsCutToTheBuffer()
@@ -145,14 +145,14 @@ private Q_SLOTS:
         QFETCH(QByteArray, with);
         QVERIFY(Put("a.ttf", TestFonts::Renamed(TestFonts::Serif(), "Cache A")));
         QCOMPARE(Scan(), S_OK);
-        const QByteArray written = TestFonts::Read(Path("Cache.xml"));
+        const QByteArray written = Contents(Path("Cache.xml"));
         QVERIFY(written.contains("Cache A"));
         QVERIFY(Put("Cache.xml", QByteArray(written).replace(replace, with)));
         Restart();
         QCOMPARE(Scan(), S_OK);
         QTEST(Names().join(','), "expected");
         if (QTest::currentDataTag() != QByteArray("a family of another name is believed"))
-            QCOMPARE(TestFonts::Read(Path("Cache.xml")), written);
+            QCOMPARE(Contents(Path("Cache.xml")), written);
     }
 
     void textClipsUseThem()

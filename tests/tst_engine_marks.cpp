@@ -52,8 +52,7 @@ class tst_EngineMarks : public QObject, private EngineFixture
 
     void Write(const QString& name, const QByteArray& content) const
     {
-        QFile file(folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        QVERIFY(SetContents(folder.filePath(name), content));
     }
 
     /// "none" where the engine has no book.

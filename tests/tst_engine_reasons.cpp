@@ -124,8 +124,7 @@ private slots:
         m_factory = Factory();
         QVERIFY(m_factory);
         QCOMPARE(m_factory->GetReasons(m_reasons.put()), S_OK);
-        QFile text(Path("text.txt"));
-        QVERIFY(text.open(QIODevice::WriteOnly) && text.write("no media") > 0);
+        QVERIFY(SetContents(Path("text.txt"), "no media"));
         QVERIFY(QDir(folder.path()).mkdir("folder.mp4"));
         TestClip clip;
         clip.audioCodec = "aac";

@@ -172,9 +172,7 @@ private slots:
         // Every finer bin behind the place, so that one of them is asked for.
         for (int i = place; i < damaged.size() && i < place + 8000; ++i)
             damaged[i] = char(damaged[i] ^ 0x55);
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(damaged) == damaged.size());
-        file.close();
+        QVERIFY(SetContents(path, damaged));
         for (int round = 0; round < 2; ++round) {
             const Envelope after = Read(Open(sound), 0, 10);
             QCOMPARE(after.result, S_OK);

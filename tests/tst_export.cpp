@@ -543,9 +543,7 @@ private slots:
     {
         QTemporaryDir place;
         const QString path = place.filePath("full.mkv");
-        QFile old(path);
-        QVERIFY(old.open(QIODevice::WriteOnly) && old.write("precious") == 8);
-        old.close();
+        QVERIFY(SetContents(path, "precious"));
         const Encoder encoder = provider->CreateMediaEncoder();
         const auto options = encoder.query<INLEEncodeOptions>();
         QCOMPARE(options->SetOptions(Options({"VideoCodec=ffv1"}).get()), S_OK);

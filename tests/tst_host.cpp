@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/Files.h"
 #include "tests/support/TestMedia.h"
 
 #include <QCoreApplication>
@@ -33,18 +34,6 @@ Run RunHost(const QStringList& arguments, const QString& program = HostProgram()
     const bool ended =
         process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit;
     return {ended ? process.exitCode() : -1, QString::fromLocal8Bit(process.readAll())};
-}
-
-bool WriteFile(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
-
-QByteArray ReadFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace
@@ -100,8 +89,8 @@ private slots:
     void unusableFilesAreExplained()
     {
         QVERIFY(QDir().mkpath(path("folder.mp4")));
-        QVERIFY(WriteFile(path("empty.mp4"), {}));
-        QVERIFY(WriteFile(path("text.mp4"), "No movie.\n"));
+        QVERIFY(SetContents(path("empty.mp4"), {}));
+        QVERIFY(SetContents(path("text.mp4"), "No movie.\n"));
         QVERIFY(QDir().mkpath(m_output));
         QString logs = m_output;
         if (QFile::link(m_output, path("link")) && QFileInfo(path("link")).isDir())
@@ -116,7 +105,7 @@ private slots:
             QVERIFY2(run.text.contains(line), line);
         QVERIFY(!QFile::exists("/dev/zero") || run.text.contains("zero: is not a regular file"));
         QCOMPARE(QDir(m_output).entryList({"*.png"}), QStringList());
-        const QByteArray log = ReadFile(m_output + "/CommonLibDemo.log");
+        const QByteArray log = Contents(m_output + "/CommonLibDemo.log");
         QVERIFY(log.contains("empty.mp4: is empty"));
         QVERIFY(log.contains("]:  end - ["));
     }
@@ -132,21 +121,21 @@ private slots:
             picture.fill(colors[index]);
             QVERIFY(picture.save(media[index]));
         }
-        const QByteArray original = ReadFile(media[0]);
+        const QByteArray original = Contents(media[0]);
         const QString log = path("elsewhere.log");
 
         const Run run = RunHost(QStringList{"--log", log, "--output", m_output} + media);
         QCOMPARE(run.code, 0);
         QVERIFY2(run.text.contains("Still picture, 320 × 200"), qPrintable(run.text));
-        QCOMPARE(ReadFile(media[0]), original);
+        QCOMPARE(Contents(media[0]), original);
         for (int index = 0; index < media.size(); ++index) {
             const QImage page(m_output + QString("/a-%1.png").arg(index + 2));
             QVERIFY(!page.isNull());
             const QColor shown = page.pixelColor(page.rect().center());
             QVERIFY(qAbs(shown.hue() - colors[index].hue()) < 8);
         }
-        QVERIFY(!ReadFile(log).isEmpty());
-        QCOMPARE(ReadFile(m_output + "/CommonLibDemo.log"), ReadFile(log));
+        QVERIFY(!Contents(log).isEmpty());
+        QCOMPARE(Contents(m_output + "/CommonLibDemo.log"), Contents(log));
     }
 
     void filmOfSeveralFiles()

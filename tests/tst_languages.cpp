@@ -190,7 +190,7 @@ private Q_SLOTS:
     void restore()
     {
         QFETCH(QByteArray, content);
-        QVERIFY(TestFonts::Write(m_ini, content));
+        QVERIFY(SetContents(m_ini, content));
         Manager()->SetLangLocale();
         QTEST(int(Manager()->GetLangLocale()), "expected");
         QCOMPARE(Manager()->GetLangConstInfo().locale, Manager()->GetLangLocale());
@@ -201,7 +201,7 @@ private Q_SLOTS:
     void choiceReplacesAnyFile()
     {
         QFETCH(QByteArray, content);
-        QVERIFY(TestFonts::Write(m_ini, content));
+        QVERIFY(SetContents(m_ini, content));
         Manager()->SetLangLocale(QString("Sweden"));
         MultiLangMgr::Release();
         Manager()->SetLangLocale();
@@ -211,11 +211,11 @@ private Q_SLOTS:
     void hugeFileStaysUnread()
     {
         const QByteArray content = "[System]\nDefInstallLang=DEU\n" + QByteArray(1 << 20, ' ');
-        QVERIFY(TestFonts::Write(m_ini, content));
+        QVERIFY(SetContents(m_ini, content));
         Manager()->SetLangLocale();
         QCOMPARE(Manager()->GetSimpleName1(), QString("ENG"));
         Manager()->SetLangLocale(Language_Swedish);
-        QCOMPARE(TestFonts::Read(m_ini), content);
+        QCOMPARE(Contents(m_ini), content);
     }
 
     void missingFileIsCreated()
@@ -224,7 +224,7 @@ private Q_SLOTS:
         QCOMPARE(Manager()->GetSimpleName1(), QString());
         Manager()->SetLangLocale();
         // with the line ends of the system
-        QCOMPARE(TestFonts::Read(m_ini).replace("\r\n", "\n"),
+        QCOMPARE(Contents(m_ini).replace("\r\n", "\n"),
                  QByteArray("[System]\nDefInstallLang=ENG\nProductID=\n"));
         QVERIFY(MultiLangMgr::IsCurLanguage_Locale(Language_English));
     }
@@ -300,12 +300,12 @@ private Q_SLOTS:
     void fullDiskKeepsTheFileAndSelects()
     {
         const QByteArray old = "[System]\nDefInstallLang=JPN\nProductID=old\n";
-        QVERIFY(TestFonts::Write(m_ini, old));
+        QVERIFY(SetContents(m_ini, old));
         {
             const FileSizeLimit full(0);
             Manager()->SetLangLocale(Language_German);
         }
-        QCOMPARE(TestFonts::Read(m_ini), old);
+        QCOMPARE(Contents(m_ini), old);
         QCOMPARE(Shown(), QString("deutsch 0"));
     }
 
@@ -338,19 +338,19 @@ private Q_SLOTS:
     {
         QFETCH(QString, variant);
         QVERIFY(Install(variant, "ru/good.qm"));
-        const QByteArray good = TestFonts::Read(m_lang + "ru/good.qm");
+        const QByteArray good = Contents(m_lang + "ru/good.qm");
         QVERIFY(QDir().mkpath(m_lang + "sv/a folder.qm"));
-        QVERIFY(TestFonts::Write(m_lang + "sv/empty.qm", {}));
-        QVERIFY(TestFonts::Write(m_lang + "sv/text.qm", "No translations.\n"));
+        QVERIFY(SetContents(m_lang + "sv/empty.qm", {}));
+        QVERIFY(SetContents(m_lang + "sv/text.qm", "No translations.\n"));
         for (int i = 0; i < good.size(); ++i) {
             const QString name = m_lang + QString("sv/%1.qm").arg(i);
             QByteArray bad = good;
             bad[i] = char(~bad[i]);
-            QVERIFY(TestFonts::Write(name, bad));
-            QVERIFY(TestFonts::Write(name + " cut", good.left(i)));
+            QVERIFY(SetContents(name, bad));
+            QVERIFY(SetContents(name + " cut", good.left(i)));
             bad = good;
             bad.replace(i, 2, QByteArray(2, '\0'));
-            QVERIFY(TestFonts::Write(name + " empty", bad));
+            QVERIFY(SetContents(name + " empty", bad));
         }
         // Depends on itself: Qt would load it for ever.
         QByteArray section;
@@ -358,7 +358,7 @@ private Q_SLOTS:
         stream << QString("self");
         QByteArray self = good + QByteArray("\x96\0\0\0", 4);
         self += char(section.size());
-        QVERIFY(TestFonts::Write(m_lang + "sv/self.qm", self + section));
+        QVERIFY(SetContents(m_lang + "sv/self.qm", self + section));
 
         for (const char* name : {"Sweden", "Russian"}) {
             Manager()->SetLangLocale(QString(name));
@@ -477,7 +477,7 @@ private Q_SLOTS:
             QSKIP("this system has fonts of the lists");
         const QString path = m_folder->filePath("font.ttf");
         for (const char* added : {"Segoe UI", "Malgun Gothic"}) {
-            QVERIFY(TestFonts::Write(path, TestFonts::Renamed(TestFonts::Serif(), added)));
+            QVERIFY(SetContents(path, TestFonts::Renamed(TestFonts::Serif(), added)));
             const int id = QFontDatabase::addApplicationFont(path);
             QCOMPARE(QFontDatabase::applicationFontFamilies(id), QStringList(added));
         }

@@ -135,16 +135,14 @@ private slots:
         QFETCH(int, upper);
         QFETCH(QByteArray, hide);
         QFETCH(int, flags);
-        QVERIFY(Save(Project(0, upper), Path("theirs.mlt")));
-        QFile file(Path("theirs.mlt"));
-        QVERIFY(file.open(QIODevice::ReadWrite));
-        QByteArray text = file.readAll().replace("hide=\"video\"", "");
+        const QString path = Path("theirs.mlt");
+        QVERIFY(Save(Project(0, upper), path));
+        QByteArray text = Contents(path).replace("hide=\"video\"", "");
         const int track = text.lastIndexOf("<track producer=\"playlist");
         QVERIFY(track >= 0);
         text.insert(track + int(qstrlen("<track ")), hide + " ");
-        QVERIFY(file.resize(0) && file.seek(0) && file.write(text) == text.size());
-        file.close();
-        const Node loaded = Load(file.fileName());
+        QVERIFY(SetContents(path, text));
+        const Node loaded = Load(path);
         QCOMPARE(Flags(loaded, 0), 0);
         QCOMPARE(Flags(loaded, 1), flags);
     }

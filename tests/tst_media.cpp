@@ -359,7 +359,7 @@ private slots:
         row("text painted as picture", "art.txt", QByteArray("\x1b[31mred\x1b[0m\n").repeated(200),
             notMedia);
         row("cut before its header", "cut.mp4",
-            ReadAll(whole).left(int(QFileInfo(whole).size() * 2 / 3)), notMedia);
+            Contents(whole).left(int(QFileInfo(whole).size() * 2 / 3)), notMedia);
     }
 
     void refused()
@@ -373,7 +373,7 @@ private slots:
         else if (name == "pipe" && QProcess::execute("mkfifo", {path}) != 0)
             QSKIP("no pipes in the file system here");
         else if (!content.isNull())
-            QVERIFY(Write(path, content));
+            QVERIFY(SetContents(path, content));
         QString error;
         QVERIFY(!ProbeMedia(path, &error));
         QCOMPARE(error, path + reason);
@@ -688,7 +688,8 @@ private slots:
             QCOMPARE(MakeTestClip(Path(name), clip), QString());
             clip.channels = 1;
         }
-        QVERIFY(Write(Path("joined.mp3"), ReadAll(Path("stereo.mp3")) + ReadAll(Path("mono.mp3"))));
+        QVERIFY(SetContents(Path("joined.mp3"),
+                            Contents(Path("stereo.mp3")) + Contents(Path("mono.mp3"))));
         const auto decoder = AudioDecoder::Open(Probe("joined.mp3"), 0, nullptr);
         const int rate = 44100;
         const int count = 4 * rate;

@@ -222,7 +222,8 @@ private slots:
                                 encoder + " -flags +ildct+ilme -top 1"),
                      QString());
             QCOMPARE(MakeMoving("two.ts", kSmall, "", encoder), QString());
-            QVERIFY(Write(Path("joined.ts"), ReadAll(Path("one.ts")) + ReadAll(Path("two.ts"))));
+            QVERIFY(SetContents(Path("joined.ts"),
+                                Contents(Path("one.ts")) + Contents(Path("two.ts"))));
         }
         const auto info = Probe("joined.ts");
         QVERIFY(info);
@@ -245,7 +246,8 @@ private slots:
         QCOMPARE(MakeMoving("second.ts", kSmall, "tinterlace=interleave_top,setfield=tff",
                             encoder + " -flags +ildct+ilme -top 1 -output_ts_offset 1.04"),
                  QString());
-        QVERIFY(Write(Path("both.ts"), ReadAll(Path("first.ts")) + ReadAll(Path("second.ts"))));
+        QVERIFY(
+            SetContents(Path("both.ts"), Contents(Path("first.ts")) + Contents(Path("second.ts"))));
         const auto info = Probe("both.ts");
         QVERIFY(info);
         const auto wanted = Reference("both.ts", "bwdif=send_frame:auto:interlaced");

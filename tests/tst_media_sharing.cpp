@@ -85,8 +85,8 @@ private slots:
         QFETCH(QString, change);
         const QString path = Path("described " + change + ".mp4");
         const QString other = Path("other.mp4");
-        const QByteArray content = ReadAll(Make("to describe.mp4", SmallClip(10))->path);
-        QVERIFY(Write(path, content));
+        const QByteArray content = Contents(Make("to describe.mp4", SmallClip(10))->path);
+        QVERIFY(SetContents(path, content));
         QVERIFY(SetTime(path, 0));
         QTest::qWait(kSettledMs);
         MediaStore store;
@@ -95,11 +95,11 @@ private slots:
         if (change == "time")
             QVERIFY(SetTime(path, 1));
         if (change == "size") {
-            QVERIFY(Write(path, content + content));
+            QVERIFY(SetContents(path, content + content));
             QVERIFY(SetTime(path, 0));
         }
         if (change == "another file") {
-            QVERIFY(Write(other, content));
+            QVERIFY(SetContents(other, content));
             QVERIFY(SetTime(other, 0));
             QVERIFY(QFile::remove(path));
             QVERIFY(QFile::rename(other, path));
@@ -120,7 +120,7 @@ private slots:
         QVERIFY(known);
         QVERIFY(QFile::rename(path, aside));
         QCOMPARE(store.Describe(path).error, path + ": no such file");
-        QVERIFY(Write(path, "no longer media"));
+        QVERIFY(SetContents(path, "no longer media"));
         QVERIFY(!store.Describe(path).info);
         QVERIFY(QFile::remove(path));
         QVERIFY(QFile::rename(aside, path));
@@ -290,7 +290,7 @@ private slots:
     void complaintsOfTheFrameworkGoToTheLog()
     {
         const Info info = Make("threads.mp4", SmallClip(100));
-        QVERIFY(Write(Path("bad.mp4"), ReadAll(info->path).left(3000)));
+        QVERIFY(SetContents(Path("bad.mp4"), Contents(info->path).left(3000)));
         std::atomic<int> logged{0};
         SetMediaLogSink([&logged](const char*) { ++logged; });
         QVERIFY(!ProbeMedia(Path("bad.mp4"), nullptr));

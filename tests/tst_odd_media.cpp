@@ -49,11 +49,11 @@ private Q_SLOTS:
         for (int i = 0; i < lengths.size(); ++i) {
             const TestClip clip = Recording(lengths[i], i == 1 ? secondSize : kThumbnail, bframes);
             QCOMPARE(MakeTestClip(Path("part.ts"), clip), QString());
-            file += ReadAll(Path("part.ts"));
+            file += Contents(Path("part.ts"));
             for (int frame = 0; frame < lengths[i]; ++frame)
                 shown << frame;
         }
-        QVERIFY(Write(Path("joined.ts"), file));
+        QVERIFY(SetContents(Path("joined.ts"), file));
         const Info info = Probe("joined.ts");
         QVERIFY(info);
         QCOMPARE(int(info->frameCount), shown.size());
@@ -74,7 +74,8 @@ private Q_SLOTS:
         silence.toneLevel = 0;
         QCOMPARE(MakeTestClip(Path("silence.ts"), silence), QString());
         QCOMPARE(MakeTestClip(Path("tone.ts"), tone), QString());
-        QVERIFY(Write(Path("both.ts"), ReadAll(Path("silence.ts")) + ReadAll(Path("tone.ts"))));
+        QVERIFY(
+            SetContents(Path("both.ts"), Contents(Path("silence.ts")) + Contents(Path("tone.ts"))));
         const Info info = Probe("both.ts");
         QVERIFY(info);
         const auto sound = AudioDecoder::Open(info, info->audioStream, nullptr);
@@ -108,7 +109,8 @@ private Q_SLOTS:
         second.extra = QStringList{"-output_ts_offset", offset};
         QCOMPARE(MakeTestClip(Path("small.ts"), first), QString());
         QCOMPARE(MakeTestClip(Path("large.ts"), second), QString());
-        QVERIFY(Write(Path("grows.ts"), ReadAll(Path("small.ts")) + ReadAll(Path("large.ts"))));
+        QVERIFY(
+            SetContents(Path("grows.ts"), Contents(Path("small.ts")) + Contents(Path("large.ts"))));
         const Info info = Probe("grows.ts");
         QVERIFY(info);
         QCOMPARE(int(info->frameCount), 100);

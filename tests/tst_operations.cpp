@@ -3,6 +3,7 @@
 #include "CommonLib/PathOperation.h"
 #include "CommonLib/RegexOperation.h"
 #include "CommonLib/StringOperation.h"
+#include "tests/support/Files.h"
 #include "tests/support/FolderLink.h"
 
 #include <QtTest>
@@ -72,13 +73,11 @@ private:
     QString Path(const QString& name) const { return m_folder->filePath(name); }
     void Write(const QString& name, const QByteArray& content) const
     {
-        QFile file(Path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        QVERIFY(SetContents(Path(name), content));
     }
     QByteArray Read(const QString& name) const
     {
-        QFile file(Path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be opened");
+        return QFileInfo::exists(Path(name)) ? Contents(Path(name)) : QByteArray("not there");
     }
 
 private slots:

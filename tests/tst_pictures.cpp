@@ -390,9 +390,9 @@ private Q_SLOTS:
         QCOMPARE(MakePhotograph(Path("turned.jpg"), source, exif), QString());
         // heif-enc overlooks the orientation where its table is not the end of the block: without
         // the four bytes of a next table it is.
-        QByteArray photograph = ReadAll(Path("turned.jpg")).remove(34, 4);
+        QByteArray photograph = Contents(Path("turned.jpg")).remove(34, 4);
         photograph[5] = char(photograph[5] - 4);
-        QVERIFY(Write(Path("turned.jpg"), photograph));
+        QVERIFY(SetContents(Path("turned.jpg"), photograph));
         QCOMPARE(Run("heif-enc", {"-q", "95", "-o", Path("turned.heic"), Path("turned.jpg")}),
                  QString());
         const Info info = Probe("turned.heic");
@@ -442,16 +442,17 @@ private Q_SLOTS:
             const QImage rgb = wide.convertToFormat(QImage::Format_RGB888);
             const QByteArray pixels(reinterpret_cast<const char*>(rgb.constBits()),
                                     int(rgb.sizeInBytes()));
-            QVERIFY(Write(Path(name), Tiff(kSize, pixels, profile)));
+            QVERIFY(SetContents(Path(name), Tiff(kSize, pixels, profile)));
         } else if (name == "p3.jpg") {
             QCOMPARE(RunFfmpeg({"-i", Path("p3.png"), "-q:v", "1", "-qmin", "1", "-update", "1",
                                 Path("plain.jpg")}),
                      QString());
-            QVERIFY(Write(Path(name), JpegWithProfile(ReadAll(Path("plain.jpg")), profile)));
+            QVERIFY(SetContents(Path(name), JpegWithProfile(Contents(Path("plain.jpg")), profile)));
         } else if (name == "p3.webp") {
             QCOMPARE(RunFfmpeg({"-i", Path("p3.png"), "-lossless", "1", Path("plain.webp")}),
                      QString());
-            QVERIFY(Write(Path(name), WithProfile(ReadAll(Path("plain.webp")), kSize, profile)));
+            QVERIFY(
+                SetContents(Path(name), WithProfile(Contents(Path("plain.webp")), kSize, profile)));
         } else if (name == "p3.heic") {
 #ifndef NLECORE_WITH_HEIF
             QSKIP("this build has no libheif");
@@ -482,8 +483,8 @@ private Q_SLOTS:
             pixels += quarters[i / kSize.width() * 2 / kSize.height() * 2 +
                                i % kSize.width() * 2 / kSize.width()];
         const QByteArray profile = InkProfile();
-        QVERIFY(Write(Path(name), name == "inks.tif" ? Tiff(kSize, pixels, profile)
-                                                     : InkJpeg(pixels, profile)));
+        QVERIFY(SetContents(Path(name), name == "inks.tif" ? Tiff(kSize, pixels, profile)
+                                                           : InkJpeg(pixels, profile)));
         QImage wanted(kSize, QImage::Format_RGB32);
         const cmsHPROFILE inks =
             cmsOpenProfileFromMem(profile.constData(), cmsUInt32Number(profile.size()));
@@ -524,7 +525,7 @@ private Q_SLOTS:
         const QString svg = "<?xml version='1.0'?><!-- a comment --><svg "
                             "xmlns='http://www.w3.org/2000/svg' " +
                             root + "><rect width='10000%' height='10000%' fill='#28b446'/></svg>";
-        QVERIFY(Write(Path("drawing.svg"), svg.toUtf8()));
+        QVERIFY(SetContents(Path("drawing.svg"), svg.toUtf8()));
         const Info info = Probe("drawing.svg");
         QVERIFY(info);
         QCOMPARE(info->kind, NLEMedia_Image);
@@ -537,9 +538,9 @@ private Q_SLOTS:
 #ifndef NLECORE_WITH_SVG
         QSKIP(kNoDrawings);
 #endif
-        QVERIFY(Write(Path("sharp.svg"),
-                      "<svg xmlns='http://www.w3.org/2000/svg' width='4' height='4'>"
-                      "<rect width='2' height='4' fill='red'/></svg>"));
+        QVERIFY(SetContents(Path("sharp.svg"),
+                            "<svg xmlns='http://www.w3.org/2000/svg' width='4' height='4'>"
+                            "<rect width='2' height='4' fill='red'/></svg>"));
         const QImage picture = Shown("sharp.svg", QSize(400, 400));
         QCOMPARE(picture.pixel(199, 200), qRgba(255, 0, 0, 255));
         QCOMPARE(qAlpha(picture.pixel(200, 200)), 0);
@@ -571,14 +572,15 @@ private Q_SLOTS:
         red.fill(Qt::red);
         QVERIFY(red.save(Path("red.png")));
         const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='160' height='120'>";
-        QVERIFY(Write(Path("red.svg"),
-                      svg + "<rect id='red' width='160' height='120' fill='red'/></svg>"));
+        QVERIFY(SetContents(Path("red.svg"),
+                            svg + "<rect id='red' width='160' height='120' fill='red'/></svg>"));
         QTcpServer server;
         QVERIFY(server.listen(QHostAddress::LocalHost));
         content.replace("FOLDER", folder.path());
         content.replace("PORT", QString::number(server.serverPort()));
-        QVERIFY(Write(Path("outside.svg"), "<!DOCTYPE svg [<!ENTITY outside SYSTEM 'red.svg'>]>" +
-                                               svg + content.toUtf8() + "</svg>"));
+        QVERIFY(
+            SetContents(Path("outside.svg"), "<!DOCTYPE svg [<!ENTITY outside SYSTEM 'red.svg'>]>" +
+                                                 svg + content.toUtf8() + "</svg>"));
         const QImage picture = Shown("outside.svg", kSize);
         for (int y = 0; y < picture.height(); ++y) {
             for (int x = 0; x < picture.width(); ++x)

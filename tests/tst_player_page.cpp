@@ -6,6 +6,7 @@
 #include "Host/Widgets/LevelMeter.h"
 #include "Host/Widgets/MediaPlayer.h"
 #include "Host/Widgets/PictureView.h"
+#include "tests/support/Files.h"
 #include "tests/support/TestMedia.h"
 
 #include <QLabel>
@@ -57,10 +58,8 @@ private Q_SLOTS:
 
     void refusesWhatIsNoMedia()
     {
-        QFile file(m_folder.filePath("text.mp4"));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no media") > 0);
-        file.close();
-        QVERIFY(!m_page->Open(file.fileName()));
+        QVERIFY(SetContents(m_folder.filePath("text.mp4"), "no media"));
+        QVERIFY(!m_page->Open(m_folder.filePath("text.mp4")));
         QVERIFY(!m_page->Open(m_folder.filePath("missing.mp4")));
         const auto labels = m_page->findChildren<QLabel*>();
         QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {

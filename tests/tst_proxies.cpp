@@ -8,6 +8,7 @@
 #include "NLECore/media/FileClaim.h"
 #include "NLECore/media/WholeFile.h"
 #include "tests/support/EngineFixture.h"
+#include "tests/support/Files.h"
 
 #include <QProcess>
 #include <QSemaphore>
@@ -88,8 +89,7 @@ private slots:
         clip.codec.clear();
         QCOMPARE(MakeTestClip(Path("sound.m4a"), clip), QString());
         QVERIFY(PaintFrameNumber(7, QSize(320, 180)).save(Path("still.png")));
-        QFile text(Path("text.mp4"));
-        QVERIFY(text.open(QIODevice::WriteOnly) && text.write("no film") == 7);
+        QVERIFY(SetContents(Path("text.mp4"), "no film"));
     }
     void cleanupTestCase() { m_engine.reset(); }
 

@@ -91,13 +91,13 @@ class tst_Stepping : public QObject, private MediaFixture
     /// Some bytes amid the pictures are others, or the end is missing.
     static bool Damage(const QString& path, bool cut)
     {
-        QByteArray content = ReadAll(path);
+        QByteArray content = Contents(path);
         if (cut)
-            return Write(path, content.left(content.size() * 2 / 3));
+            return SetContents(path, content.left(content.size() * 2 / 3));
         std::mt19937 generator(9);
         for (int i = 0; i < 30; ++i)
             content[int(content.size() / 4 + generator() % unsigned(content.size() / 2))] = 85;
-        return Write(path, content);
+        return SetContents(path, content);
     }
     static auto Bounded(std::int64_t bytes)
     {

@@ -38,10 +38,8 @@ class tst_SystemConfig : public QObject, private EngineFixture
     }
     HRESULT Load(const QByteArray& content) const
     {
-        QFile file(Path("written.json"));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        if (!SetContents(Path("written.json"), content))
             return E_ABORT;
-        file.close();
         return provider->GetSystemConfig().query<INLESystemFile>()->Load(
             Path("written.json").toStdWString().c_str());
     }

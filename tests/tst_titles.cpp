@@ -206,7 +206,7 @@ private slots:
         const auto factory = EngineFixture::Factory();
         QCOMPARE(factory->GetTimelineFactory(m_factory.put()), S_OK);
         QVERIFY(QDir().mkdir(Path("fonts")));
-        QVERIFY(TestFonts::Write(Path("fonts/boxes.ttf"), TestFonts::Boxes(kBoxes)));
+        QVERIFY(SetContents(Path("fonts/boxes.ttf"), TestFonts::Boxes(kBoxes)));
         NLEComPtr<INLEFontLibrary> library;
         QCOMPARE(factory->GetFontLibrary(library.put()), S_OK);
         QCOMPARE(library->AddFontFolder(Path("fonts").toStdWString().c_str()), S_OK);
@@ -698,7 +698,7 @@ private slots:
         QVERIFY(Save(ProjectWith(Title("Before", {{L"size", 0.3}})), Path("edit.mlt")));
         QByteArray text = Contents(Path("edit.mlt"));
         text.replace("<property name=\"text\">Before<", "<property name=\"text\">After<");
-        QVERIFY(TestFonts::Write(Path("edit.mlt"), text));
+        QVERIFY(SetContents(Path("edit.mlt"), text));
         const Node title = ClipAt(Load(Path("edit.mlt")), 0);
         QCOMPARE(WordsOf(title), QString("After"));
         QCOMPARE(Number(title, L"size"), 0.3);

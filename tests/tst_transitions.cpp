@@ -531,11 +531,7 @@ private slots:
             QCOMPARE(Frame(kept, frame), Frame(pair.project, frame));
 
         // Without what is this engine's own.
-        QFile file(path);
-        QByteArray text = Contents(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(text.replace("\"nle\"", "\"other\""));
-        file.close();
+        QVERIFY(SetContents(path, Contents(path).replace("\"nle\"", "\"other\"")));
         const Node foreign = Load(path);
         QVERIFY(foreign);
         for (const int frame : {10, 25, 30, 45})

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/GlobalUtils.h"
+#include "tests/support/Files.h"
 #include "tests/support/FolderLink.h"
 
 #include <QCryptographicHash>
@@ -35,9 +36,7 @@ const QString kConfiguration = "Corvane Video Editor/Resources/MotionKit";
 
 void Write(const QString& path, const QByteArray& content)
 {
-    QFile file(path);
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly));
-    file.write(content);
+    QVERIFY(SetContents(path, content));
 }
 
 QString Md5(const QByteArray& content)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "Com/AnyQt.h"
 #include "CommonLib/XmlOperation.h"
+#include "tests/support/Files.h"
 
 #include <QFile>
 #include <QRandomGenerator>
@@ -18,14 +19,12 @@ constexpr int kMostLevels = 1000;
 
 void Write(const QString& path, const QByteArray& content)
 {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    QVERIFY(SetContents(path, content));
 }
 
 QString Read(const QString& path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : "cannot be opened";
+    return QFileInfo::exists(path) ? QString::fromUtf8(Contents(path)) : "not there";
 }
 
 // Entities that each name the one before ten times.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CommonLib/QuaZipOperate.h"
+#include "tests/support/Files.h"
 
 #include <JlCompress.h>
 #include <QDir>
@@ -13,17 +14,9 @@
 
 namespace {
 
-bool Write(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
-           file.write(content) == content.size();
-}
-
 QByteArray Read(const QString& path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be opened");
+    return QFileInfo::exists(path) ? Contents(path) : QByteArray("not there");
 }
 
 // Entries as Tree() gives them, with content of the stated size.
@@ -87,9 +80,9 @@ private slots:
     void unpacksWhatWasPacked()
     {
         const QByteArray large(3000000, 'x');
-        QVERIFY(Write(Path("in/a"), large));
-        QVERIFY(Write(Path("in/sub/deep/b"), "b"));
-        QVERIFY(Write(Path("in/\u65e5\u672c"), ""));
+        QVERIFY(SetContents(Path("in/a"), large));
+        QVERIFY(SetContents(Path("in/sub/deep/b"), "b"));
+        QVERIFY(SetContents(Path("in/\u65e5\u672c"), ""));
         QVERIFY(QDir(Path("in")).mkdir("empty"));
         QDir::setCurrent(Path("in"));
         QVERIFY(QuaZipOperate::CompressDir("../a.zip", "."));
@@ -102,8 +95,8 @@ private slots:
 
     void packLeavesFilesBesideTheArchive()
     {
-        QVERIFY(Write(Path("in/a"), "a"));
-        QVERIFY(Write(Path("other/.in.zip.part"), "kept"));
+        QVERIFY(SetContents(Path("in/a"), "a"));
+        QVERIFY(SetContents(Path("other/.in.zip.part"), "kept"));
         QDir::setCurrent(Path("in"));
         QVERIFY(QuaZipOperate::CompressDir("../other/in.zip", "."));
         QCOMPARE(Tree(Path("other")), QStringList({".in.zip.part", "in.zip"}));
@@ -112,7 +105,7 @@ private slots:
 
     void packMakesTheFolderOfTheArchive()
     {
-        QVERIFY(Write(Path("in/a"), "a"));
+        QVERIFY(SetContents(Path("in/a"), "a"));
         QVERIFY(QuaZipOperate::CompressDir(Path("in/new/in.zip"), Path("in")));
         QVERIFY(QFile::exists(Path("in/new/in.zip")));
     }
@@ -120,7 +113,7 @@ private slots:
     void archiveReplacesAndNeverPacksItself()
     {
         const QString archive = QString(251, 'x') + ".zip"; // no longer name is possible
-        QVERIFY(Write(Path("in/a"), "a"));
+        QVERIFY(SetContents(Path("in/a"), "a"));
         QDir::setCurrent(Path("in"));
         QVERIFY(QuaZipOperate::CompressDir(archive, "."));
         QVERIFY(QuaZipOperate::CompressDir(archive, "."));
@@ -129,14 +122,14 @@ private slots:
 
     void packingNothingKeepsTheOldArchive()
     {
-        QVERIFY(Write(Path("old.zip"), "old"));
+        QVERIFY(SetContents(Path("old.zip"), "old"));
         QVERIFY(!QuaZipOperate::CompressDir(Path("old.zip"), Path("missing")));
         QCOMPARE(Read(Path("old.zip")), QByteArray("old"));
     }
 
     void packsNothingBelowAFile()
     {
-        QVERIFY(Write(Path("in/file"), ""));
+        QVERIFY(SetContents(Path("in/file"), ""));
         QVERIFY(!QuaZipOperate::CompressDir(Path("in/file/new.zip"), Path("in")));
     }
 
@@ -157,7 +150,7 @@ private slots:
     {
         QFETCH(QString, command);
         for (const char* name : {"outside", "in/sub/a", "in/file"})
-            QVERIFY(Write(Path(name), ""));
+            QVERIFY(SetContents(Path(name), ""));
         QDir::setCurrent(Path("in"));
         QCOMPARE(QProcess::execute("sh", {"-c", command}), 0);
         QTEST(QuaZipOperate::CompressDir(Path("new.zip"), Path("in")), "isPacked");
@@ -176,7 +169,7 @@ private slots:
     void archiveReachedByLink()
     {
         QFETCH(QString, archive);
-        QVERIFY(Write(Path("in/file"), QByteArray(100000, 'x')));
+        QVERIFY(SetContents(Path("in/file"), QByteArray(100000, 'x')));
         QVERIFY(QDir().mkdir(Path("archives")));
         QVERIFY(QFile::link("in", Path("link")));
         QVERIFY(QFile::link("../archives", Path("in/out")));
@@ -220,7 +213,7 @@ private slots:
     void names()
     {
         QFETCH(QStringList, entries);
-        QVERIFY(Write(Path("outside/kept"), "kept"));
+        QVERIFY(SetContents(Path("outside/kept"), "kept"));
         QVERIFY(QDir().mkpath(Path("out")));
 #ifdef Q_OS_LINUX
         QVERIFY(QFile::link("../outside", Path("out/linked")));
@@ -268,7 +261,7 @@ private slots:
         if (claimedSize > 0)
             ClaimSizes(content, entries.size() - 1, claimedSize);
         content.chop(cut);
-        QVERIFY(Write(Path("a.zip"), content));
+        QVERIFY(SetContents(Path("a.zip"), content));
         QCOMPARE(QuaZipOperate::ExtractDir(Path("a.zip"), Path("out")), QStringList());
         QVERIFY(!QFile::exists(Path("out/b")));
         QCOMPARE(QFile::exists(Path("out")), isBegun);
@@ -276,7 +269,7 @@ private slots:
 
     void undoneWhereAFileTakesTheWayOfAFolder()
     {
-        QVERIFY(Write(Path("out/sub"), "kept"));
+        QVERIFY(SetContents(Path("out/sub"), "kept"));
         MakeArchive(Path("a.zip"), {"first", "sub/file"});
         QCOMPARE(QuaZipOperate::ExtractDir(Path("a.zip"), Path("out")), QStringList());
         QCOMPARE(Tree(Path("out")), QStringList("sub"));

@@ -11,6 +11,7 @@
 #include "EngineApi/INLEReasons.h"
 #include "EngineApi/INLESystemFile.h"
 #include "EngineApi/NLEKey.h"
+#include "tests/support/Files.h"
 #include "tests/support/PreviewCacheFixture.h"
 
 namespace {
@@ -256,10 +257,8 @@ private:
     static QByteArray Clip() { return QByteArray(3000000, 'c'); }
     static void WriteBytes(const QString& path)
     {
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly))
-            file.write(Clip());
+        if (!SetContents(path, Clip()))
+            qWarning("no file to copy");
     }
     /// Notes the clip among what is read of a device.
     static std::int64_t TakeClip(HWND /*window*/, std::uint32_t /*message*/, std::uint64_t code,
@@ -287,10 +286,10 @@ private:
     }
     static Left LookAtImport(const QString& card, const QString& copy)
     {
-        if (QFileInfo::exists(QFileInfo(card).path()) && EngineFixture::Contents(card) != Clip())
+        if (QFileInfo::exists(QFileInfo(card).path()) && Contents(card) != Clip())
             return Left::Broken;
         // What was written of a copy stays.
-        return EngineFixture::Contents(copy) == Clip() ? Left::New : Left::Nothing;
+        return Contents(copy) == Clip() ? Left::New : Left::Nothing;
     }
 
     static void Choose(const QString& path, Language_Locale language)
@@ -315,12 +314,9 @@ private:
     void Pack(const QString& archive) const
     {
         const QString content = In("content");
-        QDir().mkpath(content);
-        for (const char* name : {"a.txt", "b.txt"}) {
-            QFile file(content + '/' + QLatin1String(name));
-            if (file.open(QIODevice::WriteOnly))
-                file.write(QByteArray(100000, name[0]));
-        }
+        for (const char* name : {"a.txt", "b.txt"})
+            if (!SetContents(content + '/' + QLatin1String(name), QByteArray(100000, name[0])))
+                qWarning("no file to pack");
         QuaZipOperate::CompressDir(archive, content);
     }
     static Left LookAtUnpacked(const QString& target)
@@ -328,7 +324,7 @@ private:
         const QDir folder(target);
         const QStringList names = folder.entryList(QDir::Files);
         for (const QString& name : names) {
-            const QByteArray content = EngineFixture::Contents(folder.filePath(name));
+            const QByteArray content = Contents(folder.filePath(name));
             if (content != QByteArray(100000, name.at(0).toLatin1()))
                 return Left::Broken;
         }
@@ -346,7 +342,7 @@ private:
     }
     static Left LookAtLog(const QString& path)
     {
-        const QByteArray content = EngineFixture::Contents(path);
+        const QByteArray content = Contents(path);
         if (content.count("old") != kFrames || content.lastIndexOf("old") > content.size() - 4)
             return Left::Broken;
         return content.count("new") == kFrames ? Left::New : Left::Old;

@@ -14,12 +14,9 @@ public:
     /// Null for what is no document.
     Node Parse(const QByteArray& text) const
     {
-        QFile file(Path(m_name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-            return {};
-        file.close();
         Node node;
-        m_document->Load(file.fileName().toStdWString().c_str(), node.put());
+        if (SetContents(Path(m_name), text))
+            m_document->Load(Path(m_name).toStdWString().c_str(), node.put());
         return node;
     }
     /// Codes of what was left out of the last document, in their order.

@@ -8,6 +8,7 @@
 #include "EngineApi/INLEEffects.h"
 #include "EngineApi/INLELevels.h"
 #include "tests/support/Deviation.h"
+#include "tests/support/Files.h"
 #include "tests/support/TestMedia.h"
 
 #include <QTemporaryDir>
@@ -163,12 +164,6 @@ public:
         NLEComPtr<Facility> facility;
         node->GetInterface(Facility::Iid, facility.putVoid(), 0, 0);
         return facility;
-    }
-
-    static QByteArray Contents(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
     /// Where envelopes of sounds are kept; \a quota in MiB.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "NLECore/media/MediaInfo.h"
+#include "tests/support/Files.h"
 #include "tests/support/TestMedia.h"
 
 #include <QFile>
@@ -22,16 +23,6 @@ public:
         clip.size = kThumbnail;
         clip.frames = frames;
         return clip;
-    }
-    static bool Write(const QString& path, const QByteArray& content)
-    {
-        QFile file(path);
-        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-    }
-    static QByteArray ReadAll(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
     QString Path(const QString& name) const { return folder.filePath(name); }

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "Com/AnyQt.h"
+#include "tests/support/Files.h"
 
 #include <QByteArray>
-#include <QFile>
 #include <QString>
 #include <QVector>
 #include <QtEndian>
@@ -15,22 +15,10 @@
 /// Font files, made from one of the system's or from nothing, under names that no system has.
 namespace TestFonts {
 
-inline QByteArray Read(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-inline bool Write(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-}
-
 /// A serif face, which no fallback looks like.
 inline QByteArray Serif()
 {
-    return Read(QStringLiteral("/usr/share/fonts/truetype/dejavu/DejaVuSerif.ttf"));
+    return Contents(QStringLiteral("/usr/share/fonts/truetype/dejavu/DejaVuSerif.ttf"));
 }
 
 template <typename Number>
