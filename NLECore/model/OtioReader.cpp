@@ -266,7 +266,7 @@ NLEComPtr<TimelineNode> OtioReader::MakeRoot(const QJsonObject& root)
     if (Schema(root) == QLatin1String("Clip")) {
         NLEComPtr<TimelineNode> node = MakeItem(root);
         const std::int64_t length = std::llround(DurationOf(root) * Fps());
-        if (!properties.contains(kKind) && length > 0)
+        if (node && !properties.contains(kKind) && length > 0)
             DocumentNodes::Place(*node, properties, {0, RangeOf(root, *node, false, length)}, 0);
         return node;
     }

@@ -17,9 +17,8 @@ inline int CountNodes(const nle::TimelineNode& node)
     if (!composite)
         return 1;
     const auto& clips = composite->Clips();
-    return std::accumulate(clips.begin(), clips.end(), 1, [](int sum, const auto& clip) {
-        return sum + CountNodes(*clip);
-    });
+    return std::accumulate(clips.begin(), clips.end(), 1,
+                           [](int sum, const auto& clip) { return sum + CountNodes(*clip); });
 }
 
 /// A document that can be read is written, and what was written can be read, and is written alike
