@@ -707,10 +707,7 @@ NLEComPtr<TimelineNode> MltReader::MakeTransition(const MltEffect& luma, const F
 bool MltReader::TakeTransition(const MltEffect& transition, const PlacedNode* first,
                                const PlacedNode* last)
 {
-    const int upper = MltInt(Value(transition.properties, "b_track"), -1);
-    const int lower = MltInt(Value(transition.properties, "a_track"), -1);
-    const NLERange range = {ClampToInt(double(Frames(Value(transition.properties, "in"), 0))),
-                            ClampToInt(double(Frames(Value(transition.properties, "out"), 0)))};
+    const auto [range, lower, upper] = FoundOf(transition);
     const bool isDissolve = IsDissolve(transition);
     if (isDissolve || IsCrossfade(transition)) {
         bool isTaken = false;

@@ -79,7 +79,7 @@ void AddParameterTexts(const ParameterValues& values, const QString& prefix, con
     }
 }
 
-void ReadParameterTexts(const QMap<QString, QString>& properties, const QString& prefix,
+void ReadParameterTexts(const DocumentFields& properties, const QString& prefix,
                         const FindMedia& media, ParameterValues& values)
 {
     const std::vector<double> axis = Numbers(properties.value(prefix + kAxisName));

@@ -13,7 +13,7 @@ void AddParameterTexts(const ParameterValues& values, const QString& prefix, con
 
 /// Sets what \a properties say by names of that prefix; what is missing or makes no sense stays as
 /// it is. \a media, if it is not null, tells where the files are.
-void ReadParameterTexts(const QMap<QString, QString>& properties, const QString& prefix,
+void ReadParameterTexts(const DocumentFields& properties, const QString& prefix,
                         const FindMedia& media, ParameterValues& values);
 
 } // namespace nle

@@ -238,8 +238,7 @@ void ReadField(FromText& text, const Field& field, Settings& settings)
 }
 
 template <typename Settings>
-void ReadSettings(const QMap<QString, QString>& properties, const FindMedia& media,
-                  Settings& settings)
+void ReadSettings(const DocumentFields& properties, const FindMedia& media, Settings& settings)
 {
     const std::vector<QString>& names = PropertyNames<Settings>();
     auto name = names.begin();
@@ -304,7 +303,7 @@ void AddMarkers(const MarkerList& markers, DocumentTexts& texts)
     }
 }
 
-void ReadMarkers(const QMap<QString, QString>& properties, MarkerList& markers)
+void ReadMarkers(const DocumentFields& properties, MarkerList& markers)
 {
     const QString prefix = PropertyNames<NLEMarkerRecord>().front();
     std::map<int, QString> texts;
@@ -322,7 +321,7 @@ void ReadMarkers(const QMap<QString, QString>& properties, MarkerList& markers)
     }
 }
 
-void ReadMixer(const QMap<QString, QString>& properties, MixerSettings& mixer)
+void ReadMixer(const DocumentFields& properties, MixerSettings& mixer)
 {
     const QString prefix = PropertyNames<tagMixerParam>().front();
     for (auto property = properties.begin(); property != properties.end(); ++property) {
@@ -334,7 +333,7 @@ void ReadMixer(const QMap<QString, QString>& properties, MixerSettings& mixer)
     }
 }
 
-void ReadLevels(const QMap<QString, QString>& properties, LevelMap& levels)
+void ReadLevels(const DocumentFields& properties, LevelMap& levels)
 {
     constexpr int numbers = kFieldCount<LevelSettings> - 1;
     const QString prefix = PropertyNames<LevelSettings>().front();
@@ -365,8 +364,7 @@ void AddEffects(const EffectsFacet& effects, const QDir& folder, DocumentTexts& 
     }
 }
 
-void ReadEffects(const QMap<QString, QString>& properties, const FindMedia& media,
-                 EffectsFacet& effects)
+void ReadEffects(const DocumentFields& properties, const FindMedia& media, EffectsFacet& effects)
 {
     QString prefix = kEffectPrefix + QLatin1Char('0');
     for (int number = 0; properties.contains(prefix);
@@ -411,7 +409,7 @@ DocumentTexts SettingsToText(const TimelineNode& node, const QDir& folder)
     return texts;
 }
 
-QStringList MediaInSettings(const QMap<QString, QString>& properties)
+QStringList MediaInSettings(const DocumentFields& properties)
 {
     QStringList names;
     auto name = PropertyNames<VideoSettings>().begin();
@@ -424,8 +422,7 @@ QStringList MediaInSettings(const QMap<QString, QString>& properties)
     return names;
 }
 
-void SettingsFromText(const QMap<QString, QString>& properties, const FindMedia& media,
-                      TimelineNode& node)
+void SettingsFromText(const DocumentFields& properties, const FindMedia& media, TimelineNode& node)
 {
     ReadSettings(properties, media, node.Placement());
     ReadSettings(properties, media, node.Blend().settings);

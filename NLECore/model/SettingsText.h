@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "NLECore/model/DocumentFormat.h"
 #include "NLECore/model/TimelineNode.h"
 
 #include <QDir>
-#include <QMap>
 
 #include <functional>
 #include <utility>
@@ -22,10 +22,9 @@ using FindMedia = std::function<std::shared_ptr<const MediaInfo>(const QString&)
 DocumentTexts SettingsToText(const TimelineNode& node, const QDir& folder);
 
 /// The names of files among \a properties that are settings.
-QStringList MediaInSettings(const QMap<QString, QString>& properties);
+QStringList MediaInSettings(const DocumentFields& properties);
 
 /// Sets what \a properties say; what is missing or makes no sense stays as it is.
-void SettingsFromText(const QMap<QString, QString>& properties, const FindMedia& media,
-                      TimelineNode& node);
+void SettingsFromText(const DocumentFields& properties, const FindMedia& media, TimelineNode& node);
 
 } // namespace nle
